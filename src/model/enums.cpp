@@ -1,0 +1,3 @@
+#include "model/enums.h"
+
+#include "moc_enums.cpp"

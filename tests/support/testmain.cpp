@@ -1,0 +1,14 @@
+#include "support/testmain.h"
+
+#include <QApplication>
+#include <QTemporaryDir>
+#include <QTest>
+
+int runTest(QObject &test, int argc, char **argv)
+{
+    const QTemporaryDir home;
+    qputenv("HOME", home.path().toLocal8Bit());
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    return QTest::qExec(&test, argc, argv);
+}
