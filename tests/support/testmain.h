@@ -7,9 +7,9 @@ class QObject;
 int runTest(QObject &test, int argc, char **argv);
 
 /// The main function of a test program whose only test class is Class.
-#define QUENMORA_TEST_MAIN(Class)        \
-    int main(int argc, char **argv)      \
-    {                                    \
-        Class test;                      \
-        return runTest(test, argc, argv); \
+#define QUENMORA_TEST_MAIN(Class)                                                                                      \
+    int main(int argc, char **argv)                                                                                    \
+    {                                                                                                                  \
+        Class test;                                                                                                    \
+        return runTest(test, argc, argv);                                                                              \
     }

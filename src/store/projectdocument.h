@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QByteArray>
+#include <QMap>
+#include <QString>
+
+#include <functional>
+
+class Project;
+
+/// The members of a project file by name, in the order in which they are written.
+using ProjectMembers = QMap<QString, QByteArray>;
+
+/// Gives the bytes of a member of a project file, and no bytes for a member that is not there.
+using MemberReader = std::function<QByteArray(const QString &memberName)>;
+
+/// Everything that a project file holds: the document "project.json", a PNG for each tile set,
+/// sprite bank and image and for the scratch image, and the cells of each map.
+///
+/// The list of open documents, which is no part of the project's content, is left out on request.
+[[nodiscard]] ProjectMembers serializeProject(const Project &project, bool includeOpenDocuments);
+
+/// Fills an empty project from the members of a project file.
+///
+/// The members may hold anything: a value that is missing or unusable takes its default, and what no
+/// default can replace ends the reading with false and a message for the user in error. The project is
+/// then half read and only fit to be destroyed.
+[[nodiscard]] bool readProject(Project &project, const MemberReader &read, QString &error);

@@ -1,0 +1,183 @@
+#include "store/zipfile.h"
+
+#include <QDateTime>
+#include <QFileInfo>
+#include <QHash>
+
+#include <minizip/unzip.h>
+#include <minizip/zip.h>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int BestCompression = 9;
+constexpr int MaxNameLength = 65535; // the length field has 16 bits
+
+/// minizip takes and counts bytes in 32-bit integers: larger buffers go through in slices.
+constexpr qint64 SliceSize = qint64(1) << 30;
+
+/// Deflate cannot pack tighter than this many bytes into one; the slack covers the empty block.
+constexpr qint64 MaxDeflateRatio = 1032;
+constexpr qint64 DeflateSlack = 64;
+
+/// From this size on, the sizes of a member may not fit the 32-bit fields of a plain local header;
+/// it lies below 2^32 because deflate can make incompressible data a little longer.
+constexpr qint64 Zip64Threshold = qint64(0xFF000000);
+
+using MemberIndex = QHash<QByteArray, unz64_file_pos>;
+
+/// Where each member is, read once, because minizip looks a name up by going through all of them.
+/// Of members with equal names the first one counts; a damaged directory is read as far as it goes.
+MemberIndex indexOf(unzFile reader)
+{
+    MemberIndex index;
+    QByteArray name(MaxNameLength, Qt::Uninitialized);
+    for (int status = unzGoToFirstFile(reader); status == UNZ_OK; status = unzGoToNextFile(reader)) {
+        unz_file_info64 info{};
+        unz64_file_pos position{};
+        if (unzGetCurrentFileInfo64(reader, &info, name.data(), MaxNameLength, nullptr, 0, nullptr, 0) != UNZ_OK
+            || unzGetFilePos64(reader, &position) != UNZ_OK)
+            break;
+        const QByteArray key = name.first(qsizetype(info.size_filename));
+        if (!index.contains(key))
+            index.insert(key, position);
+    }
+    return index;
+}
+
+/// Whether the current member can be as long as the directory says, its packed bytes being given.
+bool hasPlausibleSize(const unz_file_info64 &info)
+{
+    if (info.uncompressed_size > quint64(ZipFile::MaxMemberSize)
+        || info.compressed_size > quint64(ZipFile::MaxMemberSize) + DeflateSlack)
+        return false;
+    const qint64 ratio = info.compression_method == Z_DEFLATED ? MaxDeflateRatio : 1;
+    return qint64(info.uncompressed_size) <= qint64(info.compressed_size) * ratio + DeflateSlack;
+}
+
+/// Unpacks the current member, which is open, into all of bytes.
+bool unpack(unzFile reader, QByteArray &bytes)
+{
+    for (qint64 done = 0; done < bytes.size();) {
+        const auto slice = unsigned(std::min(bytes.size() - done, SliceSize));
+        const int count = unzReadCurrentFile(reader, bytes.data() + done, slice);
+        if (count <= 0)
+            return false;
+        done += count;
+    }
+    return true;
+}
+
+bool pack(zipFile writer, const QByteArray &bytes)
+{
+    for (qint64 done = 0; done < bytes.size();) {
+        const auto slice = unsigned(std::min(bytes.size() - done, SliceSize));
+        if (zipWriteInFileInZip(writer, bytes.constData() + done, slice) != ZIP_OK)
+            return false;
+        done += slice;
+    }
+    return true;
+}
+
+zip_fileinfo writtenNow()
+{
+    const QDateTime now = QDateTime::currentDateTime();
+    zip_fileinfo info{};
+    info.tmz_date.tm_sec = now.time().second();
+    info.tmz_date.tm_min = now.time().minute();
+    info.tmz_date.tm_hour = now.time().hour();
+    info.tmz_date.tm_mday = now.date().day();
+    info.tmz_date.tm_mon = now.date().month() - 1;
+    info.tmz_date.tm_year = now.date().year();
+    return info;
+}
+
+} // namespace
+
+/// The open archive: one of the two handles is set.
+struct ZipFile::Archive
+{
+    unzFile reader = nullptr;
+    zipFile writer = nullptr;
+    MemberIndex members;
+    qint64 fileSize = 0;
+};
+
+ZipFile::ZipFile() = default;
+
+ZipFile::~ZipFile()
+{
+    close();
+}
+
+bool ZipFile::openForReading(const QString &fileName)
+{
+    close();
+    const QFileInfo file(fileName);
+    if (!file.isFile()) // a pipe would block, and a folder can be opened but not read
+        return false;
+    const unzFile reader = unzOpen64(fileName.toLocal8Bit().constData());
+    if (!reader)
+        return false;
+    m_archive.reset(new Archive{reader, nullptr, indexOf(reader), file.size()});
+    return true;
+}
+
+bool ZipFile::openForWriting(const QString &fileName)
+{
+    close();
+    const zipFile writer = zipOpen64(fileName.toLocal8Bit().constData(), APPEND_STATUS_CREATE);
+    if (!writer)
+        return false;
+    m_archive.reset(new Archive{nullptr, writer, {}, 0});
+    return true;
+}
+
+bool ZipFile::contains(const QString &memberName) const
+{
+    return m_archive && m_archive->members.contains(memberName.toLocal8Bit());
+}
+
+QByteArray ZipFile::read(const QString &memberName) const
+{
+    if (!m_archive)
+        return {};
+    const unzFile reader = m_archive->reader;
+    const auto member = m_archive->members.constFind(memberName.toLocal8Bit());
+    if (member == m_archive->members.cend())
+        return {};
+    unz_file_info64 info{};
+    if (unzGoToFilePos64(reader, &*member) != UNZ_OK
+        || unzGetCurrentFileInfo64(reader, &info, nullptr, 0, nullptr, 0, nullptr, 0) != UNZ_OK
+        || info.compressed_size > quint64(m_archive->fileSize) || !hasPlausibleSize(info)
+        || unzOpenCurrentFile(reader) != UNZ_OK)
+        return {};
+    QByteArray bytes(qsizetype(info.uncompressed_size), Qt::Uninitialized);
+    const bool unpacked = unpack(reader, bytes);
+    const bool intact = unzCloseCurrentFile(reader) == UNZ_OK; // compares the checksum
+    return unpacked && intact ? bytes : QByteArray();
+}
+
+bool ZipFile::write(const QString &memberName, const QByteArray &bytes)
+{
+    if (!m_archive || !m_archive->writer)
+        return false;
+    const zipFile writer = m_archive->writer;
+    const zip_fileinfo info = writtenNow();
+    if (zipOpenNewFileInZip64(writer, memberName.toLocal8Bit().constData(), &info, nullptr, 0, nullptr, 0, nullptr,
+                              Z_DEFLATED, BestCompression, bytes.size() >= Zip64Threshold)
+        != ZIP_OK)
+        return false;
+    const bool packed = pack(writer, bytes);
+    const bool finished = zipCloseFileInZip(writer) == ZIP_OK;
+    return packed && finished;
+}
+
+bool ZipFile::close()
+{
+    const std::unique_ptr<Archive> archive = std::move(m_archive);
+    if (!archive)
+        return true;
+    return archive->writer ? zipClose(archive->writer, nullptr) == ZIP_OK : unzClose(archive->reader) == UNZ_OK;
+}
