@@ -1,0 +1,89 @@
+#pragma once
+
+#include <QColor>
+#include <QList>
+#include <QObject>
+#include <QString>
+#include <QUuid>
+
+#include <array>
+
+/// A list of 256 colours of the ZX Spectrum Next with an optional transparent entry.
+///
+/// Pixel assets refer to a palette by its id and draw with colourTable(). Every change of an entry
+/// is announced by colourChanged(); changes made by editing operations are announced by
+/// colourEdited() as well, which is what undo listens to. Entries are stored as colour words
+/// (NextColour); an index is 0–255 everywhere and is not checked.
+class Palette : public QObject
+{
+    Q_OBJECT
+
+public:
+    static constexpr int Size = 256;
+
+    explicit Palette(QObject *parent = nullptr);
+
+    [[nodiscard]] QUuid id() const { return m_id; }
+    /// Takes over the id of a stored palette.
+    void setId(const QUuid &id) { m_id = id; }
+
+    [[nodiscard]] QString name() const { return m_name; }
+
+    /// The entry expanded to 8 bits a component; alpha is 0 for the transparent entry, else 255.
+    [[nodiscard]] QColor colour(int index) const;
+    /// All entries as colour() gives them.
+    [[nodiscard]] QList<QColor> colours() const;
+    /// The colour table for indexed images that are drawn with this palette: 256 opaque colours.
+    [[nodiscard]] QList<QRgb> colourTable() const;
+    /// Whether the entry stands in front of the other layers.
+    [[nodiscard]] bool priority(int index) const;
+
+    [[nodiscard]] quint16 rawColour(int index) const;
+    /// Stores a word as it is and announces the change, but not as an edit: undo writes with this.
+    void setRawColour(int index, quint16 word);
+    /// Stores a word without a signal, while a project is being read.
+    void storeRawColour(int index, quint16 word);
+
+    /// Edits every entry that differs, in order, as setColour() does.
+    void fill(const QColor &colour, bool priority);
+    /// Takes over the words of another palette, without signals.
+    void copyColours(const Palette &other);
+    /// Sets the hardware's start-up palette, in which index and 8-bit colour are the same, without signals.
+    void loadStandardNext();
+
+    /// The colour with every component moved to the nearest of 0, 16, 32, …, 240, 255; opaque.
+    [[nodiscard]] static QColor snapColour(const QColor &colour);
+    /// The first entry that equals a colour, alpha included, or else the first one at the least squared RGB distance.
+    [[nodiscard]] int nearestIndex(const QColor &colour) const;
+
+    /// The entry that is drawn as transparent, or -1.
+    [[nodiscard]] int transparencyIndex() const { return m_transparencyIndex; }
+    void setTransparencyIndex(int index) { m_transparencyIndex = index; }
+
+    /// Writes NAME_palette.bin into a folder; false also when the name cannot be part of a file's name.
+    [[nodiscard]] bool exportToDirectory(const QString &folder) const;
+
+signals:
+    void colourChanged(int index, QColor colour, bool priority);
+    void colourEdited(int index, quint16 before, quint16 after);
+    void nameChanged(QString name);
+
+public slots:
+    void setName(const QString &name);
+    /// Edits an entry: snaps the colour to the hardware's levels, stores it, and emits colourChanged()
+    /// with the snapped colour, then colourEdited(); nothing when the entry has that word already.
+    void setColour(int index, const QColor &colour, bool priority);
+    /// Writes a palette file (.pal, .nxp, .bin, .npl); false when it cannot be written whole.
+    [[nodiscard]] bool exportData(const QString &fileName) const;
+    /// Reads a palette file without signals; false, and nothing changes, when it is not one.
+    [[nodiscard]] bool importData(const QString &fileName);
+
+private:
+    void edit(int index, quint16 word, const QColor &snapped);
+    [[nodiscard]] QRgb rgb(int index) const;
+
+    QUuid m_id = QUuid::createUuid();
+    QString m_name = QStringLiteral("untitled");
+    std::array<quint16, Size> m_words{};
+    int m_transparencyIndex = -1;
+};
