@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QImage>
+#include <QList>
+#include <QObject>
+#include <QPointer>
+
+class Palette;
+
+/// An ordinary picture on its way to indexed pixels: its colours are snapped to the grid of 17 steps
+/// a component on which Next colours are chosen, and listed.
+///
+/// Tile sets, sprite banks and the image slicer import through it: remap() for pixels of an existing
+/// palette, toIndexed() for pixels of the picture's own colour list.
+class NxImage : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The largest picture that is taken, 256 MiB of pixels; larger ones count as unreadable, however
+    /// small their file is.
+    static constexpr qint64 MaxPixels = 8192 * 8192;
+
+    explicit NxImage(QObject *parent = nullptr);
+
+    /// Whether a picture of this size is within MaxPixels.
+    [[nodiscard]] static bool accepts(const QSize &size);
+
+    /// Takes a picture of any format; its alpha is dropped. A picture beyond MaxPixels becomes an empty
+    /// one. Always true.
+    bool setImage(const QImage &image);
+    /// Reads a file of any format that Qt knows; false, and an empty picture, when it is unreadable.
+    [[nodiscard]] bool load(const QString &fileName);
+
+    /// The snapped picture, in the 32-bit RGB format.
+    [[nodiscard]] QImage image() const { return m_image; }
+    /// The distinct colours in order of first appearance, row by row.
+    [[nodiscard]] QList<QRgb> colours() const { return m_colours; }
+
+    /// The picture as 8-bit indices of a palette, every colour at its nearestIndex(); null without a palette.
+    [[nodiscard]] QImage remap(const QPointer<Palette> &palette) const;
+    /// The picture as 8-bit indices of its own colours, the colour table padded to 256 with transparent
+    /// black. Colours beyond the 256th take the nearest of the first 256, the lowest index among equals.
+    [[nodiscard]] QImage toIndexed() const;
+
+private:
+    QImage m_image;
+    QList<QRgb> m_colours;
+};
