@@ -1,0 +1,3 @@
+#include "ui/enums.h"
+
+#include "moc_enums.cpp"

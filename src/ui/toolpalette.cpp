@@ -1,0 +1,207 @@
+#include "ui/toolpalette.h"
+
+#include "ui/flowlayout.h"
+#include "ui/svgiconengine.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QGridLayout>
+#include <QToolButton>
+
+#include <algorithm>
+
+using Quenmora::Ui::ToolButton;
+
+namespace {
+
+constexpr int IconExtent = 24; // the size that the pictures are drawn on: whole pixels, crisp lines
+
+}
+
+ToolPalette::ToolPalette(Qt::Orientation orientation, QWidget *parent)
+    : QWidget(parent)
+    , m_orientation(orientation)
+    , m_tools(new QActionGroup(this))
+{
+    QLayout *layout = nullptr;
+    if (orientation == Qt::Vertical) {
+        layout = new QGridLayout(this);
+        layout->setSizeConstraint(QLayout::SetFixedSize);
+    } else {
+        layout = new FlowLayout(this);
+    }
+    layout->setContentsMargins(2, 2, 2, 2);
+    layout->setSpacing(1);
+}
+
+ToolPalette::Entry ToolPalette::entryOf(ToolButton button)
+{
+    const auto entry = [button](const char *icon, const QString &text, Kind kind = Command) {
+        return Entry{button, QLatin1String(icon), text, kind, {}};
+    };
+    switch (button) {
+    case Quenmora::Ui::Draw:
+        return entry(":/Draw", tr("Draw"), Tool);
+    case Quenmora::Ui::Line:
+        return entry(":/Line", tr("Line"), Tool);
+    case Quenmora::Ui::Rectangle:
+        return entry(":/Rectangle", tr("Rectangle"), Tool);
+    case Quenmora::Ui::RectangleFill:
+        return entry(":/RectangleFill", tr("Filled rectangle"), Tool);
+    case Quenmora::Ui::Circle:
+        return entry(":/Circle", tr("Circle"), Tool);
+    case Quenmora::Ui::CircleFill:
+        return entry(":/CircleFill", tr("Filled circle"), Tool);
+    case Quenmora::Ui::Select:
+        return entry(":/Select", tr("Select"), Tool);
+    case Quenmora::Ui::Paste:
+        return entry(":/Paste", tr("Paste"));
+    case Quenmora::Ui::Fill:
+        return entry(":/Fill", tr("Fill"), Tool);
+    case Quenmora::Ui::Pick:
+        return entry(":/Picker", tr("Pick"), Tool);
+    case Quenmora::Ui::Resize:
+        return entry(":/Resize", tr("Resize"));
+    case Quenmora::Ui::Grid:
+        return entry(":/Grid", tr("Toggle Grid"), Toggle);
+    case Quenmora::Ui::ZoomIn:
+        return entry(":/ZoomIn", tr("Zoom In"));
+    case Quenmora::Ui::ZoomOut:
+        return entry(":/ZoomOut", tr("Zoom Out"));
+    case Quenmora::Ui::RotateCW:
+        return entry(":/RotateCW", tr("Rotate clockwise"));
+    case Quenmora::Ui::RotateCCW:
+        return entry(":/RotateCCW", tr("Rotate anticlockwise"));
+    case Quenmora::Ui::MoveUp:
+        return entry(":/Arrow/N", tr("Up"));
+    case Quenmora::Ui::MoveDown:
+        return entry(":/Arrow/S", tr("Down"));
+    case Quenmora::Ui::MoveLeft:
+        return entry(":/Arrow/W", tr("Left"));
+    case Quenmora::Ui::MoveRight:
+        return entry(":/Arrow/E", tr("Right"));
+    case Quenmora::Ui::Cut:
+        return entry(":/Cut", tr("Cut"));
+    case Quenmora::Ui::Copy:
+        return entry(":/Copy", tr("Copy"));
+    case Quenmora::Ui::Crop:
+        return entry(":/Crop", tr("Crop"));
+    case Quenmora::Ui::Erase:
+        return entry(":/Erase", tr("Erase"));
+    case Quenmora::Ui::Flip:
+        return entry(":/Flip", tr("Flip top to bottom"));
+    case Quenmora::Ui::Mirror:
+        return entry(":/Mirror", tr("Mirror left to right"));
+    case Quenmora::Ui::PaintPalette:
+        return entry(":/Palette", tr("Reset all palette offsets"));
+    case Quenmora::Ui::Open:
+        return entry(":/Open", tr("Open"));
+    case Quenmora::Ui::Save:
+        return entry(":/Save", tr("Save"));
+    case Quenmora::Ui::AnimPlay:
+        return entry(":/AnimPlay", tr("Play Animations"), Toggle);
+    case Quenmora::Ui::AnimStop:
+        return entry(":/AnimStop", tr("Stop Animations"));
+    case Quenmora::Ui::ExpandToFit:
+        return entry(":/ExpandToFit", tr("Fit to window"));
+    case Quenmora::Ui::PlaceAnim:
+        return entry(":/PlaceAnim", tr("Place animations"), Tool);
+    case Quenmora::Ui::PlaceSprite:
+        return entry(":/PlaceSprite", tr("Place sprites"), Tool);
+    case Quenmora::Ui::ShrinkToFit:
+        return entry(":/ShrinkToFit", tr("Shrink to fit"));
+    case Quenmora::Ui::ToggleViewport:
+        return entry(":/ToggleViewport", tr("Toggle viewport"), Toggle);
+    case Quenmora::Ui::_end_toggles:
+        break;
+    }
+    Q_UNREACHABLE();
+}
+
+QAction *ToolPalette::addEntry(const Entry &entry)
+{
+    if (QAction *present = action(entry.button)) {
+        return present;
+    }
+    auto *added = new QAction(themedIcon(entry.icon), entry.text, this);
+    added->setCheckable(entry.kind != Command);
+    added->setShortcuts(entry.shortcuts);
+    added->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    added->setToolTip(entry.shortcuts.isEmpty()
+                          ? entry.text
+                          : tr("%1 [%2]").arg(entry.text, entry.shortcuts.first().toString(QKeySequence::NativeText)));
+    if (entry.kind == Tool) {
+        m_tools->addAction(added);
+    }
+    connect(added, &QAction::triggered, this,
+            [this, button = entry.button](bool checked) { emit actionActivated(button, checked); });
+    m_actions.insert(entry.button, added);
+    addAction(added);
+
+    auto *button = new QToolButton(this);
+    button->setDefaultAction(added);
+    button->setAccessibleName(entry.text);
+    button->setIconSize({IconExtent, IconExtent});
+    button->setAutoRaise(true);
+    place(button);
+    return added;
+}
+
+void ToolPalette::setColumns(int columns)
+{
+    Q_ASSERT(m_actions.isEmpty());
+    m_columns = std::max(columns, 1);
+}
+
+ToolButton ToolPalette::mode() const
+{
+    return m_actions.key(m_tools->checkedAction(), Quenmora::Ui::_end_toggles);
+}
+
+void ToolPalette::setMode(ToolButton mode)
+{
+    QAction *const tool = action(mode);
+    if (tool && tool->actionGroup() == m_tools) {
+        tool->setChecked(true);
+    }
+}
+
+void ToolPalette::toggleAction(ToolButton mode)
+{
+    if (QAction *const found = action(mode)) {
+        found->trigger();
+    }
+}
+
+void ToolPalette::setActionChecked(ToolButton mode, bool checked)
+{
+    QAction *const found = action(mode);
+    if (found && found->isCheckable()) {
+        found->setChecked(checked);
+        emit actionActivated(mode, checked);
+    }
+}
+
+void ToolPalette::setToolEnabled(ToolButton mode, bool enabled)
+{
+    if (QAction *const found = action(mode)) {
+        found->setEnabled(enabled);
+    }
+}
+
+void ToolPalette::setShowGridChecked(bool checked)
+{
+    if (QAction *const grid = action(Quenmora::Ui::Grid); grid && grid->isCheckable()) {
+        grid->setChecked(checked);
+    }
+}
+
+void ToolPalette::place(QToolButton *button)
+{
+    if (m_orientation == Qt::Horizontal) {
+        layout()->addWidget(button);
+        return;
+    }
+    const int index = static_cast<int>(m_actions.size()) - 1;
+    static_cast<QGridLayout *>(layout())->addWidget(button, index / m_columns, index % m_columns);
+}
