@@ -1,0 +1,3 @@
+#include "model/project.h"
+
+#include "moc_project.cpp"
