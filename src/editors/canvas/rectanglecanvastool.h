@@ -1,0 +1,32 @@
+#pragma once
+
+#include "editors/canvas/layer2image.h"
+#include "editors/canvas/shapecanvastool.h"
+
+#include <QCoreApplication>
+
+/// Draws the dragged rectangle as an outline, or filled.
+class RectangleCanvasTool final : public ShapeCanvasTool
+{
+    Q_DECLARE_TR_FUNCTIONS(RectangleCanvasTool)
+
+public:
+    RectangleCanvasTool(Canvas *canvas, bool filled)
+        : ShapeCanvasTool(canvas)
+        , m_filled(filled)
+    {
+    }
+
+protected:
+    void draw(Layer2Image &layer) const override
+    {
+        if (m_filled)
+            layer.fillRectangle(dragRect(), layer.ink());
+        else
+            layer.drawRectangle(dragRect());
+    }
+    QString text() const override { return m_filled ? tr("Filled Rectangle") : tr("Rectangle"); }
+
+private:
+    const bool m_filled;
+};
