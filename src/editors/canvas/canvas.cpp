@@ -365,8 +365,8 @@ void Canvas::setMode(ToolButton mode, bool checked)
         applyEdit(tr("Mirror"), PixelEditCommand::None, &Layer2Image::mirror);
         break;
     default:
-        qInfo().noquote().nospace() << "PaintCanvas::setMode("
-                                    << QMetaEnum::fromType<ToolButton>().valueToKey(mode) << ")";
+        qInfo().noquote().nospace() << "PaintCanvas::setMode(" << QMetaEnum::fromType<ToolButton>().valueToKey(mode)
+                                    << ")";
         break;
     }
     update();
@@ -434,8 +434,8 @@ void Canvas::setSelection(QPoint from, QPoint to)
 void Canvas::placeSelection(const QRect &pixels)
 {
     // One point more than the pixels' area, like a selection that was dragged.
-    m_selection->setGeometry(QRect(m_geometry.pointOf(pixels.topLeft()),
-                                   m_geometry.pointOf(pixels.bottomRight() + QPoint(1, 1))));
+    m_selection->setGeometry(
+        QRect(m_geometry.pointOf(pixels.topLeft()), m_geometry.pointOf(pixels.bottomRight() + QPoint(1, 1))));
 }
 
 // ---- Events ---------------------------------------------------------------------------------

@@ -133,7 +133,8 @@ private:
     void buildContextMenu();
     void relayout();
     void scrollBy(QPoint delta);
-    void applyEdit(const QString &text, PixelEditCommand::Kind kind, const std::function<void(Layer2Image &)> &operation);
+    void applyEdit(const QString &text, PixelEditCommand::Kind kind,
+                   const std::function<void(Layer2Image &)> &operation);
     void eraseSelection();
     void fillSelection(const QString &text, int index);
     void setSelection(QPoint from, QPoint to);

@@ -64,11 +64,7 @@ CanvasClipboardContent CanvasClipboardContent::fromMimeData(const QMimeData *mim
     return {reserved, Quenmora::Ui::ImageType(imageType), paletteId, readImage(&buffer)};
 }
 
-CanvasClipboard::CanvasClipboard(Canvas *canvas)
-    : QObject(canvas)
-    , m_canvas(canvas)
-{
-}
+CanvasClipboard::CanvasClipboard(Canvas *canvas) : QObject(canvas), m_canvas(canvas) { }
 
 QImage CanvasClipboard::image() const
 {

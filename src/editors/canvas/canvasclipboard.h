@@ -14,7 +14,8 @@ class QMimeData;
 ///
 /// The format "quenmora/canvas-anim" is a big-endian data stream: a reserved 32-bit integer, the
 /// image type (32 bits), the 16 bytes of the palette's id, then a PNG of the pixels to the end.
-struct CanvasClipboardContent {
+struct CanvasClipboardContent
+{
     int reserved = 0;
     Quenmora::Ui::ImageType imageType = Quenmora::Ui::Undefined;
     QUuid paletteId;

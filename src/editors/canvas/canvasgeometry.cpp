@@ -4,7 +4,8 @@
 
 namespace {
 
-struct Span {
+struct Span
+{
     int start;
     int length;
 };

@@ -5,7 +5,8 @@
 #include <QSize>
 
 /// Where the pixels of an image lie in the widget that shows it enlarged.
-struct CanvasGeometry {
+struct CanvasGeometry
+{
     static constexpr int MinimumZoom = 1;
     static constexpr int MaximumZoom = 64;
 

@@ -14,10 +14,7 @@ class QPainter;
 class CanvasTool
 {
 public:
-    explicit CanvasTool(Canvas *canvas)
-        : m_canvas(canvas)
-    {
-    }
+    explicit CanvasTool(Canvas *canvas) : m_canvas(canvas) { }
     virtual ~CanvasTool();
 
     /// Called when the tool becomes the current one.

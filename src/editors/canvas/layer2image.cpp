@@ -23,11 +23,7 @@ QImage blankImage(QSize size)
 
 } // namespace
 
-Layer2Image::Layer2Image(QSize size, QObject *parent)
-    : QObject(parent)
-    , m_image(blankImage(size))
-{
-}
+Layer2Image::Layer2Image(QSize size, QObject *parent) : QObject(parent), m_image(blankImage(size)) { }
 
 void Layer2Image::setPalette(const QPointer<Palette> &palette)
 {

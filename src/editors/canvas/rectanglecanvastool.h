@@ -11,11 +11,7 @@ class RectangleCanvasTool final : public ShapeCanvasTool
     Q_DECLARE_TR_FUNCTIONS(RectangleCanvasTool)
 
 public:
-    RectangleCanvasTool(Canvas *canvas, bool filled)
-        : ShapeCanvasTool(canvas)
-        , m_filled(filled)
-    {
-    }
+    RectangleCanvasTool(Canvas *canvas, bool filled) : ShapeCanvasTool(canvas), m_filled(filled) { }
 
 protected:
     void draw(Layer2Image &layer) const override

@@ -21,7 +21,8 @@ namespace {
 constexpr QSize ImageSize(16, 12);
 
 /// A canvas of 16 x 12 pixels in a widget that it fills exactly at zoom 16.
-struct Fixture {
+struct Fixture
+{
     Palette palette;
     Canvas canvas{ImageSize};
     QSignalSpy edits{&canvas, &Canvas::edited};

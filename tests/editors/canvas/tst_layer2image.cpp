@@ -97,7 +97,8 @@ void TestLayer2Image::linesMatchTheFormula()
         Layer2Image layer(Area);
         layer.drawLine(from, to);
         if (pixelsWith(layer, 1) != clipped(naiveLine(from, to)))
-            QFAIL(qPrintable(QStringLiteral("line %1,%2 to %3,%4").arg(from.x()).arg(from.y()).arg(to.x()).arg(to.y())));
+            QFAIL(
+                qPrintable(QStringLiteral("line %1,%2 to %3,%4").arg(from.x()).arg(from.y()).arg(to.x()).arg(to.y())));
     }
 }
 
@@ -163,7 +164,8 @@ void TestLayer2Image::ellipsesAreClosedSymmetricOutlines()
                 const double dy = std::max(0.0, std::abs(y - ry) + step) / ry;
                 return dx * dx + dy * dy - 1;
             };
-            QVERIFY2(beyond(-1) <= 0 && beyond(1) >= 0, qPrintable(QStringLiteral("%1x%2 at %3,%4").arg(rect.width()).arg(rect.height()).arg(x).arg(y)));
+            QVERIFY2(beyond(-1) <= 0 && beyond(1) >= 0,
+                     qPrintable(QStringLiteral("%1x%2 at %3,%4").arg(rect.width()).arg(rect.height()).arg(x).arg(y)));
             rows.insert(y);
         }
         QCOMPARE(rows.size(), rect.height());
