@@ -1,0 +1,3 @@
+#include "editors/edittarget.h"
+
+EditTarget::~EditTarget() = default;
