@@ -1,9 +1,374 @@
 #include "model/map.h"
 
+#include "model/animation.h"
+#include "model/mapobjects.h"
+#include "model/nxmfile.h"
+#include "model/tileset.h"
+
+#include <QDebug>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+namespace {
+
+constexpr int TileSize = TileMap::TileSize;
+
+void warnWithoutTileLayer()
+{
+    qWarning("_tileMap==nullptr");
+}
+
+} // namespace
+
+template <typename Function>
+void Map::forEachLayer(Function function)
+{
+    for (TileMap *layer : {m_tileLayer.data(), m_objectLayer.data()}) {
+        if (layer)
+            function(*layer);
+    }
+}
+
+int Map::PlacedSprite::currentFrame(int frameCount, int frameDelay, qint64 time) const
+{
+    if (frameCount < 1)
+        return 0;
+    const int start = std::clamp(startFrame, 0, frameCount - 1);
+    if (frameDelay <= 0 || time < initialDelay)
+        return start;
+    const qint64 run = qint64(frameCount) * frameDelay;
+    const qint64 period = std::max(repeatDelay, 0) + run;
+    const qint64 position = (time - initialDelay) % period;
+    const qint64 step = position < run ? position / frameDelay : frameCount - 1;
+    return int((start + step) % frameCount);
+}
+
+Map::Map(const QString &name, QObject *parent)
+    : QObject(parent)
+    , m_name(name)
+    , m_animatedBlocks(new AnimatedBlocks(this))
+{ }
+
+QPointer<TileSet> Map::tileSet() const
+{
+    return m_tileSet;
+}
+
+void Map::setTileSet(const QPointer<TileSet> &tileSet)
+{
+    if (m_tileSet)
+        m_tileSet->disconnect(this);
+    m_tileSet = tileSet;
+    m_tileSetId = tileSet ? tileSet->id() : QUuid();
+    if (tileSet) {
+        connect(tileSet, &TileSet::tileDeleted, this, [this](int index) { shiftTileIndices(index, -1); });
+        connect(tileSet, &TileSet::tileInserted, this, [this](int index) { shiftTileIndices(index, +1); });
+    }
+    if (!m_tileLayer)
+        warnWithoutTileLayer();
+    forEachLayer([&tileSet](TileMap &layer) { layer.setTileSet(tileSet); });
+}
+
+void Map::shiftTileIndices(int from, int delta)
+{
+    forEachLayer([from, delta](TileMap &layer) { layer.shiftTileIndices(from, delta); });
+}
+
+void Map::setLayers(const QPointer<TileMap> &tileLayer, const QPointer<TileMap> &objectLayer)
+{
+    m_tileLayer = tileLayer;
+    m_objectLayer = objectLayer;
+    if (m_tileSet)
+        forEachLayer([this](TileMap &layer) { layer.setTileSet(m_tileSet); });
+}
+
+QSize Map::size() const
+{
+    return m_tileLayer ? m_tileLayer->size() : QSize(0, 0);
+}
+
+int Map::dataSize() const
+{
+    const qint64 bytes = qint64(size().width()) * size().height() * 2;
+    return int(std::min<qint64>(bytes, std::numeric_limits<int>::max()));
+}
+
 void Map::setName(const QString &name)
 {
     if (name == m_name)
         return;
     m_name = name;
     emit nameChanged(name);
+}
+
+void Map::insertColumn(Quenmora::Position position)
+{
+    forEachLayer([position](TileMap &layer) { layer.insertColumn(position); });
+    moveContent(position == Quenmora::Begin ? QPoint(1, 0) : QPoint(0, 0));
+}
+
+void Map::insertRow(Quenmora::Position position)
+{
+    forEachLayer([position](TileMap &layer) { layer.insertRow(position); });
+    moveContent(position == Quenmora::Begin ? QPoint(0, 1) : QPoint(0, 0));
+}
+
+void Map::removeColumn(Quenmora::Position position)
+{
+    forEachLayer([position](TileMap &layer) { layer.removeColumn(position); });
+    moveContent(position == Quenmora::Begin ? QPoint(-1, 0) : QPoint(0, 0));
+}
+
+void Map::removeRow(Quenmora::Position position)
+{
+    forEachLayer([position](TileMap &layer) { layer.removeRow(position); });
+    moveContent(position == Quenmora::Begin ? QPoint(0, -1) : QPoint(0, 0));
+}
+
+void Map::resize(QSize size, Qt::Alignment alignment)
+{
+    if (!m_tileLayer) {
+        warnWithoutTileLayer();
+        return;
+    }
+    const QPoint offset = m_tileLayer->resize(size, alignment);
+    if (m_objectLayer)
+        m_objectLayer->resize(size, alignment);
+    moveContent(offset);
+    emit resized(this);
+}
+
+/// Moves placements and sprites along with the cells, and removes those that have left the map.
+void Map::moveContent(QPoint cells)
+{
+    if (!m_tileLayer) {
+        warnWithoutTileLayer();
+        return;
+    }
+    const QRect grid = m_tileLayer->bounds();
+    QList<QRect> left;
+    for (const QPointer<AnimationProperties> &placement : m_animatedBlocks->list()) {
+        if (!placement)
+            continue;
+        placement->setArea(placement->area().translated(cells));
+        if (!grid.contains(placement->area()))
+            left.append(placement->area());
+    }
+    for (const QRect &area : std::as_const(left)) {
+        m_animatedBlocks->remove(area);
+        if (m_objectLayer)
+            m_objectLayer->fill(area, 0, false, false, false, true);
+    }
+
+    const QRect pixels(QPoint(0, 0), grid.size() * TileSize);
+    for (PlacedSprite &sprite : m_sprites) {
+        sprite.x = int(sprite.x + qint64(cells.x()) * TileSize);
+        sprite.y = int(sprite.y + qint64(cells.y()) * TileSize);
+    }
+    m_sprites.removeIf([&pixels](const PlacedSprite &sprite) { return !pixels.contains(sprite.x, sprite.y); });
+}
+
+void Map::setTiles(const QRect &area, int index, bool rotate, bool flip, bool mirror, bool used)
+{
+    if (m_tileLayer)
+        m_tileLayer->fill(area, index, rotate, flip, mirror, used);
+}
+
+bool Map::setTile(QPoint at, const TileMap::TileData &cell)
+{
+    return m_tileLayer && m_tileLayer->setCell(at, cell);
+}
+
+void Map::pasteTiles(QPoint at, const QMimeData *mimeData)
+{
+    if (m_tileLayer)
+        m_tileLayer->paste(at, mimeData);
+}
+
+void Map::refreshOffsets()
+{
+    if (m_tileLayer)
+        m_tileLayer->refreshOffsets();
+}
+
+void Map::placeAnimation(const Animation *animation, QPoint topLeft)
+{
+    if (!animation)
+        return;
+    const QRect area(topLeft, animation->size());
+    if (m_tileLayer)
+        m_tileLayer->fill(area, 0, false, false, false, true);
+    stampFrame(*animation, 0, topLeft);
+    m_animatedBlocks->add(area, animation->id());
+}
+
+bool Map::removeAnimationAt(const QRect &area)
+{
+    if (!m_animatedBlocks->remove(area))
+        return false;
+    if (m_tileLayer) {
+        const QRect inside = area & m_tileLayer->bounds();
+        for (int y = inside.top(); y <= inside.bottom(); ++y) {
+            for (int x = inside.left(); x <= inside.right(); ++x)
+                m_tileLayer->setCell({x, y}, {});
+        }
+    }
+    if (m_objectLayer)
+        m_objectLayer->fill(area, 0, false, false, false, true);
+    return true;
+}
+
+void Map::stampFrame(const Animation &animation, int frame, QPoint topLeft)
+{
+    if (!m_objectLayer || frame < 0 || frame >= animation.frameCount())
+        return;
+    const AnimationFrame::Cells &rows = animation.frame(frame)->cells();
+    for (int y = 0; y < rows.size(); ++y) {
+        for (int x = 0; x < rows[y].size(); ++x) {
+            const AnimationFrame::Cell &cell = rows[y][x];
+            m_objectLayer->setCell(topLeft + QPoint(x, y),
+                                   {cell.index, cell.rotate, cell.flip, cell.mirror, cell.offset, true});
+        }
+    }
+}
+
+void Map::restampAnimations(const QList<QPointer<MapObjects>> &blockSets)
+{
+    for (const QPointer<AnimationProperties> &placement : m_animatedBlocks->list()) {
+        if (!placement)
+            continue;
+        if (m_tileLayer)
+            m_tileLayer->fill(placement->area(), 0, false, false, false, true);
+        for (const QPointer<MapObjects> &blocks : blockSets) {
+            const QPointer<TileAnimation> animation = blocks ? blocks->animation(placement->animationId()) : nullptr;
+            if (!animation)
+                continue;
+            stampFrame(*animation, 0, placement->area().topLeft());
+            break;
+        }
+    }
+}
+
+int Map::addSprite(const PlacedSprite &sprite)
+{
+    m_sprites.append(sprite);
+    return int(m_sprites.size()) - 1;
+}
+
+bool Map::setSprite(int index, const PlacedSprite &sprite)
+{
+    if (index < 0 || index >= m_sprites.size())
+        return false;
+    m_sprites[index] = sprite;
+    return true;
+}
+
+bool Map::removeSprite(int index)
+{
+    if (index < 0 || index >= m_sprites.size())
+        return false;
+    m_sprites.removeAt(index);
+    return true;
+}
+
+void Map::onSpriteMoved(const QUuid &bank, int from, int to)
+{
+    for (PlacedSprite &sprite : m_sprites) {
+        if (!sprite.isSingleOf(bank) || sprite.sprite < 0)
+            continue;
+        if (sprite.sprite == from)
+            sprite.sprite = to;
+        else if (to <= sprite.sprite && sprite.sprite < from)
+            ++sprite.sprite;
+        else if (from < sprite.sprite && sprite.sprite <= to)
+            --sprite.sprite;
+    }
+}
+
+void Map::onSpriteDeleted(const QUuid &bank, int index)
+{
+    if (index < 0)
+        return;
+    m_sprites.removeIf(
+        [&bank, index](const PlacedSprite &sprite) { return sprite.isSingleOf(bank) && sprite.sprite == index; });
+    for (PlacedSprite &sprite : m_sprites) {
+        if (sprite.isSingleOf(bank) && sprite.sprite > index)
+            --sprite.sprite;
+    }
+}
+
+void Map::paintLayers(QPainter &painter, QPoint origin, const QRect &cells, int cellSize, int transparencyIndex) const
+{
+    if (m_tileLayer && m_tileLayer->isVisible())
+        m_tileLayer->paint(painter, origin, cells, cellSize, transparencyIndex);
+    if (!m_objectLayer || !m_objectLayer->isVisible())
+        return;
+    for (const QPointer<AnimationProperties> &placement : m_animatedBlocks->list()) {
+        const QRect shown = placement ? placement->area() & cells : QRect();
+        if (shown.isEmpty())
+            continue;
+        const QPoint offset = (shown.topLeft() - cells.topLeft()) * cellSize;
+        m_objectLayer->paint(painter, origin + offset, shown, cellSize, transparencyIndex);
+    }
+}
+
+bool Map::exportData(const QString &fileName) const
+{
+    if (!m_tileLayer) {
+        warnWithoutTileLayer();
+        return false;
+    }
+    const QByteArray data = m_tileLayer->toNextData();
+    QFile file(fileName);
+    return file.open(QIODevice::WriteOnly) && file.write(data) == data.size() && file.flush();
+}
+
+bool Map::exportToDirectory(const QString &folder) const
+{
+    const QString file = m_name + QStringLiteral("_tilemap.bin");
+    // a name with a path in it, which a foreign project may hold, must not lead out of the folder
+    if (QFileInfo(file).fileName() != file)
+        return false;
+    return exportData(QDir(folder).filePath(file));
+}
+
+bool Map::importNxm(const QString &mapFile, const QString &blockFile)
+{
+    const auto file = NxmFile::open(mapFile, blockFile);
+    if (!file)
+        return false;
+    resize(file->size(), Qt::AlignLeft | Qt::AlignTop);
+    const QSize blocks = file->sizeInBlocks();
+    for (int row = 0; row < blocks.height(); ++row) {
+        for (int column = 0; column < blocks.width(); ++column) {
+            const auto block = file->blockAt(column, row);
+            if (!block)
+                return false;
+            for (int i = 0; i < 4; ++i)
+                setTile({column * 2 + i % 2, row * 2 + i / 2}, {(*block)[size_t(i)], false, false, false, 0, true});
+        }
+    }
+    return true;
+}
+
+Map::Snapshot Map::snapshot() const
+{
+    return {m_tileLayer ? m_tileLayer->rows() : TileMap::Rows(),
+            m_objectLayer ? m_objectLayer->rows() : TileMap::Rows(), m_animatedBlocks->state(), m_sprites};
+}
+
+void Map::restore(const Snapshot &snapshot)
+{
+    if (m_tileLayer)
+        m_tileLayer->restore(snapshot.tiles);
+    if (m_objectLayer)
+        m_objectLayer->restore(snapshot.objects);
+    m_animatedBlocks->restore(snapshot.placements);
+    m_sprites = snapshot.sprites;
+    emit restored();
 }

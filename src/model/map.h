@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/animatedblocks.h"
 #include "model/enums.h"
 #include "model/tilemap.h"
 
@@ -13,7 +14,6 @@
 #include <QString>
 #include <QUuid>
 
-class AnimatedBlocks;
 class Animation;
 class MapObjects;
 class QMimeData;
@@ -52,19 +52,10 @@ public:
         /// 0 for an animation without frames.
         [[nodiscard]] int currentFrame(int frameCount, int frameDelay, qint64 time) const;
 
+        /// Whether it shows one sprite of that bank, not an animation.
+        [[nodiscard]] bool isSingleOf(const QUuid &id) const { return bank == id && animation.isNull(); }
+
         bool operator==(const PlacedSprite &) const = default;
-    };
-
-    /// The placement of a tile animation, as a value.
-    struct Placement
-    {
-        QUuid animation;
-        QRect area; ///< in cells
-        int initialDelay = 0;
-        int repeatDelay = 0;
-        int startFrame = 0;
-
-        bool operator==(const Placement &) const = default;
     };
 
     /// What undo keeps of a map. Taking one costs next to nothing, and two of them share the rows in which
@@ -73,7 +64,7 @@ public:
     {
         TileMap::Rows tiles;
         TileMap::Rows objects;
-        QList<Placement> placements;
+        AnimatedBlocks::State placements;
         QList<PlacedSprite> sprites;
 
         bool operator==(const Snapshot &) const = default;
@@ -151,7 +142,7 @@ public:
 
     /// Writes the tile layer as Next tilemap data; false unless every byte was written.
     [[nodiscard]] bool exportData(const QString &fileName) const;
-    /// The same into NAME_tilemap.bin in a folder.
+    /// The same into NAME_tilemap.bin in a folder; false also when the name cannot be part of a file's name.
     [[nodiscard]] bool exportToDirectory(const QString &folder) const;
     /// Takes size and tile layer from a tile data set (nxmfile.h). False when the map file cannot be read
     /// or is cut, or names a block that the block file does not have; what was read by then stays.
@@ -172,8 +163,9 @@ signals:
     void restored();
 
 private:
+    template <typename Function>
+    void forEachLayer(Function function);
     void moveContent(QPoint cells);
-    void removePlacementsOutside(const QRect &grid);
     void shiftTileIndices(int from, int delta);
 
     QUuid m_id = QUuid::createUuid();

@@ -1,18 +1,349 @@
 #include "model/tilemap.h"
 
+#include "model/palette.h"
+#include "model/tilemapformat.h"
+#include "model/tilemappicture.h"
+#include "model/tileset.h"
+
+#include <QDebug>
+#include <QHash>
+#include <QMimeData>
+
 #include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <limits>
+
+namespace {
+
+using TileData = TileMap::TileData;
+using Row = TileMap::Row;
+using Rows = TileMap::Rows;
+
+QString mimeType()
+{
+    return QStringLiteral("quenmora-map-toNextData");
+}
+
+/// Replaces the rows from first to last by what change(const Row &) makes of them. Rows that share their
+/// storage are changed once and share the result; a row that change() returns as it was stays shared with
+/// every snapshot. Whether any row became another one.
+template <typename Change>
+bool changeRows(Rows &rows, int first, int last, Change change)
+{
+    const Rows before = rows; // keeps the storage alive that identifies a row
+    QHash<const TileData *, Row> results;
+    bool changed = false;
+    for (int y = first; y <= last; ++y) {
+        const Row &row = before[y];
+        auto result = results.constFind(row.constData());
+        if (result == results.cend())
+            result = results.insert(row.constData(), change(row));
+        if (result->constData() == row.constData() && result->size() == row.size())
+            continue;
+        rows[y] = *result;
+        changed = true;
+    }
+    return changed;
+}
+
+/// Replaces every cell by what change(TileData) makes of it; rows without a changed cell stay shared.
+template <typename Change>
+bool changeCells(Rows &rows, Change change)
+{
+    return changeRows(rows, 0, int(rows.size()) - 1, [change](const Row &row) {
+        const auto changes = [change](const TileData &cell) { return change(cell) != cell; };
+        const auto first = std::find_if(row.cbegin(), row.cend(), changes);
+        if (first == row.cend())
+            return row;
+        Row result = row;
+        std::transform(first, row.cend(), result.begin() + (first - row.cbegin()), change);
+        return result;
+    });
+}
+
+/// How one side of the grid changes when it is resized: count cells from `from` on move to `to`.
+struct Span
+{
+    int from;
+    int to;
+    int count;
+};
+
+Span keptSpan(int before, int after, bool centred, bool atEnd)
+{
+    const int difference = std::abs(after - before);
+    const int shift = centred ? difference / 2 : atEnd ? difference : 0;
+    return after > before ? Span{0, shift, before} : Span{shift, 0, after};
+}
+
+} // namespace
+
+TileMap::TileMap(int width, int height, QObject *parent)
+    : QObject(parent)
+    , m_width(std::max(width, 0))
+    , m_rows(std::max(height, 0), Row(m_width))
+    , m_picture(std::make_unique<TileMapPicture>(*this))
+{ }
+
+TileMap::TileMap(QSize size, QObject *parent) : TileMap(size.width(), size.height(), parent) { }
+
+TileMap::~TileMap() = default;
+
+QPointer<TileSet> TileMap::tileSet() const
+{
+    return m_tileSet;
+}
+
+void TileMap::setTileSet(const QPointer<TileSet> &tileSet)
+{
+    if (m_tileSet)
+        m_tileSet->disconnect(this);
+    m_tileSet = tileSet;
+    m_picture->bind(tileSet);
+    if (!tileSet)
+        return;
+    connect(tileSet, &TileSet::tileSwapped, this, &TileMap::swapTiles);
+    connect(tileSet, &TileSet::tileChanged, this, [this] { m_picture->tilesChanged(); });
+    connect(tileSet, &TileSet::restored, this, [this] { m_picture->tilesChanged(); });
+}
+
+TileMap::TileData TileMap::cellAt(QPoint at) const
+{
+    return bounds().contains(at) ? m_rows[at.y()][at.x()] : TileData();
+}
+
+bool TileMap::setCell(QPoint at, const TileData &cell)
+{
+    if (!bounds().contains(at) || std::as_const(m_rows)[at.y()][at.x()] == cell)
+        return false;
+    m_rows[at.y()][at.x()] = cell;
+    m_picture->cellChanged(at, cell);
+    return true;
+}
+
+void TileMap::fill(const QRect &area, int index, bool rotate, bool flip, bool mirror, bool used)
+{
+    const QRect inside = area & bounds();
+    if (inside.isEmpty())
+        return;
+    const TileData cell{index, rotate, flip, mirror, m_tileSet ? m_tileSet->tileOffset(index) : 0, used};
+    const auto filled = [&cell, &inside](const Row &row) {
+        const auto first = row.cbegin() + inside.left();
+        if (std::all_of(first, first + inside.width(), [&cell](const TileData &old) { return old == cell; }))
+            return row;
+        Row result = row;
+        std::fill_n(result.begin() + inside.left(), inside.width(), cell);
+        return result;
+    };
+    if (inside.width() == m_width)
+        std::fill(m_rows.begin() + inside.top(), m_rows.begin() + inside.bottom() + 1, Row(m_width, cell));
+    else
+        changeRows(m_rows, inside.top(), inside.bottom(), filled);
+    m_picture->areaChanged(inside);
+}
+
+void TileMap::insertColumn(Quenmora::Position position)
+{
+    changeRows(m_rows, 0, height() - 1, [position](const Row &row) {
+        Row result;
+        result.reserve(row.size() + 1);
+        result.resize(position == Quenmora::Begin ? 1 : 0);
+        result.append(row);
+        result.resize(row.size() + 1);
+        return result;
+    });
+    ++m_width;
+    m_picture->contentChanged();
+}
+
+void TileMap::insertRow(Quenmora::Position position)
+{
+    m_rows.insert(position == Quenmora::Begin ? 0 : height(), Row(m_width));
+    m_picture->contentChanged();
+}
+
+void TileMap::removeColumn(Quenmora::Position position)
+{
+    if (m_width == 0)
+        return;
+    changeRows(m_rows, 0, height() - 1,
+               [position](const Row &row) { return row.sliced(position == Quenmora::Begin ? 1 : 0, row.size() - 1); });
+    --m_width;
+    m_picture->contentChanged();
+}
+
+void TileMap::removeRow(Quenmora::Position position)
+{
+    if (m_rows.isEmpty())
+        return;
+    m_rows.remove(position == Quenmora::Begin ? 0 : height() - 1);
+    m_picture->contentChanged();
+}
+
+void TileMap::resize(QSize size)
+{
+    resize(size, Qt::AlignLeft | Qt::AlignTop);
+}
+
+QPoint TileMap::resize(QSize size, Qt::Alignment alignment)
+{
+    const QSize after = size.expandedTo({0, 0});
+    const Span columns = keptSpan(m_width, after.width(), alignment & Qt::AlignHCenter, alignment & Qt::AlignRight);
+    const Span lines = keptSpan(height(), after.height(), alignment & Qt::AlignVCenter, alignment & Qt::AlignBottom);
+
+    Rows kept = m_rows.sliced(lines.from, lines.count);
+    if (after.width() != m_width) {
+        changeRows(kept, 0, lines.count - 1, [&columns, &after](const Row &row) {
+            Row result(after.width());
+            std::copy_n(row.cbegin() + columns.from, columns.count, result.begin() + columns.to);
+            return result;
+        });
+    }
+    Rows rows(after.height(), Row(after.width()));
+    std::copy(kept.cbegin(), kept.cend(), rows.begin() + lines.to);
+    m_rows = rows;
+    m_width = after.width();
+    m_picture->contentChanged();
+    return {columns.to - columns.from, lines.to - lines.from};
+}
+
+void TileMap::shiftTileIndices(int from, int delta)
+{
+    changeCells(m_rows, [from, delta](TileData cell) {
+        if (delta < 0 && cell.index == from)
+            cell.index = 0;
+        else if (cell.index > from || (cell.index == from && delta >= 1))
+            cell.index = int(qint64(cell.index) + delta);
+        return cell;
+    });
+    m_picture->tilesChanged(); // even where no cell shows them, the tiles behind the index are others now
+}
+
+void TileMap::refreshOffsets()
+{
+    if (!m_tileSet)
+        return;
+    const bool changed = changeCells(m_rows, [this](TileData cell) {
+        cell.offset = m_tileSet->tileOffset(cell.index);
+        return cell;
+    });
+    if (changed)
+        m_picture->contentChanged();
+}
 
 void TileMap::swapTiles(int a, int b)
 {
-    bool changed = false;
-    for (Row &row : m_rows) {
-        const auto holdsEither = [a, b](const TileData &cell) { return cell.index == a || cell.index == b; };
-        if (std::none_of(row.cbegin(), row.cend(), holdsEither))
-            continue;
-        for (TileData &cell : row)
-            cell.index = cell.index == a ? b : cell.index == b ? a : cell.index;
-        changed = true;
+    m_picture->tilesSwapped(a, b);
+    const bool changed = a != b && changeCells(m_rows, [a, b](TileData cell) {
+                             cell.index = cell.index == a ? b : cell.index == b ? a : cell.index;
+                             return cell;
+                         });
+    if (!changed)
+        return;
+    m_picture->contentChanged();
+    emit tilesChanged();
+}
+
+void TileMap::restore(const Rows &rows)
+{
+    m_rows = rows;
+    m_width = rows.isEmpty() ? 0 : int(rows.first().size());
+    Q_ASSERT(std::all_of(rows.cbegin(), rows.cend(), [this](const Row &row) { return row.size() == m_width; }));
+    m_picture->contentChanged();
+    emit tilesChanged();
+}
+
+QImage TileMap::toImage(const QRect &area) const
+{
+    if (!m_tileSet || !m_tileSet->palette())
+        qWarning("_tiles==nullptr");
+    QImage image = m_picture->image(area);
+    image.setColorTable(colourTable());
+    return image;
+}
+
+QImage TileMap::render(const QRect &cells, int zoom, int transparencyIndex) const
+{
+    if (zoom < 1 || zoom > std::numeric_limits<int>::max() / TileSize)
+        return {};
+    if (!m_tileSet || !m_tileSet->palette())
+        qWarning("_tiles==nullptr");
+    QImage image = m_picture->scaledImage(cells, zoom * TileSize);
+    QList<QRgb> colours = colourTable();
+    for (qsizetype i = 0; i < colours.size(); ++i) {
+        if ((i & 15) == transparencyIndex)
+            colours[i] &= RGB_MASK;
     }
-    if (changed)
-        emit tilesChanged();
+    image.setColorTable(colours);
+    return image;
+}
+
+void TileMap::paint(QPainter &painter, QPoint origin, const QRect &cells, int cellSize, int transparencyIndex) const
+{
+    if (!m_tileSet || !m_tileSet->palette())
+        return;
+    const QList<QRgb> table = colourTable();
+    std::array<QRgb, 256> colours{};
+    for (size_t i = 0; i < colours.size(); ++i)
+        colours[i] = int(i & 15) == transparencyIndex ? 0 : table[qsizetype(i)];
+    m_picture->paint(painter, origin, cells, cellSize, colours);
+}
+
+QList<QRgb> TileMap::colourTable() const
+{
+    const QPointer<Palette> palette = m_tileSet ? m_tileSet->palette() : nullptr;
+    return palette ? palette->colourTable() : QList<QRgb>(Palette::Size, qRgb(0, 0, 0));
+}
+
+QByteArray TileMap::toNextData() const
+{
+    return TileMapFormat::toNextData(m_rows);
+}
+
+QByteArray TileMap::serialise(const QRect &area) const
+{
+    return TileMapFormat::serialise(m_rows, area, m_tileSet ? m_tileSet->id() : QUuid());
+}
+
+TileMap *TileMap::fromData(const QByteArray &data, QObject *parent)
+{
+    const auto reader = TileMapFormat::Reader::open(data);
+    if (!reader)
+        return nullptr;
+    auto *map = new TileMap(reader->size(), parent);
+    map->m_rows = reader->rows();
+    return map;
+}
+
+QMimeData *TileMap::toMimeData(const QRect &area) const
+{
+    auto *mimeData = new QMimeData; // the caller owns it
+    mimeData->setData(mimeType(), serialise(area));
+    return mimeData;
+}
+
+void TileMap::paste(QPoint at, const QMimeData *mimeData)
+{
+    const QByteArray data = mimeData ? mimeData->data(mimeType()) : QByteArray();
+    const auto reader = TileMapFormat::Reader::open(data);
+    if (!reader)
+        return;
+    const QRect inside = QRect(at, reader->size()) & bounds();
+    for (int y = inside.top(); y <= inside.bottom(); ++y)
+        reader->readCells(inside.left() - at.x(), y - at.y(), inside.width(), m_rows[y].data() + inside.left());
+    m_picture->contentChanged();
+}
+
+TileMap::Selection TileMap::readSelection(const QMimeData *mimeData)
+{
+    const QByteArray data = mimeData ? mimeData->data(mimeType()) : QByteArray();
+    const auto reader = TileMapFormat::Reader::open(data);
+    if (!reader)
+        return {};
+    const QSize size = reader->size();
+    Selection selection{reader->tileSetId(), size, QList<TileData>(qsizetype(size.width()) * size.height())};
+    for (int y = 0; y < size.height(); ++y)
+        reader->readCells(0, y, size.width(), selection.cells.data() + qsizetype(y) * size.width());
+    return selection;
 }

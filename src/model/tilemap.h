@@ -145,9 +145,8 @@ signals:
     void tilesChanged();
 
 private:
-    [[nodiscard]] Row blankRow() const;
-    void setRows(const Rows &rows, int width);
-    void markStale();
+    /// The palette's colours; black without one.
+    [[nodiscard]] QList<QRgb> colourTable() const;
 
     QUuid m_id = QUuid::createUuid();
     int m_width = 0;

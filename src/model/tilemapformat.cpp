@@ -1,0 +1,143 @@
+#include "model/tilemapformat.h"
+
+#include <QtEndian>
+
+#include <algorithm>
+#include <cstring>
+
+namespace TileMapFormat {
+namespace {
+
+using TileData = TileMap::TileData;
+using Row = TileMap::Row;
+
+constexpr qsizetype HeaderSize = 8;
+constexpr qsizetype CellSize = 12;
+constexpr qsizetype IdSize = 16;
+constexpr qsizetype NextCellSize = 2;
+
+char *writeCell(char *to, const TileData &cell)
+{
+    qToBigEndian(qint32(cell.index), to);
+    to[4] = char(cell.used);
+    qToBigEndian(qint32(cell.offset), to + 5);
+    to[9] = char(cell.rotate);
+    to[10] = char(cell.flip);
+    to[11] = char(cell.mirror);
+    return to + CellSize;
+}
+
+TileData readCell(const uchar *from)
+{
+    TileData cell;
+    cell.index = qFromBigEndian<qint32>(from);
+    cell.used = from[4];
+    cell.offset = qFromBigEndian<qint32>(from + 5);
+    cell.rotate = from[9];
+    cell.flip = from[10];
+    cell.mirror = from[11];
+    return cell;
+}
+
+char *writeNextCell(char *to, const TileData &cell)
+{
+    to[0] = char(cell.index & 0xFF);
+    to[1] = char((cell.offset & 15) << 4 | int(cell.mirror) << 3 | int(cell.flip) << 2 | int(cell.rotate) << 1
+                 | (cell.index >> 8 & 1));
+    return to + NextCellSize;
+}
+
+} // namespace
+
+QByteArray toNextData(const TileMap::Rows &rows)
+{
+    const qsizetype width = rows.isEmpty() ? 0 : rows.first().size();
+    QByteArray data(rows.size() * width * NextCellSize, Qt::Uninitialized);
+    char *to = data.data();
+    for (const Row &row : rows) {
+        for (const TileData &cell : row)
+            to = writeNextCell(to, cell);
+    }
+    return data;
+}
+
+QByteArray serialise(const TileMap::Rows &rows, const QRect &area, const QUuid &tileSetId)
+{
+    const int width = std::max(area.width(), 0);
+    const int height = std::max(area.height(), 0);
+    const qsizetype rowSize = width * CellSize;
+    QByteArray data(HeaderSize + height * rowSize + IdSize, Qt::Uninitialized);
+    qToBigEndian(qint32(height), data.data());
+    qToBigEndian(qint32(width), data.data() + 4);
+
+    // zero cells are zero bytes, so what lies outside the grid is filled as bytes
+    char *to = data.data() + HeaderSize;
+    for (int y = area.top(); y < area.top() + height; ++y, to += rowSize) {
+        const Row row = rows.value(y);
+        const qsizetype first = std::clamp<qsizetype>(area.left(), 0, row.size());
+        const qsizetype end = std::clamp<qsizetype>(qsizetype(area.left()) + width, first, row.size());
+        char *cells = to;
+        if (first < end) {
+            cells = std::fill_n(to, (first - area.left()) * CellSize, '\0');
+            for (qsizetype x = first; x < end; ++x)
+                cells = writeCell(cells, row[x]);
+        }
+        std::fill(cells, to + rowSize, '\0');
+    }
+
+    const QByteArray id = tileSetId.toRfc4122();
+    std::copy(id.cbegin(), id.cend(), to);
+    return data;
+}
+
+Reader::Reader(const QByteArray &data, QSize size) : m_data(data), m_size(size) { }
+
+std::optional<Reader> Reader::open(const QByteArray &data)
+{
+    if (data.size() < HeaderSize)
+        return std::nullopt;
+    const qint32 height = qFromBigEndian<qint32>(data.constData());
+    const qint32 width = qFromBigEndian<qint32>(data.constData() + 4);
+    if (height < 0 || width < 0 || qint64(height) * width > (data.size() - HeaderSize) / CellSize)
+        return std::nullopt;
+    return Reader(data, height > 0 && width > 0 ? QSize(width, height) : QSize(0, 0));
+}
+
+const uchar *Reader::cellAt(int x, int y) const
+{
+    return reinterpret_cast<const uchar *>(m_data.constData()) + HeaderSize
+        + (qsizetype(y) * m_size.width() + x) * CellSize;
+}
+
+void Reader::readCells(int x, int y, int count, TileData *cells) const
+{
+    const uchar *from = cellAt(x, y);
+    for (int i = 0; i < count; ++i, from += CellSize)
+        cells[i] = readCell(from);
+}
+
+TileMap::Rows Reader::rows() const
+{
+    TileMap::Rows rows;
+    rows.reserve(m_size.height());
+    for (int y = 0; y < m_size.height(); ++y) {
+        const qsizetype rowSize = m_size.width() * CellSize;
+        if (y > 0 && std::memcmp(cellAt(0, y), cellAt(0, y - 1), size_t(rowSize)) == 0) {
+            rows.append(rows.last());
+            continue;
+        }
+        Row row(m_size.width());
+        readCells(0, y, m_size.width(), row.data());
+        rows.append(std::move(row));
+    }
+    return rows;
+}
+
+QUuid Reader::tileSetId() const
+{
+    const qsizetype cellBytes = CellSize * m_size.width() * m_size.height();
+    const auto id = QByteArrayView(m_data).sliced(HeaderSize + cellBytes);
+    return id.size() < IdSize ? QUuid() : QUuid::fromRfc4122(id.first(IdSize));
+}
+
+} // namespace TileMapFormat
