@@ -1,10 +1,22 @@
+#include "app/log.h"
+#include "app/mainwindow.h"
+#include "app/version.h"
+
 #include <QApplication>
-#include <QMainWindow>
+#include <QDir>
 
 int main(int argc, char **argv)
 {
-    QApplication application(argc, argv);
-    QMainWindow window;
-    window.show();
+    // before the application exists, so that what is said while it is made is logged, too
+    if (QDir(QStringLiteral("log")).exists())
+        installLogHandler();
+
+    QApplication::setApplicationName(QStringLiteral("Quenmora"));
+    QApplication::setOrganizationName(QStringLiteral("Corvandel"));
+    QApplication::setApplicationVersion(appVersion());
+    QApplication::setApplicationDisplayName(appDisplayName());
+
+    const QApplication application(argc, argv);
+    const MainWindow window;
     return QApplication::exec();
 }
