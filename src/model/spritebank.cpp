@@ -1,0 +1,328 @@
+#include "model/spritebank.h"
+
+#include "model/nximage.h"
+#include "model/spriteanim.h"
+#include "model/transform.h"
+
+#include <QFile>
+#include <QLoggingCategory>
+
+#include <algorithm>
+#include <cstring>
+#include <memory>
+
+SpriteBank::SpriteBank(Quenmora::Sprite depth, QObject *parent)
+    : QObject(parent)
+    , m_depth(depth)
+    , m_image(SpriteSize, SpriteSize, QImage::Format_Indexed8)
+{
+    m_image.fill(0);
+}
+
+void SpriteBank::setPalette(Palette *palette)
+{
+    if (m_palette)
+        disconnect(m_palette, &Palette::colourChanged, this, &SpriteBank::updateColour);
+    m_palette = palette;
+    if (!palette)
+        return;
+    connect(palette, &Palette::colourChanged, this, &SpriteBank::updateColour);
+    applyColours();
+}
+
+void SpriteBank::updateColour(int, QColor, bool)
+{
+    applyColours();
+}
+
+/// Gives the strip the palette's colours; it stays shared with snapshots when they are the same.
+void SpriteBank::applyColours()
+{
+    if (m_palette && m_image.colorTable() != m_palette->colourTable())
+        m_image.setColorTable(m_palette->colourTable());
+}
+
+// Pixels
+
+/// The picture as 8-bit indices. Sprites are stored as indexed pictures, and a PNG reader hands those
+/// over as grey or monochrome ones when the colours allow it: their pixel values are the indices.
+QImage SpriteBank::indexed(const QImage &image) const
+{
+    switch (image.format()) {
+    case QImage::Format_Indexed8:
+        return image;
+    case QImage::Format_Grayscale8: {
+        QImage indices = image;
+        indices.reinterpretAsFormat(QImage::Format_Indexed8);
+        return indices;
+    }
+    case QImage::Format_Mono:
+    case QImage::Format_MonoLSB:
+        return image.convertToFormat(QImage::Format_Indexed8);
+    default:
+        return m_palette ? remapped(image) : image.convertToFormat(QImage::Format_Indexed8);
+    }
+}
+
+/// The picture in the nearest colours of the bound palette, as its indices; null when that fails.
+QImage SpriteBank::remapped(const QImage &image) const
+{
+    NxImage picture;
+    picture.setImage(image);
+    return picture.remap(m_palette);
+}
+
+void SpriteBank::setWholeImage(const QImage &image)
+{
+    const int sprites = std::clamp(image.height() / SpriteSize, 1, MaxCount);
+    const QImage strip = indexed(image.copy(0, 0, SpriteSize, sprites * SpriteSize));
+    if (strip.isNull())
+        return;
+    m_image = strip;
+    applyColours();
+}
+
+/// Grows the strip by blank sprites, or cuts it.
+void SpriteBank::resize(int count)
+{
+    // the area that copy() adds has pixels of 0
+    m_image = m_image.copy(0, 0, SpriteSize, count * SpriteSize);
+}
+
+/// Overwrites a sprite with 256 indices. A row of the strip is 16 bytes, so a sprite lies in one piece.
+void SpriteBank::writePixels(int index, const uchar *pixels)
+{
+    std::memcpy(m_image.scanLine(index * SpriteSize), pixels, SpriteBytes);
+}
+
+void SpriteBank::setImage(int index, const QImage &image)
+{
+    const QImage sprite = indexed(image.copy(0, 0, SpriteSize, SpriteSize));
+    if (!contains(index) || sprite.isNull())
+        return;
+    writePixels(index, sprite.constBits());
+    emit imageChanged(index);
+}
+
+QImage SpriteBank::spriteImage(int index, bool rotate, bool flip, bool mirror) const
+{
+    // beyond the last row copy() yields pixels of 0: the blank sprite that stands for no sprite
+    const int row = contains(index) ? index * SpriteSize : m_image.height();
+    return oriented(m_image.copy(0, row, SpriteSize, SpriteSize), rotate, flip, mirror);
+}
+
+QImage SpriteBank::renderSprite(int index, int paletteOffset, bool rotate, bool flip, bool mirror) const
+{
+    if (!contains(index))
+        return {};
+    const QList<QRgb> colours = m_image.colorTable();
+    const bool fourBit = m_depth == Quenmora::FourBit;
+    const int bank = fourBit ? (paletteOffset & 15) << 4 : 0;
+    const int mask = fourBit ? 15 : 255;
+    const int transparent = fourBit ? m_transparency & mask : m_transparency;
+
+    QImage sprite(SpriteSize, SpriteSize, QImage::Format_ARGB32);
+    for (int y = 0; y < SpriteSize; ++y) {
+        const uchar *pixels = m_image.constScanLine(index * SpriteSize + y);
+        auto *out = reinterpret_cast<QRgb *>(sprite.scanLine(y));
+        for (int x = 0; x < SpriteSize; ++x) {
+            const int pixel = pixels[x] & mask;
+            const int colour = bank | pixel;
+            const bool visible = pixel != transparent && colour < colours.size();
+            out[x] = visible ? colours[colour] | 0xFF000000U : 0;
+        }
+    }
+    return oriented(sprite, rotate, flip, mirror);
+}
+
+// Sprites
+
+void SpriteBank::addSprite(bool emitSignal)
+{
+    if (!hasRoomFor(1))
+        return;
+    resize(count() + 1);
+    if (emitSignal)
+        emit countChanged();
+}
+
+void SpriteBank::deleteSprite(int index)
+{
+    if (!contains(index))
+        return;
+    if (count() == 1) {
+        m_image.fill(0);
+        return;
+    }
+    uchar *deleted = m_image.scanLine(index * SpriteSize);
+    std::memmove(deleted, deleted + SpriteBytes, size_t(count() - 1 - index) * SpriteBytes);
+    resize(count() - 1);
+    for (SpriteAnim *animation : std::as_const(m_animations))
+        animation->indexDeleted(index);
+    emit spriteDeleted(index);
+    emit countChanged();
+}
+
+void SpriteBank::clearSprite(int index)
+{
+    if (!contains(index))
+        return;
+    std::memset(m_image.scanLine(index * SpriteSize), 0, SpriteBytes);
+    emit imageChanged(index);
+}
+
+void SpriteBank::copySprite(int from, int to)
+{
+    if (!contains(from) || !contains(to))
+        return;
+    setImage(to, spriteImage(from, false, false, false));
+    emit imageChanged(from);
+}
+
+void SpriteBank::moveSprite(int from, int to)
+{
+    if (from == to || !contains(from) || !contains(to))
+        return;
+    const QImage moved = spriteImage(from, false, false, false);
+    const int step = from < to ? 1 : -1;
+    for (int i = from; i != to; i += step) {
+        setImage(i, spriteImage(i + step, false, false, false));
+        emit spriteSwapped(i, i + step);
+    }
+    setImage(to, moved);
+    emit spriteSwapped(to, from);
+    emit spriteMoved(from, to);
+}
+
+// Files
+
+bool SpriteBank::importSpr(const QString &fileName)
+{
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly) || !hasRoomFor(file.size() / SpriteBytes))
+        return false;
+    const QByteArray data = file.read(file.size());
+    const int first = count();
+    const int sprites = int(data.size() / SpriteBytes);
+    // grown once, so that a long file does not copy the strip for every sprite
+    resize(first + sprites);
+    for (int i = 0; i < sprites; ++i)
+        writePixels(first + i, reinterpret_cast<const uchar *>(data.constData()) + i * SpriteBytes);
+    for (int i = 0; i < sprites; ++i) {
+        emit countChanged();
+        emit imageChanged(first + i);
+    }
+    return true;
+}
+
+bool SpriteBank::exportSpr(const QString &fileName) const
+{
+    QFile file(fileName);
+    if (!file.open(QIODevice::WriteOnly))
+        return false;
+    const auto *pixels = reinterpret_cast<const char *>(m_image.constBits());
+    return file.write(pixels, m_image.sizeInBytes()) == m_image.sizeInBytes() && file.flush();
+}
+
+int SpriteBank::importImageFile(const QString &fileName)
+{
+    NxImage picture;
+    const bool loaded = picture.load(fileName);
+    const int columns = picture.image().width() / SpriteSize;
+    const int rows = picture.image().height() / SpriteSize;
+    if (!loaded || !hasRoomFor(qsizetype(rows) * columns)) {
+        qInfo("Failed to load image");
+        return -1;
+    }
+    const QImage mapped = m_palette ? picture.remap(m_palette) : QImage();
+    if (mapped.isNull()) {
+        qInfo("Could not remap colours");
+        return -1;
+    }
+    const int first = count();
+    resize(first + rows * columns);
+    for (int row = 0; row < rows; ++row) {
+        for (int column = 0; column < columns; ++column) {
+            const QPoint corner(column * SpriteSize, row * SpriteSize);
+            setImage(first + row * columns + column, mapped.copy({corner, QSize(SpriteSize, SpriteSize)}));
+        }
+    }
+    emit countChanged();
+    return count();
+}
+
+void SpriteBank::importImage(int index, const QImage &image)
+{
+    if (m_palette && !image.isNull())
+        setImage(index, remapped(image.copy(0, 0, SpriteSize, SpriteSize)));
+}
+
+// Animations
+
+QList<QPointer<SpriteAnim>> SpriteBank::animations() const
+{
+    return {m_animations.cbegin(), m_animations.cend()};
+}
+
+QPointer<SpriteAnim> SpriteBank::animation(QUuid id) const
+{
+    const auto found = std::find_if(m_animations.cbegin(), m_animations.cend(),
+                                    [id](const SpriteAnim *animation) { return animation->id() == id; });
+    return found == m_animations.cend() ? nullptr : *found;
+}
+
+QPointer<SpriteAnim> SpriteBank::addAnimation(QUuid id)
+{
+    auto *added = new SpriteAnim(this);
+    if (!animation(id))
+        added->setId(id);
+    m_animations.append(added);
+    emit animationsChanged();
+    return added;
+}
+
+QPointer<SpriteAnim> SpriteBank::newAnimation()
+{
+    return addAnimation(QUuid::createUuid());
+}
+
+void SpriteBank::deleteAnimation(QUuid id)
+{
+    const QPointer<SpriteAnim> deleted = animation(id);
+    if (!deleted)
+        return;
+    m_animations.removeOne(deleted.data());
+    std::unique_ptr<SpriteAnim>(deleted.data()).reset();
+    emit animationsChanged();
+}
+
+// Undo
+
+bool SpriteBank::State::operator==(const State &other) const
+{
+    return image.size() == other.image.size()
+        && std::equal(image.constBits(), image.constBits() + image.sizeInBytes(), other.image.constBits())
+        && animations == other.animations;
+}
+
+SpriteBank::State SpriteBank::snapshot() const
+{
+    State state{m_image, {}};
+    for (const SpriteAnim *animation : m_animations)
+        state.animations.insert(animation->id(), animation->state());
+    return state;
+}
+
+void SpriteBank::restore(const State &state)
+{
+    m_image = state.image;
+    // the palette may have changed since the snapshot
+    applyColours();
+    for (SpriteAnim *animation : std::as_const(m_animations)) {
+        const auto saved = state.animations.constFind(animation->id());
+        if (saved != state.animations.constEnd())
+            animation->restore(*saved);
+    }
+    emit countChanged();
+    emit restored();
+}
