@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QtLogging>
+#include <QtGlobal>
 
 class QFile;
 class QMessageLogContext;

@@ -5,7 +5,7 @@
 #include "model/transform.h"
 
 #include <QFile>
-#include <QLoggingCategory>
+#include <QDebug>
 
 #include <algorithm>
 #include <cstring>
