@@ -22,6 +22,7 @@ DialogBase::DialogBase(const QString &title, QWidget *parent)
 {
     setWindowTitle(title);
     setModal(true);
+    setMinimumWidth(fontMetrics().averageCharWidth() * 50); // room for a name and for the title
 
     QFont bold = m_header->font();
     bold.setBold(true);

@@ -12,8 +12,9 @@ DockWidget::DockWidget(const QString &title, const QString &placeholder, QWidget
     m_placeholder->setWordWrap(true);
     m_placeholder->setForegroundRole(QPalette::PlaceholderText);
     m_placeholder->setMargin(8);
-    // a page that is not shown must not keep the dock from being made small
+    // the text wraps; neither it nor its page keeps the dock from being made small
     m_placeholder->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+    m_placeholder->setMinimumHeight(4 * m_placeholder->fontMetrics().lineSpacing());
     m_pages->addWidget(m_placeholder);
     setWidget(m_pages);
 }

@@ -15,7 +15,6 @@ MessageDialog::MessageDialog(QWidget *parent) : QDialog(parent), m_icon(new QLab
 {
     setWindowTitle(defaultTitle());
     setModal(true);
-    setWindowFlag(Qt::WindowContextHelpButtonHint, false);
 
     m_text->setObjectName(QStringLiteral("text"));
     m_text->setWordWrap(true);

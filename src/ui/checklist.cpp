@@ -1,0 +1,70 @@
+#include "ui/checklist.h"
+
+#include <QMouseEvent>
+
+CheckList::CheckList(QWidget *parent) : QListWidget(parent)
+{
+    setUniformItemSizes(true);
+    setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    connect(this, &QListWidget::itemChanged, this, [this](QListWidgetItem *changed) {
+        emit checkChanged(row(changed), changed->checkState() == Qt::Checked);
+    });
+}
+
+int CheckList::addCheck(const QString &text, bool checked, const QVariant &userData)
+{
+    auto *added = new QListWidgetItem(text);
+    added->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
+    added->setCheckState(checked ? Qt::Checked : Qt::Unchecked);
+    added->setData(Qt::UserRole, userData);
+    addItem(added);
+    return count() - 1;
+}
+
+bool CheckList::isChecked(int index) const
+{
+    const QListWidgetItem *found = item(index);
+    return found && found->checkState() == Qt::Checked;
+}
+
+void CheckList::setChecked(int index, bool checked)
+{
+    if (item(index) && isChecked(index) != checked) {
+        item(index)->setCheckState(checked ? Qt::Checked : Qt::Unchecked);
+    }
+}
+
+void CheckList::setAllChecked(bool checked)
+{
+    for (int index = 0; index < count(); ++index) {
+        setChecked(index, checked);
+    }
+}
+
+QList<int> CheckList::checkedIndexes() const
+{
+    QList<int> checked;
+    for (int index = 0; index < count(); ++index) {
+        if (isChecked(index)) {
+            checked.append(index);
+        }
+    }
+    return checked;
+}
+
+QVariant CheckList::dataAt(int index) const
+{
+    return item(index) ? item(index)->data(Qt::UserRole) : QVariant();
+}
+
+void CheckList::mouseReleaseEvent(QMouseEvent *event)
+{
+    QListWidgetItem *const clicked = itemAt(event->position().toPoint());
+    const Qt::CheckState before = clicked ? clicked->checkState() : Qt::Unchecked;
+    QListWidget::mouseReleaseEvent(event);
+    // the box itself has been dealt with by the list; the rest of the row does the same
+    if (clicked && event->button() == Qt::LeftButton && clicked == currentItem() && clicked->checkState() == before) {
+        setChecked(row(clicked), before != Qt::Checked);
+    }
+}
