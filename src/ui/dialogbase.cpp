@@ -101,9 +101,10 @@ void DialogBase::showEvent(QShowEvent *event)
 {
     if (!event->spontaneous()) {
         setError({});
+        // the buttons were made before the fields of the subclass and would come first
         for (QWidget *next = nextInFocusChain(); next && next != this; next = next->nextInFocusChain()) {
-            if (isAncestorOf(next) && next->isVisibleTo(this) && next->isEnabled()
-                && (next->focusPolicy() & Qt::TabFocus)) {
+            if ((next->focusPolicy() & Qt::TabFocus) && next->isVisibleTo(this) && next->isEnabled()
+                && !m_buttons->isAncestorOf(next)) {
                 next->setFocus(Qt::TabFocusReason); // selects the text of a line edit
                 break;
             }

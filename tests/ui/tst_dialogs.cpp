@@ -76,6 +76,10 @@ void TestDialogs::dialogStartsCleanWithTheKeyboardInTheFirstField()
     QCOMPARE(dialog.error(), QString());
     QCOMPARE(dialog.focusWidget(), dialog.name);
     QCOMPARE(dialog.name->selectedText(), QStringLiteral("Forest"));
+    QTest::keyClick(dialog.name, Qt::Key_Tab);
+    QCOMPARE(dialog.focusWidget(), dialog.okButton());
+    QTest::keyClick(dialog.okButton(), Qt::Key_Backtab);
+    QCOMPARE(dialog.focusWidget(), dialog.name);
 }
 
 void TestDialogs::messagesWaitForTheirTurn()
