@@ -1,9 +1,9 @@
 #include "model/palette.h"
 
 #include "model/nextcolour.h"
+#include "model/rawfile.h"
 
 #include <QFile>
-#include <QFileInfo>
 #include <QtEndian>
 
 #include <limits>
@@ -178,9 +178,7 @@ bool Palette::exportData(const QString &fileName) const
 {
     QByteArray bytes(fileSize(fileName), '\0');
     qToBigEndian<quint16>(m_words.data(), Size, bytes.data());
-
-    QFile file(fileName);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush();
+    return RawFile::write(fileName, bytes);
 }
 
 bool Palette::importData(const QString &fileName)
@@ -198,9 +196,5 @@ bool Palette::importData(const QString &fileName)
 
 bool Palette::exportToDirectory(const QString &folder) const
 {
-    const QString file = m_name + QLatin1String("_palette.bin");
-    // a name with a path in it, which a foreign project may hold, must not lead out of the folder
-    if (QFileInfo(file).fileName() != file)
-        return false;
-    return exportData(folder + QLatin1Char('/') + file);
+    return exportData(RawFile::pathIn(folder, m_name + QLatin1String("_palette.bin")));
 }

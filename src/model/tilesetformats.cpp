@@ -1,20 +1,11 @@
 // The raw files that a tile set writes and reads.
 
+#include "model/rawfile.h"
 #include "model/tileset.h"
 
 #include <QFile>
 
 #include <algorithm>
-
-namespace {
-
-bool writeFile(const QString &fileName, const QByteArray &bytes, QIODevice::OpenMode mode = {})
-{
-    QFile file(fileName);
-    return file.open(QIODevice::WriteOnly | mode) && file.write(bytes) == bytes.size() && file.flush();
-}
-
-} // namespace
 
 // Next tile data (".nxt"): 32 bytes a tile, in order, no header. In a tile:
 //
@@ -32,12 +23,12 @@ QByteArray TileSet::nextData() const
 
 bool TileSet::exportNxt(const QString &fileName) const
 {
-    return writeFile(fileName, nextData());
+    return RawFile::write(fileName, nextData());
 }
 
 bool TileSet::exportToDirectory(const QString &folder) const
 {
-    return exportNxt(QStringLiteral("%1/%2_tiles.nxt").arg(folder, m_name));
+    return exportNxt(RawFile::pathIn(folder, m_name + QLatin1String("_tiles.nxt")));
 }
 
 bool TileSet::importNxt(const QString &filename)
@@ -65,12 +56,12 @@ bool TileSet::exportBlocks(const QString &fileName, int startBlock, int endBlock
 {
     constexpr int blockSize = Tile::Size * Tile::Size;
     const int first = std::max(startBlock, 1) - 1;
-    const int blocks = std::max(std::min(count(), endBlock) - first, 0);
+    const int blocks = std::max(std::clamp(endBlock, 0, count()) - first, 0);
     QByteArray bytes(qsizetype(blocks) * blockSize, '\0');
     auto *target = reinterpret_cast<uchar *>(bytes.data());
     for (int i = first; i < first + blocks; ++i, target += blockSize)
         renderTile(i, rotate, false, rotate, tileOffset(i), target, Tile::Size);
-    return writeFile(fileName, bytes);
+    return RawFile::write(fileName, bytes);
 }
 
 // Attribute tables: as text the names of the attributes, then "db" lines of sixteen values; as binary
@@ -94,7 +85,7 @@ bool TileSet::exportAttributesAsm(const QString &fileName) const
         text += QByteArray::number(static_cast<uint>(tile(i)->attributes()), 16).rightJustified(2, '0');
         text += (i + 1) % columns == 0 || i + 1 == count() ? '\n' : ',';
     }
-    return writeFile(fileName, text, QIODevice::Text);
+    return RawFile::write(fileName, text, QIODevice::Text);
 }
 
 bool TileSet::exportAttributesBinary(const QString &fileName) const
@@ -103,7 +94,7 @@ bool TileSet::exportAttributesBinary(const QString &fileName) const
     bytes.reserve(count());
     for (const auto &tile : m_tiles)
         bytes += static_cast<char>(tile->attributes());
-    return writeFile(fileName, bytes);
+    return RawFile::write(fileName, bytes);
 }
 
 // ZX Spectrum fonts (".bin", ".raw", ".ch8"): 8 bytes a character, one a row, bit 7 leftmost.
