@@ -8,12 +8,15 @@
 
 namespace {
 
-/// Draws the cells of a frame, as far as size reaches, with their top left corner at origin.
+/// Draws the cells of a frame, as far as size reaches, with their top left corner at origin; cells that name no
+/// tile draw nothing.
 void drawFrame(QPainter &painter, QPoint origin, const AnimationFrame &frame, QSize size, const TileSet &tiles)
 {
     for (int row = 0; row < size.height(); ++row) {
         for (int column = 0; column < size.width(); ++column) {
             const AnimationFrame::Cell cell = frame.cell(row, column);
+            if (cell.index < 0 || cell.index >= tiles.count())
+                continue;
             painter.drawImage(origin + QPoint(column, row) * Tile::Size,
                               tiles.tileImage(cell.index, cell.rotate, cell.flip, cell.mirror, cell.offset));
         }

@@ -41,8 +41,12 @@ Tile::Tile(const State &state, QObject *parent) : QObject(parent), m_state(state
 
 void Tile::setImage(const QImage &image)
 {
-    m_state.image =
+    QImage copy =
         image.format() == QImage::Format_Indexed8 ? image.copy() : image.convertToFormat(QImage::Format_Indexed8);
+    // whoever paints looks pixels up in the table without a check
+    if (!copy.isNull() && copy.colorCount() < ColourCount)
+        copy.setColorCount(ColourCount);
+    m_state.image = copy;
 }
 
 Tile::Pixels Tile::pixels() const
@@ -257,7 +261,7 @@ void TileSet::importImage(int index, const QImage &image, int offset)
     if (!contains(index) || !m_palette || image.isNull())
         return;
     NxImage picture;
-    picture.setImage(image);
+    picture.setImage(image.copy(image.rect() & QRect(0, 0, Tile::Size, Tile::Size)));
     tile(index)->setOffset(offset);
     tile(index)->setImage(picture.remap(m_palette));
     emit tileChanged(index);
