@@ -8,7 +8,7 @@
 namespace {
 
 /// A frame of an animation of this size, each cell as draw(cell) gives it; a null picture draws nothing.
-template<typename Draw>
+template <typename Draw>
 QImage composed(const AnimationFrame &frame, QSize size, int cellSize, Draw draw)
 {
     QImage image(size * cellSize, QImage::Format_ARGB32);
@@ -25,8 +25,7 @@ QImage composed(const AnimationFrame &frame, QSize size, int cellSize, Draw draw
 
 } // namespace
 
-SpriteAnim::SpriteAnim(QObject *parent)
-    : Animation(Sprites, tr("New Sprite"), parent)
+SpriteAnim::SpriteAnim(QObject *parent) : Animation(Sprites, tr("New Sprite"), parent)
 {
     addFrame();
 }
