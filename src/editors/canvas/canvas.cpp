@@ -125,9 +125,7 @@ void Canvas::setTallPixels(bool tall)
 {
     if (tall == m_geometry.tallPixels)
         return;
-    m_geometry.tallPixels = tall;
-    relayout();
-    update();
+    relayout([tall](CanvasGeometry &geometry) { geometry.tallPixels = tall; });
 }
 
 bool Canvas::hasSelection() const
@@ -186,9 +184,8 @@ void Canvas::setPasteMode(QUuid paletteId)
 
 void Canvas::setZoomLevel(int level)
 {
-    m_geometry.zoom = std::clamp(level, CanvasGeometry::MinimumZoom, CanvasGeometry::MaximumZoom);
-    relayout();
-    update();
+    const int zoom = std::clamp(level, CanvasGeometry::MinimumZoom, CanvasGeometry::MaximumZoom);
+    relayout([zoom](CanvasGeometry &geometry) { geometry.zoom = zoom; });
 }
 
 void Canvas::setGridLinesVisible(bool visible)
@@ -214,7 +211,6 @@ void Canvas::setImage(const QImage &image)
     m_layer.setImage(image);
     m_layer.reloadColourTable();
     relayout();
-    update();
     emit imageChanged();
 }
 
@@ -440,10 +436,12 @@ void Canvas::placeSelection(const QRect &pixels)
 
 // ---- Events ---------------------------------------------------------------------------------
 
-void Canvas::relayout()
+void Canvas::relayout(const std::function<void(CanvasGeometry &)> &change)
 {
     const QRect selected = selection();
     const QPoint scroll = m_geometry.scroll;
+    if (change)
+        change(m_geometry);
     m_geometry.layout(size(), image().size());
     const QSize overflow = m_geometry.overflow(size(), image().size());
     emit scrollValuesChanged(overflow.width(), overflow.height());
@@ -452,6 +450,7 @@ void Canvas::relayout()
     if (!selected.isEmpty())
         placeSelection(selected);
     updateGeometry();
+    update();
 }
 
 void Canvas::resizeEvent(QResizeEvent *)

@@ -131,7 +131,8 @@ private slots:
 
 private:
     void buildContextMenu();
-    void relayout();
+    /// Changes the geometry, if asked to, and fits the image; the selection stays on its pixels.
+    void relayout(const std::function<void(CanvasGeometry &)> &change = {});
     void scrollBy(QPoint delta);
     void applyEdit(const QString &text, PixelEditCommand::Kind kind,
                    const std::function<void(Layer2Image &)> &operation);
