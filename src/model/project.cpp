@@ -266,15 +266,12 @@ QPointer<Map> Project::cloneMap(const QUuid &id)
 bool Project::deletePalette(const QUuid &id)
 {
     const QPointer<Palette> palette = this->palette(id);
-    if (palette) {
-        const auto uses = [&palette](const auto &asset) { return asset->palette() == palette; };
-        const QList<QPointer<TileSet>> tileSets = this->tileSets();
-        const QList<QPointer<SpriteBank>> banks = spriteBanks();
-        const QList<QPointer<Image>> images = this->images();
-        if (std::any_of(tileSets.begin(), tileSets.end(), uses) || std::any_of(banks.begin(), banks.end(), uses)
-            || std::any_of(images.begin(), images.end(), uses) || id == m_scratchPaletteId)
-            return false;
-    }
+    const auto bound = [&palette](const auto &assets) {
+        return std::any_of(assets.begin(), assets.end(),
+                           [&palette](const auto &asset) { return asset->palette() == palette; });
+    };
+    if (palette && (bound(tileSets()) || bound(spriteBanks()) || bound(images()) || id == m_scratchPaletteId))
+        return false;
     delete m_palettes.take(id).data();
     return true;
 }
