@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QLabel>
 #include <QPlainTextEdit>
+#include <QRegularExpression>
 #include <QShowEvent>
 #include <QVBoxLayout>
 
@@ -24,7 +25,9 @@ QPlainTextEdit *makeLicenceText(QWidget *parent)
     text->setAccessibleName(AboutBox::tr("Licence of the icons"));
     QFile licence(QStringLiteral(":/licences/lucide"));
     if (licence.open(QIODevice::ReadOnly)) {
-        text->setPlainText(QString::fromUtf8(licence.readAll()));
+        // the lines of a paragraph are joined, so that they break where the window does
+        static const QRegularExpression lineEnd(QStringLiteral("(?<!\\n)\\n(?!\\n)"));
+        text->setPlainText(QString::fromUtf8(licence.readAll()).replace(lineEnd, QStringLiteral(" ")));
     }
     return text;
 }
@@ -83,7 +86,7 @@ AboutBox::AboutBox(QWidget *parent) : QDialog(parent), m_status(new QLabel(this)
     layout->addWidget(licences);
     layout->addStretch();
     layout->addWidget(buttons);
-    setMinimumWidth(fontMetrics().averageCharWidth() * 84);
+    setMinimumWidth(fontMetrics().averageCharWidth() * 75);
 }
 
 QString AboutBox::status() const
