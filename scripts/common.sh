@@ -1,0 +1,59 @@
+# What ./run and ./test share: installing what is missing, and building a preset.
+# Sourced by bash, from the top folder of the source tree.
+
+# Everything that builds and starts the program (names of Debian 12).
+build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-svg-dev libgl1-mesa-dev libminizip-dev zlib1g-dev
+    fonts-dejavu-core)
+
+jobs=$(nproc 2>/dev/null || echo 2)
+
+say() { printf '\033[1m==> %s\033[0m\n' "$*"; }
+
+fail() {
+    printf '%s\n' "$*" >&2
+    exit 1
+}
+
+# quietly LOG COMMAND...: keeps what the command prints in a file, and shows it when the command fails.
+quietly() {
+    local log=$1
+    shift
+    mkdir -p "$(dirname "$log")"
+    "$@" >"$log" 2>&1 </dev/null || {
+        cat "$log" >&2
+        exit 1
+    }
+}
+
+# install_missing PACKAGE...: one call of apt, and none when all packages are there.
+install_missing() {
+    # elsewhere than on Debian and its relatives, the build says what it lacks
+    command -v dpkg-query >/dev/null || return 0
+
+    local installed missing=() package
+    installed=$(dpkg-query --show --showformat '${db:Status-Status} ${Package}\n' "$@" 2>/dev/null) || true
+    for package in "$@"; do
+        grep -qxF "installed $package" <<<"$installed" || missing+=("$package")
+    done
+    ((${#missing[@]})) || return 0
+
+    local as_root=()
+    if ((EUID != 0)); then
+        command -v sudo >/dev/null || fail "Missing: ${missing[*]}. Install with apt-get as root, then start again."
+        as_root=(sudo)
+        sudo -v || exit 1 # asks for the password before the output goes to a file
+    fi
+    say "Installing ${missing[*]}"
+    quietly build/install.log "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive sh -c \
+        'apt-get -q update && apt-get -q install --yes --no-install-recommends "$@"' sh "${missing[@]}"
+}
+
+# configure PRESET [OPTION...]: only when the preset was not configured yet, or has changed since;
+# otherwise the build itself notices what is new.
+configure() {
+    local preset=$1
+    shift
+    [[ build/$preset/build.ninja -nt CMakePresets.json ]] && return
+    say "Configuring the $preset build"
+    quietly "build/configure-$preset.log" cmake --preset "$preset" "$@"
+}
