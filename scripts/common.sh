@@ -1,3 +1,4 @@
+# shellcheck shell=bash disable=SC2034
 # What ./run and ./test share: installing what is missing, and building a preset.
 # Sourced by bash, from the top folder of the source tree.
 

@@ -1,11 +1,12 @@
 #include "model/spritebank.h"
 
 #include "model/nximage.h"
+#include "model/rawfile.h"
 #include "model/spriteanim.h"
 #include "model/transform.h"
 
-#include <QFile>
 #include <QDebug>
+#include <QFile>
 
 #include <algorithm>
 #include <cstring>
@@ -157,7 +158,7 @@ void SpriteBank::deleteSprite(int index)
     uchar *deleted = m_image.scanLine(index * SpriteSize);
     std::memmove(deleted, deleted + SpriteBytes, size_t(count() - 1 - index) * SpriteBytes);
     resize(count() - 1);
-    for (SpriteAnim *animation : std::as_const(m_animations))
+    for (const auto &animation : animations())
         animation->indexDeleted(index);
     emit spriteDeleted(index);
     emit countChanged();
@@ -217,11 +218,8 @@ bool SpriteBank::importSpr(const QString &fileName)
 
 bool SpriteBank::exportSpr(const QString &fileName) const
 {
-    QFile file(fileName);
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
     const auto *pixels = reinterpret_cast<const char *>(m_image.constBits());
-    return file.write(pixels, m_image.sizeInBytes()) == m_image.sizeInBytes() && file.flush();
+    return RawFile::write(fileName, QByteArray::fromRawData(pixels, m_image.sizeInBytes()));
 }
 
 int SpriteBank::importImageFile(const QString &fileName)
@@ -259,24 +257,12 @@ void SpriteBank::importImage(int index, const QImage &image)
 
 // Animations
 
-QList<QPointer<SpriteAnim>> SpriteBank::animations() const
-{
-    return {m_animations.cbegin(), m_animations.cend()};
-}
-
-QPointer<SpriteAnim> SpriteBank::animation(QUuid id) const
-{
-    const auto found = std::find_if(m_animations.cbegin(), m_animations.cend(),
-                                    [id](const SpriteAnim *animation) { return animation->id() == id; });
-    return found == m_animations.cend() ? nullptr : *found;
-}
-
 QPointer<SpriteAnim> SpriteBank::addAnimation(QUuid id)
 {
-    auto *added = new SpriteAnim(this);
+    const QPointer<SpriteAnim> added = new SpriteAnim(this);
     if (!animation(id))
         added->setId(id);
-    m_animations.append(added);
+    m_animations.insert(added);
     emit animationsChanged();
     return added;
 }
@@ -288,11 +274,10 @@ QPointer<SpriteAnim> SpriteBank::newAnimation()
 
 void SpriteBank::deleteAnimation(QUuid id)
 {
-    const QPointer<SpriteAnim> deleted = animation(id);
+    std::unique_ptr<SpriteAnim> deleted(m_animations.take(id));
     if (!deleted)
         return;
-    m_animations.removeOne(deleted.data());
-    std::unique_ptr<SpriteAnim>(deleted.data()).reset();
+    deleted.reset();
     emit animationsChanged();
 }
 
@@ -308,7 +293,7 @@ bool SpriteBank::State::operator==(const State &other) const
 SpriteBank::State SpriteBank::snapshot() const
 {
     State state{m_image, {}};
-    for (const SpriteAnim *animation : m_animations)
+    for (const auto &animation : animations())
         state.animations.insert(animation->id(), animation->state());
     return state;
 }
@@ -318,7 +303,7 @@ void SpriteBank::restore(const State &state)
     m_image = state.image;
     // the palette may have changed since the snapshot
     applyColours();
-    for (SpriteAnim *animation : std::as_const(m_animations)) {
+    for (const auto &animation : animations()) {
         const auto saved = state.animations.constFind(animation->id());
         if (saved != state.animations.constEnd())
             animation->restore(*saved);

@@ -1,11 +1,14 @@
 #pragma once
 
 #include "model/animation.h"
+#include "model/assetregistry.h"
 #include "model/enums.h"
 #include "model/palette.h"
 
+#include <QByteArray>
 #include <QHash>
 #include <QImage>
+#include <QList>
 #include <QObject>
 #include <QPointer>
 #include <QUuid>
@@ -93,9 +96,9 @@ public:
     void importImage(int index, const QImage &image);
 
     /// The bank's animations in the order in which they were added.
-    [[nodiscard]] QList<QPointer<SpriteAnim>> animations() const;
+    [[nodiscard]] QList<QPointer<SpriteAnim>> animations() const { return m_animations.all(); }
     /// The animation with this id, or null.
-    [[nodiscard]] QPointer<SpriteAnim> animation(QUuid id) const;
+    [[nodiscard]] QPointer<SpriteAnim> animation(QUuid id) const { return m_animations.find(id); }
     /// Adds an animation with this id, or with a new one where another animation has it already.
     QPointer<SpriteAnim> addAnimation(QUuid id);
     QPointer<SpriteAnim> newAnimation();
@@ -145,5 +148,5 @@ private:
     QByteArray m_offsets = QByteArray(1, '\0');
     QImage m_image;
     QPointer<Palette> m_palette;
-    QList<SpriteAnim *> m_animations;
+    AssetRegistry<SpriteAnim> m_animations;
 };
