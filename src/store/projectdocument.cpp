@@ -1,0 +1,177 @@
+#include "store/projectdocument.h"
+
+#include "model/image.h"
+#include "model/map.h"
+#include "model/mapobjects.h"
+#include "model/palette.h"
+#include "model/project.h"
+#include "model/spritebank.h"
+#include "model/tileset.h"
+#include "store/blocksetdocument.h"
+#include "store/documentreader.h"
+#include "store/imagedocument.h"
+#include "store/mapdocument.h"
+#include "store/palettedocument.h"
+#include "store/pngmember.h"
+#include "store/spritebankdocument.h"
+#include "store/tilesetdocument.h"
+
+#include <QCoreApplication>
+#include <QJsonArray>
+#include <QJsonDocument>
+
+namespace {
+
+/// Version 2 is written; 1 differs from it in nothing that a reader would see.
+constexpr int FormatVersion = 2;
+constexpr int OldestVersion = 1;
+
+/// What the largest projects need many times over; parsing takes several times as much memory.
+constexpr qsizetype MaxDocumentSize = qsizetype(128) << 20;
+
+constexpr QLatin1String DocumentMember("project.json");
+constexpr QLatin1String ScratchMember("scratch.png");
+
+constexpr QLatin1String Version("formatVersion");
+constexpr QLatin1String Id("id");
+constexpr QLatin1String Name("name");
+constexpr QLatin1String ScreenSize("screen_size");
+constexpr QLatin1String PlayArea("play_area");
+constexpr QLatin1String X("x");
+constexpr QLatin1String Y("y");
+constexpr QLatin1String Width("width");
+constexpr QLatin1String Height("height");
+constexpr QLatin1String ScratchPalette("scratchPalette");
+constexpr QLatin1String OpenDocuments("opendocuments");
+constexpr QLatin1String Palettes("palettes");
+constexpr QLatin1String TileSets("tilesets");
+constexpr QLatin1String Maps("maps");
+constexpr QLatin1String BlockSets("mapObjects");
+constexpr QLatin1String SpriteBanks("sprites");
+constexpr QLatin1String Images("images");
+
+constexpr QSize DefaultScreenSize(320, 256);
+
+template <class Asset, class Write>
+QJsonArray writeAll(const QList<QPointer<Asset>> &assets, Write write)
+{
+    QJsonArray objects;
+    for (const QPointer<Asset> &asset : assets)
+        objects.append(write(*asset));
+    return objects;
+}
+
+QJsonObject writeSettings(const Project &project)
+{
+    const QSize screen = project.screenSize();
+    const QRect area = project.playArea();
+    return {
+        {Version, FormatVersion},
+        {Id, project.id().toString()},
+        {Name, project.name()},
+        {ScreenSize, QJsonObject{{Width, screen.width()}, {Height, screen.height()}}},
+        {PlayArea, QJsonObject{{X, area.x()}, {Y, area.y()}, {Width, area.width()}, {Height, area.height()}}},
+        {ScratchPalette, project.scratchPaletteId().toString()},
+    };
+}
+
+void readSettings(Project &project, const QJsonObject &document)
+{
+    const QJsonObject screen = document.value(ScreenSize).toObject();
+    const QJsonObject area = document.value(PlayArea).toObject();
+    project.setName(document.value(Name).toString());
+    project.setId(DocumentValue::id(document, Id));
+    project.setScreenSize({DocumentValue::coordinate(screen, Width, DefaultScreenSize.width()),
+                           DocumentValue::coordinate(screen, Height, DefaultScreenSize.height())});
+    project.setPlayArea({DocumentValue::coordinate(area, X), DocumentValue::coordinate(area, Y),
+                         DocumentValue::coordinate(area, Width, DefaultScreenSize.width()),
+                         DocumentValue::coordinate(area, Height, DefaultScreenSize.height())});
+    project.setScratchPaletteId(DocumentValue::id(document, ScratchPalette));
+    QStringList openDocuments;
+    for (const QJsonValue &entry : document.value(OpenDocuments).toArray())
+        openDocuments.append(entry.toString());
+    project.setOpenDocuments(openDocuments);
+}
+
+/// Reads one kind of asset; stops at the first that cannot be read.
+template <class Read>
+bool readAll(DocumentReader &reader, const QJsonValue &objects, Read read)
+{
+    for (const QJsonValue &object : objects.toArray()) {
+        if (!read(reader, object.toObject()))
+            return false;
+    }
+    return true;
+}
+
+/// Palettes come first, because the other assets bind them, tile sets before what is made of tiles.
+bool readAssetsWithMembers(DocumentReader &reader, const QJsonObject &document)
+{
+    for (const QJsonValue &palette : document.value(Palettes).toArray())
+        readPalette(reader, palette.toObject());
+    return readAll(reader, document.value(TileSets), readTileSet) && readAll(reader, document.value(Maps), readMap)
+        && readAll(reader, document.value(SpriteBanks), readSpriteBank)
+        && readAll(reader, document.value(Images), readImage);
+}
+
+/// The scratch image keeps its own palette, or gets the first one when that is gone.
+void readScratch(DocumentReader &reader)
+{
+    Project &project = reader.project;
+    if (const auto palettes = project.palettes(); !project.scratchPalette() && !palettes.isEmpty())
+        project.setScratchPalette(palettes.first());
+    const QImage stored = PngMember::decode(reader.member(ScratchMember));
+    if (stored.size() == project.scratchImage().size() && stored.depth() <= 8 && !stored.isNull())
+        project.setScratchImage(stored.convertToFormat(QImage::Format_Indexed8));
+}
+
+/// Every placement names an animation of a block set, so this comes last.
+void readBlockSets(DocumentReader &reader, const QJsonObject &document)
+{
+    for (const QJsonValue &blocks : document.value(BlockSets).toArray())
+        readBlockSet(reader, blocks.toObject());
+    const QList<QPointer<MapObjects>> blockSets = reader.project.blockSets();
+    for (const QPointer<Map> &map : reader.project.maps())
+        map->restampAnimations(blockSets);
+}
+
+} // namespace
+
+ProjectMembers serializeProject(const Project &project, bool includeOpenDocuments)
+{
+    ProjectMembers members;
+    QJsonObject document = writeSettings(project);
+    if (includeOpenDocuments)
+        document.insert(OpenDocuments, QJsonArray::fromStringList(project.openDocuments()));
+    document.insert(Palettes, writeAll(project.palettes(), writePalette));
+    document.insert(BlockSets, writeAll(project.blockSets(), writeBlockSet));
+    const auto withMembers = [&members](auto write) {
+        return [&members, write](const auto &asset) { return write(asset, members); };
+    };
+    document.insert(TileSets, writeAll(project.tileSets(), withMembers(writeTileSet)));
+    document.insert(Maps, writeAll(project.maps(), withMembers(writeMap)));
+    document.insert(SpriteBanks, writeAll(project.spriteBanks(), withMembers(writeSpriteBank)));
+    document.insert(Images, writeAll(project.images(), withMembers(writeImage)));
+    members.insert(DocumentMember, QJsonDocument(document).toJson(QJsonDocument::Indented));
+    members.insert(ScratchMember, PngMember::encode(project.scratchImage()));
+    return members;
+}
+
+bool readProject(Project &project, const MemberReader &read, QString &error)
+{
+    error.clear();
+    DocumentReader reader{project, read, error};
+    const QByteArray text = read(DocumentMember);
+    if (text.isEmpty() || text.size() > MaxDocumentSize)
+        return reader.fail(QCoreApplication::translate("ProjectDocument", "Invalid project file"));
+    const QJsonObject document = QJsonDocument::fromJson(text).object(); // empty when the text is damaged
+    if (document.value(Version).toInteger(OldestVersion) > FormatVersion)
+        return reader.fail(
+            QCoreApplication::translate("ProjectDocument", "Project file is from a newer version of Quenmora"));
+    readSettings(project, document);
+    if (!readAssetsWithMembers(reader, document))
+        return false;
+    readScratch(reader);
+    readBlockSets(reader, document);
+    return true;
+}

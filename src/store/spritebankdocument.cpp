@@ -1,0 +1,108 @@
+#include "store/spritebankdocument.h"
+
+#include "model/palette.h"
+#include "model/project.h"
+#include "model/spriteanim.h"
+#include "model/spritebank.h"
+#include "store/documentreader.h"
+#include "store/framedocument.h"
+#include "store/pngmember.h"
+
+#include <QCoreApplication>
+#include <QJsonArray>
+
+namespace {
+
+constexpr QLatin1String Id("id");
+constexpr QLatin1String Name("name");
+constexpr QLatin1String BoundPalette("palette");
+constexpr QLatin1String Transparency("transparency");
+constexpr QLatin1String Depth("depth");
+constexpr QLatin1String Offsets("offsets");
+constexpr QLatin1String Animations("animations");
+constexpr QLatin1String Width("width");
+constexpr QLatin1String Height("height");
+constexpr QLatin1String Delay("delay");
+constexpr QLatin1String Frames("frames");
+constexpr QLatin1String FrameCells("anim");
+
+QString pixelsMember(const QUuid &id)
+{
+    return QStringLiteral("sprite/%1.png").arg(id.toString());
+}
+
+QJsonArray writeOffsets(const QByteArray &offsets)
+{
+    QJsonArray array;
+    for (const char offset : offsets)
+        array.append(qint8(offset)); // signed on every machine
+    return array;
+}
+
+QByteArray readOffsets(const QJsonArray &array)
+{
+    QByteArray offsets;
+    offsets.reserve(array.size());
+    for (const QJsonValue &offset : array)
+        offsets.append(char(offset.toInt()));
+    return offsets;
+}
+
+QJsonObject writeAnimation(const SpriteAnim &animation)
+{
+    return {
+        {Id, animation.id().toString()},   {Name, animation.name()},
+        {Width, animation.size().width()}, {Height, animation.size().height()},
+        {Delay, animation.delay()},        {Frames, FrameDocument::write(animation, FrameCells)},
+    };
+}
+
+void readAnimation(DocumentReader &reader, SpriteBank &bank, const QJsonObject &object)
+{
+    const QPointer<SpriteAnim> animation = bank.addAnimation(DocumentValue::id(object, Id));
+    const QJsonArray frames = object.value(Frames).toArray();
+    animation->setName(object.value(Name).toString());
+    animation->setDelay(DocumentValue::delay(object, Delay));
+    animation->setSize(FrameDocument::readSize(reader, object, frames, FrameCells, 1));
+    animation->clearFrames(); // a new one has a frame
+    FrameDocument::read(*animation, frames, FrameCells, FrameDocument::FrameIds::New);
+}
+
+} // namespace
+
+QJsonObject writeSpriteBank(const SpriteBank &bank, ProjectMembers &members)
+{
+    QJsonArray animations;
+    for (const QPointer<SpriteAnim> &animation : bank.animations())
+        animations.append(writeAnimation(*animation));
+    members.insert(pixelsMember(bank.id()), PngMember::encode(bank.image()));
+    return {
+        {Id, bank.id().toString()},
+        {Name, bank.name()},
+        {BoundPalette, DocumentValue::reference(bank.paletteId())},
+        {Transparency, bank.transparency()},
+        {Depth, int(bank.depth())},
+        {Offsets, writeOffsets(bank.offsets())},
+        {Animations, animations},
+    };
+}
+
+bool readSpriteBank(DocumentReader &reader, const QJsonObject &object)
+{
+    const auto depth = DocumentValue::enumerator(object, Depth, Quenmora::EightBit, Quenmora::EightBit);
+    auto *bank = new SpriteBank(depth, &reader.project);
+    bank->setId(DocumentValue::idOrNew(object, Id));
+    bank->setName(object.value(Name).toString());
+    bank->setTransparency(object.value(Transparency).toInt(-1));
+    if (const QJsonArray offsets = object.value(Offsets).toArray(); !offsets.isEmpty())
+        bank->setOffsets(readOffsets(offsets));
+    for (const QJsonValue &animation : object.value(Animations).toArray())
+        readAnimation(reader, *bank, animation.toObject());
+    const QImage pixels = PngMember::decode(reader.member(pixelsMember(bank->id())));
+    if (pixels.isNull())
+        return reader.fail(QCoreApplication::translate("ProjectDocument", "Project has a missing sprite anim"));
+    bank->setPalette(reader.project.palette(DocumentValue::id(object, BoundPalette)));
+    bank->setWholeImage(pixels);
+    reader.project.addSpriteBank(bank);
+    return true;
+}

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "store/projectdocument.h"
+
+#include <QJsonObject>
+
+class TileSet;
+struct DocumentReader;
+
+/// A tile set has its pixels, all tiles in one strip, in the member "tileset/%1.png", %1 being its id.
+[[nodiscard]] QJsonObject writeTileSet(const TileSet &tileSet, ProjectMembers &members);
+[[nodiscard]] bool readTileSet(DocumentReader &reader, const QJsonObject &object);
