@@ -43,7 +43,7 @@ public:
     /// Destroys the open project, if any, and forgets its file.
     void close();
 
-    [[nodiscard]] Project *project() const { return m_project; }
+    [[nodiscard]] Project *project() const;
     [[nodiscard]] QString fileName() const { return m_fileName; }
     void setFileName(const QString &fileName) { m_fileName = fileName; }
 
@@ -63,9 +63,12 @@ public slots:
     void exportPalette(const QString &dir, const QUuid &id);
 
 private:
-    [[nodiscard]] bool fail(const QString &message);
-    void reportExport(bool exported, const QString &success, const QString &failure);
+    /// Keeps the file under the name of its backup, unless it is what a failed save left behind, which must
+    /// not push out the last whole version.
+    void backUp() const;
+    [[nodiscard]] bool failToSave(const QString &message);
 
     QString m_fileName;
     QPointer<Project> m_project;
+    QString m_incompleteFile; ///< the file that the last save began to write and could not finish, or none
 };

@@ -1,0 +1,162 @@
+#include "store/projectstore.h"
+
+#include "model/map.h"
+#include "model/palette.h"
+#include "model/project.h"
+#include "model/tileset.h"
+#include "store/projectdocument.h"
+#include "store/zipfile.h"
+
+#include <QCryptographicHash>
+#include <QFile>
+#include <QFileInfo>
+
+namespace {
+
+// Milliseconds that a message stays in the status bar
+constexpr int FileMessageTime = 2500;
+constexpr int ExportMessageTime = 2000;
+
+} // namespace
+
+ProjectStore::ProjectStore(QObject *parent) : QObject(parent) { }
+
+ProjectStore::~ProjectStore()
+{
+    delete m_project;
+}
+
+Project *ProjectStore::project() const
+{
+    return m_project;
+}
+
+Project *ProjectStore::newProject(const QString &name)
+{
+    close();
+    m_project = new Project(this);
+    m_project->setName(name);
+    return m_project;
+}
+
+bool ProjectStore::load(const QString &fileName)
+{
+    ZipFile archive;
+    if (!archive.openForReading(fileName)) {
+        emit loadError(tr("Invalid project file"));
+        return false;
+    }
+    if (!m_project)
+        newProject({});
+    QString error;
+    if (!readProject(
+            *m_project, [&archive](const QString &member) { return archive.read(member); }, error)) {
+        emit loadError(error);
+        close();
+        return false;
+    }
+    emit projectLoad(m_project->name());
+    setFileName(fileName);
+    emit showMessage(tr("Project loaded"), FileMessageTime);
+    return true;
+}
+
+bool ProjectStore::save(bool backup)
+{
+    if (!m_project)
+        return failToSave(tr("Could not create the project file"));
+    // Nothing on disk is touched before all that is to be written is there.
+    const ProjectMembers members = serializeProject(*m_project, true);
+    if (backup)
+        backUp();
+    ZipFile archive;
+    if (!archive.openForWriting(m_fileName))
+        return failToSave(tr("Could not create the project file"));
+    m_incompleteFile = m_fileName;
+    for (auto member = members.cbegin(); member != members.cend(); ++member) {
+        if (!archive.write(member.key(), member.value()))
+            return failToSave(tr("Could not write %1").arg(member.key()));
+    }
+    if (!archive.close())
+        return failToSave(tr("Could not finish writing the project file"));
+    m_incompleteFile.clear();
+    emit showMessage(tr("Saved %1 to %2").arg(m_project->name(), m_fileName), FileMessageTime);
+    return true;
+}
+
+bool ProjectStore::saveAs(const QString &fileName)
+{
+    setFileName(fileName);
+    const bool saved = save(false);
+    if (!saved)
+        m_fileName.clear();
+    return saved;
+}
+
+QByteArray ProjectStore::fingerprint() const
+{
+    if (!m_project)
+        return {};
+    QCryptographicHash hash(QCryptographicHash::Sha1);
+    const ProjectMembers members = serializeProject(*m_project, false);
+    for (auto member = members.cbegin(); member != members.cend(); ++member) {
+        hash.addData(member.key().toUtf8());
+        hash.addData(member.value());
+    }
+    return hash.result();
+}
+
+void ProjectStore::close()
+{
+    delete m_project;
+    m_fileName.clear();
+    m_incompleteFile.clear();
+}
+
+void ProjectStore::backUp() const
+{
+    if (!QFileInfo(m_fileName).isFile() || m_fileName == m_incompleteFile)
+        return;
+    const QString backupName = QStringLiteral("%1.bak").arg(m_fileName);
+    QFile::remove(backupName);
+    QFile::rename(m_fileName, backupName);
+}
+
+bool ProjectStore::failToSave(const QString &message)
+{
+    emit saveError(message);
+    return false;
+}
+
+void ProjectStore::exportMap(const QString &dir, const QUuid &id)
+{
+    const QPointer<Map> map = m_project ? m_project->map(id) : nullptr;
+    if (!map)
+        emit saveError(tr("Invalid map id"));
+    else if (map->exportToDirectory(dir))
+        emit showMessage(tr("Map exported"), ExportMessageTime);
+    else
+        emit saveError(tr("Exporting the map failed"));
+}
+
+void ProjectStore::exportTiles(const QString &dir, const QUuid &id)
+{
+    const QPointer<TileSet> tileSet = m_project ? m_project->tileSet(id) : nullptr;
+    if (!tileSet)
+        emit saveError(tr("Invalid tile set id"));
+    else if (tileSet->exportToDirectory(dir))
+        emit showMessage(tr("Tile set exported"), ExportMessageTime);
+    else
+        emit saveError(tr("Exporting the tile set failed"));
+}
+
+void ProjectStore::exportPalette(const QString &dir, const QUuid &id)
+{
+    const QPointer<Palette> palette = m_project ? m_project->palette(id) : nullptr;
+    if (!palette)
+        emit saveError(tr("Invalid palette id"));
+    else if (palette->exportToDirectory(dir))
+        emit showMessage(tr("Palette exported"), ExportMessageTime);
+    else
+        emit saveError(tr("Exporting the palette failed"));
+}
