@@ -62,10 +62,11 @@ QImage indexed(const QImage &picture, const Grid<quint8> &indexOf, const QList<Q
     if (result.isNull())
         return result;
     result.setColorTable(colourTable);
+    const int width = picture.width();
     for (int y = 0; y < picture.height(); ++y) {
         const auto *from = reinterpret_cast<const QRgb *>(picture.constScanLine(y));
         uchar *to = result.scanLine(y);
-        for (int x = 0; x < picture.width(); ++x)
+        for (int x = 0; x < width; ++x)
             to[x] = indexOf[gridIndex(from[x])];
     }
     return result;
@@ -86,9 +87,10 @@ bool NxImage::setImage(const QImage &image)
     m_image = accepts(image.size()) ? image.convertToFormat(QImage::Format_RGB32, Qt::AvoidDither) : QImage();
 
     Grid<bool> seen{};
+    const int width = m_image.width();
     for (int y = 0; y < m_image.height(); ++y) {
         auto *line = reinterpret_cast<QRgb *>(m_image.scanLine(y));
-        for (int x = 0; x < m_image.width(); ++x) {
+        for (int x = 0; x < width; ++x) {
             bool &known = seen[gridIndex(line[x])];
             line[x] = snapped(line[x]);
             if (!known) {

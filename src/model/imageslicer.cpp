@@ -1,0 +1,205 @@
+#include "model/imageslicer.h"
+
+#include "model/nximage.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace {
+
+constexpr QRgb Black = 0xff000000;
+
+QSize cellsOf(const QImage &picture, int side)
+{
+    return side > 0 ? QSize(picture.width() / side, picture.height() / side) : QSize(0, 0);
+}
+
+/// Copies the square at (x, y) out of an 8-bit picture; what lies outside of it is 0.
+void cut(const QImage &picture, int x, int y, int side, uchar *pixels)
+{
+    const int width = std::clamp(picture.width() - x, 0, side);
+    const int height = std::clamp(picture.height() - y, 0, side);
+    if (width < side || height < side)
+        std::memset(pixels, 0, size_t(side) * size_t(side));
+    for (int row = 0; row < height; ++row)
+        std::memcpy(pixels + row * side, picture.constScanLine(y + row) + x, size_t(width));
+}
+
+/// A square picture whose pixels are the values of these pixels in a map.
+template <typename Map>
+QImage mapped(const uchar *pixels, int side, const Map &map, const QList<QRgb> &colourTable)
+{
+    QImage picture(side, side, QImage::Format_Indexed8);
+    picture.setColorTable(colourTable);
+    for (int y = 0; y < side; ++y) {
+        uchar *line = picture.scanLine(y);
+        for (int x = 0; x < side; ++x)
+            line[x] = uchar(map(pixels[y * side + x]));
+    }
+    return picture;
+}
+
+} // namespace
+
+bool ImageSlicer::Bank::takes(const TileColours &colours) const
+{
+    const auto missing = std::count_if(colours.cbegin(), colours.cend(), [this](uchar c) { return slotOf(c) < 0; });
+    return missing <= BankSize - m_used;
+}
+
+void ImageSlicer::Bank::add(const TileColours &colours)
+{
+    for (const uchar colour : colours) {
+        if (slotOf(colour) >= 0)
+            continue;
+        m_slotOf[colour] = qint8(m_used);
+        m_colours[size_t(m_used)] = colour;
+        ++m_used;
+    }
+}
+
+ImageSlicer::ImageSlicer(const QImage &source, QObject *parent)
+    : QObject(parent)
+    , m_source(NxImage::accepts(source.size()) ? source : QImage())
+    , m_cells(cellsOf(m_source, TileSide))
+{ }
+
+int ImageSlicer::sliceTiles()
+{
+    slice(TileSide, cellsOf(m_source, TileSide));
+    assignBanks();
+    return m_pieces.count();
+}
+
+int ImageSlicer::sliceSprites(int size)
+{
+    slice(SpriteSide, cellsOf(m_source, size));
+    for (auto &[piece, orientation] : m_placements)
+        orientation = 0;
+    return m_pieces.count();
+}
+
+void ImageSlicer::slice(int side, const QSize &cells)
+{
+    m_cells = cells;
+    m_pieces = PieceTable(side);
+    m_placements.clear();
+    m_placements.reserve(cellCount());
+    m_banks.fill(Bank());
+    m_assignments.clear();
+
+    NxImage snapped;
+    snapped.setImage(m_source);
+    const QImage picture = snapped.toIndexed();
+    m_colours = picture.colorTable();
+
+    std::array<uchar, PieceTable::MaxSide * PieceTable::MaxSide> pixels;
+    for (int row = 0; row < cells.height(); ++row) {
+        for (int column = 0; column < cells.width(); ++column) {
+            cut(picture, column * side, row * side, side, pixels.data());
+            m_placements.append(m_pieces.add(pixels.data()));
+            emit processed(int(m_placements.size()) - 1);
+        }
+    }
+}
+
+/// Gives each tile the first bank that has its colours or room for them.
+void ImageSlicer::assignBanks()
+{
+    m_assignments.reserve(m_pieces.count());
+    for (int i = 0; i < m_pieces.count(); ++i) {
+        const TileColours colours = coloursOf(i);
+        const auto bank = std::find_if(m_banks.begin(), m_banks.end(), [&](const Bank &b) { return b.takes(colours); });
+        if (bank == m_banks.end()) {
+            qWarning("Palette full!");
+            return;
+        }
+        bank->add(colours);
+        m_assignments.append({quint8(bank - m_banks.begin()), quint8(bank->used())});
+    }
+}
+
+ImageSlicer::TileColours ImageSlicer::coloursOf(int index) const
+{
+    TileColours colours;
+    std::array<bool, 256> seen{};
+    const uchar *pixels = m_pieces.pixels(index);
+    for (int i = 0; i < TileSide * TileSide; ++i) {
+        if (!std::exchange(seen[pixels[i]], true))
+            colours.append(pixels[i]);
+    }
+    return colours;
+}
+
+QImage ImageSlicer::piece(int index) const
+{
+    if (index < 0 || index >= m_pieces.count())
+        return {};
+    return m_pieces.side() == TileSide ? tile(index) : sprite(index);
+}
+
+QImage ImageSlicer::sprite(int index) const
+{
+    return mapped(
+        m_pieces.pixels(index), SpriteSide, [](uchar colour) { return colour; }, m_colours);
+}
+
+QImage ImageSlicer::tile(int index) const
+{
+    const uchar *pixels = m_pieces.pixels(index);
+    if (index >= m_assignments.size()) {
+        const TileColours colours = coloursOf(index);
+        QList<QRgb> table;
+        for (const uchar colour : colours)
+            table.append(m_colours.at(colour));
+        return mapped(
+            pixels, TileSide, [&](uchar colour) { return colours.indexOf(colour); }, table);
+    }
+
+    const Assignment assignment = m_assignments.at(index);
+    const Bank &bank = m_banks[assignment.bank];
+    QList<QRgb> table;
+    if (m_assignments.size() == m_pieces.count()) {
+        table = bankColours();
+    } else {
+        table = slotColours(bank, assignment.used);
+        table.resize(256);
+    }
+    return mapped(
+        pixels, TileSide, [&](uchar colour) { return bank.slotOf(colour); }, table);
+}
+
+int ImageSlicer::bank(int index) const
+{
+    return index >= 0 && index < m_assignments.size() ? m_assignments.at(index).bank : 0;
+}
+
+QImage ImageSlicer::pieceWithOffset(int index) const
+{
+    QImage picture = piece(index);
+    const int offset = bank(index) * BankSize;
+    for (int y = 0; y < picture.height(); ++y) {
+        uchar *line = picture.scanLine(y);
+        for (int x = 0; x < picture.width(); ++x)
+            line[x] = uchar((line[x] & (BankSize - 1)) + offset);
+    }
+    return picture;
+}
+
+QList<QRgb> ImageSlicer::bankColours() const
+{
+    QList<QRgb> colours;
+    colours.reserve(BankCount * BankSize);
+    for (const Bank &bank : m_banks)
+        colours.append(slotColours(bank, bank.used()));
+    return colours;
+}
+
+/// The colours of a bank's first used slots, the others black.
+QList<QRgb> ImageSlicer::slotColours(const Bank &bank, int used) const
+{
+    QList<QRgb> colours(BankSize, Black);
+    for (int slot = 0; slot < used; ++slot)
+        colours[slot] = m_colours.at(bank.colourAt(slot));
+    return colours;
+}
