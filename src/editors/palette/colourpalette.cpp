@@ -1,0 +1,139 @@
+#include "editors/palette/colourpalette.h"
+
+#include <QHelpEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QToolTip>
+
+namespace {
+
+constexpr int Columns = 16;
+constexpr int LeastCell = 8;
+constexpr int UsualCell = 12;
+constexpr int LargestCell = 24;
+
+} // namespace
+
+ColourPalette::ColourPalette(QWidget *parent)
+    : QWidget(parent)
+{
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
+    setAccessibleName(tr("Colours"));
+}
+
+int ColourPalette::cell() const
+{
+    return qBound(LeastCell, width() / Columns, LargestCell);
+}
+
+int ColourPalette::heightForWidth(int width) const
+{
+    return qBound(LeastCell, width / Columns, LargestCell) * (m_count / Columns);
+}
+
+QSize ColourPalette::sizeHint() const
+{
+    return {Columns * UsualCell, heightForWidth(Columns * UsualCell)};
+}
+
+QSize ColourPalette::minimumSizeHint() const
+{
+    return {Columns * LeastCell, heightForWidth(Columns * LeastCell)};
+}
+
+void ColourPalette::setPalette(const QPointer<Palette> &palette)
+{
+    if (m_palette)
+        m_palette->disconnect(this);
+    m_palette = palette;
+    if (m_palette) {
+        connect(m_palette, &Palette::colourChanged, this, qOverload<>(&QWidget::update));
+        connect(m_palette, &QObject::destroyed, this, qOverload<>(&QWidget::update));
+    }
+    update();
+}
+
+void ColourPalette::setRange(int offset, int count)
+{
+    m_offset = qBound(0, offset, Palette::Size - count);
+    m_count = count;
+    updateGeometry();
+    update();
+}
+
+void ColourPalette::setPrimaryIndex(int index)
+{
+    m_primary = index;
+    update();
+}
+
+void ColourPalette::setSecondaryIndex(int index)
+{
+    m_secondary = index;
+    update();
+}
+
+int ColourPalette::indexAt(QPoint point) const
+{
+    const int column = point.x() / cell();
+    const int row = point.y() / cell();
+    if (point.x() < 0 || point.y() < 0 || column >= Columns || row >= m_count / Columns)
+        return -1;
+    return m_offset + row * Columns + column;
+}
+
+void ColourPalette::mousePressEvent(QMouseEvent *event)
+{
+    const int index = indexAt(event->position().toPoint());
+    if (index < 0)
+        return;
+    if (event->button() == Qt::LeftButton) {
+        setPrimaryIndex(index);
+        emit primaryIndexChanged(index);
+    } else if (event->button() == Qt::RightButton) {
+        setSecondaryIndex(index);
+        emit secondaryIndexChanged(index);
+    }
+}
+
+void ColourPalette::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    const int index = indexAt(event->position().toPoint());
+    if (index >= 0)
+        emit doubleClicked(index);
+}
+
+bool ColourPalette::event(QEvent *event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QWidget::event(event);
+    const auto *help = static_cast<QHelpEvent *>(event);
+    const int index = indexAt(help->pos());
+    if (index >= 0)
+        QToolTip::showText(help->globalPos(), tr("Index: %1").arg(index), this);
+    else
+        QToolTip::hideText();
+    return true;
+}
+
+void ColourPalette::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    const int side = cell();
+    for (int i = 0; i < m_count; ++i) {
+        const int index = m_offset + i;
+        const QRect rect(i % Columns * side, i / Columns * side, side - 1, side - 1);
+        QColor colour = m_palette ? m_palette->colour(index) : QColor(Qt::black);
+        colour.setAlpha(255);
+        painter.fillRect(rect, colour);
+        if (index != m_primary && index != m_secondary)
+            continue;
+        // A black frame inside a white one reads on any colour; the secondary colour's is dotted.
+        painter.setPen(QPen(Qt::white, 1, index == m_primary ? Qt::SolidLine : Qt::DotLine));
+        painter.drawRect(rect.adjusted(0, 0, -1, -1));
+        painter.setPen(Qt::black);
+        painter.drawRect(rect.adjusted(1, 1, -2, -2));
+    }
+}

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "model/palette.h"
+
+#include <QPointer>
+#include <QWidget>
+
+/// Chooses a primary and a secondary colour from many colours of a palette: all 256, or 16 of them
+/// from an offset on. The left button chooses the primary colour, the right button the secondary.
+class ColourPalette : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit ColourPalette(QWidget *parent = nullptr);
+
+    /// Palette indices (0–255).
+    int primaryIndex() const { return m_primary; }
+    int secondaryIndex() const { return m_secondary; }
+
+    bool hasHeightForWidth() const override { return true; }
+    int heightForWidth(int width) const override;
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+public slots:
+    void setPalette(const QPointer<Palette> &palette);
+    /// How many colours are offered (16 or 256) and from which index on.
+    void setRange(int offset, int count);
+    void setPrimaryIndex(int index);
+    void setSecondaryIndex(int index);
+
+signals:
+    void primaryIndexChanged(int index);
+    void secondaryIndexChanged(int index);
+    void doubleClicked(int index);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    bool event(QEvent *event) override;
+
+private:
+    int cell() const;
+    int indexAt(QPoint point) const;
+
+    QPointer<Palette> m_palette;
+    int m_offset = 0;
+    int m_count = Palette::Size;
+    int m_primary = 1;
+    int m_secondary = 0;
+};

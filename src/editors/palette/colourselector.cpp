@@ -1,0 +1,159 @@
+#include "editors/palette/colourselector.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace {
+
+constexpr int ColoursInBank = 16;
+constexpr int CellsInRow = 8;
+constexpr int RowHeight = 24;
+constexpr int LeastMargin = 49; ///< holds the swatches of the two chosen colours
+
+} // namespace
+
+ColourSelector::ColourSelector(Qt::Orientation orientation, QWidget *parent)
+    : QWidget(parent)
+    , m_orientation(orientation)
+{
+    setSizePolicy(orientation == Qt::Horizontal ? QSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed)
+                                                : QSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding));
+    setAccessibleName(tr("Colours"));
+    setToolTip(tr("Left button: foreground, right button: background"));
+}
+
+QSize ColourSelector::sizeHint() const
+{
+    const QSize size(LeastMargin + CellsInRow * RowHeight, 2 * RowHeight);
+    return m_orientation == Qt::Horizontal ? size : size.transposed();
+}
+
+QSize ColourSelector::minimumSizeHint() const
+{
+    const QSize size(LeastMargin + CellsInRow * RowHeight / 2, 2 * RowHeight);
+    return m_orientation == Qt::Horizontal ? size : size.transposed();
+}
+
+void ColourSelector::setOffset(int offset)
+{
+    m_offset = qBound(1, offset, Palette::Size / ColoursInBank);
+    update();
+}
+
+void ColourSelector::setPalette(const QPointer<Palette> &pal)
+{
+    if (m_palette)
+        m_palette->disconnect(this);
+    m_palette = pal;
+    if (m_palette) {
+        connect(m_palette, &Palette::colourChanged, this, [this](int index) { paletteChanged(index, index); });
+        connect(m_palette, &QObject::destroyed, this, qOverload<>(&QWidget::update));
+    }
+    update();
+}
+
+void ColourSelector::setForeIndex(int index)
+{
+    m_foreIndex = index;
+    update();
+}
+
+void ColourSelector::setBackIndex(int index)
+{
+    m_backIndex = index;
+    update();
+}
+
+void ColourSelector::paletteChanged(int, int)
+{
+    update();
+}
+
+int ColourSelector::along(QSize size) const
+{
+    return m_orientation == Qt::Horizontal ? size.width() : size.height();
+}
+
+void ColourSelector::resizeEvent(QResizeEvent *)
+{
+    m_cell = qMax(1, (along(size()) - LeastMargin) / CellsInRow);
+    m_margin = along(size()) - CellsInRow * m_cell;
+}
+
+int ColourSelector::indexAt(QPoint point) const
+{
+    const QPoint p = m_orientation == Qt::Horizontal ? point : point.transposed();
+    const int past = p.x() - m_margin;
+    const int column = past / m_cell;
+    const int row = p.y() / RowHeight;
+    if (past <= 0 || column >= CellsInRow || p.y() < 0 || row > 1)
+        return -1;
+    return (m_offset - 1) * ColoursInBank + column + row * CellsInRow;
+}
+
+void ColourSelector::mousePressEvent(QMouseEvent *event)
+{
+    const int index = indexAt(event->position().toPoint());
+    if (index < 0)
+        return;
+    if (event->button() == Qt::LeftButton) {
+        setForeIndex(index);
+        emit foreColourChanged(index);
+    } else if (event->button() == Qt::RightButton) {
+        setBackIndex(index);
+        emit backColourChanged(index);
+    }
+}
+
+void ColourSelector::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    const int index = indexAt(event->position().toPoint());
+    if (index >= 0)
+        emit doubleClicked(index);
+}
+
+QRect ColourSelector::oriented(QRect rect) const
+{
+    return m_orientation == Qt::Horizontal ? rect : QRect(rect.topLeft().transposed(), rect.size().transposed());
+}
+
+QRect ColourSelector::cellRect(int cell) const
+{
+    return oriented({m_margin + cell % CellsInRow * m_cell, cell / CellsInRow * RowHeight, m_cell, RowHeight});
+}
+
+QColor ColourSelector::colour(int index) const
+{
+    if (!m_palette || index < 0 || index >= Palette::Size)
+        return Qt::transparent;
+    const QColor colour = m_palette->colour(index);
+    return {colour.red(), colour.green(), colour.blue()};
+}
+
+void ColourSelector::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    const QPalette &colours = QWidget::palette();
+    // The foreground's swatch overlaps the background's, as in most paint programs.
+    painter.setPen(colours.color(QPalette::Mid));
+    painter.setBrush(colour(m_backIndex));
+    painter.drawRect(oriented({17, 17, 26, 26}));
+    painter.setBrush(colour(m_foreIndex));
+    painter.drawRect(oriented({4, 4, 26, 26}));
+
+    const int first = (m_offset - 1) * ColoursInBank;
+    for (int cell = 0; cell < ColoursInBank; ++cell) {
+        const QRect rect = cellRect(cell).adjusted(0, 0, -1, -1);
+        painter.setPen(Qt::black);
+        painter.setBrush(colour(first + cell));
+        painter.drawRect(rect);
+        painter.setBrush(Qt::NoBrush);
+        // Frames that read on any colour: solid for the foreground, dotted for the background.
+        if (first + cell == m_foreIndex || first + cell == m_backIndex) {
+            painter.setPen(QPen(Qt::black, 1));
+            painter.drawRect(rect.adjusted(2, 2, -2, -2));
+            painter.setPen(QPen(Qt::white, 1, first + cell == m_foreIndex ? Qt::SolidLine : Qt::DotLine));
+            painter.drawRect(rect.adjusted(1, 1, -1, -1));
+        }
+    }
+}

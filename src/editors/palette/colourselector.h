@@ -1,0 +1,61 @@
+#pragma once
+
+#include "model/palette.h"
+
+#include <QPointer>
+#include <QWidget>
+
+/// Chooses the foreground and background colour from one bank of 16 colours of a palette.
+///
+/// Two rows of eight cells (two columns when vertical), after a margin that shows the two chosen
+/// colours. The left button chooses the foreground, the right button the background.
+class ColourSelector : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit ColourSelector(Qt::Orientation orientation = Qt::Horizontal, QWidget *parent = nullptr);
+
+    /// Palette indices (0–255).
+    int foreIndex() const { return m_foreIndex; }
+    int backIndex() const { return m_backIndex; }
+    /// The bank shown, 1–16: bank n covers the indices from (n - 1) * 16.
+    int offset() const { return m_offset; }
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+public slots:
+    void setOffset(int offset);
+    void setPalette(const QPointer<Palette> &pal);
+    void setForeIndex(int index);
+    void setBackIndex(int index);
+    void paletteChanged(int first, int last);
+
+signals:
+    void foreColourChanged(int index);
+    void backColourChanged(int index);
+    void doubleClicked(int index);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+
+private:
+    int along(QSize size) const;
+    /// The palette index of the cell under a point, -1 outside the cells.
+    int indexAt(QPoint point) const;
+    QRect cellRect(int cell) const;
+    QRect oriented(QRect rect) const;
+    QColor colour(int index) const;
+
+    QPointer<Palette> m_palette;
+    Qt::Orientation m_orientation;
+    int m_offset = 1;
+    int m_foreIndex = 1;
+    int m_backIndex = 0;
+    int m_cell = 24;
+    int m_margin = 49;
+};

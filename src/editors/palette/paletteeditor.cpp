@@ -1,0 +1,126 @@
+#include "editors/palette/paletteeditor.h"
+
+#include "editors/palette/coloureditor.h"
+#include "editors/palette/palettegrid.h"
+#include "ui/svgiconengine.h"
+
+#include <QHBoxLayout>
+#include <QToolButton>
+
+PaletteEditor::PaletteEditor(QWidget *parent)
+    : QWidget(parent)
+    , m_grid(new PaletteGrid(this))
+    , m_editor(new ColourEditor(this))
+    , m_darken(addTool(QStringLiteral(":/Darken"), tr("Darkens the selected colour(s)")))
+    , m_lighten(addTool(QStringLiteral(":/Lighten"), tr("Lightens the selected colour(s)")))
+    , m_gradient(addTool(QStringLiteral(":/Gradient"), tr("Create a gradient")))
+{
+    m_grid->setObjectName(QStringLiteral("paletteWidget"));
+
+    auto *tools = new QHBoxLayout;
+    tools->setSpacing(2);
+    for (QToolButton *tool : {m_darken, m_lighten, m_gradient})
+        tools->addWidget(tool);
+    tools->addStretch();
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addLayout(tools);
+    layout->addWidget(m_grid, 0, Qt::AlignHCenter);
+    layout->addWidget(m_editor);
+    layout->addStretch();
+
+    connect(m_grid, &PaletteGrid::selectionChanged, this, &PaletteEditor::setSelection);
+    connect(m_editor, &ColourEditor::colourChanged, this, &PaletteEditor::applyColour);
+    connect(m_darken, &QToolButton::clicked, m_editor, &ColourEditor::darken);
+    connect(m_lighten, &QToolButton::clicked, m_editor, &ColourEditor::lighten);
+    connect(m_gradient, &QToolButton::clicked, this, &PaletteEditor::createGradient);
+    setPalette(nullptr);
+}
+
+QToolButton *PaletteEditor::addTool(const QString &icon, const QString &toolTip)
+{
+    auto *tool = new QToolButton(this);
+    tool->setIcon(themedIcon(icon));
+    tool->setIconSize({24, 24});
+    tool->setAutoRaise(true);
+    tool->setToolTip(toolTip);
+    tool->setAccessibleName(toolTip);
+    return tool;
+}
+
+void PaletteEditor::setPalette(const QPointer<Palette> &palette)
+{
+    if (m_palette)
+        m_palette->disconnect(this);
+    m_palette = palette;
+    if (m_palette) {
+        // Undo and other editors change the entry that is being edited, too.
+        connect(m_palette, &Palette::colourChanged, this, [this](int index) {
+            if (index == m_first)
+                loadSelection();
+        });
+        connect(m_palette, &QObject::destroyed, this, [this] { setPalette(nullptr); });
+    }
+    m_grid->setPalette(palette);
+    m_grid->setEnabled(palette);
+    m_editor->setEnabled(palette);
+    updateTools();
+    loadSelection();
+    emit paletteChanged();
+}
+
+void PaletteEditor::setSelectedIndex(int index)
+{
+    m_grid->setSelection(index, index);
+    setSelection(index, index);
+}
+
+void PaletteEditor::setSelection(int first, int last)
+{
+    m_first = first;
+    m_last = last;
+    m_hasSelection = true;
+    updateTools();
+    loadSelection();
+    emit selectionChanged(first, last);
+}
+
+void PaletteEditor::updateTools()
+{
+    const bool enabled = m_palette && m_hasSelection;
+    m_darken->setEnabled(enabled);
+    m_lighten->setEnabled(enabled);
+    m_gradient->setEnabled(enabled && m_last != m_first);
+}
+
+void PaletteEditor::loadSelection()
+{
+    if (m_palette)
+        m_editor->setColour(m_palette->colour(m_first), m_palette->priority(m_first));
+}
+
+void PaletteEditor::applyColour(const QColor &colour, bool priority)
+{
+    for (int index = m_first; index <= m_last && m_palette; ++index)
+        m_palette->setColour(index, colour, priority);
+    m_grid->update();
+    emit colourChanged(colour, priority);
+}
+
+void PaletteEditor::createGradient()
+{
+    if (!m_palette)
+        return;
+    const QColor start = m_palette->colour(m_first);
+    const QColor end = m_palette->colour(m_last);
+    const int steps = m_last - m_first;
+    if (start == end || steps < 2)
+        return;
+    const int red = (end.red() - start.red()) / steps;
+    const int green = (end.green() - start.green()) / steps;
+    const int blue = (end.blue() - start.blue()) / steps;
+    for (int k = 1; k < steps; ++k) {
+        const QColor colour(start.red() + k * red, start.green() + k * green, start.blue() + k * blue);
+        m_palette->setColour(m_first + k, colour, m_palette->priority(m_first + k));
+    }
+}

@@ -1,0 +1,173 @@
+#include "editors/palette/palettegrid.h"
+
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QToolTip>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int Cell = 16;
+constexpr int Columns = 16;
+constexpr int Side = Cell * Columns;
+
+QPoint cornerOf(int index)
+{
+    return {index % Columns * Cell, index / Columns * Cell};
+}
+
+int indexAt(QPoint point)
+{
+    return point.y() / Cell * Columns + point.x() / Cell;
+}
+
+QPoint clamped(QPoint point)
+{
+    return {std::clamp(point.x(), 0, Side - 1), std::clamp(point.y(), 0, Side - 1)};
+}
+
+} // namespace
+
+PaletteGrid::PaletteGrid(QWidget *parent)
+    : QWidget(parent)
+{
+    setWindowTitle(tr("Palette Grid Colour Chooser"));
+    setAccessibleName(windowTitle());
+    setFixedSize(Side, Side);
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+void PaletteGrid::setPalette(const QPointer<Palette> &palette)
+{
+    if (m_palette)
+        m_palette->disconnect(this);
+    m_palette = palette;
+    m_dragging = false;
+    if (m_palette) {
+        connect(m_palette, &Palette::colourChanged, this, &PaletteGrid::updateColour);
+        connect(m_palette, &QObject::destroyed, this, qOverload<>(&QWidget::update));
+    }
+    update();
+}
+
+QColor PaletteGrid::colour(int index) const
+{
+    return m_palette ? m_palette->colour(index) : QColor(0, 0, 0, 0);
+}
+
+void PaletteGrid::setSelection(int first, int last)
+{
+    m_anchor = cornerOf(first);
+    m_current = cornerOf(last);
+    updateRange();
+    update();
+}
+
+void PaletteGrid::updateColour(int, const QColor &)
+{
+    update();
+}
+
+void PaletteGrid::updateRange()
+{
+    const auto [first, last] = std::minmax({indexAt(m_anchor), indexAt(m_current)});
+    m_first = first;
+    m_last = last;
+}
+
+void PaletteGrid::paintEvent(QPaintEvent *)
+{
+    updateRange();
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    for (int index = 0; index < Palette::Size; ++index) {
+        const QPoint corner = cornerOf(index);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(Qt::black);
+        painter.drawRect(QRect(corner, QSize(Cell, Cell)));
+        const bool selected = isEnabled() && index >= m_first && index <= m_last;
+        painter.setPen(selected ? QPen(Qt::white, 1, Qt::DotLine) : QPen(Qt::NoPen));
+        // The transparent entry shows its colour too; being transparent is not a colour to choose.
+        QColor shown = colour(index);
+        if (m_palette)
+            shown.setAlpha(255);
+        painter.setBrush(shown);
+        painter.drawRect(QRect(corner, QSize(Cell - 1, Cell - 1)));
+    }
+}
+
+void PaletteGrid::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton || !m_palette)
+        return;
+    m_anchor = m_current = clamped(event->position().toPoint());
+    m_dragging = true;
+    update();
+}
+
+void PaletteGrid::mouseMoveEvent(QMouseEvent *event)
+{
+    if (!m_dragging)
+        return;
+    m_current = clamped(event->position().toPoint());
+    update();
+}
+
+void PaletteGrid::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton || !m_dragging)
+        return;
+    m_dragging = false;
+    updateRange();
+    update();
+    emit selectionChanged(m_first, m_last);
+}
+
+void PaletteGrid::keyPressEvent(QKeyEvent *event)
+{
+    QPoint step;
+    switch (event->key()) {
+    case Qt::Key_Left:
+        step.setX(-Cell);
+        break;
+    case Qt::Key_Right:
+        step.setX(Cell);
+        break;
+    case Qt::Key_Up:
+        step.setY(-Cell);
+        break;
+    case Qt::Key_Down:
+        step.setY(Cell);
+        break;
+    default:
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    if (!m_palette)
+        return;
+    const QPoint moved = m_current + step;
+    if (clamped(moved) != moved)
+        return;
+    m_current = moved;
+    if (!(event->modifiers() & Qt::ShiftModifier))
+        m_anchor = moved;
+    updateRange();
+    update();
+    emit selectionChanged(m_first, m_last);
+}
+
+bool PaletteGrid::event(QEvent *event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QWidget::event(event);
+    const auto *help = static_cast<QHelpEvent *>(event);
+    if (m_palette && rect().contains(help->pos())) {
+        const int index = indexAt(help->pos());
+        QToolTip::showText(help->globalPos(),
+                           tr("Index %1: $%2").arg(index).arg(m_palette->rawColour(index), 4, 16, QLatin1Char('0')), this);
+    }
+    return true;
+}

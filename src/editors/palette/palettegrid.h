@@ -1,0 +1,48 @@
+#pragma once
+
+#include "model/palette.h"
+
+#include <QPointer>
+#include <QWidget>
+
+/// The 256 colours of a palette in 16 rows, of which a run of neighbours in palette order is selected.
+class PaletteGrid : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit PaletteGrid(QWidget *parent = nullptr);
+
+    void setPalette(const QPointer<Palette> &palette);
+    /// The palette's colour, transparent black without a palette.
+    QColor colour(int index) const;
+
+    int firstSelected() const { return m_first; }
+    int lastSelected() const { return m_last; }
+    /// Selects a run without a signal; first must not be behind last.
+    void setSelection(int first, int last);
+
+public slots:
+    void updateColour(int index, const QColor &colour);
+
+signals:
+    void selectionChanged(int first, int last);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    bool event(QEvent *event) override;
+
+private:
+    void updateRange();
+
+    QPointer<Palette> m_palette;
+    QPoint m_anchor;
+    QPoint m_current;
+    int m_first = 0;
+    int m_last = 0;
+    bool m_dragging = false;
+};
