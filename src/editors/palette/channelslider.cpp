@@ -12,9 +12,7 @@ constexpr int HandleWidth = 10;
 
 } // namespace
 
-ChannelSlider::ChannelSlider(const QColor &accent, QWidget *parent)
-    : QSlider(Qt::Horizontal, parent)
-    , m_accent(accent)
+ChannelSlider::ChannelSlider(const QColor &accent, QWidget *parent) : QSlider(Qt::Horizontal, parent), m_accent(accent)
 {
     setRange(0, Channel::MaximumLevel);
     setSingleStep(1);
@@ -60,8 +58,8 @@ void ChannelSlider::paintEvent(QPaintEvent *)
     painter.drawRoundedRect(QRectF(groove).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
 
     const QRectF handle = QRectF(handleRect()).adjusted(0.5, 0.5, -0.5, -0.5);
-    painter.setPen(QPen(hasFocus() ? palette().color(QPalette::Highlight) : palette().color(QPalette::Dark),
-                        hasFocus() ? 2 : 1));
+    painter.setPen(
+        QPen(hasFocus() ? palette().color(QPalette::Highlight) : palette().color(QPalette::Dark), hasFocus() ? 2 : 1));
     painter.setBrush(palette().button());
     painter.drawRoundedRect(handle, 3, 3);
     painter.setPen(QPen(m_accent, 2));

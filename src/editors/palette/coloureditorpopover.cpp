@@ -2,9 +2,7 @@
 
 #include "editors/palette/coloureditor.h"
 
-ColourEditorPopover::ColourEditorPopover(QWidget *parent)
-    : Popover(parent)
-    , m_editor(new ColourEditor)
+ColourEditorPopover::ColourEditorPopover(QWidget *parent) : Popover(parent), m_editor(new ColourEditor)
 {
     setContent(m_editor);
     connect(m_editor, &ColourEditor::colourChanged, this, [this](const QColor &colour, bool priority) {

@@ -14,8 +14,7 @@ constexpr int LargestCell = 24;
 
 } // namespace
 
-ColourPalette::ColourPalette(QWidget *parent)
-    : QWidget(parent)
+ColourPalette::ColourPalette(QWidget *parent) : QWidget(parent)
 {
     QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     policy.setHeightForWidth(true);

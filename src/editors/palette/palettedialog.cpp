@@ -11,15 +11,15 @@ PaletteDialog::PaletteDialog(QWidget *parent)
     , m_choice(new QButtonGroup(this))
 {
     setHeader(tr("Create a new palette"));
-    form()->addRow(tr("Palette &Name"), m_name);
+    form()->addRow(tr("Palette Name"), m_name);
     const auto addChoice = [this](CreateAction action, const QString &text) {
         auto *button = new QRadioButton(text, this);
         m_choice->addButton(button, int(action));
         form()->addRow(button);
     };
-    addChoice(CreateAction::CopyCurrent, tr("&Copy colours from current palette"));
-    addChoice(CreateAction::DefaultNext, tr("Use the &default Next palette"));
-    addChoice(CreateAction::Blank, tr("Create a &blank palette"));
+    addChoice(CreateAction::CopyCurrent, tr("Copy colours from current palette"));
+    addChoice(CreateAction::DefaultNext, tr("Use the default Next palette"));
+    addChoice(CreateAction::Blank, tr("Create a blank palette"));
     m_choice->button(int(CreateAction::DefaultNext))->setChecked(true);
     connect(m_name, &QLineEdit::textChanged, this, &PaletteDialog::revalidate);
 }

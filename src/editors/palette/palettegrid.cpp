@@ -31,8 +31,7 @@ QPoint clamped(QPoint point)
 
 } // namespace
 
-PaletteGrid::PaletteGrid(QWidget *parent)
-    : QWidget(parent)
+PaletteGrid::PaletteGrid(QWidget *parent) : QWidget(parent)
 {
     setWindowTitle(tr("Palette Grid Colour Chooser"));
     setAccessibleName(windowTitle());
@@ -167,7 +166,8 @@ bool PaletteGrid::event(QEvent *event)
     if (m_palette && rect().contains(help->pos())) {
         const int index = indexAt(help->pos());
         QToolTip::showText(help->globalPos(),
-                           tr("Index %1: $%2").arg(index).arg(m_palette->rawColour(index), 4, 16, QLatin1Char('0')), this);
+                           tr("Index %1: $%2").arg(index).arg(m_palette->rawColour(index), 4, 16, QLatin1Char('0')),
+                           this);
     }
     return true;
 }

@@ -45,7 +45,8 @@ PaletteWindow::PaletteWindow(QWidget *parent)
     scroller->setWidgetResizable(true);
     scroller->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     scroller->setWidget(page);
-    scroller->setMinimumWidth(page->minimumSizeHint().width() + scroller->style()->pixelMetric(QStyle::PM_ScrollBarExtent));
+    scroller->setMinimumWidth(page->minimumSizeHint().width()
+                              + scroller->style()->pixelMetric(QStyle::PM_ScrollBarExtent));
     setContent(scroller);
 
     connect(m_chooser, &QComboBox::activated, this, [this](int row) {
@@ -161,7 +162,8 @@ void PaletteWindow::finishRenaming()
     m_renaming = false;
     const QString name = m_chooser->lineEdit()->text().trimmed();
     // Clearing the field's editability deletes the line edit, whose signal this is.
-    QMetaObject::invokeMethod(this, [this] { m_chooser->setEditable(m_renaming); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this, [this] { m_chooser->setEditable(m_renaming); }, Qt::QueuedConnection);
     const bool taken = m_project && m_project->paletteNames().contains(name);
     if (m_palette && !name.isEmpty() && !taken)
         m_palette->setName(name);

@@ -26,8 +26,7 @@ const std::array<ChannelRow, Channel::Count> Channels{{
 
 } // namespace
 
-RgbEditor::RgbEditor(QWidget *parent)
-    : QWidget(parent)
+RgbEditor::RgbEditor(QWidget *parent) : QWidget(parent)
 {
     auto *layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
