@@ -308,13 +308,13 @@ void Map::paintLayers(QPainter &painter, QPoint origin, const QRect &cells, int 
         m_tileLayer->paint(painter, origin, cells, cellSize, transparencyIndex);
     if (!m_objectLayer || !m_objectLayer->isVisible())
         return;
+    QList<QRect> areas;
     for (const QPointer<AnimationProperties> &placement : m_animatedBlocks->list()) {
-        const QRect shown = placement ? placement->area() & cells : QRect();
-        if (shown.isEmpty())
-            continue;
-        const QPoint offset = (shown.topLeft() - cells.topLeft()) * cellSize;
-        m_objectLayer->paint(painter, origin + offset, shown, cellSize, transparencyIndex);
+        if (placement && placement->area().intersects(cells))
+            areas.append(placement->area());
     }
+    if (!areas.isEmpty())
+        m_objectLayer->paintAreas(painter, origin, cells, areas, cellSize, transparencyIndex);
 }
 
 bool Map::exportData(const QString &fileName) const

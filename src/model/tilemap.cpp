@@ -281,13 +281,19 @@ QImage TileMap::render(const QRect &cells, int zoom, int transparencyIndex) cons
 
 void TileMap::paint(QPainter &painter, QPoint origin, const QRect &cells, int cellSize, int transparencyIndex) const
 {
+    paintAreas(painter, origin, cells, {cells}, cellSize, transparencyIndex);
+}
+
+void TileMap::paintAreas(QPainter &painter, QPoint origin, const QRect &cells, const QList<QRect> &areas, int cellSize,
+                         int transparencyIndex) const
+{
     if (!m_tileSet || !m_tileSet->palette())
         return;
     const QList<QRgb> table = colourTable();
     std::array<QRgb, 256> colours{};
     for (size_t i = 0; i < colours.size(); ++i)
         colours[i] = int(i & 15) == transparencyIndex ? 0 : table[qsizetype(i)];
-    m_picture->paint(painter, origin, cells, cellSize, colours);
+    m_picture->paint(painter, origin, cells, areas, cellSize, colours);
 }
 
 QList<QRgb> TileMap::colourTable() const

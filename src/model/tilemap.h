@@ -119,6 +119,9 @@ public:
     /// transparent pixels, and what lies outside the grid, are left as they are. This is what views use:
     /// the cost depends on the pixels painted, not on the size of the grid.
     void paint(QPainter &painter, QPoint origin, const QRect &cells, int cellSize, int transparencyIndex) const;
+    /// The same, but only the parts of it that lie in these areas of the grid.
+    void paintAreas(QPainter &painter, QPoint origin, const QRect &cells, const QList<QRect> &areas, int cellSize,
+                    int transparencyIndex) const;
 
     /// The layer as the hardware's tilemap (two bytes a cell).
     [[nodiscard]] QByteArray toNextData() const;

@@ -121,28 +121,40 @@ QImage TileMapPicture::scaledImage(const QRect &cells, int cellSize)
     return image;
 }
 
-void TileMapPicture::paint(QPainter &painter, QPoint origin, const QRect &cells, int cellSize,
-                           const std::array<QRgb, 256> &colours)
+void TileMapPicture::paint(QPainter &painter, QPoint origin, const QRect &cells, const QList<QRect> &areas,
+                           int cellSize, const std::array<QRgb, 256> &colours)
 {
-    const QRect inside = cells & m_map.bounds();
-    if (inside.isEmpty() || cellSize < 1)
+    if (cellSize < 1 || !painter.isActive())
         return;
-    setScale(std::min(cellSize, TileSize));
-    const QPoint first = origin + (inside.topLeft() - cells.topLeft()) * cellSize;
+    // on a screen with several device pixels a pixel, cells are composed of device pixels where that comes out even
+    const qreal screenRatio = painter.device()->devicePixelRatioF();
+    const bool even = qreal(int(cellSize * screenRatio)) == cellSize * screenRatio;
+    const qreal ratio = even ? screenRatio : 1;
+    const int size = int(cellSize * ratio);
+
+    setScale(std::min(size, TileSize));
+    const std::vector<int> samples = samplesFor(m_scale, size);
     const bool opaque =
         std::all_of(colours.cbegin(), colours.cend(), [](QRgb colour) { return qAlpha(colour) == 255; });
-    const int stripCells = std::min(std::max(StripHeight / cellSize, 1), inside.height());
-    QImage strip(inside.width() * cellSize, stripCells * cellSize,
-                 opaque ? QImage::Format_RGB32 : QImage::Format_ARGB32_Premultiplied);
-    if (strip.isNull())
-        return;
-    const std::vector<int> samples = samplesFor(m_scale, cellSize);
-
-    for (int y = inside.top(); y <= inside.bottom(); y += stripCells) {
-        const QRect part = QRect(inside.left(), y, inside.width(), stripCells) & inside;
-        compose(part, {strip.bits(), strip.bytesPerLine(), samples}, colours);
-        painter.drawImage(first + QPoint(0, (y - inside.top()) * cellSize), strip,
-                          QRect(QPoint(0, 0), part.size() * cellSize));
+    const int stripCells = std::max(StripHeight / size, 1);
+    QImage strip;
+    for (const QRect &area : areas) {
+        const QRect inside = area & cells & m_map.bounds();
+        if (inside.isEmpty())
+            continue;
+        if (inside.width() * size > strip.width()) {
+            strip = QImage(inside.width() * size, stripCells * size,
+                           opaque ? QImage::Format_RGB32 : QImage::Format_ARGB32_Premultiplied);
+            if (strip.isNull())
+                return;
+            strip.setDevicePixelRatio(ratio);
+        }
+        for (int y = inside.top(); y <= inside.bottom(); y += stripCells) {
+            const QRect part = QRect(inside.left(), y, inside.width(), stripCells) & inside;
+            compose(part, {strip.bits(), strip.bytesPerLine(), samples}, colours);
+            painter.drawImage(origin + (part.topLeft() - cells.topLeft()) * cellSize, strip,
+                              QRect(QPoint(0, 0), part.size() * size));
+        }
     }
 }
 

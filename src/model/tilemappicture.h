@@ -41,8 +41,9 @@ public:
     [[nodiscard]] QImage image(const QRect &area);
     /// The cells with cellSize pixels a cell as palette indices without colours.
     [[nodiscard]] QImage scaledImage(const QRect &cells, int cellSize);
-    /// Paints cells with a colour for each palette index; the colours are opaque or clear.
-    void paint(QPainter &painter, QPoint origin, const QRect &cells, int cellSize,
+    /// Paints areas of the grid with a colour, opaque or clear, for each palette index. The cell at the top left
+    /// of `cells` comes to origin, and what lies outside `cells` is not painted.
+    void paint(QPainter &painter, QPoint origin, const QRect &cells, const QList<QRect> &areas, int cellSize,
                const std::array<QRgb, 256> &colours);
 
 private:

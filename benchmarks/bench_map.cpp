@@ -1,0 +1,306 @@
+// Maps: making, editing, rendering, exporting and comparing them. Sizes are in cells; the large map is
+// 2000 × 2000, every cell used; the largest that the program offers is 9999 × 9999.
+
+#include "model/animatedblocks.h"
+#include "model/map.h"
+#include "model/palette.h"
+#include "model/tileanimation.h"
+#include "model/tileset.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QFile>
+#include <QPainter>
+
+#include <memory>
+#include <random>
+
+namespace {
+
+constexpr QSize Screen(1920, 1080);
+
+/// The resident memory of this process in MiB, by the name that the kernel gives it.
+double memory(const char *name)
+{
+    QFile file(QStringLiteral("/proc/self/status"));
+    if (!file.open(QIODevice::ReadOnly))
+        return 0;
+    const QList<QByteArray> lines = file.readAll().split('\n');
+    for (const QByteArray &line : lines) {
+        if (line.startsWith(name))
+            return line.mid(qsizetype(qstrlen(name)) + 1).simplified().split(' ').first().toDouble() / 1024;
+    }
+    return 0;
+}
+
+/// A map with both layers, bound to 512 random tiles in the standard palette.
+class Level
+{
+public:
+    explicit Level(QSize size) : m_tiles(size), m_objects(size)
+    {
+        std::minstd_rand random;
+        m_palette.loadStandardNext();
+        m_tileSet.setPalette(&m_palette);
+        for (int i = 0; i < m_tileSet.count(); ++i) {
+            QImage image(Tile::Size, Tile::Size, QImage::Format_Indexed8);
+            for (int y = 0; y < Tile::Size; ++y)
+                std::generate_n(image.scanLine(y), Tile::Size, [&random] { return uchar(random() & 15); });
+            m_tileSet.setTileImage(i, image);
+        }
+        map.setLayers(&m_tiles, &m_objects);
+        map.setTileSet(&m_tileSet);
+    }
+
+    /// Gives every cell a random tile, orientation and offset.
+    void scatter()
+    {
+        std::minstd_rand random;
+        TileMap::Rows rows = m_tiles.rows();
+        for (TileMap::Row &row : rows) {
+            for (TileMap::TileData &cell : row) {
+                const auto bits = unsigned(random());
+                cell = {int(bits & 511),    (bits & 512) != 0,    (bits & 1024) != 0,
+                        (bits & 2048) != 0, int(bits >> 12 & 15), true};
+            }
+        }
+        m_tiles.restore(rows);
+    }
+
+    /// Places animations of 4 × 4 cells and 8 frames, one in every 8 × 8 cells of the area.
+    void placeAnimations(const QRect &area)
+    {
+        m_animation.setSize({4, 4});
+        for (int frame = 0; frame < 8; ++frame) {
+            m_animation.addFrame();
+            for (int cell = 0; cell < 16; ++cell)
+                m_animation.frame(frame)->setIndex(cell / 4, cell % 4, frame * 16 + cell);
+        }
+        for (int y = area.top(); y <= area.bottom() - 4; y += 8) {
+            for (int x = area.left(); x <= area.right() - 4; x += 8)
+                map.placeAnimation(&m_animation, {x, y});
+        }
+        m_objects.setVisible(true);
+    }
+
+    void showFrame(int frame)
+    {
+        for (const QPointer<AnimationProperties> &placement : map.animatedBlocks()->list())
+            map.stampFrame(m_animation, frame % m_animation.frameCount(), placement->area().topLeft());
+    }
+
+    Map map;
+
+private:
+    Palette m_palette;
+    TileSet m_tileSet{512};
+    TileMap m_tiles;
+    TileMap m_objects;
+    TileAnimation m_animation;
+};
+
+QRect screenAt(QPoint cell, int cellSize)
+{
+    return {cell, QSize(Screen.width() / cellSize, Screen.height() / cellSize)};
+}
+
+void BM_Create(benchmark::State &state)
+{
+    const int side = int(state.range(0));
+    const double before = memory("VmRSS:");
+    double used = 0;
+    for (auto _ : state) {
+        Level level({side, side});
+        used = memory("VmRSS:") - before;
+        benchmark::DoNotOptimize(level.map.size());
+    }
+    state.counters["MiB"] = used;
+}
+BENCHMARK(BM_Create)->Arg(40)->Arg(9999)->Unit(benchmark::kMillisecond);
+
+/// Strokes of a pen: each cell next to the one before, over all of the map.
+void BM_SetCell(benchmark::State &state)
+{
+    const QSize size(int(state.range(0)), int(state.range(1)));
+    Level level(size);
+    level.scatter();
+    QPoint at;
+    int index = 0;
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(level.map.setTile(at, {++index & 511, false, false, false, 0, true}));
+        at.rx() += 1;
+        if (at.x() == size.width())
+            at = {0, (at.y() + 1) % size.height()};
+    }
+}
+BENCHMARK(BM_SetCell)->Args({40, 32})->Args({2000, 2000});
+
+/// Cells of a map that is on the screen, so that its picture follows.
+void BM_SetShownCell(benchmark::State &state)
+{
+    const QSize size(int(state.range(0)), int(state.range(1)));
+    Level level(size);
+    level.scatter();
+    QImage screen(Screen, QImage::Format_RGB32);
+    QPainter painter(&screen);
+    level.map.paintLayers(painter, {}, screenAt({0, 0}, 8), 8, -1);
+    int index = 0;
+    for (auto _ : state) {
+        ++index;
+        benchmark::DoNotOptimize(
+            level.map.setTile({index % 40, index / 40 % 32}, {index & 511, false, false, false, 0, true}));
+    }
+}
+BENCHMARK(BM_SetShownCell)->Args({40, 32})->Args({2000, 2000});
+
+void BM_Fill(benchmark::State &state)
+{
+    const QSize size(int(state.range(0)), int(state.range(1)));
+    Level level(size);
+    const QRect area = QRect({0, 0}, size).adjusted(1, 1, -1, -1);
+    int index = 0;
+    for (auto _ : state)
+        level.map.setTiles(area, ++index & 511, false, false, false, true);
+    state.SetItemsProcessed(int64_t(state.iterations()) * area.width() * area.height());
+}
+BENCHMARK(BM_Fill)->Args({40, 32})->Args({2000, 2000})->Unit(benchmark::kMicrosecond);
+
+/// A place that was not looked at before, each time.
+void BM_RenderScreenFirst(benchmark::State &state)
+{
+    const int zoom = int(state.range(0));
+    Level level({2000, 2000});
+    level.scatter();
+    int step = 0;
+    for (auto _ : state) {
+        state.PauseTiming();
+        level.map.tileLayer()->restore(level.map.tileLayer()->rows());
+        step = (step + 331) % 1700;
+        state.ResumeTiming();
+        const QImage image = level.map.tileLayer()->render(screenAt({step, step}, zoom * 8), zoom, -1);
+        benchmark::DoNotOptimize(image.constBits());
+    }
+}
+BENCHMARK(BM_RenderScreenFirst)->Arg(1)->Arg(4)->Unit(benchmark::kMillisecond);
+
+void BM_RenderScreenAgain(benchmark::State &state)
+{
+    const int zoom = int(state.range(0));
+    Level level({2000, 2000});
+    level.scatter();
+    for (auto _ : state) {
+        const QImage image = level.map.tileLayer()->render(screenAt({700, 700}, zoom * 8), zoom, 0);
+        benchmark::DoNotOptimize(image.constBits());
+    }
+}
+BENCHMARK(BM_RenderScreenAgain)->Arg(1)->Arg(4)->Unit(benchmark::kMillisecond);
+
+/// A full screen as the map editor paints it: cell size in pixels, transparency index.
+void BM_PaintScreen(benchmark::State &state)
+{
+    const int cellSize = int(state.range(0));
+    Level level({2000, 2000});
+    level.scatter();
+    QImage screen(Screen, QImage::Format_RGB32);
+    QPainter painter(&screen);
+    level.map.paintLayers(painter, {}, screenAt({3, 5}, cellSize), cellSize, int(state.range(1)));
+    for (auto _ : state)
+        level.map.paintLayers(painter, {}, screenAt({3, 5}, cellSize), cellSize, int(state.range(1)));
+}
+BENCHMARK(BM_PaintScreen)->ArgsProduct({{1, 3, 8, 12, 32, 64}, {-1, 3}})->Unit(benchmark::kMillisecond);
+
+/// The same with animations all over the screen, which advance before every paint.
+void BM_PaintScreenAnimated(benchmark::State &state)
+{
+    const int cellSize = int(state.range(0));
+    Level level({2000, 2000});
+    level.scatter();
+    const QRect cells = screenAt({3, 5}, cellSize);
+    level.placeAnimations(cells);
+    QImage screen(Screen, QImage::Format_RGB32);
+    QPainter painter(&screen);
+    int frame = 0;
+    for (auto _ : state) {
+        level.showFrame(++frame);
+        level.map.paintLayers(painter, {}, cells, cellSize, int(state.range(1)));
+    }
+}
+BENCHMARK(BM_PaintScreenAnimated)->ArgsProduct({{8, 32}, {-1, 3}})->Unit(benchmark::kMillisecond);
+
+/// Every screen of the largest map, one after the other; bounded memory is the point.
+void BM_ScrollOverLargest(benchmark::State &state)
+{
+    Level level({9999, 9999});
+    QImage screen(Screen, QImage::Format_RGB32);
+    QPainter painter(&screen);
+    const QRect first = screenAt({0, 0}, 8);
+    for (auto _ : state) {
+        for (int y = 0; y < 9999; y += first.height()) {
+            for (int x = 0; x < 9999; x += first.width())
+                level.map.paintLayers(painter, {}, first.translated(x, y), 8, -1);
+        }
+    }
+    state.counters["MiB"] = memory("VmRSS:");
+}
+BENCHMARK(BM_ScrollOverLargest)->Iterations(1)->Unit(benchmark::kMillisecond);
+
+void BM_ToNextData(benchmark::State &state)
+{
+    Level level({2000, 2000});
+    level.scatter();
+    qsizetype size = 0;
+    for (auto _ : state)
+        size = level.map.tileLayer()->toNextData().size();
+    state.SetBytesProcessed(int64_t(state.iterations()) * size);
+}
+BENCHMARK(BM_ToNextData)->Unit(benchmark::kMillisecond);
+
+void BM_Serialise(benchmark::State &state)
+{
+    Level level({2000, 2000});
+    level.scatter();
+    qsizetype size = 0;
+    for (auto _ : state)
+        size = level.map.tileLayer()->serialise(level.map.tileLayer()->bounds()).size();
+    state.SetBytesProcessed(int64_t(state.iterations()) * size);
+}
+BENCHMARK(BM_Serialise)->Unit(benchmark::kMillisecond);
+
+void BM_FromData(benchmark::State &state)
+{
+    Level level({2000, 2000});
+    level.scatter();
+    const QByteArray data = level.map.tileLayer()->serialise(level.map.tileLayer()->bounds());
+    for (auto _ : state)
+        benchmark::DoNotOptimize(std::unique_ptr<TileMap>(TileMap::fromData(data))->size());
+    state.SetBytesProcessed(int64_t(state.iterations()) * data.size());
+}
+BENCHMARK(BM_FromData)->Unit(benchmark::kMillisecond);
+
+/// One edit as undo sees it: snapshot, ten cells in ten rows, snapshot, comparison.
+void BM_Edit(benchmark::State &state)
+{
+    const int side = int(state.range(0));
+    Level level({side, side});
+    level.scatter();
+    int index = 0;
+    for (auto _ : state) {
+        ++index;
+        const Map::Snapshot before = level.map.snapshot();
+        for (int i = 0; i < 10; ++i)
+            level.map.setTile({side / 2 + i, (index * 10 + i) % side}, {index & 511, false, false, false, 17, true});
+        benchmark::DoNotOptimize(before == level.map.snapshot());
+    }
+}
+BENCHMARK(BM_Edit)->Arg(40)->Arg(2000)->Unit(benchmark::kMicrosecond);
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    std::printf("peak memory: %.0f MiB\n", memory("VmHWM:"));
+    return 0;
+}
