@@ -3,12 +3,10 @@
 #include "model/animation.h"
 #include "model/mapobjects.h"
 #include "model/nxmfile.h"
+#include "model/rawfile.h"
 #include "model/tileset.h"
 
 #include <QDebug>
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
 
 #include <algorithm>
 #include <limits>
@@ -323,18 +321,12 @@ bool Map::exportData(const QString &fileName) const
         warnWithoutTileLayer();
         return false;
     }
-    const QByteArray data = m_tileLayer->toNextData();
-    QFile file(fileName);
-    return file.open(QIODevice::WriteOnly) && file.write(data) == data.size() && file.flush();
+    return RawFile::write(fileName, m_tileLayer->toNextData());
 }
 
 bool Map::exportToDirectory(const QString &folder) const
 {
-    const QString file = m_name + QStringLiteral("_tilemap.bin");
-    // a name with a path in it, which a foreign project may hold, must not lead out of the folder
-    if (QFileInfo(file).fileName() != file)
-        return false;
-    return exportData(QDir(folder).filePath(file));
+    return exportData(RawFile::pathIn(folder, m_name + QStringLiteral("_tilemap.bin")));
 }
 
 bool Map::importNxm(const QString &mapFile, const QString &blockFile)
