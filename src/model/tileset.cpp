@@ -55,8 +55,9 @@ Tile::Pixels Tile::pixels() const
     const QImage &image = m_state.image;
     const int width = std::min(image.width(), Size);
     const int height = std::min(image.height(), Size);
-    for (int y = 0; y < height; ++y)
-        std::memcpy(pixels.data() + y * Size, image.constScanLine(y), static_cast<size_t>(width));
+    const uchar *row = image.constBits();
+    for (int y = 0; y < height; ++y, row += image.bytesPerLine())
+        std::memcpy(pixels.data() + y * Size, row, static_cast<size_t>(width));
     return pixels;
 }
 
