@@ -8,7 +8,7 @@ build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-svg-dev libgl1
 
 jobs=$(nproc 2>/dev/null || echo 2)
 
-say() { printf '\033[1m==> %s\033[0m\n' "$*"; }
+say() { printf '==> %s\n' "$*"; }
 
 fail() {
     printf '%s\n' "$*" >&2

@@ -1,5 +1,6 @@
 #include "model/spritebank.h"
 
+#include "model/imageslicer.h"
 #include "model/nximage.h"
 #include "model/rawfile.h"
 #include "model/spriteanim.h"
@@ -247,6 +248,34 @@ int SpriteBank::importImageFile(const QString &fileName)
     }
     emit countChanged();
     return count();
+}
+
+int SpriteBank::importSlicedImage(const QString &fileName)
+{
+    NxImage picture;
+    if (!picture.load(fileName)) {
+        qInfo("Failed to load image");
+        return -1;
+    }
+    ImageSlicer slicer(picture.image());
+    const int pieces = slicer.sliceSprites(SpriteSize);
+    if (!hasRoomFor(pieces)) {
+        qInfo("Failed to load image");
+        return -1;
+    }
+    const int second = count();
+    resize(second + qMax(0, pieces - 1));
+    for (int i = 0; i < pieces; ++i) {
+        if (i > 0)
+            emit countChanged();
+        setImage(i == 0 ? 0 : second + i - 1, slicer.piece(i));
+    }
+    if (m_palette) {
+        const QList<QRgb> colours = slicer.colours();
+        for (int i = 0; i < qMin<qsizetype>(colours.size(), Palette::Size); ++i)
+            m_palette->setColour(i, QColor(colours[i]), false);
+    }
+    return pieces;
 }
 
 void SpriteBank::importImage(int index, const QImage &image)

@@ -109,6 +109,7 @@ private slots:
     void appendsRawSprites();
     void refusesUnreadableFiles();
     void importsPicturesInNearestColours();
+    void slicesPicturesIntoSpritesAndColours();
     void keepsAnimationsInOrder();
     void restoresSnapshots();
 
@@ -385,6 +386,8 @@ void TestSpriteBank::refusesUnreadableFiles()
     for (const QString &file : {path("missing"), m_folder.path(), path("nonsense")}) {
         QTest::ignoreMessage(QtInfoMsg, "Failed to load image");
         QCOMPARE(bank.importImageFile(file), -1);
+        QTest::ignoreMessage(QtInfoMsg, "Failed to load image");
+        QCOMPARE(bank.importSlicedImage(file), -1);
     }
     QCOMPARE(bank.count(), 1);
     QCOMPARE(log.lines, QStringList{});
@@ -416,6 +419,29 @@ void TestSpriteBank::importsPicturesInNearestColours()
     bank.importImage(0, picture);
     QCOMPARE(firstPixels(bank), (QList<int>{7, 7, 9}));
     QCOMPARE(log.lines.last(), QStringLiteral("image 0"));
+}
+
+void TestSpriteBank::slicesPicturesIntoSpritesAndColours()
+{
+    QImage picture(48, 16, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    for (int y = 0; y < 16; ++y) {
+        for (int x = 32; x < 48; ++x)
+            picture.setPixelColor(x, y, Qt::blue);
+    }
+    QVERIFY(picture.save(path("sheet.png")));
+
+    Palette palette;
+    palette.fill(Qt::white, false);
+    SpriteBank bank(Quenmora::EightBit);
+    bank.setPalette(&palette);
+    SignalLog log(bank);
+    QCOMPARE(bank.importSlicedImage(path("sheet.png")), 2); // the second red square is the first again
+    QCOMPARE(firstPixels(bank), (QList<int>{0, 1}));
+    QCOMPARE(log.lines, (QStringList{"image 0", "count", "image 1"}));
+    QCOMPARE(bank.image().color(0), qRgb(255, 0, 0));
+    QCOMPARE(bank.image().color(1), qRgb(0, 0, 255));
+    QCOMPARE(palette.colour(2), QColor(Qt::black));
 }
 
 void TestSpriteBank::keepsAnimationsInOrder()
