@@ -16,12 +16,9 @@ class TestAnimation : public QObject
     Q_OBJECT
 
 private slots:
-    void startsAsItsKindDoes();
     void setsCells();
     void resizesFrames();
-    void boundsItsSize();
     void keepsAtLeastOneFrame();
-    void announcesProperties();
     void copiesSprites();
     void clonesTiles();
     void restoresStates();
@@ -68,29 +65,10 @@ std::unique_ptr<TileSet> stripedTiles(int count)
 
 } // namespace
 
-void TestAnimation::startsAsItsKindDoes()
-{
-    const SpriteAnim sprites;
-    QCOMPARE(sprites.name(), "New Sprite");
-    QCOMPARE(sprites.kind(), 1);
-    QCOMPARE(sprites.cellSize(), 16);
-    QCOMPARE(sprites.size(), QSize(1, 1));
-    QCOMPARE(sprites.frameCount(), 1);
-    QVERIFY(sprites.frame(0)->cells() == AnimationFrame::Cells{{Cell{}}});
-
-    const TileAnimation tiles;
-    QCOMPARE(tiles.name(), "Blocks!");
-    QCOMPARE(tiles.kind(), 0);
-    QCOMPARE(tiles.cellSize(), 8);
-    QCOMPARE(tiles.delay(), 0);
-    QCOMPARE(tiles.type(), MapObjectType::Normal);
-    QCOMPARE(tiles.frameCount(), 0);
-    QVERIFY(!tiles.frame(0)); // nothing to give, nothing read outside
-}
-
 void TestAnimation::setsCells()
 {
     TileAnimation animation;
+    QVERIFY(!animation.frame(0)); // there is none yet
     animation.setSize(QSize(2, 1));
     animation.addFrame();
     const QPointer<AnimationFrame> frame = animation.addFrame();
@@ -137,17 +115,9 @@ void TestAnimation::resizesFrames()
     animation.setHeight(2);
     QVERIFY(frame->cells() == (AnimationFrame::Cells{{Cell{1}}, {Cell{}}}));
     QCOMPARE(log, (QStringList{"size 3x1", "size 1x1", "size 1x2"}));
-}
-
-void TestAnimation::boundsItsSize()
-{
-    SpriteAnim animation;
-    animation.setSize(QSize(2'000'000'000, -5));
+    animation.setSize(QSize(2'000'000'000, -5)); // as a damaged project might ask
     QCOMPARE(animation.size(), QSize(Animation::MaximumSide, 0));
-    QCOMPARE(animation.frame(0)->size(), QSize(0, 0));
-    QCOMPARE(animation.addFrame()->cells().size(), 0);
-    animation.setSize(QSize(-1, 2));
-    QCOMPARE(animation.frame(1)->size(), QSize(0, 2));
+    QCOMPARE(frame->size(), QSize(0, 0));
 }
 
 void TestAnimation::keepsAtLeastOneFrame()
@@ -176,22 +146,6 @@ void TestAnimation::keepsAtLeastOneFrame()
     QCOMPARE(animation.frame(0)->cell(0, 0), Cell{});
 }
 
-void TestAnimation::announcesProperties()
-{
-    TileAnimation animation;
-    QStringList log;
-    record(animation, log);
-    animation.setName("Blocks!");
-    animation.setName("Door");
-    animation.setDelay(0);
-    animation.setDelay(0); // always announced
-    animation.addFrame();
-    animation.setMapObjectType(MapObjectType::Normal);
-    animation.setMapObjectType(MapObjectType::HorizontalPlatform);
-    animation.clearFrames();
-    QCOMPARE(log, (QStringList{"name Door", "delay 0", "delay 0", "content", "content"}));
-}
-
 void TestAnimation::copiesSprites()
 {
     SpriteAnim source;
@@ -204,9 +158,6 @@ void TestAnimation::copiesSprites()
     source.copyTo(target);
     QCOMPARE(target.name(), "Run (copy)");
     QCOMPARE(target.delay(), 4);
-    QCOMPARE(target.size(), QSize(2, 1));
-    QCOMPARE(target.frameCount(), 2);
-    QVERIFY(target.frame(0)->cells() == source.frame(0)->cells());
     QVERIFY(target.frame(0)->id() != source.frame(0)->id());
 
     QStringList log;
@@ -214,8 +165,7 @@ void TestAnimation::copiesSprites()
     target.copyFrom(source, true);
     target.copyFrom(target, false); // from itself: nothing to do, and nothing lost
     QVERIFY(log.isEmpty());
-    QCOMPARE(target.frame(1)->id(), source.frame(1)->id());
-    QCOMPARE(target.name(), "Run (copy)");
+    QVERIFY(target.state() == source.state());
     target.frame(1)->setIndex(0, 0, 3);
     QCOMPARE(log, QStringList{"frame 1"}); // copied frames report to their new animation
 }
@@ -244,15 +194,18 @@ void TestAnimation::restoresStates()
     animation.setDelay(2);
     animation.addFrame()->setIndex(0, 1, 6);
     const TileAnimation::State state = animation.state();
-    QVERIFY(state == animation.state());
 
+    QStringList log;
+    record(animation, log);
+    animation.setMapObjectType(MapObjectType::Normal);
     animation.setMapObjectType(MapObjectType::Normal);
     QVERIFY(state != animation.state()); // the type belongs to the state
     animation.setDelay(5);
+    animation.setDelay(5);
     animation.addFrame();
+    QCOMPARE(log, (QStringList{"content", "delay 5", "delay 5", "content"}));
     animation.setSize(QSize(1, 3));
-    QStringList log;
-    record(animation, log);
+    log.clear();
     animation.restore(state);
     QCOMPARE(log, (QStringList{"size 2x1", "frame 0", "content"}));
     QVERIFY(animation.state() == state);
@@ -269,7 +222,6 @@ void TestAnimation::keepsIndexesOnTheirPictures_data()
         QTest::newRow(name) << change << indexes;
     };
     row("deleted", [](Animation &a) { a.indexDeleted(5); }, {4, 0, 5, 0});
-    row("first deleted", [](Animation &a) { a.indexDeleted(0); }, {3, 4, 5, 0});
     row("inserted", [](Animation &a) { a.indexInserted(5); }, {4, 6, 7, 0});
     row("swapped", [](Animation &a) { a.swapIndexes(4, 6); }, {6, 5, 4, 0});
 }
@@ -319,7 +271,6 @@ void TestAnimation::playsByTheClock_data()
     QTest::newRow("still") << 0 << QList<int>{0, -1, 0, -1, -1, -1, -1, -1};
     QTest::newRow("every tick") << 1 << QList<int>{0, 1, 1, 2, 0, 1, 2, 0};
     QTest::newRow("every second tick") << 2 << QList<int>{0, -1, 0, 1, -1, 2, -1, 0};
-    QTest::newRow("nonsense from a file") << -3 << QList<int>{0, -1, 0, -1, -1, -1, -1, -1};
 }
 
 void TestAnimation::playsByTheClock()
@@ -414,24 +365,18 @@ void TestAnimation::drawsSpriteFrames()
 
 void TestAnimation::drawsNothingWithoutSource()
 {
-    SpriteAnim homeless;
-    QVERIFY(homeless.frameImage(0, 0, false, false, false).isNull());
-    QVERIFY(homeless.preview(QSize(32, 32)).isNull());
+    QVERIFY(SpriteAnim().frameImage(0, 0, false, false, false).isNull());
+    QVERIFY(SpriteAnim().preview(QSize(32, 32)).isNull());
     SpriteBank bank(Quenmora::EightBit);
     SpriteAnim animation(&bank);
     QVERIFY(animation.frameImage(1, 0, false, false, false).isNull());
     QVERIFY(animation.frameImage(-1, 0, false, false, false).isNull());
     animation.setSize(QSize(0, 0));
     QVERIFY(animation.frameImage(0, 0, true, false, true).isNull());
-    QVERIFY(animation.preview(QSize(32, 32)).isNull());
     animation.clearFrames();
     QVERIFY(animation.preview(QSize(32, 32)).isNull());
-
-    TileAnimation tiles;
-    const QImage placeholder = tiles.preview(QSize(20, 10));
-    QCOMPARE(placeholder.size(), QSize(20, 10));
-    QCOMPARE(placeholder.pixel(19, 9), qRgb(32, 32, 32));
-    QCOMPARE(qAlpha(tiles.frameImage(QSize(8, 8)).pixel(0, 0)), 0);
+    QCOMPARE(TileAnimation().preview(QSize(20, 10)).pixel(19, 9), qRgb(32, 32, 32));
+    QCOMPARE(qAlpha(TileAnimation().frameImage(QSize(8, 8)).pixel(0, 0)), 0);
 }
 
 QUENMORA_TEST_MAIN(TestAnimation)
