@@ -83,13 +83,13 @@ QImage distinctTiles(const QSize &size)
 QImage photo(const QSize &size)
 {
     Random random(3);
+    const auto grained = [&random](int at, int length) { return 207 * at / length + int(random() % 48); };
     QImage picture(size, QImage::Format_RGB32);
     for (int y = 0; y < size.height(); ++y) {
         auto *line = reinterpret_cast<QRgb *>(picture.scanLine(y));
         for (int x = 0; x < size.width(); ++x) {
-            const int noise = int(random() % 24);
-            line[x] = qRgb(231 * x / size.width() + noise, 231 * y / size.height() + noise,
-                           231 * (x + y) / (size.width() + size.height()) + noise);
+            line[x] =
+                qRgb(grained(x, size.width()), grained(y, size.height()), grained(x + y, size.width() + size.height()));
         }
     }
     return picture;

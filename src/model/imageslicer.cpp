@@ -18,7 +18,7 @@ QSize cellsOf(const QImage &picture, int side)
 void cut(const QImage &picture, int x, int y, int side, uchar *pixels)
 {
     const int width = std::clamp(picture.width() - x, 0, side);
-    const int height = std::clamp(picture.height() - y, 0, side);
+    const int height = width > 0 ? std::clamp(picture.height() - y, 0, side) : 0;
     if (width < side || height < side)
         std::memset(pixels, 0, size_t(side) * size_t(side));
     for (int row = 0; row < height; ++row)
@@ -81,21 +81,21 @@ int ImageSlicer::sliceSprites(int size)
 
 void ImageSlicer::slice(int side, const QSize &cells)
 {
-    m_cells = cells;
+    NxImage snapped;
+    snapped.setImage(m_source);
+    const QImage picture = snapped.toIndexed();
+
+    m_cells = picture.isNull() ? QSize(0, 0) : cells;
+    m_colours = picture.colorTable();
     m_pieces = PieceTable(side);
     m_placements.clear();
     m_placements.reserve(cellCount());
     m_banks.fill(Bank());
     m_assignments.clear();
 
-    NxImage snapped;
-    snapped.setImage(m_source);
-    const QImage picture = snapped.toIndexed();
-    m_colours = picture.colorTable();
-
     std::array<uchar, PieceTable::MaxSide * PieceTable::MaxSide> pixels;
-    for (int row = 0; row < cells.height(); ++row) {
-        for (int column = 0; column < cells.width(); ++column) {
+    for (int row = 0; row < m_cells.height(); ++row) {
+        for (int column = 0; column < m_cells.width(); ++column) {
             cut(picture, column * side, row * side, side, pixels.data());
             m_placements.append(m_pieces.add(pixels.data()));
             emit processed(int(m_placements.size()) - 1);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QtGlobal>
+#include <QRgb>
 
 /// The Next's 9-bit colour: three levels of 0–7, a priority flag, and the 16-bit word that holds them.
 ///
@@ -28,6 +28,15 @@ constexpr int snapStep(int component)
 constexpr int snappedComponent(int step)
 {
     return qMin(step * 16, 255);
+}
+
+/// How far apart two colours are; their alpha does not count.
+constexpr int squaredDistance(QRgb a, QRgb b)
+{
+    const int red = qRed(a) - qRed(b);
+    const int green = qGreen(a) - qGreen(b);
+    const int blue = qBlue(a) - qBlue(b);
+    return red * red + green * green + blue * blue;
 }
 
 /// The level (0–7) of an 8-bit component: levels change halfway between two snap steps.

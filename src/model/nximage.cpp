@@ -5,17 +5,18 @@
 
 #include <QImageReader>
 
+#include <algorithm>
 #include <array>
-#include <limits>
 
 namespace {
 
-constexpr int Steps = NextColour::SnapSteps;
-constexpr int TableSize = 256;
+constexpr size_t Steps = NextColour::SnapSteps;
+constexpr size_t GridSize = Steps * Steps * Steps;
+constexpr qsizetype TableSize = 256;
 
 /// One value for each colour of the snap grid, by gridIndex().
 template <typename Value>
-using Grid = std::array<Value, size_t(Steps *Steps *Steps)>;
+using Grid = std::array<Value, GridSize>;
 
 constexpr auto StepOf = [] {
     std::array<quint8, 256> steps{};
@@ -38,21 +39,13 @@ QRgb snapped(QRgb colour)
                 NextColour::snappedComponent(StepOf[size_t(qBlue(colour))]));
 }
 
-/// The first colour of a list at the least squared RGB distance.
+/// The first colour of a list at the least distance.
 qsizetype nearest(const QList<QRgb> &colours, QRgb colour)
 {
-    const auto squared = [](int value) { return value * value; };
-    qsizetype best = 0;
-    int least = std::numeric_limits<int>::max();
-    for (qsizetype i = 0; i < colours.size(); ++i) {
-        const int distance = squared(qRed(colours[i]) - qRed(colour)) + squared(qGreen(colours[i]) - qGreen(colour))
-            + squared(qBlue(colours[i]) - qBlue(colour));
-        if (distance < least) {
-            least = distance;
-            best = i;
-        }
-    }
-    return best;
+    const auto closer = [colour](QRgb a, QRgb b) {
+        return NextColour::squaredDistance(a, colour) < NextColour::squaredDistance(b, colour);
+    };
+    return std::min_element(colours.cbegin(), colours.cend(), closer) - colours.cbegin();
 }
 
 /// A snapped picture as 8-bit indices; indexOf holds the index of each of its colours.
@@ -123,7 +116,7 @@ QImage NxImage::remap(const QPointer<Palette> &palette) const
 
 QImage NxImage::toIndexed() const
 {
-    QList<QRgb> table = m_colours.first(qMin(m_colours.size(), qsizetype(TableSize)));
+    QList<QRgb> table = m_colours.first(qMin(m_colours.size(), TableSize));
     Grid<quint8> indexOf{};
     for (qsizetype i = 0; i < m_colours.size(); ++i)
         indexOf[gridIndex(m_colours[i])] = quint8(i < TableSize ? i : nearest(table, m_colours[i]));

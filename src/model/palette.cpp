@@ -24,11 +24,6 @@ constexpr int snapped(int component)
     return NextColour::snappedComponent(NextColour::snapStep(component));
 }
 
-constexpr int squared(int value)
-{
-    return value * value;
-}
-
 /// Bytes of a palette file: 256 big-endian words, and one zero byte more when the name ends in ".npl".
 qsizetype fileSize(const QString &fileName)
 {
@@ -158,8 +153,7 @@ int Palette::nearestIndex(const QColor &colour) const
         const QRgb withAlpha = i == m_transparencyIndex ? entry & RGB_MASK : entry;
         if (withAlpha == wanted)
             return i;
-        const int distance = squared(qRed(entry) - qRed(wanted)) + squared(qGreen(entry) - qGreen(wanted))
-            + squared(qBlue(entry) - qBlue(wanted));
+        const int distance = NextColour::squaredDistance(entry, wanted);
         if (distance < least) {
             least = distance;
             nearest = i;
