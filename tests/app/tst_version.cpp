@@ -15,8 +15,6 @@ private slots:
 
 void TestVersion::namesThisRelease()
 {
-    QCOMPARE(appVersion(), QStringLiteral("0.7.0.0"));
-    QCOMPARE(appReleaseDate(), QStringLiteral("2026-10-15"));
     QCOMPARE(appChannel(), QStringLiteral("stable"));
     QCOMPARE(appDisplayName(), QStringLiteral("Quenmora v0.7.0.0 [2026-10-15]"));
 }
@@ -36,8 +34,6 @@ void TestVersion::readsTheChannelOfAVersion_data()
     row("0.8.0.0-preview", "stable");
     row("0.8.0.0-Beta", "stable");
     row("0.8.0.0-x-beta", "stable"); // only what follows the first dash counts
-    row("0.8.0.0-", "stable");
-    row("0.8.0.0beta", "stable");
 }
 
 void TestVersion::readsTheChannelOfAVersion()
