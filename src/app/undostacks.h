@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QHash>
+#include <QObject>
+#include <QUndoGroup>
+#include <QUuid>
+
+class QUndoStack;
+
+/// The undo stacks of the open project's assets, by their ids; the scratch image's has the null id.
+///
+/// A stack is made when it is first asked for and lives as long as its asset, not as long as a tab.
+class UndoStacks : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit UndoStacks(QObject *parent = nullptr);
+
+    /// The group of all stacks; undo and redo act on its active one.
+    [[nodiscard]] QUndoGroup *group() { return &m_group; }
+
+    /// The stack of an asset; it goes when the asset does (null for one that outlives the project).
+    QUndoStack *stackFor(const QUuid &id, QObject *asset);
+    void drop(const QUuid &id);
+    void clear();
+
+    /// Makes the stack of the id the active one, or none when there is no such stack.
+    void activate(const QUuid &id);
+    void activateNone() { m_group.setActiveStack(nullptr); }
+
+    /// Whether every stack is clean.
+    [[nodiscard]] bool isClean() const;
+    /// Marks the present state of every stack as clean.
+    void setClean();
+
+private:
+    QUndoGroup m_group;
+    QHash<QUuid, QUndoStack *> m_stacks;
+};
