@@ -1,0 +1,212 @@
+#include "app/documenttabview.h"
+
+#include "app/plainpage.h"
+#include "ui/svgiconengine.h"
+
+#include <QMenu>
+#include <QShortcut>
+#include <QTabBar>
+
+namespace {
+
+constexpr const char *IdProperty = "document_id";
+constexpr const char *TypeProperty = "document_type";
+
+/// A name as the text of a tab, which takes an ampersand for a mnemonic.
+QString tabTextOf(const QString &name)
+{
+    return QString(name).replace(u'&', QStringLiteral("&&"));
+}
+
+} // namespace
+
+DocumentTabView::DocumentTabView(QWidget *parent) : QTabWidget(parent), m_scratchEditor(new ImageEditor::View(this))
+{
+    m_scratchEditor->setProperty(IdProperty, QUuid());
+    m_scratchEditor->setProperty(TypeProperty, int(ScratchDocument));
+    m_scratchEditor->hide();
+    buildTabBar();
+    connect(this, &QTabWidget::tabCloseRequested, this, &DocumentTabView::closeTab);
+    connect(this, &QTabWidget::currentChanged, this, &DocumentTabView::currentIndexChanged);
+}
+
+void DocumentTabView::buildTabBar()
+{
+    setTabsClosable(true);
+    setDocumentMode(true);
+    setElideMode(Qt::ElideMiddle);
+    setTabBarAutoHide(false);
+    setUsesScrollButtons(true);
+    setMovable(true);
+    tabBar()->setExpanding(true);
+    tabBar()->setContextMenuPolicy(Qt::CustomContextMenu);
+    tabBar()->setAccessibleName(tr("Open documents"));
+    connect(tabBar(), &QWidget::customContextMenuRequested, this, &DocumentTabView::showTabMenu);
+    auto *close = new QShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_W), this);
+    connect(close, &QShortcut::activated, this, [this] { closeTab(currentIndex()); });
+}
+
+void DocumentTabView::showTabMenu(const QPoint &pos)
+{
+    const int tab = tabBar()->tabAt(pos);
+    const QPointer<QWidget> page = widget(tab >= 0 ? tab : currentIndex());
+    if (!page)
+        return;
+    auto *menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    QAction *close = menu->addAction(themedIcon(QStringLiteral(":/Clear")), tr("&Close Tab"));
+    close->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_W);
+    connect(close, &QAction::triggered, this, [this, page] { closeTab(indexOf(page)); });
+    QAction *others = menu->addAction(tr("Close &Other Tabs"));
+    others->setEnabled(count() > 1);
+    connect(others, &QAction::triggered, this, [this, page] {
+        for (int index = count() - 1; index >= 0; --index) {
+            if (widget(index) != page)
+                closeTab(index);
+        }
+    });
+    menu->popup(tabBar()->mapToGlobal(pos));
+}
+
+QUuid DocumentTabView::documentId(const QWidget *page)
+{
+    return page ? page->property(IdProperty).toUuid() : QUuid();
+}
+
+int DocumentTabView::indexOfDocument(const QUuid &id) const
+{
+    for (int index = 0; index < count(); ++index) {
+        if (documentId(widget(index)) == id)
+            return index;
+    }
+    return -1;
+}
+
+void DocumentTabView::open(QWidget *page, DocumentType type, const QUuid &id, const QString &name)
+{
+    // before it becomes current and is announced
+    page->setProperty(IdProperty, id);
+    page->setProperty(TypeProperty, int(type));
+    setCurrentIndex(addTab(page, tabTextOf(name)));
+}
+
+MapEditor::View *DocumentTabView::openMapEditor(const QPointer<Map> &map)
+{
+    auto *page = new MapEditor::View(map, this);
+    connect(page, &MapEditor::View::placeAnimModeEnabled, this, &DocumentTabView::showAnimPicker);
+    open(page, MapDocument, map->id(), map->name());
+    return page;
+}
+
+ImageEditor::View *DocumentTabView::openImageEditor(const QPointer<Image> &image)
+{
+    auto *page = new ImageEditor::View(this);
+    page->setImage(image);
+    open(page, ImageDocument, image->id(), image->name());
+    return page;
+}
+
+SpriteEditor::View *DocumentTabView::openSpriteEditor(const QPointer<SpriteBank> &bank)
+{
+    auto *page = new SpriteEditor::View(bank, this);
+    open(page, SpriteDocument, bank->id(), bank->name());
+    return page;
+}
+
+BlockEditor::View *DocumentTabView::openBlockEditor(const QPointer<MapObjects> &blocks)
+{
+    auto *page = new BlockEditor::View(blocks, this);
+    open(page, BlocksDocument, blocks->id(), blocks->name());
+    return page;
+}
+
+void DocumentTabView::closeTab(int index)
+{
+    QWidget *page = widget(index);
+    if (page == m_scratchEditor)
+        setScratchEditorVisible(false);
+    else
+        delete page;
+}
+
+void DocumentTabView::closeAllTabs()
+{
+    setUpdatesEnabled(false);
+    while (count() > 0)
+        closeTab(count() - 1);
+    setUpdatesEnabled(true);
+}
+
+void DocumentTabView::closeDocument(const QUuid &id)
+{
+    if (!id.isNull())
+        closeTab(indexOfDocument(id));
+}
+
+void DocumentTabView::renameDocument(const QUuid &id, const QString &name)
+{
+    if (const int index = indexOfDocument(id); !id.isNull() && index >= 0)
+        setTabText(index, tabTextOf(name));
+}
+
+QStringList DocumentTabView::openDocumentIds() const
+{
+    QStringList ids;
+    for (int index = 0; index < count(); ++index) {
+        if (const QUuid id = documentId(widget(index)); !id.isNull())
+            ids.append(id.toString());
+    }
+    return ids;
+}
+
+QList<MapEditor::View *> DocumentTabView::mapEditors() const
+{
+    QList<MapEditor::View *> editors;
+    for (int index = 0; index < count(); ++index) {
+        if (auto *editor = qobject_cast<MapEditor::View *>(widget(index)))
+            editors.append(editor);
+    }
+    return editors;
+}
+
+void DocumentTabView::currentIndexChanged(int index)
+{
+    const QWidget *page = widget(index);
+    bool isNumber = false;
+    const int type = page ? page->property(TypeProperty).toInt(&isNumber) : 0;
+    if (!isNumber)
+        return;
+    const QUuid id = documentId(page);
+    switch (type) {
+    case MapDocument:
+        emit MapEditorActivated(id);
+        break;
+    case ScratchDocument:
+        emit ScratchEditorActivated();
+        break;
+    case ImageDocument:
+        emit ImageEditorActivated(id);
+        break;
+    case SpriteDocument:
+        emit SpriteEditorActivated(id);
+        break;
+    case BlocksDocument:
+        emit BlockEditorActivated(id);
+        break;
+    default:
+        break;
+    }
+}
+
+void DocumentTabView::setScratchEditorVisible(bool visible)
+{
+    const int index = indexOf(m_scratchEditor);
+    if (visible) {
+        setCurrentIndex(index >= 0 ? index : addTab(m_scratchEditor, tr("Scratch Image Editor")));
+    } else if (index >= 0) {
+        removeTab(index);
+        m_scratchEditor->hide();
+    }
+    if (visible != (index >= 0))
+        emit scratchEditorVisibleChanged(visible);
+}
