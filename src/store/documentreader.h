@@ -20,8 +20,9 @@ struct DocumentReader
     QString &error;
 
     /// How many cells the animations may still have that the document does not spell out. Sizes cost
-    /// nothing to write; without a bound a short document could ask for all memory there is.
-    qsizetype impliedCells = qsizetype(4) << 20;
+    /// nothing to write; without a bound a short document could ask for all memory there is, here and
+    /// again when the project is saved.
+    qsizetype impliedCells = qsizetype(1) << 18;
 
     /// Notes why the project cannot be read; always false.
     [[nodiscard]] bool fail(const QString &message)

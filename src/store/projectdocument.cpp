@@ -20,14 +20,17 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
+#include <algorithm>
+
 namespace {
 
 /// Version 2 is written; 1 differs from it in nothing that a reader would see.
 constexpr int FormatVersion = 2;
 constexpr int OldestVersion = 1;
 
-/// What the largest projects need many times over; parsing takes several times as much memory.
-constexpr qsizetype MaxDocumentSize = qsizetype(128) << 20;
+/// Values in the document. A frame of 16 × 16 cells, the largest that the editors offer, has some 1500; in
+/// memory a value takes up to a hundred bytes.
+constexpr qsizetype MaxValues = qsizetype(8) << 20;
 
 constexpr QLatin1String DocumentMember("project.json");
 constexpr QLatin1String ScratchMember("scratch.png");
@@ -135,6 +138,12 @@ void readBlockSets(DocumentReader &reader, const QJsonObject &document)
         map->restampAnimations(blockSets);
 }
 
+/// How many values a JSON text can hold, give or take those that are text with commas.
+qsizetype valuesIn(const QByteArray &text)
+{
+    return std::count_if(text.cbegin(), text.cend(), [](char c) { return c == ',' || c == '[' || c == '{'; });
+}
+
 } // namespace
 
 ProjectMembers serializeProject(const Project &project, bool includeOpenDocuments)
@@ -162,9 +171,9 @@ bool readProject(Project &project, const MemberReader &read, QString &error)
     error.clear();
     DocumentReader reader{project, read, error};
     const QByteArray text = read(DocumentMember);
-    if (text.isEmpty() || text.size() > MaxDocumentSize)
+    if (text.isEmpty() || valuesIn(text) > MaxValues)
         return reader.fail(QCoreApplication::translate("ProjectDocument", "Invalid project file"));
-    const QJsonObject document = QJsonDocument::fromJson(text).object(); // empty when the text is damaged
+    const QJsonObject document = QJsonDocument::fromJson(text).object(); // empty when the text is no JSON
     if (document.value(Version).toInteger(OldestVersion) > FormatVersion)
         return reader.fail(
             QCoreApplication::translate("ProjectDocument", "Project file is from a newer version of Quenmora"));
