@@ -16,12 +16,15 @@ namespace {
 
 constexpr int TileSize = TileMap::TileSize;
 
-void warnWithoutTileLayer()
-{
-    qWarning("_tileMap==nullptr");
-}
-
 } // namespace
+
+/// The tile layer; without one, null and a warning in the log.
+TileMap *Map::neededTileLayer() const
+{
+    if (!m_tileLayer)
+        qWarning("_tileMap==nullptr");
+    return m_tileLayer;
+}
 
 template <typename Function>
 void Map::forEachLayer(Function function)
@@ -67,8 +70,7 @@ void Map::setTileSet(const QPointer<TileSet> &tileSet)
         connect(tileSet, &TileSet::tileDeleted, this, [this](int index) { shiftTileIndices(index, -1); });
         connect(tileSet, &TileSet::tileInserted, this, [this](int index) { shiftTileIndices(index, +1); });
     }
-    if (!m_tileLayer)
-        warnWithoutTileLayer();
+    neededTileLayer(); // the others are bound without it
     forEachLayer([&tileSet](TileMap &layer) { layer.setTileSet(tileSet); });
 }
 
@@ -130,10 +132,8 @@ void Map::removeRow(Quenmora::Position position)
 
 void Map::resize(QSize size, Qt::Alignment alignment)
 {
-    if (!m_tileLayer) {
-        warnWithoutTileLayer();
+    if (!neededTileLayer())
         return;
-    }
     const QPoint offset = m_tileLayer->resize(size, alignment);
     if (m_objectLayer)
         m_objectLayer->resize(size, alignment);
@@ -144,23 +144,23 @@ void Map::resize(QSize size, Qt::Alignment alignment)
 /// Moves placements and sprites along with the cells, and removes those that have left the map.
 void Map::moveContent(QPoint cells)
 {
-    if (!m_tileLayer) {
-        warnWithoutTileLayer();
+    if (!neededTileLayer())
         return;
-    }
     const QRect grid = m_tileLayer->bounds();
-    QList<QRect> left;
+    const QRect staying = grid.translated(-cells); // what lies in it now will lie on the map
+    QList<QRect> leaving;
     for (const QPointer<AnimationProperties> &placement : m_animatedBlocks->list()) {
-        if (!placement)
-            continue;
-        placement->setArea(placement->area().translated(cells));
-        if (!grid.contains(placement->area()))
-            left.append(placement->area());
+        if (placement && !staying.contains(placement->area()))
+            leaving.append(placement->area());
     }
-    for (const QRect &area : std::as_const(left)) {
+    for (const QRect &area : std::as_const(leaving)) {
         m_animatedBlocks->remove(area);
         if (m_objectLayer)
-            m_objectLayer->fill(area, 0, false, false, false, true);
+            m_objectLayer->fill((area & staying).translated(cells), 0, false, false, false, true);
+    }
+    for (const QPointer<AnimationProperties> &placement : m_animatedBlocks->list()) {
+        if (placement)
+            placement->setArea(placement->area().translated(cells));
     }
 
     const QRect pixels(QPoint(0, 0), grid.size() * TileSize);
@@ -173,25 +173,26 @@ void Map::moveContent(QPoint cells)
 
 void Map::setTiles(const QRect &area, int index, bool rotate, bool flip, bool mirror, bool used)
 {
-    if (m_tileLayer)
-        m_tileLayer->fill(area, index, rotate, flip, mirror, used);
+    if (TileMap *layer = neededTileLayer())
+        layer->fill(area, index, rotate, flip, mirror, used);
 }
 
 bool Map::setTile(QPoint at, const TileMap::TileData &cell)
 {
-    return m_tileLayer && m_tileLayer->setCell(at, cell);
+    TileMap *layer = neededTileLayer();
+    return layer && layer->setCell(at, cell);
 }
 
 void Map::pasteTiles(QPoint at, const QMimeData *mimeData)
 {
-    if (m_tileLayer)
-        m_tileLayer->paste(at, mimeData);
+    if (TileMap *layer = neededTileLayer())
+        layer->paste(at, mimeData);
 }
 
 void Map::refreshOffsets()
 {
-    if (m_tileLayer)
-        m_tileLayer->refreshOffsets();
+    if (TileMap *layer = neededTileLayer())
+        layer->refreshOffsets();
 }
 
 void Map::placeAnimation(const Animation *animation, QPoint topLeft)
@@ -224,6 +225,10 @@ bool Map::removeAnimationAt(const QRect &area)
 void Map::stampFrame(const Animation &animation, int frame, QPoint topLeft)
 {
     if (!m_objectLayer || frame < 0 || frame >= animation.frameCount())
+        return;
+    // a damaged project may place it anywhere, even where reckoning with positions would overflow
+    constexpr int reach = Animation::MaximumSide;
+    if (!m_objectLayer->bounds().adjusted(-reach, -reach, 0, 0).contains(topLeft))
         return;
     const AnimationFrame::Cells &rows = animation.frame(frame)->cells();
     for (int y = 0; y < rows.size(); ++y) {
@@ -317,11 +322,8 @@ void Map::paintLayers(QPainter &painter, QPoint origin, const QRect &cells, int 
 
 bool Map::exportData(const QString &fileName) const
 {
-    if (!m_tileLayer) {
-        warnWithoutTileLayer();
-        return false;
-    }
-    return RawFile::write(fileName, m_tileLayer->toNextData());
+    const TileMap *layer = neededTileLayer();
+    return layer && RawFile::write(fileName, layer->toNextData());
 }
 
 bool Map::exportToDirectory(const QString &folder) const

@@ -163,6 +163,7 @@ signals:
     void restored();
 
 private:
+    TileMap *neededTileLayer() const;
     template <typename Function>
     void forEachLayer(Function function);
     void moveContent(QPoint cells);

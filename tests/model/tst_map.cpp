@@ -119,6 +119,7 @@ private slots:
     void restoresSnapshots();
     void exportsTheTileLayer();
     void importsATileDataSet();
+    void importsOddTileDataSets();
     void refusesDamagedTileDataSets_data();
     void refusesDamagedTileDataSets();
     void showsObjectsWhereTheyArePlaced();
@@ -156,8 +157,10 @@ void TestMap::worksWithoutLayers()
     map.resize({4, 4}, Qt::AlignLeft);
     QCOMPARE(resized.size(), 0);
     QCOMPARE(map.size(), QSize(0, 0));
+    QTest::ignoreMessage(QtWarningMsg, "_tileMap==nullptr");
     QVERIFY(!map.setTile({0, 0}, tile(1)));
-    map.setTiles(QRect(0, 0, 2, 2), 1, false, false, false, true);
+    QTest::ignoreMessage(QtWarningMsg, "_tileMap==nullptr");
+    QVERIFY(!map.exportData(QStringLiteral("level.map")));
     map.restore(map.snapshot());
 
     auto *layer = new TileMap(3, 3);
@@ -201,6 +204,7 @@ void TestMap::removesContentThatLeaves()
     const QPointer<TileAnimation> animation = level.animation();
     level.map.placeAnimation(animation, {0, 2});
     level.map.placeAnimation(animation, {5, 2});
+    level.map.animatedBlocks()->add(QRect(QPoint(INT_MIN, 0), QPoint(INT_MIN, 0)), animation->id());
     for (const QPoint at : {QPoint(3, 0), QPoint(8, 0), QPoint(95, 79)})
         level.map.addSprite(spriteAt(at.x(), at.y()));
     level.map.removeColumn(Quenmora::Begin);
@@ -289,7 +293,7 @@ void TestMap::restampsAnimations()
     const QPointer<TileAnimation> animation = level.animation();
     level.map.animatedBlocks()->add(QRect(2, 2, 2, 1), animation->id());
     level.map.animatedBlocks()->add(QRect(6, 2, 2, 1), QUuid::createUuid());
-    level.map.animatedBlocks()->add(QRect(-7, 1 << 20, 2000, 1), animation->id());
+    level.map.animatedBlocks()->add(QRect(QPoint(INT_MAX, 3), QPoint(INT_MAX, 3)), animation->id());
     level.map.setTiles(level.tiles.bounds(), 9, false, false, false, true);
     MapObjects other;
     level.map.restampAnimations({&other, nullptr, &level.blocks});
@@ -424,10 +428,12 @@ void TestMap::restoresSnapshots()
 void TestMap::exportsTheTileLayer()
 {
     const QTemporaryDir folder;
-    Level level({2, 1});
+    Level level({2, 2});
     level.map.setTile({0, 0}, {257, false, false, true, 3, true});
     level.map.setTile({1, 0}, {5, true, false, false, 0, true});
-    const QByteArray expected = QByteArray::fromHex("01390502");
+    level.map.setTile({0, 1}, {2, false, true, false, 15, true});
+    level.map.setTile({1, 1}, {511, true, true, true, 10, true});
+    const QByteArray expected = QByteArray::fromHex("01390502 02F4FFAF");
     QVERIFY(level.map.exportData(folder.filePath(QStringLiteral("level.map"))));
     QCOMPARE(contents(folder.filePath(QStringLiteral("level.map"))), expected);
     QVERIFY(level.map.exportToDirectory(folder.path()));
@@ -440,6 +446,21 @@ void TestMap::exportsTheTileLayer()
 }
 
 void TestMap::importsATileDataSet()
+{
+    const QTemporaryDir folder;
+    const QString mapFile =
+        written(folder, QStringLiteral("level.nxm"), QByteArray::fromHex("0402 0100 0000") + QByteArray(252, '\0'));
+    const QString blockFile =
+        written(folder, QStringLiteral("level.nxb"), QByteArray::fromHex("0000 0000 0000 0000 0100 0200 1100 1200"));
+    Level level;
+    QVERIFY(level.map.importNxm(mapFile, blockFile));
+    const int expected[2][4] = {{1, 2, 0, 0}, {17, 18, 0, 0}};
+    QCOMPARE(level.map.size(), QSize(4, 2));
+    for (int i = 0; i < 8; ++i)
+        QCOMPARE(level.tiles.cellAt({i % 4, i / 4}), tile(expected[i / 4][i % 4]));
+}
+
+void TestMap::importsOddTileDataSets()
 {
     const QTemporaryDir folder;
     // three by three cells: the blocks at the right and at the bottom are cut
