@@ -19,7 +19,6 @@ private slots:
     void undoAndRedoPutTheMapBack_data();
     void undoAndRedoPutTheMapBack();
     void manyRandomEditsAreUndoneInOrder();
-    void firstRedoDoesNothing();
     void undoLeavesOtherChangesAlone();
     void mapThatShrankKeepsItsSize();
     void deletedMapIsSafe();
@@ -69,7 +68,6 @@ void TestMapEditCommand::undoAndRedoPutTheMapBack_data()
     const auto row = [](const char *name, const Edit &change) { QTest::newRow(name) << change; };
 
     row("nothing", [](Map &) {});
-    row("one cell", [](Map &map) { map.setTile({5, 5}, cell(9)); });
     row("corners", [](Map &map) {
         for (const QPoint corner : {QPoint(0, 0), QPoint(19, 0), QPoint(0, 9), QPoint(19, 9)})
             map.setTile(corner, cell(77));
@@ -96,12 +94,13 @@ void TestMapEditCommand::undoAndRedoPutTheMapBack()
 {
     QFETCH(Edit, change);
     const Map::Snapshot before = m_map->snapshot();
+    QSignalSpy restored(m_map.get(), &Map::restored);
     edit(change);
+    QCOMPARE(restored.count(), 0);
     const Map::Snapshot after = m_map->snapshot();
     for (int round = 0; round < 2; ++round) {
         m_stack->undo();
         QVERIFY(m_map->snapshot() == before);
-        QCOMPARE(m_map->size(), QSize(20, 10));
         m_stack->redo();
         QVERIFY(m_map->snapshot() == after);
     }
@@ -129,17 +128,6 @@ void TestMapEditCommand::manyRandomEditsAreUndoneInOrder()
         m_stack->setIndex(random.bounded(m_stack->count() + 1));
         QVERIFY(m_map->snapshot() == states.at(m_stack->index()));
     }
-}
-
-void TestMapEditCommand::firstRedoDoesNothing()
-{
-    QSignalSpy restored(m_map.get(), &Map::restored);
-    QSignalSpy changed(m_tiles.get(), &TileMap::tilesChanged);
-    edit([](Map &map) { map.setTile({5, 5}, cell(9)); });
-    QCOMPARE(restored.count(), 0);
-    m_stack->undo();
-    QCOMPARE(restored.count(), 1);
-    QCOMPARE(changed.count(), 1);
 }
 
 void TestMapEditCommand::undoLeavesOtherChangesAlone()

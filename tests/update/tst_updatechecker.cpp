@@ -16,7 +16,6 @@ private slots:
     void failuresAreReported_data();
     void failuresAreReported();
     void newCheckReplacesTheOneInFlight();
-    void withoutAddressEveryCheckFails();
 };
 
 void TestUpdateChecker::asksOnceAndReportsTheBody()
@@ -83,15 +82,6 @@ void TestUpdateChecker::newCheckReplacesTheOneInFlight()
     QCOMPARE(fetched.first().first().toByteArray(), QByteArray("second"));
     QCOMPARE(fetched.count(), 1);
     QCOMPARE(failed.count(), 0);
-}
-
-void TestUpdateChecker::withoutAddressEveryCheckFails()
-{
-    UpdateChecker::setFeedAddress(QUrl());
-    UpdateChecker checker(QStringLiteral("0.7.0.0"));
-    QSignalSpy failed(&checker, &UpdateChecker::failed);
-    checker.check();
-    QVERIFY(failed.wait());
 }
 
 QUENMORA_TEST_MAIN(TestUpdateChecker)

@@ -27,7 +27,6 @@ class TestUpdateController : public QObject
 
 private slots:
     void init();
-    void cleanup();
     void newerReleaseIsReportedWithItsOrigin();
     void anyFeedCountsAsChecked_data();
     void anyFeedCountsAsChecked();
@@ -54,13 +53,6 @@ void TestUpdateController::init()
     const Update::RunningVersion running{"0.7.0.0", "2026-10-15", "stable"};
     m_controller = std::make_unique<UpdateController>(
         m_page.get(), [this] { m_saved.append(m_page->toJson()); }, running);
-}
-
-void TestUpdateController::cleanup()
-{
-    m_controller.reset();
-    m_page.reset();
-    m_server.reset();
 }
 
 void TestUpdateController::newerReleaseIsReportedWithItsOrigin()
