@@ -45,8 +45,10 @@ install_missing() {
         sudo -v || exit 1 # asks for the password before the output goes to a file
     fi
     say "Installing ${missing[*]}"
+    # a fresh machine may be busy with its own updates: wait for them
     quietly build/install.log "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive sh -c \
-        'apt-get -q update && apt-get -q install --yes --no-install-recommends "$@"' sh "${missing[@]}"
+        'apt-get -q update && apt-get -q -o DPkg::Lock::Timeout=600 install --yes --no-install-recommends "$@"' \
+        sh "${missing[@]}"
 }
 
 # configure PRESET [OPTION...]: only when the preset was not configured yet, or has changed since;
