@@ -1,0 +1,86 @@
+#pragma once
+
+#include "editors/edittarget.h"
+#include "model/image.h"
+#include "model/palette.h"
+#include "ui/enums.h"
+#include "undo/pixeleditcommand.h"
+
+#include <QPointer>
+#include <QUndoStack>
+#include <QWidget>
+
+class Canvas;
+class ColourPalette;
+class QFileDialog;
+class ScrollCanvas;
+class ToolPalette;
+
+namespace ImageEditor {
+
+class ImportDialog;
+
+/// The document page that paints one image, or the project's scratch picture.
+class View : public QWidget, public EditTarget
+{
+    Q_OBJECT
+
+public:
+    explicit View(QWidget *parent = nullptr);
+
+    /// Edits an image asset with its palette; null shows an empty picture.
+    void setImage(const QPointer<Image> &image);
+    Image *image() const { return m_image; }
+    /// Edits a picture that is no asset; its changes are announced by imageChanged() alone.
+    void setPixels(const QImage &pixels);
+    QImage pixels() const;
+    void setPalette(const QPointer<Palette> &palette);
+    void setUndoStack(QUndoStack *stack) { m_undoStack = stack; }
+    Canvas *canvas() const { return m_canvas; }
+
+    void cut() override;
+    void copy() override;
+    void paste() override;
+    void selectAll() override;
+    void selectNone() override;
+
+signals:
+    void imageChanged(QImage image);
+    /// A file could not be read or written.
+    void error(const QString &message);
+
+protected:
+    bool event(QEvent *event) override;
+
+private slots:
+    void changeMode(Quenmora::Ui::ToolButton action, bool checked);
+    void exportImage(const QString &name);
+    void setForeIndex(int index);
+    void setBackIndex(int index);
+
+private:
+    void buildPage();
+    void connectParts();
+    /// 16 in the 640 × 256 mode, else 256.
+    int colourCount() const;
+    void load(const QImage &pixels);
+    void writeBack();
+    void openImportFile();
+    void openExportFile();
+    void importPicture(const QString &fileName);
+    void place(const QImage &pixels);
+    void pushEdit(const QString &text, const QImage &before, const QImage &after, PixelEditCommand::Kind kind);
+
+    QPointer<Image> m_image;
+    Canvas *m_canvas;
+    ScrollCanvas *m_scroller;
+    ToolPalette *m_tools;
+    ColourPalette *m_colours;
+    QPointer<QUndoStack> m_undoStack;
+    QFileDialog *m_importFile = nullptr;
+    QFileDialog *m_exportFile = nullptr;
+    ImportDialog *m_importDialog = nullptr;
+    bool m_loading = false;
+};
+
+} // namespace ImageEditor

@@ -1,0 +1,68 @@
+#include "editors/canvas/imageimportdialog.h"
+
+#include "editors/canvas/pictureimport.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace ImageEditor {
+
+namespace {
+
+constexpr QSize PreviewSize(320, 256);
+
+}
+
+ImportDialog::ImportDialog(QWidget *parent)
+    : DialogBase(tr("Import Image"), parent)
+    , m_preview(new QLabel(this))
+    , m_size(new QLabel(this))
+    , m_scale(new QCheckBox(tr("Scale to fill the image"), this))
+{
+    setHeader(tr("Import a picture"));
+    m_preview->setFixedSize(PreviewSize);
+    m_preview->setAlignment(Qt::AlignCenter);
+    m_preview->setFrameStyle(QFrame::Panel | QFrame::Sunken);
+    m_preview->setAccessibleName(tr("Preview"));
+    body()->addWidget(m_preview, 0, Qt::AlignHCenter);
+    body()->addWidget(m_size, 0, Qt::AlignHCenter);
+    body()->addWidget(m_scale);
+    connect(m_scale, &QCheckBox::toggled, this, &ImportDialog::updatePreview);
+    connect(this, &QDialog::accepted, this, [this] { emit imported(m_pixels); });
+}
+
+void ImportDialog::show(const QImage &picture, const QPointer<Palette> &palette, QSize imageSize, int colourCount)
+{
+    m_picture = picture;
+    m_palette = palette;
+    m_imageSize = imageSize;
+    m_colourCount = colourCount;
+    m_size->setText(tr("Picture %1 × %2, image %3 × %4")
+                        .arg(picture.width())
+                        .arg(picture.height())
+                        .arg(imageSize.width())
+                        .arg(imageSize.height()));
+    m_scale->setChecked(false);
+    m_scale->setEnabled(picture.size() != imageSize);
+    updatePreview();
+    DialogBase::open();
+}
+
+QString ImportDialog::problem() const
+{
+    return m_pixels.isNull() ? tr("The picture cannot be used") : QString();
+}
+
+void ImportDialog::updatePreview()
+{
+    // Only what lies inside the image is converted.
+    const bool scale = m_scale->isChecked();
+    const QImage part = scale ? m_picture : m_picture.copy(QRect(QPoint(), m_imageSize) & m_picture.rect());
+    m_pixels = m_palette ? PictureImport::indexed(part, *m_palette, m_colourCount, scale ? m_imageSize : QSize())
+                         : QImage();
+    const QImage shown = m_pixels.convertToFormat(QImage::Format_RGB32);
+    m_preview->setPixmap(QPixmap::fromImage(shown.scaled(PreviewSize, Qt::KeepAspectRatio)));
+}
+
+} // namespace ImageEditor

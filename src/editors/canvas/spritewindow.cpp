@@ -1,0 +1,239 @@
+#include "editors/canvas/spritewindow.h"
+
+#include "editors/canvas/canvas.h"
+#include "editors/canvas/pixelediting.h"
+#include "editors/canvas/spritelist.h"
+#include "editors/palette/colourpalette.h"
+#include "ui/sectionheader.h"
+#include "ui/toolpalette.h"
+
+#include <QScopedValueRollback>
+#include <QScrollArea>
+#include <QSplitter>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+using namespace Quenmora::Ui;
+
+namespace {
+
+constexpr QSize SpriteSize(SpriteBank::SpriteSize, SpriteBank::SpriteSize);
+constexpr int BankSize = 16;
+
+} // namespace
+
+SpriteWindow::SpriteWindow(QWidget *parent)
+    : DockWidget(tr("Sprite Editor"), tr("No sprites selected"), parent)
+    , m_canvas(new Canvas(SpriteSize))
+    , m_tools(new ToolPalette(Qt::Horizontal))
+    , m_colours(new ColourPalette)
+    , m_header(new SectionHeader(QString()))
+    , m_list(new SpriteEditor::SpriteList)
+{
+    setObjectName(QStringLiteral("SpriteEditor"));
+    setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
+    for (const ToolButton button : {Draw, Line, Rectangle, RectangleFill, Circle, Fill, Pick, Select, Paste, Grid,
+                                    ZoomIn, ZoomOut, RotateCW, RotateCCW, Flip, Mirror, MoveUp, MoveDown, MoveLeft,
+                                    MoveRight})
+        m_tools->addEntry(button);
+    m_tools->setMode(Draw);
+    buildPage();
+    connectParts();
+    setSprites(nullptr);
+}
+
+void SpriteWindow::buildPage()
+{
+    m_canvas->setMinimumHeight(8 * SpriteSize.height());
+    auto *editor = new QWidget;
+    auto *editorLayout = new QVBoxLayout(editor);
+    editorLayout->setContentsMargins(0, 0, 0, 0);
+    editorLayout->addWidget(m_tools);
+    editorLayout->addWidget(m_canvas, 1);
+    editorLayout->addWidget(m_colours);
+
+    auto *scroller = new QScrollArea;
+    scroller->setWidgetResizable(true);
+    scroller->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroller->setWidget(m_list);
+    auto *listPart = new QWidget;
+    auto *listLayout = new QVBoxLayout(listPart);
+    listLayout->setContentsMargins(0, 0, 0, 0);
+    listLayout->setSpacing(0);
+    listLayout->addWidget(m_header);
+    listLayout->addWidget(scroller, 1);
+
+    auto *splitter = new QSplitter(Qt::Vertical);
+    splitter->addWidget(editor);
+    splitter->addWidget(listPart);
+    splitter->setStretchFactor(0, 3);
+    splitter->setStretchFactor(1, 2);
+    setContent(splitter);
+}
+
+void SpriteWindow::connectParts()
+{
+    connect(m_tools, &ToolPalette::actionActivated, m_canvas, &Canvas::setMode);
+    connect(m_canvas, &Canvas::imageChanged, this, &SpriteWindow::updateSpriteImage);
+    connect(m_canvas, &Canvas::edited, this, &SpriteWindow::pushEdit);
+    connect(m_canvas, &Canvas::foregroundPicked, m_colours, &ColourPalette::setPrimaryIndex);
+    connect(m_canvas, &Canvas::backgroundPicked, m_colours, &ColourPalette::setSecondaryIndex);
+    connect(m_canvas, &Canvas::pixelHovered, this, [this](QPoint pixel, int index) {
+        PixelEditing::showPixel(this, pixel, index, m_canvas->palette());
+    });
+    connect(m_colours, &ColourPalette::primaryIndexChanged, m_canvas, &Canvas::setInk);
+    connect(m_colours, &ColourPalette::secondaryIndexChanged, m_canvas, &Canvas::setPaper);
+    PixelEditing::addSwapAction(content(), m_canvas);
+
+    using SpriteEditor::SpriteList;
+    connect(m_list, &SpriteList::indexChanged, this, &SpriteWindow::changeSprite);
+    connect(m_list, &SpriteList::addSprite, this,
+            [this] { editStructure(tr("Add Sprite"), [](SpriteBank &bank) { bank.addSprite(true); }); });
+    connect(m_list, &SpriteList::deleteRequested, this, [this](int index) {
+        editStructure(tr("Delete Sprite"), [index](SpriteBank &bank) { bank.deleteSprite(index); });
+    });
+    connect(m_list, &SpriteList::clearRequested, this, [this](int index) {
+        editStructure(tr("Clear Sprite"), [index](SpriteBank &bank) { bank.clearSprite(index); });
+    });
+    connect(m_list, &SpriteList::copySprite, this, [this](int source, int dest) {
+        editStructure(tr("Copy Sprite"), [=](SpriteBank &bank) { bank.copySprite(source, dest); });
+    });
+    connect(m_list, &SpriteList::moveSprite, this, [this](int source, int dest) {
+        editStructure(tr("Move Sprite"), [=](SpriteBank &bank) { bank.moveSprite(source, dest); });
+    });
+}
+
+// ---- What is shown --------------------------------------------------------------------------
+
+void SpriteWindow::setSprites(const QPointer<SpriteBank> &sprites)
+{
+    if (m_sprites)
+        m_sprites->disconnect(this);
+    m_sprites = sprites;
+    m_index = 0;
+    m_canvas->setEnabled(sprites);
+    m_list->setSprites(sprites);
+    setActive(sprites);
+    if (m_sprites) {
+        const bool fourBit = m_sprites->depth() == Quenmora::FourBit;
+        m_canvas->setImageType(fourBit ? Offset16 : Full256);
+        m_colours->setRange(0, fourBit ? BankSize : Palette::Size);
+        connect(m_sprites, &SpriteBank::imageChanged, this, [this](int index) {
+            if (index == m_index && !m_writing)
+                loadSprite();
+        });
+        connect(m_sprites, &SpriteBank::countChanged, this, &SpriteWindow::refresh);
+        connect(m_sprites, &SpriteBank::restored, this, &SpriteWindow::refresh);
+        connect(m_sprites, &QObject::destroyed, this, [this] { setSprites(nullptr); });
+    }
+    refresh();
+}
+
+void SpriteWindow::setSpritePalette(Palette *palette)
+{
+    if (m_sprites)
+        m_sprites->setPalette(palette);
+    refresh();
+}
+
+void SpriteWindow::refresh()
+{
+    const QPointer<Palette> palette = m_sprites ? m_sprites->palette() : nullptr;
+    m_canvas->bindPalette(palette);
+    m_colours->setPalette(palette);
+    m_header->setText(tr("Sprites: %1").arg(m_sprites ? m_sprites->name() : QString()));
+    if (!m_sprites)
+        return;
+    m_index = std::clamp(m_index, 0, m_sprites->count() - 1);
+    m_list->setSelectedIndex(m_index);
+    loadSprite();
+}
+
+void SpriteWindow::changeSprite(int index)
+{
+    m_index = index;
+    refresh();
+}
+
+void SpriteWindow::loadSprite()
+{
+    const QScopedValueRollback loading(m_loading, true);
+    m_canvas->setImage(m_sprites->spriteImage(m_index, false, false, false));
+}
+
+// ---- Edits ----------------------------------------------------------------------------------
+
+void SpriteWindow::updateSpriteImage()
+{
+    if (m_loading || !m_sprites)
+        return;
+    const QScopedValueRollback writing(m_writing, true);
+    m_sprites->setImage(m_index, m_canvas->image());
+}
+
+void SpriteWindow::editStructure(const QString &text, const std::function<void(SpriteBank &)> &edit)
+{
+    if (!m_sprites)
+        return;
+    emit m_sprites->structureAboutToChange();
+    edit(*m_sprites);
+    emit m_sprites->structureChanged(text);
+    refresh();
+}
+
+void SpriteWindow::pushEdit(const QString &text, const QImage &before, const QImage &after,
+                            PixelEditCommand::Kind kind)
+{
+    if (!m_sprites || !m_stackFor)
+        return;
+    const auto apply = [window = QPointer(this), bank = m_sprites, index = m_index](const QImage &image) {
+        if (window)
+            window->applyEdit(bank, index, image);
+    };
+    PixelEditing::push(m_stackFor(m_sprites->id()), text, before, after, apply,
+                       PixelEditing::mergeKey(m_sprites->id(), m_index), kind);
+}
+
+void SpriteWindow::applyEdit(const QPointer<SpriteBank> &bank, int index, const QImage &image)
+{
+    if (!bank || index >= bank->count())
+        return;
+    if (bank == m_sprites && index == m_index)
+        m_canvas->setImage(image);
+    else
+        bank->setImage(index, image);
+}
+
+// ---- Edit menu and keys ---------------------------------------------------------------------
+
+void SpriteWindow::cut()
+{
+    m_canvas->cut();
+}
+
+void SpriteWindow::copy()
+{
+    m_canvas->copy();
+}
+
+void SpriteWindow::paste()
+{
+    m_canvas->paste();
+}
+
+void SpriteWindow::selectAll()
+{
+    m_canvas->selectAll();
+}
+
+void SpriteWindow::selectNone()
+{
+    m_canvas->selectNone();
+}
+
+bool SpriteWindow::event(QEvent *event)
+{
+    PixelEditing::scrollByShortcutOverride(m_canvas, event);
+    return DockWidget::event(event);
+}

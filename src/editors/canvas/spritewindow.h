@@ -1,0 +1,73 @@
+#pragma once
+
+#include "editors/edittarget.h"
+#include "model/spritebank.h"
+#include "ui/dockwidget.h"
+#include "undo/editrecorder.h"
+#include "undo/pixeleditcommand.h"
+
+class Canvas;
+class ColourPalette;
+class SectionHeader;
+class ToolPalette;
+
+namespace SpriteEditor {
+class SpriteList;
+}
+
+/// The sprite editor dock: paints one sprite of a bank, above the list of all of them.
+class SpriteWindow : public DockWidget, public EditTarget
+{
+    Q_OBJECT
+
+public:
+    explicit SpriteWindow(QWidget *parent = nullptr);
+
+    void setUndoStackProvider(const EditRecorder::StackProvider &stackFor) { m_stackFor = stackFor; }
+
+    SpriteBank *sprites() const { return m_sprites; }
+    /// The sprite shown, -1 without a bank.
+    int spriteIndex() const { return m_sprites ? m_index : -1; }
+    Canvas *canvas() const { return m_canvas; }
+    SpriteEditor::SpriteList *list() const { return m_list; }
+
+    void cut() override;
+    void copy() override;
+    void paste() override;
+    void selectAll() override;
+    void selectNone() override;
+
+public slots:
+    /// Writes the canvas's image into the sprite.
+    void updateSpriteImage();
+    void changeSprite(int index);
+    /// Shows again what the bank holds.
+    void refresh();
+    /// Null shows the placeholder.
+    void setSprites(const QPointer<SpriteBank> &sprites);
+    /// Binds the bank to a palette and draws with it.
+    void setSpritePalette(Palette *palette);
+
+protected:
+    bool event(QEvent *event) override;
+
+private:
+    void buildPage();
+    void connectParts();
+    void loadSprite();
+    /// Runs a change of the bank's structure as one undo step.
+    void editStructure(const QString &text, const std::function<void(SpriteBank &)> &edit);
+    void pushEdit(const QString &text, const QImage &before, const QImage &after, PixelEditCommand::Kind kind);
+    void applyEdit(const QPointer<SpriteBank> &bank, int index, const QImage &image);
+
+    QPointer<SpriteBank> m_sprites;
+    Canvas *m_canvas;
+    ToolPalette *m_tools;
+    ColourPalette *m_colours;
+    SectionHeader *m_header;
+    SpriteEditor::SpriteList *m_list;
+    int m_index = 0;
+    EditRecorder::StackProvider m_stackFor;
+    bool m_loading = false;
+    bool m_writing = false;
+};

@@ -1,0 +1,277 @@
+#include "editors/canvas/tilewindow.h"
+
+#include "editors/canvas/canvas.h"
+#include "editors/canvas/pixelediting.h"
+#include "editors/canvas/tileattributeseditor.h"
+#include "editors/palette/colourselector.h"
+#include "editors/palette/paletteeditor.h"
+#include "ui/expandablesection.h"
+#include "ui/numberstepper.h"
+#include "ui/toolpalette.h"
+
+#include <QAction>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QScopedValueRollback>
+#include <QScrollArea>
+#include <QSignalBlocker>
+#include <QSpinBox>
+
+#include <algorithm>
+
+using namespace Quenmora::Ui;
+
+namespace {
+
+constexpr QSize TileSize(8, 8);
+constexpr int BankCount = 16;
+constexpr int BankSize = 16;
+
+} // namespace
+
+TileWindow::TileWindow(QWidget *parent)
+    : DockWidget(tr("Tile Editor"), tr("No tile set selected"), parent)
+    , m_canvas(new Canvas(TileSize))
+    , m_tools(new ToolPalette(Qt::Horizontal))
+    , m_number(new NumberStepper)
+    , m_offset(new QSpinBox)
+    , m_colours(new ColourSelector)
+    , m_attributes(new TileAttributesEditor)
+    , m_paletteEditor(new PaletteEditor)
+{
+    setObjectName(QStringLiteral("TileEditor"));
+    m_canvas->setImageType(Offset16);
+    m_number->setItemName(tr("Tile"));
+    m_offset->setRange(1, BankCount);
+    m_offset->setToolTip(tr("The group of 16 colours that the tile is drawn with"));
+    for (const ToolButton button : {Draw, Line, Rectangle, RectangleFill, Circle, Fill, Pick, Select, Paste, Grid,
+                                    ZoomIn, ZoomOut, RotateCW, RotateCCW, Flip, Mirror, MoveUp, MoveDown, MoveLeft,
+                                    MoveRight})
+        m_tools->addEntry(button);
+    m_tools->setMode(Draw);
+
+    auto *scroller = new QScrollArea;
+    scroller->setFrameShape(QFrame::NoFrame);
+    scroller->setWidgetResizable(true);
+    scroller->setWidget(buildPage());
+    setContent(scroller);
+    connectParts();
+    setTileSet(nullptr);
+}
+
+QWidget *TileWindow::buildPage()
+{
+    m_canvas->setMinimumHeight(BankSize * TileSize.height());
+    auto *form = new QFormLayout;
+    form->addRow(tr("Tile"), m_number);
+    form->addRow(tr("Palette offset"), m_offset);
+    auto *attributes = new ExpandableSection(tr("Attributes"));
+    attributes->setContent(m_attributes);
+    auto *palette = new ExpandableSection(tr("Palette Editor"));
+    palette->setContent(m_paletteEditor);
+
+    auto *page = new QWidget;
+    auto *layout = new QVBoxLayout(page);
+    layout->addWidget(m_tools);
+    layout->addWidget(m_canvas, 1);
+    layout->addWidget(m_colours);
+    layout->addLayout(form);
+    layout->addWidget(attributes);
+    layout->addWidget(palette);
+    return page;
+}
+
+void TileWindow::connectParts()
+{
+    connect(m_tools, &ToolPalette::actionActivated, m_canvas, &Canvas::setMode);
+    connect(m_canvas, &Canvas::imageChanged, this, &TileWindow::imageChanged);
+    connect(m_canvas, &Canvas::edited, this, &TileWindow::pushEdit);
+    connect(m_canvas, &Canvas::foregroundPicked, m_colours, &ColourSelector::setForeIndex);
+    connect(m_canvas, &Canvas::backgroundPicked, m_colours, &ColourSelector::setBackIndex);
+    connect(m_canvas, &Canvas::pixelHovered, this, [this](QPoint pixel, int index) {
+        PixelEditing::showPixel(this, pixel, index, m_palette);
+    });
+    connect(m_number, &NumberStepper::valueChanged, this, [this] {
+        loadTile();
+        emit tileIndexChanged(tileIndex());
+    });
+    connect(m_offset, &QSpinBox::valueChanged, this, &TileWindow::paletteOffsetChanged);
+    connect(m_colours, &ColourSelector::foreColourChanged, this, &TileWindow::foreColourChanged);
+    connect(m_colours, &ColourSelector::backColourChanged, this, &TileWindow::backColourChanged);
+    connect(m_colours, &ColourSelector::doubleClicked, m_paletteEditor, &PaletteEditor::setSelectedIndex);
+    PixelEditing::addSwapAction(content(), m_canvas);
+}
+
+// ---- What is shown --------------------------------------------------------------------------
+
+int TileWindow::tileIndex() const
+{
+    return m_tileSet ? m_number->value() - 1 : -1;
+}
+
+void TileWindow::setTileSet(const QPointer<TileSet> &tileSet)
+{
+    if (m_tileSet)
+        m_tileSet->disconnect(this);
+    m_tileSet = tileSet;
+    m_canvas->setEnabled(tileSet);
+    setActive(tileSet);
+    setWindowTitle(tileSet ? tileSet->name() : tr("Tile Editor"));
+    if (m_tileSet) {
+        m_canvas->setTallPixels(m_tileSet->hiRes());
+        connect(m_tileSet, &TileSet::nameChanged, this, &QWidget::setWindowTitle);
+        connect(m_tileSet, &TileSet::tileChanged, this, [this](int index) {
+            if (index == tileIndex() && !m_writing)
+                loadTile();
+        });
+        connect(m_tileSet, &TileSet::tileSwapped, this, &TileWindow::loadTile);
+        connect(m_tileSet, &TileSet::tileInserted, this, &TileWindow::tileCountChanged);
+        connect(m_tileSet, &TileSet::tileDeleted, this, &TileWindow::tileCountChanged);
+        connect(m_tileSet, &TileSet::restored, this, [this] { tileCountChanged(tileIndex()); });
+        connect(m_tileSet, &QObject::destroyed, this, [this] { setTileSet(nullptr); });
+    }
+    tileCountChanged(tileIndex());
+    emit activeStateChanged(m_tileSet);
+}
+
+void TileWindow::tileCountChanged(int)
+{
+    const QSignalBlocker blocker(m_number);
+    m_number->setRange(1, m_tileSet ? std::max(m_tileSet->count(), 1) : 1);
+    loadTile();
+}
+
+void TileWindow::setTileIndex(int index)
+{
+    if (index == m_number->value())
+        loadTile();
+    else
+        m_number->setValue(index);
+}
+
+void TileWindow::setPalette(const QPointer<Palette> &palette)
+{
+    m_palette = palette;
+    if (m_tileSet && m_tileSet->palette() != palette)
+        m_tileSet->setPalette(palette);
+    m_canvas->bindPalette(palette);
+    m_colours->setPalette(palette);
+    m_paletteEditor->setPalette(palette);
+}
+
+void TileWindow::loadTile()
+{
+    const Tile *tile = m_tileSet ? m_tileSet->tile(tileIndex()) : nullptr;
+    m_attributes->setTile(m_tileSet, tileIndex());
+    if (!tile)
+        return;
+    const QScopedValueRollback loading(m_loading, true);
+    m_canvas->setImage(tile->image());
+    showBank(tile->offset() + 1);
+}
+
+void TileWindow::showBank(int bank)
+{
+    {
+        const QSignalBlocker blocker(m_offset);
+        m_offset->setValue(bank);
+    }
+    const int base = (bank - 1) * BankSize;
+    m_canvas->setInk(base + m_canvas->ink() % BankSize);
+    m_canvas->setPaper(base + m_canvas->paper() % BankSize);
+    m_colours->setOffset(bank);
+    m_colours->setForeIndex(m_canvas->ink());
+    m_colours->setBackIndex(m_canvas->paper());
+}
+
+// ---- Edits ----------------------------------------------------------------------------------
+
+void TileWindow::writeTile(const QPointer<TileSet> &tileSet, int index, const QImage &image)
+{
+    if (!tileSet || !tileSet->tile(index))
+        return;
+    const QScopedValueRollback writing(m_writing, tileSet == m_tileSet && index == tileIndex());
+    tileSet->setTileImage(index, image);
+    tileSet->notifyImageChanged(index);
+}
+
+void TileWindow::imageChanged()
+{
+    if (!m_loading)
+        writeTile(m_tileSet, tileIndex(), m_canvas->image());
+}
+
+void TileWindow::paletteOffsetChanged(int offset)
+{
+    if (!m_tileSet)
+        return;
+    m_tileSet->setTileOffset(tileIndex(), offset - 1);
+    m_canvas->remap(offset);
+    showBank(offset);
+    writeTile(m_tileSet, tileIndex(), m_canvas->image());
+}
+
+void TileWindow::foreColourChanged(int index)
+{
+    m_canvas->setInk(index);
+    m_paletteEditor->setSelectedIndex(index);
+}
+
+void TileWindow::backColourChanged(int index)
+{
+    m_canvas->setPaper(index);
+}
+
+void TileWindow::pushEdit(const QString &text, const QImage &before, const QImage &after, PixelEditCommand::Kind kind)
+{
+    if (!m_tileSet || !m_stackFor)
+        return;
+    const auto apply = [window = QPointer(this), tileSet = m_tileSet, index = tileIndex()](const QImage &image) {
+        if (window)
+            window->applyEdit(tileSet, index, image);
+    };
+    PixelEditing::push(m_stackFor(m_tileSet->id()), text, before, after, apply,
+                       PixelEditing::mergeKey(m_tileSet->id(), tileIndex()), kind);
+}
+
+void TileWindow::applyEdit(const QPointer<TileSet> &tileSet, int index, const QImage &image)
+{
+    if (tileSet && tileSet == m_tileSet && index == tileIndex())
+        m_canvas->setImage(image);
+    else
+        writeTile(tileSet, index, image);
+}
+
+// ---- Edit menu and keys ---------------------------------------------------------------------
+
+void TileWindow::cut()
+{
+    m_canvas->cut();
+}
+
+void TileWindow::copy()
+{
+    m_canvas->copy();
+}
+
+void TileWindow::paste()
+{
+    m_canvas->paste();
+}
+
+void TileWindow::selectAll()
+{
+    m_canvas->selectAll();
+}
+
+void TileWindow::selectNone()
+{
+    m_canvas->selectNone();
+}
+
+bool TileWindow::event(QEvent *event)
+{
+    PixelEditing::scrollByShortcutOverride(m_canvas, event);
+    return DockWidget::event(event);
+}

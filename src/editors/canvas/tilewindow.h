@@ -1,0 +1,86 @@
+#pragma once
+
+#include "editors/edittarget.h"
+#include "model/palette.h"
+#include "model/tileset.h"
+#include "ui/dockwidget.h"
+#include "undo/editrecorder.h"
+#include "undo/pixeleditcommand.h"
+
+class Canvas;
+class ColourSelector;
+class NumberStepper;
+class PaletteEditor;
+class QSpinBox;
+class TileAttributesEditor;
+class ToolPalette;
+
+/// The tile editor dock: paints one tile of a tile set, and edits its palette offset, its attributes
+/// and the palette.
+class TileWindow : public DockWidget, public EditTarget
+{
+    Q_OBJECT
+
+public:
+    explicit TileWindow(QWidget *parent = nullptr);
+
+    void setUndoStackProvider(const EditRecorder::StackProvider &stackFor) { m_stackFor = stackFor; }
+
+    TileSet *tileSet() const { return m_tileSet; }
+    /// Null shows the placeholder.
+    void setTileSet(const QPointer<TileSet> &tileSet);
+    /// Draws with a palette, and binds the tile set to it.
+    void setPalette(const QPointer<Palette> &palette);
+    /// The tile shown, counted from 0; -1 without a tile set.
+    int tileIndex() const;
+    Canvas *canvas() const { return m_canvas; }
+
+    void cut() override;
+    void copy() override;
+    void paste() override;
+    void selectAll() override;
+    void selectNone() override;
+
+public slots:
+    /// Writes the canvas's image into the tile.
+    void imageChanged();
+    /// Shows the tile of a number that counts from 1, or loads it again.
+    void setTileIndex(int index);
+    /// Moves the tile into a bank of 16 colours (1–16). Not an undo step.
+    void paletteOffsetChanged(int offset);
+
+signals:
+    void activeStateChanged(bool enabled);
+    /// Another tile, counted from 0, is shown.
+    void tileIndexChanged(int index);
+
+protected:
+    bool event(QEvent *event) override;
+
+private slots:
+    void foreColourChanged(int index);
+    void backColourChanged(int index);
+    void tileCountChanged(int index);
+
+private:
+    QWidget *buildPage();
+    void connectParts();
+    void loadTile();
+    void showBank(int bank);
+    void pushEdit(const QString &text, const QImage &before, const QImage &after, PixelEditCommand::Kind kind);
+    void applyEdit(const QPointer<TileSet> &tileSet, int index, const QImage &image);
+    void writeTile(const QPointer<TileSet> &tileSet, int index, const QImage &image);
+
+    QPointer<TileSet> m_tileSet;
+    QPointer<Palette> m_palette;
+    Canvas *m_canvas;
+    ToolPalette *m_tools;
+    NumberStepper *m_number;
+    QSpinBox *m_offset;
+    ColourSelector *m_colours;
+    TileAttributesEditor *m_attributes;
+    PaletteEditor *m_paletteEditor;
+    EditRecorder::StackProvider m_stackFor;
+    bool m_loading = false;
+    bool m_writing = false;
+};
