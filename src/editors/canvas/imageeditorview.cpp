@@ -32,8 +32,9 @@ View::View(QWidget *parent)
     , m_tools(new ToolPalette(Qt::Vertical, this))
     , m_colours(new ColourPalette(this))
 {
-    for (const ToolButton button : {Draw, Line, Rectangle, RectangleFill, Circle, Fill, Pick, Select, Paste, Grid,
-                                    ZoomIn, ZoomOut, MoveUp, MoveDown, MoveLeft, MoveRight, Flip, Mirror, Open, Save})
+    for (const ToolButton button :
+         {Draw,   Line,    Rectangle, RectangleFill, Circle,   Fill,      Pick, Select, Paste, Grid,
+          ZoomIn, ZoomOut, MoveUp,    MoveDown,      MoveLeft, MoveRight, Flip, Mirror, Open,  Save})
         m_tools->addEntry(button);
     m_tools->setMode(Draw);
     m_canvas->setZoomLevel(UsualZoom);
@@ -67,9 +68,8 @@ void View::connectParts()
     connect(m_canvas, &Canvas::edited, this, &View::pushEdit);
     connect(m_canvas, &Canvas::foregroundPicked, this, &View::setForeIndex);
     connect(m_canvas, &Canvas::backgroundPicked, this, &View::setBackIndex);
-    connect(m_canvas, &Canvas::pixelHovered, this, [this](QPoint pixel, int index) {
-        PixelEditing::showPixel(this, pixel, index, m_canvas->palette());
-    });
+    connect(m_canvas, &Canvas::pixelHovered, this,
+            [this](QPoint pixel, int index) { PixelEditing::showPixel(this, pixel, index, m_canvas->palette()); });
     connect(m_colours, &ColourPalette::primaryIndexChanged, this, &View::setForeIndex);
     connect(m_colours, &ColourPalette::secondaryIndexChanged, this, &View::setBackIndex);
     PixelEditing::addSwapAction(this, m_canvas);

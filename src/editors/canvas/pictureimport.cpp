@@ -8,9 +8,8 @@ QImage PictureImport::indexed(const QImage &picture, const Palette &palette, int
     if (picture.isNull())
         return {};
     NxImage source;
-    source.setImage(scaledTo.isValid()
-                        ? picture.scaled(scaledTo, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
-                        : picture);
+    source.setImage(scaledTo.isValid() ? picture.scaled(scaledTo, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                                       : picture);
     // Entries that are not offered repeat the first one, which is found before them.
     Palette offered;
     offered.copyColours(palette);

@@ -11,7 +11,7 @@
 #include <QWidget>
 
 void PixelEditing::push(QUndoStack *stack, const QString &text, const QImage &before, const QImage &after,
-                          PixelEditCommand::Apply apply, const QVariant &mergeKey, PixelEditCommand::Kind kind)
+                        PixelEditCommand::Apply apply, const QVariant &mergeKey, PixelEditCommand::Kind kind)
 {
     if (stack)
         stack->push(new PixelEditCommand(text, before, after, std::move(apply), mergeKey, kind));
@@ -26,7 +26,8 @@ void PixelEditing::showPixel(QWidget *editor, QPoint pixel, int index, const Pal
 {
     QString text;
     if (index >= 0) {
-        text = QCoreApplication::translate("PixelEditing", "%1, %2  colour %3").arg(pixel.x()).arg(pixel.y()).arg(index);
+        text =
+            QCoreApplication::translate("PixelEditing", "%1, %2  colour %3").arg(pixel.x()).arg(pixel.y()).arg(index);
         if (palette)
             text += QStringLiteral("  %1").arg(QColor(palette->colourTable().at(index)).name());
     }

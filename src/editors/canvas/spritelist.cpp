@@ -210,8 +210,8 @@ void SpriteList::mousePressEvent(QMouseEvent *event)
 void SpriteList::mouseMoveEvent(QMouseEvent *event)
 {
     const QPoint point = event->position().toPoint();
-    const bool dragged = (m_buttons & Qt::LeftButton)
-        && (point - m_pressPoint).manhattanLength() >= QApplication::startDragDistance();
+    const bool dragged =
+        (m_buttons & Qt::LeftButton) && (point - m_pressPoint).manhattanLength() >= QApplication::startDragDistance();
     if (dragged && pressedSprite() >= 0) {
         startDrag();
         return;

@@ -33,9 +33,9 @@ SpriteWindow::SpriteWindow(QWidget *parent)
 {
     setObjectName(QStringLiteral("SpriteEditor"));
     setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
-    for (const ToolButton button : {Draw, Line, Rectangle, RectangleFill, Circle, Fill, Pick, Select, Paste, Grid,
-                                    ZoomIn, ZoomOut, RotateCW, RotateCCW, Flip, Mirror, MoveUp, MoveDown, MoveLeft,
-                                    MoveRight})
+    for (const ToolButton button :
+         {Draw,   Line,    Rectangle, RectangleFill, Circle, Fill,   Pick,   Select,   Paste,    Grid,
+          ZoomIn, ZoomOut, RotateCW,  RotateCCW,     Flip,   Mirror, MoveUp, MoveDown, MoveLeft, MoveRight})
         m_tools->addEntry(button);
     m_tools->setMode(Draw);
     buildPage();
@@ -79,9 +79,8 @@ void SpriteWindow::connectParts()
     connect(m_canvas, &Canvas::edited, this, &SpriteWindow::pushEdit);
     connect(m_canvas, &Canvas::foregroundPicked, m_colours, &ColourPalette::setPrimaryIndex);
     connect(m_canvas, &Canvas::backgroundPicked, m_colours, &ColourPalette::setSecondaryIndex);
-    connect(m_canvas, &Canvas::pixelHovered, this, [this](QPoint pixel, int index) {
-        PixelEditing::showPixel(this, pixel, index, m_canvas->palette());
-    });
+    connect(m_canvas, &Canvas::pixelHovered, this,
+            [this](QPoint pixel, int index) { PixelEditing::showPixel(this, pixel, index, m_canvas->palette()); });
     connect(m_colours, &ColourPalette::primaryIndexChanged, m_canvas, &Canvas::setInk);
     connect(m_colours, &ColourPalette::secondaryIndexChanged, m_canvas, &Canvas::setPaper);
     PixelEditing::addSwapAction(content(), m_canvas);
@@ -182,8 +181,7 @@ void SpriteWindow::editStructure(const QString &text, const std::function<void(S
     refresh();
 }
 
-void SpriteWindow::pushEdit(const QString &text, const QImage &before, const QImage &after,
-                            PixelEditCommand::Kind kind)
+void SpriteWindow::pushEdit(const QString &text, const QImage &before, const QImage &after, PixelEditCommand::Kind kind)
 {
     if (!m_sprites || !m_stackFor)
         return;

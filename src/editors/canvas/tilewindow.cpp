@@ -45,9 +45,9 @@ TileWindow::TileWindow(QWidget *parent)
     m_number->setItemName(tr("Tile"));
     m_offset->setRange(1, BankCount);
     m_offset->setToolTip(tr("The group of 16 colours that the tile is drawn with"));
-    for (const ToolButton button : {Draw, Line, Rectangle, RectangleFill, Circle, Fill, Pick, Select, Paste, Grid,
-                                    ZoomIn, ZoomOut, RotateCW, RotateCCW, Flip, Mirror, MoveUp, MoveDown, MoveLeft,
-                                    MoveRight})
+    for (const ToolButton button :
+         {Draw,   Line,    Rectangle, RectangleFill, Circle, Fill,   Pick,   Select,   Paste,    Grid,
+          ZoomIn, ZoomOut, RotateCW,  RotateCCW,     Flip,   Mirror, MoveUp, MoveDown, MoveLeft, MoveRight})
         m_tools->addEntry(button);
     m_tools->setMode(Draw);
 
@@ -89,9 +89,8 @@ void TileWindow::connectParts()
     connect(m_canvas, &Canvas::edited, this, &TileWindow::pushEdit);
     connect(m_canvas, &Canvas::foregroundPicked, m_colours, &ColourSelector::setForeIndex);
     connect(m_canvas, &Canvas::backgroundPicked, m_colours, &ColourSelector::setBackIndex);
-    connect(m_canvas, &Canvas::pixelHovered, this, [this](QPoint pixel, int index) {
-        PixelEditing::showPixel(this, pixel, index, m_palette);
-    });
+    connect(m_canvas, &Canvas::pixelHovered, this,
+            [this](QPoint pixel, int index) { PixelEditing::showPixel(this, pixel, index, m_palette); });
     connect(m_number, &NumberStepper::valueChanged, this, [this] {
         loadTile();
         emit tileIndexChanged(tileIndex());
