@@ -6,7 +6,6 @@
 #include "model/rawfile.h"
 #include "model/tileset.h"
 
-#include <QDebug>
 
 #include <algorithm>
 #include <limits>
@@ -334,7 +333,7 @@ bool Map::exportToDirectory(const QString &folder) const
 bool Map::importNxm(const QString &mapFile, const QString &blockFile)
 {
     const auto file = NxmFile::open(mapFile, blockFile);
-    if (!file)
+    if (!file || !neededTileLayer())
         return false;
     resize(file->size(), Qt::AlignLeft | Qt::AlignTop);
     const QSize blocks = file->sizeInBlocks();

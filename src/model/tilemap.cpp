@@ -5,7 +5,6 @@
 #include "model/tilemappicture.h"
 #include "model/tileset.h"
 
-#include <QDebug>
 #include <QHash>
 #include <QMimeData>
 

@@ -84,6 +84,14 @@ QList<QPoint> positions(const Map &map)
     return result;
 }
 
+QList<int> spriteIndices(const Map &map)
+{
+    QList<int> result;
+    for (const Map::PlacedSprite &sprite : map.sprites())
+        result << sprite.sprite;
+    return result;
+}
+
 QByteArray contents(const QString &fileName)
 {
     QFile file(fileName);
@@ -103,7 +111,6 @@ class TestMap : public QObject
     Q_OBJECT
 
 private slots:
-    void startsAsDescribed();
     void worksWithoutLayers();
     void movesContentWithTheCells();
     void removesContentThatLeaves();
@@ -111,10 +118,8 @@ private slots:
     void followsItsTileSet();
     void placesAnimations();
     void restampsAnimations();
-    void keepsSpritesOnTheirPictures_data();
     void keepsSpritesOnTheirPictures();
     void dropsDeletedSprites();
-    void playsPlacedAnimations_data();
     void playsPlacedAnimations();
     void restoresSnapshots();
     void exportsTheTileLayer();
@@ -124,26 +129,6 @@ private slots:
     void refusesDamagedTileDataSets();
     void showsObjectsWhereTheyArePlaced();
 };
-
-void TestMap::startsAsDescribed()
-{
-    const Map map(QStringLiteral("Cave"));
-    QCOMPARE(map.name(), QStringLiteral("Cave"));
-    QVERIFY(!map.id().isNull());
-    QVERIFY(map.tileSetId().isNull());
-    QVERIFY(map.spriteLayerVisible());
-    QVERIFY(!map.gridVisible());
-    QCOMPARE(map.tileTransparencyIndex(), -1);
-    QCOMPARE(map.backgroundTileIndex(), -1);
-    QCOMPARE(Level({9999, 9999}).map.dataSize(), 199960002);
-
-    Map renamed;
-    QSignalSpy spy(&renamed, &Map::nameChanged);
-    renamed.setName(QStringLiteral("Cellar"));
-    renamed.setName(QStringLiteral("Cellar"));
-    QCOMPARE(spy.size(), 1);
-    QCOMPARE(spy.first().first().toString(), QStringLiteral("Cellar"));
-}
 
 void TestMap::worksWithoutLayers()
 {
@@ -181,6 +166,7 @@ void TestMap::movesContentWithTheCells()
     level.map.insertColumn(Quenmora::Begin);
     level.map.insertRow(Quenmora::Begin);
     QCOMPARE(level.map.size(), QSize(13, 11));
+    QCOMPARE(level.map.dataSize(), 286);
     QCOMPARE(level.tiles.cellAt({3, 2}), tile(5));
     QCOMPARE(level.objects.cellAt({5, 4}), frameCell(3));
     QCOMPARE(level.areas(), QList<QRect>({QRect(5, 4, 2, 1)}));
@@ -303,40 +289,27 @@ void TestMap::restampsAnimations()
     QCOMPARE(level.tiles.cellAt({6, 2}), Cleared);
 }
 
-void TestMap::keepsSpritesOnTheirPictures_data()
-{
-    QTest::addColumn<int>("from");
-    QTest::addColumn<int>("to");
-    QTest::addColumn<QList<int>>("sprites"); // of 0, 1, 2, 3, 4, 5
-    QTest::newRow("up") << 4 << 1 << QList<int>{0, 2, 3, 4, 1, 5};
-    QTest::newRow("down") << 1 << 4 << QList<int>{0, 4, 1, 2, 3, 5};
-    QTest::newRow("nowhere") << 2 << 2 << QList<int>{0, 1, 2, 3, 4, 5};
-}
-
 void TestMap::keepsSpritesOnTheirPictures()
 {
-    QFETCH(int, from);
-    QFETCH(int, to);
-    QFETCH(QList<int>, sprites);
     const QUuid bank = QUuid::createUuid();
-    Map map;
-    Map::PlacedSprite sprite;
-    sprite.bank = bank;
-    for (sprite.sprite = 0; sprite.sprite < 6; ++sprite.sprite)
+    const auto moved = [&bank](int from, int to) {
+        Map map;
+        Map::PlacedSprite sprite;
+        sprite.bank = bank;
+        for (sprite.sprite = 0; sprite.sprite < 6; ++sprite.sprite)
+            map.addSprite(sprite);
+        sprite.sprite = from; // neither an animation nor a sprite of another bank
+        sprite.animation = QUuid::createUuid();
         map.addSprite(sprite);
-    Map::PlacedSprite other = sprite;
-    other.sprite = from;
-    other.bank = QUuid::createUuid();
-    map.addSprite(other);
-    other.bank = bank;
-    other.animation = QUuid::createUuid();
-    map.addSprite(other);
-
-    map.onSpriteMoved(bank, from, to);
-    for (int i = 0; i < 6; ++i)
-        QCOMPARE(map.sprites()[i].sprite, sprites[i]);
-    QCOMPARE(map.sprites()[6].sprite, from);
-    QCOMPARE(map.sprites()[7].sprite, from);
+        sprite.animation = {};
+        sprite.bank = QUuid::createUuid();
+        map.addSprite(sprite);
+        map.onSpriteMoved(bank, from, to);
+        return spriteIndices(map);
+    };
+    QCOMPARE(moved(4, 1), QList<int>({0, 2, 3, 4, 1, 5, 4, 4}));
+    QCOMPARE(moved(1, 4), QList<int>({0, 4, 1, 2, 3, 5, 1, 1}));
+    QCOMPARE(moved(2, 2), QList<int>({0, 1, 2, 3, 4, 5, 2, 2}));
 }
 
 void TestMap::dropsDeletedSprites()
@@ -353,10 +326,7 @@ void TestMap::dropsDeletedSprites()
     map.onSpriteDeleted(bank, -1);
     QCOMPARE(map.sprites().size(), 5);
     map.onSpriteDeleted(bank, 3);
-    QList<int> left;
-    for (const Map::PlacedSprite &sprite : map.sprites())
-        left << sprite.sprite;
-    QCOMPARE(left, QList<int>({4, 2, -1}));
+    QCOMPARE(spriteIndices(map), QList<int>({4, 2, -1}));
 
     QVERIFY(!map.setSprite(3, {}));
     QVERIFY(!map.removeSprite(-1));
@@ -364,37 +334,34 @@ void TestMap::dropsDeletedSprites()
     QCOMPARE(map.addSprite(spriteAt(1, 2)), 2);
 }
 
-void TestMap::playsPlacedAnimations_data()
-{
-    QTest::addColumn<QList<int>>("delays"); // start frame, initial delay, repeat delay
-    QTest::addColumn<int>("frameCount");
-    QTest::addColumn<int>("frameDelay");
-    QTest::addColumn<qint64>("time");
-    QTest::addColumn<int>("frame");
-    const QList<int> delays{1, 5, 20};
-    QTest::newRow("before the start") << delays << 4 << 10 << qint64(0) << 1;
-    QTest::newRow("second frame") << delays << 4 << 10 << qint64(15) << 2;
-    QTest::newRow("around the end") << delays << 4 << 10 << qint64(35) << 0;
-    QTest::newRow("between two runs") << delays << 4 << 10 << qint64(50) << 0;
-    QTest::newRow("second run") << delays << 4 << 10 << qint64(65) << 1;
-    QTest::newRow("start frame too large") << QList<int>{9, 5, 0} << 4 << 10 << qint64(0) << 3;
-    QTest::newRow("negative values") << QList<int>{-9, 0, -9} << 4 << 10 << qint64(45) << 0;
-    QTest::newRow("standing still") << delays << 4 << 0 << qint64(500) << 1;
-    QTest::newRow("no frames") << delays << 0 << 10 << qint64(15) << 0;
-    QTest::newRow("large") << QList<int>{0, 0, INT_MAX} << INT_MAX << INT_MAX << qint64(INT_MAX) << 1;
-}
-
 void TestMap::playsPlacedAnimations()
 {
-    QFETCH(QList<int>, delays);
-    QFETCH(int, frameCount);
-    QFETCH(int, frameDelay);
-    QFETCH(qint64, time);
-    Map::PlacedSprite sprite;
-    sprite.startFrame = delays[0];
-    sprite.initialDelay = delays[1];
-    sprite.repeatDelay = delays[2];
-    QTEST(sprite.currentFrame(frameCount, frameDelay, time), "frame");
+    struct Case
+    {
+        int startFrame, initialDelay, repeatDelay;
+        int frameCount, frameDelay;
+        int time;
+        int frame;
+    };
+    const Case cases[] = {
+        {1, 5, 20, 4, 10, 0, 1}, // before the start
+        {1, 5, 20, 4, 10, 15, 2},
+        {1, 5, 20, 4, 10, 35, 0}, // the last frame before the pause
+        {1, 5, 20, 4, 10, 50, 0}, // in the pause
+        {1, 5, 20, 4, 10, 65, 1}, // the second run
+        {9, 5, 0, 4, 10, 0, 3},
+        {-9, 0, -9, 4, 10, 45, 0},
+        {1, 5, 20, 4, 0, 500, 1}, // standing still
+        {1, 5, 20, 0, 10, 15, 0}, // no frames
+        {0, 0, INT_MAX, INT_MAX, INT_MAX, INT_MAX, 1},
+    };
+    for (const Case &given : cases) {
+        Map::PlacedSprite sprite;
+        sprite.startFrame = given.startFrame;
+        sprite.initialDelay = given.initialDelay;
+        sprite.repeatDelay = given.repeatDelay;
+        QCOMPARE(sprite.currentFrame(given.frameCount, given.frameDelay, given.time), given.frame);
+    }
 }
 
 void TestMap::restoresSnapshots()

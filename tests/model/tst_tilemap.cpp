@@ -19,20 +19,15 @@ using TileData = TileMap::TileData;
 const QString MimeType = QStringLiteral("quenmora-map-toNextData");
 
 /// A grid of used cells whose tile indices are the digits of the rows; '.' is a blank cell.
-void setDigits(TileMap &map, const QStringList &rows)
-{
-    for (int y = 0; y < rows.size(); ++y) {
-        for (int x = 0; x < rows[y].size(); ++x) {
-            if (rows[y][x] != QLatin1Char('.'))
-                map.setCell({x, y}, {rows[y][x].digitValue(), false, false, false, 0, true});
-        }
-    }
-}
-
 std::unique_ptr<TileMap> fromDigits(const QStringList &rows)
 {
     auto map = std::make_unique<TileMap>(int(rows.first().size()), int(rows.size()));
-    setDigits(*map, rows);
+    for (int y = 0; y < map->height(); ++y) {
+        for (int x = 0; x < map->width(); ++x) {
+            if (rows[y][x] != QLatin1Char('.'))
+                map->setCell({x, y}, {rows[y][x].digitValue(), false, false, false, 0, true});
+        }
+    }
     return map;
 }
 
@@ -123,7 +118,6 @@ private slots:
     void setsCellsInsideOnly();
     void fillsTheAreaInside();
     void editsRowsAndColumns();
-    void resizesAround_data();
     void resizesAround();
     void followsTiles();
     void keepsUnchangedRowsShared();
@@ -200,43 +194,33 @@ void TestTileMap::editsRowsAndColumns()
     QCOMPARE(toDigits(*map), QStringList({"1", "3"}));
 }
 
-void TestTileMap::resizesAround_data()
-{
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<Qt::Alignment>("alignment");
-    QTest::addColumn<QStringList>("rows");
-    QTest::addColumn<QPoint>("offset");
-
-    const Qt::Alignment none;
-    QTest::newRow("wider right") << QSize(6, 3) << Qt::Alignment(Qt::AlignRight)
-                                 << QStringList{"..1234", "..5678", "..9123"} << QPoint(2, 0);
-    QTest::newRow("narrower centred") << QSize(2, 3) << Qt::Alignment(Qt::AlignHCenter) << QStringList{"23", "67", "12"}
-                                      << QPoint(-1, 0);
-    QTest::newRow("narrower right") << QSize(3, 3) << Qt::Alignment(Qt::AlignRight) << QStringList{"234", "678", "123"}
-                                    << QPoint(-1, 0);
-    QTest::newRow("wider centred, odd difference") << QSize(7, 3) << Qt::Alignment(Qt::AlignHCenter)
-                                                   << QStringList{".1234..", ".5678..", ".9123.."} << QPoint(1, 0);
-    QTest::newRow("taller centred, narrower")
-        << QSize(2, 5) << Qt::Alignment(Qt::AlignVCenter) << QStringList{"..", "12", "56", "91", ".."} << QPoint(0, 1);
-    QTest::newRow("taller bottom") << QSize(4, 4) << Qt::Alignment(Qt::AlignBottom)
-                                   << QStringList{"....", "1234", "5678", "9123"} << QPoint(0, 1);
-    QTest::newRow("lower bottom") << QSize(4, 1) << Qt::Alignment(Qt::AlignBottom) << QStringList{"9123"}
-                                  << QPoint(0, -2);
-    QTest::newRow("lower centred") << QSize(4, 1) << Qt::Alignment(Qt::AlignVCenter) << QStringList{"5678"}
-                                   << QPoint(0, -1);
-    QTest::newRow("no alignment") << QSize(5, 2) << none << QStringList{"1234.", "5678."} << QPoint(0, 0);
-    QTest::newRow("same size") << QSize(4, 3) << Qt::Alignment(Qt::AlignCenter) << QStringList{"1234", "5678", "9123"}
-                               << QPoint(0, 0);
-}
-
 void TestTileMap::resizesAround()
 {
-    QFETCH(QSize, size);
-    QFETCH(Qt::Alignment, alignment);
-    const auto map = fromDigits({"1234", "5678", "9123"});
-    QTEST(map->resize(size, alignment), "offset");
-    QTEST(toDigits(*map), "rows");
-    QCOMPARE(map->size(), size);
+    struct Case
+    {
+        QSize size;
+        Qt::Alignment alignment;
+        QStringList rows;
+        QPoint offset;
+    };
+    const Case cases[] = {
+        {{6, 3}, Qt::AlignRight, {"..1234", "..5678", "..9123"}, {2, 0}},
+        {{2, 3}, Qt::AlignHCenter, {"23", "67", "12"}, {-1, 0}},
+        {{3, 3}, Qt::AlignRight, {"234", "678", "123"}, {-1, 0}},
+        {{7, 3}, Qt::AlignHCenter, {".1234..", ".5678..", ".9123.."}, {1, 0}},
+        {{2, 5}, Qt::AlignVCenter, {"..", "12", "56", "91", ".."}, {0, 1}},
+        {{4, 4}, Qt::AlignBottom, {"....", "1234", "5678", "9123"}, {0, 1}},
+        {{4, 1}, Qt::AlignBottom, {"9123"}, {0, -2}},
+        {{4, 1}, Qt::AlignVCenter, {"5678"}, {0, -1}},
+        {{5, 2}, {}, {"1234.", "5678."}, {0, 0}},
+        {{4, 3}, Qt::AlignCenter, {"1234", "5678", "9123"}, {0, 0}},
+    };
+    for (const auto &[size, alignment, rows, offset] : cases) {
+        const auto map = fromDigits({"1234", "5678", "9123"});
+        QCOMPARE(map->resize(size, alignment), offset);
+        QCOMPARE(toDigits(*map), rows);
+        QCOMPARE(map->size(), size);
+    }
 }
 
 void TestTileMap::followsTiles()
