@@ -1,0 +1,230 @@
+#include "editors/animation/animationlistwidget.h"
+
+#include "ui/svgiconengine.h"
+
+#include <QAction>
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QListWidget>
+#include <QSignalBlocker>
+#include <QTimer>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace AnimationEditor {
+
+namespace {
+
+constexpr int PictureExtent = 32;
+
+}
+
+AnimationListWidget::AnimationListWidget(Flags flags, QWidget *parent)
+    : QWidget(parent)
+    , m_flags(flags)
+    , m_list(new QListWidget(this))
+    , m_refresh(new QTimer(this))
+{
+    m_list->setIconSize({PictureExtent, PictureExtent});
+    m_list->setUniformItemSizes(true);
+    m_list->setAccessibleName(tr("Animations"));
+    m_list->viewport()->installEventFilter(this);
+    m_refresh->setSingleShot(true);
+    m_refresh->setInterval(0);
+    setFocusProxy(m_list);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_list, 1);
+    buildActions();
+
+    connect(m_list, &QListWidget::currentRowChanged, this, &AnimationListWidget::currentRowChanged);
+    connect(m_list, &QListWidget::itemPressed, this, [this] {
+        if (!m_pressSelected && selected())
+            emit selectedItemClicked(selected());
+    });
+    connect(m_refresh, &QTimer::timeout, this, [this] {
+        for (int row = 0; row < m_list->count(); ++row)
+            updatePicture(row);
+    });
+}
+
+void AnimationListWidget::buildActions()
+{
+    const auto action = [this](const QString &icon, const QString &text, const QString &toolTip, auto request) {
+        auto *made = new QAction(themedIcon(icon), text, this);
+        made->setToolTip(toolTip);
+        connect(made, &QAction::triggered, this, request);
+        return made;
+    };
+    m_add = action(QStringLiteral(":/NewIcon"), tr("Add"), tr("Add a new animation"), [this] { emit addRequested(); });
+    m_remove = action(QStringLiteral(":/Trashcan"), tr("Delete"), tr("Delete the selected animation"),
+                      [this] { emit removeRequested(); });
+    m_clone = action(QStringLiteral(":/Copy"), tr("Clone"), tr("Copy the selected animation"), [this] {
+        if (selected())
+            emit cloneRequested(selected());
+    });
+    m_remove->setEnabled(false);
+    m_clone->setEnabled(false);
+
+    if (m_flags.testFlag(ContextMenu)) {
+        m_list->addActions({m_add, m_remove, m_clone});
+        m_list->setContextMenuPolicy(Qt::ActionsContextMenu);
+    }
+    if (m_flags.testFlag(Buttons)) {
+        auto *buttons = new QHBoxLayout;
+        for (QAction *shown : {m_add, m_remove}) {
+            auto *button = new QToolButton(this);
+            button->setDefaultAction(shown);
+            button->setAutoRaise(true);
+            buttons->addWidget(button);
+        }
+        buttons->addStretch();
+        static_cast<QVBoxLayout *>(layout())->addLayout(buttons);
+    }
+}
+
+bool AnimationListWidget::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::MouseButtonPress)
+        m_pressSelected = false; // until the list says otherwise
+    return QWidget::eventFilter(watched, event);
+}
+
+// What is shown
+
+void AnimationListWidget::setAnimations(const QList<QPointer<Animation>> &animations)
+{
+    Animation *before = selected();
+    {
+        const QSignalBlocker blocker(m_list);
+        while (!m_animations.isEmpty())
+            removeRow(0);
+        for (const QPointer<Animation> &animation : animations) {
+            if (animation)
+                appendItem(animation);
+        }
+        m_list->setCurrentRow(rowOf(before));
+    }
+    if (selected() != before)
+        currentRowChanged(m_list->currentRow());
+}
+
+void AnimationListWidget::addAnimation(Animation *animation)
+{
+    if (animation && rowOf(animation) < 0)
+        appendItem(animation);
+}
+
+void AnimationListWidget::appendItem(Animation *animation)
+{
+    m_animations.append(animation);
+    m_list->addItem(new QListWidgetItem);
+    updateText(m_list->count() - 1);
+    updatePicture(m_list->count() - 1);
+    follow(animation);
+}
+
+void AnimationListWidget::removeAnimation(Animation *animation)
+{
+    if (const int row = rowOf(animation); row >= 0)
+        removeRow(row);
+}
+
+void AnimationListWidget::removeRow(int row)
+{
+    if (m_animations.at(row))
+        m_animations.at(row)->disconnect(this);
+    m_animations.removeAt(row);
+    // the neighbour does not take over the selection
+    if (row == m_list->currentRow())
+        m_list->setCurrentRow(-1);
+    delete m_list->takeItem(row);
+}
+
+void AnimationListWidget::follow(Animation *animation)
+{
+    const auto textChanged = [this, animation] { updateText(rowOf(animation)); };
+    connect(animation, &Animation::nameChanged, this, textChanged);
+    connect(animation, &Animation::sizeChanged, this, textChanged);
+    connect(animation, &Animation::contentChanged, this, textChanged);
+    connect(animation, &Animation::sizeChanged, this, &AnimationListWidget::refreshPictures);
+    connect(animation, &Animation::contentChanged, this, &AnimationListWidget::refreshPictures);
+    connect(animation, &Animation::frameChanged, this, &AnimationListWidget::refreshPictures);
+    connect(animation, &QObject::destroyed, this, &AnimationListWidget::forgetDestroyed);
+}
+
+void AnimationListWidget::forgetDestroyed()
+{
+    for (int row = int(m_animations.size()) - 1; row >= 0; --row) {
+        if (!m_animations.at(row))
+            removeRow(row);
+    }
+}
+
+void AnimationListWidget::updateText(int row)
+{
+    const Animation *animation = m_animations.value(row);
+    if (!animation)
+        return;
+    QListWidgetItem *item = m_list->item(row);
+    const QSize size = animation->size();
+    item->setText(m_flags.testFlag(Details) ? tr("%1\n%4 frame(s) [%2x%3]")
+                                                  .arg(animation->name())
+                                                  .arg(size.width())
+                                                  .arg(size.height())
+                                                  .arg(animation->frameCount())
+                                            : animation->name());
+    item->setToolTip(animation->name());
+}
+
+void AnimationListWidget::updatePicture(int row)
+{
+    const Animation *animation = m_animations.value(row);
+    if (!animation)
+        return;
+    QPixmap picture = QPixmap::fromImage(animation->preview(m_list->iconSize() * devicePixelRatio()));
+    picture.setDevicePixelRatio(devicePixelRatio());
+    m_list->item(row)->setIcon(QIcon(picture));
+}
+
+void AnimationListWidget::refreshPictures()
+{
+    m_refresh->start();
+}
+
+// Selection
+
+int AnimationListWidget::rowOf(const Animation *animation) const
+{
+    if (!animation)
+        return -1;
+    for (int row = 0; row < m_animations.size(); ++row) {
+        if (m_animations.at(row) == animation)
+            return row;
+    }
+    return -1;
+}
+
+Animation *AnimationListWidget::selected() const
+{
+    return m_animations.value(m_list->currentRow());
+}
+
+void AnimationListWidget::select(Animation *animation)
+{
+    const int row = rowOf(animation);
+    m_list->setCurrentRow(row);
+    if (row >= 0)
+        m_list->scrollToItem(m_list->item(row));
+}
+
+void AnimationListWidget::currentRowChanged(int row)
+{
+    m_pressSelected = true;
+    m_remove->setEnabled(row >= 0);
+    m_clone->setEnabled(row >= 0);
+    emit selectedItemChanged(selected());
+}
+
+} // namespace AnimationEditor
