@@ -1,6 +1,6 @@
 #include "app/documenttabview.h"
 
-#include "app/plainpage.h"
+#include "editors/canvas/imageeditorview.h"
 #include "ui/svgiconengine.h"
 
 #include <QMenu>

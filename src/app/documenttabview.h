@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/plainpage.h"
+
 #include <QList>
 #include <QPointer>
 #include <QStringList>
@@ -7,20 +9,8 @@
 #include <QUuid>
 
 class Image;
-class Map;
-class MapObjects;
-class SpriteBank;
 
-namespace BlockEditor {
-class View;
-}
 namespace ImageEditor {
-class View;
-}
-namespace MapEditor {
-class View;
-}
-namespace SpriteEditor {
 class View;
 }
 

@@ -1,29 +1,28 @@
 #pragma once
 
-// The docks and pages of editors that are not built yet, with the names, properties and texts of the
-// real ones. Each gives way as soon as its editor is there.
+// The docks and pages of editors that are not built yet stand in for the real ones here, with their
+// names, properties and texts. Each gives way by itself as soon as its editor is there.
 
 #include "editors/edittarget.h"
-#include "model/image.h"
 #include "model/map.h"
 #include "model/mapobjects.h"
-#include "model/palette.h"
 #include "model/project.h"
 #include "model/spriteanim.h"
 #include "model/spritebank.h"
 #include "model/tileanimation.h"
 #include "model/tileset.h"
 #include "ui/dockwidget.h"
-#include "undo/editrecorder.h"
 
-#include <QAction>
 #include <QLabel>
 #include <QToolBar>
+#include <QUndoStack>
 #include <QVBoxLayout>
 
 /// A page that only says what it stands for.
 class PlainPage : public QWidget
 {
+    Q_OBJECT
+
 public:
     explicit PlainPage(const QString &text, QWidget *parent = nullptr) : QWidget(parent)
     {
@@ -35,191 +34,52 @@ public:
     }
 };
 
-class PlainTarget : public EditTarget
-{
-public:
-    void cut() override { }
-    void copy() override { }
-    void paste() override { }
-    void selectAll() override { }
-    void selectNone() override { }
-};
-
-#if __has_include("editors/canvas/tilewindow.h")
-#include "editors/canvas/tilewindow.h"
-#else
-class TileWindow : public DockWidget, public PlainTarget
+class PlainMapObjects : public DockWidget
 {
     Q_OBJECT
+
 public:
-    explicit TileWindow(QWidget *parent = nullptr) : DockWidget(tr("Tile Editor"), tr("No tile set selected"), parent)
-    {
-        setObjectName(QStringLiteral("TileEditor"));
-        setContent(new PlainPage(windowTitle()));
-    }
-    void setUndoStackProvider(const EditRecorder::StackProvider &) { }
-    void setTileSet(const QPointer<TileSet> &tileSet)
-    {
-        m_tileSet = tileSet;
-        m_index = 0;
-        setActive(tileSet);
-    }
-    [[nodiscard]] QPointer<TileSet> tileSet() const { return m_tileSet; }
-    void setPalette(const QPointer<Palette> &palette)
-    {
-        if (m_tileSet && palette && m_tileSet->palette() != palette)
-            m_tileSet->setPalette(palette);
-    }
-    [[nodiscard]] int tileIndex() const { return m_index; }
-public slots:
-    void setTileIndex(int index) { m_index = index; }
-signals:
-    void tileIndexChanged(int index);
-
-private:
-    QPointer<TileSet> m_tileSet;
-    int m_index = 0;
-};
-#endif
-
-#if __has_include("editors/canvas/spritewindow.h")
-#include "editors/canvas/spritewindow.h"
-#else
-class SpriteWindow : public DockWidget, public PlainTarget
-{
-    Q_OBJECT
-public:
-    explicit SpriteWindow(QWidget *parent = nullptr)
-        : DockWidget(tr("Sprite Editor"), tr("No sprites selected"), parent)
-    {
-        setObjectName(QStringLiteral("SpriteEditor"));
-        setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
-        setContent(new PlainPage(windowTitle()));
-    }
-    void setUndoStackProvider(const EditRecorder::StackProvider &) { }
-    void setSprites(QPointer<SpriteBank> sprites)
-    {
-        m_sprites = sprites;
-        setActive(sprites);
-    }
-    [[nodiscard]] QPointer<SpriteBank> sprites() const { return m_sprites; }
-    void setSpritePalette(Palette *palette)
-    {
-        if (m_sprites && palette)
-            m_sprites->setPalette(palette);
-    }
-
-private:
-    QPointer<SpriteBank> m_sprites;
-};
-#endif
-
-#if __has_include("editors/canvas/tilepickertool.h")
-#include "editors/canvas/tilepickertool.h"
-#else
-class TilePickerTool : public DockWidget
-{
-    Q_OBJECT
-public:
-    explicit TilePickerTool(QWidget *parent = nullptr) : DockWidget(tr("Tiles"), tr("No active tile set"), parent)
-    {
-        setObjectName(QStringLiteral("TilePickerTool"));
-        setContent(new PlainPage(windowTitle()));
-    }
-    void setTileSet(const QPointer<TileSet> &tileSet) { setActive(tileSet); }
-    [[nodiscard]] int magnification() const { return m_magnification; }
-    void setMagnification(int magnification) { m_magnification = magnification; }
-    [[nodiscard]] QList<QAction *> magnificationActions() const { return {}; }
-public slots:
-    void setSelectedIndex(int index) { emit selectedTileChanged(index); }
-signals:
-    void selectedTileChanged(int index);
-    void tileDoubleClicked(int number);
-
-private:
-    int m_magnification = 8;
-};
-#endif
-
-#if __has_include("editors/map/blockselectorwindow.h")
-#include "editors/map/blockselectorwindow.h"
-#else
-class BlockSelectorWindow : public DockWidget
-{
-    Q_OBJECT
-public:
-    explicit BlockSelectorWindow(QWidget *parent = nullptr)
+    explicit PlainMapObjects(QWidget *parent = nullptr)
         : DockWidget(tr("Map Objects"), tr("No active tile set"), parent)
     {
         setObjectName(QStringLiteral("TileListWindow"));
         setContent(new PlainPage(windowTitle()));
     }
     void setTileSet(const QPointer<TileSet> &tileSet) { setActive(tileSet); }
+
 signals:
     void animationSelected(QPointer<TileAnimation> animation);
 };
-#endif
 
-#if __has_include("editors/map/mapspriteswindow.h")
-#include "editors/map/mapspriteswindow.h"
-#else
-class MapSpritesWindow : public DockWidget
+class PlainMapSprites : public DockWidget
 {
     Q_OBJECT
+
 public:
-    explicit MapSpritesWindow(QWidget *parent = nullptr) : DockWidget(tr("Map Sprites"), tr("No sprites"), parent)
+    explicit PlainMapSprites(QWidget *parent = nullptr) : DockWidget(tr("Map Sprites"), tr("No sprites"), parent)
     {
         setObjectName(QStringLiteral("MapSpritesWindow"));
         setContent(new PlainPage(windowTitle()));
     }
     void setProject(const QPointer<Project> &project) { setActive(project); }
+
 signals:
     void spriteAnimationSelected(QPointer<SpriteAnim> animation);
     void spriteSelected(QUuid bankId, int index);
 };
-#endif
 
-#if __has_include("editors/canvas/imageeditorview.h")
-#include "editors/canvas/imageeditorview.h"
-#else
-namespace ImageEditor {
-class View : public PlainPage, public PlainTarget
+class PlainMapToolBar : public QToolBar
 {
     Q_OBJECT
-public:
-    explicit View(QWidget *parent = nullptr) : PlainPage(tr("Image"), parent) { }
-    void setImage(const QPointer<Image> &) { }
-    void setPixels(const QImage &) { }
-    void setPalette(const QPointer<Palette> &) { }
-    void setUndoStack(QUndoStack *) { }
-signals:
-    void imageChanged(QImage image);
-};
-} // namespace ImageEditor
-#endif
 
-#if __has_include("editors/map/mapeditortoolbar.h")
-#include "editors/map/mapeditortoolbar.h"
-#else
-namespace MapEditor {
-class ToolBar : public QToolBar
-{
-    Q_OBJECT
 public:
-    explicit ToolBar(QWidget *parent = nullptr) : QToolBar(tr("Map"), parent)
+    explicit PlainMapToolBar(QWidget *parent = nullptr) : QToolBar(tr("Map"), parent)
     {
         setObjectName(QStringLiteral("MapToolBar"));
-        addAction(tr("Tiles"));
     }
 };
-} // namespace MapEditor
-#endif
 
-#if __has_include("editors/map/mapeditorview.h")
-#include "editors/map/mapeditorview.h"
-#else
-namespace MapEditor {
-struct Preferences
+struct PlainMapPreferences
 {
     bool checkerBoard = false;
     QColor gridColour1;
@@ -229,23 +89,26 @@ struct Preferences
     int defaultZoom = 1;
 };
 
-class View : public PlainPage, public PlainTarget
+class PlainMapEditor : public PlainPage
 {
     Q_OBJECT
+
 public:
-    explicit View(const QPointer<Map> &map, QWidget *parent = nullptr) : PlainPage(map->name(), parent) { }
+    explicit PlainMapEditor(const QPointer<Map> &map, QWidget *parent = nullptr) : PlainPage(map->name(), parent) { }
     void setUndoStack(QUndoStack *) { }
-    void attachToolBar(ToolBar *) { }
+    void attachToolBar(QToolBar *) { }
     void detachToolBar() { }
     void setSpriteBanks(const QList<QPointer<SpriteBank>> &) { }
-    void applyPreferences(const Preferences &) { }
+    void applyPreferences(const PlainMapPreferences &) { }
     void pauseAnimation() { }
     void resumeAnimation() { }
+
 public slots:
     void setTileIndex(int) { }
     void setMapObject(QPointer<TileAnimation>) { }
     void setSpriteAnimation(QPointer<SpriteAnim>) { }
     void setSingleSprite(QUuid, int) { }
+
 signals:
     void exportTileMap(QString dir, QUuid id);
     void exportTiles(QString dir, QUuid id);
@@ -255,6 +118,48 @@ signals:
     void placeAnimModeEnabled();
     void placeSpriteModeEnabled();
 };
+
+class PlainSpriteEditor : public PlainPage
+{
+    Q_OBJECT
+
+public:
+    explicit PlainSpriteEditor(const QPointer<SpriteBank> &bank, QWidget *parent = nullptr)
+        : PlainPage(bank->name(), parent)
+    { }
+};
+
+class PlainBlockEditor : public PlainPage
+{
+    Q_OBJECT
+
+public:
+    explicit PlainBlockEditor(const QPointer<MapObjects> &blocks, QWidget *parent = nullptr)
+        : PlainPage(blocks->name(), parent)
+    { }
+};
+
+#if __has_include("editors/map/blockselectorwindow.h")
+#include "editors/map/blockselectorwindow.h"
+#else
+using BlockSelectorWindow = PlainMapObjects;
+#endif
+
+#if __has_include("editors/map/mapspriteswindow.h")
+#include "editors/map/mapspriteswindow.h"
+#else
+using MapSpritesWindow = PlainMapSprites;
+#endif
+
+#if __has_include("editors/map/mapeditorview.h")
+#include "editors/map/mapeditortoolbar.h"
+#include "editors/map/mapeditorview.h"
+#include "editors/map/mappreferences.h"
+#else
+namespace MapEditor {
+using ToolBar = PlainMapToolBar;
+using Preferences = PlainMapPreferences;
+using View = PlainMapEditor;
 } // namespace MapEditor
 #endif
 
@@ -262,12 +167,7 @@ signals:
 #include "editors/animation/spriteeditorview.h"
 #else
 namespace SpriteEditor {
-class View : public PlainPage
-{
-    Q_OBJECT
-public:
-    explicit View(const QPointer<SpriteBank> &bank, QWidget *parent = nullptr) : PlainPage(bank->name(), parent) { }
-};
+using View = PlainSpriteEditor;
 } // namespace SpriteEditor
 #endif
 
@@ -275,11 +175,6 @@ public:
 #include "editors/animation/blockeditorview.h"
 #else
 namespace BlockEditor {
-class View : public PlainPage
-{
-    Q_OBJECT
-public:
-    explicit View(const QPointer<MapObjects> &blocks, QWidget *parent = nullptr) : PlainPage(blocks->name(), parent) { }
-};
+using View = PlainBlockEditor;
 } // namespace BlockEditor
 #endif

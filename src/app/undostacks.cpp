@@ -28,11 +28,6 @@ void UndoStacks::clear()
     m_stacks.clear();
 }
 
-void UndoStacks::activate(const QUuid &id)
-{
-    m_group.setActiveStack(m_stacks.value(id));
-}
-
 bool UndoStacks::isClean() const
 {
     return std::all_of(m_stacks.cbegin(), m_stacks.cend(), [](const QUndoStack *stack) { return stack->isClean(); });

@@ -25,10 +25,6 @@ public:
     void drop(const QUuid &id);
     void clear();
 
-    /// Makes the stack of the id the active one, or none when there is no such stack.
-    void activate(const QUuid &id);
-    void activateNone() { m_group.setActiveStack(nullptr); }
-
     /// Whether every stack is clean.
     [[nodiscard]] bool isClean() const;
     /// Marks the present state of every stack as clean.
