@@ -44,6 +44,8 @@ public:
     /// distinct pieces. Placements have orientation 0, and there are no banks.
     int sliceSprites(int size);
 
+    /// Distinct pieces that were cut.
+    [[nodiscard]] int pieceCount() const { return m_pieces.count(); }
     /// A distinct piece, in order of first appearance, 8-bit indexed: a tile with the slots of its bank
     /// as indices, a sprite with those of colours(). Null for an index beyond the pieces.
     [[nodiscard]] QImage piece(int index) const;

@@ -258,7 +258,13 @@ int SpriteBank::importSlicedImage(const QString &fileName)
         return -1;
     }
     ImageSlicer slicer(picture.image());
-    const int pieces = slicer.sliceSprites(SpriteSize);
+    slicer.sliceSprites(SpriteSize);
+    return importPieces(slicer);
+}
+
+int SpriteBank::importPieces(const ImageSlicer &slicer)
+{
+    const int pieces = slicer.pieceCount();
     if (!hasRoomFor(pieces)) {
         qInfo("Failed to load image");
         return -1;

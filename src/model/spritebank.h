@@ -13,6 +13,7 @@
 #include <QPointer>
 #include <QUuid>
 
+class ImageSlicer;
 class SpriteAnim;
 
 /// A numbered list of 16×16 hardware sprites in one colour depth, drawn with a bound palette, and the
@@ -95,6 +96,8 @@ public:
     /// Fills a new bank with the distinct 16×16 pieces of a picture file, and the bound palette with its
     /// colours. The number of pieces, or −1 when the picture cannot be used; nothing is then changed.
     [[nodiscard]] int importSlicedImage(const QString &fileName);
+    /// The same with a slicer that has cut sprites.
+    [[nodiscard]] int importPieces(const ImageSlicer &slicer);
     /// Makes a picture, in the nearest colours of the bound palette, the sprite at index.
     void importImage(int index, const QImage &image);
 
