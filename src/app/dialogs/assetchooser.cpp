@@ -1,0 +1,78 @@
+#include "app/dialogs/assetchooser.h"
+
+#include "model/palette.h"
+#include "model/project.h"
+#include "model/tileset.h"
+
+#include <QImage>
+#include <QPixmap>
+
+#include <algorithm>
+
+namespace {
+
+/// The assets in the order of their names.
+template <typename Asset>
+QList<QPointer<Asset>> byName(QList<QPointer<Asset>> assets)
+{
+    std::sort(assets.begin(), assets.end(),
+              [](const auto &a, const auto &b) { return a->name().localeAwareCompare(b->name()) < 0; });
+    return assets;
+}
+
+} // namespace
+
+AssetChooser::AssetChooser(QWidget *parent) : QComboBox(parent)
+{
+    setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon); // names may be long
+    setMinimumContentsLength(20);
+}
+
+void AssetChooser::offerPalettes(const Project &project, const QString &newPalette)
+{
+    const QUuid chosen = id();
+    clear();
+    setPlaceholderText(tr("No palettes"));
+    if (!newPalette.isEmpty())
+        addItem(newPalette, QUuid());
+    for (const QPointer<Palette> &palette : byName(project.palettes()))
+        addItem(swatchOf(*palette), palette->name(), palette->id());
+    choose(chosen);
+}
+
+void AssetChooser::offerTileSets(const Project &project)
+{
+    const QUuid chosen = id();
+    clear();
+    setPlaceholderText(tr("No tile sets"));
+    for (const QPointer<TileSet> &tileSet : byName(project.tileSets()))
+        addItem(tileSet->name(), tileSet->id());
+    choose(chosen);
+}
+
+void AssetChooser::choose(const QUuid &id)
+{
+    setEnabled(count() > 0);
+    const int index = findData(id);
+    if (index >= 0)
+        setCurrentIndex(index);
+    else if (currentIndex() < 0 && count() > 0)
+        setCurrentIndex(0);
+}
+
+QString AssetChooser::newPaletteProblem(const QString &name) const
+{
+    const bool taken = findText(name, Qt::MatchExactly | Qt::MatchCaseSensitive) >= 0;
+    return id().isNull() && taken ? tr("There is a palette of this name already; choose it, or another name")
+                                  : QString();
+}
+
+QIcon AssetChooser::swatchOf(const Palette &palette)
+{
+    QImage swatch(16, 16, QImage::Format_RGB32);
+    const QList<QRgb> colours = palette.colourTable();
+    for (int index = 0; index < Palette::Size; ++index)
+        swatch.setPixel(index % 16, index / 16, colours[index]);
+    // large enough for every pixel ratio
+    return QPixmap::fromImage(swatch.scaled(64, 64));
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QComboBox>
+#include <QString>
+#include <QUuid>
+
+class Palette;
+class Project;
+
+/// Chooses one of a project's palettes or tile sets, by name.
+class AssetChooser : public QComboBox
+{
+    Q_OBJECT
+
+public:
+    explicit AssetChooser(QWidget *parent = nullptr);
+
+    /// Offers the palettes, each with its colours in small; with a text for it, a new palette (null id) on
+    /// top. The asset chosen before stays chosen if it is still there.
+    void offerPalettes(const Project &project, const QString &newPalette = {});
+    /// Offers the tile sets, as offerPalettes() does.
+    void offerTileSets(const Project &project);
+
+    /// The id of the chosen asset; null for a new one and when there is none.
+    [[nodiscard]] QUuid id() const { return currentData().toUuid(); }
+    /// Chooses an asset, if it is offered.
+    void choose(const QUuid &id);
+
+    /// What keeps a new palette from having this name, as a sentence; empty when a palette of the project is
+    /// chosen, or when no other has the name.
+    [[nodiscard]] QString newPaletteProblem(const QString &name) const;
+
+    /// The colours of a palette as a small square.
+    [[nodiscard]] static QIcon swatchOf(const Palette &palette);
+};

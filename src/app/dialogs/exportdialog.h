@@ -1,0 +1,39 @@
+#pragma once
+
+#include "ui/dialogbase.h"
+
+class QCheckBox;
+class QSpinBox;
+
+namespace TileEditor {
+
+/// Asks which tiles of a tile set to export, and how.
+class ExportDialog : public DialogBase
+{
+    Q_OBJECT
+
+public:
+    explicit ExportDialog(QWidget *parent = nullptr);
+
+    void accept() override;
+
+public slots:
+    /// Opens the dialog for a tile set of count tiles. The range is all of them, unless a person chose another
+    /// that the tile set has as well.
+    void show(int count);
+
+signals:
+    /// First and last tile count from 1.
+    void accepted(int first, int last, bool rotate);
+
+protected:
+    [[nodiscard]] QString problem() const override;
+
+private:
+    int m_count = 0;
+    QSpinBox *m_first;
+    QSpinBox *m_last;
+    QCheckBox *m_rotate;
+};
+
+} // namespace TileEditor

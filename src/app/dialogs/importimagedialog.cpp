@@ -1,0 +1,152 @@
+#include "app/dialogs/importimagedialog.h"
+
+#include "app/dialogs/assetchooser.h"
+#include "app/dialogs/depthchooser.h"
+#include "app/dialogs/picturepreview.h"
+#include "app/imports/waitcursor.h"
+#include "model/spritebank.h"
+
+#include <QFileInfo>
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+
+#include <algorithm>
+
+namespace SpriteEditor {
+
+namespace {
+
+constexpr int FourBitColours = 16;
+/// Pixels along the longer side of the preview's picture, which is remapped at every change.
+constexpr int ThumbnailSide = 512;
+
+/// A picture of few pixels that has the colours of a large one.
+QImage thumbnailOf(const QImage &picture)
+{
+    if (std::max(picture.width(), picture.height()) <= ThumbnailSide)
+        return picture;
+    return picture.scaled(ThumbnailSide, ThumbnailSide, Qt::KeepAspectRatio, Qt::FastTransformation);
+}
+
+} // namespace
+
+ImportImageDialog::ImportImageDialog(QWidget *parent)
+    : CreationDialog(tr("Import Sprites"), tr("Make sprites of a picture"), parent)
+    , m_remap(new QRadioButton(tr("Nearest colours of a &palette"), this))
+    , m_slice(new QRadioButton(tr("N&ew palette, and every sprite once"), this))
+    , m_palette(new AssetChooser(this))
+    , m_depth(new DepthChooser(this))
+    , m_preview(new PicturePreview(this))
+    , m_summary(new QLabel(this))
+{
+    m_palette->setAccessibleName(tr("Palette"));
+    form()->addRow(tr("Colours"), m_remap);
+    form()->addRow(QString(), m_palette);
+    form()->addRow(QString(), m_slice);
+    form()->addRow(tr("&Depth"), m_depth);
+    body()->addWidget(m_preview, 1);
+    body()->addWidget(m_summary);
+    connect(m_slice, &QRadioButton::toggled, this, &ImportImageDialog::refresh);
+    for (const QComboBox *box : {static_cast<QComboBox *>(m_palette), static_cast<QComboBox *>(m_depth)})
+        connect(box, &QComboBox::currentIndexChanged, this, &ImportImageDialog::refresh);
+}
+
+void ImportImageDialog::show(const Project &project, const QString &file)
+{
+    m_project = &project;
+    m_file = file;
+    {
+        const WaitCursor wait;
+        if (!m_picture.load(file))
+            m_picture.setImage({});
+        m_thumbnail.setImage(thumbnailOf(m_picture.image()));
+    }
+    m_palette->offerPalettes(project);
+    const bool hasPalettes = m_palette->count() > 0;
+    m_remap->setEnabled(hasPalettes);
+    (hasPalettes ? m_remap : m_slice)->setChecked(true);
+    refresh();
+    openWithName(QFileInfo(file).completeBaseName());
+}
+
+QSize ImportImageDialog::pieces() const
+{
+    const QSize size = m_picture.image().size();
+    return {size.width() / SpriteBank::SpriteSize, size.height() / SpriteBank::SpriteSize};
+}
+
+Palette *ImportImageDialog::chosenPalette() const
+{
+    return m_project && m_remap->isChecked() ? m_project->palette(m_palette->id()) : nullptr;
+}
+
+void ImportImageDialog::refresh()
+{
+    m_palette->setEnabled(m_remap->isChecked());
+    Palette own;
+    Palette *palette = chosenPalette();
+    QImage shown;
+    if (palette) {
+        shown = m_thumbnail.remap(palette);
+    } else {
+        shown = m_thumbnail.toIndexed();
+        const QList<QRgb> colours = shown.colorTable();
+        for (qsizetype i = 0; i < colours.size(); ++i)
+            own.setColour(int(i), QColor::fromRgb(colours[i]), false);
+        if (!shown.isNull())
+            shown.setColorTable(own.colourTable());
+    }
+    m_preview->setPicture(shown);
+    m_summary->setText(m_picture.image().isNull()
+                           ? tr("No picture")
+                           : tr("%1 × %2 sprites, %n colour(s)", nullptr, int(m_picture.colours().size()))
+                                 .arg(pieces().width())
+                                 .arg(pieces().height()));
+    revalidate();
+}
+
+QString ImportImageDialog::problem() const
+{
+    const QString found = CreationDialog::problem();
+    if (!found.isEmpty())
+        return found;
+    if (m_picture.image().isNull())
+        return tr("The file is not a picture that can be read");
+    const qint64 count = qint64(pieces().width()) * pieces().height();
+    if (count == 0)
+        return tr("The picture is smaller than a sprite, which has 16 × 16 pixels");
+    if (count >= SpriteBank::MaxCount)
+        return tr("The picture holds more sprites than fit into a bank");
+    if (m_slice->isChecked() && m_project && m_project->paletteNames().contains(name()))
+        return tr("There is a palette of this name already; please choose another name");
+    return m_depth->depth() == Quenmora::FourBit ? depthProblem() : QString();
+}
+
+/// What keeps the picture from being shown by 4-bit sprites: they use one group of 16 colours.
+QString ImportImageDialog::depthProblem() const
+{
+    const QList<QRgb> colours = m_picture.colours();
+    const Palette *palette = chosenPalette();
+    if (!palette) {
+        return colours.size() > FourBitColours
+            ? tr("The picture has %n colour(s); 4-bit sprites show 16", nullptr, int(colours.size()))
+            : QString();
+    }
+    const auto group = [palette](QRgb colour) {
+        return palette->nearestIndex(QColor::fromRgb(colour)) / FourBitColours;
+    };
+    const int first = group(colours.constFirst());
+    const bool oneGroup =
+        std::all_of(colours.cbegin(), colours.cend(), [&](QRgb colour) { return group(colour) == first; });
+    return oneGroup ? QString()
+                    : tr("The colours lie in several groups of 16 of the palette; 4-bit sprites show one group");
+}
+
+void ImportImageDialog::submit()
+{
+    emit accepted({m_file, name(), m_depth->depth(), m_remap->isChecked() ? m_palette->id() : QUuid()});
+}
+
+} // namespace SpriteEditor

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "app/dialogs/creationdialog.h"
+#include "app/imports/spriteimport.h"
+#include "model/nximage.h"
+#include "model/palette.h"
+#include "model/project.h"
+
+#include <QPointer>
+
+class AssetChooser;
+class DepthChooser;
+class PicturePreview;
+class QLabel;
+class QRadioButton;
+
+namespace SpriteEditor {
+
+/// Asks how sprites are to be made of a picture, in the colours of a palette of the project or in colours of
+/// their own, and shows the picture in these colours.
+class ImportImageDialog : public CreationDialog
+{
+    Q_OBJECT
+
+public:
+    explicit ImportImageDialog(QWidget *parent = nullptr);
+
+public slots:
+    /// Opens the dialog for a picture file.
+    void show(const Project &project, const QString &file);
+
+signals:
+    void accepted(const SpriteImport &import);
+
+protected:
+    [[nodiscard]] QString problem() const override;
+    void submit() override;
+
+private:
+    void refresh();
+    [[nodiscard]] Palette *chosenPalette() const;
+    [[nodiscard]] QString depthProblem() const;
+    /// Pieces of 16×16 across and down.
+    [[nodiscard]] QSize pieces() const;
+
+    QPointer<const Project> m_project;
+    QString m_file;
+    NxImage m_picture; ///< empty when the file cannot be read
+    NxImage m_thumbnail;
+    QRadioButton *m_remap;
+    QRadioButton *m_slice;
+    AssetChooser *m_palette;
+    DepthChooser *m_depth;
+    PicturePreview *m_preview;
+    QLabel *m_summary;
+};
+
+} // namespace SpriteEditor

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "ui/dialogbase.h"
+
+#include <QUuid>
+
+class AssetChooser;
+class Project;
+
+/// Asks for one of the palettes of a project.
+class PaletteSelectorDialog : public DialogBase
+{
+    Q_OBJECT
+
+public:
+    explicit PaletteSelectorDialog(QWidget *parent = nullptr);
+
+    void accept() override;
+
+public slots:
+    /// Opens the dialog, the palette in use chosen.
+    void show(const Project &project, const QUuid &current);
+
+signals:
+    void accepted(const QUuid &paletteId);
+
+protected:
+    [[nodiscard]] QString problem() const override;
+
+private:
+    AssetChooser *m_palette;
+};

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QFrame>
+#include <QImage>
+
+/// Shows a picture as large as it fits, with whole pixels where it is smaller than the room.
+class PicturePreview : public QFrame
+{
+    Q_OBJECT
+
+public:
+    explicit PicturePreview(QWidget *parent = nullptr);
+
+    [[nodiscard]] QImage picture() const { return m_picture; }
+    /// A null picture leaves the preview empty.
+    void setPicture(const QImage &picture);
+
+    QSize sizeHint() const override { return {512, 160}; }
+    QSize minimumSizeHint() const override { return {256, 96}; }
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QImage m_picture;
+};

@@ -1,0 +1,51 @@
+#include "app/imports/nextdataimport.h"
+
+#include "model/palette.h"
+#include "model/project.h"
+#include "model/tileset.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+
+namespace {
+
+constexpr int MostTiles = 512;
+/// The map takes its size from the file.
+constexpr QSize AnySize{1, 1};
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("NextDataImport", text);
+}
+
+MapImport failed(const QString &failure)
+{
+    return {nullptr, failure};
+}
+
+} // namespace
+
+MapImport importNextData(Project &project, const QString &filePath)
+{
+    const QFileInfo chosen(filePath);
+    const QString name = chosen.completeBaseName();
+    const auto file = [&](const char *suffix) {
+        return chosen.dir().filePath(name + QLatin1Char('.') + QLatin1String(suffix));
+    };
+    for (const char *suffix : {"nxp", "nxt", "nxm", "nxb"}) {
+        if (!QFileInfo(file(suffix)).isFile())
+            return failed(tr("Some of the required files are missing"));
+    }
+
+    const QPointer<Palette> palette = project.createPalette(CreateAction::Blank, name);
+    if (!palette->importData(file("nxp")))
+        return failed(tr("Could not import the palette data"));
+    const QPointer<TileSet> tileSet = project.createTileSet(name, palette->id(), MostTiles, false);
+    if (!tileSet->importNxt(file("nxt")))
+        return failed(tr("Could not import the tile data"));
+    const QPointer<Map> map = project.createMap(name, tileSet->id(), AnySize);
+    if (!map->importNxm(file("nxm"), file("nxb")))
+        return failed(tr("Could not import the map data"));
+    return {map, {}};
+}

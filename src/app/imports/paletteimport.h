@@ -1,0 +1,21 @@
+#pragma once
+
+#include "model/palette.h"
+
+#include <QList>
+#include <QRgb>
+#include <QString>
+
+class Project;
+class QUndoStack;
+
+/// Reads the words of a palette file, or of a picture: its colour table, or else its first 256 distinct
+/// colours, snapped to colours of the Next; entries beyond them are as in the palette handed in. False, and
+/// nothing changes, when the file is neither.
+[[nodiscard]] bool readPaletteFile(const QString &fileName, Palette &words);
+
+/// Gives a palette the words of another, as one undo step on its stack; without a stack it cannot be undone.
+void replaceWords(Palette &palette, const Palette &words, QUndoStack *stack);
+
+/// A new palette with these colours, at most 256, snapped to colours of the Next. They are no edit of it.
+[[nodiscard]] Palette *createPaletteOf(Project &project, const QString &name, const QList<QRgb> &colours);

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "model/enums.h"
+
+#include <QString>
+#include <QUuid>
+
+class Project;
+class QWidget;
+class SpriteBank;
+
+/// A new sprite bank that is made of a file.
+struct SpriteImport
+{
+    QString file;
+    QString name; ///< of the bank, and of a new palette
+    Quenmora::Sprite depth = Quenmora::EightBit;
+    QUuid paletteId; ///< a palette of the project, or null for a new one
+};
+
+/// Makes a bank of the 16×16 pieces of a picture: all of them in the nearest colours of a palette of the
+/// project, or the distinct ones in colours of their own, with a new palette of these. The window in front
+/// shows the progress. Null, and the project is as it was, when the picture cannot be used.
+[[nodiscard]] SpriteBank *importSpritePicture(Project &project, const SpriteImport &import, QWidget *parent);
+
+/// Makes a bank of raw sprite data; a new palette is the standard one. Null, and the project is as it was,
+/// when the file cannot be used.
+[[nodiscard]] SpriteBank *importSpriteData(Project &project, const SpriteImport &import);

@@ -1,0 +1,43 @@
+#include "app/menus/editmenu.h"
+
+#include "ui/svgiconengine.h"
+
+EditMenu::EditMenu(QWidget *parent) : QMenu(tr("&Edit"), parent)
+{
+    addClipboardCommand(tr("Cu&t"), QStringLiteral(":/Cut"), QKeySequence::Cut, &EditMenu::cut);
+    addClipboardCommand(tr("&Copy"), QStringLiteral(":/Copy"), QKeySequence::Copy, &EditMenu::copy);
+    addClipboardCommand(tr("&Paste"), QStringLiteral(":/Paste"), QKeySequence::Paste, &EditMenu::paste);
+    addSeparator();
+    addClipboardCommand(tr("Select &All"), QStringLiteral(":/SelectAll"), QKeySequence::SelectAll,
+                        &EditMenu::selectAll);
+    addClipboardCommand(tr("C&lear Selection"), QStringLiteral(":/SelectNone"), QKeySequence::Deselect,
+                        &EditMenu::selectNone);
+}
+
+void EditMenu::addClipboardCommand(const QString &text, const QString &icon, QKeySequence::StandardKey keys,
+                                   void (EditMenu::*chosen)())
+{
+    QAction *action = addAction(themedIcon(icon), text);
+    action->setShortcut(keys);
+    action->setShortcutContext(Qt::ApplicationShortcut); // floating docks are windows of their own
+    action->setEnabled(false);
+    connect(action, &QAction::triggered, this, chosen);
+    m_clipboardActions.append(action);
+}
+
+void EditMenu::setUndoActions(QAction *undo, QAction *redo)
+{
+    undo->setShortcut(QKeySequence::Undo);
+    redo->setShortcut(QKeySequence::Redo);
+    undo->setIcon(themedIcon(QStringLiteral(":/Undo")));
+    redo->setIcon(themedIcon(QStringLiteral(":/Redo")));
+    QAction *first = actions().constFirst();
+    insertActions(first, {undo, redo});
+    insertSeparator(first);
+}
+
+void EditMenu::setClipboardEnabled(bool enabled)
+{
+    for (QAction *action : m_clipboardActions)
+        action->setEnabled(enabled);
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QKeySequence>
+#include <QList>
+#include <QMenu>
+
+/// The "Edit" menu: undo, and the clipboard commands of the editor in front.
+class EditMenu : public QMenu
+{
+    Q_OBJECT
+
+public:
+    explicit EditMenu(QWidget *parent = nullptr);
+
+    /// Puts the actions of the undo group on top, with the standard keys. Called once.
+    void setUndoActions(QAction *undo, QAction *redo);
+
+public slots:
+    /// Enables the clipboard entries, which an editor in front must be able to answer; off at first.
+    void setClipboardEnabled(bool enabled);
+
+signals:
+    void cut();
+    void copy();
+    void paste();
+    void selectAll();
+    void selectNone();
+
+private:
+    void addClipboardCommand(const QString &text, const QString &icon, QKeySequence::StandardKey keys,
+                             void (EditMenu::*chosen)());
+
+    QList<QAction *> m_clipboardActions;
+};

@@ -1,0 +1,106 @@
+#include "app/menus/filemenu.h"
+
+#include "app/dialogs/projectdialog.h"
+
+#include <QFileInfo>
+#include <QToolBar>
+
+FileMenu::FileMenu(QWidget *parent) : ProjectMenu(tr("&File"), parent)
+{
+    m_new = addCommand(this, tr("&New"), &FileMenu::showNewDialog, QKeySequence::New, QStringLiteral(":/tb-new-file"));
+    m_open =
+        addCommand(this, tr("&Open"), &FileMenu::showOpenDialog, QKeySequence::Open, QStringLiteral(":/tb-open-file"));
+    m_recentMenu = addMenu(tr("&Recent"));
+    m_recentMenu->setToolTipsVisible(true); // projects of the same name differ by their folders
+    m_save =
+        addCommand(this, tr("&Save"), &FileMenu::saveProject, QKeySequence::Save, QStringLiteral(":/tb-save-file"));
+    m_saveAs = addCommand(this, tr("Save &As"), &FileMenu::saveProjectAs, QKeySequence::SaveAs,
+                          QStringLiteral(":/tb-save-file-as"));
+    m_close = addCommand(this, tr("&Close"), &FileMenu::closeProject, QKeySequence::Close,
+                         QStringLiteral(":/tb-close-document"));
+    addSeparator();
+    addCommand(this, tr("&Preferences"), &FileMenu::displayPreferences)->setMenuRole(QAction::PreferencesRole);
+    addSeparator();
+    m_quit = addCommand(this, tr("&Quit"), &FileMenu::quit, {}, QStringLiteral(":/tb-exit-application"));
+    m_quit->setMenuRole(QAction::QuitRole);
+    rebuildRecentMenu();
+}
+
+QToolBar *FileMenu::createToolBar(QWidget *parent) const
+{
+    auto *bar = new QToolBar(tr("File"), parent);
+    bar->setObjectName(QStringLiteral("File Toolbar"));
+    bar->setIconSize({18, 18});
+    bar->setToolButtonStyle(Qt::ToolButtonIconOnly);
+    bar->setContextMenuPolicy(Qt::PreventContextMenu);
+    bar->addActions({m_new, m_open, m_save, m_saveAs, m_close});
+    bar->addSeparator();
+    bar->addAction(m_quit);
+    return bar;
+}
+
+void FileMenu::updateActions()
+{
+    for (QAction *action : {m_save, m_saveAs, m_close})
+        action->setEnabled(project());
+}
+
+void FileMenu::showNewDialog()
+{
+    lazily(m_dialog, this, &FileMenu::newProject)->open();
+}
+
+void FileMenu::showOpenDialog()
+{
+    const QString file = chooseFile({.title = tr("Open project"),
+                                     .nameFilters = {tr("Project file (*.quenmora)")},
+                                     .acceptMode = QFileDialog::AcceptOpen,
+                                     .defaultSuffix = QStringLiteral("quenmora"),
+                                     .folder = openFolder()});
+    if (file.isEmpty())
+        return;
+    m_openFolder = QFileInfo(file).absoluteDir();
+    emit openProject(file);
+}
+
+// Recent projects
+
+void FileMenu::setRecentFiles(const QStringList &paths)
+{
+    m_recentFiles.setPaths(paths);
+    rebuildRecentMenu();
+}
+
+void FileMenu::addRecentFile(const QString &path)
+{
+    m_recentFiles.add(path);
+    rebuildRecentMenu();
+}
+
+void FileMenu::clearRecentFiles()
+{
+    m_recentFiles.clear();
+    rebuildRecentMenu();
+}
+
+void FileMenu::rebuildRecentMenu()
+{
+    // not clear(): the entry that was just chosen must outlive its own signal
+    for (QAction *entry : m_recentMenu->actions()) {
+        m_recentMenu->removeAction(entry);
+        entry->deleteLater();
+    }
+    if (m_recentFiles.paths().isEmpty()) {
+        m_recentMenu->addAction(tr("None"))->setEnabled(false);
+        return;
+    }
+    for (const QString &path : m_recentFiles.paths()) {
+        // an ampersand of the name is no mnemonic
+        QAction *entry = m_recentMenu->addAction(QFileInfo(path).fileName().replace(u'&', QStringLiteral("&&")));
+        entry->setProperty("filePath", path);
+        entry->setToolTip(path);
+        connect(entry, &QAction::triggered, this, [this, path] { emit openProject(path); });
+    }
+    m_recentMenu->addSeparator();
+    connect(m_recentMenu->addAction(tr("&Clear")), &QAction::triggered, this, &FileMenu::clearRecentFiles);
+}

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "app/menus/projectmenu.h"
+#include "app/recentfiles.h"
+
+#include <QDir>
+#include <QPointer>
+#include <QStringList>
+
+class ProjectDialog;
+class QToolBar;
+
+/// The "File" menu: projects are made, opened, saved and closed here. It holds the live list of recent
+/// projects.
+class FileMenu : public ProjectMenu
+{
+    Q_OBJECT
+
+public:
+    explicit FileMenu(QWidget *parent = nullptr);
+
+    /// A new toolbar of the menu's main entries.
+    [[nodiscard]] QToolBar *createToolBar(QWidget *parent) const;
+
+    [[nodiscard]] QStringList recentFiles() const { return m_recentFiles.paths(); }
+    /// Takes a stored list as it stands.
+    void setRecentFiles(const QStringList &paths);
+    /// Puts a project that was opened or saved in front.
+    void addRecentFile(const QString &path);
+    [[nodiscard]] QMenu *recentMenu() const { return m_recentMenu; }
+
+    /// The absolute path of the folder in which "Open" starts to look.
+    [[nodiscard]] QString openFolder() const { return m_openFolder.absolutePath(); }
+    /// Remembers a folder; an empty path is the current working folder.
+    void setOpenFolder(const QString &path) { m_openFolder.setPath(path); }
+
+public slots:
+    void showNewDialog();
+    void showOpenDialog();
+    void clearRecentFiles();
+
+signals:
+    void newProject(const QString &name);
+    void openProject(const QString &filePath);
+    void saveProject();
+    void saveProjectAs();
+    void closeProject();
+    void displayPreferences();
+    void quit();
+
+protected:
+    void updateActions() override;
+
+private:
+    void rebuildRecentMenu();
+
+    RecentFiles m_recentFiles;
+    QDir m_openFolder{QString()};
+    QMenu *m_recentMenu;
+    QAction *m_new;
+    QAction *m_open;
+    QAction *m_save;
+    QAction *m_saveAs;
+    QAction *m_close;
+    QAction *m_quit;
+    QPointer<ProjectDialog> m_dialog;
+};

@@ -1,0 +1,19 @@
+#include "app/menus/imagemenu.h"
+
+#include "app/dialogs/imagedialog.h"
+
+ImageMenu::ImageMenu(QWidget *parent) : ProjectMenu(tr("&Image"), parent)
+{
+    addCommand(this, tr("&New Image"), &ImageMenu::showNewDialog, {}, QStringLiteral(":/Image"));
+}
+
+void ImageMenu::updateActions()
+{
+    setEnabled(project());
+}
+
+void ImageMenu::showNewDialog()
+{
+    if (project())
+        lazily(m_dialog, this, &ImageMenu::createImage)->show(*project());
+}

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "app/menus/projectmenu.h"
+#include "model/map.h"
+
+#include <QSize>
+#include <QUuid>
+
+class MapDialog;
+
+/// The "Map" menu: new and imported maps, and the file of the active one.
+class MapMenu : public ProjectMenu
+{
+    Q_OBJECT
+
+public:
+    explicit MapMenu(QWidget *parent = nullptr);
+
+    [[nodiscard]] Map *map() const { return m_map; }
+
+public slots:
+    /// The active map, or null.
+    void setMap(const QPointer<Map> &map);
+    void showNewDialog();
+    void showImportDialog();
+    void showExportDialog();
+
+signals:
+    void create(const QString &name, const QUuid &tileSetId, const QSize &size);
+    void importRequested(const QString &filePath);
+
+protected:
+    void updateActions() override;
+
+private:
+    QPointer<Map> m_map;
+    QAction *m_export;
+    QPointer<MapDialog> m_dialog;
+};

@@ -1,0 +1,71 @@
+#include "app/menus/palettemenu.h"
+
+#include "editors/palette/palettedialog.h"
+
+PaletteMenu::PaletteMenu(QWidget *parent) : ProjectMenu(tr("&Palette"), parent)
+{
+    addCommand(this, tr("&New Palette"), &PaletteMenu::showNewDialog, Qt::CTRL | Qt::ALT | Qt::Key_P,
+               QStringLiteral(":/Palette"));
+    addCommand(this, tr("&Import"), &PaletteMenu::showImportDialog, {}, QStringLiteral(":/Import"));
+    addSeparator();
+    m_name = addAction(QString());
+    m_name->setEnabled(false);
+    m_export = addCommand(this, tr("&Export"), &PaletteMenu::showExportDialog, {}, QStringLiteral(":/Export"));
+    updateName();
+}
+
+void PaletteMenu::setPalette(const QPointer<Palette> &palette)
+{
+    if (m_palette)
+        disconnect(m_palette, nullptr, this, nullptr);
+    m_palette = palette;
+    if (m_palette) {
+        connect(m_palette, &Palette::nameChanged, this, &PaletteMenu::updateName);
+        connect(m_palette, &QObject::destroyed, this, [this] { setPalette(nullptr); });
+    }
+    updateActions();
+}
+
+void PaletteMenu::updateActions()
+{
+    setEnabled(project());
+    m_export->setEnabled(m_palette);
+    updateName();
+}
+
+void PaletteMenu::updateName()
+{
+    m_name->setText(m_palette ? m_palette->name().replace(u'&', QStringLiteral("&&")) : tr("No Palette"));
+}
+
+void PaletteMenu::showNewDialog()
+{
+    if (project())
+        lazily(m_dialog, this, &PaletteMenu::createPalette)->show(project()->paletteNames());
+}
+
+void PaletteMenu::showImportDialog()
+{
+    if (!project())
+        return;
+    const QString file = chooseFile({.title = tr("Import Palette"),
+                                     .nameFilters = {tr("Palette (*.pal *.npl)"), tr("Images (*.png *.bmp)")},
+                                     .acceptMode = QFileDialog::AcceptOpen,
+                                     .defaultSuffix = {},
+                                     .folder = {}});
+    if (!file.isEmpty())
+        emit importRequested(m_palette ? m_palette->id() : QUuid(), file);
+}
+
+void PaletteMenu::showExportDialog()
+{
+    if (!m_palette)
+        return;
+    const QString file = chooseFile({.title = tr("Export Palette"),
+                                     .nameFilters = {tr("Palette (*.pal *.npl)")},
+                                     .acceptMode = QFileDialog::AcceptSave,
+                                     .defaultSuffix = QStringLiteral(".pal"),
+                                     .folder = {}});
+    if (!file.isEmpty() && m_palette && !m_palette->exportData(file))
+        reportExportFailure();
+}

@@ -1,0 +1,73 @@
+#pragma once
+
+#include "app/dialogs/filechooser.h"
+#include "model/project.h"
+
+#include <QKeySequence>
+#include <QMenu>
+#include <QPointer>
+
+/// The base of the menus whose commands depend on the open project.
+///
+/// A menu owns its actions and builds its dialogs when they are first used. What a person asks for, the
+/// rest of the shell learns from the menu's signals.
+class ProjectMenu : public QMenu
+{
+    Q_OBJECT
+
+public:
+    explicit ProjectMenu(const QString &title, QWidget *parent = nullptr);
+
+    [[nodiscard]] Project *project() const { return m_project; }
+
+    /// Who answers the menu's questions for files; runFileDialog() at first.
+    void setFileChooser(const FileChooser &chooser) { m_fileChooser = chooser; }
+
+public slots:
+    /// The open project, or null.
+    void setProject(const QPointer<Project> &project);
+
+signals:
+    /// Something that was asked for could not be done: a text for the user, and its title.
+    void failed(const QString &text, const QString &title);
+
+protected:
+    /// Enables what can be done now; called whenever the project changes.
+    virtual void updateActions() = 0;
+
+    /// Appends an entry that calls a slot, or emits a signal, of the menu when it is chosen.
+    template <typename Menu, typename Slot>
+    QAction *addCommand(Menu *menu, const QString &text, Slot slot, const QKeySequence &shortcut = {},
+                        const QString &icon = {})
+    {
+        QAction *action = newAction(text, shortcut, icon);
+        connect(action, &QAction::triggered, menu, slot);
+        return action;
+    }
+
+    /// The menu's dialog of a kind, made when it is first asked for; what is accepted in it goes to a slot
+    /// or signal of the menu.
+    template <typename Menu, typename Dialog, typename Slot>
+    Dialog *lazily(QPointer<Dialog> &dialog, Menu *menu, Slot slot) const
+    {
+        if (!dialog) {
+            dialog = new Dialog(dialogParent());
+            connect(dialog, &Dialog::accepted, menu, slot);
+        }
+        return dialog;
+    }
+
+    [[nodiscard]] QString chooseFile(const FileRequest &request) const;
+    [[nodiscard]] FileChooser fileChooser() const { return m_fileChooser; }
+    /// Tells the user that a file could not be written.
+    void reportExportFailure();
+
+    /// The window over which the menu's dialogs stand.
+    [[nodiscard]] QWidget *dialogParent() const;
+
+private:
+    QAction *newAction(const QString &text, const QKeySequence &shortcut, const QString &icon);
+
+    QPointer<Project> m_project;
+    FileChooser m_fileChooser = runFileDialog;
+};

@@ -1,0 +1,118 @@
+#include "app/menus/tilemenu.h"
+
+#include "app/dialogs/exportdialog.h"
+#include "app/dialogs/importzxfontdialog.h"
+#include "app/dialogs/paletteselectordialog.h"
+#include "app/dialogs/tileanimationdialog.h"
+#include "app/dialogs/tilesetdialog.h"
+
+#include <QDebug>
+
+TileMenu::TileMenu(QWidget *parent) : ProjectMenu(tr("&Tiles"), parent)
+{
+    addCommand(this, tr("&New Tile Set"), &TileMenu::showNewDialog, Qt::CTRL | Qt::ALT | Qt::Key_T,
+               QStringLiteral(":/TileSet"));
+    addSeparator();
+    QMenu *importMenu = nullptr;
+    m_tileSetActions = {
+        addCommand(this, tr("&Create Animations"), &TileMenu::showAnimationDialog, {}, QStringLiteral(":/Film")),
+        addCommand(this, tr("&Swap Palette"), &TileMenu::showSwapPaletteDialog, {}, QStringLiteral(":/Swap")),
+        addCommand(this, tr("&Export"), &TileMenu::showExportDialog, {}, QStringLiteral(":/Export")),
+        addCommand(this, tr("Export &Attributes"), &TileMenu::showExportAttributesDialog),
+        (importMenu = addMenu(tr("&Import")))->menuAction(),
+        addSeparator(),
+        addCommand(this, tr("Ne&xt Tile"), &TileMenu::nextTile, Qt::CTRL | Qt::Key_BracketRight),
+        addCommand(this, tr("&Previous Tile"), &TileMenu::previousTile, Qt::CTRL | Qt::Key_BracketLeft),
+        (m_magnificationMenu = addMenu(tr("Tile List &Magnification")))->menuAction(),
+    };
+    connect(importMenu->addAction(tr("&Spectrum Chars")), &QAction::triggered, this, &TileMenu::showImportFontDialog);
+}
+
+void TileMenu::setMagnificationActions(const QList<QAction *> &actions)
+{
+    m_magnificationMenu->clear();
+    m_magnificationMenu->addActions(actions);
+}
+
+void TileMenu::setTileSet(const QPointer<TileSet> &tileSet)
+{
+    if (m_tileSet)
+        disconnect(m_tileSet, nullptr, this, nullptr);
+    m_tileSet = tileSet;
+    if (m_tileSet)
+        connect(m_tileSet, &QObject::destroyed, this, [this] { setTileSet(nullptr); });
+    updateActions();
+}
+
+void TileMenu::updateActions()
+{
+    setEnabled(project());
+    for (QAction *action : m_tileSetActions)
+        action->setEnabled(m_tileSet);
+}
+
+void TileMenu::showNewDialog()
+{
+    if (project())
+        lazily(m_newDialog, this, &TileMenu::createTiles)->show(*project());
+}
+
+void TileMenu::showAnimationDialog()
+{
+    if (project() && m_tileSet)
+        lazily(m_animationDialog, this, &TileMenu::createBlocks)->show(*project(), m_tileSet->id());
+}
+
+void TileMenu::showSwapPaletteDialog()
+{
+    if (project() && m_tileSet)
+        lazily(m_paletteDialog, this, &TileMenu::swapPalette)->show(*project(), m_tileSet->paletteId());
+}
+
+void TileMenu::showExportDialog()
+{
+    if (m_tileSet)
+        lazily(m_exportDialog, this, &TileMenu::exportAccepted)->show(m_tileSet->count());
+}
+
+void TileMenu::exportAccepted(int first, int last, bool rotate)
+{
+    if (!m_tileSet) {
+        qWarning("Null tileset");
+        return;
+    }
+    const QString file = chooseFile({.title = tr("Export Tiles"),
+                                     .nameFilters = {tr("Tile Data (*.bin)")},
+                                     .acceptMode = QFileDialog::AcceptSave,
+                                     .defaultSuffix = QStringLiteral(".bin"),
+                                     .folder = {}});
+    if (file.isEmpty() || !m_tileSet || m_tileSet->exportBlocks(file, first, last, rotate))
+        return;
+    qWarning("Export failed!");
+    reportExportFailure();
+}
+
+void TileMenu::showExportAttributesDialog()
+{
+    if (!m_tileSet)
+        return;
+    const QString file = chooseFile({.title = tr("Export tile attributes"),
+                                     .nameFilters = {tr("ASM Code (*.asm)"), tr("Binary Data (*.bin)")},
+                                     .acceptMode = QFileDialog::AcceptSave,
+                                     .defaultSuffix = QStringLiteral(".asm"),
+                                     .folder = {}});
+    if (file.isEmpty() || !m_tileSet)
+        return;
+    const bool binary = file.endsWith(QLatin1String(".bin"), Qt::CaseInsensitive);
+    if (!(binary ? m_tileSet->exportAttributesBinary(file) : m_tileSet->exportAttributesAsm(file)))
+        reportExportFailure();
+}
+
+void TileMenu::showImportFontDialog()
+{
+    if (!m_tileSet)
+        return;
+    ImportZXFontDialog *dialog = lazily(m_fontDialog, this, &TileMenu::importZXFont);
+    dialog->setFileChooser(fileChooser());
+    dialog->show(*m_tileSet);
+}
