@@ -6,7 +6,6 @@
 #include "model/rawfile.h"
 #include "model/tileset.h"
 
-
 #include <algorithm>
 #include <limits>
 #include <utility>
@@ -221,22 +220,24 @@ bool Map::removeAnimationAt(const QRect &area)
     return true;
 }
 
-void Map::stampFrame(const Animation &animation, int frame, QPoint topLeft)
+bool Map::stampFrame(const Animation &animation, int frame, QPoint topLeft)
 {
     if (!m_objectLayer || frame < 0 || frame >= animation.frameCount())
-        return;
+        return false;
     // a damaged project may place it anywhere, even where reckoning with positions would overflow
     constexpr int reach = Animation::MaximumSide;
     if (!m_objectLayer->bounds().adjusted(-reach, -reach, 0, 0).contains(topLeft))
-        return;
+        return false;
+    bool changed = false;
     const AnimationFrame::Cells &rows = animation.frame(frame)->cells();
     for (int y = 0; y < rows.size(); ++y) {
         for (int x = 0; x < rows[y].size(); ++x) {
             const AnimationFrame::Cell &cell = rows[y][x];
-            m_objectLayer->setCell(topLeft + QPoint(x, y),
-                                   {cell.index, cell.rotate, cell.flip, cell.mirror, cell.offset, true});
+            changed |= m_objectLayer->setCell(topLeft + QPoint(x, y),
+                                              {cell.index, cell.rotate, cell.flip, cell.mirror, cell.offset, true});
         }
     }
+    return changed;
 }
 
 void Map::restampAnimations(const QList<QPointer<MapObjects>> &blockSets)

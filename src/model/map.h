@@ -123,7 +123,8 @@ public:
     /// Removes the placement with exactly this area and clears the area; false when there is none.
     bool removeAnimationAt(const QRect &area);
     /// Writes the cells of a frame into the object layer; a frame that the animation does not have is ignored.
-    void stampFrame(const Animation &animation, int frame, QPoint topLeft);
+    /// Whether a cell is another one now.
+    bool stampFrame(const Animation &animation, int frame, QPoint topLeft);
     /// Shows the first frame of every placement again, after a project was read.
     void restampAnimations(const QList<QPointer<MapObjects>> &blockSets);
 
