@@ -1,0 +1,16 @@
+#pragma once
+
+#include "ui/toolpalette.h"
+
+namespace MapEditor {
+
+/// The tools and actions beside a map, with their shortcuts.
+class MapToolPalette : public ToolPalette
+{
+    Q_OBJECT
+
+public:
+    explicit MapToolPalette(QWidget *parent = nullptr);
+};
+
+} // namespace MapEditor
