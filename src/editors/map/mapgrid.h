@@ -18,6 +18,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 class QMenu;
 class QRubberBand;
@@ -87,11 +88,15 @@ public:
 
     // What the tools work with.
 
-    /// A cell of the tile layer as the draw tool writes it, with the palette offset of its tile.
+    /// The current tile as a cell, with the palette offset that the tile set gives it.
     TileMap::TileData currentTile() const;
+    /// How a tile looks in that orientation; null when the tile set does not have it.
+    QImage tilePicture(const TileMap::TileData &cell) const;
+    /// The cell of the tile layer under a point is picked; nothing outside the map.
+    void pickTileAt(QPoint point);
     QPointer<TileAnimation> currentAnimation() const { return m_currentAnimation; }
     /// What the sprite tool places; nothing when no sprite was chosen.
-    const Map::PlacedSprite *spriteTemplate() const { return m_spriteTemplateValid ? &m_spriteTemplate : nullptr; }
+    const std::optional<Map::PlacedSprite> &spriteTemplate() const { return m_spriteTemplate; }
     const QList<QPointer<SpriteBank>> &spriteBanks() const { return m_spriteBanks; }
     qint64 spriteTicks() const { return m_spriteTicks; }
     int transparencyIndex() const { return m_transparencyIndex; }
@@ -102,6 +107,7 @@ public:
     QPoint hoverCell() const { return m_hoverCell; }
     bool hasHoverCell() const;
     void setHoverCell(QPoint cell) { m_hoverCell = cell; }
+    void clearHoverCell() { m_hoverCell = QPoint(-1, -1); }
     void setHoverSprite(int index) { m_hoverSprite = index; }
     void selectSprite(int index);
     void setSelection(const QRect &cells);
@@ -180,6 +186,10 @@ protected:
 
 private slots:
     void tileMapChanged();
+    void mapRestored();
+    void mapDestroyed();
+    void spriteAnimationsChanged();
+    void spritesRemoved();
     void copyAsImage();
     void mapFromSelection();
 
@@ -189,17 +199,23 @@ private:
     void buildContextMenu();
     void relayout();
     void scrollBy(QPoint direction);
+    void setScrollPosition(QPoint position);
+    void setSpriteTemplate(const std::optional<Map::PlacedSprite> &sprite);
+    /// Ends whatever was going on while buttons were held.
     void releaseButtons();
-    void pickTile(QPoint point);
-    void reset();
-    void watchMap();
-    void watchSpriteBanks();
-    void followContent();
-    void mapRestored();
-    void mapGone();
-    void edit(const QString &text, const std::function<void(Map &)> &operation);
-    void resizeEdit(const QString &text, const std::function<void(Map &)> &operation);
+    void followMap();
+    void unfollowMap();
+    void followSpriteBanks();
+    void unfollowSpriteBanks();
+    /// Forgets what the pointer and the tools were about.
+    void forget();
     QSize mapSize() const;
+    bool hasSelection() const;
+    /// Puts the selection on the clipboard; false when there is none, or one too large.
+    bool copyCells();
+    void edit(const QString &text, const std::function<void(Map &)> &operation);
+    /// An edit that may change the size of the map.
+    void resizingEdit(const QString &text, const std::function<void(Map &)> &operation);
 
     void paintBackground(QPainter &painter) const;
     void paintMap(QPainter &painter, const QRect &dirty) const;
@@ -225,8 +241,7 @@ private:
     QPointer<QUndoStack> m_undoStack;
     MapEdit m_edit;
     QPointer<TileAnimation> m_currentAnimation;
-    Map::PlacedSprite m_spriteTemplate;
-    bool m_spriteTemplateValid = false;
+    std::optional<Map::PlacedSprite> m_spriteTemplate;
     QList<QPointer<SpriteBank>> m_spriteBanks;
     qint64 m_spriteTicks = 0;
     int m_hoverSprite = -1;
@@ -236,8 +251,7 @@ private:
     QMenu *m_contextMenu;
     QHash<Quenmora::Ui::ToolButton, std::shared_ptr<MapTool>> m_tools;
     std::shared_ptr<MapTool> m_tool;
-    std::unique_ptr<QObject> m_mapWatch; ///< receives the signals of the map and its tile set
-    std::unique_ptr<QObject> m_bankWatch; ///< receives those of the sprite banks
+    QPointer<TileSet> m_tileSet; ///< the map's, whose changes are followed
 };
 
 } // namespace MapEditor

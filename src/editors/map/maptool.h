@@ -2,8 +2,8 @@
 
 #include "ui/enums.h"
 
-#include <QCoreApplication>
 #include <QCursor>
+#include <QtGlobal>
 
 class QMouseEvent;
 class QPainter;

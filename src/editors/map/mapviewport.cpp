@@ -31,11 +31,11 @@ constexpr QPoint floorDivided(QPoint point, int by)
     return {floorDivided(point.x(), by), floorDivided(point.y(), by)};
 }
 
-/// A map pixel in widget pixels; rounded down, so that neighbours meet without a gap on both sides of 0.
-int scaled(int pixel, int cellSize)
+/// A distance in map pixels on the screen, held within what widgets can reckon with.
+int onScreen(int pixels, int cellSize)
 {
-    const qint64 product = qint64(pixel) * cellSize;
-    return int(product >= 0 ? product / TileSize : -((TileSize - 1 - product) / TileSize));
+    constexpr qreal Reach = 1 << 28;
+    return qRound(std::clamp(qreal(pixels) * cellSize / TileSize, -Reach, Reach));
 }
 
 } // namespace
@@ -134,7 +134,7 @@ QRect MapViewport::rectOfPixels(const QRect &pixels) const
 {
     const auto toWidget = [this](QPoint pixel) {
         const QPoint shown = pixel - scroll * TileSize;
-        return viewRect.topLeft() + QPoint(scaled(shown.x(), cellSize), scaled(shown.y(), cellSize));
+        return viewRect.topLeft() + QPoint(onScreen(shown.x(), cellSize), onScreen(shown.y(), cellSize));
     };
     const QPoint topLeft = toWidget(pixels.topLeft());
     const QPoint end = toWidget(pixels.topLeft() + QPoint(pixels.width(), pixels.height()));

@@ -1,0 +1,30 @@
+#include "editors/map/picktool.h"
+
+#include "editors/map/mapgrid.h"
+
+#include <QMouseEvent>
+
+namespace MapEditor {
+
+bool PickTool::activate()
+{
+    if (grid()->savedMode() != mode())
+        m_modeBefore = grid()->savedMode();
+    grid()->refreshCursor();
+    return true;
+}
+
+QCursor PickTool::cursor() const
+{
+    return QCursor(QPixmap(QStringLiteral(":/PickerCursor")), 5, 28);
+}
+
+void PickTool::mouseReleased(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton)
+        return;
+    grid()->pickTileAt(event->position().toPoint());
+    grid()->setMode(m_modeBefore);
+}
+
+} // namespace MapEditor
