@@ -14,8 +14,6 @@ class GridChange
 public:
     GridChange(const TileMap::Rows &before, const TileMap::Rows &after);
 
-    [[nodiscard]] bool isEmpty() const { return m_runs.isEmpty() && !m_resized; }
-
     // Both change the cells of the runs and leave the others as they are. Cells outside the grid are skipped.
 
     /// Gives the cells that differ their content from before the change.
