@@ -1,0 +1,96 @@
+#pragma once
+
+#include "model/project.h"
+#include "store/projectstore.h"
+
+#include <QByteArray>
+#include <QObject>
+#include <QPointer>
+#include <QString>
+
+#include <functional>
+
+class FileMenu;
+class QFileDialog;
+class QWidget;
+
+/// Runs the life of a project as the user sees it: create, open, save, save as, close; and asks before
+/// anything that would discard work.
+///
+/// It knows nothing of the window: what it needs from there comes through callbacks, what it does it
+/// tells by its signals. Why loading or saving failed is told by its store.
+class ProjectController : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The user's answer to the question what becomes of unsaved changes.
+    enum UnsavedAnswer { Save = 0, Discard = 1, Cancel = 2 };
+    Q_ENUM(UnsavedAnswer)
+
+    /// Takes its requests from the File menu, which remembers recent projects, when there is one. The
+    /// parent widget owns the dialogs.
+    explicit ProjectController(QWidget *parentWidget = nullptr, FileMenu *fileMenu = nullptr);
+
+    /// True when the open project may be closed: it is unmodified, was saved, or is to be discarded.
+    [[nodiscard]] bool confirmClose();
+
+    /// Whether there is something to save: an undo stack that is not clean, or content that differs from
+    /// what was last created, opened or saved. Which tabs are open does not count.
+    [[nodiscard]] bool isModified() const;
+
+    /// The open project, or null.
+    [[nodiscard]] Project *project() const { return m_project; }
+    /// The file of the open project; empty for one that was never saved.
+    [[nodiscard]] QString filePath() const { return m_store.fileName(); }
+    [[nodiscard]] ProjectStore *store() { return &m_store; }
+
+    /// Whether the previous version of the file is kept when saving.
+    void setBackupCallback(std::function<bool()> backup);
+    /// Whether every undo stack is clean, and marking all of them clean.
+    void setCleanCallbacks(std::function<bool()> isClean, std::function<void()> markClean);
+    /// Asks what becomes of the unsaved changes of the project of that name, in place of a message box.
+    void setUnsavedAnswerCallback(std::function<UnsavedAnswer(const QString &)> ask);
+    /// Chooses the file to save to, empty for none, in place of a file dialog.
+    void setFileNameCallback(std::function<QString()> chooseFile);
+
+public slots:
+    void newProject(QString name);
+    void openProject(QString filePath);
+    void save();
+    void saveAs();
+    /// Closes the open project without asking.
+    void close();
+
+signals:
+    void aboutToSave();
+    /// Follows every aboutToSave(), whether or not anything was saved.
+    void saveFinished();
+    void projectOpened(Project *project);
+    /// The project is about to be destroyed.
+    void projectClosing();
+    void projectClosed();
+    void error(QString message);
+
+private:
+    void connectTo(FileMenu *fileMenu);
+    void addToRecentProjects(const QString &filePath);
+    void markSaved();
+    [[nodiscard]] bool write();
+    [[nodiscard]] UnsavedAnswer askAboutChanges(const QString &projectName);
+    [[nodiscard]] QString runSaveDialog();
+
+    QPointer<QWidget> m_parentWidget;
+    QPointer<FileMenu> m_fileMenu;
+    ProjectStore m_store;
+    QPointer<Project> m_project;
+    /// The store's fingerprint when the project was last created, opened or saved.
+    QByteArray m_savedFingerprint;
+    QPointer<QFileDialog> m_saveDialog; ///< made when first needed
+
+    std::function<bool()> m_backup;
+    std::function<bool()> m_isClean;
+    std::function<void()> m_markClean;
+    std::function<UnsavedAnswer(const QString &)> m_ask;
+    std::function<QString()> m_chooseFile;
+};
