@@ -1,0 +1,352 @@
+#include "app/documentcontroller.h"
+
+#include "app/documenttabview.h"
+#include "app/menus/editmenu.h"
+#include "app/menus/mapmenu.h"
+#include "app/menus/menubar.h"
+#include "app/menus/palettemenu.h"
+#include "app/menus/spritemenu.h"
+#include "app/menus/tilemenu.h"
+#include "app/preferences/mapeditorpage.h"
+#include "app/preferences/preferencesdialog.h"
+#include "app/projectcontroller.h"
+#include "app/projecttree/projectwindow.h"
+#include "editors/canvas/imageeditorview.h"
+#include "editors/canvas/spritewindow.h"
+#include "editors/canvas/tilepickertool.h"
+#include "editors/canvas/tilewindow.h"
+#include "editors/palette/palettewindow.h"
+
+#include <QScopedValueRollback>
+
+namespace {
+
+MapEditor::Preferences preferencesOf(const MapEditorPage &page)
+{
+    MapEditor::Preferences preferences;
+    preferences.checkerBoard = page.checkerBoard();
+    preferences.gridColour1 = page.gridColour1();
+    preferences.gridColour2 = page.gridColour2();
+    preferences.overlayGrid = page.overlayGrid();
+    preferences.gridSize = page.gridSize();
+    preferences.defaultZoom = page.defaultZoom();
+    return preferences;
+}
+
+} // namespace
+
+DocumentController::DocumentController(const DocumentViews &views, ProjectController *projectController,
+                                       QObject *parent)
+    : QObject(parent)
+    , m_views(views)
+    , m_projectController(projectController)
+    , m_focus(views, m_stacks.group(), [this](const QUuid &id) { return undoStackFor(id); })
+{
+    const auto stackFor = [this](const QUuid &id) { return undoStackFor(id); };
+    m_views.tileEditor->setUndoStackProvider(stackFor);
+    m_views.spriteEditor->setUndoStackProvider(stackFor);
+    connectTabs();
+    connectDocks();
+}
+
+DocumentController::~DocumentController() = default;
+
+void DocumentController::connectTabs()
+{
+    // a tab that the user brought to the front
+    const auto follow = [this](auto activated, auto activate) {
+        connect(m_views.tabs, activated, this, [this, activate](auto... id) {
+            if (!m_activating)
+                (this->*activate)(id...);
+        });
+    };
+    follow(&DocumentTabView::MapEditorActivated, &DocumentController::setActiveMap);
+    follow(&DocumentTabView::ScratchEditorActivated, &DocumentController::scratchEditorActivated);
+    follow(&DocumentTabView::ImageEditorActivated, &DocumentController::setActiveImageEditor);
+    follow(&DocumentTabView::SpriteEditorActivated, &DocumentController::setActiveSpriteEditor);
+    follow(&DocumentTabView::BlockEditorActivated, &DocumentController::setActiveBlockEditor);
+    connect(m_views.tabs, &DocumentTabView::showAnimPicker, m_views.mapObjects, &QWidget::raise);
+    connect(m_views.tabs->scratchEditor(), &ImageEditor::View::imageChanged, this, [this](const QImage &image) {
+        if (project())
+            project()->setScratchImage(image);
+    });
+}
+
+void DocumentController::connectDocks()
+{
+    connect(m_views.project, &ProjectWindow::selectedPaletteChanged, this, &DocumentController::setActivePalette);
+    connect(m_views.project, &ProjectWindow::selectedTileSetChanged, this, &DocumentController::setActiveTileSet);
+    connect(m_views.project, &ProjectWindow::selectedBlocksChanged, this, &DocumentController::setActiveBlockEditor);
+    connect(m_views.project, &ProjectWindow::selectedSpritesChanged, this, &DocumentController::setActiveSpriteEditor);
+    connect(m_views.project, &ProjectWindow::selectedMapChanged, this, &DocumentController::setActiveMap);
+    connect(m_views.project, &ProjectWindow::selectedImageChanged, this, &DocumentController::setActiveImageEditor);
+    connect(m_views.project, &ProjectWindow::itemRenamed, m_views.tabs, &DocumentTabView::renameDocument);
+    // they have no tab, so a dock that was closed opens again for them
+    connect(m_views.project, &ProjectWindow::selectedPaletteChanged, m_views.palette, &QWidget::show);
+    connect(m_views.project, &ProjectWindow::selectedTileSetChanged, m_views.tileEditor, &QWidget::show);
+    connect(m_views.palette, &PaletteWindow::paletteChosen, this, &DocumentController::setActivePalette);
+    connect(m_views.tilePicker, &TilePickerTool::tileDoubleClicked, this, [this](int tileNumber) {
+        m_views.tileEditor->setTileIndex(tileNumber);
+        m_views.tileEditor->raise();
+    });
+}
+
+Project *DocumentController::project() const
+{
+    return m_projectController->project();
+}
+
+QObject *DocumentController::asset(const QUuid &id) const
+{
+    const Project *project = this->project();
+    if (!project || id.isNull())
+        return nullptr;
+    const auto find = [&id](const auto &...lookUps) {
+        QObject *found = nullptr;
+        static_cast<void>(((found = lookUps(id).data()) || ...));
+        return found;
+    };
+    return find([project](const QUuid &wanted) { return project->palette(wanted); },
+                [project](const QUuid &wanted) { return project->tileSet(wanted); },
+                [project](const QUuid &wanted) { return project->map(wanted); },
+                [project](const QUuid &wanted) { return project->blocks(wanted); },
+                [project](const QUuid &wanted) { return project->spriteBank(wanted); },
+                [project](const QUuid &wanted) { return project->image(wanted); });
+}
+
+void DocumentController::openProject(Project *project)
+{
+    m_recorder = std::make_unique<EditRecorder>(project, [this](const QUuid &id) { return undoStackFor(id); });
+    connect(project, &Project::imageCreated, this, [this](const QPointer<Image> &image) {
+        if (image)
+            setActiveImageEditor(image->id());
+    });
+    connect(project, &Project::spritesCreated, this, &DocumentController::offerSpriteBanks);
+    m_views.palette->setProject(project);
+    m_views.mapSprites->setProject(project);
+
+    ImageEditor::View *scratch = m_views.tabs->scratchEditor();
+    scratch->setPixels(project->scratchImage());
+    scratch->setPalette(project->scratchPalette());
+    scratch->setUndoStack(undoStackFor({}));
+    m_focus.setProject(project);
+
+    const QStringList documents = project->openDocuments();
+    for (const QString &document : documents) {
+        const auto id = QUuid::fromString(document);
+        if (project->map(id))
+            setActiveMap(id);
+        else if (project->blocks(id))
+            setActiveBlockEditor(id);
+        else if (project->spriteBank(id))
+            setActiveSpriteEditor(id);
+    }
+}
+
+void DocumentController::closeProject()
+{
+    disconnectMapEditor();
+    m_focus.setProject(nullptr);
+    ImageEditor::View *scratch = m_views.tabs->scratchEditor();
+    scratch->setUndoStack(nullptr);
+    scratch->setPalette(nullptr);
+    m_recorder.reset();
+    m_stacks.clear();
+}
+
+QUndoStack *DocumentController::undoStackFor(const QUuid &id)
+{
+    QObject *owner = id.isNull() ? project() : asset(id);
+    return owner ? m_stacks.stackFor(id, owner) : nullptr;
+}
+
+// Activating assets
+
+bool DocumentController::showTab(const QUuid &id)
+{
+    const int tab = m_views.tabs->indexOfDocument(id);
+    if (tab >= 0)
+        m_views.tabs->setCurrentIndex(tab);
+    return tab >= 0;
+}
+
+void DocumentController::closeWith(QObject *asset, QWidget *page)
+{
+    connect(asset, &QObject::destroyed, page, [this, page] { m_views.tabs->closeTab(m_views.tabs->indexOf(page)); });
+}
+
+void DocumentController::showPalette(const QPointer<Palette> &palette)
+{
+    if (!palette)
+        return;
+    m_views.palette->setPalette(palette);
+    m_views.menuBar->paletteMenu()->setPalette(palette);
+}
+
+void DocumentController::setActivePalette(QUuid paletteId)
+{
+    const QPointer<Palette> palette = project() ? project()->palette(paletteId) : nullptr;
+    if (!palette)
+        return;
+    m_views.palette->setEnabled(true);
+    showPalette(palette);
+    m_views.palette->raise();
+}
+
+void DocumentController::showTileSet(const QPointer<TileSet> &tileSet)
+{
+    m_views.tilePicker->setTileSet(tileSet);
+    m_views.mapObjects->setTileSet(tileSet);
+    m_views.tileEditor->setTileSet(tileSet);
+    m_views.menuBar->tileMenu()->setTileSet(tileSet);
+}
+
+void DocumentController::setActiveTileSet(QUuid tileSetId)
+{
+    const QPointer<TileSet> tileSet = project() ? project()->tileSet(tileSetId) : nullptr;
+    if (!tileSet)
+        return;
+    m_views.tileEditor->setEnabled(true);
+    showTileSet(tileSet);
+    // after the tile set, or the one that was shown before would get this palette
+    m_views.tileEditor->setPalette(tileSet->palette());
+    m_views.tileEditor->raise();
+    showPalette(tileSet->palette());
+}
+
+void DocumentController::openMap(const QPointer<Map> &map)
+{
+    MapEditor::View *editor = m_views.tabs->openMapEditor(map);
+    editor->setUndoStack(undoStackFor(map->id()));
+    editor->setSpriteBanks(project()->spriteBanks());
+    editor->applyPreferences(preferencesOf(*m_views.preferences->mapEditorPage()));
+    ProjectStore *store = m_projectController->store();
+    connect(editor, &MapEditor::View::exportTileMap, store, &ProjectStore::exportMap);
+    connect(editor, &MapEditor::View::exportTiles, store, &ProjectStore::exportTiles);
+    connect(editor, &MapEditor::View::exportTilePalette, store, &ProjectStore::exportPalette);
+    connect(editor, &MapEditor::View::createMapFromSelection, this, &DocumentController::createMapFromSelection);
+    closeWith(map, editor);
+}
+
+void DocumentController::setActiveMap(QUuid mapId)
+{
+    const QPointer<Map> map = project() ? project()->map(mapId) : nullptr;
+    if (!map)
+        return;
+    const QScopedValueRollback activating(m_activating, true);
+    disconnectMapEditor();
+    if (!showTab(mapId))
+        openMap(map);
+    setActiveTileSet(map->tileSetId());
+    connectMapEditor(qobject_cast<MapEditor::View *>(m_views.tabs->currentWidget()));
+    m_views.menuBar->mapMenu()->setMap(map);
+}
+
+void DocumentController::connectMapEditor(MapEditor::View *editor)
+{
+    using MapEditor::View;
+    if (!editor)
+        return;
+    m_mapConnections = {
+        connect(m_views.tilePicker, &TilePickerTool::selectedTileChanged, editor, &View::setTileIndex),
+        connect(editor, &View::tilePicked, m_views.tilePicker, &TilePickerTool::setSelectedIndex),
+        connect(m_views.mapObjects, &BlockSelectorWindow::animationSelected, editor, &View::setMapObject),
+        connect(m_views.mapSprites, &MapSpritesWindow::spriteAnimationSelected, editor, &View::setSpriteAnimation),
+        connect(m_views.mapSprites, &MapSpritesWindow::spriteSelected, editor, &View::setSingleSprite),
+        connect(editor, &View::placeSpriteModeEnabled, m_views.mapSprites, &QWidget::raise),
+    };
+}
+
+void DocumentController::disconnectMapEditor()
+{
+    for (const QMetaObject::Connection &connection : std::as_const(m_mapConnections))
+        disconnect(connection);
+    m_mapConnections.clear();
+}
+
+void DocumentController::offerSpriteBanks()
+{
+    const QList<MapEditor::View *> editors = m_views.tabs->mapEditors();
+    for (MapEditor::View *editor : editors)
+        editor->setSpriteBanks(project()->spriteBanks());
+}
+
+void DocumentController::showSprites(const QPointer<SpriteBank> &bank)
+{
+    m_views.spriteEditor->setSprites(bank);
+    m_views.menuBar->spriteMenu()->setSpriteBank(bank);
+}
+
+void DocumentController::setActiveSpriteEditor(QUuid spriteBankId)
+{
+    const QPointer<SpriteBank> bank = project() ? project()->spriteBank(spriteBankId) : nullptr;
+    if (!bank)
+        return;
+    const QScopedValueRollback activating(m_activating, true);
+    showSprites(bank);
+    m_views.spriteEditor->raise();
+    if (!showTab(spriteBankId))
+        closeWith(bank, m_views.tabs->openSpriteEditor(bank));
+    showPalette(bank->palette());
+}
+
+void DocumentController::setActiveBlockEditor(QUuid blocksId)
+{
+    const QPointer<MapObjects> blocks = project() ? project()->blocks(blocksId) : nullptr;
+    if (!blocks)
+        return;
+    const QScopedValueRollback activating(m_activating, true);
+    if (!showTab(blocksId))
+        closeWith(blocks, m_views.tabs->openBlockEditor(blocks));
+    setActiveTileSet(blocks->tileSet() ? blocks->tileSet()->id() : QUuid());
+}
+
+void DocumentController::setActiveImageEditor(QUuid imageId)
+{
+    const QPointer<Image> image = project() ? project()->image(imageId) : nullptr;
+    if (!image)
+        return;
+    const QScopedValueRollback activating(m_activating, true);
+    if (!showTab(imageId)) {
+        ImageEditor::View *editor = m_views.tabs->openImageEditor(image);
+        editor->setUndoStack(undoStackFor(imageId));
+        closeWith(image, editor);
+    }
+    setActivePalette(image->paletteId());
+}
+
+void DocumentController::scratchEditorActivated()
+{
+    if (!project())
+        return;
+    const QPointer<Palette> palette = project()->scratchPalette();
+    m_views.palette->setPalette(palette);
+    m_views.menuBar->paletteMenu()->setPalette(palette);
+    m_views.palette->raise();
+    m_views.menuBar->spriteMenu()->setSpriteBank(nullptr);
+}
+
+void DocumentController::forget(ProjectTree::ProjectNode node, const QUuid &id)
+{
+    m_views.project->removeItem(node, id);
+    switch (node) {
+    case ProjectTree::PaletteNode:
+        m_views.palette->setPalette(nullptr);
+        m_views.menuBar->paletteMenu()->setPalette(nullptr);
+        break;
+    case ProjectTree::TileSetNode:
+        if (!m_views.tileEditor->tileSet())
+            showTileSet(nullptr);
+        break;
+    case ProjectTree::SpriteBankNode:
+        if (!m_views.spriteEditor->sprites())
+            showSprites(nullptr);
+        break;
+    case ProjectTree::MapNode:
+        m_views.menuBar->mapMenu()->setMap(nullptr);
+        break;
+    case ProjectTree::MapObjectsNode:
+    case ProjectTree::ImageNode:
+        break; // their tabs close themselves
+    }
+}

@@ -1,0 +1,93 @@
+#pragma once
+
+#include "app/documentviews.h"
+#include "app/editfocus.h"
+#include "app/projecttree/projecttree.h"
+#include "app/undostacks.h"
+#include "model/palette.h"
+#include "model/project.h"
+#include "undo/editrecorder.h"
+
+#include <QList>
+#include <QObject>
+#include <QPointer>
+#include <QSize>
+#include <QUuid>
+
+#include <memory>
+
+class ProjectController;
+
+/// Decides which editor shows which asset: activating one brings its tab or dock to the front and tells
+/// docks and menus what is active now.
+///
+/// Unknown ids are ignored. A tab closes when its asset is deleted; an undo stack lives as long as its
+/// asset.
+class DocumentController : public QObject
+{
+    Q_OBJECT
+
+public:
+    DocumentController(const DocumentViews &views, ProjectController *projectController, QObject *parent = nullptr);
+    ~DocumentController() override;
+
+    /// Records the project's edits from now on, and opens the documents that were open when it was saved.
+    void openProject(Project *project);
+    /// Drops all undo stacks; the tabs are closed by now and the project still exists.
+    void closeProject();
+
+    /// The undo stack of an asset of the project, made when first asked for; the null id stands for the
+    /// scratch image.
+    QUndoStack *undoStackFor(const QUuid &id);
+    [[nodiscard]] QUndoGroup *undoGroup() { return m_stacks.group(); }
+    /// Whether every undo stack is clean.
+    [[nodiscard]] bool isClean() const { return m_stacks.isClean(); }
+    void setClean() { m_stacks.setClean(); }
+
+public slots:
+    void setActivePalette(QUuid paletteId);
+    void setActiveTileSet(QUuid tileSetId);
+    void setActiveMap(QUuid mapId);
+    void setActiveSpriteEditor(QUuid spriteBankId);
+    void setActiveBlockEditor(QUuid blocksId);
+    void setActiveImageEditor(QUuid imageId);
+    void scratchEditorActivated();
+
+    /// Clears the docks and menus that showed an asset which has been deleted.
+    void forget(ProjectTree::ProjectNode node, const QUuid &id);
+
+signals:
+    /// A map editor's selection is to become a map; size in cells.
+    void createMapFromSelection(QUuid mapId, QSize size);
+
+private:
+    void connectTabs();
+    void connectDocks();
+    [[nodiscard]] Project *project() const;
+    /// The asset of that id, of whatever kind, or null.
+    [[nodiscard]] QObject *asset(const QUuid &id) const;
+
+    void openMap(const QPointer<Map> &map);
+    void connectMapEditor(MapEditor::View *editor);
+    void disconnectMapEditor();
+    /// Gives all map editors the sprite banks that they can place sprites of.
+    void offerSpriteBanks();
+    /// Makes the tab of a document current; false when it has none.
+    bool showTab(const QUuid &id);
+    /// Lets the tab of a page close when its asset is destroyed.
+    void closeWith(QObject *asset, QWidget *page);
+    /// Puts a palette into the palette dock and menu, without raising the dock; null leaves them.
+    void showPalette(const QPointer<Palette> &palette);
+    void showTileSet(const QPointer<TileSet> &tileSet);
+    void showSprites(const QPointer<SpriteBank> &bank);
+
+    DocumentViews m_views;
+    ProjectController *m_projectController;
+    UndoStacks m_stacks;
+    EditFocus m_focus;
+    std::unique_ptr<EditRecorder> m_recorder;
+    /// Of the active map editor to the docks that serve it.
+    QList<QMetaObject::Connection> m_mapConnections;
+    /// The front tab changes because an asset is being activated, which needs no further activation.
+    bool m_activating = false;
+};
