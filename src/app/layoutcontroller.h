@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QList>
+#include <QObject>
+
+class AppState;
+class DockWidget;
+class QMainWindow;
+class ViewMenu;
+struct DocumentViews;
+
+/// Puts the docks into their places, and keeps and restores the places that the user gave them.
+class LayoutController : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Hands the docks' toggle actions to the View menu.
+    LayoutController(QMainWindow *window, const DocumentViews &views, ViewMenu *viewMenu);
+
+    /// Maximizes a window that the screen cannot hold with its frame.
+    void fitToScreen();
+
+    void saveLayout(AppState &state) const;
+    /// What is missing or damaged in the state leaves the window as it is.
+    void restoreLayout(const AppState &state);
+
+public slots:
+    /// Puts every dock where a new window has it.
+    void resetLayout();
+
+private:
+    /// All docks, in the order of the View menu.
+    [[nodiscard]] QList<DockWidget *> docks() const;
+
+    QMainWindow *m_window;
+    DockWidget *m_project;
+    DockWidget *m_palette;
+    DockWidget *m_tileEditor;
+    DockWidget *m_spriteEditor;
+    DockWidget *m_tilePicker;
+    DockWidget *m_mapObjects;
+    DockWidget *m_mapSprites;
+};
