@@ -17,6 +17,7 @@ int main(int argc, char **argv)
     QApplication::setApplicationDisplayName(appDisplayName());
 
     const QApplication application(argc, argv);
-    const MainWindow window;
+    MainWindow window;
+    window.fitToScreen();
     return QApplication::exec();
 }

@@ -1,30 +1,340 @@
 #include "app/mainwindow.h"
 
+#include "app/menus/editmenu.h"
+#include "app/menus/filemenu.h"
+#include "app/menus/helpmenu.h"
+#include "app/menus/spritemenu.h"
+#include "app/menus/tilemenu.h"
+#include "app/menus/viewmenu.h"
+#include "app/preferences/generalpage.h"
+#include "app/version.h"
+#include "ui/messagedialog.h"
+
 #include <QCloseEvent>
 #include <QCoreApplication>
+#include <QDragEnterEvent>
+#include <QFileInfo>
+#include <QMimeData>
+#include <QStatusBar>
+#include <QToolBar>
 
-MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent)
+namespace {
+
+constexpr QSize DefaultSize(1024, 768);
+
+/// The project file among dragged data, when that is all there is.
+QString draggedProject(const QMimeData *data)
 {
-    setWindowTitle(QCoreApplication::applicationName());
-    resize(1024, 768);
-    show();
+    const QList<QUrl> urls = data->urls();
+    const QString file = urls.size() == 1 ? urls.first().toLocalFile() : QString();
+    return QFileInfo(file).suffix() == QStringLiteral("quenmora") ? file : QString();
 }
+
+} // namespace
+
+MainWindow::MainWindow(QWidget *parent)
+    : QMainWindow(parent)
+    , m_projectController(this, m_menuBar.fileMenu())
+    , m_updateController(m_preferences.generalPage(), [this] { savePreferences(); },
+                         {appVersion(), appReleaseDate(), appChannel()})
+    , m_updatePresenter(&m_updateController, this)
+    , m_views(makeViews())
+    , m_documents(m_views, &m_projectController)
+    , m_actions([this] { return m_projectController.project(); }, this)
+    , m_layout(this, m_views, m_menuBar.viewMenu())
+{
+    m_mapToolBar.setEnabled(false);
+    setUnifiedTitleAndToolBarOnMac(true);
+    setDocumentMode(true);
+    setAcceptDrops(true);
+    statusBar();
+    setWindowTitle(QCoreApplication::applicationName());
+    resize(DefaultSize);
+    setWindowIcon(QIcon(QStringLiteral(":Application")));
+    setCentralWidget(&m_tabs);
+    m_layout.resetLayout();
+    connectProjectController();
+
+    setMenuBar(&m_menuBar);
+    addToolBar(m_menuBar.fileMenu()->createToolBar(this));
+    addToolBar(&m_mapToolBar);
+
+    connect(statusBar(), &QStatusBar::messageChanged, this, &MainWindow::messageChanged);
+    connectMenus();
+    connectActions();
+    connectDocks();
+    m_menuBar.viewMenu()->setChecked(ViewMenu::CheckableItem::ScratchEditor, false);
+    show();
+    statusBar()->showMessage(windowTitle());
+    m_menuBar.setProject(nullptr);
+}
+
+MainWindow::~MainWindow() = default;
+
+DocumentViews MainWindow::makeViews()
+{
+    return {&m_tabs,       &m_projectDock, &m_paletteDock, &m_tileEditor, &m_spriteEditor, &m_tilePicker,
+            &m_mapObjects, &m_mapSprites,  &m_mapToolBar,  &m_menuBar,    &m_preferences};
+}
+
+// Wiring
+
+void MainWindow::connectProjectController()
+{
+    const ProjectController *controller = &m_projectController;
+    connect(controller, &ProjectController::aboutToSave, this, &MainWindow::onAboutToSave);
+    connect(controller, &ProjectController::saveFinished, this, &MainWindow::onSaveFinished);
+    connect(controller, &ProjectController::projectOpened, this, &MainWindow::onProjectOpened);
+    connect(controller, &ProjectController::projectClosing, this, &MainWindow::onProjectClosing);
+    connect(controller, &ProjectController::projectClosed, this, &MainWindow::onProjectClosed);
+    connect(controller, &ProjectController::error, this, &MainWindow::showError);
+
+    const ProjectStore *store = m_projectController.store();
+    connect(store, &ProjectStore::loadError, this, &MainWindow::showError);
+    connect(store, &ProjectStore::saveError, this, &MainWindow::showError);
+    connect(store, &ProjectStore::showMessage, statusBar(), &QStatusBar::showMessage);
+
+    m_projectController.setBackupCallback([this] { return m_preferences.generalPage()->backupOnSave(); });
+    m_projectController.setCleanCallbacks([this] { return m_documents.isClean(); }, [this] { m_documents.setClean(); });
+}
+
+void MainWindow::connectMenus()
+{
+    const auto showMessage = [this](const QString &text, const QString &title) {
+        messageDialog()->showMessage(text, title);
+    };
+    connect(&m_menuBar, &MenuBar::failed, this, showMessage);
+    connect(&m_actions, &ProjectActions::failed, this, showMessage);
+
+    connect(m_menuBar.fileMenu(), &FileMenu::displayPreferences, &m_preferences, &QDialog::open);
+    connect(m_menuBar.fileMenu(), &FileMenu::quit, this, &QWidget::close);
+    m_menuBar.editMenu()->setUndoActions(m_documents.undoGroup()->createUndoAction(this, tr("&Undo")),
+                                         m_documents.undoGroup()->createRedoAction(this, tr("&Redo")));
+    connect(m_menuBar.tileMenu(), &TileMenu::nextTile, this, &MainWindow::nextTile);
+    connect(m_menuBar.tileMenu(), &TileMenu::previousTile, this, &MainWindow::previousTile);
+    connect(m_menuBar.tileMenu(), &TileMenu::swapPalette, this, &MainWindow::changeTilePalette);
+    connect(m_menuBar.tileMenu(), &TileMenu::importZXFont, this, &MainWindow::importZXFont);
+    m_menuBar.tileMenu()->setMagnificationActions(m_tilePicker.magnificationActions());
+    connect(m_menuBar.spriteMenu(), &SpriteMenu::swapPalette, this, &MainWindow::changeSpritePalette);
+    connect(m_menuBar.viewMenu(), &ViewMenu::toggleScratch, &m_tabs, &DocumentTabView::setScratchEditorVisible);
+    connect(m_menuBar.viewMenu(), &ViewMenu::toggleStatusBar, statusBar(), &QWidget::setVisible);
+    connect(&m_tabs, &DocumentTabView::scratchEditorVisibleChanged, this, [this](bool visible) {
+        m_menuBar.viewMenu()->setChecked(ViewMenu::CheckableItem::ScratchEditor, visible);
+    });
+    connect(m_menuBar.helpMenu(), &HelpMenu::checkForUpdates, &m_updatePresenter, &UpdatePresenter::checkForUpdates);
+    connect(m_menuBar.helpMenu(), &HelpMenu::displayAbout, &m_updatePresenter, &UpdatePresenter::showAboutBox);
+}
+
+void MainWindow::connectActions()
+{
+    m_actions.setUndoStackProvider([this](const QUuid &id) { return m_documents.undoStackFor(id); });
+    m_actions.serve(m_menuBar);
+    connect(&m_actions, &ProjectActions::paletteReady, &m_documents, &DocumentController::setActivePalette);
+    connect(&m_actions, &ProjectActions::tileSetReady, &m_documents, &DocumentController::setActiveTileSet);
+    connect(&m_actions, &ProjectActions::mapReady, &m_documents, &DocumentController::setActiveMap);
+    connect(&m_actions, &ProjectActions::blocksReady, &m_documents, &DocumentController::setActiveBlockEditor);
+    connect(&m_actions, &ProjectActions::spritesReady, &m_documents, &DocumentController::setActiveSpriteEditor);
+    connect(&m_actions, &ProjectActions::itemDeleted, &m_documents, &DocumentController::forget);
+    connect(&m_documents, &DocumentController::createMapFromSelection, &m_actions,
+            &ProjectActions::createMapFromSelection);
+}
+
+void MainWindow::connectDocks()
+{
+    connect(&m_projectDock, &ProjectWindow::deleteItemTriggered, &m_actions, &ProjectActions::deleteItem);
+    connect(&m_projectDock, &ProjectWindow::copyItemTriggered, &m_actions, &ProjectActions::copyItem);
+    connect(&m_paletteDock, &PaletteWindow::deleteRequested, &m_actions,
+            [this](const QUuid &id) { m_actions.deleteItem(ProjectTree::PaletteNode, id); });
+    connect(&m_paletteDock, &PaletteWindow::copyRequested, &m_actions,
+            [this](const QUuid &id) { m_actions.copyItem(ProjectTree::PaletteNode, id); });
+}
+
+// Showing and closing
 
 void MainWindow::showEvent(QShowEvent *event)
 {
     QMainWindow::showEvent(event);
     if (!m_firstShow)
         return;
+    loadState();
     m_firstShow = false;
+    m_menuBar.viewMenu()->setChecked(ViewMenu::CheckableItem::StatusBar, !statusBar()->isHidden());
+    m_updateController.checkOnStartup();
+}
+
+void MainWindow::loadState()
+{
     m_state.loadState();
-    restoreState(m_state.windowState());
-    restoreGeometry(m_state.windowGeometry());
+    m_preferences.fromJson(m_state.loadPreferences());
+    m_layout.restoreLayout(m_state);
+    m_menuBar.fileMenu()->setRecentFiles(m_state.recentFiles());
+    m_tilePicker.setMagnification(m_state.tileZoom());
+    m_menuBar.fileMenu()->setOpenFolder(m_state.lastPath());
+}
+
+void MainWindow::saveState()
+{
+    m_layout.saveLayout(m_state);
+    m_state.setRecentFiles(m_menuBar.fileMenu()->recentFiles());
+    m_state.setTileZoom(m_tilePicker.magnification());
+    m_state.setLastPath(m_menuBar.fileMenu()->openFolder());
+    m_state.saveState();
+}
+
+void MainWindow::savePreferences()
+{
+    m_state.savePreferences(m_preferences.toJson());
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)
 {
-    m_state.setWindowState(saveState());
-    m_state.setWindowGeometry(saveGeometry());
-    m_state.saveState();
+    if (!m_projectController.confirmClose()) {
+        event->ignore();
+        return;
+    }
+    m_tabs.closeAllTabs();
+    saveState();
+    savePreferences();
     event->accept();
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (!draggedProject(event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent *event)
+{
+    const QString file = draggedProject(event->mimeData());
+    if (file.isEmpty())
+        return;
+    event->acceptProposedAction();
+    // not before the program that it comes from has been released: a question may be asked first
+    QMetaObject::invokeMethod(
+        &m_projectController, [this, file] { m_projectController.openProject(file); }, Qt::QueuedConnection);
+}
+
+// The life of a project
+
+void MainWindow::onAboutToSave()
+{
+    const QList<MapEditor::View *> editors = m_tabs.mapEditors();
+    for (MapEditor::View *editor : editors)
+        editor->pauseAnimation();
+    m_projectController.project()->setOpenDocuments(m_tabs.openDocumentIds());
+}
+
+void MainWindow::onSaveFinished()
+{
+    const QList<MapEditor::View *> editors = m_tabs.mapEditors();
+    for (MapEditor::View *editor : editors)
+        editor->resumeAnimation();
+}
+
+void MainWindow::onProjectOpened(Project *project)
+{
+    setWindowTitle(tr("%2 - %1").arg(project->name(), QCoreApplication::applicationName()));
+    m_projectDock.setEnabled(true);
+    m_projectDock.setProject(project);
+    m_projectDock.activate();
+    connect(project, &Project::showMessage, statusBar(), &QStatusBar::showMessage);
+    connect(project, &Project::error, this, &MainWindow::showError);
+    m_menuBar.viewMenu()->setChecked(ViewMenu::CheckableItem::ScratchEditor, true);
+    m_menuBar.tileMenu()->setTileSet(nullptr);
+    m_menuBar.setProject(project);
+    m_documents.openProject(project);
+    if (m_projectController.filePath().isEmpty())
+        messageChanged({});
+}
+
+void MainWindow::onProjectClosing()
+{
+    m_tabs.setEnabled(false);
+    m_tabs.closeAllTabs();
+    m_menuBar.viewMenu()->setChecked(ViewMenu::CheckableItem::ScratchEditor, false);
+    m_projectDock.setProject(nullptr);
+    m_projectDock.deactivate();
+    m_tileEditor.setTileSet(nullptr);
+    m_tileEditor.deactivate();
+    m_spriteEditor.setSprites(nullptr);
+    m_paletteDock.setPalette(nullptr);
+    m_paletteDock.setProject(nullptr);
+    m_documents.closeProject();
+}
+
+void MainWindow::onProjectClosed()
+{
+    m_tabs.setEnabled(true);
+    m_menuBar.setProject(nullptr);
+    m_tilePicker.setTileSet(nullptr);
+    m_mapObjects.setTileSet(nullptr);
+    m_mapSprites.setProject(nullptr);
+    setWindowTitle(QCoreApplication::applicationName());
+    messageChanged({});
+}
+
+// Messages
+
+MessageDialog *MainWindow::messageDialog()
+{
+    if (!m_messageDialog)
+        m_messageDialog = new MessageDialog(this);
+    return m_messageDialog;
+}
+
+void MainWindow::showError(const QString &message)
+{
+    messageDialog()->showMessage(message);
+}
+
+void MainWindow::messageChanged(const QString &message)
+{
+    if (!message.isEmpty())
+        return;
+    const Project *project = m_projectController.project();
+    const QString file = m_projectController.filePath();
+    statusBar()->showMessage(project && !file.isEmpty() ? tr("%1 [%2]").arg(project->name(), file) : windowTitle());
+}
+
+// What menus ask of the docks
+
+void MainWindow::showTile(int index)
+{
+    const QPointer<TileSet> tileSet = m_tileEditor.tileSet();
+    if (!tileSet || index < 0 || index >= tileSet->count())
+        return;
+    m_tileEditor.setTileIndex(index + 1); // a tile number
+    m_tilePicker.setSelectedIndex(index);
+}
+
+void MainWindow::nextTile()
+{
+    showTile(m_tileEditor.tileIndex() + 1);
+}
+
+void MainWindow::previousTile()
+{
+    showTile(m_tileEditor.tileIndex() - 1);
+}
+
+void MainWindow::changeSpritePalette(QUuid paletteId)
+{
+    const Project *project = m_projectController.project();
+    if (const QPointer<Palette> palette = project ? project->palette(paletteId) : nullptr)
+        m_spriteEditor.setSpritePalette(palette);
+}
+
+void MainWindow::changeTilePalette(QUuid paletteId)
+{
+    const Project *project = m_projectController.project();
+    if (const QPointer<Palette> palette = project ? project->palette(paletteId) : nullptr)
+        m_tileEditor.setPalette(palette);
+}
+
+void MainWindow::importZXFont(int index, int foreIndex, int backIndex, int offset, QString file)
+{
+    const QPointer<TileSet> tileSet = m_tileEditor.tileSet();
+    if (tileSet && !tileSet->importZXFont(index, foreIndex, backIndex, offset, file))
+        showError(tr("Could not import the font"));
 }

@@ -1,22 +1,108 @@
 #pragma once
 
 #include "app/appstate.h"
+#include "app/documentcontroller.h"
+#include "app/documenttabview.h"
+#include "app/documentviews.h"
+#include "app/layoutcontroller.h"
+#include "app/menus/menubar.h"
+#include "app/preferences/preferencesdialog.h"
+#include "app/projectactions.h"
+#include "app/projectcontroller.h"
+#include "app/projecttree/projectwindow.h"
+#include "app/updatepresenter.h"
+#include "editors/canvas/spritewindow.h"
+#include "editors/canvas/tilepickertool.h"
+#include "editors/canvas/tilewindow.h"
+#include "editors/palette/palettewindow.h"
+#include "update/updatecontroller.h"
 
 #include <QMainWindow>
+#include <QPointer>
+#include <QUuid>
 
-/// The program's one window. It shows itself, in the place and size in which it was last closed.
+class MessageDialog;
+
+/// The program's one window: it owns all that lives as long as the program, and wires it together. It
+/// shows itself, in the place and size in which it was last closed.
+///
+/// What becomes of documents is decided by the document controller, what becomes of the project by the
+/// project controller; the window only lets its parts follow the project's life.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
 
 public:
     explicit MainWindow(QWidget *parent = nullptr);
+    ~MainWindow() override;
+
+    /// Maximizes the window where the screen is too small for it.
+    void fitToScreen() { m_layout.fitToScreen(); }
+
+    [[nodiscard]] ProjectController *projectController() { return &m_projectController; }
+    [[nodiscard]] DocumentController *documentController() { return &m_documents; }
+    [[nodiscard]] ProjectActions *projectActions() { return &m_actions; }
+    [[nodiscard]] const DocumentViews &views() const { return m_views; }
+    [[nodiscard]] MenuBar *menus() { return &m_menuBar; }
+    /// The dialog that shows errors, made when it is first needed.
+    [[nodiscard]] MessageDialog *messageDialog();
+
+public slots:
+    void showError(const QString &message);
+    /// Puts the project, or the window's title, where a message of the status bar ended.
+    void messageChanged(const QString &message);
+    /// Moves the tile editor to the next tile, if there is one.
+    void nextTile();
+    void previousTile();
+    void changeSpritePalette(QUuid paletteId);
+    void changeTilePalette(QUuid paletteId);
+    /// Fills tiles of the tile set being edited with the characters of a font; see TileSet::importZXFont().
+    void importZXFont(int index, int foreIndex, int backIndex, int offset, QString file);
 
 protected:
     void showEvent(QShowEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
+    // A project file that is dropped on the window opens.
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
 
 private:
+    [[nodiscard]] DocumentViews makeViews();
+    void connectProjectController();
+    void connectMenus();
+    void connectActions();
+    void connectDocks();
+
+    void loadState();
+    void saveState();
+    void savePreferences();
+
+    void onAboutToSave();
+    void onSaveFinished();
+    void onProjectOpened(Project *project);
+    void onProjectClosing();
+    void onProjectClosed();
+    void showTile(int index);
+
+    ProjectWindow m_projectDock;
+    PaletteWindow m_paletteDock;
+    TileWindow m_tileEditor;
+    SpriteWindow m_spriteEditor;
+    TilePickerTool m_tilePicker;
+    BlockSelectorWindow m_mapObjects;
+    MapSpritesWindow m_mapSprites;
+    MapEditor::ToolBar m_mapToolBar;
+    DocumentTabView m_tabs;
+    MenuBar m_menuBar;
+    ProjectController m_projectController;
     AppState m_state;
     bool m_firstShow = true;
+    PreferencesDialog m_preferences;
+    QPointer<MessageDialog> m_messageDialog;
+    UpdateController m_updateController;
+    UpdatePresenter m_updatePresenter;
+    DocumentViews m_views;
+    DocumentController m_documents;
+    ProjectActions m_actions;
+    LayoutController m_layout;
 };
