@@ -65,6 +65,7 @@ ProjectTree::ProjectTree(QWidget *parent) : QTreeWidget(parent), m_menu(new QMen
     setColumnCount(1);
     setHeaderHidden(true);
     setRootIsDecorated(false);
+    setExpandsOnDoubleClick(false); // it opens the asset
     setContextMenuPolicy(Qt::CustomContextMenu);
     setEditTriggers(EditKeyPressed);
     setAccessibleName(tr("Project"));
