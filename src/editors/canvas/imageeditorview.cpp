@@ -57,7 +57,6 @@ void View::buildPage()
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(new ToolBar(this));
     layout->addLayout(parts, 1);
-    m_colours->setMaximumHeight(m_colours->heightForWidth(0) * 2);
     setFocusProxy(m_canvas);
 }
 

@@ -160,8 +160,11 @@ void SpriteList::paintEvent(QPaintEvent *event)
         const QImage sprite = index < count() ? m_sprites->spriteImage(index, false, false, false) : blank;
         painter.drawImage(cellRect(index), sprite);
     }
-    if (last == count() + 1)
+    if (last == count() + 1) {
+        // The icon's colour is made for the window's background, not for that of a blank sprite.
+        painter.fillRect(cellRect(count()).adjusted(4, 4, -4, -4), withAlpha(palette().color(QPalette::Base), 220));
         themedIcon(QStringLiteral(":/AddDoc")).paint(&painter, cellRect(count()));
+    }
     paintMarks(painter);
 }
 

@@ -7,10 +7,11 @@
 
 namespace {
 
-constexpr int Columns = 16;
+constexpr int FewColumns = 16;
+constexpr int ManyColumns = 32;
 constexpr int LeastCell = 8;
 constexpr int UsualCell = 12;
-constexpr int LargestCell = 24;
+constexpr int LargestCell = 20;
 
 } // namespace
 
@@ -22,24 +23,30 @@ ColourPalette::ColourPalette(QWidget *parent) : QWidget(parent)
     setAccessibleName(tr("Colours"));
 }
 
-int ColourPalette::cell() const
+int ColourPalette::columns(int width) const
 {
-    return qBound(LeastCell, width() / Columns, LargestCell);
+    return m_count >= Palette::Size && width >= ManyColumns * LeastCell ? ManyColumns : FewColumns;
+}
+
+int ColourPalette::cell(int width) const
+{
+    return qBound(LeastCell, width / columns(width), LargestCell);
 }
 
 int ColourPalette::heightForWidth(int width) const
 {
-    return qBound(LeastCell, width / Columns, LargestCell) * (m_count / Columns);
+    return cell(width) * (m_count / columns(width));
 }
 
 QSize ColourPalette::sizeHint() const
 {
-    return {Columns * UsualCell, heightForWidth(Columns * UsualCell)};
+    const int width = ManyColumns * UsualCell;
+    return {width, heightForWidth(width)};
 }
 
 QSize ColourPalette::minimumSizeHint() const
 {
-    return {Columns * LeastCell, heightForWidth(Columns * LeastCell)};
+    return {FewColumns * LeastCell, cell(width()) * (m_count / columns(width()))};
 }
 
 void ColourPalette::setPalette(const QPointer<Palette> &palette)
@@ -76,11 +83,12 @@ void ColourPalette::setSecondaryIndex(int index)
 
 int ColourPalette::indexAt(QPoint point) const
 {
-    const int column = point.x() / cell();
-    const int row = point.y() / cell();
-    if (point.x() < 0 || point.y() < 0 || column >= Columns || row >= m_count / Columns)
+    const int across = columns(width());
+    const int column = point.x() / cell(width());
+    const int row = point.y() / cell(width());
+    if (point.x() < 0 || point.y() < 0 || column >= across || row >= m_count / across)
         return -1;
-    return m_offset + row * Columns + column;
+    return m_offset + row * across + column;
 }
 
 void ColourPalette::mousePressEvent(QMouseEvent *event)
@@ -120,10 +128,11 @@ bool ColourPalette::event(QEvent *event)
 void ColourPalette::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    const int side = cell();
+    const int side = cell(width());
+    const int across = columns(width());
     for (int i = 0; i < m_count; ++i) {
         const int index = m_offset + i;
-        const QRect rect(i % Columns * side, i / Columns * side, side - 1, side - 1);
+        const QRect rect(i % across * side, i / across * side, side - 1, side - 1);
         QColor colour = m_palette ? m_palette->colour(index) : QColor(Qt::black);
         colour.setAlpha(255);
         painter.fillRect(rect, colour);

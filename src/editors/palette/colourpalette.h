@@ -42,7 +42,9 @@ protected:
     bool event(QEvent *event) override;
 
 private:
-    int cell() const;
+    /// 256 colours take 32 columns where these fit, else 16.
+    int columns(int width) const;
+    int cell(int width) const;
     int indexAt(QPoint point) const;
 
     QPointer<Palette> m_palette;
