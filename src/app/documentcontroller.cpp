@@ -66,7 +66,9 @@ void DocumentController::connectTabs()
     follow(&DocumentTabView::SpriteEditorActivated, &DocumentController::setActiveSpriteEditor);
     follow(&DocumentTabView::BlockEditorActivated, &DocumentController::setActiveBlockEditor);
     connect(m_views.tabs, &DocumentTabView::showAnimPicker, m_views.mapObjects, &QWidget::raise);
-    connect(m_views.tabs->scratchEditor(), &ImageEditor::View::imageChanged, this, [this](const QImage &image) {
+    const ImageEditor::View *scratch = m_views.tabs->scratchEditor();
+    connect(scratch, &ImageEditor::View::error, this, &DocumentController::error);
+    connect(scratch, &ImageEditor::View::imageChanged, this, [this](const QImage &image) {
         if (project())
             project()->setScratchImage(image);
     });
@@ -84,7 +86,7 @@ void DocumentController::connectDocks()
     // they have no tab, so a dock that was closed opens again for them
     connect(m_views.project, &ProjectWindow::selectedPaletteChanged, m_views.palette, &QWidget::show);
     connect(m_views.project, &ProjectWindow::selectedTileSetChanged, m_views.tileEditor, &QWidget::show);
-    connect(m_views.palette, &PaletteWindow::paletteChosen, this, &DocumentController::setActivePalette);
+    connect(m_views.palette, &PaletteWindow::paletteChosen, this, &DocumentController::choosePalette);
     connect(m_views.tilePicker, &TilePickerTool::tileDoubleClicked, this, [this](int tileNumber) {
         m_views.tileEditor->setTileIndex(tileNumber);
         m_views.tileEditor->raise();
@@ -125,10 +127,7 @@ void DocumentController::openProject(Project *project)
     m_views.palette->setProject(project);
     m_views.mapSprites->setProject(project);
 
-    ImageEditor::View *scratch = m_views.tabs->scratchEditor();
-    scratch->setPixels(project->scratchImage());
-    scratch->setPalette(project->scratchPalette());
-    scratch->setUndoStack(undoStackFor({}));
+    openScratchImage();
     m_focus.setProject(project);
 
     const QStringList documents = project->openDocuments();
@@ -141,6 +140,25 @@ void DocumentController::openProject(Project *project)
         else if (project->spriteBank(id))
             setActiveSpriteEditor(id);
     }
+}
+
+void DocumentController::openScratchImage()
+{
+    ImageEditor::View *editor = m_views.tabs->scratchEditor();
+    editor->setPixels(project()->scratchImage());
+    editor->setPalette(project()->scratchPalette());
+    editor->setUndoStack(undoStackFor({}));
+    // without any palette it would be black for ever
+    connect(project(), &Project::paletteCreated, this, [this](const QPointer<Palette> &palette) {
+        if (!project()->scratchPalette())
+            setScratchPalette(palette);
+    });
+}
+
+void DocumentController::setScratchPalette(const QPointer<Palette> &palette)
+{
+    project()->setScratchPalette(palette);
+    m_views.tabs->scratchEditor()->setPalette(palette);
 }
 
 void DocumentController::closeProject()
@@ -191,6 +209,15 @@ void DocumentController::setActivePalette(QUuid paletteId)
     m_views.palette->setEnabled(true);
     showPalette(palette);
     m_views.palette->raise();
+}
+
+void DocumentController::choosePalette(const QUuid &id)
+{
+    // for the scratch image there is no other way to choose one
+    const QPointer<Palette> palette = project() ? project()->palette(id) : nullptr;
+    if (palette && m_views.tabs->currentWidget() == m_views.tabs->scratchEditor())
+        setScratchPalette(palette);
+    setActivePalette(id);
 }
 
 void DocumentController::showTileSet(const QPointer<TileSet> &tileSet)
@@ -310,6 +337,7 @@ void DocumentController::setActiveImageEditor(QUuid imageId)
     if (!showTab(imageId)) {
         ImageEditor::View *editor = m_views.tabs->openImageEditor(image);
         editor->setUndoStack(undoStackFor(imageId));
+        connect(editor, &ImageEditor::View::error, this, &DocumentController::error);
         closeWith(image, editor);
     }
     setActivePalette(image->paletteId());

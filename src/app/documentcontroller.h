@@ -59,6 +59,8 @@ public slots:
 signals:
     /// A map editor's selection is to become a map; size in cells.
     void createMapFromSelection(QUuid mapId, QSize size);
+    /// An editor could not read or write a file.
+    void error(const QString &message);
 
 private:
     void connectTabs();
@@ -67,6 +69,10 @@ private:
     /// The asset of that id, of whatever kind, or null.
     [[nodiscard]] QObject *asset(const QUuid &id) const;
 
+    void openScratchImage();
+    /// Draws the scratch image with a palette from now on.
+    void setScratchPalette(const QPointer<Palette> &palette);
+    void choosePalette(const QUuid &id);
     void openMap(const QPointer<Map> &map);
     void connectMapEditor(MapEditor::View *editor);
     void disconnectMapEditor();

@@ -9,18 +9,36 @@
 #include "editors/canvas/tilewindow.h"
 #include "editors/palette/palettewindow.h"
 
+#include <QApplication>
 #include <QMainWindow>
 #include <QScreen>
+#include <QShortcut>
 #include <QStyle>
+
+#include <algorithm>
+#include <utility>
 
 namespace {
 
 constexpr int StateVersion = 0;
 
 // The sizes of a new window's docks, in pixels; a dock that needs more gets it
-constexpr int SideWidth = 190;
-constexpr int EditorWidth = 280;
+constexpr int SideWidth = 215;
+constexpr int EditorWidth = 310;
 constexpr int PickerHeight = 150;
+
+/// Gives the keyboard to the first widget in a pane that takes it.
+bool takeKeyboard(const QWidget *pane)
+{
+    const QList<QWidget *> widgets = pane->findChildren<QWidget *>();
+    for (QWidget *widget : widgets) {
+        if (widget->isVisible() && widget->isEnabled() && widget->focusPolicy() & Qt::TabFocus) {
+            widget->setFocus(Qt::ShortcutFocusReason);
+            return true;
+        }
+    }
+    return false;
+}
 
 } // namespace
 
@@ -40,6 +58,32 @@ LayoutController::LayoutController(QMainWindow *window, const DocumentViews &vie
         actions.append(dock->toggleViewAction());
     viewMenu->setDockActions(actions);
     connect(viewMenu, &ViewMenu::resetLayout, this, &LayoutController::resetLayout);
+    addPaneKeys();
+}
+
+void LayoutController::addPaneKeys()
+{
+    for (const auto &[keys, step] : {std::pair(Qt::Key_F6 | Qt::NoModifier, 1), {Qt::Key_F6 | Qt::SHIFT, -1}}) {
+        auto *shortcut = new QShortcut(keys, m_window);
+        connect(shortcut, &QShortcut::activated, this, [this, step = step] { focusPane(step); });
+    }
+}
+
+void LayoutController::focusPane(int step)
+{
+    QList<QWidget *> panes{m_window->centralWidget()};
+    for (DockWidget *dock : docks()) {
+        if (!dock->visibleRegion().isEmpty()) // neither closed nor behind another one
+            panes.append(dock);
+    }
+    const QWidget *focus = QApplication::focusWidget();
+    const auto current =
+        std::find_if(panes.cbegin(), panes.cend(), [focus](const QWidget *pane) { return pane->isAncestorOf(focus); });
+    const auto index = current == panes.cend() ? 0 : std::distance(panes.cbegin(), current);
+    for (qsizetype tried = 1; tried <= panes.size(); ++tried) {
+        if (takeKeyboard(panes.at((index + step * tried + panes.size()) % panes.size())))
+            return;
+    }
 }
 
 QList<DockWidget *> LayoutController::docks() const

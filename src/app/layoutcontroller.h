@@ -30,6 +30,10 @@ public slots:
     void resetLayout();
 
 private:
+    /// Lets F6 and Shift+F6 take the keyboard from pane to pane: the tabs and every dock that is in view.
+    void addPaneKeys();
+    void focusPane(int step);
+
     /// All docks, in the order of the View menu.
     [[nodiscard]] QList<DockWidget *> docks() const;
 

@@ -135,6 +135,7 @@ void MainWindow::connectActions()
     connect(&m_actions, &ProjectActions::blocksReady, &m_documents, &DocumentController::setActiveBlockEditor);
     connect(&m_actions, &ProjectActions::spritesReady, &m_documents, &DocumentController::setActiveSpriteEditor);
     connect(&m_actions, &ProjectActions::itemDeleted, &m_documents, &DocumentController::forget);
+    connect(&m_documents, &DocumentController::error, this, &MainWindow::showError);
     connect(&m_documents, &DocumentController::createMapFromSelection, &m_actions,
             &ProjectActions::createMapFromSelection);
 }

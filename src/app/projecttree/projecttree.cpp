@@ -28,6 +28,8 @@ constexpr std::array<Group, ProjectTree::NodeCount> Groups{{
 }};
 
 constexpr int LighterFactor = 150;
+/// Behind the light colours of the groups, which a light theme would swallow
+constexpr QColor GroupBackground(56, 56, 64);
 
 QVariant dataOf(const QTreeWidgetItem *item)
 {
@@ -104,6 +106,7 @@ void ProjectTree::reset(const QPointer<Project> &project)
         const Group &group = Groups[size_t(node)];
         auto *item = new QTreeWidgetItem(root, {tr(group.text)});
         item->setForeground(0, QColor(group.colour).lighter(LighterFactor));
+        item->setBackground(0, GroupBackground);
         item->setData(0, Qt::UserRole, node);
         item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
         item->setHidden(true);

@@ -1,0 +1,301 @@
+#include "app/mainwindow.h"
+
+#include "app/menus/filemenu.h"
+#include "app/menus/viewmenu.h"
+#include "editors/canvas/imageeditorview.h"
+#include "model/map.h"
+#include "model/spritebank.h"
+#include "model/tileset.h"
+#include "support/archivetools.h"
+#include "support/sampleproject.h"
+#include "support/testmain.h"
+#include "ui/messagedialog.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QDropEvent>
+#include <QJsonDocument>
+#include <QMimeData>
+#include <QStatusBar>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <optional>
+
+class TestMainWindow : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { Update::UpdateChecker::setFeedAddress({}); }
+    void init();
+    void cleanup() { m_window.reset(); }
+
+    void startsWithoutAProject();
+    void placesTheDocks();
+    void survivesDamagedState_data();
+    void survivesDamagedState();
+    void keepsStateBetweenRuns();
+    void staysOpenWhenToldTo();
+    void followsTheLifeOfAProject();
+    void tellsWhatFailed();
+    void showsTheProjectWhenAMessageEnds();
+    void opensADroppedProject();
+    void stepsThroughTiles();
+    void swapsPalettes();
+
+private:
+    [[nodiscard]] ProjectController *controller() { return m_window->projectController(); }
+    [[nodiscard]] static QString statePath(const char *file)
+    {
+        return QDir::home().filePath(".config/quenmora/" + QLatin1String(file));
+    }
+    /// The path of a project file made of the sample project.
+    [[nodiscard]] QString sampleFile();
+    bool drop(const QList<QUrl> &urls);
+
+    std::optional<QTemporaryDir> m_folder;
+    std::optional<MainWindow> m_window;
+};
+
+void TestMainWindow::init()
+{
+    QFile::remove(statePath("state.json"));
+    QFile::remove(statePath("preferences.json"));
+    m_folder.emplace();
+    m_window.emplace();
+}
+
+QString TestMainWindow::sampleFile()
+{
+    const QString file = m_folder->filePath("sample.quenmora");
+    ProjectStore store;
+    SampleProject::fill(*store.newProject({}));
+    return store.saveAs(file) ? file : QString();
+}
+
+void TestMainWindow::startsWithoutAProject()
+{
+    QVERIFY(m_window->isVisible());
+    QCOMPARE(m_window->size(), QSize(1024, 768));
+    QCOMPARE(m_window->windowTitle(), QCoreApplication::applicationName());
+    QCOMPARE(m_window->views().tabs->count(), 0);
+    QVERIFY(!m_window->views().mapToolBar->isEnabled());
+    QVERIFY(!m_window->views().project->isActive());
+    QCOMPARE(m_window->statusBar()->currentMessage(), m_window->windowTitle());
+    const ViewMenu *view = m_window->menus()->viewMenu();
+    QVERIFY(view->isChecked(ViewMenu::CheckableItem::StatusBar));
+    QVERIFY(!view->isChecked(ViewMenu::CheckableItem::ScratchEditor));
+}
+
+void TestMainWindow::placesTheDocks()
+{
+    const DocumentViews &views = m_window->views();
+    const QList<std::pair<QDockWidget *, const char *>> docks{
+        {views.project, "ProjectWindow"},      {views.palette, "paletteWindow"},
+        {views.tileEditor, "TileEditor"},      {views.spriteEditor, "SpriteEditor"},
+        {views.tilePicker, "TilePickerTool"},  {views.mapObjects, "TileListWindow"},
+        {views.mapSprites, "MapSpritesWindow"}};
+    const QList<Qt::DockWidgetArea> areas{Qt::LeftDockWidgetArea,  Qt::RightDockWidgetArea,  Qt::RightDockWidgetArea,
+                                          Qt::RightDockWidgetArea, Qt::BottomDockWidgetArea, Qt::LeftDockWidgetArea,
+                                          Qt::LeftDockWidgetArea};
+    const auto verify = [&] {
+        for (qsizetype index = 0; index < docks.size(); ++index) {
+            QDockWidget *dock = docks[index].first;
+            QCOMPARE(dock->objectName(), docks[index].second);
+            QCOMPARE(m_window->dockWidgetArea(dock), areas[index]);
+            QVERIFY(!dock->isFloating() && !dock->isHidden());
+        }
+        QCOMPARE(m_window->tabifiedDockWidgets(views.palette).size(), 2);
+        QCOMPARE(m_window->tabifiedDockWidgets(views.mapObjects), QList<QDockWidget *>{views.mapSprites});
+    };
+    verify();
+    views.project->setFloating(true);
+    views.tilePicker->close();
+    m_window->addDockWidget(Qt::LeftDockWidgetArea, views.palette);
+    emit m_window->menus()->viewMenu()->resetLayout();
+    verify();
+}
+
+void TestMainWindow::survivesDamagedState_data()
+{
+    QTest::addColumn<QByteArray>("state");
+    QTest::newRow("not JSON") << QByteArray("{\"windowState\": ");
+    QTest::newRow("foreign types") << QByteArray(
+        R"({"windowState": 1, "windowGeometry": [], "tileZoom": "x", "recent": {}, "lastPath": null})");
+    QTest::newRow("foreign bytes") << QByteArray(
+        R"({"windowState": "AAAA/wAAAAD9", "windowGeometry": "AAAAAAAAAAA=", "tileZoom": -5, "recent": [1, null]})");
+}
+
+void TestMainWindow::survivesDamagedState()
+{
+    QFETCH(const QByteArray, state);
+    m_window.reset();
+    QVERIFY(ArchiveTools::writeFile(statePath("state.json"), state));
+    QVERIFY(ArchiveTools::writeFile(statePath("preferences.json"), "[1, "));
+    m_window.emplace();
+    QVERIFY(m_window->isVisible());
+    QCOMPARE(m_window->size(), QSize(1024, 768));
+    QCOMPARE(m_window->dockWidgetArea(m_window->views().palette), Qt::RightDockWidgetArea);
+    QVERIFY(m_window->close());
+    QVERIFY(!QJsonDocument::fromJson(ArchiveTools::fileBytes(statePath("state.json"))).isNull());
+}
+
+void TestMainWindow::keepsStateBetweenRuns()
+{
+    QVERIFY(QFile::exists(sampleFile()));
+    controller()->openProject(m_folder->filePath("sample.quenmora"));
+    m_window->views().tilePicker->setMagnification(3);
+    m_window->views().project->close();
+    m_window->addDockWidget(Qt::LeftDockWidgetArea, m_window->views().palette);
+    m_window->menus()->fileMenu()->setOpenFolder(m_folder->path());
+    m_window->resize(900, 700);
+    m_window->menus()->viewMenu()->setChecked(ViewMenu::CheckableItem::StatusBar, false);
+    QVERIFY(m_window->close());
+    QCOMPARE(m_window->views().tabs->count(), 0);
+    m_window.emplace();
+    QCOMPARE(m_window->views().tilePicker->magnification(), 3);
+    QVERIFY(m_window->views().project->isHidden());
+    QCOMPARE(m_window->dockWidgetArea(m_window->views().palette), Qt::LeftDockWidgetArea);
+    QCOMPARE(m_window->menus()->fileMenu()->openFolder(), m_folder->path());
+    QCOMPARE(m_window->menus()->fileMenu()->recentFiles(), QStringList{m_folder->filePath("sample.quenmora")});
+    QCOMPARE(m_window->size(), QSize(900, 700));
+    QVERIFY(QFile::exists(statePath("preferences.json")));
+}
+
+void TestMainWindow::staysOpenWhenToldTo()
+{
+    ProjectController::UnsavedAnswer answer = ProjectController::Cancel;
+    controller()->setUnsavedAnswerCallback([&answer](const QString &) { return answer; });
+    controller()->newProject("Game");
+    controller()->project()->createPalette(CreateAction::Blank, "Main");
+    QVERIFY(!m_window->close());
+    QVERIFY(m_window->isVisible());
+    QCOMPARE(m_window->views().tabs->count(), 1);
+    QVERIFY(!QFile::exists(statePath("state.json")));
+    answer = ProjectController::Discard;
+    QVERIFY(m_window->close());
+    QVERIFY(QFile::exists(statePath("state.json")));
+}
+
+void TestMainWindow::followsTheLifeOfAProject()
+{
+    const DocumentViews &views = m_window->views();
+    controller()->openProject(sampleFile());
+    QVERIFY(m_window->windowTitle().endsWith(" - Sample"));
+    QVERIFY(views.project->isActive());
+    QCOMPARE(views.tabs->currentWidget(), views.tabs->scratchEditor());
+    QVERIFY(m_window->menus()->viewMenu()->isChecked(ViewMenu::CheckableItem::ScratchEditor));
+    m_window->documentController()->setActiveMap(controller()->project()->maps().first()->id());
+    QVERIFY(views.tileEditor->isActive());
+    views.tabs->closeTab(0);
+    QVERIFY(!m_window->menus()->viewMenu()->isChecked(ViewMenu::CheckableItem::ScratchEditor));
+
+    controller()->close();
+    QCOMPARE(m_window->windowTitle(), QCoreApplication::applicationName());
+    QCOMPARE(views.tabs->count(), 0);
+    QVERIFY(views.tabs->isEnabled());
+    for (const DockWidget *dock : std::initializer_list<DockWidget *>{
+             views.project, views.palette, views.tileEditor, views.spriteEditor, views.tilePicker, views.mapObjects})
+        QVERIFY(!dock->isActive());
+    QVERIFY(!views.mapToolBar->isEnabled());
+}
+
+void TestMainWindow::tellsWhatFailed()
+{
+    controller()->openProject(m_folder->filePath("gone.quenmora")); // as a recent file that is gone
+    QVERIFY(m_window->messageDialog()->isVisible());
+    QCOMPARE(m_window->messageDialog()->windowTitle(), "Warning!");
+    QCOMPARE(m_window->messageDialog()->text(), "Invalid project file");
+    m_window->messageDialog()->accept();
+
+    controller()->newProject("Game");
+    emit controller()->project()->error("Told by the project");
+    QCOMPARE(m_window->messageDialog()->text(), "Told by the project");
+}
+
+void TestMainWindow::showsTheProjectWhenAMessageEnds()
+{
+    controller()->newProject("Game");
+    QCOMPARE(m_window->statusBar()->currentMessage(), m_window->windowTitle());
+    controller()->project()->createPalette(CreateAction::Blank, "Main");
+    QCOMPARE(m_window->statusBar()->currentMessage(), "New palette added: Main");
+    m_window->statusBar()->clearMessage();
+    QCOMPARE(m_window->statusBar()->currentMessage(), m_window->windowTitle());
+    const QString file = m_folder->filePath("game.quenmora");
+    controller()->setFileNameCallback([file] { return file; });
+    controller()->save();
+    QCOMPARE(m_window->statusBar()->currentMessage(), "Saved Game to " + file);
+    m_window->statusBar()->clearMessage();
+    QCOMPARE(m_window->statusBar()->currentMessage(), "Game [" + file + "]");
+}
+
+bool TestMainWindow::drop(const QList<QUrl> &urls)
+{
+    QMimeData data;
+    data.setUrls(urls);
+    QDragEnterEvent enter({50, 50}, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(&*m_window, &enter);
+    QDropEvent event({50, 50}, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(&*m_window, &event);
+    QCoreApplication::processEvents();
+    return enter.isAccepted() && event.isAccepted();
+}
+
+void TestMainWindow::opensADroppedProject()
+{
+    const QString file = sampleFile();
+    QVERIFY(!drop({QUrl::fromLocalFile(m_folder->filePath("picture.png"))}));
+    QVERIFY(!drop({QUrl("https://example.com/sample.quenmora")}));
+    QVERIFY(!drop({QUrl::fromLocalFile(file), QUrl::fromLocalFile(file)}));
+    QVERIFY(!controller()->project());
+
+    controller()->newProject("Game");
+    controller()->project()->createPalette(CreateAction::Blank, "Main");
+    ProjectController::UnsavedAnswer answer = ProjectController::Cancel;
+    controller()->setUnsavedAnswerCallback([&answer](const QString &) { return answer; });
+    QVERIFY(drop({QUrl::fromLocalFile(file)}));
+    QCOMPARE(controller()->project()->name(), "Game");
+    answer = ProjectController::Discard;
+    QVERIFY(drop({QUrl::fromLocalFile(file)}));
+    QCOMPARE(controller()->filePath(), file);
+}
+
+void TestMainWindow::stepsThroughTiles()
+{
+    m_window->nextTile(); // without a tile set
+    controller()->newProject("Game");
+    const QPointer<TileSet> tiles = controller()->project()->createTileSet("Tiles", {}, 3);
+    m_window->documentController()->setActiveTileSet(tiles->id());
+    const TileWindow *editor = m_window->views().tileEditor;
+    QList<int> visited;
+    for (int step = 0; step < 3; ++step) {
+        m_window->nextTile();
+        visited.append(editor->tileIndex());
+    }
+    for (int step = 0; step < 3; ++step) {
+        m_window->previousTile();
+        visited.append(editor->tileIndex());
+    }
+    QCOMPARE(visited, (QList<int>{1, 2, 2, 1, 0, 0}));
+}
+
+void TestMainWindow::swapsPalettes()
+{
+    controller()->newProject("Game");
+    Project *project = controller()->project();
+    const QPointer<TileSet> tiles = project->createTileSet("Tiles", {});
+    const QPointer<SpriteBank> bank = project->createSpriteBank(Quenmora::FourBit, "Hero", {});
+    const QPointer<Palette> palette = project->createPalette(CreateAction::DefaultNext, "New");
+    m_window->documentController()->setActiveTileSet(tiles->id());
+    m_window->documentController()->setActiveSpriteEditor(bank->id());
+    m_window->changeTilePalette(QUuid::createUuid());
+    QVERIFY(tiles->palette() && tiles->palette() != palette);
+    m_window->changeTilePalette(palette->id());
+    m_window->changeSpritePalette(palette->id());
+    QCOMPARE(tiles->palette(), palette);
+    QCOMPARE(bank->palette(), palette);
+}
+
+QUENMORA_TEST_MAIN(TestMainWindow)
+#include "tst_mainwindow.moc"
