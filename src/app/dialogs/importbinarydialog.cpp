@@ -28,7 +28,7 @@ void ImportBinaryDialog::show(const Project &project, const QString &file)
     m_file = file;
     m_count = QFileInfo(file).size() / SpriteBank::SpriteBytes;
     m_summary->setText(tr("%L1 in the file").arg(m_count));
-    m_palette->offerPalettes(project, tr("New palette of the standard colours"));
+    m_palette->offerPalettes(project, tr("New standard palette"));
     openWithName(QFileInfo(file).completeBaseName());
 }
 

@@ -99,11 +99,11 @@ void ImportImageDialog::refresh()
             shown.setColorTable(own.colourTable());
     }
     m_preview->setPicture(shown);
-    m_summary->setText(m_picture.image().isNull()
-                           ? tr("No picture")
-                           : tr("%1 × %2 sprites, %n colour(s)", nullptr, int(m_picture.colours().size()))
-                                 .arg(pieces().width())
-                                 .arg(pieces().height()));
+    m_summary->setText(m_picture.image().isNull() ? tr("No picture")
+                                                  : tr("%1 × %2 sprites, colours: %3")
+                                                        .arg(pieces().width())
+                                                        .arg(pieces().height())
+                                                        .arg(m_picture.colours().size()));
     revalidate();
 }
 
@@ -131,7 +131,7 @@ QString ImportImageDialog::depthProblem() const
     const Palette *palette = chosenPalette();
     if (!palette) {
         return colours.size() > FourBitColours
-            ? tr("The picture has %n colour(s); 4-bit sprites show 16", nullptr, int(colours.size()))
+            ? tr("The picture has %1 colours; 4-bit sprites show 16").arg(colours.size())
             : QString();
     }
     const auto group = [palette](QRgb colour) {

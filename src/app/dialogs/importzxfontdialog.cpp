@@ -108,7 +108,7 @@ void ImportZXFontDialog::readFont()
 {
     QFile file(m_file->text());
     m_font.clear();
-    if (m_tileSet && file.open(QIODevice::ReadOnly))
+    if (m_tileSet && !file.fileName().isEmpty() && file.open(QIODevice::ReadOnly))
         m_font = file.read(qint64(m_tileSet->count()) * CharacterBytes);
     updatePreview();
 }
@@ -144,7 +144,8 @@ void ImportZXFontDialog::updatePreview()
         m_preview->setPicture({});
     }
     m_summary->setText(characters == 0 ? tr("No characters")
-                                       : tr("%n character(s), tiles %1 to %2", nullptr, characters)
+                                       : tr("Characters: %1, in tiles %2 to %3")
+                                             .arg(characters)
                                              .arg(m_first->value())
                                              .arg(m_first->value() + characters - 1));
     revalidate();

@@ -15,7 +15,7 @@ public:
     /// A null picture leaves the preview empty.
     void setPicture(const QImage &picture);
 
-    QSize sizeHint() const override { return {512, 160}; }
+    QSize sizeHint() const override { return {528, 160}; } // 32 characters at twice their size
     QSize minimumSizeHint() const override { return {256, 96}; }
 
 protected:

@@ -5,6 +5,7 @@
 #include "app/dialogs/paletteselectordialog.h"
 #include "app/dialogs/tileanimationdialog.h"
 #include "app/dialogs/tilesetdialog.h"
+#include "ui/svgiconengine.h"
 
 #include <QDebug>
 
@@ -18,13 +19,14 @@ TileMenu::TileMenu(QWidget *parent) : ProjectMenu(tr("&Tiles"), parent)
         addCommand(this, tr("&Create Animations"), &TileMenu::showAnimationDialog, {}, QStringLiteral(":/Film")),
         addCommand(this, tr("&Swap Palette"), &TileMenu::showSwapPaletteDialog, {}, QStringLiteral(":/Swap")),
         addCommand(this, tr("&Export"), &TileMenu::showExportDialog, {}, QStringLiteral(":/Export")),
-        addCommand(this, tr("Export &Attributes"), &TileMenu::showExportAttributesDialog),
+        addCommand(this, tr("Export &Attributes"), &TileMenu::showExportAttributesDialog, {}, QStringLiteral(":/Tag")),
         (importMenu = addMenu(tr("&Import")))->menuAction(),
         addSeparator(),
         addCommand(this, tr("Ne&xt Tile"), &TileMenu::nextTile, Qt::CTRL | Qt::Key_BracketRight),
         addCommand(this, tr("&Previous Tile"), &TileMenu::previousTile, Qt::CTRL | Qt::Key_BracketLeft),
         (m_magnificationMenu = addMenu(tr("Tile List &Magnification")))->menuAction(),
     };
+    importMenu->setIcon(themedIcon(QStringLiteral(":/Import")));
     connect(importMenu->addAction(tr("&Spectrum Chars")), &QAction::triggered, this, &TileMenu::showImportFontDialog);
 }
 
