@@ -16,6 +16,8 @@ struct SpriteImport
     QString name; ///< of the bank, and of a new palette
     Quenmora::Sprite depth = Quenmora::EightBit;
     QUuid paletteId; ///< a palette of the project, or null for a new one
+
+    bool operator==(const SpriteImport &) const = default;
 };
 
 /// Makes a bank of the 16×16 pieces of a picture: all of them in the nearest colours of a palette of the

@@ -18,7 +18,7 @@ void EditMenu::addClipboardCommand(const QString &text, const QString &icon, QKe
                                    void (EditMenu::*chosen)())
 {
     QAction *action = addAction(themedIcon(icon), text);
-    action->setShortcut(keys);
+    action->setShortcuts(keys);
     action->setShortcutContext(Qt::ApplicationShortcut); // floating docks are windows of their own
     action->setEnabled(false);
     connect(action, &QAction::triggered, this, chosen);
@@ -27,8 +27,8 @@ void EditMenu::addClipboardCommand(const QString &text, const QString &icon, QKe
 
 void EditMenu::setUndoActions(QAction *undo, QAction *redo)
 {
-    undo->setShortcut(QKeySequence::Undo);
-    redo->setShortcut(QKeySequence::Redo);
+    undo->setShortcuts(QKeySequence::Undo);
+    redo->setShortcuts(QKeySequence::Redo);
     undo->setIcon(themedIcon(QStringLiteral(":/Undo")));
     redo->setIcon(themedIcon(QStringLiteral(":/Redo")));
     QAction *first = actions().constFirst();

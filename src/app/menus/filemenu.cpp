@@ -7,22 +7,23 @@
 
 FileMenu::FileMenu(QWidget *parent) : ProjectMenu(tr("&File"), parent)
 {
-    m_new = addCommand(this, tr("&New"), &FileMenu::showNewDialog, QKeySequence::New, QStringLiteral(":/tb-new-file"));
-    m_open =
-        addCommand(this, tr("&Open"), &FileMenu::showOpenDialog, QKeySequence::Open, QStringLiteral(":/tb-open-file"));
+    m_new = addCommand(this, tr("&New"), &FileMenu::showNewDialog, {}, QStringLiteral(":/tb-new-file"));
+    m_open = addCommand(this, tr("&Open"), &FileMenu::showOpenDialog, {}, QStringLiteral(":/tb-open-file"));
     m_recentMenu = addMenu(tr("&Recent"));
     m_recentMenu->setToolTipsVisible(true); // projects of the same name differ by their folders
-    m_save =
-        addCommand(this, tr("&Save"), &FileMenu::saveProject, QKeySequence::Save, QStringLiteral(":/tb-save-file"));
-    m_saveAs = addCommand(this, tr("Save &As"), &FileMenu::saveProjectAs, QKeySequence::SaveAs,
-                          QStringLiteral(":/tb-save-file-as"));
-    m_close = addCommand(this, tr("&Close"), &FileMenu::closeProject, QKeySequence::Close,
-                         QStringLiteral(":/tb-close-document"));
+    m_save = addCommand(this, tr("&Save"), &FileMenu::saveProject, {}, QStringLiteral(":/tb-save-file"));
+    m_saveAs = addCommand(this, tr("Save &As"), &FileMenu::saveProjectAs, {}, QStringLiteral(":/tb-save-file-as"));
+    m_close = addCommand(this, tr("&Close"), &FileMenu::closeProject, {}, QStringLiteral(":/tb-close-document"));
     addSeparator();
     addCommand(this, tr("&Preferences"), &FileMenu::displayPreferences)->setMenuRole(QAction::PreferencesRole);
     addSeparator();
     m_quit = addCommand(this, tr("&Quit"), &FileMenu::quit, {}, QStringLiteral(":/tb-exit-application"));
     m_quit->setMenuRole(QAction::QuitRole);
+    m_new->setShortcuts(QKeySequence::New);
+    m_open->setShortcuts(QKeySequence::Open);
+    m_save->setShortcuts(QKeySequence::Save);
+    m_saveAs->setShortcuts(QKeySequence::SaveAs);
+    m_close->setShortcuts(QKeySequence::Close);
     rebuildRecentMenu();
 }
 

@@ -1,0 +1,403 @@
+#include "app/dialogs/assetchooser.h"
+#include "app/dialogs/depthchooser.h"
+#include "app/dialogs/exportdialog.h"
+#include "app/dialogs/imagedialog.h"
+#include "app/dialogs/importbinarydialog.h"
+#include "app/dialogs/importimagedialog.h"
+#include "app/dialogs/importzxfontdialog.h"
+#include "app/dialogs/mapdialog.h"
+#include "app/dialogs/paletteselectordialog.h"
+#include "app/dialogs/picturepreview.h"
+#include "app/dialogs/spritedialog.h"
+#include "app/dialogs/tileanimationdialog.h"
+#include "app/dialogs/tilesetdialog.h"
+#include "model/palette.h"
+#include "support/testmain.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSignalSpy>
+#include <QSpinBox>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+namespace {
+
+template <typename Widget>
+Widget *field(const QDialog &dialog, int index = 0)
+{
+    return dialog.findChildren<Widget *>().value(index);
+}
+
+/// Types a name and presses OK.
+void submit(DialogBase &dialog, const QString &name)
+{
+    field<QLineEdit>(dialog)->setText(name);
+    dialog.okButton()->click();
+}
+
+QString writeFile(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() ? path : QString();
+}
+
+} // namespace
+
+class TestDialogsApp : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void tileSet();
+    void newPaletteNeedsAFreeName();
+    void map();
+    void mapNeedsATileSet();
+    void sprites_data();
+    void sprites();
+    void imageModes();
+    void imageNeedsAPalette();
+    void tileAnimation();
+    void paletteSelectorStartsAtThePaletteInUse();
+    void chosenAssetStaysChosen();
+    void exportRange();
+    void fontIsShownAsTheTilesWillLook();
+    void fontProblems();
+    void spritesOfAPicture();
+    void spritesOfAPictureProblems_data();
+    void spritesOfAPictureProblems();
+    void spritesOfData();
+    void spritesOfDataProblems();
+
+private:
+    std::unique_ptr<Project> m_project;
+    QUuid m_main;
+    QUuid m_tiles;
+    QTemporaryDir m_folder;
+};
+
+void TestDialogsApp::init()
+{
+    m_project = std::make_unique<Project>();
+    m_main = m_project->createPalette(CreateAction::DefaultNext, "Main")->id();
+    m_tiles = m_project->createTileSet("Tiles", m_main, 4)->id();
+}
+
+void TestDialogsApp::tileSet()
+{
+    TileSetDialog dialog;
+    QSignalSpy accepted(&dialog, &TileSetDialog::accepted);
+    dialog.show(*m_project);
+    submit(dialog, "  ");
+    QCOMPARE(dialog.error(), "Please enter a name");
+    submit(dialog, " Forest ");
+    QVERIFY(!dialog.isVisible());
+    dialog.show(*m_project);
+    field<AssetChooser>(dialog)->choose(m_main);
+    field<QComboBox>(dialog, 1)->setCurrentIndex(1);
+    field<QCheckBox>(dialog)->setChecked(true);
+    submit(dialog, "Cave");
+    QCOMPARE(accepted, QList<QVariantList>({{"Forest", QUuid(), 256, false}, {"Cave", m_main, 512, true}}));
+}
+
+void TestDialogsApp::newPaletteNeedsAFreeName()
+{
+    TileSetDialog dialog;
+    dialog.show(*m_project);
+    submit(dialog, "Main");
+    QVERIFY(dialog.isVisible());
+    QCOMPARE(dialog.error(), "There is a palette of this name already; choose it, or another name");
+    field<AssetChooser>(dialog)->choose(m_main);
+    QCOMPARE(dialog.error(), QString());
+    submit(dialog, "Main");
+    QVERIFY(!dialog.isVisible());
+}
+
+void TestDialogsApp::map()
+{
+    MapDialog dialog;
+    QSignalSpy accepted(&dialog, &MapDialog::accepted);
+    dialog.show(*m_project);
+    for (int i = 0; i < 2; ++i) {
+        QCOMPARE(field<QSpinBox>(dialog, i)->minimum(), i == 0 ? 40 : 32);
+        QCOMPARE(field<QSpinBox>(dialog, i)->maximum(), 9999);
+    }
+    field<QSpinBox>(dialog, 0)->setValue(100);
+    submit(dialog, "Level");
+    QCOMPARE(accepted, QList<QVariantList>({{"Level", m_tiles, QSize(100, 32)}}));
+}
+
+void TestDialogsApp::mapNeedsATileSet()
+{
+    const Project empty;
+    MapDialog dialog;
+    dialog.show(empty);
+    submit(dialog, "Level");
+    QCOMPARE(dialog.error(), "A map is made of the tiles of a tile set; please create a tile set first");
+}
+
+void TestDialogsApp::sprites_data()
+{
+    QTest::addColumn<Quenmora::Sprite>("depth");
+    QTest::addColumn<bool>("newPalette");
+    QTest::addColumn<int>("options");
+    QTest::newRow("4 bit, palette of the project") << Quenmora::FourBit << false << 0;
+    QTest::newRow("8 bit, palette of the project") << Quenmora::EightBit << false << 1;
+    QTest::newRow("4 bit, new palette") << Quenmora::FourBit << true << 2;
+    QTest::newRow("8 bit, new palette") << Quenmora::EightBit << true << 3;
+}
+
+void TestDialogsApp::sprites()
+{
+    QFETCH(Quenmora::Sprite, depth);
+    QFETCH(bool, newPalette);
+    SpriteDialog dialog;
+    QSignalSpy accepted(&dialog, &SpriteDialog::accepted);
+    dialog.show(*m_project);
+    auto *depths = field<DepthChooser>(dialog);
+    depths->setCurrentIndex(depths->findData(depth));
+    const QUuid palette = newPalette ? QUuid() : m_main;
+    field<AssetChooser>(dialog)->choose(palette);
+    submit(dialog, "Hero");
+    QCOMPARE(accepted.size(), 1);
+    QTEST(int(accepted[0][0].value<SpriteDialog::CreateOptions>()), "options");
+    QCOMPARE(accepted[0].mid(1), QVariantList({"Hero", palette}));
+}
+
+void TestDialogsApp::imageModes()
+{
+    ImageDialog dialog;
+    QSignalSpy accepted(&dialog, &ImageDialog::accepted);
+    const QStringList texts{"256x192 256 colours", "320x256 256 colours", "640x256 16 colours", "128x96 256 colours"};
+    for (int mode = 0; mode < texts.size(); ++mode) {
+        dialog.show(*m_project);
+        field<QComboBox>(dialog)->setCurrentText(texts[mode]);
+        submit(dialog, "Title");
+        QCOMPARE(accepted.takeFirst(), QVariantList({"Title", QVariant::fromValue(Quenmora::ImageMode(mode)), m_main}));
+    }
+}
+
+void TestDialogsApp::imageNeedsAPalette()
+{
+    const Project empty;
+    ImageDialog dialog;
+    dialog.show(empty);
+    submit(dialog, "Title");
+    QCOMPARE(dialog.error(), "An image needs a palette; please create a palette first");
+}
+
+void TestDialogsApp::tileAnimation()
+{
+    m_project->createTileSet("Another", m_main, 4);
+    TileAnimationDialog dialog;
+    QSignalSpy accepted(&dialog, &TileAnimationDialog::accepted);
+    dialog.show(*m_project, m_tiles);
+    submit(dialog, "Doors");
+    QCOMPARE(accepted, QList<QVariantList>({{"Doors", m_tiles}}));
+}
+
+void TestDialogsApp::paletteSelectorStartsAtThePaletteInUse()
+{
+    const QUuid used = m_project->createPalette(CreateAction::Blank, "Zebra")->id();
+    PaletteSelectorDialog dialog;
+    QSignalSpy accepted(&dialog, &PaletteSelectorDialog::accepted);
+    dialog.show(*m_project, used);
+    dialog.okButton()->click();
+    QCOMPARE(accepted, QList<QVariantList>({{used}}));
+
+    const Project empty;
+    dialog.show(empty, {});
+    dialog.okButton()->click();
+    QCOMPARE(dialog.error(), "There is no palette to choose; please create one first");
+}
+
+void TestDialogsApp::chosenAssetStaysChosen()
+{
+    AssetChooser chooser;
+    chooser.offerPalettes(*m_project, "New");
+    QVERIFY(chooser.id().isNull());
+    chooser.choose(m_main);
+    m_project->createPalette(CreateAction::Blank, "Early"); // before it in the list
+    chooser.offerPalettes(*m_project, "New");
+    QCOMPARE(chooser.id(), m_main);
+    const Project other;
+    chooser.offerPalettes(other);
+    QVERIFY(chooser.id().isNull());
+    QVERIFY(!chooser.isEnabled());
+}
+
+void TestDialogsApp::exportRange()
+{
+    TileEditor::ExportDialog dialog;
+    QSignalSpy accepted(&dialog, &TileEditor::ExportDialog::accepted);
+    dialog.show(256);
+    dialog.okButton()->click();
+    dialog.show(512); // as all tiles were wanted, all are
+    field<QCheckBox>(dialog)->setChecked(true);
+    dialog.okButton()->click();
+    QCOMPARE(accepted, QList<QVariantList>({{1, 256, false}, {1, 512, true}}));
+    dialog.show(512);
+    field<QSpinBox>(dialog, 0)->setValue(20);
+    field<QSpinBox>(dialog, 1)->setValue(19);
+    dialog.okButton()->click();
+    QCOMPARE(dialog.error(), "The first tile comes after the last one");
+    field<QSpinBox>(dialog, 1)->setValue(20);
+    QCOMPARE(dialog.error(), QString());
+}
+
+void TestDialogsApp::fontIsShownAsTheTilesWillLook()
+{
+    const QString file = writeFile(m_folder.filePath("font.ch8"), QByteArray("\x81\0\0\0\0\0\0\x80", 8).repeated(6));
+    ImportZXFontDialog dialog;
+    dialog.setFileChooser([&](const FileRequest &, QWidget *) { return file; });
+    QSignalSpy accepted(&dialog, &ImportZXFontDialog::accepted);
+    dialog.show(*m_project->tileSet(m_tiles));
+    for (QPushButton *button : dialog.findChildren<QPushButton *>()) {
+        if (button->text().contains("rowse"))
+            button->click();
+    }
+    QCOMPARE(field<QLineEdit>(dialog)->text(), file);
+    const auto *preview = field<PicturePreview>(dialog);
+    QCOMPARE(preview->picture().size(), QSize(4 * 8, 8)); // the tile set has 4 tiles
+    field<QSpinBox>(dialog, 0)->setValue(2);
+    field<QSpinBox>(dialog, 1)->setValue(15);
+    field<QComboBox>(dialog, 0)->setCurrentIndex(12);
+    field<QComboBox>(dialog, 1)->setCurrentIndex(3);
+    const QImage picture = preview->picture();
+    QCOMPARE(picture.size(), QSize(3 * 8, 8));
+    const QList<QRgb> colours = m_project->palette(m_main)->colourTable();
+    for (const QPoint fore : {QPoint(0, 0), QPoint(7, 0), QPoint(8, 7)})
+        QCOMPARE(picture.pixel(fore), colours[0xFC]);
+    QCOMPARE(picture.pixel(1, 0), colours[0xF3]);
+    dialog.okButton()->click();
+    QCOMPARE(accepted, QList<QVariantList>({{1, 12, 3, 15, file}}));
+}
+
+void TestDialogsApp::fontProblems()
+{
+    ImportZXFontDialog dialog;
+    dialog.show(*m_project->tileSet(m_tiles));
+    dialog.okButton()->click();
+    QCOMPARE(dialog.error(), "Please choose a font file");
+    field<QLineEdit>(dialog)->setText(writeFile(m_folder.filePath("short.bin"), "1234567"));
+    QCOMPARE(dialog.error(), "There is no character in this file, or it cannot be read");
+    const QPointer<TileSet> bare = m_project->createTileSet("Bare", QUuid::createUuid(), 1);
+    dialog.show(*bare);
+    dialog.okButton()->click();
+    QCOMPARE(dialog.error(), "The tile set has no palette to take colours from");
+}
+
+void TestDialogsApp::spritesOfAPicture()
+{
+    QImage picture(40, 20, QImage::Format_RGB32);
+    picture.fill(qRgb(250, 3, 3));
+    const QString file = m_folder.filePath("hero.png");
+    QVERIFY(picture.save(file));
+    SpriteEditor::ImportImageDialog dialog;
+    QSignalSpy accepted(&dialog, &SpriteEditor::ImportImageDialog::accepted);
+
+    // remapped: the palette's colours show, here the nearest of a palette that is all black
+    const QUuid black = m_project->createPalette(CreateAction::Blank, "Black")->id();
+    dialog.show(*m_project, file);
+    QCOMPARE(field<QLineEdit>(dialog)->text(), "hero");
+    field<AssetChooser>(dialog)->choose(black);
+    QCOMPARE(field<PicturePreview>(dialog)->picture().pixel(0, 0), qRgb(0, 0, 0));
+    dialog.okButton()->click();
+    // cut, with the picture's own colours as the hardware shows them
+    dialog.show(*m_project, file);
+    field<QRadioButton>(dialog, 1)->setChecked(true);
+    QVERIFY(!field<AssetChooser>(dialog)->isEnabled());
+    QCOMPARE(field<PicturePreview>(dialog)->picture().pixel(0, 0), qRgb(255, 0, 0));
+    field<DepthChooser>(dialog)->setCurrentIndex(1);
+    submit(dialog, "Villain");
+
+    QCOMPARE(accepted.size(), 2);
+    const auto remap = accepted[0][0].value<SpriteImport>();
+    QCOMPARE(remap, (SpriteImport{file, "hero", Quenmora::EightBit, black}));
+    const auto slice = accepted[1][0].value<SpriteImport>();
+    QCOMPARE(slice, (SpriteImport{file, "Villain", Quenmora::FourBit, QUuid()}));
+}
+
+void TestDialogsApp::spritesOfAPictureProblems_data()
+{
+    QTest::addColumn<QSize>("size"); // of a picture of many colours
+    QTest::addColumn<bool>("slice");
+    QTest::addColumn<bool>("fourBit");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("problem");
+    QTest::newRow("no picture") << QSize() << false << false << "x"
+                                << "The file is not a picture that can be read";
+    QTest::newRow("too small") << QSize(15, 32) << false << false << "x"
+                               << "The picture is smaller than a sprite, which has 16 × 16 pixels";
+    QTest::newRow("palette taken") << QSize(16, 16) << true << false << "Main"
+                                   << "There is a palette of this name already; please choose another name";
+    QTest::newRow("palette taken, but not made") << QSize(16, 16) << false << false << "Main" << QString();
+    QTest::newRow("too many colours") << QSize(32, 16) << true << true << "x"
+                                      << "The picture has 17 colours; 4-bit sprites show 16";
+    QTest::newRow("several groups") << QSize(16, 16) << false << true << "x"
+                                    << "The colours lie in several groups of 16 of the palette; "
+                                       "4-bit sprites show one group";
+    QTest::newRow("no name") << QSize(16, 16) << false << false << ""
+                             << "Please enter a name";
+}
+
+void TestDialogsApp::spritesOfAPictureProblems()
+{
+    QFETCH(QSize, size);
+    QFETCH(bool, slice);
+    QFETCH(bool, fourBit);
+    QFETCH(QString, name);
+    const QString file = m_folder.filePath("problem.png");
+    writeFile(file, "no picture");
+    if (!size.isEmpty()) {
+        QImage picture(size, QImage::Format_RGB32);
+        for (int y = 0; y < size.height(); ++y) {
+            for (int x = 0; x < size.width(); ++x)
+                picture.setPixel(x, y, qRgb(std::min(x * 16, 255), 0, 0)); // at most 17 snapped colours
+        }
+        QVERIFY(picture.save(file));
+    }
+    SpriteEditor::ImportImageDialog dialog;
+    dialog.show(*m_project, file);
+    field<QRadioButton>(dialog, slice ? 1 : 0)->setChecked(true);
+    field<DepthChooser>(dialog)->setCurrentIndex(fourBit ? 1 : 0);
+    submit(dialog, name);
+    QTEST(dialog.error(), "problem");
+    QCOMPARE(dialog.isVisible(), !dialog.error().isEmpty());
+}
+
+void TestDialogsApp::spritesOfData()
+{
+    const QString file = writeFile(m_folder.filePath("hero.spr"), QByteArray(600, '\1'));
+    SpriteEditor::ImportBinaryDialog dialog;
+    QSignalSpy accepted(&dialog, &SpriteEditor::ImportBinaryDialog::accepted);
+    dialog.show(*m_project, file);
+    QStringList labels;
+    for (const QLabel *label : dialog.findChildren<QLabel *>())
+        labels.append(label->text());
+    QVERIFY(labels.contains("2 in the file"));
+    field<AssetChooser>(dialog)->choose(m_main);
+    dialog.okButton()->click();
+    QCOMPARE(accepted.size(), 1);
+    QCOMPARE(accepted[0][0].value<SpriteImport>(), (SpriteImport{file, "hero", Quenmora::EightBit, m_main}));
+}
+
+void TestDialogsApp::spritesOfDataProblems()
+{
+    SpriteEditor::ImportBinaryDialog dialog;
+    dialog.show(*m_project, writeFile(m_folder.filePath("short.spr"), QByteArray(255, '\1')));
+    dialog.okButton()->click();
+    QCOMPARE(dialog.error(), "There is no sprite in this file, or it cannot be read");
+    dialog.show(*m_project, writeFile(m_folder.filePath("Main.spr"), QByteArray(256, '\1')));
+    dialog.okButton()->click();
+    QCOMPARE(dialog.error(), "There is a palette of this name already; choose it, or another name");
+}
+
+QUENMORA_TEST_MAIN(TestDialogsApp)
+#include "tst_dialogs_app.moc"
