@@ -30,11 +30,13 @@ void SpriteBank::setPalette(Palette *palette)
         return;
     connect(palette, &Palette::colourChanged, this, &SpriteBank::updateColour);
     applyColours();
+    emit coloursChanged();
 }
 
 void SpriteBank::updateColour(int, QColor, bool)
 {
     applyColours();
+    emit coloursChanged();
 }
 
 /// Gives the strip the palette's colours; it stays shared with snapshots when they are the same.

@@ -126,6 +126,8 @@ signals:
     void structureChanged(const QString &text);
     void animationsChanged();
     void restored();
+    /// The sprites have other colours: another palette was bound, or an entry of the bound one changed.
+    void coloursChanged();
 
 public slots:
     /// Copies the top left 16×16 pixels of a picture into a sprite (converted as by setWholeImage()).
