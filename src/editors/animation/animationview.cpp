@@ -1,0 +1,149 @@
+#include "editors/animation/animationview.h"
+
+#include "editors/animation/animationlistwidget.h"
+#include "editors/animation/editorwidget.h"
+#include "ui/sectionheader.h"
+
+#include <QMessageBox>
+#include <QScopedValueRollback>
+#include <QVBoxLayout>
+
+namespace AnimationEditor {
+
+namespace {
+
+QWidget *titled(SectionHeader *header, QWidget *content)
+{
+    auto *page = new QWidget;
+    auto *layout = new QVBoxLayout(page);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(header);
+    layout->addWidget(content, 1);
+    return page;
+}
+
+} // namespace
+
+AnimationView::AnimationView(AnimationListWidget *list, EditorWidget *editor, QWidget *parent)
+    : QSplitter(Qt::Horizontal, parent)
+    , m_list(list)
+    , m_editor(editor)
+    , m_title(new SectionHeader(QString()))
+{
+    addWidget(titled(new SectionHeader(tr("Animations")), m_list));
+    addWidget(titled(m_title, m_editor));
+    setStretchFactor(0, 0);
+    setStretchFactor(1, 1);
+    setChildrenCollapsible(false);
+    setFocusProxy(m_list);
+
+    connect(m_list, &AnimationListWidget::selectedItemChanged, this, &AnimationView::showAnimation);
+    connect(m_list, &AnimationListWidget::addRequested, this, &AnimationView::addNewAnimation);
+    connect(m_list, &AnimationListWidget::cloneRequested, this, &AnimationView::cloneAnimation);
+    connect(m_list, &AnimationListWidget::removeRequested, this, &AnimationView::deleteAnimation);
+    showAnimation(nullptr);
+}
+
+QString AnimationView::title() const
+{
+    return m_title->text();
+}
+
+void AnimationView::showAnimation(Animation *animation)
+{
+    disconnect(m_titleConnection);
+    m_editor->setAnimation(animation);
+    if (!animation) {
+        m_title->setText(tr("No animation selected"));
+        return;
+    }
+    const auto showName = [this](const QString &name) { m_title->setText(tr("Animation: %1").arg(name)); };
+    m_titleConnection = connect(animation, &Animation::nameChanged, this, showName);
+    showName(animation->name());
+}
+
+void AnimationView::syncList()
+{
+    if (m_adding)
+        return;
+    const QList<Animation *> present = animations();
+    const QList<QPointer<Animation>> listed = m_list->animations();
+    for (const QPointer<Animation> &animation : listed) {
+        if (animation && !present.contains(animation))
+            m_list->removeAnimation(animation);
+    }
+    for (Animation *animation : present)
+        m_list->addAnimation(animation);
+}
+
+void AnimationView::refreshPictures(int indexCount)
+{
+    m_editor->setIndexCount(indexCount);
+    m_editor->frameEditor()->update();
+    m_list->refreshPictures();
+}
+
+// Adding and removing
+
+void AnimationView::addToList(const std::function<Animation *()> &add)
+{
+    Animation *added = nullptr;
+    {
+        const QScopedValueRollback adding(m_adding, true);
+        added = add();
+    }
+    if (!added)
+        return;
+    syncList();
+    m_list->select(added);
+    announceAdded(*added);
+}
+
+void AnimationView::addNewAnimation()
+{
+    addToList([this] { return createAnimation(); });
+}
+
+void AnimationView::cloneAnimation(Animation *animation)
+{
+    if (animation)
+        addToList([this, animation] { return copyAnimation(*animation); });
+}
+
+void AnimationView::deleteAnimation()
+{
+    m_editor->setAnimation(nullptr);
+    if (!m_list->selected())
+        return;
+    const QPointer<Animation> animation = m_list->selected();
+    const QPointer<AnimationView> self(this);
+    const bool confirmed = confirmsDeletion();
+    // while the question was open, anything may have gone
+    if (!self)
+        return;
+    if (!confirmed || !animation) {
+        m_editor->setAnimation(m_list->selected());
+        return;
+    }
+    announceRemoved(*animation);
+    m_list->removeAnimation(animation);
+    destroyAnimation(*animation);
+}
+
+bool AnimationView::confirmsDeletion()
+{
+    const QString title = tr("Delete?");
+    const QString text = tr("Are you sure you want to remove this animation?");
+    if (const Question question = m_question)
+        return question(title, text);
+    // not on the stack: it goes with the view
+    const QPointer<QMessageBox> box =
+        new QMessageBox(QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No, this);
+    const bool confirmed = box->exec() == QMessageBox::Yes;
+    if (box)
+        box->deleteLater();
+    return confirmed;
+}
+
+} // namespace AnimationEditor
