@@ -3,6 +3,8 @@
 // The docks and pages of editors that are not built yet stand in for the real ones here, with their
 // names, properties and texts. Each gives way by itself as soon as its editor is there.
 
+#include "editors/animation/blockeditorview.h"
+#include "editors/animation/spriteeditorview.h"
 #include "editors/edittarget.h"
 #include "model/map.h"
 #include "model/mapobjects.h"
@@ -119,26 +121,6 @@ signals:
     void placeSpriteModeEnabled();
 };
 
-class PlainSpriteEditor : public PlainPage
-{
-    Q_OBJECT
-
-public:
-    explicit PlainSpriteEditor(const QPointer<SpriteBank> &bank, QWidget *parent = nullptr)
-        : PlainPage(bank->name(), parent)
-    { }
-};
-
-class PlainBlockEditor : public PlainPage
-{
-    Q_OBJECT
-
-public:
-    explicit PlainBlockEditor(const QPointer<MapObjects> &blocks, QWidget *parent = nullptr)
-        : PlainPage(blocks->name(), parent)
-    { }
-};
-
 #if __has_include("editors/map/blockselectorwindow.h")
 #include "editors/map/blockselectorwindow.h"
 #else
@@ -161,20 +143,4 @@ using ToolBar = PlainMapToolBar;
 using Preferences = PlainMapPreferences;
 using View = PlainMapEditor;
 } // namespace MapEditor
-#endif
-
-#if __has_include("editors/animation/spriteeditorview.h")
-#include "editors/animation/spriteeditorview.h"
-#else
-namespace SpriteEditor {
-using View = PlainSpriteEditor;
-} // namespace SpriteEditor
-#endif
-
-#if __has_include("editors/animation/blockeditorview.h")
-#include "editors/animation/blockeditorview.h"
-#else
-namespace BlockEditor {
-using View = PlainBlockEditor;
-} // namespace BlockEditor
 #endif
