@@ -87,10 +87,7 @@ void DocumentController::connectDocks()
     connect(m_views.project, &ProjectWindow::selectedPaletteChanged, m_views.palette, &QWidget::show);
     connect(m_views.project, &ProjectWindow::selectedTileSetChanged, m_views.tileEditor, &QWidget::show);
     connect(m_views.palette, &PaletteWindow::paletteChosen, this, &DocumentController::choosePalette);
-    connect(m_views.tilePicker, &TilePickerTool::tileDoubleClicked, this, [this](int tileNumber) {
-        m_views.tileEditor->setTileIndex(tileNumber);
-        m_views.tileEditor->raise();
-    });
+    connect(m_views.tilePicker, &TilePickerTool::tileDoubleClicked, this, &DocumentController::editTile);
 }
 
 Project *DocumentController::project() const
@@ -228,6 +225,18 @@ void DocumentController::showTileSet(const QPointer<TileSet> &tileSet)
     m_views.menuBar->tileMenu()->setTileSet(tileSet);
 }
 
+void DocumentController::editTile(int number)
+{
+    m_views.tileEditor->setTileIndex(number);
+    m_views.tileEditor->raise();
+}
+
+void DocumentController::editSprite(int index)
+{
+    m_views.spriteEditor->changeSprite(index);
+    m_views.spriteEditor->raise();
+}
+
 void DocumentController::setActiveTileSet(QUuid tileSetId)
 {
     const QPointer<TileSet> tileSet = project() ? project()->tileSet(tileSetId) : nullptr;
@@ -312,8 +321,11 @@ void DocumentController::setActiveSpriteEditor(QUuid spriteBankId)
     const QScopedValueRollback activating(m_activating, true);
     showSprites(bank);
     m_views.spriteEditor->raise();
-    if (!showTab(spriteBankId))
-        closeWith(bank, m_views.tabs->openSpriteEditor(bank));
+    if (!showTab(spriteBankId)) {
+        SpriteEditor::View *editor = m_views.tabs->openSpriteEditor(bank);
+        connect(editor, &SpriteEditor::View::spriteDoubleClicked, this, &DocumentController::editSprite);
+        closeWith(bank, editor);
+    }
     showPalette(bank->palette());
 }
 
@@ -323,8 +335,11 @@ void DocumentController::setActiveBlockEditor(QUuid blocksId)
     if (!blocks)
         return;
     const QScopedValueRollback activating(m_activating, true);
-    if (!showTab(blocksId))
-        closeWith(blocks, m_views.tabs->openBlockEditor(blocks));
+    if (!showTab(blocksId)) {
+        BlockEditor::View *editor = m_views.tabs->openBlockEditor(blocks);
+        connect(editor, &BlockEditor::View::tileDoubleClicked, this, &DocumentController::editTile);
+        closeWith(blocks, editor);
+    }
     setActiveTileSet(blocks->tileSet() ? blocks->tileSet()->id() : QUuid());
 }
 

@@ -84,6 +84,9 @@ private:
     void closeWith(QObject *asset, QWidget *page);
     /// Puts a palette into the palette dock and menu, without raising the dock; null leaves them.
     void showPalette(const QPointer<Palette> &palette);
+    /// Shows the tile of a number that counts from 1 in the tile editor.
+    void editTile(int number);
+    void editSprite(int index);
     void showTileSet(const QPointer<TileSet> &tileSet);
     void showSprites(const QPointer<SpriteBank> &bank);
 

@@ -4,6 +4,7 @@
 #include "ui/svgiconengine.h"
 
 #include <QMenu>
+#include <QScopedValueRollback>
 #include <QShortcut>
 #include <QTabBar>
 
@@ -131,6 +132,7 @@ void DocumentTabView::closeTab(int index)
 
 void DocumentTabView::closeAllTabs()
 {
+    const QScopedValueRollback closing(m_closingAll, true);
     setUpdatesEnabled(false);
     while (count() > 0)
         closeTab(count() - 1);
@@ -174,7 +176,7 @@ void DocumentTabView::currentIndexChanged(int index)
     const QWidget *page = widget(index);
     bool isNumber = false;
     const int type = page ? page->property(TypeProperty).toInt(&isNumber) : 0;
-    if (!isNumber)
+    if (!isNumber || m_closingAll)
         return;
     const QUuid id = documentId(page);
     switch (type) {

@@ -80,4 +80,6 @@ private:
     void open(QWidget *page, DocumentType type, const QUuid &id, const QString &name);
 
     ImageEditor::View *m_scratchEditor;
+    /// A page that comes to the front because those after it are closed is not activated.
+    bool m_closingAll = false;
 };

@@ -10,8 +10,8 @@
 #include "app/version.h"
 #include "ui/messagedialog.h"
 
+#include <QApplication>
 #include <QCloseEvent>
-#include <QCoreApplication>
 #include <QDragEnterEvent>
 #include <QFileInfo>
 #include <QMimeData>
@@ -201,7 +201,8 @@ void MainWindow::closeEvent(QCloseEvent *event)
 
 void MainWindow::dragEnterEvent(QDragEnterEvent *event)
 {
-    if (!draggedProject(event->mimeData()).isEmpty())
+    // a question that is being asked comes first
+    if (!QApplication::activeModalWidget() && !draggedProject(event->mimeData()).isEmpty())
         event->acceptProposedAction();
 }
 
