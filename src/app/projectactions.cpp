@@ -52,9 +52,14 @@ void ProjectActions::serve(const MenuBar &menus)
     connect(menus.tileMenu(), &TileMenu::createBlocks, this, &ProjectActions::createBlocks);
     connect(menus.mapMenu(), &MapMenu::create, this, &ProjectActions::createMap);
     connect(menus.mapMenu(), &MapMenu::importRequested, this, &ProjectActions::importMap);
-    connect(menus.spriteMenu(), &SpriteMenu::create, this, &ProjectActions::createSprites);
-    connect(menus.spriteMenu(), &SpriteMenu::importPictureRequested, this, &ProjectActions::importSpritePicture);
-    connect(menus.spriteMenu(), &SpriteMenu::importDataRequested, this, &ProjectActions::importSpriteData);
+    SpriteMenu *sprites = menus.spriteMenu();
+    connect(this, &ProjectActions::aboutToDeleteSprites, sprites, [sprites](const QUuid &id) {
+        if (sprites->spriteBank() && sprites->spriteBank()->id() == id)
+            sprites->setSpriteBank(nullptr);
+    });
+    connect(sprites, &SpriteMenu::create, this, &ProjectActions::createSprites);
+    connect(sprites, &SpriteMenu::importPictureRequested, this, &ProjectActions::importSpritePicture);
+    connect(sprites, &SpriteMenu::importDataRequested, this, &ProjectActions::importSpriteData);
     connect(menus.imageMenu(), &ImageMenu::createImage, this, &ProjectActions::createImage);
 }
 
@@ -157,13 +162,11 @@ bool ProjectActions::remove(Project &project, ProjectTree::ProjectNode node, con
         return refusedUnless(project.deleteBlocks(id), tr("Objects in use"),
                              tr("You may not delete these objects; they are in use by one or more maps"));
     case ProjectTree::SpriteBankNode:
-        emit aboutToDelete(node, id);
+        emit aboutToDeleteSprites(id);
         return project.deleteSpriteBank(id);
     case ProjectTree::MapNode:
-        emit aboutToDelete(node, id);
         return project.deleteMap(id);
     case ProjectTree::ImageNode:
-        emit aboutToDelete(node, id);
         return project.deleteImage(id);
     }
     return false;

@@ -72,8 +72,8 @@ signals:
     void blocksReady(const QUuid &id);
     void spritesReady(const QUuid &id);
 
-    /// An asset that nothing needs is going to be deleted, and still exists.
-    void aboutToDelete(ProjectTree::ProjectNode node, const QUuid &id);
+    /// A sprite bank is going to be deleted, and still exists.
+    void aboutToDeleteSprites(const QUuid &id);
     /// An asset was deleted: what showed it is to be cleared, and its undo stack dropped.
     void itemDeleted(ProjectTree::ProjectNode node, const QUuid &id);
 

@@ -58,11 +58,9 @@ private slots:
     void tileSet();
     void newPaletteNeedsAFreeName();
     void map();
-    void mapNeedsATileSet();
-    void sprites_data();
     void sprites();
     void imageModes();
-    void imageNeedsAPalette();
+    void projectWithoutAssetsHasNothingToChoose();
     void tileAnimation();
     void paletteSelectorStartsAtThePaletteInUse();
     void chosenAssetStaysChosen();
@@ -133,41 +131,21 @@ void TestDialogsApp::map()
     QCOMPARE(accepted, QList<QVariantList>({{"Level", m_tiles, QSize(100, 32)}}));
 }
 
-void TestDialogsApp::mapNeedsATileSet()
-{
-    const Project empty;
-    MapDialog dialog;
-    dialog.show(empty);
-    submit(dialog, "Level");
-    QCOMPARE(dialog.error(), "A map is made of the tiles of a tile set; please create a tile set first");
-}
-
-void TestDialogsApp::sprites_data()
-{
-    QTest::addColumn<Quenmora::Sprite>("depth");
-    QTest::addColumn<bool>("newPalette");
-    QTest::addColumn<int>("options");
-    QTest::newRow("4 bit, palette of the project") << Quenmora::FourBit << false << 0;
-    QTest::newRow("8 bit, palette of the project") << Quenmora::EightBit << false << 1;
-    QTest::newRow("4 bit, new palette") << Quenmora::FourBit << true << 2;
-    QTest::newRow("8 bit, new palette") << Quenmora::EightBit << true << 3;
-}
-
 void TestDialogsApp::sprites()
 {
-    QFETCH(Quenmora::Sprite, depth);
-    QFETCH(bool, newPalette);
     SpriteDialog dialog;
     QSignalSpy accepted(&dialog, &SpriteDialog::accepted);
-    dialog.show(*m_project);
-    auto *depths = field<DepthChooser>(dialog);
-    depths->setCurrentIndex(depths->findData(depth));
-    const QUuid palette = newPalette ? QUuid() : m_main;
-    field<AssetChooser>(dialog)->choose(palette);
-    submit(dialog, "Hero");
-    QCOMPARE(accepted.size(), 1);
-    QTEST(int(accepted[0][0].value<SpriteDialog::CreateOptions>()), "options");
-    QCOMPARE(accepted[0].mid(1), QVariantList({"Hero", palette}));
+    for (const int options : {0, 1, 2, 3}) {
+        dialog.show(*m_project);
+        auto *depth = field<DepthChooser>(dialog);
+        depth->setCurrentIndex(depth->findData(options & 1 ? Quenmora::EightBit : Quenmora::FourBit));
+        const QUuid palette = options & 2 ? QUuid() : m_main;
+        field<AssetChooser>(dialog)->choose(palette);
+        submit(dialog, "Hero");
+        const QVariantList told = accepted.takeFirst();
+        QCOMPARE(int(told[0].value<SpriteDialog::CreateOptions>()), options);
+        QCOMPARE(told.mid(1), QVariantList({"Hero", palette}));
+    }
 }
 
 void TestDialogsApp::imageModes()
@@ -183,13 +161,21 @@ void TestDialogsApp::imageModes()
     }
 }
 
-void TestDialogsApp::imageNeedsAPalette()
+void TestDialogsApp::projectWithoutAssetsHasNothingToChoose()
 {
     const Project empty;
-    ImageDialog dialog;
-    dialog.show(empty);
-    submit(dialog, "Title");
-    QCOMPARE(dialog.error(), "An image needs a palette; please create a palette first");
+    MapDialog map;
+    map.show(empty);
+    submit(map, "Level");
+    QCOMPARE(map.error(), "A map is made of the tiles of a tile set; please create a tile set first");
+    ImageDialog image;
+    image.show(empty);
+    submit(image, "Title");
+    QCOMPARE(image.error(), "An image needs a palette; please create a palette first");
+    PaletteSelectorDialog selector;
+    selector.show(empty, {});
+    selector.okButton()->click();
+    QCOMPARE(selector.error(), "There is no palette to choose; please create one first");
 }
 
 void TestDialogsApp::tileAnimation()
@@ -210,11 +196,6 @@ void TestDialogsApp::paletteSelectorStartsAtThePaletteInUse()
     dialog.show(*m_project, used);
     dialog.okButton()->click();
     QCOMPARE(accepted, QList<QVariantList>({{used}}));
-
-    const Project empty;
-    dialog.show(empty, {});
-    dialog.okButton()->click();
-    QCOMPARE(dialog.error(), "There is no palette to choose; please create one first");
 }
 
 void TestDialogsApp::chosenAssetStaysChosen()

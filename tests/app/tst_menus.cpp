@@ -19,16 +19,6 @@
 
 namespace {
 
-using Keys = QKeySequence;
-
-/// What an entry of a menu should be; a text of "-" is a separator, one that ends in ">" a submenu.
-struct Entry
-{
-    QString text;
-    Keys shortcut;
-};
-using Entries = QList<Entry>;
-
 QString plain(const QAction *action)
 {
     return QString(action->text()).remove(u'&');
@@ -41,6 +31,39 @@ QAction *entry(const QMenu *menu, const QString &text)
             return action;
     }
     return nullptr;
+}
+
+/// The entries of a menu in a row: "-" for a separator, ">" after a submenu, the first shortcut in brackets.
+QString described(const QMenu *menu)
+{
+    QStringList entries;
+    for (const QAction *action : menu->actions()) {
+        QString text = action->isSeparator() ? QStringLiteral("-") : plain(action);
+        if (action->menu())
+            text += '>';
+        if (!action->shortcut().isEmpty())
+            text += " [" + action->shortcut().toString() + ']';
+        entries.append(text);
+    }
+    return entries.join(", ");
+}
+
+QString key(QKeySequence::StandardKey standard)
+{
+    const QString keys = QKeySequence(standard).toString();
+    return keys.isEmpty() ? QString() : " [" + keys + ']';
+}
+
+/// The entries of the menu at a position of the bar that can be chosen.
+QString enabledEntries(const MenuBar &bar, int position)
+{
+    const QAction *title = bar.actions().at(position);
+    QStringList entries;
+    for (const QAction *action : title->menu()->actions()) {
+        if (title->isEnabled() && action->isEnabled() && !action->isSeparator())
+            entries.append(plain(action));
+    }
+    return entries.join(", ");
 }
 
 QChar mnemonic(const QString &text)
@@ -69,30 +92,23 @@ void activate(MenuBar &bar, const Assets &assets)
 
 } // namespace
 
-Q_DECLARE_METATYPE(Entries)
-
 class TestMenus : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void menusStandInTheirOrder();
-    void entriesAndShortcuts_data();
     void entriesAndShortcuts();
     void mnemonicsAreThereAndUnique();
     void fileEntriesHaveTheirIconsAndRoles();
     void fileToolBar();
     void entriesFollowProjectAndActiveAsset_data();
     void entriesFollowProjectAndActiveAsset();
-    void deletedAssetIsNoLongerActive();
     void paletteMenuNamesTheActivePalette();
     void recentMenuListsProjects();
     void openRemembersItsFolder();
     void newProjectAsksForAName();
     void fileRequests_data();
     void fileRequests();
-    void exportsAreWritten_data();
-    void exportsAreWritten();
     void exportFailureIsTold();
     void tileExportWithoutTileSetIsLogged();
     void clipboardEntriesWorkEverywhereAndStartDisabled();
@@ -101,72 +117,30 @@ private slots:
     void dialogsAreBuiltWhenFirstUsed();
 };
 
-void TestMenus::menusStandInTheirOrder()
-{
-    const MenuBar bar;
-    QStringList titles;
-    for (const QAction *action : bar.actions())
-        titles.append(plain(action));
-    QCOMPARE(titles, QStringList({"File", "Edit", "Palette", "Tiles", "Map", "Sprites", "Image", "View", "Help"}));
-}
-
-void TestMenus::entriesAndShortcuts_data()
-{
-    QTest::addColumn<Entries>("entries");
-    QTest::newRow("File") << Entries{{"New", Keys::New},
-                                     {"Open", Keys::Open},
-                                     {"Recent>", {}},
-                                     {"Save", Keys::Save},
-                                     {"Save As", Keys::SaveAs},
-                                     {"Close", Keys::Close},
-                                     {"-", {}},
-                                     {"Preferences", {}},
-                                     {"-", {}},
-                                     {"Quit", {}}};
-    QTest::newRow("Edit") << Entries{{"Cut", Keys::Cut},
-                                     {"Copy", Keys::Copy},
-                                     {"Paste", Keys::Paste},
-                                     {"-", {}},
-                                     {"Select All", Keys::SelectAll},
-                                     {"Clear Selection", Keys::Deselect}};
-    QTest::newRow("Palette") << Entries{
-        {"New Palette", Keys("Ctrl+Alt+P")}, {"Import", {}}, {"-", {}}, {"No Palette", {}}, {"Export", {}}};
-    QTest::newRow("Tiles") << Entries{{"New Tile Set", Keys("Ctrl+Alt+T")},
-                                      {"-", {}},
-                                      {"Create Animations", {}},
-                                      {"Swap Palette", {}},
-                                      {"Export", {}},
-                                      {"Export Attributes", {}},
-                                      {"Import>", {}},
-                                      {"-", {}},
-                                      {"Next Tile", Keys("Ctrl+]")},
-                                      {"Previous Tile", Keys("Ctrl+[")},
-                                      {"Tile List Magnification>", {}}};
-    QTest::newRow("Map") << Entries{{"New Map", Keys("Ctrl+Alt+M")}, {"-", {}}, {"Import", {}}, {"Export", {}}};
-    QTest::newRow("Sprites") << Entries{
-        {"New", Keys("Ctrl+Shift+B")}, {"Import", {}}, {"-", {}}, {"Swap Palette", {}}, {"Export Data", {}}};
-    QTest::newRow("Image") << Entries{{"New Image", {}}};
-    QTest::newRow("View") << Entries{
-        {"Scratch Image Editor", {}}, {"Status Bar", {}}, {"Reset Layout", {}}, {"Window>", {}}};
-    QTest::newRow("Help") << Entries{{QString::fromUtf8("Check for Updates…"), {}}, {"About", {}}};
-}
-
 void TestMenus::entriesAndShortcuts()
 {
-    QFETCH(Entries, entries);
+    using Keys = QKeySequence;
     const MenuBar bar;
-    const QMenu *menu = nullptr;
-    for (const QAction *action : bar.actions()) {
-        if (plain(action) == QLatin1String(QTest::currentDataTag()))
-            menu = action->menu();
+    const QStringList expected{
+        QString("New%1, Open%2, Recent>, Save%3, Save As%4, Close%5, -, Preferences, -, Quit")
+            .arg(key(Keys::New), key(Keys::Open), key(Keys::Save), key(Keys::SaveAs), key(Keys::Close)),
+        QString("Cut%1, Copy%2, Paste%3, -, Select All%4, Clear Selection%5")
+            .arg(key(Keys::Cut), key(Keys::Copy), key(Keys::Paste), key(Keys::SelectAll), key(Keys::Deselect)),
+        "New Palette [Ctrl+Alt+P], Import, -, No Palette, Export",
+        "New Tile Set [Ctrl+Alt+T], -, Create Animations, Swap Palette, Export, Export Attributes, Import>, -, "
+        "Next Tile [Ctrl+]], Previous Tile [Ctrl+[], Tile List Magnification>",
+        "New Map [Ctrl+Alt+M], -, Import, Export",
+        "New [Ctrl+Shift+B], Import, -, Swap Palette, Export Data",
+        "New Image",
+        "Scratch Image Editor, Status Bar, Reset Layout, Window>",
+        QString::fromUtf8("Check for Updates…, About"),
+    };
+    QStringList titles;
+    for (int i = 0; i < bar.actions().size(); ++i) {
+        titles.append(plain(bar.actions().at(i)));
+        QCOMPARE(described(bar.actions().at(i)->menu()), expected.value(i));
     }
-    QVERIFY(menu);
-    QCOMPARE(menu->actions().size(), entries.size());
-    for (qsizetype i = 0; i < entries.size(); ++i) {
-        const QAction *action = menu->actions().at(i);
-        QCOMPARE(action->isSeparator() ? "-" : plain(action) + (action->menu() ? ">" : ""), entries[i].text);
-        QCOMPARE(action->shortcut(), entries[i].shortcut);
-    }
+    QCOMPARE(titles, QStringList({"File", "Edit", "Palette", "Tiles", "Map", "Sprites", "Image", "View", "Help"}));
 }
 
 void TestMenus::mnemonicsAreThereAndUnique()
@@ -227,82 +201,64 @@ void TestMenus::fileToolBar()
 void TestMenus::entriesFollowProjectAndActiveAsset_data()
 {
     QTest::addColumn<int>("menu"); // position in the bar
-    QTest::addColumn<QStringList>("always"); // enabled without a project; a menu is disabled as a whole without any
-    QTest::addColumn<QStringList>("withProject");
-    QTest::addColumn<QStringList>("withAsset");
-    const QStringList file{"New", "Open", "Recent", "Preferences", "Quit"};
-    const QStringList fileOpen = file + QStringList{"Save", "Save As", "Close"};
-    QTest::newRow("File") << 0 << file << fileOpen << fileOpen;
-    QTest::newRow("Palette") << 2 << QStringList() << QStringList{"New Palette", "Import"}
-                             << QStringList{"New Palette", "Import", "Export"};
-    QTest::newRow("Tiles") << 3 << QStringList() << QStringList{"New Tile Set"}
-                           << QStringList{"New Tile Set", "Create Animations", "Swap Palette",
-                                          "Export",       "Export Attributes", "Import",
-                                          "Next Tile",    "Previous Tile",     "Tile List Magnification"};
-    QTest::newRow("Map") << 4 << QStringList() << QStringList{"New Map", "Import"}
-                         << QStringList{"New Map", "Import", "Export"};
-    QTest::newRow("Sprites") << 5 << QStringList() << QStringList{"New", "Import"}
-                             << QStringList{"New", "Import", "Swap Palette", "Export Data"};
-    QTest::newRow("Image") << 6 << QStringList() << QStringList{"New Image"} << QStringList{"New Image"};
+    QTest::addColumn<QString>("always");
+    QTest::addColumn<QString>("withProject");
+    QTest::addColumn<QString>("withAsset");
+    const QString file = "New, Open, Recent, Save, Save As, Close, Preferences, Quit";
+    QTest::newRow("File") << 0 << "New, Open, Recent, Preferences, Quit" << file << file;
+    QTest::newRow("Palette") << 2 << ""
+                             << "New Palette, Import"
+                             << "New Palette, Import, Export";
+    QTest::newRow("Tiles") << 3 << ""
+                           << "New Tile Set"
+                           << "New Tile Set, Create Animations, Swap Palette, Export, Export Attributes, Import, "
+                              "Next Tile, Previous Tile, Tile List Magnification";
+    QTest::newRow("Map") << 4 << ""
+                         << "New Map, Import"
+                         << "New Map, Import, Export";
+    QTest::newRow("Sprites") << 5 << ""
+                             << "New, Import"
+                             << "New, Import, Swap Palette, Export Data";
+    QTest::newRow("Image") << 6 << ""
+                           << "New Image"
+                           << "New Image";
 }
 
 void TestMenus::entriesFollowProjectAndActiveAsset()
 {
     QFETCH(int, menu);
-    QFETCH(QStringList, always);
-    QFETCH(QStringList, withProject);
-    QFETCH(QStringList, withAsset);
+    QFETCH(QString, always);
+    QFETCH(QString, withProject);
     Assets assets;
     MenuBar bar;
-    const auto enabled = [&] {
-        QStringList texts;
-        const QAction *title = bar.actions().at(menu);
-        for (const QAction *action : title->menu()->actions()) {
-            if (title->isEnabled() && action->isEnabled() && !action->isSeparator())
-                texts.append(plain(action));
-        }
-        texts.sort();
-        return texts;
-    };
-    for (QStringList *texts : {&always, &withProject, &withAsset})
-        texts->sort();
-    QCOMPARE(enabled(), always);
+    QCOMPARE(enabledEntries(bar, menu), always);
     bar.setProject(&assets.project);
-    QCOMPARE(enabled(), withProject);
+    QCOMPARE(enabledEntries(bar, menu), withProject);
     activate(bar, assets);
-    QCOMPARE(enabled(), withAsset);
-    bar.setProject(nullptr);
-    QCOMPARE(enabled(), always);
-}
-
-void TestMenus::deletedAssetIsNoLongerActive()
-{
-    Assets assets;
-    MenuBar bar;
-    bar.setProject(&assets.project);
-    activate(bar, assets);
+    QTEST(enabledEntries(bar, menu), "withAsset");
+    // an asset that is deleted is no longer active
     assets.project.deleteSpriteBank(assets.sprites->id());
     assets.project.deleteMap(assets.map->id());
     assets.project.deleteTileSet(assets.tileSet->id());
     assets.project.deletePalette(assets.palette->id());
-    QVERIFY(!entry(bar.spriteMenu(), "Export Data")->isEnabled());
-    QVERIFY(!entry(bar.mapMenu(), "Export")->isEnabled());
-    QVERIFY(!entry(bar.tileMenu(), "Next Tile")->isEnabled());
-    QVERIFY(!entry(bar.paletteMenu(), "Export")->isEnabled());
-    QVERIFY(entry(bar.paletteMenu(), "No Palette"));
+    QCOMPARE(enabledEntries(bar, menu), withProject);
+    bar.setProject(nullptr);
+    QCOMPARE(enabledEntries(bar, menu), always);
 }
 
 void TestMenus::paletteMenuNamesTheActivePalette()
 {
     Assets assets;
-    MenuBar bar;
-    bar.setProject(&assets.project);
-    bar.paletteMenu()->setPalette(assets.palette);
-    QVERIFY(entry(bar.paletteMenu(), "Main") && !entry(bar.paletteMenu(), "Main")->isEnabled());
-    assets.palette->setName("Night");
-    QVERIFY(entry(bar.paletteMenu(), "Night"));
-    bar.paletteMenu()->setPalette(nullptr);
-    QVERIFY(entry(bar.paletteMenu(), "No Palette"));
+    PaletteMenu menu;
+    menu.setProject(&assets.project);
+    const QAction *name = entry(&menu, "No Palette");
+    menu.setPalette(assets.palette);
+    QCOMPARE(name->text(), "Main");
+    QVERIFY(!name->isEnabled());
+    assets.palette->setName("Day & night");
+    QCOMPARE(name->text(), "Day && night");
+    menu.setPalette(nullptr);
+    QCOMPARE(name->text(), "No Palette");
 }
 
 void TestMenus::recentMenuListsProjects()
@@ -363,17 +319,16 @@ void TestMenus::openRemembersItsFolder()
 void TestMenus::newProjectAsksForAName()
 {
     QWidget window;
-    MenuBar bar(&window);
-    QSignalSpy created(bar.fileMenu(), &FileMenu::newProject);
-    entry(bar.fileMenu(), "New")->trigger();
+    FileMenu menu(&window);
+    QSignalSpy created(&menu, &FileMenu::newProject);
+    menu.showNewDialog();
     auto *dialog = window.findChild<QDialog *>();
-    QVERIFY(dialog && dialog->isVisible());
     dialog->accept();
     QVERIFY(dialog->isVisible()); // a name is needed
     dialog->findChild<QLineEdit *>()->setText("Forest");
     dialog->accept();
     QCOMPARE(created, QList<QVariantList>({{"Forest"}}));
-    entry(bar.fileMenu(), "New")->trigger();
+    menu.showNewDialog();
     QCOMPARE(dialog->findChild<QLineEdit *>()->text(), QString());
 }
 
@@ -384,66 +339,37 @@ void TestMenus::fileRequests_data()
     QTest::addColumn<QString>("title");
     QTest::addColumn<QStringList>("filters");
     QTest::addColumn<QString>("suffix"); // of a file to save; empty when one is opened
+    QTest::addColumn<QString>("file"); // the answer to the request
+    QTest::addColumn<int>("size"); // of what is saved, in bytes
+    const QString pictures = "Image files (*.png *.bmp *.gif *.jpg *.jpeg *.pbm *.pgm *.ppm *.xbm *.xpm)";
     QTest::newRow("palette in") << 2 << "Import"
                                 << "Import Palette" << QStringList{"Palette (*.pal *.npl)", "Images (*.png *.bmp)"}
-                                << QString();
+                                << ""
+                                << "" << 0;
     QTest::newRow("palette out") << 2 << "Export"
-                                 << "Export Palette" << QStringList{"Palette (*.pal *.npl)"} << ".pal";
-    QTest::newRow("attributes out") << 3 << "Export Attributes"
-                                    << "Export tile attributes"
-                                    << QStringList{"ASM Code (*.asm)", "Binary Data (*.bin)"} << ".asm";
+                                 << "Export Palette" << QStringList{"Palette (*.pal *.npl)"} << ".pal"
+                                 << "x.npl" << 513;
+    for (const auto &[file, size] : {std::pair{"x.bin", 4}, {"x.asm", 240}}) {
+        QTest::newRow(file) << 3 << "Export Attributes"
+                            << "Export tile attributes" << QStringList{"ASM Code (*.asm)", "Binary Data (*.bin)"}
+                            << ".asm" << file << size;
+    }
     QTest::newRow("map in") << 4 << "Import"
-                            << "Import Map Data"
-                            << QStringList{"NextTiles (*.nxm *.nxt *.nxp *.nxb)",
-                                           "Image files (*.png *.bmp *.gif *.jpg *.jpeg *.pbm *.pgm *.ppm *.xbm *.xpm)"}
-                            << QString();
+                            << "Import Map Data" << QStringList{"NextTiles (*.nxm *.nxt *.nxp *.nxb)", pictures} << ""
+                            << "" << 0;
     QTest::newRow("map out") << 4 << "Export"
-                             << "Export Map Data" << QStringList{"Map Data (*.map)"} << ".map";
+                             << "Export Map Data" << QStringList{"Map Data (*.map)"} << ".map"
+                             << "x.map" << 8;
     QTest::newRow("sprites in") << 5 << "Import"
                                 << "Select a file to import"
-                                << QStringList{"Images (*.png *.bmp)", "Next sprites (*.spr)"} << QString();
+                                << QStringList{"Images (*.png *.bmp)", "Next sprites (*.spr)"} << ""
+                                << "" << 0;
     QTest::newRow("sprites out") << 5 << "Export Data"
-                                 << "Export Sprite Data" << QStringList{"Next Sprites (*.spr)"} << ".spr";
+                                 << "Export Sprite Data" << QStringList{"Next Sprites (*.spr)"} << ".spr"
+                                 << "x.spr" << 256;
 }
 
 void TestMenus::fileRequests()
-{
-    QFETCH(int, menu);
-    QFETCH(QString, text);
-    Assets assets;
-    MenuBar bar;
-    bar.setProject(&assets.project);
-    activate(bar, assets);
-    QList<FileRequest> asked;
-    bar.setFileChooser([&](const FileRequest &request, QWidget *) {
-        asked.append(request);
-        return QString();
-    });
-    entry(bar.actions().at(menu)->menu(), text)->trigger();
-    QCOMPARE(asked.size(), 1);
-    QTEST(asked[0].title, "title");
-    QTEST(asked[0].nameFilters, "filters");
-    QTEST(asked[0].defaultSuffix, "suffix");
-    QCOMPARE(asked[0].acceptMode == QFileDialog::AcceptSave, !asked[0].defaultSuffix.isEmpty());
-}
-
-void TestMenus::exportsAreWritten_data()
-{
-    QTest::addColumn<int>("menu");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<int>("size"); // bytes
-    QTest::newRow("palette") << 2 << "Export"
-                             << "x.npl" << 513;
-    QTest::newRow("attributes, binary") << 3 << "Export Attributes"
-                                        << "x.bin" << 4;
-    QTest::newRow("map of 2 x 2 cells") << 4 << "Export"
-                                        << "x.map" << 8;
-    QTest::newRow("one sprite") << 5 << "Export Data"
-                                << "x.spr" << 256;
-}
-
-void TestMenus::exportsAreWritten()
 {
     QFETCH(int, menu);
     QFETCH(QString, text);
@@ -453,11 +379,19 @@ void TestMenus::exportsAreWritten()
     MenuBar bar;
     bar.setProject(&assets.project);
     activate(bar, assets);
-    bar.setFileChooser([&](const FileRequest &, QWidget *) { return folder.filePath(file); });
-    QSignalSpy failed(&bar, &MenuBar::failed);
+    QList<FileRequest> asked;
+    bar.setFileChooser([&](const FileRequest &request, QWidget *) {
+        asked.append(request);
+        return file.isEmpty() ? QString() : folder.filePath(file);
+    });
     entry(bar.actions().at(menu)->menu(), text)->trigger();
-    QTEST(int(QFileInfo(folder.filePath(file)).size()), "size");
-    QCOMPARE(failed.size(), 0);
+    QCOMPARE(asked.size(), 1);
+    QTEST(asked[0].title, "title");
+    QTEST(asked[0].nameFilters, "filters");
+    QTEST(asked[0].defaultSuffix, "suffix");
+    QCOMPARE(asked[0].acceptMode == QFileDialog::AcceptSave, !asked[0].defaultSuffix.isEmpty());
+    if (!file.isEmpty())
+        QTEST(int(QFileInfo(folder.filePath(file)).size()), "size");
 }
 
 void TestMenus::exportFailureIsTold()
@@ -490,23 +424,21 @@ void TestMenus::tileExportWithoutTileSetIsLogged()
 void TestMenus::clipboardEntriesWorkEverywhereAndStartDisabled()
 {
     EditMenu menu;
-    QSignalSpy cut(&menu, &EditMenu::cut);
-    QSignalSpy copy(&menu, &EditMenu::copy);
-    QSignalSpy paste(&menu, &EditMenu::paste);
-    QSignalSpy all(&menu, &EditMenu::selectAll);
-    QSignalSpy none(&menu, &EditMenu::selectNone);
-    const QList<QPair<QString, QSignalSpy *>> entries{
-        {"Cut", &cut}, {"Copy", &copy}, {"Paste", &paste}, {"Select All", &all}, {"Clear Selection", &none}};
-    for (const auto &[text, spy] : entries) {
-        QAction *action = entry(&menu, text);
-        QVERIFY(!action->isEnabled());
-        QCOMPARE(action->shortcutContext(), Qt::ApplicationShortcut);
-        menu.setClipboardEnabled(true);
-        action->trigger();
-        QCOMPARE(spy->size(), 1);
-        menu.setClipboardEnabled(false);
+    QStringList asked;
+    connect(&menu, &EditMenu::cut, this, [&asked] { asked.append("Cut"); });
+    connect(&menu, &EditMenu::copy, this, [&asked] { asked.append("Copy"); });
+    connect(&menu, &EditMenu::paste, this, [&asked] { asked.append("Paste"); });
+    connect(&menu, &EditMenu::selectAll, this, [&asked] { asked.append("Select All"); });
+    connect(&menu, &EditMenu::selectNone, this, [&asked] { asked.append("Clear Selection"); });
+    const QStringList texts{"Cut", "Copy", "Paste", "Select All", "Clear Selection"};
+    for (const QString &text : texts)
+        QVERIFY(!entry(&menu, text)->isEnabled());
+    menu.setClipboardEnabled(true);
+    for (const QString &text : texts) {
+        QCOMPARE(entry(&menu, text)->shortcutContext(), Qt::ApplicationShortcut);
+        entry(&menu, text)->trigger();
     }
-    QCOMPARE(cut.size() + copy.size() + paste.size() + all.size() + none.size(), 5);
+    QCOMPARE(asked, texts);
 }
 
 void TestMenus::undoEntriesComeFirst()

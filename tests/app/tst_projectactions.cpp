@@ -1,6 +1,7 @@
 #include "app/menus/mapmenu.h"
 #include "app/menus/menubar.h"
 #include "app/menus/palettemenu.h"
+#include "app/menus/spritemenu.h"
 #include "app/projectactions.h"
 #include "model/image.h"
 #include "model/map.h"
@@ -78,17 +79,15 @@ private slots:
     void createPalette();
     void createTileSetWithAndWithoutPalette();
     void createMapBlocksAndImage();
-    void createSprites_data();
     void createSprites();
     void createMapFromSelection();
     void menusAreServed();
 
-    void copies_data();
-    void copies();
+    void copiesAndDeletes_data();
+    void copiesAndDeletes();
     void deletionIsRefused_data();
     void deletionIsRefused();
-    void deletes_data();
-    void deletes();
+    void spriteMenuIsToldFirst();
 
     void importsNextData();
     void nextDataFailures_data();
@@ -96,8 +95,7 @@ private slots:
     void importsPictureWithItsOrientations();
     void pictureLimit_data();
     void pictureLimit();
-    void suffixIsComparedWithItsCase();
-    void pictureThatIsNone();
+    void fileThatIsNoPicture();
 
     void importedPaletteIsOneUndoStep();
     void importsPaletteOfAPicture_data();
@@ -107,7 +105,6 @@ private slots:
 
     void importsSprites_data();
     void importsSprites();
-    void spriteFailureLeavesNothing_data();
     void spriteFailureLeavesNothing();
 
 private:
@@ -229,27 +226,17 @@ void TestProjectActions::createMapBlocksAndImage()
     QCOMPARE(m_project->images().first()->name(), "Title");
 }
 
-void TestProjectActions::createSprites_data()
-{
-    QTest::addColumn<int>("options");
-    QTest::addColumn<Quenmora::Sprite>("depth");
-    QTest::addColumn<QString>("paletteName");
-    QTest::newRow("4 bit") << 0 << Quenmora::FourBit << "Main";
-    QTest::newRow("8 bit") << 1 << Quenmora::EightBit << "Main";
-    QTest::newRow("4 bit, new palette") << 2 << Quenmora::FourBit << "Hero";
-    QTest::newRow("8 bit, new palette") << 3 << Quenmora::EightBit << "Hero";
-}
-
 void TestProjectActions::createSprites()
 {
-    QFETCH(int, options);
     const QUuid palette = make(ProjectTree::PaletteNode);
     QSignalSpy ready(m_actions.get(), &ProjectActions::spritesReady);
-    m_actions->createSprites(SpriteDialog::CreateOptions(options), "Hero", palette);
-    const QPointer<SpriteBank> bank = m_project->spriteBank(ready.at(0).at(0).toUuid());
-    QCOMPARE(bank->name(), "Hero");
-    QTEST(bank->depth(), "depth");
-    QTEST(bank->palette()->name(), "paletteName");
+    for (const int options : {0, 1, 2, 3}) {
+        m_actions->createSprites(SpriteDialog::CreateOptions(options), "Hero", palette);
+        const QPointer<SpriteBank> bank = m_project->spriteBank(ready.takeFirst().at(0).toUuid());
+        QCOMPARE(bank->name(), "Hero");
+        QCOMPARE(bank->depth(), options & 1 ? Quenmora::EightBit : Quenmora::FourBit);
+        QCOMPARE(bank->palette()->name(), options & 2 ? "Hero" : "Main");
+    }
 }
 
 void TestProjectActions::createMapFromSelection()
@@ -286,19 +273,18 @@ void TestProjectActions::menusAreServed()
 
 // Copying and deleting
 
-void TestProjectActions::copies_data()
+void TestProjectActions::copiesAndDeletes_data()
 {
     QTest::addColumn<Node>("node");
     QTest::addColumn<bool>("copied");
-    QTest::newRow("palette") << ProjectTree::PaletteNode << true;
-    QTest::newRow("tile set") << ProjectTree::TileSetNode << true;
-    QTest::newRow("map objects") << ProjectTree::MapObjectsNode << false;
-    QTest::newRow("sprite bank") << ProjectTree::SpriteBankNode << false;
-    QTest::newRow("map") << ProjectTree::MapNode << true;
-    QTest::newRow("image") << ProjectTree::ImageNode << false;
+    for (int node = 0; node < ProjectTree::NodeCount; ++node) {
+        const bool copied =
+            node == ProjectTree::PaletteNode || node == ProjectTree::TileSetNode || node == ProjectTree::MapNode;
+        QTest::newRow(qPrintable(ProjectTree::nodeName(Node(node)))) << Node(node) << copied;
+    }
 }
 
-void TestProjectActions::copies()
+void TestProjectActions::copiesAndDeletes()
 {
     QFETCH(Node, node);
     QFETCH(bool, copied);
@@ -307,7 +293,14 @@ void TestProjectActions::copies()
     m_actions->copyItem(node, QUuid::createUuid());
     QCOMPARE(assetCount(), before);
     m_actions->copyItem(node, id);
-    QCOMPARE(assetCount(), before + (copied ? 1 : 0));
+    const int withCopy = before + (copied ? 1 : 0);
+    QCOMPARE(assetCount(), withCopy);
+
+    int afterwards = -1;
+    connect(m_actions.get(), &ProjectActions::itemDeleted, this,
+            [&](Node gone, const QUuid &goneId) { afterwards = gone == node && goneId == id ? assetCount() : -1; });
+    m_actions->deleteItem(node, id);
+    QCOMPARE(afterwards, withCopy - 1);
 }
 
 void TestProjectActions::deletionIsRefused_data()
@@ -340,28 +333,18 @@ void TestProjectActions::deletionIsRefused()
     QCOMPARE(assetCount(), before);
 }
 
-void TestProjectActions::deletes_data()
+void TestProjectActions::spriteMenuIsToldFirst()
 {
-    QTest::addColumn<Node>("node");
-    for (int node = 0; node < ProjectTree::NodeCount; ++node)
-        QTest::newRow(qPrintable(ProjectTree::nodeName(Node(node)))) << Node(node);
-}
-
-void TestProjectActions::deletes()
-{
-    QFETCH(Node, node);
-    const QUuid id = make(node);
-    const int before = assetCount();
-    int atNotice = -1;
-    int afterwards = -1;
-    connect(m_actions.get(), &ProjectActions::aboutToDelete, this, [&] { atNotice = assetCount(); });
-    connect(m_actions.get(), &ProjectActions::itemDeleted, this,
-            [&](Node gone, const QUuid &goneId) { afterwards = gone == node && goneId == id ? assetCount() : -1; });
-    m_actions->deleteItem(node, id);
-    const bool noticed =
-        node == ProjectTree::SpriteBankNode || node == ProjectTree::MapNode || node == ProjectTree::ImageNode;
-    QCOMPARE(atNotice, noticed ? before : -1);
-    QCOMPARE(afterwards, before - 1);
+    MenuBar bar;
+    m_actions->serve(bar);
+    const QUuid id = make(ProjectTree::SpriteBankNode);
+    bar.spriteMenu()->setSpriteBank(m_project->spriteBank(id));
+    QSignalSpy told(m_actions.get(), &ProjectActions::aboutToDeleteSprites);
+    connect(m_actions.get(), &ProjectActions::aboutToDeleteSprites, this,
+            [&] { QVERIFY(m_project->spriteBank(id) && !bar.spriteMenu()->spriteBank()); });
+    m_actions->deleteItem(ProjectTree::SpriteBankNode, id);
+    QCOMPARE(told, QList<QVariantList>({{id}}));
+    QVERIFY(!m_project->spriteBank(id));
 }
 
 // Maps
@@ -463,22 +446,17 @@ void TestProjectActions::pictureLimit()
     QVERIFY(!m_window->findChild<QProgressDialog *>()); // it does not outlive its work
 }
 
-void TestProjectActions::suffixIsComparedWithItsCase()
+void TestProjectActions::fileThatIsNoPicture()
 {
     const auto files = nextDataSet();
     for (auto file = files.cbegin(); file != files.cend(); ++file)
         writeFile(path("world." + file.key().toUpper()), file.value());
-    m_actions->importMap(path("world.NXM"));
-    QCOMPARE(shownFailure(), "Could not read the image file");
-    QCOMPARE(assetCount(), 0);
-}
-
-void TestProjectActions::pictureThatIsNone()
-{
-    writeFile(path("level.png"), "\x89PNG\r\n\x1a\n and nothing more");
-    m_actions->importMap(path("level.png"));
-    QCOMPARE(shownFailure(), "Could not read the image file");
-    QCOMPARE(assetCount(), 0);
+    writeFile(path("cut.png"), "\x89PNG\r\n\x1a\n and nothing more");
+    for (const char *name : {"world.NXM", "cut.png"}) { // suffixes of data sets are lower case
+        m_actions->importMap(path(name));
+        QCOMPARE(shownFailure(), "Could not read the image file");
+        QCOMPARE(assetCount(), 0);
+    }
 }
 
 // Palettes
@@ -611,26 +589,16 @@ void TestProjectActions::importsSprites()
     QCOMPARE(stack.count(), 0); // what is made by an import is no edit
 }
 
-void TestProjectActions::spriteFailureLeavesNothing_data()
-{
-    QTest::addColumn<bool>("picture");
-    QTest::addColumn<QString>("failure");
-    QTest::newRow("picture") << true << "Could not make sprites of the image file";
-    QTest::newRow("data") << false << "Could not import the sprite data";
-}
-
 void TestProjectActions::spriteFailureLeavesNothing()
 {
-    QFETCH(bool, picture);
     const QUuid palette = make(ProjectTree::PaletteNode);
     writeFile(path("short"), QByteArray(255, '\1'));
     for (const QUuid &paletteId : {palette, QUuid()}) {
         const SpriteImport import{path("short"), "Hero", Quenmora::EightBit, paletteId};
-        if (picture)
-            m_actions->importSpritePicture(import);
-        else
-            m_actions->importSpriteData(import);
-        QTEST(shownFailure(), "failure");
+        m_actions->importSpritePicture(import);
+        QCOMPARE(shownFailure(), "Could not make sprites of the image file");
+        m_actions->importSpriteData(import);
+        QCOMPARE(shownFailure(), "Could not import the sprite data");
         QCOMPARE(assetCount(), 1);
     }
 }
