@@ -1,0 +1,155 @@
+#include "editors/map/viewbuilder.h"
+
+#include "editors/map/exportdialog.h"
+#include "editors/map/mapanimator.h"
+#include "editors/map/mapeditorview.h"
+#include "editors/map/mapgrid.h"
+#include "editors/map/maptoolpalette.h"
+#include "editors/map/resizedialog.h"
+#include "editors/map/spritepropertiespopover.h"
+#include "ui/scrollbar.h"
+#include "ui/svgiconengine.h"
+
+#include <QAction>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QMenu>
+#include <QSplitter>
+#include <QToolButton>
+
+namespace MapEditor {
+
+void ViewBuilder::build()
+{
+    makeParts();
+    layOut();
+    addKeys();
+    connectGrid();
+    connectScrollBars();
+    connectPopover();
+}
+
+void ViewBuilder::makeParts()
+{
+    m_view.m_grid = new MapGrid;
+    m_view.m_horizontalBar = new ScrollBar(Qt::Horizontal);
+    m_view.m_verticalBar = new ScrollBar(Qt::Vertical);
+    m_view.m_toolPalette = new MapToolPalette;
+    m_view.m_animator = new MapAnimator(&m_view);
+    m_view.m_popover = new SpritePropertiesPopover(&m_view);
+    m_view.m_resizeDialog = new ResizeDialog(&m_view);
+    m_view.m_exportDialog = new ExportDialog(&m_view);
+}
+
+void ViewBuilder::layOut()
+{
+    auto *scrolled = new QGridLayout;
+    scrolled->setSpacing(0);
+    scrolled->addWidget(m_view.m_grid, 0, 0);
+    scrolled->addWidget(m_view.m_verticalBar, 0, 1);
+    scrolled->addWidget(m_view.m_horizontalBar, 1, 0);
+    scrolled->addWidget(makeMapMenu(), 1, 1);
+    scrolled->setRowStretch(0, 1);
+    scrolled->setColumnStretch(0, 1);
+
+    auto *page = new QWidget;
+    auto *row = new QHBoxLayout(page);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(2);
+    row->addLayout(scrolled, 10000);
+    row->addWidget(m_view.m_toolPalette, 0, Qt::AlignTop);
+
+    auto *splitter = new QSplitter(Qt::Horizontal);
+    splitter->addWidget(page);
+    splitter->setStretchFactor(0, 1000);
+    auto *layout = new QHBoxLayout(&m_view);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(splitter);
+
+    m_view.m_toolPalette->setFocusProxy(m_view.m_grid);
+    m_view.setFocusProxy(m_view.m_grid);
+}
+
+/// What is done with the map as a whole, in the corner between the scroll bars.
+QToolButton *ViewBuilder::makeMapMenu()
+{
+    View *view = &m_view;
+    auto *button = new QToolButton;
+    const int extent = m_view.m_horizontalBar->sizeHint().height();
+    button->setFixedSize(extent, extent);
+    button->setIcon(themedIcon(QStringLiteral(":/More")));
+    button->setIconSize({extent - 4, extent - 4});
+    button->setAutoRaise(true);
+    button->setPopupMode(QToolButton::InstantPopup);
+    button->setToolTip(View::tr("Resize or export the map"));
+    button->setAccessibleName(button->toolTip());
+    button->setStyleSheet(QStringLiteral("QToolButton::menu-indicator { image: none; }"));
+    auto *menu = new QMenu(button);
+    const auto add = [menu, view](const QString &icon, const QString &text, Quenmora::Ui::ToolButton action) {
+        QObject::connect(menu->addAction(themedIcon(icon), text), &QAction::triggered, view,
+                         [view, action] { view->toolPaletteClicked(action); });
+    };
+    add(QStringLiteral(":/Resize"), View::tr("Resize Map…"), Quenmora::Ui::Resize);
+    add(QStringLiteral(":/Export"), View::tr("Export to Folder…"), Quenmora::Ui::Save);
+    button->setMenu(menu);
+    return button;
+}
+
+void ViewBuilder::addKeys()
+{
+    m_view.addActions(m_view.m_toolPalette->actions());
+    const auto add = [this](const QString &text, const QList<QKeySequence> &shortcuts, auto handler) {
+        auto *action = new QAction(text, &m_view);
+        action->setShortcuts(shortcuts);
+        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+        QObject::connect(action, &QAction::triggered, &m_view, handler);
+        m_view.addAction(action);
+    };
+    add(View::tr("Cancel"), {Qt::Key_Escape}, &View::cancel);
+    QList<QKeySequence> deletion = QKeySequence::keyBindings(QKeySequence::Delete);
+    if (!deletion.contains(QKeySequence(Qt::Key_Backspace)))
+        deletion.append(Qt::Key_Backspace);
+    add(View::tr("Delete"), deletion, &View::deleteUnderPointer);
+}
+
+void ViewBuilder::connectGrid()
+{
+    View *view = &m_view;
+    MapGrid *grid = m_view.m_grid;
+    MapToolPalette *palette = m_view.m_toolPalette;
+    QObject::connect(m_view.m_animator, &MapAnimator::framesAdvanced, view, &View::framesAdvanced);
+    QObject::connect(palette, &ToolPalette::actionActivated, view,
+                     qOverload<Quenmora::Ui::ToolButton, bool>(&View::toolPaletteClicked));
+    QObject::connect(grid, &MapGrid::scrollDeltaChanged, view, &View::updateScrollValues);
+    QObject::connect(grid, &MapGrid::scrollPositionChanged, view, &View::updateScrollBars);
+    QObject::connect(grid, &MapGrid::mapResized, view, &View::mapSizeChanged);
+    QObject::connect(grid, &MapGrid::tilePicked, view, &View::setSelectedTile);
+    QObject::connect(grid, &MapGrid::modeChanged, palette, &ToolPalette::setMode);
+    QObject::connect(grid, &MapGrid::modeChanged, view, &View::modeChanged);
+    QObject::connect(grid, &MapGrid::createMapFromSelection, view, &View::createMapFromSelection);
+    QObject::connect(m_view.m_resizeDialog, &QDialog::accepted, view, &View::resizeMap);
+    QObject::connect(m_view.m_exportDialog, &QDialog::accepted, view, &View::exportChosen);
+}
+
+void ViewBuilder::connectScrollBars()
+{
+    View *view = &m_view;
+    const ScrollBar *vertical = m_view.m_verticalBar;
+    QObject::connect(vertical, &ScrollBar::valueChanged, m_view.m_grid, &MapGrid::setVerticalScrollPosition);
+    QObject::connect(vertical, &ScrollBar::add, view, &View::addRow);
+    QObject::connect(vertical, &ScrollBar::remove, view, &View::removeRow);
+    const ScrollBar *horizontal = m_view.m_horizontalBar;
+    QObject::connect(horizontal, &ScrollBar::valueChanged, m_view.m_grid, &MapGrid::setHorizontalScrollPosition);
+    QObject::connect(horizontal, &ScrollBar::add, view, &View::addColumn);
+    QObject::connect(horizontal, &ScrollBar::remove, view, &View::removeColumn);
+}
+
+void ViewBuilder::connectPopover()
+{
+    QObject::connect(m_view.m_grid, &MapGrid::selectedSpriteChanged, &m_view, &View::moveSpriteProperties);
+    QObject::connect(m_view.m_grid, &MapGrid::spriteClicked, &m_view, &View::showSprite);
+    QObject::connect(m_view.m_popover, &SpritePropertiesPopover::spriteEdited, m_view.m_grid,
+                     &MapGrid::setSpriteProperties);
+}
+
+} // namespace MapEditor
