@@ -41,6 +41,11 @@ QRect areaIn(const SpriteBank *bank, const Map::PlacedSprite &sprite)
     return {QPoint(sprite.x, sprite.y), sprite.rotate ? size.transposed() : size};
 }
 
+int frameAt(qint64 time, const Map::PlacedSprite &sprite, const SpriteAnim &animation)
+{
+    return sprite.currentFrame(animation.frameCount(), animation.delay(), time);
+}
+
 QImage pictureFrom(const SpriteBank &bank, const Map::PlacedSprite &sprite, qint64 time)
 {
     if (sprite.animation.isNull())
@@ -48,8 +53,8 @@ QImage pictureFrom(const SpriteBank &bank, const Map::PlacedSprite &sprite, qint
     const QPointer<SpriteAnim> animation = bank.animation(sprite.animation);
     if (!animation)
         return {};
-    const int frame = sprite.currentFrame(animation->frameCount(), animation->delay(), time);
-    return animation->frameImage(frame, sprite.paletteOffset, sprite.rotate, sprite.flip, sprite.mirror);
+    return animation->frameImage(frameAt(time, sprite, *animation), sprite.paletteOffset, sprite.rotate, sprite.flip,
+                                 sprite.mirror);
 }
 
 } // namespace
@@ -63,6 +68,13 @@ QImage picture(const Map::PlacedSprite &sprite, const Banks &banks, qint64 time)
 {
     const SpriteBank *bank = bankOf(sprite, banks);
     return bank ? pictureFrom(*bank, sprite, time) : QImage();
+}
+
+bool changesBetween(qint64 first, qint64 second, const Map::PlacedSprite &sprite, const Banks &banks)
+{
+    const SpriteBank *bank = sprite.animation.isNull() ? nullptr : bankOf(sprite, banks);
+    const QPointer<SpriteAnim> animation = bank ? bank->animation(sprite.animation) : nullptr;
+    return animation && frameAt(first, sprite, *animation) != frameAt(second, sprite, *animation);
 }
 
 int indexAt(QPoint pixel, const QList<Map::PlacedSprite> &sprites, const Banks &banks)

@@ -22,6 +22,9 @@ using Banks = QList<QPointer<SpriteBank>>;
 /// The sprite, or the frame that its animation shows at a time, with transparent pixels; null where its area is empty.
 [[nodiscard]] QImage picture(const Map::PlacedSprite &sprite, const Banks &banks, qint64 time);
 
+/// Whether a sprite shows another frame of its animation at the second time than at the first.
+[[nodiscard]] bool changesBetween(qint64 first, qint64 second, const Map::PlacedSprite &sprite, const Banks &banks);
+
 /// The last, and so the topmost, of the sprites that cover a pixel, or -1.
 [[nodiscard]] int indexAt(QPoint pixel, const QList<Map::PlacedSprite> &sprites, const Banks &banks);
 

@@ -1,9 +1,9 @@
 #include "editors/animation/animationlistwidget.h"
 
+#include "ui/repeatedpress.h"
 #include "ui/svgiconengine.h"
 
 #include <QAction>
-#include <QEvent>
 #include <QHBoxLayout>
 #include <QListWidget>
 #include <QSignalBlocker>
@@ -28,7 +28,6 @@ AnimationListWidget::AnimationListWidget(Flags flags, QWidget *parent)
     m_list->setIconSize({PictureExtent, PictureExtent});
     m_list->setUniformItemSizes(true);
     m_list->setAccessibleName(tr("Animations"));
-    m_list->viewport()->installEventFilter(this);
     m_refresh->setSingleShot(true);
     m_refresh->setInterval(0);
     setFocusProxy(m_list);
@@ -39,8 +38,8 @@ AnimationListWidget::AnimationListWidget(Flags flags, QWidget *parent)
     buildActions();
 
     connect(m_list, &QListWidget::currentRowChanged, this, &AnimationListWidget::currentRowChanged);
-    connect(m_list, &QListWidget::itemPressed, this, [this] {
-        if (!m_pressSelected && selected())
+    connect(new RepeatedPress(m_list), &RepeatedPress::pressedAgain, this, [this] {
+        if (selected())
             emit selectedItemClicked(selected());
     });
     connect(m_refresh, &QTimer::timeout, this, [this] {
@@ -82,13 +81,6 @@ void AnimationListWidget::buildActions()
         buttons->addStretch();
         static_cast<QVBoxLayout *>(layout())->addLayout(buttons);
     }
-}
-
-bool AnimationListWidget::eventFilter(QObject *watched, QEvent *event)
-{
-    if (event->type() == QEvent::MouseButtonPress)
-        m_pressSelected = false; // until the list says otherwise
-    return QWidget::eventFilter(watched, event);
 }
 
 // What is shown
@@ -221,7 +213,6 @@ void AnimationListWidget::select(Animation *animation)
 
 void AnimationListWidget::currentRowChanged(int row)
 {
-    m_pressSelected = true;
     m_remove->setEnabled(row >= 0);
     m_clone->setEnabled(row >= 0);
     emit selectedItemChanged(selected());

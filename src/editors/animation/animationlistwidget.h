@@ -68,9 +68,6 @@ signals:
     /// The animation that is selected already was clicked again.
     void selectedItemClicked(Animation *animation);
 
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
-
 private:
     void buildActions();
     void appendItem(Animation *animation);
@@ -89,7 +86,6 @@ private:
     QAction *m_remove = nullptr;
     QAction *m_clone = nullptr;
     QTimer *m_refresh; ///< many changes, one redrawing
-    bool m_pressSelected = false; ///< the mouse press being handled has changed the selection
 };
 
 Q_DECLARE_OPERATORS_FOR_FLAGS(AnimationListWidget::Flags)

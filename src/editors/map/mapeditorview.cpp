@@ -9,6 +9,7 @@
 #include "editors/map/resizedialog.h"
 #include "editors/map/spritepropertiespopover.h"
 #include "editors/map/viewbuilder.h"
+#include "model/placedsprites.h"
 #include "model/tileset.h"
 #include "ui/scrollbar.h"
 
@@ -410,7 +411,8 @@ void View::moveSpriteProperties(int index)
 
 void View::framesAdvanced()
 {
-    m_grid->setSpriteTicks(qlonglong(m_animator->ticks()));
+    const auto now = qint64(m_animator->ticks());
+    m_grid->setSpriteTicks(now);
     if (!m_map)
         return;
     QRegion changed;
@@ -421,30 +423,11 @@ void View::framesAdvanced()
     const QList<Map::PlacedSprite> &sprites = m_map->sprites();
     if (m_map->spriteLayerVisible()) {
         for (int i = 0; i < sprites.size(); ++i) {
-            if (spriteMoves(sprites.at(i)))
+            if (PlacedSprites::changesBetween(now - 1, now, sprites.at(i), m_grid->spriteBanks()))
                 changed += m_grid->spriteRect(i);
         }
     }
-    m_grid->update(changed);
-}
-
-/// Whether a sprite shows another frame than a tick ago.
-bool View::spriteMoves(const Map::PlacedSprite &sprite) const
-{
-    if (sprite.animation.isNull())
-        return false;
-    const auto bank = std::ranges::find_if(m_grid->spriteBanks(), [&sprite](const QPointer<SpriteBank> &candidate) {
-        return candidate && candidate->id() == sprite.bank;
-    });
-    const QPointer<SpriteAnim> animation =
-        bank != m_grid->spriteBanks().end() ? (*bank)->animation(sprite.animation) : nullptr;
-    if (!animation)
-        return false;
-    const auto now = qint64(m_animator->ticks());
-    const auto frameAt = [&](qint64 time) {
-        return sprite.currentFrame(animation->frameCount(), animation->delay(), time);
-    };
-    return frameAt(now) != frameAt(now - 1);
+    m_grid->update(changed & m_grid->rect());
 }
 
 void View::setPlaying(bool playing)

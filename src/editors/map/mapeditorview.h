@@ -115,7 +115,6 @@ private:
     void showSprite(int index);
     void moveSpriteProperties(int index);
     void framesAdvanced();
-    [[nodiscard]] bool spriteMoves(const Map::PlacedSprite &sprite) const;
     void setPlaying(bool playing);
     void runAnimator();
     void setViewPortSize(QSize size);

@@ -100,6 +100,7 @@ void MapGrid::followSpriteBanks()
         connect(bank, &SpriteBank::imageChanged, this, &MapGrid::tileMapChanged, Qt::UniqueConnection);
         connect(bank, &SpriteBank::countChanged, this, &MapGrid::tileMapChanged, Qt::UniqueConnection);
         connect(bank, &SpriteBank::restored, this, &MapGrid::tileMapChanged, Qt::UniqueConnection);
+        connect(bank, &SpriteBank::coloursChanged, this, &MapGrid::tileMapChanged, Qt::UniqueConnection);
         connect(bank, &QObject::destroyed, this, &MapGrid::tileMapChanged, Qt::UniqueConnection);
         connect(bank, &SpriteBank::spriteDeleted, this, &MapGrid::spritesRemoved, Qt::UniqueConnection);
         connect(bank, &SpriteBank::animationsChanged, this, &MapGrid::spriteAnimationsChanged, Qt::UniqueConnection);
