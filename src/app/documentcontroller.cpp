@@ -11,10 +11,16 @@
 #include "app/preferences/preferencesdialog.h"
 #include "app/projectcontroller.h"
 #include "app/projecttree/projectwindow.h"
+#include "editors/animation/blockeditorview.h"
+#include "editors/animation/spriteeditorview.h"
 #include "editors/canvas/imageeditorview.h"
 #include "editors/canvas/spritewindow.h"
 #include "editors/canvas/tilepickertool.h"
 #include "editors/canvas/tilewindow.h"
+#include "editors/map/blockselectorwindow.h"
+#include "editors/map/mapeditorview.h"
+#include "editors/map/mappreferences.h"
+#include "editors/map/mapspriteswindow.h"
 #include "editors/palette/palettewindow.h"
 
 #include <QScopedValueRollback>
@@ -83,6 +89,7 @@ void DocumentController::connectDocks()
     connect(m_views.project, &ProjectWindow::selectedMapChanged, this, &DocumentController::setActiveMap);
     connect(m_views.project, &ProjectWindow::selectedImageChanged, this, &DocumentController::setActiveImageEditor);
     connect(m_views.project, &ProjectWindow::itemRenamed, m_views.tabs, &DocumentTabView::renameDocument);
+    connect(m_views.project, &ProjectWindow::itemRenamed, m_views.mapSprites, &MapSpritesWindow::refreshBanks);
     // they have no tab, so a dock that was closed opens again for them
     connect(m_views.project, &ProjectWindow::selectedPaletteChanged, m_views.palette, &QWidget::show);
     connect(m_views.project, &ProjectWindow::selectedTileSetChanged, m_views.tileEditor, &QWidget::show);
@@ -289,6 +296,8 @@ void DocumentController::connectMapEditor(MapEditor::View *editor)
         connect(m_views.mapObjects, &BlockSelectorWindow::animationSelected, editor, &View::setMapObject),
         connect(m_views.mapSprites, &MapSpritesWindow::spriteAnimationSelected, editor, &View::setSpriteAnimation),
         connect(m_views.mapSprites, &MapSpritesWindow::spriteSelected, editor, &View::setSingleSprite),
+        connect(editor, &View::animationPicked, m_views.mapObjects, &BlockSelectorWindow::selectAnimation),
+        connect(editor, &View::spritePicked, m_views.mapSprites, &MapSpritesWindow::selectSprite),
         connect(editor, &View::placeSpriteModeEnabled, m_views.mapSprites, &QWidget::raise),
     };
 }

@@ -1,6 +1,10 @@
 #include "app/documenttabview.h"
 
+#include "editors/animation/blockeditorview.h"
+#include "editors/animation/spriteeditorview.h"
 #include "editors/canvas/imageeditorview.h"
+#include "editors/map/mapeditorview.h"
+#include "model/image.h"
 #include "ui/svgiconengine.h"
 
 #include <QMenu>

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "app/plainpage.h"
-
 #include <QList>
 #include <QPointer>
 #include <QStringList>
@@ -9,8 +7,20 @@
 #include <QUuid>
 
 class Image;
+class Map;
+class MapObjects;
+class SpriteBank;
 
+namespace BlockEditor {
+class View;
+}
 namespace ImageEditor {
+class View;
+}
+namespace MapEditor {
+class View;
+}
+namespace SpriteEditor {
 class View;
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "app/plainpage.h"
-
+class BlockSelectorWindow;
 class DocumentTabView;
+class MapSpritesWindow;
 class MenuBar;
 class PaletteWindow;
 class PreferencesDialog;
@@ -10,6 +10,10 @@ class ProjectWindow;
 class SpriteWindow;
 class TilePickerTool;
 class TileWindow;
+
+namespace MapEditor {
+class ToolBar;
+}
 
 /// The parts of the main window that show documents. It owns none of them.
 struct DocumentViews

@@ -5,6 +5,8 @@
 #include "app/menus/menubar.h"
 #include "editors/canvas/spritewindow.h"
 #include "editors/canvas/tilewindow.h"
+#include "editors/map/mapeditortoolbar.h"
+#include "editors/map/mapeditorview.h"
 #include "editors/palette/palettewindow.h"
 
 #include <QApplication>

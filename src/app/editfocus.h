@@ -12,6 +12,10 @@
 class EditTarget;
 class QUndoGroup;
 
+namespace MapEditor {
+class View;
+}
+
 /// Follows the keyboard and the tabs to the editor that the user works in: the Edit menu's clipboard
 /// entries go to it, undo and redo to the stack of its asset, and the map toolbar serves it if it is a
 /// map editor.

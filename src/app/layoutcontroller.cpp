@@ -7,6 +7,8 @@
 #include "editors/canvas/spritewindow.h"
 #include "editors/canvas/tilepickertool.h"
 #include "editors/canvas/tilewindow.h"
+#include "editors/map/blockselectorwindow.h"
+#include "editors/map/mapspriteswindow.h"
 #include "editors/palette/palettewindow.h"
 
 #include <QApplication>

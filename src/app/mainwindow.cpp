@@ -8,6 +8,7 @@
 #include "app/menus/viewmenu.h"
 #include "app/preferences/generalpage.h"
 #include "app/version.h"
+#include "editors/map/mapeditorview.h"
 #include "ui/messagedialog.h"
 
 #include <QApplication>

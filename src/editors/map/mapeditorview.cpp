@@ -35,7 +35,9 @@ View::View(const QPointer<Map> &map, QWidget *parent)
         m_grid->setTransparencyIndex(map->tileTransparencyIndex());
         m_grid->setBackgroundTileIndex(map->backgroundTileIndex());
         m_toolPalette->setShowGridChecked(map->gridVisible());
-        connect(map, &Map::nameChanged, this, &View::updateTabText);
+        connect(map, &Map::nameChanged, this, [this](QString name) {
+            updateTabText(name.replace(u'&', QStringLiteral("&&"))); // no mnemonic
+        });
         connect(map, &Map::restored, this, [this] { moveSpriteProperties(m_grid->selectedSprite()); });
         connect(map, &QObject::destroyed, m_popover, &QWidget::hide);
     }
@@ -399,6 +401,13 @@ void View::showSprite(int index)
     }
     m_popover->setSprite(m_map->sprites().at(index));
     m_popover->showBeside({m_grid->mapToGlobal(place.topLeft()), place.size()});
+}
+
+void View::spriteSelected(int index)
+{
+    moveSpriteProperties(index);
+    if (m_map && index >= 0 && index < m_map->sprites().size())
+        emit spritePicked(m_map->sprites().at(index));
 }
 
 void View::moveSpriteProperties(int index)

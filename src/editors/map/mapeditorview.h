@@ -101,6 +101,9 @@ signals:
     void createMapFromSelection(QUuid mapId, QSize size);
     void placeAnimModeEnabled();
     void placeSpriteModeEnabled();
+    // What was found on the map, for the docks to show.
+    void animationPicked(QUuid animationId);
+    void spritePicked(Map::PlacedSprite sprite);
 
 protected:
     void showEvent(QShowEvent *event) override;
@@ -113,6 +116,7 @@ private:
     void deleteUnderPointer();
     void modeChanged(Quenmora::Ui::ToolButton mode);
     void showSprite(int index);
+    void spriteSelected(int index);
     void moveSpriteProperties(int index);
     void framesAdvanced();
     void setPlaying(bool playing);

@@ -165,8 +165,14 @@ TileMap::TileData MapGrid::currentTile() const
 
 void MapGrid::pickTileAt(QPoint point)
 {
-    if (m_map && m_map->tileLayer() && m_viewport.viewRect.contains(point))
-        emit tilePicked(m_map->tileLayer()->cellAt(m_viewport.cellAt(point)));
+    if (!m_map || !m_map->tileLayer() || !m_viewport.viewRect.contains(point))
+        return;
+    const QPoint cell = m_viewport.cellAt(point);
+    const AnimatedBlocks *placements = m_map->animatedBlocks();
+    const QUuid animation = placements->animationIdAt(placements->areaAt(cell));
+    emit tilePicked(m_map->tileLayer()->cellAt(cell));
+    if (!animation.isNull())
+        emit animationPicked(animation);
 }
 
 bool MapGrid::hasHoverCell() const

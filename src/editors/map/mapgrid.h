@@ -173,6 +173,8 @@ signals:
     void spriteClicked(int index);
     /// A map of that size is to be made of the cells on the clipboard, for the tile set of that map.
     void createMapFromSelection(QUuid mapId, QSize size);
+    /// The animation that is placed where a tile was picked.
+    void animationPicked(QUuid animationId);
 
 protected:
     void paintEvent(QPaintEvent *event) override;

@@ -127,6 +127,7 @@ void ViewBuilder::connectGrid()
     QObject::connect(grid, &MapGrid::modeChanged, palette, &ToolPalette::setMode);
     QObject::connect(grid, &MapGrid::modeChanged, view, &View::modeChanged);
     QObject::connect(grid, &MapGrid::createMapFromSelection, view, &View::createMapFromSelection);
+    QObject::connect(grid, &MapGrid::animationPicked, view, &View::animationPicked);
     QObject::connect(m_view.m_resizeDialog, &QDialog::accepted, view, &View::resizeMap);
     QObject::connect(m_view.m_exportDialog, &QDialog::accepted, view, &View::exportChosen);
 }
@@ -146,7 +147,7 @@ void ViewBuilder::connectScrollBars()
 
 void ViewBuilder::connectPopover()
 {
-    QObject::connect(m_view.m_grid, &MapGrid::selectedSpriteChanged, &m_view, &View::moveSpriteProperties);
+    QObject::connect(m_view.m_grid, &MapGrid::selectedSpriteChanged, &m_view, &View::spriteSelected);
     QObject::connect(m_view.m_grid, &MapGrid::spriteClicked, &m_view, &View::showSprite);
     QObject::connect(m_view.m_popover, &SpritePropertiesPopover::spriteEdited, m_view.m_grid,
                      &MapGrid::setSpriteProperties);
