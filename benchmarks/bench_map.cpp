@@ -1,108 +1,15 @@
 // Maps: making, editing, rendering, exporting and comparing them. Sizes are in cells; the large map is
 // 2000 × 2000, every cell used; the largest that the program offers is 9999 × 9999.
 
-#include "model/animatedblocks.h"
-#include "model/map.h"
-#include "model/palette.h"
-#include "model/tileanimation.h"
-#include "model/tileset.h"
+#include "level.h"
 
 #include <benchmark/benchmark.h>
 
-#include <QFile>
 #include <QPainter>
 
 #include <memory>
-#include <random>
 
 namespace {
-
-constexpr QSize Screen(1920, 1080);
-
-/// The resident memory of this process in MiB, by the name that the kernel gives it.
-double memory(const char *name)
-{
-    QFile file(QStringLiteral("/proc/self/status"));
-    if (!file.open(QIODevice::ReadOnly))
-        return 0;
-    const QList<QByteArray> lines = file.readAll().split('\n');
-    for (const QByteArray &line : lines) {
-        if (line.startsWith(name))
-            return line.mid(qsizetype(qstrlen(name)) + 1).simplified().split(' ').first().toDouble() / 1024;
-    }
-    return 0;
-}
-
-/// A map with both layers, bound to 512 random tiles in the standard palette.
-class Level
-{
-public:
-    explicit Level(QSize size) : m_tiles(size), m_objects(size)
-    {
-        std::minstd_rand random;
-        m_palette.loadStandardNext();
-        m_tileSet.setPalette(&m_palette);
-        for (int i = 0; i < m_tileSet.count(); ++i) {
-            QImage image(Tile::Size, Tile::Size, QImage::Format_Indexed8);
-            for (int y = 0; y < Tile::Size; ++y)
-                std::generate_n(image.scanLine(y), Tile::Size, [&random] { return uchar(random() & 15); });
-            m_tileSet.setTileImage(i, image);
-        }
-        map.setLayers(&m_tiles, &m_objects);
-        map.setTileSet(&m_tileSet);
-    }
-
-    /// Gives every cell a random tile, orientation and offset.
-    void scatter()
-    {
-        std::minstd_rand random;
-        TileMap::Rows rows = m_tiles.rows();
-        for (TileMap::Row &row : rows) {
-            for (TileMap::TileData &cell : row) {
-                const auto bits = unsigned(random());
-                cell = {int(bits & 511),    (bits & 512) != 0,    (bits & 1024) != 0,
-                        (bits & 2048) != 0, int(bits >> 12 & 15), true};
-            }
-        }
-        m_tiles.restore(rows);
-    }
-
-    /// Places animations of 4 × 4 cells and 8 frames, one in every 8 × 8 cells of the area.
-    void placeAnimations(const QRect &area)
-    {
-        m_animation.setSize({4, 4});
-        for (int frame = 0; frame < 8; ++frame) {
-            m_animation.addFrame();
-            for (int cell = 0; cell < 16; ++cell)
-                m_animation.frame(frame)->setIndex(cell / 4, cell % 4, frame * 16 + cell);
-        }
-        for (int y = area.top(); y <= area.bottom() - 4; y += 8) {
-            for (int x = area.left(); x <= area.right() - 4; x += 8)
-                map.placeAnimation(&m_animation, {x, y});
-        }
-        m_objects.setVisible(true);
-    }
-
-    void showFrame(int frame)
-    {
-        for (const QPointer<AnimationProperties> &placement : map.animatedBlocks()->list())
-            map.stampFrame(m_animation, frame % m_animation.frameCount(), placement->area().topLeft());
-    }
-
-    Map map;
-
-private:
-    Palette m_palette;
-    TileSet m_tileSet{512};
-    TileMap m_tiles;
-    TileMap m_objects;
-    TileAnimation m_animation;
-};
-
-QRect screenAt(QPoint cell, int cellSize)
-{
-    return {cell, QSize(Screen.width() / cellSize, Screen.height() / cellSize)};
-}
 
 void BM_Create(benchmark::State &state)
 {

@@ -219,6 +219,7 @@ private:
     /// An edit that may change the size of the map.
     void resizingEdit(const QString &text, const std::function<void(Map &)> &operation);
 
+    bool isOpaque() const;
     void paintBackground(QPainter &painter) const;
     void paintMap(QPainter &painter, const QRect &dirty) const;
     void paintGridLines(QPainter &painter) const;

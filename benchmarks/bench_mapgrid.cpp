@@ -1,0 +1,188 @@
+// The map editor's grid on a full screen: painting, strokes and undo. The large map is 2000 × 2000 cells, every
+// one used; the largest that the program offers is 9999 × 9999.
+
+#include "editors/map/mapgrid.h"
+#include "editors/map/mappreferences.h"
+#include "level.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QUndoStack>
+
+namespace {
+
+using MapEditor::MapGrid;
+
+/// A level on a full screen.
+class Editor
+{
+public:
+    explicit Editor(QSize size, int zoom) : level(size)
+    {
+        grid.resize(Screen);
+        grid.setUndoStack(&stack);
+        grid.applyPreferences({.overlayGrid = false, .defaultZoom = zoom});
+        grid.setMap(&level.map);
+        grid.setGridVisible(false);
+        grid.setCurrentTileIndex(1);
+    }
+
+    void paint() { grid.render(&m_screen, {}, {}, QWidget::RenderFlags()); }
+
+    void send(QEvent::Type type, QPoint point, Qt::MouseButton button)
+    {
+        const Qt::MouseButtons buttons = type == QEvent::MouseButtonRelease ? Qt::NoButton : button;
+        QMouseEvent event(type, point, point, type == QEvent::MouseMove ? Qt::NoButton : button, buttons,
+                          Qt::NoModifier);
+        QApplication::sendEvent(&grid, &event);
+    }
+
+    /// Writes ten cells, each with a move of its own.
+    void stroke(int index)
+    {
+        grid.setCurrentTileIndex(index & 511);
+        const int cell = grid.viewport().cellSize;
+        const QPoint start = grid.viewport().viewRect.topLeft() + QPoint(cell / 2, cell / 2 + index % 16 * cell);
+        send(QEvent::MouseButtonPress, start, Qt::LeftButton);
+        for (int i = 0; i < 10; ++i)
+            send(QEvent::MouseMove, start + QPoint(i * cell, i % 2), Qt::LeftButton);
+        send(QEvent::MouseButtonRelease, start, Qt::LeftButton);
+    }
+
+    Level level;
+    QUndoStack stack;
+    MapGrid grid;
+
+private:
+    QImage m_screen{Screen, QImage::Format_RGB32};
+};
+
+/// Zoom, grid lines.
+void BM_Paint(benchmark::State &state)
+{
+    Editor editor({2000, 2000}, int(state.range(0)));
+    editor.level.scatter();
+    if (state.range(1))
+        editor.grid.setGridVisible(true);
+    editor.paint();
+    for (auto _ : state)
+        editor.paint();
+}
+BENCHMARK(BM_Paint)->ArgsProduct({{1, 4}, {0, 1}})->MeasureProcessCPUTime()->Unit(benchmark::kMillisecond);
+
+/// Zoom, what shows through pixels of index 0: 0 black, 1 the checker board, 2 a tile.
+void BM_PaintTransparent(benchmark::State &state)
+{
+    Editor editor({2000, 2000}, int(state.range(0)));
+    editor.level.scatter();
+    editor.grid.setTransparencyIndex(0);
+    editor.grid.setGridVisible(state.range(1) == 1);
+    editor.grid.applyPreferences(
+        {.checkerBoard = state.range(1) == 1, .overlayGrid = false, .defaultZoom = int(state.range(0))});
+    editor.grid.setBackgroundTileIndex(state.range(1) == 2 ? 1 : -1);
+    editor.paint();
+    for (auto _ : state)
+        editor.paint();
+}
+BENCHMARK(BM_PaintTransparent)
+    ->ArgsProduct({{1, 4}, {0, 1, 2}})
+    ->MeasureProcessCPUTime()
+    ->Unit(benchmark::kMillisecond);
+
+void BM_PaintAfterSetCell(benchmark::State &state)
+{
+    Editor editor({2000, 2000}, int(state.range(0)));
+    editor.level.scatter();
+    int index = 0;
+    for (auto _ : state) {
+        editor.level.map.setTile({10, 10}, {++index & 511, false, false, false, 0, true});
+        editor.paint();
+    }
+}
+BENCHMARK(BM_PaintAfterSetCell)->Arg(1)->Arg(4)->MeasureProcessCPUTime()->Unit(benchmark::kMillisecond);
+
+/// Animated blocks, one in every 8 × 8 cells of the screen, and animated sprites, all with another frame each time.
+void BM_PaintPlaying(benchmark::State &state)
+{
+    Editor editor({2000, 2000}, int(state.range(0)));
+    editor.level.scatter();
+    editor.level.placeAnimations(editor.grid.viewport().visibleCells());
+    editor.level.placeSprites(editor.grid.viewport().visibleCells());
+    editor.grid.setSpriteBanks({editor.level.bank()});
+    int frame = 0;
+    for (auto _ : state) {
+        editor.level.showFrame(++frame);
+        editor.grid.setSpriteTicks(frame);
+        editor.paint();
+    }
+    state.counters["sprites"] = double(editor.level.map.sprites().size());
+}
+BENCHMARK(BM_PaintPlaying)->Arg(1)->Arg(4)->MeasureProcessCPUTime()->Unit(benchmark::kMillisecond);
+
+/// Side of the map: a stroke of ten cells, the screen after each of them, undo and the screen again.
+void BM_StrokeAndUndo(benchmark::State &state)
+{
+    const int side = int(state.range(0));
+    Editor editor({side, side}, 4);
+    if (side <= 2000)
+        editor.level.scatter();
+    int index = 0;
+    for (auto _ : state) {
+        editor.stroke(++index);
+        editor.stack.undo();
+    }
+}
+BENCHMARK(BM_StrokeAndUndo)->Arg(40)->Arg(2000)->Arg(9999)->MeasureProcessCPUTime()->Unit(benchmark::kMicrosecond);
+
+/// The same, with the screen painted after the stroke and after undoing it.
+void BM_StrokeAndUndoShown(benchmark::State &state)
+{
+    const int side = int(state.range(0));
+    Editor editor({side, side}, int(state.range(1)));
+    if (side <= 2000)
+        editor.level.scatter();
+    int index = 0;
+    for (auto _ : state) {
+        editor.stroke(++index);
+        editor.paint();
+        editor.stack.undo();
+        editor.paint();
+    }
+}
+BENCHMARK(BM_StrokeAndUndoShown)
+    ->ArgsProduct({{2000, 9999}, {1, 4}})
+    ->MeasureProcessCPUTime()
+    ->Unit(benchmark::kMillisecond);
+
+/// Scrolls by one cell and paints, along the diagonal of a map of that side.
+void BM_Scroll(benchmark::State &state)
+{
+    const int side = int(state.range(0));
+    Editor editor({side, side}, int(state.range(1)));
+    if (side <= 2000)
+        editor.level.scatter();
+    int step = 0;
+    for (auto _ : state) {
+        if (++step & 1)
+            editor.grid.scrollRight();
+        else
+            editor.grid.scrollDown();
+        editor.paint();
+    }
+}
+BENCHMARK(BM_Scroll)->ArgsProduct({{2000, 9999}, {1, 4}})->MeasureProcessCPUTime()->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    std::printf("peak memory: %.0f MiB\n", memory("VmHWM:"));
+    return 0;
+}
