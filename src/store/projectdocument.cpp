@@ -32,6 +32,9 @@ constexpr int OldestVersion = 1;
 /// memory a value takes up to a hundred bytes.
 constexpr qsizetype MaxValues = qsizetype(8) << 20;
 
+/// Assets, animations and frames in a project; a large game has some thousands.
+constexpr qsizetype MaxObjects = qsizetype(1) << 15;
+
 constexpr QLatin1String DocumentMember("project.json");
 constexpr QLatin1String ScratchMember("scratch.png");
 
@@ -52,6 +55,8 @@ constexpr QLatin1String Maps("maps");
 constexpr QLatin1String BlockSets("mapObjects");
 constexpr QLatin1String SpriteBanks("sprites");
 constexpr QLatin1String Images("images");
+constexpr QLatin1String Animations("animations");
+constexpr QLatin1String Frames("frames");
 
 constexpr QSize DefaultScreenSize(320, 256);
 
@@ -144,6 +149,25 @@ qsizetype valuesIn(const QByteArray &text)
     return std::count_if(text.cbegin(), text.cend(), [](char c) { return c == ',' || c == '[' || c == '{'; });
 }
 
+QString invalidProject()
+{
+    return QCoreApplication::translate("ProjectDocument", "Invalid project file");
+}
+
+/// How many objects are to be made for the document: "{}" is enough to ask for one.
+qsizetype objectsIn(const QJsonObject &document)
+{
+    qsizetype count = 0;
+    for (const QLatin1String kind : {Palettes, TileSets, Maps, BlockSets, SpriteBanks, Images}) {
+        for (const QJsonValue &asset : document.value(kind).toArray()) {
+            ++count;
+            for (const QJsonValue &animation : asset.toObject().value(Animations).toArray())
+                count += 1 + animation.toObject().value(Frames).toArray().size();
+        }
+    }
+    return count;
+}
+
 } // namespace
 
 ProjectMembers serializeProject(const Project &project, bool includeOpenDocuments)
@@ -172,11 +196,13 @@ bool readProject(Project &project, const MemberReader &read, QString &error)
     DocumentReader reader{project, read, error};
     const QByteArray text = read(DocumentMember);
     if (text.isEmpty() || valuesIn(text) > MaxValues)
-        return reader.fail(QCoreApplication::translate("ProjectDocument", "Invalid project file"));
+        return reader.fail(invalidProject());
     const QJsonObject document = QJsonDocument::fromJson(text).object(); // empty when the text is no JSON
     if (document.value(Version).toInteger(OldestVersion) > FormatVersion)
         return reader.fail(
             QCoreApplication::translate("ProjectDocument", "Project file is from a newer version of Quenmora"));
+    if (objectsIn(document) > MaxObjects)
+        return reader.fail(invalidProject());
     readSettings(project, document);
     if (!readAssetsWithMembers(reader, document))
         return false;

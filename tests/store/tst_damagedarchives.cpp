@@ -363,6 +363,22 @@ void TestDamagedArchives::addImpossibleCounts()
             addReplaced("impossible size", {kind, "0", "animations", "0"}, line, Loads);
         }
     }
+    QJsonArray many;
+    for (int object = 0; object < 40'000; ++object)
+        many.append(QJsonObject());
+    for (const Path &path : {Path{"palettes"},
+                             {"tilesets"},
+                             {"sprites", "0", "animations"},
+                             {"maps", "0", "animations"},
+                             {"mapObjects", "0", "animations", "0", "frames"}})
+        addReplaced("too many objects", path, many, "Invalid project file");
+
+    QJsonArray tileSets;
+    for (int object = 0; object < 10'000; ++object)
+        tileSets.append(QJsonObject{{"count", 0}});
+    addReplaced("very many objects", {"tilesets"}, tileSets, Loads);
+    addReplaced("very many objects", {"sprites", "0", "animations"}, QJsonArray(tileSets), Loads);
+
     QJsonArray placements;
     for (int placement = 0; placement < 2000; ++placement)
         placements.append(QJsonObject{{"x", placement - SampleProject::Most},
@@ -536,7 +552,9 @@ void TestDamagedArchives::cleanupTestCase()
     rusage usage{};
     getrusage(RUSAGE_SELF, &usage);
     qInfo("%d archives (seed %u), peak memory %ld MiB", total, Seed, usage.ru_maxrss / 1024);
+#ifndef __SANITIZE_ADDRESS__ // which keeps freed memory
     QVERIFY(usage.ru_maxrss < 512 * 1024); // KiB; of all cases together, which are held in memory as well
+#endif
 }
 
 QUENMORA_TEST_MAIN(TestDamagedArchives)
