@@ -10,6 +10,7 @@
 #include "model/tilemap.h"
 #include "model/tileset.h"
 
+#include <QMetaMethod>
 #include <QMetaType>
 
 #include <algorithm>
@@ -110,10 +111,13 @@ void Project::addTileSet(const QPointer<TileSet> &tileSet)
 {
     if (!adopt(this, m_tileSets, tileSet))
         return;
-    QHash<QUuid, QString> names;
-    for (const QPointer<TileSet> &known : tileSets())
-        names.insert(known->id(), known->name());
-    emit tileSetsChanged(names);
+    // Nobody listens while a project is read, when there may be many of them.
+    if (isSignalConnected(QMetaMethod::fromSignal(&Project::tileSetsChanged))) {
+        QHash<QUuid, QString> names;
+        for (const QPointer<TileSet> &known : tileSets())
+            names.insert(known->id(), known->name());
+        emit tileSetsChanged(names);
+    }
     emit showMessage(tr("New tile set added: %1").arg(tileSet->name()), MessageDuration);
 }
 
