@@ -280,6 +280,7 @@ void DocumentController::setActiveMap(QUuid mapId)
     disconnectMapEditor();
     if (!showTab(mapId))
         openMap(map);
+    m_views.tilePicker->setTileSet(map->tileSet());
     setActiveTileSet(map->tileSetId());
     connectMapEditor(qobject_cast<MapEditor::View *>(m_views.tabs->currentWidget()));
     m_views.menuBar->mapMenu()->setMap(map);

@@ -122,6 +122,7 @@ void LayoutController::resetLayout()
     }
     m_window->resizeDocks({m_project, m_palette}, {SideWidth, EditorWidth}, Qt::Horizontal);
     m_window->resizeDocks({m_tilePicker}, {PickerHeight}, Qt::Vertical);
+    m_window->resizeDocks({m_project, m_mapObjects}, {3, 2}, Qt::Vertical); // of the height that there is
     m_mapObjects->raise();
     m_palette->raise();
 }

@@ -92,7 +92,7 @@ void ProjectTree::buildMenu()
         return action;
     };
     add(tr("&Delete"), QStringLiteral(":/Trashcan"), &ProjectTree::deleteItem);
-    add(tr("&Copy"), QStringLiteral(":/Copy"), &ProjectTree::copyItem);
+    m_copy = add(tr("&Copy"), QStringLiteral(":/Copy"), &ProjectTree::copyItem);
 }
 
 void ProjectTree::reset(const QPointer<Project> &project)
@@ -202,6 +202,7 @@ void ProjectTree::openMenu(QTreeWidgetItem *item, const QPoint &globalPos)
     if (!identify(item, node, id))
         return;
     setCurrentItem(item);
+    m_copy->setEnabled(node == PaletteNode || node == TileSetNode || node == MapNode); // there is no copy of others
     m_menu->popup(globalPos);
 }
 

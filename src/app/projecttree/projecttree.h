@@ -71,4 +71,5 @@ private:
     [[nodiscard]] QTreeWidgetItem *group(ProjectNode node) const;
 
     QMenu *m_menu;
+    QAction *m_copy;
 };
