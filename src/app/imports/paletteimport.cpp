@@ -1,15 +1,18 @@
 #include "app/imports/paletteimport.h"
 
+#include "model/nextcolour.h"
 #include "model/nximage.h"
 #include "model/project.h"
 #include "undo/snapshotcommand.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QImageReader>
 #include <QPointer>
+#include <QStringList>
 #include <QUndoStack>
 
-#include <algorithm>
+#include <bitset>
 #include <memory>
 
 namespace {
@@ -33,37 +36,69 @@ void setWords(Palette &palette, const Words &words)
         palette.setRawColour(i, words[i]);
 }
 
-/// Sets the first entries to colours, snapped.
-void setColours(Palette &palette, const QList<QRgb> &colours)
+bool hasPaletteSuffix(const QString &fileName)
 {
-    const qsizetype count = std::min(colours.size(), qsizetype(Palette::Size));
-    for (qsizetype i = 0; i < count; ++i)
-        palette.setColour(int(i), QColor::fromRgb(colours[i]), false);
+    static const QStringList suffixes{QStringLiteral("pal"), QStringLiteral("npl"), QStringLiteral("nxp")};
+    return suffixes.contains(QFileInfo(fileName).suffix(), Qt::CaseInsensitive);
 }
 
-/// The colours that a picture file brings; none when it is no picture.
-QList<QRgb> coloursOf(const QString &fileName)
+/// The level of a component. A picture of this program shows level 6 as 219, which is the one component of
+/// the hardware's that quantises to another level than its own.
+int levelOf(int component)
+{
+    constexpr int Level = 6;
+    return component == NextColour::componentOf(Level) ? Level : NextColour::levelOf(component);
+}
+
+quint16 wordOf(QRgb colour)
+{
+    return NextColour::compose(levelOf(qRed(colour)), levelOf(qGreen(colour)), levelOf(qBlue(colour)), false);
+}
+
+/// The first distinct words of a picture's pixels, row by row.
+Words distinctWords(const QImage &picture)
+{
+    std::bitset<0x10000> seen;
+    Words words;
+    for (int y = 0; y < picture.height() && words.size() < Palette::Size; ++y) {
+        const auto *line = reinterpret_cast<const QRgb *>(picture.constScanLine(y));
+        for (int x = 0; x < picture.width() && words.size() < Palette::Size; ++x) {
+            const quint16 word = wordOf(line[x]);
+            if (!seen.test(word)) {
+                seen.set(word);
+                words.append(word);
+            }
+        }
+    }
+    return words;
+}
+
+/// The words that a picture file brings, at most 256; none when it is no picture.
+Words wordsOfPicture(const QString &fileName)
 {
     QImageReader reader(fileName);
     if (!NxImage::accepts(reader.size()))
         return {};
     const QImage picture = reader.read();
-    if (!picture.colorTable().isEmpty())
-        return picture.colorTable();
-    NxImage snapped;
-    snapped.setImage(picture);
-    return snapped.colours();
+    if (picture.colorTable().isEmpty())
+        return distinctWords(picture.convertToFormat(QImage::Format_RGB32));
+    Words words;
+    for (const QRgb colour : picture.colorTable().first(qMin(picture.colorTable().size(), qsizetype(Palette::Size))))
+        words.append(wordOf(colour));
+    return words;
 }
 
 } // namespace
 
 bool readPaletteFile(const QString &fileName, Palette &words)
 {
-    if (words.importData(fileName))
-        return true;
-    const QList<QRgb> colours = coloursOf(fileName);
-    setColours(words, colours);
-    return !colours.isEmpty();
+    // a small picture may be just as long as a palette file
+    const Words fromPicture = hasPaletteSuffix(fileName) ? Words() : wordsOfPicture(fileName);
+    if (fromPicture.isEmpty())
+        return words.importData(fileName);
+    for (int i = 0; i < fromPicture.size(); ++i)
+        words.storeRawColour(i, fromPicture[i]);
+    return true;
 }
 
 void replaceWords(Palette &palette, const Palette &words, QUndoStack *stack)
@@ -86,7 +121,8 @@ void replaceWords(Palette &palette, const Palette &words, QUndoStack *stack)
 Palette *createPaletteOf(Project &project, const QString &name, const QList<QRgb> &colours)
 {
     Palette words;
-    setColours(words, colours);
+    for (int i = 0; i < qMin(colours.size(), qsizetype(Palette::Size)); ++i)
+        words.setColour(i, QColor::fromRgb(colours[i]), false);
     const QPointer<Palette> palette = project.createPalette(CreateAction::Blank, name);
     palette->copyColours(words);
     return palette;

@@ -9,8 +9,8 @@
 class Project;
 class QUndoStack;
 
-/// Reads the words of a palette file, or of a picture: its colour table, or else its first 256 distinct
-/// colours, snapped to colours of the Next; entries beyond them are as in the palette handed in. False, and
+/// Reads the words of a palette file, or of a picture: its colour table, or else the first distinct colours
+/// of its pixels, row by row, as colours of the Next, at most 256; entries beyond them stay as they are. False, and
 /// nothing changes, when the file is neither.
 [[nodiscard]] bool readPaletteFile(const QString &fileName, Palette &words);
 

@@ -66,7 +66,7 @@ MapImport importPicture(Project &project, const QString &filePath, QWidget *pare
     ImageSlicer slicer(picture.image());
     int tiles = 0;
     {
-        const SlicingProgress progress(slicer, parent);
+        SlicingProgress progress(slicer, parent);
         tiles = slicer.sliceTiles();
     }
     if (tiles > MostTiles) {

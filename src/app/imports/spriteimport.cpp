@@ -30,7 +30,7 @@ SpriteBank *importSliced(Project &project, const SpriteImport &import, QWidget *
         return nullptr;
     ImageSlicer slicer(picture.image());
     {
-        const SlicingProgress progress(slicer, parent);
+        SlicingProgress progress(slicer, parent);
         slicer.sliceSprites(SpriteBank::SpriteSize);
     }
     if (!guarded)
