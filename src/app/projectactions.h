@@ -20,8 +20,8 @@ class QMessageBox;
 /// Creates, copies, deletes and imports whole assets of the open project.
 ///
 /// It looks the project up when it is asked for something, and does nothing without one. What it made or
-/// removed it tells by its signals, so that docks, tabs and menus can follow. Where a name is a copy of a
-/// name that the person chose, the person's dialog has checked it.
+/// removed it tells by its signals, so that docks, tabs and menus can follow. Names and sizes
+/// have been checked by the dialogs that asked for them.
 class ProjectActions : public QObject
 {
     Q_OBJECT

@@ -8,36 +8,31 @@
 #include "model/project.h"
 #include "model/spritebank.h"
 
+#include <QFileInfo>
+
+// What can fail is looked at first: creating an asset is announced, and cannot be taken back unseen.
+
 namespace {
 
-/// The bank if it was filled; otherwise it is taken away again, and with it the palette made for it.
-SpriteBank *keepIf(bool filled, Project &project, SpriteBank *bank, bool newPalette)
+/// Whether a new bank, which has one sprite, takes this many more.
+bool fits(qint64 sprites)
 {
-    if (filled)
-        return bank;
-    const QUuid palette = bank->paletteId();
-    project.deleteSpriteBank(bank->id());
-    if (newPalette)
-        project.deletePalette(palette);
-    return nullptr;
+    return sprites > 0 && sprites < SpriteBank::MaxCount;
 }
 
-SpriteBank *importSliced(Project &project, const SpriteImport &import, QWidget *parent)
+SpriteBank *importSliced(Project &project, const SpriteImport &import, const QImage &picture, QWidget *parent)
 {
     const QPointer<Project> guarded = &project; // events are handled while the picture is cut
-    NxImage picture;
-    if (!picture.load(import.file))
-        return nullptr;
-    ImageSlicer slicer(picture.image());
+    ImageSlicer slicer(picture);
     {
         SlicingProgress progress(slicer, parent);
         slicer.sliceSprites(SpriteBank::SpriteSize);
     }
-    if (!guarded)
+    if (!guarded || !fits(slicer.pieceCount()))
         return nullptr;
     const QUuid palette = createPaletteOf(project, import.name, slicer.colours())->id();
     SpriteBank *bank = project.createSpriteBank(import.depth, import.name, palette);
-    return keepIf(bank->importPieces(slicer) > 0, project, bank, true);
+    return bank->importPieces(slicer) > 0 ? bank : nullptr;
 }
 
 } // namespace
@@ -45,18 +40,28 @@ SpriteBank *importSliced(Project &project, const SpriteImport &import, QWidget *
 SpriteBank *importSpritePicture(Project &project, const SpriteImport &import, QWidget *parent)
 {
     const WaitCursor wait;
+    NxImage picture;
+    if (!picture.load(import.file))
+        return nullptr;
     if (import.paletteId.isNull())
-        return importSliced(project, import, parent);
+        return importSliced(project, import, picture.image(), parent);
+    const QSize size = picture.image().size();
+    const bool usable = fits(qint64(size.width() / SpriteBank::SpriteSize) * (size.height() / SpriteBank::SpriteSize));
+    if (!usable || !project.palette(import.paletteId))
+        return nullptr;
     SpriteBank *bank = project.createSpriteBank(import.depth, import.name, import.paletteId);
-    return keepIf(bank->importImageFile(import.file) > 1, project, bank, false);
+    return bank->importImageFile(import.file) > 1 ? bank : nullptr;
 }
 
 SpriteBank *importSpriteData(Project &project, const SpriteImport &import)
 {
+    const QFileInfo file(import.file);
+    if (!file.isReadable() || !fits(file.size() / SpriteBank::SpriteBytes))
+        return nullptr;
     const WaitCursor wait;
-    const bool newPalette = import.paletteId.isNull();
-    const QUuid palette =
-        newPalette ? project.createPalette(CreateAction::DefaultNext, import.name)->id() : import.paletteId;
+    const QUuid palette = import.paletteId.isNull()
+        ? project.createPalette(CreateAction::DefaultNext, import.name)->id()
+        : import.paletteId;
     SpriteBank *bank = project.createSpriteBank(import.depth, import.name, palette);
-    return keepIf(bank->importSpr(import.file) && bank->count() > 1, project, bank, newPalette);
+    return bank->importSpr(import.file) ? bank : nullptr;
 }
