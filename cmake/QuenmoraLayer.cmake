@@ -1,3 +1,18 @@
+# Lets automoc look at the headers again when there are others than at the last configuration: by itself it
+# notices changed headers, but no new ones.
+function(quenmora_rescan_headers target)
+    set(known_file ${CMAKE_CURRENT_BINARY_DIR}/${target}_headers.txt)
+    set(known "")
+    if(EXISTS ${known_file})
+        file(READ ${known_file} known)
+    endif()
+    list(FILTER ARGN INCLUDE REGEX "\\.h$")
+    if(NOT "${ARGN}" STREQUAL "${known}")
+        file(REMOVE ${CMAKE_CURRENT_BINARY_DIR}/${target}_autogen/timestamp)
+        file(WRITE ${known_file} "${ARGN}")
+    endif()
+endfunction()
+
 # quenmora_layer(NAME LINK targets... [PCH headers...] [EXCLUDE regex])
 #
 # Makes the static library quenmora_NAME of every source below the current folder. It may link
@@ -13,6 +28,7 @@ function(quenmora_layer name)
     list(FILTER compiled INCLUDE REGEX "\\.cpp$")
     if(compiled)
         add_library(quenmora_${name} STATIC ${sources})
+        quenmora_rescan_headers(quenmora_${name} ${sources})
         target_link_libraries(quenmora_${name} PUBLIC quenmora_settings ${LAYER_LINK})
         if(LAYER_PCH)
             target_precompile_headers(quenmora_${name} PRIVATE ${LAYER_PCH})
