@@ -19,6 +19,7 @@
 #include "editors/canvas/tilewindow.h"
 #include "editors/map/blockselectorwindow.h"
 #include "editors/map/mapeditorview.h"
+#include "editors/map/mapgrid.h"
 #include "editors/map/mappreferences.h"
 #include "editors/map/mapspriteswindow.h"
 #include "editors/palette/palettewindow.h"
@@ -291,6 +292,7 @@ void DocumentController::connectMapEditor(MapEditor::View *editor)
     using MapEditor::View;
     if (!editor)
         return;
+    m_views.tilePicker->setSelectedIndex(editor->grid()->currentTileIndex());
     m_mapConnections = {
         connect(m_views.tilePicker, &TilePickerTool::selectedTileChanged, editor, &View::setTileIndex),
         connect(editor, &View::tilePicked, m_views.tilePicker, &TilePickerTool::setSelectedIndex),
@@ -320,6 +322,8 @@ void DocumentController::offerSpriteBanks()
 void DocumentController::showSprites(const QPointer<SpriteBank> &bank)
 {
     m_views.spriteEditor->setSprites(bank);
+    if (bank)
+        m_views.mapSprites->showBank(bank->id());
     m_views.menuBar->spriteMenu()->setSpriteBank(bank);
 }
 

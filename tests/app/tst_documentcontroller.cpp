@@ -7,6 +7,10 @@
 #include "app/menus/tilemenu.h"
 #include "editors/canvas/canvas.h"
 #include "editors/canvas/imageeditorview.h"
+#include "editors/canvas/tilepickergrid.h"
+#include "editors/map/mapeditortoolbar.h"
+#include "editors/map/mapeditorview.h"
+#include "editors/map/mapgrid.h"
 #include "editors/palette/palettegrid.h"
 #include "model/image.h"
 #include "model/map.h"
@@ -15,6 +19,7 @@
 #include "model/tileset.h"
 #include "support/testmain.h"
 
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QUndoStack>
@@ -57,6 +62,7 @@ private slots:
 
     void opensOneTabADocument();
     void tellsDocksAndMenusWhatIsActive();
+    void servesTheMapEditorInFront();
     void ignoresUnknownAssets();
     void opensANewImage();
     void keepsUndoHistoryAsLongAsTheAsset();
@@ -153,6 +159,31 @@ void TestDocumentController::tellsDocksAndMenusWhatIsActive()
     tabs()->setCurrentIndex(tabs()->indexOfDocument({}));
     QVERIFY(!menus->spriteMenu()->spriteBank());
     QCOMPARE(views.palette->palette(), project()->scratchPalette());
+}
+
+void TestDocumentController::servesTheMapEditorInFront()
+{
+    const DocumentViews &views = m_window->views();
+    const QPointer<Map> second = project()->createMap("Second", m_assets->tiles->id(), {40, 32});
+    documents()->setActiveMap(m_assets->map->id());
+    documents()->setActiveMap(second->id());
+    const QList<MapEditor::View *> editors = tabs()->mapEditors();
+    QCOMPARE(editors.size(), 2);
+    emit views.tilePicker->selectedTileChanged(7);
+    QCOMPARE(editors[1]->grid()->currentTileIndex(), 7);
+    QCOMPARE(editors[0]->grid()->currentTileIndex(), 0);
+    tabs()->setCurrentWidget(editors[0]);
+    QCOMPARE(views.tilePicker->grid()->selectedIndex(), 0);
+    emit editors[0]->tilePicked(3);
+    QCOMPARE(views.tilePicker->grid()->selectedIndex(), 3);
+    tabs()->setCurrentWidget(editors[1]);
+    QCOMPARE(views.tilePicker->grid()->selectedIndex(), 7);
+
+    emit views.tilePicker->tileDoubleClicked(5); // a number counted from 1
+    QCOMPARE(views.tileEditor->tileIndex(), 4);
+    QSignalSpy request(documents(), &DocumentController::createMapFromSelection);
+    emit editors[1]->createMapFromSelection(second->id(), {2, 3});
+    QCOMPARE(request.takeFirst(), (QVariantList{second->id(), QSize(2, 3)}));
 }
 
 void TestDocumentController::ignoresUnknownAssets()

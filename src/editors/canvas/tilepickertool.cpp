@@ -31,6 +31,8 @@ TilePickerTool::TilePickerTool(QWidget *parent)
 
 void TilePickerTool::setTileSet(const QPointer<TileSet> &tileSet)
 {
+    if (tileSet && tileSet == m_tileSet)
+        return; // and keep the selection
     if (m_tileSet)
         m_tileSet->disconnect(this);
     m_tileSet = tileSet;
