@@ -123,7 +123,7 @@ QObject *DocumentController::asset(const QUuid &id) const
 
 void DocumentController::openProject(Project *project)
 {
-    m_recorder = std::make_unique<EditRecorder>(project, [this](const QUuid &id) { return undoStackFor(id); });
+    m_recorder = std::make_unique<EditRecorder>(project, [this](const QUuid &id) { return recordingStackFor(id); });
     connect(project, &Project::imageCreated, this, [this](const QPointer<Image> &image) {
         if (image)
             setActiveImageEditor(image->id());
@@ -181,6 +181,12 @@ QUndoStack *DocumentController::undoStackFor(const QUuid &id)
 {
     QObject *owner = id.isNull() ? project() : asset(id);
     return owner ? m_stacks.stackFor(id, owner) : nullptr;
+}
+
+QUndoStack *DocumentController::recordingStackFor(const QUuid &id)
+{
+    QUndoStack *active = m_stacks.group()->activeStack();
+    return active ? active : undoStackFor(id);
 }
 
 // Activating assets

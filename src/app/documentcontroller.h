@@ -39,6 +39,9 @@ public:
     /// The undo stack of an asset of the project, made when first asked for; the null id stands for the
     /// scratch image.
     QUndoStack *undoStackFor(const QUuid &id);
+    /// The stack for a change that no editor of the asset made: that of the document in front, where undo
+    /// reaches it, or the asset's own when there is none.
+    QUndoStack *recordingStackFor(const QUuid &id);
     [[nodiscard]] QUndoGroup *undoGroup() { return m_stacks.group(); }
     /// Whether every undo stack is clean.
     [[nodiscard]] bool isClean() const { return m_stacks.isClean(); }

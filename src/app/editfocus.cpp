@@ -65,8 +65,8 @@ void EditFocus::followKeyboard(QWidget *widget)
         activate(m_views.tileEditor, tileSet->id());
     else if (sprites && holds(m_views.spriteEditor))
         activate(m_views.spriteEditor, sprites->id());
-    else if (palette && holds(m_views.palette))
-        activate(m_views.palette, palette->id());
+    else if (palette && holds(m_views.palette) && !m_undoGroup->activeStack())
+        activate(m_views.palette, palette->id()); // with no document in front, colours have steps of their own
     else if (m_views.tabs->isAncestorOf(widget))
         followTab();
 }

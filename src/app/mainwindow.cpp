@@ -128,7 +128,7 @@ void MainWindow::connectMenus()
 
 void MainWindow::connectActions()
 {
-    m_actions.setUndoStackProvider([this](const QUuid &id) { return m_documents.undoStackFor(id); });
+    m_actions.setUndoStackProvider([this](const QUuid &id) { return m_documents.recordingStackFor(id); });
     m_actions.serve(m_menuBar);
     connect(&m_actions, &ProjectActions::paletteReady, &m_documents, &DocumentController::setActivePalette);
     connect(&m_actions, &ProjectActions::tileSetReady, &m_documents, &DocumentController::setActiveTileSet);

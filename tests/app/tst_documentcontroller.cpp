@@ -19,6 +19,7 @@
 #include "model/tileset.h"
 #include "support/testmain.h"
 
+#include <QAction>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -293,8 +294,13 @@ void TestDocumentController::givesUndoAndClipboardToTheEditorInUse()
 
     documents()->setActivePalette(m_assets->imagePalette->id());
     views.palette->findChild<PaletteGrid *>()->setFocus();
-    QCOMPARE(group->activeStack(), documents()->undoStackFor(m_assets->imagePalette->id()));
-    QVERIFY(!clipboardEnabled());
+    // colours are undone in the document in front
+    QUndoStack *tileSteps = documents()->undoStackFor(m_assets->tiles->id());
+    QCOMPARE(group->activeStack(), tileSteps);
+    m_assets->imagePalette->setColour(3, Qt::red, false);
+    QCOMPARE(tileSteps->undoText(), QStringLiteral("Colour"));
+    group->createUndoAction(this)->trigger();
+    QCOMPARE(m_assets->imagePalette->rawColour(3), quint16(0x0301));
 
     documents()->setActiveSpriteEditor(m_assets->bank->id());
     QCOMPARE(group->activeStack(), documents()->undoStackFor(m_assets->bank->id()));
