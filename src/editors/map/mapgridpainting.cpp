@@ -17,6 +17,8 @@ namespace MapEditor {
 namespace {
 
 constexpr QColor GridLines(64, 64, 64);
+constexpr QColor LightGrey(208, 208, 208); ///< of outlines
+constexpr QColor DarkGrey(48, 48, 48);
 constexpr int StripHeight = 64; ///< of a part of the grid lines, in screen pixels
 
 /// A brush that repeats a square picture. Small ones are put together first: a brush is as slow as its picture is
@@ -139,17 +141,20 @@ void MapGrid::paintGridLines(QPainter &painter) const
 void MapGrid::paintOutline(QPainter &painter, const QRect &area)
 {
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(Qt::lightGray);
+    painter.setPen(LightGrey);
     painter.drawRect(area.adjusted(0, 0, -1, -1));
-    painter.setPen(Qt::darkGray);
+    painter.setPen(DarkGrey);
     painter.drawRect(area.adjusted(1, 1, -2, -2));
 }
 
 void MapGrid::paintStatus(QPainter &painter, qint64 milliseconds) const
 {
+    const QString text = QStringLiteral("  [%1:%2] %4ms  ").arg(m_hoverCell.x()).arg(m_hoverCell.y()).arg(milliseconds);
+    constexpr QPoint at(10, 10);
+    painter.setPen(Qt::black);
+    painter.drawText(at + QPoint(1, 1), text); // a shadow, so that it is seen on light ground
     painter.setPen(Qt::white);
-    painter.drawText(10, 10,
-                     QStringLiteral("  [%1:%2] %4ms  ").arg(m_hoverCell.x()).arg(m_hoverCell.y()).arg(milliseconds));
+    painter.drawText(at, text);
 }
 
 } // namespace MapEditor
