@@ -27,7 +27,7 @@ AnimationEditorWidget::AnimationEditorWidget(QWidget *parent)
         if (tileAnimation())
             tileAnimation()->setMapObjectType(type);
     });
-    setAnimation(nullptr);
+    buildPage();
 }
 
 void AnimationEditorWidget::setAnimation(TileAnimation *anim)

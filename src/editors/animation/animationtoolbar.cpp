@@ -10,7 +10,8 @@ namespace AnimationEditor {
 
 namespace {
 
-constexpr int NameWidth = 140;
+constexpr int LeastNameWidth = 80;
+constexpr int LargestNameWidth = 280;
 
 void showValue(QSpinBox *field, int value)
 {
@@ -26,9 +27,8 @@ AnimationToolBar::AnimationToolBar(const QString &widthToolTip, const QString &h
 {
     setMovable(false);
     setFloatable(false);
-    m_name->setMinimumWidth(NameWidth);
-    m_name->setMaximumWidth(2 * NameWidth);
-    m_name->setClearButtonEnabled(false);
+    m_name->setMinimumWidth(LeastNameWidth);
+    m_name->setMaximumWidth(LargestNameWidth);
     m_name->setToolTip(tr("The name of the animation"));
     addControl(tr("Name"), m_name);
     m_afterName = addSeparator();
@@ -59,6 +59,8 @@ void AnimationToolBar::addControl(const QString &label, QWidget *control, Place 
         control->setAccessibleName(QString(label).remove(u':'));
     }
     insertWidget(before, control);
+    if (before)
+        setTabOrder(m_name, control);
 }
 
 QSpinBox *AnimationToolBar::addNumber(const QString &label, const QString &toolTip, int minimum, int maximum)

@@ -12,6 +12,8 @@ namespace AnimationEditor {
 
 namespace {
 
+constexpr int LeastListWidth = 120;
+
 QWidget *titled(SectionHeader *header, QWidget *content)
 {
     auto *page = new QWidget;
@@ -36,6 +38,7 @@ AnimationView::AnimationView(AnimationListWidget *list, EditorWidget *editor, QW
     setStretchFactor(0, 0);
     setStretchFactor(1, 1);
     setChildrenCollapsible(false);
+    m_list->setMinimumWidth(LeastListWidth);
     setFocusProxy(m_list);
 
     connect(m_list, &AnimationListWidget::selectedItemChanged, this, &AnimationView::showAnimation);

@@ -46,13 +46,12 @@ EditorWidget::EditorWidget(AnimationToolBar *toolBar, const QString &indexName, 
     for (const ToolButton button : {RotateCW, Flip, Mirror})
         m_tools->addEntry(toggle(button));
     m_index = addCellNumber(indexName, tr("The number in the selected cell"), 0);
-    buildPage();
     connectParts();
-    setAnimation(nullptr);
 }
 
 void EditorWidget::buildPage()
 {
+    // what is laid out first is reached first by the keyboard
     auto *tools = new QHBoxLayout;
     tools->setContentsMargins(0, 0, 6, 0);
     tools->addWidget(m_tools, 1);
@@ -68,17 +67,19 @@ void EditorWidget::buildPage()
     layout->addLayout(tools);
     layout->addWidget(m_scroller, 1);
     layout->addWidget(m_control);
+    setAnimation(nullptr);
 }
 
 QSpinBox *EditorWidget::addCellNumber(const QString &label, const QString &toolTip, int maximum)
 {
-    auto *number = new QSpinBox(this);
+    auto *number = new QSpinBox;
     number->setRange(0, maximum);
     number->setToolTip(toolTip);
     number->setAccessibleName(QString(label).remove(u':'));
     number->setKeyboardTracking(false);
-    auto *text = new QLabel(label, this);
+    auto *text = new QLabel(label);
     text->setBuddy(number);
+    m_cellNumbers->addSpacing(6);
     m_cellNumbers->addWidget(text);
     m_cellNumbers->addWidget(number);
     return number;

@@ -50,6 +50,8 @@ protected:
 
     /// A field for a number of the selected cell, beside the tools.
     QSpinBox *addCellNumber(const QString &label, const QString &toolTip, int maximum);
+    /// Lays the parts out. To be called once, by the subclass's constructor, when it has added its own.
+    void buildPage();
 
     /// Shows all properties of the animation; called whenever one may have changed.
     virtual void showProperties();
@@ -68,7 +70,6 @@ protected:
     static void showNumber(QSpinBox *field, int number);
 
 private:
-    void buildPage();
     void connectParts();
     void refresh();
     void selectionChanged();

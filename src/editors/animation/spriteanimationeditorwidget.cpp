@@ -13,6 +13,7 @@ AnimationEditorWidget::AnimationEditorWidget(QWidget *parent)
                    tr("Sprite:"), parent)
 {
     control()->action(AnimationControlWidget::PingPong)->setEnabled(true);
+    buildPage();
 }
 
 void AnimationEditorWidget::togglePause(bool checked)
