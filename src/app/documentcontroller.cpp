@@ -343,7 +343,10 @@ void DocumentController::setActiveSpriteEditor(QUuid spriteBankId)
     m_views.spriteEditor->raise();
     if (!showTab(spriteBankId)) {
         SpriteEditor::View *editor = m_views.tabs->openSpriteEditor(bank);
-        connect(editor, &SpriteEditor::View::spriteDoubleClicked, this, &DocumentController::editSprite);
+        connect(editor, &SpriteEditor::View::spriteDoubleClicked, this, [this, spriteBankId](int index) {
+            setActiveSpriteEditor(spriteBankId); // the dock may show another bank
+            editSprite(index);
+        });
         closeWith(bank, editor);
     }
     showPalette(bank->palette());
@@ -357,7 +360,10 @@ void DocumentController::setActiveBlockEditor(QUuid blocksId)
     const QScopedValueRollback activating(m_activating, true);
     if (!showTab(blocksId)) {
         BlockEditor::View *editor = m_views.tabs->openBlockEditor(blocks);
-        connect(editor, &BlockEditor::View::tileDoubleClicked, this, &DocumentController::editTile);
+        connect(editor, &BlockEditor::View::tileDoubleClicked, this, [this, blocksId](int number) {
+            setActiveBlockEditor(blocksId); // the dock may show another tile set
+            editTile(number);
+        });
         closeWith(blocks, editor);
     }
     setActiveTileSet(blocks->tileSet() ? blocks->tileSet()->id() : QUuid());

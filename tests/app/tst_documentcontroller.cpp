@@ -5,6 +5,8 @@
 #include "app/menus/palettemenu.h"
 #include "app/menus/spritemenu.h"
 #include "app/menus/tilemenu.h"
+#include "editors/animation/blockeditorview.h"
+#include "editors/animation/spriteeditorview.h"
 #include "editors/canvas/canvas.h"
 #include "editors/canvas/imageeditorview.h"
 #include "editors/canvas/tilepickergrid.h"
@@ -64,6 +66,7 @@ private slots:
     void opensOneTabADocument();
     void tellsDocksAndMenusWhatIsActive();
     void servesTheMapEditorInFront();
+    void editsTheTileOrSpriteOfADoubleClickedCell();
     void ignoresUnknownAssets();
     void opensANewImage();
     void keepsUndoHistoryAsLongAsTheAsset();
@@ -185,6 +188,27 @@ void TestDocumentController::servesTheMapEditorInFront()
     QSignalSpy request(documents(), &DocumentController::createMapFromSelection);
     emit editors[1]->createMapFromSelection(second->id(), {2, 3});
     QCOMPARE(request.takeFirst(), (QVariantList{second->id(), QSize(2, 3)}));
+}
+
+void TestDocumentController::editsTheTileOrSpriteOfADoubleClickedCell()
+{
+    const DocumentViews &views = m_window->views();
+    documents()->setActiveBlockEditor(m_assets->blocks->id());
+    auto *blocks = qobject_cast<BlockEditor::View *>(tabs()->currentWidget());
+    QVERIFY(blocks);
+    documents()->setActiveTileSet(project()->createTileSet("Others", m_assets->tilePalette->id())->id());
+    emit blocks->tileDoubleClicked(9); // counted from 1
+    QCOMPARE(views.tileEditor->tileSet(), m_assets->tiles);
+    QCOMPARE(views.tileEditor->tileIndex(), 8);
+
+    documents()->setActiveSpriteEditor(m_assets->bank->id());
+    auto *sprites = qobject_cast<SpriteEditor::View *>(tabs()->currentWidget());
+    QVERIFY(sprites);
+    m_assets->bank->addSprite();
+    views.spriteEditor->setSprites(nullptr);
+    emit sprites->spriteDoubleClicked(1);
+    QCOMPARE(views.spriteEditor->sprites(), m_assets->bank);
+    QCOMPARE(views.spriteEditor->spriteIndex(), 1);
 }
 
 void TestDocumentController::ignoresUnknownAssets()
