@@ -208,8 +208,10 @@ void FrameEditorWidget::paintEvent(QPaintEvent *event)
         return;
     }
     painter.fillRect(event->rect(), Qt::black);
-    const QRect exposed(event->rect().topLeft() / cellSize(), event->rect().bottomRight() / cellSize());
-    const QRect cells = exposed.adjusted(-1, -1, 1, 1) & QRect(QPoint(), gridSize());
+    const QRect exposed = event->rect();
+    const QPoint first(exposed.left() / cellSize(), exposed.top() / cellSize());
+    const QPoint last(exposed.right() / cellSize(), exposed.bottom() / cellSize());
+    const QRect cells = QRect(first, last) & QRect(QPoint(), gridSize());
     for (int row = cells.top(); m_renderer && row <= cells.bottom(); ++row) {
         for (int column = cells.left(); column <= cells.right(); ++column) {
             const QImage picture = m_renderer(shown->cell(row, column));
