@@ -73,6 +73,7 @@ void SpriteList::setSprites(const QPointer<SpriteBank> &sprites)
     if (m_sprites) {
         connect(m_sprites, &SpriteBank::countChanged, this, &SpriteList::refresh);
         connect(m_sprites, &SpriteBank::imageChanged, this, qOverload<>(&QWidget::update));
+        connect(m_sprites, &SpriteBank::coloursChanged, this, qOverload<>(&QWidget::update));
         connect(m_sprites, &SpriteBank::restored, this, &SpriteList::refresh);
         connect(m_sprites, &QObject::destroyed, this, [this] { setSprites(nullptr); });
     }
