@@ -44,6 +44,7 @@ MapSpritesWindow::MapSpritesWindow(QWidget *parent)
     m_banks->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
 
     m_model->setPictureExtent(PictureExtent);
+    m_sprites->setObjectName(QStringLiteral("sprites"));
     m_sprites->setModel(m_model);
     m_sprites->setViewMode(QListView::IconMode);
     m_sprites->setMovement(QListView::Static);
@@ -58,8 +59,11 @@ MapSpritesWindow::MapSpritesWindow(QWidget *parent)
     parts->setChildrenCollapsible(false);
     parts->addWidget(m_animationsPart);
     parts->addWidget(withHeader(tr("Sprites"), m_sprites));
+    parts->setStretchFactor(0, 1);
+    parts->setStretchFactor(1, 2);
     auto *page = new QWidget;
     auto *layout = new QVBoxLayout(page);
+    layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_banks);
     layout->addWidget(parts, 1);
     setContent(page);
