@@ -2,18 +2,12 @@
 #include "editors/map/exportdialog.h"
 #include "editors/map/mapanimator.h"
 #include "editors/map/mapeditortoolbar.h"
-#include "editors/map/mapeditorview.h"
-#include "editors/map/mapgrid.h"
 #include "editors/map/mappreferences.h"
-#include "editors/map/maptoolpalette.h"
 #include "editors/map/resizedialog.h"
 #include "editors/map/resizepreview.h"
 #include "editors/map/spriteproperties.h"
 #include "editors/map/spritepropertiespopover.h"
-#include "model/mapobjects.h"
-#include "model/palette.h"
-#include "model/project.h"
-#include "model/tileset.h"
+#include "mapviewfixture.h"
 #include "support/testmain.h"
 #include "ui/scrollbar.h"
 
@@ -27,67 +21,13 @@
 #include <QSignalSpy>
 #include <QSpinBox>
 #include <QTabWidget>
-#include <QTest>
-#include <QUndoStack>
 
 using namespace Quenmora::Ui;
-using MapEditor::MapGrid;
 using MapEditor::MapToolPalette;
 using MapEditor::ToolBar;
 using MapEditor::View;
-using TileData = TileMap::TileData;
 
 namespace {
-
-/// A view of a map of 20 × 16 cells with a sprite at pixel (40, 40) and a block animation of 2 × 1 cells.
-struct Fixture
-{
-    Project project;
-    QPointer<Palette> palette = project.createPalette(CreateAction::DefaultNext, QStringLiteral("Colours"));
-    QPointer<TileSet> tiles = project.createTileSet(QStringLiteral("Tiles"), palette->id(), 16);
-    QPointer<MapObjects> blocks = project.createBlockList(QStringLiteral("Blocks"), tiles->id());
-    QPointer<TileAnimation> animation = blocks->createBoundTileAnimation(QStringLiteral("Torch"));
-    QPointer<SpriteBank> bank = project.createSpriteBank(Quenmora::EightBit, QStringLiteral("Bank"), palette->id());
-    QPointer<Map> map = project.createMap(QStringLiteral("Level"), tiles->id(), {20, 16});
-    QUndoStack stack;
-    View view{map};
-    MapGrid *grid = view.grid();
-    MapToolPalette *palette_ = view.toolPalette();
-
-    Fixture()
-    {
-        animation->setSize({2, 1});
-        for (int frame = 0; frame < 2; ++frame)
-            animation->addFrame()->setIndex(0, 0, 1 + frame);
-        animation->setDelay(1);
-        map->addSprite(sprite({40, 40}));
-        view.setUndoStack(&stack);
-        view.setSpriteBanks({bank});
-        view.resize(500, 400);
-        view.show();
-        view.activateWindow(); // shortcuts work in the active window
-        static_cast<void>(QTest::qWaitForWindowActive(&view));
-        grid->setFocus();
-    }
-
-    Map::PlacedSprite sprite(QPoint at) const
-    {
-        Map::PlacedSprite placed;
-        placed.bank = bank->id();
-        placed.x = at.x();
-        placed.y = at.y();
-        return placed;
-    }
-
-    QAction *action(ToolButton button) const { return view.toolPalette()->action(button); }
-    QPoint cell(int x, int y) const { return grid->viewport().rectOfCells({x, y, 1, 1}).center(); }
-    /// Clicks on the sprite with the sprite tool, which opens its properties.
-    void clickSprite()
-    {
-        grid->setMode(PlaceSprite);
-        QTest::mouseClick(grid, Qt::LeftButton, Qt::NoModifier, grid->spriteRect(0).center());
-    }
-};
 
 template <typename Widget>
 Widget *labelled(const QWidget &form, const QString &label)
@@ -103,15 +43,6 @@ Widget *labelled(const QWidget &form, const QString &label)
     return nullptr;
 }
 
-/// The size texts and tool bar state are told apart by the tool tips.
-template <typename Widget>
-QList<Widget *> withToolTip(const QWidget &parent, const QString &toolTip)
-{
-    QList<Widget *> found = parent.findChildren<Widget *>();
-    found.removeIf([&toolTip](const Widget *widget) { return widget->toolTip() != toolTip; });
-    return found;
-}
-
 } // namespace
 
 class TestMapView : public QObject
@@ -123,17 +54,10 @@ private slots:
     void paletteActsOnTheMap_data();
     void paletteActsOnTheMap();
     void toolsAreTheGrids();
-    void toolBarStartsAsListed_data();
-    void toolBarStartsAsListed();
-    void toolBarTellsItsChanges_data();
-    void toolBarTellsItsChanges();
-    void toolBarServesTheAttachedView();
-    void toolBarKeepsTheMapsSettings();
     void pickedTilesAreTakenOver();
     void docksChooseTheTool();
     void keysCancelAndDelete();
     void scrollBarsFollowTheGrid();
-    void rowsAndColumnsChangeTheSizeText();
     void tabFollowsTheName();
     void propertiesEditTheSprite_data();
     void propertiesEditTheSprite();
@@ -204,36 +128,36 @@ void TestMapView::paletteIsAsListed()
 
 void TestMapView::paletteActsOnTheMap_data()
 {
-    using Check = std::function<bool(const Fixture &)>;
+    using Check = std::function<bool(const MapViewFixture &)>;
     QTest::addColumn<Qt::Key>("key");
     QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
     QTest::addColumn<Check>("done");
     const auto row = [](const char *name, Qt::Key key, const Check &done, Qt::KeyboardModifiers modifiers = {}) {
         QTest::newRow(name) << key << modifiers << done;
     };
-    row("select", Qt::Key_S, [](const Fixture &f) { return f.grid->mode() == Select; });
+    row("select", Qt::Key_S, [](const MapViewFixture &f) { return f.grid->mode() == Select; });
     row(
-        "rotated", Qt::Key_R, [](const Fixture &f) { return f.grid->isRotated(); }, Qt::ControlModifier);
+        "rotated", Qt::Key_R, [](const MapViewFixture &f) { return f.grid->isRotated(); }, Qt::ControlModifier);
     row(
-        "flipped", Qt::Key_F, [](const Fixture &f) { return f.grid->isFlipped(); }, Qt::ShiftModifier);
+        "flipped", Qt::Key_F, [](const MapViewFixture &f) { return f.grid->isFlipped(); }, Qt::ShiftModifier);
     row(
-        "mirrored", Qt::Key_M, [](const Fixture &f) { return f.grid->isMirrored(); }, Qt::ShiftModifier);
-    row("grid", Qt::Key_G, [](const Fixture &f) { return f.grid->isGridVisible() && f.map->gridVisible(); });
-    row("down", Qt::Key_Down, [](const Fixture &f) { return f.grid->viewport().scroll == QPoint(2, 3); });
-    row("right", Qt::Key_Right, [](const Fixture &f) { return f.grid->viewport().scroll == QPoint(3, 2); });
-    row("up", Qt::Key_Up, [](const Fixture &f) { return f.grid->viewport().scroll == QPoint(2, 1); });
-    row("left", Qt::Key_Left, [](const Fixture &f) { return f.grid->viewport().scroll == QPoint(1, 2); });
-    row("zoom out", Qt::Key_Minus, [](const Fixture &f) { return f.grid->viewport().zoomFactor == 3; });
-    row("zoom in", Qt::Key_Equal, [](const Fixture &f) { return f.grid->viewport().zoomFactor == 5; });
-    row("zoom in, plus", Qt::Key_Plus, [](const Fixture &f) { return f.grid->viewport().zoomFactor == 5; });
+        "mirrored", Qt::Key_M, [](const MapViewFixture &f) { return f.grid->isMirrored(); }, Qt::ShiftModifier);
+    row("grid", Qt::Key_G, [](const MapViewFixture &f) { return f.grid->isGridVisible() && f.map->gridVisible(); });
+    row("down", Qt::Key_Down, [](const MapViewFixture &f) { return f.grid->viewport().scroll == QPoint(2, 3); });
+    row("right", Qt::Key_Right, [](const MapViewFixture &f) { return f.grid->viewport().scroll == QPoint(3, 2); });
+    row("up", Qt::Key_Up, [](const MapViewFixture &f) { return f.grid->viewport().scroll == QPoint(2, 1); });
+    row("left", Qt::Key_Left, [](const MapViewFixture &f) { return f.grid->viewport().scroll == QPoint(1, 2); });
+    row("zoom out", Qt::Key_Minus, [](const MapViewFixture &f) { return f.grid->viewport().zoomFactor == 3; });
+    row("zoom in", Qt::Key_Equal, [](const MapViewFixture &f) { return f.grid->viewport().zoomFactor == 5; });
+    row("zoom in, plus", Qt::Key_Plus, [](const MapViewFixture &f) { return f.grid->viewport().zoomFactor == 5; });
 }
 
 void TestMapView::paletteActsOnTheMap()
 {
     QFETCH(Qt::Key, key);
     QFETCH(Qt::KeyboardModifiers, modifiers);
-    QFETCH(std::function<bool(const Fixture &)>, done);
-    Fixture f;
+    QFETCH(std::function<bool(const MapViewFixture &)>, done);
+    MapViewFixture f;
     f.grid->setHorizontalScrollPosition(2);
     f.grid->setVerticalScrollPosition(2);
     QVERIFY(!done(f));
@@ -244,7 +168,7 @@ void TestMapView::paletteActsOnTheMap()
 
 void TestMapView::toolsAreTheGrids()
 {
-    Fixture f;
+    MapViewFixture f;
     f.view.toolPaletteClicked(ExpandToFit);
     QCOMPARE(f.grid->viewport().cellSize, std::min(f.grid->width() / 20, f.grid->height() / 16));
     f.view.toolPaletteClicked(ToggleViewport, true);
@@ -262,129 +186,9 @@ void TestMapView::toolsAreTheGrids()
     QCOMPARE(f.grid->mode(), Draw);
 }
 
-void TestMapView::toolBarStartsAsListed_data()
-{
-    QTest::addColumn<QString>("toolTip");
-    QTest::addColumn<QList<int>>("values"); // minimum, maximum, value of each spin box
-    QTest::addColumn<QString>("special"); // the text of the minimum
-    QTest::newRow("viewport") << "Size in cells of the viewport" << QList{1, 1000, 40, 1, 1000, 32} << "";
-    QTest::newRow("background") << "Tile index to be used as a background" << QList{-1, 1024, -1} << "None";
-    QTest::newRow("transparency") << "Sets the transparency index of the tile set (0-15) or off" << QList{-1, 15, -1}
-                                  << "Off";
-    QTest::newRow("snap") << "Sets the snap to grid size" << QList{1, 16, 1} << "Off";
-}
-
-void TestMapView::toolBarStartsAsListed()
-{
-    QFETCH(QString, toolTip);
-    QFETCH(QString, special);
-    ToolBar toolBar;
-    QList<int> values;
-    for (const QSpinBox *box : withToolTip<QSpinBox>(toolBar, toolTip)) {
-        values << box->minimum() << box->maximum() << box->value();
-        QCOMPARE(box->specialValueText(), special);
-    }
-    QTEST(values, "values");
-}
-
-void TestMapView::toolBarTellsItsChanges_data()
-{
-    QTest::addColumn<QString>("toolTip");
-    QTest::addColumn<int>("value");
-    QTest::addColumn<QByteArray>("signal");
-    QTest::addColumn<QVariant>("argument");
-    const auto row = [](const char *toolTip, int value, const char *signal, const QVariant &argument) {
-        QTest::newRow(signal) << toolTip << value << QByteArray(signal) << argument;
-    };
-    row("Show or hide the tile layer", 0, "mapVisibilityChanged(bool)", false);
-    row("Show or hide the object layer", 0, "objectVisibilityChanged(bool)", false);
-    row("Show or hide the sprite layer", 0, "spriteVisibilityChanged(bool)", false);
-    row("Size in cells of the viewport", 32, "viewPortChanged(QSize)", QSize(32, 32));
-    row("Tile index to be used as a background", 7, "backgroundTileIndexChanged(int)", 7);
-    row("Sets the transparency index of the tile set (0-15) or off", 0, "transparencyIndexChanged(int)", 0);
-    row("Sets the snap to grid size", 4, "snapToValueChanged(int)", 4);
-}
-
-void TestMapView::toolBarTellsItsChanges()
-{
-    QFETCH(QString, toolTip);
-    QFETCH(int, value);
-    QFETCH(QByteArray, signal);
-    QFETCH(QVariant, argument);
-    ToolBar toolBar;
-    QSignalSpy spy(&toolBar, QByteArray(QByteArray::number(QSIGNAL_CODE) + signal).constData());
-    QVERIFY(spy.isValid());
-    const QList<QSpinBox *> boxes = withToolTip<QSpinBox>(toolBar, toolTip);
-    if (!boxes.isEmpty()) {
-        boxes.first()->setValue(value);
-    } else {
-        for (QAction *action : toolBar.actions()) {
-            if (action->toolTip() == toolTip)
-                action->trigger();
-        }
-    }
-    QCOMPARE(spy, (QList<QVariantList>{{argument}}));
-}
-
-void TestMapView::toolBarServesTheAttachedView()
-{
-    Fixture first;
-    Fixture second;
-    second.map->resize({30, 2});
-    ToolBar toolBar;
-    QSignalSpy transparency(&toolBar, &ToolBar::transparencyIndexChanged);
-    first.view.attachToolBar(&toolBar);
-    QCOMPARE(toolBar.sizeText(), QStringLiteral("20x16 (640 bytes)"));
-    QVERIFY(!toolBar.actions().at(1)->isChecked()); // the object layer of a new map is hidden
-    withToolTip<QSpinBox>(toolBar, "Sets the snap to grid size").first()->setValue(4);
-    withToolTip<QSpinBox>(toolBar, "Size in cells of the viewport").first()->setValue(10);
-    toolBar.actions().at(0)->trigger();
-    QCOMPARE(first.grid->viewport().snap, 4);
-    QVERIFY(!first.map->tileLayer()->isVisible());
-    first.view.toolPaletteClicked(ToggleViewport, true);
-    QCOMPARE(first.grid->viewport().viewportSize, QSize(10, 32));
-
-    first.view.detachToolBar();
-    second.view.attachToolBar(&toolBar);
-    QVERIFY(toolBar.actions().at(0)->isChecked());
-    QCOMPARE(toolBar.viewport(), QSize(40, 32));
-    withToolTip<QSpinBox>(toolBar, "Sets the snap to grid size").first()->setValue(2);
-    toolBar.actions().at(2)->trigger();
-    QCOMPARE(first.grid->viewport().snap, 4);
-    QVERIFY(first.map->spriteLayerVisible());
-    QCOMPARE(second.grid->viewport().snap, 2);
-    QVERIFY(!second.map->spriteLayerVisible());
-
-    second.view.detachToolBar();
-    first.view.attachToolBar(&toolBar);
-    QVERIFY(!toolBar.actions().at(0)->isChecked());
-    QCOMPARE(toolBar.viewport(), QSize(10, 32));
-    QCOMPARE(transparency.count(), 0);
-}
-
-void TestMapView::toolBarKeepsTheMapsSettings()
-{
-    Fixture f;
-    ToolBar toolBar;
-    f.view.attachToolBar(&toolBar);
-    auto *transparency =
-        withToolTip<QSpinBox>(toolBar, "Sets the transparency index of the tile set (0-15) or off").first();
-    transparency->setValue(3);
-    withToolTip<QSpinBox>(toolBar, "Tile index to be used as a background").first()->setValue(5);
-    QCOMPARE(f.grid->transparencyIndex(), 3);
-    QCOMPARE(f.map->tileTransparencyIndex(), 3);
-    QCOMPARE(f.map->backgroundTileIndex(), 5);
-    const View reopened(f.map);
-    QCOMPARE(reopened.grid()->transparencyIndex(), 3);
-
-    transparency->setValue(-1);
-    QCOMPARE(transparency->text(), QStringLiteral("Off"));
-    QCOMPARE(f.grid->transparencyIndex(), -1);
-}
-
 void TestMapView::pickedTilesAreTakenOver()
 {
-    Fixture f;
+    MapViewFixture f;
     f.map->setTile({2, 3}, {.index = 7, .rotate = true, .mirror = true, .used = true});
     f.action(Flip)->trigger();
     QSignalSpy picked(&f.view, &View::tilePicked);
@@ -404,18 +208,18 @@ void TestMapView::pickedTilesAreTakenOver()
 
 void TestMapView::docksChooseTheTool()
 {
-    Fixture f;
+    MapViewFixture f;
     QSignalSpy animations(&f.view, &View::placeAnimModeEnabled);
     QSignalSpy sprites(&f.view, &View::placeSpriteModeEnabled);
     f.view.setTileIndex(4);
     QCOMPARE(f.grid->currentTileIndex(), 4);
     f.view.setMapObject(f.animation);
     QCOMPARE(f.grid->mode(), PlaceAnim);
-    QCOMPARE(f.palette_->mode(), PlaceAnim);
+    QCOMPARE(f.toolPalette->mode(), PlaceAnim);
     QVERIFY(f.map->objectLayer()->isVisible()); // or it could not be placed
     QCOMPARE(animations.count(), 1);
     f.view.setSingleSprite(f.bank->id(), 0);
-    QCOMPARE(f.palette_->mode(), PlaceSprite);
+    QCOMPARE(f.toolPalette->mode(), PlaceSprite);
     QCOMPARE(f.grid->spriteTemplate()->bank, f.bank->id());
     const QPointer<SpriteAnim> run = f.bank->newAnimation();
     f.view.setSpriteAnimation(run);
@@ -427,7 +231,7 @@ void TestMapView::docksChooseTheTool()
 
 void TestMapView::keysCancelAndDelete()
 {
-    Fixture f;
+    MapViewFixture f;
     f.map->setTile({0, 0}, {.index = 5, .used = true});
     f.map->objectLayer()->setVisible(true);
     f.map->placeAnimation(f.animation, {0, 2});
@@ -452,7 +256,7 @@ void TestMapView::keysCancelAndDelete()
 
 void TestMapView::scrollBarsFollowTheGrid()
 {
-    Fixture f;
+    MapViewFixture f;
     const QList<ScrollBar *> bars = f.view.findChildren<ScrollBar *>();
     ScrollBar *vertical = bars.at(bars.at(0)->orientation() == Qt::Vertical ? 0 : 1);
     ScrollBar *horizontal = bars.at(bars.at(0)->orientation() == Qt::Vertical ? 1 : 0);
@@ -470,27 +274,9 @@ void TestMapView::scrollBarsFollowTheGrid()
     QCOMPARE(f.grid->viewport().scroll, QPoint(0, 0));
 }
 
-void TestMapView::rowsAndColumnsChangeTheSizeText()
-{
-    Fixture f;
-    ToolBar toolBar;
-    f.view.attachToolBar(&toolBar);
-    f.view.addRow(Quenmora::Begin);
-    QCOMPARE(toolBar.sizeText(), QStringLiteral("20x17 (680 bytes)"));
-    QCOMPARE(f.map->sprites().at(0).y, 48);
-    f.view.addColumn(Quenmora::End);
-    QCOMPARE(f.view.sizeText(), QStringLiteral("21x17 (714 bytes)"));
-    f.view.removeRow(Quenmora::Begin);
-    f.view.removeColumn(Quenmora::End);
-    QCOMPARE(toolBar.sizeText(), QStringLiteral("20x16 (640 bytes)"));
-    f.stack.undo();
-    QCOMPARE(toolBar.sizeText(), QStringLiteral("21x16 (672 bytes)"));
-    QCOMPARE(f.stack.count(), 4);
-}
-
 void TestMapView::tabFollowsTheName()
 {
-    Fixture f;
+    MapViewFixture f;
     QTabWidget tabs;
     tabs.addTab(new QWidget, "Other");
     auto *view = new View(f.map);
@@ -533,7 +319,7 @@ void TestMapView::propertiesEditTheSprite()
 {
     QFETCH(std::function<void(const QWidget &)>, edit);
     QFETCH(std::function<QVariant(const Map::PlacedSprite &)>, value);
-    Fixture f;
+    MapViewFixture f;
     f.clickSprite();
     QVERIFY(f.view.popover()->isVisible());
     QCOMPARE(f.stack.count(), 0);
@@ -550,7 +336,7 @@ void TestMapView::propertiesEditTheSprite()
 
 void TestMapView::popoverFollowsTheSprite()
 {
-    Fixture f;
+    MapViewFixture f;
     f.map->addSprite(f.sprite({80, 16}));
     f.clickSprite();
     auto *popover = f.view.popover();
@@ -571,7 +357,7 @@ void TestMapView::popoverFollowsTheSprite()
 
 void TestMapView::popoverKeepsItsKeys()
 {
-    Fixture f;
+    MapViewFixture f;
     f.clickSprite();
     auto *popover = f.view.popover();
     QWidget *rotate = labelled<QCheckBox>(*popover->content(), "Rotate");
@@ -588,7 +374,7 @@ void TestMapView::popoverKeepsItsKeys()
 
 void TestMapView::resizesByDialog()
 {
-    Fixture f;
+    MapViewFixture f;
     f.view.toolPaletteClicked(Resize);
     MapEditor::ResizeDialog *dialog = f.view.resizeDialog();
     QVERIFY(dialog->isVisible());
@@ -641,7 +427,7 @@ void TestMapView::previewTellsWhatIsKept()
 
 void TestMapView::exportsWhatIsChosen()
 {
-    Fixture f;
+    MapViewFixture f;
     QSignalSpy maps(&f.view, &View::exportTileMap);
     QSignalSpy tiles(&f.view, &View::exportTiles);
     QSignalSpy palettes(&f.view, &View::exportTilePalette);
@@ -666,7 +452,7 @@ void TestMapView::exportsWhatIsChosen()
 
 void TestMapView::animationPlaysWhenItMay()
 {
-    Fixture f;
+    MapViewFixture f;
     const auto *animator = f.view.animator();
     QVERIFY(!animator->isRunning());
     f.action(AnimPlay)->trigger();
@@ -699,7 +485,7 @@ void TestMapView::playingRepaintsWhatChanged()
             return false;
         }
     } painted;
-    Fixture f;
+    MapViewFixture f;
     f.map->objectLayer()->setVisible(true);
     f.map->placeAnimation(f.animation, {3, 2});
     const QPointer<SpriteAnim> run = f.bank->newAnimation();
@@ -727,7 +513,7 @@ void TestMapView::playingRepaintsWhatChanged()
 
 void TestMapView::preferencesShowInThePalette()
 {
-    Fixture f;
+    MapViewFixture f;
     MapEditor::Preferences preferences;
     preferences.overlayGrid = true;
     preferences.gridSize = 10;
@@ -742,21 +528,21 @@ void TestMapView::preferencesShowInThePalette()
 
 void TestMapView::assetsMayGoWhileShown_data()
 {
-    QTest::addColumn<std::function<void(Fixture &)>>("remove");
-    const auto row = [](const char *name, const std::function<void(Fixture &)> &remove) {
+    QTest::addColumn<std::function<void(MapViewFixture &)>>("remove");
+    const auto row = [](const char *name, const std::function<void(MapViewFixture &)> &remove) {
         QTest::newRow(name) << remove;
     };
-    row("map", [](Fixture &f) { f.project.deleteMap(f.map->id()); });
-    row("tile set", [](Fixture &f) { delete f.tiles; });
-    row("block set", [](Fixture &f) { delete f.blocks; });
-    row("bank", [](Fixture &f) { f.project.deleteSpriteBank(f.bank->id()); });
-    row("animation", [](Fixture &f) { f.blocks->removeAnimation(f.animation->id()); });
+    row("map", [](MapViewFixture &f) { f.project.deleteMap(f.map->id()); });
+    row("tile set", [](MapViewFixture &f) { delete f.tiles; });
+    row("block set", [](MapViewFixture &f) { delete f.blocks; });
+    row("bank", [](MapViewFixture &f) { f.project.deleteSpriteBank(f.bank->id()); });
+    row("animation", [](MapViewFixture &f) { f.blocks->removeAnimation(f.animation->id()); });
 }
 
 void TestMapView::assetsMayGoWhileShown()
 {
-    QFETCH(std::function<void(Fixture &)>, remove);
-    Fixture f;
+    QFETCH(std::function<void(MapViewFixture &)>, remove);
+    MapViewFixture f;
     ToolBar toolBar;
     f.view.attachToolBar(&toolBar);
     f.map->objectLayer()->setVisible(true);
