@@ -51,11 +51,11 @@ void MapGrid::paintEvent(QPaintEvent *event)
     timer.start();
     QPainter painter(this);
     painter.setClipRegion(event->region());
-    const QRect cells = m_map ? m_viewport.viewRect : QRect();
+    const QRect cells = m_map && isEnabled() ? m_viewport.viewRect : QRect();
     const QRegion margins = QRegion(rect()) - cells;
     for (const QRect &margin : margins)
         painter.fillRect(margin, palette().window());
-    if (!isEnabled() || !m_map)
+    if (cells.isEmpty())
         return;
 
     painter.setClipRect(cells, Qt::IntersectClip);

@@ -23,6 +23,8 @@ bool PlaceSpriteTool::isUnavailable() const
 
 int PlaceSpriteTool::spriteAt(QPoint pixel) const
 {
+    if (isUnavailable()) // nobody sees where they are
+        return -1;
     return PlacedSprites::indexAt(pixel, grid()->map()->sprites(), grid()->spriteBanks());
 }
 

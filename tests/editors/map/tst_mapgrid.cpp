@@ -384,6 +384,10 @@ void TestMapGrid::editsPlacedSprites()
     QCOMPARE(f.map->sprites().at(2).name, QStringLiteral("Door"));
 
     QSignalSpy selected(&f.grid, &MapGrid::selectedSpriteChanged);
+    f.grid.setSpriteVisibility(false);
+    f.move(f.pixel(1, 1));
+    QVERIFY(!f.grid.deleteSprite()); // what is hidden is not under the pointer
+    f.grid.setSpriteVisibility(true);
     f.move(f.pixel(1, 1));
     QVERIFY(f.grid.deleteSprite());
     QCOMPARE(f.lastStep(), QStringLiteral("Delete Sprite"));
