@@ -1,0 +1,285 @@
+// Takes the pictures of the documentation: opens the sample project in the real window, and saves what
+// it shows of every editor, menu and dialog.
+//
+//   takepictures SAMPLE FOLDER [dark]
+
+#include "app/documentcontroller.h"
+#include "app/documenttabview.h"
+#include "app/documentviews.h"
+#include "app/mainwindow.h"
+#include "app/menus/menubar.h"
+#include "app/preferences/preferencesdialog.h"
+#include "app/projectcontroller.h"
+#include "editors/animation/animationlistwidget.h"
+#include "editors/canvas/canvas.h"
+#include "editors/canvas/imageeditorview.h"
+#include "editors/canvas/spritewindow.h"
+#include "editors/canvas/tilepickertool.h"
+#include "editors/canvas/tilewindow.h"
+#include "editors/map/mapeditorview.h"
+#include "editors/map/mapgrid.h"
+#include "editors/map/maptoolpalette.h"
+#include "editors/map/spritepropertiespopover.h"
+#include "editors/palette/paletteeditor.h"
+#include "editors/palette/palettegrid.h"
+#include "editors/palette/palettewindow.h"
+#include "model/image.h"
+#include "model/map.h"
+#include "model/mapobjects.h"
+#include "model/project.h"
+#include "model/spritebank.h"
+#include "model/tileset.h"
+#include "update/updatechecker.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QDir>
+#include <QFileDialog>
+#include <QListView>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QTemporaryDir>
+
+namespace {
+
+constexpr QSize WindowSize(1360, 880);
+
+QPalette darkPalette()
+{
+    QPalette palette(QColor(53, 53, 56), QColor(43, 43, 46));
+    palette.setColor(QPalette::Base, QColor(30, 30, 32));
+    palette.setColor(QPalette::AlternateBase, QColor(38, 38, 40));
+    palette.setColor(QPalette::Highlight, QColor(48, 108, 190));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    return palette;
+}
+
+class PictureTaker
+{
+public:
+    PictureTaker(MainWindow &window, const QDir &folder, const QString &suffix)
+        : m_window(window)
+        , m_views(window.views())
+        , m_folder(folder)
+        , m_suffix(suffix)
+    { }
+
+    void takeAll(const QString &sample);
+
+private:
+    Project &project() { return *m_window.projectController()->project(); }
+    DocumentController &documents() { return *m_window.documentController(); }
+
+    void settle()
+    {
+        for (int i = 0; i < 5; ++i)
+            QApplication::processEvents();
+    }
+    void save(const QPixmap &picture, const QString &name)
+    {
+        picture.save(m_folder.filePath(name + m_suffix + QStringLiteral(".png")));
+    }
+    /// The window with what stands in front of it.
+    void shoot(const QString &name, const QList<QWidget *> &inFront = {})
+    {
+        settle();
+        QPixmap picture = m_window.grab();
+        QPainter painter(&picture);
+        for (QWidget *widget : inFront)
+            painter.drawPixmap(m_window.mapFromGlobal(widget->mapToGlobal(QPoint())), widget->grab());
+        painter.end();
+        save(picture, name);
+    }
+    void drag(QWidget &widget, QPoint from, QPoint to)
+    {
+        const auto send = [&widget](QEvent::Type type, QPoint point, Qt::MouseButton button, Qt::MouseButtons held) {
+            QMouseEvent event(type, point, widget.mapToGlobal(point), button, held, Qt::NoModifier);
+            QApplication::sendEvent(&widget, &event);
+        };
+        send(QEvent::MouseMove, from, Qt::NoButton, Qt::NoButton);
+        send(QEvent::MouseButtonPress, from, Qt::LeftButton, Qt::LeftButton);
+        send(QEvent::MouseMove, to, Qt::NoButton, Qt::LeftButton);
+        send(QEvent::MouseButtonRelease, to, Qt::LeftButton, Qt::NoButton);
+    }
+
+    void takeMenus();
+    void takeDialogs();
+    void takeMap();
+    void takePixels();
+    void takeAnimations();
+
+    MainWindow &m_window;
+    const DocumentViews &m_views;
+    QDir m_folder;
+    QString m_suffix;
+};
+
+void PictureTaker::takeAll(const QString &sample)
+{
+    shoot(QStringLiteral("start"));
+    m_window.projectController()->openProject(sample);
+    takeMap();
+    takePixels();
+    takeAnimations();
+    takeMenus();
+    takeDialogs();
+}
+
+void PictureTaker::takeMap()
+{
+    documents().setActiveMap(project().maps().constFirst()->id());
+    settle();
+    auto *view = qobject_cast<MapEditor::View *>(m_views.tabs->currentWidget());
+    MapEditor::MapGrid &grid = *view->grid();
+    m_views.mapSprites->raise();
+    shoot(QStringLiteral("window"));
+
+    // The tabs of the map alone, with its docks.
+    view->toolPalette()->setActionChecked(Quenmora::Ui::Grid, true);
+    shoot(QStringLiteral("map"));
+    view->toolPalette()->setActionChecked(Quenmora::Ui::Grid, false);
+    shoot(QStringLiteral("map-plain"));
+
+    grid.setMode(Quenmora::Ui::Select);
+    drag(grid, grid.rect().center() - QPoint(100, 60), grid.rect().center() + QPoint(90, 70));
+    shoot(QStringLiteral("map-selection"));
+
+    grid.setMode(Quenmora::Ui::PlaceSprite);
+    if (!view->map()->sprites().isEmpty()) {
+        emit grid.spriteClicked(0);
+        settle();
+        shoot(QStringLiteral("map-sprite"), {view->popover()});
+        view->popover()->hide();
+    }
+    grid.setMode(Quenmora::Ui::Draw);
+}
+
+void PictureTaker::takePixels()
+{
+    const QPointer<TileSet> tiles = project().tileSets().constFirst();
+    documents().setActiveTileSet(tiles->id());
+    m_views.tileEditor->setTileIndex(4);
+    m_views.tilePicker->setSelectedIndex(3);
+    m_views.tileEditor->canvas()->setZoomLevel(24);
+    shoot(QStringLiteral("tiles"));
+
+    documents().setActivePalette(tiles->paletteId());
+    auto *paletteGrid = m_views.palette->findChild<PaletteGrid *>();
+    drag(*paletteGrid, QPoint(40, 8), QPoint(200, 24));
+    settle();
+    save(m_views.palette->grab(), QStringLiteral("palette"));
+
+    documents().setActiveSpriteEditor(project().spriteBanks().constFirst()->id());
+    m_views.spriteEditor->changeSprite(1);
+    shoot(QStringLiteral("sprites"));
+
+    documents().setActiveImageEditor(project().images().constFirst()->id());
+    settle();
+    auto *image = qobject_cast<ImageEditor::View *>(m_views.tabs->currentWidget());
+    image->canvas()->setZoomLevel(3);
+    shoot(QStringLiteral("image"));
+    // A paste on its way: the copy follows the pointer.
+    image->canvas()->setMode(Quenmora::Ui::Select);
+    drag(*image->canvas(), image->canvas()->rect().center(), image->canvas()->rect().center() + QPoint(120, 90));
+    image->canvas()->copy();
+    image->canvas()->paste();
+    const QPoint middle = image->canvas()->rect().center() - QPoint(60, 40);
+    QMouseEvent move(QEvent::MouseMove, middle, image->canvas()->mapToGlobal(middle), Qt::NoButton, Qt::NoButton,
+                     Qt::NoModifier);
+    QApplication::sendEvent(image->canvas(), &move);
+    shoot(QStringLiteral("image-paste"));
+    image->canvas()->setMode(Quenmora::Ui::Draw);
+}
+
+void PictureTaker::takeAnimations()
+{
+    const auto selectFirst = [this] {
+        settle();
+        if (auto *list = m_views.tabs->currentWidget()->findChild<QListView *>())
+            list->setCurrentIndex(list->model()->index(0, 0));
+    };
+    documents().setActiveBlockEditor(project().blockSets().constFirst()->id());
+    selectFirst();
+    shoot(QStringLiteral("blocks"));
+    documents().setActiveSpriteEditor(project().spriteBanks().constFirst()->id());
+    selectFirst();
+    shoot(QStringLiteral("sprite-animations"));
+}
+
+void PictureTaker::takeMenus()
+{
+    documents().setActiveMap(project().maps().constFirst()->id());
+    settle();
+    for (QAction *title : m_window.menus()->actions()) {
+        QMenu *menu = title->menu();
+        menu->popup(m_window.menus()->mapToGlobal(m_window.menus()->actionGeometry(title).bottomLeft()));
+        settle();
+        save(menu->grab(), QStringLiteral("menu-") + title->text().remove(QLatin1Char('&')).toLower());
+        menu->close();
+    }
+}
+
+void PictureTaker::takeDialogs()
+{
+    const auto takeFrom = [this](QMenu *menu, auto &&self) -> void {
+        for (QAction *action : menu->actions()) {
+            if (action->menu()) {
+                self(action->menu(), self);
+                continue;
+            }
+            const QString text = action->text().remove(QLatin1Char('&'));
+            const bool opens = text.startsWith(QLatin1String("New")) || text == QLatin1String("Create Animations")
+                || text == QLatin1String("Swap Palette") || text == QLatin1String("Export")
+                || text == QLatin1String("Spectrum Chars") || text == QLatin1String("Preferences")
+                || text == QLatin1String("About");
+            if (!opens || !action->isEnabled())
+                continue;
+            action->trigger();
+            settle();
+            for (QWidget *widget : QApplication::topLevelWidgets()) {
+                auto *dialog = qobject_cast<QDialog *>(widget);
+                if (!dialog || !dialog->isVisible())
+                    continue;
+                if (!qobject_cast<QFileDialog *>(dialog)) {
+                    QString name = QStringLiteral("dialog-%1-%2").arg(menu->title(), text).toLower();
+                    save(dialog->grab(), name.remove(QLatin1Char('&')).replace(QLatin1Char(' '), QLatin1Char('-')));
+                }
+                dialog->reject();
+            }
+        }
+    };
+    // Dialogs are looked at, files are not asked for.
+    m_window.menus()->setFileChooser([](const FileRequest &, QWidget *) { return QString(); });
+    for (QAction *title : m_window.menus()->actions())
+        takeFrom(title->menu(), takeFrom);
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    if (argc < 3)
+        return 1;
+    const QTemporaryDir home;
+    qputenv("HOME", home.path().toLocal8Bit());
+    QApplication::setApplicationName(QStringLiteral("Quenmora"));
+    QApplication application(argc, argv);
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    const bool dark = argc > 3;
+    if (dark)
+        QApplication::setPalette(darkPalette());
+    Update::UpdateChecker::setFeedAddress({}); // pictures are taken without a network
+
+    QDir().mkpath(QString::fromLocal8Bit(argv[2]));
+    // A copy, so that nothing of this run is saved into the sample.
+    const QString sample = home.filePath(QStringLiteral("sample.quenmora"));
+    if (!QFile::copy(QString::fromLocal8Bit(argv[1]), sample))
+        return 1;
+    MainWindow window;
+    window.resize(WindowSize);
+    PictureTaker(window, QDir(QString::fromLocal8Bit(argv[2])), dark ? QStringLiteral("-dark") : QString())
+        .takeAll(sample);
+    window.projectController()->close();
+    return 0;
+}
