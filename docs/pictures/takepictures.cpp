@@ -10,6 +10,7 @@
 #include "app/menus/menubar.h"
 #include "app/preferences/preferencesdialog.h"
 #include "app/projectcontroller.h"
+#include "app/version.h"
 #include "editors/animation/animationlistwidget.h"
 #include "editors/canvas/canvas.h"
 #include "editors/canvas/imageeditorview.h"
@@ -264,6 +265,7 @@ int main(int argc, char **argv)
     const QTemporaryDir home;
     qputenv("HOME", home.path().toLocal8Bit());
     QApplication::setApplicationName(QStringLiteral("Quenmora"));
+    QApplication::setApplicationVersion(appVersion());
     QApplication application(argc, argv);
     QApplication::setStyle(QStringLiteral("Fusion"));
     const bool dark = argc > 3;

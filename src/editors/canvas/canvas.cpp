@@ -299,6 +299,7 @@ void Canvas::chooseTool(ToolButton mode)
     m_mode = mode;
     m_tool = m_tools.value(mode).get();
     m_tool->activate();
+    emit modeChanged(mode);
 }
 
 void Canvas::setMode(ToolButton mode, bool checked)

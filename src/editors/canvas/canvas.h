@@ -113,6 +113,8 @@ signals:
     void edited(QString text, QImage before, QImage after, PixelEditCommand::Kind kind);
     void foregroundPicked(int index);
     void backgroundPicked(int index);
+    /// Another tool is the current one, the paste tool included.
+    void modeChanged(Quenmora::Ui::ToolButton mode);
     /// The pixel under the pointer and its index; (-1, -1) and -1 outside the image.
     void pixelHovered(QPoint pixel, int index);
 

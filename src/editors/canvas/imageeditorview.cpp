@@ -32,11 +32,7 @@ View::View(QWidget *parent)
     , m_tools(new ToolPalette(Qt::Vertical, this))
     , m_colours(new ColourPalette(this))
 {
-    for (const ToolButton button :
-         {Draw,   Line,    Rectangle, RectangleFill, Circle,   Fill,      Pick, Select, Paste, Grid,
-          ZoomIn, ZoomOut, MoveUp,    MoveDown,      MoveLeft, MoveRight, Flip, Mirror, Open,  Save})
-        m_tools->addEntry(button);
-    m_tools->setMode(Draw);
+    PixelEditing::addTools(m_tools, {Open, Save});
     m_canvas->setZoomLevel(UsualZoom);
     buildPage();
     connectParts();
@@ -63,6 +59,7 @@ void View::buildPage()
 void View::connectParts()
 {
     connect(m_tools, &ToolPalette::actionActivated, this, &View::changeMode);
+    PixelEditing::connectTools(m_tools, m_canvas);
     connect(m_canvas, &Canvas::imageChanged, this, &View::writeBack);
     connect(m_canvas, &Canvas::edited, this, &View::pushEdit);
     connect(m_canvas, &Canvas::foregroundPicked, this, &View::setForeIndex);

@@ -2,6 +2,7 @@
 
 #include "editors/canvas/canvas.h"
 #include "model/palette.h"
+#include "ui/toolpalette.h"
 
 #include <QAction>
 #include <QCoreApplication>
@@ -34,6 +35,29 @@ void PixelEditing::showPixel(QWidget *editor, QPoint pixel, int index, const Pal
     // The main window around the editor shows status tips in its status bar.
     QStatusTipEvent tip(text);
     QCoreApplication::sendEvent(editor, &tip);
+}
+
+void PixelEditing::addTools(ToolPalette *tools, const QList<Quenmora::Ui::ToolButton> &more)
+{
+    using namespace Quenmora::Ui;
+    for (const ToolButton button : {Draw, Line, Rectangle, RectangleFill, Circle, Fill, Pick, Select})
+        tools->addEntry(button);
+    // While something is being pasted, pasting is the tool in use.
+    ToolPalette::Entry paste = ToolPalette::entryOf(Paste);
+    paste.kind = ToolPalette::Tool;
+    tools->addEntry(paste);
+    for (const ToolButton button : {Grid, ZoomIn, ZoomOut, Flip, Mirror, MoveUp, MoveDown, MoveLeft, MoveRight})
+        tools->addEntry(button);
+    for (const ToolButton button : more)
+        tools->addEntry(button);
+}
+
+void PixelEditing::connectTools(ToolPalette *tools, Canvas *canvas)
+{
+    QObject::connect(canvas, &Canvas::modeChanged, tools, &ToolPalette::setMode);
+    // A paste that is refused leaves the tool as it was, and the palette must not say otherwise.
+    QObject::connect(tools, &ToolPalette::actionActivated, canvas, [tools, canvas] { tools->setMode(canvas->mode()); });
+    tools->setMode(canvas->mode());
 }
 
 void PixelEditing::addSwapAction(QWidget *editor, Canvas *canvas)

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "ui/enums.h"
 #include "undo/pixeleditcommand.h"
 
+#include <QList>
 #include <QUuid>
 
 class Canvas;
@@ -9,6 +11,7 @@ class Palette;
 class QEvent;
 class QUndoStack;
 class QWidget;
+class ToolPalette;
 
 /// What the tile, sprite and image editors share around their canvas.
 namespace PixelEditing {
@@ -23,6 +26,12 @@ void push(QUndoStack *stack, const QString &text, const QImage &before, const QI
 /// Tells the pixel under the pointer, its index and its colour in the window's status line; a negative
 /// index clears it.
 void showPixel(QWidget *editor, QPoint pixel, int index, const Palette *palette);
+
+/// Gives a tool palette the tools and actions of every canvas, and more after them.
+void addTools(ToolPalette *tools, const QList<Quenmora::Ui::ToolButton> &more);
+
+/// Lets a tool palette choose the canvas's tools, and show the one in use, the paste tool included.
+void connectTools(ToolPalette *tools, Canvas *canvas);
 
 /// Lets X exchange the canvas's two colours while the keyboard is in editor.
 void addSwapAction(QWidget *editor, Canvas *canvas);

@@ -33,11 +33,7 @@ SpriteWindow::SpriteWindow(QWidget *parent)
 {
     setObjectName(QStringLiteral("SpriteEditor"));
     setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
-    for (const ToolButton button :
-         {Draw,   Line,    Rectangle, RectangleFill, Circle, Fill,   Pick,   Select,   Paste,    Grid,
-          ZoomIn, ZoomOut, RotateCW,  RotateCCW,     Flip,   Mirror, MoveUp, MoveDown, MoveLeft, MoveRight})
-        m_tools->addEntry(button);
-    m_tools->setMode(Draw);
+    PixelEditing::addTools(m_tools, {RotateCW, RotateCCW});
     buildPage();
     connectParts();
     setSprites(nullptr);
@@ -75,6 +71,7 @@ void SpriteWindow::buildPage()
 void SpriteWindow::connectParts()
 {
     connect(m_tools, &ToolPalette::actionActivated, m_canvas, &Canvas::setMode);
+    PixelEditing::connectTools(m_tools, m_canvas);
     connect(m_canvas, &Canvas::imageChanged, this, &SpriteWindow::updateSpriteImage);
     connect(m_canvas, &Canvas::edited, this, &SpriteWindow::pushEdit);
     connect(m_canvas, &Canvas::foregroundPicked, m_colours, &ColourPalette::setPrimaryIndex);

@@ -45,11 +45,7 @@ TileWindow::TileWindow(QWidget *parent)
     m_number->setItemName(tr("Tile"));
     m_offset->setRange(1, BankCount);
     m_offset->setToolTip(tr("The group of 16 colours that the tile is drawn with"));
-    for (const ToolButton button :
-         {Draw,   Line,    Rectangle, RectangleFill, Circle, Fill,   Pick,   Select,   Paste,    Grid,
-          ZoomIn, ZoomOut, RotateCW,  RotateCCW,     Flip,   Mirror, MoveUp, MoveDown, MoveLeft, MoveRight})
-        m_tools->addEntry(button);
-    m_tools->setMode(Draw);
+    PixelEditing::addTools(m_tools, {RotateCW, RotateCCW});
 
     auto *scroller = new QScrollArea;
     scroller->setFrameShape(QFrame::NoFrame);
@@ -85,6 +81,7 @@ QWidget *TileWindow::buildPage()
 void TileWindow::connectParts()
 {
     connect(m_tools, &ToolPalette::actionActivated, m_canvas, &Canvas::setMode);
+    PixelEditing::connectTools(m_tools, m_canvas);
     connect(m_canvas, &Canvas::imageChanged, this, &TileWindow::imageChanged);
     connect(m_canvas, &Canvas::edited, this, &TileWindow::pushEdit);
     connect(m_canvas, &Canvas::foregroundPicked, m_colours, &ColourSelector::setForeIndex);

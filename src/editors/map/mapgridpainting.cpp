@@ -150,7 +150,8 @@ void MapGrid::paintOutline(QPainter &painter, const QRect &area)
 void MapGrid::paintStatus(QPainter &painter, qint64 milliseconds) const
 {
     const QString text = QStringLiteral("  [%1:%2] %4ms  ").arg(m_hoverCell.x()).arg(m_hoverCell.y()).arg(milliseconds);
-    constexpr QPoint at(10, 10);
+    // the text's base line, as far down as its letters need to be whole
+    const QPoint at(10, std::max(10, painter.fontMetrics().ascent() + 2));
     painter.setPen(Qt::black);
     painter.drawText(at + QPoint(1, 1), text); // a shadow, so that it is seen on light ground
     painter.setPen(Qt::white);

@@ -11,7 +11,7 @@ constexpr int FewColumns = 16;
 constexpr int ManyColumns = 32;
 constexpr int LeastCell = 8;
 constexpr int UsualCell = 12;
-constexpr int LargestCell = 20;
+constexpr int LargestCell = 16;
 
 } // namespace
 

@@ -1,10 +1,13 @@
 #include "editors/canvas/canvas.h"
 #include "editors/canvas/tilewindow.h"
+#include "ui/toolpalette.h"
 
 #include "support/testmain.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QSignalSpy>
 #include <QSpinBox>
 #include <QTest>
@@ -71,6 +74,7 @@ private slots:
     void undoOfADeletedTileIsHarmless();
     void attributesAreWritten();
     void xSwapsTheColours();
+    void toolPaletteShowsTheToolInUse();
     void showsAPlaceholderWithoutTileSet();
     void paletteChangesTheTileSetsPalette();
 };
@@ -196,6 +200,23 @@ void TestTileWindow::xSwapsTheColours()
     QTest::keyClick(&f.canvas(), Qt::Key_X);
     QCOMPARE(f.canvas().ink(), 0);
     QCOMPARE(f.canvas().paper(), 1);
+}
+
+void TestTileWindow::toolPaletteShowsTheToolInUse()
+{
+    using namespace Quenmora::Ui;
+    Fixture f;
+    auto *tools = f.window.findChild<ToolPalette *>();
+    QApplication::clipboard()->clear();
+    tools->action(Paste)->trigger();
+    QCOMPARE(tools->mode(), Draw); // there is nothing to paste
+    tools->action(Select)->trigger();
+    f.window.selectAll();
+    f.window.copy();
+    f.window.paste();
+    QCOMPARE(tools->mode(), Paste);
+    tools->action(Fill)->trigger();
+    QCOMPARE(f.canvas().mode(), Fill);
 }
 
 void TestTileWindow::showsAPlaceholderWithoutTileSet()
