@@ -118,7 +118,10 @@ void Popover::showBeside(const QRect &target, DialogPosition wanted)
     setGeometry({corner, size});
     setMask(shape());
     update();
+    const bool opens = !isVisible();
     show();
+    if (opens && m_content)
+        m_content->setFocus(Qt::PopupFocusReason);
 }
 
 void Popover::hideEvent(QHideEvent *event)

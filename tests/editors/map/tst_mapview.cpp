@@ -360,6 +360,7 @@ void TestMapView::popoverKeepsItsKeys()
     MapViewFixture f;
     f.clickSprite();
     auto *popover = f.view.popover();
+    QVERIFY(labelled<QLineEdit>(*popover->content(), "Name")->hasFocus());
     QWidget *rotate = labelled<QCheckBox>(*popover->content(), "Rotate");
     rotate->setFocus();
     for (const Qt::Key key : {Qt::Key_S, Qt::Key_Minus, Qt::Key_Delete, Qt::Key_Up})
