@@ -22,7 +22,13 @@ inside() {
     env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/root LC_ALL=C.UTF-8 DEBIAN_FRONTEND=noninteractive \
         chroot "$system" "$@"
 }
-install() { inside apt-get -qq install --yes --no-install-recommends "$@" >"$system/tmp/apt.log"; }
+# apt COMMAND...: what it prints matters only when it fails
+apt() {
+    inside apt-get -qq --yes --no-install-recommends "$@" >"$system/tmp/apt.log" 2>&1 || {
+        cat "$system/tmp/apt.log" >&2
+        exit 1
+    }
+}
 fail() {
     echo "$*" >&2
     exit 1
@@ -36,7 +42,8 @@ cp "$package" "$system/tmp/quenmora.deb"
 cp "$scripts/screenshot.sh" "$system/tmp/"
 
 echo "==> Installing the package"
-install /tmp/quenmora.deb
+apt update
+apt install /tmp/quenmora.deb
 inside dpkg --verify quenmora
 
 echo "==> Starting the program with nothing but what the package brought along"
@@ -45,13 +52,13 @@ inside env QT_QPA_PLATFORM=offscreen timeout 5 quenmora || status=$?
 ((status == 124)) || fail "It ended with $status" # 124: it ran until it was stopped
 
 echo "==> Starting it on a virtual display"
-install xvfb xdotool imagemagick shared-mime-info
+apt install xvfb xdotool imagemagick shared-mime-info
 grep -qxF "50:application/x-quenmora:*.quenmora" "$system/usr/share/mime/globs2" || fail "Its files are not known"
 inside /tmp/screenshot.sh quenmora /tmp/window.png
 [[ -z $picture ]] || cp "$system/tmp/window.png" "$picture"
 
 echo "==> Taking the package off"
-inside apt-get -qq purge --yes quenmora >"$system/tmp/apt.log"
+apt purge quenmora
 # the user's own settings stay
 left=$(find "$system" -xdev -path "$system/root" -prune -o -path "$system/tmp" -prune -o -iname '*quenmora*' -print)
 [[ -z $left ]] || fail "Left behind: $left"
