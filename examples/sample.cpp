@@ -28,7 +28,7 @@ namespace {
 // Sizes of the pictures, in pixels
 constexpr QSize TilesSize(128, 72);
 constexpr QSize BlocksSize(128, 64);
-constexpr QSize LevelSize(512, 192);
+constexpr QSize LevelSize(512, 176);
 constexpr QSize SpritesSize(128, 48);
 constexpr QSize TitleSize(320, 256);
 
@@ -61,16 +61,16 @@ QList<Block> blocks()
 {
     using enum MapObjectType;
     return {
-        {"Water", {0, 0, 4, 2}, 4, 8, Normal, Tile::TA_DEADLY, {{22, 15}, {26, 15}}},
+        {"Water", {0, 0, 4, 2}, 4, 8, Normal, Tile::TA_DEADLY, {{22, 13}, {26, 13}}},
         {"Torch",
          {0, 2, 1, 2},
          3,
          6,
          Normal,
          Tile::TA_NONE,
-         {{6, 19}, {13, 19}, {18, 19}, {36, 19}, {48, 18}, {55, 19}}},
-        {"Waterfall", {4, 2, 2, 5}, 4, 4, Normal, Tile::TA_NONE, {{26, 10}}},
-        {"Lift", {0, 7, 3, 1}, 1, 0, HorizontalPlatform, Tile::TA_TOPSOLID, {{31, 8}}},
+         {{6, 17}, {13, 17}, {18, 17}, {36, 17}, {48, 16}, {55, 17}}},
+        {"Waterfall", {4, 2, 2, 5}, 4, 4, Normal, Tile::TA_NONE, {{26, 8}}},
+        {"Lift", {0, 7, 3, 1}, 1, 0, HorizontalPlatform, Tile::TA_TOPSOLID, {{31, 6}}},
     };
 }
 
@@ -109,18 +109,18 @@ struct Actor
 QList<Actor> actors()
 {
     return {
-        {"Hero", "Hero Walk", 0, {40, 104}},
-        {"Hero on the ladder", "Hero Climb", 0, {32, 146}},
-        {"Lantern", "Lantern", 0, {14, 48}},
-        {"Green slime", "Slime", 0, {134, 104}, true},
-        {"Red slime", "Slime", 0, {100, 160}, false, 2, 1},
-        {"Bat", "Bat", 0, {124, 146}},
-        {"Second bat", "Bat", 0, {232, 156}, true, 2},
-        {"Coin on the plank", "Coin", 0, {40, 70}},
-        {"Jumping hero", {}, HeroJump, {256, 66}},
-        {"Red slime on the hill", "Slime", 0, {392, 104}, true, 1, 1},
-        {"Chest", {}, Chest, {448, 40}},
-        {"Flag", "Flag", 0, {486, 104}},
+        {"Hero", "Hero Walk", 0, {40, 88}},
+        {"Hero on the ladder", "Hero Climb", 0, {32, 130}},
+        {"Lantern", "Lantern", 0, {8, 32}},
+        {"Green slime", "Slime", 0, {134, 88}, true},
+        {"Red slime", "Slime", 0, {100, 144}, false, 2, 1},
+        {"Bat", "Bat", 0, {124, 130}},
+        {"Second bat", "Bat", 0, {232, 140}, true, 2},
+        {"Coin on the plank", "Coin", 0, {40, 54}},
+        {"Jumping hero", {}, HeroJump, {256, 50}},
+        {"Red slime on the hill", "Slime", 0, {392, 88}, true, 1, 1},
+        {"Chest", {}, Chest, {448, 24}},
+        {"Flag", "Flag", 0, {486, 88}},
     };
 }
 

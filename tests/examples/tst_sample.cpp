@@ -86,10 +86,10 @@ void TestSample::theLevelLooksLikeItsPicture()
     const QImage blocks = picture("blocks.png");
     QPainter painter(&expected);
     const QList<std::pair<QRect, QPoint>> placed{
-        {{0, 0, 32, 16}, {176, 120}}, {{0, 0, 32, 16}, {208, 120}}, {{0, 16, 8, 16}, {48, 152}},
-        {{0, 16, 8, 16}, {104, 152}}, {{0, 16, 8, 16}, {144, 152}}, {{0, 16, 8, 16}, {288, 152}},
-        {{0, 16, 8, 16}, {384, 144}}, {{0, 16, 8, 16}, {440, 152}}, {{32, 16, 16, 40}, {208, 80}},
-        {{0, 56, 24, 8}, {248, 64}},
+        {{0, 0, 32, 16}, {176, 104}}, {{0, 0, 32, 16}, {208, 104}}, {{0, 16, 8, 16}, {48, 136}},
+        {{0, 16, 8, 16}, {104, 136}}, {{0, 16, 8, 16}, {144, 136}}, {{0, 16, 8, 16}, {288, 136}},
+        {{0, 16, 8, 16}, {384, 128}}, {{0, 16, 8, 16}, {440, 136}}, {{32, 16, 16, 40}, {208, 64}},
+        {{0, 56, 24, 8}, {248, 48}},
     };
     for (const auto &[source, at] : placed)
         painter.drawImage(at, blocks, source);
@@ -104,13 +104,13 @@ void TestSample::tilesKnowWhatTheyAre_data()
     QTest::addColumn<QPoint>("cell");
     QTest::addColumn<int>("attributes");
     QTest::newRow("sky") << QPoint(0, 0) << int(Tile::TA_NONE);
-    QTest::newRow("earth") << QPoint(10, 17) << int(Tile::TA_SOLID);
-    QTest::newRow("grass") << QPoint(10, 15) << int(Tile::TA_TOPSOLID);
-    QTest::newRow("ladder") << QPoint(4, 20) << int(Tile::TA_LADDER);
-    QTest::newRow("head of the ladder") << QPoint(4, 15) << int(Tile::TA_LADDER | Tile::TA_TOPSOLID);
-    QTest::newRow("coin") << QPoint(19, 7) << int(Tile::TA_COLLECTIBLE);
-    QTest::newRow("spikes") << QPoint(44, 14) << int(Tile::TA_DEADLY);
-    QTest::newRow("door") << QPoint(11, 14) << int(Tile::TA_DOOR);
+    QTest::newRow("earth") << QPoint(10, 15) << int(Tile::TA_SOLID);
+    QTest::newRow("grass") << QPoint(10, 13) << int(Tile::TA_TOPSOLID);
+    QTest::newRow("ladder") << QPoint(4, 18) << int(Tile::TA_LADDER);
+    QTest::newRow("head of the ladder") << QPoint(4, 13) << int(Tile::TA_LADDER | Tile::TA_TOPSOLID);
+    QTest::newRow("coin") << QPoint(19, 5) << int(Tile::TA_COLLECTIBLE);
+    QTest::newRow("spikes") << QPoint(44, 12) << int(Tile::TA_DEADLY);
+    QTest::newRow("door") << QPoint(11, 12) << int(Tile::TA_DOOR);
 }
 
 void TestSample::tilesKnowWhatTheyAre()
