@@ -179,8 +179,7 @@ void DocumentController::closeProject()
 
 QUndoStack *DocumentController::undoStackFor(const QUuid &id)
 {
-    QObject *owner = id.isNull() ? project() : asset(id);
-    return owner ? m_stacks.stackFor(id, owner) : nullptr;
+    return m_stacks.stackFor(id, asset(id));
 }
 
 QUndoStack *DocumentController::recordingStackFor(const QUuid &id)

@@ -36,8 +36,8 @@ public:
     /// Drops all undo stacks; the tabs are closed by now and the project still exists.
     void closeProject();
 
-    /// The undo stack of an asset of the project, made when first asked for; the null id stands for the
-    /// scratch image.
+    /// The undo stack of the asset of an id, made when first asked for, never null; the null id stands for
+    /// the scratch image.
     QUndoStack *undoStackFor(const QUuid &id);
     /// The stack for a change that no editor of the asset made: that of the document in front, where undo
     /// reaches it, or the asset's own when there is none.

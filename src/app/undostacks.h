@@ -20,7 +20,7 @@ public:
     /// The group of all stacks; undo and redo act on its active one.
     [[nodiscard]] QUndoGroup *group() { return &m_group; }
 
-    /// The stack of an asset; it goes when the asset does (null for one that outlives the project).
+    /// The stack of an id; it goes when the asset does, or with all others when that is null.
     QUndoStack *stackFor(const QUuid &id, QObject *asset);
     void drop(const QUuid &id);
     void clear();
