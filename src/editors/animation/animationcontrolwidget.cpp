@@ -1,10 +1,10 @@
 #include "editors/animation/animationcontrolwidget.h"
 
+#include "ui/flowlayout.h"
 #include "ui/svgiconengine.h"
 
 #include <QAction>
 #include <QActionGroup>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QToolButton>
 
@@ -19,7 +19,7 @@ constexpr QSize IconSize(24, 24);
 
 AnimationControlWidget::AnimationControlWidget(QWidget *parent) : QWidget(parent), m_label(new QLabel(this))
 {
-    auto *layout = new QHBoxLayout(this);
+    auto *layout = new FlowLayout(this); // a narrow editor gets two rows
     layout->setContentsMargins(2, 2, 2, 2);
     layout->setSpacing(1);
     const auto add = [this, layout](Action action, const QString &toolTip, const char *icon, bool checkable = false) {
@@ -48,9 +48,9 @@ AnimationControlWidget::AnimationControlWidget(QWidget *parent) : QWidget(parent
     add(DeleteFrame, tr("Delete current frame"), ":/Trashcan");
     add(Loop, tr("Loop"), ":/Media/Loop", true);
     add(PingPong, tr("Ping pong"), ":/Media/PingPong", true);
-    layout->addSpacing(6);
+    m_label->setMinimumHeight(ButtonSize.height());
+    m_label->setContentsMargins(6, 0, 0, 0);
     layout->addWidget(m_label);
-    layout->addStretch();
 
     auto *ways = new QActionGroup(this);
     ways->addAction(action(Loop));
