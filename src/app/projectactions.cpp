@@ -14,6 +14,7 @@
 #include "model/palette.h"
 #include "model/spritebank.h"
 #include "model/tileset.h"
+#include "ui/titlewidth.h"
 
 #include <QClipboard>
 #include <QDebug>
@@ -239,5 +240,6 @@ void ProjectActions::reportIncompleteImport(const QString &failure)
                                       tr("Import Incomplete"), QMessageBox::Ok, m_dialogParent);
     }
     m_importBox->setInformativeText(failure);
+    widenForTitle(*m_importBox);
     m_importBox->open();
 }

@@ -1,6 +1,7 @@
 #include "app/projectcontroller.h"
 
 #include "app/menus/filemenu.h"
+#include "ui/titlewidth.h"
 
 #include <QFileDialog>
 #include <QGuiApplication>
@@ -195,6 +196,7 @@ ProjectController::UnsavedAnswer ProjectController::askAboutChanges(const QStrin
                     QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, m_parentWidget);
     box.setDefaultButton(QMessageBox::Save);
     box.setTextFormat(Qt::PlainText); // the name comes from a file
+    widenForTitle(box);
     switch (box.exec()) {
     case QMessageBox::Save:
         return Save;

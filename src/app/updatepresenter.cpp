@@ -2,6 +2,7 @@
 
 #include "app/version.h"
 #include "ui/aboutbox.h"
+#include "ui/titlewidth.h"
 #include "update/updatedialog.h"
 
 UpdatePresenter::UpdatePresenter(UpdateController *controller, QWidget *window)
@@ -68,6 +69,7 @@ void UpdatePresenter::showBox(QMessageBox::Icon icon, const QString &text)
 {
     auto *box = new QMessageBox(icon, tr("Check for Updates"), text, QMessageBox::Ok, m_window);
     box->setTextFormat(Qt::PlainText);
+    widenForTitle(*box);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->open();
 }

@@ -1,6 +1,7 @@
 #include "ui/dialogbase.h"
 
 #include "ui/svgiconengine.h"
+#include "ui/titlewidth.h"
 
 #include <QAccessible>
 #include <QDialogButtonBox>
@@ -22,7 +23,7 @@ DialogBase::DialogBase(const QString &title, QWidget *parent)
 {
     setWindowTitle(title);
     setModal(true);
-    setMinimumWidth(fontMetrics().averageCharWidth() * 50); // room for a name and for the title
+    setMinimumWidth(titleWidth(title)); // which is also room for a name
 
     QFont bold = m_header->font();
     bold.setBold(true);

@@ -1,5 +1,7 @@
 #include "ui/messagedialog.h"
 
+#include "ui/titlewidth.h"
+
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QStyle>
@@ -20,7 +22,6 @@ MessageDialog::MessageDialog(QWidget *parent) : QDialog(parent), m_icon(new QLab
     m_text->setWordWrap(true);
     m_text->setTextFormat(Qt::PlainText); // messages quote file names
     m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    m_text->setMinimumWidth(fontMetrics().averageCharWidth() * 50);
     m_text->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_icon->setAlignment(Qt::AlignTop);
 
@@ -69,6 +70,7 @@ void MessageDialog::done(int result)
 void MessageDialog::display(const Message &message)
 {
     setWindowTitle(message.title);
+    m_text->setMinimumWidth(titleWidth(message.title));
     m_text->setText(message.text);
     const int extent = style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, this);
     m_icon->setPixmap(style()
