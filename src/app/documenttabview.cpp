@@ -12,6 +12,8 @@
 #include <QShortcut>
 #include <QTabBar>
 
+#include <algorithm>
+
 namespace {
 
 constexpr const char *IdProperty = "document_id";
@@ -23,10 +25,23 @@ QString tabTextOf(const QString &name)
     return QString(name).replace(u'&', QStringLiteral("&&"));
 }
 
+/// A tab bar that scrolls rather than squeezing tabs until nothing of their texts is left.
+class TabBar final : public QTabBar
+{
+protected:
+    QSize minimumTabSizeHint(int index) const override
+    {
+        const int least = fontMetrics().averageCharWidth() * 18; // a dozen letters and the close button
+        const QSize whole = tabSizeHint(index);
+        return {std::min(whole.width(), least), whole.height()};
+    }
+};
+
 } // namespace
 
 DocumentTabView::DocumentTabView(QWidget *parent) : QTabWidget(parent), m_scratchEditor(new ImageEditor::View(this))
 {
+    setTabBar(new TabBar);
     m_scratchEditor->setProperty(IdProperty, QUuid());
     m_scratchEditor->setProperty(TypeProperty, int(ScratchDocument));
     m_scratchEditor->hide();
