@@ -17,6 +17,7 @@ ImportBinaryDialog::ImportBinaryDialog(QWidget *parent)
     , m_depth(new DepthChooser(this))
     , m_summary(new QLabel(this))
 {
+    setTabOrder(m_depth, m_palette);
     form()->addRow(tr("&Depth"), m_depth);
     form()->addRow(tr("&Palette"), m_palette);
     form()->addRow(tr("Sprites"), m_summary);

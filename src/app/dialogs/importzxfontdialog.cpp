@@ -14,6 +14,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -67,6 +68,10 @@ ImportZXFontDialog::ImportZXFontDialog(QWidget *parent)
     form()->addRow(tr("&Paper"), m_back);
     body()->addWidget(m_preview, 1);
     body()->addWidget(m_summary);
+
+    QWidget *previous = m_file;
+    for (QWidget *next : std::initializer_list<QWidget *>{browse, m_first, m_offset, m_fore, m_back})
+        setTabOrder(std::exchange(previous, next), next);
 
     m_offset->setRange(0, Palette::Size / ColoursPerOffset - 1);
     for (int index = 0; index < ColoursPerOffset; ++index) {
