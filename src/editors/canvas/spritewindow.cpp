@@ -50,6 +50,7 @@ void SpriteWindow::buildPage()
     editorLayout->addWidget(m_colours);
 
     auto *scroller = new QScrollArea;
+    scroller->setFocusPolicy(Qt::NoFocus); // what is in it has the keyboard
     scroller->setWidgetResizable(true);
     scroller->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     scroller->setWidget(m_list);

@@ -13,6 +13,7 @@ TilePickerTool::TilePickerTool(QWidget *parent)
     , m_grid(new TilePickerGrid)
 {
     setObjectName(QStringLiteral("TilePickerTool"));
+    m_scroller->setFocusPolicy(Qt::NoFocus); // the grid has the keyboard
     m_scroller->setWidget(m_grid);
     m_scroller->setWidgetResizable(true);
     m_scroller->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

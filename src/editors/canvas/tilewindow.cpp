@@ -48,6 +48,7 @@ TileWindow::TileWindow(QWidget *parent)
     PixelEditing::addTools(m_tools, {RotateCW, RotateCCW});
 
     auto *scroller = new QScrollArea;
+    scroller->setFocusPolicy(Qt::NoFocus); // what is in it has the keyboard
     scroller->setFrameShape(QFrame::NoFrame);
     scroller->setWidgetResizable(true);
     scroller->setWidget(buildPage());

@@ -41,6 +41,7 @@ PaletteWindow::PaletteWindow(QWidget *parent)
     layout->addLayout(header);
     layout->addWidget(m_editor, 1);
     auto *scroller = new QScrollArea;
+    scroller->setFocusPolicy(Qt::NoFocus); // what is in it has the keyboard
     scroller->setFrameShape(QFrame::NoFrame);
     scroller->setWidgetResizable(true);
     scroller->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
