@@ -17,6 +17,12 @@ void FlowLayout::addItem(QLayoutItem *item)
     m_items.append(item);
 }
 
+void FlowLayout::insertWidget(int index, QWidget *widget)
+{
+    addWidget(widget);
+    m_items.move(m_items.size() - 1, std::clamp(qsizetype(index), qsizetype(0), m_items.size() - 1));
+}
+
 QLayoutItem *FlowLayout::takeAt(int index)
 {
     return index >= 0 && index < m_items.size() ? m_items.takeAt(index) : nullptr;

@@ -16,6 +16,8 @@ public:
     ~FlowLayout() override;
 
     void addItem(QLayoutItem *item) override;
+    /// Puts a widget before the item of that index, or at the end.
+    void insertWidget(int index, QWidget *widget);
     [[nodiscard]] int count() const override { return static_cast<int>(m_items.size()); }
     [[nodiscard]] QLayoutItem *itemAt(int index) const override { return m_items.value(index); }
     QLayoutItem *takeAt(int index) override;

@@ -1,6 +1,8 @@
 #include "editors/animation/animationtoolbar.h"
 
-#include <QAction>
+#include "ui/flowlayout.h"
+
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSignalBlocker>
@@ -10,8 +12,26 @@ namespace AnimationEditor {
 
 namespace {
 
-constexpr int LeastNameWidth = 80;
-constexpr int LargestNameWidth = 280;
+constexpr int NameWidth = 140;
+
+/// Controls in as many rows as they need: a tool bar by itself hides what has no room behind a button that
+/// the keyboard does not reach.
+class Rows final : public QWidget
+{
+public:
+    explicit Rows(QWidget *parent) : QWidget(parent)
+    {
+        auto *layout = new FlowLayout(this);
+        layout->setContentsMargins(2, 2, 2, 2);
+        layout->setSpacing(4);
+        setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    }
+
+    [[nodiscard]] QSize sizeHint() const override { return minimumSizeHint(); }
+
+protected:
+    void resizeEvent(QResizeEvent *) override { setFixedHeight(layout()->heightForWidth(width())); }
+};
 
 void showValue(QSpinBox *field, int value)
 {
@@ -23,20 +43,20 @@ void showValue(QSpinBox *field, int value)
 
 AnimationToolBar::AnimationToolBar(const QString &widthToolTip, const QString &heightToolTip, QWidget *parent)
     : QToolBar(tr("Animation"), parent)
-    , m_name(new QLineEdit(this))
+    , m_name(new QLineEdit)
 {
     setMovable(false);
     setFloatable(false);
-    m_name->setMinimumWidth(LeastNameWidth);
-    m_name->setMaximumWidth(LargestNameWidth);
+    auto *rows = new Rows(this);
+    m_rows = static_cast<FlowLayout *>(rows->layout());
+    addWidget(rows);
+    m_name->setFixedWidth(NameWidth);
     m_name->setToolTip(tr("The name of the animation"));
     addControl(tr("Name"), m_name);
-    m_afterName = addSeparator();
     m_width = addNumber(tr("W:"), widthToolTip, 1, MaximumSide);
     m_height = addNumber(tr("H:"), heightToolTip, 1, MaximumSide);
     m_width->setAccessibleName(tr("Width"));
     m_height->setAccessibleName(tr("Height"));
-    addSeparator();
     m_delay =
         addNumber(tr("Delay:"), tr("Set the delay between animation frames\n0 = No Delay, 1 = 25fps, 2 = 12.5fps"), 0,
                   MaximumDelay);
@@ -50,22 +70,25 @@ AnimationToolBar::AnimationToolBar(const QString &widthToolTip, const QString &h
 
 void AnimationToolBar::addControl(const QString &label, QWidget *control, Place place)
 {
-    QAction *before = place == AfterName ? m_afterName : nullptr;
+    auto *pair = new QWidget;
+    auto *layout = new QHBoxLayout(pair);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(4);
     if (!label.isEmpty()) {
-        auto *text = new QLabel(label, this);
-        text->setContentsMargins(6, 0, 4, 0);
+        auto *text = new QLabel(label);
         text->setBuddy(control);
-        insertWidget(before, text);
+        layout->addWidget(text);
         control->setAccessibleName(QString(label).remove(u':'));
     }
-    insertWidget(before, control);
-    if (before)
+    layout->addWidget(control);
+    m_rows->insertWidget(place == AfterName ? 1 : m_rows->count(), pair);
+    if (place == AfterName)
         setTabOrder(m_name, control);
 }
 
 QSpinBox *AnimationToolBar::addNumber(const QString &label, const QString &toolTip, int minimum, int maximum)
 {
-    auto *number = new QSpinBox(this);
+    auto *number = new QSpinBox;
     number->setRange(minimum, maximum);
     number->setToolTip(toolTip);
     // on the way to 12 a width of 1 would cut the frames

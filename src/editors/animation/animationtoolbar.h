@@ -3,6 +3,7 @@
 #include <QSize>
 #include <QToolBar>
 
+class FlowLayout;
 class QLineEdit;
 class QSpinBox;
 
@@ -40,8 +41,8 @@ protected:
 private:
     QSpinBox *addNumber(const QString &label, const QString &toolTip, int minimum, int maximum);
 
+    FlowLayout *m_rows = nullptr; ///< of all controls
     QLineEdit *m_name;
-    QAction *m_afterName = nullptr; ///< the first thing after the name
     QSpinBox *m_width;
     QSpinBox *m_height;
     QSpinBox *m_delay;

@@ -3,6 +3,7 @@
 #include "editors/animation/animationlistwidget.h"
 #include "editors/animation/editorwidget.h"
 #include "ui/sectionheader.h"
+#include "ui/titlewidth.h"
 
 #include <QMessageBox>
 #include <QScopedValueRollback>
@@ -11,6 +12,8 @@
 namespace AnimationEditor {
 
 namespace {
+
+constexpr int ListWidth = 160;
 
 constexpr int LeastListWidth = 120;
 
@@ -38,6 +41,7 @@ AnimationView::AnimationView(AnimationListWidget *list, EditorWidget *editor, QW
     setStretchFactor(0, 0);
     setStretchFactor(1, 1);
     setChildrenCollapsible(false);
+    setSizes({ListWidth, 3 * ListWidth});
     m_list->setMinimumWidth(LeastListWidth);
     setFocusProxy(m_list);
 
@@ -143,6 +147,7 @@ bool AnimationView::confirmsDeletion()
     // not on the stack: it goes with the view
     const QPointer<QMessageBox> box =
         new QMessageBox(QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No, this);
+    widenForTitle(*box);
     const bool confirmed = box->exec() == QMessageBox::Yes;
     if (box)
         box->deleteLater();

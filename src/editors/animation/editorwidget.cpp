@@ -1,6 +1,7 @@
 #include "editors/animation/editorwidget.h"
 
 #include "editors/animation/animationtoolbar.h"
+#include "ui/flowlayout.h"
 
 #include <QAction>
 #include <QLabel>
@@ -52,10 +53,16 @@ EditorWidget::EditorWidget(AnimationToolBar *toolBar, const QString &indexName, 
 void EditorWidget::buildPage()
 {
     // what is laid out first is reached first by the keyboard
-    auto *tools = new QHBoxLayout;
-    tools->setContentsMargins(0, 0, 6, 0);
-    tools->addWidget(m_tools, 1);
-    tools->addLayout(m_cellNumbers);
+    auto *tools = new QWidget;
+    auto *toolsLayout = new FlowLayout(tools);
+    toolsLayout->setContentsMargins(0, 0, 0, 0);
+    m_tools->setMinimumWidth(m_tools->sizeHint().width());
+    toolsLayout->addWidget(m_tools);
+    auto *numbers = new QWidget;
+    m_cellNumbers->setContentsMargins(0, 0, 6, 0);
+    numbers->setLayout(m_cellNumbers);
+    numbers->setMinimumHeight(m_tools->sizeHint().height());
+    toolsLayout->addWidget(numbers);
     m_scroller->setWidget(m_frameEditor);
     m_scroller->setAlignment(Qt::AlignCenter);
     m_scroller->setFocusPolicy(Qt::NoFocus);
@@ -64,7 +71,7 @@ void EditorWidget::buildPage()
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(2);
     layout->addWidget(m_toolBar);
-    layout->addLayout(tools);
+    layout->addWidget(tools);
     layout->addWidget(m_scroller, 1);
     layout->addWidget(m_control);
     setAnimation(nullptr);
