@@ -8,6 +8,8 @@
 
 #include <QTest>
 
+#include <optional>
+
 namespace {
 
 enum Result { Available, UpToDate, Failed };
@@ -19,12 +21,14 @@ class TestUpdatePresenter : public QObject
     Q_OBJECT
 
 private slots:
+    void init() { m_page.emplace(); }
+    void cleanup() { m_page.reset(); } // no widget outlives the application
     void tellsWhoAsked_data();
     void tellsWhoAsked();
     void skipsTheOfferedVersion();
 
 private:
-    GeneralPage m_page;
+    std::optional<GeneralPage> m_page;
 };
 
 void TestUpdatePresenter::tellsWhoAsked_data()
@@ -59,7 +63,7 @@ void TestUpdatePresenter::tellsWhoAsked()
     QFETCH(const QString, text);
     QFETCH(const bool, offered);
     Update::UpdateChecker::setFeedAddress({});
-    UpdateController controller(&m_page, [] {}, {appVersion(), appReleaseDate(), appChannel()});
+    UpdateController controller(&*m_page, [] {}, {appVersion(), appReleaseDate(), appChannel()});
     QWidget window;
     UpdatePresenter presenter(&controller, &window);
     presenter.showAboutBox();
@@ -87,12 +91,12 @@ void TestUpdatePresenter::tellsWhoAsked()
 
 void TestUpdatePresenter::skipsTheOfferedVersion()
 {
-    UpdateController controller(&m_page, [] {}, {appVersion(), appReleaseDate(), appChannel()});
+    UpdateController controller(&*m_page, [] {}, {appVersion(), appReleaseDate(), appChannel()});
     QWidget window;
     const UpdatePresenter presenter(&controller, &window);
     emit controller.updateAvailable({"0.7.1.0", "stable", "2026-12-01", {}, {}}, UpdateController::Startup);
     emit window.findChild<UpdateDialog *>()->skipVersion("0.7.1.0");
-    QCOMPARE(m_page.skippedVersion(), "0.7.1.0");
+    QCOMPARE(m_page->skippedVersion(), "0.7.1.0");
 }
 
 QUENMORA_TEST_MAIN(TestUpdatePresenter)
