@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QToolButton>
+#include <QVBoxLayout>
 
 SectionHeader::SectionHeader(const QString &text, QWidget *parent)
     : QWidget(parent)
@@ -21,6 +22,17 @@ SectionHeader::SectionHeader(const QString &text, QWidget *parent)
     m_layout->setSpacing(1);
     m_layout->addWidget(m_text, 1);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+}
+
+QWidget *SectionHeader::over(QWidget *content, SectionHeader *header)
+{
+    auto *part = new QWidget;
+    auto *layout = new QVBoxLayout(part);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(header);
+    layout->addWidget(content, 1);
+    return part;
 }
 
 QString SectionHeader::text() const

@@ -15,6 +15,9 @@ class SectionHeader : public QWidget
 public:
     explicit SectionHeader(const QString &text, QWidget *parent = nullptr);
 
+    /// The part of a window that has this line at the top and the content below it, both of which it takes over.
+    [[nodiscard]] static QWidget *over(QWidget *content, SectionHeader *header);
+
     [[nodiscard]] QString text() const;
 
     /// A button for an action after those that are there; named by the action's text.

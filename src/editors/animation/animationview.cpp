@@ -7,7 +7,6 @@
 
 #include <QMessageBox>
 #include <QScopedValueRollback>
-#include <QVBoxLayout>
 
 namespace AnimationEditor {
 
@@ -17,17 +16,6 @@ constexpr int ListWidth = 160;
 
 constexpr int LeastListWidth = 120;
 
-QWidget *titled(SectionHeader *header, QWidget *content)
-{
-    auto *page = new QWidget;
-    auto *layout = new QVBoxLayout(page);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->addWidget(header);
-    layout->addWidget(content, 1);
-    return page;
-}
-
 } // namespace
 
 AnimationView::AnimationView(AnimationListWidget *list, EditorWidget *editor, QWidget *parent)
@@ -36,8 +24,8 @@ AnimationView::AnimationView(AnimationListWidget *list, EditorWidget *editor, QW
     , m_editor(editor)
     , m_title(new SectionHeader(QString()))
 {
-    addWidget(titled(new SectionHeader(tr("Animations")), m_list));
-    addWidget(titled(m_title, m_editor));
+    addWidget(SectionHeader::over(m_list, new SectionHeader(tr("Animations"))));
+    addWidget(SectionHeader::over(m_editor, m_title));
     setStretchFactor(0, 0);
     setStretchFactor(1, 1);
     setChildrenCollapsible(false);

@@ -54,16 +54,10 @@ void SpriteWindow::buildPage()
     scroller->setWidgetResizable(true);
     scroller->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     scroller->setWidget(m_list);
-    auto *listPart = new QWidget;
-    auto *listLayout = new QVBoxLayout(listPart);
-    listLayout->setContentsMargins(0, 0, 0, 0);
-    listLayout->setSpacing(0);
-    listLayout->addWidget(m_header);
-    listLayout->addWidget(scroller, 1);
 
     auto *splitter = new QSplitter(Qt::Vertical);
     splitter->addWidget(editor);
-    splitter->addWidget(listPart);
+    splitter->addWidget(SectionHeader::over(scroller, m_header));
     splitter->setStretchFactor(0, 3);
     splitter->setStretchFactor(1, 2);
     setContent(splitter);

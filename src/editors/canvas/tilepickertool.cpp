@@ -4,7 +4,6 @@
 #include "ui/sectionheader.h"
 
 #include <QScrollArea>
-#include <QVBoxLayout>
 
 TilePickerTool::TilePickerTool(QWidget *parent)
     : DockWidget(tr("Tiles"), tr("No active tile set"), parent)
@@ -17,13 +16,7 @@ TilePickerTool::TilePickerTool(QWidget *parent)
     m_scroller->setWidget(m_grid);
     m_scroller->setWidgetResizable(true);
     m_scroller->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    auto *page = new QWidget;
-    auto *layout = new QVBoxLayout(page);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->addWidget(m_header);
-    layout->addWidget(m_scroller, 1);
-    setContent(page);
+    setContent(SectionHeader::over(m_scroller, m_header));
 
     connect(m_grid, &TilePickerGrid::selectedIndexChanged, this, &TilePickerTool::selectedTileChanged);
     connect(m_grid, &TilePickerGrid::selectedIndexChanged, this, &TilePickerTool::scrollTo);

@@ -16,24 +16,13 @@ namespace {
 constexpr int PictureExtent = 2 * SpriteBank::SpriteSize;
 constexpr int CellExtent = PictureExtent + 6;
 
-QWidget *withHeader(const QString &title, QWidget *content)
-{
-    auto *part = new QWidget;
-    auto *layout = new QVBoxLayout(part);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->addWidget(new SectionHeader(title));
-    layout->addWidget(content, 1);
-    return part;
-}
-
 } // namespace
 
 MapSpritesWindow::MapSpritesWindow(QWidget *parent)
     : DockWidget(tr("Map Sprites"), tr("No sprites"), parent)
     , m_banks(new QComboBox)
     , m_animations(new AnimationEditor::AnimationListWidget)
-    , m_animationsPart(withHeader(tr("Animations"), m_animations))
+    , m_animationsPart(SectionHeader::over(m_animations, new SectionHeader(tr("Animations"))))
     , m_model(new SpriteListModel(this))
     , m_sprites(new QListView)
 {
@@ -58,7 +47,7 @@ MapSpritesWindow::MapSpritesWindow(QWidget *parent)
     auto *parts = new QSplitter(Qt::Vertical);
     parts->setChildrenCollapsible(false);
     parts->addWidget(m_animationsPart);
-    parts->addWidget(withHeader(tr("Sprites"), m_sprites));
+    parts->addWidget(SectionHeader::over(m_sprites, new SectionHeader(tr("Sprites"))));
     parts->setStretchFactor(0, 1);
     parts->setStretchFactor(1, 2);
     auto *page = new QWidget;
