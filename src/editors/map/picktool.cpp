@@ -8,8 +8,10 @@ namespace MapEditor {
 
 bool PickTool::activate()
 {
-    if (grid()->savedMode() != mode())
-        m_modeBefore = grid()->savedMode();
+    const Quenmora::Ui::ToolButton before = grid()->savedMode();
+    const bool refused = before == Quenmora::Ui::Paste && grid()->pasteArea().isEmpty(); // while picking
+    if (before != mode() && !refused)
+        m_modeBefore = before;
     grid()->refreshCursor();
     return true;
 }
