@@ -78,13 +78,14 @@ void CellTool::placeAnimation(QPoint cell)
 void CellTool::highlightAt(QPoint cell)
 {
     const QRect covered = grid()->map()->animatedBlocks()->areaAt(cell);
+    const bool movable = !covered.isEmpty() && !isUnavailable();
+    if (movable && grid()->cursor().shape() != Qt::SizeAllCursor)
+        grid()->setCursor(Qt::SizeAllCursor); // also over what was placed just now
     if (covered == grid()->highlight())
         return;
     grid()->setHighlight(covered);
-    if (covered.isEmpty() || isUnavailable())
+    if (!movable)
         grid()->refreshCursor();
-    else
-        grid()->setCursor(Qt::SizeAllCursor);
     grid()->update();
 }
 
