@@ -26,6 +26,7 @@ MapGrid::MapGrid(QWidget *parent)
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
+    setAccessibleName(tr("Map"));
     m_rubberBand->hide();
     addTool<DrawTool>();
     addTool<SelectTool>();

@@ -127,6 +127,8 @@ void MapGrid::setScrollPosition(QPoint position)
 void MapGrid::wheelEvent(QWheelEvent *event)
 {
     const QPoint delta = event->angleDelta();
+    if (delta.isNull())
+        return; // a touchpad tells that fingers came or went
     if (event->modifiers() & Qt::ControlModifier) {
         if (delta.y() < 1)
             zoomOut();
