@@ -17,6 +17,7 @@ void MapGrid::setMap(const QPointer<Map> &map)
     setEnabled(false);
     m_map = map;
     forget();
+    const bool scrolled = !m_viewport.scroll.isNull();
     m_viewport.scroll = QPoint();
     if (map) {
         m_gridVisible = map->gridVisible();
@@ -25,6 +26,8 @@ void MapGrid::setMap(const QPointer<Map> &map)
     setEnabled(true);
     refreshCursor();
     relayout();
+    if (scrolled)
+        emit scrollPositionChanged(m_viewport.scroll);
 }
 
 void MapGrid::followMap()
@@ -164,6 +167,8 @@ void MapGrid::setSpriteVisibility(bool visible)
 {
     if (m_map)
         m_map->setSpriteLayerVisible(visible);
+    if (!visible)
+        m_hoverSprite = -1; // nobody sees what would be deleted
     refreshCursor();
     update();
 }
