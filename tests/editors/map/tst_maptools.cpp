@@ -16,71 +16,21 @@ class TestMapTools : public QObject
     Q_OBJECT
 
 private slots:
-    void strokeWritesItsCells_data();
-    void strokeWritesItsCells();
     void strokeIsOneStep();
-    void strokeEndsWhereThePointerLeaves();
     void writesTheCurrentTile();
     void hiddenLayersAreNotEdited();
     void placesAnAnimationOncePerStroke();
     void playedFramesAreNoEdit();
-    void selectsTheCellsUnderTheBand_data();
-    void selectsTheCellsUnderTheBand();
-    void shiftSelectsWithAnyTool();
     void contextMenuTakesTheRelease();
-    void picksAndReturnsToTheToolBefore();
-    void middleButtonPicksWithAnyTool();
-    void refusesTheClipboard_data();
-    void refusesTheClipboard();
     void pastesAroundThePointer();
-    void placesSpritesInsideTheMap_data();
-    void placesSpritesInsideTheMap();
-    void clickOnASpriteIsNoMove();
     void movesTheTopmostSprite();
     void spriteDragSurvivesAChangedList();
+    void selectsTheCellsUnderTheBand();
+    void picksAndReturnsToTheToolBefore();
+    void placesSpritesInsideTheMap();
+    void strokeWritesItsCells();
+    void refusesTheClipboard();
 };
-
-void TestMapTools::strokeWritesItsCells_data()
-{
-    using F = MapGridFixture;
-    QTest::addColumn<QList<QPoint>>("points");
-    QTest::addColumn<int>("snap");
-    QTest::addColumn<QList<QPoint>>("cells");
-
-    QTest::newRow("click without a move") << QList{F::at(2, 2)} << 1 << QList<QPoint>();
-    QTest::newRow("move inside a cell") << QList{F::at(2, 2), F::at(2, 2) + QPoint(1, 0)} << 1 << QList{QPoint(2, 2)};
-    QTest::newRow("fast along a row") << QList{F::at(2, 2), F::at(5, 2)} << 1
-                                      << QList{QPoint(2, 2), QPoint(3, 2), QPoint(4, 2), QPoint(5, 2)};
-    QTest::newRow("fast and askew") << QList{F::at(3, 5), F::at(2, 2)} << 1
-                                    << QList{QPoint(3, 5), QPoint(3, 4), QPoint(2, 3), QPoint(2, 2)};
-    QTest::newRow("snap") << QList{F::at(5, 6), F::at(6, 7)} << 4 << QList{QPoint(4, 4)};
-    QTest::newRow("snap, fast") << QList{F::at(1, 1), F::at(13, 5)} << 4
-                                << QList{QPoint(0, 0), QPoint(4, 0), QPoint(8, 4), QPoint(12, 4)};
-    QTest::newRow("outside and back") << QList{F::at(2, 2), F::at(3, 2), QPoint(-40, 500), F::at(6, 2)} << 1
-                                      << QList{QPoint(2, 2), QPoint(3, 2), QPoint(6, 2)};
-}
-
-void TestMapTools::strokeWritesItsCells()
-{
-    QFETCH(QList<QPoint>, points);
-    QFETCH(int, snap);
-    QFETCH(QList<QPoint>, cells);
-    MapGridFixture f;
-    f.grid.setCurrentTileIndex(4);
-    f.grid.setSnapToSize(snap);
-    f.drag(points);
-    QList<QPoint> written;
-    for (int y = 0; y < 16; ++y) {
-        for (int x = 0; x < 20; ++x) {
-            if (f.tile(x, y).used)
-                written.append({x, y});
-        }
-    }
-    std::sort(cells.begin(), cells.end(),
-              [](QPoint a, QPoint b) { return std::pair(a.y(), a.x()) < std::pair(b.y(), b.x()); });
-    QCOMPARE(written, cells);
-    QCOMPARE(f.stack.count(), cells.isEmpty() ? 0 : 1);
-}
 
 void TestMapTools::strokeIsOneStep()
 {
@@ -99,26 +49,18 @@ void TestMapTools::strokeIsOneStep()
     f.stack.redo();
     QVERIFY(f.tile(0, 3).used && f.tile(9, 3).used);
 
+    f.press(f.at(1, 0));
+    f.move(f.at(2, 0), Qt::LeftButton);
+    f.move({-3, -3}, Qt::LeftButton);
+    f.release({-3, -3}); // outside, and the edit ends all the same
+    QCOMPARE(f.stack.count(), 2);
+    f.move(f.at(7, 7));
+    QVERIFY(!f.tile(7, 7).used); // no button is held any more
+
     f.grid.setUndoStack(nullptr);
     f.drag({f.at(0, 5), f.at(1, 5)});
     QVERIFY(f.tile(1, 5).used); // edited, not recorded
-    QCOMPARE(f.stack.count(), 1);
-}
-
-void TestMapTools::strokeEndsWhereThePointerLeaves()
-{
-    MapGridFixture f;
-    f.grid.resize(500, 400); // the map is centred in it
-    const QPoint corner = f.grid.viewport().viewRect.topLeft();
-    QCOMPARE(corner, QPoint(90, 72));
-    f.press(corner + f.at(0, 0));
-    f.move(corner + f.at(1, 0), Qt::LeftButton);
-    f.move(QPoint(3, 3), Qt::LeftButton);
-    QCOMPARE(f.grid.hoverCell(), QPoint(-1, -1));
-    f.release(QPoint(3, 3)); // outside, and the edit ends all the same
-    QCOMPARE(f.lastStep(), QStringLiteral("Paint"));
-    f.move(corner + f.at(7, 7));
-    QVERIFY(!f.tile(7, 7).used); // no button is held any more
+    QCOMPARE(f.stack.count(), 2);
 }
 
 void TestMapTools::writesTheCurrentTile()
@@ -164,6 +106,8 @@ void TestMapTools::placesAnAnimationOncePerStroke()
     QCOMPARE(f.grid.mode(), PlaceAnim);
     QCOMPARE(f.grid.cursor().shape(), Qt::OpenHandCursor);
     f.drag({f.at(2, 3), f.at(3, 3), f.at(9, 9)});
+    f.move(f.at(4, 4));
+    QCOMPARE(f.grid.cursor().shape(), Qt::SizeAllCursor); // over what was placed just now
     QCOMPARE(f.map->animatedBlocks()->areas(), (QHash<QRect, QUuid>{{QRect(3, 3, 3, 2), f.animation->id()}}));
     QCOMPARE(f.object(5, 4), (TileData{5, false, false, false, 0, true}));
     QCOMPARE(f.lastStep(), QStringLiteral("Place Animation"));
@@ -173,7 +117,6 @@ void TestMapTools::placesAnAnimationOncePerStroke()
     QVERIFY(!f.grid.removeAnimation());
     f.move(f.at(5, 4));
     QCOMPARE(f.grid.highlight(), QRect(3, 3, 3, 2));
-    QCOMPARE(f.grid.cursor().shape(), Qt::SizeAllCursor);
     f.drag({f.at(5, 4), f.at(12, 4)}); // what is there already is not placed again
     QCOMPARE(f.map->animatedBlocks()->list().size(), 1);
     QVERIFY(f.grid.removeAnimation());
@@ -205,47 +148,6 @@ void TestMapTools::playedFramesAreNoEdit()
     QVERIFY(!f.tile(11, 1).used);
 }
 
-void TestMapTools::selectsTheCellsUnderTheBand_data()
-{
-    using F = MapGridFixture;
-    QTest::addColumn<QPoint>("from");
-    QTest::addColumn<QPoint>("to");
-    QTest::addColumn<QRect>("cells");
-
-    QTest::newRow("down") << F::at(2, 3) << F::at(5, 4) << QRect(2, 3, 4, 2);
-    QTest::newRow("up") << F::at(5, 4) << F::at(2, 3) << QRect(2, 3, 4, 2);
-    QTest::newRow("one cell") << F::at(5, 4) << F::at(5, 4) + QPoint(1, 1) << QRect(5, 4, 1, 1);
-    QTest::newRow("from outside") << QPoint(-90, -90) << F::at(1, 1) << QRect(0, 0, 2, 2);
-}
-
-void TestMapTools::selectsTheCellsUnderTheBand()
-{
-    QFETCH(QPoint, from);
-    QFETCH(QPoint, to);
-    QFETCH(QRect, cells);
-    MapGridFixture f;
-    f.grid.setMode(Select);
-    QCOMPARE(f.grid.cursor().shape(), Qt::CrossCursor);
-    f.drag({from, f.at(8, 8), to});
-    QCOMPARE(f.grid.selection(), cells);
-    QCOMPARE(f.stack.count(), 0);
-}
-
-void TestMapTools::shiftSelectsWithAnyTool()
-{
-    MapGridFixture f;
-    QSignalSpy modes(&f.grid, &MapEditor::MapGrid::modeChanged);
-    f.press(f.at(1, 1), Qt::LeftButton, Qt::ShiftModifier);
-    f.move(f.at(2, 2), Qt::LeftButton);
-    f.release(f.at(2, 2));
-    QCOMPARE(modes.last().first().value<ToolButton>(), Select);
-    QCOMPARE(f.grid.selection(), QRect(1, 1, 2, 2));
-    f.grid.copySelection();
-    QCOMPARE(f.grid.mode(), Draw);
-    QCOMPARE(f.grid.selection(), QRect(1, 1, 2, 2));
-    QCOMPARE(f.grid.pasteArea(), QRect(1, 1, 2, 2));
-}
-
 void TestMapTools::contextMenuTakesTheRelease()
 {
     MapGridFixture f;
@@ -267,86 +169,6 @@ void TestMapTools::contextMenuTakesTheRelease()
     QVERIFY(f.grid.heldButtons() == Qt::NoButton);
 }
 
-void TestMapTools::picksAndReturnsToTheToolBefore()
-{
-    MapGridFixture f;
-    f.map->setTile({4, 2}, {3, true, false, true, 7, true});
-    QSignalSpy picked(&f.grid, &MapEditor::MapGrid::tilePicked);
-    f.grid.setMode(Select);
-    f.grid.setMode(Pick);
-    f.grid.setMode(Pick);
-    f.click(f.at(4, 2), Qt::RightButton);
-    QCOMPARE(picked.size(), 0);
-    f.click(f.at(4, 2));
-    QCOMPARE(picked.size(), 1);
-    QCOMPARE(picked.first().first().value<TileData>(), (TileData{3, true, false, true, 7, true}));
-    QCOMPARE(f.grid.mode(), Select);
-}
-
-void TestMapTools::middleButtonPicksWithAnyTool()
-{
-    MapGridFixture f;
-    f.map->setTile({4, 2}, {3, true, false, true, 7, true});
-    QSignalSpy picked(&f.grid, &MapEditor::MapGrid::tilePicked);
-    f.grid.setCurrentTileIndex(9);
-    f.drag({f.at(2, 2), f.at(3, 2), f.at(4, 2)}, Qt::MiddleButton);
-    QCOMPARE(picked.size(), 1);
-    QCOMPARE(picked.first().first().value<TileData>().index, 3);
-    QVERIFY(!f.tile(3, 2).used);
-    QCOMPARE(f.grid.mode(), Draw);
-    QCOMPARE(f.stack.count(), 0);
-}
-
-void TestMapTools::refusesTheClipboard_data()
-{
-    QTest::addColumn<int>("height");
-    QTest::addColumn<int>("width");
-    QTest::addColumn<int>("cells");
-    QTest::addColumn<bool>("ownTiles");
-    QTest::addColumn<bool>("accepted");
-
-    QTest::newRow("sound") << 2 << 3 << 6 << true << true;
-    QTest::newRow("other tile set") << 2 << 3 << 6 << false << false;
-    QTest::newRow("cut") << 2 << 3 << 5 << true << false;
-    QTest::newRow("absurd") << 0x7FFFFFFF << 0x7FFFFFFF << 6 << true << false;
-    QTest::newRow("negative") << -2 << -3 << 6 << true << false;
-    QTest::newRow("no cells") << 0 << 5 << 0 << true << false;
-    QTest::newRow("nothing") << -1 << 0 << -1 << true << false;
-}
-
-void TestMapTools::refusesTheClipboard()
-{
-    QFETCH(int, height);
-    QFETCH(int, width);
-    QFETCH(int, cells);
-    QFETCH(bool, ownTiles);
-    QFETCH(bool, accepted);
-    MapGridFixture f;
-    QByteArray data;
-    if (cells >= 0) {
-        QDataStream stream(&data, QIODevice::WriteOnly);
-        stream << qint32(height) << qint32(width);
-        for (int i = 0; i < cells; ++i)
-            stream << qint32(7) << true << qint32(0) << false << false << false;
-        stream << (ownTiles ? f.tiles->id() : QUuid::createUuid());
-    }
-    auto *content = new QMimeData;
-    content->setData(QStringLiteral("quenmora-map-toNextData"), data);
-    QApplication::clipboard()->setMimeData(content);
-
-    f.grid.setMode(Select);
-    f.grid.setMode(Paste);
-    QCOMPARE(f.grid.mode(), accepted ? Paste : Select);
-    f.click(f.at(5, 5));
-    QCOMPARE(f.stack.count(), accepted ? 1 : 0);
-
-    // what was accepted may have been replaced since
-    QApplication::clipboard()->clear();
-    const auto before = f.map->snapshot();
-    f.click(f.at(10, 10));
-    QVERIFY(f.map->snapshot() == before);
-}
-
 void TestMapTools::pastesAroundThePointer()
 {
     MapGridFixture f;
@@ -363,57 +185,6 @@ void TestMapTools::pastesAroundThePointer()
     QCOMPARE(f.lastStep(), QStringLiteral("Paste"));
     f.stack.undo();
     QVERIFY(!f.tile(18, 8).used);
-}
-
-void TestMapTools::placesSpritesInsideTheMap_data()
-{
-    QTest::addColumn<QPoint>("pixel");
-    QTest::addColumn<int>("snap");
-    QTest::addColumn<QPoint>("position"); // (-1, -1) for none
-
-    QTest::newRow("free") << QPoint(33, 21) << 1 << QPoint(33, 21);
-    QTest::newRow("snapped") << QPoint(33, 21) << 2 << QPoint(32, 16);
-    QTest::newRow("last pixel") << QPoint(159, 127) << 1 << QPoint(159, 127);
-    QTest::newRow("outside") << QPoint(160, 20) << 1 << QPoint(-1, -1);
-}
-
-void TestMapTools::placesSpritesInsideTheMap()
-{
-    QFETCH(QPoint, pixel);
-    QFETCH(int, snap);
-    QFETCH(QPoint, position);
-    MapGridFixture f;
-    QSignalSpy selected(&f.grid, &MapEditor::MapGrid::selectedSpriteChanged);
-    f.grid.setSnapToSize(snap);
-    f.grid.setCurrentSpriteAnimation(f.run);
-    QCOMPARE(f.grid.mode(), PlaceSprite);
-    f.click(f.pixel(pixel.x(), pixel.y()));
-    if (position.x() < 0) {
-        QVERIFY(f.map->sprites().isEmpty());
-        return;
-    }
-    Map::PlacedSprite expected = f.sprite(-1, position);
-    expected.animation = f.run->id();
-    QCOMPARE(f.map->sprites().size(), 1);
-    QVERIFY(f.map->sprites().first() == expected);
-    QCOMPARE(f.lastStep(), QStringLiteral("Place Sprite"));
-    QCOMPARE(selected, QSignalSpy::QList<QVariantList>{QVariantList{0}});
-}
-
-void TestMapTools::clickOnASpriteIsNoMove()
-{
-    MapGridFixture f;
-    f.map->addSprite(f.sprite(1, {40, 40}));
-    QSignalSpy clicked(&f.grid, &MapEditor::MapGrid::spriteClicked);
-    f.grid.setMode(PlaceSprite);
-    f.drag({f.pixel(45, 45), f.pixel(46, 45)});
-    QCOMPARE(clicked.size(), 1);
-    QCOMPARE(clicked.first().first().toInt(), 0);
-    QCOMPARE(f.grid.selectedSprite(), 0);
-    QCOMPARE(f.stack.count(), 0);
-    f.click(f.pixel(100, 100)); // beside it, with nothing to place
-    QCOMPARE(f.grid.selectedSprite(), -1);
-    QCOMPARE(clicked.size(), 1);
 }
 
 void TestMapTools::movesTheTopmostSprite()
@@ -446,6 +217,161 @@ void TestMapTools::spriteDragSurvivesAChangedList()
     f.release(f.pixel(70, 70));
     QCOMPARE(f.map->sprites().first().x, 90);
     QCOMPARE(clicked.size(), 0);
+}
+
+void TestMapTools::selectsTheCellsUnderTheBand()
+{
+    using F = MapGridFixture;
+    for (const auto &[from, to, cells] : {std::tuple(F::at(2, 3), F::at(5, 4), QRect(2, 3, 4, 2)),
+                                          {F::at(5, 4), F::at(2, 3), {2, 3, 4, 2}},
+                                          {F::at(5, 4), F::at(5, 4) + QPoint(1, 1), {5, 4, 1, 1}},
+                                          {QPoint(-90, -90), F::at(1, 1), {0, 0, 2, 2}}}) {
+        F f;
+        f.press(from, Qt::LeftButton, Qt::ShiftModifier); // with any tool
+        f.move(f.at(8, 8), Qt::LeftButton);
+        f.move(to, Qt::LeftButton);
+        f.release(to);
+        QCOMPARE(f.grid.mode(), Select);
+        QCOMPARE(f.grid.cursor().shape(), Qt::CrossCursor);
+        QCOMPARE(f.grid.selection(), cells);
+        QCOMPARE(f.stack.count(), 0);
+        f.grid.copySelection();
+        QCOMPARE(f.grid.mode(), Draw);
+        QCOMPARE(f.grid.selection(), cells);
+        QCOMPARE(f.grid.pasteArea(), cells);
+    }
+}
+
+void TestMapTools::picksAndReturnsToTheToolBefore()
+{
+    MapGridFixture f;
+    const TileData tile{3, true, false, true, 7, true};
+    f.map->setTile({4, 2}, tile);
+    QApplication::clipboard()->clear();
+    QSignalSpy picked(&f.grid, &MapEditor::MapGrid::tilePicked);
+    f.grid.setMode(Select);
+    f.grid.setMode(Pick);
+    f.grid.setMode(Pick);
+    f.grid.setMode(Paste); // refused
+    f.click(f.at(4, 2), Qt::RightButton);
+    QCOMPARE(picked.size(), 0);
+    f.click(f.at(4, 2));
+    QCOMPARE(picked, (QList<QVariantList>{{QVariant::fromValue(tile)}}));
+    QCOMPARE(f.grid.mode(), Select);
+
+    f.grid.setMode(Draw);
+    f.grid.setCurrentTileIndex(9);
+    f.drag({f.at(2, 2), f.at(3, 2), f.at(4, 2)}, Qt::MiddleButton);
+    QCOMPARE(picked.size(), 2);
+    QVERIFY(!f.tile(3, 2).used);
+    QCOMPARE(f.grid.mode(), Draw);
+    QCOMPARE(f.stack.count(), 0);
+}
+
+void TestMapTools::placesSpritesInsideTheMap()
+{
+    MapGridFixture f;
+    f.grid.setCurrentSpriteAnimation(f.run);
+    QCOMPARE(f.grid.mode(), PlaceSprite);
+    Map::PlacedSprite expected = f.sprite(-1, {});
+    expected.animation = f.run->id();
+    int placed = 0;
+    for (const auto &[pixel, snap, position] : {std::tuple(QPoint(33, 21), 1, QPoint(33, 21)),
+                                                {QPoint(99, 21), 2, QPoint(96, 16)},
+                                                {QPoint(159, 127), 1, QPoint(159, 127)}}) {
+        f.grid.setSnapToSize(snap);
+        f.click(f.pixel(pixel.x(), pixel.y()));
+        QCOMPARE(f.grid.selectedSprite(), placed);
+        expected.x = position.x();
+        expected.y = position.y();
+        QCOMPARE(f.map->sprites().value(placed), expected);
+        QCOMPARE(f.lastStep(), QStringLiteral("Place Sprite"));
+        QCOMPARE(f.stack.count(), ++placed);
+    }
+    f.click(f.pixel(160, 20)); // outside
+    QCOMPARE(f.map->sprites().size(), placed);
+
+    QSignalSpy clicked(&f.grid, &MapEditor::MapGrid::spriteClicked);
+    f.drag({f.pixel(40, 30), f.pixel(41, 30)}); // too short for a move
+    QCOMPARE(clicked, (QList<QVariantList>{{0}}));
+    f.grid.setCurrentSprite({}, -1);
+    f.click(f.pixel(60, 100)); // beside them, with nothing to place
+    QCOMPARE(f.grid.selectedSprite(), -1);
+    QCOMPARE(clicked.size(), 1);
+    QCOMPARE(f.stack.count(), placed);
+}
+
+void TestMapTools::strokeWritesItsCells()
+{
+    using F = MapGridFixture;
+    using Points = QList<QPoint>;
+    struct Stroke
+    {
+        Points points;
+        int snap;
+        Points cells; ///< row by row
+    };
+    const Stroke strokes[] = {
+        {{F::at(2, 2)}, 1, {}}, // without a move
+        {{F::at(2, 2), F::at(2, 2) + QPoint(1, 0)}, 1, {{2, 2}}},
+        {{F::at(2, 2), F::at(5, 2)}, 1, {{2, 2}, {3, 2}, {4, 2}, {5, 2}}}, // fast
+        {{F::at(3, 5), F::at(2, 2)}, 1, {{2, 2}, {2, 3}, {3, 4}, {3, 5}}},
+        {{F::at(5, 6), F::at(6, 7)}, 4, {{4, 4}}},
+        {{F::at(1, 1), F::at(13, 5)}, 4, {{0, 0}, {4, 0}, {8, 4}, {12, 4}}},
+        {{F::at(2, 2), F::at(3, 2), {-40, 500}, F::at(6, 2)}, 1, {{2, 2}, {3, 2}, {6, 2}}}, // outside and back
+    };
+    for (const Stroke &stroke : strokes) {
+        F f;
+        f.grid.setCurrentTileIndex(4);
+        f.grid.setSnapToSize(stroke.snap);
+        f.drag(stroke.points);
+        Points written;
+        for (int i = 0; i < 16 * 20; ++i) {
+            if (f.tile(i % 20, i / 20).used)
+                written.append({i % 20, i / 20});
+        }
+        QCOMPARE(written, stroke.cells);
+        QCOMPARE(f.stack.count(), written.isEmpty() ? 0 : 1);
+    }
+}
+
+void TestMapTools::refusesTheClipboard()
+{
+    struct Content
+    {
+        int height;
+        int width;
+        int cells; ///< -1 for no data at all
+        bool ownTiles = true;
+        bool accepted = false;
+    };
+    const Content contents[] = {{2, 3, 6, true, true}, {2, 3, 6, false}, {2, 3, 5}, {0x7FFFFFFF, 0x7FFFFFFF, 6},
+                                {-2, -3, 6},           {0, 5, 0},        {0, 0, -1}};
+    for (const Content &content : contents) {
+        MapGridFixture f;
+        QByteArray data;
+        QDataStream stream(&data, QIODevice::WriteOnly);
+        if (content.cells >= 0)
+            stream << qint32(content.height) << qint32(content.width);
+        for (int i = 0; i < content.cells; ++i)
+            stream << qint32(7) << true << qint32(0) << false << false << false;
+        if (content.cells >= 0)
+            stream << (content.ownTiles ? f.tiles->id() : QUuid::createUuid());
+        auto *copied = new QMimeData;
+        copied->setData(QStringLiteral("quenmora-map-toNextData"), data);
+        QApplication::clipboard()->setMimeData(copied);
+        f.grid.setMode(Select);
+        f.grid.setMode(Paste);
+        QCOMPARE(f.grid.mode(), content.accepted ? Paste : Select);
+        f.click(f.at(5, 5));
+        QCOMPARE(f.stack.count(), content.accepted ? 1 : 0);
+
+        // what was accepted may have been replaced since
+        QApplication::clipboard()->clear();
+        const auto before = f.map->snapshot();
+        f.click(f.at(10, 10));
+        QVERIFY(f.map->snapshot() == before);
+    }
 }
 
 QUENMORA_TEST_MAIN(TestMapTools)
