@@ -15,6 +15,7 @@
 #include "store/pngmember.h"
 #include "store/spritebankdocument.h"
 #include "store/tilesetdocument.h"
+#include "store/zipfile.h"
 
 #include <QCoreApplication>
 #include <QJsonArray>
@@ -188,6 +189,15 @@ ProjectMembers serializeProject(const Project &project, bool includeOpenDocument
     members.insert(DocumentMember, QJsonDocument(document).toJson(QJsonDocument::Indented));
     members.insert(ScratchMember, PngMember::encode(project.scratchImage()));
     return members;
+}
+
+QString unreadableMember(const ProjectMembers &members)
+{
+    for (auto member = members.cbegin(); member != members.cend(); ++member) {
+        if (member->isEmpty() || member->size() > ZipFile::MaxMemberSize)
+            return member.key();
+    }
+    return valuesIn(members.value(DocumentMember)) > MaxValues ? QString(DocumentMember) : QString();
 }
 
 bool readProject(Project &project, const MemberReader &read, QString &error)

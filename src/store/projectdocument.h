@@ -20,6 +20,10 @@ using MemberReader = std::function<QByteArray(const QString &memberName)>;
 /// The list of open documents, which is no part of the project's content, is left out on request.
 [[nodiscard]] ProjectMembers serializeProject(const Project &project, bool includeOpenDocuments);
 
+/// The name of a member that could not be read again, or none: a picture that no PNG can hold is a member
+/// without bytes, and readers refuse what is larger than anything that they expect.
+[[nodiscard]] QString unreadableMember(const ProjectMembers &members);
+
 /// Fills an empty project from the members of a project file.
 ///
 /// The members may hold anything: a value that is missing or unusable takes its default, and what no

@@ -67,6 +67,8 @@ bool ProjectStore::save(bool backup)
         return failToSave(tr("Could not create the project file"));
     // Nothing on disk is touched before all that is to be written is there.
     const ProjectMembers members = serializeProject(*m_project, true);
+    if (const QString lost = unreadableMember(members); !lost.isEmpty())
+        return failToSave(tr("Could not write %1").arg(lost));
     if (backup)
         backUp();
     ZipFile archive;

@@ -62,7 +62,8 @@ QJsonObject writeTileSet(const TileSet &tileSet, ProjectMembers &members)
             {TileValue, tile->value()},
         });
     }
-    members.insert(stripMember(tileSet.id()), PngMember::encode(tileSet.toStrip()));
+    if (tileSet.count() > 0) // else there is no picture
+        members.insert(stripMember(tileSet.id()), PngMember::encode(tileSet.toStrip()));
     return {
         {Id, tileSet.id().toString()},
         {Name, tileSet.name()},
