@@ -26,10 +26,11 @@ std::optional<QJsonDocument> readJson(const QString &path, const char *warning)
     return QJsonDocument::fromJson(file.readAll());
 }
 
-/// Replaces the file, or leaves it as it was when that fails.
+/// Replaces the file as a whole, or leaves it as it was when that fails.
 bool writeJson(const QString &path, const QJsonDocument &document, const char *warning)
 {
     QSaveFile file(path);
+    file.setDirectWriteFallback(true); // for a file that is writable in a folder that is not
     if (!file.open(QIODevice::WriteOnly)) {
         qWarning("%s", warning);
         return false;
