@@ -20,11 +20,10 @@ void write(TileMap::Rows &rows, qsizetype row, qsizetype column, const TileMap::
     if (row >= rows.size() || column >= rows.at(row).size())
         return;
     TileMap::Row &target = rows[row];
-    if (cells.size() == target.size()) {
-        target = cells;
-        return;
-    }
-    std::copy_n(cells.cbegin(), std::min(cells.size(), target.size() - column), target.begin() + column);
+    if (column == 0 && cells.size() == target.size())
+        target = cells; // shared, not copied
+    else
+        std::copy_n(cells.cbegin(), std::min(cells.size(), target.size() - column), target.begin() + column);
 }
 
 } // namespace
@@ -43,20 +42,13 @@ GridChange::GridChange(const TileMap::Rows &before, const TileMap::Rows &after) 
     }
 }
 
-void GridChange::putBack(TileMap::Rows &rows) const
+void GridChange::apply(Side side, TileMap::Rows &rows) const
 {
+    const bool back = side == Side::Before;
     if (m_resized)
-        rows = m_before;
+        rows = back ? m_before : m_after;
     for (const Run &run : m_runs)
-        write(rows, run.row, run.column, run.before);
-}
-
-void GridChange::putForward(TileMap::Rows &rows) const
-{
-    if (m_resized)
-        rows = m_after;
-    for (const Run &run : m_runs)
-        write(rows, run.row, run.column, run.after);
+        write(rows, run.row, run.column, back ? run.before : run.after);
 }
 
 void GridChange::addRunsOf(qsizetype row, const TileMap::Row &before, const TileMap::Row &after)

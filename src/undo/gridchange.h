@@ -14,12 +14,11 @@ class GridChange
 public:
     GridChange(const TileMap::Rows &before, const TileMap::Rows &after);
 
-    // Both change the cells of the runs and leave the others as they are. Cells outside the grid are skipped.
+    enum class Side { Before, After };
 
-    /// Gives the cells that differ their content from before the change.
-    void putBack(TileMap::Rows &rows) const;
-    /// Gives the cells that differ their content from after the change.
-    void putForward(TileMap::Rows &rows) const;
+    /// Gives the cells that differ their content from before or after the change, and leaves the others as
+    /// they are. Cells outside the grid are skipped.
+    void apply(Side side, TileMap::Rows &rows) const;
 
 private:
     /// Neighbouring cells of a row that differ.

@@ -16,30 +16,26 @@ MapEditCommand::~MapEditCommand() = default;
 
 void MapEditCommand::undo()
 {
-    if (m_map) {
-        Map::Snapshot content = m_map->snapshot();
-        m_tiles.putBack(content.tiles);
-        m_objects.putBack(content.objects);
-        if (m_placements.before != m_placements.after)
-            content.placements = m_placements.before;
-        if (m_sprites.before != m_sprites.after)
-            content.sprites = m_sprites.before;
-        m_map->restore(content);
-    }
+    apply(GridChange::Side::Before);
     m_applied = false;
 }
 
 void MapEditCommand::redo()
 {
-    if (m_map && !m_applied) {
-        Map::Snapshot content = m_map->snapshot();
-        m_tiles.putForward(content.tiles);
-        m_objects.putForward(content.objects);
-        if (m_placements.before != m_placements.after)
-            content.placements = m_placements.after;
-        if (m_sprites.before != m_sprites.after)
-            content.sprites = m_sprites.after;
-        m_map->restore(content);
-    }
+    if (m_applied)
+        return;
+    apply(GridChange::Side::After);
     m_applied = true;
+}
+
+void MapEditCommand::apply(GridChange::Side side)
+{
+    if (!m_map)
+        return;
+    Map::Snapshot content = m_map->snapshot();
+    m_tiles.apply(side, content.tiles);
+    m_objects.apply(side, content.objects);
+    m_placements.apply(side, content.placements);
+    m_sprites.apply(side, content.sprites);
+    m_map->restore(content);
 }

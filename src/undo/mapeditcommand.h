@@ -27,9 +27,17 @@ private:
     template <typename Entry>
     struct ListChange
     {
+        void apply(GridChange::Side side, QList<Entry> &list) const
+        {
+            if (before != after)
+                list = side == GridChange::Side::Before ? before : after;
+        }
+
         QList<Entry> before;
         QList<Entry> after;
     };
+
+    void apply(GridChange::Side side);
 
     QPointer<Map> m_map;
     GridChange m_tiles;

@@ -16,40 +16,29 @@ private slots:
 
 void TestPixelEditCommand::onlyScrollsOfTheSamePictureMerge_data()
 {
-    QTest::addColumn<PixelEditCommand::Kind>("first");
-    QTest::addColumn<PixelEditCommand::Kind>("second");
-    QTest::addColumn<QVariant>("firstKey");
-    QTest::addColumn<QVariant>("secondKey");
+    QTest::addColumn<PixelEditCommand::Kind>("kind"); // of the second; the first is a scroll of the image
+    QTest::addColumn<QVariant>("key");
     QTest::addColumn<bool>("merged");
-
-    using Command = PixelEditCommand;
-    const QVariant tile = QStringLiteral("set:3");
-    const QVariant image = QVariant::fromValue(QPointer<QObject>(this));
-    const QVariant otherImage = QVariant::fromValue(QPointer<QObject>(qApp));
-    QTest::newRow("scrolls") << Command::Scroll << Command::Scroll << tile << tile << true;
-    QTest::newRow("scrolls of two tiles")
-        << Command::Scroll << Command::Scroll << tile << QVariant(QStringLiteral("set:4")) << false;
-    QTest::newRow("scrolls of an image") << Command::Scroll << Command::Scroll << image << image << true;
-    QTest::newRow("scrolls of two images") << Command::Scroll << Command::Scroll << image << otherImage << false;
-    QTest::newRow("strokes") << Command::None << Command::None << tile << tile << false;
-    QTest::newRow("stroke after scroll") << Command::Scroll << Command::None << tile << tile << false;
+    const auto keyOf = [](QObject *image) { return QVariant::fromValue(QPointer<QObject>(image)); };
+    QTest::newRow("scroll") << PixelEditCommand::Scroll << keyOf(this) << true;
+    QTest::newRow("scroll of another image") << PixelEditCommand::Scroll << keyOf(qApp) << false;
+    QTest::newRow("scroll of a tile") << PixelEditCommand::Scroll << QVariant("set:4") << false;
+    QTest::newRow("stroke") << PixelEditCommand::None << keyOf(this) << false;
 }
 
 void TestPixelEditCommand::onlyScrollsOfTheSamePictureMerge()
 {
-    QFETCH(PixelEditCommand::Kind, first);
-    QFETCH(PixelEditCommand::Kind, second);
-    QFETCH(QVariant, firstKey);
-    QFETCH(QVariant, secondKey);
+    QFETCH(PixelEditCommand::Kind, kind);
+    QFETCH(QVariant, key);
     QFETCH(bool, merged);
-
     // The width of a picture tells which one it is.
     QList<int> applied;
     const auto apply = [&applied](const QImage &image) { applied.append(image.width()); };
     const auto picture = [](int width) { return QImage(width, 1, QImage::Format_Grayscale8); };
+    const QVariant image = QVariant::fromValue(QPointer<QObject>(this));
     QUndoStack stack;
-    stack.push(new PixelEditCommand({}, picture(1), picture(2), apply, firstKey, first));
-    stack.push(new PixelEditCommand({}, picture(2), picture(3), apply, secondKey, second));
+    stack.push(new PixelEditCommand({}, picture(1), picture(2), apply, image, PixelEditCommand::Scroll));
+    stack.push(new PixelEditCommand({}, picture(2), picture(3), apply, key, kind));
     QCOMPARE(stack.count(), merged ? 1 : 2);
     QCOMPARE(applied, QList<int>());
     stack.undo();

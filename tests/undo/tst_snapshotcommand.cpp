@@ -4,7 +4,6 @@
 #include <QTest>
 #include <QUndoStack>
 
-/// Pushes edits of one number, which stands for the state of an asset.
 class TestSnapshotCommand : public QObject
 {
     Q_OBJECT
@@ -12,69 +11,48 @@ class TestSnapshotCommand : public QObject
 private slots:
     void mergesNearEditsOfTheSameKey_data();
     void mergesNearEditsOfTheSameKey();
-
-private:
-    SnapshotCommand<int> *makeEdit(int value, const QString &key, qint64 interval, int id)
-    {
-        const auto restore = [this](const int &state) {
-            m_state = state;
-            ++m_restores;
-        };
-        return new SnapshotCommand<int>(QStringLiteral("Edit %1").arg(value), std::exchange(m_state, value), value,
-                                        restore, id, key, interval);
-    }
-
-    int m_state = 0;
-    int m_restores = 0;
 };
 
 void TestSnapshotCommand::mergesNearEditsOfTheSameKey_data()
 {
     QTest::addColumn<int>("id");
-    QTest::addColumn<QString>("key");
+    QTest::addColumn<QString>("lastKey"); // that of the others is "a"
     QTest::addColumn<qint64>("interval");
     QTest::addColumn<qint64>("gap");
-    QTest::addColumn<bool>("merged");
-
-    const auto row = [](const char *name, int id, const char *key, qint64 interval, qint64 gap, bool merged) {
-        QTest::newRow(name) << id << QString::fromLatin1(key) << interval << gap << merged;
-    };
-    row("at the limit", 7, "a", 100, 100, true);
-    row("past the limit", 7, "a", 100, 101, false);
-    row("clock set back", 7, "a", 100, -5000, true);
-    row("no limit", 7, "a", -1, 1'000'000'000, true);
-    row("another asset", 7, "b", 100, 0, false);
-    row("never merges", -1, "a", -1, 0, false);
+    QTest::addColumn<int>("steps");
+    QTest::newRow("at the limit") << 7 << "a" << qint64(100) << qint64(100) << 1;
+    QTest::newRow("past the limit") << 7 << "a" << qint64(100) << qint64(101) << 4;
+    QTest::newRow("clock set back") << 7 << "a" << qint64(100) << qint64(-5000) << 1;
+    QTest::newRow("no limit") << 7 << "a" << qint64(-1) << qint64(1'000'000'000) << 1;
+    QTest::newRow("another asset") << 7 << "b" << qint64(100) << qint64(0) << 2;
+    QTest::newRow("never merges") << -1 << "a" << qint64(-1) << qint64(0) << 4;
 }
 
 void TestSnapshotCommand::mergesNearEditsOfTheSameKey()
 {
     QFETCH(int, id);
-    QFETCH(QString, key);
+    QFETCH(QString, lastKey);
     QFETCH(qint64, interval);
     QFETCH(qint64, gap);
-    QFETCH(bool, merged);
-
+    QFETCH(int, steps);
     qint64 now = 1'000'000;
     EditClock::setSource([&now] { return now; });
-    m_state = 0;
-    m_restores = 0;
+    QList<int> restored;
     QUndoStack stack;
     for (int value = 1; value <= 4; ++value) {
-        stack.push(makeEdit(value, value == 4 ? key : QStringLiteral("a"), interval, id));
+        stack.push(new SnapshotCommand<int>(
+            QString::number(value), value - 1, value, [&restored](int state) { restored.append(state); }, id,
+            value == 4 ? lastKey : "a", interval));
         now += gap;
     }
     EditClock::setSource({});
 
-    const bool others = merged || key != u"a";
-    QCOMPARE(stack.count(), merged ? 1 : others ? 2 : 4);
-    QCOMPARE(stack.undoText(), merged ? QStringLiteral("Edit 1") : QStringLiteral("Edit 4"));
-    QCOMPARE(m_restores, 0);
+    QCOMPARE(stack.count(), steps);
+    QCOMPARE(stack.undoText(), steps == 1 ? "1" : "4");
+    QVERIFY2(restored.isEmpty(), "a command is pushed when its edit has been made");
     stack.undo();
-    QCOMPARE(m_state, merged ? 0 : 3);
     stack.redo();
-    QCOMPARE(m_state, 4);
-    QCOMPARE(m_restores, 2);
+    QCOMPARE(restored, (QList<int>{steps == 1 ? 0 : 3, 4}));
 }
 
 QUENMORA_TEST_MAIN(TestSnapshotCommand)
