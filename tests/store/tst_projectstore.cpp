@@ -51,18 +51,14 @@ private slots:
     void savesAndLoads();
     void backsUpThePreviousVersion();
     void theBackupSurvivesFailingSaves();
-    void survivesPlacesThatCannotBeWritten_data();
     void survivesPlacesThatCannotBeWritten();
+    void refusesToSaveWhatCouldNotBeLoaded();
     void survivesAFullDisk_data();
     void survivesAFullDisk();
-    void forgetsTheNameOfAFailedSaveAs();
-    void refusesFilesThatAreNoArchives_data();
-    void refusesFilesThatAreNoArchives();
-    void aFailedLoadLeavesNoProject();
+    void refusesFilesThatAreNoProjects();
     void theFingerprintFollowsTheContent();
     void exportsAssets_data();
     void exportsAssets();
-    void destroysItsProject();
 
 private:
     [[nodiscard]] QString path(const QString &name) const { return m_folder->filePath(name); }
@@ -77,20 +73,17 @@ void TestProjectStore::init()
 
 void TestProjectStore::thereIsOneProjectAtMost()
 {
-    ProjectStore store;
-    QVERIFY(!store.project());
-    const QPointer<Project> first = store.newProject("first");
-    store.setFileName("somewhere");
+    auto store = std::make_unique<ProjectStore>();
+    const QPointer<Project> first = store->newProject("first");
+    store->setFileName("somewhere");
     QCOMPARE(first->name(), "first");
-    QCOMPARE(first->parent(), &store);
-    const QPointer<Project> second = store.newProject("second");
-    QVERIFY(!first);
-    QCOMPARE(store.project(), second.data());
-    QVERIFY(store.fileName().isEmpty());
-    store.close();
-    QVERIFY(!second);
-    QVERIFY(store.fingerprint().isEmpty());
-    QVERIFY(!store.save(false));
+    const QPointer<Project> second = store->newProject("second");
+    QVERIFY(!first && store->fileName().isEmpty());
+    store->close();
+    QVERIFY(!second && store->fingerprint().isEmpty() && !store->save(false));
+    const QPointer<Project> third = store->newProject("third");
+    store.reset();
+    QVERIFY(!third);
 }
 
 void TestProjectStore::savesAndLoads()
@@ -151,31 +144,39 @@ void TestProjectStore::theBackupSurvivesFailingSaves()
     QVERIFY(fileBytes(path("a.quenmora.bak")).size() > 1000);
 }
 
-void TestProjectStore::survivesPlacesThatCannotBeWritten_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::newRow("in a folder that is not there") << "missing/a.quenmora";
-    QTest::newRow("below a file") << "file/a.quenmora";
-    QTest::newRow("a folder") << "folder";
-}
-
 void TestProjectStore::survivesPlacesThatCannotBeWritten()
 {
-    QFETCH(QString, name);
     QVERIFY(writeFile(path("file"), "content"));
     QVERIFY(QDir(m_folder->path()).mkdir("folder"));
+    const QStringList there{"file", "folder"};
     ProjectStore store;
     SampleProject::fill(*store.newProject("new"));
     const QByteArray fingerprint = store.fingerprint();
     StoreLog log(store);
-    store.setFileName(path(name));
-    QVERIFY(!store.save(true));
-    QCOMPARE(log.take(), QStringList("saveError: Could not create the project file"));
-    QCOMPARE(store.fingerprint(), fingerprint);
-    QCOMPARE(store.fileName(), path(name));
-    QCOMPARE(QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
-             (QStringList{"file", "folder"}));
+    for (const char *name : {"missing/a.quenmora", "file/a.quenmora", "folder"}) {
+        store.setFileName(path(name));
+        QVERIFY(!store.save(true));
+        QCOMPARE(store.fileName(), path(name));
+        QVERIFY(!store.saveAs(path(name)));
+        QCOMPARE(store.fileName(), "");
+        QCOMPARE(log.take(), QStringList(2, "saveError: Could not create the project file"));
+        QCOMPARE(store.fingerprint(), fingerprint);
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), there);
+    }
     QVERIFY(store.saveAs(path("good.quenmora")));
+}
+
+void TestProjectStore::refusesToSaveWhatCouldNotBeLoaded()
+{
+    ProjectStore store;
+    store.newProject("new");
+    QVERIFY(store.saveAs(path("a.quenmora")));
+    const QByteArray whole = fileBytes(path("a.quenmora"));
+    store.project()->createTileSet("Too many for a PNG", {}, 125'001);
+    StoreLog log(store);
+    QVERIFY(!store.save(true));
+    QVERIFY(log.take().first().startsWith("saveError: Could not write tileset/"));
+    QCOMPARE(fileBytes(path("a.quenmora")), whole);
 }
 
 void TestProjectStore::survivesAFullDisk_data()
@@ -221,48 +222,21 @@ void TestProjectStore::survivesAFullDisk()
     QCOMPARE(other.fingerprint(), fingerprint);
 }
 
-void TestProjectStore::forgetsTheNameOfAFailedSaveAs()
+void TestProjectStore::refusesFilesThatAreNoProjects()
 {
-    ProjectStore store;
-    store.newProject("new");
-    QVERIFY(store.saveAs(path("a.quenmora")));
-    QVERIFY(!store.saveAs(path("missing/b.quenmora")));
-    QVERIFY(store.fileName().isEmpty());
-}
-
-void TestProjectStore::refusesFilesThatAreNoArchives_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::newRow("no file") << "missing";
-    QTest::newRow("empty file") << "empty";
-    QTest::newRow("text file") << "text";
-    QTest::newRow("folder") << "folder";
-}
-
-void TestProjectStore::refusesFilesThatAreNoArchives()
-{
-    QFETCH(QString, name);
     QVERIFY(writeFile(path("empty"), {}));
     QVERIFY(writeFile(path("text"), "PK is not enough"));
     QVERIFY(QDir(m_folder->path()).mkdir("folder"));
+    QVERIFY(writeArchive(path("archive"), {{"other.json", "{}"}}));
     ProjectStore store;
     StoreLog log(store);
     const QPointer<Project> project = store.newProject("loading...");
-    QVERIFY(!store.load(path(name)));
-    QCOMPARE(log.take(), QStringList("loadError: Invalid project file"));
-    QCOMPARE(store.project(), project.data()); // it is its owner who closes it
-}
-
-void TestProjectStore::aFailedLoadLeavesNoProject()
-{
-    QVERIFY(writeArchive(path("empty.quenmora"), {{"other.json", "{}"}}));
-    ProjectStore store;
-    StoreLog log(store);
-    const QPointer<Project> project = store.newProject("loading...");
-    QVERIFY(!store.load(path("empty.quenmora")));
-    QCOMPARE(log.take(), QStringList("loadError: Invalid project file"));
-    QVERIFY(!project && !store.project());
-    QVERIFY(store.fileName().isEmpty());
+    for (const char *name : {"missing", "empty", "text", "folder", "archive"}) {
+        QCOMPARE(store.project(), project.data()); // it is its owner who closes it, while no archive was opened
+        QVERIFY(!store.load(path(name)));
+        QCOMPARE(log.take(), QStringList("loadError: Invalid project file"));
+    }
+    QVERIFY(!project && !store.project() && store.fileName().isEmpty());
 }
 
 void TestProjectStore::theFingerprintFollowsTheContent()
@@ -275,13 +249,14 @@ void TestProjectStore::theFingerprintFollowsTheContent()
     project->setOpenDocuments({"another"});
     QCOMPARE(store.fingerprint(), last);
 
+    // what reaches the document, and each kind of member
     const std::pair<const char *, std::function<void()>> edits[] = {
         {"name", [&] { project->setName("x"); }},
         {"colour", [&] { project->palettes().first()->setRawColour(0, 2); }},
-        {"tile", [&] { project->tileSets().first()->setTileImage(0, QImage(8, 8, QImage::Format_Indexed8)); }},
+        {"tile", [&] { project->tileSets().first()->clearImage(0); }},
         {"cell",
          [&] {
-             project->maps().first()->setTile({2, 3}, {1, false, false, false, 0, true});
+             project->maps().first()->setTile({2, 3}, {.index = 1, .used = true});
          }},
         {"sprite", [&] { project->spriteBanks().first()->clearSprite(1); }},
         {"image",
@@ -345,16 +320,6 @@ void TestProjectStore::exportsAssets()
     (store.*slot)(m_folder->path(), id);
     QCOMPARE(log.take(), QStringList("showMessage: " + kind + " exported (2000)"));
     QCOMPARE(QFileInfo(path(file)).size(), size);
-}
-
-void TestProjectStore::destroysItsProject()
-{
-    QPointer<Project> project;
-    {
-        ProjectStore store;
-        project = store.newProject("new");
-    }
-    QVERIFY(!project);
 }
 
 QUENMORA_TEST_MAIN(TestProjectStore)

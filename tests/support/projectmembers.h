@@ -29,30 +29,50 @@ inline QJsonObject objectOf(const char *json)
     return QJsonDocument::fromJson(json).object();
 }
 
+/// A place in the document: keys of objects, and "0" for the first element of an array.
+using Path = QStringList;
+
+inline QJsonValue valueAt(QJsonValue value, const Path &path)
+{
+    for (const QString &step : path)
+        value = value.isArray() ? value.toArray().first() : value.toObject().value(step);
+    return value;
+}
+
+/// The value with the part at a path replaced; by Undefined takes a key away.
+inline QJsonValue replaced(const QJsonValue &value, const Path &path, const QJsonValue &by)
+{
+    if (path.isEmpty())
+        return by;
+    if (value.isArray()) {
+        QJsonArray array = value.toArray();
+        array.replace(0, replaced(array.first(), path.mid(1), by));
+        return array;
+    }
+    QJsonObject object = value.toObject();
+    object.insert(path.first(), replaced(object.value(path.first()), path.mid(1), by));
+    return object;
+}
+
+inline void replace(ProjectMembers &members, const Path &path, const QJsonValue &by)
+{
+    setDocument(members, replaced(documentOf(members), path, by).toObject());
+}
+
 /// The members with the ids of all sprite animation frames cleared: those are new at every load.
 inline ProjectMembers withoutSpriteFrameIds(ProjectMembers members)
 {
-    QJsonObject document = documentOf(members);
-    QJsonArray banks = document.value("sprites").toArray();
-    for (auto &&bankValue : banks) {
-        QJsonObject bank = bankValue.toObject();
-        QJsonArray animations = bank.value("animations").toArray();
-        for (auto &&animationValue : animations) {
-            QJsonObject animation = animationValue.toObject();
-            QJsonArray frames = animation.value("frames").toArray();
-            for (auto &&frameValue : frames) {
-                QJsonObject frame = frameValue.toObject();
-                frame.insert("id", "");
-                frameValue = frame;
-            }
-            animation.insert("frames", frames);
-            animationValue = animation;
+    QList<QByteArray> lines = members.value("project.json").split('\n');
+    bool inSpriteFrame = false;
+    for (QByteArray &line : lines) {
+        if (line.contains("\"anim\":"))
+            inSpriteFrame = true;
+        if (inSpriteFrame && line.trimmed().startsWith("\"id\":")) {
+            line.clear();
+            inSpriteFrame = false;
         }
-        bank.insert("animations", animations);
-        bankValue = bank;
     }
-    document.insert("sprites", banks);
-    setDocument(members, document);
+    members.insert("project.json", lines.join('\n'));
     return members;
 }
 

@@ -11,6 +11,8 @@
 #include "model/tilemap.h"
 #include "model/tileset.h"
 
+#include <QBuffer>
+
 #include <limits>
 
 /// A small project that holds every kind of asset, with every flag set somewhere and clear elsewhere, and
@@ -30,6 +32,15 @@ inline QImage gradient(QSize size)
             image.scanLine(y)[x] = uchar(y * size.width() + x);
     }
     return image;
+}
+
+inline QByteArray png(const QImage &image)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "png");
+    return bytes;
 }
 
 inline void fillFrame(AnimationFrame &frame, int firstIndex)
