@@ -38,9 +38,7 @@ private slots:
 
     void startsWithoutFiles();
     void writesStateForTheNextRun();
-    void readsDamagedState_data();
     void readsDamagedState();
-    void keepsPreferences();
     void keepsOldFilesWhenItCannotWrite();
     void usesTheHomeFolderWithoutItsOwn();
 };
@@ -85,49 +83,32 @@ void TestAppState::writesStateForTheNextRun()
     QCOMPARE(next.tileZoom(), 3);
     QCOMPARE(next.recentFiles(), (QStringList{"/b", "/ä", "/b"}));
     QCOMPARE(next.lastPath(), QStringLiteral("/home/x"));
-}
 
-void TestAppState::readsDamagedState_data()
-{
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QStringList>("recent");
-
-    QTest::newRow("empty file") << QByteArray() << QStringList();
-    QTest::newRow("no JSON") << QByteArray("{\"tileZoom\": 3,") << QStringList();
-    QTest::newRow("an array") << QByteArray("[1, 2]") << QStringList();
-    QTest::newRow("wrong types") << QByteArray(R"({"windowState": 1, "windowGeometry": [], "tileZoom": "3",
-                                                  "recent": "x", "lastPath": 4})")
-                                 << QStringList();
-    QTest::newRow("wrong elements") << QByteArray(R"({"recent": ["/a", 5, null, "/b"]})")
-                                    << QStringList{"/a", "", "", "/b"};
+    const QJsonDocument preferences(QJsonObject{{"general", QJsonObject{{"backupOnSave", true}}}});
+    QVERIFY(state.savePreferences(preferences));
+    QCOMPARE(next.loadPreferences(), preferences);
+    write("preferences.json", "not JSON");
+    QVERIFY(next.loadPreferences().isNull());
 }
 
 void TestAppState::readsDamagedState()
 {
-    QFETCH(QByteArray, content);
     AppState state;
-    state.setTileZoom(5);
-    state.setWindowState("old");
-    state.setWindowGeometry("old");
-    write("state.json", content);
-    QTest::ignoreMessage(QtWarningMsg, "JSON object not found windowState");
-    QTest::ignoreMessage(QtWarningMsg, "JSON object not found windowGeometry");
-    QVERIFY(state.loadState());
-    QVERIFY(state.windowState().isEmpty() && state.windowGeometry().isEmpty());
-    QCOMPARE(state.tileZoom(), 8);
-    QCOMPARE(state.lastPath(), QStringLiteral("~"));
-    QTEST(state.recentFiles(), "recent");
-}
-
-void TestAppState::keepsPreferences()
-{
-    AppState state;
-    const QJsonDocument preferences(QJsonObject{{"general", QJsonObject{{"backupOnSave", true}}}});
-    QVERIFY(state.savePreferences(preferences));
-    QCOMPARE(AppState().loadPreferences(), preferences);
-
-    write("preferences.json", "not JSON");
-    QVERIFY(AppState().loadPreferences().isNull());
+    for (const char *content : {"", "{\"tileZoom\": 3,", "[1, 2]",
+                                R"({"windowState": 1, "windowGeometry": [], "tileZoom": "3", "lastPath": 4,
+                                    "recent": ["/a", 5, null, "/b"]})"}) {
+        state.setTileZoom(5);
+        state.setWindowState("old");
+        state.setWindowGeometry("old");
+        write("state.json", content);
+        QTest::ignoreMessage(QtWarningMsg, "JSON object not found windowState");
+        QTest::ignoreMessage(QtWarningMsg, "JSON object not found windowGeometry");
+        QVERIFY(state.loadState());
+        QVERIFY(state.windowState().isEmpty() && state.windowGeometry().isEmpty());
+        QCOMPARE(state.tileZoom(), 8);
+        QCOMPARE(state.lastPath(), QStringLiteral("~"));
+    }
+    QCOMPARE(state.recentFiles(), (QStringList{"/a", "", "", "/b"}));
 }
 
 void TestAppState::keepsOldFilesWhenItCannotWrite()
