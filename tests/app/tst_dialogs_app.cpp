@@ -12,6 +12,7 @@
 #include "app/dialogs/tileanimationdialog.h"
 #include "app/dialogs/tilesetdialog.h"
 #include "model/palette.h"
+#include "support/archivetools.h"
 #include "support/testmain.h"
 
 #include <QCheckBox>
@@ -41,12 +42,6 @@ void submit(DialogBase &dialog, const QString &name)
     dialog.okButton()->click();
 }
 
-QString writeFile(const QString &path, const QByteArray &content)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() ? path : QString();
-}
-
 } // namespace
 
 class TestDialogsApp : public QObject
@@ -61,8 +56,7 @@ private slots:
     void sprites();
     void imageModes();
     void projectWithoutAssetsHasNothingToChoose();
-    void tileAnimation();
-    void paletteSelectorStartsAtThePaletteInUse();
+    void selectorsStartAtTheAssetInUse();
     void chosenAssetStaysChosen();
     void exportRange();
     void fontIsShownAsTheTilesWillLook();
@@ -71,12 +65,14 @@ private slots:
     void spritesOfAPictureProblems_data();
     void spritesOfAPictureProblems();
     void spritesOfData();
-    void spritesOfDataProblems();
 
 private:
     std::unique_ptr<Project> m_project;
     QUuid m_main;
     QUuid m_tiles;
+    /// Writes a file, whose path it returns.
+    QString write(const char *name, const QByteArray &content) const;
+
     QTemporaryDir m_folder;
 };
 
@@ -85,6 +81,12 @@ void TestDialogsApp::init()
     m_project = std::make_unique<Project>();
     m_main = m_project->createPalette(CreateAction::DefaultNext, "Main")->id();
     m_tiles = m_project->createTileSet("Tiles", m_main, 4)->id();
+}
+
+QString TestDialogsApp::write(const char *name, const QByteArray &content) const
+{
+    const QString path = m_folder.filePath(name);
+    return ArchiveTools::writeFile(path, content) ? path : QString();
 }
 
 void TestDialogsApp::tileSet()
@@ -178,17 +180,7 @@ void TestDialogsApp::projectWithoutAssetsHasNothingToChoose()
     QCOMPARE(selector.error(), "There is no palette to choose; please create one first");
 }
 
-void TestDialogsApp::tileAnimation()
-{
-    m_project->createTileSet("Another", m_main, 4);
-    TileAnimationDialog dialog;
-    QSignalSpy accepted(&dialog, &TileAnimationDialog::accepted);
-    dialog.show(*m_project, m_tiles);
-    submit(dialog, "Doors");
-    QCOMPARE(accepted, QList<QVariantList>({{"Doors", m_tiles}}));
-}
-
-void TestDialogsApp::paletteSelectorStartsAtThePaletteInUse()
+void TestDialogsApp::selectorsStartAtTheAssetInUse()
 {
     const QUuid used = m_project->createPalette(CreateAction::Blank, "Zebra")->id();
     PaletteSelectorDialog dialog;
@@ -196,6 +188,13 @@ void TestDialogsApp::paletteSelectorStartsAtThePaletteInUse()
     dialog.show(*m_project, used);
     dialog.okButton()->click();
     QCOMPARE(accepted, QList<QVariantList>({{used}}));
+
+    m_project->createTileSet("Another", m_main, 4);
+    TileAnimationDialog animations;
+    QSignalSpy made(&animations, &TileAnimationDialog::accepted);
+    animations.show(*m_project, m_tiles);
+    submit(animations, "Doors");
+    QCOMPARE(made, QList<QVariantList>({{"Doors", m_tiles}}));
 }
 
 void TestDialogsApp::chosenAssetStaysChosen()
@@ -234,7 +233,7 @@ void TestDialogsApp::exportRange()
 
 void TestDialogsApp::fontIsShownAsTheTilesWillLook()
 {
-    const QString file = writeFile(m_folder.filePath("font.ch8"), QByteArray("\x81\0\0\0\0\0\0\x80", 8).repeated(6));
+    const QString file = write("font.ch8", QByteArray("\x81\0\0\0\0\0\0\x80", 8).repeated(6));
     ImportZXFontDialog dialog;
     dialog.setFileChooser([&](const FileRequest &, QWidget *) { return file; });
     QSignalSpy accepted(&dialog, &ImportZXFontDialog::accepted);
@@ -266,7 +265,7 @@ void TestDialogsApp::fontProblems()
     dialog.show(*m_project->tileSet(m_tiles));
     dialog.okButton()->click();
     QCOMPARE(dialog.error(), "Please choose a font file");
-    field<QLineEdit>(dialog)->setText(writeFile(m_folder.filePath("short.bin"), "1234567"));
+    field<QLineEdit>(dialog)->setText(write("short.bin", "1234567"));
     QCOMPARE(dialog.error(), "There is no character in this file, or it cannot be read");
     const QPointer<TileSet> bare = m_project->createTileSet("Bare", QUuid::createUuid(), 1);
     dialog.show(*bare);
@@ -334,8 +333,7 @@ void TestDialogsApp::spritesOfAPictureProblems()
     QFETCH(bool, slice);
     QFETCH(bool, fourBit);
     QFETCH(QString, name);
-    const QString file = m_folder.filePath("problem.png");
-    writeFile(file, "no picture");
+    const QString file = write("problem.png", "no picture");
     if (!size.isEmpty()) {
         QImage picture(size, QImage::Format_RGB32);
         for (int y = 0; y < size.height(); ++y) {
@@ -355,7 +353,7 @@ void TestDialogsApp::spritesOfAPictureProblems()
 
 void TestDialogsApp::spritesOfData()
 {
-    const QString file = writeFile(m_folder.filePath("hero.spr"), QByteArray(600, '\1'));
+    const QString file = write("hero.spr", QByteArray(600, '\1'));
     SpriteEditor::ImportBinaryDialog dialog;
     QSignalSpy accepted(&dialog, &SpriteEditor::ImportBinaryDialog::accepted);
     dialog.show(*m_project, file);
@@ -367,15 +365,12 @@ void TestDialogsApp::spritesOfData()
     dialog.okButton()->click();
     QCOMPARE(accepted.size(), 1);
     QCOMPARE(accepted[0][0].value<SpriteImport>(), (SpriteImport{file, "hero", Quenmora::EightBit, m_main}));
-}
 
-void TestDialogsApp::spritesOfDataProblems()
-{
-    SpriteEditor::ImportBinaryDialog dialog;
-    dialog.show(*m_project, writeFile(m_folder.filePath("short.spr"), QByteArray(255, '\1')));
+    field<AssetChooser>(dialog)->choose({});
+    dialog.show(*m_project, write("short.spr", QByteArray(255, '\1')));
     dialog.okButton()->click();
     QCOMPARE(dialog.error(), "There is no sprite in this file, or it cannot be read");
-    dialog.show(*m_project, writeFile(m_folder.filePath("Main.spr"), QByteArray(256, '\1')));
+    dialog.show(*m_project, write("Main.spr", QByteArray(256, '\1')));
     dialog.okButton()->click();
     QCOMPARE(dialog.error(), "There is a palette of this name already; choose it, or another name");
 }

@@ -68,7 +68,6 @@ private slots:
     void servesTheMapEditorInFront();
     void editsTheTileOrSpriteOfADoubleClickedCell();
     void ignoresUnknownAssets();
-    void opensANewImage();
     void keepsUndoHistoryAsLongAsTheAsset();
     void closesTheTabOfADeletedAsset();
     void clearsWhatShowedADeletedAsset();
@@ -107,7 +106,8 @@ QStringList TestDocumentController::tabTexts()
 
 void TestDocumentController::opensOneTabADocument()
 {
-    const QPointer<Image> image = project()->createImage(Quenmora::LoRes_128x96, "Title & Co", {});
+    const QPointer<Image> image = project()->createImage(Quenmora::LoRes_128x96, "Title & Co", {}); // opens
+    QCOMPARE(tabs()->indexOfDocument(image->id()), 1);
     for (int time = 0; time < 2; ++time) {
         documents()->setActiveMap(m_assets->map->id());
         QCOMPARE(tabs()->tabText(tabs()->currentIndex()), "Level");
@@ -222,14 +222,6 @@ void TestDocumentController::ignoresUnknownAssets()
     documents()->setActiveImageEditor(unknown);
     QCOMPARE(tabs()->count(), 1);
     QVERIFY(!m_window->views().tileEditor->isActive());
-}
-
-void TestDocumentController::opensANewImage()
-{
-    const QPointer<Image> image = project()->createImage(Quenmora::Layer2_320x256, "Title", {});
-    auto *page = qobject_cast<ImageEditor::View *>(tabs()->currentWidget());
-    QVERIFY(page);
-    QCOMPARE(page->image(), image);
 }
 
 void TestDocumentController::keepsUndoHistoryAsLongAsTheAsset()

@@ -36,7 +36,6 @@ private slots:
     void survivesDamagedState_data();
     void survivesDamagedState();
     void keepsStateBetweenRuns();
-    void placesDocksThatAnOlderLayoutLacks();
     void staysOpenWhenToldTo();
     void followsTheLifeOfAProject();
     void tellsWhatFailed();
@@ -162,16 +161,6 @@ void TestMainWindow::keepsStateBetweenRuns()
     QCOMPARE(m_window->menus()->fileMenu()->recentFiles(), QStringList{m_folder->filePath("sample.quenmora")});
     QCOMPARE(m_window->size(), QSize(900, 700));
     QVERIFY(QFile::exists(statePath("preferences.json")));
-}
-
-void TestMainWindow::placesDocksThatAnOlderLayoutLacks()
-{
-    m_window->removeDockWidget(m_window->views().mapSprites);
-    QVERIFY(m_window->close());
-    m_window.emplace();
-    QDockWidget *dock = m_window->views().mapSprites;
-    QCOMPARE(m_window->dockWidgetArea(dock), Qt::LeftDockWidgetArea);
-    QVERIFY(!dock->isHidden() && !dock->isFloating());
 }
 
 void TestMainWindow::staysOpenWhenToldTo()

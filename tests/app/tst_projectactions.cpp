@@ -9,6 +9,7 @@
 #include "model/palette.h"
 #include "model/spritebank.h"
 #include "model/tileset.h"
+#include "support/archivetools.h"
 #include "support/testmain.h"
 
 #include <QClipboard>
@@ -25,13 +26,8 @@
 
 namespace {
 
+using ArchiveTools::writeFile;
 using Node = ProjectTree::ProjectNode;
-
-void writeFile(const QString &path, const QByteArray &content)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-}
 
 /// The files of a Next data set of 2 × 2 cells, one block of the tiles 1, 2, 3 and 0.
 QHash<QString, QByteArray> nextDataSet()
@@ -76,9 +72,7 @@ private slots:
     void cleanup() { m_window.reset(); } // no window outlives the application
 
     void nothingHappensWithoutAProject();
-    void createPalette();
-    void createTileSetWithAndWithoutPalette();
-    void createMapBlocksAndImage();
+    void createsWhatIsAskedFor();
     void createSprites();
     void createMapFromSelection();
     void menusAreServed();
@@ -182,19 +176,7 @@ void TestProjectActions::nothingHappensWithoutAProject()
     QCOMPARE(shownFailure(), QString());
 }
 
-void TestProjectActions::createPalette()
-{
-    const QUuid source = make(ProjectTree::PaletteNode);
-    m_project->createPalette(CreateAction::Blank, "Later");
-    QSignalSpy ready(m_actions.get(), &ProjectActions::paletteReady);
-    m_actions->createPalette(CreateAction::CopyCurrent, "Copy", source);
-    QCOMPARE(ready.size(), 1);
-    const QPointer<Palette> palette = m_project->palette(ready[0][0].toUuid());
-    QCOMPARE(palette->name(), "Copy");
-    QCOMPARE(palette->rawColour(255), 0xFF01);
-}
-
-void TestProjectActions::createTileSetWithAndWithoutPalette()
+void TestProjectActions::createsWhatIsAskedFor()
 {
     const QUuid palette = make(ProjectTree::PaletteNode);
     QSignalSpy ready(m_actions.get(), &ProjectActions::tileSetReady);
@@ -209,11 +191,8 @@ void TestProjectActions::createTileSetWithAndWithoutPalette()
     QCOMPARE(m_project->paletteNames(), QStringList({"Main", "Cave"}));
     QCOMPARE(cave->palette()->name(), "Cave");
     QCOMPARE(cave->palette()->rawColour(255), 0);
-}
 
-void TestProjectActions::createMapBlocksAndImage()
-{
-    const QUuid tiles = make(ProjectTree::TileSetNode);
+    const QUuid tiles = forest->id();
     QSignalSpy map(m_actions.get(), &ProjectActions::mapReady);
     QSignalSpy blocks(m_actions.get(), &ProjectActions::blocksReady);
     m_actions->createMap("Level", tiles, {40, 32});
@@ -353,7 +332,7 @@ void TestProjectActions::importsNextData()
 {
     const auto files = nextDataSet();
     for (auto file = files.cbegin(); file != files.cend(); ++file)
-        writeFile(path("world.1." + file.key()), file.value());
+        QVERIFY(writeFile(path("world.1." + file.key()), file.value()));
     QSignalSpy ready(m_actions.get(), &ProjectActions::mapReady);
     m_actions->importMap(path("world.1.nxb"));
     QCOMPARE(shownFailure(), QString());
@@ -390,7 +369,7 @@ void TestProjectActions::nextDataFailures()
     else
         files[suffix].truncate(size);
     for (auto file = files.cbegin(); file != files.cend(); ++file)
-        writeFile(path("world." + file.key()), file.value());
+        QVERIFY(writeFile(path("world." + file.key()), file.value()));
     QSignalSpy ready(m_actions.get(), &ProjectActions::mapReady);
     m_actions->importMap(path("world.nxm"));
     QTEST(shownFailure(), "failure");
@@ -450,8 +429,8 @@ void TestProjectActions::fileThatIsNoPicture()
 {
     const auto files = nextDataSet();
     for (auto file = files.cbegin(); file != files.cend(); ++file)
-        writeFile(path("world." + file.key().toUpper()), file.value());
-    writeFile(path("cut.png"), "\x89PNG\r\n\x1a\n and nothing more");
+        QVERIFY(writeFile(path("world." + file.key().toUpper()), file.value()));
+    QVERIFY(writeFile(path("cut.png"), "\x89PNG\r\n\x1a\n and nothing more"));
     for (const char *name : {"world.NXM", "cut.png"}) { // suffixes of data sets are lower case
         m_actions->importMap(path(name));
         QCOMPARE(shownFailure(), "Could not read the image file");
@@ -472,7 +451,7 @@ void TestProjectActions::importedPaletteIsOneUndoStep()
     QByteArray file;
     for (int i = 0; i < Palette::Size; ++i)
         file.append(char(255 - i)).append(char(i));
-    writeFile(path("night.pal"), file);
+    QVERIFY(writeFile(path("night.pal"), file));
     QSignalSpy changed(palette, &Palette::colourChanged);
 
     m_actions->importPalette(palette->id(), path("night.pal"));
@@ -520,7 +499,7 @@ void TestProjectActions::importsPaletteOfAPicture()
 
 void TestProjectActions::importsANewPalette()
 {
-    writeFile(path("night.npl"), QByteArray(512, '\1') + '\0');
+    QVERIFY(writeFile(path("night.npl"), QByteArray(512, '\1') + '\0'));
     QSignalSpy ready(m_actions.get(), &ProjectActions::paletteReady);
     m_actions->importPalette({}, path("night.npl"));
     QCOMPARE(ready.size(), 1);
@@ -532,7 +511,7 @@ void TestProjectActions::importsANewPalette()
 void TestProjectActions::paletteFailureIsTold()
 {
     const QPointer<Palette> palette = m_project->palette(make(ProjectTree::PaletteNode));
-    writeFile(path("night.pal"), QByteArray(511, '\1'));
+    QVERIFY(writeFile(path("night.pal"), QByteArray(511, '\1')));
     QTest::ignoreMessage(QtWarningMsg, "Read error");
     m_actions->importPalette(palette->id(), path("night.pal"));
     QCOMPARE(palette->rawColour(255), 0xFF01);
@@ -563,7 +542,7 @@ void TestProjectActions::importsSprites()
     for (int x = 16; x < 24; ++x)
         image.setPixel(x, 0, qRgb(255, 0, 0));
     QVERIFY(image.save(path("hero.png")));
-    writeFile(path("hero.spr"), QByteArray(256, '\7') + QByteArray(256, '\5'));
+    QVERIFY(writeFile(path("hero.spr"), QByteArray(256, '\7') + QByteArray(256, '\5')));
 
     QUndoStack stack;
     const EditRecorder recorder(m_project.get(), [&stack](const QUuid &) { return &stack; });
@@ -592,7 +571,7 @@ void TestProjectActions::importsSprites()
 void TestProjectActions::spriteFailureLeavesNothing()
 {
     const QUuid palette = make(ProjectTree::PaletteNode);
-    writeFile(path("short"), QByteArray(255, '\1'));
+    QVERIFY(writeFile(path("short"), QByteArray(255, '\1')));
     QSignalSpy created(m_project.get(), &Project::spritesCreated); // a bank that was seen could not vanish again
     for (const QUuid &paletteId : {palette, QUuid()}) {
         const SpriteImport import{path("short"), "Hero", Quenmora::EightBit, paletteId};

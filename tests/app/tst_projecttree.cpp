@@ -39,10 +39,8 @@ private slots:
     void listsAProjectThatHasAssets();
     void activatesByDoubleClickAndEnter();
     void renamesAndSorts();
-    void keepsTheNameThatNoOneMayHave();
     void offersItsMenuOnAssetsOnly();
     void removesDeletedAssets();
-    void forgetsTheProjectBefore();
 
 private:
     [[nodiscard]] ProjectTree *tree() const { return m_window->tree(); }
@@ -111,6 +109,8 @@ void TestProjectTree::listsAProjectThatHasAssets()
     QCOMPARE(
         shownItems(),
         (QStringList{"untitled", " Tile Sets", "  Tiles", "   Doors", " Objects", "  Unbound", " Images", "  Title"}));
+    m_project->createTileSet("Of the project before", {});
+    QCOMPARE(shownItems().size(), 8);
     m_window->setProject(nullptr);
     QCOMPARE(tree()->topLevelItemCount(), 0);
 }
@@ -176,16 +176,11 @@ void TestProjectTree::renamesAndSorts()
     QCOMPARE(level->name(), "Level 1");
     rename(title->id(), "Titles");
     QCOMPARE(title->name(), "Titles");
+    rename(tiles->id(), "  "); // nobody may have this name
+    QCOMPARE(tiles->name(), "A");
+    QCOMPARE(tree()->itemOf(tiles->id())->text(0), "A");
     QCOMPARE(renamed.size(), 6);
     QCOMPARE(renamed.last(), (QVariantList{title->id(), "Titles"}));
-}
-
-void TestProjectTree::keepsTheNameThatNoOneMayHave()
-{
-    const QPointer<TileSet> tiles = m_project->createTileSet("Tiles", {});
-    rename(tiles->id(), "  ");
-    QCOMPARE(tiles->name(), "Tiles");
-    QCOMPARE(tree()->itemOf(tiles->id())->text(0), "Tiles");
 }
 
 void TestProjectTree::offersItsMenuOnAssetsOnly()
@@ -225,14 +220,6 @@ void TestProjectTree::removesDeletedAssets()
     QCOMPARE(shownItems(), (QStringList{"Game", " Objects", "  Doors"})); // it lives on without tiles
     m_window->removeItem(ProjectTree::TileSetNode, tiles);
     QCOMPARE(shownItems().size(), 3);
-}
-
-void TestProjectTree::forgetsTheProjectBefore()
-{
-    Project other;
-    m_window->setProject(&other);
-    m_project->createTileSet("Tiles", {});
-    QCOMPARE(shownItems(), QStringList{"untitled"});
 }
 
 QUENMORA_TEST_MAIN(TestProjectTree)

@@ -16,9 +16,8 @@ QSet<QRgb> solidColours(const QImage &image)
     QSet<QRgb> colours;
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x) {
-            if (qAlpha(image.pixel(x, y)) == 255) {
+            if (qAlpha(image.pixel(x, y)) == 255)
                 colours.insert(image.pixel(x, y));
-            }
         }
     }
     return colours;
@@ -33,7 +32,6 @@ class TestSvgIconEngine : public QObject
 private slots:
     void everyIconDraws();
     void takesItsColourFromThePalette();
-    void rendersAtTheDevicePixelRatio_data();
     void rendersAtTheDevicePixelRatio();
     void paintsInTheMiddleOfAnyRectangle();
     void keepsTheColoursOfTheProgramIcon();
@@ -44,7 +42,7 @@ private slots:
 void TestSvgIconEngine::everyIconDraws()
 {
     int seen = 0;
-    QDirIterator resources(QStringLiteral(":/"), QDir::Files, QDirIterator::Subdirectories);
+    QDirIterator resources(":/", QDir::Files, QDirIterator::Subdirectories);
     while (resources.hasNext()) {
         const QString path = resources.next();
         QFile file(path);
@@ -61,7 +59,7 @@ void TestSvgIconEngine::everyIconDraws()
 void TestSvgIconEngine::takesItsColourFromThePalette()
 {
     const QPalette before = QApplication::palette();
-    const QIcon icon = themedIcon(QStringLiteral(":/RectangleFill"));
+    const QIcon icon = themedIcon(":/RectangleFill");
     for (const auto &[text, dimmed, highlighted] :
          {std::tuple{Qt::black, Qt::gray, Qt::white}, std::tuple{Qt::white, Qt::darkGray, Qt::black}}) {
         QPalette palette = before;
@@ -76,22 +74,13 @@ void TestSvgIconEngine::takesItsColourFromThePalette()
     QApplication::setPalette(before);
 }
 
-void TestSvgIconEngine::rendersAtTheDevicePixelRatio_data()
-{
-    QTest::addColumn<qreal>("ratio");
-    QTest::addColumn<QSize>("pixels");
-    QTest::addRow("1") << 1.0 << QSize(24, 24);
-    QTest::addRow("1.25") << 1.25 << QSize(30, 30);
-    QTest::addRow("2") << 2.0 << QSize(48, 48);
-}
-
 void TestSvgIconEngine::rendersAtTheDevicePixelRatio()
 {
-    QFETCH(const qreal, ratio);
-    QFETCH(const QSize, pixels);
-    const QPixmap pixmap = themedIcon(QStringLiteral(":/Rectangle")).pixmap(QSize(24, 24), ratio);
-    QCOMPARE(pixmap.size(), pixels);
-    QCOMPARE(pixmap.devicePixelRatio(), ratio);
+    for (const auto &[ratio, side] : {std::pair{1.0, 24}, {1.25, 30}, {2.0, 48}}) {
+        const QPixmap pixmap = themedIcon(":/Rectangle").pixmap(QSize(24, 24), ratio);
+        QCOMPARE(pixmap.size(), QSize(side, side));
+        QCOMPARE(pixmap.devicePixelRatio(), ratio);
+    }
 }
 
 void TestSvgIconEngine::paintsInTheMiddleOfAnyRectangle()
@@ -100,7 +89,7 @@ void TestSvgIconEngine::paintsInTheMiddleOfAnyRectangle()
     canvas.setDevicePixelRatio(2);
     canvas.fill(Qt::transparent);
     QPainter painter(&canvas);
-    themedIcon(QStringLiteral(":/RectangleFill")).paint(&painter, {0, 0, 32, 16});
+    themedIcon(":/RectangleFill").paint(&painter, {0, 0, 32, 16});
     painter.end();
     // the square fills 18 of 24 units, here 24 of 32 pixels in the middle of 64
     QCOMPARE(qAlpha(canvas.pixel(16, 16)), 0);
@@ -110,7 +99,7 @@ void TestSvgIconEngine::paintsInTheMiddleOfAnyRectangle()
 
 void TestSvgIconEngine::keepsTheColoursOfTheProgramIcon()
 {
-    const auto colours = solidColours(themedIcon(QStringLiteral(":Application")).pixmap(64).toImage());
+    const auto colours = solidColours(themedIcon(":Application").pixmap(64).toImage());
     QVERIFY(colours.contains(qRgb(0xf0, 0x38, 0x4a)));
     QVERIFY(colours.size() >= 5);
 }
@@ -118,16 +107,16 @@ void TestSvgIconEngine::keepsTheColoursOfTheProgramIcon()
 void TestSvgIconEngine::missingResourceIsNull()
 {
     QTest::ignoreMessage(QtWarningMsg, "No icon :/Nothing");
-    const QIcon icon = themedIcon(QStringLiteral(":/Nothing"));
+    const QIcon icon = themedIcon(":/Nothing");
     QVERIFY(icon.isNull());
     QVERIFY(icon.pixmap(16).isNull());
 }
 
 void TestSvgIconEngine::cursorsHaveASharpTwin()
 {
-    for (const QString &name : {QStringLiteral(":/FillCursor"), QStringLiteral(":/PickerCursor")}) {
+    for (const QString name : {":/FillCursor", ":/PickerCursor"}) {
         QCOMPARE(QImage(name).size(), QSize(32, 32));
-        QCOMPARE(QImage(name + QStringLiteral("@2x")).size(), QSize(64, 64));
+        QCOMPARE(QImage(name + "@2x").size(), QSize(64, 64));
     }
 }
 

@@ -16,7 +16,6 @@ private slots:
     void everyButtonHasAnEntry();
     void clicksAreAnnounced();
     void statesSetFromOutside();
-    void toolTipNamesTheFirstShortcut();
     void shortcutsReachTheEditorThatBorrowsThem();
 };
 
@@ -25,9 +24,8 @@ namespace {
 QToolButton *buttonOf(const ToolPalette &palette, ToolButton button)
 {
     for (auto *candidate : palette.findChildren<QToolButton *>()) {
-        if (candidate->defaultAction() == palette.action(button)) {
+        if (candidate->defaultAction() == palette.action(button))
             return candidate;
-        }
     }
     return nullptr;
 }
@@ -44,9 +42,8 @@ QList<QVariantList> activations(QSignalSpy &spy)
 
 void fill(ToolPalette &palette)
 {
-    for (const ToolButton button : {Draw, Fill, Grid, ZoomIn}) {
+    for (const ToolButton button : {Draw, Fill, Grid, ZoomIn})
         palette.addEntry(button);
-    }
 }
 
 } // namespace
@@ -64,6 +61,7 @@ void TestToolPalette::everyButtonHasAnEntry()
     QCOMPARE(palette.actions().size(), 36);
     palette.addEntry(Draw);
     QCOMPARE(palette.actions().size(), 36);
+    QCOMPARE(palette.action(ZoomOut)->toolTip(), "Zoom Out");
 }
 
 void TestToolPalette::clicksAreAnnounced()
@@ -71,9 +69,8 @@ void TestToolPalette::clicksAreAnnounced()
     ToolPalette palette;
     fill(palette);
     QSignalSpy spy(&palette, &ToolPalette::actionActivated);
-    for (const ToolButton button : {Draw, Fill, Fill, Grid, Grid, ZoomIn}) {
+    for (const ToolButton button : {Draw, Fill, Fill, Grid, Grid, ZoomIn})
         buttonOf(palette, button)->click();
-    }
     QCOMPARE(
         activations(spy),
         (QList<QVariantList>{{Draw, true}, {Fill, true}, {Fill, true}, {Grid, true}, {Grid, false}, {ZoomIn, false}}));
@@ -105,15 +102,6 @@ void TestToolPalette::statesSetFromOutside()
     QVERIFY(spy.isEmpty());
 }
 
-void TestToolPalette::toolTipNamesTheFirstShortcut()
-{
-    ToolPalette palette;
-    ToolPalette::Entry entry = ToolPalette::entryOf(ZoomIn);
-    entry.shortcuts = {QKeySequence(Qt::Key_Equal), QKeySequence(Qt::Key_Plus)};
-    QCOMPARE(palette.addEntry(entry)->toolTip(), QStringLiteral("Zoom In [=]"));
-    QCOMPARE(palette.addEntry(ZoomOut)->toolTip(), QStringLiteral("Zoom Out"));
-}
-
 void TestToolPalette::shortcutsReachTheEditorThatBorrowsThem()
 {
     QWidget window;
@@ -121,12 +109,11 @@ void TestToolPalette::shortcutsReachTheEditorThatBorrowsThem()
     QWidget other(&window);
     ToolPalette palette(Qt::Vertical, &window);
     ToolPalette::Entry entry = ToolPalette::entryOf(Draw);
-    entry.shortcuts = {QKeySequence(Qt::Key_D)};
-    palette.addEntry(entry);
+    entry.shortcuts = {QKeySequence(Qt::Key_D), QKeySequence(Qt::Key_P)};
+    QCOMPARE(palette.addEntry(entry)->toolTip(), "Draw [D]");
     editor.addActions(palette.actions());
-    for (QWidget *widget : {&editor, &other}) {
+    for (QWidget *widget : {&editor, &other})
         widget->setFocusPolicy(Qt::StrongFocus);
-    }
     window.show();
     window.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&window));

@@ -64,7 +64,7 @@ void TestWidgets::popoverPointsAtItsTargetAndClosesOnEscape()
 {
     QWidget window;
     Popover popover(&window);
-    popover.setContent(new QLabel(QStringLiteral("Sprite\nproperties\nof three lines")));
+    popover.setContent(new QLabel("Sprite\nproperties\nof three lines"));
     QSignalSpy closed(&popover, &Popover::closed);
     const QRect target(200, 200, 10, 10);
     popover.showBeside(target);
@@ -120,15 +120,13 @@ void TestWidgets::stepperStaysInItsRange()
     QSignalSpy changed(&stepper, &NumberStepper::valueChanged);
     stepper.setRange(1, 3);
     stepper.setValue(2);
-    for (int i = 0; i < 3; ++i) {
+    for (int i = 0; i < 3; ++i)
         stepper.stepForward();
-    }
     stepper.setRange(1, 1);
     stepper.stepBack();
     QCOMPARE(changed, (QList<QVariantList>{{2}, {3}, {1}}));
-    for (const auto *button : stepper.findChildren<QToolButton *>()) {
+    for (const auto *button : stepper.findChildren<QToolButton *>())
         QVERIFY(!button->isEnabled());
-    }
 }
 
 void TestWidgets::scrollBarButtonsNameTheirEnd_data()
@@ -136,15 +134,11 @@ void TestWidgets::scrollBarButtonsNameTheirEnd_data()
     QTest::addColumn<Qt::Orientation>("orientation");
     QTest::addColumn<QStringList>("names"); // from the beginning to the end
     QTest::addRow("horizontal") << Qt::Horizontal
-                                << QStringList{QStringLiteral("Add a column on the left"),
-                                               QStringLiteral("Remove the column on the left"),
-                                               QStringLiteral("Remove the column on the right"),
-                                               QStringLiteral("Add a column on the right")};
+                                << QStringList{"Add a column on the left", "Remove the column on the left",
+                                               "Remove the column on the right", "Add a column on the right"};
     QTest::addRow("vertical") << Qt::Vertical
-                              << QStringList{QStringLiteral("Add a row at the top"),
-                                             QStringLiteral("Remove the row at the top"),
-                                             QStringLiteral("Remove the row at the bottom"),
-                                             QStringLiteral("Add a row at the bottom")};
+                              << QStringList{"Add a row at the top", "Remove the row at the top",
+                                             "Remove the row at the bottom", "Add a row at the bottom"};
 }
 
 void TestWidgets::scrollBarButtonsNameTheirEnd()
@@ -155,9 +149,8 @@ void TestWidgets::scrollBarButtonsNameTheirEnd()
     bar.resize(300, 300);
     bar.show();
     QStringList heard;
-    connect(&bar, &ScrollBar::add, this, [&](Quenmora::Position end) { heard << QStringLiteral("add %1").arg(end); });
-    connect(&bar, &ScrollBar::remove, this,
-            [&](Quenmora::Position end) { heard << QStringLiteral("remove %1").arg(end); });
+    connect(&bar, &ScrollBar::add, this, [&](Quenmora::Position end) { heard << QString("add %1").arg(end); });
+    connect(&bar, &ScrollBar::remove, this, [&](Quenmora::Position end) { heard << QString("remove %1").arg(end); });
     auto buttons = bar.findChildren<QToolButton *>();
     std::sort(buttons.begin(), buttons.end(),
               [](const QToolButton *a, const QToolButton *b) { return a->x() + a->y() < b->x() + b->y(); });
@@ -167,9 +160,7 @@ void TestWidgets::scrollBarButtonsNameTheirEnd()
         button->click();
     }
     QCOMPARE(found, names);
-    QCOMPARE(heard,
-             (QStringList{QStringLiteral("add 0"), QStringLiteral("remove 0"), QStringLiteral("remove 1"),
-                          QStringLiteral("add 1")}));
+    QCOMPARE(heard, (QStringList{"add 0", "remove 0", "remove 1", "add 1"}));
     bar.setRemoveEnabled(false);
     buttons[1]->click();
     QCOMPARE(heard.size(), 4);
@@ -178,9 +169,8 @@ void TestWidgets::scrollBarButtonsNameTheirEnd()
 void TestWidgets::checkListTicksByClickAndByKey()
 {
     CheckList list;
-    for (const char *text : {"zero", "one", "two"}) {
+    for (const char *text : {"zero", "one", "two"})
         list.addCheck(QLatin1String(text), false, QByteArray(text));
-    }
     list.resize(200, 200);
     list.show();
     QSignalSpy changed(&list, &CheckList::checkChanged);
@@ -199,8 +189,8 @@ void TestWidgets::checkListTicksByClickAndByKey()
 
 void TestWidgets::sectionHidesItsContentWhileCollapsed()
 {
-    ExpandableSection section(QStringLiteral("Attributes"));
-    auto *content = new QLabel(QStringLiteral("content"));
+    ExpandableSection section("Attributes");
+    auto *content = new QLabel("content");
     section.setContent(content);
     QSignalSpy changed(&section, &ExpandableSection::expandedChanged);
     QVERIFY(!content->isVisibleTo(&section));
