@@ -2,6 +2,7 @@
 
 #include "model/mapobjects.h"
 #include "model/palette.h"
+#include "undo/mapeditcommand.h"
 #include "undo/palettecolourcommand.h"
 #include "undo/snapshotcommand.h"
 
@@ -9,6 +10,7 @@
 #include <QTimer>
 #include <QUndoStack>
 
+#include <type_traits>
 #include <utility>
 
 namespace {
@@ -73,6 +75,15 @@ void EditRecorder::trackSprites(SpriteBank *bank)
 {
     trackAnimations(bank, m_spriteAnimationStates);
     trackStructure(bank, m_pendingSpriteBanks);
+    connect(bank, &SpriteBank::structureAboutToChange, this, [this, bank] {
+        if (m_restoring || !m_project)
+            return;
+        QHash<QUuid, Map::Snapshot> &maps = m_pendingMaps[bank];
+        maps.clear();
+        for (const QPointer<Map> &map : m_project->maps())
+            maps.insert(map->id(), map->snapshot());
+    });
+    connect(bank, &QObject::destroyed, this, [this, bank] { m_pendingMaps.remove(bank); });
 }
 
 template <typename Asset, typename State>
@@ -88,9 +99,11 @@ void EditRecorder::trackStructure(Asset *asset, QHash<Asset *, State> &pending)
         State before = pending.take(asset);
         State after = capture(*asset);
         refreshAnimationStates();
-        push(asset->id(),
-             std::make_unique<SnapshotCommand<State>>(text, std::move(before), std::move(after), restorer<State>(asset),
-                                                      NeverMerges, QVariant(), NoTimeLimit));
+        auto command = std::make_unique<SnapshotCommand<State>>(
+            text, std::move(before), std::move(after), restorer<State>(asset), NeverMerges, QVariant(), NoTimeLimit);
+        if constexpr (std::is_same_v<Asset, SpriteBank>)
+            recordMaps(asset, *command);
+        push(asset->id(), std::move(command));
     });
     connect(asset, &QObject::destroyed, this, [asset, &pending] { pending.remove(asset); });
 }
@@ -143,6 +156,16 @@ void EditRecorder::push(const QUuid &documentId, std::unique_ptr<QUndoCommand> c
 {
     if (QUndoStack *stack = m_stackFor(documentId))
         stack->push(command.release());
+}
+
+void EditRecorder::recordMaps(SpriteBank *bank, QUndoCommand &command)
+{
+    const QHash<QUuid, Map::Snapshot> maps = m_pendingMaps.take(bank);
+    for (auto before = maps.cbegin(); m_project && before != maps.cend(); ++before) {
+        const QPointer<Map> map = m_project->map(before.key());
+        if (map && map->sprites() != before->sprites) // the command belongs to its parent
+            new MapEditCommand(command.text(), map, *before, map->snapshot(), &command);
+    }
 }
 
 EditRecorder::TileSetEdit EditRecorder::capture(const TileSet &tileSet) const

@@ -66,6 +66,10 @@ private:
     void recordAnimation(Anim *animation, const QUuid &documentId, QHash<Anim *, State> &states);
     void push(const QUuid &documentId, std::unique_ptr<QUndoCommand> command);
 
+    /// What happened to the maps of the project while the structure of a bank was edited (sprites placed on
+    /// them follow) becomes part of the command of that edit.
+    void recordMaps(SpriteBank *bank, QUndoCommand &command);
+
     [[nodiscard]] TileSetEdit capture(const TileSet &tileSet) const;
     [[nodiscard]] SpriteBank::State capture(const SpriteBank &bank) const;
 
@@ -89,4 +93,5 @@ private:
     // Taken when a structural edit began that has not ended yet.
     QHash<TileSet *, TileSetEdit> m_pendingTileSets;
     QHash<SpriteBank *, SpriteBank::State> m_pendingSpriteBanks;
+    QHash<SpriteBank *, QHash<QUuid, Map::Snapshot>> m_pendingMaps; ///< by their ids
 };

@@ -1,7 +1,8 @@
 #include "undo/mapeditcommand.h"
 
-MapEditCommand::MapEditCommand(const QString &text, Map *map, const Map::Snapshot &before, const Map::Snapshot &after)
-    : QUndoCommand(text)
+MapEditCommand::MapEditCommand(const QString &text, Map *map, const Map::Snapshot &before, const Map::Snapshot &after,
+                               QUndoCommand *parent)
+    : QUndoCommand(text, parent)
     , m_map(map)
     , m_tiles(before.tiles, after.tiles)
     , m_objects(before.objects, after.objects)

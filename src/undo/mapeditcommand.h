@@ -16,7 +16,8 @@
 class MapEditCommand final : public QUndoCommand
 {
 public:
-    MapEditCommand(const QString &text, Map *map, const Map::Snapshot &before, const Map::Snapshot &after);
+    MapEditCommand(const QString &text, Map *map, const Map::Snapshot &before, const Map::Snapshot &after,
+                   QUndoCommand *parent = nullptr);
     ~MapEditCommand() override;
 
     void undo() override;

@@ -12,7 +12,8 @@
 ///
 /// The change has been applied when the command is pushed, so the first redo does nothing. Two
 /// commands of the same state type merge when their ids and merge keys are equal and the newer one
-/// follows within the merge interval; the limit slides, it counts from the edit merged last.
+/// follows within the merge interval; the limit slides, it counts from the edit merged last. Children, which
+/// have been applied as well, are undone and redone with it.
 template <typename State>
 class SnapshotCommand final : public QUndoCommand
 {
@@ -34,6 +35,7 @@ public:
     void undo() override
     {
         m_restore(m_before);
+        QUndoCommand::undo(); // its children
         m_applied = false;
     }
 
@@ -42,6 +44,7 @@ public:
         if (m_applied)
             return;
         m_restore(m_after);
+        QUndoCommand::redo(); // its children
         m_applied = true;
     }
 

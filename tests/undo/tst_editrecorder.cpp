@@ -24,6 +24,7 @@ private slots:
     void laterAssetsAreWatched();
     void undoOfTileDeletionRestoresWhatNamesTheTiles();
     void structuralSpriteEditIsOneStep();
+    void undoOfSpriteDeletionRestoresPlacedSprites();
     void animationEditsMergeWithinTheLimit();
     void undoRecordsNothing();
     void withoutStackNothingIsRecorded();
@@ -206,6 +207,34 @@ void TestEditRecorder::structuralSpriteEditIsOneStep()
     QCOMPARE(m_bank->count(), 1);
     emit m_bank->structureChanged("End without a beginning");
     QCOMPARE(steps(), 4);
+}
+
+void TestEditRecorder::undoOfSpriteDeletionRestoresPlacedSprites()
+{
+    addSprite();
+    addSprite();
+    const auto placed = [this](int number, int x) {
+        Map::PlacedSprite sprite;
+        sprite.bank = m_bank->id();
+        sprite.sprite = number;
+        sprite.x = x;
+        return sprite;
+    };
+    m_map->addSprite(placed(1, 8));
+    m_map->addSprite(placed(2, 16));
+    const QList<Map::PlacedSprite> before = m_map->sprites();
+    emit m_bank->structureAboutToChange();
+    m_bank->deleteSprite(1);
+    emit m_bank->structureChanged(QStringLiteral("Delete Sprite"));
+    const QList<Map::PlacedSprite> after{placed(1, 16)};
+    QCOMPARE(m_map->sprites(), after);
+
+    QUndoStack &stack = stackOf(m_bank->id());
+    QCOMPARE(stack.count(), 3);
+    stack.undo();
+    QCOMPARE(m_map->sprites(), before);
+    stack.redo();
+    QCOMPARE(m_map->sprites(), after);
 }
 
 void TestEditRecorder::animationEditsMergeWithinTheLimit()
