@@ -4,6 +4,12 @@
 
 MapObjects::MapObjects(QObject *parent) : QObject(parent), m_name(tr("Empty")) { }
 
+MapObjects::~MapObjects()
+{
+    if (m_tileSet)
+        m_tileSet->unregisterBlocks(m_id);
+}
+
 void MapObjects::setName(const QString &name)
 {
     if (name == m_name)

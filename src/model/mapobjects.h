@@ -20,6 +20,7 @@ class MapObjects : public QObject
 
 public:
     explicit MapObjects(QObject *parent = nullptr);
+    ~MapObjects() override;
 
     [[nodiscard]] QUuid id() const { return m_id; }
     /// To be set before a tile set is bound, which keeps the block set under this id.
