@@ -1,5 +1,6 @@
 #include "editors/animation/animationlistwidget.h"
 
+#include "ui/quietlist.h"
 #include "ui/repeatedpress.h"
 #include "ui/svgiconengine.h"
 
@@ -22,7 +23,7 @@ constexpr int PictureExtent = 32;
 AnimationListWidget::AnimationListWidget(Flags flags, QWidget *parent)
     : QWidget(parent)
     , m_flags(flags)
-    , m_list(new QListWidget(this))
+    , m_list(new QuietList<QListWidget>(this))
     , m_refresh(new QTimer(this))
 {
     m_list->setIconSize({PictureExtent, PictureExtent});

@@ -2,6 +2,7 @@
 
 #include "editors/animation/animationlistwidget.h"
 #include "editors/map/spritelistmodel.h"
+#include "ui/quietlist.h"
 #include "ui/repeatedpress.h"
 #include "ui/sectionheader.h"
 
@@ -24,7 +25,7 @@ MapSpritesWindow::MapSpritesWindow(QWidget *parent)
     , m_animations(new AnimationEditor::AnimationListWidget)
     , m_animationsPart(SectionHeader::over(m_animations, new SectionHeader(tr("Animations"))))
     , m_model(new SpriteListModel(this))
-    , m_sprites(new QListView)
+    , m_sprites(new QuietList<QListView>)
 {
     setObjectName(QStringLiteral("MapSpritesWindow"));
     m_banks->setAccessibleName(tr("Sprite bank"));
