@@ -28,9 +28,12 @@ QPointer<TileSet> createTileSet(Project &project, const QString &name, const QUu
                                 const ImageSlicer &slicer, int tiles)
 {
     const QPointer<TileSet> tileSet = project.createTileSet(name, paletteId, MostTiles, false);
+    const QList<QRgb> colours = tileSet->palette()->colourTable(); // which may differ a little from the picture's
     for (int i = 0; i < tiles; ++i) {
+        QImage piece = slicer.pieceWithOffset(i);
+        piece.setColorTable(colours);
         tileSet->setTileOffset(i, slicer.bank(i));
-        tileSet->setTileImage(i, slicer.pieceWithOffset(i));
+        tileSet->setTileImage(i, piece);
     }
     return tileSet;
 }
