@@ -2,6 +2,7 @@
 
 #include "editors/canvas/canvas.h"
 #include "editors/canvas/pixelediting.h"
+#include "editors/canvas/scrollcanvas.h"
 #include "editors/canvas/spritelist.h"
 #include "editors/palette/colourpalette.h"
 #include "ui/sectionheader.h"
@@ -46,7 +47,7 @@ void SpriteWindow::buildPage()
     auto *editorLayout = new QVBoxLayout(editor);
     editorLayout->setContentsMargins(0, 0, 0, 0);
     editorLayout->addWidget(m_tools);
-    editorLayout->addWidget(m_canvas, 1);
+    editorLayout->addWidget(new ScrollCanvas(m_canvas), 1);
     editorLayout->addWidget(m_colours);
 
     auto *scroller = new QScrollArea;

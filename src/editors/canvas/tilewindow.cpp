@@ -2,6 +2,7 @@
 
 #include "editors/canvas/canvas.h"
 #include "editors/canvas/pixelediting.h"
+#include "editors/canvas/scrollcanvas.h"
 #include "editors/canvas/tileattributeseditor.h"
 #include "editors/palette/colourselector.h"
 #include "editors/palette/paletteeditor.h"
@@ -71,7 +72,7 @@ QWidget *TileWindow::buildPage()
     auto *page = new QWidget;
     auto *layout = new QVBoxLayout(page);
     layout->addWidget(m_tools);
-    layout->addWidget(m_canvas, 1);
+    layout->addWidget(new ScrollCanvas(m_canvas), 1);
     layout->addWidget(m_colours);
     layout->addLayout(form);
     layout->addWidget(attributes);
