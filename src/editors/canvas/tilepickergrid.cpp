@@ -205,8 +205,15 @@ void TilePickerGrid::paintEvent(QPaintEvent *event)
     const int across = columns(width());
     const int first = event->rect().top() / cell() * across;
     const int last = std::min((event->rect().bottom() / cell() + 1) * across, m_tileSet->count());
-    for (int index = first; index < last; ++index)
-        painter.drawImage(cellRect(index).adjusted(0, 0, -1, -1), m_tileSet->image(index));
+    // A tile may still have the colours of a palette that was bound before.
+    const QPointer<Palette> palette = m_tileSet->palette();
+    const QList<QRgb> colours = palette ? palette->colourTable() : QList<QRgb>();
+    for (int index = first; index < last; ++index) {
+        QImage image = m_tileSet->image(index);
+        if (palette)
+            image.setColorTable(colours);
+        painter.drawImage(cellRect(index).adjusted(0, 0, -1, -1), image);
+    }
     paintMarks(painter);
     for (int index = std::max(first, LastUnshaded + 1); index < last; ++index)
         painter.fillRect(cellRect(index), QColor(0, 0, 0, 64));
