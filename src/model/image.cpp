@@ -61,7 +61,11 @@ QPointer<Palette> Image::palette() const
 
 void Image::setPalette(const QPointer<Palette> &palette)
 {
+    if (m_palette)
+        m_palette->disconnect(this);
     m_palette = palette;
+    if (m_palette)
+        connect(m_palette, &Palette::colourChanged, this, [this] { applyColourTable(); });
     applyColourTable();
 }
 
@@ -72,6 +76,9 @@ QUuid Image::paletteId() const
 
 void Image::applyColourTable()
 {
-    if (m_palette && !m_image.isNull())
-        m_image.setColorTable(m_palette->colourTable());
+    if (!m_palette || m_image.isNull())
+        return;
+    // a picture that is shared with others is copied only when a colour differs
+    if (const QList<QRgb> colours = m_palette->colourTable(); m_image.colorTable() != colours)
+        m_image.setColorTable(colours);
 }

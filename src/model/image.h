@@ -41,7 +41,7 @@ public:
     void setImage(const QImage &image);
 
     [[nodiscard]] QPointer<Palette> palette() const;
-    /// Binds a palette and draws the picture with its colours; the pixels stay.
+    /// Binds a palette (or none): the picture takes its colours, now and whenever one of them changes.
     void setPalette(const QPointer<Palette> &palette);
     /// The id of the bound palette, or a null id.
     [[nodiscard]] QUuid paletteId() const;

@@ -253,11 +253,17 @@ void TileMap::restore(const Rows &rows)
     emit tilesChanged();
 }
 
+bool TileMap::canBeDrawn() const
+{
+    const bool can = m_tileSet && m_tileSet->palette();
+    if (!can)
+        qWarning("_tiles==nullptr");
+    return can;
+}
+
 QImage TileMap::toImage(const QRect &area) const
 {
-    if (!m_tileSet || !m_tileSet->palette())
-        qWarning("_tiles==nullptr");
-    QImage image = m_picture->image(area);
+    QImage image = canBeDrawn() ? m_picture->image(area) : TileMapPicture::blankImage(area.size(), TileSize);
     image.setColorTable(colourTable());
     return image;
 }
@@ -266,9 +272,9 @@ QImage TileMap::render(const QRect &cells, int zoom, int transparencyIndex) cons
 {
     if (zoom < 1 || zoom > std::numeric_limits<int>::max() / TileSize)
         return {};
-    if (!m_tileSet || !m_tileSet->palette())
-        qWarning("_tiles==nullptr");
-    QImage image = m_picture->scaledImage(cells, zoom * TileSize);
+    const int cellSize = zoom * TileSize;
+    QImage image =
+        canBeDrawn() ? m_picture->scaledImage(cells, cellSize) : TileMapPicture::blankImage(cells.size(), cellSize);
     QList<QRgb> colours = colourTable();
     for (qsizetype i = 0; i < colours.size(); ++i) {
         if ((i & 15) == transparencyIndex)

@@ -110,7 +110,8 @@ public:
     /// Puts a content back, size included.
     void restore(const Rows &rows);
 
-    /// The area at one pixel a pixel as palette indices with the palette's colours, blank outside the grid.
+    /// The area at one pixel a pixel as palette indices with the palette's colours. Blank, as render(), outside
+    /// the grid and without a tile set that has a palette.
     [[nodiscard]] QImage toImage(const QRect &area) const;
     /// The cells with zoom (1 or more) screen pixels a pixel. Palette entries whose low four bits equal
     /// the transparency index (0–15, or -1 for none) get alpha 0.
@@ -148,6 +149,8 @@ signals:
     void tilesChanged();
 
 private:
+    /// Whether there are tiles and colours to draw with; a warning in the log when there are not.
+    [[nodiscard]] bool canBeDrawn() const;
     /// The palette's colours; black without one.
     [[nodiscard]] QList<QRgb> colourTable() const;
 

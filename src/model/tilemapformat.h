@@ -27,10 +27,10 @@ namespace TileMapFormat {
 
 [[nodiscard]] QByteArray toNextData(const TileMap::Rows &rows);
 
-/// The area of a grid of that many columns in data-stream form, with blank cells outside the grid.
+/// The area of a grid in data-stream form, with blank cells outside the grid.
 [[nodiscard]] QByteArray serialise(const TileMap::Rows &rows, const QRect &area, const QUuid &tileSetId);
 
-/// What data in data-stream form holds. It refers to the data, which must outlive it.
+/// What data in data-stream form holds.
 class Reader
 {
 public:
@@ -50,7 +50,7 @@ private:
     Reader(const QByteArray &data, QSize size);
     [[nodiscard]] const uchar *cellAt(int x, int y) const;
 
-    const QByteArray &m_data;
+    QByteArray m_data;
     QSize m_size;
 };
 

@@ -77,13 +77,19 @@ void TileMapPicture::cellChanged(QPoint at, const TileMap::TileData &cell)
     renderCell(cell, m_scale, block->data() + (at.y() % side * stride + at.x() % side) * m_scale, stride);
 }
 
+QImage TileMapPicture::blankImage(QSize cells, int cellSize)
+{
+    QImage image = indexedImage(cells, cellSize);
+    image.fill(0);
+    return image;
+}
+
 QImage TileMapPicture::image(const QRect &area)
 {
     m_tiles.clear();
-    QImage image = indexedImage(area.size(), TileSize);
+    QImage image = blankImage(area.size(), TileSize);
     if (image.isNull())
         return image;
-    image.fill(0);
     uchar *bits = image.bits();
     const qsizetype stride = image.bytesPerLine();
     const TileMap::Rows rows = m_map.rows();

@@ -37,6 +37,8 @@ public:
     void areaChanged(const QRect &area);
     void cellChanged(QPoint at, const TileMap::TileData &cell);
 
+    /// That many cells of index 0 with cellSize pixels a cell; null when there is no such image.
+    [[nodiscard]] static QImage blankImage(QSize cells, int cellSize);
     /// The area at 8 pixels a cell, rendered afresh with an empty tile cache; indices without colours.
     [[nodiscard]] QImage image(const QRect &area);
     /// The cells with cellSize pixels a cell as palette indices without colours.
