@@ -4,35 +4,21 @@
 #include "model/spritebank.h"
 #include "model/tilemap.h"
 #include "model/tileset.h"
+#include "support/modeltools.h"
 #include "support/testmain.h"
 
-#include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
-
-#include <algorithm>
-#include <initializer_list>
 
 namespace {
 
 /// A 8 × 8 picture from text, row by row: '.' is 0, other digits are hexadecimal.
 QImage picture(const QByteArray &text)
 {
-    QImage image(8, 8, QImage::Format_Indexed8);
-    image.setColorCount(256);
+    QImage image = plainImage({8, 8}, 0);
     for (int i = 0; i < 64; ++i)
-        image.scanLine(i / 8)[i % 8] = text[i] == '.' ? 0 : uchar(text.mid(i, 1).toInt(nullptr, 16));
+        image.setPixel(i % 8, i / 8, text.mid(i, 1).toUInt(nullptr, 16));
     return image;
-}
-
-QByteArray textOf(const QImage &image)
-{
-    QByteArray text;
-    for (int i = 0; i < 64; ++i) {
-        const int pixel = image.pixelIndex(i % 8, i / 8);
-        text += pixel == 0 ? QByteArray(".") : QByteArray::number(pixel, 16).toUpper();
-    }
-    return text;
 }
 
 constexpr auto TilePixels = "...11..."
@@ -47,6 +33,15 @@ constexpr auto TilePixels = "...11..."
 constexpr auto TileBytes = "00 01 10 00  00 12 21 00  01 23 32 10  12 34 53 21"
                            "F0 00 00 00  0F 00 00 00  77 77 77 77  00 00 00 0A";
 
+constexpr auto FontPixels = "........"
+                            "...FF..."
+                            "..F..F.."
+                            ".F....F."
+                            ".FFFFFF."
+                            ".F....F."
+                            ".F....F."
+                            "........";
+
 } // namespace
 
 /// The worked examples of docs/file-formats.md, as they stand there.
@@ -55,10 +50,8 @@ class TestFileFormats : public QObject
     Q_OBJECT
 
 private slots:
-    void palette_data();
     void palette();
     void tilePixels();
-    void tilePixelsAsBlocks();
     void tileAttributes();
     void zxSpectrumFont();
     void tileMap();
@@ -67,20 +60,6 @@ private slots:
 
 private:
     [[nodiscard]] QString path(const QString &name) const { return m_folder.filePath(name); }
-
-    void write(const QString &name, const QByteArray &bytes) const
-    {
-        QFile file(path(name));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(bytes), bytes.size());
-    }
-
-    [[nodiscard]] QByteArray read(const QString &name) const
-    {
-        QFile file(path(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
-    }
-
     static QByteArray hex(const char *digits) { return QByteArray::fromHex(digits); }
 
     QTemporaryDir m_folder;
@@ -88,59 +67,43 @@ private:
     TileSet *m_tiles = m_project.createTileSet("Rocks", {}, 3);
 };
 
-void TestFileFormats::palette_data()
-{
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QByteArray>("end");
-    QTest::newRow("pal") << "a.pal" << QByteArray();
-    QTest::newRow("nxp") << "a.nxp" << QByteArray();
-    QTest::newRow("npl") << "a.npl" << QByteArray(1, '\0');
-    QTest::newRow("palette directory") << "Sunset_palette.bin" << QByteArray();
-}
-
 void TestFileFormats::palette()
 {
-    QFETCH(QString, file);
-    QFETCH(QByteArray, end);
-
     Palette written;
     written.setName("Sunset");
     written.setColour(0, QColor(255, 0, 255), true);
     written.setColour(1, QColor(73, 183, 146), false);
     written.setColour(2, QColor(255, 110, 37), false);
-    QVERIFY(file.startsWith("Sunset") ? written.exportToDirectory(m_folder.path()) : written.exportData(path(file)));
-    QCOMPARE(read(file), hex("E381 5600 EC01") + QByteArray(506, '\0') + end);
-
-    Palette loaded;
-    QVERIFY(loaded.importData(path(file)));
-    QCOMPARE(loaded.rawColour(0), quint16(0xE381));
-    QCOMPARE(loaded.rawColour(1), quint16(0x5600));
-    QCOMPARE(loaded.rawColour(2), quint16(0xEC01));
-    QCOMPARE(loaded.colour(2), QColor(255, 110, 37));
+    QVERIFY(written.exportToDirectory(m_folder.path()));
+    for (const char *file : {"a.pal", "a.nxp", "a.npl"})
+        QVERIFY(written.exportData(path(file)));
+    for (const char *file : {"a.pal", "a.nxp", "a.npl", "Sunset_palette.bin"}) {
+        QCOMPARE(readFile(path(file)), hex("E381 5600 EC01") + QByteArray(file == QByteArray("a.npl") ? 507 : 506, 0));
+        Palette loaded;
+        QVERIFY(loaded.importData(path(file)));
+        QCOMPARE(loaded.rawColour(0), quint16(0xE381));
+        QCOMPARE(loaded.rawColour(1), quint16(0x5600));
+        QCOMPARE(loaded.colour(2), QColor(255, 110, 37));
+    }
 }
 
 void TestFileFormats::tilePixels()
 {
     m_tiles->setTileImage(0, picture(TilePixels));
     QVERIFY(m_tiles->exportToDirectory(m_folder.path()));
-    QCOMPARE(read("Rocks_tiles.nxt"), hex(TileBytes) + QByteArray(64, '\0'));
+    QCOMPARE(readFile(path("Rocks_tiles.nxt")), hex(TileBytes) + QByteArray(64, '\0'));
 
-    write("one.nxt", hex(TileBytes));
+    QVERIFY(writeFile(path("one.nxt"), hex(TileBytes)));
     m_tiles->clearImage(0);
     QVERIFY(m_tiles->importNxt(path("one.nxt")));
-    QCOMPARE(textOf(m_tiles->image(0)), QByteArray(TilePixels));
-}
+    QCOMPARE(indices(m_tiles->image(0)), indices(picture(TilePixels)));
 
-void TestFileFormats::tilePixelsAsBlocks()
-{
-    m_tiles->setTileImage(0, picture(TilePixels));
     m_tiles->setTileOffset(0, 2);
     QVERIFY(m_tiles->exportBlocks(path("blocks.bin"), 1, 1, false));
-    QCOMPARE(read("blocks.bin").size(), 64);
-    QCOMPARE(read("blocks.bin").first(8), hex("20 20 20 21 21 20 20 20"));
+    QCOMPARE(readFile(path("blocks.bin")).size(), 64);
+    QCOMPARE(readFile(path("blocks.bin")).first(8), hex("20 20 20 21 21 20 20 20"));
     QVERIFY(m_tiles->exportBlocks(path("rotated.bin"), 1, 1, true));
-    QCOMPARE(read("rotated.bin").first(8), hex("20 20 20 21 2F 20 27 20"));
-    m_tiles->setTileOffset(0, 0);
+    QCOMPARE(readFile(path("rotated.bin")).first(8), hex("20 20 20 21 2F 20 27 20"));
 }
 
 void TestFileFormats::tileAttributes()
@@ -148,9 +111,9 @@ void TestFileFormats::tileAttributes()
     m_tiles->tile(1)->setAttributes(0x0F);
     m_tiles->tile(2)->setAttributes(0x41);
     QVERIFY(m_tiles->exportAttributesBinary(path("attributes.bin")));
-    QCOMPARE(read("attributes.bin"), hex("00 0F 41"));
+    QCOMPARE(readFile(path("attributes.bin")), hex("00 0F 41"));
     QVERIFY(m_tiles->exportAttributesAsm(path("attributes.asm")));
-    QCOMPARE(read("attributes.asm"),
+    QCOMPARE(readFile(path("attributes.asm")),
              QByteArray("\tTA_NONE        = $00\n"
                         "\tTA_TOPSOLID    = $01\n"
                         "\tTA_LEFTSOLID   = $02\n"
@@ -166,17 +129,9 @@ void TestFileFormats::tileAttributes()
 
 void TestFileFormats::zxSpectrumFont()
 {
-    write("font.ch8", hex("00 18 24 42 7E 42 42 00"));
+    QVERIFY(writeFile(path("font.ch8"), hex("00 18 24 42 7E 42 42 00")));
     QVERIFY(m_tiles->importZXFont(1, 15, 0, 0, path("font.ch8")));
-    QCOMPARE(textOf(m_tiles->image(1)),
-             QByteArray("........"
-                        "...FF..."
-                        "..F..F.."
-                        ".F....F."
-                        ".FFFFFF."
-                        ".F....F."
-                        ".F....F."
-                        "........"));
+    QCOMPARE(indices(m_tiles->image(1)), indices(picture(FontPixels)));
 }
 
 void TestFileFormats::tileMap()
@@ -187,13 +142,13 @@ void TestFileFormats::tileMap()
     map->setTile(QPoint(0, 1), {.index = 2, .flip = true, .offset = 15, .used = true});
     map->setTile(QPoint(1, 1), {511, true, true, true, 10, true});
     QVERIFY(map->exportToDirectory(m_folder.path()));
-    QCOMPARE(read("Cave_tilemap.bin"), hex("01 39 05 02 02 F4 FF AF"));
+    QCOMPARE(readFile(path("Cave_tilemap.bin")), hex("01 39 05 02 02 F4 FF AF"));
 }
 
 void TestFileFormats::mapOfBlocks()
 {
-    write("level.nxb", hex("00 00 00 00 00 00 00 00  01 00 02 00 11 00 12 00"));
-    write("level.nxm", hex("04 02 01 00 00 00") + QByteArray(252, '\xAA'));
+    QVERIFY(writeFile(path("level.nxb"), hex("00 00 00 00 00 00 00 00  01 00 02 00 11 00 12 00")));
+    QVERIFY(writeFile(path("level.nxm"), hex("04 02 01 00 00 00") + QByteArray(252, '\xAA')));
     const QPointer<Map> map = m_project.createMap("Level", m_tiles->id(), QSize(40, 32));
     QVERIFY(map->importNxm(path("level.nxm"), path("level.nxb")));
     QCOMPARE(map->tileLayer()->toNextData(), hex("01 00 02 00 00 00 00 00  11 00 12 00 00 00 00 00"));
@@ -203,18 +158,16 @@ void TestFileFormats::mapOfBlocks()
 void TestFileFormats::sprites()
 {
     QByteArray bytes = hex("00 01 02 03 04 05 06 07 08 09 0A 0B 0C 0D 0E 0F FF") + QByteArray(239, '\xE3');
-    write("one.spr", bytes);
-    const QPointer<SpriteBank> bank =
-        m_project.createSpriteBank(Quenmora::EightBit, "Ship", m_project.palettes().first()->id());
-    QVERIFY(bank->importSpr(path("one.spr")));
-    QCOMPARE(bank->count(), 2);
-    const QImage sprite = bank->spriteImage(1, false, false, false);
-    QCOMPARE(sprite.pixelIndex(15, 0), 15);
-    QCOMPARE(sprite.pixelIndex(0, 1), 255);
-    QCOMPARE(sprite.pixelIndex(15, 15), 0xE3);
-    bank->deleteSprite(0);
-    QVERIFY(bank->exportSpr(path("two.spr")));
-    QCOMPARE(read("two.spr"), bytes);
+    QVERIFY(writeFile(path("one.spr"), bytes));
+    for (const auto depth : {Quenmora::FourBit, Quenmora::EightBit}) {
+        SpriteBank bank(depth);
+        QVERIFY(bank.importSpr(path("one.spr")));
+        QCOMPARE(bank.count(), 2);
+        QCOMPARE(indices(bank.spriteImage(1, false, false, false)), bytes);
+        bank.deleteSprite(0);
+        QVERIFY(bank.exportSpr(path("two.spr")));
+        QCOMPARE(readFile(path("two.spr")), bytes);
+    }
 }
 
 QUENMORA_TEST_MAIN(TestFileFormats)

@@ -3,55 +3,43 @@
 #include "model/palette.h"
 #include "model/spriteanim.h"
 #include "model/spritebank.h"
+#include "support/modeltools.h"
 #include "support/testmain.h"
 
 #include <QPainter>
 #include <QTest>
 
-#include <cstring>
-#include <memory>
-
+/// Sprites 0 to 3, each in the one colour of that palette index, placed on maps.
 class TestPlacedSprites : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void init();
+    void initTestCase();
     void coversWhatTheBankHas();
     void ignoresWhatIsNotThere();
     void paintsInOrderAndInside();
     void playsAnimations();
 
 private:
-    [[nodiscard]] Map::PlacedSprite spriteAt(int x, int y, int index) const;
+    [[nodiscard]] Map::PlacedSprite spriteAt(int x, int y, int index) const
+    {
+        return {m_bank.id(), {}, index, x, y, false, false, false, 0, 0, 0, 0, {}};
+    }
 
     Palette m_palette;
-    std::unique_ptr<SpriteBank> m_bank;
-    PlacedSprites::Banks m_banks;
+    SpriteBank m_bank{Quenmora::EightBit};
+    const PlacedSprites::Banks m_banks{nullptr, &m_bank};
 };
 
-/// Sprites 0 to 3, each in the one colour of that palette index.
-void TestPlacedSprites::init()
+void TestPlacedSprites::initTestCase()
 {
     m_palette.loadStandardNext();
-    m_bank = std::make_unique<SpriteBank>(Quenmora::EightBit);
-    m_bank->setPalette(&m_palette);
-    QImage image(16, 64, QImage::Format_Indexed8);
-    for (int y = 0; y < 64; ++y)
-        std::memset(image.scanLine(y), y / 16, 16);
-    image.setColorTable(m_palette.colourTable());
-    m_bank->setWholeImage(image);
-    m_banks = {nullptr, m_bank.get()};
-}
-
-Map::PlacedSprite TestPlacedSprites::spriteAt(int x, int y, int index) const
-{
-    Map::PlacedSprite sprite;
-    sprite.bank = m_bank->id();
-    sprite.sprite = index;
-    sprite.x = x;
-    sprite.y = y;
-    return sprite;
+    m_bank.setPalette(&m_palette);
+    for (int i = 1; i < 4; ++i) {
+        m_bank.addSprite();
+        m_bank.setImage(i, plainImage({16, 16}, i));
+    }
 }
 
 void TestPlacedSprites::coversWhatTheBankHas()
@@ -59,7 +47,7 @@ void TestPlacedSprites::coversWhatTheBankHas()
     const Map::PlacedSprite single = spriteAt(5, 6, 3);
     QCOMPARE(PlacedSprites::area(single, m_banks), QRect(5, 6, 16, 16));
 
-    const QPointer<SpriteAnim> animation = m_bank->newAnimation();
+    const QPointer<SpriteAnim> animation = m_bank.newAnimation();
     animation->setSize({3, 1});
     Map::PlacedSprite animated = single;
     animated.animation = animation->id();
@@ -100,38 +88,33 @@ void TestPlacedSprites::paintsInOrderAndInside()
     // the view shows cells 2 to 5 and 1 to 3 at twice their size, from (10, 20) on
     QImage screen(100, 100, QImage::Format_RGB32);
     screen.fill(Qt::white);
-    {
-        QPainter painter(&screen);
-        PlacedSprites::paint(painter, {10, 20}, QRect(2, 1, 4, 3), 16,
-                             {spriteAt(20, 12, 1), spriteAt(24, 12, 2), spriteAt(44, 20, 3), spriteAt(48, 0, 1)},
-                             m_banks, 0);
-    }
-    const QList<QRgb> colours = m_palette.colourTable();
-    QCOMPARE(screen.pixel(17, 28), qRgb(255, 255, 255));
-    QCOMPARE(screen.pixel(18, 28), colours[1]);
-    QCOMPARE(screen.pixel(25, 28), colours[1]);
-    QCOMPARE(screen.pixel(26, 28), colours[2]); // above the first
-    QCOMPARE(screen.pixel(57, 59), colours[2]);
-    QCOMPARE(screen.pixel(58, 59), qRgb(255, 255, 255));
-    QCOMPARE(screen.pixel(66, 44), colours[3]);
-    QCOMPARE(screen.pixel(73, 67), colours[3]);
-    QCOMPARE(screen.pixel(74, 50), qRgb(255, 255, 255)); // cut off at the edge of the view
-    QCOMPARE(screen.pixel(73, 68), qRgb(255, 255, 255));
+    QPainter painter(&screen);
+    PlacedSprites::paint(painter, {10, 20}, QRect(2, 1, 4, 3), 16,
+                         {spriteAt(20, 12, 1), spriteAt(24, 12, 2), spriteAt(44, 20, 3), spriteAt(48, 0, 1)}, m_banks,
+                         0);
+    painter.end();
+    const std::tuple<int, int, int> pixels[] = {
+        {17, 28, -1}, {18, 28, 1}, {25, 28, 1}, // beside the first sprite, and its edges
+        {26, 28, 2},  {57, 59, 2}, {58, 59, -1}, // the second one lies above it
+        {66, 44, 3},  {73, 67, 3}, {74, 50, -1}, {73, 68, -1}, // cut off at the edges of the view
+    };
+    for (const auto &[x, y, index] : pixels)
+        QCOMPARE(screen.pixel(x, y), index < 0 ? qRgb(255, 255, 255) : m_palette.colourTable().at(index));
 }
 
 void TestPlacedSprites::playsAnimations()
 {
-    const QPointer<SpriteAnim> animation = m_bank->newAnimation();
+    const QPointer<SpriteAnim> animation = m_bank.newAnimation();
     animation->addFrame();
     animation->frame(0)->setIndex(0, 0, 1);
     animation->frame(1)->setIndex(0, 0, 2);
     animation->setDelay(5);
     Map::PlacedSprite sprite = spriteAt(0, 0, 0);
     sprite.animation = animation->id();
-    const QList<QRgb> colours = m_palette.colourTable();
-    QCOMPARE(PlacedSprites::picture(sprite, m_banks, 4).pixel(8, 8), colours[1]);
-    QCOMPARE(PlacedSprites::picture(sprite, m_banks, 5).pixel(8, 8), colours[2]);
-    QCOMPARE(PlacedSprites::picture(sprite, m_banks, 10).pixel(8, 8), colours[1]);
+    for (const auto &[time, index] : {std::pair(4, 1), {5, 2}, {10, 1}})
+        QCOMPARE(PlacedSprites::picture(sprite, m_banks, time).pixel(8, 8), m_palette.colourTable().at(index));
+    QVERIFY(PlacedSprites::changesBetween(4, 5, sprite, m_banks));
+    QVERIFY(!PlacedSprites::changesBetween(5, 9, sprite, m_banks));
 }
 
 QUENMORA_TEST_MAIN(TestPlacedSprites)
