@@ -157,6 +157,7 @@ void TestImageSlicer::drawsPictureBack()
     QCOMPARE(slicer.sliceTiles(), 6400);
     for (int cell = 0; cell < slicer.cellCount(); ++cell) {
         const auto [piece, orientation] = slicer.placements().at(cell);
+        QCOMPARE(slicer.piece(piece).colorTable(), slicer.bankColours());
         const QImage shown = turned(slicer.pieceWithOffset(piece), orientation);
         QCOMPARE(shown.convertToFormat(QImage::Format_RGB32), source.copy(cell % 80 * 8, cell / 80 * 8, 8, 8));
     }
