@@ -211,8 +211,8 @@ void TestEditRecorder::structuralSpriteEditIsOneStep()
 
 void TestEditRecorder::undoOfSpriteDeletionRestoresPlacedSprites()
 {
-    addSprite();
-    addSprite();
+    addSprite(*m_bank);
+    addSprite(*m_bank);
     const auto placed = [this](int number, int x) {
         Map::PlacedSprite sprite;
         sprite.bank = m_bank->id();
