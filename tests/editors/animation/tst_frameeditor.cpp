@@ -88,12 +88,11 @@ private slots:
     void toolTipDescribesTheCell();
     void arrowKeysMoveTheSelection();
     void dropsTilesAndSelectsThem();
-    void refusesWhatDoesNotFit_data();
-    void refusesWhatDoesNotFit();
     void paintsCellsAndMarks();
     void animationMayDieDuringADrag();
     void sizeFollowsZoomAndAnimation();
     void releaseSelectsTheCellUnderIt();
+    void refusesWhatDoesNotFit();
 };
 
 void TestFrameEditor::settersChangeTheSelectedCellOfTheCurrentFrame()
@@ -172,43 +171,6 @@ void TestFrameEditor::dropsTilesAndSelectsThem()
     QCOMPARE(f.cell(1, 2, 1), (AnimationFrame::Cell{7, 3, false, true, false}));
     QCOMPARE(f.editor.selectedCell(), QPoint(2, 1));
     QCOMPARE(selection.count(), 1);
-}
-
-void TestFrameEditor::refusesWhatDoesNotFit_data()
-{
-    QTest::addColumn<QByteArray>("type");
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QPoint>("position");
-    QTest::addColumn<bool>("entered");
-    const QPoint inside(40, 40);
-    const QByteArray tileType("quenmora/tile-drag-anim");
-    const QByteArray good = QByteArray::fromHex("0000000700000003");
-    QTest::newRow("sprite") << QByteArray("quenmora/sprite-drag-anim") << QByteArray::fromHex("00000007") << inside
-                            << false;
-    QTest::newRow("text") << QByteArray("text/plain") << good << inside << false;
-    QTest::newRow("outside") << tileType << good << QPoint(200, 10) << true;
-    QTest::newRow("cut") << tileType << good.left(7) << inside << true;
-    QTest::newRow("negative tile") << tileType << QByteArray::fromHex("ffffffff00000003") << inside << true;
-    QTest::newRow("tile beyond the last") << tileType << QByteArray::fromHex("0000001000000003") << inside << true;
-    QTest::newRow("offset beyond 15") << tileType << QByteArray::fromHex("0000000700000010") << inside << true;
-}
-
-void TestFrameEditor::refusesWhatDoesNotFit()
-{
-    QFETCH(QByteArray, type);
-    QFETCH(QByteArray, bytes);
-    QFETCH(QPoint, position);
-    Fixture f;
-    f.editor.setIndexCount(16);
-    const auto before = f.block.state();
-    auto data = std::make_unique<QMimeData>();
-    data->setData(type, bytes);
-    const DropResult result = drop(f.editor, position, std::move(data));
-    QTEST(result.entered, "entered");
-    QVERIFY(!result.dropped);
-    QCOMPARE(f.editor.dropTarget(), FrameEditorWidget::NoCell);
-    QCOMPARE(f.editor.selectedCell(), FrameEditorWidget::NoCell);
-    QVERIFY(f.block.state() == before);
 }
 
 void TestFrameEditor::paintsCellsAndMarks()
@@ -290,6 +252,39 @@ void TestFrameEditor::releaseSelectsTheCellUnderIt()
         QTest::mouseRelease(&f.editor, Qt::LeftButton, Qt::NoModifier, position);
         QCOMPARE(f.editor.selectedCell(), cell);
         QCOMPARE(selection, cell == none ? QList<QVariantList>() : (QList<QVariantList>{{cell}}));
+    }
+}
+
+void TestFrameEditor::refusesWhatDoesNotFit()
+{
+    struct Dragged
+    {
+        QString type;
+        QByteArray hex;
+        QPoint position{40, 40};
+        bool entered = true;
+    };
+    const QString tiles("quenmora/tile-drag-anim");
+    const QByteArray good("0000000700000003");
+    const Dragged drags[] = {{"quenmora/sprite-drag-anim", "00000007", {40, 40}, false},
+                             {"text/plain", good, {40, 40}, false},
+                             {tiles, good, {200, 10}}, // outside
+                             {tiles, good.chopped(2)},
+                             {tiles, "ffffffff00000003"},
+                             {tiles, "0000001000000003"}, // beyond the last tile
+                             {tiles, "0000000700000010"}}; // beyond the last offset
+    for (const Dragged &dragged : drags) {
+        Fixture f;
+        f.editor.setIndexCount(16);
+        const auto before = f.block.state();
+        auto data = std::make_unique<QMimeData>();
+        data->setData(dragged.type, QByteArray::fromHex(dragged.hex));
+        const DropResult result = drop(f.editor, dragged.position, std::move(data));
+        QCOMPARE(result.entered, dragged.entered);
+        QVERIFY(!result.dropped);
+        QCOMPARE(f.editor.dropTarget(), FrameEditorWidget::NoCell);
+        QCOMPARE(f.editor.selectedCell(), FrameEditorWidget::NoCell);
+        QVERIFY(f.block.state() == before);
     }
 }
 

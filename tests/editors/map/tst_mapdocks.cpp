@@ -42,7 +42,6 @@ private slots:
     void cleanup();
 
     void listKeepsTheSelection();
-    void listAsksItsOwner();
     void objectsAreThoseOfTheTileSet();
     void objectsAreChosen();
     void spritesAreThoseOfTheBank();
@@ -103,24 +102,6 @@ void TestMapDocks::listKeepsTheSelection()
     const qint64 before = items->item(2)->icon().cacheKey();
     animations.at(2)->frame(0)->setIndex(0, 0, 3);
     QTRY_VERIFY(items->item(2)->icon().cacheKey() != before);
-}
-
-void TestMapDocks::listAsksItsOwner()
-{
-    List list(List::Buttons | List::ContextMenu);
-    list.setAnimations(m_blocks->animations());
-    const QList<QAction *> actions = list.findChild<QListWidget *>()->actions();
-    QVERIFY(actions.at(0)->isEnabled() && !actions.at(1)->isEnabled() && !actions.at(2)->isEnabled());
-    QSignalSpy add(&list, &List::addRequested);
-    QSignalSpy remove(&list, &List::removeRequested);
-    QSignalSpy clone(&list, &List::cloneRequested);
-    list.select(m_blocks->animations().at(2));
-    for (QAction *action : actions)
-        action->trigger();
-    QCOMPARE(add.count(), 1);
-    QCOMPARE(remove.count(), 1);
-    QCOMPARE(clone, (QList<QVariantList>{{QVariant::fromValue<Animation *>(m_blocks->animations().at(2))}}));
-    QCOMPARE(list.animations().size(), 3);
 }
 
 void TestMapDocks::objectsAreThoseOfTheTileSet()
@@ -266,6 +247,17 @@ void TestMapDocks::listOffersWhatItsFlagsSay()
         QCOMPARE(menu.join(' '), flags & List::ContextMenu ? "Add Delete Clone" : "");
         QCOMPARE(items->item(0)->text(), flags & List::Details ? "Door\n2 frame(s) [3x1]" : "Door");
         QCOMPARE(items->item(0)->toolTip(), "Door");
+        if (menu.isEmpty())
+            continue;
+        QVERIFY(items->actions().at(0)->isEnabled() && !items->actions().at(1)->isEnabled());
+        QSignalSpy add(&list, &List::addRequested);
+        QSignalSpy remove(&list, &List::removeRequested);
+        QSignalSpy clone(&list, &List::cloneRequested);
+        list.select(m_blocks->animations().at(2));
+        for (QAction *action : items->actions())
+            action->trigger();
+        QCOMPARE(add.count() + remove.count(), 2);
+        QCOMPARE(clone, (QList<QVariantList>{{QVariant::fromValue<Animation *>(m_blocks->animations().at(2))}}));
     }
 }
 

@@ -52,8 +52,6 @@ class TestMapGrid : public QObject
 
 private slots:
     void scrollingMovesTheBand();
-    void resizesTheMap_data();
-    void resizesTheMap();
     void editsPlacedSprites();
     void repaintsWhenAssetsChange();
     void zoomStaysInItsRange();
@@ -62,8 +60,8 @@ private slots:
     void laysCellsOut();
     void findsCellsAndPixels();
     void paintsTheLayers();
-    void assetsMayGoInTheMiddleOfADrag_data();
     void assetsMayGoInTheMiddleOfADrag();
+    void resizesTheMap();
 };
 
 void TestMapGrid::scrollingMovesTheBand()
@@ -87,49 +85,6 @@ void TestMapGrid::scrollingMovesTheBand()
     QCOMPARE(positions.size(), 9);
     f.grid.setMap(f.map);
     QCOMPARE(positions.last(), QVariantList{QPoint(0, 0)});
-}
-
-void TestMapGrid::resizesTheMap_data()
-{
-    using Operation = std::function<void(MapGrid &)>;
-    QTest::addColumn<Operation>("operation");
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<QString>("text");
-
-    const auto row = [](const char *text, QSize size, const Operation &operation) {
-        QTest::newRow(text) << operation << size << QString::fromLatin1(text);
-    };
-    row("Add Rows", {20, 19}, [](MapGrid &grid) { grid.addRows(Begin, 3); });
-    row("Add Columns", {22, 16}, [](MapGrid &grid) { grid.addColumns(End, 2); });
-    row("Remove Rows", {20, 1}, [](MapGrid &grid) { grid.removeRows(End, 500); });
-    row("Remove Columns", {1, 16}, [](MapGrid &grid) { grid.removeColumns(End, 50); });
-    row("Resize Map", {5, 7}, [](MapGrid &grid) { grid.resizeMap({5, 7}, Qt::AlignLeft | Qt::AlignTop); });
-}
-
-void TestMapGrid::resizesTheMap()
-{
-    QFETCH(std::function<void(MapGrid &)>, operation);
-    QFETCH(QSize, size);
-    QFETCH(QString, text);
-    MapGridFixture f;
-    f.map->addSprite(f.sprite(1, {150, 120}));
-    f.grid.setMode(PlaceSprite);
-    f.click(f.pixel(155, 125));
-    QCOMPARE(f.grid.selectedSprite(), 0);
-    f.grid.selectAll();
-    QSignalSpy resized(&f.grid, &MapGrid::mapResized);
-    operation(f.grid);
-    QCOMPARE(f.map->size(), size);
-    QCOMPARE(f.lastStep(), text);
-    QCOMPARE(f.stack.count(), 1);
-    QCOMPARE(resized, QSignalSpy::QList<QVariantList>{QVariantList{size}});
-    QCOMPARE(f.grid.selection(), QRect(0, 0, std::min(size.width(), 20), std::min(size.height(), 16)));
-    QCOMPARE(f.grid.selectedSprite(), -1);
-    f.grid.selectAll();
-    f.stack.undo();
-    QCOMPARE(resized.last(), QVariantList{QSize(20, 16)});
-    QVERIFY(QRect(0, 0, 20, 16).contains(f.grid.selection()));
-    QCOMPARE(f.map->sprites().size(), 1);
 }
 
 void TestMapGrid::editsPlacedSprites()
@@ -388,51 +343,83 @@ void TestMapGrid::paintsTheLayers()
     }
 }
 
-void TestMapGrid::assetsMayGoInTheMiddleOfADrag_data()
+void TestMapGrid::assetsMayGoInTheMiddleOfADrag()
 {
-    QTest::addColumn<ToolButton>("mode");
-    QTest::addColumn<QString>("asset");
     for (const ToolButton mode : {Draw, Select, PlaceAnim, PlaceSprite}) {
-        for (const char *asset : {"map", "tile set", "palette", "blocks", "bank"})
-            QTest::addRow("%d %s", int(mode), asset) << mode << QString::fromLatin1(asset);
+        for (const QString asset : {"map", "tile set", "palette", "blocks", "bank"}) {
+            MapGridFixture f;
+            f.map->placeAnimation(f.animation, {10, 10});
+            Map::PlacedSprite animated = f.sprite(-1, {16, 16});
+            animated.animation = f.run->id();
+            f.map->addSprite(animated);
+            f.grid.setCurrentTileAnimation(f.animation);
+            f.grid.setCurrentSpriteAnimation(f.run);
+            if (mode == Draw)
+                f.grid.setCurrentTileIndex(2);
+            f.grid.setMode(mode);
+            f.press(f.at(2, 2));
+            f.move(f.at(4, 3), Qt::LeftButton);
+            const QHash<QString, QObject *> assets{
+                {"map", f.map}, {"tile set", f.tiles}, {"palette", f.palette}, {"blocks", f.blocks}, {"bank", f.bank}};
+            delete assets.value(asset);
+            f.grid.grab();
+            f.move(f.at(6, 6), Qt::LeftButton);
+            f.release(f.at(6, 6));
+            f.grid.selectAll();
+            f.grid.cutSelection();
+            f.grid.addRows(End, 1);
+            f.grid.fitTo();
+            f.grid.setMode(Paste);
+            f.click(f.at(3, 3));
+            f.grid.setSpriteBanks({f.bank});
+            f.stack.undo();
+            const QColor shown = f.screenColour(f.at(3, 3));
+            if (!f.map)
+                QCOMPARE(shown, f.grid.palette().window().color());
+            f.grid.setMap(f.map);
+            f.grid.grab();
+        }
     }
 }
 
-void TestMapGrid::assetsMayGoInTheMiddleOfADrag()
+void TestMapGrid::resizesTheMap()
 {
-    QFETCH(ToolButton, mode);
-    QFETCH(QString, asset);
-    MapGridFixture f;
-    f.map->placeAnimation(f.animation, {10, 10});
-    Map::PlacedSprite animated = f.sprite(-1, {16, 16});
-    animated.animation = f.run->id();
-    f.map->addSprite(animated);
-    f.grid.setCurrentTileAnimation(f.animation);
-    f.grid.setCurrentSpriteAnimation(f.run);
-    if (mode == Draw)
-        f.grid.setCurrentTileIndex(2);
-    f.grid.setMode(mode);
-    f.press(f.at(2, 2));
-    f.move(f.at(4, 3), Qt::LeftButton);
-    const QHash<QString, QObject *> assets{
-        {"map", f.map}, {"tile set", f.tiles}, {"palette", f.palette}, {"blocks", f.blocks}, {"bank", f.bank}};
-    delete assets.value(asset);
-    f.grid.grab();
-    f.move(f.at(6, 6), Qt::LeftButton);
-    f.release(f.at(6, 6));
-    f.grid.selectAll();
-    f.grid.cutSelection();
-    f.grid.addRows(End, 1);
-    f.grid.fitTo();
-    f.grid.setMode(Paste);
-    f.click(f.at(3, 3));
-    f.grid.setSpriteBanks({f.bank});
-    f.stack.undo();
-    const QColor shown = f.screenColour(f.at(3, 3));
-    if (!f.map)
-        QCOMPARE(shown, f.grid.palette().window().color());
-    f.grid.setMap(f.map);
-    f.grid.grab();
+    struct Edit
+    {
+        const char *text;
+        QSize size;
+        std::function<void(MapGrid &)> operation;
+    };
+    const Edit edits[] = {
+        {"Add Rows", {20, 19}, [](MapGrid &grid) { grid.addRows(Begin, 3); }},
+        {"Add Columns", {22, 16}, [](MapGrid &grid) { grid.addColumns(End, 2); }},
+        {"Remove Rows", {20, 1}, [](MapGrid &grid) { grid.removeRows(End, 500); }},
+        {"Remove Columns", {1, 16}, [](MapGrid &grid) { grid.removeColumns(End, 50); }},
+        {"Resize Map",
+         {5, 7},
+         [](MapGrid &grid) {
+             grid.resizeMap({5, 7}, Qt::AlignLeft | Qt::AlignTop);
+         }},
+    };
+    for (const auto &[text, size, operation] : edits) {
+        MapGridFixture f;
+        f.map->addSprite(f.sprite(1, {150, 120}));
+        f.grid.setMode(PlaceSprite);
+        f.click(f.pixel(155, 125));
+        f.grid.selectAll();
+        QSignalSpy resized(&f.grid, &MapGrid::mapResized);
+        operation(f.grid);
+        QCOMPARE(f.map->size(), size);
+        QCOMPARE(f.lastStep(), QString(text));
+        QCOMPARE(f.stack.count(), 1);
+        QCOMPARE(resized, (QList<QVariantList>{{size}}));
+        QCOMPARE(f.grid.selection().size(), size.boundedTo({20, 16}));
+        f.grid.selectAll();
+        f.stack.undo();
+        QCOMPARE(resized.last(), QVariantList{QSize(20, 16)});
+        QVERIFY(QRect(0, 0, 20, 16).contains(f.grid.selection()));
+        QCOMPARE(f.map->sprites().size(), 1);
+    }
 }
 
 QUENMORA_TEST_MAIN(TestMapGrid)
