@@ -1,5 +1,7 @@
 #include "editors/palette/colourpalette.h"
 
+#include "ui/gridkeys.h"
+
 #include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -21,6 +23,8 @@ ColourPalette::ColourPalette(QWidget *parent) : QWidget(parent)
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
     setAccessibleName(tr("Colours"));
+    // A click leaves the keyboard with the canvas.
+    setFocusPolicy(Qt::TabFocus);
 }
 
 int ColourPalette::columns(int width) const
@@ -96,13 +100,39 @@ void ColourPalette::mousePressEvent(QMouseEvent *event)
     const int index = indexAt(event->position().toPoint());
     if (index < 0)
         return;
-    if (event->button() == Qt::LeftButton) {
-        setPrimaryIndex(index);
-        emit primaryIndexChanged(index);
-    } else if (event->button() == Qt::RightButton) {
-        setSecondaryIndex(index);
-        emit secondaryIndexChanged(index);
+    if (event->button() == Qt::LeftButton)
+        choosePrimary(index);
+    else if (event->button() == Qt::RightButton)
+        chooseSecondary(index);
+}
+
+void ColourPalette::choosePrimary(int index)
+{
+    setPrimaryIndex(index);
+    emit primaryIndexChanged(index);
+}
+
+void ColourPalette::chooseSecondary(int index)
+{
+    setSecondaryIndex(index);
+    emit secondaryIndexChanged(index);
+}
+
+void ColourPalette::keyPressEvent(QKeyEvent *event)
+{
+    const int step = GridKeys::step(event->key(), columns(width()));
+    if (step == 0) {
+        QWidget::keyPressEvent(event);
+        return;
     }
+    const bool secondary = event->modifiers() & Qt::ShiftModifier;
+    const int moved = (secondary ? m_secondary : m_primary) + step;
+    if (moved < m_offset || moved >= m_offset + m_count)
+        return;
+    if (secondary)
+        chooseSecondary(moved);
+    else
+        choosePrimary(moved);
 }
 
 void ColourPalette::mouseDoubleClickEvent(QMouseEvent *event)
@@ -143,5 +173,9 @@ void ColourPalette::paintEvent(QPaintEvent *)
         painter.drawRect(rect.adjusted(0, 0, -1, -1));
         painter.setPen(Qt::black);
         painter.drawRect(rect.adjusted(1, 1, -2, -2));
+    }
+    if (hasFocus()) {
+        painter.setPen(QWidget::palette().color(QPalette::Highlight));
+        painter.drawRect(0, 0, across * side - 1, m_count / across * side - 1);
     }
 }

@@ -6,7 +6,8 @@
 #include <QWidget>
 
 /// Chooses a primary and a secondary colour from many colours of a palette: all 256, or 16 of them
-/// from an offset on. The left button chooses the primary colour, the right button the secondary.
+/// from an offset on. The left button chooses the primary colour, the right button the secondary;
+/// so do the arrow keys without and with Shift.
 class ColourPalette : public QWidget
 {
     Q_OBJECT
@@ -39,6 +40,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     bool event(QEvent *event) override;
 
 private:
@@ -46,6 +48,8 @@ private:
     int columns(int width) const;
     int cell(int width) const;
     int indexAt(QPoint point) const;
+    void choosePrimary(int index);
+    void chooseSecondary(int index);
 
     QPointer<Palette> m_palette;
     int m_offset = 0;

@@ -1,5 +1,7 @@
 #include "editors/palette/colourselector.h"
 
+#include "ui/gridkeys.h"
+
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -10,6 +12,23 @@ constexpr int CellsInRow = 8;
 constexpr int RowHeight = 24;
 constexpr int LeastMargin = 49; ///< holds the swatches of the two chosen colours
 
+/// The arrow key for the same way in a selector that is turned over.
+int transposed(int key)
+{
+    switch (key) {
+    case Qt::Key_Left:
+        return Qt::Key_Up;
+    case Qt::Key_Up:
+        return Qt::Key_Left;
+    case Qt::Key_Right:
+        return Qt::Key_Down;
+    case Qt::Key_Down:
+        return Qt::Key_Right;
+    default:
+        return key;
+    }
+}
+
 } // namespace
 
 ColourSelector::ColourSelector(Qt::Orientation orientation, QWidget *parent)
@@ -19,6 +38,8 @@ ColourSelector::ColourSelector(Qt::Orientation orientation, QWidget *parent)
     setSizePolicy(orientation == Qt::Horizontal ? QSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed)
                                                 : QSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding));
     setAccessibleName(tr("Colours"));
+    // A click leaves the keyboard with the canvas.
+    setFocusPolicy(Qt::TabFocus);
     setToolTip(tr("Left button: foreground, right button: background"));
 }
 
@@ -96,13 +117,41 @@ void ColourSelector::mousePressEvent(QMouseEvent *event)
     const int index = indexAt(event->position().toPoint());
     if (index < 0)
         return;
-    if (event->button() == Qt::LeftButton) {
-        setForeIndex(index);
-        emit foreColourChanged(index);
-    } else if (event->button() == Qt::RightButton) {
-        setBackIndex(index);
-        emit backColourChanged(index);
+    if (event->button() == Qt::LeftButton)
+        chooseFore(index);
+    else if (event->button() == Qt::RightButton)
+        chooseBack(index);
+}
+
+void ColourSelector::chooseFore(int index)
+{
+    setForeIndex(index);
+    emit foreColourChanged(index);
+}
+
+void ColourSelector::chooseBack(int index)
+{
+    setBackIndex(index);
+    emit backColourChanged(index);
+}
+
+void ColourSelector::keyPressEvent(QKeyEvent *event)
+{
+    // Up and down in the vertical selector go along the cells, left and right across them.
+    const int key = m_orientation == Qt::Vertical ? transposed(event->key()) : event->key();
+    const int step = GridKeys::step(key, CellsInRow);
+    if (step == 0) {
+        QWidget::keyPressEvent(event);
+        return;
     }
+    const bool back = event->modifiers() & Qt::ShiftModifier;
+    const int moved = (back ? m_backIndex : m_foreIndex) + step;
+    if ((moved < 0 ? -1 : moved / ColoursInBank) != m_offset - 1)
+        return;
+    if (back)
+        chooseBack(moved);
+    else
+        chooseFore(moved);
 }
 
 void ColourSelector::mouseDoubleClickEvent(QMouseEvent *event)
@@ -155,5 +204,10 @@ void ColourSelector::paintEvent(QPaintEvent *)
             painter.setPen(QPen(Qt::white, 1, first + cell == m_foreIndex ? Qt::SolidLine : Qt::DotLine));
             painter.drawRect(rect.adjusted(1, 1, -1, -1));
         }
+    }
+    if (hasFocus()) {
+        painter.setPen(colours.color(QPalette::Highlight));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRect(oriented({m_margin, 0, CellsInRow * m_cell - 1, 2 * RowHeight - 1}));
     }
 }

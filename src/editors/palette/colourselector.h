@@ -8,7 +8,8 @@
 /// Chooses the foreground and background colour from one bank of 16 colours of a palette.
 ///
 /// Two rows of eight cells (two columns when vertical), after a margin that shows the two chosen
-/// colours. The left button chooses the foreground, the right button the background.
+/// colours. The left button chooses the foreground, the right button the background;
+/// so do the arrow keys without and with Shift.
 class ColourSelector : public QWidget
 {
     Q_OBJECT
@@ -42,11 +43,14 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     int along(QSize size) const;
     /// The palette index of the cell under a point, -1 outside the cells.
     int indexAt(QPoint point) const;
+    void chooseFore(int index);
+    void chooseBack(int index);
     QRect cellRect(int cell) const;
     QRect oriented(QRect rect) const;
     QColor colour(int index) const;
