@@ -7,6 +7,8 @@
 #include <QHBoxLayout>
 #include <QToolButton>
 
+#include <algorithm>
+
 PaletteEditor::PaletteEditor(QWidget *parent)
     : QWidget(parent)
     , m_grid(new PaletteGrid(this))
@@ -71,18 +73,19 @@ void PaletteEditor::setPalette(const QPointer<Palette> &palette)
 
 void PaletteEditor::setSelectedIndex(int index)
 {
-    m_grid->setSelection(index, index);
     setSelection(index, index);
 }
 
 void PaletteEditor::setSelection(int first, int last)
 {
-    m_first = first;
-    m_last = last;
+    m_first = std::clamp(first, 0, Palette::Size - 1);
+    m_last = std::clamp(last, m_first, Palette::Size - 1);
     m_hasSelection = true;
+    if (m_grid->firstSelected() != m_first || m_grid->lastSelected() != m_last)
+        m_grid->setSelection(m_first, m_last);
     updateTools();
     loadSelection();
-    emit selectionChanged(first, last);
+    emit selectionChanged(m_first, m_last);
 }
 
 void PaletteEditor::updateTools()

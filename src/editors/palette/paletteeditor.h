@@ -28,7 +28,7 @@ public slots:
     void setPalette(const QPointer<Palette> &palette);
     /// Selects one entry (0–255) as a click on it does.
     void setSelectedIndex(int index);
-    /// Takes a new selected run and loads the colour editor with its first entry.
+    /// Selects a run of entries (0–255) and loads the colour editor with the first of them.
     void setSelection(int first, int last);
     /// Gives the whole selection a colour.
     void applyColour(const QColor &colour, bool priority);
