@@ -91,6 +91,7 @@ void DocumentController::connectDocks()
     connect(m_views.project, &ProjectWindow::selectedImageChanged, this, &DocumentController::setActiveImageEditor);
     connect(m_views.project, &ProjectWindow::itemRenamed, m_views.tabs, &DocumentTabView::renameDocument);
     connect(m_views.project, &ProjectWindow::itemRenamed, m_views.mapSprites, &MapSpritesWindow::refreshBanks);
+    connect(m_views.project, &ProjectWindow::itemRenamed, m_views.spriteEditor, &SpriteWindow::refresh);
     // they have no tab, so a dock that was closed opens again for them
     connect(m_views.project, &ProjectWindow::selectedPaletteChanged, m_views.palette, &QWidget::show);
     connect(m_views.project, &ProjectWindow::selectedTileSetChanged, m_views.tileEditor, &QWidget::show);
