@@ -1,7 +1,9 @@
 #include "editors/canvas/spritelist.h"
 
 #include "editors/canvas/canvasclipboard.h"
+#include "editors/canvas/cellmarks.h"
 #include "editors/canvas/dragdata.h"
+#include "ui/gridkeys.h"
 #include "ui/svgiconengine.h"
 
 #include <QApplication>
@@ -18,13 +20,6 @@ namespace {
 constexpr int Magnification = 3;
 constexpr int Cell = Magnification * SpriteBank::SpriteSize;
 constexpr QSize SpriteSize(SpriteBank::SpriteSize, SpriteBank::SpriteSize);
-constexpr QColor Hover(160, 160, 255);
-
-QColor withAlpha(QColor colour, int alpha)
-{
-    colour.setAlpha(alpha);
-    return colour;
-}
 
 /// The picture on the clipboard, a canvas's before any other program's; null when there is none.
 QImage clipboardImage()
@@ -135,9 +130,9 @@ QRect SpriteList::cellRect(int index) const
     return {margin() + index % across * Cell, index / across * Cell, Cell, Cell};
 }
 
-int SpriteList::pressedSprite() const
+int SpriteList::spriteAt(QPoint point) const
 {
-    const int index = indexAt(m_pressPoint);
+    const int index = indexAt(point);
     return index < count() ? index : -1;
 }
 
@@ -163,7 +158,9 @@ void SpriteList::paintEvent(QPaintEvent *event)
     }
     if (last == count() + 1) {
         // The icon's colour is made for the window's background, not for that of a blank sprite.
-        painter.fillRect(cellRect(count()).adjusted(4, 4, -4, -4), withAlpha(palette().color(QPalette::Base), 220));
+        QColor ground = palette().color(QPalette::Base);
+        ground.setAlpha(220);
+        painter.fillRect(cellRect(count()).adjusted(4, 4, -4, -4), ground);
         themedIcon(QStringLiteral(":/AddDoc")).paint(&painter, cellRect(count()));
     }
     paintMarks(painter);
@@ -172,28 +169,13 @@ void SpriteList::paintEvent(QPaintEvent *event)
 void SpriteList::paintMarks(QPainter &painter) const
 {
     painter.setBrush(Qt::NoBrush);
-    if (underMouse() && m_hovered >= 0) {
-        const QRect frame = cellRect(m_hovered).adjusted(0, 0, -1, -1);
-        painter.fillRect(frame, withAlpha(Hover, 80));
-        painter.setPen(withAlpha(Hover, 128));
-        painter.drawRect(frame);
-    }
-    if (m_selected >= 0) {
-        const QRect frame = cellRect(m_selected).adjusted(0, 0, -1, -1);
-        painter.setPen(Qt::black);
-        painter.drawRect(frame);
-        painter.setPen(QPen(Qt::white, 1, Qt::DotLine));
-        painter.drawRect(frame);
-    }
-    if (m_dropTarget >= 0 && m_dropTarget != m_selected) {
-        const QRect frame(cellRect(m_dropTarget).topLeft(), QSize(Cell - 1, Cell - 1));
-        painter.setPen(Qt::black);
-        painter.drawRect(frame);
-        QPen dotted(Qt::white, 3, Qt::DotLine);
-        dotted.setCosmetic(true);
-        painter.setPen(dotted);
-        painter.drawRect(frame);
-    }
+    const auto frameOf = [this](int index) { return cellRect(index).adjusted(0, 0, -1, -1); };
+    if (underMouse() && m_hovered >= 0)
+        CellMarks::paintHovered(painter, frameOf(m_hovered));
+    if (m_selected >= 0)
+        CellMarks::paintDotted(painter, frameOf(m_selected), 1);
+    if (m_dropTarget >= 0 && m_dropTarget != m_selected)
+        CellMarks::paintDotted(painter, frameOf(m_dropTarget), 3);
 }
 
 // ---- Mouse and keyboard ---------------------------------------------------------------------
@@ -252,27 +234,24 @@ void SpriteList::leaveEvent(QEvent *event)
 
 void SpriteList::keyPressEvent(QKeyEvent *event)
 {
-    int step = 0;
-    switch (event->key()) {
-    case Qt::Key_Left:
-        step = -1;
-        break;
-    case Qt::Key_Right:
-        step = 1;
-        break;
-    case Qt::Key_Up:
-        step = -columns(width());
-        break;
-    case Qt::Key_Down:
-        step = columns(width());
-        break;
-    default:
+    const int step = GridKeys::step(event->key(), columns(width()));
+    if (step == 0) {
         QWidget::keyPressEvent(event);
         return;
     }
     const int moved = std::max(m_selected, 0) + step;
     if (moved >= 0 && moved < count())
         choose(moved);
+}
+
+void SpriteList::contextMenuEvent(QContextMenuEvent *event)
+{
+    if (event->reason() != QContextMenuEvent::Keyboard || m_selected < 0) {
+        event->ignore();
+        return;
+    }
+    m_pressPoint = cellRect(m_selected).center();
+    m_menu->popup(mapToGlobal(m_pressPoint));
 }
 
 // ---- Clipboard ------------------------------------------------------------------------------
@@ -322,9 +301,11 @@ void SpriteList::dragEnterEvent(QDragEnterEvent *event)
 
 void SpriteList::dragMoveEvent(QDragMoveEvent *event)
 {
-    const int index = indexAt(event->position().toPoint());
-    m_dropTarget = index < count() ? index : -1;
-    update();
+    const int target = spriteAt(event->position().toPoint());
+    if (target != m_dropTarget) {
+        m_dropTarget = target;
+        update();
+    }
     event->acceptProposedAction();
 }
 
@@ -340,7 +321,8 @@ void SpriteList::dropEvent(QDropEvent *event)
         return;
     event->acceptProposedAction();
     const int source = pressedSprite();
-    const int target = std::exchange(m_dropTarget, -1);
+    const int target = spriteAt(event->position().toPoint());
+    m_dropTarget = -1;
     update();
     if (source < 0 || target < 0)
         return;

@@ -50,6 +50,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
     void leaveEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dragMoveEvent(QDragMoveEvent *event) override;
     void dragLeaveEvent(QDragLeaveEvent *event) override;
@@ -63,8 +64,9 @@ private:
     int count() const { return m_sprites ? m_sprites->count() : 0; }
     int columns(int width) const;
     int margin() const;
-    /// The sprite under the last press, -1 when there was none.
-    int pressedSprite() const;
+    /// The sprite under a point, -1 for none and for the cell that adds one.
+    int spriteAt(QPoint point) const;
+    int pressedSprite() const { return spriteAt(m_pressPoint); }
     void refresh();
     void choose(int index);
     void startDrag();

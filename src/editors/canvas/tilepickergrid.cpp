@@ -1,7 +1,9 @@
 #include "editors/canvas/tilepickergrid.h"
 
+#include "editors/canvas/cellmarks.h"
 #include "editors/canvas/dragdata.h"
 #include "model/palette.h"
+#include "ui/gridkeys.h"
 
 #include <QApplication>
 #include <QDrag>
@@ -17,13 +19,6 @@ constexpr int TileSize = 8;
 constexpr std::array Factors{1, 2, 4, 8, 16};
 /// The tilemap reaches tiles 0 to 511; tiles behind the one after them are shaded.
 constexpr int LastUnshaded = 512;
-constexpr QColor Hover(160, 160, 255);
-
-QColor withAlpha(QColor colour, int alpha)
-{
-    colour.setAlpha(alpha);
-    return colour;
-}
 
 } // namespace
 
@@ -113,6 +108,7 @@ void TilePickerGrid::setTileSet(const QPointer<TileSet> &tileSet)
         m_tileSet->disconnect(this);
     m_tileSet = tileSet;
     m_selected = m_hovered = m_menuTile = m_copySource = m_dropTarget = -1;
+    m_pressPoint = {-1, -1};
     if (m_tileSet) {
         connect(m_tileSet, &TileSet::tileChanged, this, qOverload<>(&QWidget::update));
         connect(m_tileSet, &TileSet::tileSwapped, this, qOverload<>(&QWidget::update));
@@ -227,17 +223,10 @@ void TilePickerGrid::paintMarks(QPainter &painter) const
         painter.setPen(Qt::black);
         painter.drawRect(frameOf(m_dropTarget));
     } else if (m_pointerInside && m_hovered >= 0) {
-        painter.fillRect(frameOf(m_hovered), withAlpha(Hover, 80));
-        painter.setPen(withAlpha(Hover, 128));
-        painter.drawRect(frameOf(m_hovered));
+        CellMarks::paintHovered(painter, frameOf(m_hovered));
     }
-    if (m_selected >= 0) {
-        const QRect frame = frameOf(m_selected).adjusted(0, 0, -1, -1);
-        painter.setPen(Qt::black);
-        painter.drawRect(frame);
-        painter.setPen(QPen(Qt::white, 2, Qt::DotLine));
-        painter.drawRect(frame);
-    }
+    if (m_selected >= 0)
+        CellMarks::paintDotted(painter, frameOf(m_selected).adjusted(0, 0, -1, -1), 2);
 }
 
 // ---- Mouse and keyboard ---------------------------------------------------------------------
@@ -314,33 +303,30 @@ void TilePickerGrid::wheelEvent(QWheelEvent *event)
 
 void TilePickerGrid::keyPressEvent(QKeyEvent *event)
 {
-    const int count = m_tileSet ? m_tileSet->count() : 0;
-    int step = 0;
-    switch (event->key()) {
-    case Qt::Key_Left:
-        step = -1;
-        break;
-    case Qt::Key_Right:
-        step = 1;
-        break;
-    case Qt::Key_Up:
-        step = -columns(width());
-        break;
-    case Qt::Key_Down:
-        step = columns(width());
-        break;
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         if (m_selected >= 0)
             emit itemDoubleClicked(m_selected + 1);
         return;
-    default:
+    }
+    const int step = GridKeys::step(event->key(), columns(width()));
+    if (step == 0) {
         QWidget::keyPressEvent(event);
         return;
     }
+    const int count = m_tileSet ? m_tileSet->count() : 0;
     const int moved = std::max(m_selected, 0) + step;
     if (moved >= 0 && moved < count)
         choose(moved);
+}
+
+void TilePickerGrid::contextMenuEvent(QContextMenuEvent *event)
+{
+    if (event->reason() != QContextMenuEvent::Keyboard || m_selected < 0) {
+        event->ignore();
+        return;
+    }
+    m_menuTile = m_selected;
+    m_menu->popup(mapToGlobal(cellRect(m_selected).center()));
 }
 
 // ---- Drag and drop --------------------------------------------------------------------------

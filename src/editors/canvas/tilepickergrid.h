@@ -58,6 +58,7 @@ protected:
     void leaveEvent(QEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dragMoveEvent(QDragMoveEvent *event) override;
     void dragLeaveEvent(QDragLeaveEvent *event) override;
@@ -88,6 +89,6 @@ private:
     int m_menuTile = -1;
     int m_copySource = -1;
     int m_dropTarget = -1;
-    QPoint m_pressPoint;
+    QPoint m_pressPoint{-1, -1};
     bool m_pointerInside = false;
 };
