@@ -55,6 +55,7 @@ Canvas::Canvas(QSize imageSize, QWidget *parent)
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
+    setAccessibleName(tr("Paint canvas"));
     m_selection->hide();
 
     m_tools.insert(Draw, std::make_shared<DrawCanvasTool>(this));
@@ -147,14 +148,12 @@ QSize Canvas::sizeHint() const
 
 void Canvas::setHorizontalPosition(int pos)
 {
-    m_geometry.scroll.setY(pos);
-    update();
+    scrollTo({m_geometry.scroll.x(), pos});
 }
 
 void Canvas::setVerticalPosition(int pos)
 {
-    m_geometry.scroll.setX(pos);
-    update();
+    scrollTo({pos, m_geometry.scroll.y()});
 }
 
 void Canvas::cut()
@@ -208,6 +207,8 @@ void Canvas::setPaper(int index)
 
 void Canvas::setImage(const QImage &image)
 {
+    // What was drawn into the image before belongs to another tile, sprite or moment.
+    m_beforeImage = QImage();
     m_layer.setImage(image);
     m_layer.reloadColourTable();
     relayout();
@@ -246,7 +247,16 @@ void Canvas::resetDrag()
 
 void Canvas::beginEdit()
 {
+    finishStroke();
     m_beforeImage = image();
+}
+
+void Canvas::finishStroke()
+{
+    if (!isEditing())
+        return;
+    emit imageChanged();
+    finishEdit(tr("Draw"), PixelEditCommand::None);
 }
 
 void Canvas::finishEdit(const QString &text, PixelEditCommand::Kind kind)
@@ -296,6 +306,9 @@ void Canvas::pasteAtCursor()
 
 void Canvas::chooseTool(ToolButton mode)
 {
+    // A drag does not go on in another tool.
+    finishStroke();
+    m_buttons = Qt::NoButton;
     m_mode = mode;
     m_tool = m_tools.value(mode).get();
     m_tool->activate();
@@ -403,7 +416,8 @@ void Canvas::beginSelection(QPoint point)
 
 void Canvas::extendSelection(QPoint point)
 {
-    setSelection(m_anchor, point);
+    if (m_anchor != Nowhere)
+        setSelection(m_anchor, point);
 }
 
 void Canvas::clearAnchor()
@@ -430,9 +444,7 @@ void Canvas::setSelection(QPoint from, QPoint to)
 
 void Canvas::placeSelection(const QRect &pixels)
 {
-    // One point more than the pixels' area, like a selection that was dragged.
-    m_selection->setGeometry(
-        QRect(m_geometry.pointOf(pixels.topLeft()), m_geometry.pointOf(pixels.bottomRight() + QPoint(1, 1))));
+    m_selection->setGeometry(QRect(m_geometry.pointOf(pixels.topLeft()), m_geometry.scaled(pixels.size())));
 }
 
 // ---- Events ---------------------------------------------------------------------------------
@@ -489,8 +501,12 @@ void Canvas::mouseMoveEvent(QMouseEvent *event)
 void Canvas::mouseReleaseEvent(QMouseEvent *event)
 {
     m_currentPixel = m_geometry.pixelAt(event->position().toPoint());
+    const QPointer guard(this); // a tool may open a menu, under which anything can happen
     m_tool->mouseReleased(event);
+    if (!guard)
+        return;
     m_buttons = Qt::NoButton;
+    hoverAt(m_currentPixel);
 }
 
 void Canvas::leaveEvent(QEvent *event)
@@ -501,13 +517,18 @@ void Canvas::leaveEvent(QEvent *event)
     QWidget::leaveEvent(event);
 }
 
-void Canvas::scrollBy(QPoint delta)
+void Canvas::scrollTo(QPoint position)
 {
     const QRect selected = selection();
-    m_geometry.scroll = m_geometry.scrolled(delta, image().size());
+    m_geometry.scroll = position;
     if (!selected.isEmpty())
         placeSelection(selected);
     update();
+}
+
+void Canvas::scrollBy(QPoint delta)
+{
+    scrollTo(m_geometry.scrolled(delta, image().size()));
     emit scrollPositionChanged(m_geometry.scroll);
 }
 
@@ -551,4 +572,13 @@ void Canvas::keyPressEvent(QKeyEvent *event)
 {
     if (!scrollByKey(event))
         QWidget::keyPressEvent(event);
+}
+
+void Canvas::contextMenuEvent(QContextMenuEvent *event)
+{
+    // The select tool opens the menu for the mouse.
+    if (event->reason() == QContextMenuEvent::Keyboard)
+        m_contextMenu->popup(event->globalPos());
+    else
+        event->ignore();
 }

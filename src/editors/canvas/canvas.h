@@ -75,10 +75,17 @@ public:
     QMenu *contextMenu() const { return m_contextMenu; }
     /// Ends the preview of the shape being dragged.
     void resetDrag();
-    /// Remembers the image as it is before an edit.
+    /// Remembers the image as it is before an edit; a stroke that is still going on ends here.
     void beginEdit();
+    /// True from beginEdit() to finishEdit().
+    bool isEditing() const { return !m_beforeImage.isNull(); }
     /// Announces the edit when it changed a pixel.
     void finishEdit(const QString &text, PixelEditCommand::Kind kind);
+    /// Runs an operation on the layer as one edit.
+    void applyEdit(const QString &text, PixelEditCommand::Kind kind,
+                   const std::function<void(Layer2Image &)> &operation);
+    /// Announces what the draw tool has drawn since the press, if it is drawing.
+    void finishStroke();
     void beginSelection(QPoint point);
     void extendSelection(QPoint point);
     void clearAnchor();
@@ -100,6 +107,7 @@ public slots:
     void setGridLinesVisible(bool visible);
     void setInk(int index);
     void setPaper(int index);
+    /// Shows another image; an edit of the one before that is going on is given up.
     void setImage(const QImage &image);
     void paletteChanged(int first, int last, QColor colour);
     /// Moves the pixels of an image of 16 colours into bank offset (1–16). No edit is announced.
@@ -127,6 +135,7 @@ protected:
     void leaveEvent(QEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
 
 private slots:
     void updatePalette(int index, QColor colour, bool priority);
@@ -135,9 +144,9 @@ private:
     void buildContextMenu();
     /// Changes the geometry, if asked to, and fits the image; the selection stays on its pixels.
     void relayout(const std::function<void(CanvasGeometry &)> &change = {});
+    /// Shows another part of the image; the selection stays on its pixels.
+    void scrollTo(QPoint position);
     void scrollBy(QPoint delta);
-    void applyEdit(const QString &text, PixelEditCommand::Kind kind,
-                   const std::function<void(Layer2Image &)> &operation);
     void eraseSelection();
     void fillSelection(const QString &text, int index);
     void setSelection(QPoint from, QPoint to);

@@ -16,14 +16,14 @@ void DrawCanvasTool::mousePressed(QMouseEvent *)
 
 bool DrawCanvasTool::mouseMoved(QMouseEvent *)
 {
-    plot();
+    if (canvas()->isEditing())
+        plot();
     return true;
 }
 
 void DrawCanvasTool::mouseReleased(QMouseEvent *)
 {
-    emit canvas()->imageChanged();
-    canvas()->finishEdit(Canvas::tr("Draw"), PixelEditCommand::None);
+    canvas()->finishStroke();
 }
 
 void DrawCanvasTool::plot()

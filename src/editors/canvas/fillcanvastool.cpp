@@ -9,13 +9,10 @@ void FillCanvasTool::activate()
 
 void FillCanvasTool::mouseReleased(QMouseEvent *)
 {
-    Layer2Image &layer = canvas()->layer();
-    canvas()->beginEdit();
-    if (canvas()->heldButtons() & Qt::LeftButton)
-        layer.floodFill(canvas()->cursorPixel(), layer.ink());
-    if (canvas()->heldButtons() & Qt::RightButton)
-        layer.floodFill(canvas()->cursorPixel(), layer.paper());
-    canvas()->update();
-    emit canvas()->imageChanged();
-    canvas()->finishEdit(Canvas::tr("Fill"), PixelEditCommand::None);
+    canvas()->applyEdit(Canvas::tr("Fill"), PixelEditCommand::None, [this](Layer2Image &layer) {
+        if (canvas()->heldButtons() & Qt::LeftButton)
+            layer.floodFill(canvas()->cursorPixel(), layer.ink());
+        if (canvas()->heldButtons() & Qt::RightButton)
+            layer.floodFill(canvas()->cursorPixel(), layer.paper());
+    });
 }

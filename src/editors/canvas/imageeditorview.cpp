@@ -139,7 +139,9 @@ void View::writeBack()
 
 void View::pushEdit(const QString &text, const QImage &before, const QImage &after, PixelEditCommand::Kind kind)
 {
-    const auto apply = [view = QPointer(this), image = m_image](const QImage &pixels) {
+    const auto apply = [view = QPointer(this), image = m_image, isAsset = bool(m_image)](const QImage &pixels) {
+        if (isAsset && !image)
+            return; // deleted since
         if (view && view->m_image == image)
             view->m_canvas->setImage(pixels);
         else if (image)
@@ -193,13 +195,8 @@ void View::importPicture(const QString &fileName)
 
 void View::place(const QImage &pixels)
 {
-    if (m_canvas->image().isNull())
-        return;
-    m_canvas->beginEdit();
-    m_canvas->layer().paste(pixels, QPoint());
-    m_canvas->update();
-    emit m_canvas->imageChanged();
-    m_canvas->finishEdit(tr("Import Image"), PixelEditCommand::None);
+    m_canvas->applyEdit(tr("Import Image"), PixelEditCommand::None,
+                        [&pixels](Layer2Image &layer) { layer.paste(pixels, QPoint()); });
 }
 
 void View::openExportFile()

@@ -25,6 +25,12 @@ QImage blankImage(QSize size)
 
 Layer2Image::Layer2Image(QSize size, QObject *parent) : QObject(parent), m_image(blankImage(size)) { }
 
+void Layer2Image::setImage(const QImage &image)
+{
+    // The primitives write bytes straight into the rows.
+    m_image = image.format() == QImage::Format_Indexed8 ? image : image.convertToFormat(QImage::Format_Indexed8);
+}
+
 void Layer2Image::setPalette(const QPointer<Palette> &palette)
 {
     m_palette = palette;

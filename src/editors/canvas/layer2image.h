@@ -18,7 +18,8 @@ public:
     explicit Layer2Image(QSize size, QObject *parent = nullptr);
 
     const QImage &image() const { return m_image; }
-    void setImage(const QImage &image) { m_image = image; }
+    /// Takes an image; one that is not 8-bit indexed is converted.
+    void setImage(const QImage &image);
     QRect rect() const { return m_image.rect(); }
 
     /// Makes the palette's colours those of the image and of every image that follows.

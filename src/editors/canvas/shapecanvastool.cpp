@@ -12,12 +12,13 @@ void ShapeCanvasTool::activate()
 
 void ShapeCanvasTool::mouseReleased(QMouseEvent *)
 {
-    canvas()->beginEdit();
-    draw(canvas()->layer());
-    canvas()->resetDrag();
-    canvas()->update();
-    emit canvas()->imageChanged();
-    canvas()->finishEdit(text(), PixelEditCommand::None);
+    // The second of two buttons comes up after the drag has ended.
+    if (canvas()->heldButtons() == Qt::NoButton)
+        return;
+    canvas()->applyEdit(text(), PixelEditCommand::None, [this](Layer2Image &layer) {
+        draw(layer);
+        canvas()->resetDrag();
+    });
 }
 
 void ShapeCanvasTool::drawPreview(Layer2Image &layer) const

@@ -166,7 +166,7 @@ void TileWindow::loadTile()
         return;
     const QScopedValueRollback loading(m_loading, true);
     m_canvas->setImage(tile->image());
-    showBank(tile->offset() + 1);
+    showBank(std::clamp(tile->offset(), 0, BankCount - 1) + 1); // a file may hold any offset
 }
 
 void TileWindow::showBank(int bank)
