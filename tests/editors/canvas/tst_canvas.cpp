@@ -2,16 +2,14 @@
 #include "editors/canvas/canvasclipboard.h"
 #include "editors/canvas/scrollcanvas.h"
 
+#include "support/editorinput.h"
 #include "support/testmain.h"
 
-#include <QApplication>
 #include <QClipboard>
-#include <QMenu>
 #include <QMimeData>
-#include <QPainter>
 #include <QScrollBar>
 #include <QSignalSpy>
-#include <QTest>
+#include <QTimer>
 #include <QWheelEvent>
 
 using namespace Quenmora::Ui;
@@ -41,36 +39,41 @@ struct Fixture
         const QSize cell = canvas.geometryInWidget().cell();
         return canvas.geometryInWidget().pointOf(pixel) + QPoint(cell.width() / 2, cell.height() / 2);
     }
-    void send(QEvent::Type type, QPoint point, Qt::MouseButtons buttons, Qt::MouseButton button)
+    void send(QEvent::Type type, QPoint pixel, Qt::MouseButtons buttons, Qt::MouseButton button)
     {
-        QMouseEvent event(type, point, canvas.mapToGlobal(point), button, buttons, Qt::NoModifier);
+        QMouseEvent event(type, centre(pixel), canvas.mapToGlobal(centre(pixel)), button, buttons, Qt::NoModifier);
         QApplication::sendEvent(&canvas, &event);
+    }
+    void press(QPoint pixel, Qt::MouseButton button = Qt::LeftButton, Qt::MouseButtons others = Qt::NoButton)
+    {
+        send(QEvent::MouseButtonPress, pixel, others | button, button);
     }
     void move(QPoint pixel, Qt::MouseButtons buttons = Qt::NoButton)
     {
-        send(QEvent::MouseMove, centre(pixel), buttons, Qt::NoButton);
+        send(QEvent::MouseMove, pixel, buttons, Qt::NoButton);
+    }
+    void release(QPoint pixel, Qt::MouseButton button = Qt::LeftButton, Qt::MouseButtons others = Qt::NoButton)
+    {
+        send(QEvent::MouseButtonRelease, pixel, others, button);
     }
     void drag(const QList<QPoint> &pixels, Qt::MouseButton button = Qt::LeftButton)
     {
         move(pixels.first());
-        send(QEvent::MouseButtonPress, centre(pixels.first()), button, button);
+        press(pixels.first(), button);
         for (const QPoint pixel : pixels.mid(1))
             move(pixel, button);
-        send(QEvent::MouseButtonRelease, centre(pixels.last()), Qt::NoButton, button);
+        release(pixels.last(), button);
     }
     int at(int x, int y) const { return canvas.image().pixelIndex(x, y); }
-};
-
-QImage indexed(QSize size, int first)
-{
-    QImage image(size, QImage::Format_Indexed8);
-    image.setColorTable(QList<QRgb>(256, qRgb(1, 2, 3)));
-    for (int y = 0; y < size.height(); ++y) {
-        for (int x = 0; x < size.width(); ++x)
-            image.setPixel(x, y, uint(first + y * size.width() + x));
+    QColor shown(QPoint pixel) { return canvas.grab().toImage().pixelColor(centre(pixel)); }
+    QStringList texts() const
+    {
+        QStringList texts;
+        for (const QVariantList &edit : edits)
+            texts += edit[0].toString();
+        return texts;
     }
-    return image;
-}
+};
 
 } // namespace
 
@@ -83,20 +86,23 @@ private slots:
     void imageThatFitsOneWayScrollsTheOther();
     void strokeSetsOnlyThePixelsUnderThePointer();
     void rightButtonDrawsPaperAndShapesDrawInk();
-    void strokeThatChangesNothingIsNoEdit();
-    void indicesOfOneColourAreDifferentPixels();
+    void onlyChangedIndicesAreAnEdit();
+    void interruptedStrokesAreNotLost_data();
+    void interruptedStrokesAreNotLost();
+    void anotherImageEndsTheStroke();
+    void secondButtonDrawsNoStrayShape();
     void previewLeavesTheImageAlone();
     void actionsRecordTheirTexts_data();
     void actionsRecordTheirTexts();
     void zoomStaysInItsRange();
     void pickTakesInkAndPaper();
     void remapActsOnBanksOnly();
-    void selectionFollowsScrollAndZoom();
-    void cutFromTheMenuErases();
+    void selectionStaysOnItsPixels();
+    void menuErasesAndFills();
+    void survivesItsEndUnderTheMenu();
     void pasteIsCentredAndClipped();
     void damagedClipboardIsRefused_data();
     void damagedClipboardIsRefused();
-    void clipboardIsAnImageForOthers();
     void paintsTheImageInThePaletteColours();
     void scrollBarsFollowTheCanvas();
 };
@@ -165,9 +171,10 @@ void TestCanvas::rightButtonDrawsPaperAndShapesDrawInk()
     QCOMPARE(f.at(3, 4), 7);
 }
 
-void TestCanvas::strokeThatChangesNothingIsNoEdit()
+void TestCanvas::onlyChangedIndicesAreAnEdit()
 {
     Fixture f;
+    f.palette.fill(Qt::black, false); // indices of one colour are different pixels all the same
     f.canvas.setInk(0);
     f.drag({{1, 1}, {2, 1}});
     f.canvas.setMode(MoveUp);
@@ -176,16 +183,67 @@ void TestCanvas::strokeThatChangesNothingIsNoEdit()
     f.drag({{1, 1}});
     f.canvas.setMode(Fill);
     f.drag({{1, 1}});
-    QCOMPARE(f.edits.count(), 1);
+    QCOMPARE(f.texts(), QStringList{"Draw"});
 }
 
-void TestCanvas::indicesOfOneColourAreDifferentPixels()
+void TestCanvas::interruptedStrokesAreNotLost_data()
+{
+    QTest::addColumn<ToolButton>("action");
+    QTest::addColumn<QStringList>("texts");
+    QTest::addRow("second button") << Draw << QStringList{"Draw", "Draw"};
+    QTest::addRow("another tool") << Line << QStringList{"Draw"};
+    QTest::addRow("scroll") << MoveUp << QStringList{"Draw", "Scroll"};
+}
+
+void TestCanvas::interruptedStrokesAreNotLost()
+{
+    QFETCH(ToolButton, action);
+    QFETCH(QStringList, texts);
+    Fixture f;
+    f.canvas.setPaper(9);
+    const QImage blank = f.canvas.image();
+    f.press({1, 1});
+    if (action == Draw) {
+        f.press({5, 5}, Qt::RightButton, Qt::LeftButton);
+        f.release({5, 5}, Qt::LeftButton, Qt::RightButton);
+        f.release({5, 5}, Qt::RightButton);
+    } else {
+        f.canvas.setMode(action);
+        f.move({3, 3}, Qt::LeftButton);
+        f.release({3, 3});
+    }
+    QCOMPARE(f.texts(), texts);
+    // Every step begins where the one before ended, so that undo comes back to the blank image.
+    QImage reached = blank;
+    for (const QVariantList &edit : std::as_const(f.edits)) {
+        QCOMPARE(edit[1].value<QImage>(), reached);
+        reached = edit[2].value<QImage>();
+    }
+    QCOMPARE(f.canvas.image(), reached);
+}
+
+void TestCanvas::anotherImageEndsTheStroke()
 {
     Fixture f;
-    f.palette.fill(Qt::black, false);
-    f.canvas.setInk(3);
-    f.drag({{1, 1}});
-    QCOMPARE(f.edits.count(), 1);
+    f.press({1, 1});
+    const QImage other = EditorInput::filled(ImageSize, 4);
+    f.canvas.setImage(other);
+    f.move({2, 1}, Qt::LeftButton);
+    f.release({2, 1});
+    QVERIFY(f.edits.isEmpty());
+    QCOMPARE(f.at(2, 1), 4);
+}
+
+void TestCanvas::secondButtonDrawsNoStrayShape()
+{
+    Fixture f;
+    f.canvas.setMode(Line);
+    f.press({2, 2});
+    f.press({2, 2}, Qt::RightButton, Qt::LeftButton);
+    f.release({2, 2}, Qt::LeftButton, Qt::RightButton);
+    f.release({9, 9}, Qt::RightButton);
+    QCOMPARE(f.texts(), QStringList{"Line"});
+    QCOMPARE(f.at(5, 5), 0);
 }
 
 void TestCanvas::previewLeavesTheImageAlone()
@@ -193,15 +251,14 @@ void TestCanvas::previewLeavesTheImageAlone()
     Fixture f;
     f.canvas.setInk(255);
     f.canvas.setMode(Line);
-    f.send(QEvent::MouseButtonPress, f.centre({0, 0}), Qt::LeftButton, Qt::LeftButton);
+    f.press({0, 0});
     f.move({7, 0}, Qt::LeftButton);
-    const QImage shown = f.canvas.grab().toImage();
-    QCOMPARE(shown.pixelColor(f.centre({4, 0})), QColor(Qt::white));
+    QCOMPARE(f.shown({4, 0}), QColor(Qt::white));
     QCOMPARE(f.at(4, 0), 0);
-    f.send(QEvent::MouseButtonRelease, f.centre({7, 0}), Qt::NoButton, Qt::LeftButton);
+    f.release({7, 0});
     QCOMPARE(f.at(4, 0), 255);
     f.move({0, 9});
-    QCOMPARE(f.canvas.grab().toImage().pixelColor(f.centre({0, 5})), QColor(Qt::black));
+    QCOMPARE(f.shown({0, 5}), QColor(Qt::black));
 }
 
 void TestCanvas::actionsRecordTheirTexts_data()
@@ -293,16 +350,21 @@ void TestCanvas::remapActsOnBanksOnly()
     QCOMPARE(f.edits.count(), 1);
 }
 
-void TestCanvas::selectionFollowsScrollAndZoom()
+void TestCanvas::selectionStaysOnItsPixels()
 {
     Fixture f;
     f.canvas.setMode(Select);
     f.drag({{2, 1}, {4, 4}});
-    QCOMPARE(f.canvas.selection(), QRect(2, 1, 2, 3));
-    f.canvas.setZoomLevel(32);
-    QCOMPARE(f.canvas.selection(), QRect(2, 1, 2, 3));
+    const QRect selected(2, 1, 2, 3);
+    QCOMPARE(f.canvas.selection(), selected);
+    for (const int zoom : {1, 32}) {
+        f.canvas.setZoomLevel(zoom);
+        QCOMPARE(f.canvas.selection(), selected);
+    }
     QTest::keyClick(&f.canvas, Qt::Key_Right);
-    QCOMPARE(f.canvas.selection(), QRect(2, 1, 2, 3));
+    QCOMPARE(f.canvas.selection(), selected);
+    f.canvas.setHorizontalPosition(4); // as a scroll bar does
+    QCOMPARE(f.canvas.selection(), selected);
     f.canvas.setZoomLevel(16);
     f.canvas.selectAll();
     QCOMPARE(f.canvas.selection(), QRect(QPoint(), ImageSize));
@@ -310,39 +372,57 @@ void TestCanvas::selectionFollowsScrollAndZoom()
     QVERIFY(!f.canvas.hasSelection());
 }
 
-void TestCanvas::cutFromTheMenuErases()
+void TestCanvas::menuErasesAndFills()
 {
     Fixture f;
-    f.drag({{2, 1}});
+    const auto trigger = [&f](const QString &text) { EditorInput::trigger(*f.canvas.contextMenu(), text); };
+    f.canvas.setInk(0xE0);
     f.canvas.setPaper(6);
+    f.drag({{2, 1}});
     f.canvas.setMode(Select);
     f.drag({{2, 1}, {4, 3}});
-    f.canvas.contextMenu()->actions().at(1)->trigger();
-    QCOMPARE(f.at(2, 1), 1);
-    f.canvas.contextMenu()->actions().at(0)->trigger();
+    trigger("Copy");
+    QCOMPARE(f.at(2, 1), 0xE0);
+    trigger("Cut");
     QCOMPARE(f.at(2, 1), 6);
     QCOMPARE(f.at(3, 2), 6);
     QCOMPARE(f.at(4, 3), 0);
-    QCOMPARE(f.edits.last()[0].toString(), QStringLiteral("Erase"));
-    f.canvas.paste();
+    trigger("Fill");
+    QCOMPARE(f.at(3, 2), 0xE0);
+    QCOMPARE(f.texts(), (QStringList{"Draw", "Erase", "Fill"}));
+    const auto forOthers = QApplication::clipboard()->mimeData()->imageData().value<QImage>();
+    QCOMPARE(forOthers.pixelColor(0, 0), QColor(Qt::red));
+    trigger("Paste");
     QCOMPARE(f.canvas.mode(), Paste);
     QVERIFY(!f.canvas.hasSelection());
     QCOMPARE(f.canvas.clipboardImage().size(), QSize(2, 2));
-    QCOMPARE(f.canvas.clipboardImage().pixelIndex(0, 0), 1);
+    QCOMPARE(f.canvas.clipboardImage().pixelIndex(0, 0), 0xE0);
+}
+
+void TestCanvas::survivesItsEndUnderTheMenu()
+{
+    auto *canvas = new Canvas(ImageSize);
+    const QPointer<Canvas> guard(canvas);
+    canvas->resize(256, 192);
+    canvas->show();
+    canvas->setMode(Select);
+    QTimer::singleShot(0, canvas, &QObject::deleteLater);
+    QTest::mouseClick(canvas, Qt::RightButton, Qt::NoModifier, {20, 20});
+    QTRY_VERIFY(!guard);
 }
 
 void TestCanvas::pasteIsCentredAndClipped()
 {
     Fixture f;
-    CanvasClipboardContent content{0, Full256, f.palette.id(), indexed({3, 3}, 20)};
+    QImage nine = EditorInput::filled({3, 3}, 0);
+    for (int i = 0; i < 9; ++i)
+        nine.setPixel(i % 3, i / 3, uint(20 + i));
+    CanvasClipboardContent content{0, Full256, f.palette.id(), nine};
     QApplication::clipboard()->setMimeData(content.toMimeData());
     f.canvas.paste();
     f.drag({{0, 0}});
-    QCOMPARE(f.at(0, 0), 24);
-    QCOMPARE(f.at(1, 0), 25);
-    QCOMPARE(f.at(0, 1), 27);
-    QCOMPARE(f.at(1, 1), 28);
-    QCOMPARE(f.at(2, 0), 0);
+    const std::array corner{f.at(0, 0), f.at(1, 0), f.at(2, 0), f.at(0, 1), f.at(1, 1)};
+    QCOMPARE(corner, (std::array{24, 25, 0, 27, 28}));
     QCOMPARE(f.canvas.mode(), Paste);
     content.paletteId = QUuid::createUuid();
     QApplication::clipboard()->setMimeData(content.toMimeData());
@@ -354,7 +434,7 @@ void TestCanvas::damagedClipboardIsRefused_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     const std::unique_ptr<QMimeData> good(
-        CanvasClipboardContent{0, Full256, QUuid(), indexed({3, 3}, 20)}.toMimeData());
+        CanvasClipboardContent{0, Full256, QUuid(), EditorInput::filled({3, 3}, 20)}.toMimeData());
     const QByteArray bytes = good->data("quenmora/canvas-anim");
     QTest::addRow("empty") << QByteArray();
     QTest::addRow("short") << bytes.left(10);
@@ -378,17 +458,6 @@ void TestCanvas::damagedClipboardIsRefused()
     QVERIFY(f.canvas.clipboardImage().isNull());
 }
 
-void TestCanvas::clipboardIsAnImageForOthers()
-{
-    Fixture f;
-    f.canvas.setInk(255);
-    f.drag({{0, 0}});
-    f.canvas.copy();
-    const auto image = QApplication::clipboard()->mimeData()->imageData().value<QImage>();
-    QCOMPARE(image.size(), ImageSize);
-    QCOMPARE(image.pixelColor(0, 0), QColor(Qt::white));
-}
-
 void TestCanvas::paintsTheImageInThePaletteColours()
 {
     Fixture f;
@@ -396,11 +465,11 @@ void TestCanvas::paintsTheImageInThePaletteColours()
     f.canvas.setInk(0xE0);
     f.drag({{1, 1}});
     f.canvas.setVerticalPosition(1);
-    QCOMPARE(f.canvas.grab().toImage().pixelColor(f.centre({1, 1})), QColor(255, 0, 0));
+    QCOMPARE(f.shown({1, 1}), QColor(255, 0, 0));
     f.palette.setRawColour(0xE0, 0x1C00);
-    QCOMPARE(f.canvas.grab().toImage().pixelColor(f.centre({1, 1})), QColor(0, 255, 0));
+    QCOMPARE(f.shown({1, 1}), QColor(0, 255, 0));
     f.canvas.setMode(Grid, true);
-    QVERIFY(f.canvas.grab().toImage().pixelColor(f.centre({1, 1})) != QColor(0, 255, 0));
+    QVERIFY(f.shown({1, 1}) != QColor(0, 255, 0));
 }
 
 void TestCanvas::scrollBarsFollowTheCanvas()

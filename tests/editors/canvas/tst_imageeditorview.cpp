@@ -2,13 +2,13 @@
 #include "editors/canvas/imageeditorview.h"
 #include "editors/canvas/imageimportdialog.h"
 
+#include "support/editorinput.h"
 #include "support/testmain.h"
 
 #include <QCheckBox>
 #include <QFileDialog>
 #include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QUndoStack>
 
 using ImageEditor::View;
@@ -32,12 +32,7 @@ struct Fixture
         view.resize(900, 700);
         view.show();
     }
-    void draw(QPoint pixel)
-    {
-        Canvas &canvas = *view.canvas();
-        QTest::mouseClick(&canvas, Qt::LeftButton, Qt::NoModifier,
-                          canvas.geometryInWidget().pointOf(pixel) + QPoint(1, 1));
-    }
+    void draw(QPoint pixel) { EditorInput::clickPixel(*view.canvas(), pixel); }
     QString picture(const QString &name, QSize size, QColor colour) const
     {
         QImage picture(size, QImage::Format_RGB32);
@@ -98,10 +93,7 @@ void TestImageEditorView::scratchPictureIsAnnounced()
     view.resize(900, 700);
     view.show();
     QSignalSpy changes(&view, &View::imageChanged);
-    QImage pixels(256, 192, QImage::Format_Indexed8);
-    pixels.setColorTable(palette.colourTable());
-    pixels.fill(3);
-    view.setPixels(pixels);
+    view.setPixels(EditorInput::filled({256, 192}, 3));
     view.setPalette(&palette);
     QVERIFY(changes.isEmpty());
     QTest::mouseClick(view.canvas(), Qt::LeftButton, Qt::NoModifier, view.canvas()->rect().center());
@@ -141,9 +133,7 @@ void TestImageEditorView::importMapsOntoThePalette()
     QFETCH(int, corner);
     QFETCH(int, farCorner);
     Fixture f(mode);
-    QImage filled = f.image.image();
-    filled.fill(5);
-    f.image.setImage(filled);
+    f.image.setImage(EditorInput::filled(f.image.image().size(), 5));
     f.view.setImage(&f.image);
     f.choose(Quenmora::Ui::Open, f.picture("in.png", {40, 30}, Qt::red));
     auto *dialog = f.view.findChild<ImageEditor::ImportDialog *>();
@@ -177,6 +167,8 @@ void TestImageEditorView::importRefusesNonsense()
 void TestImageEditorView::survivesItsImage()
 {
     View view;
+    QUndoStack stack;
+    view.setUndoStack(&stack);
     view.resize(900, 700);
     view.show();
     {
@@ -184,11 +176,14 @@ void TestImageEditorView::survivesItsImage()
         Image image(Quenmora::Layer2_256x192);
         image.setPalette(&palette);
         view.setImage(&image);
+        EditorInput::clickPixel(*view.canvas(), {5, 5});
         QTest::mousePress(view.canvas(), Qt::LeftButton, Qt::NoModifier, view.canvas()->rect().center());
     }
     QVERIFY(view.canvas()->image().isNull());
     view.canvas()->setMode(Quenmora::Ui::MoveUp);
     view.grab();
+    stack.undo();
+    QVERIFY(view.canvas()->image().isNull());
     QTest::mouseRelease(view.canvas(), Qt::LeftButton, Qt::NoModifier, view.canvas()->rect().center());
 }
 

@@ -4,27 +4,16 @@
 #include "editors/canvas/spritelist.h"
 #include "editors/canvas/spritewindow.h"
 
+#include "support/editorinput.h"
 #include "support/testmain.h"
 
-#include <QApplication>
 #include <QClipboard>
-#include <QDropEvent>
-#include <QMenu>
 #include <QSignalSpy>
-#include <QTest>
 #include <QUndoStack>
 
 using SpriteEditor::SpriteList;
 
 namespace {
-
-QImage filled(int index)
-{
-    QImage image(16, 16, QImage::Format_Indexed8);
-    image.setColorTable(QList<QRgb>(256, 0));
-    image.fill(uint(index));
-    return image;
-}
 
 /// A bank of three sprites filled with 1, 2 and 3, with a window and the bank's stack.
 struct Fixture
@@ -41,7 +30,7 @@ struct Fixture
         bank.addSprite();
         bank.addSprite();
         for (int i = 0; i < 3; ++i)
-            bank.setImage(i, filled(i + 1));
+            bank.setImage(i, EditorInput::filled({16, 16}, i + 1));
         window.setUndoStackProvider([this](const QUuid &) { return &stack; });
         window.setSprites(&bank);
         window.resize(400, 900);
@@ -60,24 +49,16 @@ struct Fixture
         QTest::mouseClick(&list(), button, Qt::NoModifier, list().cellRect(index).center());
         list().contextMenu()->close();
     }
-    void trigger(const QString &text)
+    /// Runs an entry of a sprite's context menu.
+    void trigger(int index, const QString &text)
     {
-        for (QAction *action : list().contextMenu()->actions()) {
-            if (action->text() == text)
-                action->trigger();
-        }
+        click(index, Qt::RightButton);
+        EditorInput::trigger(*list().contextMenu(), text);
     }
     void drop(int from, int to, Qt::KeyboardModifiers modifiers)
     {
-        const QPoint target = list().cellRect(to).center();
-        QTest::mousePress(&list(), Qt::LeftButton, Qt::NoModifier, list().cellRect(from).center());
         const std::unique_ptr<QMimeData> data(SpriteDrag{from}.toMimeData());
-        QDragEnterEvent enter(target, Qt::MoveAction, data.get(), Qt::LeftButton, modifiers);
-        QApplication::sendEvent(&list(), &enter);
-        QDragMoveEvent move(target, Qt::MoveAction, data.get(), Qt::LeftButton, modifiers);
-        QApplication::sendEvent(&list(), &move);
-        QDropEvent dropped(target, Qt::MoveAction, data.get(), Qt::LeftButton, modifiers);
-        QApplication::sendEvent(&list(), &dropped);
+        EditorInput::drop(list(), list().cellRect(from).center(), list().cellRect(to).center(), *data, modifiers);
     }
 };
 
@@ -107,15 +88,11 @@ void TestSpriteWindow::listLaysOutCentredRows()
     SpriteList list;
     list.setSprites(&bank);
     list.resize(150, list.heightForWidth(150));
-    QCOMPARE(list.cellRect(0), QRect(3, 0, 48, 48));
+    QCOMPARE(list.size(), QSize(150, 96));
     QCOMPARE(list.cellRect(3), QRect(3, 48, 48, 48));
-    QCOMPARE(list.indexAt({2, 5}), -1);
-    QCOMPARE(list.indexAt({3, 5}), 0);
-    QCOMPARE(list.indexAt({148, 5}), -1);
-    QCOMPARE(list.indexAt({3, 50}), 3);
-    QCOMPARE(list.indexAt({60, 50}), -1);
-    QCOMPARE(list.heightForWidth(150), 96);
-    QCOMPARE(list.heightForWidth(0), 0);
+    const std::pair<QPoint, int> hits[] = {{{2, 5}, -1}, {{3, 5}, 0}, {{148, 5}, -1}, {{3, 50}, 3}, {{60, 50}, -1}};
+    for (const auto &[point, index] : hits)
+        QCOMPARE(list.indexAt(point), index);
 }
 
 void TestSpriteWindow::clicksSelectAndAdd()
@@ -137,8 +114,7 @@ void TestSpriteWindow::strokesReachTheSpriteAndUndo()
     f.click(1);
     Canvas &canvas = *f.window.canvas();
     canvas.setInk(200);
-    QTest::mouseClick(&canvas, Qt::LeftButton, Qt::NoModifier,
-                      canvas.geometryInWidget().pointOf({5, 5}) + QPoint(2, 2));
+    EditorInput::clickPixel(canvas, {5, 5});
     QCOMPARE(f.sprites(), QStringLiteral("1 200 3"));
     f.click(2);
     f.stack.undo();
@@ -154,39 +130,30 @@ void TestSpriteWindow::strokesReachTheSpriteAndUndo()
 
 void TestSpriteWindow::structureEditsAskForOneUndoStep_data()
 {
-    QTest::addColumn<QString>("action");
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("sprites");
-    QTest::addRow("delete") << "Delete"
-                            << "Delete Sprite"
+    QTest::addRow("Delete") << "Delete Sprite"
                             << "2 3";
-    QTest::addRow("clear") << "Clear"
-                           << "Clear Sprite"
+    QTest::addRow("Clear") << "Clear Sprite"
                            << "0 2 3";
-    QTest::addRow("copy") << "copy drop"
-                          << "Copy Sprite"
-                          << "1 2 1";
-    QTest::addRow("move") << "move drop"
-                          << "Move Sprite"
-                          << "2 3 1";
+    QTest::addRow("copy drop") << "Copy Sprite"
+                               << "1 2 1";
+    QTest::addRow("move drop") << "Move Sprite"
+                               << "2 3 1";
 }
 
 void TestSpriteWindow::structureEditsAskForOneUndoStep()
 {
-    QFETCH(QString, action);
+    const QString action = QTest::currentDataTag();
     QFETCH(QString, text);
     QFETCH(QString, sprites);
     Fixture f;
     QSignalSpy begun(&f.bank, &SpriteBank::structureAboutToChange);
     QSignalSpy ended(&f.bank, &SpriteBank::structureChanged);
-    if (action == "copy drop") {
-        f.drop(0, 2, Qt::ShiftModifier);
-    } else if (action == "move drop") {
-        f.drop(0, 2, Qt::NoModifier);
-    } else {
-        f.click(0, Qt::RightButton);
-        f.trigger(action);
-    }
+    if (action.endsWith("drop"))
+        f.drop(0, 2, action == "copy drop" ? Qt::ShiftModifier : Qt::NoModifier);
+    else
+        f.trigger(0, action);
     QCOMPARE(f.sprites(), sprites);
     QCOMPARE(begun.count(), 1);
     QCOMPARE(ended, (QList<QVariantList>{{text}}));
@@ -211,14 +178,12 @@ void TestSpriteWindow::imagesAreCopiedAndPasted()
     for (int i = 3; i < 256; ++i)
         f.palette.storeRawColour(i, 0);
     f.bank.setPalette(&f.palette);
-    f.click(1, Qt::RightButton);
-    f.trigger("Copy Image");
+    f.trigger(1, "Copy Image");
     const auto content = CanvasClipboardContent::fromMimeData(QApplication::clipboard()->mimeData());
     QCOMPARE(content.imageType, Quenmora::Ui::Full256);
     QCOMPARE(content.paletteId, f.palette.id());
     QCOMPARE(content.image.pixelIndex(0, 0), 2);
-    f.click(2, Qt::RightButton);
-    f.trigger("Paste Image");
+    f.trigger(2, "Paste Image");
     QCOMPARE(f.sprites(), QStringLiteral("1 2 2"));
 }
 
@@ -228,8 +193,7 @@ void TestSpriteWindow::pasteTakesOtherProgramsPictures()
     QImage picture(100, 4, QImage::Format_RGB32);
     picture.fill(Qt::white);
     QApplication::clipboard()->setImage(picture);
-    f.click(0, Qt::RightButton);
-    f.trigger("Paste Image");
+    f.trigger(0, "Paste Image");
     const QImage sprite = f.bank.spriteImage(0, false, false, false);
     QCOMPARE(sprite.pixelIndex(15, 3), 255);
     QCOMPARE(sprite.pixelIndex(0, 4), 0);

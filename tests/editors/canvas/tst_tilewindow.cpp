@@ -2,6 +2,7 @@
 #include "editors/canvas/tilewindow.h"
 #include "ui/toolpalette.h"
 
+#include "support/editorinput.h"
 #include "support/testmain.h"
 
 #include <QAction>
@@ -10,7 +11,6 @@
 #include <QClipboard>
 #include <QSignalSpy>
 #include <QSpinBox>
-#include <QTest>
 #include <QUndoStack>
 
 namespace {
@@ -35,27 +35,22 @@ struct Fixture
         window.show();
     }
     Canvas &canvas() { return *window.canvas(); }
-    void draw(QPoint pixel)
-    {
-        const QPoint point = canvas().geometryInWidget().pointOf(pixel) + QPoint(2, 2);
-        QTest::mouseClick(&canvas(), Qt::LeftButton, Qt::NoModifier, point);
-    }
+    void draw(QPoint pixel) { EditorInput::clickPixel(canvas(), pixel); }
     int at(int tile, int x, int y) const { return tiles.image(tile).pixelIndex(x, y); }
+    template <typename Widget, typename Predicate>
+    Widget *find(Predicate matches) const
+    {
+        const auto all = window.findChildren<Widget *>();
+        const auto found = std::find_if(all.begin(), all.end(), matches);
+        return found == all.end() ? nullptr : *found;
+    }
     QSpinBox *offset() const
     {
-        for (QSpinBox *box : window.findChildren<QSpinBox *>()) {
-            if (box->minimum() == 1 && box->maximum() == 16)
-                return box;
-        }
-        return nullptr;
+        return find<QSpinBox>([](auto *box) { return box->minimum() == 1 && box->maximum() == 16; });
     }
     QCheckBox *box(const QString &text) const
     {
-        for (QCheckBox *box : window.findChildren<QCheckBox *>()) {
-            if (box->text() == text)
-                return box;
-        }
-        return nullptr;
+        return find<QCheckBox>([&text](auto *box) { return box->text() == text; });
     }
 };
 
@@ -72,6 +67,8 @@ private slots:
     void offsetMovesThePixelsIntoItsBank();
     void structureChangesReloadTheTile();
     void undoOfADeletedTileIsHarmless();
+    void strokeStaysWithItsTile();
+    void absurdOffsetsAreShownAsTheLastBank();
     void attributesAreWritten();
     void xSwapsTheColours();
     void toolPaletteShowsTheToolInUse();
@@ -169,10 +166,29 @@ void TestTileWindow::undoOfADeletedTileIsHarmless()
     f.window.setTileIndex(8);
     f.draw({1, 1});
     f.tiles.deleteTile(7);
+    const auto before = f.tiles.snapshot();
     f.stack.undo();
-    QCOMPARE(f.tiles.count(), 7);
-    for (int i = 0; i < 7; ++i)
-        QCOMPARE(f.at(i, 1, 1), 0);
+    QCOMPARE(f.tiles.snapshot(), before);
+}
+
+void TestTileWindow::strokeStaysWithItsTile()
+{
+    Fixture f;
+    QTest::mousePress(&f.canvas(), Qt::LeftButton, Qt::NoModifier, f.canvas().rect().center());
+    f.window.setTileIndex(2);
+    QTest::mouseRelease(&f.canvas(), Qt::LeftButton, Qt::NoModifier, f.canvas().rect().center());
+    QCOMPARE(f.stack.count(), 0);
+    QCOMPARE(f.tiles.image(1), f.tiles.image(2));
+}
+
+void TestTileWindow::absurdOffsetsAreShownAsTheLastBank()
+{
+    Fixture f;
+    f.tiles.setTileOffset(1, std::numeric_limits<int>::max());
+    f.window.setTileIndex(2);
+    QCOMPARE(f.offset()->value(), 16);
+    f.draw({1, 1});
+    QCOMPARE(f.at(1, 1, 1), 0xF1);
 }
 
 void TestTileWindow::attributesAreWritten()

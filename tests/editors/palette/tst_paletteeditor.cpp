@@ -8,33 +8,23 @@
 
 #include "support/testmain.h"
 
+#include <QAbstractButton>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
-#include <QPushButton>
 #include <QRadioButton>
 #include <QSignalSpy>
 #include <QSlider>
 #include <QTest>
-#include <QToolButton>
 
 namespace {
 
-QToolButton *tool(const QWidget &widget, const QString &toolTip)
+/// The button of this text or tool tip.
+QAbstractButton *button(const QWidget &widget, const QString &name)
 {
-    for (QToolButton *button : widget.findChildren<QToolButton *>()) {
-        if (button->toolTip() == toolTip)
-            return button;
-    }
-    return nullptr;
-}
-
-QPushButton *okButton(const QWidget &widget)
-{
-    for (QPushButton *button : widget.findChildren<QPushButton *>()) {
-        if (button->text() == QStringLiteral("✓"))
+    for (QAbstractButton *button : widget.findChildren<QAbstractButton *>()) {
+        if (button->text() == name || button->toolTip() == name)
             return button;
     }
     return nullptr;
@@ -100,18 +90,19 @@ void TestPaletteEditor::toolsFollowTheSelection()
 {
     Palette palette;
     PaletteEditor editor;
-    QToolButton *darken = tool(editor, "Darkens the selected colour(s)");
-    QToolButton *gradient = tool(editor, "Create a gradient");
+    const auto enabled = [&editor] {
+        return std::pair(button(editor, "Darkens the selected colour(s)")->isEnabled(),
+                         button(editor, "Create a gradient")->isEnabled());
+    };
     editor.setPalette(&palette);
-    QVERIFY(!darken->isEnabled());
+    QCOMPARE(enabled(), std::pair(false, false));
     editor.setSelection(5, 5);
-    QVERIFY(darken->isEnabled());
-    QVERIFY(!gradient->isEnabled());
-    editor.setSelection(5, 6);
-    QVERIFY(gradient->isEnabled());
+    QCOMPARE(enabled(), std::pair(true, false));
+    editor.setSelection(250, 300);
+    QCOMPARE(enabled(), std::pair(true, true));
+    QCOMPARE(editor.findChild<PaletteGrid *>()->lastSelected(), 255);
     editor.setPalette(nullptr);
-    QVERIFY(!darken->isEnabled());
-    QVERIFY(!gradient->isEnabled());
+    QCOMPARE(enabled(), std::pair(false, false));
 }
 
 void TestPaletteEditor::okAppliesToTheWholeSelection()
@@ -121,16 +112,15 @@ void TestPaletteEditor::okAppliesToTheWholeSelection()
     editor.setPalette(&palette);
     editor.setSelection(3, 5);
     QSignalSpy edits(&palette, &Palette::colourEdited);
-    QPushButton *ok = okButton(editor);
+    QAbstractButton *ok = button(editor, QStringLiteral("✓"));
     QVERIFY(!ok->isEnabled());
     editor.findChild<QSlider *>("redSlider")->setValue(7);
     editor.findChild<QCheckBox *>()->setChecked(true);
     QVERIFY(ok->isEnabled());
-    QCOMPARE(palette.rawColour(3), quint16(0));
+    QVERIFY(edits.isEmpty());
     ok->click();
-    for (int index = 3; index <= 5; ++index)
-        QCOMPARE(palette.rawColour(index), quint16(0xE080));
-    QCOMPARE(palette.rawColour(6), quint16(0));
+    const std::array words{palette.rawColour(2), palette.rawColour(3), palette.rawColour(5), palette.rawColour(6)};
+    QCOMPARE(words, (std::array<quint16, 4>{0, 0xE080, 0xE080, 0}));
     QCOMPARE(edits.count(), 3);
     QVERIFY(!ok->isEnabled());
 }
@@ -171,19 +161,15 @@ void TestPaletteEditor::gradientKeepsEndsAndPriorities()
     Palette palette;
     palette.setRawColour(2, 0x0080);
     palette.setRawColour(7, 0xFF01);
+    palette.setRawColour(9, 0xE000);
     PaletteEditor editor;
     editor.setPalette(&palette);
     editor.setSelection(0, 7);
     editor.createGradient();
-    QCOMPARE(palette.rawColour(0), quint16(0));
-    QCOMPARE(palette.rawColour(7), quint16(0xFF01));
+    // 0, 36, 72, ..., 216, 255 as levels
+    for (int index = 0; index <= 7; ++index)
+        QCOMPARE(palette.rawColour(index) >> 13, index);
     QVERIFY(palette.priority(2));
-    // 36, 72, ..., 216 as levels
-    constexpr std::array Levels{0, 1, 2, 3, 4, 5, 6};
-    for (int index = 1; index <= 6; ++index)
-        QCOMPARE(palette.rawColour(index) >> 13, Levels[size_t(index)]);
-
-    palette.setRawColour(9, 0xE000);
     editor.setSelection(8, 9);
     editor.createGradient();
     QCOMPARE(palette.rawColour(8), quint16(0));
@@ -216,6 +202,11 @@ void TestPaletteEditor::selectorChoosesFromItsBank()
     QCOMPARE(fore, (QList<QVariantList>{{27}}));
     QCOMPARE(back, (QList<QVariantList>{{27}}));
     QCOMPARE(selector.foreIndex(), 27);
+    QTest::keyClick(&selector, orientation == Qt::Horizontal ? Qt::Key_Up : Qt::Key_Left);
+    QTest::keyClick(&selector, orientation == Qt::Horizontal ? Qt::Key_Up : Qt::Key_Left); // there is no third row
+    QTest::keyClick(&selector, orientation == Qt::Horizontal ? Qt::Key_Right : Qt::Key_Down, Qt::ShiftModifier);
+    QCOMPARE(selector.foreIndex(), 19);
+    QCOMPARE(selector.backIndex(), 28);
 }
 
 void TestPaletteEditor::windowFollowsPaletteAndProject()
