@@ -96,7 +96,6 @@ private slots:
     void actionsRecordTheirTexts();
     void zoomStaysInItsRange();
     void pickTakesInkAndPaper();
-    void remapActsOnBanksOnly();
     void selectionStaysOnItsPixels();
     void menuErasesAndFills();
     void survivesItsEndUnderTheMenu();
@@ -267,15 +266,17 @@ void TestCanvas::actionsRecordTheirTexts_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<PixelEditCommand::Kind>("kind");
     QTest::addColumn<QPoint>("dot");
+    QTest::addColumn<QPoint>("moved");
     const auto scroll = PixelEditCommand::Scroll;
     const auto none = PixelEditCommand::None;
-    QTest::addRow("up") << MoveUp << "Scroll" << scroll << QPoint(2, 0);
-    QTest::addRow("down") << MoveDown << "Scroll" << scroll << QPoint(2, 2);
-    QTest::addRow("left") << MoveLeft << "Scroll" << scroll << QPoint(1, 1);
-    QTest::addRow("right") << MoveRight << "Scroll" << scroll << QPoint(3, 1);
-    QTest::addRow("rotate") << RotateCW << "Rotate" << none << QPoint(14, 2);
-    QTest::addRow("flip") << Flip << "Flip" << none << QPoint(2, 10);
-    QTest::addRow("mirror") << Mirror << "Mirror" << none << QPoint(13, 1);
+    QTest::addRow("up") << MoveUp << "Scroll" << scroll << QPoint(2, 0) << QPoint(2, 11);
+    QTest::addRow("down") << MoveDown << "Scroll" << scroll << QPoint(2, 11) << QPoint(2, 0);
+    QTest::addRow("left") << MoveLeft << "Scroll" << scroll << QPoint(0, 3) << QPoint(15, 3);
+    QTest::addRow("right") << MoveRight << "Scroll" << scroll << QPoint(15, 3) << QPoint(0, 3);
+    QTest::addRow("clockwise") << RotateCW << "Rotate" << none << QPoint(2, 1) << QPoint(14, 2);
+    QTest::addRow("counter-clockwise") << RotateCCW << "Rotate" << none << QPoint(5, 4) << QPoint(4, 10);
+    QTest::addRow("flip") << Flip << "Flip" << none << QPoint(2, 1) << QPoint(2, 10);
+    QTest::addRow("mirror") << Mirror << "Mirror" << none << QPoint(2, 1) << QPoint(13, 1);
 }
 
 void TestCanvas::actionsRecordTheirTexts()
@@ -284,13 +285,14 @@ void TestCanvas::actionsRecordTheirTexts()
     QFETCH(QString, text);
     QFETCH(PixelEditCommand::Kind, kind);
     QFETCH(QPoint, dot);
+    QFETCH(QPoint, moved);
     Fixture f;
-    f.drag({{2, 1}});
+    f.drag({dot});
     f.canvas.setMode(action);
     QCOMPARE(f.edits.count(), 2);
     QCOMPARE(f.edits[1][0].toString(), text);
     QCOMPARE(f.edits[1][3].value<PixelEditCommand::Kind>(), kind);
-    QCOMPARE(f.at(dot.x(), dot.y()), 1);
+    QCOMPARE(f.at(moved.x(), moved.y()), 1);
     QCOMPARE(f.canvas.mode(), Draw);
 }
 
@@ -334,20 +336,6 @@ void TestCanvas::pickTakesInkAndPaper()
     f.canvas.swapInkAndPaper();
     QCOMPARE(f.canvas.ink(), 200);
     QCOMPARE(f.canvas.paper(), 4);
-}
-
-void TestCanvas::remapActsOnBanksOnly()
-{
-    Fixture f;
-    f.canvas.setInk(0x17);
-    f.drag({{3, 3}});
-    f.canvas.remap(3);
-    QCOMPARE(f.at(3, 3), 0x17);
-    f.canvas.setImageType(Offset16);
-    f.canvas.remap(3);
-    QCOMPARE(f.at(3, 3), 0x27);
-    QCOMPARE(f.canvas.ink(), 0x27);
-    QCOMPARE(f.edits.count(), 1);
 }
 
 void TestCanvas::selectionStaysOnItsPixels()

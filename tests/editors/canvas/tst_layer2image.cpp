@@ -75,7 +75,6 @@ private slots:
     void ellipsesMatchTheExamples();
     void ellipsesAreClosedSymmetricOutlines();
     void floodFillStaysInItsRegion();
-    void transformsMoveEveryPixel();
     void takesOtherFormatsAsIndices();
 };
 
@@ -175,24 +174,6 @@ void TestLayer2Image::floodFillStaysInItsRegion()
     layer.floodFill({-1, 0}, 3);
     layer.floodFill({Area.width(), 0}, 3);
     QVERIFY(pixelsWith(layer, 3).isEmpty());
-}
-
-void TestLayer2Image::transformsMoveEveryPixel()
-{
-    const auto dotAfter = [&](QPoint dot, auto operation) {
-        Layer2Image layer({8, 8});
-        layer.setPixel(dot, 5);
-        operation(layer);
-        return pixelsWith(layer, 5);
-    };
-    QCOMPARE(dotAfter({2, 0}, [](Layer2Image &l) { l.shiftUp(); }), (Pixels{{2, 7}}));
-    QCOMPARE(dotAfter({2, 7}, [](Layer2Image &l) { l.shiftDown(); }), (Pixels{{2, 0}}));
-    QCOMPARE(dotAfter({0, 3}, [](Layer2Image &l) { l.shiftLeft(); }), (Pixels{{7, 3}}));
-    QCOMPARE(dotAfter({7, 3}, [](Layer2Image &l) { l.shiftRight(); }), (Pixels{{0, 3}}));
-    QCOMPARE(dotAfter({1, 2}, [](Layer2Image &l) { l.rotate(90); }), (Pixels{{5, 1}}));
-    QCOMPARE(dotAfter({1, 2}, [](Layer2Image &l) { l.rotate(270); }), (Pixels{{2, 6}}));
-    QCOMPARE(dotAfter({1, 2}, [](Layer2Image &l) { l.flip(); }), (Pixels{{1, 5}}));
-    QCOMPARE(dotAfter({1, 2}, [](Layer2Image &l) { l.mirror(); }), (Pixels{{6, 2}}));
 }
 
 void TestLayer2Image::takesOtherFormatsAsIndices()

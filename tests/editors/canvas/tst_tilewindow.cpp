@@ -129,6 +129,10 @@ void TestTileWindow::offsetMovesThePixelsIntoItsBank()
 {
     Fixture f;
     f.draw({1, 1});
+    f.canvas().setImageType(Quenmora::Ui::Full256);
+    f.canvas().remap(3);
+    QCOMPARE(f.canvas().image().pixelIndex(1, 1), 1); // only images of 16 colours have banks
+    f.canvas().setImageType(Quenmora::Ui::Offset16);
     f.offset()->setValue(3);
     QCOMPARE(f.tiles.tileOffset(0), 2);
     QCOMPARE(f.at(0, 1, 1), 0x21);
