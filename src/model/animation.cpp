@@ -211,6 +211,14 @@ void Animation::indexInserted(int index)
     mapIndexes([index](int i) { return i >= index ? i + 1 : i; });
 }
 
+void Animation::indexMoved(int from, int to)
+{
+    const int step = from < to ? -1 : 1;
+    const int first = std::min(from, to);
+    const int last = std::max(from, to);
+    mapIndexes([=](int i) { return i == from ? to : i >= first && i <= last ? i + step : i; });
+}
+
 void Animation::swapIndexes(int first, int second)
 {
     mapIndexes([first, second](int i) { return i == first ? second : i == second ? first : i; });

@@ -141,6 +141,8 @@ public:
     /// Indexes from the inserted one on grow by one.
     void indexInserted(int index);
     void swapIndexes(int first, int second);
+    /// The index from becomes to; those between close up.
+    void indexMoved(int from, int to);
 
 signals:
     void nameChanged(const QString &name);

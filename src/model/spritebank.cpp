@@ -195,6 +195,8 @@ void SpriteBank::moveSprite(int from, int to)
     }
     setImage(to, moved);
     emit spriteSwapped(to, from);
+    for (const auto &animation : animations())
+        animation->indexMoved(from, to);
     emit spriteMoved(from, to);
 }
 

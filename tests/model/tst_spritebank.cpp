@@ -284,6 +284,13 @@ void TestSpriteBank::keepsAnimations()
     first->frame(0)->setIndex(0, 0, 2);
     bank.deleteSprite(1);
     QCOMPARE(first->frame(0)->cell(0, 0).index, 1);
+    bank.addSprite(false);
+    bank.moveSprite(0, 2); // 0 1 2 become 2 0 1
+    QCOMPARE(first->frame(0)->cell(0, 0).index, 0);
+    bank.moveSprite(2, 0);
+    QCOMPARE(first->frame(0)->cell(0, 0).index, 1);
+    bank.moveSprite(1, 2);
+    QCOMPARE(first->frame(0)->cell(0, 0).index, 2);
     bank.deleteAnimation(id);
     bank.deleteAnimation(id);
     QVERIFY(!first);
