@@ -154,6 +154,7 @@ inline void fill(Project &project)
     const auto bank = addSpriteBanks(project, palette);
     addMaps(project, tiles, *blocks, *bank);
     addImages(project, palette);
+    project.palette(palette)->setRawColour(8, 0xE000); // which all pictures follow
 }
 
 } // namespace SampleProject

@@ -69,6 +69,7 @@ void TestUpdateController::feedIsInterpreted()
     QFETCH(QByteArray, body);
     QFETCH(bool, newer);
     m_controller->skipVersion("0.7.1.0");
+    QCOMPARE(m_saved.size(), 1);
     QCOMPARE(m_saved.takeFirst().value("skippedVersion").toString(), "0.7.1.0");
     m_server->setBody(body);
     QSignalSpy available(m_controller.get(), &UpdateController::updateAvailable);
