@@ -4,6 +4,7 @@
 #include "app/menus/viewmenu.h"
 #include "editors/canvas/imageeditorview.h"
 #include "model/map.h"
+#include "model/mapobjects.h"
 #include "model/spritebank.h"
 #include "model/tileset.h"
 #include "support/archivetools.h"
@@ -11,12 +12,14 @@
 #include "support/testmain.h"
 #include "ui/messagedialog.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
 #include <QDropEvent>
 #include <QJsonDocument>
 #include <QMimeData>
 #include <QStatusBar>
+#include <QTabBar>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -43,6 +46,8 @@ private slots:
     void opensADroppedProject();
     void stepsThroughTiles();
     void swapsPalettes();
+    void isReachedByTheKeyboard();
+    void namesItsIconButtons();
 
 private:
     [[nodiscard]] ProjectController *controller() { return m_window->projectController(); }
@@ -295,6 +300,40 @@ void TestMainWindow::swapsPalettes()
     m_window->changeSpritePalette(palette->id());
     QCOMPARE(tiles->palette(), palette);
     QCOMPARE(bank->palette(), palette);
+}
+
+void TestMainWindow::isReachedByTheKeyboard()
+{
+    m_window->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&*m_window));
+    const DocumentViews &views = m_window->views();
+    controller()->openProject(sampleFile());
+    m_window->documentController()->setActiveMap(controller()->project()->maps().first()->id());
+    views.tabs->currentWidget()->setFocus();
+    // in the order of the View menu, without the docks that are behind others
+    for (const QWidget *pane : std::initializer_list<QWidget *>{views.project, views.tileEditor, views.tilePicker,
+                                                                views.mapObjects, views.tabs, views.project}) {
+        QTest::keyClick(&*m_window, Qt::Key_F6);
+        QVERIFY2(pane->isAncestorOf(QApplication::focusWidget()), qPrintable(pane->objectName()));
+    }
+    QTest::keyClick(&*m_window, Qt::Key_F6, Qt::ShiftModifier);
+    QVERIFY(views.tabs->isAncestorOf(QApplication::focusWidget()));
+}
+
+void TestMainWindow::namesItsIconButtons()
+{
+    controller()->openProject(sampleFile());
+    const Project *project = controller()->project();
+    m_window->documentController()->setActiveBlockEditor(project->blockSets().first()->id());
+    m_window->documentController()->setActiveSpriteEditor(project->spriteBanks().first()->id());
+    m_window->documentController()->setActiveMap(project->maps().first()->id());
+    const auto buttons = m_window->findChildren<QAbstractButton *>();
+    QVERIFY(buttons.size() > 100);
+    for (const QAbstractButton *button : buttons) {
+        const bool ofQt = qobject_cast<QTabBar *>(button->parentWidget()) || button->objectName().startsWith("qt_");
+        const QString where = button->parentWidget()->metaObject()->className();
+        QVERIFY2(ofQt || !button->text().isEmpty() || !button->accessibleName().isEmpty(), qPrintable(where));
+    }
 }
 
 QUENMORA_TEST_MAIN(TestMainWindow)

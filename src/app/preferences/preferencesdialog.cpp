@@ -36,10 +36,10 @@ PreferencesDialog::PreferencesDialog(QWidget *parent)
     pages->addWidget(m_pageStack, 1);
     auto *layout = new QVBoxLayout(this);
     layout->addLayout(pages);
-    layout->addWidget(buttons);
-
+    // before the buttons, as the keyboard is to reach them
     addPage(QStringLiteral("general"), m_generalPage);
     addPage(QStringLiteral("mapEditor"), m_mapEditorPage);
+    layout->addWidget(buttons);
     resize(560, 360);
 }
 
