@@ -201,7 +201,7 @@ bool DocumentController::showTab(const QUuid &id)
 
 void DocumentController::closeWith(QObject *asset, QWidget *page)
 {
-    connect(asset, &QObject::destroyed, page, [this, page] { m_views.tabs->closeTab(m_views.tabs->indexOf(page)); });
+    connect(asset, &QObject::destroyed, page, [tabs = m_views.tabs, page] { tabs->closeTab(tabs->indexOf(page)); });
 }
 
 void DocumentController::showPalette(const QPointer<Palette> &palette)

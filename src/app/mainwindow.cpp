@@ -70,7 +70,11 @@ MainWindow::MainWindow(QWidget *parent)
     m_menuBar.setProject(nullptr);
 }
 
-MainWindow::~MainWindow() = default;
+MainWindow::~MainWindow()
+{
+    // while everything is there that shows the project and follows its end
+    m_projectController.close();
+}
 
 DocumentViews MainWindow::makeViews()
 {
