@@ -36,6 +36,7 @@ QString draggedProject(const QMimeData *data)
 MainWindow::MainWindow(QWidget *parent)
     : QMainWindow(parent)
     , m_projectController(this, m_menuBar.fileMenu())
+    , m_preferences(this)
     , m_updateController(m_preferences.generalPage(), [this] { savePreferences(); },
                          {appVersion(), appReleaseDate(), appChannel()})
     , m_updatePresenter(&m_updateController, this)
