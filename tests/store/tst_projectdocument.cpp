@@ -387,9 +387,7 @@ void TestProjectDocument::tellsWhatCouldNotBeReadAgain()
     const ProjectMembers members = serializeProject(project, true);
     QCOMPARE(unreadableMember(members), "");
     QVERIFY2(rewritten(members) == members, "a tile set without tiles has no picture");
-
-    project.createTileSet("Too many for a PNG", {}, 125'001);
-    QVERIFY(unreadableMember(serializeProject(project, true)).startsWith("tileset/"));
+    QCOMPARE(unreadableMember({{"tileset/1.png", {}}}), "tileset/1.png");
     QCOMPARE(unreadableMember({{"project.json", QByteArray(9 << 20, ',')}}), "project.json");
 }
 
