@@ -46,6 +46,8 @@ MapEditorPage::MapEditorPage(QWidget *parent)
     setWindowTitle(tr("Map Editor"));
     setWindowIcon(QIcon(QStringLiteral(":/tb-new-file")));
 
+    m_gridColour1->setAccessibleName(tr("Grid colour"));
+    m_gridColour2->setAccessibleName(tr("Alternate colour"));
     m_checkerBoard->setChecked(true);
     m_overlayGrid->setChecked(true);
     for (ColourButton *button : {m_gridColour1, m_gridColour2})
