@@ -19,6 +19,7 @@ SpriteBank::SpriteBank(Quenmora::Sprite depth, QObject *parent)
     , m_image(SpriteSize, SpriteSize, QImage::Format_Indexed8)
 {
     m_image.fill(0);
+    applyColours();
 }
 
 void SpriteBank::setPalette(Palette *palette)
@@ -39,11 +40,15 @@ void SpriteBank::updateColour(int, QColor, bool)
     emit coloursChanged();
 }
 
-/// Gives the strip the palette's colours; it stays shared with snapshots when they are the same.
+/// Gives the strip the palette's colours, or black for those that it lacks without one: painting a picture
+/// with an index that has no colour reads past its table. It stays shared with snapshots when nothing changes.
 void SpriteBank::applyColours()
 {
-    if (m_palette && m_image.colorTable() != m_palette->colourTable())
-        m_image.setColorTable(m_palette->colourTable());
+    QList<QRgb> colours = m_palette ? m_palette->colourTable() : m_image.colorTable();
+    if (const qsizetype missing = Palette::Size - colours.size(); missing > 0)
+        colours.append(QList<QRgb>(missing, qRgb(0, 0, 0)));
+    if (m_image.colorTable() != colours)
+        m_image.setColorTable(colours);
 }
 
 // Pixels
