@@ -52,6 +52,7 @@ void Image::setImage(const QImage &image)
 {
     m_image = indexed(image, m_palette);
     applyColourTable();
+    emit imageChanged();
 }
 
 QPointer<Palette> Image::palette() const

@@ -12,7 +12,7 @@ class Palette;
 
 /// A full-screen picture of the Next's Layer 2 or LoRes modes, held as 8-bit palette indices.
 ///
-/// It announces nothing: the image editor, the only one who paints it, knows when it changes.
+/// The image editor paints it; undo may change it when another editor shows it than the one that painted.
 class Image : public QObject
 {
     Q_OBJECT
@@ -45,6 +45,10 @@ public:
     void setPalette(const QPointer<Palette> &palette);
     /// The id of the bound palette, or a null id.
     [[nodiscard]] QUuid paletteId() const;
+
+signals:
+    /// The picture was replaced.
+    void imageChanged();
 
 private:
     void applyColourTable();

@@ -83,8 +83,13 @@ void View::setImage(const QPointer<Image> &image)
     if (m_image)
         m_image->disconnect(this);
     m_image = image;
-    if (m_image)
+    if (m_image) {
         connect(m_image, &QObject::destroyed, this, [this] { setImage(nullptr); });
+        connect(m_image, &Image::imageChanged, this, [this] {
+            if (!m_writing) // undo of an edit that was made in an editor which was closed since
+                load(m_image->image());
+        });
+    }
     m_canvas->setEnabled(image);
     m_colours->setRange(0, colourCount());
     setPalette(image ? image->palette() : nullptr);
@@ -132,8 +137,10 @@ void View::writeBack()
 {
     if (m_loading)
         return;
-    if (m_image)
+    if (m_image) {
+        const QScopedValueRollback writing(m_writing, true);
         m_image->setImage(m_canvas->image());
+    }
     emit imageChanged(m_canvas->image());
 }
 

@@ -81,6 +81,7 @@ private:
     QFileDialog *m_exportFile = nullptr;
     ImportDialog *m_importDialog = nullptr;
     bool m_loading = false;
+    bool m_writing = false;
 };
 
 } // namespace ImageEditor

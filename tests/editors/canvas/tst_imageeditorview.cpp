@@ -68,6 +68,7 @@ private slots:
     void importMapsOntoThePalette();
     void importRefusesNonsense();
     void survivesItsImage();
+    void showsUndoOfAnEditMadeInAnotherView();
 };
 
 void TestImageEditorView::strokesReachTheImageAndUndo()
@@ -185,6 +186,30 @@ void TestImageEditorView::survivesItsImage()
     stack.undo();
     QVERIFY(view.canvas()->image().isNull());
     QTest::mouseRelease(view.canvas(), Qt::LeftButton, Qt::NoModifier, view.canvas()->rect().center());
+}
+
+void TestImageEditorView::showsUndoOfAnEditMadeInAnotherView()
+{
+    QUndoStack stack;
+    Palette palette;
+    Image image(Quenmora::Layer2_256x192);
+    image.setPalette(&palette);
+    {
+        View view;
+        view.setUndoStack(&stack);
+        view.setImage(&image);
+        view.canvas()->setInk(7);
+        view.resize(900, 700);
+        view.show();
+        EditorInput::clickPixel(*view.canvas(), {5, 5});
+    }
+    View view; // the tab was closed and opened again
+    view.setUndoStack(&stack);
+    view.setImage(&image);
+    QCOMPARE(view.canvas()->image().pixelIndex(5, 5), 7);
+    stack.undo();
+    QCOMPARE(view.canvas()->image().pixelIndex(5, 5), 0);
+    QCOMPARE(stack.count(), 1);
 }
 
 QUENMORA_TEST_MAIN(TestImageEditorView)
