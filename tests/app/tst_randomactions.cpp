@@ -18,6 +18,7 @@
 #include <QUndoGroup>
 #include <QUndoStack>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstring>
 #include <optional>
@@ -30,6 +31,17 @@ constexpr int DefaultSeconds = 30;
 #else
 constexpr int DefaultSeconds = 60;
 #endif
+
+/// The seconds that the environment asks for; 0 without.
+int secondsAsked()
+{
+    return std::max(0, qEnvironmentVariableIntValue("QUENMORA_SECONDS"));
+}
+
+qint64 millisecondsToAct()
+{
+    return 1000 * qint64(secondsAsked() > 0 ? secondsAsked() : DefaultSeconds);
+}
 
 QStringList s_warnings;
 QtMessageHandler s_previousHandler = nullptr;
@@ -104,6 +116,13 @@ class TestRandomActions : public QObject
 {
     Q_OBJECT
 
+public:
+    TestRandomActions()
+    {
+        constexpr qint64 Grace = 240'000; // Qt Test ends a function that takes longer than it expects
+        qputenv("QTEST_FUNCTION_TIMEOUT", QByteArray::number(millisecondsToAct() + Grace));
+    }
+
 private slots:
     void initTestCase();
     void holdsWhateverIsDone();
@@ -151,13 +170,12 @@ void TestRandomActions::cleanupTestCase()
 
 void TestRandomActions::holdsWhateverIsDone()
 {
-    const int chosen = qEnvironmentVariableIntValue("QUENMORA_SECONDS");
     bool given = false;
     quint32 seed = quint32(qEnvironmentVariable("QUENMORA_SEED").toUInt(&given));
     // A run among all tests does the same everywhere; one by hand looks for something new.
     if (!given)
-        seed = chosen > 0 ? QRandomGenerator::system()->generate() : UsualSeed;
-    const qint64 milliseconds = 1000 * qint64(chosen > 0 ? chosen : DefaultSeconds);
+        seed = secondsAsked() > 0 ? QRandomGenerator::system()->generate() : UsualSeed;
+    const qint64 milliseconds = millisecondsToAct();
     std::printf("Random actions with QUENMORA_SEED=%u\n", seed);
     std::fflush(stdout);
 
