@@ -173,6 +173,13 @@ void TestPaletteEditor::gradientKeepsEndsAndPriorities()
     editor.setSelection(8, 9);
     editor.createGradient();
     QCOMPARE(palette.rawColour(8), quint16(0));
+
+    // steps of 255 / 200 = 1, which end far from white
+    palette.setRawColour(200, 0xFF01);
+    editor.setSelection(0, 200);
+    editor.createGradient();
+    QCOMPARE(palette.rawColour(199) >> 13, 6);
+    QCOMPARE(palette.rawColour(200), quint16(0xFF01));
 }
 
 void TestPaletteEditor::selectorChoosesFromItsBank_data()
