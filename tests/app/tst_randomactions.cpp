@@ -26,11 +26,7 @@
 namespace {
 
 constexpr quint32 UsualSeed = 1;
-#if defined(__SANITIZE_ADDRESS__)
 constexpr int DefaultSeconds = 30;
-#else
-constexpr int DefaultSeconds = 60;
-#endif
 
 /// The seconds that the environment asks for; 0 without.
 int secondsAsked()
