@@ -88,6 +88,39 @@ void DocumentTabView::showTabMenu(const QPoint &pos)
     menu->popup(tabBar()->mapToGlobal(pos));
 }
 
+void DocumentTabView::setEmptyPage(QWidget *page)
+{
+    m_emptyPage = page;
+    page->setParent(this);
+    placeEmptyPage();
+}
+
+void DocumentTabView::placeEmptyPage()
+{
+    if (!m_emptyPage)
+        return;
+    m_emptyPage->setGeometry(rect());
+    m_emptyPage->setVisible(count() == 0);
+}
+
+void DocumentTabView::resizeEvent(QResizeEvent *event)
+{
+    QTabWidget::resizeEvent(event);
+    placeEmptyPage();
+}
+
+void DocumentTabView::tabInserted(int index)
+{
+    QTabWidget::tabInserted(index);
+    placeEmptyPage();
+}
+
+void DocumentTabView::tabRemoved(int index)
+{
+    QTabWidget::tabRemoved(index);
+    placeEmptyPage();
+}
+
 QUuid DocumentTabView::documentId(const QWidget *page)
 {
     return page ? page->property(IdProperty).toUuid() : QUuid();

@@ -45,6 +45,9 @@ public:
 
     explicit DocumentTabView(QWidget *parent = nullptr);
 
+    /// What is shown while there is no tab; the view takes it.
+    void setEmptyPage(QWidget *page);
+
     [[nodiscard]] ImageEditor::View *scratchEditor() const { return m_scratchEditor; }
 
     /// The tab of a document, −1 when none shows it.
@@ -84,12 +87,19 @@ signals:
     void showAnimPicker();
     void scratchEditorVisibleChanged(bool visible);
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+    void tabInserted(int index) override;
+    void tabRemoved(int index) override;
+
 private:
     void buildTabBar();
+    void placeEmptyPage();
     void showTabMenu(const QPoint &pos);
     void open(QWidget *page, DocumentType type, const QUuid &id, const QString &name);
 
     ImageEditor::View *m_scratchEditor;
+    QWidget *m_emptyPage = nullptr;
     /// A page that comes to the front because those after it are closed is not activated.
     bool m_closingAll = false;
 };

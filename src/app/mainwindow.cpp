@@ -7,6 +7,7 @@
 #include "app/menus/tilemenu.h"
 #include "app/menus/viewmenu.h"
 #include "app/preferences/generalpage.h"
+#include "app/startpage.h"
 #include "app/version.h"
 #include "editors/map/mapeditorview.h"
 #include "ui/messagedialog.h"
@@ -35,6 +36,7 @@ QString draggedProject(const QMimeData *data)
 
 MainWindow::MainWindow(QWidget *parent)
     : QMainWindow(parent)
+    , m_startPage(new StartPage(m_menuBar.fileMenu(), &m_tabs))
     , m_projectController(this, m_menuBar.fileMenu())
     , m_preferences(this)
     , m_updateController(m_preferences.generalPage(), [this] { savePreferences(); },
@@ -53,6 +55,7 @@ MainWindow::MainWindow(QWidget *parent)
     setWindowTitle(QCoreApplication::applicationName());
     resize(DefaultSize);
     setWindowIcon(QIcon(QStringLiteral(":Application")));
+    m_tabs.setEmptyPage(m_startPage);
     setCentralWidget(&m_tabs);
     m_layout.resetLayout();
     connectProjectController();
@@ -243,6 +246,7 @@ void MainWindow::onSaveFinished()
 void MainWindow::onProjectOpened(Project *project)
 {
     setWindowTitle(tr("%2 - %1").arg(project->name(), QCoreApplication::applicationName()));
+    m_startPage->setProjectOpen(true);
     m_projectDock.setEnabled(true);
     m_projectDock.setProject(project);
     m_projectDock.activate();
@@ -274,6 +278,7 @@ void MainWindow::onProjectClosing()
 void MainWindow::onProjectClosed()
 {
     m_tabs.setEnabled(true);
+    m_startPage->setProjectOpen(false);
     m_menuBar.setProject(nullptr);
     m_tilePicker.setTileSet(nullptr);
     m_mapObjects.setTileSet(nullptr);

@@ -25,6 +25,7 @@
 #include <QUuid>
 
 class MessageDialog;
+class StartPage;
 
 /// The program's one window: it owns all that lives as long as the program, and wires it together. It
 /// shows itself, in the place and size in which it was last closed.
@@ -97,6 +98,7 @@ private:
     MapEditor::ToolBar m_mapToolBar;
     DocumentTabView m_tabs;
     MenuBar m_menuBar;
+    StartPage *m_startPage;
     ProjectController m_projectController;
     AppState m_state;
     bool m_firstShow = true;

@@ -2,6 +2,7 @@
 
 #include "app/menus/filemenu.h"
 #include "app/menus/viewmenu.h"
+#include "app/startpage.h"
 #include "editors/canvas/imageeditorview.h"
 #include "model/map.h"
 #include "model/mapobjects.h"
@@ -22,7 +23,9 @@
 #include <QTabBar>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QToolButton>
 
+#include <algorithm>
 #include <optional>
 
 class TestMainWindow : public QObject
@@ -40,6 +43,7 @@ private slots:
     void survivesDamagedState();
     void keepsStateBetweenRuns();
     void staysOpenWhenToldTo();
+    void saysHowToGoOnWithoutDocuments();
     void followsTheLifeOfAProject();
     void tellsWhatFailed();
     void showsTheProjectWhenAMessageEnds();
@@ -181,6 +185,30 @@ void TestMainWindow::staysOpenWhenToldTo()
     answer = ProjectController::Discard;
     QVERIFY(m_window->close());
     QVERIFY(QFile::exists(statePath("state.json")));
+}
+
+void TestMainWindow::saysHowToGoOnWithoutDocuments()
+{
+    const QString file = sampleFile();
+    m_window->menus()->fileMenu()->addRecentFile(file);
+    const auto *page = m_window->findChild<StartPage *>();
+    const auto button = [page](const QString &text) {
+        const QList<QToolButton *> buttons = page->findChildren<QToolButton *>();
+        const auto found = std::find_if(buttons.begin(), buttons.end(), [&text](auto *b) { return b->text() == text; });
+        return found == buttons.end() ? nullptr : *found;
+    };
+    QVERIFY(page->isVisible());
+    QCOMPARE(page->size(), m_window->centralWidget()->size());
+    QVERIFY(button("New project")->isVisible());
+
+    button(QFileInfo(file).fileName())->click();
+    QVERIFY(controller()->project());
+    QVERIFY(!page->isVisible());
+    m_window->views().tabs->closeAllTabs();
+    QVERIFY(page->isVisible());
+    QVERIFY(!button("New project")->isVisible());
+    controller()->close();
+    QVERIFY(button("New project")->isVisible());
 }
 
 void TestMainWindow::followsTheLifeOfAProject()

@@ -91,17 +91,20 @@ void FileMenu::rebuildRecentMenu()
         m_recentMenu->removeAction(entry);
         entry->deleteLater();
     }
-    if (m_recentFiles.paths().isEmpty()) {
-        m_recentMenu->addAction(tr("None"))->setEnabled(false);
-        return;
-    }
+    m_recentProjects.clear();
     for (const QString &path : m_recentFiles.paths()) {
         // an ampersand of the name is no mnemonic
         QAction *entry = m_recentMenu->addAction(QFileInfo(path).fileName().replace(u'&', QStringLiteral("&&")));
         entry->setProperty("filePath", path);
         entry->setToolTip(path);
         connect(entry, &QAction::triggered, this, [this, path] { emit openProject(path); });
+        m_recentProjects.append(entry);
     }
-    m_recentMenu->addSeparator();
-    connect(m_recentMenu->addAction(tr("&Clear")), &QAction::triggered, this, &FileMenu::clearRecentFiles);
+    if (m_recentProjects.isEmpty()) {
+        m_recentMenu->addAction(tr("None"))->setEnabled(false);
+    } else {
+        m_recentMenu->addSeparator();
+        connect(m_recentMenu->addAction(tr("&Clear")), &QAction::triggered, this, &FileMenu::clearRecentFiles);
+    }
+    emit recentFilesChanged();
 }

@@ -29,6 +29,12 @@ public:
     void addRecentFile(const QString &path);
     [[nodiscard]] QMenu *recentMenu() const { return m_recentMenu; }
 
+    // For whoever offers the same elsewhere.
+    [[nodiscard]] QAction *newAction() const { return m_new; }
+    [[nodiscard]] QAction *openAction() const { return m_open; }
+    /// One for each recent project, the latest first; they live until the list changes.
+    [[nodiscard]] QList<QAction *> recentProjectActions() const { return m_recentProjects; }
+
     /// The absolute path of the folder in which "Open" starts to look.
     [[nodiscard]] QString openFolder() const { return m_openFolder.absolutePath(); }
     /// Remembers a folder; an empty path is the current working folder.
@@ -47,6 +53,7 @@ signals:
     void closeProject();
     void displayPreferences();
     void quit();
+    void recentFilesChanged();
 
 protected:
     void updateActions() override;
@@ -57,6 +64,7 @@ private:
     RecentFiles m_recentFiles;
     QDir m_openFolder{QString()};
     QMenu *m_recentMenu;
+    QList<QAction *> m_recentProjects;
     QAction *m_new;
     QAction *m_open;
     QAction *m_save;
