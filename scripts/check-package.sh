@@ -45,6 +45,11 @@ echo "==> Installing the package"
 apt update
 apt install /tmp/quenmora.deb
 inside dpkg --verify quenmora
+documents=$system/usr/share/doc/quenmora
+[[ -s $documents/guide/index.html ]] || fail "No guide: was cmark-gfm missing when the package was made?"
+# shellcheck disable=SC2016 # dpkg's own variable
+version=$(inside dpkg-query --show --showformat '${Version}' quenmora)
+[[ $(zcat "$documents/changelog.gz") == "quenmora ($version) "* ]] || fail "The change log does not know $version"
 
 echo "==> Starting the program with nothing but what the package brought along"
 status=0
