@@ -3,8 +3,8 @@
 #include "model/mapobjects.h"
 #include "model/project.h"
 #include "model/tileset.h"
+#include "store/animationdocument.h"
 #include "store/documentreader.h"
-#include "store/framedocument.h"
 
 #include <QJsonArray>
 
@@ -14,36 +14,23 @@ constexpr QLatin1String Id("id");
 constexpr QLatin1String Name("name");
 constexpr QLatin1String BoundTileSet("tiles");
 constexpr QLatin1String Animations("animations");
-constexpr QLatin1String Width("width");
-constexpr QLatin1String Height("height");
-constexpr QLatin1String Delay("delay");
 constexpr QLatin1String Type("type");
-constexpr QLatin1String Frames("frames");
 constexpr QLatin1String FrameCells("tileData");
 
 QJsonObject writeAnimation(const TileAnimation &animation)
 {
-    return {
-        {Id, animation.id().toString()},
-        {Name, animation.name()},
-        {Width, animation.size().width()},
-        {Height, animation.size().height()},
-        {Delay, animation.delay()},
-        {Type, int(animation.type())},
-        {Frames, FrameDocument::write(animation, FrameCells)},
-    };
+    QJsonObject object = AnimationDocument::write(animation, FrameCells);
+    object.insert(Type, int(animation.type()));
+    return object;
 }
 
 void readAnimation(DocumentReader &reader, MapObjects &blocks, const QJsonObject &object)
 {
     const QPointer<TileAnimation> animation =
         blocks.createTileAnimation(DocumentValue::id(object, Id), object.value(Name).toString());
-    const QJsonArray frames = object.value(Frames).toArray();
-    animation->setSize(FrameDocument::readSize(reader, object, frames, FrameCells, 0));
-    animation->setDelay(DocumentValue::delay(object, Delay));
     animation->setMapObjectType(
         DocumentValue::enumerator(object, Type, MapObjectType::HorizontalPlatform, MapObjectType::Normal));
-    FrameDocument::read(*animation, frames, FrameCells, FrameDocument::FrameIds::Restored);
+    AnimationDocument::read(reader, *animation, object, FrameCells, 0, AnimationDocument::FrameIds::Restored);
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "store/pngmember.h"
 
+#include "store/deflate.h"
+
 #include <QBuffer>
 #include <QImageReader>
 
@@ -10,9 +12,6 @@ constexpr int ColourTableSize = 256;
 /// The resolution that is stored, in dots per metre (96 dots per inch). A fixed one, because the
 /// default follows the screen, and content that has not changed is to give the same bytes on every screen.
 constexpr int DotsPerMetre = 3780;
-
-/// Deflate cannot pack tighter than this many bytes into one.
-constexpr qint64 MaxDeflateRatio = 1032;
 
 /// Whether a PNG of so many bytes can hold that many pixels: no pixel takes less than a bit.
 bool canHold(qint64 bytes, QSize pixels)

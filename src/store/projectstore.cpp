@@ -132,33 +132,29 @@ bool ProjectStore::failToSave(const QString &message)
 
 void ProjectStore::exportMap(const QString &dir, const QUuid &id)
 {
-    const QPointer<Map> map = m_project ? m_project->map(id) : nullptr;
-    if (!map)
-        emit saveError(tr("Invalid map id"));
-    else if (map->exportToDirectory(dir))
-        emit showMessage(tr("Map exported"), ExportMessageTime);
-    else
-        emit saveError(tr("Exporting the map failed"));
+    exportAsset(m_project ? m_project->map(id) : nullptr, dir,
+                {tr("Invalid map id"), tr("Map exported"), tr("Exporting the map failed")});
 }
 
 void ProjectStore::exportTiles(const QString &dir, const QUuid &id)
 {
-    const QPointer<TileSet> tileSet = m_project ? m_project->tileSet(id) : nullptr;
-    if (!tileSet)
-        emit saveError(tr("Invalid tile set id"));
-    else if (tileSet->exportToDirectory(dir))
-        emit showMessage(tr("Tile set exported"), ExportMessageTime);
-    else
-        emit saveError(tr("Exporting the tile set failed"));
+    exportAsset(m_project ? m_project->tileSet(id) : nullptr, dir,
+                {tr("Invalid tile set id"), tr("Tile set exported"), tr("Exporting the tile set failed")});
 }
 
 void ProjectStore::exportPalette(const QString &dir, const QUuid &id)
 {
-    const QPointer<Palette> palette = m_project ? m_project->palette(id) : nullptr;
-    if (!palette)
-        emit saveError(tr("Invalid palette id"));
-    else if (palette->exportToDirectory(dir))
-        emit showMessage(tr("Palette exported"), ExportMessageTime);
+    exportAsset(m_project ? m_project->palette(id) : nullptr, dir,
+                {tr("Invalid palette id"), tr("Palette exported"), tr("Exporting the palette failed")});
+}
+
+template <typename Asset>
+void ProjectStore::exportAsset(const QPointer<Asset> &asset, const QString &dir, const ExportMessages &messages)
+{
+    if (!asset)
+        emit saveError(messages.unknown);
+    else if (asset->exportToDirectory(dir))
+        emit showMessage(messages.exported, ExportMessageTime);
     else
-        emit saveError(tr("Exporting the palette failed"));
+        emit saveError(messages.failed);
 }

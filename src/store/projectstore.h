@@ -63,6 +63,16 @@ public slots:
     void exportPalette(const QString &dir, const QUuid &id);
 
 private:
+    /// How an export went, for the user.
+    struct ExportMessages
+    {
+        QString unknown; ///< there is no such asset
+        QString exported;
+        QString failed;
+    };
+
+    template <typename Asset>
+    void exportAsset(const QPointer<Asset> &asset, const QString &dir, const ExportMessages &messages);
     /// Keeps the file under the name of its backup, unless it is what a failed save left behind, which must
     /// not push out the last whole version.
     void backUp() const;

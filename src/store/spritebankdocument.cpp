@@ -4,8 +4,8 @@
 #include "model/project.h"
 #include "model/spriteanim.h"
 #include "model/spritebank.h"
+#include "store/animationdocument.h"
 #include "store/documentreader.h"
-#include "store/framedocument.h"
 #include "store/pngmember.h"
 
 #include <QCoreApplication>
@@ -20,10 +20,6 @@ constexpr QLatin1String Transparency("transparency");
 constexpr QLatin1String Depth("depth");
 constexpr QLatin1String Offsets("offsets");
 constexpr QLatin1String Animations("animations");
-constexpr QLatin1String Width("width");
-constexpr QLatin1String Height("height");
-constexpr QLatin1String Delay("delay");
-constexpr QLatin1String Frames("frames");
 constexpr QLatin1String FrameCells("anim");
 
 QString pixelsMember(const QUuid &id)
@@ -48,24 +44,12 @@ QByteArray readOffsets(const QJsonArray &array)
     return offsets;
 }
 
-QJsonObject writeAnimation(const SpriteAnim &animation)
-{
-    return {
-        {Id, animation.id().toString()},   {Name, animation.name()},
-        {Width, animation.size().width()}, {Height, animation.size().height()},
-        {Delay, animation.delay()},        {Frames, FrameDocument::write(animation, FrameCells)},
-    };
-}
-
 void readAnimation(DocumentReader &reader, SpriteBank &bank, const QJsonObject &object)
 {
     const QPointer<SpriteAnim> animation = bank.addAnimation(DocumentValue::id(object, Id));
-    const QJsonArray frames = object.value(Frames).toArray();
     animation->setName(object.value(Name).toString());
-    animation->setDelay(DocumentValue::delay(object, Delay));
-    animation->setSize(FrameDocument::readSize(reader, object, frames, FrameCells, 1));
     animation->clearFrames(); // a new one has a frame
-    FrameDocument::read(*animation, frames, FrameCells, FrameDocument::FrameIds::New);
+    AnimationDocument::read(reader, *animation, object, FrameCells, 1, AnimationDocument::FrameIds::New);
 }
 
 } // namespace
@@ -74,7 +58,7 @@ QJsonObject writeSpriteBank(const SpriteBank &bank, ProjectMembers &members)
 {
     QJsonArray animations;
     for (const QPointer<SpriteAnim> &animation : bank.animations())
-        animations.append(writeAnimation(*animation));
+        animations.append(AnimationDocument::write(*animation, FrameCells));
     members.insert(pixelsMember(bank.id()), PngMember::encode(bank.image()));
     return {
         {Id, bank.id().toString()},

@@ -1,5 +1,7 @@
 #include "store/zipfile.h"
 
+#include "store/deflate.h"
+
 #include <QDateTime>
 #include <QFileInfo>
 #include <QHash>
@@ -17,8 +19,7 @@ constexpr int MaxNameLength = 65535; // the length field has 16 bits
 /// minizip takes and counts bytes in 32-bit integers: larger buffers go through in slices.
 constexpr qint64 SliceSize = qint64(1) << 30;
 
-/// Deflate cannot pack tighter than this many bytes into one; the slack covers the empty block.
-constexpr qint64 MaxDeflateRatio = 1032;
+/// Bytes that a packed member takes besides its content; an empty one takes two.
 constexpr qint64 DeflateSlack = 64;
 
 /// From this size on, the sizes of a member may not fit the 32-bit fields of a plain local header;

@@ -1,8 +1,9 @@
-#include "store/framedocument.h"
+#include "store/animationdocument.h"
 
 #include "model/animation.h"
 #include "store/documentreader.h"
 
+#include <QJsonArray>
 #include <QSignalBlocker>
 
 #include <algorithm>
@@ -10,8 +11,11 @@
 namespace {
 
 constexpr QLatin1String Id("id");
+constexpr QLatin1String Name("name");
 constexpr QLatin1String Width("width");
 constexpr QLatin1String Height("height");
+constexpr QLatin1String Delay("delay");
+constexpr QLatin1String Frames("frames");
 constexpr QLatin1String Index("index");
 constexpr QLatin1String Offset("offset");
 constexpr QLatin1String Flip("flip");
@@ -53,9 +57,7 @@ AnimationFrame::Cells readCells(const QJsonArray &array, QSize size)
     return cells;
 }
 
-} // namespace
-
-QJsonArray FrameDocument::write(const Animation &animation, QLatin1String cellsKey)
+QJsonArray writeFrames(const Animation &animation, QLatin1String cellsKey)
 {
     QJsonArray frames;
     for (int index = 0; index < animation.frameCount(); ++index) {
@@ -70,11 +72,11 @@ QJsonArray FrameDocument::write(const Animation &animation, QLatin1String cellsK
     return frames;
 }
 
-QSize FrameDocument::readSize(DocumentReader &reader, const QJsonObject &object, const QJsonArray &frames,
-                              QLatin1String cellsKey, int fallback)
+QSize readSize(DocumentReader &reader, const QJsonObject &object, const QJsonArray &frames, QLatin1String cellsKey,
+               int fallbackSide)
 {
     const auto side = [&](QLatin1String key) {
-        return DocumentValue::integer(object, key, 0, Animation::MaximumSide, fallback);
+        return DocumentValue::integer(object, key, 0, Animation::MaximumSide, fallbackSide);
     };
     const QSize size(side(Width), side(Height));
     qsizetype implied = 0;
@@ -83,19 +85,33 @@ QSize FrameDocument::readSize(DocumentReader &reader, const QJsonObject &object,
         implied += std::max<qsizetype>(0, qsizetype(size.width()) * size.height() - written);
     }
     if (implied > reader.impliedCells)
-        return {fallback, fallback};
+        return {fallbackSide, fallbackSide};
     reader.impliedCells -= implied;
     return size;
 }
 
-void FrameDocument::read(Animation &animation, const QJsonArray &frames, QLatin1String cellsKey, FrameIds ids)
+} // namespace
+
+QJsonObject AnimationDocument::write(const Animation &animation, QLatin1String cellsKey)
 {
+    return {
+        {Id, animation.id().toString()},     {Name, animation.name()},   {Width, animation.size().width()},
+        {Height, animation.size().height()}, {Delay, animation.delay()}, {Frames, writeFrames(animation, cellsKey)},
+    };
+}
+
+void AnimationDocument::read(DocumentReader &reader, Animation &animation, const QJsonObject &object,
+                             QLatin1String cellsKey, int fallbackSide, FrameIds ids)
+{
+    const QJsonArray frames = object.value(Frames).toArray();
+    animation.setSize(readSize(reader, object, frames, cellsKey, fallbackSide));
+    animation.setDelay(DocumentValue::delay(object, Delay));
     for (const QJsonValue &value : frames) {
-        const QJsonObject object = value.toObject();
+        const QJsonObject stored = value.toObject();
         AnimationFrame *frame = animation.addFrame();
         const QSignalBlocker unseen(frame); // its animation would look for it among all frames, each time
         if (ids == FrameIds::Restored)
-            frame->setId(DocumentValue::id(object, Id));
-        frame->setCells(readCells(object.value(cellsKey).toArray(), animation.size()));
+            frame->setId(DocumentValue::id(stored, Id));
+        frame->setCells(readCells(stored.value(cellsKey).toArray(), animation.size()));
     }
 }
