@@ -3,11 +3,11 @@
 #include "undo/mapeditcommand.h"
 
 #include <QRandomGenerator>
-#include <QSignalSpy>
 #include <QTest>
 #include <QUndoStack>
 
-#include <memory>
+#include <functional>
+#include <optional>
 
 namespace {
 
@@ -21,35 +21,43 @@ void editAnyhow(Map &map, QRandomGenerator &random)
 {
     const QPoint at(random.bounded(-2, 25), random.bounded(-2, 15));
     const auto position = random.bounded(2) ? Quenmora::Begin : Quenmora::End;
-    switch (random.bounded(12)) {
-    case 0:
-        return map.resize({random.bounded(30), random.bounded(20)}, Qt::AlignRight | Qt::AlignBottom);
-    case 1:
-        return map.insertColumn(position);
-    case 2:
-        return map.removeRow(position);
-    case 3:
-        return map.animatedBlocks()->add(QRect(at, QSize(2, 3)), QUuid::createUuid());
-    case 4:
-        if (!map.animatedBlocks()->list().isEmpty())
-            map.removeAnimationAt(map.animatedBlocks()->list().first()->area());
-        return;
-    case 5:
-        map.addSprite({.bank = {}, .animation = {}, .sprite = random.bounded(9), .x = at.x(), .name = "new"});
-        return;
-    case 6:
-        map.removeSprite(0);
-        return;
-    case 7: // whole rows, which the command shares
-        return map.setTiles(QRect(0, at.y(), map.size().width(), 2), random.bounded(4), false, true, false, true);
-    case 8:
-        map.objectLayer()->setCell(at, cell(random.bounded(4)));
-        return;
-    default:
-        for (int x = 0; x < 20; x += 1 + random.bounded(4))
-            map.setTile(QPoint(x, at.y()), cell(random.bounded(3)));
-    }
+    const int index = random.bounded(4);
+    const std::function<void()> edits[] = {
+        [&] {
+            map.resize({random.bounded(30), random.bounded(20)}, Qt::AlignRight | Qt::AlignBottom);
+        },
+        [&] { map.insertColumn(position); },
+        [&] { map.removeRow(position); },
+        [&] { map.animatedBlocks()->add(QRect(at, QSize(2, 3)), QUuid::createUuid()); },
+        [&] { map.removeAnimationAt(map.animatedBlocks()->areaAt(at)); },
+        [&] { map.addSprite({.bank = {}, .animation = {}, .sprite = index, .x = at.x(), .name = "new"}); },
+        [&] { map.removeSprite(0); },
+        [&] { map.setTiles(QRect(0, at.y(), map.size().width(), 2), index, false, true, false, true); }, // whole rows
+        [&] { map.setTiles(QRect(at, QSize(3, 3)), index, false, true, false, true); },
+        [&] { map.setTile(at, cell(index)); },
+        [&] { map.objectLayer()->setCell(at, cell(index)); },
+    };
+    edits[random.bounded(int(std::size(edits)))]();
 }
+
+/// A map and the undo stack of its edits.
+struct Editor
+{
+    Editor() { map->setLayers(&tiles, &objects); }
+
+    template <typename Edit>
+    void edit(Edit change)
+    {
+        const Map::Snapshot before = map->snapshot();
+        change();
+        stack.push(new MapEditCommand("Edit", &*map, before, map->snapshot()));
+    }
+
+    TileMap tiles{20, 10};
+    TileMap objects{20, 10};
+    std::optional<Map> map{std::in_place, "Level"};
+    QUndoStack stack;
+};
 
 } // namespace
 
@@ -58,85 +66,47 @@ class TestMapEditCommand : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
     void undoAndRedoGoBackToEveryState();
     void undoLeavesOtherChangesAlone();
-    void mapThatShrankKeepsItsSize();
-    void deletedMapIsSafe();
-
-private:
-    template <typename Edit>
-    void edit(Edit change)
-    {
-        const Map::Snapshot before = m_map->snapshot();
-        change(*m_map);
-        m_stack->push(new MapEditCommand("Edit", m_map.get(), before, m_map->snapshot()));
-    }
-
-    std::unique_ptr<TileMap> m_tiles;
-    std::unique_ptr<TileMap> m_objects;
-    std::unique_ptr<Map> m_map;
-    std::unique_ptr<QUndoStack> m_stack;
 };
-
-void TestMapEditCommand::init()
-{
-    m_stack = std::make_unique<QUndoStack>();
-    m_map = std::make_unique<Map>("Level");
-    m_tiles = std::make_unique<TileMap>(20, 10);
-    m_objects = std::make_unique<TileMap>(20, 10);
-    m_map->setLayers(m_tiles.get(), m_objects.get());
-}
 
 void TestMapEditCommand::undoAndRedoGoBackToEveryState()
 {
     const quint32 seed = QRandomGenerator::global()->generate();
     qInfo("seed %u", seed);
     QRandomGenerator random(seed);
-    QSignalSpy restored(m_map.get(), &Map::restored);
-    QList<Map::Snapshot> states{m_map->snapshot()};
+    Editor editor;
+    QList<Map::Snapshot> states{editor.map->snapshot()};
     for (int step = 0; step < 200; ++step) {
-        edit([&random](Map &map) { editAnyhow(map, random); });
-        states.append(m_map->snapshot());
+        editor.edit([&] { editAnyhow(*editor.map, random); });
+        states.append(editor.map->snapshot());
     }
-    QCOMPARE(restored.count(), 0);
     for (int walk = 0; walk < 100; ++walk) {
-        m_stack->setIndex(random.bounded(m_stack->count() + 1));
-        QVERIFY(m_map->snapshot() == states.at(m_stack->index()));
+        editor.stack.setIndex(random.bounded(editor.stack.count() + 1));
+        QVERIFY(editor.map->snapshot() == states.at(editor.stack.index()));
     }
 }
 
 void TestMapEditCommand::undoLeavesOtherChangesAlone()
 {
-    edit([](Map &map) { map.setTile({5, 5}, cell(9)); });
-    m_map->setTile({6, 5}, cell(8));
-    m_map->addSprite({});
-    m_stack->undo();
-    QCOMPARE(m_tiles->cellAt({5, 5}), TileMap::TileData());
-    QCOMPARE(m_tiles->cellAt({6, 5}), cell(8));
-    QCOMPARE(m_map->sprites().size(), 1);
-}
-
-void TestMapEditCommand::mapThatShrankKeepsItsSize()
-{
-    edit([](Map &map) { map.setTiles(QRect(3, 3, 10, 5), 4, false, false, false, true); });
-    for (const int width : {10, 5}) { // as wide as the changed cells, and narrower
-        m_map->resize({width, 4});
-        m_stack->undo();
-        QCOMPARE(m_map->size(), QSize(width, 4));
-        QVERIFY(!m_tiles->cellAt({4, 3}).used);
-        m_stack->redo();
-        QVERIFY(m_tiles->cellAt({4, 3}).used && !m_tiles->cellAt({2, 3}).used);
+    Editor editor;
+    editor.edit([&] { editor.map->setTiles(QRect(3, 3, 10, 5), 4, false, false, false, true); });
+    editor.map->setTile({14, 3}, cell(8));
+    editor.map->addSprite({});
+    for (const int width : {15, 10, 5}) { // wider than the changed cells, as wide, and narrower
+        editor.map->resize({width, 4});
+        editor.stack.undo();
+        QCOMPARE(editor.map->size(), QSize(width, 4));
+        QCOMPARE(editor.tiles.cellAt({4, 3}), TileMap::TileData());
+        QCOMPARE(editor.tiles.cellAt({14, 3}), width == 15 ? cell(8) : TileMap::TileData());
+        QCOMPARE(editor.map->sprites().size(), 1);
+        editor.stack.redo();
+        QVERIFY(editor.tiles.cellAt({4, 3}).used && !editor.tiles.cellAt({2, 3}).used);
     }
-}
-
-void TestMapEditCommand::deletedMapIsSafe()
-{
-    edit([](Map &map) { map.setTile({5, 5}, cell(9)); });
-    m_map.reset();
-    m_stack->undo();
-    m_stack->redo();
-    QCOMPARE(m_stack->index(), 1);
+    editor.map.reset(); // a dead map is safe
+    editor.stack.undo();
+    editor.stack.redo();
+    QCOMPARE(editor.stack.index(), 1);
 }
 
 QUENMORA_TEST_MAIN(TestMapEditCommand)
