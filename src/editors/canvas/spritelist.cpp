@@ -1,16 +1,13 @@
 #include "editors/canvas/spritelist.h"
 
 #include "editors/canvas/canvasclipboard.h"
-#include "editors/canvas/cellmarks.h"
 #include "editors/canvas/dragdata.h"
-#include "ui/gridkeys.h"
 #include "ui/svgiconengine.h"
 
-#include <QApplication>
 #include <QClipboard>
-#include <QDrag>
+#include <QGuiApplication>
 #include <QMenu>
-#include <QMouseEvent>
+#include <QPaintEvent>
 #include <QPainter>
 
 #include <algorithm>
@@ -35,26 +32,19 @@ QImage clipboardImage()
 
 namespace SpriteEditor {
 
-SpriteList::SpriteList(QWidget *parent) : QWidget(parent), m_menu(new QMenu(tr("Sprite"), this))
+SpriteList::SpriteList(QWidget *parent) : CellGrid(SpriteDrag::mimeType(), tr("Sprite"), parent)
 {
-    setMouseTracking(true);
-    setAcceptDrops(true);
-    setFocusPolicy(Qt::StrongFocus);
     setAccessibleName(tr("Sprites"));
-    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
-    policy.setHeightForWidth(true);
-    setSizePolicy(policy);
-
     const auto addRequest = [this](const QString &text, void (SpriteList::*request)(int)) {
-        m_menu->addAction(text, this, [this, request] {
-            if (pressedSprite() >= 0)
-                emit(this->*request)(pressedSprite());
+        contextMenu()->addAction(text, this, [this, request] {
+            if (pressedIndex() >= 0)
+                emit(this->*request)(pressedIndex());
         });
     };
     addRequest(tr("Delete"), &SpriteList::deleteRequested);
     addRequest(tr("Clear"), &SpriteList::clearRequested);
-    m_menu->addAction(tr("Copy Image"), this, &SpriteList::copyImage);
-    m_menu->addAction(tr("Paste Image"), this, &SpriteList::pasteImage);
+    contextMenu()->addAction(tr("Copy Image"), this, &SpriteList::copyImage);
+    contextMenu()->addAction(tr("Paste Image"), this, &SpriteList::pasteImage);
 }
 
 void SpriteList::setSprites(const QPointer<SpriteBank> &sprites)
@@ -62,39 +52,28 @@ void SpriteList::setSprites(const QPointer<SpriteBank> &sprites)
     if (m_sprites)
         m_sprites->disconnect(this);
     m_sprites = sprites;
-    m_hovered = m_dropTarget = -1;
-    m_pressPoint = {-1, -1};
-    m_selected = sprites ? 0 : -1;
     if (m_sprites) {
-        connect(m_sprites, &SpriteBank::countChanged, this, &SpriteList::refresh);
+        connect(m_sprites, &SpriteBank::countChanged, this, &SpriteList::followCount);
         connect(m_sprites, &SpriteBank::imageChanged, this, qOverload<>(&QWidget::update));
         connect(m_sprites, &SpriteBank::coloursChanged, this, qOverload<>(&QWidget::update));
-        connect(m_sprites, &SpriteBank::restored, this, &SpriteList::refresh);
+        connect(m_sprites, &SpriteBank::restored, this, &SpriteList::followCount);
         connect(m_sprites, &QObject::destroyed, this, [this] { setSprites(nullptr); });
     }
+    reset(sprites ? 0 : -1);
+    followCount();
+}
+
+void SpriteList::followCount()
+{
     refresh();
-}
-
-void SpriteList::refresh()
-{
-    m_selected = std::min(m_selected, count() - 1);
-    m_hovered = -1;
     resize(width(), heightForWidth(width()));
-    updateGeometry();
-    update();
-}
-
-void SpriteList::setSelectedIndex(int index)
-{
-    m_selected = index < count() ? index : -1;
-    update();
 }
 
 // ---- Layout ---------------------------------------------------------------------------------
 
-int SpriteList::columns(int width) const
+int SpriteList::cell() const
 {
-    return std::max(1, width / Cell);
+    return Cell;
 }
 
 int SpriteList::margin() const
@@ -104,36 +83,12 @@ int SpriteList::margin() const
 
 int SpriteList::heightForWidth(int width) const
 {
-    return m_sprites && width >= 1 ? (count() / columns(width) + 1) * Cell : width;
+    return m_sprites && width >= 1 ? rowsHeight(width) : width;
 }
 
 QSize SpriteList::sizeHint() const
 {
-    const int width = std::max(this->width(), 4 * Cell);
-    return {width, heightForWidth(width)};
-}
-
-int SpriteList::indexAt(QPoint point) const
-{
-    if (!m_sprites || point.x() < margin() || point.y() < 0)
-        return -1;
-    const int column = (point.x() - margin()) / Cell;
-    if (column >= columns(width()))
-        return -1;
-    const int index = point.y() / Cell * columns(width()) + column;
-    return index <= count() ? index : -1;
-}
-
-QRect SpriteList::cellRect(int index) const
-{
-    const int across = columns(width());
-    return {margin() + index % across * Cell, index / across * Cell, Cell, Cell};
-}
-
-int SpriteList::spriteAt(QPoint point) const
-{
-    const int index = indexAt(point);
-    return index < count() ? index : -1;
+    return {width(), heightForWidth(width())};
 }
 
 // ---- Painting -------------------------------------------------------------------------------
@@ -146,17 +101,14 @@ void SpriteList::paintEvent(QPaintEvent *event)
         return;
     }
     painter.fillRect(event->rect(), palette().base());
-    const int across = columns(width());
-    const int first = event->rect().top() / Cell * across;
-    const int last = std::min((event->rect().bottom() / Cell + 1) * across, count() + 1);
+    const auto [first, last] = cellsIn(event->rect());
     QImage blank(SpriteSize, QImage::Format_Indexed8);
     blank.setColorTable(m_sprites->image().colorTable());
     blank.fill(0);
     for (int index = first; index < last; ++index) {
-        const QImage sprite = index < count() ? m_sprites->spriteImage(index, false, false, false) : blank;
-        painter.drawImage(cellRect(index), sprite);
+        painter.drawImage(cellRect(index), index < count() ? picture(index) : blank);
     }
-    if (last == count() + 1) {
+    if (last == cellCount()) {
         // The icon's colour is made for the window's background, not for that of a blank sprite.
         QColor ground = palette().color(QPalette::Base);
         ground.setAlpha(220);
@@ -170,106 +122,51 @@ void SpriteList::paintMarks(QPainter &painter) const
 {
     painter.setBrush(Qt::NoBrush);
     const auto frameOf = [this](int index) { return cellRect(index).adjusted(0, 0, -1, -1); };
-    if (underMouse() && m_hovered >= 0)
-        CellMarks::paintHovered(painter, frameOf(m_hovered));
-    if (m_selected >= 0)
-        CellMarks::paintDotted(painter, frameOf(m_selected), 1);
-    if (m_dropTarget >= 0 && m_dropTarget != m_selected)
-        CellMarks::paintDotted(painter, frameOf(m_dropTarget), 3);
+    if (hoveredIndex() >= 0)
+        paintHovered(painter, frameOf(hoveredIndex()));
+    if (selectedIndex() >= 0)
+        paintDotted(painter, frameOf(selectedIndex()), 1);
+    if (dropTarget() >= 0 && dropTarget() != selectedIndex())
+        paintDotted(painter, frameOf(dropTarget()), 3);
 }
 
-// ---- Mouse and keyboard ---------------------------------------------------------------------
+// ---- What the user asks for -----------------------------------------------------------------
+
+void SpriteList::clicked(int index)
+{
+    if (index >= 0 && index == count())
+        emit addSprite();
+    else if (index >= 0)
+        choose(index);
+}
 
 void SpriteList::choose(int index)
 {
-    m_selected = index;
-    update();
+    select(index);
     emit indexChanged(index);
 }
 
-void SpriteList::mousePressEvent(QMouseEvent *event)
+void SpriteList::openMenu(int index, QPoint globalPosition)
 {
-    m_buttons = event->buttons();
-    m_pressPoint = event->position().toPoint();
-}
-
-void SpriteList::mouseMoveEvent(QMouseEvent *event)
-{
-    const QPoint point = event->position().toPoint();
-    const bool dragged =
-        (m_buttons & Qt::LeftButton) && (point - m_pressPoint).manhattanLength() >= QApplication::startDragDistance();
-    if (dragged && pressedSprite() >= 0) {
-        startDrag();
-        return;
-    }
-    const int index = indexAt(point);
-    if (index == m_hovered)
-        return;
-    m_hovered = index;
-    update();
-}
-
-void SpriteList::mouseReleaseEvent(QMouseEvent *event)
-{
-    const int index = indexAt(event->position().toPoint());
-    const Qt::MouseButtons pressed = std::exchange(m_buttons, Qt::NoButton);
-    if (index < 0)
-        return;
-    if (pressed & Qt::LeftButton) {
-        if (index == count())
-            emit addSprite();
-        else
-            choose(index);
-    } else if ((pressed & Qt::RightButton) && index < count()) {
-        m_menu->popup(event->globalPosition().toPoint());
-    }
-}
-
-void SpriteList::leaveEvent(QEvent *event)
-{
-    m_hovered = -1;
-    update();
-    QWidget::leaveEvent(event);
-}
-
-void SpriteList::keyPressEvent(QKeyEvent *event)
-{
-    const int step = GridKeys::step(event->key(), columns(width()));
-    if (step == 0) {
-        QWidget::keyPressEvent(event);
-        return;
-    }
-    const int moved = std::max(m_selected, 0) + step;
-    if (moved >= 0 && moved < count())
-        choose(moved);
-}
-
-void SpriteList::contextMenuEvent(QContextMenuEvent *event)
-{
-    if (event->reason() != QContextMenuEvent::Keyboard || m_selected < 0) {
-        event->ignore();
-        return;
-    }
-    m_pressPoint = cellRect(m_selected).center();
-    m_menu->popup(mapToGlobal(m_pressPoint));
+    if (index >= 0 && index < count())
+        contextMenu()->popup(globalPosition);
 }
 
 // ---- Clipboard ------------------------------------------------------------------------------
 
 void SpriteList::copyImage()
 {
-    if (pressedSprite() < 0)
+    if (pressedIndex() < 0)
         return;
     const auto type = m_sprites->depth() == Quenmora::EightBit ? Quenmora::Ui::Full256 : Quenmora::Ui::Offset16;
-    const CanvasClipboardContent content{0, type, m_sprites->paletteId(),
-                                         m_sprites->spriteImage(pressedSprite(), false, false, false)};
+    const CanvasClipboardContent content{0, type, m_sprites->paletteId(), picture(pressedIndex())};
     QGuiApplication::clipboard()->setMimeData(content.toMimeData());
 }
 
 void SpriteList::pasteImage()
 {
     const QImage pasted = clipboardImage();
-    if (pressedSprite() < 0 || pasted.isNull() || !m_sprites->palette())
+    if (pressedIndex() < 0 || pasted.isNull() || !m_sprites->palette())
         return;
     // What the picture does not cover is black.
     QImage sprite(SpriteSize, QImage::Format_ARGB32);
@@ -277,59 +174,8 @@ void SpriteList::pasteImage()
     QPainter painter(&sprite);
     painter.drawImage(0, 0, pasted.copy(QRect(QPoint(), SpriteSize) & pasted.rect()));
     painter.end();
-    m_sprites->importImage(pressedSprite(), sprite);
+    m_sprites->importImage(pressedIndex(), sprite);
     update();
-}
-
-// ---- Drag and drop --------------------------------------------------------------------------
-
-void SpriteList::startDrag()
-{
-    m_buttons = Qt::NoButton;
-    const int index = pressedSprite();
-    auto *drag = new QDrag(this);
-    drag->setMimeData(SpriteDrag{index}.toMimeData());
-    drag->setPixmap(QPixmap::fromImage(m_sprites->spriteImage(index, false, false, false).scaled(Cell, Cell)));
-    drag->exec(Qt::MoveAction);
-}
-
-void SpriteList::dragEnterEvent(QDragEnterEvent *event)
-{
-    if (event->mimeData()->hasFormat(SpriteDrag::mimeType()))
-        event->acceptProposedAction();
-}
-
-void SpriteList::dragMoveEvent(QDragMoveEvent *event)
-{
-    const int target = spriteAt(event->position().toPoint());
-    if (target != m_dropTarget) {
-        m_dropTarget = target;
-        update();
-    }
-    event->acceptProposedAction();
-}
-
-void SpriteList::dragLeaveEvent(QDragLeaveEvent *)
-{
-    m_dropTarget = -1;
-    update();
-}
-
-void SpriteList::dropEvent(QDropEvent *event)
-{
-    if (!event->mimeData()->hasFormat(SpriteDrag::mimeType()))
-        return;
-    event->acceptProposedAction();
-    const int source = pressedSprite();
-    const int target = spriteAt(event->position().toPoint());
-    m_dropTarget = -1;
-    update();
-    if (source < 0 || target < 0)
-        return;
-    if (event->modifiers() == Qt::ShiftModifier)
-        emit copySprite(source, target);
-    else if (event->modifiers() == Qt::NoModifier)
-        emit moveSprite(source, target);
 }
 
 } // namespace SpriteEditor

@@ -1,11 +1,10 @@
 #pragma once
 
+#include "editors/canvas/cellgrid.h"
+#include "editors/canvas/dragdata.h"
 #include "model/spritebank.h"
 
 #include <QPointer>
-#include <QWidget>
-
-class QMenu;
 
 namespace SpriteEditor {
 
@@ -13,7 +12,7 @@ namespace SpriteEditor {
 ///
 /// The list changes no structure itself: it asks for it, so that whoever owns it can make each
 /// request one undo step.
-class SpriteList : public QWidget
+class SpriteList : public CellGrid
 {
     Q_OBJECT
 
@@ -22,16 +21,7 @@ public:
 
     SpriteBank *sprites() const { return m_sprites; }
     void setSprites(const QPointer<SpriteBank> &sprites);
-    /// The selected sprite, -1 when there is none.
-    int selectedIndex() const { return m_selected; }
-    void setSelectedIndex(int index);
-    QMenu *contextMenu() const { return m_menu; }
 
-    /// The sprite under a point; the number of sprites for the cell that adds one, -1 for none.
-    int indexAt(QPoint point) const;
-    QRect cellRect(int index) const;
-
-    bool hasHeightForWidth() const override { return true; }
     int heightForWidth(int width) const override;
     QSize sizeHint() const override;
 
@@ -44,41 +34,29 @@ signals:
     void clearRequested(int index);
 
 protected:
+    int count() const override { return m_sprites ? m_sprites->count() : 0; }
+    /// The cell that adds a sprite follows the last one.
+    int cellCount() const override { return m_sprites ? m_sprites->count() + 1 : 0; }
+    int cell() const override;
+    int margin() const override;
+    QImage picture(int index) const override { return m_sprites->spriteImage(index, false, false, false); }
+    QMimeData *dragData(int index) const override { return SpriteDrag{index}.toMimeData(); }
+    void clicked(int index) override;
+    void choose(int index) override;
+    void openMenu(int index, QPoint globalPosition) override;
+    void copyElement(int source, int target) override { emit copySprite(source, target); }
+    void moveElement(int source, int target) override { emit moveSprite(source, target); }
     void paintEvent(QPaintEvent *event) override;
-    void mousePressEvent(QMouseEvent *event) override;
-    void mouseMoveEvent(QMouseEvent *event) override;
-    void mouseReleaseEvent(QMouseEvent *event) override;
-    void leaveEvent(QEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
-    void contextMenuEvent(QContextMenuEvent *event) override;
-    void dragEnterEvent(QDragEnterEvent *event) override;
-    void dragMoveEvent(QDragMoveEvent *event) override;
-    void dragLeaveEvent(QDragLeaveEvent *event) override;
-    void dropEvent(QDropEvent *event) override;
 
 private slots:
     void copyImage();
     void pasteImage();
 
 private:
-    int count() const { return m_sprites ? m_sprites->count() : 0; }
-    int columns(int width) const;
-    int margin() const;
-    /// The sprite under a point, -1 for none and for the cell that adds one.
-    int spriteAt(QPoint point) const;
-    int pressedSprite() const { return spriteAt(m_pressPoint); }
-    void refresh();
-    void choose(int index);
-    void startDrag();
+    void followCount();
     void paintMarks(QPainter &painter) const;
 
     QPointer<SpriteBank> m_sprites;
-    QMenu *m_menu;
-    int m_selected = -1;
-    int m_hovered = -1;
-    int m_dropTarget = -1;
-    QPoint m_pressPoint{-1, -1};
-    Qt::MouseButtons m_buttons = Qt::NoButton;
 };
 
 } // namespace SpriteEditor

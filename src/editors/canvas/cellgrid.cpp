@@ -1,0 +1,213 @@
+#include "editors/canvas/cellgrid.h"
+
+#include "ui/gridkeys.h"
+
+#include <QApplication>
+#include <QDrag>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <algorithm>
+
+CellGrid::CellGrid(const QString &mimeType, const QString &menuTitle, QWidget *parent)
+    : QWidget(parent)
+    , m_mimeType(mimeType)
+    , m_menu(new QMenu(menuTitle, this))
+{
+    setMouseTracking(true);
+    setAcceptDrops(true);
+    setFocusPolicy(Qt::StrongFocus);
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
+}
+
+void CellGrid::reset(int selected)
+{
+    m_hovered = m_dropTarget = -1;
+    m_pressPoint = {-1, -1};
+    m_selected = selected;
+    refresh();
+}
+
+void CellGrid::refresh()
+{
+    m_selected = std::min(m_selected, count() - 1);
+    if (m_hovered >= cellCount())
+        m_hovered = -1;
+    updateGeometry();
+    update();
+}
+
+void CellGrid::setSelectedIndex(int index)
+{
+    select(index < count() ? index : -1);
+}
+
+void CellGrid::select(int index)
+{
+    m_selected = index;
+    update();
+}
+
+// ---- Layout ---------------------------------------------------------------------------------
+
+int CellGrid::indexAt(QPoint point) const
+{
+    if (point.x() < margin() || point.y() < 0)
+        return -1;
+    const int column = (point.x() - margin()) / cell();
+    if (column >= columns(width()))
+        return -1;
+    const int index = point.y() / cell() * columns(width()) + column;
+    return index < cellCount() ? index : -1;
+}
+
+int CellGrid::elementAt(QPoint point) const
+{
+    const int index = indexAt(point);
+    return index < count() ? index : -1;
+}
+
+QRect CellGrid::cellRect(int index) const
+{
+    const int across = columns(width());
+    return {margin() + index % across * cell(), index / across * cell(), cell(), cell()};
+}
+
+std::pair<int, int> CellGrid::cellsIn(const QRect &area) const
+{
+    const int across = columns(width());
+    return {area.top() / cell() * across, std::min((area.bottom() / cell() + 1) * across, cellCount())};
+}
+
+// ---- Painting -------------------------------------------------------------------------------
+
+void CellGrid::paintHovered(QPainter &painter, const QRect &frame)
+{
+    painter.fillRect(frame, QColor(160, 160, 255, 80));
+    painter.setPen(QColor(160, 160, 255, 128));
+    painter.drawRect(frame);
+}
+
+void CellGrid::paintDotted(QPainter &painter, const QRect &frame, int dotWidth)
+{
+    painter.setPen(Qt::black);
+    painter.drawRect(frame);
+    QPen dotted(Qt::white, dotWidth, Qt::DotLine);
+    dotted.setCosmetic(true);
+    painter.setPen(dotted);
+    painter.drawRect(frame);
+}
+
+// ---- Mouse and keyboard ---------------------------------------------------------------------
+
+void CellGrid::mousePressEvent(QMouseEvent *event)
+{
+    m_pressPoint = event->position().toPoint();
+}
+
+void CellGrid::mouseMoveEvent(QMouseEvent *event)
+{
+    const QPoint point = event->position().toPoint();
+    const bool dragged = (event->buttons() & Qt::LeftButton) && pressedIndex() >= 0
+        && (point - m_pressPoint).manhattanLength() >= QApplication::startDragDistance();
+    const int index = dragged ? -1 : indexAt(point);
+    setToolTip(index < 0 ? QString() : toolTipOf(index));
+    if (index != m_hovered) {
+        m_hovered = index;
+        update();
+    }
+    if (dragged)
+        startDrag(pressedIndex());
+}
+
+void CellGrid::mouseReleaseEvent(QMouseEvent *event)
+{
+    const int index = indexAt(event->position().toPoint());
+    if (event->button() == Qt::LeftButton)
+        clicked(index);
+    else if (event->button() == Qt::RightButton)
+        openMenu(index, event->globalPosition().toPoint());
+}
+
+void CellGrid::leaveEvent(QEvent *event)
+{
+    m_hovered = -1;
+    update();
+    QWidget::leaveEvent(event);
+}
+
+void CellGrid::keyPressEvent(QKeyEvent *event)
+{
+    const int step = GridKeys::step(event->key(), columns(width()));
+    if (step == 0) {
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    const int moved = std::max(m_selected, 0) + step;
+    if (moved >= 0 && moved < count())
+        choose(moved);
+}
+
+void CellGrid::contextMenuEvent(QContextMenuEvent *event)
+{
+    if (event->reason() != QContextMenuEvent::Keyboard || m_selected < 0) {
+        event->ignore();
+        return;
+    }
+    m_pressPoint = cellRect(m_selected).center();
+    openMenu(m_selected, mapToGlobal(m_pressPoint));
+}
+
+// ---- Drag and drop --------------------------------------------------------------------------
+
+void CellGrid::startDrag(int index)
+{
+    auto *drag = new QDrag(this);
+    drag->setMimeData(dragData(index));
+    drag->setPixmap(QPixmap::fromImage(picture(index).scaled(cell(), cell())));
+    drag->exec(Qt::MoveAction);
+}
+
+void CellGrid::setDropTarget(int index)
+{
+    if (index == m_dropTarget)
+        return;
+    m_dropTarget = index;
+    update();
+}
+
+void CellGrid::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (event->mimeData()->hasFormat(m_mimeType))
+        event->acceptProposedAction();
+}
+
+void CellGrid::dragMoveEvent(QDragMoveEvent *event)
+{
+    setDropTarget(elementAt(event->position().toPoint()));
+    event->acceptProposedAction();
+}
+
+void CellGrid::dragLeaveEvent(QDragLeaveEvent *)
+{
+    setDropTarget(-1);
+}
+
+void CellGrid::dropEvent(QDropEvent *event)
+{
+    if (!event->mimeData()->hasFormat(m_mimeType))
+        return;
+    event->acceptProposedAction();
+    setDropTarget(-1);
+    const int source = pressedIndex();
+    const int target = elementAt(event->position().toPoint());
+    if (source < 0 || target < 0)
+        return;
+    if (event->modifiers() == Qt::ShiftModifier)
+        copyElement(source, target);
+    else if (event->modifiers() == Qt::NoModifier)
+        moveElement(source, target);
+}
