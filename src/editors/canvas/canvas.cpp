@@ -7,14 +7,13 @@
 #include "editors/canvas/linecanvastool.h"
 #include "editors/canvas/pastecanvastool.h"
 #include "editors/canvas/pickcanvastool.h"
+#include "editors/canvas/pictureimport.h"
 #include "editors/canvas/rectanglecanvastool.h"
 #include "editors/canvas/selectcanvastool.h"
 
-#include <QKeyEvent>
 #include <QMenu>
 #include <QMetaEnum>
 #include <QRubberBand>
-#include <QWheelEvent>
 
 #include <algorithm>
 #include <cstring>
@@ -22,9 +21,6 @@
 using namespace Quenmora::Ui;
 
 namespace {
-
-constexpr QPoint Nowhere(-1, -1);
-constexpr int ZoomStep = 2;
 
 /// Compares indices; QImage's own comparison takes two indices of one colour for equal.
 bool samePixels(const QImage &a, const QImage &b)
@@ -36,11 +32,6 @@ bool samePixels(const QImage &a, const QImage &b)
             return false;
     }
     return true;
-}
-
-int sign(int value)
-{
-    return (value > 0) - (value < 0);
 }
 
 } // namespace
@@ -71,8 +62,10 @@ Canvas::Canvas(QSize imageSize, QWidget *parent)
 
     connect(m_clipboard, &CanvasClipboard::pasted, this, &Canvas::setPasteMode);
     connect(m_clipboard, &CanvasClipboard::copied, this, [this](bool cut) {
-        if (cut)
-            eraseSelection();
+        if (!cut)
+            return;
+        eraseSelection();
+        emit imageChanged();
     });
     buildContextMenu();
 }
@@ -114,6 +107,21 @@ void Canvas::swapInkAndPaper()
     setPaper(ink);
     emit foregroundPicked(m_ink);
     emit backgroundPicked(m_paper);
+}
+
+void Canvas::setPictureColours(int first, int count)
+{
+    m_firstPictureColour = first;
+    m_pictureColourCount = count;
+}
+
+QImage Canvas::pixelsOf(const QImage &picture) const
+{
+    if (!m_palette || m_pictureColourCount == 0)
+        return {};
+    // Only what the image has room for is converted.
+    const QImage part = picture.copy(m_layer.rect() & picture.rect());
+    return PictureImport::indexed(part, *m_palette, m_firstPictureColour, m_pictureColourCount);
 }
 
 void Canvas::setImageType(ImageType type)
@@ -345,10 +353,10 @@ void Canvas::setMode(ToolButton mode, bool checked)
         m_pixelGrid = checked;
         break;
     case ZoomIn:
-        setZoomLevel(m_geometry.zoom + ZoomStep);
+        setZoomLevel(m_geometry.zoom + CanvasGeometry::ZoomStep);
         break;
     case ZoomOut:
-        setZoomLevel(m_geometry.zoom - ZoomStep);
+        setZoomLevel(m_geometry.zoom - CanvasGeometry::ZoomStep);
         break;
     case RotateCW:
         applyEdit(tr("Rotate"), PixelEditCommand::None, [](Layer2Image &layer) { layer.rotate(90); });
@@ -447,7 +455,7 @@ void Canvas::placeSelection(const QRect &pixels)
     m_selection->setGeometry(QRect(m_geometry.pointOf(pixels.topLeft()), m_geometry.scaled(pixels.size())));
 }
 
-// ---- Events ---------------------------------------------------------------------------------
+// ---- Layout ---------------------------------------------------------------------------------
 
 void Canvas::relayout(const std::function<void(CanvasGeometry &)> &change)
 {
@@ -471,52 +479,6 @@ void Canvas::resizeEvent(QResizeEvent *)
     relayout();
 }
 
-void Canvas::hoverAt(QPoint pixel)
-{
-    m_cursor = pixel;
-    const bool inside = m_layer.rect().contains(pixel);
-    emit pixelHovered(inside ? pixel : Nowhere, inside ? m_layer.pixelIndex(pixel) : -1);
-}
-
-void Canvas::mousePressEvent(QMouseEvent *event)
-{
-    m_buttons = event->buttons();
-    m_pressPixel = m_currentPixel = m_geometry.pixelAt(event->position().toPoint());
-    m_cursor = m_pressPixel;
-    m_tool->mousePressed(event);
-}
-
-void Canvas::mouseMoveEvent(QMouseEvent *event)
-{
-    const QPoint pixel = m_geometry.pixelAt(event->position().toPoint());
-    if (pixel == m_cursor)
-        return;
-    m_currentPixel = pixel;
-    m_cursor = pixel;
-    if (m_tool->mouseMoved(event))
-        update();
-    hoverAt(pixel);
-}
-
-void Canvas::mouseReleaseEvent(QMouseEvent *event)
-{
-    m_currentPixel = m_geometry.pixelAt(event->position().toPoint());
-    const QPointer guard(this); // a tool may open a menu, under which anything can happen
-    m_tool->mouseReleased(event);
-    if (!guard)
-        return;
-    m_buttons = Qt::NoButton;
-    hoverAt(m_currentPixel);
-}
-
-void Canvas::leaveEvent(QEvent *event)
-{
-    hoverAt(Nowhere);
-    clearAnchor();
-    update();
-    QWidget::leaveEvent(event);
-}
-
 void Canvas::scrollTo(QPoint position)
 {
     const QRect selected = selection();
@@ -530,55 +492,4 @@ void Canvas::scrollBy(QPoint delta)
 {
     scrollTo(m_geometry.scrolled(delta, image().size()));
     emit scrollPositionChanged(m_geometry.scroll);
-}
-
-void Canvas::wheelEvent(QWheelEvent *event)
-{
-    if (!m_geometry.imageRect.contains(event->position().toPoint())) {
-        event->ignore();
-        return;
-    }
-    const QPoint step(2 * sign(event->angleDelta().x()), 2 * sign(event->angleDelta().y()));
-    if (event->modifiers() & Qt::ControlModifier)
-        setZoomLevel(m_geometry.zoom + (step.y() < 1 ? -ZoomStep : ZoomStep));
-    else
-        scrollBy(step);
-    event->accept();
-}
-
-bool Canvas::scrollByKey(const QKeyEvent *event)
-{
-    if (event->modifiers() & ~Qt::KeypadModifier)
-        return false;
-    switch (event->key()) {
-    case Qt::Key_Left:
-        scrollBy(QPoint(1, 0));
-        return true;
-    case Qt::Key_Up:
-        scrollBy(QPoint(0, 1));
-        return true;
-    case Qt::Key_Right:
-        scrollBy(QPoint(-1, 0));
-        return true;
-    case Qt::Key_Down:
-        scrollBy(QPoint(0, -1));
-        return true;
-    default:
-        return false;
-    }
-}
-
-void Canvas::keyPressEvent(QKeyEvent *event)
-{
-    if (!scrollByKey(event))
-        QWidget::keyPressEvent(event);
-}
-
-void Canvas::contextMenuEvent(QContextMenuEvent *event)
-{
-    // The select tool opens the menu for the mouse.
-    if (event->reason() == QContextMenuEvent::Keyboard)
-        m_contextMenu->popup(event->globalPos());
-    else
-        event->ignore();
 }

@@ -46,6 +46,11 @@ public:
     Quenmora::Ui::ToolButton mode() const { return m_mode; }
     Quenmora::Ui::ImageType imageType() const { return m_imageType; }
     void setImageType(Quenmora::Ui::ImageType type);
+    /// Lets paste take other programs' pictures as well, in count (16 or 256) entries of the palette from
+    /// first on. A canvas that has not been told takes only what canvases copy.
+    void setPictureColours(int first, int count);
+    /// A picture as pixels to paste, no larger than the image; null when pictures are not taken.
+    QImage pixelsOf(const QImage &picture) const;
     bool tallPixels() const { return m_geometry.tallPixels; }
     void setTallPixels(bool tall);
 
@@ -141,6 +146,8 @@ private slots:
     void updatePalette(int index, QColor colour, bool priority);
 
 private:
+    static constexpr QPoint Nowhere{-1, -1};
+
     void buildContextMenu();
     /// Changes the geometry, if asked to, and fits the image; the selection stays on its pixels.
     void relayout(const std::function<void(CanvasGeometry &)> &change = {});
@@ -166,6 +173,8 @@ private:
     int m_ink = 1;
     int m_paper = 0;
     Quenmora::Ui::ImageType m_imageType = Quenmora::Ui::Full256;
+    int m_firstPictureColour = 0;
+    int m_pictureColourCount = 0;
     Quenmora::Ui::ToolButton m_mode = Quenmora::Ui::Draw;
     CanvasGeometry m_geometry;
     QPoint m_cursor;
@@ -174,8 +183,8 @@ private:
     Qt::MouseButtons m_buttons = Qt::NoButton;
     QRubberBand *m_selection;
     QPointer<CanvasClipboard> m_clipboard;
-    QPoint m_pressPixel{-1, -1};
-    QPoint m_currentPixel{-1, -1};
+    QPoint m_pressPixel = Nowhere;
+    QPoint m_currentPixel = Nowhere;
     QImage m_beforeImage;
     QHash<Quenmora::Ui::ToolButton, std::shared_ptr<CanvasTool>> m_tools;
     CanvasTool *m_tool = nullptr;

@@ -46,6 +46,11 @@ QMimeData *CanvasClipboardContent::toMimeData() const
     return mimeData;
 }
 
+bool CanvasClipboardContent::isIn(const QMimeData *mimeData)
+{
+    return mimeData && mimeData->hasFormat(MimeType);
+}
+
 CanvasClipboardContent CanvasClipboardContent::fromMimeData(const QMimeData *mimeData)
 {
     QByteArray bytes = mimeData ? mimeData->data(MimeType) : QByteArray();
@@ -86,9 +91,21 @@ void CanvasClipboard::copyToClipboard()
     emit copied(action && action->text() == Canvas::tr("Cut"));
 }
 
+CanvasClipboardContent CanvasClipboard::contentOfPicture(const QMimeData *mimeData) const
+{
+    if (!m_canvas || !mimeData || !mimeData->hasImage())
+        return {};
+    // Qt decodes no picture of more than 256 MiB, and the canvas converts only what fits into its image.
+    const QImage pixels = m_canvas->pixelsOf(mimeData->imageData().value<QImage>());
+    return {0, m_canvas->imageType(), m_canvas->paletteId(), pixels};
+}
+
 bool CanvasClipboard::pasteFromClipboard()
 {
-    const auto content = CanvasClipboardContent::fromMimeData(QGuiApplication::clipboard()->mimeData());
+    const QMimeData *mimeData = QGuiApplication::clipboard()->mimeData();
+    // What a canvas has copied is not taken for a picture when it is damaged.
+    const auto content = CanvasClipboardContent::isIn(mimeData) ? CanvasClipboardContent::fromMimeData(mimeData)
+                                                                : contentOfPicture(mimeData);
     if (content.image.isNull())
         return false;
     m_content = content;

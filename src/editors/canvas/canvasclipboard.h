@@ -25,6 +25,7 @@ struct CanvasClipboardContent
     [[nodiscard]] QMimeData *toMimeData() const;
     /// The content of mime data; its image is null when there is none or it is damaged.
     [[nodiscard]] static CanvasClipboardContent fromMimeData(const QMimeData *mimeData);
+    [[nodiscard]] static bool isIn(const QMimeData *mimeData);
 };
 
 /// Carries the pixels of a canvas to the system clipboard and back.
@@ -41,7 +42,7 @@ public:
 public slots:
     /// Copies the canvas's selection, or its whole image without one.
     void copyToClipboard();
-    /// Takes the clipboard's pixels; false, and nothing changes, when it holds none of ours.
+    /// Takes the clipboard's pixels; false, and nothing changes, when it holds none that the canvas takes.
     bool pasteFromClipboard();
 
 signals:
@@ -50,6 +51,9 @@ signals:
     void pasted(QUuid paletteId);
 
 private:
+    /// Another program's picture in the colours that the canvas offers for it.
+    CanvasClipboardContent contentOfPicture(const QMimeData *mimeData) const;
+
     QPointer<Canvas> m_canvas;
     CanvasClipboardContent m_content;
 };

@@ -9,6 +9,7 @@ struct CanvasGeometry
 {
     static constexpr int MinimumZoom = 1;
     static constexpr int MaximumZoom = 64;
+    static constexpr int ZoomStep = 2;
 
     /// Screen pixels of an image pixel across.
     int zoom = 16;

@@ -59,8 +59,8 @@ void ImportDialog::updatePreview()
     // Only what lies inside the image is converted.
     const bool scale = m_scale->isChecked();
     const QImage part = scale ? m_picture : m_picture.copy(QRect(QPoint(), m_imageSize) & m_picture.rect());
-    m_pixels =
-        m_palette ? PictureImport::indexed(part, *m_palette, m_colourCount, scale ? m_imageSize : QSize()) : QImage();
+    m_pixels = m_palette ? PictureImport::indexed(part, *m_palette, 0, m_colourCount, scale ? m_imageSize : QSize())
+                         : QImage();
     const QImage shown = m_pixels.convertToFormat(QImage::Format_RGB32);
     m_preview->setPixmap(QPixmap::fromImage(shown.scaled(PreviewSize, Qt::KeepAspectRatio)));
 }

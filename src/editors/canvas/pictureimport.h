@@ -9,8 +9,8 @@ class Palette;
 /// Turns an ordinary picture into pixels of an image asset.
 namespace PictureImport {
 
-/// The picture as indices of the palette's first colourCount (16 or 256) entries, every colour the nearest
-/// of them; when asked to, scaled to exactly the size. Null when the picture is null.
-[[nodiscard]] QImage indexed(const QImage &picture, const Palette &palette, int colourCount, QSize scaledTo = {});
+/// The picture as indices of the count (16 or 256) entries of the palette from first on, every colour the
+/// nearest of them; when asked to, scaled to exactly the size. Null when the picture is null.
+[[nodiscard]] QImage indexed(const QImage &picture, const Palette &palette, int first, int count, QSize scaledTo = {});
 
 } // namespace PictureImport
