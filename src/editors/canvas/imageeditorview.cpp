@@ -3,7 +3,6 @@
 #include "editors/canvas/canvas.h"
 #include "editors/canvas/imageeditortoolbar.h"
 #include "editors/canvas/imageimportdialog.h"
-#include "editors/canvas/pixelediting.h"
 #include "editors/canvas/scrollcanvas.h"
 #include "editors/palette/colourpalette.h"
 #include "model/nximage.h"
@@ -27,13 +26,10 @@ constexpr int FewColours = 16;
 
 View::View(QWidget *parent)
     : QWidget(parent)
-    , m_canvas(new Canvas(QSize(1, 1)))
-    , m_scroller(new ScrollCanvas(m_canvas, this))
-    , m_tools(new ToolPalette(Qt::Vertical, this))
+    , PixelEditor(QSize(1, 1), Qt::Vertical, {Open, Save})
     , m_colours(new ColourPalette(this))
 {
-    PixelEditing::addTools(m_tools, {Open, Save});
-    m_canvas->setZoomLevel(UsualZoom);
+    canvas()->setZoomLevel(UsualZoom);
     buildPage();
     connectParts();
     setImage(nullptr);
@@ -42,10 +38,10 @@ View::View(QWidget *parent)
 void View::buildPage()
 {
     auto *side = new QVBoxLayout;
-    side->addWidget(m_tools, 0, Qt::AlignTop);
+    side->addWidget(tools(), 0, Qt::AlignTop);
     side->addStretch();
     auto *middle = new QVBoxLayout;
-    middle->addWidget(m_scroller, 1);
+    middle->addWidget(new ScrollCanvas(canvas()), 1);
     middle->addWidget(m_colours);
     auto *parts = new QHBoxLayout;
     parts->addLayout(middle, 1);
@@ -53,22 +49,19 @@ void View::buildPage()
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(new ToolBar(this));
     layout->addLayout(parts, 1);
-    setFocusProxy(m_canvas);
+    setFocusProxy(canvas());
 }
 
 void View::connectParts()
 {
-    connect(m_tools, &ToolPalette::actionActivated, this, &View::changeMode);
-    PixelEditing::connectTools(m_tools, m_canvas);
-    connect(m_canvas, &Canvas::imageChanged, this, &View::writeBack);
-    connect(m_canvas, &Canvas::edited, this, &View::pushEdit);
-    connect(m_canvas, &Canvas::foregroundPicked, this, &View::setForeIndex);
-    connect(m_canvas, &Canvas::backgroundPicked, this, &View::setBackIndex);
-    connect(m_canvas, &Canvas::pixelHovered, this,
-            [this](QPoint pixel, int index) { PixelEditing::showPixel(this, pixel, index, m_canvas->palette()); });
+    connect(tools(), &ToolPalette::actionActivated, this, &View::changeMode);
+    connect(canvas(), &Canvas::imageChanged, this, &View::writeBack);
+    connect(canvas(), &Canvas::edited, this, &View::pushEdit);
+    connect(canvas(), &Canvas::foregroundPicked, this, &View::setForeIndex);
+    connect(canvas(), &Canvas::backgroundPicked, this, &View::setBackIndex);
     connect(m_colours, &ColourPalette::primaryIndexChanged, this, &View::setForeIndex);
     connect(m_colours, &ColourPalette::secondaryIndexChanged, this, &View::setBackIndex);
-    PixelEditing::addSwapAction(this, m_canvas);
+    connectCanvas(this);
 }
 
 // ---- What is shown --------------------------------------------------------------------------
@@ -90,44 +83,39 @@ void View::setImage(const QPointer<Image> &image)
                 load(m_image->image());
         });
     }
-    m_canvas->setEnabled(image);
+    canvas()->setEnabled(image);
     m_colours->setRange(0, colourCount());
+    canvas()->setPictureColours(0, colourCount());
     setPalette(image ? image->palette() : nullptr);
     load(image ? image->image() : QImage());
 }
 
 void View::setPixels(const QImage &pixels)
 {
-    m_canvas->setEnabled(true);
+    canvas()->setEnabled(true);
     load(pixels);
 }
 
 QImage View::pixels() const
 {
-    return m_canvas->image();
+    return canvas()->image();
 }
 
 void View::setPalette(const QPointer<Palette> &palette)
 {
-    m_canvas->bindPalette(palette);
+    canvas()->bindPalette(palette);
     m_colours->setPalette(palette);
-}
-
-void View::load(const QImage &pixels)
-{
-    const QScopedValueRollback loading(m_loading, true);
-    m_canvas->setImage(pixels);
 }
 
 void View::setForeIndex(int index)
 {
-    m_canvas->setInk(index);
+    canvas()->setInk(index);
     m_colours->setPrimaryIndex(index);
 }
 
 void View::setBackIndex(int index)
 {
-    m_canvas->setPaper(index);
+    canvas()->setPaper(index);
     m_colours->setSecondaryIndex(index);
 }
 
@@ -135,13 +123,13 @@ void View::setBackIndex(int index)
 
 void View::writeBack()
 {
-    if (m_loading)
+    if (isLoading())
         return;
     if (m_image) {
         const QScopedValueRollback writing(m_writing, true);
-        m_image->setImage(m_canvas->image());
+        m_image->setImage(canvas()->image());
     }
-    emit imageChanged(m_canvas->image());
+    emit imageChanged(canvas()->image());
 }
 
 void View::pushEdit(const QString &text, const QImage &before, const QImage &after, PixelEditCommand::Kind kind)
@@ -150,11 +138,11 @@ void View::pushEdit(const QString &text, const QImage &before, const QImage &aft
         if (isAsset && !image)
             return; // deleted since
         if (view && view->m_image == image)
-            view->m_canvas->setImage(pixels);
+            view->canvas()->setImage(pixels);
         else if (image)
             image->setImage(pixels);
     };
-    PixelEditing::push(m_undoStack, text, before, after, apply, QVariant::fromValue(m_image), kind);
+    push(m_undoStack, text, before, after, apply, QVariant::fromValue(m_image), kind);
 }
 
 void View::changeMode(ToolButton action, bool checked)
@@ -167,7 +155,7 @@ void View::changeMode(ToolButton action, bool checked)
         openExportFile();
         break;
     default:
-        m_canvas->setMode(action, checked);
+        canvas()->setMode(action, checked);
         break;
     }
 }
@@ -197,12 +185,12 @@ void View::importPicture(const QString &fileName)
         m_importDialog = new ImportDialog(this);
         connect(m_importDialog, &ImportDialog::imported, this, &View::place);
     }
-    m_importDialog->show(picture, m_canvas->palette(), m_canvas->image().size(), colourCount());
+    m_importDialog->show(picture, canvas()->palette(), canvas()->image().size(), colourCount());
 }
 
 void View::place(const QImage &pixels)
 {
-    m_canvas->applyEdit(tr("Import Image"), PixelEditCommand::None,
+    canvas()->applyEdit(tr("Import Image"), PixelEditCommand::None,
                         [&pixels](Layer2Image &layer) { layer.paste(pixels, QPoint()); });
 }
 
@@ -220,40 +208,15 @@ void View::openExportFile()
 
 void View::exportImage(const QString &name)
 {
-    if (!m_canvas->image().save(name))
+    if (!canvas()->image().save(name))
         emit error(tr("There was a problem exporting data"));
 }
 
-// ---- Edit menu and keys ---------------------------------------------------------------------
-
-void View::cut()
-{
-    m_canvas->cut();
-}
-
-void View::copy()
-{
-    m_canvas->copy();
-}
-
-void View::paste()
-{
-    m_canvas->paste();
-}
-
-void View::selectAll()
-{
-    m_canvas->selectAll();
-}
-
-void View::selectNone()
-{
-    m_canvas->selectNone();
-}
+// ---- Keys -------------------------------------------------------------------------------------
 
 bool View::event(QEvent *event)
 {
-    PixelEditing::scrollByShortcutOverride(m_canvas, event);
+    scrollByShortcutOverride(event);
     return QWidget::event(event);
 }
 

@@ -1,27 +1,23 @@
 #pragma once
 
-#include "editors/edittarget.h"
+#include "editors/canvas/pixeleditor.h"
 #include "model/image.h"
 #include "model/palette.h"
 #include "ui/enums.h"
-#include "undo/pixeleditcommand.h"
 
 #include <QPointer>
 #include <QUndoStack>
 #include <QWidget>
 
-class Canvas;
 class ColourPalette;
 class QFileDialog;
-class ScrollCanvas;
-class ToolPalette;
 
 namespace ImageEditor {
 
 class ImportDialog;
 
 /// The document page that paints one image, or the project's scratch picture.
-class View : public QWidget, public EditTarget
+class View : public QWidget, public PixelEditor
 {
     Q_OBJECT
 
@@ -36,13 +32,6 @@ public:
     QImage pixels() const;
     void setPalette(const QPointer<Palette> &palette);
     void setUndoStack(QUndoStack *stack) { m_undoStack = stack; }
-    Canvas *canvas() const { return m_canvas; }
-
-    void cut() override;
-    void copy() override;
-    void paste() override;
-    void selectAll() override;
-    void selectNone() override;
 
 signals:
     void imageChanged(QImage image);
@@ -63,7 +52,6 @@ private:
     void connectParts();
     /// 16 in the 640 × 256 mode, else 256.
     int colourCount() const;
-    void load(const QImage &pixels);
     void writeBack();
     void openImportFile();
     void openExportFile();
@@ -72,15 +60,11 @@ private:
     void pushEdit(const QString &text, const QImage &before, const QImage &after, PixelEditCommand::Kind kind);
 
     QPointer<Image> m_image;
-    Canvas *m_canvas;
-    ScrollCanvas *m_scroller;
-    ToolPalette *m_tools;
     ColourPalette *m_colours;
     QPointer<QUndoStack> m_undoStack;
     QFileDialog *m_importFile = nullptr;
     QFileDialog *m_exportFile = nullptr;
     ImportDialog *m_importDialog = nullptr;
-    bool m_loading = false;
     bool m_writing = false;
 };
 

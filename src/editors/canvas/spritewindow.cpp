@@ -1,7 +1,6 @@
 #include "editors/canvas/spritewindow.h"
 
 #include "editors/canvas/canvas.h"
-#include "editors/canvas/pixelediting.h"
 #include "editors/canvas/scrollcanvas.h"
 #include "editors/canvas/spritelist.h"
 #include "editors/palette/colourpalette.h"
@@ -26,15 +25,13 @@ constexpr int BankSize = 16;
 
 SpriteWindow::SpriteWindow(QWidget *parent)
     : DockWidget(tr("Sprite Editor"), tr("No sprites selected"), parent)
-    , m_canvas(new Canvas(SpriteSize))
-    , m_tools(new ToolPalette(Qt::Horizontal))
+    , PixelEditor(SpriteSize, Qt::Horizontal, {RotateCW, RotateCCW})
     , m_colours(new ColourPalette)
     , m_header(new SectionHeader(QString()))
     , m_list(new SpriteEditor::SpriteList)
 {
     setObjectName(QStringLiteral("SpriteEditor"));
     setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
-    PixelEditing::addTools(m_tools, {RotateCW, RotateCCW});
     buildPage();
     connectParts();
     setSprites(nullptr);
@@ -42,12 +39,12 @@ SpriteWindow::SpriteWindow(QWidget *parent)
 
 void SpriteWindow::buildPage()
 {
-    m_canvas->setMinimumHeight(8 * SpriteSize.height());
+    canvas()->setMinimumHeight(8 * SpriteSize.height());
     auto *editor = new QWidget;
     auto *editorLayout = new QVBoxLayout(editor);
     editorLayout->setContentsMargins(0, 0, 0, 0);
-    editorLayout->addWidget(m_tools);
-    editorLayout->addWidget(new ScrollCanvas(m_canvas), 1);
+    editorLayout->addWidget(tools());
+    editorLayout->addWidget(new ScrollCanvas(canvas()), 1);
     editorLayout->addWidget(m_colours);
 
     auto *scroller = new QScrollArea;
@@ -66,17 +63,14 @@ void SpriteWindow::buildPage()
 
 void SpriteWindow::connectParts()
 {
-    connect(m_tools, &ToolPalette::actionActivated, m_canvas, &Canvas::setMode);
-    PixelEditing::connectTools(m_tools, m_canvas);
-    connect(m_canvas, &Canvas::imageChanged, this, &SpriteWindow::updateSpriteImage);
-    connect(m_canvas, &Canvas::edited, this, &SpriteWindow::pushEdit);
-    connect(m_canvas, &Canvas::foregroundPicked, m_colours, &ColourPalette::setPrimaryIndex);
-    connect(m_canvas, &Canvas::backgroundPicked, m_colours, &ColourPalette::setSecondaryIndex);
-    connect(m_canvas, &Canvas::pixelHovered, this,
-            [this](QPoint pixel, int index) { PixelEditing::showPixel(this, pixel, index, m_canvas->palette()); });
-    connect(m_colours, &ColourPalette::primaryIndexChanged, m_canvas, &Canvas::setInk);
-    connect(m_colours, &ColourPalette::secondaryIndexChanged, m_canvas, &Canvas::setPaper);
-    PixelEditing::addSwapAction(content(), m_canvas);
+    connect(tools(), &ToolPalette::actionActivated, canvas(), &Canvas::setMode);
+    connect(canvas(), &Canvas::imageChanged, this, &SpriteWindow::updateSpriteImage);
+    connect(canvas(), &Canvas::edited, this, &SpriteWindow::pushEdit);
+    connect(canvas(), &Canvas::foregroundPicked, m_colours, &ColourPalette::setPrimaryIndex);
+    connect(canvas(), &Canvas::backgroundPicked, m_colours, &ColourPalette::setSecondaryIndex);
+    connect(m_colours, &ColourPalette::primaryIndexChanged, canvas(), &Canvas::setInk);
+    connect(m_colours, &ColourPalette::secondaryIndexChanged, canvas(), &Canvas::setPaper);
+    connectCanvas(content());
 
     using SpriteEditor::SpriteList;
     connect(m_list, &SpriteList::indexChanged, this, &SpriteWindow::changeSprite);
@@ -104,13 +98,15 @@ void SpriteWindow::setSprites(const QPointer<SpriteBank> &sprites)
         m_sprites->disconnect(this);
     m_sprites = sprites;
     m_index = 0;
-    m_canvas->setEnabled(sprites);
+    canvas()->setEnabled(sprites);
     m_list->setSprites(sprites);
     setActive(sprites);
     if (m_sprites) {
         const bool fourBit = m_sprites->depth() == Quenmora::FourBit;
-        m_canvas->setImageType(fourBit ? Offset16 : Full256);
-        m_colours->setRange(0, fourBit ? BankSize : Palette::Size);
+        canvas()->setImageType(fourBit ? Offset16 : Full256);
+        const int colours = fourBit ? BankSize : Palette::Size;
+        m_colours->setRange(0, colours);
+        canvas()->setPictureColours(0, colours);
         connect(m_sprites, &SpriteBank::imageChanged, this, [this](int index) {
             if (index == m_index && !m_writing)
                 loadSprite();
@@ -132,7 +128,7 @@ void SpriteWindow::setSpritePalette(Palette *palette)
 void SpriteWindow::refresh()
 {
     const QPointer<Palette> palette = m_sprites ? m_sprites->palette() : nullptr;
-    m_canvas->bindPalette(palette);
+    canvas()->bindPalette(palette);
     m_colours->setPalette(palette);
     m_header->setText(tr("Sprites: %1").arg(m_sprites ? m_sprites->name() : QString()));
     if (!m_sprites)
@@ -150,18 +146,17 @@ void SpriteWindow::changeSprite(int index)
 
 void SpriteWindow::loadSprite()
 {
-    const QScopedValueRollback loading(m_loading, true);
-    m_canvas->setImage(m_sprites->spriteImage(m_index, false, false, false));
+    load(m_sprites->spriteImage(m_index, false, false, false));
 }
 
 // ---- Edits ----------------------------------------------------------------------------------
 
 void SpriteWindow::updateSpriteImage()
 {
-    if (m_loading || !m_sprites)
+    if (isLoading() || !m_sprites)
         return;
     const QScopedValueRollback writing(m_writing, true);
-    m_sprites->setImage(m_index, m_canvas->image());
+    m_sprites->setImage(m_index, canvas()->image());
 }
 
 void SpriteWindow::editStructure(const QString &text, const std::function<void(SpriteBank &)> &edit)
@@ -182,8 +177,7 @@ void SpriteWindow::pushEdit(const QString &text, const QImage &before, const QIm
         if (window)
             window->applyEdit(bank, index, image);
     };
-    PixelEditing::push(m_stackFor(m_sprites->id()), text, before, after, apply,
-                       PixelEditing::mergeKey(m_sprites->id(), m_index), kind);
+    push(m_stackFor(m_sprites->id()), text, before, after, apply, mergeKey(m_sprites->id(), m_index), kind);
 }
 
 void SpriteWindow::applyEdit(const QPointer<SpriteBank> &bank, int index, const QImage &image)
@@ -191,40 +185,15 @@ void SpriteWindow::applyEdit(const QPointer<SpriteBank> &bank, int index, const 
     if (!bank || index >= bank->count())
         return;
     if (bank == m_sprites && index == m_index)
-        m_canvas->setImage(image);
+        canvas()->setImage(image);
     else
         bank->setImage(index, image);
 }
 
-// ---- Edit menu and keys ---------------------------------------------------------------------
-
-void SpriteWindow::cut()
-{
-    m_canvas->cut();
-}
-
-void SpriteWindow::copy()
-{
-    m_canvas->copy();
-}
-
-void SpriteWindow::paste()
-{
-    m_canvas->paste();
-}
-
-void SpriteWindow::selectAll()
-{
-    m_canvas->selectAll();
-}
-
-void SpriteWindow::selectNone()
-{
-    m_canvas->selectNone();
-}
+// ---- Keys -------------------------------------------------------------------------------------
 
 bool SpriteWindow::event(QEvent *event)
 {
-    PixelEditing::scrollByShortcutOverride(m_canvas, event);
+    scrollByShortcutOverride(event);
     return DockWidget::event(event);
 }

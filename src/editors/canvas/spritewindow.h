@@ -1,22 +1,19 @@
 #pragma once
 
-#include "editors/edittarget.h"
+#include "editors/canvas/pixeleditor.h"
 #include "model/spritebank.h"
 #include "ui/dockwidget.h"
 #include "undo/editrecorder.h"
-#include "undo/pixeleditcommand.h"
 
-class Canvas;
 class ColourPalette;
 class SectionHeader;
-class ToolPalette;
 
 namespace SpriteEditor {
 class SpriteList;
 }
 
 /// The sprite editor dock: paints one sprite of a bank, above the list of all of them.
-class SpriteWindow : public DockWidget, public EditTarget
+class SpriteWindow : public DockWidget, public PixelEditor
 {
     Q_OBJECT
 
@@ -28,14 +25,7 @@ public:
     SpriteBank *sprites() const { return m_sprites; }
     /// The sprite shown, -1 without a bank.
     int spriteIndex() const { return m_sprites ? m_index : -1; }
-    Canvas *canvas() const { return m_canvas; }
     SpriteEditor::SpriteList *list() const { return m_list; }
-
-    void cut() override;
-    void copy() override;
-    void paste() override;
-    void selectAll() override;
-    void selectNone() override;
 
 public slots:
     /// Writes the canvas's image into the sprite.
@@ -61,13 +51,10 @@ private:
     void applyEdit(const QPointer<SpriteBank> &bank, int index, const QImage &image);
 
     QPointer<SpriteBank> m_sprites;
-    Canvas *m_canvas;
-    ToolPalette *m_tools;
     ColourPalette *m_colours;
     SectionHeader *m_header;
     SpriteEditor::SpriteList *m_list;
     int m_index = 0;
     EditRecorder::StackProvider m_stackFor;
-    bool m_loading = false;
     bool m_writing = false;
 };

@@ -1,7 +1,6 @@
 #include "editors/canvas/tilewindow.h"
 
 #include "editors/canvas/canvas.h"
-#include "editors/canvas/pixelediting.h"
 #include "editors/canvas/scrollcanvas.h"
 #include "editors/canvas/tileattributeseditor.h"
 #include "editors/palette/colourselector.h"
@@ -33,8 +32,7 @@ constexpr int BankSize = 16;
 
 TileWindow::TileWindow(QWidget *parent)
     : DockWidget(tr("Tile Editor"), tr("No tile set selected"), parent)
-    , m_canvas(new Canvas(TileSize))
-    , m_tools(new ToolPalette(Qt::Horizontal))
+    , PixelEditor(TileSize, Qt::Horizontal, {RotateCW, RotateCCW})
     , m_number(new NumberStepper)
     , m_offset(new QSpinBox)
     , m_colours(new ColourSelector)
@@ -42,11 +40,10 @@ TileWindow::TileWindow(QWidget *parent)
     , m_paletteEditor(new PaletteEditor)
 {
     setObjectName(QStringLiteral("TileEditor"));
-    m_canvas->setImageType(Offset16);
+    canvas()->setImageType(Offset16);
     m_number->setItemName(tr("Tile"));
     m_offset->setRange(1, BankCount);
     m_offset->setToolTip(tr("The group of 16 colours that the tile is drawn with"));
-    PixelEditing::addTools(m_tools, {RotateCW, RotateCCW});
 
     auto *scroller = new QScrollArea;
     scroller->setFocusPolicy(Qt::NoFocus); // what is in it has the keyboard
@@ -60,7 +57,7 @@ TileWindow::TileWindow(QWidget *parent)
 
 QWidget *TileWindow::buildPage()
 {
-    m_canvas->setMinimumHeight(BankSize * TileSize.height());
+    canvas()->setMinimumHeight(BankSize * TileSize.height());
     auto *form = new QFormLayout;
     form->addRow(tr("Tile"), m_number);
     form->addRow(tr("Palette offset"), m_offset);
@@ -71,8 +68,8 @@ QWidget *TileWindow::buildPage()
 
     auto *page = new QWidget;
     auto *layout = new QVBoxLayout(page);
-    layout->addWidget(m_tools);
-    layout->addWidget(new ScrollCanvas(m_canvas), 1);
+    layout->addWidget(tools());
+    layout->addWidget(new ScrollCanvas(canvas()), 1);
     layout->addWidget(m_colours);
     layout->addLayout(form);
     layout->addWidget(attributes);
@@ -82,14 +79,11 @@ QWidget *TileWindow::buildPage()
 
 void TileWindow::connectParts()
 {
-    connect(m_tools, &ToolPalette::actionActivated, m_canvas, &Canvas::setMode);
-    PixelEditing::connectTools(m_tools, m_canvas);
-    connect(m_canvas, &Canvas::imageChanged, this, &TileWindow::imageChanged);
-    connect(m_canvas, &Canvas::edited, this, &TileWindow::pushEdit);
-    connect(m_canvas, &Canvas::foregroundPicked, m_colours, &ColourSelector::setForeIndex);
-    connect(m_canvas, &Canvas::backgroundPicked, m_colours, &ColourSelector::setBackIndex);
-    connect(m_canvas, &Canvas::pixelHovered, this,
-            [this](QPoint pixel, int index) { PixelEditing::showPixel(this, pixel, index, m_palette); });
+    connect(tools(), &ToolPalette::actionActivated, canvas(), &Canvas::setMode);
+    connect(canvas(), &Canvas::imageChanged, this, &TileWindow::imageChanged);
+    connect(canvas(), &Canvas::edited, this, &TileWindow::pushEdit);
+    connect(canvas(), &Canvas::foregroundPicked, m_colours, &ColourSelector::setForeIndex);
+    connect(canvas(), &Canvas::backgroundPicked, m_colours, &ColourSelector::setBackIndex);
     connect(m_number, &NumberStepper::valueChanged, this, [this] {
         loadTile();
         emit tileIndexChanged(tileIndex());
@@ -98,7 +92,7 @@ void TileWindow::connectParts()
     connect(m_colours, &ColourSelector::foreColourChanged, this, &TileWindow::foreColourChanged);
     connect(m_colours, &ColourSelector::backColourChanged, this, &TileWindow::backColourChanged);
     connect(m_colours, &ColourSelector::doubleClicked, m_paletteEditor, &PaletteEditor::setSelectedIndex);
-    PixelEditing::addSwapAction(content(), m_canvas);
+    connectCanvas(content());
 }
 
 // ---- What is shown --------------------------------------------------------------------------
@@ -113,11 +107,12 @@ void TileWindow::setTileSet(const QPointer<TileSet> &tileSet)
     if (m_tileSet)
         m_tileSet->disconnect(this);
     m_tileSet = tileSet;
-    m_canvas->setEnabled(tileSet);
+    canvas()->setEnabled(tileSet);
     setActive(tileSet);
     setWindowTitle(tileSet ? tileSet->name() : tr("Tile Editor"));
     if (m_tileSet) {
-        m_canvas->setTallPixels(m_tileSet->hiRes());
+        canvas()->setTallPixels(m_tileSet->hiRes());
+        setPalette(m_tileSet->palette());
         connect(m_tileSet, &TileSet::nameChanged, this, &QWidget::setWindowTitle);
         connect(m_tileSet, &TileSet::tileChanged, this, [this](int index) {
             if (index == tileIndex() && !m_writing)
@@ -153,7 +148,7 @@ void TileWindow::setPalette(const QPointer<Palette> &palette)
     m_palette = palette;
     if (m_tileSet && m_tileSet->palette() != palette)
         m_tileSet->setPalette(palette);
-    m_canvas->bindPalette(palette);
+    canvas()->bindPalette(palette);
     m_colours->setPalette(palette);
     m_paletteEditor->setPalette(palette);
 }
@@ -164,8 +159,7 @@ void TileWindow::loadTile()
     m_attributes->setTile(m_tileSet, tileIndex());
     if (!tile)
         return;
-    const QScopedValueRollback loading(m_loading, true);
-    m_canvas->setImage(tile->image());
+    load(tile->image());
     showBank(std::clamp(tile->offset(), 0, BankCount - 1) + 1); // a file may hold any offset
 }
 
@@ -176,11 +170,12 @@ void TileWindow::showBank(int bank)
         m_offset->setValue(bank);
     }
     const int base = (bank - 1) * BankSize;
-    m_canvas->setInk(base + m_canvas->ink() % BankSize);
-    m_canvas->setPaper(base + m_canvas->paper() % BankSize);
+    canvas()->setInk(base + canvas()->ink() % BankSize);
+    canvas()->setPaper(base + canvas()->paper() % BankSize);
+    canvas()->setPictureColours(base, BankSize);
     m_colours->setOffset(bank);
-    m_colours->setForeIndex(m_canvas->ink());
-    m_colours->setBackIndex(m_canvas->paper());
+    m_colours->setForeIndex(canvas()->ink());
+    m_colours->setBackIndex(canvas()->paper());
 }
 
 // ---- Edits ----------------------------------------------------------------------------------
@@ -196,8 +191,8 @@ void TileWindow::writeTile(const QPointer<TileSet> &tileSet, int index, const QI
 
 void TileWindow::imageChanged()
 {
-    if (!m_loading)
-        writeTile(m_tileSet, tileIndex(), m_canvas->image());
+    if (!isLoading())
+        writeTile(m_tileSet, tileIndex(), canvas()->image());
 }
 
 void TileWindow::paletteOffsetChanged(int offset)
@@ -205,20 +200,20 @@ void TileWindow::paletteOffsetChanged(int offset)
     if (!m_tileSet)
         return;
     m_tileSet->setTileOffset(tileIndex(), offset - 1);
-    m_canvas->remap(offset);
+    canvas()->remap(offset);
     showBank(offset);
-    writeTile(m_tileSet, tileIndex(), m_canvas->image());
+    writeTile(m_tileSet, tileIndex(), canvas()->image());
 }
 
 void TileWindow::foreColourChanged(int index)
 {
-    m_canvas->setInk(index);
+    canvas()->setInk(index);
     m_paletteEditor->setSelectedIndex(index);
 }
 
 void TileWindow::backColourChanged(int index)
 {
-    m_canvas->setPaper(index);
+    canvas()->setPaper(index);
 }
 
 void TileWindow::pushEdit(const QString &text, const QImage &before, const QImage &after, PixelEditCommand::Kind kind)
@@ -229,47 +224,21 @@ void TileWindow::pushEdit(const QString &text, const QImage &before, const QImag
         if (window)
             window->applyEdit(tileSet, index, image);
     };
-    PixelEditing::push(m_stackFor(m_tileSet->id()), text, before, after, apply,
-                       PixelEditing::mergeKey(m_tileSet->id(), tileIndex()), kind);
+    push(m_stackFor(m_tileSet->id()), text, before, after, apply, mergeKey(m_tileSet->id(), tileIndex()), kind);
 }
 
 void TileWindow::applyEdit(const QPointer<TileSet> &tileSet, int index, const QImage &image)
 {
     if (tileSet && tileSet == m_tileSet && index == tileIndex())
-        m_canvas->setImage(image);
+        canvas()->setImage(image);
     else
         writeTile(tileSet, index, image);
 }
 
-// ---- Edit menu and keys ---------------------------------------------------------------------
-
-void TileWindow::cut()
-{
-    m_canvas->cut();
-}
-
-void TileWindow::copy()
-{
-    m_canvas->copy();
-}
-
-void TileWindow::paste()
-{
-    m_canvas->paste();
-}
-
-void TileWindow::selectAll()
-{
-    m_canvas->selectAll();
-}
-
-void TileWindow::selectNone()
-{
-    m_canvas->selectNone();
-}
+// ---- Keys -------------------------------------------------------------------------------------
 
 bool TileWindow::event(QEvent *event)
 {
-    PixelEditing::scrollByShortcutOverride(m_canvas, event);
+    scrollByShortcutOverride(event);
     return DockWidget::event(event);
 }

@@ -1,23 +1,20 @@
 #pragma once
 
-#include "editors/edittarget.h"
+#include "editors/canvas/pixeleditor.h"
 #include "model/palette.h"
 #include "model/tileset.h"
 #include "ui/dockwidget.h"
 #include "undo/editrecorder.h"
-#include "undo/pixeleditcommand.h"
 
-class Canvas;
 class ColourSelector;
 class NumberStepper;
 class PaletteEditor;
 class QSpinBox;
 class TileAttributesEditor;
-class ToolPalette;
 
 /// The tile editor dock: paints one tile of a tile set, and edits its palette offset, its attributes
 /// and the palette.
-class TileWindow : public DockWidget, public EditTarget
+class TileWindow : public DockWidget, public PixelEditor
 {
     Q_OBJECT
 
@@ -33,13 +30,6 @@ public:
     void setPalette(const QPointer<Palette> &palette);
     /// The tile shown, counted from 0; -1 without a tile set.
     int tileIndex() const;
-    Canvas *canvas() const { return m_canvas; }
-
-    void cut() override;
-    void copy() override;
-    void paste() override;
-    void selectAll() override;
-    void selectNone() override;
 
 public slots:
     /// Writes the canvas's image into the tile.
@@ -73,14 +63,11 @@ private:
 
     QPointer<TileSet> m_tileSet;
     QPointer<Palette> m_palette;
-    Canvas *m_canvas;
-    ToolPalette *m_tools;
     NumberStepper *m_number;
     QSpinBox *m_offset;
     ColourSelector *m_colours;
     TileAttributesEditor *m_attributes;
     PaletteEditor *m_paletteEditor;
     EditRecorder::StackProvider m_stackFor;
-    bool m_loading = false;
     bool m_writing = false;
 };

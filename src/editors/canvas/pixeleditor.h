@@ -1,0 +1,58 @@
+#pragma once
+
+#include "editors/edittarget.h"
+#include "ui/enums.h"
+#include "undo/pixeleditcommand.h"
+
+#include <QList>
+#include <QUuid>
+
+class Canvas;
+class QEvent;
+class QUndoStack;
+class QWidget;
+class ToolPalette;
+
+/// What the tile, sprite and image editors have in common: a canvas with its tool palette, the Edit
+/// menu's requests, and the way of an edit onto an undo stack.
+class PixelEditor : public EditTarget
+{
+public:
+    Canvas *canvas() const { return m_canvas; }
+
+    void cut() override;
+    void copy() override;
+    void paste() override;
+    void selectAll() override;
+    void selectNone() override;
+
+protected:
+    /// The editor takes canvas and tool palette into its layout. The palette offers the tools and actions
+    /// of every canvas, and more after them.
+    PixelEditor(QSize imageSize, Qt::Orientation toolPalette, const QList<Quenmora::Ui::ToolButton> &more);
+
+    ToolPalette *tools() const { return m_tools; }
+
+    /// Lets the tool palette show the tool in use, X exchange the two colours while the keyboard is in
+    /// page, and the window's status line tell the pixel under the pointer.
+    void connectCanvas(QWidget *page);
+
+    /// Shows pixels of the asset; isLoading() tells them from those that were painted.
+    void load(const QImage &pixels);
+    bool isLoading() const { return m_loading; }
+
+    /// Pushes a finished edit; without a stack it stays applied and is not recorded.
+    static void push(QUndoStack *stack, const QString &text, const QImage &before, const QImage &after,
+                     PixelEditCommand::Apply apply, const QVariant &mergeKey, PixelEditCommand::Kind kind);
+    /// Names an element of an asset for merging: steps of one tile or sprite merge, those of two do not.
+    static QString mergeKey(const QUuid &asset, int index);
+
+    /// Scrolls the canvas when event is an arrow key on its way past it. A canvas that has the keyboard
+    /// scrolls by the key press that follows, and is left alone here.
+    void scrollByShortcutOverride(QEvent *event);
+
+private:
+    Canvas *const m_canvas;
+    ToolPalette *const m_tools;
+    bool m_loading = false;
+};
