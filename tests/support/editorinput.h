@@ -7,22 +7,44 @@
 #include <QMenu>
 #include <QTest>
 
-/// What tests of the editors do with the mouse, and the pictures that they do it with.
+/// What tests of the editors do with mouse and menus.
 namespace EditorInput {
 
-/// An indexed picture of one index, with a table of 256 colours.
-inline QImage filled(QSize size, int index)
+/// A mouse over a canvas, which it points at in image pixels.
+struct Mouse
 {
-    QImage image(size, QImage::Format_Indexed8);
-    image.setColorTable(QList<QRgb>(256, qRgb(0, 0, 0)));
-    image.fill(uint(index));
-    return image;
-}
+    Canvas &canvas;
 
-inline void clickPixel(Canvas &canvas, QPoint pixel)
-{
-    QTest::mouseClick(&canvas, Qt::LeftButton, Qt::NoModifier, canvas.geometryInWidget().pointOf(pixel) + QPoint(1, 1));
-}
+    QPoint centreOf(QPoint pixel) const
+    {
+        const QSize cell = canvas.geometryInWidget().cell();
+        return canvas.geometryInWidget().pointOf(pixel) + QPoint(cell.width() / 2, cell.height() / 2);
+    }
+    void send(QEvent::Type type, QPoint pixel, Qt::MouseButtons held, Qt::MouseButton button) const
+    {
+        const QPoint point = centreOf(pixel);
+        QMouseEvent event(type, point, canvas.mapToGlobal(point), button, held, Qt::NoModifier);
+        QApplication::sendEvent(&canvas, &event);
+    }
+    void press(QPoint pixel, Qt::MouseButton button = Qt::LeftButton, Qt::MouseButtons others = {}) const
+    {
+        send(QEvent::MouseButtonPress, pixel, others | button, button);
+    }
+    void move(QPoint pixel, Qt::MouseButtons held = {}) const { send(QEvent::MouseMove, pixel, held, Qt::NoButton); }
+    void release(QPoint pixel, Qt::MouseButton button = Qt::LeftButton, Qt::MouseButtons others = {}) const
+    {
+        send(QEvent::MouseButtonRelease, pixel, others, button);
+    }
+    /// From the first pixel over the others to the last; a click when there is only one.
+    void drag(const QList<QPoint> &pixels, Qt::MouseButton button = Qt::LeftButton) const
+    {
+        move(pixels.first());
+        press(pixels.first(), button);
+        for (const QPoint pixel : pixels.mid(1))
+            move(pixel, button);
+        release(pixels.last(), button);
+    }
+};
 
 inline void trigger(const QMenu &menu, const QString &text)
 {
@@ -46,6 +68,15 @@ inline void drop(QWidget &widget, QPoint from, QPoint to, const QMimeData &data,
     QApplication::sendEvent(&widget, &move);
     QDropEvent dropped(to, Qt::MoveAction, &data, Qt::LeftButton, modifiers);
     QApplication::sendEvent(&widget, &dropped);
+}
+
+/// The wheel turned by delta (120 a notch) with Ctrl held, over the middle of a widget.
+inline void zoomByWheel(QWidget &widget, int delta)
+{
+    const QPointF middle = widget.rect().center();
+    QWheelEvent event(middle, widget.mapToGlobal(middle), {}, {0, delta}, Qt::NoButton, Qt::ControlModifier,
+                      Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&widget, &event);
 }
 
 } // namespace EditorInput

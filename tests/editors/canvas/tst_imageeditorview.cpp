@@ -3,9 +3,11 @@
 #include "editors/canvas/imageimportdialog.h"
 
 #include "support/editorinput.h"
+#include "support/modeltools.h"
 #include "support/testmain.h"
 
 #include <QCheckBox>
+#include <QClipboard>
 #include <QFileDialog>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -18,34 +20,38 @@ namespace {
 struct Fixture
 {
     Palette palette;
-    Image image;
+    std::unique_ptr<Image> image;
     QUndoStack stack;
-    View view;
+    std::unique_ptr<View> view;
     QTemporaryDir folder;
 
-    explicit Fixture(Quenmora::ImageMode mode = Quenmora::LoRes_128x96) : image(mode)
+    explicit Fixture(Quenmora::ImageMode mode = Quenmora::LoRes_128x96) : image(new Image(mode))
     {
         palette.loadStandardNext();
-        image.setPalette(&palette);
-        view.setImage(&image);
-        view.setUndoStack(&stack);
-        view.resize(900, 700);
-        view.show();
+        image->setPalette(&palette);
+        open();
     }
-    void draw(QPoint pixel) { EditorInput::clickPixel(*view.canvas(), pixel); }
-    QString picture(const QString &name, QSize size, QColor colour) const
+    /// Opens a new tab for the image, and closes the one before.
+    void open()
     {
-        QImage picture(size, QImage::Format_RGB32);
-        picture.fill(colour);
-        const QString file = folder.filePath(name);
-        picture.save(file);
-        return file;
+        view = std::make_unique<View>();
+        view->setImage(image.get());
+        view->setUndoStack(&stack);
+        view->resize(900, 700);
+        view->show();
     }
+    void draw(int index) const
+    {
+        view->canvas()->setInk(index);
+        EditorInput::Mouse{*view->canvas()}.drag({{10, 10}});
+    }
+    int stored() const { return image->image().pixelIndex(10, 10); }
     /// Answers the file dialog that an action of the view opens.
-    void choose(Quenmora::Ui::ToolButton action, const QString &file)
+    void choose(Quenmora::Ui::ToolButton action, const QString &file) const
     {
-        QMetaObject::invokeMethod(&view, "changeMode", Q_ARG(Quenmora::Ui::ToolButton, action), Q_ARG(bool, false));
-        for (QFileDialog *dialog : view.findChildren<QFileDialog *>()) {
+        QMetaObject::invokeMethod(view.get(), "changeMode", Q_ARG(Quenmora::Ui::ToolButton, action),
+                                  Q_ARG(bool, false));
+        for (QFileDialog *dialog : view->findChildren<QFileDialog *>()) {
             if (!dialog->isVisible())
                 continue;
             dialog->close();
@@ -66,38 +72,39 @@ private slots:
     void exportsThePicture();
     void importMapsOntoThePalette_data();
     void importMapsOntoThePalette();
-    void importRefusesNonsense();
+    void refusesWhatIsNoPicture();
     void survivesItsImage();
-    void showsUndoOfAnEditMadeInAnotherView();
 };
 
 void TestImageEditorView::strokesReachTheImageAndUndo()
 {
     Fixture f;
-    f.view.canvas()->setInk(77);
-    f.draw({10, 10});
-    QCOMPARE(f.image.image().pixelIndex(10, 10), 77);
+    f.draw(77);
+    QCOMPARE(f.stored(), 77);
     f.stack.undo();
-    QCOMPARE(f.image.image().pixelIndex(10, 10), 0);
+    QCOMPARE(f.stored(), 0);
+    f.stack.redo();
+    f.open(); // undo reaches the image from the next tab as well
+    QCOMPARE(f.view->canvas()->image().pixelIndex(10, 10), 77);
+    f.stack.undo();
+    QCOMPARE(f.view->canvas()->image().pixelIndex(10, 10), 0);
     f.stack.redo();
     Image other(Quenmora::LoRes_128x96);
-    other.setPalette(&f.palette);
-    f.view.setImage(&other);
+    f.view->setImage(&other);
     f.stack.undo();
-    QCOMPARE(f.image.image().pixelIndex(10, 10), 0);
+    QCOMPARE(f.stored(), 0);
+    QCOMPARE(f.stack.count(), 1);
 }
 
 void TestImageEditorView::scratchPictureIsAnnounced()
 {
-    Palette palette;
-    View view;
-    view.resize(900, 700);
-    view.show();
-    QSignalSpy changes(&view, &View::imageChanged);
-    view.setPixels(EditorInput::filled({256, 192}, 3));
-    view.setPalette(&palette);
+    Fixture f;
+    f.view->setImage(nullptr);
+    QSignalSpy changes(f.view.get(), &View::imageChanged);
+    f.view->setPixels(plainImage({256, 192}, 3));
+    f.view->setPalette(&f.palette);
     QVERIFY(changes.isEmpty());
-    QTest::mouseClick(view.canvas(), Qt::LeftButton, Qt::NoModifier, view.canvas()->rect().center());
+    f.draw(5);
     QCOMPARE(changes.count(), 1);
     QCOMPARE(changes[0][0].value<QImage>().size(), QSize(256, 192));
 }
@@ -105,12 +112,10 @@ void TestImageEditorView::scratchPictureIsAnnounced()
 void TestImageEditorView::exportsThePicture()
 {
     Fixture f;
-    QSignalSpy errors(&f.view, &View::error);
-    f.view.canvas()->setInk(0xE0);
-    f.draw({10, 10});
-    const QString file = f.folder.filePath("out.png");
-    f.choose(Quenmora::Ui::Save, file);
-    QCOMPARE(QImage(file).pixelColor(10, 10), QColor(Qt::red));
+    QSignalSpy errors(f.view.get(), &View::error);
+    f.draw(0xE0);
+    f.choose(Quenmora::Ui::Save, f.folder.filePath("out.png"));
+    QCOMPARE(QImage(f.folder.filePath("out.png")).pixelColor(10, 10), QColor(Qt::red));
     f.choose(Quenmora::Ui::Save, f.folder.filePath("no/such/folder/out.png"));
     QCOMPARE(errors.count(), 1);
 }
@@ -121,7 +126,7 @@ void TestImageEditorView::importMapsOntoThePalette_data()
     QTest::addColumn<bool>("scaled");
     QTest::addColumn<int>("corner");
     QTest::addColumn<int>("farCorner");
-    // 0xE0 is red; of the first 16 entries 0x0C, a green, comes nearest to it
+    // 0xE0 is red; of the first 16 entries black comes nearest to it
     QTest::addRow("top left") << Quenmora::LoRes_128x96 << false << 0xE0 << 5;
     QTest::addRow("scaled") << Quenmora::LoRes_128x96 << true << 0xE0 << 0xE0;
     QTest::addRow("16 colours") << Quenmora::Layer2_640x256 << true << 0 << 0;
@@ -132,84 +137,51 @@ void TestImageEditorView::importMapsOntoThePalette()
     QFETCH(Quenmora::ImageMode, mode);
     QFETCH(bool, scaled);
     QFETCH(int, corner);
-    QFETCH(int, farCorner);
     Fixture f(mode);
-    f.image.setImage(EditorInput::filled(f.image.image().size(), 5));
-    f.view.setImage(&f.image);
-    f.choose(Quenmora::Ui::Open, f.picture("in.png", {40, 30}, Qt::red));
-    auto *dialog = f.view.findChild<ImageEditor::ImportDialog *>();
+    const QSize size = f.image->image().size();
+    f.image->setImage(plainImage(size, 5));
+    QImage picture(40, 30, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    QVERIFY(picture.save(f.folder.filePath("in.png")));
+    f.choose(Quenmora::Ui::Open, f.folder.filePath("in.png"));
+    auto *dialog = f.view->findChild<ImageEditor::ImportDialog *>();
     QVERIFY(dialog && dialog->isVisible());
     dialog->findChild<QCheckBox *>()->setChecked(scaled);
     dialog->accept();
-    const QImage result = f.image.image();
-    QCOMPARE(result.pixelIndex(0, 0), corner);
-    QCOMPARE(result.pixelIndex(result.width() - 1, result.height() - 1), farCorner);
-    QCOMPARE(f.stack.count(), 1);
+    QCOMPARE(f.image->image().pixelIndex(0, 0), corner);
+    QTEST(f.image->image().pixelIndex(size.width() - 1, size.height() - 1), "farCorner");
     f.stack.undo();
-    QCOMPARE(f.image.image().pixelIndex(0, 0), 5);
+    QCOMPARE(f.image->image().pixelIndex(0, 0), 5);
+    QVERIFY(!f.stack.canUndo());
+    QApplication::clipboard()->setImage(picture);
+    f.view->paste();
+    QCOMPARE(f.view->canvas()->clipboardImage().pixelIndex(0, 0), corner);
 }
 
-void TestImageEditorView::importRefusesNonsense()
+void TestImageEditorView::refusesWhatIsNoPicture()
 {
     Fixture f;
-    QSignalSpy errors(&f.view, &View::error);
-    QFile nonsense(f.folder.filePath("nonsense.png"));
-    QVERIFY(nonsense.open(QIODevice::WriteOnly));
-    nonsense.write("not a picture");
-    nonsense.close();
-    f.choose(Quenmora::Ui::Open, nonsense.fileName());
+    QSignalSpy errors(f.view.get(), &View::error);
+    QVERIFY(writeFile(f.folder.filePath("nonsense.png"), "not a picture"));
+    f.choose(Quenmora::Ui::Open, f.folder.filePath("nonsense.png"));
     f.choose(Quenmora::Ui::Open, f.folder.path());
-    QCOMPARE(errors,
-             (QList<QVariantList>{{QStringLiteral("Could not read the image file")},
-                                  {QStringLiteral("Could not read the image file")}}));
-    QVERIFY(!f.view.findChild<ImageEditor::ImportDialog *>());
+    const QVariantList refusal{QStringLiteral("Could not read the image file")};
+    QCOMPARE(errors, (QList<QVariantList>{refusal, refusal}));
+    QVERIFY(!f.view->findChild<ImageEditor::ImportDialog *>());
 }
 
 void TestImageEditorView::survivesItsImage()
 {
-    View view;
-    QUndoStack stack;
-    view.setUndoStack(&stack);
-    view.resize(900, 700);
-    view.show();
-    {
-        Palette palette;
-        Image image(Quenmora::Layer2_256x192);
-        image.setPalette(&palette);
-        view.setImage(&image);
-        EditorInput::clickPixel(*view.canvas(), {5, 5});
-        QTest::mousePress(view.canvas(), Qt::LeftButton, Qt::NoModifier, view.canvas()->rect().center());
-    }
-    QVERIFY(view.canvas()->image().isNull());
-    view.canvas()->setMode(Quenmora::Ui::MoveUp);
-    view.grab();
-    stack.undo();
-    QVERIFY(view.canvas()->image().isNull());
-    QTest::mouseRelease(view.canvas(), Qt::LeftButton, Qt::NoModifier, view.canvas()->rect().center());
-}
-
-void TestImageEditorView::showsUndoOfAnEditMadeInAnotherView()
-{
-    QUndoStack stack;
-    Palette palette;
-    Image image(Quenmora::Layer2_256x192);
-    image.setPalette(&palette);
-    {
-        View view;
-        view.setUndoStack(&stack);
-        view.setImage(&image);
-        view.canvas()->setInk(7);
-        view.resize(900, 700);
-        view.show();
-        EditorInput::clickPixel(*view.canvas(), {5, 5});
-    }
-    View view; // the tab was closed and opened again
-    view.setUndoStack(&stack);
-    view.setImage(&image);
-    QCOMPARE(view.canvas()->image().pixelIndex(5, 5), 7);
-    stack.undo();
-    QCOMPARE(view.canvas()->image().pixelIndex(5, 5), 0);
-    QCOMPARE(stack.count(), 1);
+    Fixture f;
+    f.draw(7);
+    const EditorInput::Mouse mouse{*f.view->canvas()};
+    mouse.press({5, 5});
+    f.image.reset();
+    f.view->canvas()->setMode(Quenmora::Ui::MoveUp);
+    f.view->grab();
+    f.stack.undo();
+    QVERIFY(f.view->canvas()->image().isNull());
+    mouse.release({5, 5});
 }
 
 QUENMORA_TEST_MAIN(TestImageEditorView)

@@ -1,42 +1,39 @@
 #include "editors/canvas/layer2image.h"
 
+#include "support/modeltools.h"
 #include "support/testmain.h"
 
 #include <QRandomGenerator>
-#include <QSet>
 #include <QTest>
 
 #include <cmath>
 
 namespace {
 
-constexpr QSize Area(40, 30);
+constexpr QRect Area(0, 0, 40, 30);
 constexpr quint32 Seed = 20261115;
 
-using Pixels = QSet<std::pair<int, int>>;
-
-/// The pixels of the area for which holds() is true.
+/// The pixels of the area, 1 where holds() is true and 0 elsewhere.
 template <typename Predicate>
-Pixels pixelsWhere(Predicate holds)
+QByteArray where(Predicate holds)
 {
-    Pixels found;
-    for (int y = 0; y < Area.height(); ++y) {
-        for (int x = 0; x < Area.width(); ++x) {
-            if (holds(QPoint(x, y)))
-                found.insert({x, y});
-        }
-    }
-    return found;
+    QByteArray pixels;
+    for (int i = 0; i < Area.width() * Area.height(); ++i)
+        pixels += char(holds(QPoint(i % Area.width(), i / Area.width())));
+    return pixels;
 }
 
-Pixels pixelsWith(const Layer2Image &layer, int index)
+template <typename... Arguments>
+QByteArray drawn(void (Layer2Image::*draw)(Arguments...), Arguments... arguments)
 {
-    return pixelsWhere([&](QPoint pixel) { return layer.rect().contains(pixel) && layer.pixelIndex(pixel) == index; });
+    Layer2Image layer(Area.size());
+    (layer.*draw)(arguments...);
+    return indices(layer.image());
 }
 
-/// The pixels of a line by the closed formula: step k along the longer side has moved across by the
-/// distance to the ideal line rounded half down.
-Pixels naiveLine(QPoint from, QPoint to)
+/// A line by the closed formula: step k along the longer side has moved across by the distance to the
+/// ideal line rounded half down.
+QByteArray naiveLine(QPoint from, QPoint to)
 {
     const bool steep = std::abs(to.y() - from.y()) > std::abs(to.x() - from.x());
     if (steep) {
@@ -47,15 +44,11 @@ Pixels naiveLine(QPoint from, QPoint to)
         std::swap(from, to);
     const int dx = to.x() - from.x();
     const int dy = std::abs(to.y() - from.y());
-    Pixels pixels;
-    for (int k = 0; k <= dx; ++k) {
-        const int across = dx == 0 ? 0 : std::max(0, int(std::ceil((2.0 * k * dy - dx) / (2.0 * dx))));
-        const QPoint along(from.x() + k, from.y() + (from.y() < to.y() ? across : -across));
-        const QPoint pixel = steep ? along.transposed() : along;
-        if (QRect(QPoint(), Area).contains(pixel))
-            pixels.insert({pixel.x(), pixel.y()});
-    }
-    return pixels;
+    return where([&](QPoint pixel) {
+        const QPoint p = (steep ? pixel.transposed() : pixel) - from;
+        const int across = dx == 0 ? 0 : std::max(0, int(std::ceil((2.0 * p.x() * dy - dx) / (2.0 * dx))));
+        return p.x() >= 0 && p.x() <= dx && p.y() == (from.y() < to.y() ? across : -across);
+    });
 }
 
 QPoint randomPoint(QRandomGenerator &random)
@@ -80,14 +73,13 @@ private slots:
 
 void TestLayer2Image::linesMatchTheFormula()
 {
-    QCOMPARE(naiveLine({0, 0}, {5, 2}), (Pixels{{0, 0}, {1, 0}, {2, 1}, {3, 1}, {4, 2}, {5, 2}}));
+    const QList<QPoint> example{{0, 0}, {1, 0}, {2, 1}, {3, 1}, {4, 2}, {5, 2}};
+    QCOMPARE(naiveLine({0, 0}, {5, 2}), where([&](QPoint pixel) { return example.contains(pixel); }));
     QRandomGenerator random(Seed);
     for (int i = 0; i < 2000; ++i) {
         const QPoint from = randomPoint(random);
         const QPoint to = i % 50 == 0 ? from : randomPoint(random);
-        Layer2Image layer(Area);
-        layer.drawLine(from, to);
-        if (pixelsWith(layer, 1) != naiveLine(from, to))
+        if (drawn(&Layer2Image::drawLine, from, to) != naiveLine(from, to))
             QFAIL(qPrintable(QDebug::toString(QLine(from, to))));
     }
 }
@@ -98,28 +90,22 @@ void TestLayer2Image::rectanglesAreClipped()
     for (int i = 0; i < 500; ++i) {
         const QRect rect(randomPoint(random), QSize(random.bounded(1, 45), random.bounded(1, 35)));
         const QRect inner = rect.adjusted(1, 1, -1, -1);
-        Layer2Image drawn(Area);
-        drawn.drawRectangle(rect);
-        QCOMPARE(pixelsWith(drawn, 1),
-                 pixelsWhere([&](QPoint p) { return rect.contains(p) && !(inner.isValid() && inner.contains(p)); }));
-        Layer2Image full(Area);
-        full.fillRectangle(rect, 7);
-        QCOMPARE(pixelsWith(full, 7), pixelsWhere([&](QPoint p) { return rect.contains(p); }));
+        QCOMPARE(drawn(&Layer2Image::drawRectangle, rect),
+                 where([&](QPoint p) { return rect.contains(p) && !(inner.isValid() && inner.contains(p)); }));
+        QCOMPARE(drawn(&Layer2Image::fillRectangle, rect, 1), where([&](QPoint p) { return rect.contains(p); }));
     }
 }
 
 void TestLayer2Image::ellipsesMatchTheExamples()
 {
-    const std::pair<QRect, Pixels> examples[] = {
+    const std::pair<QRect, QList<QPoint>> examples[] = {
         {{3, 4, 1, 1}, {{3, 4}}},
         {{0, 0, 1, 3}, {{0, 0}, {0, 1}, {0, 2}}},
         {{0, 0, 5, 3}, {{2, 0}, {1, 0}, {3, 0}, {0, 1}, {4, 1}, {1, 2}, {2, 2}, {3, 2}}},
     };
-    for (const auto &[rect, expected] : examples) {
-        Layer2Image layer(Area);
-        layer.drawEllipse(rect);
-        QCOMPARE(pixelsWith(layer, 1), expected);
-    }
+    for (const auto &example : examples)
+        QCOMPARE(drawn(&Layer2Image::drawEllipse, example.first),
+                 where([&](QPoint pixel) { return example.second.contains(pixel); }));
 }
 
 void TestLayer2Image::ellipsesAreClosedSymmetricOutlines()
@@ -127,24 +113,23 @@ void TestLayer2Image::ellipsesAreClosedSymmetricOutlines()
     QRandomGenerator random(Seed);
     for (int i = 0; i < 500; ++i) {
         const QRect rect(0, 0, random.bounded(3, Area.width()), random.bounded(3, Area.height()));
-        Layer2Image layer(Area);
-        layer.drawEllipse(rect);
-        const Pixels pixels = pixelsWith(layer, 1);
+        const QByteArray pixels = drawn(&Layer2Image::drawEllipse, rect);
+        const auto at = [&](int x, int y) { return rect.contains(x, y) && pixels[y * Area.width() + x]; };
         const double rx = (rect.width() - 1) / 2.0;
         const double ry = (rect.height() - 1) / 2.0;
-        QSet<int> rows;
-        for (const auto &[x, y] : pixels) {
-            QVERIFY(pixels.contains({rect.right() - x, y}));
-            QVERIFY(pixels.contains({x, rect.bottom() - y}));
-            // Within a pixel of the ideal ellipse: one step inward lies inside it, one outward outside.
-            const auto beyond = [rx, ry, dx = std::abs(x - rx), dy = std::abs(y - ry)](double step) {
+        QVERIFY(where([&](QPoint p) { return at(rect.right() - p.x(), p.y()); }) == pixels);
+        QVERIFY(where([&](QPoint p) { return at(p.x(), rect.bottom() - p.y()); }) == pixels);
+        for (int y = 0; y < rect.height(); ++y)
+            QVERIFY(pixels.mid(y * Area.width(), Area.width()).contains('\1'));
+        // Within a pixel of the ideal ellipse: one step inward lies inside it, one outward outside.
+        const QByteArray near = where([&](QPoint p) {
+            const auto beyond = [rx, ry, dx = std::abs(p.x() - rx), dy = std::abs(p.y() - ry)](double step) {
                 return std::hypot(std::max(0.0, dx + step) / rx, std::max(0.0, dy + step) / ry) - 1;
             };
-            if (beyond(-1) > 0 || beyond(1) < 0)
-                QFAIL(qPrintable(QDebug::toString(rect)));
-            rows.insert(y);
-        }
-        QCOMPARE(rows.size(), rect.height());
+            return beyond(-1) <= 0 && beyond(1) >= 0;
+        });
+        for (qsizetype p = 0; p < pixels.size(); ++p)
+            QVERIFY(near[p] || !pixels[p]);
     }
 }
 
@@ -152,35 +137,36 @@ void TestLayer2Image::floodFillStaysInItsRegion()
 {
     QRandomGenerator random(Seed);
     for (int i = 0; i < 50; ++i) {
-        Layer2Image layer(Area);
-        pixelsWhere([&](QPoint pixel) {
-            layer.setPixel(pixel, random.bounded(5) < 3 ? 0 : 2);
-            return false;
-        });
+        Layer2Image layer(Area.size());
+        for (int p = 0; p < Area.width() * Area.height(); ++p)
+            layer.setPixel({p % Area.width(), p / Area.width()}, random.bounded(5) < 3 ? 0 : 2);
         const QPoint start(random.bounded(Area.width()), random.bounded(Area.height()));
+        const int target = layer.pixelIndex(start);
 
         // The region grown ring by ring until nothing is added.
-        const Pixels equal = pixelsWith(layer, layer.pixelIndex(start));
-        Pixels region{{start.x(), start.y()}};
+        QSet<QPoint> region{start};
         for (qsizetype size = 0; size != region.size();) {
             size = region.size();
-            for (const auto &[x, y] : Pixels(region))
-                region |= Pixels{{x + 1, y}, {x - 1, y}, {x, y + 1}, {x, y - 1}} & equal;
+            for (const QPoint p : QSet<QPoint>(region)) {
+                for (const QPoint next : {p + QPoint(1, 0), p - QPoint(1, 0), p + QPoint(0, 1), p - QPoint(0, 1)}) {
+                    if (Area.contains(next) && layer.pixelIndex(next) == target)
+                        region.insert(next);
+                }
+            }
         }
         layer.floodFill(start, 9);
-        QCOMPARE(pixelsWith(layer, 9), region);
+        QCOMPARE(where([&](QPoint p) { return layer.pixelIndex(p) == 9; }),
+                 where([&](QPoint p) { return region.contains(p); }));
     }
-    Layer2Image layer(Area);
-    layer.floodFill({-1, 0}, 3);
-    layer.floodFill({Area.width(), 0}, 3);
-    QVERIFY(pixelsWith(layer, 3).isEmpty());
+    for (const QPoint outside : {QPoint(-1, 0), QPoint(Area.width(), 0)})
+        QVERIFY(!drawn(&Layer2Image::floodFill, outside, 1).contains('\1'));
 }
 
 void TestLayer2Image::takesOtherFormatsAsIndices()
 {
-    QImage bits(Area, QImage::Format_Mono);
+    QImage bits(Area.size(), QImage::Format_Mono);
     bits.fill(1);
-    Layer2Image layer(Area);
+    Layer2Image layer(Area.size());
     layer.setImage(bits);
     layer.setPixel({39, 29}, 200); // beyond the row of a one-bit picture
     QCOMPARE(layer.pixelIndex({39, 29}), 200);
