@@ -404,12 +404,10 @@ void DocumentController::forget(ProjectTree::ProjectNode node, const QUuid &id)
         m_views.menuBar->paletteMenu()->setPalette(nullptr);
         break;
     case ProjectTree::TileSetNode:
-        if (!m_views.tileEditor->tileSet())
-            showTileSet(nullptr);
+        showTileSet(nullptr);
         break;
     case ProjectTree::SpriteBankNode:
-        if (!m_views.spriteEditor->sprites())
-            showSprites(nullptr);
+        showSprites(nullptr);
         break;
     case ProjectTree::MapNode:
         m_views.menuBar->mapMenu()->setMap(nullptr);

@@ -56,7 +56,7 @@ public slots:
     void setActiveImageEditor(QUuid imageId);
     void scratchEditorActivated();
 
-    /// Clears the docks and menus that showed an asset which has been deleted.
+    /// Clears the docks and menus of an asset's kind, whichever they show: this one has been deleted.
     void forget(ProjectTree::ProjectNode node, const QUuid &id);
 
 signals:
