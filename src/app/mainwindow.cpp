@@ -20,6 +20,8 @@
 #include <QStatusBar>
 #include <QToolBar>
 
+#include <algorithm>
+
 namespace {
 
 constexpr QSize DefaultSize(1024, 768);
@@ -315,10 +317,11 @@ void MainWindow::messageChanged(const QString &message)
 void MainWindow::showTile(int index)
 {
     const QPointer<TileSet> tileSet = m_tileEditor.tileSet();
-    if (!tileSet || index < 0 || index >= tileSet->count())
+    if (!tileSet || tileSet->count() == 0)
         return;
-    m_tileEditor.setTileIndex(index + 1); // a tile number
-    m_tilePicker.setSelectedIndex(index);
+    const int tile = std::clamp(index, 0, tileSet->count() - 1);
+    m_tileEditor.setTileIndex(tile + 1); // a tile number
+    m_tilePicker.setSelectedIndex(tile);
 }
 
 void MainWindow::nextTile()

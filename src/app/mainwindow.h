@@ -86,6 +86,7 @@ private:
     void onProjectOpened(Project *project);
     void onProjectClosing();
     void onProjectClosed();
+    /// Shows a tile in the tile editor and the tile picker, the first or the last one for an index beyond.
     void showTile(int index);
 
     ProjectWindow m_projectDock;

@@ -4,6 +4,7 @@
 #include "app/menus/viewmenu.h"
 #include "app/startpage.h"
 #include "editors/canvas/imageeditorview.h"
+#include "editors/canvas/tilepickergrid.h"
 #include "model/map.h"
 #include "model/mapobjects.h"
 #include "model/spritebank.h"
@@ -19,6 +20,7 @@
 #include <QDropEvent>
 #include <QJsonDocument>
 #include <QMimeData>
+#include <QSignalSpy>
 #include <QStatusBar>
 #include <QTabBar>
 #include <QTemporaryDir>
@@ -37,19 +39,15 @@ private slots:
     void init();
     void cleanup() { m_window.reset(); }
 
-    void startsWithoutAProject();
     void placesTheDocks();
-    void survivesDamagedState_data();
     void survivesDamagedState();
     void keepsStateBetweenRuns();
     void staysOpenWhenToldTo();
     void saysHowToGoOnWithoutDocuments();
     void followsTheLifeOfAProject();
-    void tellsWhatFailed();
-    void showsTheProjectWhenAMessageEnds();
+    void tellsInStatusBarAndDialog();
     void opensADroppedProject();
-    void stepsThroughTiles();
-    void swapsPalettes();
+    void doesWhatTheTilesMenuAsks();
     void isReachedByTheKeyboard();
     void namesItsIconButtons();
 
@@ -61,6 +59,7 @@ private:
     }
     /// The path of a project file made of the sample project.
     [[nodiscard]] QString sampleFile();
+    void verifyWithoutProject();
     bool drop(const QList<QUrl> &urls);
 
     std::optional<QTemporaryDir> m_folder;
@@ -83,71 +82,54 @@ QString TestMainWindow::sampleFile()
     return store.saveAs(file) ? file : QString();
 }
 
-void TestMainWindow::startsWithoutAProject()
-{
-    QVERIFY(m_window->isVisible());
-    QCOMPARE(m_window->size(), QSize(1024, 768));
-    QCOMPARE(m_window->windowTitle(), QCoreApplication::applicationName());
-    QCOMPARE(m_window->views().tabs->count(), 0);
-    QVERIFY(!m_window->views().mapToolBar->isEnabled());
-    QVERIFY(!m_window->views().project->isActive());
-    QCOMPARE(m_window->statusBar()->currentMessage(), m_window->windowTitle());
-    const ViewMenu *view = m_window->menus()->viewMenu();
-    QVERIFY(view->isChecked(ViewMenu::CheckableItem::StatusBar));
-    QVERIFY(!view->isChecked(ViewMenu::CheckableItem::ScratchEditor));
-}
-
 void TestMainWindow::placesTheDocks()
 {
+    struct Place
+    {
+        QDockWidget *dock;
+        const char *name; // by which the stored layout knows it
+        Qt::DockWidgetArea area;
+    };
     const DocumentViews &views = m_window->views();
-    const QList<std::pair<QDockWidget *, const char *>> docks{
-        {views.project, "ProjectWindow"},      {views.palette, "paletteWindow"},
-        {views.tileEditor, "TileEditor"},      {views.spriteEditor, "SpriteEditor"},
-        {views.tilePicker, "TilePickerTool"},  {views.mapObjects, "TileListWindow"},
-        {views.mapSprites, "MapSpritesWindow"}};
-    const QList<Qt::DockWidgetArea> areas{Qt::LeftDockWidgetArea,  Qt::RightDockWidgetArea,  Qt::RightDockWidgetArea,
-                                          Qt::RightDockWidgetArea, Qt::BottomDockWidgetArea, Qt::LeftDockWidgetArea,
-                                          Qt::LeftDockWidgetArea};
-    const auto verify = [&] {
-        for (qsizetype index = 0; index < docks.size(); ++index) {
-            QDockWidget *dock = docks[index].first;
-            QCOMPARE(dock->objectName(), docks[index].second);
-            QCOMPARE(m_window->dockWidgetArea(dock), areas[index]);
+    const Place places[]{{views.project, "ProjectWindow", Qt::LeftDockWidgetArea},
+                         {views.palette, "paletteWindow", Qt::RightDockWidgetArea},
+                         {views.tileEditor, "TileEditor", Qt::RightDockWidgetArea},
+                         {views.spriteEditor, "SpriteEditor", Qt::RightDockWidgetArea},
+                         {views.tilePicker, "TilePickerTool", Qt::BottomDockWidgetArea},
+                         {views.mapObjects, "TileListWindow", Qt::LeftDockWidgetArea},
+                         {views.mapSprites, "MapSpritesWindow", Qt::LeftDockWidgetArea}};
+    for (int time = 0; time < 2; ++time) {
+        for (const auto &[dock, name, area] : places) {
+            QCOMPARE(dock->objectName(), name);
+            QCOMPARE(m_window->dockWidgetArea(dock), area);
             QVERIFY(!dock->isFloating() && !dock->isHidden());
         }
         QCOMPARE(m_window->tabifiedDockWidgets(views.palette).size(), 2);
         QCOMPARE(m_window->tabifiedDockWidgets(views.mapObjects), QList<QDockWidget *>{views.mapSprites});
-    };
-    verify();
-    views.project->setFloating(true);
-    views.tilePicker->close();
-    m_window->addDockWidget(Qt::LeftDockWidgetArea, views.palette);
-    emit m_window->menus()->viewMenu()->resetLayout();
-    verify();
-}
-
-void TestMainWindow::survivesDamagedState_data()
-{
-    QTest::addColumn<QByteArray>("state");
-    QTest::newRow("not JSON") << QByteArray("{\"windowState\": ");
-    QTest::newRow("foreign types") << QByteArray(
-        R"({"windowState": 1, "windowGeometry": [], "tileZoom": "x", "recent": {}, "lastPath": null})");
-    QTest::newRow("foreign bytes") << QByteArray(
-        R"({"windowState": "AAAA/wAAAAD9", "windowGeometry": "AAAAAAAAAAA=", "tileZoom": -5, "recent": [1, null]})");
+        views.project->setFloating(true);
+        views.tilePicker->close();
+        m_window->addDockWidget(Qt::LeftDockWidgetArea, views.palette);
+        emit m_window->menus()->viewMenu()->resetLayout();
+    }
 }
 
 void TestMainWindow::survivesDamagedState()
 {
-    QFETCH(const QByteArray, state);
-    m_window.reset();
-    QVERIFY(ArchiveTools::writeFile(statePath("state.json"), state));
-    QVERIFY(ArchiveTools::writeFile(statePath("preferences.json"), "[1, "));
-    m_window.emplace();
-    QVERIFY(m_window->isVisible());
-    QCOMPARE(m_window->size(), QSize(1024, 768));
-    QCOMPARE(m_window->dockWidgetArea(m_window->views().palette), Qt::RightDockWidgetArea);
-    QVERIFY(m_window->close());
-    QVERIFY(!QJsonDocument::fromJson(ArchiveTools::fileBytes(statePath("state.json"))).isNull());
+    for (
+        const char *state :
+        {"{\"windowState\": ", // not JSON, foreign types, foreign bytes
+         R"({"windowState": 1, "windowGeometry": [], "tileZoom": "x", "recent": {}, "lastPath": null})",
+         R"({"windowState": "AAAA/wAAAAD9", "windowGeometry": "AAAAAAAAAAA=", "tileZoom": -5, "recent": [1, null]})"}) {
+        m_window.reset();
+        QVERIFY(ArchiveTools::writeFile(statePath("state.json"), state));
+        QVERIFY(ArchiveTools::writeFile(statePath("preferences.json"), "[1, "));
+        m_window.emplace();
+        QVERIFY(m_window->isVisible());
+        QCOMPARE(m_window->size(), QSize(1024, 768));
+        QCOMPARE(m_window->dockWidgetArea(m_window->views().palette), Qt::RightDockWidgetArea);
+        QVERIFY(m_window->close());
+        QVERIFY(!QJsonDocument::fromJson(ArchiveTools::fileBytes(statePath("state.json"))).isNull());
+    }
 }
 
 void TestMainWindow::keepsStateBetweenRuns()
@@ -211,56 +193,61 @@ void TestMainWindow::saysHowToGoOnWithoutDocuments()
     QVERIFY(button("New project")->isVisible());
 }
 
+void TestMainWindow::verifyWithoutProject()
+{
+    const DocumentViews &views = m_window->views();
+    QCOMPARE(m_window->windowTitle(), QCoreApplication::applicationName());
+    QCOMPARE(m_window->statusBar()->currentMessage(), m_window->windowTitle());
+    QVERIFY(views.tabs->count() == 0 && views.tabs->isEnabled());
+    QVERIFY(!views.mapToolBar->isEnabled());
+    QVERIFY(!m_window->menus()->viewMenu()->isChecked(ViewMenu::CheckableItem::ScratchEditor));
+    for (const DockWidget *dock : m_window->findChildren<DockWidget *>())
+        QVERIFY2(!dock->isActive(), qPrintable(dock->objectName()));
+}
+
 void TestMainWindow::followsTheLifeOfAProject()
 {
     const DocumentViews &views = m_window->views();
+    QVERIFY(m_window->isVisible());
+    QCOMPARE(m_window->size(), QSize(1024, 768));
+    verifyWithoutProject();
     controller()->openProject(sampleFile());
     QVERIFY(m_window->windowTitle().endsWith(" - Sample"));
     QVERIFY(views.project->isActive());
     QCOMPARE(views.tabs->currentWidget(), views.tabs->scratchEditor());
-    QVERIFY(m_window->menus()->viewMenu()->isChecked(ViewMenu::CheckableItem::ScratchEditor));
+    const ViewMenu *menu = m_window->menus()->viewMenu();
+    QVERIFY(menu->isChecked(ViewMenu::CheckableItem::ScratchEditor));
     m_window->documentController()->setActiveMap(controller()->project()->maps().first()->id());
     QVERIFY(views.tileEditor->isActive());
     views.tabs->closeTab(0);
-    QVERIFY(!m_window->menus()->viewMenu()->isChecked(ViewMenu::CheckableItem::ScratchEditor));
-
+    QVERIFY(!menu->isChecked(ViewMenu::CheckableItem::ScratchEditor));
     controller()->close();
-    QCOMPARE(m_window->windowTitle(), QCoreApplication::applicationName());
-    QCOMPARE(views.tabs->count(), 0);
-    QVERIFY(views.tabs->isEnabled());
-    for (const DockWidget *dock : std::initializer_list<DockWidget *>{
-             views.project, views.palette, views.tileEditor, views.spriteEditor, views.tilePicker, views.mapObjects})
-        QVERIFY(!dock->isActive());
-    QVERIFY(!views.mapToolBar->isEnabled());
+    verifyWithoutProject();
 }
 
-void TestMainWindow::tellsWhatFailed()
+void TestMainWindow::tellsInStatusBarAndDialog()
 {
     controller()->openProject(m_folder->filePath("gone.quenmora")); // as a recent file that is gone
     QVERIFY(m_window->messageDialog()->isVisible());
     QCOMPARE(m_window->messageDialog()->windowTitle(), "Warning!");
     QCOMPARE(m_window->messageDialog()->text(), "Invalid project file");
     m_window->messageDialog()->accept();
-
     controller()->newProject("Game");
     emit controller()->project()->error("Told by the project");
     QCOMPARE(m_window->messageDialog()->text(), "Told by the project");
-}
 
-void TestMainWindow::showsTheProjectWhenAMessageEnds()
-{
-    controller()->newProject("Game");
-    QCOMPARE(m_window->statusBar()->currentMessage(), m_window->windowTitle());
+    const auto shown = [this] { return m_window->statusBar()->currentMessage(); };
+    QCOMPARE(shown(), m_window->windowTitle());
     controller()->project()->createPalette(CreateAction::Blank, "Main");
-    QCOMPARE(m_window->statusBar()->currentMessage(), "New palette added: Main");
+    QCOMPARE(shown(), "New palette added: Main");
     m_window->statusBar()->clearMessage();
-    QCOMPARE(m_window->statusBar()->currentMessage(), m_window->windowTitle());
+    QCOMPARE(shown(), m_window->windowTitle());
     const QString file = m_folder->filePath("game.quenmora");
     controller()->setFileNameCallback([file] { return file; });
     controller()->save();
-    QCOMPARE(m_window->statusBar()->currentMessage(), "Saved Game to " + file);
+    QCOMPARE(shown(), "Saved Game to " + file);
     m_window->statusBar()->clearMessage();
-    QCOMPARE(m_window->statusBar()->currentMessage(), "Game [" + file + "]");
+    QCOMPARE(shown(), "Game [" + file + "]");
 }
 
 bool TestMainWindow::drop(const QList<QUrl> &urls)
@@ -294,39 +281,34 @@ void TestMainWindow::opensADroppedProject()
     QCOMPARE(controller()->filePath(), file);
 }
 
-void TestMainWindow::stepsThroughTiles()
+void TestMainWindow::doesWhatTheTilesMenuAsks()
 {
     m_window->nextTile(); // without a tile set
     controller()->newProject("Game");
-    const QPointer<TileSet> tiles = controller()->project()->createTileSet("Tiles", {}, 3);
-    m_window->documentController()->setActiveTileSet(tiles->id());
-    const TileWindow *editor = m_window->views().tileEditor;
-    QList<int> visited;
-    for (int step = 0; step < 3; ++step) {
-        m_window->nextTile();
-        visited.append(editor->tileIndex());
-    }
-    for (int step = 0; step < 3; ++step) {
-        m_window->previousTile();
-        visited.append(editor->tileIndex());
-    }
-    QCOMPARE(visited, (QList<int>{1, 2, 2, 1, 0, 0}));
-}
-
-void TestMainWindow::swapsPalettes()
-{
-    controller()->newProject("Game");
     Project *project = controller()->project();
-    const QPointer<TileSet> tiles = project->createTileSet("Tiles", {});
+    const QPointer<TileSet> tiles = project->createTileSet("Tiles", {}, 3);
     const QPointer<SpriteBank> bank = project->createSpriteBank(Quenmora::FourBit, "Hero", {});
     const QPointer<Palette> palette = project->createPalette(CreateAction::DefaultNext, "New");
     m_window->documentController()->setActiveTileSet(tiles->id());
     m_window->documentController()->setActiveSpriteEditor(bank->id());
+    const DocumentViews &views = m_window->views();
+    QList<int> visited;
+    for (const auto step : {&MainWindow::nextTile, &MainWindow::previousTile}) {
+        for (int time = 0; time < 3; ++time) {
+            ((*m_window).*step)();
+            visited.append(views.tileEditor->tileIndex());
+            QCOMPARE(views.tilePicker->grid()->selectedIndex(), visited.last());
+        }
+    }
+    QCOMPARE(visited, (QList<int>{1, 2, 2, 1, 0, 0}));
+
+    QSignalSpy changed(tiles, &TileSet::tileChanged);
     m_window->changeTilePalette(QUuid::createUuid());
-    QVERIFY(tiles->palette() && tiles->palette() != palette);
+    QVERIFY(tiles->palette() != palette && changed.isEmpty());
     m_window->changeTilePalette(palette->id());
     m_window->changeSpritePalette(palette->id());
     QCOMPARE(tiles->palette(), palette);
+    QCOMPARE(changed.size(), 1); // which repaints what shows tiles
     QCOMPARE(bank->palette(), palette);
 }
 

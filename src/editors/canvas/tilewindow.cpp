@@ -146,11 +146,16 @@ void TileWindow::setTileIndex(int index)
 void TileWindow::setPalette(const QPointer<Palette> &palette)
 {
     m_palette = palette;
-    if (m_tileSet && m_tileSet->palette() != palette)
+    const bool swapped = m_tileSet && m_tileSet->palette() != palette;
+    if (swapped)
         m_tileSet->setPalette(palette);
     canvas()->bindPalette(palette);
     m_colours->setPalette(palette);
     m_paletteEditor->setPalette(palette);
+    if (swapped) {
+        const QScopedValueRollback writing(m_writing, true); // what the canvas holds is no other picture
+        m_tileSet->notifyImageChanged(tileIndex()); // but whatever shows tiles draws them in other colours
+    }
 }
 
 void TileWindow::loadTile()
