@@ -3,7 +3,7 @@
 // says for how long to go on.
 
 #include "model/animatedblocks.h"
-#include "store/projectdocument.h"
+#include "support/modeltools.h"
 #include "support/projectmembers.h"
 #include "support/randomuser.h"
 #include "support/testmain.h"
@@ -12,15 +12,12 @@
 
 #include <QElapsedTimer>
 #include <QHashSeed>
-#include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QUndoGroup>
 #include <QUndoStack>
 
 #include <algorithm>
 #include <cstdio>
-#include <cstring>
 #include <optional>
 
 namespace {
@@ -45,10 +42,8 @@ QtMessageHandler s_previousHandler = nullptr;
 /// Keeps what Qt and the program complain about.
 void collectWarnings(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
-    if (type == QtInfoMsg || type == QtDebugMsg)
-        return;
-    if (message.startsWith("This plugin does not support"))
-        return; // of the platform without a display
+    if (type == QtInfoMsg || type == QtDebugMsg || message.startsWith("This plugin does not support"))
+        return; // the last of the platform without a display
     if (type == QtWarningMsg)
         s_warnings.append(message);
     s_previousHandler(type, context, message);
@@ -59,13 +54,8 @@ ProjectMembers contentOf(const Project &project)
 {
     ProjectMembers members = ProjectFile::withoutSpriteFrameIds(serializeProject(project, false));
     for (auto member = members.begin(); member != members.end(); ++member) {
-        if (!member.key().endsWith(".png"))
-            continue;
-        const QImage picture = QImage::fromData(member.value());
-        QByteArray pixels;
-        for (int y = 0; y < picture.height(); ++y)
-            pixels.append(reinterpret_cast<const char *>(picture.constScanLine(y)), picture.bytesPerLine());
-        member.value() = pixels;
+        if (member.key().endsWith(".png"))
+            member.value() = indices(QImage::fromData(member.value()));
     }
     return members;
 }
@@ -80,31 +70,36 @@ QString difference(const ProjectMembers &before, const ProjectMembers &after)
         const QByteArray &is = after[member.key()];
         if (was == is)
             continue;
-        qsizetype at = 0;
-        while (at < std::min(was.size(), is.size()) && was.at(at) == is.at(at))
-            ++at;
-        const qsizetype from = std::max<qsizetype>(at - 200, 0);
-        QString text =
-            QStringLiteral("%1 at byte %2 (sizes %3 and %4)").arg(member.key()).arg(at).arg(was.size()).arg(is.size());
-        if (!member.key().endsWith(".json"))
-            text += ": " + was.mid(at, 16).toHex() + " and " + is.mid(at, 16).toHex();
-        else
-            text += "\nwas " + was.mid(from, 260) + "\nis  " + is.mid(from, 260);
-        return text;
+        const auto at = std::mismatch(was.cbegin(), was.cend(), is.cbegin(), is.cend()).first - was.cbegin();
+        const auto part = [from = std::max<qsizetype>(at - 200, 0)](const QByteArray &bytes, bool text) {
+            return text ? bytes.mid(from, 260) : bytes.mid(from, 260).toHex(' ');
+        };
+        const bool text = member.key().endsWith(".json");
+        return QStringLiteral("%1 at byte %2\nwas %3\nis  %4")
+            .arg(member.key(), QString::number(at), part(was, text), part(is, text));
     }
     return {};
 }
 
-bool samePixels(const QImage &a, const QImage &b)
+/// What does not hold, a line each.
+class Problems
 {
-    if (a.size() != b.size())
-        return false;
-    for (int y = 0; y < a.height(); ++y) {
-        if (memcmp(a.constScanLine(y), b.constScanLine(y), std::size_t(a.width())) != 0)
-            return false;
+public:
+    void expect(bool holds, const QString &problem)
+    {
+        if (!holds)
+            m_lines.append(problem);
     }
-    return true;
-}
+    void expectSame(const ProjectMembers &before, const ProjectMembers &after, const QString &when)
+    {
+        const QString changed = difference(before, after);
+        expect(changed.isEmpty(), when + ": " + changed);
+    }
+    [[nodiscard]] QString text() const { return m_lines.join('\n'); }
+
+private:
+    QStringList m_lines;
+};
 
 } // namespace
 
@@ -126,18 +121,20 @@ private slots:
 
 private:
     Project &project() { return *m_window->projectController()->project(); }
+    QUndoStack *stackOf(const QUuid &id) { return m_window->documentController()->undoStackFor(id); }
     QList<QUuid> documents();
     QHash<QUuid, int> stackIndices();
     void startJournal();
     void record();
     QString step(RandomUser &user);
 
-    // Each returns what is wrong, or nothing.
-    QString checkReferences();
-    QString checkViews();
-    QString checkMessages();
-    QString checkUndo(int depth);
-    QString checkSaving(bool reopen);
+    void checkMessages(Problems &problems);
+    void checkReferences(Problems &problems);
+    void checkMaps(Problems &problems);
+    void checkViews(Problems &problems);
+    void checkUndo(Problems &problems, qsizetype depth);
+    void checkSaving(Problems &problems);
+    void reopen(Problems &problems);
 
     QTemporaryDir m_folder;
     std::optional<MainWindow> m_window;
@@ -155,6 +152,11 @@ void TestRandomActions::initTestCase()
     Update::UpdateChecker::setFeedAddress({});
     EditClock::setSource([this] { return m_time; });
     s_previousHandler = qInstallMessageHandler(collectWarnings);
+    m_window.emplace();
+    m_window->projectController()->setUnsavedAnswerCallback([](const QString &) { return ProjectController::Discard; });
+    m_window->projectController()->setFileNameCallback([this] { return m_folder.filePath("game.quenmora"); });
+    m_window->projectController()->newProject("Game");
+    s_warnings.clear();
 }
 
 void TestRandomActions::cleanupTestCase()
@@ -171,32 +173,24 @@ void TestRandomActions::holdsWhateverIsDone()
     // A run among all tests does the same everywhere; one by hand looks for something new.
     if (!given)
         seed = secondsAsked() > 0 ? QRandomGenerator::system()->generate() : UsualSeed;
-    const qint64 milliseconds = millisecondsToAct();
     std::printf("Random actions with QUENMORA_SEED=%u\n", seed);
     std::fflush(stdout);
 
-    m_window.emplace();
-    m_window->projectController()->setUnsavedAnswerCallback([](const QString &) { return ProjectController::Discard; });
-    m_window->projectController()->setFileNameCallback([this] { return m_folder.filePath("game.quenmora"); });
-    m_window->projectController()->newProject("Game");
     RandomUser user(*m_window, seed);
     startJournal();
-    s_warnings.clear();
-
     QElapsedTimer timer;
     timer.start();
-    qint64 steps = 0;
     QStringList trail;
-    while (timer.elapsed() < milliseconds) {
+    while (timer.elapsed() < millisecondsToAct()) {
         const QString problem = step(user);
-        ++steps;
         trail.append(user.lastAction());
         if (!problem.isEmpty()) {
             const QString last = trail.mid(std::max<qsizetype>(trail.size() - 15, 0)).join(", ");
-            QFAIL(qPrintable(QStringLiteral("Seed %1, step %2 (%3): %4").arg(seed).arg(steps).arg(last, problem)));
+            QFAIL(
+                qPrintable(QStringLiteral("Seed %1, step %2 (%3): %4").arg(seed).arg(trail.size()).arg(last, problem)));
         }
     }
-    std::printf("%lld actions in %lld s\n", static_cast<long long>(steps), timer.elapsed() / 1000LL);
+    std::printf("%lld actions in %lld s\n", static_cast<long long>(trail.size()), timer.elapsed() / 1000LL);
 }
 
 /// Lets the user act once, and tells what does not hold afterwards.
@@ -211,15 +205,20 @@ QString TestRandomActions::step(RandomUser &user)
     else
         record();
 
-    QStringList problems{checkMessages(), checkReferences(), checkViews()};
+    Problems problems;
+    checkMessages(problems);
+    checkReferences(problems);
+    checkViews(problems);
     if (user.number(20) == 0)
-        problems.append(checkUndo(1 + user.number(8)));
+        checkUndo(problems, 1 + user.number(8));
     if (user.number(60) == 0)
-        problems.append(checkUndo(int(m_journal.size())));
-    if (const int chance = user.number(200); chance < 2)
-        problems.append(checkSaving(chance == 1));
-    problems.removeAll(QString());
-    return problems.join('\n');
+        checkUndo(problems, m_journal.size());
+    const int chance = user.number(200);
+    if (chance < 2)
+        checkSaving(problems);
+    if (chance == 1)
+        reopen(problems);
+    return problems.text();
 }
 
 // The order of undo steps over all documents
@@ -244,7 +243,7 @@ QHash<QUuid, int> TestRandomActions::stackIndices()
 {
     QHash<QUuid, int> indices;
     for (const QUuid &id : documents())
-        indices.insert(id, m_window->documentController()->undoStackFor(id)->index());
+        indices.insert(id, stackOf(id)->index());
     return indices;
 }
 
@@ -262,177 +261,161 @@ void TestRandomActions::record()
     const QHash<QUuid, int> indices = stackIndices();
     for (const QUuid &id : documents()) {
         for (int index = m_indices.value(id); index < indices.value(id); ++index)
-            m_journal.append(m_window->documentController()->undoStackFor(id));
+            m_journal.append(stackOf(id));
     }
     m_indices = indices;
 }
 
-QString TestRandomActions::checkUndo(int depth)
+/// Undoes the last steps and does them again; when these are all, the first state must come back.
+void TestRandomActions::checkUndo(Problems &problems, qsizetype depth)
 {
-    depth = std::min(depth, int(m_journal.size()));
-    if (depth == 0)
-        return m_journal.isEmpty() ? difference(m_first, contentOf(project())) : QString();
+    depth = std::min(depth, m_journal.size());
     const ProjectMembers last = contentOf(project());
     QStringList texts;
-    for (int count = 0; count < depth; ++count) {
-        QUndoStack *stack = m_journal.at(m_journal.size() - 1 - count);
+    for (qsizetype count = 1; count <= depth; ++count) {
+        QUndoStack *stack = m_journal.at(m_journal.size() - count);
         texts.prepend(stack->undoText());
         stack->undo();
     }
     QCoreApplication::processEvents();
-    QString problem = checkReferences() + checkViews();
-    if (depth == m_journal.size()) {
-        if (const QString changed = difference(m_first, contentOf(project())); !changed.isEmpty())
-            problem += "undone to the first step: " + changed;
-    }
-    for (int count = depth; count > 0; --count)
+    checkReferences(problems);
+    checkViews(problems);
+    if (depth == m_journal.size())
+        problems.expectSame(m_first, contentOf(project()), "undone to the first step, " + texts.join(", "));
+    for (qsizetype count = depth; count > 0; --count)
         m_journal.at(m_journal.size() - count)->redo();
     QCoreApplication::processEvents();
-    if (const QString changed = difference(last, contentOf(project())); !changed.isEmpty())
-        problem += "redone to the last step: " + changed;
-    if (!problem.isEmpty())
-        problem = "after undo and redo of " + texts.join(", ") + ": " + problem;
-    return problem;
+    problems.expectSame(last, contentOf(project()), "redone to the last step, " + texts.join(", "));
 }
 
 // What must hold after every action
 
-QString TestRandomActions::checkMessages()
+void TestRandomActions::checkMessages(Problems &problems)
 {
     const QStringList refusals{"Palette In Use", "Tile Set In Use", "Objects in use"};
-    QString problem;
-    while (m_window->messageDialog()->isVisible()) {
-        if (!refusals.contains(m_window->messageDialog()->windowTitle()))
-            problem += "message: " + m_window->messageDialog()->text();
-        m_window->messageDialog()->accept();
-    }
+    for (MessageDialog *dialog = m_window->messageDialog(); dialog->isVisible(); dialog->accept())
+        problems.expect(refusals.contains(dialog->windowTitle()), "message: " + dialog->text());
     const QStringList warnings = std::exchange(s_warnings, {});
-    return problem + warnings.join('\n');
+    problems.expect(warnings.isEmpty(), warnings.join('\n'));
 }
 
-QString TestRandomActions::checkReferences()
+void TestRandomActions::checkReferences(Problems &problems)
 {
-    QString problem;
-    const auto check = [&problem](bool holds, const QString &text) {
-        if (!holds)
-            problem += text + '\n';
-    };
-    const auto isPalette = [this](const QPointer<Palette> &palette) {
-        return !palette || project().palette(palette->id()) == palette;
-    };
-    for (const auto &tileSet : project().tileSets()) {
-        check(isPalette(tileSet->palette()), "the palette of a tile set is not of the project");
-        for (const auto &blocks : tileSet->blockSets())
-            check(blocks && project().blocks(blocks->id()) == blocks, "a tile set knows a block set that is gone");
-    }
-    for (const auto &bank : project().spriteBanks()) {
-        check(isPalette(bank->palette()), "the palette of a sprite bank is not of the project");
-        check(bank->count() > 0, "a sprite bank without sprites");
-        for (const auto &animation : bank->animations()) {
-            check(animation && animation->frameCount() > 0, "a sprite animation without frames");
-            for (int frame = 0; frame < animation->frameCount(); ++frame)
-                check(animation->frame(frame)->size() == animation->size(), "a frame of another size");
+    const auto expectPalette = [&](const auto &assets) {
+        for (const auto &asset : assets) {
+            const QPointer<Palette> palette = asset->palette();
+            problems.expect(!palette || project().palette(palette->id()) == palette,
+                            "the palette of " + asset->name() + " is not of the project");
         }
+    };
+    expectPalette(project().tileSets());
+    expectPalette(project().spriteBanks());
+    expectPalette(project().images());
+    for (const auto &tileSet : project().tileSets()) {
+        for (const auto &blocks : tileSet->blockSets())
+            problems.expect(blocks && project().blocks(blocks->id()) == blocks,
+                            "a tile set knows a block set that is gone");
     }
-    for (const auto &image : project().images())
-        check(isPalette(image->palette()), "the palette of an image is not of the project");
     for (const auto &blocks : project().blockSets()) {
         const QPointer<TileSet> tileSet = blocks->tileSet();
-        check(!tileSet || project().tileSet(tileSet->id()) == tileSet,
-              "the tile set of a block set is not of the project");
-        check(!tileSet || tileSet->blockSets().value(blocks->id()) == blocks, "a tile set does not know its block set");
+        problems.expect(!tileSet || project().tileSet(tileSet->id()) == tileSet,
+                        "the tile set of a block set is not of the project");
+        problems.expect(!tileSet || tileSet->blockSets().value(blocks->id()) == blocks,
+                        "a tile set does not know its block set");
     }
+    for (const auto &bank : project().spriteBanks()) {
+        problems.expect(bank->count() > 0, "a sprite bank without sprites");
+        for (const auto &animation : bank->animations()) {
+            problems.expect(animation && animation->frameCount() > 0, "a sprite animation without frames");
+            for (int frame = 0; frame < animation->frameCount(); ++frame)
+                problems.expect(animation->frame(frame)->size() == animation->size(), "a frame of another size");
+        }
+    }
+    checkMaps(problems);
+}
+
+void TestRandomActions::checkMaps(Problems &problems)
+{
     for (const auto &map : project().maps()) {
-        check(map->tileSet() && map->tileSet() == project().tileSet(map->tileSetId()), "a map without its tile set");
-        check(map->objectLayer() && map->objectLayer()->size() == map->size(), "layers of different sizes");
-        check(!map->size().isEmpty(), "an empty map");
+        problems.expect(map->tileSet() && map->tileSet() == project().tileSet(map->tileSetId()),
+                        "a map without its tile set");
+        problems.expect(map->objectLayer() && map->objectLayer()->size() == map->size(), "layers of different sizes");
+        problems.expect(!map->size().isEmpty(), "an empty map");
         for (const auto &placement : map->animatedBlocks()->list())
-            check(QRect(QPoint(0, 0), map->size()).intersects(placement->area()), "an animation beside the map");
-        const int tiles = map->tileSet() ? map->tileSet()->count() : 0;
+            problems.expect(QRect(QPoint(), map->size()).intersects(placement->area()), "an animation beside the map");
+        const int tiles = std::max(map->tileSet() ? map->tileSet()->count() : 0, 1);
         for (const TileMap::Row &row : map->tileLayer()->rows()) {
             for (const TileMap::TileData &cell : row)
-                check(cell.index >= 0 && cell.index < std::max(tiles, 1), "a cell shows a tile that is not there");
+                problems.expect(cell.index >= 0 && cell.index < tiles, "a cell shows a tile that is not there");
         }
         for (const auto &sprite : map->sprites()) {
             const QPointer<SpriteBank> bank = project().spriteBank(sprite.bank);
-            check(!bank || !sprite.animation.isNull() || sprite.sprite < bank->count(),
-                  "a placed sprite that is not there");
+            problems.expect(!bank || !sprite.animation.isNull() || sprite.sprite < bank->count(),
+                            "a placed sprite that is not there");
         }
     }
-    return problem;
 }
 
-QString TestRandomActions::checkViews()
+void TestRandomActions::checkViews(Problems &problems)
 {
-    QString problem;
-    const auto check = [&problem](bool holds, const QString &text) {
-        if (!holds)
-            problem += text + '\n';
-    };
     const DocumentViews &views = m_window->views();
     const QList<QUuid> ids = documents();
-    const auto isShown = [&ids](const auto *asset) { return !asset || ids.contains(asset->id()); };
-    check(isShown(views.palette->palette()), "the palette dock shows a palette that is gone");
-    check(isShown(views.tilePicker->grid()->tileSet()), "the tile picker shows a tile set that is gone");
+    const auto expectShown = [&](const auto *asset, const QString &view) {
+        problems.expect(!asset || ids.contains(asset->id()), view + " shows an asset that is gone");
+    };
+    const auto expectPixels = [&](const Canvas *canvas, const QImage &picture, const QString &view) {
+        problems.expect(indices(canvas->image()) == indices(picture), view + " shows other pixels than the asset has");
+    };
     const TileSet *tileSet = views.tileEditor->tileSet();
-    check(isShown(tileSet), "the tile editor shows a tile set that is gone");
-    if (tileSet && tileSet->tile(views.tileEditor->tileIndex()))
-        check(samePixels(views.tileEditor->canvas()->image(), tileSet->image(views.tileEditor->tileIndex())),
-              "the tile editor shows other pixels than the tile has");
     const SpriteBank *bank = views.spriteEditor->sprites();
-    check(isShown(bank), "the sprite editor shows a bank that is gone");
+    expectShown(views.palette->palette(), "the palette dock");
+    expectShown(views.tilePicker->grid()->tileSet(), "the tile picker");
+    expectShown(tileSet, "the tile editor");
+    expectShown(bank, "the sprite editor");
+    if (tileSet && tileSet->tile(views.tileEditor->tileIndex()))
+        expectPixels(views.tileEditor->canvas(), tileSet->image(views.tileEditor->tileIndex()), "the tile editor");
     if (bank) {
         const int index = views.spriteEditor->spriteIndex();
-        check(index >= 0 && index < bank->count(), "the sprite editor shows a sprite that is not there");
-        check(samePixels(views.spriteEditor->canvas()->image(), bank->spriteImage(index, false, false, false)),
-              "the sprite editor shows other pixels than the sprite has");
+        problems.expect(index >= 0 && index < bank->count(), "the sprite editor shows a sprite that is not there");
+        expectPixels(views.spriteEditor->canvas(), bank->spriteImage(index, false, false, false), "the sprite editor");
     }
     for (int tab = 0; tab < views.tabs->count(); ++tab) {
         QWidget *page = views.tabs->widget(tab);
-        check(ids.contains(DocumentTabView::documentId(page)), "a tab shows an asset that is gone");
-        if (const auto *imagePage = qobject_cast<ImageEditor::View *>(page)) {
-            const QImage image = imagePage->image() ? imagePage->image()->image() : project().scratchImage();
-            check(samePixels(imagePage->canvas()->image(), image),
-                  "an image editor shows other pixels than the image has");
-        }
+        problems.expect(ids.contains(DocumentTabView::documentId(page)), "a tab shows an asset that is gone");
+        if (const auto *editor = qobject_cast<ImageEditor::View *>(page))
+            expectPixels(editor->canvas(), editor->image() ? editor->image()->image() : project().scratchImage(),
+                         "an image editor");
     }
-    return problem;
 }
 
-QString TestRandomActions::checkSaving(bool reopen)
+// Saving
+
+void TestRandomActions::checkSaving(Problems &problems)
 {
-    ProjectController *controller = m_window->projectController();
     for (const auto &map : project().maps())
         map->restampAnimations(project().blockSets()); // as opening does, which clears what was drawn below them
     startJournal();
-    const ProjectMembers saved = contentOf(project());
-    const QStringList tabs = m_window->views().tabs->openDocumentIds();
+    ProjectController *controller = m_window->projectController();
     controller->save();
-    if (controller->isModified())
-        return "modified after saving";
-    if (const QString changed = difference(saved, contentOf(project())); !changed.isEmpty())
-        return "changed by saving: " + changed;
-
+    problems.expect(!controller->isModified(), "modified after saving");
+    problems.expectSame(m_first, contentOf(project()), "changed by saving");
     ProjectStore store;
-    Project *read = store.newProject({});
-    if (!store.load(controller->filePath()))
-        return "the saved file cannot be read";
-    if (const QString changed = difference(saved, contentOf(*read)); !changed.isEmpty())
-        return "the saved file reads back different: " + changed;
+    const Project *read = store.newProject({});
+    problems.expect(store.load(controller->filePath()), "the saved file cannot be read");
+    problems.expectSame(m_first, store.project() ? contentOf(*read) : ProjectMembers(), "the saved file");
+}
 
-    if (!reopen)
-        return {};
+void TestRandomActions::reopen(Problems &problems)
+{
+    const ProjectMembers saved = m_first;
+    ProjectController *controller = m_window->projectController();
     const QString file = controller->filePath();
     controller->close();
     controller->openProject(file);
     QCoreApplication::processEvents();
-    if (!controller->project())
-        return "the saved file cannot be opened";
-    const QString changed = difference(saved, contentOf(project()));
+    problems.expectSame(saved, contentOf(project()), "changed by opening");
+    problems.expect(!controller->isModified(), "modified after opening");
     startJournal();
-    if (!changed.isEmpty())
-        return "changed by opening: " + changed;
-    return controller->isModified() ? "modified after opening" : QString();
 }
 
 QUENMORA_TEST_MAIN(TestRandomActions)

@@ -1,109 +1,114 @@
 #pragma once
 
-#include "app/documentcontroller.h"
 #include "app/documenttabview.h"
 #include "app/mainwindow.h"
-#include "app/menus/editmenu.h"
-#include "editors/animation/animationcontrolwidget.h"
-#include "editors/animation/animationeditorwidget.h"
-#include "editors/animation/animationlistwidget.h"
-#include "editors/animation/animationtoolbar.h"
-#include "editors/animation/blockeditorview.h"
-#include "editors/animation/frameeditorwidget.h"
-#include "editors/animation/spriteanimationeditorwidget.h"
-#include "editors/animation/spriteeditorview.h"
-#include "editors/canvas/canvas.h"
-#include "editors/canvas/dragdata.h"
-#include "editors/canvas/imageeditorview.h"
-#include "editors/canvas/spritelist.h"
-#include "editors/canvas/tilepickergrid.h"
-#include "editors/map/mapanimator.h"
-#include "editors/map/mapeditorview.h"
-#include "editors/map/mapgrid.h"
-#include "editors/palette/paletteeditor.h"
-#include "model/image.h"
-#include "model/map.h"
-#include "model/mapobjects.h"
 #include "model/palette.h"
 #include "model/project.h"
-#include "model/spriteanim.h"
-#include "model/spritebank.h"
-#include "model/tileanimation.h"
-#include "model/tileset.h"
-#include "ui/toolpalette.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QDropEvent>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QRandomGenerator>
-#include <QSpinBox>
 
 #include <functional>
-#include <initializer_list>
 #include <memory>
 #include <vector>
 
-/// Chance, the mouse, and what the main window shows: what somebody needs who does random things in it.
+/// Chance, the mouse, and a list of things to do: what somebody needs who does random things in the main
+/// window. What there is to do is added by the classes derived from it, each for one kind of work.
 class RandomHands
 {
 public:
+    enum Effect {
+        None, ///< changes what is shown, not what is saved
+        Undoable, ///< every change is on an undo stack
+        Lasting, ///< changes that undo does not know
+    };
+
     RandomHands(MainWindow &window, quint32 seed) : m_window(window), m_random(seed) { }
 
     [[nodiscard]] int number(int bound) { return int(m_random.bounded(quint32(bound))); }
 
+    /// Does one thing that is possible now, and returns what kind of thing it was.
+    virtual Effect act() = 0;
+
 protected:
+    /// Adds something to do; run returns false when it cannot be done now.
+    void add(const char *name, Effect effect, const std::function<bool()> &run)
+    {
+        m_actions.push_back({name, effect, run});
+    }
+    /// Adds what is done with the thing that find returns, when it returns one, Often times as often as others.
+    template <int Often = 1, typename Find, typename Run>
+    void addFor(Find find, const char *name, Effect effect, Run run)
+    {
+        for (int repeat = 0; repeat < Often; ++repeat) {
+            add(name, effect, [find, run] {
+                auto *found = find();
+                if (found)
+                    run(*found);
+                return found != nullptr;
+            });
+        }
+    }
+
     Project &project() { return *m_window.projectController()->project(); }
     const DocumentViews &views() { return m_window.views(); }
-    bool chance() { return number(2) == 1; }
+    /// The page in front, when it is one of this kind.
+    template <typename Page>
+    Page *front()
+    {
+        return qobject_cast<Page *>(views().tabs->currentWidget());
+    }
 
+    bool chance() { return number(2) == 1; }
     /// One entry of a list, or a default value when it is empty.
     template <typename List>
     typename List::value_type any(const List &list)
     {
-        return list.isEmpty() ? typename List::value_type() : list.at(number(int(list.size())));
+        return list.empty() ? typename List::value_type() : list[typename List::size_type(number(int(list.size())))];
     }
-    template <typename Asset>
-    QUuid idOf(const Asset &asset)
+    /// Does one of several things.
+    template <typename... Choices>
+    void oneOf(const Choices &...choices)
     {
+        any(std::vector<std::function<void()>>{choices...})();
+    }
+    /// The id of one of the project's assets of a kind; null when there is none.
+    template <typename List>
+    QUuid anyId(List (Project::*assets)() const)
+    {
+        const auto asset = any((project().*assets)());
         return asset ? asset->id() : QUuid();
     }
-    QUuid anyPalette() { return idOf(any(project().palettes())); }
-    QString anyName() { return QStringLiteral("Asset %1").arg(number(1000)); }
-    QColor anyColour() { return QColor(number(256), number(256), number(256)); }
 
-    // The mouse
-
-    void mouse(QWidget *widget, QEvent::Type type, QPoint at, Qt::MouseButton button, Qt::MouseButtons buttons)
+    /// Triggers the actions of a text that a menu or another widget has.
+    static void choose(const QWidget *widget, const QString &text)
     {
-        QMouseEvent event(type, at, widget->mapToGlobal(at), button, buttons, Qt::NoModifier);
-        QApplication::sendEvent(widget, &event);
+        for (QAction *action : widget->actions()) {
+            if (action->text() == text)
+                action->trigger();
+        }
     }
-    QPoint anyPoint(const QWidget *widget)
+    /// Shows the dock that a widget is in.
+    static void bringToFront(QWidget *widget)
     {
-        // a drag may leave the widget
-        return {number(widget->width() + 20) - 10, number(widget->height() + 20) - 10};
+        for (; widget; widget = widget->parentWidget()) {
+            if (auto *dock = qobject_cast<QDockWidget *>(widget)) {
+                dock->show();
+                dock->raise();
+                QCoreApplication::processEvents();
+            }
+        }
     }
-    void click(QWidget *widget, QPoint at, Qt::MouseButton button = Qt::LeftButton)
-    {
-        mouse(widget, QEvent::MouseMove, at, Qt::NoButton, Qt::NoButton);
-        mouse(widget, QEvent::MouseButtonPress, at, button, button);
-        mouse(widget, QEvent::MouseButtonRelease, at, button, Qt::NoButton);
-    }
+    void click(QWidget *widget, QPoint at, Qt::MouseButton button = Qt::LeftButton) { drag(widget, at, 0, button); }
     void drag(QWidget *widget, Qt::MouseButton button = Qt::LeftButton)
     {
         const QPoint start(number(std::max(widget->width(), 1)), number(std::max(widget->height(), 1)));
-        mouse(widget, QEvent::MouseMove, start, Qt::NoButton, Qt::NoButton);
-        mouse(widget, QEvent::MouseButtonPress, start, button, button);
-        QPoint end = start;
-        for (int moves = number(4); moves > 0; --moves) {
-            end = anyPoint(widget);
-            mouse(widget, QEvent::MouseMove, end, Qt::NoButton, button);
-        }
-        mouse(widget, QEvent::MouseButtonRelease, end, button, Qt::NoButton);
+        drag(widget, start, number(4), button);
     }
-    void drop(QWidget *target, QMimeData *data, QPoint at, Qt::KeyboardModifiers modifiers)
+    void drop(QWidget *target, QMimeData *data, QPoint at, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     {
         const std::unique_ptr<QMimeData> owned(data);
         QDragEnterEvent enter(at, Qt::MoveAction, data, Qt::LeftButton, modifiers);
@@ -113,64 +118,33 @@ protected:
         QDropEvent event(at, Qt::MoveAction, data, Qt::LeftButton, modifiers);
         QApplication::sendEvent(target, &event);
     }
-    /// Chooses an entry of a menu by its text.
-    static bool choose(const QMenu *menu, const QString &text)
-    {
-        for (QAction *action : menu->actions()) {
-            if (action->text() == text && action->isEnabled()) {
-                action->trigger();
-                return true;
-            }
-        }
-        return false;
-    }
 
-    // What is in front
-
-    template <typename Page>
-    Page *front()
+    struct Action
     {
-        return qobject_cast<Page *>(views().tabs->currentWidget());
-    }
-
-    /// A canvas that is shown; null when there is none.
-    Canvas *anyCanvas()
-    {
-        QList<Canvas *> canvases;
-        if (views().tileEditor->tileSet())
-            canvases.append(views().tileEditor->canvas());
-        if (views().spriteEditor->sprites())
-            canvases.append(views().spriteEditor->canvas());
-        if (auto *page = front<ImageEditor::View>())
-            canvases.append(page->canvas());
-        Canvas *canvas = any(canvases);
-        if (canvas)
-            bringToFront(canvas);
-        return canvas;
-    }
-    /// Shows the dock that a widget is in.
-    void bringToFront(QWidget *widget)
-    {
-        for (QWidget *parent = widget; parent; parent = parent->parentWidget()) {
-            if (auto *dock = qobject_cast<QDockWidget *>(parent)) {
-                dock->show();
-                dock->raise();
-                QCoreApplication::processEvents();
-            }
-        }
-    }
-    AnimationEditor::EditorWidget *animationEditor()
-    {
-        AnimationEditor::EditorWidget *editor = nullptr;
-        if (auto *page = front<BlockEditor::View>())
-            editor = page->editor();
-        else if (auto *bankPage = front<SpriteEditor::View>())
-            editor = bankPage->editor();
-        return editor && editor->animation() ? editor : nullptr;
-    }
+        const char *name;
+        Effect effect;
+        std::function<bool()> run;
+    };
 
     MainWindow &m_window;
+    std::vector<Action> m_actions;
 
 private:
+    static void mouse(QWidget *widget, QEvent::Type type, QPoint at, Qt::MouseButton button, Qt::MouseButtons buttons)
+    {
+        QMouseEvent event(type, at, widget->mapToGlobal(at), button, buttons, Qt::NoModifier);
+        QApplication::sendEvent(widget, &event);
+    }
+    void drag(QWidget *widget, QPoint at, int moves, Qt::MouseButton button)
+    {
+        mouse(widget, QEvent::MouseMove, at, Qt::NoButton, Qt::NoButton);
+        mouse(widget, QEvent::MouseButtonPress, at, button, button);
+        for (; moves > 0; --moves) {
+            at = {number(widget->width() + 20) - 10, number(widget->height() + 20) - 10}; // it may leave the widget
+            mouse(widget, QEvent::MouseMove, at, Qt::NoButton, button);
+        }
+        mouse(widget, QEvent::MouseButtonRelease, at, button, Qt::NoButton);
+    }
+
     QRandomGenerator m_random;
 };

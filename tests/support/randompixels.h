@@ -1,0 +1,138 @@
+#pragma once
+
+#include "editors/canvas/canvas.h"
+#include "editors/canvas/dragdata.h"
+#include "editors/canvas/imageeditorview.h"
+#include "editors/canvas/spritelist.h"
+#include "editors/canvas/tilepickergrid.h"
+#include "editors/palette/paletteeditor.h"
+#include "support/randomhands.h"
+
+#include <QSpinBox>
+
+/// Paints tiles, sprites and images, changes their lists and colours, at random.
+class RandomPixels : protected virtual RandomHands
+{
+protected:
+    RandomPixels()
+    {
+        addPainting();
+        addTiles();
+        addSprites();
+        addColours();
+    }
+
+private:
+    void addPainting()
+    {
+        using namespace Quenmora::Ui;
+        const auto shown = [this] { return anyCanvas(); };
+        addFor<4>(shown, "draw", Undoable, [this](Canvas &canvas) { // what people do most
+            // Paste stays as it is, so that a paste ends in a click
+            if (canvas.mode() != Paste)
+                canvas.setMode(any(QList{Draw, Line, Rectangle, RectangleFill, Circle, Fill, Pick}));
+            drag(&canvas, chance() ? Qt::LeftButton : Qt::RightButton);
+            if (canvas.mode() == Paste)
+                canvas.setMode(Draw);
+        });
+        addFor(shown, "select pixels", None, [this](Canvas &canvas) {
+            canvas.setMode(Select);
+            drag(&canvas);
+        });
+        addFor(shown, "pixel action", Undoable, [this](Canvas &canvas) {
+            canvas.setMode(any(QList{RotateCW, RotateCCW, Flip, Mirror, MoveUp, MoveDown, MoveLeft, MoveRight, Erase,
+                                     ZoomIn, ZoomOut, Grid}),
+                           chance());
+        });
+        addFor(shown, "canvas menu", Undoable,
+               [this](Canvas &canvas) { any(canvas.contextMenu()->actions())->trigger(); });
+    }
+    /// A canvas that is shown; null when there is none.
+    Canvas *anyCanvas()
+    {
+        QList<Canvas *> canvases;
+        if (views().tileEditor->tileSet())
+            canvases.append(views().tileEditor->canvas());
+        if (views().spriteEditor->sprites())
+            canvases.append(views().spriteEditor->canvas());
+        if (auto *page = front<ImageEditor::View>())
+            canvases.append(page->canvas());
+        Canvas *canvas = any(canvases);
+        bringToFront(canvas);
+        return canvas;
+    }
+
+    void addTiles()
+    {
+        const auto editor = [this] { return views().tileEditor->tileSet() ? views().tileEditor : nullptr; };
+        addFor(editor, "choose tile", None,
+               [this](TileWindow &window) { window.setTileIndex(1 + number(std::max(window.tileSet()->count(), 1))); });
+        addFor(editor, "palette offset", Lasting,
+               [this](TileWindow &window) { window.findChild<QSpinBox *>()->setValue(1 + number(16)); });
+        addFor(editor, "swap tile palette", Lasting,
+               [this](TileWindow &) { m_window.changeTilePalette(anyId(&Project::palettes)); });
+        const auto tiles = [this] {
+            TilePickerGrid *grid = views().tilePicker->grid();
+            return grid->tileSet() && grid->tileSet()->count() > 0 ? grid : nullptr;
+        };
+        addFor(tiles, "tile list", Undoable, [this](TilePickerGrid &grid) {
+            const int count = grid.tileSet()->count();
+            bringToFront(&grid);
+            click(&grid, grid.cellRect(number(count)).center(), Qt::RightButton);
+            grid.contextMenu()->close();
+            QStringList entries{"Copy Image", "Paste Image", "Zoom In", "Zoom Out"};
+            if (count > 1)
+                entries.append("Delete");
+            if (count < 50)
+                entries.append("Insert");
+            choose(grid.contextMenu(), any(entries));
+        });
+        addFor(tiles, "clear tile", Lasting, [this](TilePickerGrid &grid) {
+            if (number(4) == 0)
+                choose(grid.contextMenu(), "Clear");
+        });
+        addFor(tiles, "move tile", Undoable, [this](TilePickerGrid &grid) {
+            const int count = grid.tileSet()->count();
+            drop(&grid, TileDrag{number(count), 0}.toMimeData(), grid.cellRect(number(count)).center(),
+                 chance() ? Qt::ShiftModifier : Qt::NoModifier);
+        });
+    }
+
+    void addSprites()
+    {
+        const auto sprites = [this] {
+            return views().spriteEditor->sprites() ? views().spriteEditor->list() : nullptr;
+        };
+        using List = SpriteEditor::SpriteList;
+        addFor(sprites, "choose sprite", None,
+               [this](List &list) { list.setSelectedIndex(number(list.sprites()->count())); });
+        addFor(sprites, "swap sprite palette", Lasting,
+               [this](List &) { m_window.changeSpritePalette(anyId(&Project::palettes)); });
+        addFor(sprites, "sprite list", Undoable, [this](List &list) {
+            const int sprite = number(list.sprites()->count());
+            const int other = number(list.sprites()->count());
+            const auto append = [&list] { list.sprites()->count() < 12 ? emit list.addSprite() : void(); };
+            oneOf([&] { emit list.copySprite(sprite, other); }, [&] { emit list.moveSprite(sprite, other); },
+                  [&] { emit list.deleteRequested(sprite); }, [&] { emit list.clearRequested(sprite); }, append,
+                  append);
+        });
+    }
+
+    void addColours()
+    {
+        const auto editor = [this] { return views().palette->palette() ? views().palette->editor() : nullptr; };
+        addFor<2>(editor, "colour", Undoable, [this](PaletteEditor &colours) {
+            const int first = number(Palette::Size);
+            colours.setSelection(first, first + number(Palette::Size - first));
+            oneOf(
+                [&] {
+                    colours.applyColour({number(256), number(256), number(256)}, chance());
+                },
+                [&] { colours.createGradient(); });
+        });
+        add("choose palette", Lasting, [this] { // with the scratch image in front it becomes that one's
+            emit views().palette->paletteChosen(anyId(&Project::palettes));
+            return true;
+        });
+    }
+};
