@@ -35,11 +35,17 @@ Widget *field(const QDialog &dialog, int index = 0)
     return dialog.findChildren<Widget *>().value(index);
 }
 
-/// Types a name and presses OK.
-void submit(DialogBase &dialog, const QString &name)
+/// Presses OK; the error that keeps the dialog open, or an empty text.
+QString confirm(DialogBase &dialog)
+{
+    dialog.okButton()->click();
+    return dialog.isVisible() == dialog.error().isEmpty() ? "closed with an error, or open without" : dialog.error();
+}
+
+QString confirm(DialogBase &dialog, const QString &name)
 {
     field<QLineEdit>(dialog)->setText(name);
-    dialog.okButton()->click();
+    return confirm(dialog);
 }
 
 } // namespace
@@ -51,28 +57,29 @@ class TestDialogsApp : public QObject
 private slots:
     void init();
     void tileSet();
-    void newPaletteNeedsAFreeName();
-    void map();
+    void mapAndAnimations();
     void sprites();
     void imageModes();
-    void projectWithoutAssetsHasNothingToChoose();
-    void selectorsStartAtTheAssetInUse();
+    void needsSomethingToChoose();
     void chosenAssetStaysChosen();
     void exportRange();
-    void fontIsShownAsTheTilesWillLook();
-    void fontProblems();
+    void font();
     void spritesOfAPicture();
     void spritesOfAPictureProblems_data();
     void spritesOfAPictureProblems();
     void spritesOfData();
 
 private:
+    /// Writes a file, whose path it returns.
+    QString write(const char *name, const QByteArray &content) const
+    {
+        const QString path = m_folder.filePath(name);
+        return ArchiveTools::writeFile(path, content) ? path : QString();
+    }
+
     std::unique_ptr<Project> m_project;
     QUuid m_main;
     QUuid m_tiles;
-    /// Writes a file, whose path it returns.
-    QString write(const char *name, const QByteArray &content) const;
-
     QTemporaryDir m_folder;
 };
 
@@ -83,54 +90,44 @@ void TestDialogsApp::init()
     m_tiles = m_project->createTileSet("Tiles", m_main, 4)->id();
 }
 
-QString TestDialogsApp::write(const char *name, const QByteArray &content) const
-{
-    const QString path = m_folder.filePath(name);
-    return ArchiveTools::writeFile(path, content) ? path : QString();
-}
-
 void TestDialogsApp::tileSet()
 {
     TileSetDialog dialog;
     QSignalSpy accepted(&dialog, &TileSetDialog::accepted);
     dialog.show(*m_project);
-    submit(dialog, "  ");
-    QCOMPARE(dialog.error(), "Please enter a name");
-    submit(dialog, " Forest ");
-    QVERIFY(!dialog.isVisible());
+    QCOMPARE(confirm(dialog, "  "), "Please enter a name");
+    QCOMPARE(confirm(dialog, "Main"), "There is a palette of this name already; choose it, or another name");
+    field<AssetChooser>(dialog)->choose(m_main);
+    QCOMPARE(dialog.error(), QString());
+    field<AssetChooser>(dialog)->choose({});
+    QCOMPARE(confirm(dialog, " Forest "), QString());
     dialog.show(*m_project);
     field<AssetChooser>(dialog)->choose(m_main);
     field<QComboBox>(dialog, 1)->setCurrentIndex(1);
     field<QCheckBox>(dialog)->setChecked(true);
-    submit(dialog, "Cave");
-    QCOMPARE(accepted, QList<QVariantList>({{"Forest", QUuid(), 256, false}, {"Cave", m_main, 512, true}}));
+    QCOMPARE(confirm(dialog, "Main"), QString());
+    QCOMPARE(accepted, QList<QVariantList>({{"Forest", QUuid(), 256, false}, {"Main", m_main, 512, true}}));
 }
 
-void TestDialogsApp::newPaletteNeedsAFreeName()
+void TestDialogsApp::mapAndAnimations()
 {
-    TileSetDialog dialog;
-    dialog.show(*m_project);
-    submit(dialog, "Main");
-    QVERIFY(dialog.isVisible());
-    QCOMPARE(dialog.error(), "There is a palette of this name already; choose it, or another name");
-    field<AssetChooser>(dialog)->choose(m_main);
-    QCOMPARE(dialog.error(), QString());
-    submit(dialog, "Main");
-    QVERIFY(!dialog.isVisible());
-}
-
-void TestDialogsApp::map()
-{
-    MapDialog dialog;
-    QSignalSpy accepted(&dialog, &MapDialog::accepted);
-    dialog.show(*m_project);
+    const QUuid another = m_project->createTileSet("Another", m_main, 4)->id();
+    MapDialog map;
+    QSignalSpy accepted(&map, &MapDialog::accepted);
+    map.show(*m_project);
     for (int i = 0; i < 2; ++i) {
-        QCOMPARE(field<QSpinBox>(dialog, i)->minimum(), i == 0 ? 40 : 32);
-        QCOMPARE(field<QSpinBox>(dialog, i)->maximum(), 9999);
+        QCOMPARE(field<QSpinBox>(map, i)->minimum(), i == 0 ? 40 : 32);
+        QCOMPARE(field<QSpinBox>(map, i)->maximum(), 9999);
     }
-    field<QSpinBox>(dialog, 0)->setValue(100);
-    submit(dialog, "Level");
-    QCOMPARE(accepted, QList<QVariantList>({{"Level", m_tiles, QSize(100, 32)}}));
+    field<QSpinBox>(map, 0)->setValue(100);
+    QCOMPARE(confirm(map, "Level"), QString());
+    QCOMPARE(accepted, QList<QVariantList>({{"Level", another, QSize(100, 32)}})); // the first by name
+
+    TileAnimationDialog animations;
+    QSignalSpy made(&animations, &TileAnimationDialog::accepted);
+    animations.show(*m_project, m_tiles);
+    QCOMPARE(confirm(animations, "Doors"), QString());
+    QCOMPARE(made, QList<QVariantList>({{"Doors", m_tiles}}));
 }
 
 void TestDialogsApp::sprites()
@@ -143,7 +140,7 @@ void TestDialogsApp::sprites()
         depth->setCurrentIndex(depth->findData(options & 1 ? Quenmora::EightBit : Quenmora::FourBit));
         const QUuid palette = options & 2 ? QUuid() : m_main;
         field<AssetChooser>(dialog)->choose(palette);
-        submit(dialog, "Hero");
+        QCOMPARE(confirm(dialog, "Hero"), QString());
         const QVariantList told = accepted.takeFirst();
         QCOMPARE(int(told[0].value<SpriteDialog::CreateOptions>()), options);
         QCOMPARE(told.mid(1), QVariantList({"Hero", palette}));
@@ -158,43 +155,29 @@ void TestDialogsApp::imageModes()
     for (int mode = 0; mode < texts.size(); ++mode) {
         dialog.show(*m_project);
         field<QComboBox>(dialog)->setCurrentText(texts[mode]);
-        submit(dialog, "Title");
+        QCOMPARE(confirm(dialog, "Title"), QString());
         QCOMPARE(accepted.takeFirst(), QVariantList({"Title", QVariant::fromValue(Quenmora::ImageMode(mode)), m_main}));
     }
 }
 
-void TestDialogsApp::projectWithoutAssetsHasNothingToChoose()
+void TestDialogsApp::needsSomethingToChoose()
 {
     const Project empty;
     MapDialog map;
     map.show(empty);
-    submit(map, "Level");
-    QCOMPARE(map.error(), "A map is made of the tiles of a tile set; please create a tile set first");
+    QCOMPARE(confirm(map, "Level"), "A map is made of the tiles of a tile set; please create a tile set first");
     ImageDialog image;
     image.show(empty);
-    submit(image, "Title");
-    QCOMPARE(image.error(), "An image needs a palette; please create a palette first");
+    QCOMPARE(confirm(image, "Title"), "An image needs a palette; please create a palette first");
     PaletteSelectorDialog selector;
     selector.show(empty, {});
-    selector.okButton()->click();
-    QCOMPARE(selector.error(), "There is no palette to choose; please create one first");
-}
+    QCOMPARE(confirm(selector), "There is no palette to choose; please create one first");
 
-void TestDialogsApp::selectorsStartAtTheAssetInUse()
-{
     const QUuid used = m_project->createPalette(CreateAction::Blank, "Zebra")->id();
-    PaletteSelectorDialog dialog;
-    QSignalSpy accepted(&dialog, &PaletteSelectorDialog::accepted);
-    dialog.show(*m_project, used);
-    dialog.okButton()->click();
+    QSignalSpy accepted(&selector, &PaletteSelectorDialog::accepted);
+    selector.show(*m_project, used);
+    QCOMPARE(confirm(selector), QString());
     QCOMPARE(accepted, QList<QVariantList>({{used}}));
-
-    m_project->createTileSet("Another", m_main, 4);
-    TileAnimationDialog animations;
-    QSignalSpy made(&animations, &TileAnimationDialog::accepted);
-    animations.show(*m_project, m_tiles);
-    submit(animations, "Doors");
-    QCOMPARE(made, QList<QVariantList>({{"Doors", m_tiles}}));
 }
 
 void TestDialogsApp::chosenAssetStaysChosen()
@@ -208,8 +191,7 @@ void TestDialogsApp::chosenAssetStaysChosen()
     QCOMPARE(chooser.id(), m_main);
     const Project other;
     chooser.offerPalettes(other);
-    QVERIFY(chooser.id().isNull());
-    QVERIFY(!chooser.isEnabled());
+    QVERIFY(chooser.id().isNull() && !chooser.isEnabled());
 }
 
 void TestDialogsApp::exportRange()
@@ -217,33 +199,34 @@ void TestDialogsApp::exportRange()
     TileEditor::ExportDialog dialog;
     QSignalSpy accepted(&dialog, &TileEditor::ExportDialog::accepted);
     dialog.show(256);
-    dialog.okButton()->click();
+    QCOMPARE(confirm(dialog), QString());
     dialog.show(512); // as all tiles were wanted, all are
     field<QCheckBox>(dialog)->setChecked(true);
-    dialog.okButton()->click();
+    QCOMPARE(confirm(dialog), QString());
     QCOMPARE(accepted, QList<QVariantList>({{1, 256, false}, {1, 512, true}}));
     dialog.show(512);
     field<QSpinBox>(dialog, 0)->setValue(20);
     field<QSpinBox>(dialog, 1)->setValue(19);
-    dialog.okButton()->click();
-    QCOMPARE(dialog.error(), "The first tile comes after the last one");
+    QCOMPARE(confirm(dialog), "The first tile comes after the last one");
     field<QSpinBox>(dialog, 1)->setValue(20);
     QCOMPARE(dialog.error(), QString());
 }
 
-void TestDialogsApp::fontIsShownAsTheTilesWillLook()
+void TestDialogsApp::font()
 {
     const QString file = write("font.ch8", QByteArray("\x81\0\0\0\0\0\0\x80", 8).repeated(6));
     ImportZXFontDialog dialog;
     dialog.setFileChooser([&](const FileRequest &, QWidget *) { return file; });
     QSignalSpy accepted(&dialog, &ImportZXFontDialog::accepted);
     dialog.show(*m_project->tileSet(m_tiles));
+    QCOMPARE(confirm(dialog), "Please choose a font file");
+    field<QLineEdit>(dialog)->setText(write("short.bin", "1234567"));
+    QCOMPARE(dialog.error(), "There is no character in this file, or it cannot be read");
     for (QPushButton *button : dialog.findChildren<QPushButton *>()) {
         if (button->text().contains("rowse"))
             button->click();
     }
-    QCOMPARE(field<QLineEdit>(dialog)->text(), file);
-    const auto *preview = field<PicturePreview>(dialog);
+    const auto *preview = field<PicturePreview>(dialog); // as the tiles will look
     QCOMPARE(preview->picture().size(), QSize(4 * 8, 8)); // the tile set has 4 tiles
     field<QSpinBox>(dialog, 0)->setValue(2);
     field<QSpinBox>(dialog, 1)->setValue(15);
@@ -255,22 +238,10 @@ void TestDialogsApp::fontIsShownAsTheTilesWillLook()
     for (const QPoint fore : {QPoint(0, 0), QPoint(7, 0), QPoint(8, 7)})
         QCOMPARE(picture.pixel(fore), colours[0xFC]);
     QCOMPARE(picture.pixel(1, 0), colours[0xF3]);
-    dialog.okButton()->click();
+    QCOMPARE(confirm(dialog), QString());
     QCOMPARE(accepted, QList<QVariantList>({{1, 12, 3, 15, file}}));
-}
-
-void TestDialogsApp::fontProblems()
-{
-    ImportZXFontDialog dialog;
-    dialog.show(*m_project->tileSet(m_tiles));
-    dialog.okButton()->click();
-    QCOMPARE(dialog.error(), "Please choose a font file");
-    field<QLineEdit>(dialog)->setText(write("short.bin", "1234567"));
-    QCOMPARE(dialog.error(), "There is no character in this file, or it cannot be read");
-    const QPointer<TileSet> bare = m_project->createTileSet("Bare", QUuid::createUuid(), 1);
-    dialog.show(*bare);
-    dialog.okButton()->click();
-    QCOMPARE(dialog.error(), "The tile set has no palette to take colours from");
+    dialog.show(*m_project->createTileSet("Bare", QUuid::createUuid(), 1));
+    QCOMPARE(confirm(dialog), "The tile set has no palette to take colours from");
 }
 
 void TestDialogsApp::spritesOfAPicture()
@@ -281,27 +252,21 @@ void TestDialogsApp::spritesOfAPicture()
     QVERIFY(picture.save(file));
     SpriteEditor::ImportImageDialog dialog;
     QSignalSpy accepted(&dialog, &SpriteEditor::ImportImageDialog::accepted);
-
     // remapped: the palette's colours show, here the nearest of a palette that is all black
     const QUuid black = m_project->createPalette(CreateAction::Blank, "Black")->id();
     dialog.show(*m_project, file);
-    QCOMPARE(field<QLineEdit>(dialog)->text(), "hero");
     field<AssetChooser>(dialog)->choose(black);
     QCOMPARE(field<PicturePreview>(dialog)->picture().pixel(0, 0), qRgb(0, 0, 0));
-    dialog.okButton()->click();
+    QCOMPARE(confirm(dialog), QString());
     // cut, with the picture's own colours as the hardware shows them
     dialog.show(*m_project, file);
     field<QRadioButton>(dialog, 1)->setChecked(true);
     QVERIFY(!field<AssetChooser>(dialog)->isEnabled());
     QCOMPARE(field<PicturePreview>(dialog)->picture().pixel(0, 0), qRgb(255, 0, 0));
     field<DepthChooser>(dialog)->setCurrentIndex(1);
-    submit(dialog, "Villain");
-
-    QCOMPARE(accepted.size(), 2);
-    const auto remap = accepted[0][0].value<SpriteImport>();
-    QCOMPARE(remap, (SpriteImport{file, "hero", Quenmora::EightBit, black}));
-    const auto slice = accepted[1][0].value<SpriteImport>();
-    QCOMPARE(slice, (SpriteImport{file, "Villain", Quenmora::FourBit, QUuid()}));
+    QCOMPARE(confirm(dialog, "Villain"), QString());
+    QCOMPARE(accepted[0][0].value<SpriteImport>(), (SpriteImport{file, "hero", Quenmora::EightBit, black}));
+    QCOMPARE(accepted[1][0].value<SpriteImport>(), (SpriteImport{file, "Villain", Quenmora::FourBit, QUuid()}));
 }
 
 void TestDialogsApp::spritesOfAPictureProblems_data()
@@ -311,20 +276,17 @@ void TestDialogsApp::spritesOfAPictureProblems_data()
     QTest::addColumn<bool>("fourBit");
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("problem");
-    QTest::newRow("no picture") << QSize() << false << false << "x"
-                                << "The file is not a picture that can be read";
-    QTest::newRow("too small") << QSize(15, 32) << false << false << "x"
-                               << "The picture is smaller than a sprite, which has 16 × 16 pixels";
-    QTest::newRow("palette taken") << QSize(16, 16) << true << false << "Main"
-                                   << "There is a palette of this name already; please choose another name";
-    QTest::newRow("palette taken, but not made") << QSize(16, 16) << false << false << "Main" << QString();
-    QTest::newRow("too many colours") << QSize(32, 16) << true << true << "x"
-                                      << "The picture has 17 colours; 4-bit sprites show 16";
-    QTest::newRow("several groups") << QSize(16, 16) << false << true << "x"
-                                    << "The colours lie in several groups of 16 of the palette; "
-                                       "4-bit sprites show one group";
-    QTest::newRow("no name") << QSize(16, 16) << false << false << ""
-                             << "Please enter a name";
+    const auto add = [](QSize size, bool slice, bool fourBit, const char *name, const char *problem) {
+        QTest::addRow("%s", problem) << size << slice << fourBit << name << QString::fromUtf8(problem);
+    };
+    add({}, false, false, "x", "The file is not a picture that can be read");
+    add({15, 32}, false, false, "x", "The picture is smaller than a sprite, which has 16 × 16 pixels");
+    add({16, 16}, true, false, "Main", "There is a palette of this name already; please choose another name");
+    add({16, 16}, false, false, "Main", ""); // no palette is made
+    add({32, 16}, true, true, "x", "The picture has 17 colours; 4-bit sprites show 16");
+    add({16, 16}, false, true, "x",
+        "The colours lie in several groups of 16 of the palette; 4-bit sprites show one group");
+    add({16, 16}, false, false, "", "Please enter a name");
 }
 
 void TestDialogsApp::spritesOfAPictureProblems()
@@ -336,19 +298,15 @@ void TestDialogsApp::spritesOfAPictureProblems()
     const QString file = write("problem.png", "no picture");
     if (!size.isEmpty()) {
         QImage picture(size, QImage::Format_RGB32);
-        for (int y = 0; y < size.height(); ++y) {
-            for (int x = 0; x < size.width(); ++x)
-                picture.setPixel(x, y, qRgb(std::min(x * 16, 255), 0, 0)); // at most 17 snapped colours
-        }
+        for (int x = 0; x < size.width() * size.height(); ++x) // at most 17 snapped colours
+            picture.setPixel(x % size.width(), x / size.width(), qRgb(std::min(x % size.width() * 16, 255), 0, 0));
         QVERIFY(picture.save(file));
     }
     SpriteEditor::ImportImageDialog dialog;
     dialog.show(*m_project, file);
     field<QRadioButton>(dialog, slice ? 1 : 0)->setChecked(true);
     field<DepthChooser>(dialog)->setCurrentIndex(fourBit ? 1 : 0);
-    submit(dialog, name);
-    QTEST(dialog.error(), "problem");
-    QCOMPARE(dialog.isVisible(), !dialog.error().isEmpty());
+    QTEST(confirm(dialog, name), "problem");
 }
 
 void TestDialogsApp::spritesOfData()
@@ -362,17 +320,13 @@ void TestDialogsApp::spritesOfData()
         labels.append(label->text());
     QVERIFY(labels.contains("2 in the file"));
     field<AssetChooser>(dialog)->choose(m_main);
-    dialog.okButton()->click();
-    QCOMPARE(accepted.size(), 1);
+    QCOMPARE(confirm(dialog), QString());
     QCOMPARE(accepted[0][0].value<SpriteImport>(), (SpriteImport{file, "hero", Quenmora::EightBit, m_main}));
-
     field<AssetChooser>(dialog)->choose({});
     dialog.show(*m_project, write("short.spr", QByteArray(255, '\1')));
-    dialog.okButton()->click();
-    QCOMPARE(dialog.error(), "There is no sprite in this file, or it cannot be read");
+    QCOMPARE(confirm(dialog), "There is no sprite in this file, or it cannot be read");
     dialog.show(*m_project, write("Main.spr", QByteArray(256, '\1')));
-    dialog.okButton()->click();
-    QCOMPARE(dialog.error(), "There is a palette of this name already; choose it, or another name");
+    QCOMPARE(confirm(dialog), "There is a palette of this name already; choose it, or another name");
 }
 
 QUENMORA_TEST_MAIN(TestDialogsApp)

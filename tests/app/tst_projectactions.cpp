@@ -10,6 +10,7 @@
 #include "model/spritebank.h"
 #include "model/tileset.h"
 #include "support/archivetools.h"
+#include "support/sampleproject.h"
 #include "support/testmain.h"
 
 #include <QClipboard>
@@ -29,28 +30,15 @@ namespace {
 using ArchiveTools::writeFile;
 using Node = ProjectTree::ProjectNode;
 
-/// The files of a Next data set of 2 × 2 cells, one block of the tiles 1, 2, 3 and 0.
-QHash<QString, QByteArray> nextDataSet()
+/// A picture of different tiles in two colours: the frame of each tells its orientation, its number stands
+/// inside.
+QImage pictureOfTiles(QSize tiles)
 {
-    QByteArray palette(512, '\0');
-    palette[2] = '\xE3'; // entry 1
-    palette[3] = '\x81';
-    const QByteArray tiles = QByteArray(32, '\x12') + QByteArray(32, '\x34');
-    QByteArray map(2 + 256, '\0');
-    map[0] = map[1] = 2;
-    const QByteArray blocks("\1\0\2\0\3\0\0\0", 8);
-    return {{"nxp", palette}, {"nxt", tiles}, {"nxm", map}, {"nxb", blocks}};
-}
-
-/// A picture of count different tiles in two colours: the frame of each tells its orientation, its number
-/// stands inside.
-QImage pictureOfTiles(int columns, int rows)
-{
-    QImage picture(columns * 8, rows * 8, QImage::Format_RGB32);
+    QImage picture(tiles * 8, QImage::Format_RGB32);
     picture.fill(Qt::black);
     QPainter painter(&picture);
-    for (int number = 0; number < columns * rows; ++number) {
-        const QPoint corner(number % columns * 8, number / columns * 8);
+    for (int number = 0; number < tiles.width() * tiles.height(); ++number) {
+        const QPoint corner(number % tiles.width() * 8, number / tiles.width() * 8);
         painter.fillRect(QRect(corner, QSize(8, 1)), Qt::white);
         painter.fillRect(QRect(corner, QSize(1, 4)), Qt::white);
         for (int bit = 0; bit < 16; ++bit) {
@@ -71,48 +59,42 @@ private slots:
     void init();
     void cleanup() { m_window.reset(); } // no window outlives the application
 
-    void nothingHappensWithoutAProject();
+    void needsAProject();
     void createsWhatIsAskedFor();
-    void createSprites();
-    void createMapFromSelection();
-    void menusAreServed();
-
+    void createsAMapOfASelection();
+    void servesTheMenus();
     void copiesAndDeletes_data();
     void copiesAndDeletes();
-    void deletionIsRefused_data();
-    void deletionIsRefused();
-    void spriteMenuIsToldFirst();
 
+    void importsNextData_data();
     void importsNextData();
-    void nextDataFailures_data();
-    void nextDataFailures();
     void importsPictureWithItsOrientations();
     void pictureLimit_data();
     void pictureLimit();
-    void fileThatIsNoPicture();
 
     void importedPaletteIsOneUndoStep();
-    void importsPaletteOfAPicture_data();
-    void importsPaletteOfAPicture();
+    void importsColoursOfPictures();
     void importsANewPalette();
-    void paletteFailureIsTold();
 
     void importsSprites_data();
     void importsSprites();
     void spriteFailureLeavesNothing();
 
 private:
-    /// The failure that the message box for imports shows; empty while it is not open.
-    [[nodiscard]] QString shownFailure() const;
     [[nodiscard]] QString path(const QString &name) const { return m_folder->filePath(name); }
     [[nodiscard]] int assetCount() const;
-    /// One asset of a kind, with what it needs.
-    QUuid make(Node node);
+    /// The failure that the message box for imports shows; empty while it is not open.
+    [[nodiscard]] QString shownFailure() const;
+    QUuid makePalette() const { return m_project->createPalette(CreateAction::DefaultNext, "Main")->id(); }
+    QPointer<Map> makeMap() const;
+    /// Writes the files of a Next data set, "world.1" of 2 × 2 cells, one of them cut to a size or left out (-1).
+    void writeNextData(const QString &cutSuffix, int size) const;
 
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<QWidget> m_window;
     std::unique_ptr<Project> m_project;
     std::unique_ptr<ProjectActions> m_actions;
+    QUuid m_ready; ///< the id that a signal of the actions has told last
 };
 
 void TestProjectActions::init()
@@ -121,6 +103,16 @@ void TestProjectActions::init()
     m_project = std::make_unique<Project>();
     m_window = std::make_unique<QWidget>();
     m_actions = std::make_unique<ProjectActions>([this] { return m_project.get(); }, m_window.get());
+    m_ready = {};
+    for (const auto signal : {&ProjectActions::paletteReady, &ProjectActions::tileSetReady, &ProjectActions::mapReady,
+                              &ProjectActions::blocksReady, &ProjectActions::spritesReady})
+        connect(m_actions.get(), signal, this, [this](const QUuid &id) { m_ready = id; });
+}
+
+int TestProjectActions::assetCount() const
+{
+    return int(m_project->palettes().size() + m_project->tileSets().size() + m_project->maps().size()
+               + m_project->blockSets().size() + m_project->spriteBanks().size() + m_project->images().size());
 }
 
 QString TestProjectActions::shownFailure() const
@@ -131,114 +123,66 @@ QString TestProjectActions::shownFailure() const
     return box->text() == "Import Incomplete" ? box->informativeText() : "not the box for imports";
 }
 
-int TestProjectActions::assetCount() const
+QPointer<Map> TestProjectActions::makeMap() const
 {
-    return int(m_project->palettes().size() + m_project->tileSets().size() + m_project->maps().size()
-               + m_project->blockSets().size() + m_project->spriteBanks().size() + m_project->images().size());
+    return m_project->createMap("Level", m_project->createTileSet("Tiles", makePalette(), 4)->id(), {2, 2});
 }
 
-QUuid TestProjectActions::make(Node node)
-{
-    const QUuid palette = m_project->createPalette(CreateAction::DefaultNext, "Main")->id();
-    if (node == ProjectTree::PaletteNode)
-        return palette;
-    if (node == ProjectTree::SpriteBankNode)
-        return m_project->createSpriteBank(Quenmora::EightBit, "Hero", palette)->id();
-    if (node == ProjectTree::ImageNode)
-        return m_project->createImage(Quenmora::LoRes_128x96, "Title", palette)->id();
-    const QUuid tiles = m_project->createTileSet("Tiles", palette, 4)->id();
-    if (node == ProjectTree::MapNode)
-        return m_project->createMap("Level", tiles, {2, 2})->id();
-    return node == ProjectTree::TileSetNode ? tiles : m_project->createBlockList("Doors", tiles)->id();
-}
+// Creating, copying and deleting
 
-// Creating
-
-void TestProjectActions::nothingHappensWithoutAProject()
+void TestProjectActions::needsAProject()
 {
-    ProjectActions actions([]() -> Project * { return nullptr; }, m_window.get());
-    QSignalSpy ready(&actions, &ProjectActions::mapReady);
-    QSignalSpy deleted(&actions, &ProjectActions::itemDeleted);
-    actions.createPalette(CreateAction::Blank, "x");
-    actions.createTileSet("x", {}, 256, false);
-    actions.createMap("x", {}, {40, 32});
-    actions.createBlocks("x", {});
-    actions.createSprites(SpriteDialog::NewPalette, "x", {});
-    actions.createImage("x", Quenmora::LoRes_128x96, {});
-    actions.createMapFromSelection({}, {1, 1});
-    actions.copyItem(ProjectTree::MapNode, {});
-    actions.deleteItem(ProjectTree::MapNode, {});
-    actions.importMap("x.nxm");
-    actions.importPalette({}, "x.pal");
-    actions.importSpritePicture({});
-    actions.importSpriteData({});
-    QCOMPARE(ready.size() + deleted.size(), 0);
-    QCOMPARE(shownFailure(), QString());
+    m_project.reset();
+    m_actions->createSprites(SpriteDialog::NewPalette, "x", {});
+    m_actions->createMapFromSelection({}, {1, 1});
+    m_actions->deleteItem(ProjectTree::MapNode, {});
+    m_actions->importMap("x.nxm");
+    m_actions->importPalette({}, "x.pal");
+    QVERIFY(m_ready.isNull() && shownFailure().isEmpty());
 }
 
 void TestProjectActions::createsWhatIsAskedFor()
 {
-    const QUuid palette = make(ProjectTree::PaletteNode);
-    QSignalSpy ready(m_actions.get(), &ProjectActions::tileSetReady);
-    m_actions->createTileSet("Forest", palette, 256, true);
+    const QUuid palette = makePalette();
     m_actions->createTileSet("Cave", {}, 512, false);
-    QCOMPARE(ready.size(), 2);
-    const QPointer<TileSet> forest = m_project->tileSet(ready[0][0].toUuid());
-    QCOMPARE(forest->paletteId(), palette);
-    QCOMPARE(forest->count(), 256);
-    QVERIFY(forest->hiRes());
-    const QPointer<TileSet> cave = m_project->tileSet(ready[1][0].toUuid());
-    QCOMPARE(m_project->paletteNames(), QStringList({"Main", "Cave"}));
-    QCOMPARE(cave->palette()->name(), "Cave");
-    QCOMPARE(cave->palette()->rawColour(255), 0);
-
-    const QUuid tiles = forest->id();
-    QSignalSpy map(m_actions.get(), &ProjectActions::mapReady);
-    QSignalSpy blocks(m_actions.get(), &ProjectActions::blocksReady);
-    m_actions->createMap("Level", tiles, {40, 32});
-    m_actions->createBlocks("Doors", tiles);
-    m_actions->createImage("Title", Quenmora::Layer2_640x256, m_project->palettes().first()->id());
-    QCOMPARE(m_project->map(map.at(0).at(0).toUuid())->size(), QSize(40, 32));
-    QCOMPARE(m_project->blocks(blocks.at(0).at(0).toUuid())->tileSet()->id(), tiles);
-    QCOMPARE(m_project->images().size(), 1);
+    QCOMPARE(m_project->tileSet(m_ready)->palette()->name(), "Cave");
+    QCOMPARE(m_project->tileSet(m_ready)->palette()->rawColour(255), 0);
+    m_actions->createTileSet("Forest", palette, 256, true);
+    const QPointer<TileSet> forest = m_project->tileSet(m_ready);
+    QVERIFY(forest->paletteId() == palette && forest->count() == 256 && forest->hiRes());
+    m_actions->createMap("Level", forest->id(), {40, 32});
+    QVERIFY(m_project->map(m_ready)->size() == QSize(40, 32) && m_project->map(m_ready)->tileSet() == forest);
+    m_actions->createBlocks("Doors", forest->id());
+    QCOMPARE(m_project->blocks(m_ready)->tileSet(), forest);
+    m_actions->createImage("Title", Quenmora::Layer2_640x256, palette);
     QCOMPARE(m_project->images().first()->mode(), Quenmora::Layer2_640x256);
-    QCOMPARE(m_project->images().first()->name(), "Title");
-}
-
-void TestProjectActions::createSprites()
-{
-    const QUuid palette = make(ProjectTree::PaletteNode);
-    QSignalSpy ready(m_actions.get(), &ProjectActions::spritesReady);
     for (const int options : {0, 1, 2, 3}) {
         m_actions->createSprites(SpriteDialog::CreateOptions(options), "Hero", palette);
-        const QPointer<SpriteBank> bank = m_project->spriteBank(ready.takeFirst().at(0).toUuid());
-        QCOMPARE(bank->name(), "Hero");
+        const QPointer<SpriteBank> bank = m_project->spriteBank(m_ready);
         QCOMPARE(bank->depth(), options & 1 ? Quenmora::EightBit : Quenmora::FourBit);
         QCOMPARE(bank->palette()->name(), options & 2 ? "Hero" : "Main");
     }
 }
 
-void TestProjectActions::createMapFromSelection()
+void TestProjectActions::createsAMapOfASelection()
 {
-    const QPointer<Map> map = m_project->map(make(ProjectTree::MapNode));
+    const QPointer<Map> map = makeMap();
     map->setTile({1, 1}, {.index = 3, .used = true});
     QGuiApplication::clipboard()->setMimeData(map->tileLayer()->toMimeData({1, 1, 1, 1}));
-    QSignalSpy ready(m_actions.get(), &ProjectActions::mapReady);
-    m_actions->createMapFromSelection(map->id(), {1, 1});
     m_actions->createMapFromSelection(QUuid::createUuid(), {1, 1});
     m_actions->createMapFromSelection(map->id(), {0, 0});
-    QCOMPARE(ready.size(), 1);
-    const QPointer<Map> made = m_project->map(ready[0][0].toUuid());
-    QCOMPARE(made->size(), QSize(1, 1));
-    QCOMPARE(made->tileSetId(), map->tileSetId());
+    QVERIFY(m_ready.isNull());
+    m_actions->createMapFromSelection(map->id(), {1, 1});
+    const QPointer<Map> made = m_project->map(m_ready);
+    QVERIFY(made->size() == QSize(1, 1) && made->tileSet() == map->tileSet());
     QCOMPARE(made->tileLayer()->cellAt({0, 0}).index, 3);
 }
 
-void TestProjectActions::menusAreServed()
+void TestProjectActions::servesTheMenus()
 {
     MenuBar bar;
     bar.setProject(m_project.get());
-    const QUuid palette = make(ProjectTree::PaletteNode);
+    const QUuid palette = makePalette();
     m_project->createPalette(CreateAction::Blank, "Later");
     bar.paletteMenu()->setPalette(m_project->palette(palette));
     m_actions->serve(bar);
@@ -248,107 +192,89 @@ void TestProjectActions::menusAreServed()
     QCOMPARE(m_project->maps().size(), 1);
     emit bar.mapMenu()->importRequested(path("none.png"));
     QCOMPARE(shownFailure(), "Could not read the image file");
-}
 
-// Copying and deleting
+    const QUuid sprites = m_project->createSpriteBank(Quenmora::EightBit, "Hero", palette)->id();
+    bar.spriteMenu()->setSpriteBank(m_project->spriteBank(sprites));
+    bool toldFirst = false; // while the bank still exists
+    connect(m_actions.get(), &ProjectActions::aboutToDeleteSprites, this, [&](const QUuid &id) {
+        toldFirst = id == sprites && m_project->spriteBank(id) && !bar.spriteMenu()->spriteBank();
+    });
+    m_actions->deleteItem(ProjectTree::SpriteBankNode, sprites);
+    QVERIFY(toldFirst && !m_project->spriteBank(sprites));
+}
 
 void TestProjectActions::copiesAndDeletes_data()
 {
     QTest::addColumn<Node>("node");
-    QTest::addColumn<bool>("copied");
-    for (int node = 0; node < ProjectTree::NodeCount; ++node) {
-        const bool copied =
-            node == ProjectTree::PaletteNode || node == ProjectTree::TileSetNode || node == ProjectTree::MapNode;
-        QTest::newRow(qPrintable(ProjectTree::nodeName(Node(node)))) << Node(node) << copied;
-    }
+    QTest::addColumn<int>("copies");
+    QTest::addColumn<QString>("title"); // of the refusal to delete one in use
+    QTest::addColumn<QString>("text");
+    QTest::newRow("palette") << ProjectTree::PaletteNode << 1 << "Palette In Use"
+                             << "You may not delete this palette; it is used by one or more sprites, tiles or images";
+    QTest::newRow("tile set") << ProjectTree::TileSetNode << 1 << "Tile Set In Use"
+                              << "You may not delete this Tile Set; it is used by one or more maps";
+    QTest::newRow("objects") << ProjectTree::MapObjectsNode << 0 << "Objects in use"
+                             << "You may not delete these objects; they are in use by one or more maps";
+    QTest::newRow("sprites") << ProjectTree::SpriteBankNode << 0 << QString() << QString();
+    QTest::newRow("map") << ProjectTree::MapNode << 1 << QString() << QString();
+    QTest::newRow("image") << ProjectTree::ImageNode << 0 << QString() << QString();
 }
 
 void TestProjectActions::copiesAndDeletes()
 {
     QFETCH(Node, node);
-    QFETCH(bool, copied);
-    const QUuid id = make(node);
-    const int before = assetCount();
-    m_actions->copyItem(node, QUuid::createUuid());
-    QCOMPARE(assetCount(), before);
-    m_actions->copyItem(node, id);
-    const int withCopy = before + (copied ? 1 : 0);
-    QCOMPARE(assetCount(), withCopy);
-
-    int afterwards = -1;
-    connect(m_actions.get(), &ProjectActions::itemDeleted, this,
-            [&](Node gone, const QUuid &goneId) { afterwards = gone == node && goneId == id ? assetCount() : -1; });
-    m_actions->deleteItem(node, id);
-    QCOMPARE(afterwards, withCopy - 1);
-}
-
-void TestProjectActions::deletionIsRefused_data()
-{
-    QTest::addColumn<Node>("node");
-    QTest::addColumn<QString>("title");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("palette") << ProjectTree::PaletteNode << "Palette In Use"
-                             << "You may not delete this palette; it is used by one or more sprites, tiles or images";
-    QTest::newRow("tile set") << ProjectTree::TileSetNode << "Tile Set In Use"
-                              << "You may not delete this Tile Set; it is used by one or more maps";
-    QTest::newRow("map objects") << ProjectTree::MapObjectsNode << "Objects in use"
-                                 << "You may not delete these objects; they are in use by one or more maps";
-}
-
-void TestProjectActions::deletionIsRefused()
-{
-    QFETCH(Node, node);
+    QFETCH(int, copies);
     QFETCH(QString, title);
     QFETCH(QString, text);
-    const QPointer<Map> map = m_project->map(make(ProjectTree::MapNode));
-    const QUuid blocks = m_project->createBlockList("Doors", map->tileSetId())->id();
-    const QUuid ids[] = {map->tileSet()->paletteId(), map->tileSetId(), blocks};
-    const int before = assetCount();
+    SampleProject::fill(*m_project);
+    // the first of a kind is used by others, the last is not
+    const QUuid firsts[]{m_project->palettes().first()->id(),  m_project->tileSets().first()->id(),
+                         m_project->blockSets().first()->id(), m_project->spriteBanks().first()->id(),
+                         m_project->maps().first()->id(),      m_project->images().first()->id()};
+    const QUuid lasts[]{m_project->palettes().last()->id(),  m_project->tileSets().last()->id(),
+                        m_project->blockSets().last()->id(), m_project->spriteBanks().last()->id(),
+                        m_project->maps().last()->id(),      m_project->images().last()->id()};
+    int count = assetCount();
+    m_actions->copyItem(node, QUuid::createUuid());
+    QCOMPARE(assetCount(), count);
+    m_actions->copyItem(node, firsts[node]);
+    count += copies;
+    QCOMPARE(assetCount(), count);
     QSignalSpy failed(m_actions.get(), &ProjectActions::failed);
-    QSignalSpy deleted(m_actions.get(), &ProjectActions::itemDeleted);
-    m_actions->deleteItem(node, ids[node]);
-    QCOMPARE(failed, QList<QVariantList>({{text, title}}));
-    QCOMPARE(deleted.size(), 0);
-    QCOMPARE(assetCount(), before);
-}
-
-void TestProjectActions::spriteMenuIsToldFirst()
-{
-    MenuBar bar;
-    m_actions->serve(bar);
-    const QUuid id = make(ProjectTree::SpriteBankNode);
-    bar.spriteMenu()->setSpriteBank(m_project->spriteBank(id));
-    QSignalSpy told(m_actions.get(), &ProjectActions::aboutToDeleteSprites);
-    connect(m_actions.get(), &ProjectActions::aboutToDeleteSprites, this,
-            [&] { QVERIFY(m_project->spriteBank(id) && !bar.spriteMenu()->spriteBank()); });
-    m_actions->deleteItem(ProjectTree::SpriteBankNode, id);
-    QCOMPARE(told, QList<QVariantList>({{id}}));
-    QVERIFY(!m_project->spriteBank(id));
+    connect(m_actions.get(), &ProjectActions::itemDeleted, this, [&](Node gone, const QUuid &id) {
+        QVERIFY(gone == node && (id == firsts[node] || id == lasts[node]));
+        --count; // it is gone by now
+        QCOMPARE(assetCount(), count);
+    });
+    const int before = count;
+    m_actions->deleteItem(node, firsts[node]);
+    m_actions->deleteItem(node, lasts[node]);
+    QCOMPARE(failed, title.isEmpty() ? QList<QVariantList>() : QList<QVariantList>({{text, title}}));
+    QCOMPARE(count, before - (title.isEmpty() ? 2 : 1));
 }
 
 // Maps
 
-void TestProjectActions::importsNextData()
+void TestProjectActions::writeNextData(const QString &cutSuffix, int size) const
 {
-    const auto files = nextDataSet();
-    for (auto file = files.cbegin(); file != files.cend(); ++file)
-        QVERIFY(writeFile(path("world.1." + file.key()), file.value()));
-    QSignalSpy ready(m_actions.get(), &ProjectActions::mapReady);
-    m_actions->importMap(path("world.1.nxb"));
-    QCOMPARE(shownFailure(), QString());
-    QCOMPARE(ready.size(), 1);
-    const QPointer<Map> map = m_project->map(ready[0][0].toUuid());
-    QCOMPARE(map->name(), "world.1");
-    QCOMPARE(map->size(), QSize(2, 2));
-    QCOMPARE(map->tileLayer()->cellAt({1, 0}).index, 2);
-    QCOMPARE(map->tileSet()->count(), 512);
-    QCOMPARE(int(map->tileSet()->tile(1)->pixels()[1]), 4);
-    QCOMPARE(map->tileSet()->palette()->rawColour(1), 0xE381);
+    QByteArray palette(512, '\0');
+    palette[2] = '\xE3'; // entry 1
+    palette[3] = '\x81';
+    const QHash<QString, QByteArray> files{{"nxp", palette},
+                                           {"nxt", QByteArray(32, '\x12') + QByteArray(32, '\x34')},
+                                           {"nxm", QByteArray("\2\2", 2) + QByteArray(256, '\0')},
+                                           {"nxb", QByteArray("\1\0\2\0\3\0\0\0", 8)}}; // the tiles of one block
+    for (auto file = files.cbegin(); file != files.cend(); ++file) {
+        if (file.key() != cutSuffix)
+            QVERIFY(writeFile(path("world.1." + file.key()), file.value()));
+        else if (size >= 0)
+            QVERIFY(writeFile(path("world.1." + file.key()), file.value().left(size)));
+    }
 }
 
-void TestProjectActions::nextDataFailures_data()
+void TestProjectActions::importsNextData_data()
 {
-    QTest::addColumn<QString>("suffix"); // of the file that is damaged
+    QTest::addColumn<QString>("cutSuffix"); // of the file that is damaged
     QTest::addColumn<int>("size"); // to which it is cut; -1 removes it
     QTest::addColumn<QString>("failure");
     QTest::addColumn<int>("assets"); // that stay
@@ -357,30 +283,33 @@ void TestProjectActions::nextDataFailures_data()
     QTest::newRow("short palette") << "nxp" << 511 << "Could not import the palette data" << 1;
     QTest::newRow("short map") << "nxm" << 2 << "Could not import the map data" << 3;
     QTest::newRow("no blocks") << "nxb" << 0 << "Could not import the map data" << 3;
+    QTest::newRow("all there") << "" << 0 << "" << 3;
 }
 
-void TestProjectActions::nextDataFailures()
+void TestProjectActions::importsNextData()
 {
-    QFETCH(QString, suffix);
+    QFETCH(QString, cutSuffix);
     QFETCH(int, size);
-    auto files = nextDataSet();
-    if (size < 0)
-        files.remove(suffix);
-    else
-        files[suffix].truncate(size);
-    for (auto file = files.cbegin(); file != files.cend(); ++file)
-        QVERIFY(writeFile(path("world." + file.key()), file.value()));
-    QSignalSpy ready(m_actions.get(), &ProjectActions::mapReady);
-    m_actions->importMap(path("world.nxm"));
+    writeNextData(cutSuffix, size);
+    m_actions->importMap(path("world.1.nxt"));
     QTEST(shownFailure(), "failure");
     QTEST(assetCount(), "assets");
-    QCOMPARE(ready.size(), 0);
+    QCOMPARE(m_ready.isNull(), !shownFailure().isEmpty());
+    if (m_ready.isNull())
+        return;
+    const QPointer<Map> map = m_project->map(m_ready);
+    QCOMPARE(map->name(), "world.1");
+    QCOMPARE(map->size(), QSize(2, 2));
+    QCOMPARE(map->tileLayer()->cellAt({1, 0}).index, 2);
+    QCOMPARE(map->tileSet()->count(), 512);
+    QCOMPARE(int(map->tileSet()->tile(1)->pixels()[1]), 4);
+    QCOMPARE(map->tileSet()->palette()->rawColour(1), 0xE381);
 }
 
 void TestProjectActions::importsPictureWithItsOrientations()
 {
     // one tile and its turned and mirrored forms, and cut-off cells at the right and below
-    const QImage tile = pictureOfTiles(1, 1);
+    const QImage tile = pictureOfTiles({1, 1});
     QImage picture(8 * 3 + 5, 8 + 7, QImage::Format_RGB32);
     picture.fill(Qt::black);
     QPainter painter(&picture);
@@ -389,60 +318,51 @@ void TestProjectActions::importsPictureWithItsOrientations()
     painter.drawImage(16, 0, tile.transformed(QTransform().scale(-1, 1)));
     painter.end();
     QVERIFY(picture.save(path("level.png")));
-
-    QSignalSpy ready(m_actions.get(), &ProjectActions::mapReady);
     m_actions->importMap(path("level.png"));
-    QCOMPARE(shownFailure(), QString());
-    const QPointer<Map> map = m_project->map(ready.at(0).at(0).toUuid());
+    const QPointer<Map> map = m_project->map(m_ready);
+    QVERIFY(map);
     QCOMPARE(map->name(), "level");
     QCOMPARE(map->size(), QSize(3, 1));
     QCOMPARE(map->tileSet()->name(), "level");
     QCOMPARE(map->tileSet()->count(), 512);
-    const auto cell = [&map](int x) { return map->tileLayer()->cellAt({x, 0}); };
-    QVERIFY(cell(0).used && cell(0).index == 0 && !cell(0).rotate && !cell(0).flip && !cell(0).mirror);
-    QVERIFY(cell(1).used && cell(1).index == 0 && cell(1).rotate && !cell(1).flip && !cell(1).mirror);
-    QVERIFY(cell(2).used && cell(2).index == 0 && !cell(2).rotate && !cell(2).flip && cell(2).mirror);
+    const TileMap::TileData upright{.index = 0, .used = true};
+    const TileMap::TileData turned{.index = 0, .rotate = true, .used = true};
+    const TileMap::TileData mirrored{.index = 0, .mirror = true, .used = true};
+    QCOMPARE(map->tileLayer()->rows().first(), TileMap::Row({upright, turned, mirrored}));
     QCOMPARE(map->tileLayer()->toImage({0, 0, 3, 1}).convertToFormat(QImage::Format_RGB32), picture.copy(0, 0, 24, 8));
 }
 
 void TestProjectActions::pictureLimit_data()
 {
     QTest::addColumn<QSize>("tiles");
+    QTest::addColumn<QString>("file");
     QTest::addColumn<QString>("failure");
-    QTest::newRow("512") << QSize(32, 16) << QString();
-    QTest::newRow("513") << QSize(27, 19)
+    QTest::newRow("512") << QSize(32, 16) << "level.bmp" << QString();
+    QTest::newRow("513") << QSize(27, 19) << "level.bmp"
                          << "Cannot import the image as it would need more than 512 tiles\n513 required";
+    QTest::newRow("no picture") << QSize() << "cut.png"
+                                << "Could not read the image file";
+    QTest::newRow("suffix in upper case") << QSize() << "world.NXM"
+                                          << "Could not read the image file";
 }
 
 void TestProjectActions::pictureLimit()
 {
     QFETCH(QSize, tiles);
-    QFETCH(QString, failure);
-    QVERIFY(pictureOfTiles(tiles.width(), tiles.height()).save(path("level.bmp")));
-    m_actions->importMap(path("level.bmp"));
-    QCOMPARE(shownFailure(), failure);
-    QCOMPARE(assetCount(), failure.isEmpty() ? 3 : 0);
+    QFETCH(QString, file);
+    QVERIFY(tiles.isEmpty() ? writeFile(path(file), "\x89PNG\r\n\x1a\n and nothing more")
+                            : pictureOfTiles(tiles).save(path(file)));
+    m_actions->importMap(path(file));
+    QTEST(shownFailure(), "failure");
+    QCOMPARE(assetCount(), shownFailure().isEmpty() ? 3 : 0);
     QVERIFY(!m_window->findChild<QProgressDialog *>()); // it does not outlive its work
-}
-
-void TestProjectActions::fileThatIsNoPicture()
-{
-    const auto files = nextDataSet();
-    for (auto file = files.cbegin(); file != files.cend(); ++file)
-        QVERIFY(writeFile(path("world." + file.key().toUpper()), file.value()));
-    QVERIFY(writeFile(path("cut.png"), "\x89PNG\r\n\x1a\n and nothing more"));
-    for (const char *name : {"world.NXM", "cut.png"}) { // suffixes of data sets are lower case
-        m_actions->importMap(path(name));
-        QCOMPARE(shownFailure(), "Could not read the image file");
-        QCOMPARE(assetCount(), 0);
-    }
 }
 
 // Palettes
 
 void TestProjectActions::importedPaletteIsOneUndoStep()
 {
-    const QPointer<Palette> palette = m_project->palette(make(ProjectTree::PaletteNode));
+    const QPointer<Palette> palette = m_project->palette(makePalette());
     QUndoStack stack;
     const EditRecorder recorder(m_project.get(), [&stack](const QUuid &) { return &stack; });
     m_actions->setUndoStackProvider([&](const QUuid &id) { return id == palette->id() ? &stack : nullptr; });
@@ -453,68 +373,49 @@ void TestProjectActions::importedPaletteIsOneUndoStep()
         file.append(char(255 - i)).append(char(i));
     QVERIFY(writeFile(path("night.pal"), file));
     QSignalSpy changed(palette, &Palette::colourChanged);
-
     m_actions->importPalette(palette->id(), path("night.pal"));
     for (int i = 0; i < Palette::Size; ++i)
         QCOMPARE(palette->rawColour(i), quint16((255 - i) << 8 | i));
     QCOMPARE(changed.size(), Palette::Size);
+    m_actions->importPalette(palette->id(), path("night.pal")); // changes nothing
     QCOMPARE(stack.count(), 2);
-
     stack.undo();
     QCOMPARE(palette->rawColour(0), 0xE080);
     QCOMPARE(palette->rawColour(255), 0xFF01);
     stack.redo();
     QCOMPARE(palette->rawColour(255), 0x00FF);
-
-    m_actions->importPalette(palette->id(), path("night.pal")); // changes nothing
-    QCOMPARE(stack.count(), 2);
 }
 
-void TestProjectActions::importsPaletteOfAPicture_data()
+void TestProjectActions::importsColoursOfPictures()
 {
-    QTest::addColumn<bool>("indexed");
-    QTest::newRow("colour table") << true;
-    QTest::newRow("distinct colours in reading order") << false;
-}
-
-void TestProjectActions::importsPaletteOfAPicture()
-{
-    QFETCH(bool, indexed);
-    const QPointer<Palette> palette = m_project->palette(make(ProjectTree::PaletteNode));
-    QImage picture(2, 2, QImage::Format_RGB32);
+    const QPointer<Palette> palette = m_project->palette(makePalette());
+    QImage picture(2, 2, QImage::Format_RGB32); // its distinct colours in reading order
     picture.fill(qRgb(0, 0, 255));
     picture.setPixel(1, 0, qRgb(219, 0, 0)); // as the hardware shows level 6
-    if (indexed) {
-        picture = QImage(2, 2, QImage::Format_Indexed8);
-        picture.setColorTable({qRgb(0, 0, 255), qRgb(219, 0, 0), qRgb(0, 255, 0)});
-        picture.fill(2);
+    QImage indexed(2, 2, QImage::Format_Indexed8); // its colour table
+    indexed.setColorTable({qRgb(0, 0, 255), qRgb(219, 0, 0), qRgb(0, 255, 0)});
+    indexed.fill(2);
+    for (const auto &[image, third] : {std::pair(picture, 0x0201), {indexed, 0x1C00}}) { // or as it was before
+        QVERIFY(image.save(path("colours.png")));
+        m_actions->importPalette(palette->id(), path("colours.png"));
+        QCOMPARE(palette->rawColour(0), 0x0301);
+        QCOMPARE(palette->rawColour(1), 0xC000);
+        QCOMPARE(palette->rawColour(2), third);
     }
-    QVERIFY(picture.save(path("colours.png")));
-    m_actions->importPalette(palette->id(), path("colours.png"));
-    QCOMPARE(palette->rawColour(0), 0x0301);
-    QCOMPARE(palette->rawColour(1), 0xC000);
-    QCOMPARE(palette->rawColour(2), indexed ? 0x1C00 : 0x0201); // beyond the picture's colours nothing changes
-    QCOMPARE(palette->rawColour(255), 0xFF01);
 }
 
 void TestProjectActions::importsANewPalette()
 {
     QVERIFY(writeFile(path("night.npl"), QByteArray(512, '\1') + '\0'));
-    QSignalSpy ready(m_actions.get(), &ProjectActions::paletteReady);
     m_actions->importPalette({}, path("night.npl"));
-    QCOMPARE(ready.size(), 1);
-    const QPointer<Palette> palette = m_project->palette(ready[0][0].toUuid());
+    const QPointer<Palette> palette = m_project->palette(m_ready);
     QCOMPARE(palette->name(), "night");
     QCOMPARE(palette->rawColour(200), 0x0101);
-}
 
-void TestProjectActions::paletteFailureIsTold()
-{
-    const QPointer<Palette> palette = m_project->palette(make(ProjectTree::PaletteNode));
-    QVERIFY(writeFile(path("night.pal"), QByteArray(511, '\1')));
+    QVERIFY(writeFile(path("short.pal"), QByteArray(511, '\2')));
     QTest::ignoreMessage(QtWarningMsg, "Read error");
-    m_actions->importPalette(palette->id(), path("night.pal"));
-    QCOMPARE(palette->rawColour(255), 0xFF01);
+    m_actions->importPalette(palette->id(), path("short.pal"));
+    QCOMPARE(palette->rawColour(200), 0x0101);
     QCOMPARE(shownFailure(), "The file is neither a palette nor a picture that can be read");
 }
 
@@ -536,41 +437,39 @@ void TestProjectActions::importsSprites()
 {
     QFETCH(bool, picture);
     QFETCH(bool, newPalette);
-    const QUuid palette = make(ProjectTree::PaletteNode);
+    const QUuid palette = makePalette();
     QImage image(32, 16, QImage::Format_RGB32);
     image.fill(Qt::black);
     for (int x = 16; x < 24; ++x)
         image.setPixel(x, 0, qRgb(255, 0, 0));
     QVERIFY(image.save(path("hero.png")));
     QVERIFY(writeFile(path("hero.spr"), QByteArray(256, '\7') + QByteArray(256, '\5')));
-
     QUndoStack stack;
     const EditRecorder recorder(m_project.get(), [&stack](const QUuid &) { return &stack; });
-    QSignalSpy ready(m_actions.get(), &ProjectActions::spritesReady);
     const SpriteImport import{path(picture ? "hero.png" : "hero.spr"), "Hero", Quenmora::FourBit,
                               newPalette ? QUuid() : palette};
     if (picture)
         m_actions->importSpritePicture(import);
     else
         m_actions->importSpriteData(import);
-    QCOMPARE(shownFailure(), QString());
-    QCOMPARE(ready.size(), 1);
-    const QPointer<SpriteBank> bank = m_project->spriteBank(ready[0][0].toUuid());
+    const QPointer<SpriteBank> bank = m_project->spriteBank(m_ready);
+    QVERIFY(bank);
     QCOMPARE(bank->name(), "Hero");
     QCOMPARE(bank->depth(), Quenmora::FourBit);
     QTEST(bank->count(), "sprites");
     QCOMPARE(bank->palette()->name(), newPalette ? "Hero" : "Main");
     QTEST(bank->palette()->rawColour(1), "word");
+    const QImage last = bank->spriteImage(bank->count() - 1, false, false, false);
     if (picture)
-        QCOMPARE(bank->spriteImage(bank->count() - 1, false, false, false).pixel(0, 0), qRgb(255, 0, 0));
+        QCOMPARE(last.pixel(0, 0), qRgb(255, 0, 0));
     else
-        QCOMPARE(bank->spriteImage(2, false, false, false).pixelIndex(0, 0), 5);
+        QCOMPARE(last.pixelIndex(0, 0), 5);
     QCOMPARE(stack.count(), 0); // what is made by an import is no edit
 }
 
 void TestProjectActions::spriteFailureLeavesNothing()
 {
-    const QUuid palette = make(ProjectTree::PaletteNode);
+    const QUuid palette = makePalette();
     QVERIFY(writeFile(path("short"), QByteArray(255, '\1')));
     QSignalSpy created(m_project.get(), &Project::spritesCreated); // a bank that was seen could not vanish again
     for (const QUuid &paletteId : {palette, QUuid()}) {

@@ -36,36 +36,108 @@ private slots:
     void init();
     void cleanup() { m_window.reset(); }
     void listsAssetsByKind();
-    void listsAProjectThatHasAssets();
+    void followsOneProject();
     void activatesByDoubleClickAndEnter();
     void renamesAndSorts();
     void offersItsMenuOnAssetsOnly();
-    void removesDeletedAssets();
 
 private:
     [[nodiscard]] ProjectTree *tree() const { return m_window->tree(); }
     [[nodiscard]] QStringList shownItems() const { return shown(tree()->topLevelItem(0)); }
-    void select(const QUuid &id) { tree()->setCurrentItem(tree()->itemOf(id)); }
+    [[nodiscard]] QPoint placeOf(const QTreeWidgetItem *item) const { return tree()->visualItemRect(item).center(); }
     void rename(const QUuid &id, const QString &name);
 
     std::unique_ptr<Project> m_project;
     std::unique_ptr<ProjectWindow> m_window;
+    // one asset of every kind
+    QPointer<TileSet> m_tiles;
+    QPointer<MapObjects> m_doors;
+    QPointer<SpriteBank> m_hero;
+    QPointer<Map> m_level;
+    QPointer<Image> m_title;
 };
 
 void TestProjectTree::init()
 {
     m_project = std::make_unique<Project>();
-    m_project->setName("Game");
     m_window = std::make_unique<ProjectWindow>();
     m_window->setProject(m_project.get());
     m_window->activate();
     m_window->resize(300, 500);
     m_window->show();
+    QCOMPARE(shownItems(), QStringList{"untitled"});
+    const QUuid palette = m_project->createPalette(CreateAction::Blank, "Unlisted")->id();
+    QCOMPARE(shownItems(), QStringList{"untitled"});
+    m_tiles = m_project->createTileSet("Tiles", palette);
+    m_project->createTileSet("Forest", palette);
+    m_doors = m_project->createBlockList("Doors", m_tiles->id());
+    m_hero = m_project->createSpriteBank(Quenmora::FourBit, "Hero", palette);
+    m_level = m_project->createMap("Level", m_tiles->id(), {40, 32});
+    m_title = m_project->createImage(Quenmora::LoRes_128x96, "Title", palette);
+}
+
+void TestProjectTree::listsAssetsByKind()
+{
+    const QStringList all{"untitled", " Tile Sets", "  Forest", "  Tiles", "   Doors", " Sprites",
+                          "  Hero",   " Maps",      "  Level",  " Images", "  Title"};
+    QCOMPARE(shownItems(), all);
+    m_window->setProject(m_project.get()); // which has its assets now
+    QCOMPARE(shownItems(), all);
+    const Qt::GlobalColor colours[]{Qt::blue, Qt::red, Qt::magenta, Qt::green, Qt::cyan, Qt::yellow};
+    const QTreeWidgetItem *groups = tree()->topLevelItem(0);
+    QCOMPARE(groups->childCount(), 6);
+    for (int node = 0; node < 6; ++node) {
+        QCOMPARE(groups->child(node)->data(0, Qt::UserRole), QVariant(node));
+        QCOMPARE(groups->child(node)->foreground(0).color(), QColor(colours[node]).lighter(150));
+    }
+}
+
+void TestProjectTree::followsOneProject()
+{
+    const QUuid tiles = m_tiles->id();
+    m_project->deleteTileSet(tiles);
+    m_window->removeItem(ProjectTree::TileSetNode, tiles);
+    m_window->removeItem(ProjectTree::TileSetNode, tiles);
+    QCOMPARE(shownItems().mid(1, 4), (QStringList{" Tile Sets", "  Forest", " Objects", "  Doors"})); // without tiles
+    Project other;
+    other.createBlockList("Unbound", {});
+    m_window->setProject(&other);
+    m_project->createTileSet("Of the project before", {});
+    QCOMPARE(shownItems(), (QStringList{"untitled", " Objects", "  Unbound"}));
+    m_window->setProject(nullptr);
+    QCOMPARE(tree()->topLevelItemCount(), 0);
+}
+
+void TestProjectTree::activatesByDoubleClickAndEnter()
+{
+    QStringList activated;
+    const auto note = [&](const char *kind, auto signal) {
+        connect(m_window.get(), signal, this, [&activated, kind](QUuid id) { activated.append(kind + id.toString()); });
+    };
+    note("palette", &ProjectWindow::selectedPaletteChanged);
+    note("tiles", &ProjectWindow::selectedTileSetChanged);
+    note("blocks", &ProjectWindow::selectedBlocksChanged);
+    note("sprites", &ProjectWindow::selectedSpritesChanged);
+    note("map", &ProjectWindow::selectedMapChanged);
+    note("image", &ProjectWindow::selectedImageChanged);
+    for (const QUuid &id : {m_tiles->id(), m_doors->id(), m_hero->id(), m_level->id(), m_title->id()}) {
+        QTest::mouseClick(tree()->viewport(), Qt::LeftButton, {}, placeOf(tree()->itemOf(id)));
+        QTest::mouseDClick(tree()->viewport(), Qt::LeftButton, {}, placeOf(tree()->itemOf(id)));
+    }
+    tree()->doubleClickFilter(tree()->topLevelItem(0), 0);
+    tree()->doubleClickFilter(tree()->topLevelItem(0)->child(ProjectTree::MapNode), 0);
+    QTest::keyClick(tree(), Qt::Key_Return);
+    m_window->itemDoubleClicked(ProjectTree::PaletteNode, m_tiles->id());
+    QCOMPARE(activated,
+             (QStringList{"tiles" + m_tiles->id().toString(), "blocks" + m_doors->id().toString(),
+                          "sprites" + m_hero->id().toString(), "map" + m_level->id().toString(),
+                          "image" + m_title->id().toString(), "image" + m_title->id().toString(),
+                          "palette" + m_tiles->id().toString()}));
 }
 
 void TestProjectTree::rename(const QUuid &id, const QString &name)
 {
-    select(id);
+    tree()->setCurrentItem(tree()->itemOf(id));
     QTest::keyClick(tree(), Qt::Key_F2);
     auto *editor = tree()->findChild<QLineEdit *>();
     QVERIFY(editor);
@@ -74,152 +146,48 @@ void TestProjectTree::rename(const QUuid &id, const QString &name)
     QTRY_VERIFY(!tree()->findChild<QLineEdit *>());
 }
 
-void TestProjectTree::listsAssetsByKind()
-{
-    QCOMPARE(shownItems(), QStringList{"Game"});
-    const QUuid palette = m_project->createPalette(CreateAction::Blank, "Unlisted")->id();
-    QCOMPARE(shownItems(), QStringList{"Game"});
-    const QUuid tiles = m_project->createTileSet("Tiles", palette)->id();
-    QCOMPARE(shownItems(), (QStringList{"Game", " Tile Sets", "  Tiles"}));
-    m_project->createTileSet("Forest", palette);
-    m_project->createBlockList("Doors", tiles);
-    m_project->createSpriteBank(Quenmora::FourBit, "Hero", palette);
-    m_project->createMap("Level", tiles, {40, 32});
-    m_project->createImage(Quenmora::LoRes_128x96, "Title", palette);
-    QCOMPARE(shownItems(),
-             (QStringList{"Game", " Tile Sets", "  Forest", "  Tiles", "   Doors", " Sprites", "  Hero", " Maps",
-                          "  Level", " Images", "  Title"}));
-
-    const QTreeWidgetItem *groups = tree()->topLevelItem(0);
-    QCOMPARE(groups->childCount(), 6);
-    for (int node = 0; node < 6; ++node)
-        QCOMPARE(groups->child(node)->data(0, Qt::UserRole), QVariant(node));
-    QCOMPARE(groups->child(1)->foreground(0).color(), QColor(Qt::red).lighter(150));
-    QCOMPARE(groups->child(5)->foreground(0).color(), QColor(Qt::yellow).lighter(150));
-}
-
-void TestProjectTree::listsAProjectThatHasAssets()
-{
-    Project project;
-    const QUuid tiles = project.createTileSet("Tiles", {})->id();
-    project.createBlockList("Doors", tiles);
-    project.createBlockList("Unbound", {});
-    project.createImage(Quenmora::LoRes_128x96, "Title", {});
-    m_window->setProject(&project);
-    QCOMPARE(
-        shownItems(),
-        (QStringList{"untitled", " Tile Sets", "  Tiles", "   Doors", " Objects", "  Unbound", " Images", "  Title"}));
-    m_project->createTileSet("Of the project before", {});
-    QCOMPARE(shownItems().size(), 8);
-    m_window->setProject(nullptr);
-    QCOMPARE(tree()->topLevelItemCount(), 0);
-}
-
-void TestProjectTree::activatesByDoubleClickAndEnter()
-{
-    const QUuid tiles = m_project->createTileSet("Tiles", {})->id();
-    const QUuid doors = m_project->createBlockList("Doors", tiles)->id();
-    const QUuid hero = m_project->createSpriteBank(Quenmora::FourBit, "Hero", {})->id();
-    const QUuid level = m_project->createMap("Level", tiles, {40, 32})->id();
-    const QUuid title = m_project->createImage(Quenmora::LoRes_128x96, "Title", {})->id();
-    QStringList activated;
-    const auto note = [&activated](const char *kind) {
-        return [&activated, kind](const QUuid &id) { activated.append(kind + id.toString()); };
-    };
-    connect(m_window.get(), &ProjectWindow::selectedPaletteChanged, this, note("palette"));
-    connect(m_window.get(), &ProjectWindow::selectedTileSetChanged, this, note("tile set"));
-    connect(m_window.get(), &ProjectWindow::selectedBlocksChanged, this, note("blocks"));
-    connect(m_window.get(), &ProjectWindow::selectedSpritesChanged, this, note("sprites"));
-    connect(m_window.get(), &ProjectWindow::selectedMapChanged, this, note("map"));
-    connect(m_window.get(), &ProjectWindow::selectedImageChanged, this, note("image"));
-
-    for (const QUuid &id : {tiles, doors, hero, level, title}) {
-        const QPoint middle = tree()->visualItemRect(tree()->itemOf(id)).center();
-        QTest::mouseClick(tree()->viewport(), Qt::LeftButton, {}, middle);
-        QTest::mouseDClick(tree()->viewport(), Qt::LeftButton, {}, middle);
-    }
-    const QStringList expected{"tile set" + tiles.toString(), "blocks" + doors.toString(), "sprites" + hero.toString(),
-                               "map" + level.toString(), "image" + title.toString()};
-    QCOMPARE(activated, expected);
-    m_window->itemDoubleClicked(ProjectTree::PaletteNode, tiles);
-    QCOMPARE(activated.takeLast(), "palette" + tiles.toString());
-
-    tree()->doubleClickFilter(tree()->topLevelItem(0), 0);
-    tree()->doubleClickFilter(tree()->topLevelItem(0)->child(ProjectTree::MapNode), 0);
-    QCOMPARE(activated, expected);
-    select(level);
-    QTest::keyClick(tree(), Qt::Key_Return);
-    QCOMPARE(activated.last(), "map" + level.toString());
-    QCOMPARE(activated.size(), expected.size() + 1);
-}
-
 void TestProjectTree::renamesAndSorts()
 {
-    const QPointer<TileSet> tiles = m_project->createTileSet("B", {});
-    m_project->createTileSet("C", {});
-    const QPointer<MapObjects> doors = m_project->createBlockList("Doors", tiles->id());
-    const QPointer<SpriteBank> hero = m_project->createSpriteBank(Quenmora::FourBit, "Hero", {});
-    const QPointer<Map> level = m_project->createMap("Level", tiles->id(), {40, 32});
-    const QPointer<Image> title = m_project->createImage(Quenmora::LoRes_128x96, "Title", {});
     QSignalSpy renamed(m_window.get(), &ProjectWindow::itemRenamed);
-
-    rename(tiles->id(), "D");
-    QCOMPARE(tiles->name(), "D");
-    QCOMPARE(shownItems().mid(1, 4), (QStringList{" Tile Sets", "  C", "  D", "   Doors"}));
-    rename(tiles->id(), "A");
-    QCOMPARE(shownItems().mid(1, 4), (QStringList{" Tile Sets", "  A", "   Doors", "  C"}));
-    rename(doors->id(), "Gates");
-    QCOMPARE(doors->name(), "Gates");
-    rename(hero->id(), "Heroine");
-    QCOMPARE(hero->name(), "Heroine");
-    rename(level->id(), "Level 1");
-    QCOMPARE(level->name(), "Level 1");
-    rename(title->id(), "Titles");
-    QCOMPARE(title->name(), "Titles");
-    rename(tiles->id(), "  "); // nobody may have this name
-    QCOMPARE(tiles->name(), "A");
-    QCOMPARE(tree()->itemOf(tiles->id())->text(0), "A");
-    QCOMPARE(renamed.size(), 6);
-    QCOMPARE(renamed.last(), (QVariantList{title->id(), "Titles"}));
+    rename(m_tiles->id(), "Bricks");
+    QCOMPARE(shownItems().mid(1, 4), (QStringList{" Tile Sets", "  Bricks", "   Doors", "  Forest"}));
+    rename(m_doors->id(), "Gates");
+    rename(m_hero->id(), "Heroine");
+    rename(m_level->id(), "Level 1");
+    rename(m_title->id(), "Titles");
+    rename(m_tiles->id(), "  "); // nobody may have this name
+    QCOMPARE(shownItems(),
+             (QStringList{"untitled", " Tile Sets", "  Bricks", "   Gates", "  Forest", " Sprites", "  Heroine",
+                          " Maps", "  Level 1", " Images", "  Titles"}));
+    QCOMPARE((QStringList{m_tiles->name(), m_doors->name(), m_hero->name(), m_level->name(), m_title->name()}),
+             (QStringList{"Bricks", "Gates", "Heroine", "Level 1", "Titles"}));
+    QCOMPARE(renamed.size(), 5);
+    QCOMPARE(renamed.last(), (QVariantList{m_title->id(), "Titles"}));
 }
 
 void TestProjectTree::offersItsMenuOnAssetsOnly()
 {
-    const QUuid tiles = m_project->createTileSet("Tiles", {})->id();
-    const QUuid doors = m_project->createBlockList("Doors", tiles)->id();
     QMenu *menu = tree()->itemMenu();
-    QTreeWidgetItem *group = tree()->topLevelItem(0)->child(ProjectTree::TileSetNode);
-    tree()->showContextMenu(tree()->visualItemRect(group).center());
-    tree()->showContextMenu(tree()->visualItemRect(tree()->topLevelItem(0)).center());
+    tree()->showContextMenu(placeOf(tree()->topLevelItem(0)->child(ProjectTree::TileSetNode)));
+    tree()->showContextMenu(placeOf(tree()->topLevelItem(0)));
     QVERIFY(!menu->isVisible());
-    tree()->showContextMenu(tree()->visualItemRect(tree()->itemOf(doors)).center());
+    tree()->showContextMenu(placeOf(tree()->itemOf(m_doors->id())));
     QVERIFY(menu->isVisible());
     menu->hide();
 
     QSignalSpy deleted(m_window.get(), &ProjectWindow::deleteItemTriggered);
     QSignalSpy copied(m_window.get(), &ProjectWindow::copyItemTriggered);
-    QCOMPARE(menu->actions().size(), 3);
     menu->actions().at(1)->trigger();
-    QCOMPARE(deleted.takeFirst(), (QVariantList{QVariant::fromValue(ProjectTree::MapObjectsNode), doors}));
-    select(tiles);
+    QCOMPARE(deleted.takeFirst(), (QVariantList{QVariant::fromValue(ProjectTree::MapObjectsNode), m_doors->id()}));
+    tree()->setCurrentItem(tree()->itemOf(m_tiles->id()));
     tree()->showItemContextMenu();
     QVERIFY(menu->isVisible());
     menu->hide();
     menu->actions().at(2)->trigger();
-    QCOMPARE(copied.takeFirst(), (QVariantList{QVariant::fromValue(ProjectTree::TileSetNode), tiles}));
     QTest::keyClick(tree(), Qt::Key_Delete);
-    QCOMPARE(deleted.takeFirst(), (QVariantList{QVariant::fromValue(ProjectTree::TileSetNode), tiles}));
-}
-
-void TestProjectTree::removesDeletedAssets()
-{
-    const QUuid tiles = m_project->createTileSet("Tiles", {})->id();
-    m_project->createBlockList("Doors", tiles);
-    m_project->deleteTileSet(tiles);
-    m_window->removeItem(ProjectTree::TileSetNode, tiles);
-    QCOMPARE(shownItems(), (QStringList{"Game", " Objects", "  Doors"})); // it lives on without tiles
-    m_window->removeItem(ProjectTree::TileSetNode, tiles);
-    QCOMPARE(shownItems().size(), 3);
+    const QVariantList tiles{QVariant::fromValue(ProjectTree::TileSetNode), m_tiles->id()};
+    QCOMPARE(copied, QList<QVariantList>{tiles});
+    QCOMPARE(deleted, QList<QVariantList>{tiles});
 }
 
 QUENMORA_TEST_MAIN(TestProjectTree)
