@@ -11,117 +11,77 @@
 #include <QPushButton>
 #include <QTest>
 
+namespace {
+
+const QJsonDocument Defaults = QJsonDocument::fromJson(R"({
+    "general": {"backupOnSave": true, "versionCheckEnabled": true, "updateInterval": "weekly", "skippedVersion": "",
+        "lastUpdateCheck": ""},
+    "mapEditor": {"checkerBoard": true, "gridColour1": "#404040", "gridColour2": "#505050", "overlayGrid": true,
+        "gridSize": 8, "defaultZoom": 4}})");
+const QJsonDocument Changed = QJsonDocument::fromJson(R"({
+    "general": {"backupOnSave": false, "versionCheckEnabled": false, "updateInterval": "monthly",
+        "skippedVersion": "0.7.1.0", "lastUpdateCheck": "2026-12-24"},
+    "mapEditor": {"checkerBoard": false, "gridColour1": "#12abef", "gridColour2": "#000000", "overlayGrid": false,
+        "gridSize": 64, "defaultZoom": 8}})");
+const QJsonDocument Unusable = QJsonDocument::fromJson(R"({
+    "general": {"backupOnSave": "no", "versionCheckEnabled": 0, "updateInterval": ["daily"], "skippedVersion": 7},
+    "mapEditor": {"checkerBoard": 1, "gridColour1": 255, "gridColour2": {}, "overlayGrid": "", "gridSize": 1e300,
+        "defaultZoom": "2"}})");
+
+} // namespace
+
 class TestPreferences : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void everySettingIsReadBack();
-    void damagedSettingsFallBack();
-    void onlySaveKeepsChanges_data();
+    void everySettingIsReadBackOrFallsBack();
     void onlySaveKeepsChanges();
     void chosenColourGoesToItsButton();
-
-private:
-    static QJsonObject defaultGeneral()
-    {
-        return {{"backupOnSave", true},
-                {"versionCheckEnabled", true},
-                {"updateInterval", "weekly"},
-                {"skippedVersion", ""},
-                {"lastUpdateCheck", ""}};
-    }
-    static QJsonObject defaultMapEditor()
-    {
-        return {{"checkerBoard", true}, {"gridColour1", "#404040"}, {"gridColour2", "#505050"}, {"overlayGrid", true},
-                {"gridSize", 8},        {"defaultZoom", 4}};
-    }
-    static QJsonObject changedGeneral()
-    {
-        return {{"backupOnSave", false},
-                {"versionCheckEnabled", false},
-                {"updateInterval", "monthly"},
-                {"skippedVersion", "0.7.1.0"},
-                {"lastUpdateCheck", "2026-12-24"}};
-    }
-    static QJsonObject changedMapEditor()
-    {
-        return {{"checkerBoard", false}, {"gridColour1", "#12abef"}, {"gridColour2", "#000000"},
-                {"overlayGrid", false},  {"gridSize", 64},           {"defaultZoom", 8}};
-    }
-    static QJsonDocument document(const QJsonObject &general, const QJsonObject &mapEditor)
-    {
-        return QJsonDocument(QJsonObject{{"general", general}, {"mapEditor", mapEditor}});
-    }
 };
 
-void TestPreferences::everySettingIsReadBack()
+void TestPreferences::everySettingIsReadBackOrFallsBack()
 {
     PreferencesDialog dialog;
-    QCOMPARE(dialog.toJson(), document(defaultGeneral(), defaultMapEditor()));
+    QCOMPARE(dialog.toJson(), Defaults);
+    dialog.fromJson(Unusable);
+    QCOMPARE(dialog.toJson(), Defaults);
+    dialog.fromJson(Changed);
     dialog.fromJson({});
-    const QJsonDocument changed = document(changedGeneral(), changedMapEditor());
-    dialog.fromJson(changed);
-    QCOMPARE(dialog.toJson(), changed);
-
-    // What is missing: defaults on the general page, present values on the map editor page.
-    dialog.fromJson(QJsonDocument(QJsonObject{{"other", 1}}));
-    QCOMPARE(dialog.toJson(), document(defaultGeneral(), changedMapEditor()));
-}
-
-void TestPreferences::damagedSettingsFallBack()
-{
-    PreferencesDialog dialog;
-    const QJsonObject wrongGeneral{{"backupOnSave", "no"},
-                                   {"versionCheckEnabled", 0},
-                                   {"updateInterval", QJsonArray{"daily"}},
-                                   {"skippedVersion", 7},
-                                   {"lastUpdateCheck", QJsonValue::Null}};
-    const QJsonObject wrongMapEditor{{"checkerBoard", 1}, {"gridColour1", 255}, {"gridColour2", QJsonObject()},
-                                     {"overlayGrid", ""}, {"gridSize", 1e300},  {"defaultZoom", "2"}};
-    dialog.fromJson(document(wrongGeneral, wrongMapEditor));
-    QCOMPARE(dialog.toJson(), document(defaultGeneral(), defaultMapEditor()));
-
-    dialog.fromJson(document({}, {{"gridSize", 100'000}, {"defaultZoom", -3}, {"gridColour1", "no colour"}}));
-    QCOMPARE(dialog.mapEditorPage()->gridSize(), 256);
-    QCOMPARE(dialog.mapEditorPage()->defaultZoom(), 1);
-    QVERIFY(!dialog.mapEditorPage()->gridColour1().isValid());
-
+    QCOMPARE(dialog.toJson(), Changed);
+    // what is missing: defaults on the general page, present values on the map editor page
+    dialog.fromJson(QJsonDocument(QJsonArray{1, 2}));
+    QCOMPARE(dialog.generalPage()->toJson(), Defaults["general"].toObject());
+    MapEditorPage *page = dialog.mapEditorPage();
+    QCOMPARE(page->toJson(), Changed["mapEditor"].toObject());
+    page->fromJson({{"gridSize", 100'000}, {"defaultZoom", -3}, {"gridColour1", "no colour"}});
+    QVERIFY(page->gridSize() == 256 && page->defaultZoom() == 1 && !page->gridColour1().isValid());
     for (const char *interval : {"hourly", "Daily", ""}) {
-        dialog.fromJson(document({{"updateInterval", "daily"}}, {}));
-        dialog.fromJson(document({{"updateInterval", interval}}, {}));
+        dialog.generalPage()->fromJson({{"updateInterval", "daily"}});
+        dialog.generalPage()->fromJson({{"updateInterval", interval}});
         QCOMPARE(dialog.generalPage()->updateInterval(), "weekly");
     }
-    dialog.fromJson(QJsonDocument(QJsonArray{1, 2}));
-}
-
-void TestPreferences::onlySaveKeepsChanges_data()
-{
-    QTest::addColumn<QString>("way");
-    for (const char *way : {"save", "cancel", "escape", "close"})
-        QTest::newRow(way) << QString::fromLatin1(way);
 }
 
 void TestPreferences::onlySaveKeepsChanges()
 {
-    QFETCH(QString, way);
     PreferencesDialog dialog;
-    dialog.fromJson(document(changedGeneral(), changedMapEditor()));
-    const QJsonDocument shown = dialog.toJson();
-    dialog.show();
-    dialog.fromJson(document(defaultGeneral(), defaultMapEditor()));
     const auto *buttons = dialog.findChild<QDialogButtonBox *>();
-    if (way == u"save")
-        buttons->button(QDialogButtonBox::Save)->click();
-    else if (way == u"cancel")
-        buttons->button(QDialogButtonBox::Cancel)->click();
-    else if (way == u"escape")
-        QTest::keyClick(&dialog, Qt::Key_Escape);
-    else
-        dialog.close();
+    const std::function<void()> rejections[] = {[&] { buttons->button(QDialogButtonBox::Cancel)->click(); },
+                                                [&] { QTest::keyClick(&dialog, Qt::Key_Escape); },
+                                                [&] { dialog.close(); }};
+    for (const auto &reject : rejections) {
+        dialog.show();
+        dialog.fromJson(Changed);
+        reject();
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(dialog.toJson(), Defaults);
+    }
+    dialog.show();
+    dialog.fromJson(Changed);
+    buttons->button(QDialogButtonBox::Save)->click();
     QVERIFY(!dialog.isVisible());
-    QCOMPARE(dialog.result(), int(way == u"save" ? QDialog::Accepted : QDialog::Rejected));
-    QCOMPARE(dialog.toJson(), way == u"save" ? document(defaultGeneral(), defaultMapEditor()) : shown);
+    QCOMPARE(dialog.toJson(), Changed);
 }
 
 void TestPreferences::chosenColourGoesToItsButton()
@@ -129,8 +89,6 @@ void TestPreferences::chosenColourGoesToItsButton()
     MapEditorPage page;
     page.show();
     const auto buttons = page.findChildren<ColourButton *>();
-    QCOMPARE(buttons.size(), 2);
-
     buttons.at(1)->click();
     auto *chooser = page.findChild<QColorDialog *>();
     QVERIFY(chooser->isVisible() && chooser->isModal());
@@ -138,9 +96,7 @@ void TestPreferences::chosenColourGoesToItsButton()
     chooser->setCurrentColor(QColor(1, 2, 3));
     chooser->accept();
     QCOMPARE(page.gridColour2(), QColor(1, 2, 3));
-    QCOMPARE(page.gridColour1(), QColor(64, 64, 64));
     QCOMPARE(buttons.at(1)->icon().pixmap(QSize(48, 16), 1.0).toImage().pixelColor(20, 8), QColor(1, 2, 3));
-
     buttons.at(0)->click();
     QCOMPARE(page.findChildren<QColorDialog *>().size(), 1);
     chooser->setCurrentColor(QColor(9, 9, 9));
