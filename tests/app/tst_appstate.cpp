@@ -1,33 +1,10 @@
 #include "app/appstate.h"
+#include "support/modeltools.h"
 #include "support/testmain.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QTest>
-
-namespace {
-
-const QString Folder = QStringLiteral(".config/quenmora");
-
-QString path(const QString &name)
-{
-    return QDir::home().filePath(Folder + u'/' + name);
-}
-
-void write(const QString &name, const QByteArray &content)
-{
-    QFile file(path(name));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), content.size());
-}
-
-QByteArray read(const QString &name)
-{
-    QFile file(path(name));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
-}
-
-} // namespace
 
 class TestAppState : public QObject
 {
@@ -39,27 +16,25 @@ private slots:
     void startsWithoutFiles();
     void writesStateForTheNextRun();
     void readsDamagedState();
-    void keepsOldFilesWhenItCannotWrite();
-    void usesTheHomeFolderWithoutItsOwn();
+    void worksOnWhereItCannotWrite();
+
+private:
+    static QString path(const QString &name) { return QDir::home().filePath(".config" + name); }
 };
 
 void TestAppState::cleanup()
 {
-    QDir(QDir::home().filePath(QStringLiteral(".config"))).removeRecursively();
-    QFile::remove(QDir::home().filePath(QStringLiteral(".config")));
+    QDir(path({})).removeRecursively();
 }
 
 void TestAppState::startsWithoutFiles()
 {
     AppState state;
-    QVERIFY(QDir::home().exists(Folder));
     QTest::ignoreMessage(QtWarningMsg, "Open state.json failed");
     QVERIFY(!state.loadState());
     QTest::ignoreMessage(QtWarningMsg, "Failed to open settings json file");
     QVERIFY(state.loadPreferences().isNull());
-    QCOMPARE(state.tileZoom(), 8);
-    QCOMPARE(state.lastPath(), QString());
-    QVERIFY(state.recentFiles().isEmpty() && state.windowState().isEmpty() && state.windowGeometry().isEmpty());
+    QVERIFY(state.tileZoom() == 8 && state.lastPath().isEmpty() && state.recentFiles().isEmpty());
 }
 
 void TestAppState::writesStateForTheNextRun()
@@ -71,23 +46,22 @@ void TestAppState::writesStateForTheNextRun()
     state.setRecentFiles({"/b", "/ä", "/b"});
     state.setLastPath("/home/x");
     QVERIFY(state.saveState());
-    QCOMPARE(read("state.json"),
+    QCOMPARE(readFile(path("/quenmora/state.json")),
              QByteArray("{\n    \"lastPath\": \"/home/x\",\n    \"recent\": [\n        \"/b\",\n        \"/ä\",\n"
                         "        \"/b\"\n    ],\n    \"tileZoom\": 3,\n    \"windowGeometry\": \"cGxhY2U=\",\n"
                         "    \"windowState\": \"AP8gZG9ja3M=\"\n}\n"));
-
     AppState next;
     QVERIFY(next.loadState());
     QCOMPARE(next.windowState(), QByteArray("\0\xFF docks", 8));
-    QCOMPARE(next.windowGeometry(), QByteArray("place"));
+    QCOMPARE(next.windowGeometry(), "place");
     QCOMPARE(next.tileZoom(), 3);
     QCOMPARE(next.recentFiles(), (QStringList{"/b", "/ä", "/b"}));
-    QCOMPARE(next.lastPath(), QStringLiteral("/home/x"));
+    QCOMPARE(next.lastPath(), "/home/x");
 
     const QJsonDocument preferences(QJsonObject{{"general", QJsonObject{{"backupOnSave", true}}}});
     QVERIFY(state.savePreferences(preferences));
     QCOMPARE(next.loadPreferences(), preferences);
-    write("preferences.json", "not JSON");
+    QVERIFY(writeFile(path("/quenmora/preferences.json"), "not JSON"));
     QVERIFY(next.loadPreferences().isNull());
 }
 
@@ -100,37 +74,33 @@ void TestAppState::readsDamagedState()
         state.setTileZoom(5);
         state.setWindowState("old");
         state.setWindowGeometry("old");
-        write("state.json", content);
+        QVERIFY(writeFile(path("/quenmora/state.json"), content));
         QTest::ignoreMessage(QtWarningMsg, "JSON object not found windowState");
         QTest::ignoreMessage(QtWarningMsg, "JSON object not found windowGeometry");
         QVERIFY(state.loadState());
-        QVERIFY(state.windowState().isEmpty() && state.windowGeometry().isEmpty());
-        QCOMPARE(state.tileZoom(), 8);
-        QCOMPARE(state.lastPath(), QStringLiteral("~"));
+        QVERIFY(state.windowState().isEmpty() && state.windowGeometry().isEmpty() && state.tileZoom() == 8);
+        QCOMPARE(state.lastPath(), "~");
     }
     QCOMPARE(state.recentFiles(), (QStringList{"/a", "", "", "/b"}));
 }
 
-void TestAppState::keepsOldFilesWhenItCannotWrite()
+void TestAppState::worksOnWhereItCannotWrite()
 {
-    AppState state;
-    // a folder in the way of the file stands for any place that cannot be written
-    for (const char *name : {"state.json", "preferences.json"})
-        QVERIFY(QDir::home().mkpath(path(name)));
-    QTest::ignoreMessage(QtWarningMsg, "Open state.json failed");
-    QVERIFY(!state.saveState());
-    QTest::ignoreMessage(QtWarningMsg, "Failed to open settings json file");
-    QVERIFY(!state.savePreferences(QJsonDocument(QJsonObject{{"general", QJsonObject()}})));
-    QVERIFY(QFileInfo(path("state.json")).isDir());
-}
-
-void TestAppState::usesTheHomeFolderWithoutItsOwn()
-{
-    QFile blocker(QDir::home().filePath(QStringLiteral(".config")));
-    QVERIFY(blocker.open(QIODevice::WriteOnly));
-    AppState state;
-    QVERIFY(state.saveState());
-    QVERIFY(QFile::remove(QDir::home().filePath(QStringLiteral("state.json"))));
+    {
+        // a folder in the way of the file stands for any place that cannot be written
+        QVERIFY(QDir::home().mkpath(path("/quenmora/state.json"))
+                && QDir::home().mkpath(path("/quenmora/preferences.json")));
+        const AppState state;
+        QTest::ignoreMessage(QtWarningMsg, "Open state.json failed");
+        QVERIFY(!state.saveState());
+        QTest::ignoreMessage(QtWarningMsg, "Failed to open settings json file");
+        QVERIFY(!state.savePreferences(QJsonDocument(QJsonObject{{"general", QJsonObject()}})));
+    }
+    cleanup();
+    QVERIFY(writeFile(path({}), "no folder"));
+    const AppState state;
+    QVERIFY(state.saveState()); // into the home folder itself
+    QVERIFY(QFile::remove(QDir::home().filePath("state.json")) && QFile::remove(path({})));
 }
 
 QUENMORA_TEST_MAIN(TestAppState)

@@ -2,7 +2,6 @@
 #include "support/testmain.h"
 
 #include <QDir>
-#include <QFile>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
@@ -12,56 +11,39 @@ class TestLog : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
     void writesEachKindWithItsTime();
-    void cleanupTestCase();
-
-private:
-    QTemporaryDir m_folder;
-    QString m_before;
 };
-
-void TestLog::initTestCase()
-{
-    m_before = QDir::currentPath();
-    QVERIFY(QDir::setCurrent(m_folder.path()));
-}
-
-void TestLog::cleanupTestCase()
-{
-    QDir::setCurrent(m_before);
-}
 
 void TestLog::writesEachKindWithItsTime()
 {
-    // nothing reaches the disk before the handler is installed
-    logMessageHandler(QtWarningMsg, {}, QStringLiteral("early"));
-    QVERIFY(QDir().isEmpty());
+    const QString before = QDir::currentPath();
+    const QTemporaryDir folder;
+    QVERIFY(QDir::setCurrent(folder.path()));
+    logMessageHandler(QtWarningMsg, {}, "early");
+    QVERIFY2(QDir().isEmpty(), "nothing reaches the disk before the handler is installed");
 
-    QVERIFY(QDir().mkdir(QStringLiteral("log")));
+    QVERIFY(QDir().mkdir("log"));
     QFile &file = installLogHandler();
     QCOMPARE(&installLogHandler(), &file);
-    QVERIFY(
-        QRegularExpression(QStringLiteral("^log/application_\\d{8}_\\d{6}\\.log$")).match(file.fileName()).hasMatch());
-
+    QVERIFY(QRegularExpression("^log/application_\\d{8}_\\d{6}\\.log$").match(file.fileName()).hasMatch());
     qDebug("one");
     qInfo("two ä");
     qWarning("libpng warning: iCCP: known incorrect sRGB profile");
     qWarning("not a libpng warning: three");
     qCritical("four");
-    logMessageHandler(QtFatalMsg, {}, QStringLiteral("five %s"));
-    logMessageHandler(QtMsgType(99), {}, QStringLiteral("six"));
+    logMessageHandler(QtFatalMsg, {}, "five %s");
+    logMessageHandler(QtMsgType(99), {}, "six");
     qInstallMessageHandler(nullptr);
 
     // read while the log is still open: every message has been flushed
     QFile written(file.fileName());
     QVERIFY(written.open(QIODevice::ReadOnly));
     QString text = QString::fromLocal8Bit(written.readAll());
-    text.replace(QRegularExpression(QStringLiteral("^\\d\\d:\\d\\d:\\d\\d "), QRegularExpression::MultilineOption),
-                 QStringLiteral("TIME "));
+    text.replace(QRegularExpression("^\\d\\d:\\d\\d:\\d\\d ", QRegularExpression::MultilineOption), "TIME ");
     QCOMPARE(text,
-             QStringLiteral("TIME Debug: one\nTIME Info: two ä\nTIME Warning: not a libpng warning: three\n"
-                            "TIME Critical: four\nTIME Fatal: five %s\n"));
+             "TIME Debug: one\nTIME Info: two ä\nTIME Warning: not a libpng warning: three\nTIME Critical: four\n"
+             "TIME Fatal: five %s\n");
+    QDir::setCurrent(before);
 }
 
 QUENMORA_TEST_MAIN(TestLog)

@@ -8,18 +8,13 @@ class TestVersion : public QObject
     Q_OBJECT
 
 private slots:
-    void namesThisRelease();
-    void readsTheChannelOfAVersion();
+    void namesThisReleaseAndTheChannelOfEach();
 };
 
-void TestVersion::namesThisRelease()
+void TestVersion::namesThisReleaseAndTheChannelOfEach()
 {
-    QCOMPARE(appChannel(), QStringLiteral("stable"));
-    QCOMPARE(appDisplayName(), QStringLiteral("Quenmora v0.7.0.0 [2026-10-15]"));
-}
-
-void TestVersion::readsTheChannelOfAVersion()
-{
+    QCOMPARE(appChannel(), "stable");
+    QCOMPARE(appDisplayName(), "Quenmora v0.7.0.0 [2026-10-15]");
     for (const auto &[version, channel] : {std::pair{"", "stable"},
                                            {"0.8.0.0-alpha", "alpha"},
                                            {"0.8.0.0-beta2", "beta"},
