@@ -188,6 +188,7 @@ protected:
 
 private slots:
     void tileMapChanged();
+    void tilesChanged();
     void mapRestored();
     void mapDestroyed();
     void spriteAnimationsChanged();

@@ -6,6 +6,7 @@
 
 #include <QRubberBand>
 
+#include <algorithm>
 #include <utility>
 
 namespace MapEditor {
@@ -35,8 +36,8 @@ void MapGrid::followMap()
     m_tileSet = m_map->tileSet();
     if (m_tileSet) {
         connect(m_tileSet, &TileSet::tileChanged, this, &MapGrid::tileMapChanged);
-        connect(m_tileSet, &TileSet::structureChanged, this, &MapGrid::tileMapChanged);
-        connect(m_tileSet, &TileSet::restored, this, &MapGrid::tileMapChanged);
+        connect(m_tileSet, &TileSet::structureChanged, this, &MapGrid::tilesChanged);
+        connect(m_tileSet, &TileSet::restored, this, &MapGrid::tilesChanged);
         connect(m_tileSet, &QObject::destroyed, this, &MapGrid::tileMapChanged);
     }
     connect(m_map, &Map::restored, this, &MapGrid::mapRestored, Qt::UniqueConnection);
@@ -80,6 +81,12 @@ void MapGrid::mapDestroyed()
     unfollowMap();
     forget();
     relayout();
+}
+
+void MapGrid::tilesChanged()
+{
+    m_currentTile.index = std::min(m_currentTile.index, m_tileSet->count() - 1); // it may be gone
+    update();
 }
 
 void MapGrid::tileMapChanged()
