@@ -30,16 +30,12 @@ public:
     /// The open project; without one nothing can be edited.
     void setProject(const QPointer<Project> &project);
 
-    /// The editor that the user works in, or null.
-    [[nodiscard]] QWidget *activeWidget() const { return m_active; }
-    /// The same as the target of the clipboard commands; null when it is none.
+    /// The editor that the user works in, as the target of the clipboard commands; null when it is none.
     [[nodiscard]] EditTarget *target() const;
 
-public slots:
+private:
     /// Makes the page in front the active one.
     void followTab();
-
-private:
     void followKeyboard(QWidget *widget);
     void activate(QWidget *editor, const QUuid &documentId);
     void activateNone();
@@ -50,7 +46,7 @@ private:
     QUndoGroup *m_undoGroup;
     EditRecorder::StackProvider m_stackFor;
     QPointer<Project> m_project;
-    QPointer<QWidget> m_active;
+    QPointer<QWidget> m_active; ///< the editor that the user works in
     /// The map editor that the map toolbar is attached to.
     QPointer<MapEditor::View> m_mapEditor;
 };

@@ -22,7 +22,6 @@ public:
 
     /// The stack of an id; it goes when the asset does, or with all others when that is null.
     QUndoStack *stackFor(const QUuid &id, QObject *asset);
-    void drop(const QUuid &id);
     void clear();
 
     /// Whether every stack is clean.
@@ -31,6 +30,8 @@ public:
     void setClean();
 
 private:
+    void drop(const QUuid &id);
+
     QUndoGroup m_group;
     QHash<QUuid, QUndoStack *> m_stacks;
 };

@@ -20,6 +20,17 @@ QList<QPointer<Asset>> byName(QList<QPointer<Asset>> assets)
     return assets;
 }
 
+/// The colours of a palette as a small square.
+QIcon swatchOf(const Palette &palette)
+{
+    QImage swatch(16, 16, QImage::Format_RGB32);
+    const QList<QRgb> colours = palette.colourTable();
+    for (int index = 0; index < Palette::Size; ++index)
+        swatch.setPixel(index % 16, index / 16, colours[index]);
+    // large enough for every pixel ratio
+    return QPixmap::fromImage(swatch.scaled(64, 64));
+}
+
 } // namespace
 
 AssetChooser::AssetChooser(QWidget *parent) : QComboBox(parent)
@@ -65,14 +76,4 @@ QString AssetChooser::newPaletteProblem(const QString &name) const
     const bool taken = findText(name, Qt::MatchExactly | Qt::MatchCaseSensitive) >= 0;
     return id().isNull() && taken ? tr("There is a palette of this name already; choose it, or another name")
                                   : QString();
-}
-
-QIcon AssetChooser::swatchOf(const Palette &palette)
-{
-    QImage swatch(16, 16, QImage::Format_RGB32);
-    const QList<QRgb> colours = palette.colourTable();
-    for (int index = 0; index < Palette::Size; ++index)
-        swatch.setPixel(index % 16, index / 16, colours[index]);
-    // large enough for every pixel ratio
-    return QPixmap::fromImage(swatch.scaled(64, 64));
 }

@@ -4,7 +4,6 @@
 #include <QString>
 #include <QUuid>
 
-class Palette;
 class Project;
 
 /// Chooses one of a project's palettes or tile sets, by name.
@@ -29,7 +28,4 @@ public:
     /// What keeps a new palette from having this name, as a sentence; empty when a palette of the project is
     /// chosen, or when no other has the name.
     [[nodiscard]] QString newPaletteProblem(const QString &name) const;
-
-    /// The colours of a palette as a small square.
-    [[nodiscard]] static QIcon swatchOf(const Palette &palette);
 };

@@ -12,12 +12,7 @@ MapMenu::MapMenu(QWidget *parent) : ProjectMenu(tr("&Map"), parent)
 
 void MapMenu::setMap(const QPointer<Map> &map)
 {
-    if (m_map)
-        disconnect(m_map, nullptr, this, nullptr);
-    m_map = map;
-    if (m_map)
-        connect(m_map, &QObject::destroyed, this, [this] { setMap(nullptr); });
-    updateActions();
+    setActive(m_map, map);
 }
 
 void MapMenu::updateActions()
@@ -36,13 +31,9 @@ void MapMenu::showImportDialog()
 {
     if (!project())
         return;
-    const QString file =
-        chooseFile({.title = tr("Import Map Data"),
-                    .nameFilters = {tr("NextTiles (*.nxm *.nxt *.nxp *.nxb)"),
-                                    tr("Image files (*.png *.bmp *.gif *.jpg *.jpeg *.pbm *.pgm *.ppm *.xbm *.xpm)")},
-                    .acceptMode = QFileDialog::AcceptOpen,
-                    .defaultSuffix = {},
-                    .folder = {}});
+    const QString file = fileToOpen(tr("Import Map Data"),
+                                    {tr("NextTiles (*.nxm *.nxt *.nxp *.nxb)"),
+                                     tr("Image files (*.png *.bmp *.gif *.jpg *.jpeg *.pbm *.pgm *.ppm *.xbm *.xpm)")});
     if (!file.isEmpty())
         emit importRequested(file);
 }
@@ -51,11 +42,7 @@ void MapMenu::showExportDialog()
 {
     if (!m_map)
         return;
-    const QString file = chooseFile({.title = tr("Export Map Data"),
-                                     .nameFilters = {tr("Map Data (*.map)")},
-                                     .acceptMode = QFileDialog::AcceptSave,
-                                     .defaultSuffix = QStringLiteral(".map"),
-                                     .folder = {}});
+    const QString file = fileToSave(tr("Export Map Data"), {tr("Map Data (*.map)")}, QStringLiteral(".map"));
     if (!file.isEmpty() && m_map && !m_map->exportData(file))
         reportExportFailure();
 }

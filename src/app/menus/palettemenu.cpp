@@ -8,33 +8,22 @@ PaletteMenu::PaletteMenu(QWidget *parent) : ProjectMenu(tr("&Palette"), parent)
                QStringLiteral(":/Palette"));
     addCommand(this, tr("&Import"), &PaletteMenu::showImportDialog, {}, QStringLiteral(":/Import"));
     addSeparator();
-    m_name = addAction(QString());
+    m_name = addAction(tr("No Palette"));
     m_name->setEnabled(false);
     m_export = addCommand(this, tr("&Export"), &PaletteMenu::showExportDialog, {}, QStringLiteral(":/Export"));
-    updateName();
 }
 
 void PaletteMenu::setPalette(const QPointer<Palette> &palette)
 {
+    setActive(m_palette, palette);
     if (m_palette)
-        disconnect(m_palette, nullptr, this, nullptr);
-    m_palette = palette;
-    if (m_palette) {
-        connect(m_palette, &Palette::nameChanged, this, &PaletteMenu::updateName);
-        connect(m_palette, &QObject::destroyed, this, [this] { setPalette(nullptr); });
-    }
-    updateActions();
+        connect(m_palette, &Palette::nameChanged, this, &PaletteMenu::updateActions);
 }
 
 void PaletteMenu::updateActions()
 {
     setEnabled(project());
     m_export->setEnabled(m_palette);
-    updateName();
-}
-
-void PaletteMenu::updateName()
-{
     m_name->setText(m_palette ? m_palette->name().replace(u'&', QStringLiteral("&&")) : tr("No Palette"));
 }
 
@@ -48,11 +37,7 @@ void PaletteMenu::showImportDialog()
 {
     if (!project())
         return;
-    const QString file = chooseFile({.title = tr("Import Palette"),
-                                     .nameFilters = {tr("Palette (*.pal *.npl)"), tr("Images (*.png *.bmp)")},
-                                     .acceptMode = QFileDialog::AcceptOpen,
-                                     .defaultSuffix = {},
-                                     .folder = {}});
+    const QString file = fileToOpen(tr("Import Palette"), {tr("Palette (*.pal *.npl)"), tr("Images (*.png *.bmp)")});
     if (!file.isEmpty())
         emit importRequested(m_palette ? m_palette->id() : QUuid(), file);
 }
@@ -61,11 +46,7 @@ void PaletteMenu::showExportDialog()
 {
     if (!m_palette)
         return;
-    const QString file = chooseFile({.title = tr("Export Palette"),
-                                     .nameFilters = {tr("Palette (*.pal *.npl)")},
-                                     .acceptMode = QFileDialog::AcceptSave,
-                                     .defaultSuffix = QStringLiteral(".pal"),
-                                     .folder = {}});
+    const QString file = fileToSave(tr("Export Palette"), {tr("Palette (*.pal *.npl)")}, QStringLiteral(".pal"));
     if (!file.isEmpty() && m_palette && !m_palette->exportData(file))
         reportExportFailure();
 }

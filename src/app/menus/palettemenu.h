@@ -33,8 +33,6 @@ protected:
     void updateActions() override;
 
 private:
-    void updateName();
-
     QPointer<Palette> m_palette;
     QAction *m_name;
     QAction *m_export;

@@ -19,6 +19,17 @@ QAction *ProjectMenu::newAction(const QString &text, const QKeySequence &shortcu
     return action;
 }
 
+QString ProjectMenu::fileToOpen(const QString &title, const QStringList &nameFilters) const
+{
+    return chooseFile({title, nameFilters, QFileDialog::AcceptOpen, QString(), QString()});
+}
+
+QString ProjectMenu::fileToSave(const QString &title, const QStringList &nameFilters,
+                                const QString &defaultSuffix) const
+{
+    return chooseFile({title, nameFilters, QFileDialog::AcceptSave, defaultSuffix, QString()});
+}
+
 QString ProjectMenu::chooseFile(const FileRequest &request) const
 {
     return m_fileChooser(request, dialogParent());

@@ -32,7 +32,7 @@ signals:
     void failed(const QString &text, const QString &title);
 
 protected:
-    /// Enables what can be done now; called whenever the project changes.
+    /// Enables what can be done now; called whenever the project or the active asset changes.
     virtual void updateActions() = 0;
 
     /// Appends an entry that calls a slot, or emits a signal, of the menu when it is chosen.
@@ -57,6 +57,22 @@ protected:
         return dialog;
     }
 
+    /// Makes an asset the active one of its kind, or none; there is none any more when it is deleted.
+    template <typename Asset>
+    void setActive(QPointer<Asset> &active, const QPointer<Asset> &asset)
+    {
+        if (active)
+            active->disconnect(this);
+        active = asset;
+        if (active)
+            connect(active, &QObject::destroyed, this, [this] { updateActions(); });
+        updateActions();
+    }
+
+    // The file that a person chooses; empty when it is none.
+    [[nodiscard]] QString fileToOpen(const QString &title, const QStringList &nameFilters) const;
+    [[nodiscard]] QString fileToSave(const QString &title, const QStringList &nameFilters,
+                                     const QString &defaultSuffix) const;
     [[nodiscard]] QString chooseFile(const FileRequest &request) const;
     [[nodiscard]] FileChooser fileChooser() const { return m_fileChooser; }
     /// Tells the user that a file could not be written.

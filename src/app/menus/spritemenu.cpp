@@ -18,12 +18,7 @@ SpriteMenu::SpriteMenu(QWidget *parent) : ProjectMenu(tr("&Sprites"), parent)
 
 void SpriteMenu::setSpriteBank(const QPointer<SpriteBank> &bank)
 {
-    if (m_spriteBank)
-        disconnect(m_spriteBank, nullptr, this, nullptr);
-    m_spriteBank = bank;
-    if (m_spriteBank)
-        connect(m_spriteBank, &QObject::destroyed, this, [this] { setSpriteBank(nullptr); });
-    updateActions();
+    setActive(m_spriteBank, bank);
 }
 
 void SpriteMenu::updateActions()
@@ -43,11 +38,8 @@ void SpriteMenu::showImportDialog()
 {
     if (!project())
         return;
-    const QString file = chooseFile({.title = tr("Select a file to import"),
-                                     .nameFilters = {tr("Images (*.png *.bmp)"), tr("Next sprites (*.spr)")},
-                                     .acceptMode = QFileDialog::AcceptOpen,
-                                     .defaultSuffix = {},
-                                     .folder = {}});
+    const QString file =
+        fileToOpen(tr("Select a file to import"), {tr("Images (*.png *.bmp)"), tr("Next sprites (*.spr)")});
     if (file.isEmpty() || !project())
         return;
     if (file.endsWith(QLatin1String(".spr"), Qt::CaseInsensitive))
@@ -66,11 +58,7 @@ void SpriteMenu::showExportDialog()
 {
     if (!m_spriteBank)
         return;
-    const QString file = chooseFile({.title = tr("Export Sprite Data"),
-                                     .nameFilters = {tr("Next Sprites (*.spr)")},
-                                     .acceptMode = QFileDialog::AcceptSave,
-                                     .defaultSuffix = QStringLiteral(".spr"),
-                                     .folder = {}});
+    const QString file = fileToSave(tr("Export Sprite Data"), {tr("Next Sprites (*.spr)")}, QStringLiteral(".spr"));
     if (file.isEmpty() || !m_spriteBank || m_spriteBank->exportSpr(file))
         return;
     qWarning("Failed to save data");

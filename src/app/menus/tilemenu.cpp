@@ -38,12 +38,7 @@ void TileMenu::setMagnificationActions(const QList<QAction *> &actions)
 
 void TileMenu::setTileSet(const QPointer<TileSet> &tileSet)
 {
-    if (m_tileSet)
-        disconnect(m_tileSet, nullptr, this, nullptr);
-    m_tileSet = tileSet;
-    if (m_tileSet)
-        connect(m_tileSet, &QObject::destroyed, this, [this] { setTileSet(nullptr); });
-    updateActions();
+    setActive(m_tileSet, tileSet);
 }
 
 void TileMenu::updateActions()
@@ -83,11 +78,7 @@ void TileMenu::exportAccepted(int first, int last, bool rotate)
         qWarning("Null tileset");
         return;
     }
-    const QString file = chooseFile({.title = tr("Export Tiles"),
-                                     .nameFilters = {tr("Tile Data (*.bin)")},
-                                     .acceptMode = QFileDialog::AcceptSave,
-                                     .defaultSuffix = QStringLiteral(".bin"),
-                                     .folder = {}});
+    const QString file = fileToSave(tr("Export Tiles"), {tr("Tile Data (*.bin)")}, QStringLiteral(".bin"));
     if (file.isEmpty() || !m_tileSet || m_tileSet->exportBlocks(file, first, last, rotate))
         return;
     qWarning("Export failed!");
@@ -98,11 +89,8 @@ void TileMenu::showExportAttributesDialog()
 {
     if (!m_tileSet)
         return;
-    const QString file = chooseFile({.title = tr("Export tile attributes"),
-                                     .nameFilters = {tr("ASM Code (*.asm)"), tr("Binary Data (*.bin)")},
-                                     .acceptMode = QFileDialog::AcceptSave,
-                                     .defaultSuffix = QStringLiteral(".asm"),
-                                     .folder = {}});
+    const QString file = fileToSave(tr("Export tile attributes"), {tr("ASM Code (*.asm)"), tr("Binary Data (*.bin)")},
+                                    QStringLiteral(".asm"));
     if (file.isEmpty() || !m_tileSet)
         return;
     const bool binary = file.endsWith(QLatin1String(".bin"), Qt::CaseInsensitive);

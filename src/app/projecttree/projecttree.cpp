@@ -129,6 +129,7 @@ void ProjectTree::addAsset(ProjectNode node, const QUuid &id, const QString &nam
     auto *item = new QTreeWidgetItem({name});
     item->setIcon(0, themedIcon(QLatin1StringView(Groups[size_t(node)].icon)));
     item->setData(0, Qt::UserRole, id);
+    item->setData(0, Qt::AccessibleDescriptionRole, nodeName(node)); // the icon says it to those who see it
     item->setFlags(item->flags() | Qt::ItemIsEditable);
     above->addChild(item);
     above->setHidden(above == group(PaletteNode));
