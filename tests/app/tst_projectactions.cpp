@@ -13,8 +13,6 @@
 #include "support/sampleproject.h"
 #include "support/testmain.h"
 
-#include <QClipboard>
-#include <QGuiApplication>
 #include <QMessageBox>
 #include <QPainter>
 #include <QProgressDialog>
@@ -61,7 +59,6 @@ private slots:
 
     void needsAProject();
     void createsWhatIsAskedFor();
-    void createsAMapOfASelection();
     void servesTheMenus();
     void copiesAndDeletes_data();
     void copiesAndDeletes();
@@ -82,11 +79,14 @@ private slots:
 
 private:
     [[nodiscard]] QString path(const QString &name) const { return m_folder->filePath(name); }
-    [[nodiscard]] int assetCount() const;
+    [[nodiscard]] qsizetype assetCount() const
+    {
+        return m_project->palettes().size() + m_project->tileSets().size() + m_project->maps().size()
+            + m_project->blockSets().size() + m_project->spriteBanks().size() + m_project->images().size();
+    }
     /// The failure that the message box for imports shows; empty while it is not open.
     [[nodiscard]] QString shownFailure() const;
     QUuid makePalette() const { return m_project->createPalette(CreateAction::DefaultNext, "Main")->id(); }
-    QPointer<Map> makeMap() const;
     /// Writes the files of a Next data set, "world.1" of 2 × 2 cells, one of them cut to a size or left out (-1).
     void writeNextData(const QString &cutSuffix, int size) const;
 
@@ -109,23 +109,12 @@ void TestProjectActions::init()
         connect(m_actions.get(), signal, this, [this](const QUuid &id) { m_ready = id; });
 }
 
-int TestProjectActions::assetCount() const
-{
-    return int(m_project->palettes().size() + m_project->tileSets().size() + m_project->maps().size()
-               + m_project->blockSets().size() + m_project->spriteBanks().size() + m_project->images().size());
-}
-
 QString TestProjectActions::shownFailure() const
 {
     const auto *box = m_window->findChild<QMessageBox *>();
     if (!box || !box->isVisible())
         return {};
     return box->text() == "Import Incomplete" ? box->informativeText() : "not the box for imports";
-}
-
-QPointer<Map> TestProjectActions::makeMap() const
-{
-    return m_project->createMap("Level", m_project->createTileSet("Tiles", makePalette(), 4)->id(), {2, 2});
 }
 
 // Creating, copying and deleting
@@ -162,20 +151,6 @@ void TestProjectActions::createsWhatIsAskedFor()
         QCOMPARE(bank->depth(), options & 1 ? Quenmora::EightBit : Quenmora::FourBit);
         QCOMPARE(bank->palette()->name(), options & 2 ? "Hero" : "Main");
     }
-}
-
-void TestProjectActions::createsAMapOfASelection()
-{
-    const QPointer<Map> map = makeMap();
-    map->setTile({1, 1}, {.index = 3, .used = true});
-    QGuiApplication::clipboard()->setMimeData(map->tileLayer()->toMimeData({1, 1, 1, 1}));
-    m_actions->createMapFromSelection(QUuid::createUuid(), {1, 1});
-    m_actions->createMapFromSelection(map->id(), {0, 0});
-    QVERIFY(m_ready.isNull());
-    m_actions->createMapFromSelection(map->id(), {1, 1});
-    const QPointer<Map> made = m_project->map(m_ready);
-    QVERIFY(made->size() == QSize(1, 1) && made->tileSet() == map->tileSet());
-    QCOMPARE(made->tileLayer()->cellAt({0, 0}).index, 3);
 }
 
 void TestProjectActions::servesTheMenus()
@@ -234,7 +209,7 @@ void TestProjectActions::copiesAndDeletes()
     const QUuid lasts[]{m_project->palettes().last()->id(),  m_project->tileSets().last()->id(),
                         m_project->blockSets().last()->id(), m_project->spriteBanks().last()->id(),
                         m_project->maps().last()->id(),      m_project->images().last()->id()};
-    int count = assetCount();
+    qsizetype count = assetCount();
     m_actions->copyItem(node, QUuid::createUuid());
     QCOMPARE(assetCount(), count);
     m_actions->copyItem(node, firsts[node]);
@@ -246,7 +221,7 @@ void TestProjectActions::copiesAndDeletes()
         --count; // it is gone by now
         QCOMPARE(assetCount(), count);
     });
-    const int before = count;
+    const qsizetype before = count;
     m_actions->deleteItem(node, firsts[node]);
     m_actions->deleteItem(node, lasts[node]);
     QCOMPARE(failed, title.isEmpty() ? QList<QVariantList>() : QList<QVariantList>({{text, title}}));
@@ -293,7 +268,7 @@ void TestProjectActions::importsNextData()
     writeNextData(cutSuffix, size);
     m_actions->importMap(path("world.1.nxt"));
     QTEST(shownFailure(), "failure");
-    QTEST(assetCount(), "assets");
+    QTEST(int(assetCount()), "assets");
     QCOMPARE(m_ready.isNull(), !shownFailure().isEmpty());
     if (m_ready.isNull())
         return;

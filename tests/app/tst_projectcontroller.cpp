@@ -4,6 +4,7 @@
 #include "model/palette.h"
 #include "support/archivetools.h"
 #include "support/filesizelimit.h"
+#include "support/modeltools.h"
 #include "support/sampleproject.h"
 #include "support/testmain.h"
 
@@ -41,8 +42,6 @@ private slots:
 private:
     [[nodiscard]] QString path(const char *name) const { return m_folder->filePath(QLatin1StringView(name)); }
     void change() { m_controller->project()->createPalette(CreateAction::DefaultNext, "Change"); }
-    /// The signals since the last call, in order.
-    [[nodiscard]] QStringList takeLog() { return std::exchange(m_log, {}); }
 
     std::optional<QTemporaryDir> m_folder;
     std::optional<FileMenu> m_menu;
@@ -50,7 +49,7 @@ private:
     Answer m_answer = Answer::Cancel;
     QStringList m_asked; ///< for what projects
     QString m_chosenFile;
-    QStringList m_log;
+    std::optional<SignalLog> m_log;
 };
 
 /// Also writes a project file that the controller under test has nothing to do with.
@@ -62,25 +61,19 @@ void TestProjectController::init()
     m_controller.emplace(nullptr, &*m_menu);
     m_asked.clear();
     m_chosenFile.clear();
-    m_log.clear();
     m_controller->setUnsavedAnswerCallback([this](const QString &name) {
         m_asked.append(name);
         return m_answer;
     });
     m_controller->setFileNameCallback([this] { return m_chosenFile; });
-
-    const auto note = [this](const auto *sender, auto signal, const QString &name) {
-        connect(sender, signal, this, [this, name] { m_log.append(name.arg(m_controller->project()->name())); });
-    };
-    note(&*m_controller, &ProjectController::aboutToSave, "aboutToSave");
-    note(&*m_controller, &ProjectController::saveFinished, "saveFinished");
-    note(&*m_controller, &ProjectController::projectOpened, "projectOpened %1");
-    note(&*m_controller, &ProjectController::projectClosing, "projectClosing %1");
-    connect(&*m_controller, &ProjectController::projectClosed, this, [this] { m_log.append("projectClosed"); });
-    const auto noteText = [this](const QString &text) { m_log.append(text); };
-    connect(m_controller->store(), &ProjectStore::loadError, this, noteText);
-    connect(m_controller->store(), &ProjectStore::saveError, this, noteText);
-
+    m_log.emplace();
+    m_log->listen(*m_controller, &ProjectController::aboutToSave, "aboutToSave");
+    m_log->listen(*m_controller, &ProjectController::saveFinished, "saveFinished");
+    m_log->listen(*m_controller, &ProjectController::projectOpened, "opened");
+    m_log->listen(*m_controller, &ProjectController::projectClosing, "closing");
+    m_log->listen(*m_controller, &ProjectController::projectClosed, "closed");
+    m_log->listen(*m_controller->store(), &ProjectStore::loadError, "loadError");
+    m_log->listen(*m_controller->store(), &ProjectStore::saveError, "saveError");
     ProjectStore store;
     SampleProject::fill(*store.newProject({}));
     store.project()->setName("Other");
@@ -186,26 +179,28 @@ void TestProjectController::knowsWhatIsModified()
 
 void TestProjectController::announcesEveryStep()
 {
+    bool closing = false; // while the project still exists
+    connect(&*m_controller, &ProjectController::projectClosing, this, [&] { closing = m_controller->project(); });
     m_controller->newProject("Game");
-    QCOMPARE(takeLog(), QStringList{"projectOpened Game"});
     m_controller->save(); // and no file was chosen
     m_chosenFile = path("game.quenmora");
     m_controller->save();
-    QCOMPARE(takeLog(), (QStringList{"aboutToSave", "saveFinished", "aboutToSave", "saveFinished"}));
+    QCOMPARE(m_log->take(), (QStringList{"opened Game", "aboutToSave", "saveFinished", "aboutToSave", "saveFinished"}));
     m_controller->openProject(m_chosenFile);
-    QCOMPARE(takeLog(), (QStringList{"projectClosing Game", "projectClosed", "projectOpened Game"}));
+    QCOMPARE(m_log->take(), (QStringList{"closing", "closed", "opened Game"}));
+    QVERIFY(closing);
     change();
     m_chosenFile = path("no such folder/game.quenmora");
     m_controller->saveAs();
-    QCOMPARE(takeLog(), (QStringList{"aboutToSave", "Could not create the project file", "saveFinished"}));
+    QCOMPARE(m_log->take(),
+             (QStringList{"aboutToSave", "saveError Could not create the project file", "saveFinished"}));
     m_chosenFile.clear();
     m_controller->saveAs();
-    QCOMPARE(takeLog(), (QStringList{"aboutToSave", "saveFinished"}));
     QCOMPARE(m_controller->filePath(), path("game.quenmora")); // as it was before
     QVERIFY(m_controller->isModified());
     m_controller->close();
     m_controller->close();
-    QCOMPARE(takeLog(), (QStringList{"projectClosing Game", "projectClosed"}));
+    QCOMPARE(m_log->take(), (QStringList{"aboutToSave", "saveFinished", "closing", "closed"}));
 }
 
 void TestProjectController::refusesBadFiles_data()
@@ -228,9 +223,7 @@ void TestProjectController::refusesBadFiles()
     QVERIFY(!m_controller->project() && m_controller->filePath().isEmpty());
     QVERIFY(m_menu->recentFiles().isEmpty());
     m_controller->newProject("Again");
-    QCOMPARE(
-        takeLog(),
-        (QStringList{"projectOpened Game", "projectClosing Game", "projectClosed", message, "projectOpened Again"}));
+    QCOMPARE(m_log->take(), (QStringList{"opened Game", "closing", "closed", "loadError " + message, "opened Again"}));
 }
 
 void TestProjectController::remembersRecentProjects()
@@ -238,23 +231,20 @@ void TestProjectController::remembersRecentProjects()
     m_controller->openProject(path("other.quenmora"));
     m_chosenFile = path("copy.quenmora");
     m_controller->saveAs();
-    QCOMPARE(m_menu->recentFiles(), (QStringList{path("copy.quenmora"), path("other.quenmora")}));
     QCOMPARE(m_controller->filePath(), path("copy.quenmora"));
+    QCOMPARE(m_menu->recentFiles(), (QStringList{path("copy.quenmora"), path("other.quenmora")}));
     m_controller->openProject(path("other.quenmora"));
-    m_controller->save();
     QCOMPARE(m_menu->recentFiles(), (QStringList{path("other.quenmora"), path("copy.quenmora")}));
 }
 
 void TestProjectController::backsUpWhenAsked()
 {
-    bool backup = false;
-    m_controller->setBackupCallback([&backup] { return backup; });
     m_controller->openProject(path("other.quenmora"));
-    m_controller->save();
-    QVERIFY(!QFileInfo::exists(path("other.quenmora.bak")));
-    backup = true;
-    m_controller->save(); // also when nothing has changed
-    QVERIFY(QFileInfo::exists(path("other.quenmora.bak")));
+    for (const bool backup : {false, true}) {
+        m_controller->setBackupCallback([backup] { return backup; });
+        m_controller->save(); // also when nothing has changed
+        QCOMPARE(QFileInfo::exists(path("other.quenmora.bak")), backup);
+    }
 }
 
 QUENMORA_TEST_MAIN(TestProjectController)

@@ -71,35 +71,14 @@ QString difference(const ProjectMembers &before, const ProjectMembers &after)
         if (was == is)
             continue;
         const auto at = std::mismatch(was.cbegin(), was.cend(), is.cbegin(), is.cend()).first - was.cbegin();
-        const auto part = [from = std::max<qsizetype>(at - 200, 0)](const QByteArray &bytes, bool text) {
-            return text ? bytes.mid(from, 260) : bytes.mid(from, 260).toHex(' ');
+        const auto part = [&](const QByteArray &bytes) {
+            const QByteArray around = bytes.mid(std::max<qsizetype>(at - 200, 0), 260);
+            return member.key().endsWith(".json") ? around : around.toHex();
         };
-        const bool text = member.key().endsWith(".json");
-        return QStringLiteral("%1 at byte %2\nwas %3\nis  %4")
-            .arg(member.key(), QString::number(at), part(was, text), part(is, text));
+        return QStringLiteral("%1 at byte %2\nwas %3\nis  %4").arg(member.key()).arg(at).arg(part(was), part(is));
     }
     return {};
 }
-
-/// What does not hold, a line each.
-class Problems
-{
-public:
-    void expect(bool holds, const QString &problem)
-    {
-        if (!holds)
-            m_lines.append(problem);
-    }
-    void expectSame(const ProjectMembers &before, const ProjectMembers &after, const QString &when)
-    {
-        const QString changed = difference(before, after);
-        expect(changed.isEmpty(), when + ": " + changed);
-    }
-    [[nodiscard]] QString text() const { return m_lines.join('\n'); }
-
-private:
-    QStringList m_lines;
-};
 
 } // namespace
 
@@ -128,13 +107,24 @@ private:
     void record();
     QString step(RandomUser &user);
 
-    void checkMessages(Problems &problems);
-    void checkReferences(Problems &problems);
-    void checkMaps(Problems &problems);
-    void checkViews(Problems &problems);
-    void checkUndo(Problems &problems, qsizetype depth);
-    void checkSaving(Problems &problems);
-    void reopen(Problems &problems);
+    /// Notes what does not hold.
+    void expect(bool holds, const QString &problem)
+    {
+        if (!holds)
+            m_problems.append(problem);
+    }
+    void expectSame(const ProjectMembers &before, const ProjectMembers &after, const QString &when)
+    {
+        const QString changed = difference(before, after);
+        expect(changed.isEmpty(), when + ": " + changed);
+    }
+    void checkMessages();
+    void checkReferences();
+    void checkMaps();
+    void checkViews();
+    void checkUndo(qsizetype depth);
+    void checkSaving();
+    void reopen();
 
     QTemporaryDir m_folder;
     std::optional<MainWindow> m_window;
@@ -144,6 +134,7 @@ private:
     QList<QPointer<QUndoStack>> m_journal;
     QHash<QUuid, int> m_indices;
     ProjectMembers m_first;
+    QStringList m_problems; ///< what the last step has shown
 };
 
 void TestRandomActions::initTestCase()
@@ -205,20 +196,19 @@ QString TestRandomActions::step(RandomUser &user)
     else
         record();
 
-    Problems problems;
-    checkMessages(problems);
-    checkReferences(problems);
-    checkViews(problems);
+    checkMessages();
+    checkReferences();
+    checkViews();
     if (user.number(20) == 0)
-        checkUndo(problems, 1 + user.number(8));
+        checkUndo(1 + user.number(8));
     if (user.number(60) == 0)
-        checkUndo(problems, m_journal.size());
+        checkUndo(m_journal.size());
     const int chance = user.number(200);
     if (chance < 2)
-        checkSaving(problems);
+        checkSaving();
     if (chance == 1)
-        reopen(problems);
-    return problems.text();
+        reopen();
+    return std::exchange(m_problems, {}).join('\n');
 }
 
 // The order of undo steps over all documents
@@ -267,7 +257,7 @@ void TestRandomActions::record()
 }
 
 /// Undoes the last steps and does them again; when these are all, the first state must come back.
-void TestRandomActions::checkUndo(Problems &problems, qsizetype depth)
+void TestRandomActions::checkUndo(qsizetype depth)
 {
     depth = std::min(depth, m_journal.size());
     const ProjectMembers last = contentOf(project());
@@ -278,34 +268,34 @@ void TestRandomActions::checkUndo(Problems &problems, qsizetype depth)
         stack->undo();
     }
     QCoreApplication::processEvents();
-    checkReferences(problems);
-    checkViews(problems);
+    checkReferences();
+    checkViews();
     if (depth == m_journal.size())
-        problems.expectSame(m_first, contentOf(project()), "undone to the first step, " + texts.join(", "));
+        expectSame(m_first, contentOf(project()), "undone to the first step, " + texts.join(", "));
     for (qsizetype count = depth; count > 0; --count)
         m_journal.at(m_journal.size() - count)->redo();
     QCoreApplication::processEvents();
-    problems.expectSame(last, contentOf(project()), "redone to the last step, " + texts.join(", "));
+    expectSame(last, contentOf(project()), "redone to the last step, " + texts.join(", "));
 }
 
 // What must hold after every action
 
-void TestRandomActions::checkMessages(Problems &problems)
+void TestRandomActions::checkMessages()
 {
     const QStringList refusals{"Palette In Use", "Tile Set In Use", "Objects in use"};
     for (MessageDialog *dialog = m_window->messageDialog(); dialog->isVisible(); dialog->accept())
-        problems.expect(refusals.contains(dialog->windowTitle()), "message: " + dialog->text());
+        expect(refusals.contains(dialog->windowTitle()), "message: " + dialog->text());
     const QStringList warnings = std::exchange(s_warnings, {});
-    problems.expect(warnings.isEmpty(), warnings.join('\n'));
+    expect(warnings.isEmpty(), warnings.join('\n'));
 }
 
-void TestRandomActions::checkReferences(Problems &problems)
+void TestRandomActions::checkReferences()
 {
     const auto expectPalette = [&](const auto &assets) {
         for (const auto &asset : assets) {
             const QPointer<Palette> palette = asset->palette();
-            problems.expect(!palette || project().palette(palette->id()) == palette,
-                            "the palette of " + asset->name() + " is not of the project");
+            expect(!palette || project().palette(palette->id()) == palette,
+                   "the palette of " + asset->name() + " is not of the project");
         }
     };
     expectPalette(project().tileSets());
@@ -313,58 +303,55 @@ void TestRandomActions::checkReferences(Problems &problems)
     expectPalette(project().images());
     for (const auto &tileSet : project().tileSets()) {
         for (const auto &blocks : tileSet->blockSets())
-            problems.expect(blocks && project().blocks(blocks->id()) == blocks,
-                            "a tile set knows a block set that is gone");
+            expect(blocks && project().blocks(blocks->id()) == blocks, "a tile set knows a block set that is gone");
     }
     for (const auto &blocks : project().blockSets()) {
         const QPointer<TileSet> tileSet = blocks->tileSet();
-        problems.expect(!tileSet || project().tileSet(tileSet->id()) == tileSet,
-                        "the tile set of a block set is not of the project");
-        problems.expect(!tileSet || tileSet->blockSets().value(blocks->id()) == blocks,
-                        "a tile set does not know its block set");
+        expect(!tileSet || project().tileSet(tileSet->id()) == tileSet,
+               "the tile set of a block set is not of the project");
+        expect(!tileSet || tileSet->blockSets().value(blocks->id()) == blocks,
+               "a tile set does not know its block set");
     }
     for (const auto &bank : project().spriteBanks()) {
-        problems.expect(bank->count() > 0, "a sprite bank without sprites");
+        expect(bank->count() > 0, "a sprite bank without sprites");
         for (const auto &animation : bank->animations()) {
-            problems.expect(animation && animation->frameCount() > 0, "a sprite animation without frames");
+            expect(animation && animation->frameCount() > 0, "a sprite animation without frames");
             for (int frame = 0; frame < animation->frameCount(); ++frame)
-                problems.expect(animation->frame(frame)->size() == animation->size(), "a frame of another size");
+                expect(animation->frame(frame)->size() == animation->size(), "a frame of another size");
         }
     }
-    checkMaps(problems);
+    checkMaps();
 }
 
-void TestRandomActions::checkMaps(Problems &problems)
+void TestRandomActions::checkMaps()
 {
     for (const auto &map : project().maps()) {
-        problems.expect(map->tileSet() && map->tileSet() == project().tileSet(map->tileSetId()),
-                        "a map without its tile set");
-        problems.expect(map->objectLayer() && map->objectLayer()->size() == map->size(), "layers of different sizes");
-        problems.expect(!map->size().isEmpty(), "an empty map");
+        expect(map->tileSet() && map->tileSet() == project().tileSet(map->tileSetId()), "a map without its tile set");
+        expect(map->objectLayer() && map->objectLayer()->size() == map->size(), "layers of different sizes");
+        expect(!map->size().isEmpty(), "an empty map");
         for (const auto &placement : map->animatedBlocks()->list())
-            problems.expect(QRect(QPoint(), map->size()).intersects(placement->area()), "an animation beside the map");
+            expect(QRect(QPoint(), map->size()).intersects(placement->area()), "an animation beside the map");
         const int tiles = std::max(map->tileSet() ? map->tileSet()->count() : 0, 1);
-        for (const TileMap::Row &row : map->tileLayer()->rows()) {
-            for (const TileMap::TileData &cell : row)
-                problems.expect(cell.index >= 0 && cell.index < tiles, "a cell shows a tile that is not there");
-        }
+        const auto shown = [tiles](const TileMap::TileData &cell) { return cell.index >= 0 && cell.index < tiles; };
+        for (const TileMap::Row &row : map->tileLayer()->rows())
+            expect(std::all_of(row.cbegin(), row.cend(), shown), "a cell shows a tile that is not there");
         for (const auto &sprite : map->sprites()) {
             const QPointer<SpriteBank> bank = project().spriteBank(sprite.bank);
-            problems.expect(!bank || !sprite.animation.isNull() || sprite.sprite < bank->count(),
-                            "a placed sprite that is not there");
+            expect(!bank || !sprite.animation.isNull() || sprite.sprite < bank->count(),
+                   "a placed sprite that is not there");
         }
     }
 }
 
-void TestRandomActions::checkViews(Problems &problems)
+void TestRandomActions::checkViews()
 {
     const DocumentViews &views = m_window->views();
     const QList<QUuid> ids = documents();
     const auto expectShown = [&](const auto *asset, const QString &view) {
-        problems.expect(!asset || ids.contains(asset->id()), view + " shows an asset that is gone");
+        expect(!asset || ids.contains(asset->id()), view + " shows an asset that is gone");
     };
     const auto expectPixels = [&](const Canvas *canvas, const QImage &picture, const QString &view) {
-        problems.expect(indices(canvas->image()) == indices(picture), view + " shows other pixels than the asset has");
+        expect(indices(canvas->image()) == indices(picture), view + " shows other pixels than the asset has");
     };
     const TileSet *tileSet = views.tileEditor->tileSet();
     const SpriteBank *bank = views.spriteEditor->sprites();
@@ -376,12 +363,12 @@ void TestRandomActions::checkViews(Problems &problems)
         expectPixels(views.tileEditor->canvas(), tileSet->image(views.tileEditor->tileIndex()), "the tile editor");
     if (bank) {
         const int index = views.spriteEditor->spriteIndex();
-        problems.expect(index >= 0 && index < bank->count(), "the sprite editor shows a sprite that is not there");
+        expect(index >= 0 && index < bank->count(), "the sprite editor shows a sprite that is not there");
         expectPixels(views.spriteEditor->canvas(), bank->spriteImage(index, false, false, false), "the sprite editor");
     }
     for (int tab = 0; tab < views.tabs->count(); ++tab) {
         QWidget *page = views.tabs->widget(tab);
-        problems.expect(ids.contains(DocumentTabView::documentId(page)), "a tab shows an asset that is gone");
+        expect(ids.contains(DocumentTabView::documentId(page)), "a tab shows an asset that is gone");
         if (const auto *editor = qobject_cast<ImageEditor::View *>(page))
             expectPixels(editor->canvas(), editor->image() ? editor->image()->image() : project().scratchImage(),
                          "an image editor");
@@ -390,22 +377,22 @@ void TestRandomActions::checkViews(Problems &problems)
 
 // Saving
 
-void TestRandomActions::checkSaving(Problems &problems)
+void TestRandomActions::checkSaving()
 {
     for (const auto &map : project().maps())
         map->restampAnimations(project().blockSets()); // as opening does, which clears what was drawn below them
     startJournal();
     ProjectController *controller = m_window->projectController();
     controller->save();
-    problems.expect(!controller->isModified(), "modified after saving");
-    problems.expectSame(m_first, contentOf(project()), "changed by saving");
+    expect(!controller->isModified(), "modified after saving");
+    expectSame(m_first, contentOf(project()), "changed by saving");
     ProjectStore store;
     const Project *read = store.newProject({});
-    problems.expect(store.load(controller->filePath()), "the saved file cannot be read");
-    problems.expectSame(m_first, store.project() ? contentOf(*read) : ProjectMembers(), "the saved file");
+    expect(store.load(controller->filePath()), "the saved file cannot be read");
+    expectSame(m_first, store.project() ? contentOf(*read) : ProjectMembers(), "the saved file");
 }
 
-void TestRandomActions::reopen(Problems &problems)
+void TestRandomActions::reopen()
 {
     const ProjectMembers saved = m_first;
     ProjectController *controller = m_window->projectController();
@@ -413,8 +400,8 @@ void TestRandomActions::reopen(Problems &problems)
     controller->close();
     controller->openProject(file);
     QCoreApplication::processEvents();
-    problems.expectSame(saved, contentOf(project()), "changed by opening");
-    problems.expect(!controller->isModified(), "modified after opening");
+    expectSame(saved, contentOf(project()), "changed by opening");
+    expect(!controller->isModified(), "modified after opening");
     startJournal();
 }
 
