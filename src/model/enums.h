@@ -12,8 +12,8 @@ enum Sprite : int { FourBit = 0, EightBit = 1 };
 Q_ENUM_NS(Sprite)
 
 /// The side of a map at which a row or column is inserted or removed.
+/// No Q_ENUM: the widget kit declares it without this header, and its meta-type must be the same there.
 enum Position : int { Begin = 0, End = 1 };
-Q_ENUM_NS(Position)
 
 /// Picture formats of the Next's bitmap layers.
 enum ImageMode : int { Layer2_256x192 = 0, Layer2_320x256 = 1, Layer2_640x256 = 2, LoRes_128x96 = 3 };

@@ -6,6 +6,14 @@
 #include <QScrollBar>
 #include <QToolButton>
 
+namespace {
+
+// the values that the enumeration gives to the ends; the widget kit stands below the folder that names them
+constexpr Quenmora::Position Begin{0};
+constexpr Quenmora::Position End{1};
+
+} // namespace
+
 ScrollBar::ScrollBar(Qt::Orientation orientation, QWidget *parent)
     : QWidget(parent)
     , m_bar(new QScrollBar(orientation, this))
@@ -36,10 +44,10 @@ ScrollBar::ScrollBar(Qt::Orientation orientation, QWidget *parent)
     }
 
     connect(m_bar, &QScrollBar::valueChanged, this, &ScrollBar::valueChanged);
-    connect(addBegin, &QToolButton::clicked, this, [this] { emit add(Quenmora::Begin); });
-    connect(removeBegin, &QToolButton::clicked, this, [this] { emit remove(Quenmora::Begin); });
-    connect(removeEnd, &QToolButton::clicked, this, [this] { emit remove(Quenmora::End); });
-    connect(addEnd, &QToolButton::clicked, this, [this] { emit add(Quenmora::End); });
+    connect(addBegin, &QToolButton::clicked, this, [this] { emit add(Begin); });
+    connect(removeBegin, &QToolButton::clicked, this, [this] { emit remove(Begin); });
+    connect(removeEnd, &QToolButton::clicked, this, [this] { emit remove(End); });
+    connect(addEnd, &QToolButton::clicked, this, [this] { emit add(End); });
 }
 
 QToolButton *ScrollBar::makeButton(const QString &icon, const QString &text)
@@ -83,11 +91,6 @@ void ScrollBar::setRange(int minimum, int maximum)
 void ScrollBar::setPageStep(int step)
 {
     m_bar->setPageStep(step);
-}
-
-void ScrollBar::setSingleStep(int step)
-{
-    m_bar->setSingleStep(step);
 }
 
 void ScrollBar::setRemoveEnabled(bool enabled)

@@ -1,11 +1,13 @@
 #pragma once
 
-#include "model/enums.h"
-
 #include <QWidget>
 
 class QScrollBar;
 class QToolButton;
+
+namespace Quenmora {
+enum Position : int; // an end: 0 is the beginning, 1 the end; named where rows and columns are kept
+}
 
 /// A scroll bar with two buttons at each end, which add and remove a row or column at that end.
 ///
@@ -24,7 +26,6 @@ public:
     [[nodiscard]] int maximum() const;
     void setRange(int minimum, int maximum);
     void setPageStep(int step);
-    void setSingleStep(int step);
 
     /// The bar between the buttons.
     [[nodiscard]] QScrollBar *bar() const { return m_bar; }

@@ -1,7 +1,5 @@
 #include "ui/svgiconengine.h"
 
-#include "model/qtcompat.h"
-
 #include <QFile>
 #include <QGuiApplication>
 #include <QPainter>
@@ -24,6 +22,18 @@ QColor colourOf(QIcon::Mode mode)
         break;
     }
     return palette.color(QPalette::Active, QPalette::ButtonText);
+}
+
+/// The size in device pixels that QIcon means when it asks for a pixmap of this size at this device pixel
+/// ratio. Newer versions of Qt leave the multiplication to the engine.
+QSize deviceSizeOf(const QSize &size, qreal devicePixelRatio)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+    return size * devicePixelRatio;
+#else
+    Q_UNUSED(devicePixelRatio);
+    return size;
+#endif
 }
 
 } // namespace
@@ -51,7 +61,7 @@ QPixmap SvgIconEngine::pixmap(const QSize &size, QIcon::Mode mode, QIcon::State)
 
 QPixmap SvgIconEngine::scaledPixmap(const QSize &size, QIcon::Mode mode, QIcon::State, qreal scale)
 {
-    QPixmap result = rendered(QtCompat::iconDeviceSize(size, scale), mode);
+    QPixmap result = rendered(deviceSizeOf(size, scale), mode);
     result.setDevicePixelRatio(scale);
     return result;
 }
