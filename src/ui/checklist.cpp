@@ -12,12 +12,11 @@ CheckList::CheckList(QWidget *parent) : QListWidget(parent)
     });
 }
 
-int CheckList::addCheck(const QString &text, bool checked, const QVariant &userData)
+int CheckList::addCheck(const QString &text, bool checked)
 {
     auto *added = new QListWidgetItem(text);
     added->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
     added->setCheckState(checked ? Qt::Checked : Qt::Unchecked);
-    added->setData(Qt::UserRole, userData);
     addItem(added);
     return count() - 1;
 }
@@ -33,29 +32,6 @@ void CheckList::setChecked(int index, bool checked)
     if (item(index) && isChecked(index) != checked) {
         item(index)->setCheckState(checked ? Qt::Checked : Qt::Unchecked);
     }
-}
-
-void CheckList::setAllChecked(bool checked)
-{
-    for (int index = 0; index < count(); ++index) {
-        setChecked(index, checked);
-    }
-}
-
-QList<int> CheckList::checkedIndexes() const
-{
-    QList<int> checked;
-    for (int index = 0; index < count(); ++index) {
-        if (isChecked(index)) {
-            checked.append(index);
-        }
-    }
-    return checked;
-}
-
-QVariant CheckList::dataAt(int index) const
-{
-    return item(index) ? item(index)->data(Qt::UserRole) : QVariant();
 }
 
 void CheckList::mouseReleaseEvent(QMouseEvent *event)

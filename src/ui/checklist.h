@@ -12,19 +12,12 @@ public:
     explicit CheckList(QWidget *parent = nullptr);
 
     /// Appends an item and returns its index.
-    int addCheck(const QString &text, bool checked = false, const QVariant &userData = {});
+    int addCheck(const QString &text, bool checked = false);
 
     [[nodiscard]] bool isChecked(int index) const;
 
     /// Emits checkChanged() when the state changes; ignores an index outside the list.
     void setChecked(int index, bool checked);
-    void setAllChecked(bool checked);
-
-    /// The indices that are ticked, ascending.
-    [[nodiscard]] QList<int> checkedIndexes() const;
-
-    /// What addCheck() was given for the item.
-    [[nodiscard]] QVariant dataAt(int index) const;
 
 signals:
     void checkChanged(int index, bool checked);

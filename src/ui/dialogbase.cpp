@@ -58,11 +58,6 @@ void DialogBase::setHeader(const QString &header)
     m_header->setVisible(!header.isEmpty());
 }
 
-QString DialogBase::header() const
-{
-    return m_header->text();
-}
-
 QString DialogBase::error() const
 {
     return m_error->text();

@@ -23,7 +23,6 @@ public:
 
     /// A line in bold above the form; none while it is empty, as at first.
     void setHeader(const QString &header);
-    [[nodiscard]] QString header() const;
 
     /// The text on the error line, empty when nothing is wrong.
     [[nodiscard]] QString error() const;

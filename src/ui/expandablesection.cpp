@@ -8,6 +8,8 @@ ExpandableSection::ExpandableSection(const QString &title, QWidget *parent)
     , m_heading(new QToolButton(this))
     , m_layout(new QVBoxLayout(this))
 {
+    m_heading->setText(title);
+    m_heading->setAccessibleName(title);
     m_heading->setCheckable(true);
     m_heading->setAutoRaise(true);
     m_heading->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
@@ -25,19 +27,7 @@ ExpandableSection::ExpandableSection(const QString &title, QWidget *parent)
         showState(expanded);
         emit expandedChanged(expanded);
     });
-    setTitle(title);
     showState(false);
-}
-
-void ExpandableSection::setTitle(const QString &title)
-{
-    m_heading->setText(title);
-    m_heading->setAccessibleName(title);
-}
-
-QString ExpandableSection::title() const
-{
-    return m_heading->text();
 }
 
 void ExpandableSection::setContent(QWidget *content)

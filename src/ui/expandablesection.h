@@ -14,9 +14,6 @@ class ExpandableSection : public QWidget
 public:
     explicit ExpandableSection(const QString &title, QWidget *parent = nullptr);
 
-    void setTitle(const QString &title);
-    [[nodiscard]] QString title() const;
-
     /// The widget that is shown while expanded; the section takes it and deletes the one before.
     void setContent(QWidget *content);
     [[nodiscard]] QWidget *content() const { return m_content; }

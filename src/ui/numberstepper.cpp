@@ -40,8 +40,8 @@ NumberStepper::NumberStepper(QWidget *parent)
     layout->addWidget(m_forward);
     setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
 
-    connect(m_back, &QToolButton::clicked, this, &NumberStepper::stepBack);
-    connect(m_forward, &QToolButton::clicked, this, &NumberStepper::stepForward);
+    connect(m_back, &QToolButton::clicked, m_number, &QSpinBox::stepDown);
+    connect(m_forward, &QToolButton::clicked, m_number, &QSpinBox::stepUp);
     connect(m_number, &QSpinBox::valueChanged, this, [this](int value) {
         updateState();
         emit valueChanged(value);
@@ -53,16 +53,6 @@ NumberStepper::NumberStepper(QWidget *parent)
 int NumberStepper::value() const
 {
     return m_number->value();
-}
-
-int NumberStepper::minimum() const
-{
-    return m_number->minimum();
-}
-
-int NumberStepper::maximum() const
-{
-    return m_number->maximum();
 }
 
 void NumberStepper::setRange(int minimum, int maximum)
@@ -88,18 +78,8 @@ void NumberStepper::setValue(int value)
     m_number->setValue(value);
 }
 
-void NumberStepper::stepForward()
-{
-    setValue(value() + 1);
-}
-
-void NumberStepper::stepBack()
-{
-    setValue(value() - 1);
-}
-
 void NumberStepper::updateState()
 {
-    m_back->setEnabled(value() > minimum());
-    m_forward->setEnabled(value() < maximum());
+    m_back->setEnabled(value() > m_number->minimum());
+    m_forward->setEnabled(value() < m_number->maximum());
 }

@@ -16,8 +16,6 @@ public:
     explicit NumberStepper(QWidget *parent = nullptr);
 
     [[nodiscard]] int value() const;
-    [[nodiscard]] int minimum() const;
-    [[nodiscard]] int maximum() const;
 
     /// minimum to maximum; the value is moved inside, and a maximum below minimum is taken for minimum.
     void setRange(int minimum, int maximum);
@@ -27,8 +25,6 @@ public:
 
 public slots:
     void setValue(int value);
-    void stepForward();
-    void stepBack();
 
 signals:
     void valueChanged(int value);

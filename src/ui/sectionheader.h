@@ -2,12 +2,9 @@
 
 #include <QWidget>
 
-class QHBoxLayout;
 class QLabel;
-class QToolButton;
 
-/// The line above a part of a window: its title in bold, and at the end small buttons for what can
-/// be done with it.
+/// The line above a part of a window: its title in bold.
 class SectionHeader : public QWidget
 {
     Q_OBJECT
@@ -20,16 +17,9 @@ public:
 
     [[nodiscard]] QString text() const;
 
-    /// A button for an action after those that are there; named by the action's text.
-    QToolButton *addActionButton(QAction *action);
-
-    /// Any other widget after those that are there.
-    void addTool(QWidget *widget);
-
 public slots:
     void setText(const QString &text);
 
 private:
     QLabel *m_text;
-    QHBoxLayout *m_layout;
 };

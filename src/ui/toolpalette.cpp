@@ -8,15 +8,14 @@
 #include <QGridLayout>
 #include <QToolButton>
 
-#include <algorithm>
-
 using Quenmora::Ui::ToolButton;
 
 namespace {
 
 constexpr int IconExtent = 24; // the size that the pictures are drawn on: whole pixels, crisp lines
+constexpr int Columns = 2; // of a vertical palette
 
-}
+} // namespace
 
 ToolPalette::ToolPalette(Qt::Orientation orientation, QWidget *parent)
     : QWidget(parent)
@@ -147,12 +146,6 @@ QAction *ToolPalette::addEntry(const Entry &entry)
     return added;
 }
 
-void ToolPalette::setColumns(int columns)
-{
-    Q_ASSERT(m_actions.isEmpty());
-    m_columns = std::max(columns, 1);
-}
-
 ToolButton ToolPalette::mode() const
 {
     return m_actions.key(m_tools->checkedAction(), Quenmora::Ui::_end_toggles);
@@ -203,5 +196,5 @@ void ToolPalette::place(QToolButton *button)
         return;
     }
     const int index = static_cast<int>(m_actions.size()) - 1;
-    static_cast<QGridLayout *>(layout())->addWidget(button, index / m_columns, index % m_columns);
+    static_cast<QGridLayout *>(layout())->addWidget(button, index / Columns, index % Columns);
 }

@@ -36,7 +36,7 @@ public:
         QList<QKeySequence> shortcuts; ///< the first is named in the tool tip
     };
 
-    /// A vertical palette has columns() columns; a horizontal one fills rows of the width it is given.
+    /// A vertical palette has two columns; a horizontal one fills rows of the width it is given.
     explicit ToolPalette(Qt::Orientation orientation = Qt::Vertical, QWidget *parent = nullptr);
 
     /// The usual icon, text and kind of a button, without shortcuts.
@@ -45,10 +45,6 @@ public:
     /// Appends a button; a button that is there already is left alone. Returns its action.
     QAction *addEntry(const Entry &entry);
     QAction *addEntry(Quenmora::Ui::ToolButton button) { return addEntry(entryOf(button)); }
-
-    /// Columns of a vertical palette (1 or more); 2 at first. To be set before the first button.
-    void setColumns(int columns);
-    [[nodiscard]] int columns() const { return m_columns; }
 
     /// The action of a button, null when the palette does not have it.
     [[nodiscard]] QAction *action(Quenmora::Ui::ToolButton button) const { return m_actions.value(button); }
@@ -80,7 +76,6 @@ private:
     void place(QToolButton *button);
 
     Qt::Orientation m_orientation;
-    int m_columns = 2;
     QActionGroup *m_tools;
     QHash<Quenmora::Ui::ToolButton, QAction *> m_actions;
 };
