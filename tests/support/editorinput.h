@@ -7,6 +7,8 @@
 #include <QMenu>
 #include <QTest>
 
+#include <functional>
+
 /// What tests of the editors do with mouse and menus.
 namespace EditorInput {
 
@@ -55,19 +57,25 @@ inline void trigger(const QMenu &menu, const QString &text)
     QFAIL(qPrintable(QStringLiteral("no action ") + text));
 }
 
-/// A drag from one point of a widget to another, as the window system reports it.
-inline void drop(QWidget &widget, QPoint from, QPoint to, const QMimeData &data, Qt::KeyboardModifiers modifiers)
+/// A drag from one point of a widget to another, as the window system reports it. Calls over before the drop
+/// if the drag was let in, and returns whether the drop was taken.
+inline bool drop(
+    QWidget &widget, QPoint from, QPoint to, const QMimeData &data, Qt::KeyboardModifiers modifiers,
+    const std::function<void()> &over = [] {})
 {
     QTest::mousePress(&widget, Qt::LeftButton, Qt::NoModifier, from);
     QDragEnterEvent enter(to, Qt::MoveAction, &data, Qt::LeftButton, modifiers);
     enter.ignore();
     QApplication::sendEvent(&widget, &enter);
     if (!enter.isAccepted())
-        return;
+        return false;
     QDragMoveEvent move(to, Qt::MoveAction, &data, Qt::LeftButton, modifiers);
     QApplication::sendEvent(&widget, &move);
+    over();
     QDropEvent dropped(to, Qt::MoveAction, &data, Qt::LeftButton, modifiers);
+    dropped.ignore();
     QApplication::sendEvent(&widget, &dropped);
+    return dropped.isAccepted();
 }
 
 /// The wheel turned by delta (120 a notch) with Ctrl held, over the middle of a widget.

@@ -20,40 +20,32 @@ private slots:
 
 void TestAnimationControl::buttonsAreTheListedOnes()
 {
-    const QStringList toolTips{"Goto first frame", "Previous frame",  "Play",        "Pause playback",       "Stop",
-                               "Next frame",       "Goto last frame", "Add a frame", "Delete current frame", "Loop",
-                               "Ping pong"};
     const Control control;
-    const auto buttons = control.findChildren<QToolButton *>();
-    QCOMPARE(buttons.size(), toolTips.size());
-    for (int i = 0; i < buttons.size(); ++i) {
-        QCOMPARE(buttons.at(i)->defaultAction(), control.action(Control::Action(i)));
-        QCOMPARE(buttons.at(i)->toolTip(), toolTips.at(i));
-        QCOMPARE(buttons.at(i)->isCheckable(), i == Control::Pause || i >= Control::Loop);
-        // an icon that is not there draws nothing
-        const QImage icon = buttons.at(i)->icon().pixmap(24, 24).toImage();
-        QVERIFY(!icon.isNull() && icon != QImage(icon.size(), icon.format()));
+    QStringList found; // those that can be checked with a plus
+    for (const QToolButton *button : control.findChildren<QToolButton *>()) {
+        QCOMPARE(button->defaultAction(), control.action(Control::Action(found.size())));
+        QVERIFY(!button->icon().isNull());
+        found += button->toolTip() + (button->isCheckable() ? "+" : "");
     }
+    QCOMPARE(found,
+             QStringList({"Goto first frame", "Previous frame", "Play", "Pause playback+", "Stop", "Next frame",
+                          "Goto last frame", "Add a frame", "Delete current frame", "Loop+", "Ping pong+"}));
 }
 
 void TestAnimationControl::labelMovesBeforeTheSignal()
 {
     Control control;
-    QCOMPARE(control.text(), "Frame 1 of 1");
-    control.setFrame(1, 0);
-    QCOMPARE(control.text(), "Frame 0 of 0");
-    control.setFrame(2, 4);
-    QStringList heard;
+    QStringList heard(control.text());
     connect(&control, &Control::buttonClicked, this, [&](Control::Action action, bool checked) {
-        QVERIFY(!checked);
-        heard += QStringLiteral("%1: %2").arg(action).arg(control.text());
+        heard += QStringLiteral("%1%2: %3").arg(action).arg(checked ? "+" : "").arg(control.text());
     });
-    for (const auto action :
-         {Control::Next, Control::Last, Control::Next, Control::Previous, Control::First, Control::Previous})
+    control.setFrame(2, 4);
+    for (const auto action : {Control::Next, Control::Last, Control::Next, Control::Previous, Control::First,
+                              Control::Previous, Control::Pause, Control::Pause})
         control.action(action)->trigger();
     QCOMPARE(heard,
-             QStringList({"5: Frame 3 of 4", "6: Frame 4 of 4", "5: Frame 4 of 4", "1: Frame 3 of 4", "0: Frame 1 of 4",
-                          "1: Frame 1 of 4"}));
+             QStringList({"Frame 1 of 1", "5: Frame 3 of 4", "6: Frame 4 of 4", "5: Frame 4 of 4", "1: Frame 3 of 4",
+                          "0: Frame 1 of 4", "1: Frame 1 of 4", "3+: Frame 1 of 4", "3: Frame 1 of 4"}));
 }
 
 void TestAnimationControl::oneStateExcludesAnother()
@@ -61,12 +53,10 @@ void TestAnimationControl::oneStateExcludesAnother()
     Control control;
     for (const auto action : {Control::Play, Control::Stop}) {
         control.action(Control::Pause)->trigger();
-        QVERIFY(control.action(Control::Pause)->isChecked());
         control.action(action)->trigger();
         QVERIFY(!control.action(Control::Pause)->isChecked());
     }
-    QVERIFY(control.action(Control::Loop)->isChecked());
-    QVERIFY(!control.action(Control::PingPong)->isEnabled());
+    QVERIFY(control.action(Control::Loop)->isChecked() && !control.action(Control::PingPong)->isEnabled());
     control.action(Control::PingPong)->setEnabled(true);
     control.action(Control::PingPong)->trigger();
     QVERIFY(!control.action(Control::Loop)->isChecked());

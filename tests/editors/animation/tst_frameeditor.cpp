@@ -4,77 +4,44 @@
 #include "model/spriteanim.h"
 #include "model/tileanimation.h"
 
+#include "support/editorinput.h"
 #include "support/testmain.h"
 
-#include <QApplication>
-#include <QDropEvent>
-#include <QMenu>
 #include <QSignalSpy>
-#include <QTest>
 #include <QToolTip>
 
 #include <memory>
 
 using AnimationEditor::FrameEditorWidget;
+using Cell = AnimationFrame::Cell;
 
 namespace {
+
+constexpr QPoint None = FrameEditorWidget::NoCell;
 
 /// A block of 3×2 cells and two frames in an editor whose cells are 32 pixels wide.
 struct Fixture
 {
-    TileAnimation block;
+    std::unique_ptr<TileAnimation> block = std::make_unique<TileAnimation>();
     FrameEditorWidget editor;
 
     Fixture()
     {
-        block.setSize({3, 2});
-        block.addFrame();
-        block.addFrame();
+        block->setSize({3, 2});
+        block->addFrame();
+        block->addFrame();
         editor.setZoom(4);
-        editor.setAnimation(&block);
+        editor.setAnimation(block.get());
         editor.show();
     }
-    QPoint at(int column, int row) const { return editor.cellRect({column, row}).center(); }
-    AnimationFrame::Cell cell(int row, int column, int frame = 0) const
+    bool drop(
+        const QMimeData &data, QPoint position, const std::function<void()> &over = [] {})
     {
-        return block.frame(frame)->cell(row, column);
+        return EditorInput::drop(editor, position, position, data, Qt::NoModifier, over);
     }
+    QPoint at(int column, int row) const { return editor.cellRect({column, row}).center(); }
+    Cell cell(int row, int column, int frame = 0) const { return block->frame(frame)->cell(row, column); }
 };
-
-struct DropResult
-{
-    bool entered;
-    bool dropped;
-    QPoint target; ///< while the drag was over it
-};
-
-DropResult drop(FrameEditorWidget &editor, QPoint position, std::unique_ptr<QMimeData> data)
-{
-    DropResult result;
-    QDragEnterEvent enter(position, Qt::MoveAction, data.get(), Qt::LeftButton, Qt::NoModifier);
-    enter.ignore();
-    QApplication::sendEvent(&editor, &enter);
-    result.entered = enter.isAccepted();
-    QDragMoveEvent move(position, Qt::MoveAction, data.get(), Qt::LeftButton, Qt::NoModifier);
-    move.ignore();
-    QApplication::sendEvent(&editor, &move);
-    result.target = editor.dropTarget();
-    QDropEvent dropped(position, Qt::MoveAction, data.get(), Qt::LeftButton, Qt::NoModifier);
-    dropped.ignore();
-    QApplication::sendEvent(&editor, &dropped);
-    result.dropped = dropped.isAccepted();
-    return result;
-}
-
-std::unique_ptr<QMimeData> tile(int index, int offset)
-{
-    return std::unique_ptr<QMimeData>(TileDrag{index, offset}.toMimeData());
-}
-
-std::unique_ptr<QMimeData> sprite(int index)
-{
-    return std::unique_ptr<QMimeData>(SpriteDrag{index}.toMimeData());
-}
 
 } // namespace
 
@@ -84,30 +51,29 @@ class TestFrameEditor : public QObject
 
 private slots:
     void settersChangeTheSelectedCellOfTheCurrentFrame();
-    void contextMenuShowsAndSetsTheFlags();
-    void toolTipDescribesTheCell();
+    void menuAndToolTipShowTheCell();
     void arrowKeysMoveTheSelection();
-    void dropsTilesAndSelectsThem();
     void paintsCellsAndMarks();
-    void animationMayDieDuringADrag();
     void sizeFollowsZoomAndAnimation();
     void releaseSelectsTheCellUnderIt();
-    void refusesWhatDoesNotFit();
+    void takesWhatFits();
+    void spriteAnimationsTakeSprites();
+    void animationMayDieDuringADrag();
 };
 
 void TestFrameEditor::settersChangeTheSelectedCellOfTheCurrentFrame()
 {
     Fixture f;
     f.editor.setRotated(true); // no cell is selected
-    QCOMPARE(f.cell(0, 0), AnimationFrame::Cell());
+    QCOMPARE(f.cell(0, 0), Cell());
     f.editor.setCurrentFrame(1);
     f.editor.setSelectedCell({2, 1});
     f.editor.setRotated(true);
     f.editor.setFlipped(true);
     f.editor.setOffset(5);
     f.editor.setIndex(9);
-    QCOMPARE(f.cell(1, 2, 1), (AnimationFrame::Cell{9, 5, true, false, true}));
-    QCOMPARE(f.cell(1, 2, 0), AnimationFrame::Cell());
+    QCOMPARE(f.cell(1, 2, 1), (Cell{9, 5, true, false, true}));
+    QCOMPARE(f.cell(1, 2, 0), Cell());
 
     TileAnimation empty;
     f.editor.setAnimation(&empty); // without frames
@@ -116,68 +82,45 @@ void TestFrameEditor::settersChangeTheSelectedCellOfTheCurrentFrame()
     QCOMPARE(empty.frameCount(), 0);
 }
 
-void TestFrameEditor::contextMenuShowsAndSetsTheFlags()
+void TestFrameEditor::menuAndToolTipShowTheCell()
 {
     Fixture f;
-    f.block.frame(0)->setFlip(1, 1, true);
-    QMenu &menu = *f.editor.contextMenu();
-    QTest::mouseClick(&f.editor, Qt::RightButton, Qt::NoModifier, f.at(1, 1));
-    QVERIFY(menu.isVisible());
-    QCOMPARE(menu.title(), "Frame");
-    QStringList entries;
-    for (const QAction *action : menu.actions())
-        entries += action->text() + (action->isChecked() ? "+" : "-");
-    QCOMPARE(entries, QStringList({"Rotated-", "Flipped+", "Mirrored-"}));
-    for (QAction *action : menu.actions())
-        action->trigger();
-    menu.close();
-    QCOMPARE(f.cell(1, 1), (AnimationFrame::Cell{0, 0, false, true, true}));
-}
-
-void TestFrameEditor::toolTipDescribesTheCell()
-{
-    Fixture f;
-    f.block.frame(0)->setCells({{{}, {7, 3, true, false, true}, {}}, {{}, {}, {}}});
-    QHelpEvent over(QEvent::ToolTip, f.at(1, 0), f.editor.mapToGlobal(f.at(1, 0)));
-    QApplication::sendEvent(&f.editor, &over);
+    f.block->frame(0)->setCells({{{}, {7, 3, true, false, true}, {}}, {{}, {}, {}}});
+    QHelpEvent inside(QEvent::ToolTip, f.at(1, 0), {});
+    QApplication::sendEvent(&f.editor, &inside);
     QCOMPARE(QToolTip::text(), "Index:\t7\nOffset:\t3\nFlip\tYes\nMirror:\tNo\nRotate:\tYes");
-    QHelpEvent outside(QEvent::ToolTip, {200, 200}, f.editor.mapToGlobal(QPoint(200, 200)));
+    QHelpEvent outside(QEvent::ToolTip, {200, 200}, {});
     QApplication::sendEvent(&f.editor, &outside);
     QTRY_VERIFY(!QToolTip::isVisible());
+
+    QMenu &menu = *f.editor.contextMenu();
+    QTest::mouseClick(&f.editor, Qt::RightButton, Qt::NoModifier, f.at(1, 0));
+    QVERIFY(menu.isVisible());
+    QStringList entries(menu.title());
+    for (QAction *action : menu.actions()) {
+        entries += action->text() + (action->isChecked() ? "+" : "-");
+        action->trigger();
+    }
+    menu.close();
+    QCOMPARE(entries, QStringList({"Frame", "Rotated+", "Flipped+", "Mirrored-"}));
+    QCOMPARE(f.cell(0, 1), (Cell{7, 3, false, true, false}));
 }
 
 void TestFrameEditor::arrowKeysMoveTheSelection()
 {
     Fixture f;
     const QSignalSpy activated(&f.editor, &FrameEditorWidget::cellActivated);
-    for (const int key : {Qt::Key_Return, Qt::Key_Down, Qt::Key_Right, Qt::Key_Right, Qt::Key_Right, Qt::Key_Down,
-                          Qt::Key_Left, Qt::Key_Return})
-        QTest::keyClick(&f.editor, Qt::Key(key));
-    QCOMPARE(f.editor.selectedCell(), QPoint(1, 1));
-    QCOMPARE(activated.count(), 1);
-    QCOMPARE(activated.first().first().toPoint(), QPoint(1, 1));
-}
-
-void TestFrameEditor::dropsTilesAndSelectsThem()
-{
-    Fixture f;
-    f.editor.setCurrentFrame(1);
-    f.block.frame(1)->setMirror(1, 2, true);
-    const QSignalSpy selection(&f.editor, &FrameEditorWidget::selectedCellChanged);
-    const DropResult result = drop(f.editor, f.at(2, 1), tile(7, 3));
-    QVERIFY(result.entered && result.dropped);
-    QCOMPARE(result.target, QPoint(2, 1));
-    QCOMPARE(f.editor.dropTarget(), FrameEditorWidget::NoCell);
-    QCOMPARE(f.cell(1, 2, 1), (AnimationFrame::Cell{7, 3, false, true, false}));
-    QCOMPARE(f.editor.selectedCell(), QPoint(2, 1));
-    QCOMPARE(selection.count(), 1);
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Down, Qt::Key_Right, Qt::Key_Right, Qt::Key_Right, Qt::Key_Down,
+                              Qt::Key_Left, Qt::Key_Return})
+        QTest::keyClick(&f.editor, key);
+    QCOMPARE(activated, (QList<QVariantList>{{QPoint(1, 1)}}));
 }
 
 void TestFrameEditor::paintsCellsAndMarks()
 {
     Fixture f;
-    f.block.frame(1)->setIndex(1, 0, 1);
-    f.editor.setCellRenderer([](const AnimationFrame::Cell &cell) {
+    f.block->frame(1)->setIndex(1, 0, 1);
+    f.editor.setCellRenderer([](const Cell &cell) {
         QImage picture(1, 1, QImage::Format_RGB32);
         picture.fill(Qt::red);
         return cell.index == 1 ? picture : QImage();
@@ -185,107 +128,110 @@ void TestFrameEditor::paintsCellsAndMarks()
     f.editor.setCurrentFrame(1);
     f.editor.setSelectedCell({1, 0});
     const QImage seen = f.editor.grab().toImage();
-    QCOMPARE(seen.pixelColor(5, 5), QColor(Qt::black));
-    QCOMPARE(seen.pixelColor(0, 32), QColor(Qt::red));
-    QCOMPARE(seen.pixelColor(32, 63), QColor(Qt::black));
-    QCOMPARE(seen.pixelColor(32 + 16, 2), QColor(127, 127, 127));
+    for (const auto &[position, colour] : {std::pair(QPoint(5, 5), QColor(Qt::black)),
+                                           {{0, 32}, Qt::red},
+                                           {{32, 63}, Qt::black},
+                                           {{48, 2}, {127, 127, 127}}})
+        QCOMPARE(seen.pixelColor(position), colour);
     f.editor.setAnimation(nullptr);
     QCOMPARE(f.editor.grab().toImage().pixelColor(5, 5), QColor(Qt::darkGray));
-}
-
-void TestFrameEditor::animationMayDieDuringADrag()
-{
-    FrameEditorWidget editor;
-    auto block = std::make_unique<TileAnimation>();
-    block->addFrame();
-    editor.setAnimation(block.get());
-    const auto data = tile(1, 0);
-    QDragEnterEvent enter(QPoint(3, 3), Qt::MoveAction, data.get(), Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(&editor, &enter);
-    QDragMoveEvent move(QPoint(3, 3), Qt::MoveAction, data.get(), Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(&editor, &move);
-    QCOMPARE(editor.dropTarget(), QPoint(0, 0));
-    block.reset();
-    QCOMPARE(editor.dropTarget(), FrameEditorWidget::NoCell);
-    QVERIFY(!drop(editor, {3, 3}, tile(1, 0)).dropped);
-    editor.grab();
 }
 
 void TestFrameEditor::sizeFollowsZoomAndAnimation()
 {
     Fixture f;
-    f.editor.setZoom(32);
-    f.editor.zoomIn();
-    f.editor.zoomIn();
+    for (int i = 0; i < 5; ++i) // 4, 8, 16, 32, 64 and no further
+        f.editor.zoomIn();
     QCOMPARE(f.editor.size(), QSize(3, 2) * 8 * 64);
-    f.editor.setZoom(2);
-    f.editor.zoomOut();
-    f.editor.zoomOut();
+    for (int i = 0; i < 7; ++i)
+        f.editor.zoomOut();
     QCOMPARE(f.editor.size(), QSize(24, 16));
     f.editor.setSelectedCell({2, 1});
     const QSignalSpy selection(&f.editor, &FrameEditorWidget::selectedCellChanged);
-    f.block.setWidth(2);
+    f.block->setWidth(2);
     QCOMPARE(f.editor.size(), QSize(16, 16));
-    QCOMPARE(selection, (QList<QVariantList>{{FrameEditorWidget::NoCell}}));
+    QCOMPARE(selection, (QList<QVariantList>{{None}}));
     f.editor.setAnimation(nullptr);
     QCOMPARE(f.editor.sizeHint(), QSize(8, 8));
-
-    SpriteAnim walk;
-    f.editor.setAnimation(&walk);
-    QCOMPARE(f.editor.sizeHint(), QSize(16, 16));
-    QVERIFY(!drop(f.editor, {5, 5}, tile(1, 0)).entered);
-    QVERIFY(drop(f.editor, {5, 5}, sprite(12)).dropped);
-    QCOMPARE(walk.frame(0)->cell(0, 0).index, 12);
 }
 
 void TestFrameEditor::releaseSelectsTheCellUnderIt()
 {
-    const QPoint none = FrameEditorWidget::NoCell;
     for (const auto &[position, cell] : {std::pair(QPoint(0, 1), QPoint(0, 0)),
                                          {{31, 31}, {0, 0}},
                                          {{32, 32}, {1, 1}},
-                                         {{96, 0}, none},
-                                         {{0, 64}, none},
-                                         {{-1, 0}, none}}) {
+                                         {{96, 0}, None},
+                                         {{0, 64}, None},
+                                         {{-1, 0}, None}}) {
         Fixture f;
-        QSignalSpy selection(&f.editor, &FrameEditorWidget::selectedCellChanged);
+        const QSignalSpy selection(&f.editor, &FrameEditorWidget::selectedCellChanged);
         QTest::mouseRelease(&f.editor, Qt::LeftButton, Qt::NoModifier, position);
         QCOMPARE(f.editor.selectedCell(), cell);
-        QCOMPARE(selection, cell == none ? QList<QVariantList>() : (QList<QVariantList>{{cell}}));
+        QCOMPARE(selection, cell == None ? QList<QVariantList>() : (QList<QVariantList>{{cell}}));
     }
 }
 
-void TestFrameEditor::refusesWhatDoesNotFit()
+void TestFrameEditor::takesWhatFits()
 {
-    struct Dragged
+    const QString tiles("quenmora/tile-drag-anim");
+    const QByteArray good("0000000700000003");
+    constexpr QPoint Nowhere(-9, -9);
+    struct Drag
     {
         QString type;
         QByteArray hex;
-        QPoint position{40, 40};
-        bool entered = true;
+        QPoint target{1, 1}; ///< while the drag is over the widget
+        bool dropped = false;
     };
-    const QString tiles("quenmora/tile-drag-anim");
-    const QByteArray good("0000000700000003");
-    const Dragged drags[] = {{"quenmora/sprite-drag-anim", "00000007", {40, 40}, false},
-                             {"text/plain", good, {40, 40}, false},
-                             {tiles, good, {200, 10}}, // outside
-                             {tiles, good.chopped(2)},
-                             {tiles, "ffffffff00000003"},
-                             {tiles, "0000001000000003"}, // beyond the last tile
-                             {tiles, "0000000700000010"}}; // beyond the last offset
-    for (const Dragged &dragged : drags) {
+    const Drag drags[] = {{tiles, good, {2, 1}, true},
+                          {tiles, good, None}, // outside
+                          {"quenmora/sprite-drag-anim", "00000007", Nowhere},
+                          {"text/plain", good, Nowhere},
+                          {tiles, good.chopped(2)},
+                          {tiles, "ffffffff00000003"},
+                          {tiles, "0000001000000003"}, // beyond the last tile
+                          {tiles, "0000000700000010"}}; // beyond the last offset
+    for (const Drag &drag : drags) {
         Fixture f;
         f.editor.setIndexCount(16);
-        const auto before = f.block.state();
-        auto data = std::make_unique<QMimeData>();
-        data->setData(dragged.type, QByteArray::fromHex(dragged.hex));
-        const DropResult result = drop(f.editor, dragged.position, std::move(data));
-        QCOMPARE(result.entered, dragged.entered);
-        QVERIFY(!result.dropped);
-        QCOMPARE(f.editor.dropTarget(), FrameEditorWidget::NoCell);
-        QCOMPARE(f.editor.selectedCell(), FrameEditorWidget::NoCell);
-        QVERIFY(f.block.state() == before);
+        f.editor.setCurrentFrame(1);
+        f.block->frame(1)->setMirror(1, 2, true);
+        const auto before = f.block->state();
+        const QSignalSpy selection(&f.editor, &FrameEditorWidget::selectedCellChanged);
+        QMimeData data;
+        data.setData(drag.type, QByteArray::fromHex(drag.hex));
+        QPoint target = Nowhere;
+        QCOMPARE(f.drop(data, drag.target == None ? QPoint(200, 10) : f.at(drag.target.x(), drag.target.y()),
+                        [&] { target = f.editor.dropTarget(); }),
+                 drag.dropped);
+        QCOMPARE(target, drag.target);
+        QCOMPARE(f.editor.dropTarget(), None);
+        QCOMPARE(selection, drag.dropped ? (QList<QVariantList>{{drag.target}}) : QList<QVariantList>());
+        QCOMPARE(f.block->state() == before, !drag.dropped);
+        QCOMPARE(f.cell(1, 2, 1), (drag.dropped ? Cell{7, 3, false, true, false} : Cell{0, 0, false, true, false}));
     }
+}
+
+void TestFrameEditor::spriteAnimationsTakeSprites()
+{
+    Fixture f;
+    SpriteAnim walk;
+    f.editor.setAnimation(&walk);
+    QCOMPARE(f.editor.size(), QSize(64, 64));
+    const std::unique_ptr<QMimeData> tile(TileDrag{1, 0}.toMimeData());
+    const std::unique_ptr<QMimeData> sprite(SpriteDrag{12}.toMimeData());
+    QVERIFY(!f.drop(*tile, {5, 5}));
+    QVERIFY(f.drop(*sprite, {5, 5}));
+    QCOMPARE(walk.frame(0)->cell(0, 0).index, 12);
+}
+
+void TestFrameEditor::animationMayDieDuringADrag()
+{
+    Fixture f;
+    const std::unique_ptr<QMimeData> data(TileDrag{1, 0}.toMimeData());
+    QVERIFY(!f.drop(*data, {3, 3}, [&] { f.block.reset(); }));
+    QCOMPARE(f.editor.dropTarget(), None);
+    f.editor.grab();
 }
 
 QUENMORA_TEST_MAIN(TestFrameEditor)
