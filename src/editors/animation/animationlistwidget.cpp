@@ -64,6 +64,8 @@ void AnimationListWidget::buildActions()
         if (selected())
             emit cloneRequested(selected());
     });
+    m_remove->setShortcut(QKeySequence::Delete);
+    m_remove->setShortcutContext(Qt::WidgetShortcut);
     m_remove->setEnabled(false);
     m_clone->setEnabled(false);
 

@@ -24,7 +24,7 @@ public:
     enum Flag {
         PlainList = 0,
         Buttons = 1, ///< "Add" and "Delete" below the list
-        ContextMenu = 2, ///< with "Add", "Delete" and "Clone"
+        ContextMenu = 2, ///< with "Add", "Delete" and "Clone"; the Delete key in the list does the same
         Details = 4, ///< size and number of frames below the name
     };
     Q_DECLARE_FLAGS(Flags, Flag)
