@@ -9,19 +9,17 @@ namespace BlockEditor {
 namespace {
 
 constexpr int LastOffset = 15;
-constexpr int UsualZoom = 8;
 
-} // namespace
+}
 
 AnimationEditorWidget::AnimationEditorWidget(QWidget *parent)
-    : EditorWidget(new BlockEditorToolBar, tr("Tile:"), parent)
+    : EditorWidget(new BlockEditorToolBar, parent)
     , m_properties(static_cast<BlockEditorToolBar *>(toolBar()))
     , m_offset(addCellNumber(tr("Palette offset:"), tr("The palette offset of the selected cell"), LastOffset))
 {
     ToolPalette::Entry updateOffsets = ToolPalette::entryOf(Quenmora::Ui::PaintPalette);
     updateOffsets.text = tr("Update palette offsets to default values");
     tools()->addEntry(updateOffsets);
-    frameEditor()->setZoom(UsualZoom);
     connect(m_offset, &QSpinBox::valueChanged, frameEditor(), &AnimationEditor::FrameEditorWidget::setOffset);
     connect(m_properties, &BlockEditorToolBar::blockTypeChanged, this, [this](MapObjectType type) {
         if (tileAnimation())

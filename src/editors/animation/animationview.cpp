@@ -33,6 +33,12 @@ AnimationView::AnimationView(AnimationListWidget *list, EditorWidget *editor, QW
     m_list->setMinimumWidth(LeastListWidth);
     setFocusProxy(m_list);
 
+    FrameEditorWidget *cells = m_editor->frameEditor();
+    cells->setCellRenderer([this](const AnimationFrame::Cell &cell) { return cellPicture(cell); });
+    connect(cells, &FrameEditorWidget::cellActivated, this, [this, cells] {
+        if (const auto cell = cells->selectedCellContent())
+            announceActivated(cell->index);
+    });
     connect(m_list, &AnimationListWidget::selectedItemChanged, this, &AnimationView::showAnimation);
     connect(m_list, &AnimationListWidget::addRequested, this, &AnimationView::addNewAnimation);
     connect(m_list, &AnimationListWidget::cloneRequested, this, &AnimationView::cloneAnimation);
@@ -135,6 +141,7 @@ bool AnimationView::confirmsDeletion()
     // not on the stack: it goes with the view
     const QPointer<QMessageBox> box =
         new QMessageBox(QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No, this);
+    box->setDefaultButton(QMessageBox::No); // there is no way back
     widenForTitle(*box);
     const bool confirmed = box->exec() == QMessageBox::Yes;
     if (box)

@@ -37,8 +37,6 @@ protected:
     /// Takes over list and editor.
     AnimationView(AnimationListWidget *list, EditorWidget *editor, QWidget *parent);
 
-    [[nodiscard]] EditorWidget *animationEditor() const { return m_editor; }
-
     /// The animations of the asset, in their order; none when it is gone.
     [[nodiscard]] virtual QList<Animation *> animations() const = 0;
     /// Adds a new animation to the asset; null when it is gone.
@@ -47,6 +45,10 @@ protected:
     [[nodiscard]] virtual Animation *copyAnimation(Animation &animation) = 0;
     /// Removes an animation from the asset and destroys it.
     virtual void destroyAnimation(Animation &animation) = 0;
+    /// The picture of a cell; null when it names nothing that is there.
+    [[nodiscard]] virtual QImage cellPicture(const AnimationFrame::Cell &cell) const = 0;
+    /// A cell that names this tile or sprite is to be edited.
+    virtual void announceActivated(int index) = 0;
     /// The asset has a new animation, which is now shown.
     virtual void announceAdded(Animation &animation) { Q_UNUSED(animation) }
     /// An animation is going to be removed.

@@ -7,7 +7,6 @@
 namespace BlockEditor {
 
 using AnimationEditor::AnimationListWidget;
-using AnimationEditor::FrameEditorWidget;
 
 View::View(const QPointer<MapObjects> &blocks, QWidget *parent) : View(blocks, new AnimationEditorWidget, parent) { }
 
@@ -17,12 +16,6 @@ View::View(const QPointer<MapObjects> &blocks, AnimationEditorWidget *editor, QW
     , m_blocks(blocks)
     , m_editor(editor)
 {
-    FrameEditorWidget *cells = m_editor->frameEditor();
-    cells->setCellRenderer([this](const AnimationFrame::Cell &cell) { return cellPicture(cell); });
-    connect(cells, &FrameEditorWidget::cellActivated, this, [this, cells] {
-        if (const auto cell = cells->selectedCellContent())
-            emit tileDoubleClicked(cell->index + 1);
-    });
     if (m_blocks) {
         connect(m_blocks, &MapObjects::animationsChanged, this, &View::syncList);
         connect(m_blocks, &QObject::destroyed, this, &View::syncList);

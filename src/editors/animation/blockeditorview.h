@@ -30,6 +30,8 @@ protected:
     [[nodiscard]] Animation *createAnimation() override;
     [[nodiscard]] Animation *copyAnimation(Animation &animation) override;
     void destroyAnimation(Animation &animation) override;
+    [[nodiscard]] QImage cellPicture(const AnimationFrame::Cell &cell) const override;
+    void announceActivated(int index) override { emit tileDoubleClicked(index + 1); }
     void announceAdded(Animation &animation) override;
     void announceRemoved(Animation &animation) override;
 
@@ -39,7 +41,6 @@ private:
     void followTileSet();
     void showTiles();
     [[nodiscard]] TileSet *tileSet() const;
-    [[nodiscard]] QImage cellPicture(const AnimationFrame::Cell &cell) const;
 
     QPointer<MapObjects> m_blocks;
     AnimationEditorWidget *m_editor;

@@ -20,6 +20,7 @@ namespace AnimationEditor {
 
 namespace {
 
+constexpr int UsualZoom = 8;
 constexpr int Tick = 20; // milliseconds of the clock that frame delays count
 constexpr int LongestDelay = std::numeric_limits<int>::max() / Tick - 1;
 
@@ -32,7 +33,7 @@ ToolPalette::Entry toggle(ToolButton button)
 
 } // namespace
 
-EditorWidget::EditorWidget(AnimationToolBar *toolBar, const QString &indexName, QWidget *parent)
+EditorWidget::EditorWidget(AnimationToolBar *toolBar, QWidget *parent)
     : QWidget(parent)
     , m_timer(new QTimer(this))
     , m_toolBar(toolBar)
@@ -46,7 +47,8 @@ EditorWidget::EditorWidget(AnimationToolBar *toolBar, const QString &indexName, 
     m_tools->addEntry(ZoomOut);
     for (const ToolButton button : {RotateCW, Flip, Mirror})
         m_tools->addEntry(toggle(button));
-    m_index = addCellNumber(indexName, tr("The number in the selected cell"), 0);
+    m_index = addCellNumber(tr("Index:"), tr("The index in the selected cell"), 0);
+    m_frameEditor->setZoom(UsualZoom);
     connectParts();
 }
 

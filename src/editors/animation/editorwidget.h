@@ -45,8 +45,8 @@ public slots:
     void stop();
 
 protected:
-    /// toolBar becomes part of the editor. indexName says what the cells name ("Tile:").
-    EditorWidget(AnimationToolBar *toolBar, const QString &indexName, QWidget *parent);
+    /// toolBar becomes part of the editor.
+    EditorWidget(AnimationToolBar *toolBar, QWidget *parent);
 
     /// A field for a number of the selected cell, beside the tools.
     QSpinBox *addCellNumber(const QString &label, const QString &toolTip, int maximum);

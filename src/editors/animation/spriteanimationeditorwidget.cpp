@@ -10,7 +10,7 @@ using AnimationEditor::AnimationToolBar;
 
 AnimationEditorWidget::AnimationEditorWidget(QWidget *parent)
     : EditorWidget(new AnimationToolBar(tr("Set the frame width in sprites"), tr("Set the frame height in sprites")),
-                   tr("Sprite:"), parent)
+                   parent)
 {
     control()->action(AnimationControlWidget::PingPong)->setEnabled(true);
     buildPage();

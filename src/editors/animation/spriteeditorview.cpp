@@ -7,7 +7,6 @@
 namespace SpriteEditor {
 
 using AnimationEditor::AnimationListWidget;
-using AnimationEditor::FrameEditorWidget;
 
 View::View(const QPointer<SpriteBank> &bank, QWidget *parent) : View(bank, new AnimationEditorWidget, parent) { }
 
@@ -18,12 +17,6 @@ View::View(const QPointer<SpriteBank> &bank, AnimationEditorWidget *editor, QWid
     , m_bank(bank)
     , m_editor(editor)
 {
-    FrameEditorWidget *cells = m_editor->frameEditor();
-    cells->setCellRenderer([this](const AnimationFrame::Cell &cell) { return cellPicture(cell); });
-    connect(cells, &FrameEditorWidget::cellActivated, this, [this, cells] {
-        if (const auto cell = cells->selectedCellContent())
-            emit spriteDoubleClicked(cell->index);
-    });
     if (m_bank) {
         connect(m_bank, &SpriteBank::animationsChanged, this, &View::syncList);
         connect(m_bank, &QObject::destroyed, this, &View::syncList);

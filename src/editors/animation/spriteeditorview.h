@@ -27,12 +27,13 @@ protected:
     [[nodiscard]] Animation *createAnimation() override;
     [[nodiscard]] Animation *copyAnimation(Animation &animation) override;
     void destroyAnimation(Animation &animation) override;
+    [[nodiscard]] QImage cellPicture(const AnimationFrame::Cell &cell) const override;
+    void announceActivated(int index) override { emit spriteDoubleClicked(index); }
 
 private:
     View(const QPointer<SpriteBank> &bank, AnimationEditorWidget *editor, QWidget *parent);
 
     void showSprites();
-    [[nodiscard]] QImage cellPicture(const AnimationFrame::Cell &cell) const;
 
     QPointer<SpriteBank> m_bank;
     AnimationEditorWidget *m_editor;
