@@ -59,9 +59,8 @@ inline void trigger(const QMenu &menu, const QString &text)
 
 /// A drag from one point of a widget to another, as the window system reports it. Calls over before the drop
 /// if the drag was let in, and returns whether the drop was taken.
-inline bool drop(
-    QWidget &widget, QPoint from, QPoint to, const QMimeData &data, Qt::KeyboardModifiers modifiers,
-    const std::function<void()> &over = [] {})
+inline bool drop(QWidget &widget, QPoint from, QPoint to, const QMimeData &data, Qt::KeyboardModifiers modifiers,
+                 const std::function<void()> &over = {})
 {
     QTest::mousePress(&widget, Qt::LeftButton, Qt::NoModifier, from);
     QDragEnterEvent enter(to, Qt::MoveAction, &data, Qt::LeftButton, modifiers);
@@ -71,7 +70,8 @@ inline bool drop(
         return false;
     QDragMoveEvent move(to, Qt::MoveAction, &data, Qt::LeftButton, modifiers);
     QApplication::sendEvent(&widget, &move);
-    over();
+    if (over)
+        over();
     QDropEvent dropped(to, Qt::MoveAction, &data, Qt::LeftButton, modifiers);
     dropped.ignore();
     QApplication::sendEvent(&widget, &dropped);

