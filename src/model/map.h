@@ -34,8 +34,8 @@ public:
     /// A hardware sprite, or a sprite animation, on the map.
     struct PlacedSprite
     {
-        QUuid bank;
-        QUuid animation; ///< an animation of the bank, or null for a single sprite
+        QUuid bank{};
+        QUuid animation{}; ///< an animation of the bank, or null for a single sprite
         int sprite = 0; ///< sprite in the bank when there is no animation
         int x = 0; ///< pixels on the map, as y (8 to a cell)
         int y = 0;
@@ -46,7 +46,7 @@ public:
         int initialDelay = 0; ///< ticks before the animation starts
         int repeatDelay = 0; ///< ticks between two runs of the animation
         int paletteOffset = 0;
-        QString name;
+        QString name{};
 
         /// The frame to show at a time in ticks of an animation of frameCount frames, frameDelay ticks each;
         /// 0 for an animation without frames.

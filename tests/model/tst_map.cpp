@@ -2,12 +2,12 @@
 
 #include "model/mapobjects.h"
 #include "model/palette.h"
+#include "model/project.h"
 #include "model/tileset.h"
 #include "support/modeltools.h"
 #include "support/testmain.h"
 
 #include <QPainter>
-#include <QTemporaryDir>
 #include <QTest>
 
 namespace {
@@ -22,29 +22,21 @@ TileData tile(int index)
     return {index, false, false, false, 0, true};
 }
 
-/// A map of 12 × 10 cells with 16 tiles and a block set.
+/// A cell of the object layer that shows one of the animation's tiles.
+TileData frameCell(int index)
+{
+    return {index, false, false, true, 7, true};
+}
+
+/// A map of 12 × 10 cells with 16 tiles and an animation of two frames, 2 × 1 cells: tiles 3 and 4, then 5 and 6,
+/// with offset 7 and mirrored.
 struct Level
 {
-    explicit Level(QSize size = {12, 10}) : tiles(size), objects(size)
+    Level()
     {
-        palette.loadStandardNext();
-        tileSet.setPalette(&palette);
-        blocks.setTileSet(&tileSet);
-        objects.setVisible(false);
-        map.setLayers(&tiles, &objects);
-        map.setTileSet(&tileSet);
-    }
-
-    /// An animation of two frames, 2 × 1 cells: 3 and 4, then 5 and 6; offset 7, mirrored.
-    QPointer<TileAnimation> animation()
-    {
-        const QPointer<TileAnimation> result = blocks.createBoundTileAnimation("Torch");
-        result->setSize({2, 1});
-        result->clearFrames();
-        for (int frame = 0; frame < 2; ++frame)
-            result->addFrame()->setCells(
-                {{{3 + 2 * frame, 7, false, true, false}, {4 + 2 * frame, 7, false, true, false}}});
-        return result;
+        animation.setSize({2, 1});
+        for (const int index : {3, 5})
+            animation.addFrame()->setCells({{{index, 7, false, true, false}, {index + 1, 7, false, true, false}}});
     }
 
     QList<QRect> areas() const
@@ -55,30 +47,26 @@ struct Level
         return result;
     }
 
-    Palette palette;
-    TileSet tileSet{16};
-    TileMap tiles;
-    TileMap objects;
-    MapObjects blocks;
-    Map map{QStringLiteral("Cave")};
+    QList<QPoint> sprites() const
+    {
+        QList<QPoint> result;
+        for (const Map::PlacedSprite &sprite : map.sprites())
+            result << QPoint(sprite.x, sprite.y);
+        return result;
+    }
+
+    Project project;
+    Palette &palette = *project.createPalette(CreateAction::DefaultNext, "Main");
+    TileSet &tileSet = *project.createTileSet("Rocks", palette.id(), 16);
+    TileAnimation &animation = *project.createBlockList("Torches", tileSet.id())->createBoundTileAnimation("Torch");
+    Map &map = *project.createMap("Cave", tileSet.id(), {12, 10});
+    TileMap &tiles = *map.tileLayer();
+    TileMap &objects = *map.objectLayer();
 };
 
-TileData frameCell(int index)
+Map::PlacedSprite spriteAt(int x, int y)
 {
-    return {index, false, false, true, 7, true};
-}
-
-Map::PlacedSprite spriteAt(int x, int y, const QUuid &bank = {}, int sprite = 0, const QUuid &animation = {})
-{
-    return {bank, animation, sprite, x, y, false, false, false, 0, 0, 0, 0, {}};
-}
-
-QList<QPoint> positions(const Map &map)
-{
-    QList<QPoint> result;
-    for (const Map::PlacedSprite &sprite : map.sprites())
-        result << QPoint(sprite.x, sprite.y);
-    return result;
+    return {.x = x, .y = y};
 }
 
 } // namespace
@@ -87,308 +75,265 @@ class TestMap : public QObject
 {
     Q_OBJECT
 
+    const TemporaryFolder m_path;
+
 private slots:
-    void worksWithoutLayers();
-    void movesContentWithTheCells();
-    void followsItsTileSet();
-    void placesAnimations();
-    void restampsAnimations();
-    void keepsSpritesOnTheirPictures();
-    void playsPlacedAnimations();
-    void restoresSnapshots();
-    void importsOddTileDataSets();
-    void refusesDamagedTileDataSets();
-    void showsObjectsWhereTheyArePlaced();
-};
-
-void TestMap::worksWithoutLayers()
-{
-    TileSet tileSet(1);
-    Map map;
-    for (int i = 0; i < 4; ++i)
-        QTest::ignoreMessage(QtWarningMsg, "_tileMap==nullptr");
-    map.setTileSet(&tileSet);
-    map.resize({4, 4}, Qt::AlignLeft);
-    QVERIFY(!map.setTile({0, 0}, tile(1)));
-    QVERIFY(!map.exportData("level.map"));
-    map.restore(map.snapshot());
-    auto *layer = new TileMap(3, 3);
-    map.setLayers(layer, nullptr);
-    QCOMPARE(layer->tileSet(), &tileSet);
-    delete layer;
-    tileSet.deleteTile(0);
-    QCOMPARE(map.dataSize(), 0);
-}
-
-void TestMap::movesContentWithTheCells()
-{
-    Level level;
-    const QPointer<TileAnimation> animation = level.animation();
-    level.map.setTile({2, 1}, tile(5));
-    level.map.placeAnimation(animation, {0, 3});
-    level.map.placeAnimation(animation, {5, 3});
-    level.map.animatedBlocks()->add(QRect(QPoint(INT_MIN, 0), QPoint(INT_MIN, 0)), animation->id());
-    for (const QPoint at : {QPoint(3, 0), QPoint(8, 0), QPoint(95, 79)})
-        level.map.addSprite(spriteAt(at.x(), at.y()));
-
-    level.map.insertColumn(Quenmora::Begin);
-    level.map.insertRow(Quenmora::Begin);
-    level.map.insertColumn(Quenmora::End);
-    level.map.insertRow(Quenmora::End);
-    QVERIFY(level.tiles.size() == QSize(14, 12) && level.objects.size() == QSize(14, 12));
-    QCOMPARE(level.map.dataSize(), 336);
-    QCOMPARE(level.tiles.cellAt({3, 2}), tile(5));
-    QCOMPARE(level.objects.cellAt({6, 4}), frameCell(3));
-    QCOMPARE(level.areas(), QList<QRect>({QRect(1, 4, 2, 1), QRect(6, 4, 2, 1)}));
-    QCOMPARE(positions(level.map), QList<QPoint>({QPoint(11, 8), QPoint(16, 8), QPoint(103, 87)}));
-
-    for (int i = 0; i < 2; ++i)
-        level.map.removeColumn(Quenmora::Begin);
-    QCOMPARE(level.areas(), QList<QRect>({QRect(4, 4, 2, 1)}));
-    QCOMPARE(level.objects.cellAt({0, 4}), Cleared); // the part of the first that is still on the map
-    QCOMPARE(positions(level.map), QList<QPoint>({QPoint(0, 8), QPoint(87, 87)}));
-    level.map.removeColumn(Quenmora::End);
-    level.map.removeRow(Quenmora::Begin);
-    level.map.removeRow(Quenmora::End);
-    QCOMPARE(positions(level.map), QList<QPoint>({QPoint(0, 0), QPoint(87, 79)}));
-    level.map.removeColumn(Quenmora::End);
-    QCOMPARE(positions(level.map), QList<QPoint>({QPoint(0, 0)}));
-
-    SignalLog log;
-    log.listen(level.map, &Map::resized, "resized");
-    level.map.resize({20, 5}, Qt::AlignRight | Qt::AlignTop);
-    QCOMPARE(log.take(), QStringList("resized Cave"));
-    QVERIFY(level.tiles.size() == QSize(20, 5) && level.objects.size() == QSize(20, 5));
-    QCOMPARE(level.tiles.cellAt({11, 1}), tile(5));
-    QCOMPARE(positions(level.map), QList<QPoint>({QPoint(80, 0)}));
-}
-
-void TestMap::followsItsTileSet()
-{
-    Level level;
-    const auto indices = [&level] {
-        return QList<int>{level.tiles.cellAt({0, 0}).index, level.tiles.cellAt({1, 0}).index,
-                          level.tiles.cellAt({2, 0}).index, level.objects.cellAt({0, 0}).index};
-    };
-    for (int i = 0; i < 3; ++i)
-        level.map.setTile({i, 0}, tile(4 + i));
-    level.objects.setCell({0, 0}, tile(6));
-    level.tileSet.deleteTile(5);
-    QCOMPARE(indices(), QList<int>({4, 0, 5, 5})); // cells of the deleted tile show tile 0
-    level.map.setTileSet(&level.tileSet); // once more: it must not count twice
-    level.tileSet.insertTile(0);
-    QCOMPARE(indices(), QList<int>({5, 1, 6, 6}));
-    level.tileSet.setTileOffset(5, 9);
-    level.map.refreshOffsets();
-    QCOMPARE(level.tiles.cellAt({0, 0}).offset, 9);
-    TileSet other(1);
-    level.map.setTileSet(&other);
-    level.tileSet.deleteTile(0);
-    QCOMPARE(indices(), QList<int>({5, 1, 6, 6}));
-}
-
-void TestMap::placesAnimations()
-{
-    Level level;
-    const QRect area(4, 3, 2, 1);
-    const QPointer<TileAnimation> animation = level.animation();
-    level.map.setTiles(level.tiles.bounds(), 9, false, false, false, true);
-    level.map.placeAnimation(animation, {11, 3}); // half of it over the edge
-    level.map.placeAnimation(animation, {4, 3});
-    QCOMPARE(level.areas(), QList<QRect>({QRect(11, 3, 2, 1), area}));
-    QCOMPARE(level.map.animatedBlocks()->animationIdAt(area), animation->id());
-    QVERIFY(level.tiles.cellAt({5, 3}) == Cleared && level.tiles.cellAt({6, 3}) == tile(9));
-    QVERIFY(level.objects.cellAt({4, 3}) == frameCell(3) && level.objects.cellAt({5, 3}) == frameCell(4));
-    QCOMPARE(level.objects.cellAt({11, 3}), frameCell(3));
-    QVERIFY(level.map.stampFrame(*animation, 1, {4, 3}));
-    for (const int same : {1, 2, -1}) // the frame that it shows already, and two that are not there
-        QVERIFY(!level.map.stampFrame(*animation, same, {4, 3}));
-    QCOMPARE(level.objects.cellAt({5, 3}), frameCell(6));
-
-    QVERIFY(!level.map.removeAnimationAt(QRect(4, 3, 1, 1)));
-    QVERIFY(level.map.removeAnimationAt(area));
-    QCOMPARE(level.tiles.cellAt({5, 3}), Blank);
-    QCOMPARE(level.objects.cellAt({5, 3}), Cleared);
-    QCOMPARE(level.areas().size(), 1);
-    level.map.placeAnimation(nullptr, {0, 0});
-    level.map.placeAnimation(level.blocks.createBoundTileAnimation("No frames"), {0, 0});
-    QCOMPARE(level.objects.cellAt({0, 0}), Blank);
-}
-
-void TestMap::restampsAnimations()
-{
-    Level level;
-    const QPointer<TileAnimation> animation = level.animation();
-    level.map.animatedBlocks()->add(QRect(2, 2, 2, 1), animation->id());
-    level.map.animatedBlocks()->add(QRect(6, 2, 2, 1), QUuid::createUuid()); // no such animation
-    level.map.animatedBlocks()->add(QRect(QPoint(INT_MAX, 3), QPoint(INT_MAX, 3)), animation->id());
-    MapObjects other;
-    level.map.restampAnimations({&other, nullptr, &level.blocks});
-    QVERIFY(level.objects.cellAt({3, 2}) == frameCell(4) && level.tiles.cellAt({3, 2}) == Cleared);
-    QVERIFY(level.objects.cellAt({6, 2}) == Blank && level.tiles.cellAt({6, 2}) == Cleared);
-}
-
-void TestMap::keepsSpritesOnTheirPictures()
-{
-    const QUuid bank = QUuid::createUuid();
-    const std::pair<std::function<void(Map &)>, QList<int>> changes[] = {
-        {[&](Map &map) { map.onSpriteMoved(bank, 4, 1); }, {-1, 0, 2, 3, 4, 1, 5, 4, 4}},
-        {[&](Map &map) { map.onSpriteMoved(bank, 1, 4); }, {-1, 0, 4, 1, 2, 3, 5, 4, 4}},
-        {[&](Map &map) { map.onSpriteMoved(bank, 2, 2); }, {-1, 0, 1, 2, 3, 4, 5, 4, 4}},
-        {[&](Map &map) { map.onSpriteDeleted(bank, 4); }, {-1, 0, 1, 2, 3, 4, 4, 4}},
-        {[&](Map &map) { map.onSpriteDeleted(bank, -1); }, {-1, 0, 1, 2, 3, 4, 5, 4, 4}},
-        {[&](Map &map) { QVERIFY(!map.setSprite(9, {}) && !map.removeSprite(9)); }, {-1, 0, 1, 2, 3, 4, 5, 4, 4}}};
-    for (const auto &[change, expected] : changes) {
-        Map map;
-        for (int i = -1; i < 6; ++i)
-            map.addSprite(spriteAt(0, 0, bank, i));
-        map.addSprite(spriteAt(0, 0, bank, 4, QUuid::createUuid())); // an animation
-        map.addSprite(spriteAt(0, 0, QUuid::createUuid(), 4)); // a sprite of another bank
-        change(map);
-        QList<int> numbers;
-        for (const Map::PlacedSprite &sprite : map.sprites())
-            numbers << sprite.sprite;
-        QCOMPARE(numbers, expected);
-    }
-}
-
-void TestMap::playsPlacedAnimations()
-{
-    struct Case
+    void worksWithoutLayers()
     {
-        int startFrame, initialDelay, repeatDelay, frameCount, frameDelay, time, frame;
-    };
-    const Case cases[] = {
-        {1, 5, 20, 4, 10, 0, 1}, // before the start
-        {1, 5, 20, 4, 10, 15, 2}, // running
-        {1, 5, 20, 4, 10, 35, 0}, // the last frame before the pause
-        {1, 5, 20, 4, 10, 50, 0}, // in the pause
-        {1, 5, 20, 4, 10, 65, 1}, // the second run
-        {9, 5, 0, 4, 10, 0, 3}, // starting behind the last frame
-        {-9, 0, -9, 4, 10, 45, 0}, // no pause shorter than none
-        {1, 5, 20, 4, 0, 500, 1}, // standing still
-        {1, 5, 20, 0, 10, 15, 0}, // no frames
-        {0, 0, INT_MAX, INT_MAX, INT_MAX, INT_MAX, 1},
-    };
-    for (const Case &given : cases) {
-        Map::PlacedSprite sprite;
-        sprite.startFrame = given.startFrame;
-        sprite.initialDelay = given.initialDelay;
-        sprite.repeatDelay = given.repeatDelay;
-        QCOMPARE(sprite.currentFrame(given.frameCount, given.frameDelay, given.time), given.frame);
+        TileSet tileSet(1);
+        Map map;
+        for (int i = 0; i < 4; ++i)
+            QTest::ignoreMessage(QtWarningMsg, "_tileMap==nullptr");
+        map.setTileSet(&tileSet);
+        map.resize({4, 4}, Qt::AlignLeft);
+        QVERIFY(!map.setTile({0, 0}, tile(1)) && !map.exportData("level.map"));
+        map.restore(map.snapshot());
+        auto *layer = new TileMap(3, 3);
+        map.setLayers(layer, nullptr);
+        QCOMPARE(layer->tileSet(), &tileSet);
+        delete layer;
+        tileSet.deleteTile(0);
+        QCOMPARE(map.dataSize(), 0);
     }
-}
 
-void TestMap::restoresSnapshots()
-{
-    Level level;
-    level.map.setTile({1, 1}, tile(2));
-    level.map.addSprite(spriteAt(8, 8));
-    level.map.placeAnimation(level.animation(), {4, 3});
-    const Map::Snapshot before = level.map.snapshot();
-    level.map.insertRow(Quenmora::Begin);
-    level.map.removeAnimationAt(QRect(4, 4, 2, 1));
-    level.map.removeSprite(0);
-    const Map::Snapshot after = level.map.snapshot();
-    QVERIFY(!(after == before));
-
-    SignalLog log;
-    log.listen(level.tiles, &TileMap::tilesChanged, "tiles");
-    log.listen(level.objects, &TileMap::tilesChanged, "objects");
-    log.listen(level.map, &Map::restored, "restored");
-    level.map.restore(before);
-    QCOMPARE(log.take(), QStringList({"tiles", "objects", "restored"}));
-    QVERIFY(level.map.snapshot() == before);
-    QCOMPARE(level.areas(), QList<QRect>({QRect(4, 3, 2, 1)}));
-    level.map.restore(after);
-    QVERIFY(level.map.snapshot() == after);
-}
-
-void TestMap::importsOddTileDataSets()
-{
-    const QTemporaryDir folder;
-    const QString mapFile = folder.filePath("level.nxm");
-    const QString blockFile = folder.filePath("level.nxb");
-    // three by three cells: the blocks at the right and at the bottom are cut
-    QVERIFY(writeFile(
-        mapFile, QByteArray::fromHex("0303 0100 0000") + QByteArray(252, '\x55') + QByteArray::fromHex("0000 0100")));
-    QVERIFY(writeFile(blockFile, QByteArray::fromHex("0100 0200 0300 0400 0500 0600 ffff 0002 77")));
-    Level level;
-    level.map.addSprite(spriteAt(80, 0));
-    SignalLog log;
-    log.listen(level.map, &Map::resized, "resized");
-    QVERIFY(level.map.importNxm(mapFile, blockFile));
-    QCOMPARE(log.take(), QStringList("resized Cave"));
-    QCOMPARE(level.tiles.size(), QSize(3, 3));
-    QCOMPARE(level.objects.size(), QSize(3, 3));
-    QCOMPARE(level.map.sprites().size(), 0);
-    const int expected[] = {5, 6, 1, -1, 512, 3, 1, 2, 5};
-    for (int i = 0; i < 9; ++i)
-        QCOMPARE(level.tiles.cellAt({i % 3, i / 3}), tile(expected[i]));
-    QVERIFY(!level.tiles.toImage(level.tiles.bounds()).isNull()); // tiles -1 and 512 do not exist
-}
-
-void TestMap::refusesDamagedTileDataSets()
-{
-    const QTemporaryDir folder;
-    const QString mapFile = folder.filePath("level.nxm");
-    const QString blockFile = folder.filePath("level.nxb");
-    const QByteArray block(8, '\1');
-    const std::tuple<QByteArray, QByteArray, QSize> cases[] = {
-        // map, blocks, size afterwards
-        {"", block, {12, 10}},
-        {"\2", block, {12, 10}},
-        {QByteArray::fromHex("0002 0000"), block, {12, 10}},
-        {QByteArray::fromHex("0200 0000"), block, {12, 10}},
-        {QByteArray::fromHex("0202 00"), block, {2, 2}}, // half a block number
-        {QByteArray::fromHex("0204 0000") + QByteArray(254, '\0'), block, {2, 4}}, // no second row
-        {QByteArray::fromHex("0202 0100"), block, {2, 2}}, // block behind the data
-        {QByteArray::fromHex("0202 ffff"), block.repeated(4), {2, 2}},
-        {QByteArray::fromHex("0202 0000"), block.chopped(1), {2, 2}}, // cut block
-        {QByteArray::fromHex("0202 0000"), "", {2, 2}},
-        {"A page of prose, not a map.", block, {'A', ' '}},
-    };
-    for (const auto &[mapBytes, blockBytes, size] : cases) {
-        QVERIFY(writeFile(mapFile, mapBytes) && writeFile(blockFile, blockBytes));
+    void movesContentWithTheCells()
+    {
         Level level;
-        QVERIFY(!level.map.importNxm(mapFile, blockFile));
-        QCOMPARE(level.map.size(), size);
-        QVERIFY(!level.map.importNxm(folder.path(), blockFile));
-        QVERIFY(!level.map.importNxm(folder.filePath("missing.nxm"), blockFile));
-        QVERIFY(!level.map.importNxm(mapFile, folder.path()));
-    }
-    Level level;
-    QVERIFY(!level.map.exportData(folder.path()));
-    level.map.setName("../Cave");
-    QVERIFY(!level.map.exportToDirectory(folder.path()));
-}
+        Map &map = level.map;
+        map.setTile({2, 1}, tile(5));
+        map.placeAnimation(&level.animation, {0, 3});
+        map.placeAnimation(&level.animation, {5, 3});
+        map.animatedBlocks()->add(QRect(QPoint(INT_MIN, 0), QPoint(INT_MIN, 0)), level.animation.id());
+        for (const QPoint at : {QPoint(3, 0), QPoint(8, 0), QPoint(95, 79)})
+            map.addSprite(spriteAt(at.x(), at.y()));
 
-void TestMap::showsObjectsWhereTheyArePlaced()
-{
-    Level level;
-    for (int i = 0; i < 16; ++i)
-        level.tileSet.setTileImage(i, plainImage({8, 8}, i));
-    level.map.setTiles(level.tiles.bounds(), 9, false, false, false, true);
-    level.map.placeAnimation(level.animation(), {4, 3});
-    // the palette entries that a row of the view shows, one pixel a cell; white where nothing is painted
-    const auto row = [&level](int y) {
-        QImage screen(10, 10, QImage::Format_RGB32);
-        screen.fill(Qt::white);
-        QPainter painter(&screen);
-        level.map.paintLayers(painter, {0, 0}, QRect(2, 1, 10, 9), 1, 10);
-        QList<qsizetype> entries;
-        for (int x = 0; x < 10; ++x)
-            entries << level.palette.colourTable().indexOf(screen.pixel(x, y));
-        return entries;
-    };
-    QCOMPARE(row(0), QList<qsizetype>(10, 9));
-    QCOMPARE(row(2), QList<qsizetype>({9, 9, 0, 0, 9, 9, 9, 9, 9, 9}));
-    level.objects.setVisible(true);
-    QCOMPARE(row(2), QList<qsizetype>({9, 9, 0x73, 0x74, 9, 9, 9, 9, 9, 9}));
-    QCOMPARE(row(0), QList<qsizetype>(10, 9)); // blank cells of the object layer hide nothing
-    level.tiles.setVisible(false);
-    QCOMPARE(row(0), QList<qsizetype>(10, 255));
-}
+        for (const auto side : {Quenmora::Begin, Quenmora::End}) {
+            map.insertColumn(side);
+            map.insertRow(side);
+        }
+        QVERIFY(level.tiles.size() == QSize(14, 12) && level.objects.size() == QSize(14, 12));
+        QCOMPARE(map.dataSize(), 336);
+        QVERIFY(level.tiles.cellAt({3, 2}) == tile(5) && level.objects.cellAt({6, 4}) == frameCell(3));
+        QCOMPARE(level.areas(), QList<QRect>({QRect(1, 4, 2, 1), QRect(6, 4, 2, 1)}));
+        QCOMPARE(level.sprites(), QList<QPoint>({QPoint(11, 8), QPoint(16, 8), QPoint(103, 87)}));
+
+        for (int i = 0; i < 2; ++i)
+            map.removeColumn(Quenmora::Begin);
+        QCOMPARE(level.areas(), QList<QRect>({QRect(4, 4, 2, 1)}));
+        QCOMPARE(level.objects.cellAt({0, 4}), Cleared); // the part of the first that is still on the map
+        QCOMPARE(level.sprites(), QList<QPoint>({QPoint(0, 8), QPoint(87, 87)}));
+        map.removeColumn(Quenmora::End);
+        map.removeRow(Quenmora::Begin);
+        map.removeRow(Quenmora::End);
+        QCOMPARE(level.sprites(), QList<QPoint>({QPoint(0, 0), QPoint(87, 79)}));
+        map.removeColumn(Quenmora::End);
+        QCOMPARE(level.sprites(), QList<QPoint>({QPoint(0, 0)}));
+
+        SignalLog log(map);
+        map.resize({20, 5}, Qt::AlignRight | Qt::AlignTop);
+        QCOMPARE(log.take(), QStringList("resized Map"));
+        QVERIFY(level.tiles.size() == QSize(20, 5) && level.objects.size() == QSize(20, 5));
+        QCOMPARE(level.tiles.cellAt({11, 1}), tile(5));
+        QCOMPARE(level.sprites(), QList<QPoint>({QPoint(80, 0)}));
+    }
+
+    void followsItsTileSet()
+    {
+        Level level;
+        const auto indices = [&level] {
+            QList<int> result{level.objects.cellAt({0, 0}).index};
+            for (int x = 0; x < 3; ++x)
+                result << level.tiles.cellAt({x, 0}).index;
+            return result;
+        };
+        for (int i = 0; i < 3; ++i)
+            level.map.setTile({i, 0}, tile(4 + i));
+        level.objects.setCell({0, 0}, tile(6));
+        level.tileSet.deleteTile(5);
+        QCOMPARE(indices(), QList<int>({5, 4, 0, 5})); // cells of the deleted tile show tile 0
+        level.map.setTileSet(&level.tileSet); // once more: it must not count twice
+        level.tileSet.insertTile(0);
+        QCOMPARE(indices(), QList<int>({6, 5, 1, 6}));
+        level.tileSet.setTileOffset(5, 9);
+        level.map.refreshOffsets();
+        QCOMPARE(level.tiles.cellAt({0, 0}).offset, 9);
+        TileSet other(1);
+        level.map.setTileSet(&other);
+        level.tileSet.deleteTile(0);
+        QCOMPARE(indices(), QList<int>({6, 5, 1, 6}));
+    }
+
+    void placesAnimations()
+    {
+        Level level;
+        Map &map = level.map;
+        const QRect area(4, 3, 2, 1);
+        map.setTiles(level.tiles.bounds(), 9, false, false, false, true);
+        map.placeAnimation(&level.animation, {11, 3}); // half of it over the edge
+        map.placeAnimation(&level.animation, {4, 3});
+        QCOMPARE(level.areas(), QList<QRect>({QRect(11, 3, 2, 1), area}));
+        QCOMPARE(map.animatedBlocks()->animationIdAt(area), level.animation.id());
+        QVERIFY(level.tiles.cellAt({5, 3}) == Cleared && level.tiles.cellAt({6, 3}) == tile(9));
+        QVERIFY(level.objects.cellAt({4, 3}) == frameCell(3) && level.objects.cellAt({5, 3}) == frameCell(4));
+        QVERIFY(map.stampFrame(level.animation, 1, {4, 3}));
+        for (const int same : {1, 2, -1}) // the frame that it shows already, and two that are not there
+            QVERIFY(!map.stampFrame(level.animation, same, {4, 3}));
+        QCOMPARE(level.objects.cellAt({5, 3}), frameCell(6));
+        QVERIFY(!map.removeAnimationAt(QRect(4, 3, 1, 1)));
+        QVERIFY(map.removeAnimationAt(area) && level.areas().size() == 1);
+        QVERIFY(level.tiles.cellAt({5, 3}) == Blank && level.objects.cellAt({5, 3}) == Cleared);
+        const TileAnimation empty; // without frames
+        map.placeAnimation(nullptr, {0, 0});
+        map.placeAnimation(&empty, {0, 0});
+        QCOMPARE(level.objects.cellAt({0, 0}), Blank);
+
+        map.animatedBlocks()->add(QRect(2, 2, 2, 1), level.animation.id());
+        map.animatedBlocks()->add(QRect(6, 2, 2, 1), QUuid::createUuid()); // no such animation
+        map.animatedBlocks()->add(QRect(QPoint(INT_MAX, 3), QPoint(INT_MAX, 3)), level.animation.id());
+        map.restampAnimations({level.project.createBlockList("Other", {}), nullptr, level.project.blockSets().first()});
+        QVERIFY(level.objects.cellAt({3, 2}) == frameCell(4) && level.tiles.cellAt({3, 2}) == Cleared);
+        QVERIFY(level.objects.cellAt({6, 2}) == Blank && level.tiles.cellAt({6, 2}) == Cleared);
+    }
+
+    void keepsSpritesOnTheirPictures()
+    {
+        const QUuid bank = QUuid::createUuid();
+        const std::pair<std::function<void(Map &)>, QList<int>> changes[] = {
+            {[&](Map &map) { map.onSpriteMoved(bank, 4, 1); }, {-1, 0, 2, 3, 4, 1, 5, 4, 4}},
+            {[&](Map &map) { map.onSpriteMoved(bank, 1, 4); }, {-1, 0, 4, 1, 2, 3, 5, 4, 4}},
+            {[&](Map &map) { map.onSpriteMoved(bank, 2, 2); }, {-1, 0, 1, 2, 3, 4, 5, 4, 4}},
+            {[&](Map &map) { map.onSpriteDeleted(bank, 4); }, {-1, 0, 1, 2, 3, 4, 4, 4}},
+            {[&](Map &map) { map.onSpriteDeleted(bank, -1); }, {-1, 0, 1, 2, 3, 4, 5, 4, 4}},
+            {[&](Map &map) { QVERIFY(!map.setSprite(9, {}) && !map.removeSprite(9)); }, {-1, 0, 1, 2, 3, 4, 5, 4, 4}}};
+        for (const auto &[change, expected] : changes) {
+            Map map;
+            for (int i = -1; i < 6; ++i)
+                map.addSprite({.bank = bank, .sprite = i});
+            map.addSprite({.bank = bank, .animation = QUuid::createUuid(), .sprite = 4});
+            map.addSprite({.bank = QUuid::createUuid(), .sprite = 4});
+            change(map);
+            QList<int> numbers;
+            for (const Map::PlacedSprite &sprite : map.sprites())
+                numbers << sprite.sprite;
+            QCOMPARE(numbers, expected);
+        }
+    }
+
+    void playsPlacedAnimations()
+    {
+        // start frame, initial and repeat delay; frames, frame delay, time: the frame shown
+        constexpr int cases[][7] = {
+            {1, 5, 20, 4, 10, 0, 1}, // before the start
+            {1, 5, 20, 4, 10, 15, 2}, // running
+            {1, 5, 20, 4, 10, 35, 0}, // the last frame before the pause
+            {1, 5, 20, 4, 10, 50, 0}, // in the pause
+            {1, 5, 20, 4, 10, 65, 1}, // the second run
+            {9, 5, 0, 4, 10, 0, 3}, // starting behind the last frame
+            {-9, 0, -9, 4, 10, 45, 0}, // no pause shorter than none
+            {1, 5, 20, 4, 0, 500, 1}, // standing still
+            {1, 5, 20, 0, 10, 15, 0}, // no frames
+            {0, 0, INT_MAX, INT_MAX, INT_MAX, INT_MAX, 1},
+        };
+        for (const auto &[start, initial, repeat, frames, delay, time, shown] : cases) {
+            const Map::PlacedSprite sprite{.startFrame = start, .initialDelay = initial, .repeatDelay = repeat};
+            QCOMPARE(sprite.currentFrame(frames, delay, time), shown);
+        }
+    }
+
+    void restoresSnapshots()
+    {
+        Level level;
+        level.map.setTile({1, 1}, tile(2));
+        level.map.addSprite(spriteAt(8, 8));
+        level.map.placeAnimation(&level.animation, {4, 3});
+        const Map::Snapshot before = level.map.snapshot();
+        level.map.insertRow(Quenmora::Begin);
+        level.map.removeAnimationAt(QRect(4, 4, 2, 1));
+        level.map.removeSprite(0);
+        const Map::Snapshot after = level.map.snapshot();
+        QVERIFY(!(after == before));
+        SignalLog log(level.map, level.tiles, level.objects);
+        level.map.restore(before);
+        QCOMPARE(log.take(), QStringList({"tilesChanged", "tilesChanged", "restored"}));
+        QVERIFY(level.map.snapshot() == before);
+        QVERIFY(level.areas() == QList<QRect>({QRect(4, 3, 2, 1)}) && level.sprites().size() == 1);
+        level.map.restore(after);
+        QVERIFY(level.map.snapshot() == after);
+    }
+
+    void importsOddTileDataSets()
+    {
+        // three by three cells: the blocks at the right and at the bottom are cut
+        m_path("level.nxm",
+               QByteArray::fromHex("0303 0100 0000") + QByteArray(252, '\x55') + QByteArray::fromHex("0000 0100"));
+        m_path("level.nxb", QByteArray::fromHex("0100 0200 0300 0400 0500 0600 ffff 0002 77"));
+        Level level;
+        level.map.addSprite(spriteAt(80, 0));
+        SignalLog log(level.map);
+        QVERIFY(level.map.importNxm(m_path("level.nxm"), m_path("level.nxb")));
+        QCOMPARE(log.take(), QStringList("resized Map"));
+        QVERIFY(level.tiles.size() == QSize(3, 3) && level.objects.size() == QSize(3, 3) && level.sprites().isEmpty());
+        const int expected[] = {5, 6, 1, -1, 512, 3, 1, 2, 5};
+        for (int i = 0; i < 9; ++i)
+            QCOMPARE(level.tiles.cellAt({i % 3, i / 3}), tile(expected[i]));
+        QVERIFY(!level.tiles.toImage(level.tiles.bounds()).isNull()); // tiles -1 and 512 do not exist
+    }
+
+    void refusesDamagedTileDataSets()
+    {
+        const QByteArray block(8, '\1');
+        const std::tuple<QByteArray, QByteArray, QSize> cases[] = {
+            // map, blocks, size afterwards
+            {"\2", block, {12, 10}},
+            {QByteArray::fromHex("0002 0000"), block, {12, 10}}, // no cells
+            {QByteArray::fromHex("0200 0000"), block, {12, 10}},
+            {QByteArray::fromHex("0202 00"), block, {2, 2}}, // half a block number
+            {QByteArray::fromHex("0204 0000") + QByteArray(254, '\0'), block, {2, 4}}, // no second row
+            {QByteArray::fromHex("0202 0100"), block, {2, 2}}, // block behind the data
+            {QByteArray::fromHex("0202 ffff"), block.repeated(4), {2, 2}},
+            {QByteArray::fromHex("0202 0000"), block.chopped(1), {2, 2}}, // cut block
+        };
+        for (const auto &[mapBytes, blockBytes, size] : cases) {
+            Level level;
+            QVERIFY(!level.map.importNxm(m_path("level.nxm", mapBytes), m_path("level.nxb", blockBytes)));
+            QCOMPARE(level.map.size(), size);
+            for (const QString &bad : {m_path(), m_path("missing.nxm")})
+                QVERIFY(!level.map.importNxm(bad, m_path("level.nxb"))
+                        && !level.map.importNxm(m_path("level.nxm"), bad));
+        }
+        Level level;
+        QVERIFY(!level.map.exportData(m_path()));
+        level.map.setName("../Cave");
+        QVERIFY(!level.map.exportToDirectory(m_path()));
+    }
+
+    void showsObjectsWhereTheyArePlaced()
+    {
+        Level level;
+        for (int i = 0; i < 16; ++i)
+            level.tileSet.setTileImage(i, plainImage({8, 8}, i));
+        level.map.setTiles(level.tiles.bounds(), 9, false, false, false, true);
+        level.map.placeAnimation(&level.animation, {4, 3});
+        // the palette entries that a row of the view shows, one pixel a cell; white where nothing is painted
+        const auto row = [&level](int y) {
+            QImage screen(10, 10, QImage::Format_RGB32);
+            screen.fill(Qt::white);
+            QPainter painter(&screen);
+            level.map.paintLayers(painter, {0, 0}, QRect(2, 1, 10, 9), 1, 10);
+            QList<qsizetype> entries;
+            for (int x = 0; x < 10; ++x)
+                entries << level.palette.colourTable().indexOf(screen.pixel(x, y));
+            return entries;
+        };
+        QCOMPARE(row(0), QList<qsizetype>(10, 9));
+        QCOMPARE(row(2), QList<qsizetype>({9, 9, 0, 0, 9, 9, 9, 9, 9, 9}));
+        level.objects.setVisible(true);
+        QCOMPARE(row(2), QList<qsizetype>({9, 9, 0x73, 0x74, 9, 9, 9, 9, 9, 9}));
+        QCOMPARE(row(0), QList<qsizetype>(10, 9)); // blank cells of the object layer hide nothing
+        level.tiles.setVisible(false);
+        QCOMPARE(row(0), QList<qsizetype>(10, 255));
+    }
+};
 
 QUENMORA_TEST_MAIN(TestMap)
 #include "tst_map.moc"

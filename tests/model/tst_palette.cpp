@@ -2,7 +2,6 @@
 #include "support/modeltools.h"
 #include "support/testmain.h"
 
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <utility>
@@ -12,152 +11,114 @@ class TestPalette : public QObject
     Q_OBJECT
 
 private slots:
-    void readsWords();
-    void quantises();
-    void announcesChangesAndEdits();
-    void findsNearest();
-    void writesFiles();
-    void refusesFiles();
-};
-
-void TestPalette::readsWords()
-{
-    Palette palette;
-    QCOMPARE(palette.colours(), QList<QColor>(256, QColor(0, 0, 0)));
-    QCOMPARE(palette.transparencyIndex(), -1);
-    const std::tuple<int, QColor, bool> words[] = {
-        {0xe381, QColor(255, 0, 255), true},
-        {0x2901, QColor(37, 73, 110), false}, // levels 1, 2, 3
-        {0x9700, QColor(146, 183, 219), false}, // levels 4, 5, 6
-        {0x007e, QColor(0, 0, 0), false}, // bits that mean nothing
-    };
-    for (const auto &[word, colour, priority] : words) {
-        palette.setTransparencyIndex(-1);
-        palette.storeRawColour(7, quint16(word));
-        QCOMPARE(palette.rawColour(7), quint16(word));
-        QCOMPARE(palette.colour(7), colour);
-        QCOMPARE(palette.priority(7), priority);
-        palette.setTransparencyIndex(7);
-        QCOMPARE(palette.colours().at(7).rgba(), colour.rgb() & 0xffffff);
-        QCOMPARE(palette.colourTable().at(7), colour.rgb());
-    }
-}
-
-void TestPalette::quantises()
-{
-    // both sides of every threshold between levels, then of the last steps of the snap grid
-    QList<std::tuple<int, int, int>> cases{{0, 0, 0},     {8, 0, 0},     {9, 16, 0},   {219, 224, 7},
-                                           {247, 240, 7}, {248, 255, 7}, {255, 255, 7}};
-    for (int level = 0; level < 7; ++level) {
-        const int last = 24 + 32 * level;
-        cases << std::tuple(last, last - 8, level) << std::tuple(last + 1, last + 8, level + 1);
-    }
-    for (const auto &[component, snapped, level] : std::as_const(cases)) {
-        QCOMPARE(Palette::snapColour(QColor(component, 0, 255, 12)), QColor(snapped, 0, 255));
-        QCOMPARE(Palette::snapColour(QColor(0, component, component)), QColor(0, snapped, snapped));
+    void readsWords()
+    {
         Palette palette;
-        palette.setColour(0, QColor(component, component, component), true);
-        QCOMPARE(palette.rawColour(0), quint16(level << 13 | level << 10 | level >> 1 << 8 | 0x80 | (level & 1)));
+        QCOMPARE(palette.colours(), QList<QColor>(256, QColor(0, 0, 0)));
+        const std::tuple<int, QColor, bool> words[] = {
+            {0xe381, QColor(255, 0, 255), true},
+            {0x2901, QColor(37, 73, 110), false}, // levels 1, 2, 3
+            {0x9700, QColor(146, 183, 219), false}, // levels 4, 5, 6
+            {0x007e, QColor(0, 0, 0), false}, // bits that mean nothing
+        };
+        for (const auto &[word, colour, priority] : words) {
+            palette.setTransparencyIndex(-1);
+            palette.storeRawColour(7, quint16(word));
+            QVERIFY(palette.colour(7) == colour && palette.priority(7) == priority);
+            palette.setTransparencyIndex(7);
+            QCOMPARE(palette.colours().at(7).rgba(), colour.rgb() & 0xffffff);
+            QCOMPARE(palette.colourTable().at(7), colour.rgb());
+        }
     }
-}
 
-void TestPalette::announcesChangesAndEdits()
-{
-    Palette palette;
-    SignalLog log;
-    log.listen(palette, &Palette::colourChanged, "changed");
-    log.listen(palette, &Palette::colourEdited, "edited");
-    log.listen(palette, &Palette::nameChanged, "named");
-    palette.setName("untitled");
-    palette.loadStandardNext();
-    palette.copyColours(palette);
-    QCOMPARE(log.take(), QStringList());
-    palette.setName("cave");
-    QCOMPARE(log.take(), QStringList("named cave"));
-
-    // the signal carries the snapped colour, not the expanded one (219 would be 255)
-    palette.setColour(3, QColor(219, 219, 219, 9), true);
-    palette.setColour(3, QColor(255, 255, 255), true);
-    QCOMPARE(log.take(), QStringList({"changed 3 #ffe0e0e0 1", "edited 3 0301 ff81"}));
-
-    palette.setTransparencyIndex(5);
-    palette.setRawColour(5, 0xe0fe);
-    palette.setRawColour(5, 0xe0fe);
-    QCOMPARE(log.take(), QStringList("changed 5 #00ff0000 1"));
-    QCOMPARE(palette.rawColour(5), 0xe0fe);
-
-    for (int i = 2; i < 256; ++i)
-        palette.storeRawColour(i, 0x1c00);
-    palette.fill(QColor(0, 255, 0), false);
-    palette.fill(QColor(0, 255, 0), false);
-    QCOMPARE(
-        log.take(),
-        QStringList({"changed 0 #ff00ff00 0", "edited 0 0000 1c00", "changed 1 #ff00ff00 0", "edited 1 0101 1c00"}));
-}
-
-void TestPalette::findsNearest()
-{
-    Palette palette;
-    for (const int white : {5, 9, 200})
-        palette.storeRawColour(white, 0xff01);
-    palette.storeRawColour(2, 0x2000); // red 37
-    palette.storeRawColour(20, 0x4000); // red 73
-    QCOMPARE(palette.nearestIndex(QColor(255, 255, 255)), 5);
-    QCOMPARE(palette.nearestIndex(QColor(250, 240, 251)), 5);
-    QCOMPARE(palette.nearestIndex(QColor(55, 0, 0)), 2); // halfway between 37 and 73
-    QCOMPARE(palette.nearestIndex(QColor(56, 0, 0)), 20);
-
-    // an opaque colour never equals the transparent entry, which still wins by distance
-    palette.setTransparencyIndex(5);
-    QCOMPARE(palette.nearestIndex(QColor(255, 255, 255)), 9);
-    QCOMPARE(palette.nearestIndex(QColor(250, 240, 251)), 5);
-    QCOMPARE(palette.nearestIndex(QColor(255, 255, 255, 0)), 5);
-}
-
-void TestPalette::writesFiles()
-{
-    const QTemporaryDir folder;
-    Palette palette;
-    palette.loadStandardNext();
-    palette.storeRawColour(1, 0xe3ff); // bits that mean nothing are kept
-    const QString fileName = folder.filePath("A.NPL");
-    QVERIFY(writeFile(fileName, QByteArray(9999, 'x')));
-    QVERIFY(palette.exportData(fileName));
-    const QByteArray bytes = readFile(fileName);
-    QCOMPARE(bytes.left(10).toHex(), "0000e3ff020103010400");
-    QCOMPARE(bytes.mid(510), QByteArray("\xff\x01\x00", 3));
-    Palette read;
-    SignalLog log;
-    log.listen(read, &Palette::colourChanged, "changed");
-    QVERIFY(read.importData(fileName));
-    QCOMPARE(log.take(), QStringList());
-    for (int i = 0; i < 256; ++i)
-        QCOMPARE(read.rawColour(i), palette.rawColour(i));
-
-    QVERIFY(!palette.exportData(folder.path()));
-    QVERIFY(!palette.exportData(folder.filePath("none/a.pal")));
-    if (QFile::exists("/dev/full")) // a full disk shows only when the bytes leave the buffer
-        QVERIFY(!palette.exportData("/dev/full"));
-    palette.setName("Level 1.npl");
-    QVERIFY(palette.exportToDirectory(folder.path()));
-    QCOMPARE(readFile(folder.filePath("Level 1.npl_palette.bin")).size(), 512);
-    palette.setName("../out");
-    QVERIFY(!palette.exportToDirectory(folder.path()));
-}
-
-void TestPalette::refusesFiles()
-{
-    const QTemporaryDir folder;
-    Palette palette;
-    palette.loadStandardNext();
-    for (const auto &[name, size] :
-         {std::pair("a.pal", 0), {"a.pal", 511}, {"a.pal", 513}, {"a.npl", 512}, {"a.npl", 514}}) {
-        QVERIFY(writeFile(folder.filePath(name), QByteArray(size, 'x')));
-        QVERIFY(!palette.importData(folder.filePath(name)));
+    void quantises()
+    {
+        // both sides of every threshold between levels, then of the last steps of the snap grid
+        QList<std::tuple<int, int, int>> cases{{8, 0, 0}, {9, 16, 0}, {219, 224, 7}, {247, 240, 7}, {248, 255, 7}};
+        for (int level = 0; level < 7; ++level) {
+            const int last = 24 + 32 * level;
+            cases << std::tuple(last, last - 8, level) << std::tuple(last + 1, last + 8, level + 1);
+        }
+        for (const auto &[component, snapped, level] : std::as_const(cases)) {
+            QCOMPARE(Palette::snapColour(QColor(component, 0, 255, 12)), QColor(snapped, 0, 255));
+            QCOMPARE(Palette::snapColour(QColor(0, component, component)), QColor(0, snapped, snapped));
+            Palette palette;
+            palette.setColour(0, QColor(component, component, component), true);
+            QCOMPARE(palette.rawColour(0), quint16(level << 13 | level << 10 | level >> 1 << 8 | 0x80 | (level & 1)));
+        }
     }
-    QVERIFY(!palette.importData(folder.path()) && !palette.importData(folder.filePath("missing.pal")));
-    QVERIFY(palette.rawColour(0) == 0x0000 && palette.rawColour(255) == 0xff01);
-}
+
+    void announcesChangesAndEdits()
+    {
+        Palette palette;
+        SignalLog log(palette);
+        palette.setName("untitled");
+        palette.loadStandardNext();
+        palette.setName("cave");
+        QCOMPARE(log.take(), QStringList("nameChanged cave"));
+        // the signal carries the snapped colour, not the expanded one (219 would be 255)
+        palette.setColour(3, QColor(219, 219, 219, 9), true);
+        palette.setColour(3, QColor(255, 255, 255), true);
+        QCOMPARE(log.take(), QStringList({"colourChanged 3 #ffe0e0e0 true", "colourEdited 3 0301 ff81"}));
+        palette.setTransparencyIndex(5);
+        palette.setRawColour(5, 0xe0fe);
+        palette.setRawColour(5, 0xe0fe);
+        QCOMPARE(log.take(), QStringList("colourChanged 5 #00ff0000 true"));
+        QCOMPARE(palette.rawColour(5), 0xe0fe);
+        for (int i = 2; i < 256; ++i)
+            palette.storeRawColour(i, 0x1c00);
+        palette.fill(QColor(0, 255, 0), false);
+        palette.fill(QColor(0, 255, 0), false);
+        QCOMPARE(log.take(),
+                 QStringList({"colourChanged 0 #ff00ff00 false", "colourEdited 0 0000 1c00",
+                              "colourChanged 1 #ff00ff00 false", "colourEdited 1 0101 1c00"}));
+    }
+
+    void findsNearest()
+    {
+        Palette palette;
+        for (const int white : {5, 9, 200})
+            palette.storeRawColour(white, 0xff01);
+        palette.storeRawColour(2, 0x2000); // red 37
+        palette.storeRawColour(20, 0x4000); // red 73
+        QCOMPARE(palette.nearestIndex(QColor(255, 255, 255)), 5);
+        QCOMPARE(palette.nearestIndex(QColor(55, 0, 0)), 2); // halfway between 37 and 73
+        QCOMPARE(palette.nearestIndex(QColor(56, 0, 0)), 20);
+        // an opaque colour never equals the transparent entry, which still wins by distance
+        palette.setTransparencyIndex(5);
+        QCOMPARE(palette.nearestIndex(QColor(255, 255, 255)), 9);
+        QCOMPARE(palette.nearestIndex(QColor(250, 240, 251)), 5);
+        QCOMPARE(palette.nearestIndex(QColor(255, 255, 255, 0)), 5);
+    }
+
+    void keepsItsFiles()
+    {
+        const TemporaryFolder path;
+        Palette palette;
+        palette.loadStandardNext();
+        palette.storeRawColour(1, 0xe3ff); // bits that mean nothing are kept
+        QVERIFY(palette.exportData(path("A.NPL", QByteArray(9999, 'x'))));
+        const QByteArray bytes = readFile(path("A.NPL"));
+        QCOMPARE(bytes.left(10).toHex(), "0000e3ff020103010400");
+        QCOMPARE(bytes.mid(510), QByteArray("\xff\x01\x00", 3));
+        Palette read;
+        SignalLog log(read);
+        QVERIFY(read.importData(path("A.NPL")));
+        QCOMPARE(log.take(), QStringList());
+        for (const auto &[name, size] :
+             {std::pair("a.pal", 0), {"a.pal", 511}, {"a.pal", 513}, {"a.npl", 512}, {"a.npl", 514}})
+            QVERIFY(!read.importData(path(name, QByteArray(size, 'x'))));
+        QVERIFY(!read.importData(path()) && !read.importData(path("missing.pal")));
+        for (int i = 0; i < 256; ++i)
+            QCOMPARE(read.rawColour(i), palette.rawColour(i));
+
+        QVERIFY(!palette.exportData(path()) && !palette.exportData(path("none/a.pal")));
+        if (QFile::exists("/dev/full")) // a full disk shows only when the bytes leave the buffer
+            QVERIFY(!palette.exportData("/dev/full"));
+        palette.setName("../out");
+        QVERIFY(!palette.exportToDirectory(path()));
+    }
+};
 
 QUENMORA_TEST_MAIN(TestPalette)
 #include "tst_palette.moc"

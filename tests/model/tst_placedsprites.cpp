@@ -14,14 +14,6 @@ class TestPlacedSprites : public QObject
 {
     Q_OBJECT
 
-private slots:
-    void initTestCase();
-    void coversWhatTheBankHas();
-    void ignoresWhatIsNotThere();
-    void paintsInOrderAndInside();
-    void playsAnimations();
-
-private:
     [[nodiscard]] Map::PlacedSprite spriteAt(int x, int y, int index) const
     {
         return {m_bank.id(), {}, index, x, y, false, false, false, 0, 0, 0, 0, {}};
@@ -30,92 +22,93 @@ private:
     Palette m_palette;
     SpriteBank m_bank{Quenmora::EightBit};
     const PlacedSprites::Banks m_banks{nullptr, &m_bank};
-};
 
-void TestPlacedSprites::initTestCase()
-{
-    m_palette.loadStandardNext();
-    m_bank.setPalette(&m_palette);
-    for (int i = 1; i < 4; ++i) {
-        m_bank.addSprite();
-        m_bank.setImage(i, plainImage({16, 16}, i));
-    }
-}
-
-void TestPlacedSprites::coversWhatTheBankHas()
-{
-    const Map::PlacedSprite single = spriteAt(5, 6, 3);
-    QCOMPARE(PlacedSprites::area(single, m_banks), QRect(5, 6, 16, 16));
-
-    const QPointer<SpriteAnim> animation = m_bank.newAnimation();
-    animation->setSize({3, 1});
-    Map::PlacedSprite animated = single;
-    animated.animation = animation->id();
-    QCOMPARE(PlacedSprites::area(animated, m_banks), QRect(5, 6, 48, 16));
-    animated.rotate = true;
-    QCOMPARE(PlacedSprites::area(animated, m_banks), QRect(5, 6, 16, 48));
-    QCOMPARE(PlacedSprites::picture(animated, m_banks, 0).size(), QSize(16, 48));
-
-    const QList<Map::PlacedSprite> sprites{single, animated};
-    QCOMPARE(PlacedSprites::indexAt({6, 7}, sprites, m_banks), 1);
-    QCOMPARE(PlacedSprites::indexAt({5, 54}, sprites, m_banks), -1);
-    QCOMPARE(PlacedSprites::indexAt({5, 21}, {single}, m_banks), 0);
-}
-
-void TestPlacedSprites::ignoresWhatIsNotThere()
-{
-    Map::PlacedSprite lostBank = spriteAt(0, 0, 0);
-    lostBank.bank = QUuid::createUuid();
-    Map::PlacedSprite lostAnimation = spriteAt(0, 0, 0);
-    lostAnimation.animation = QUuid::createUuid();
-    const QList<Map::PlacedSprite> lost{spriteAt(0, 0, 4), spriteAt(0, 0, -1), spriteAt(INT_MAX, INT_MIN, 0), lostBank,
-                                        lostAnimation};
-    QImage screen(40, 40, QImage::Format_RGB32);
-    screen.fill(Qt::white);
-    const QImage before = screen;
+private slots:
+    void initTestCase()
     {
-        QPainter painter(&screen);
-        PlacedSprites::paint(painter, {0, 0}, QRect(0, 0, 5, 5), 8, lost, m_banks, 0);
+        m_palette.loadStandardNext();
+        m_bank.setPalette(&m_palette);
+        for (int i = 1; i < 4; ++i) {
+            m_bank.addSprite();
+            m_bank.setImage(i, plainImage({16, 16}, i));
+        }
     }
-    QCOMPARE(screen, before);
-    for (const Map::PlacedSprite &sprite : lost)
-        QVERIFY(PlacedSprites::area(sprite, m_banks).isEmpty());
-    QCOMPARE(PlacedSprites::indexAt({0, 0}, lost, m_banks), -1);
-}
 
-void TestPlacedSprites::paintsInOrderAndInside()
-{
-    // the view shows cells 2 to 5 and 1 to 3 at twice their size, from (10, 20) on
-    QImage screen(100, 100, QImage::Format_RGB32);
-    screen.fill(Qt::white);
-    QPainter painter(&screen);
-    PlacedSprites::paint(painter, {10, 20}, QRect(2, 1, 4, 3), 16,
-                         {spriteAt(20, 12, 1), spriteAt(24, 12, 2), spriteAt(44, 20, 3), spriteAt(48, 0, 1)}, m_banks,
-                         0);
-    painter.end();
-    const std::tuple<int, int, int> pixels[] = {
-        {17, 28, -1}, {18, 28, 1}, {25, 28, 1}, // beside the first sprite, and its edges
-        {26, 28, 2},  {57, 59, 2}, {58, 59, -1}, // the second one lies above it
-        {66, 44, 3},  {73, 67, 3}, {74, 50, -1}, {73, 68, -1}, // cut off at the edges of the view
-    };
-    for (const auto &[x, y, index] : pixels)
-        QCOMPARE(screen.pixel(x, y), index < 0 ? qRgb(255, 255, 255) : m_palette.colourTable().at(index));
-}
+    void coversWhatTheBankHas()
+    {
+        const Map::PlacedSprite single = spriteAt(5, 6, 3);
+        QCOMPARE(PlacedSprites::area(single, m_banks), QRect(5, 6, 16, 16));
 
-void TestPlacedSprites::playsAnimations()
-{
-    const QPointer<SpriteAnim> animation = m_bank.newAnimation();
-    animation->addFrame();
-    animation->frame(0)->setIndex(0, 0, 1);
-    animation->frame(1)->setIndex(0, 0, 2);
-    animation->setDelay(5);
-    Map::PlacedSprite sprite = spriteAt(0, 0, 0);
-    sprite.animation = animation->id();
-    for (const auto &[time, index] : {std::pair(4, 1), {5, 2}, {10, 1}})
-        QCOMPARE(PlacedSprites::picture(sprite, m_banks, time).pixel(8, 8), m_palette.colourTable().at(index));
-    QVERIFY(PlacedSprites::changesBetween(4, 5, sprite, m_banks));
-    QVERIFY(!PlacedSprites::changesBetween(5, 9, sprite, m_banks));
-}
+        const QPointer<SpriteAnim> animation = m_bank.newAnimation();
+        animation->setSize({3, 1});
+        Map::PlacedSprite animated = single;
+        animated.animation = animation->id();
+        QCOMPARE(PlacedSprites::area(animated, m_banks), QRect(5, 6, 48, 16));
+        animated.rotate = true;
+        QCOMPARE(PlacedSprites::area(animated, m_banks), QRect(5, 6, 16, 48));
+        QCOMPARE(PlacedSprites::picture(animated, m_banks, 0).size(), QSize(16, 48));
+
+        const QList<Map::PlacedSprite> sprites{single, animated};
+        QCOMPARE(PlacedSprites::indexAt({6, 7}, sprites, m_banks), 1);
+        QCOMPARE(PlacedSprites::indexAt({5, 54}, sprites, m_banks), -1);
+        QCOMPARE(PlacedSprites::indexAt({5, 21}, {single}, m_banks), 0);
+    }
+
+    void ignoresWhatIsNotThere()
+    {
+        Map::PlacedSprite lostBank = spriteAt(0, 0, 0);
+        lostBank.bank = QUuid::createUuid();
+        Map::PlacedSprite lostAnimation = spriteAt(0, 0, 0);
+        lostAnimation.animation = QUuid::createUuid();
+        const QList<Map::PlacedSprite> lost{spriteAt(0, 0, 4), spriteAt(0, 0, -1), spriteAt(INT_MAX, INT_MIN, 0),
+                                            lostBank, lostAnimation};
+        QImage screen(40, 40, QImage::Format_RGB32);
+        screen.fill(Qt::white);
+        const QImage before = screen;
+        {
+            QPainter painter(&screen);
+            PlacedSprites::paint(painter, {0, 0}, QRect(0, 0, 5, 5), 8, lost, m_banks, 0);
+        }
+        QCOMPARE(screen, before);
+        for (const Map::PlacedSprite &sprite : lost)
+            QVERIFY(PlacedSprites::area(sprite, m_banks).isEmpty());
+        QCOMPARE(PlacedSprites::indexAt({0, 0}, lost, m_banks), -1);
+    }
+
+    void paintsInOrderAndInside()
+    {
+        // the view shows cells 2 to 5 and 1 to 3 at twice their size, from (10, 20) on
+        QImage screen(100, 100, QImage::Format_RGB32);
+        screen.fill(Qt::white);
+        QPainter painter(&screen);
+        PlacedSprites::paint(painter, {10, 20}, QRect(2, 1, 4, 3), 16,
+                             {spriteAt(20, 12, 1), spriteAt(24, 12, 2), spriteAt(44, 20, 3), spriteAt(48, 0, 1)},
+                             m_banks, 0);
+        painter.end();
+        const std::tuple<int, int, int> pixels[] = {
+            {17, 28, -1}, {18, 28, 1}, {25, 28, 1}, // beside the first sprite, and its edges
+            {26, 28, 2},  {57, 59, 2}, {58, 59, -1}, // the second one lies above it
+            {66, 44, 3},  {73, 67, 3}, {74, 50, -1}, {73, 68, -1}, // cut off at the edges of the view
+        };
+        for (const auto &[x, y, index] : pixels)
+            QCOMPARE(screen.pixel(x, y), index < 0 ? qRgb(255, 255, 255) : m_palette.colourTable().at(index));
+    }
+
+    void playsAnimations()
+    {
+        const QPointer<SpriteAnim> animation = m_bank.newAnimation();
+        animation->addFrame();
+        animation->frame(0)->setIndex(0, 0, 1);
+        animation->frame(1)->setIndex(0, 0, 2);
+        animation->setDelay(5);
+        Map::PlacedSprite sprite = spriteAt(0, 0, 0);
+        sprite.animation = animation->id();
+        for (const auto &[time, index] : {std::pair(4, 1), {5, 2}, {10, 1}})
+            QCOMPARE(PlacedSprites::picture(sprite, m_banks, time).pixel(8, 8), m_palette.colourTable().at(index));
+        QVERIFY(PlacedSprites::changesBetween(4, 5, sprite, m_banks));
+        QVERIFY(!PlacedSprites::changesBetween(5, 9, sprite, m_banks));
+    }
+};
 
 QUENMORA_TEST_MAIN(TestPlacedSprites)
 #include "tst_placedsprites.moc"
