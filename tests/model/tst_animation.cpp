@@ -14,15 +14,7 @@
 namespace {
 
 using Cell = AnimationFrame::Cell;
-
-void listen(SignalLog &log, Animation &animation)
-{
-    log.listen(animation, &Animation::nameChanged, "name");
-    log.listen(animation, &Animation::sizeChanged, "size");
-    log.listen(animation, &Animation::frameChanged, "frame");
-    log.listen(animation, &Animation::contentChanged, "content");
-    log.listen(animation, &Animation::delayChanged, "delay");
-}
+using Cells = AnimationFrame::Cells;
 
 } // namespace
 
@@ -39,23 +31,21 @@ private slots:
         animation.setSize(QSize(2, 1));
         animation.addFrame();
         const QPointer<AnimationFrame> frame = animation.addFrame();
-        SignalLog log;
-        listen(log, animation);
+        SignalLog log(animation);
         frame->setIndex(0, 1, 300);
         frame->setOffset(0, 1, 7);
         frame->setFlip(0, 1, true);
         frame->setMirror(0, 1, true);
         frame->setRotate(0, 1, true);
-        QVERIFY(frame->cells() == (AnimationFrame::Cells{{Cell{}, Cell{300, 7, true, true, true}}}));
-        QCOMPARE(log.take(), QStringList(5, "frame 1"));
-
+        QVERIFY(frame->cells() == (Cells{{Cell{}, Cell{300, 7, true, true, true}}}));
+        QCOMPARE(log.take(), QStringList(5, "frameChanged 1"));
         for (const auto &[row, column] : {std::pair{-1, 0}, {1, 0}, {0, -1}, {0, 2}}) {
             frame->setIndex(row, column, 9);
             QCOMPARE(frame->cell(row, column), Cell{});
         }
         frame->setCells({{}, {Cell{5}}}); // rows need not be equally long
         frame->setIndex(1, 1, 9);
-        QCOMPARE(log.take(), QStringList("frame 1"));
+        QCOMPARE(log.take(), QStringList("frameChanged 1"));
         QCOMPARE(frame->size(), QSize(0, 2));
     }
 
@@ -65,18 +55,16 @@ private slots:
         animation.setSize(QSize(2, 2));
         const QPointer<AnimationFrame> frame = animation.addFrame();
         frame->setCells({{Cell{1}, Cell{2}}, {Cell{3}, Cell{4}}});
-        SignalLog log;
-        listen(log, animation);
+        SignalLog log(animation);
         animation.setSize(QSize(2, 2));
         animation.setSize(QSize(3, 1));
-        QVERIFY(frame->cells() == (AnimationFrame::Cells{{Cell{1}, Cell{2}, Cell{}}}));
+        QVERIFY(frame->cells() == (Cells{{Cell{1}, Cell{2}, Cell{}}}));
         animation.setWidth(1);
         animation.setHeight(2);
-        QVERIFY(frame->cells() == (AnimationFrame::Cells{{Cell{1}}, {Cell{}}}));
-        QCOMPARE(log.take(), QStringList({"size 3x1", "size 1x1", "size 1x2"}));
+        QVERIFY(frame->cells() == (Cells{{Cell{1}}, {Cell{}}}));
+        QCOMPARE(log.take(), QStringList({"sizeChanged 3x1", "sizeChanged 1x1", "sizeChanged 1x2"}));
         animation.setSize(QSize(2'000'000'000, -5)); // as a damaged project might ask
         QCOMPARE(animation.size(), QSize(Animation::MaximumSide, 0));
-        QCOMPARE(frame->size(), QSize(0, 0));
     }
 
     void keepsAtLeastOneFrame()
@@ -86,16 +74,14 @@ private slots:
         const QPointer<AnimationFrame> second = animation.addFrame();
         QVERIFY(animation.frame(7) == first && animation.frame(-1) == first);
         second->setIndex(0, 0, 4);
-        SignalLog log;
-        listen(log, animation);
+        SignalLog log(animation);
         animation.deleteFrame(2);
         animation.deleteFrame(-1);
         animation.deleteFrame(0);
         QVERIFY(!first && animation.frame(0) == second);
         animation.deleteFrame(0);
-        QCOMPARE(log.take(), QStringList({"frame 0", "content", "frame 0", "content"}));
-        QVERIFY(!second && animation.frameCount() == 1);
-        QCOMPARE(animation.frame(0)->cell(0, 0), Cell{});
+        QCOMPARE(log.take(), QStringList({"frameChanged 0", "contentChanged", "frameChanged 0", "contentChanged"}));
+        QVERIFY(!second && animation.frameCount() == 1 && animation.frame(0)->cell(0, 0) == Cell{});
     }
 
     void copies()
@@ -110,50 +96,43 @@ private slots:
         source.copyTo(target);
         QVERIFY(target.name() == "Run (copy)" && target.delay() == 4);
         QVERIFY(target.frame(0)->id() != source.frame(0)->id());
-        SignalLog log;
-        listen(log, target);
+        SignalLog log(target);
         target.copyFrom(source, true);
         target.copyFrom(target, false); // from itself: nothing to do, and nothing lost
         QVERIFY(target.state() == source.state());
         target.frame(1)->setIndex(0, 0, 3);
-        QCOMPARE(log.take(), QStringList("frame 1")); // copied frames report to their new animation
-
-        TileSet tiles(4);
-        TileAnimation door;
-        door.setName("Door");
-        door.setDelay(3);
-        door.setMapObjectType(MapObjectType::HorizontalPlatform);
-        door.setTileSet(&tiles);
-        door.addFrame()->setIndex(0, 0, 2);
-        const std::unique_ptr<TileAnimation> copy(door.clone());
-        QVERIFY(copy->name() == "Door (Copy)" && copy->id() != door.id() && copy->tileSet() == &tiles);
-        QVERIFY(copy->state() == door.state()); // frame ids included
+        QCOMPARE(log.take(), QStringList("frameChanged 1")); // copied frames report to their new animation
     }
 
     void restoresStates()
     {
-        TileAnimation animation;
-        animation.setSize(QSize(2, 1));
-        animation.setMapObjectType(MapObjectType::HorizontalPlatform);
-        animation.setDelay(2);
-        animation.addFrame()->setIndex(0, 1, 6);
-        const TileAnimation::State state = animation.state();
-        SignalLog log;
-        listen(log, animation);
-        animation.setMapObjectType(MapObjectType::Normal);
-        animation.setMapObjectType(MapObjectType::Normal);
-        QVERIFY(state != animation.state()); // the type belongs to the state
-        animation.setDelay(5);
-        animation.setDelay(5);
-        animation.addFrame();
-        QCOMPARE(log.take(), QStringList({"content", "delay 5", "delay 5", "content"}));
-        animation.setSize(QSize(1, 3));
+        TileSet tiles(4);
+        TileAnimation door;
+        door.setName("Door");
+        door.setTileSet(&tiles);
+        door.setSize(QSize(2, 1));
+        door.setMapObjectType(MapObjectType::HorizontalPlatform);
+        door.setDelay(2);
+        door.addFrame()->setIndex(0, 1, 6);
+        const TileAnimation::State state = door.state();
+        const std::unique_ptr<TileAnimation> copy(door.clone());
+        QVERIFY(copy->name() == "Door (Copy)" && copy->id() != door.id() && copy->tileSet() == &tiles);
+        QVERIFY(copy->state() == state); // frame ids included
+
+        SignalLog log(door);
+        door.setMapObjectType(MapObjectType::Normal);
+        QVERIFY(state != door.state()); // the type belongs to the state
+        for (int i = 0; i < 2; ++i)
+            door.setDelay(5);
+        door.addFrame();
+        QCOMPARE(log.take(), QStringList({"contentChanged", "delayChanged 5", "delayChanged 5", "contentChanged"}));
+        door.setSize(QSize(1, 3));
         log.take();
-        animation.restore(state);
-        QVERIFY(animation.state() == state);
-        animation.frame(0)->setIndex(0, 0, 1);
-        QCOMPARE(log.take(), QStringList({"size 2x1", "frame 0", "content", "frame 0"}));
-        QVERIFY(state != animation.state());
+        door.restore(state);
+        QVERIFY(door.state() == state);
+        door.frame(0)->setIndex(0, 0, 1);
+        QCOMPARE(log.take(), QStringList({"sizeChanged 2x1", "frameChanged 0", "contentChanged", "frameChanged 0"}));
+        QVERIFY(state != door.state());
     }
 
     void keepsIndexesAndOffsets()
@@ -163,54 +142,52 @@ private slots:
         TileAnimation animation;
         animation.setSize(QSize(4, 1));
         animation.addFrame()->setCells({{Cell{4, 3, true}, Cell{5}, Cell{6}, Cell{0}}});
-        SignalLog log;
-        listen(log, animation);
+        SignalLog log(animation);
         const auto indexes = [&animation] {
-            QList<int> list;
+            QString list;
             for (const Cell &cell : animation.frame(0)->cells().first())
-                list << cell.index;
+                list += QString::number(cell.index);
             return list;
         };
         animation.indexInserted(5);
-        QCOMPARE(indexes(), QList<int>({4, 6, 7, 0}));
+        QCOMPARE(indexes(), "4670");
         animation.indexDeleted(6);
-        QCOMPARE(indexes(), QList<int>({4, 0, 6, 0}));
+        QCOMPARE(indexes(), "4060");
         animation.swapIndexes(4, 6);
-        QCOMPARE(indexes(), QList<int>({6, 0, 4, 0}));
+        QCOMPARE(indexes(), "6040");
         animation.updateOffsets(); // no tile set yet
         QCOMPARE(log.take(), QStringList());
         animation.setTileSet(&tiles);
         animation.updateOffsets();
         QCOMPARE(animation.frame(0)->cell(0, 0), (Cell{6, 9, true}));
-        QCOMPARE(log.take(), QStringList(4, "frame 0"));
+        QCOMPARE(log.take(), QStringList(4, "frameChanged 0"));
     }
 
     void playsByTheClock()
     {
-        const auto played = [](TileAnimation &animation, const QList<quint64> &ticks) {
+        const auto played = [](TileAnimation &animation, int delay, const QList<quint64> &ticks) {
+            animation.setDelay(delay);
+            while (animation.frameCount() < 3)
+                animation.addFrame();
             QList<int> shown;
             for (const quint64 tick : ticks)
                 shown.append(int(animation.tick(tick)));
             return shown;
         };
         const std::pair<int, QList<int>> delays[] = {
-            {0, {0, -1, 0, -1, -1, -1, -1, -1}}, {1, {0, 1, 1, 2, 0, 1, 2, 0}}, {2, {0, -1, 0, 1, -1, 2, -1, 0}}};
+            {0, {0, -1, 0, -1, -1, -1, -1, -1}}, {2, {0, -1, 0, 1, -1, 2, -1, 0}}, {1, {0, 1, 1, 2, 0, 1, 2, 0}}};
         for (const auto &[delay, shown] : delays) {
             TileAnimation animation;
-            for (int i = 0; i < 3; ++i)
-                animation.addFrame();
-            animation.setDelay(delay);
-            QCOMPARE(played(animation, {0, 1, 1, 2, 3, 4, 5, 6}), shown);
-            if (delay != 1)
-                continue;
-            // frames are deleted while it plays, the current one among them
-            QCOMPARE(played(animation, {7, 8}), QList<int>({1, 2}));
-            animation.deleteFrame(2);
-            QVERIFY(animation.frame(int(animation.tick(8))));
-            QCOMPARE(played(animation, {9, 10}), QList<int>({0, 1}));
-            animation.clearFrames();
-            QCOMPARE(animation.tick(11), 0);
+            QCOMPARE(played(animation, delay, {0, 1, 1, 2, 3, 4, 5, 6}), shown);
         }
+        TileAnimation animation;
+        QCOMPARE(played(animation, 1, {7, 8}), QList<int>({1, 2}));
+        // frames are deleted while it plays, the current one among them
+        animation.deleteFrame(2);
+        QVERIFY(animation.frame(int(animation.tick(8))));
+        QVERIFY(animation.tick(9) == 0 && animation.tick(10) == 1);
+        animation.clearFrames();
+        QCOMPARE(animation.tick(11), 0);
     }
 
     void drawsTileFrames()
@@ -225,12 +202,10 @@ private slots:
         animation.setSize(QSize(3, 1));
         QCOMPARE(qAlpha(animation.frameImage(QSize(8, 8)).pixel(0, 0)), 0);
         animation.addFrame()->setCells({{Cell{1}, Cell{99}, Cell{2}}, {Cell{1}}}); // one names no tile, one lies below
-
         const QImage frame = animation.frameImage(QSize(48, 48));
         QCOMPARE(frame.size(), QSize(48, 16));
         QCOMPARE(frame.pixel(15, 15), qRgb(255, 255, 255));
-        QCOMPARE(frame.pixel(16, 0), qRgba(0, 0, 0, 0));
-        QCOMPARE(frame.pixel(32, 0), qRgb(0, 0, 0));
+        QVERIFY(frame.pixel(16, 0) == qRgba(0, 0, 0, 0) && frame.pixel(32, 0) == qRgb(0, 0, 0));
 
         const QImage preview = animation.preview(QSize(24, 60)); // drawn centred on a square of 24
         QCOMPARE(preview.size(), QSize(24, 24));
@@ -260,11 +235,9 @@ private slots:
         expected.setPixelColor(18, 0, Qt::red);
         for (int i = 0; i < 8; ++i)
             QCOMPARE(animation.frameImage(0, 2, i & 4, i & 2, i & 1), oriented(expected, i & 4, i & 2, i & 1));
-
-        const QImage preview = animation.preview(QSize(64, 64));
+        const QImage preview = animation.preview(QSize(64, 64)); // without palette offset and transparency
         QCOMPARE(preview.size(), QSize(64, 32));
-        QCOMPARE(preview.pixel(37, 1), qRgb(255, 255, 255)); // no palette offset
-        QCOMPARE(preview.pixel(40, 0), qRgb(0, 0, 0)); // and no transparency
+        QVERIFY(preview.pixel(37, 1) == qRgb(255, 255, 255) && preview.pixel(40, 0) == qRgb(0, 0, 0));
         QCOMPARE(qAlpha(preview.pixel(0, 0)), 0);
 
         for (const int outside : {-1, 1})

