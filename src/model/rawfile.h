@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QString>
@@ -20,7 +21,7 @@ namespace RawFile {
 /// of the folder: it gives an empty path, which cannot be opened.
 [[nodiscard]] inline QString pathIn(const QString &folder, const QString &name)
 {
-    return QFileInfo(name).fileName() == name ? folder + QLatin1Char('/') + name : QString();
+    return QFileInfo(name).fileName() == name ? QDir(folder).filePath(name) : QString();
 }
 
 } // namespace RawFile
