@@ -84,19 +84,6 @@ QStringList Project::paletteNames() const
     return names;
 }
 
-bool Project::renamePalette(const QUuid &id, const QString &name)
-{
-    const QPointer<Palette> palette = this->palette(id);
-    if (!palette || name.trimmed().isEmpty())
-        return false;
-    for (const QPointer<Palette> &other : palettes()) {
-        if (other != palette && other->name() == name)
-            return false;
-    }
-    palette->setName(name);
-    return true;
-}
-
 // Registering
 
 void Project::addPalette(const QPointer<Palette> &palette)

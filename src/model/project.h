@@ -153,9 +153,6 @@ public slots:
 
     bool deleteImage(const QUuid &id);
 
-    /// False, and nothing changes, for an unknown id, an empty name, or one that another palette has.
-    bool renamePalette(const QUuid &id, const QString &name);
-
 private:
     /// Keeps the placed sprites of all maps pointing at the right sprites of the bank.
     void followSprites(SpriteBank *bank);

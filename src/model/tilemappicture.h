@@ -24,8 +24,6 @@ public:
 
     explicit TileMapPicture(const TileMap &map) : m_map(map) { }
 
-    [[nodiscard]] const TileCache &tiles() const { return m_tiles; }
-
     /// Binds the tile set that the cells name, and forgets everything that was rendered.
     void bind(const QPointer<TileSet> &tileSet);
     /// The tiles look different: forgets everything that was rendered.
