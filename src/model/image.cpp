@@ -3,26 +3,6 @@
 #include "model/nximage.h"
 #include "model/palette.h"
 
-namespace {
-
-/// Any picture as 8-bit indices.
-QImage indexed(const QImage &picture, const QPointer<Palette> &palette)
-{
-    if (picture.isNull() || picture.format() == QImage::Format_Indexed8)
-        return picture;
-    if (picture.depth() == 1) // indexed already, only packed
-        return picture.convertToFormat(QImage::Format_Indexed8);
-    if (picture.format() == QImage::Format_Grayscale8) { // what PNG makes of indices without a colour table
-        QImage indices = picture;
-        return indices.reinterpretAsFormat(QImage::Format_Indexed8) ? indices : QImage();
-    }
-    NxImage snapped;
-    snapped.setImage(picture);
-    return palette ? snapped.remap(palette) : snapped.toIndexed();
-}
-
-} // namespace
-
 QSize Image::sizeOf(Quenmora::ImageMode mode)
 {
     switch (mode) {
@@ -50,7 +30,7 @@ Image::~Image() = default;
 
 void Image::setImage(const QImage &image)
 {
-    m_image = indexed(image, m_palette);
+    m_image = NxImage::indexed(image, m_palette);
     applyColourTable();
     emit imageChanged();
 }

@@ -36,8 +36,8 @@ public:
 
     /// The picture, 8-bit indexed, with the colour table of the bound palette.
     [[nodiscard]] QImage image() const { return m_image; }
-    /// Replaces the picture. One that is not indexed, as a foreign file may hold it, is mapped onto the
-    /// bound palette, or onto its own colours when none is bound.
+    /// Replaces the picture. One that is not indexed, as a foreign file may hold it, is converted as by
+    /// NxImage::indexed() with the bound palette.
     void setImage(const QImage &image);
 
     [[nodiscard]] QPointer<Palette> palette() const;

@@ -81,9 +81,7 @@ int ImageSlicer::sliceSprites(int size)
 
 void ImageSlicer::slice(int side, const QSize &cells)
 {
-    NxImage snapped;
-    snapped.setImage(m_source);
-    const QImage picture = snapped.toIndexed();
+    const QImage picture = NxImage(m_source).toIndexed();
 
     m_cells = picture.isNull() ? QSize(0, 0) : cells;
     m_colours = picture.colorTable();

@@ -49,7 +49,7 @@ qsizetype nearest(const QList<QRgb> &colours, QRgb colour)
 }
 
 /// A snapped picture as 8-bit indices; indexOf holds the index of each of its colours.
-QImage indexed(const QImage &picture, const Grid<quint8> &indexOf, const QList<QRgb> &colourTable)
+QImage mapped(const QImage &picture, const Grid<quint8> &indexOf, const QList<QRgb> &colourTable)
 {
     QImage result(picture.size(), QImage::Format_Indexed8);
     if (result.isNull())
@@ -68,6 +68,11 @@ QImage indexed(const QImage &picture, const Grid<quint8> &indexOf, const QList<Q
 } // namespace
 
 NxImage::NxImage(QObject *parent) : QObject(parent) { }
+
+NxImage::NxImage(const QImage &image, QObject *parent) : QObject(parent)
+{
+    setImage(image);
+}
 
 bool NxImage::accepts(const QSize &size)
 {
@@ -111,7 +116,7 @@ QImage NxImage::remap(const QPointer<Palette> &palette) const
     Grid<quint8> indexOf{};
     for (const QRgb colour : m_colours)
         indexOf[gridIndex(colour)] = quint8(palette->nearestIndex(QColor::fromRgb(colour)));
-    return indexed(m_image, indexOf, palette->colourTable());
+    return mapped(m_image, indexOf, palette->colourTable());
 }
 
 QImage NxImage::toIndexed() const
@@ -121,5 +126,23 @@ QImage NxImage::toIndexed() const
     for (qsizetype i = 0; i < m_colours.size(); ++i)
         indexOf[gridIndex(m_colours[i])] = quint8(i < TableSize ? i : nearest(table, m_colours[i]));
     table.resize(TableSize);
-    return indexed(m_image, indexOf, table);
+    return mapped(m_image, indexOf, table);
+}
+
+QImage NxImage::indexed(const QImage &picture, const QPointer<Palette> &palette)
+{
+    switch (picture.format()) {
+    case QImage::Format_Invalid:
+    case QImage::Format_Indexed8:
+        return picture;
+    case QImage::Format_Grayscale8: {
+        QImage indices = picture;
+        return indices.reinterpretAsFormat(QImage::Format_Indexed8) ? indices : QImage();
+    }
+    case QImage::Format_Mono:
+    case QImage::Format_MonoLSB:
+        return picture.convertToFormat(QImage::Format_Indexed8);
+    default:
+        return palette ? NxImage(picture).remap(palette) : NxImage(picture).toIndexed();
+    }
 }

@@ -22,6 +22,7 @@ public:
     static constexpr qint64 MaxPixels = 8192 * 8192;
 
     explicit NxImage(QObject *parent = nullptr);
+    explicit NxImage(const QImage &image, QObject *parent = nullptr);
 
     /// Whether a picture of this size is within MaxPixels.
     [[nodiscard]] static bool accepts(const QSize &size);
@@ -42,6 +43,11 @@ public:
     /// The picture as 8-bit indices of its own colours, the colour table padded to 256 with transparent
     /// black. Colours beyond the 256th take the nearest of the first 256, the lowest index among equals.
     [[nodiscard]] QImage toIndexed() const;
+
+    /// Any picture as 8-bit indices, null when there are none. An indexed one is taken as it is, and so are
+    /// bits and greys, which PNG readers hand over where indices were stored without colours; all others are
+    /// mapped onto the palette, or onto their own colours without one.
+    [[nodiscard]] static QImage indexed(const QImage &picture, const QPointer<Palette> &palette);
 
 private:
     QImage m_image;

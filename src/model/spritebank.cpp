@@ -53,38 +53,10 @@ void SpriteBank::applyColours()
 
 // Pixels
 
-/// The picture as 8-bit indices. Sprites are stored as indexed pictures, and a PNG reader hands those
-/// over as grey or monochrome ones when the colours allow it: their pixel values are the indices.
-QImage SpriteBank::indexed(const QImage &image) const
-{
-    switch (image.format()) {
-    case QImage::Format_Indexed8:
-        return image;
-    case QImage::Format_Grayscale8: {
-        QImage indices = image;
-        indices.reinterpretAsFormat(QImage::Format_Indexed8);
-        return indices;
-    }
-    case QImage::Format_Mono:
-    case QImage::Format_MonoLSB:
-        return image.convertToFormat(QImage::Format_Indexed8);
-    default:
-        return m_palette ? remapped(image) : image.convertToFormat(QImage::Format_Indexed8);
-    }
-}
-
-/// The picture in the nearest colours of the bound palette, as its indices; null when that fails.
-QImage SpriteBank::remapped(const QImage &image) const
-{
-    NxImage picture;
-    picture.setImage(image);
-    return picture.remap(m_palette);
-}
-
 void SpriteBank::setWholeImage(const QImage &image)
 {
     const int sprites = std::clamp(image.height() / SpriteSize, 1, MaxCount);
-    const QImage strip = indexed(image.copy(0, 0, SpriteSize, sprites * SpriteSize));
+    const QImage strip = NxImage::indexed(image.copy(0, 0, SpriteSize, sprites * SpriteSize), m_palette);
     if (strip.isNull())
         return;
     m_image = strip;
@@ -106,7 +78,7 @@ void SpriteBank::writePixels(int index, const uchar *pixels)
 
 void SpriteBank::setImage(int index, const QImage &image)
 {
-    const QImage sprite = indexed(image.copy(0, 0, SpriteSize, SpriteSize));
+    const QImage sprite = NxImage::indexed(image.copy(0, 0, SpriteSize, SpriteSize), m_palette);
     if (!contains(index) || sprite.isNull())
         return;
     writePixels(index, sprite.constBits());
@@ -296,7 +268,7 @@ int SpriteBank::importPieces(const ImageSlicer &slicer)
 void SpriteBank::importImage(int index, const QImage &image)
 {
     if (m_palette && !image.isNull())
-        setImage(index, remapped(image.copy(0, 0, SpriteSize, SpriteSize)));
+        setImage(index, NxImage(image.copy(0, 0, SpriteSize, SpriteSize)).remap(m_palette));
 }
 
 // Animations

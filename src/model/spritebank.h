@@ -68,9 +68,8 @@ public:
 
     /// All sprites, stacked top to bottom in the order of their numbers, as palette indices.
     [[nodiscard]] QImage image() const { return m_image; }
-    /// Replaces all sprites, silently. Pixels of an indexed or grey picture are taken as indices, those
-    /// of a true-colour picture become the nearest colour of the bound palette. What is not part of a
-    /// whole sprite is cut off, and a picture without a whole sprite is padded to one.
+    /// Replaces all sprites, silently, by a picture that is converted as by NxImage::indexed(). What is not
+    /// part of a whole sprite is cut off, and a picture without a whole sprite is padded to one.
     void setWholeImage(const QImage &image);
 
     /// One sprite as palette indices, in an orientation (see oriented()); blank outside the bank.
@@ -130,7 +129,7 @@ signals:
     void coloursChanged();
 
 public slots:
-    /// Copies the top left 16×16 pixels of a picture into a sprite (converted as by setWholeImage()).
+    /// Copies the top left 16×16 pixels of a picture into a sprite (converted in the same way).
     void setImage(int index, const QImage &image);
     /// Appends a blank sprite.
     void addSprite(bool emitSignal = true);
@@ -142,8 +141,6 @@ private slots:
 
 private:
     [[nodiscard]] bool contains(int index) const { return index >= 0 && index < count(); }
-    [[nodiscard]] QImage indexed(const QImage &image) const;
-    [[nodiscard]] QImage remapped(const QImage &image) const;
     [[nodiscard]] bool hasRoomFor(qsizetype sprites) const { return sprites <= MaxCount - count(); }
     void applyColours();
     void resize(int count);

@@ -41,8 +41,7 @@ Tile::Tile(const State &state, QObject *parent) : QObject(parent), m_state(state
 
 void Tile::setImage(const QImage &image)
 {
-    QImage copy =
-        image.format() == QImage::Format_Indexed8 ? image.copy() : image.convertToFormat(QImage::Format_Indexed8);
+    QImage copy = NxImage::indexed(image, nullptr).copy();
     // whoever paints looks pixels up in the table without a check
     if (!copy.isNull() && copy.colorCount() < ColourCount)
         copy.setColorCount(ColourCount);
@@ -261,10 +260,8 @@ void TileSet::importImage(int index, const QImage &image, int offset)
 {
     if (!contains(index) || !m_palette || image.isNull())
         return;
-    NxImage picture;
-    picture.setImage(image.copy(image.rect() & QRect(0, 0, Tile::Size, Tile::Size)));
     tile(index)->setOffset(offset);
-    tile(index)->setImage(picture.remap(m_palette));
+    tile(index)->setImage(NxImage(image.copy(image.rect() & QRect(0, 0, Tile::Size, Tile::Size))).remap(m_palette));
     emit tileChanged(index);
 }
 

@@ -64,7 +64,7 @@ public:
 
     /// The pixels as an 8-bit indexed picture.
     [[nodiscard]] QImage image() const { return m_state.image; }
-    /// The tile keeps a copy of its own; a picture that is not 8-bit indexed is converted.
+    /// The tile keeps a copy of its own, converted as by NxImage::indexed().
     void setImage(const QImage &image);
     /// The pixels as plain bytes; what the image lacks of 8×8 pixels is 0.
     [[nodiscard]] Pixels pixels() const;

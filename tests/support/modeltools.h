@@ -15,6 +15,12 @@
 
 /// What tests of the model share: files, pictures of palette indices, and the order of signals.
 
+[[nodiscard]] inline bool writeFile(const QString &name, const QByteArray &bytes)
+{
+    QFile file(name);
+    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+}
+
 /// A folder of its own: path() is the folder, path("x") a file in it, path("x", bytes) a file of these bytes.
 class TemporaryFolder
 {
@@ -23,10 +29,9 @@ public:
     QString operator()(const QString &name) const { return m_folder.filePath(name); }
     QString operator()(const QString &name, const QByteArray &bytes) const
     {
-        QFile file(m_folder.filePath(name));
-        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-            qFatal("cannot write %s", qPrintable(file.fileName()));
-        return file.fileName();
+        if (!writeFile(m_folder.filePath(name), bytes))
+            qFatal("cannot write %s", qPrintable(name));
+        return m_folder.filePath(name);
     }
 
 private:
@@ -57,14 +62,21 @@ private:
     return bytes;
 }
 
-/// Writes down every signal of the objects that it follows, in order, as "name argument argument".
+/// Writes down signals in the order in which they are emitted, as "name argument argument".
 class SignalLog : public QObject
 {
 public:
+    /// Listens to every signal of these objects.
     template <class... Senders>
     explicit SignalLog(const Senders &...senders)
     {
         (follow(senders), ...);
+    }
+
+    template <class Sender, class Signal>
+    void listen(const Sender &sender, Signal signal, const QString &name)
+    {
+        attach(sender, QMetaMethod::fromSignal(signal), name);
     }
 
     /// What was emitted since it was last asked.
@@ -76,8 +88,8 @@ public:
         id = QObject::qt_metacall(call, id, arguments);
         if (id < 0 || call != QMetaObject::InvokeMetaMethod)
             return id;
-        const QMetaMethod &signal = m_signals.at(id);
-        QStringList words{QString::fromLatin1(signal.name())};
+        const auto &[signal, name] = m_signals.at(id);
+        QStringList words{name};
         for (int i = 0; i < signal.parameterCount(); ++i)
             words << textOf(QVariant(signal.parameterMetaType(i), arguments[i + 1]));
         m_lines << words.join(u' ');
@@ -87,14 +99,19 @@ public:
 private:
     void follow(const QObject &sender)
     {
-        const int ownMethods = QObject::staticMetaObject.methodCount();
-        for (int i = ownMethods; i < sender.metaObject()->methodCount(); ++i) {
-            const QMetaMethod method = sender.metaObject()->method(i);
-            if (method.methodType() != QMetaMethod::Signal || method.attributes() & QMetaMethod::Cloned)
-                continue;
-            QMetaObject::connect(&sender, i, this, ownMethods + int(m_signals.size()), Qt::DirectConnection);
-            m_signals << method;
+        const QMetaObject *type = sender.metaObject();
+        for (int i = QObject::staticMetaObject.methodCount(); i < type->methodCount(); ++i) {
+            const QMetaMethod method = type->method(i);
+            if (method.methodType() == QMetaMethod::Signal && !(method.attributes() & QMetaMethod::Cloned))
+                attach(sender, method, QString::fromLatin1(method.name()));
         }
+    }
+
+    void attach(const QObject &sender, const QMetaMethod &signal, const QString &name)
+    {
+        const int id = QObject::staticMetaObject.methodCount() + int(m_signals.size());
+        QMetaObject::connect(&sender, signal.methodIndex(), this, id, Qt::DirectConnection);
+        m_signals.append({signal, name});
     }
 
     static QString textOf(const QVariant &value)
@@ -118,6 +135,6 @@ private:
         }
     }
 
-    QList<QMetaMethod> m_signals;
+    QList<std::pair<QMetaMethod, QString>> m_signals;
     QStringList m_lines;
 };
