@@ -102,9 +102,12 @@ void ProjectTree::reset(const QPointer<Project> &project)
         return;
     auto *root = new QTreeWidgetItem(this, {project->name()});
     root->setIcon(0, themedIcon(QStringLiteral(":/Project")));
+    QFont bold = font();
+    bold.setBold(true);
     for (int node = 0; node < NodeCount; ++node) {
         const Group &group = Groups[size_t(node)];
         auto *item = new QTreeWidgetItem(root, {tr(group.text)});
+        item->setFont(0, bold);
         item->setForeground(0, QColor(group.colour).lighter(LighterFactor));
         item->setBackground(0, GroupBackground);
         item->setData(0, Qt::UserRole, node);
