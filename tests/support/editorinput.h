@@ -2,10 +2,18 @@
 
 #include "editors/canvas/canvas.h"
 
+#include "support/modeltools.h"
+#include "support/testmain.h"
+
+#include <QAbstractButton>
 #include <QApplication>
+#include <QClipboard>
 #include <QDropEvent>
 #include <QMenu>
+#include <QMimeData>
+#include <QSignalSpy>
 #include <QTest>
+#include <QWheelEvent>
 
 #include <functional>
 
@@ -47,6 +55,16 @@ struct Mouse
         release(pixels.last(), button);
     }
 };
+
+/// The button of this text or tool tip, null when there is none.
+inline QAbstractButton *button(const QWidget &widget, const QString &name)
+{
+    for (QAbstractButton *button : widget.findChildren<QAbstractButton *>()) {
+        if (button->text() == name || button->toolTip() == name)
+            return button;
+    }
+    return nullptr;
+}
 
 inline void trigger(const QMenu &menu, const QString &text)
 {

@@ -3,12 +3,8 @@
 #include "editors/canvas/scrollcanvas.h"
 
 #include "support/editorinput.h"
-#include "support/modeltools.h"
-#include "support/testmain.h"
 
-#include <QClipboard>
 #include <QScrollBar>
-#include <QSignalSpy>
 #include <QTimer>
 
 using namespace Quenmora::Ui;
@@ -16,6 +12,16 @@ using namespace Quenmora::Ui;
 namespace {
 
 constexpr QSize ImageSize(16, 12);
+
+/// A tool or an action, and what is dragged with it.
+struct Step
+{
+    ToolButton mode;
+    QList<QPoint> drag{};
+    Qt::MouseButton button = Qt::LeftButton;
+};
+using Steps = QList<Step>;
+using Pixels = QList<std::pair<QPoint, int>>;
 
 /// A canvas of 16 x 12 pixels in a widget that it fills exactly at zoom 16.
 struct Fixture
@@ -29,29 +35,38 @@ struct Fixture
     {
         palette.loadStandardNext();
         canvas.bindPalette(&palette);
+        canvas.setInk(7);
         canvas.resize(256, 192);
         canvas.show();
     }
-    const CanvasGeometry &geometry() const { return canvas.geometryInWidget(); }
-    int at(int x, int y) const { return canvas.image().pixelIndex(x, y); }
+    void run(const Step &step)
+    {
+        canvas.setMode(step.mode);
+        if (!step.drag.isEmpty())
+            mouse.drag(step.drag, step.button);
+    }
+    QList<int> at(const QList<QPoint> &pixels) const
+    {
+        QList<int> found;
+        for (const QPoint pixel : pixels)
+            found += canvas.image().pixelIndex(pixel);
+        return found;
+    }
     QColor shown(QPoint pixel) { return canvas.grab().toImage().pixelColor(mouse.centreOf(pixel)); }
-    QStringList texts() const
+    /// The texts of the edits, of which each must begin where the one before ended, so that undo comes back.
+    QString texts() const
     {
         QStringList texts;
-        for (const QVariantList &edit : edits)
-            texts += edit[0].toString();
-        return texts;
+        QByteArray reached(ImageSize.width() * ImageSize.height(), 0);
+        for (const QVariantList &edit : edits) {
+            const bool scroll = edit[3].value<PixelEditCommand::Kind>() == PixelEditCommand::Scroll;
+            const bool follows = indices(edit[1].value<QImage>()) == reached && scroll == (edit[0] == "Scroll");
+            texts += follows ? edit[0].toString() : QStringLiteral("astray");
+            reached = indices(edit[2].value<QImage>());
+        }
+        return (reached == indices(canvas.image()) ? texts : texts << "unrecorded").join(", ");
     }
 };
-
-/// Puts data of the canvases' own format on the clipboard.
-void copyBytes(const QByteArray &bytes)
-{
-    auto *mimeData = new QMimeData;
-    mimeData->setData("quenmora/canvas-anim", bytes);
-    mimeData->setImageData(QImage(3, 3, QImage::Format_RGB32));
-    QApplication::clipboard()->setMimeData(mimeData);
-}
 
 } // namespace
 
@@ -60,63 +75,50 @@ class TestCanvas : public QObject
     Q_OBJECT
 
 private slots:
-    void layoutCentresOrScrolls();
-    void zoomStaysInItsRange();
-    void strokeSetsOnlyThePixelsUnderThePointer();
-    void rightButtonDrawsPaperAndShapesDrawInk();
-    void onlyChangedIndicesAreAnEdit();
-    void interruptedStrokesAreNotLost_data();
-    void interruptedStrokesAreNotLost();
-    void dragsEndWithTheirImageAndShape();
-    void actionsMovePixelsAsOneEdit();
+    void layoutFollowsSizeAndZoom();
+    void toolsAndActionsMakeOneEditEach_data();
+    void toolsAndActionsMakeOneEditEach();
+    void interruptedDragsLoseNothing();
     void pickTakesInkAndPaper();
     void selectionStaysOnItsPixels();
     void menuActsOnTheSelection();
     void survivesItsEndUnderTheMenu();
     void pasteIsCentredAndClipped();
     void otherProgramsPicturesArePastedOnRequest();
-    void damagedClipboardIsRefused_data();
     void damagedClipboardIsRefused();
     void paintsImageAndPreviewInThePaletteColours();
     void scrollBarsFollowTheCanvas();
 };
 
-void TestCanvas::layoutCentresOrScrolls()
+void TestCanvas::layoutFollowsSizeAndZoom()
 {
     Fixture f;
+    const CanvasGeometry &geometry = f.canvas.geometryInWidget();
     QSignalSpy amounts(&f.canvas, &Canvas::scrollValuesChanged);
     f.canvas.resize(400, 100);
-    QCOMPARE(f.geometry().imageRect, QRect(72, 2, 256, 96));
+    QCOMPARE(geometry.imageRect, QRect(72, 2, 256, 96));
     QCOMPARE(amounts.last(), QVariantList({16 - 25, 12 - 6}));
     for (int i = 0; i < 20; ++i)
         QTest::keyClick(&f.canvas, Qt::Key_Down);
     QTest::keyClick(&f.canvas, Qt::Key_Right);
     QTest::keyClick(&f.canvas, Qt::Key_Up, Qt::ControlModifier);
-    QCOMPARE(f.geometry().scroll, QPoint(0, 6));
+    QCOMPARE(geometry.scroll, QPoint(0, 6));
     f.canvas.resize(256, 192);
-    QCOMPARE(f.geometry().scroll, QPoint(0, 0));
+    QCOMPARE(geometry.scroll, QPoint(0, 0));
     f.canvas.setTallPixels(true);
     f.canvas.setZoomLevel(8);
-    QCOMPARE(f.geometry().imageRect, QRect(64, 0, 128, 192));
-    QCOMPARE(f.geometry().pixelAt({64, 10}), QPoint(0, 0));
-    QCOMPARE(f.geometry().pixelAt({64 + 127, 17}), QPoint(15, 1));
+    QCOMPARE(geometry.imageRect, QRect(64, 0, 128, 192));
+    QCOMPARE(geometry.pixelAt({64, 10}), QPoint(0, 0));
+    QCOMPARE(geometry.pixelAt({64 + 127, 17}), QPoint(15, 1));
     f.canvas.setZoomLevel(1);
     f.canvas.setImage(plainImage({97, 4}, 0));
     f.canvas.resize(100, 100);
-    QCOMPARE(f.geometry().imageRect, QRect(2, 46, 97, 8)); // 100 / 2 - 97 / 2
-}
-
-void TestCanvas::zoomStaysInItsRange()
-{
-    Fixture f;
-    const auto zoomAfter = [&f](int level, ToolButton action) {
-        f.canvas.setZoomLevel(level);
-        f.canvas.setMode(action);
-        return f.canvas.zoom();
-    };
-    QCOMPARE(zoomAfter(63, ZoomIn), 64);
-    QCOMPARE(zoomAfter(64, ZoomIn), 64);
-    QCOMPARE(zoomAfter(2, ZoomOut), 1);
+    QCOMPARE(geometry.imageRect, QRect(2, 46, 97, 8)); // 100 / 2 - 97 / 2
+    f.canvas.setZoomLevel(63);
+    f.canvas.setMode(ZoomIn);
+    QCOMPARE(f.canvas.zoom(), 64);
+    f.canvas.setZoomLevel(2);
+    f.canvas.setMode(ZoomOut);
     EditorInput::zoomByWheel(f.canvas, -120);
     QCOMPARE(f.canvas.zoom(), 1);
     EditorInput::zoomByWheel(f.canvas, 120);
@@ -126,160 +128,104 @@ void TestCanvas::zoomStaysInItsRange()
     QCOMPARE(f.canvas.mode(), Draw);
 }
 
-void TestCanvas::strokeSetsOnlyThePixelsUnderThePointer()
+void TestCanvas::toolsAndActionsMakeOneEditEach_data()
 {
-    Fixture f;
-    QSignalSpy changes(&f.canvas, &Canvas::imageChanged);
-    const QImage before = f.canvas.image();
-    f.mouse.drag({{1, 1}, {4, 1}, {200, 1}, {5, 2}});
-    const std::array drawn{f.at(1, 1), f.at(2, 1), f.at(4, 1), f.at(5, 2)};
-    QCOMPARE(drawn, (std::array{1, 0, 1, 1}));
-    QCOMPARE(changes.count(), 1);
-    QCOMPARE(f.texts(), QStringList{"Draw"});
-    QCOMPARE(f.edits[0][1].value<QImage>(), before);
-    QCOMPARE(f.edits[0][2].value<QImage>(), f.canvas.image());
+    QTest::addColumn<Steps>("steps"); // with ink 7 and paper 9
+    QTest::addColumn<QString>("texts");
+    QTest::addColumn<Pixels>("pixels");
+    const Step dot{Draw, {{2, 1}}};
+    QTest::addRow("stroke") << Steps{{Draw, {{1, 1}, {4, 1}, {200, 1}, {5, 2}}}} << "Draw"
+                            << Pixels{{{1, 1}, 7}, {{2, 1}, 0}, {{4, 1}, 7}, {{5, 2}, 7}};
+    QTest::addRow("paper") << Steps{{Draw, {{0, 0}}, Qt::RightButton}} << "Draw" << Pixels{{{0, 0}, 9}};
+    QTest::addRow("line") << Steps{{Line, {{0, 0}, {5, 2}}}} << "Line" << Pixels{{{0, 0}, 7}, {{4, 2}, 7}};
+    QTest::addRow("outline") << Steps{{Rectangle, {{5, 5}, {2, 3}}}} << "Rectangle"
+                             << Pixels{{{2, 3}, 7}, {{5, 5}, 7}, {{3, 4}, 0}};
+    QTest::addRow("ink by the right button") << Steps{{RectangleFill, {{5, 5}, {2, 3}}, Qt::RightButton}}
+                                             << "Filled Rectangle" << Pixels{{{3, 4}, 7}, {{6, 5}, 0}};
+    QTest::addRow("circle") << Steps{{Circle, {{0, 0}, {4, 2}}}} << "Circle" << Pixels{{{2, 0}, 7}, {{0, 0}, 0}};
+    QTest::addRow("fill") << Steps{{Fill, {{9, 9}}, Qt::RightButton}} << "Fill" << Pixels{{{15, 11}, 9}};
+    QTest::addRow("up") << Steps{{Draw, {{2, 0}}}, {MoveUp}} << "Draw, Scroll" << Pixels{{{2, 11}, 7}};
+    QTest::addRow("down") << Steps{{Draw, {{2, 11}}}, {MoveDown}} << "Draw, Scroll" << Pixels{{{2, 0}, 7}};
+    QTest::addRow("left") << Steps{{Draw, {{0, 3}}}, {MoveLeft}} << "Draw, Scroll" << Pixels{{{15, 3}, 7}};
+    QTest::addRow("right") << Steps{{Draw, {{15, 3}}}, {MoveRight}} << "Draw, Scroll" << Pixels{{{0, 3}, 7}};
+    QTest::addRow("clockwise") << Steps{dot, {RotateCW}} << "Draw, Rotate" << Pixels{{{14, 2}, 7}};
+    QTest::addRow("back") << Steps{{Draw, {{5, 4}}}, {RotateCCW}} << "Draw, Rotate" << Pixels{{{4, 10}, 7}};
+    QTest::addRow("flip") << Steps{dot, {Flip}} << "Draw, Flip" << Pixels{{{2, 10}, 7}};
+    QTest::addRow("mirror") << Steps{dot, {Mirror}} << "Draw, Mirror" << Pixels{{{13, 1}, 7}};
+    QTest::addRow("nothing new") << Steps{{MoveUp}, dot, dot, {Fill, dot.drag}} << "Draw" << Pixels{{{2, 1}, 7}};
 }
 
-void TestCanvas::rightButtonDrawsPaperAndShapesDrawInk()
+void TestCanvas::toolsAndActionsMakeOneEditEach()
 {
-    Fixture f;
-    f.canvas.setInk(7);
-    f.canvas.setPaper(9);
-    f.mouse.drag({{0, 0}}, Qt::RightButton);
-    f.canvas.setMode(RectangleFill);
-    f.mouse.drag({{5, 5}, {2, 3}}, Qt::RightButton);
-    QCOMPARE(f.canvas.cursorPixel(), QPoint(2, 3)); // where the pointer is, though the drag is over
-    const std::array drawn{f.at(0, 0), f.at(2, 3), f.at(5, 5), f.at(6, 5)};
-    QCOMPARE(drawn, (std::array{9, 7, 7, 0}));
-    f.canvas.setMode(Fill);
-    f.mouse.drag({{10, 10}}, Qt::RightButton);
-    QCOMPARE(f.at(15, 11), 9);
-    QCOMPARE(f.at(3, 4), 7);
-}
-
-void TestCanvas::onlyChangedIndicesAreAnEdit()
-{
+    QFETCH(Steps, steps);
+    QFETCH(Pixels, pixels);
     Fixture f;
     f.palette.fill(Qt::black, false); // indices of one colour are different pixels all the same
-    f.canvas.setInk(0);
-    f.mouse.drag({{1, 1}, {2, 1}});
-    f.canvas.setMode(MoveUp);
-    QVERIFY(f.edits.isEmpty());
-    f.canvas.setInk(1);
-    f.mouse.drag({{1, 1}});
-    f.canvas.setMode(Fill);
-    f.mouse.drag({{1, 1}});
-    QCOMPARE(f.texts(), QStringList{"Draw"});
-}
-
-void TestCanvas::interruptedStrokesAreNotLost_data()
-{
-    QTest::addColumn<ToolButton>("action");
-    QTest::addColumn<QStringList>("texts");
-    QTest::addRow("second button") << Draw << QStringList{"Draw", "Draw"};
-    QTest::addRow("another tool") << Line << QStringList{"Draw"};
-    QTest::addRow("scroll") << MoveUp << QStringList{"Draw", "Scroll"};
-}
-
-void TestCanvas::interruptedStrokesAreNotLost()
-{
-    QFETCH(ToolButton, action);
-    Fixture f;
     f.canvas.setPaper(9);
-    QImage reached = f.canvas.image();
+    for (const Step &step : steps)
+        f.run(step);
+    QTEST(f.texts(), "texts");
+    for (const auto &[pixel, index] : pixels)
+        QCOMPARE(f.canvas.image().pixelIndex(pixel), index);
+}
+
+void TestCanvas::interruptedDragsLoseNothing()
+{
+    Fixture f;
     f.mouse.press({1, 1});
-    if (action == Draw) {
-        f.mouse.press({5, 5}, Qt::RightButton, Qt::LeftButton);
-        f.mouse.release({5, 5}, Qt::LeftButton, Qt::RightButton);
-        f.mouse.release({5, 5}, Qt::RightButton);
-    } else {
+    f.mouse.press({5, 5}, Qt::RightButton, Qt::LeftButton);
+    f.mouse.release({5, 5}, Qt::LeftButton, Qt::RightButton);
+    f.mouse.release({5, 5}, Qt::RightButton);
+    QCOMPARE(f.texts(), "Draw, Draw");
+    for (const ToolButton action : {Line, MoveUp}) {
+        f.canvas.setMode(Draw);
+        f.mouse.press({9, 9});
         f.canvas.setMode(action);
         f.mouse.move({3, 3}, Qt::LeftButton);
         f.mouse.release({3, 3});
     }
-    QTEST(f.texts(), "texts");
-    // Every step begins where the one before ended, so that undo comes back to the blank image.
-    for (const QVariantList &edit : std::as_const(f.edits)) {
-        QCOMPARE(edit[1].value<QImage>(), reached);
-        reached = edit[2].value<QImage>();
-    }
-    QCOMPARE(f.canvas.image(), reached);
-}
-
-void TestCanvas::dragsEndWithTheirImageAndShape()
-{
-    Fixture f;
-    f.mouse.press({1, 1});
-    f.canvas.setImage(plainImage(ImageSize, 4));
-    f.mouse.move({2, 1}, Qt::LeftButton);
-    f.mouse.release({2, 1});
-    QCOMPARE(f.at(2, 1), 4);
-    f.canvas.setMode(Line);
+    QCOMPARE(f.texts(), "Draw, Draw, Draw, Scroll");
+    f.run({Line, {}});
     f.mouse.press({2, 2});
     f.mouse.press({2, 2}, Qt::RightButton, Qt::LeftButton);
     f.mouse.release({2, 2}, Qt::LeftButton, Qt::RightButton);
     f.mouse.release({9, 9}, Qt::RightButton);
-    QCOMPARE(f.texts(), QStringList{"Line"});
-    QCOMPARE(f.at(5, 5), 4);
-}
-
-void TestCanvas::actionsMovePixelsAsOneEdit()
-{
-    const struct
-    {
-        ToolButton action;
-        QString text;
-        PixelEditCommand::Kind kind;
-        QPoint dot, moved;
-    } actions[] = {
-        {MoveUp, "Scroll", PixelEditCommand::Scroll, {2, 0}, {2, 11}},
-        {MoveDown, "Scroll", PixelEditCommand::Scroll, {2, 11}, {2, 0}},
-        {MoveLeft, "Scroll", PixelEditCommand::Scroll, {0, 3}, {15, 3}},
-        {MoveRight, "Scroll", PixelEditCommand::Scroll, {15, 3}, {0, 3}},
-        {RotateCW, "Rotate", PixelEditCommand::None, {2, 1}, {14, 2}},
-        {RotateCCW, "Rotate", PixelEditCommand::None, {5, 4}, {4, 10}},
-        {Flip, "Flip", PixelEditCommand::None, {2, 1}, {2, 10}},
-        {Mirror, "Mirror", PixelEditCommand::None, {2, 1}, {13, 1}},
-    };
-    for (const auto &[action, text, kind, dot, moved] : actions) {
-        Fixture f;
-        f.mouse.drag({dot});
-        f.canvas.setMode(action);
-        QCOMPARE(f.texts(), (QStringList{"Draw", text}));
-        QCOMPARE(f.edits[1][3].value<PixelEditCommand::Kind>(), kind);
-        QVERIFY2(f.at(moved.x(), moved.y()) == 1, qPrintable(QDebug::toString(action)));
-        QCOMPARE(f.canvas.mode(), Draw);
-    }
+    QCOMPARE(f.texts(), "Draw, Draw, Draw, Scroll, Line");
+    f.canvas.setMode(Draw);
+    f.mouse.press({1, 1});
+    f.canvas.setImage(f.canvas.image()); // of another tile
+    f.mouse.move({2, 1}, Qt::LeftButton);
+    f.mouse.release({2, 1});
+    QCOMPARE(f.edits.count(), 5);
+    QCOMPARE(f.at({{2, 1}}), QList{0});
 }
 
 void TestCanvas::pickTakesInkAndPaper()
 {
     Fixture f;
+    SignalLog log;
+    log.listen(f.canvas, &Canvas::foregroundPicked, "fore");
+    log.listen(f.canvas, &Canvas::backgroundPicked, "back");
     f.canvas.setInk(200);
-    f.mouse.drag({{3, 3}});
+    f.run({RectangleFill, {{1, 1}, {3, 3}}});
+    QCOMPARE(f.canvas.cursorPixel(), QPoint(3, 3)); // where the pointer is, though the drag is over
     f.canvas.setInk(1);
-    QSignalSpy fore(&f.canvas, &Canvas::foregroundPicked);
-    QSignalSpy back(&f.canvas, &Canvas::backgroundPicked);
-    f.canvas.setMode(Pick);
-    f.mouse.drag({{3, 3}});
-    f.mouse.drag({{3, 3}}, Qt::RightButton);
-    f.mouse.drag({{-3, 3}});
-    QCOMPARE(fore, (QList<QVariantList>{{200}}));
-    QCOMPARE(back, (QList<QVariantList>{{200}}));
+    f.run({Pick, {{3, 3}}, Qt::RightButton});
+    f.run({Pick, {{3, 3}}});
+    f.run({Pick, {{-3, 3}}});
+    QCOMPARE(log.take(), (QStringList{"back 200", "fore 200"}));
     QCOMPARE(f.canvas.ink(), 200);
 }
 
 void TestCanvas::selectionStaysOnItsPixels()
 {
     Fixture f;
-    f.canvas.setMode(Select);
-    f.mouse.drag({{2, 1}, {4, 4}});
+    f.run({Select, {{2, 1}, {4, 4}}});
     const QRect selected(2, 1, 2, 3);
     QCOMPARE(f.canvas.selection(), selected);
-    for (const int zoom : {1, 32}) {
-        f.canvas.setZoomLevel(zoom);
-        QCOMPARE(f.canvas.selection(), selected);
-    }
+    f.canvas.setZoomLevel(1);
+    QCOMPARE(f.canvas.selection(), selected);
+    f.canvas.setZoomLevel(32);
     QTest::keyClick(&f.canvas, Qt::Key_Right);
     QCOMPARE(f.canvas.selection(), selected);
     f.canvas.setHorizontalPosition(4); // as a scroll bar does
@@ -298,16 +244,14 @@ void TestCanvas::menuActsOnTheSelection()
     f.canvas.setInk(0xE0);
     f.canvas.setPaper(6);
     f.mouse.drag({{2, 1}});
-    f.canvas.setMode(Select);
-    f.mouse.drag({{2, 1}, {4, 3}});
+    f.run({Select, {{2, 1}, {4, 3}}});
     trigger("Copy");
-    QCOMPARE(f.at(2, 1), 0xE0);
+    QCOMPARE(f.texts(), "Draw");
     trigger("Cut");
-    const std::array erased{f.at(2, 1), f.at(3, 2), f.at(4, 3)};
-    QCOMPARE(erased, (std::array{6, 6, 0}));
+    QCOMPARE(f.at({{2, 1}, {3, 2}, {4, 3}}), (QList{6, 6, 0}));
     trigger("Fill");
-    QCOMPARE(f.at(3, 2), 0xE0);
-    QCOMPARE(f.texts(), (QStringList{"Draw", "Erase", "Fill"}));
+    QCOMPARE(f.at({{2, 1}, {4, 3}}), (QList{0xE0, 0}));
+    QCOMPARE(f.texts(), "Draw, Erase, Fill");
     const auto forOthers = QApplication::clipboard()->mimeData()->imageData().value<QImage>();
     QCOMPARE(forOthers.pixelColor(0, 0), QColor(Qt::red));
     trigger("Paste");
@@ -337,8 +281,7 @@ void TestCanvas::pasteIsCentredAndClipped()
     QApplication::clipboard()->setMimeData(content.toMimeData());
     f.canvas.paste();
     f.mouse.drag({{0, 0}});
-    const std::array corner{f.at(0, 0), f.at(1, 0), f.at(2, 0), f.at(0, 1), f.at(1, 1)};
-    QCOMPARE(corner, (std::array{24, 25, 0, 27, 28}));
+    QCOMPARE(f.at({{0, 0}, {1, 0}, {2, 0}, {0, 1}, {1, 1}}), (QList{24, 25, 0, 27, 28}));
     QCOMPARE(f.canvas.mode(), Paste);
     content.paletteId = QUuid::createUuid();
     QApplication::clipboard()->setMimeData(content.toMimeData());
@@ -362,29 +305,25 @@ void TestCanvas::otherProgramsPicturesArePastedOnRequest()
     QCOMPARE(indices(f.canvas.clipboardImage()).left(3), QByteArray("\x13\x10\x13"));
 }
 
-void TestCanvas::damagedClipboardIsRefused_data()
+void TestCanvas::damagedClipboardIsRefused()
 {
-    QTest::addColumn<QByteArray>("bytes");
     const std::unique_ptr<QMimeData> good(
         CanvasClipboardContent{0, Full256, QUuid(), plainImage({3, 3}, 20)}.toMimeData());
     const QByteArray bytes = good->data("quenmora/canvas-anim");
-    QTest::addRow("empty") << QByteArray();
-    QTest::addRow("short") << bytes.left(10);
-    QTest::addRow("no picture") << bytes.left(24);
-    QTest::addRow("cut picture") << bytes.left(40);
-    QTest::addRow("unknown type") << QByteArray(bytes).replace(4, 4, QByteArray("\x7f\0\0\0", 4));
-    QTest::addRow("vast picture") << QByteArray(bytes).replace(24 + 16, 8, "\x7f\xff\xff\xff\x7f\xff\xff\xff");
-}
-
-void TestCanvas::damagedClipboardIsRefused()
-{
-    QFETCH(QByteArray, bytes);
+    const QByteArray unknownType = QByteArray(bytes).replace(4, 4, QByteArray("\x7f\0\0\0", 4));
+    const QByteArray vast = QByteArray(bytes).replace(24 + 16, 8, "\x7f\xff\xff\xff\x7f\xff\xff\xff");
     Fixture f;
     f.canvas.setPictureColours(0, 256);
-    copyBytes(bytes);
-    f.canvas.paste();
-    QCOMPARE(f.canvas.mode(), Draw);
-    QVERIFY(f.canvas.clipboardImage().isNull());
+    for (const QByteArray &damaged :
+         {QByteArray(), bytes.left(10), bytes.left(24), bytes.left(40), unknownType, vast}) {
+        auto *mimeData = new QMimeData;
+        mimeData->setData("quenmora/canvas-anim", damaged);
+        mimeData->setImageData(plainImage({3, 3}, 0));
+        QApplication::clipboard()->setMimeData(mimeData);
+        f.canvas.paste();
+        QCOMPARE(f.canvas.mode(), Draw);
+        QVERIFY(f.canvas.clipboardImage().isNull());
+    }
 }
 
 void TestCanvas::paintsImageAndPreviewInThePaletteColours()
@@ -395,9 +334,8 @@ void TestCanvas::paintsImageAndPreviewInThePaletteColours()
     f.mouse.press({0, 0});
     f.mouse.move({7, 0}, Qt::LeftButton);
     QCOMPARE(f.shown({4, 0}), QColor(Qt::white));
-    QCOMPARE(f.at(4, 0), 0);
+    QCOMPARE(f.texts(), "");
     f.mouse.release({7, 0});
-    QCOMPARE(f.at(4, 0), 255);
     f.mouse.move({0, 9});
     QCOMPARE(f.shown({0, 5}), QColor(Qt::black));
     f.canvas.resize(100, 192);
