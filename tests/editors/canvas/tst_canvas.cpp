@@ -75,295 +75,278 @@ class TestCanvas : public QObject
     Q_OBJECT
 
 private slots:
-    void layoutFollowsSizeAndZoom();
-    void toolsAndActionsMakeOneEditEach_data();
-    void toolsAndActionsMakeOneEditEach();
-    void interruptedDragsLoseNothing();
-    void pickTakesInkAndPaper();
-    void selectionStaysOnItsPixels();
-    void menuActsOnTheSelection();
-    void survivesItsEndUnderTheMenu();
-    void pasteIsCentredAndClipped();
-    void otherProgramsPicturesArePastedOnRequest();
-    void damagedClipboardIsRefused();
-    void paintsImageAndPreviewInThePaletteColours();
-    void scrollBarsFollowTheCanvas();
-};
-
-void TestCanvas::layoutFollowsSizeAndZoom()
-{
-    Fixture f;
-    const CanvasGeometry &geometry = f.canvas.geometryInWidget();
-    QSignalSpy amounts(&f.canvas, &Canvas::scrollValuesChanged);
-    f.canvas.resize(400, 100);
-    QCOMPARE(geometry.imageRect, QRect(72, 2, 256, 96));
-    QCOMPARE(amounts.last(), QVariantList({16 - 25, 12 - 6}));
-    for (int i = 0; i < 20; ++i)
-        QTest::keyClick(&f.canvas, Qt::Key_Down);
-    QTest::keyClick(&f.canvas, Qt::Key_Right);
-    QTest::keyClick(&f.canvas, Qt::Key_Up, Qt::ControlModifier);
-    QCOMPARE(geometry.scroll, QPoint(0, 6));
-    f.canvas.resize(256, 192);
-    QCOMPARE(geometry.scroll, QPoint(0, 0));
-    f.canvas.setTallPixels(true);
-    f.canvas.setZoomLevel(8);
-    QCOMPARE(geometry.imageRect, QRect(64, 0, 128, 192));
-    QCOMPARE(geometry.pixelAt({64, 10}), QPoint(0, 0));
-    QCOMPARE(geometry.pixelAt({64 + 127, 17}), QPoint(15, 1));
-    f.canvas.setZoomLevel(1);
-    f.canvas.setImage(plainImage({97, 4}, 0));
-    f.canvas.resize(100, 100);
-    QCOMPARE(geometry.imageRect, QRect(2, 46, 97, 8)); // 100 / 2 - 97 / 2
-    f.canvas.setZoomLevel(63);
-    f.canvas.setMode(ZoomIn);
-    QCOMPARE(f.canvas.zoom(), 64);
-    f.canvas.setZoomLevel(2);
-    f.canvas.setMode(ZoomOut);
-    EditorInput::zoomByWheel(f.canvas, -120);
-    QCOMPARE(f.canvas.zoom(), 1);
-    EditorInput::zoomByWheel(f.canvas, 120);
-    QCOMPARE(f.canvas.zoom(), 3);
-    QTest::ignoreMessage(QtInfoMsg, "PaintCanvas::setMode(CircleFill)");
-    f.canvas.setMode(CircleFill);
-    QCOMPARE(f.canvas.mode(), Draw);
-}
-
-void TestCanvas::toolsAndActionsMakeOneEditEach_data()
-{
-    QTest::addColumn<Steps>("steps"); // with ink 7 and paper 9
-    QTest::addColumn<QString>("texts");
-    QTest::addColumn<Pixels>("pixels");
-    const Step dot{Draw, {{2, 1}}};
-    QTest::addRow("stroke") << Steps{{Draw, {{1, 1}, {4, 1}, {200, 1}, {5, 2}}}} << "Draw"
-                            << Pixels{{{1, 1}, 7}, {{2, 1}, 0}, {{4, 1}, 7}, {{5, 2}, 7}};
-    QTest::addRow("paper") << Steps{{Draw, {{0, 0}}, Qt::RightButton}} << "Draw" << Pixels{{{0, 0}, 9}};
-    QTest::addRow("line") << Steps{{Line, {{0, 0}, {5, 2}}}} << "Line" << Pixels{{{0, 0}, 7}, {{4, 2}, 7}};
-    QTest::addRow("outline") << Steps{{Rectangle, {{5, 5}, {2, 3}}}} << "Rectangle"
-                             << Pixels{{{2, 3}, 7}, {{5, 5}, 7}, {{3, 4}, 0}};
-    QTest::addRow("ink by the right button") << Steps{{RectangleFill, {{5, 5}, {2, 3}}, Qt::RightButton}}
-                                             << "Filled Rectangle" << Pixels{{{3, 4}, 7}, {{6, 5}, 0}};
-    QTest::addRow("circle") << Steps{{Circle, {{0, 0}, {4, 2}}}} << "Circle" << Pixels{{{2, 0}, 7}, {{0, 0}, 0}};
-    QTest::addRow("fill") << Steps{{Fill, {{9, 9}}, Qt::RightButton}} << "Fill" << Pixels{{{15, 11}, 9}};
-    QTest::addRow("up") << Steps{{Draw, {{2, 0}}}, {MoveUp}} << "Draw, Scroll" << Pixels{{{2, 11}, 7}};
-    QTest::addRow("down") << Steps{{Draw, {{2, 11}}}, {MoveDown}} << "Draw, Scroll" << Pixels{{{2, 0}, 7}};
-    QTest::addRow("left") << Steps{{Draw, {{0, 3}}}, {MoveLeft}} << "Draw, Scroll" << Pixels{{{15, 3}, 7}};
-    QTest::addRow("right") << Steps{{Draw, {{15, 3}}}, {MoveRight}} << "Draw, Scroll" << Pixels{{{0, 3}, 7}};
-    QTest::addRow("clockwise") << Steps{dot, {RotateCW}} << "Draw, Rotate" << Pixels{{{14, 2}, 7}};
-    QTest::addRow("back") << Steps{{Draw, {{5, 4}}}, {RotateCCW}} << "Draw, Rotate" << Pixels{{{4, 10}, 7}};
-    QTest::addRow("flip") << Steps{dot, {Flip}} << "Draw, Flip" << Pixels{{{2, 10}, 7}};
-    QTest::addRow("mirror") << Steps{dot, {Mirror}} << "Draw, Mirror" << Pixels{{{13, 1}, 7}};
-    QTest::addRow("nothing new") << Steps{{MoveUp}, dot, dot, {Fill, dot.drag}} << "Draw" << Pixels{{{2, 1}, 7}};
-}
-
-void TestCanvas::toolsAndActionsMakeOneEditEach()
-{
-    QFETCH(Steps, steps);
-    QFETCH(Pixels, pixels);
-    Fixture f;
-    f.palette.fill(Qt::black, false); // indices of one colour are different pixels all the same
-    f.canvas.setPaper(9);
-    for (const Step &step : steps)
-        f.run(step);
-    QTEST(f.texts(), "texts");
-    for (const auto &[pixel, index] : pixels)
-        QCOMPARE(f.canvas.image().pixelIndex(pixel), index);
-}
-
-void TestCanvas::interruptedDragsLoseNothing()
-{
-    Fixture f;
-    f.mouse.press({1, 1});
-    f.mouse.press({5, 5}, Qt::RightButton, Qt::LeftButton);
-    f.mouse.release({5, 5}, Qt::LeftButton, Qt::RightButton);
-    f.mouse.release({5, 5}, Qt::RightButton);
-    QCOMPARE(f.texts(), "Draw, Draw");
-    for (const ToolButton action : {Line, MoveUp}) {
-        f.canvas.setMode(Draw);
-        f.mouse.press({9, 9});
-        f.canvas.setMode(action);
-        f.mouse.move({3, 3}, Qt::LeftButton);
-        f.mouse.release({3, 3});
+    void layoutFollowsSizeAndZoom()
+    {
+        Fixture f;
+        const CanvasGeometry &geometry = f.canvas.geometryInWidget();
+        QSignalSpy amounts(&f.canvas, &Canvas::scrollValuesChanged);
+        f.canvas.resize(400, 100);
+        QCOMPARE(geometry.imageRect, QRect(72, 2, 256, 96));
+        QCOMPARE(amounts.last(), QVariantList({16 - 25, 12 - 6}));
+        for (int i = 0; i < 20; ++i)
+            QTest::keyClick(&f.canvas, Qt::Key_Down);
+        QTest::keyClick(&f.canvas, Qt::Key_Right);
+        QTest::keyClick(&f.canvas, Qt::Key_Up, Qt::ControlModifier);
+        QCOMPARE(geometry.scroll, QPoint(0, 6));
+        f.canvas.resize(256, 192);
+        QCOMPARE(geometry.scroll, QPoint(0, 0));
+        f.canvas.setTallPixels(true);
+        f.canvas.setZoomLevel(8);
+        QCOMPARE(geometry.imageRect, QRect(64, 0, 128, 192));
+        QCOMPARE(geometry.pixelAt({64, 10}), QPoint(0, 0));
+        QCOMPARE(geometry.pixelAt({64 + 127, 17}), QPoint(15, 1));
+        f.canvas.setZoomLevel(1);
+        f.canvas.setImage(plainImage({97, 4}, 0));
+        f.canvas.resize(100, 100);
+        QCOMPARE(geometry.imageRect, QRect(2, 46, 97, 8)); // 100 / 2 - 97 / 2
+        f.canvas.setZoomLevel(63);
+        f.canvas.setMode(ZoomIn);
+        QCOMPARE(f.canvas.zoom(), 64);
+        f.canvas.setZoomLevel(2);
+        f.canvas.setMode(ZoomOut);
+        EditorInput::zoomByWheel(f.canvas, -120);
+        QCOMPARE(f.canvas.zoom(), 1);
+        EditorInput::zoomByWheel(f.canvas, 120);
+        QCOMPARE(f.canvas.zoom(), 3);
+        QTest::ignoreMessage(QtInfoMsg, "PaintCanvas::setMode(CircleFill)");
+        f.canvas.setMode(CircleFill);
+        QCOMPARE(f.canvas.mode(), Draw);
     }
-    QCOMPARE(f.texts(), "Draw, Draw, Draw, Scroll");
-    f.run({Line, {}});
-    f.mouse.press({2, 2});
-    f.mouse.press({2, 2}, Qt::RightButton, Qt::LeftButton);
-    f.mouse.release({2, 2}, Qt::LeftButton, Qt::RightButton);
-    f.mouse.release({9, 9}, Qt::RightButton);
-    QCOMPARE(f.texts(), "Draw, Draw, Draw, Scroll, Line");
-    f.canvas.setMode(Draw);
-    f.mouse.press({1, 1});
-    f.canvas.setImage(f.canvas.image()); // of another tile
-    f.mouse.move({2, 1}, Qt::LeftButton);
-    f.mouse.release({2, 1});
-    QCOMPARE(f.edits.count(), 5);
-    QCOMPARE(f.at({{2, 1}}), QList{0});
-}
 
-void TestCanvas::pickTakesInkAndPaper()
-{
-    Fixture f;
-    SignalLog log;
-    log.listen(f.canvas, &Canvas::foregroundPicked, "fore");
-    log.listen(f.canvas, &Canvas::backgroundPicked, "back");
-    f.canvas.setInk(200);
-    f.run({RectangleFill, {{1, 1}, {3, 3}}});
-    QCOMPARE(f.canvas.cursorPixel(), QPoint(3, 3)); // where the pointer is, though the drag is over
-    f.canvas.setInk(1);
-    f.run({Pick, {{3, 3}}, Qt::RightButton});
-    f.run({Pick, {{3, 3}}});
-    f.run({Pick, {{-3, 3}}});
-    QCOMPARE(log.take(), (QStringList{"back 200", "fore 200"}));
-    QCOMPARE(f.canvas.ink(), 200);
-}
+    void toolsAndActionsMakeOneEditEach_data()
+    {
+        QTest::addColumn<Steps>("steps"); // with ink 7 and paper 9
+        QTest::addColumn<QString>("texts");
+        QTest::addColumn<Pixels>("pixels");
+        const Step dot{Draw, {{2, 1}}};
+        QTest::addRow("stroke") << Steps{{Draw, {{1, 1}, {4, 1}, {200, 1}, {5, 2}}}} << "Draw"
+                                << Pixels{{{1, 1}, 7}, {{2, 1}, 0}, {{4, 1}, 7}, {{5, 2}, 7}};
+        QTest::addRow("paper") << Steps{{Draw, {{0, 0}}, Qt::RightButton}} << "Draw" << Pixels{{{0, 0}, 9}};
+        QTest::addRow("line") << Steps{{Line, {{0, 0}, {5, 2}}}} << "Line" << Pixels{{{0, 0}, 7}, {{4, 2}, 7}};
+        QTest::addRow("outline") << Steps{{Rectangle, {{5, 5}, {2, 3}}}} << "Rectangle"
+                                 << Pixels{{{2, 3}, 7}, {{5, 5}, 7}, {{3, 4}, 0}};
+        QTest::addRow("ink by the right button") << Steps{{RectangleFill, {{5, 5}, {2, 3}}, Qt::RightButton}}
+                                                 << "Filled Rectangle" << Pixels{{{3, 4}, 7}, {{6, 5}, 0}};
+        QTest::addRow("circle") << Steps{{Circle, {{0, 0}, {4, 2}}}} << "Circle" << Pixels{{{2, 0}, 7}, {{0, 0}, 0}};
+        QTest::addRow("fill") << Steps{{Fill, {{9, 9}}, Qt::RightButton}} << "Fill" << Pixels{{{15, 11}, 9}};
+        QTest::addRow("up") << Steps{{Draw, {{2, 0}}}, {MoveUp}} << "Draw, Scroll" << Pixels{{{2, 11}, 7}};
+        QTest::addRow("down") << Steps{{Draw, {{2, 11}}}, {MoveDown}} << "Draw, Scroll" << Pixels{{{2, 0}, 7}};
+        QTest::addRow("left") << Steps{{Draw, {{0, 3}}}, {MoveLeft}} << "Draw, Scroll" << Pixels{{{15, 3}, 7}};
+        QTest::addRow("right") << Steps{{Draw, {{15, 3}}}, {MoveRight}} << "Draw, Scroll" << Pixels{{{0, 3}, 7}};
+        QTest::addRow("clockwise") << Steps{dot, {RotateCW}} << "Draw, Rotate" << Pixels{{{14, 2}, 7}};
+        QTest::addRow("back") << Steps{{Draw, {{5, 4}}}, {RotateCCW}} << "Draw, Rotate" << Pixels{{{4, 10}, 7}};
+        QTest::addRow("flip") << Steps{dot, {Flip}} << "Draw, Flip" << Pixels{{{2, 10}, 7}};
+        QTest::addRow("mirror") << Steps{dot, {Mirror}} << "Draw, Mirror" << Pixels{{{13, 1}, 7}};
+        QTest::addRow("nothing new") << Steps{{MoveUp}, dot, dot, {Fill, dot.drag}} << "Draw" << Pixels{{{2, 1}, 7}};
+    }
 
-void TestCanvas::selectionStaysOnItsPixels()
-{
-    Fixture f;
-    f.run({Select, {{2, 1}, {4, 4}}});
-    const QRect selected(2, 1, 2, 3);
-    QCOMPARE(f.canvas.selection(), selected);
-    f.canvas.setZoomLevel(1);
-    QCOMPARE(f.canvas.selection(), selected);
-    f.canvas.setZoomLevel(32);
-    QTest::keyClick(&f.canvas, Qt::Key_Right);
-    QCOMPARE(f.canvas.selection(), selected);
-    f.canvas.setHorizontalPosition(4); // as a scroll bar does
-    QCOMPARE(f.canvas.selection(), selected);
-    f.canvas.setZoomLevel(16);
-    f.canvas.selectAll();
-    QCOMPARE(f.canvas.selection(), QRect(QPoint(), ImageSize));
-    f.canvas.setMode(Draw);
-    QVERIFY(!f.canvas.hasSelection());
-}
+    void toolsAndActionsMakeOneEditEach()
+    {
+        QFETCH(Steps, steps);
+        QFETCH(Pixels, pixels);
+        Fixture f;
+        f.palette.fill(Qt::black, false); // indices of one colour are different pixels all the same
+        f.canvas.setPaper(9);
+        for (const Step &step : steps)
+            f.run(step);
+        QTEST(f.texts(), "texts");
+        for (const auto &[pixel, index] : pixels)
+            QCOMPARE(f.canvas.image().pixelIndex(pixel), index);
+    }
 
-void TestCanvas::menuActsOnTheSelection()
-{
-    Fixture f;
-    const auto trigger = [&f](const QString &text) { EditorInput::trigger(*f.canvas.contextMenu(), text); };
-    f.canvas.setInk(0xE0);
-    f.canvas.setPaper(6);
-    f.mouse.drag({{2, 1}});
-    f.run({Select, {{2, 1}, {4, 3}}});
-    trigger("Copy");
-    QCOMPARE(f.texts(), "Draw");
-    trigger("Cut");
-    QCOMPARE(f.at({{2, 1}, {3, 2}, {4, 3}}), (QList{6, 6, 0}));
-    trigger("Fill");
-    QCOMPARE(f.at({{2, 1}, {4, 3}}), (QList{0xE0, 0}));
-    QCOMPARE(f.texts(), "Draw, Erase, Fill");
-    const auto forOthers = QApplication::clipboard()->mimeData()->imageData().value<QImage>();
-    QCOMPARE(forOthers.pixelColor(0, 0), QColor(Qt::red));
-    trigger("Paste");
-    QCOMPARE(f.canvas.mode(), Paste);
-    QVERIFY(!f.canvas.hasSelection());
-    QCOMPARE(indices(f.canvas.clipboardImage()), QByteArray("\xE0\0\0\0", 4));
-}
+    void interruptedDragsLoseNothing()
+    {
+        Fixture f;
+        f.mouse.press({1, 1});
+        f.canvas.setImage(plainImage(ImageSize, 0)); // of another tile
+        f.mouse.move({2, 1}, Qt::LeftButton);
+        f.mouse.release({2, 1});
+        QCOMPARE(f.texts(), "");
+        f.mouse.press({1, 1});
+        f.mouse.press({5, 5}, Qt::RightButton, Qt::LeftButton);
+        f.mouse.release({5, 5}, Qt::LeftButton, Qt::RightButton);
+        f.mouse.release({5, 5}, Qt::RightButton);
+        QCOMPARE(f.texts(), "Draw, Draw");
+        for (const ToolButton action : {Line, MoveUp}) {
+            f.canvas.setMode(Draw);
+            f.mouse.press({9, action == Line ? 9 : 8});
+            f.canvas.setMode(action);
+            f.mouse.move({3, 3}, Qt::LeftButton);
+            f.mouse.release({3, 3});
+        }
+        QCOMPARE(f.texts(), "Draw, Draw, Draw, Draw, Scroll");
+        f.run({Line, {}});
+        f.mouse.press({2, 2});
+        f.mouse.press({2, 2}, Qt::RightButton, Qt::LeftButton);
+        f.mouse.release({2, 2}, Qt::LeftButton, Qt::RightButton);
+        f.mouse.release({9, 9}, Qt::RightButton);
+        QCOMPARE(f.texts(), "Draw, Draw, Draw, Draw, Scroll, Line");
+    }
 
-void TestCanvas::survivesItsEndUnderTheMenu()
-{
-    const QPointer canvas(new Canvas(ImageSize));
-    canvas->resize(256, 192);
-    canvas->show();
-    canvas->setMode(Select);
-    QTimer::singleShot(0, canvas, &QObject::deleteLater);
-    QTest::mouseClick(canvas, Qt::RightButton, Qt::NoModifier, {20, 20});
-    QTRY_VERIFY(!canvas);
-}
+    void pickTakesInkAndPaper()
+    {
+        Fixture f;
+        SignalLog log;
+        log.listen(f.canvas, &Canvas::foregroundPicked, "fore");
+        log.listen(f.canvas, &Canvas::backgroundPicked, "back");
+        f.canvas.setInk(200);
+        f.run({RectangleFill, {{1, 1}, {3, 3}}});
+        QCOMPARE(f.canvas.cursorPixel(), QPoint(3, 3)); // where the pointer is, though the drag is over
+        f.canvas.setInk(1);
+        f.run({Pick, {{3, 3}}, Qt::RightButton});
+        f.run({Pick, {{3, 3}}});
+        f.run({Pick, {{-3, 3}}});
+        QCOMPARE(log.take(), (QStringList{"back 200", "fore 200"}));
+        QCOMPARE(f.canvas.ink(), 200);
+    }
 
-void TestCanvas::pasteIsCentredAndClipped()
-{
-    Fixture f;
-    QImage nine = plainImage({3, 3}, 0);
-    for (int i = 0; i < 9; ++i)
-        nine.setPixel(i % 3, i / 3, uint(20 + i));
-    CanvasClipboardContent content{0, Full256, f.palette.id(), nine};
-    QApplication::clipboard()->setMimeData(content.toMimeData());
-    f.canvas.paste();
-    f.mouse.drag({{0, 0}});
-    QCOMPARE(f.at({{0, 0}, {1, 0}, {2, 0}, {0, 1}, {1, 1}}), (QList{24, 25, 0, 27, 28}));
-    QCOMPARE(f.canvas.mode(), Paste);
-    content.paletteId = QUuid::createUuid();
-    QApplication::clipboard()->setMimeData(content.toMimeData());
-    QTest::ignoreMessage(QtInfoMsg, "Pasting to image with different palette");
-    f.canvas.setMode(Paste);
-}
+    void selectionStaysOnItsPixels()
+    {
+        Fixture f;
+        f.run({Select, {{2, 1}, {4, 4}}});
+        const QRect selected(2, 1, 2, 3);
+        QCOMPARE(f.canvas.selection(), selected);
+        f.canvas.setZoomLevel(1);
+        QCOMPARE(f.canvas.selection(), selected);
+        f.canvas.setZoomLevel(32);
+        QTest::keyClick(&f.canvas, Qt::Key_Right);
+        QCOMPARE(f.canvas.selection(), selected);
+        f.canvas.setHorizontalPosition(4); // as a scroll bar does
+        QCOMPARE(f.canvas.selection(), selected);
+        f.canvas.setZoomLevel(16);
+        f.canvas.selectAll();
+        QCOMPARE(f.canvas.selection(), QRect(QPoint(), ImageSize));
+        f.canvas.setMode(Draw);
+        QVERIFY(!f.canvas.hasSelection());
+    }
 
-void TestCanvas::otherProgramsPicturesArePastedOnRequest()
-{
-    Fixture f;
-    QImage picture(5000, 2, QImage::Format_RGB32);
-    picture.fill(Qt::blue);
-    picture.setPixelColor(1, 0, Qt::black);
-    QApplication::clipboard()->setImage(picture);
-    f.canvas.paste();
-    QCOMPARE(f.canvas.mode(), Draw);
-    f.canvas.setPictureColours(16, 16); // greens with more and more blue, four times four
-    f.canvas.paste();
-    QCOMPARE(f.canvas.mode(), Paste);
-    QCOMPARE(f.canvas.clipboardImage().size(), QSize(16, 2)); // as much as the image has room for
-    QCOMPARE(indices(f.canvas.clipboardImage()).left(3), QByteArray("\x13\x10\x13"));
-}
+    void menuActsOnTheSelection()
+    {
+        Fixture f;
+        const auto trigger = [&f](const QString &text) { EditorInput::trigger(*f.canvas.contextMenu(), text); };
+        f.canvas.setInk(0xE0);
+        f.canvas.setPaper(6);
+        f.mouse.drag({{2, 1}});
+        f.run({Select, {{2, 1}, {4, 3}}});
+        trigger("Copy");
+        QCOMPARE(f.texts(), "Draw");
+        trigger("Cut");
+        QCOMPARE(f.at({{2, 1}, {3, 2}, {4, 3}}), (QList{6, 6, 0}));
+        trigger("Fill");
+        QCOMPARE(f.at({{2, 1}, {4, 3}}), (QList{0xE0, 0}));
+        QCOMPARE(f.texts(), "Draw, Erase, Fill");
+        const auto forOthers = QApplication::clipboard()->mimeData()->imageData().value<QImage>();
+        QCOMPARE(forOthers.pixelColor(0, 0), QColor(Qt::red));
+        trigger("Paste");
+        QCOMPARE(f.canvas.mode(), Paste);
+        QVERIFY(!f.canvas.hasSelection());
+        QCOMPARE(indices(f.canvas.clipboardImage()), QByteArray("\xE0\0\0\0", 4));
+    }
 
-void TestCanvas::damagedClipboardIsRefused()
-{
-    const std::unique_ptr<QMimeData> good(
-        CanvasClipboardContent{0, Full256, QUuid(), plainImage({3, 3}, 20)}.toMimeData());
-    const QByteArray bytes = good->data("quenmora/canvas-anim");
-    const QByteArray unknownType = QByteArray(bytes).replace(4, 4, QByteArray("\x7f\0\0\0", 4));
-    const QByteArray vast = QByteArray(bytes).replace(24 + 16, 8, "\x7f\xff\xff\xff\x7f\xff\xff\xff");
-    Fixture f;
-    f.canvas.setPictureColours(0, 256);
-    for (const QByteArray &damaged :
-         {QByteArray(), bytes.left(10), bytes.left(24), bytes.left(40), unknownType, vast}) {
-        auto *mimeData = new QMimeData;
-        mimeData->setData("quenmora/canvas-anim", damaged);
-        mimeData->setImageData(plainImage({3, 3}, 0));
-        QApplication::clipboard()->setMimeData(mimeData);
+    void survivesItsEndUnderTheMenu()
+    {
+        const QPointer canvas(new Canvas(ImageSize));
+        canvas->resize(256, 192);
+        canvas->show();
+        canvas->setMode(Select);
+        QTimer::singleShot(0, canvas, &QObject::deleteLater);
+        QTest::mouseClick(canvas, Qt::RightButton, Qt::NoModifier, {20, 20});
+        QTRY_VERIFY(!canvas);
+    }
+
+    void pasteIsCentredAndClipped()
+    {
+        Fixture f;
+        QImage nine = plainImage({3, 3}, 0);
+        for (int i = 0; i < 9; ++i)
+            nine.setPixel(i % 3, i / 3, uint(20 + i));
+        CanvasClipboardContent content{0, Full256, f.palette.id(), nine};
+        QApplication::clipboard()->setMimeData(content.toMimeData());
+        f.canvas.paste();
+        f.mouse.drag({{0, 0}});
+        QCOMPARE(f.at({{0, 0}, {1, 0}, {2, 0}, {0, 1}, {1, 1}}), (QList{24, 25, 0, 27, 28}));
+        QCOMPARE(f.canvas.mode(), Paste);
+        content.paletteId = QUuid::createUuid();
+        QApplication::clipboard()->setMimeData(content.toMimeData());
+        QTest::ignoreMessage(QtInfoMsg, "Pasting to image with different palette");
+        f.canvas.setMode(Paste);
+    }
+
+    void otherProgramsPicturesArePastedOnRequest()
+    {
+        Fixture f;
+        QImage picture(5000, 2, QImage::Format_RGB32);
+        picture.fill(Qt::blue);
+        picture.setPixelColor(1, 0, Qt::black);
+        QApplication::clipboard()->setImage(picture);
         f.canvas.paste();
         QCOMPARE(f.canvas.mode(), Draw);
-        QVERIFY(f.canvas.clipboardImage().isNull());
+        f.canvas.setPictureColours(16, 16); // greens with more and more blue, four times four
+        f.canvas.paste();
+        QCOMPARE(f.canvas.mode(), Paste);
+        QCOMPARE(f.canvas.clipboardImage().size(), QSize(16, 2)); // as much as the image has room for
+        QCOMPARE(indices(f.canvas.clipboardImage()).left(3), QByteArray("\x13\x10\x13"));
     }
-}
 
-void TestCanvas::paintsImageAndPreviewInThePaletteColours()
-{
-    Fixture f;
-    f.canvas.setInk(255);
-    f.canvas.setMode(Line);
-    f.mouse.press({0, 0});
-    f.mouse.move({7, 0}, Qt::LeftButton);
-    QCOMPARE(f.shown({4, 0}), QColor(Qt::white));
-    QCOMPARE(f.texts(), "");
-    f.mouse.release({7, 0});
-    f.mouse.move({0, 9});
-    QCOMPARE(f.shown({0, 5}), QColor(Qt::black));
-    f.canvas.resize(100, 192);
-    f.canvas.setVerticalPosition(1);
-    QCOMPARE(f.shown({4, 0}), QColor(Qt::white));
-    f.palette.setRawColour(255, 0x1C00);
-    QCOMPARE(f.shown({4, 0}), QColor(0, 255, 0));
-    f.canvas.setMode(Grid, true);
-    QVERIFY(f.shown({4, 0}) != QColor(0, 255, 0));
-}
+    void damagedClipboardIsRefused()
+    {
+        const std::unique_ptr<QMimeData> good(
+            CanvasClipboardContent{0, Full256, QUuid(), plainImage({3, 3}, 20)}.toMimeData());
+        const QByteArray bytes = good->data("quenmora/canvas-anim");
+        const QByteArray unknownType = QByteArray(bytes).replace(4, 4, QByteArray("\x7f\0\0\0", 4));
+        const QByteArray vast = QByteArray(bytes).replace(24 + 16, 8, "\x7f\xff\xff\xff\x7f\xff\xff\xff");
+        Fixture f;
+        f.canvas.setPictureColours(0, 256);
+        for (const QByteArray &damaged :
+             {QByteArray(), bytes.left(10), bytes.left(24), bytes.left(40), unknownType, vast}) {
+            auto *mimeData = new QMimeData;
+            mimeData->setData("quenmora/canvas-anim", damaged);
+            mimeData->setImageData(plainImage({3, 3}, 0));
+            QApplication::clipboard()->setMimeData(mimeData);
+            f.canvas.paste();
+            QCOMPARE(f.canvas.mode(), Draw);
+            QVERIFY(f.canvas.clipboardImage().isNull());
+        }
+    }
 
-void TestCanvas::scrollBarsFollowTheCanvas()
-{
-    auto *canvas = new Canvas(ImageSize);
-    ScrollCanvas scroller(canvas);
-    scroller.resize(300, 110);
-    scroller.show();
-    auto bars = scroller.findChildren<QScrollBar *>();
-    if (bars[0]->orientation() == Qt::Horizontal)
-        bars.swapItemsAt(0, 1);
-    QVERIFY(bars[0]->isVisible());
-    QVERIFY(!bars[1]->isVisible());
-    QCOMPARE(bars[0]->maximum(), 6);
-    bars[0]->setValue(4);
-    QCOMPARE(canvas->geometryInWidget().scroll, QPoint(0, 4));
-    QTest::keyClick(canvas, Qt::Key_Down);
-    QCOMPARE(bars[0]->value(), 5);
-}
+    void paintsImageAndPreviewInThePaletteColours()
+    {
+        Fixture f;
+        f.canvas.setInk(255);
+        f.canvas.setMode(Line);
+        f.mouse.press({0, 0});
+        f.mouse.move({7, 0}, Qt::LeftButton);
+        QCOMPARE(f.shown({4, 0}), QColor(Qt::white));
+        QCOMPARE(f.texts(), "");
+        f.mouse.release({7, 0});
+        f.mouse.move({0, 9});
+        QCOMPARE(f.shown({0, 5}), QColor(Qt::black));
+        f.canvas.resize(100, 192);
+        f.canvas.setVerticalPosition(1);
+        QCOMPARE(f.shown({4, 0}), QColor(Qt::white));
+        f.palette.setRawColour(255, 0x1C00);
+        QCOMPARE(f.shown({4, 0}), QColor(0, 255, 0));
+        f.canvas.setMode(Grid, true);
+        QVERIFY(f.shown({4, 0}) != QColor(0, 255, 0));
+    }
+
+    void scrollBarsFollowTheCanvas()
+    {
+        auto *canvas = new Canvas(ImageSize);
+        ScrollCanvas scroller(canvas);
+        scroller.resize(300, 110);
+        scroller.show();
+        auto bars = scroller.findChildren<QScrollBar *>();
+        if (bars[0]->orientation() == Qt::Horizontal)
+            bars.swapItemsAt(0, 1);
+        QVERIFY(bars[0]->isVisible() && !bars[1]->isVisible());
+        QCOMPARE(bars[0]->maximum(), 6);
+        bars[0]->setValue(4);
+        QCOMPARE(canvas->geometryInWidget().scroll, QPoint(0, 4));
+        QTest::keyClick(canvas, Qt::Key_Down);
+        QCOMPARE(bars[0]->value(), 5);
+    }
+};
 
 QUENMORA_TEST_MAIN(TestCanvas)
 #include "tst_canvas.moc"

@@ -63,106 +63,100 @@ class TestLayer2Image : public QObject
     Q_OBJECT
 
 private slots:
-    void linesMatchTheFormula();
-    void rectanglesAreClipped();
-    void ellipsesAreSymmetricOutlines();
-    void floodFillStaysInItsRegion();
-    void takesOtherFormatsAsIndices();
-};
-
-void TestLayer2Image::linesMatchTheFormula()
-{
-    const QList<QPoint> example{{0, 0}, {1, 0}, {2, 1}, {3, 1}, {4, 2}, {5, 2}};
-    QCOMPARE(naiveLine({0, 0}, {5, 2}), where([&](QPoint pixel) { return example.contains(pixel); }));
-    QRandomGenerator random(Seed);
-    for (int i = 0; i < 2000; ++i) {
-        const QPoint from = randomPoint(random);
-        const QPoint to = i % 50 == 0 ? from : randomPoint(random);
-        if (drawn(&Layer2Image::drawLine, from, to) != naiveLine(from, to))
-            QFAIL(qPrintable(QDebug::toString(QLine(from, to))));
+    void linesMatchTheFormula()
+    {
+        const QList<QPoint> example{{0, 0}, {1, 0}, {2, 1}, {3, 1}, {4, 2}, {5, 2}};
+        QCOMPARE(naiveLine({0, 0}, {5, 2}), where([&](QPoint pixel) { return example.contains(pixel); }));
+        QRandomGenerator random(Seed);
+        for (int i = 0; i < 2000; ++i) {
+            const QPoint from = randomPoint(random);
+            const QPoint to = i % 50 == 0 ? from : randomPoint(random);
+            if (drawn(&Layer2Image::drawLine, from, to) != naiveLine(from, to))
+                QFAIL(qPrintable(QDebug::toString(QLine(from, to))));
+        }
     }
-}
 
-void TestLayer2Image::rectanglesAreClipped()
-{
-    QRandomGenerator random(Seed);
-    for (int i = 0; i < 500; ++i) {
-        const QRect rect(randomPoint(random), QSize(random.bounded(1, 45), random.bounded(1, 35)));
-        const QRect inner = rect.adjusted(1, 1, -1, -1);
-        QCOMPARE(drawn(&Layer2Image::drawRectangle, rect),
-                 where([&](QPoint p) { return rect.contains(p) && !(inner.isValid() && inner.contains(p)); }));
-        QCOMPARE(drawn(&Layer2Image::fillRectangle, rect, 1), where([&](QPoint p) { return rect.contains(p); }));
+    void rectanglesAreClipped()
+    {
+        QRandomGenerator random(Seed);
+        for (int i = 0; i < 500; ++i) {
+            const QRect rect(randomPoint(random), QSize(random.bounded(1, 45), random.bounded(1, 35)));
+            const QRect inner = rect.adjusted(1, 1, -1, -1);
+            QCOMPARE(drawn(&Layer2Image::drawRectangle, rect),
+                     where([&](QPoint p) { return rect.contains(p) && !(inner.isValid() && inner.contains(p)); }));
+            QCOMPARE(drawn(&Layer2Image::fillRectangle, rect, 1), where([&](QPoint p) { return rect.contains(p); }));
+        }
     }
-}
 
-void TestLayer2Image::ellipsesAreSymmetricOutlines()
-{
-    const std::pair<QRect, QList<QPoint>> examples[] = {
-        {{3, 4, 1, 1}, {{3, 4}}},
-        {{0, 0, 1, 3}, {{0, 0}, {0, 1}, {0, 2}}},
-        {{0, 0, 5, 3}, {{2, 0}, {1, 0}, {3, 0}, {0, 1}, {4, 1}, {1, 2}, {2, 2}, {3, 2}}},
-    };
-    for (const auto &example : examples)
-        QCOMPARE(drawn(&Layer2Image::drawEllipse, example.first),
-                 where([&](QPoint pixel) { return example.second.contains(pixel); }));
-    QRandomGenerator random(Seed);
-    for (int i = 0; i < 500; ++i) {
-        const QRect rect(0, 0, random.bounded(3, Area.width()), random.bounded(3, Area.height()));
-        const QByteArray pixels = drawn(&Layer2Image::drawEllipse, rect);
-        const auto at = [&](int x, int y) { return rect.contains(x, y) && pixels[y * Area.width() + x]; };
-        const double rx = (rect.width() - 1) / 2.0;
-        const double ry = (rect.height() - 1) / 2.0;
-        QVERIFY(where([&](QPoint p) { return at(rect.right() - p.x(), p.y()); }) == pixels);
-        QVERIFY(where([&](QPoint p) { return at(p.x(), rect.bottom() - p.y()); }) == pixels);
-        // Within a pixel of the ideal ellipse: one step inward lies inside it, one outward outside.
-        const QByteArray near = where([&](QPoint p) {
-            const auto beyond = [rx, ry, dx = std::abs(p.x() - rx), dy = std::abs(p.y() - ry)](double step) {
-                return std::hypot(std::max(0.0, dx + step) / rx, std::max(0.0, dy + step) / ry) - 1;
-            };
-            return beyond(-1) <= 0 && beyond(1) >= 0;
-        });
-        for (qsizetype p = 0; p < pixels.size(); ++p)
-            QVERIFY(near[p] || !pixels[p]);
-    }
-}
-
-void TestLayer2Image::floodFillStaysInItsRegion()
-{
-    QRandomGenerator random(Seed);
-    for (int i = 0; i < 50; ++i) {
-        Layer2Image layer(Area.size());
-        for (int p = 0; p < Area.width() * Area.height(); ++p)
-            layer.setPixel({p % Area.width(), p / Area.width()}, random.bounded(5) < 3 ? 0 : 2);
-        const QPoint start(random.bounded(Area.width()), random.bounded(Area.height()));
-        const int target = layer.pixelIndex(start);
-
-        QSet<QPoint> region;
-        const std::function<void(QPoint)> grow = [&](QPoint pixel) {
-            if (!Area.contains(pixel) || region.contains(pixel) || layer.pixelIndex(pixel) != target)
-                return;
-            region.insert(pixel);
-            for (const QPoint step : {QPoint(1, 0), QPoint(-1, 0), QPoint(0, 1), QPoint(0, -1)})
-                grow(pixel + step);
+    void ellipsesAreSymmetricOutlines()
+    {
+        const std::pair<QRect, QList<QPoint>> examples[] = {
+            {{3, 4, 1, 1}, {{3, 4}}},
+            {{0, 0, 1, 3}, {{0, 0}, {0, 1}, {0, 2}}},
+            {{0, 0, 5, 3}, {{2, 0}, {1, 0}, {3, 0}, {0, 1}, {4, 1}, {1, 2}, {2, 2}, {3, 2}}},
         };
-        grow(start);
-        layer.floodFill(start, 9);
-        QCOMPARE(where([&](QPoint p) { return layer.pixelIndex(p) == 9; }),
-                 where([&](QPoint p) { return region.contains(p); }));
+        for (const auto &[rect, set] : examples)
+            QCOMPARE(drawn(&Layer2Image::drawEllipse, rect), where([&set = set](QPoint p) { return set.contains(p); }));
+        QRandomGenerator random(Seed);
+        for (int i = 0; i < 500; ++i) {
+            const QRect rect(0, 0, random.bounded(3, Area.width()), random.bounded(3, Area.height()));
+            const QByteArray pixels = drawn(&Layer2Image::drawEllipse, rect);
+            const auto at = [&](int x, int y) { return rect.contains(x, y) && pixels[y * Area.width() + x]; };
+            const QPointF centre = QPointF(rect.width() - 1, rect.height() - 1) / 2;
+            QVERIFY(where([&](QPoint p) { return at(rect.right() - p.x(), p.y()); }) == pixels);
+            QVERIFY(where([&](QPoint p) { return at(p.x(), rect.bottom() - p.y()); }) == pixels);
+            // Within a pixel of the ideal ellipse: one step inward lies inside it, one outward outside.
+            const QByteArray near = where([&](QPoint p) {
+                const double dx = std::abs(p.x() - centre.x());
+                const double dy = std::abs(p.y() - centre.y());
+                const auto distance = [&](double step) {
+                    return std::hypot(std::max(0.0, dx + step) / centre.x(), std::max(0.0, dy + step) / centre.y());
+                };
+                return distance(-1) <= 1 && distance(1) >= 1;
+            });
+            for (qsizetype p = 0; p < pixels.size(); ++p)
+                QVERIFY(near[p] || !pixels[p]);
+        }
     }
-    for (const QPoint outside : {QPoint(-1, 0), QPoint(Area.width(), 0)})
-        QVERIFY(!drawn(&Layer2Image::floodFill, outside, 1).contains('\1'));
-}
 
-void TestLayer2Image::takesOtherFormatsAsIndices()
-{
-    QImage bits(Area.size(), QImage::Format_Mono);
-    bits.fill(1);
-    Layer2Image layer(Area.size());
-    layer.setImage(bits);
-    layer.setPixel({39, 29}, 200); // beyond the row of a one-bit picture
-    QCOMPARE(layer.pixelIndex({39, 29}), 200);
-    QCOMPARE(layer.pixelIndex({38, 29}), 1);
-}
+    void floodFillStaysInItsRegion()
+    {
+        QRandomGenerator random(Seed);
+        for (int i = 0; i < 50; ++i) {
+            Layer2Image layer(Area.size());
+            for (int p = 0; p < Area.width() * Area.height(); ++p)
+                layer.setPixel({p % Area.width(), p / Area.width()}, random.bounded(5) < 3 ? 0 : 2);
+            const QPoint start(random.bounded(Area.width()), random.bounded(Area.height()));
+            const int target = layer.pixelIndex(start);
+
+            QSet<QPoint> region;
+            const std::function<void(QPoint)> grow = [&](QPoint pixel) {
+                if (!Area.contains(pixel) || region.contains(pixel) || layer.pixelIndex(pixel) != target)
+                    return;
+                region.insert(pixel);
+                for (const QPoint step : {QPoint(1, 0), QPoint(-1, 0), QPoint(0, 1), QPoint(0, -1)})
+                    grow(pixel + step);
+            };
+            grow(start);
+            layer.floodFill(start, 9);
+            QCOMPARE(where([&](QPoint p) { return layer.pixelIndex(p) == 9; }),
+                     where([&](QPoint p) { return region.contains(p); }));
+        }
+        for (const QPoint outside : {QPoint(-1, 0), QPoint(Area.width(), 0)})
+            QVERIFY(!drawn(&Layer2Image::floodFill, outside, 1).contains('\1'));
+    }
+
+    void takesOtherFormatsAsIndices()
+    {
+        QImage bits(Area.size(), QImage::Format_Mono);
+        bits.fill(1);
+        Layer2Image layer(Area.size());
+        layer.setImage(bits);
+        layer.setPixel({39, 29}, 200); // beyond the row of a one-bit picture
+        QCOMPARE(layer.pixelIndex({39, 29}), 200);
+        QCOMPARE(layer.pixelIndex({38, 29}), 1);
+    }
+};
 
 QUENMORA_TEST_MAIN(TestLayer2Image)
 #include "tst_layer2image.moc"

@@ -49,9 +49,9 @@ struct Scene
     QUndoStack stack;
 
 protected:
+    Scene() { palette.loadStandardNext(); }
     void open()
     {
-        palette.loadStandardNext();
         editor().resize(600, 900);
         editor().show();
     }
@@ -184,307 +184,286 @@ class TestPixelEditor : public QObject
 
 private slots:
     void undoFindsTheElementOfAStroke_data() { addScenes(); }
-    void undoFindsTheElementOfAStroke();
+
+    void undoFindsTheElementOfAStroke()
+    {
+        const auto scene = fetchScene();
+        const auto pixels = [&scene] { return QList{scene->at(1, 5), scene->at(2, 6), scene->shown(5)}; };
+        scene->draw(1, 5);
+        QCOMPARE(pixels(), (QList{1, 0, 1}));
+        scene->stack.undo();
+        QCOMPARE(pixels(), (QList{0, 0, 0}));
+        scene->stack.redo();
+        QCOMPARE(pixels(), (QList{1, 0, 1}));
+        scene->draw(2, 6);
+        scene->stack.undo();
+        scene->stack.undo();
+        QCOMPARE(pixels(), (QList{0, 0, 0}));
+        scene->stack.redo();
+        QCOMPARE(pixels(), (QList{1, 0, 0})); // the other element is shown
+        QCOMPARE(scene->stack.count(), 2);
+    }
+
     void editsStayWithTheirElement_data() { addScenes(); }
-    void editsStayWithTheirElement();
+
+    void editsStayWithTheirElement()
+    {
+        const auto scene = fetchScene();
+        const EditorInput::Mouse mouse{scene->canvas()};
+        mouse.press({1, 1});
+        scene->show(1);
+        mouse.release({1, 1});
+        QCOMPARE(scene->stack.count(), 0);
+        QCOMPARE(scene->at(1, 1), 0);
+        scene->draw(0, 1);
+        scene->draw(1, 1);
+        for (const int element : {0, 0, 1, 0}) { // scrolls of one element merge
+            scene->show(element);
+            scene->canvas().setMode(MoveUp);
+        }
+        QCOMPARE(scene->stack.count(), 2 + 3);
+    }
+
     void toolPaletteKeysAndClipboardReachTheCanvas_data() { addScenes(); }
-    void toolPaletteKeysAndClipboardReachTheCanvas();
+
+    void toolPaletteKeysAndClipboardReachTheCanvas()
+    {
+        const auto scene = fetchScene();
+        auto *tools = scene->editor().findChild<ToolPalette *>();
+        QApplication::clipboard()->clear();
+        tools->action(Paste)->trigger();
+        QCOMPARE(tools->mode(), Draw); // there is nothing to paste
+        scene->target().selectAll();
+        scene->target().copy();
+        scene->target().paste();
+        QCOMPARE(tools->mode(), Paste);
+        tools->action(Fill)->trigger();
+        QCOMPARE(scene->canvas().mode(), Fill);
+        QApplication::clipboard()->setImage(plainPicture({2, 2}, Qt::blue));
+        scene->target().paste();
+        QCOMPARE(scene->canvas().clipboardImage().pixelIndex(0, 0), 3);
+        scene->editor().activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&scene->editor()));
+        scene->canvas().setFocus();
+        QTest::keyClick(&scene->canvas(), Qt::Key_X);
+        QCOMPARE(scene->canvas().ink(), 0);
+        QCOMPARE(scene->canvas().paper(), 1);
+    }
+
     void survivesItsAsset_data() { addScenes(); }
-    void survivesItsAsset();
 
-    void tileOffsetMovesThePixelsIntoItsBank();
-    void tileStructureReloadsTheTile();
-    void tileAttributesAreWritten();
-    void tileWindowShowsNameAndPalette();
-
-    void spriteListLaysOutCentredRows();
-    void spriteStructureEditsAskForOneUndoStep();
-    void spriteImagesAreCopiedAndPasted();
-
-    void imageViewsReopenExportAndTakeTheScratchPicture();
-    void imageImportsMapOntoThePalette();
-};
-
-// ---- All editors ----------------------------------------------------------------------------
-
-void TestPixelEditor::undoFindsTheElementOfAStroke()
-{
-    const auto scene = fetchScene();
-    const auto pixels = [&scene] { return QList{scene->at(1, 5), scene->at(2, 6), scene->shown(5)}; };
-    scene->draw(1, 5);
-    QCOMPARE(pixels(), (QList{1, 0, 1}));
-    scene->stack.undo();
-    QCOMPARE(pixels(), (QList{0, 0, 0}));
-    scene->stack.redo();
-    QCOMPARE(pixels(), (QList{1, 0, 1}));
-    scene->draw(2, 6);
-    scene->stack.undo();
-    scene->stack.undo();
-    QCOMPARE(pixels(), (QList{0, 0, 0}));
-    scene->stack.redo();
-    QCOMPARE(pixels(), (QList{1, 0, 0})); // the other element is shown
-    QCOMPARE(scene->stack.count(), 2);
-}
-
-void TestPixelEditor::editsStayWithTheirElement()
-{
-    const auto scene = fetchScene();
-    const EditorInput::Mouse mouse{scene->canvas()};
-    mouse.press({1, 1});
-    scene->show(1);
-    mouse.release({1, 1});
-    QCOMPARE(scene->stack.count(), 0);
-    QCOMPARE(scene->at(1, 1), 0);
-    scene->draw(0, 1);
-    scene->draw(1, 1);
-    for (const int element : {0, 0, 1, 0}) { // scrolls of one element merge
-        scene->show(element);
+    void survivesItsAsset()
+    {
+        const auto scene = fetchScene();
+        scene->draw(0, 3);
+        const EditorInput::Mouse mouse{scene->canvas()};
+        mouse.press({5, 5});
+        scene->destroy();
+        QVERIFY(!scene->canvas().isEnabled());
         scene->canvas().setMode(MoveUp);
+        scene->editor().grab();
+        scene->stack.undo();
+        mouse.release({5, 5});
+        scene->target().cut();
+        QCOMPARE(scene->stack.count(), 1);
     }
-    QCOMPARE(scene->stack.count(), 2 + 3);
-}
 
-void TestPixelEditor::toolPaletteKeysAndClipboardReachTheCanvas()
-{
-    const auto scene = fetchScene();
-    auto *tools = scene->editor().findChild<ToolPalette *>();
-    QApplication::clipboard()->clear();
-    tools->action(Paste)->trigger();
-    QCOMPARE(tools->mode(), Draw); // there is nothing to paste
-    scene->target().selectAll();
-    scene->target().copy();
-    scene->target().paste();
-    QCOMPARE(tools->mode(), Paste);
-    tools->action(Fill)->trigger();
-    QCOMPARE(scene->canvas().mode(), Fill);
-    QApplication::clipboard()->setImage(plainPicture({2, 2}, Qt::blue));
-    scene->target().paste();
-    QCOMPARE(scene->canvas().clipboardImage().pixelIndex(0, 0), 3);
-    scene->editor().activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&scene->editor()));
-    scene->canvas().setFocus();
-    QTest::keyClick(&scene->canvas(), Qt::Key_X);
-    QCOMPARE(scene->canvas().ink(), 0);
-    QCOMPARE(scene->canvas().paper(), 1);
-}
-
-void TestPixelEditor::survivesItsAsset()
-{
-    const auto scene = fetchScene();
-    scene->draw(0, 3);
-    const EditorInput::Mouse mouse{scene->canvas()};
-    mouse.press({5, 5});
-    scene->destroy();
-    QVERIFY(!scene->canvas().isEnabled());
-    scene->canvas().setMode(MoveUp);
-    scene->editor().grab();
-    scene->stack.undo();
-    mouse.release({5, 5});
-    scene->target().cut();
-    QCOMPARE(scene->stack.count(), 1);
-}
-
-// ---- Tiles ----------------------------------------------------------------------------------
-
-void TestPixelEditor::tileOffsetMovesThePixelsIntoItsBank()
-{
-    TileScene scene;
-    const auto boxes = scene.window.findChildren<QSpinBox *>();
-    QSpinBox *offset =
-        *std::find_if(boxes.begin(), boxes.end(), [](const QSpinBox *box) { return box->maximum() == 16; });
-    scene.draw(0, 1);
-    scene.canvas().setImageType(Full256);
-    scene.canvas().remap(3);
-    QCOMPARE(scene.shown(1), 1); // only images of 16 colours have banks
-    scene.canvas().setImageType(Offset16);
-    offset->setValue(3);
-    QCOMPARE(scene.tiles->tileOffset(0), 2);
-    QCOMPARE(scene.stack.count(), 1);
-    scene.draw(0, 2);
-    scene.draw(1, 2);
-    scene.tiles->setTileOffset(2, std::numeric_limits<int>::max()); // as a file may have it
-    scene.draw(2, 1);
-    QCOMPARE(offset->value(), 16);
-    const QList pixels{scene.at(0, 0), scene.at(0, 1), scene.at(0, 2), scene.at(1, 2), scene.at(2, 1)};
-    QCOMPARE(pixels, (QList{0x20, 0x21, 0x21, 1, 0xF1}));
-}
-
-void TestPixelEditor::tileStructureReloadsTheTile()
-{
-    TileScene scene;
-    QSignalSpy changed(scene.tiles.get(), &TileSet::tileChanged);
-    scene.draw(7, 1);
-    QCOMPARE(changed, (QList<QVariantList>{{7}}));
-    scene.tiles->moveTile(7, 0);
-    QCOMPARE(scene.shown(1), 0);
-    scene.tiles->deleteTile(3);
-    QCOMPARE(scene.window.tileIndex(), 6);
-    const auto before = scene.tiles->snapshot();
-    scene.stack.undo(); // of a tile that is no more
-    QCOMPARE(scene.tiles->snapshot(), before);
-    scene.show(0);
-    QCOMPARE(scene.shown(1), 1);
-    scene.tiles->deleteTile(0);
-    QCOMPARE(scene.shown(1), 0);
-    scene.tiles->restore(before);
-    QCOMPARE(scene.shown(1), 1);
-}
-
-void TestPixelEditor::tileAttributesAreWritten()
-{
-    TileScene scene;
-    const auto box = [&scene](const QString &text) {
-        return qobject_cast<QCheckBox *>(EditorInput::button(scene.window, text));
-    };
-    const auto attributes = [&scene](int tile) { return scene.tiles->tile(tile)->attributes(); };
-    scene.show(2);
-    box("Solid on all edges")->click();
-    QCOMPARE(attributes(2), int(Tile::TA_SOLID));
-    box("Solid top")->click();
-    box("Deadly")->click();
-    QCOMPARE(attributes(2), 0x1E);
-    QCOMPARE(box("Solid on all edges")->checkState(), Qt::PartiallyChecked);
-    scene.show(0);
-    QVERIFY(!box("Deadly")->isChecked());
-    QCOMPARE(attributes(0), 0);
-}
-
-void TestPixelEditor::tileWindowShowsNameAndPalette()
-{
-    TileScene scene;
-    QSignalSpy states(&scene.window, &TileWindow::activeStateChanged);
-    scene.tiles->setName("Cave");
-    QCOMPARE(scene.window.windowTitle(), "Cave");
-    QCOMPARE(scene.canvas().palette(), &scene.palette);
-    Palette other;
-    scene.window.setPalette(&other);
-    QCOMPARE(scene.tiles->palette().data(), &other);
-    QCOMPARE(scene.canvas().image().colorTable(), other.colourTable());
-    scene.destroy();
-    QCOMPARE(states, (QList<QVariantList>{{false}}));
-}
-
-// ---- Sprites --------------------------------------------------------------------------------
-
-void TestPixelEditor::spriteListLaysOutCentredRows()
-{
-    SpriteScene scene;
-    SpriteList list;
-    list.setSprites(scene.bank.get());
-    list.resize(150, list.heightForWidth(150));
-    QCOMPARE(list.size(), QSize(150, 96));
-    QCOMPARE(list.cellRect(3), QRect(3, 48, 48, 48));
-    const std::pair<QPoint, int> hits[] = {{{2, 5}, -1}, {{3, 5}, 0}, {{148, 5}, -1}, {{3, 50}, 3}, {{60, 50}, -1}};
-    for (const auto &[point, index] : hits)
-        QCOMPARE(list.indexAt(point), index);
-}
-
-void TestPixelEditor::spriteStructureEditsAskForOneUndoStep()
-{
-    const struct
+    void tileOffsetMovesThePixelsIntoItsBank()
     {
-        std::function<void(SpriteScene &)> edit;
-        QString text;
-        QByteArray sprites;
-    } edits[] = {
-        {[](auto &scene) { scene.click(3); }, "Add Sprite", QByteArray("\1\2\3\0", 4)},
-        {[](auto &scene) { scene.trigger(0, "Delete"); }, "Delete Sprite", QByteArray("\2\3", 2)},
-        {[](auto &scene) { scene.trigger(0, "Clear"); }, "Clear Sprite", QByteArray("\0\2\3", 3)},
-        {[](auto &scene) { scene.drop(0, 2, Qt::ShiftModifier); }, "Copy Sprite", QByteArray("\1\2\1", 3)},
-        {[](auto &scene) { scene.drop(0, 2, Qt::NoModifier); }, "Move Sprite", QByteArray("\2\3\1", 3)},
-        {[](auto &scene) { scene.drop(1, 1, Qt::NoModifier); }, "Move Sprite", QByteArray("\1\2\3", 3)},
-        {[](auto &scene) { scene.drop(1, 2, Qt::ControlModifier); }, {}, QByteArray("\1\2\3", 3)},
-    };
-    for (const auto &[edit, text, sprites] : edits) {
+        TileScene scene;
+        const auto boxes = scene.window.findChildren<QSpinBox *>();
+        QSpinBox *offset =
+            *std::find_if(boxes.begin(), boxes.end(), [](const QSpinBox *box) { return box->maximum() == 16; });
+        scene.draw(0, 1);
+        scene.canvas().setImageType(Full256);
+        scene.canvas().remap(3);
+        QCOMPARE(scene.shown(1), 1); // only images of 16 colours have banks
+        scene.canvas().setImageType(Offset16);
+        offset->setValue(3);
+        QCOMPARE(scene.tiles->tileOffset(0), 2);
+        QCOMPARE(scene.stack.count(), 1);
+        scene.draw(0, 2);
+        scene.draw(1, 2);
+        scene.tiles->setTileOffset(2, std::numeric_limits<int>::max()); // as a file may have it
+        scene.draw(2, 1);
+        QCOMPARE(offset->value(), 16);
+        const QList pixels{scene.at(0, 0), scene.at(0, 1), scene.at(0, 2), scene.at(1, 2), scene.at(2, 1)};
+        QCOMPARE(pixels, (QList{0x20, 0x21, 0x21, 1, 0xF1}));
+    }
+
+    void tileStructureReloadsTheTile()
+    {
+        TileScene scene;
+        QSignalSpy changed(scene.tiles.get(), &TileSet::tileChanged);
+        scene.draw(7, 1);
+        QCOMPARE(changed, (QList<QVariantList>{{7}}));
+        scene.tiles->moveTile(7, 0);
+        QCOMPARE(scene.shown(1), 0);
+        scene.tiles->deleteTile(3);
+        QCOMPARE(scene.window.tileIndex(), 6);
+        const auto before = scene.tiles->snapshot();
+        scene.stack.undo(); // of a tile that is no more
+        QCOMPARE(scene.tiles->snapshot(), before);
+        scene.show(0);
+        QCOMPARE(scene.shown(1), 1);
+        scene.tiles->deleteTile(0);
+        QCOMPARE(scene.shown(1), 0);
+        scene.tiles->restore(before);
+        QCOMPARE(scene.shown(1), 1);
+    }
+
+    void tileAttributesAreWritten()
+    {
+        TileScene scene;
+        const auto box = [&scene](const QString &text) {
+            return qobject_cast<QCheckBox *>(EditorInput::button(scene.window, text));
+        };
+        const auto attributes = [&scene](int tile) { return scene.tiles->tile(tile)->attributes(); };
+        scene.show(2);
+        box("Solid on all edges")->click();
+        QCOMPARE(attributes(2), int(Tile::TA_SOLID));
+        box("Solid top")->click();
+        box("Deadly")->click();
+        QCOMPARE(attributes(2), 0x1E);
+        QCOMPARE(box("Solid on all edges")->checkState(), Qt::PartiallyChecked);
+        scene.show(0);
+        QVERIFY(!box("Deadly")->isChecked());
+        QCOMPARE(attributes(0), 0);
+    }
+
+    void tileWindowShowsNameAndPalette()
+    {
+        TileScene scene;
+        QSignalSpy states(&scene.window, &TileWindow::activeStateChanged);
+        scene.tiles->setName("Cave");
+        QCOMPARE(scene.window.windowTitle(), "Cave");
+        QCOMPARE(scene.canvas().palette(), &scene.palette);
+        Palette other;
+        scene.window.setPalette(&other);
+        QCOMPARE(scene.tiles->palette().data(), &other);
+        QCOMPARE(scene.canvas().image().colorTable(), other.colourTable());
+        scene.destroy();
+        QCOMPARE(states, (QList<QVariantList>{{false}}));
+    }
+
+    void spriteListLaysOutCentredRows()
+    {
         SpriteScene scene;
-        for (int i = 0; i < 3; ++i)
-            scene.bank->setImage(i, plainImage({16, 16}, i + 1));
-        SignalLog log;
-        log.listen(*scene.bank, &SpriteBank::structureAboutToChange, "begun");
-        log.listen(*scene.bank, &SpriteBank::structureChanged, "ended");
-        edit(scene);
-        QCOMPARE(log.take(), text.isEmpty() ? QStringList() : (QStringList{"begun", "ended " + text}));
-        QCOMPARE(scene.sprites(), sprites);
-        QCOMPARE(scene.shown(5), int(sprites[0]));
+        SpriteList list;
+        list.setSprites(scene.bank.get());
+        list.resize(150, list.heightForWidth(150));
+        QCOMPARE(list.size(), QSize(150, 96));
+        QCOMPARE(list.cellRect(3), QRect(3, 48, 48, 48));
+        const std::pair<QPoint, int> hits[] = {{{2, 5}, -1}, {{3, 5}, 0}, {{148, 5}, -1}, {{3, 50}, 3}, {{60, 50}, -1}};
+        for (const auto &[point, index] : hits)
+            QCOMPARE(list.indexAt(point), index);
     }
-}
 
-void TestPixelEditor::spriteImagesAreCopiedAndPasted()
-{
-    SpriteScene scene;
-    scene.canvas().setMode(Fill);
-    scene.draw(1, 8);
-    scene.trigger(1, "Copy Image");
-    const auto content = CanvasClipboardContent::fromMimeData(QApplication::clipboard()->mimeData());
-    QCOMPARE(content.imageType, Offset16);
-    QCOMPARE(content.paletteId, scene.palette.id());
-    scene.trigger(2, "Paste Image");
-    QCOMPARE(scene.sprites(), QByteArray("\0\1\1", 3));
-    QApplication::clipboard()->setImage(plainPicture({100, 6}, Qt::blue));
-    scene.trigger(0, "Paste Image");
-    QCOMPARE(scene.at(0, 5), 3);
-    QCOMPARE(scene.at(0, 6), 0); // what the picture does not cover is black
-}
-
-// ---- Images ---------------------------------------------------------------------------------
-
-void TestPixelEditor::imageViewsReopenExportAndTakeTheScratchPicture()
-{
-    ImageScene scene;
-    scene.draw(0, 5);
-    scene.reopen();
-    QCOMPARE(scene.shown(5), 1);
-    scene.stack.undo();
-    QCOMPARE(scene.shown(5), 0);
-    QSignalSpy errors(scene.view.get(), &View::error);
-    scene.canvas().setInk(0xE0);
-    scene.draw(0, 6);
-    scene.choose(Save, "out.png");
-    QCOMPARE(QImage(scene.file("out.png")).pixelColor(6, 6), QColor(Qt::red));
-    scene.choose(Save, "no/such/folder/out.png");
-    QCOMPARE(errors.count(), 1);
-    QSignalSpy changes(scene.view.get(), &View::imageChanged);
-    scene.view->setImage(nullptr);
-    scene.view->setPixels(plainImage({256, 192}, 3)); // the scratch picture
-    scene.view->setPalette(&scene.palette);
-    QVERIFY(changes.isEmpty());
-    EditorInput::Mouse{scene.canvas()}.drag({{5, 5}});
-    QCOMPARE(changes.count(), 1);
-    QCOMPARE(changes[0][0].value<QImage>().pixelIndex(5, 5), 0xE0);
-}
-
-void TestPixelEditor::imageImportsMapOntoThePalette()
-{
-    const struct
+    void spriteStructureEditsAskForOneUndoStep()
     {
-        Quenmora::ImageMode mode;
-        bool scaled;
-        int corner, farCorner;
-    } cases[] = {
-        {Quenmora::LoRes_128x96, false, 0xE0, 5},
-        {Quenmora::LoRes_128x96, true, 0xE0, 0xE0},
-        {Quenmora::Layer2_640x256, true, 0, 0}, // black comes nearest to red among the first 16 entries
-    };
-    for (const auto &[mode, scaled, corner, farCorner] : cases) {
-        ImageScene scene(mode);
-        QSignalSpy errors(scene.view.get(), &View::error);
-        QVERIFY(writeFile(scene.file("nonsense.png"), "not a picture"));
-        scene.choose(Open, "nonsense.png");
-        QCOMPARE(errors, (QList<QVariantList>{{"Could not read the image file"}}));
-        const QSize size = scene.stored(0).size();
-        scene.images[0]->setImage(plainImage(size, 5));
-        QVERIFY(plainPicture({40, 30}, Qt::red).save(scene.file("in.png")));
-        scene.choose(Open, "in.png");
-        auto *dialog = scene.view->findChild<ImageEditor::ImportDialog *>();
-        dialog->findChild<QCheckBox *>()->setChecked(scaled);
-        dialog->accept();
-        QCOMPARE(scene.at(0, 0), corner);
-        QCOMPARE(scene.stored(0).pixelIndex(size.width() - 1, size.height() - 1), farCorner);
-        scene.stack.undo();
-        QCOMPARE(scene.at(0, 0), 5);
-        QVERIFY(!scene.stack.canUndo());
+        const struct
+        {
+            std::function<void(SpriteScene &)> edit;
+            QString text;
+            QByteArray sprites;
+        } edits[] = {
+            {[](auto &scene) { scene.click(3); }, "Add Sprite", QByteArray("\1\2\3\0", 4)},
+            {[](auto &scene) { scene.trigger(0, "Delete"); }, "Delete Sprite", QByteArray("\2\3", 2)},
+            {[](auto &scene) { scene.trigger(0, "Clear"); }, "Clear Sprite", QByteArray("\0\2\3", 3)},
+            {[](auto &scene) { scene.drop(0, 2, Qt::ShiftModifier); }, "Copy Sprite", QByteArray("\1\2\1", 3)},
+            {[](auto &scene) { scene.drop(0, 2, Qt::NoModifier); }, "Move Sprite", QByteArray("\2\3\1", 3)},
+            {[](auto &scene) { scene.drop(1, 1, Qt::NoModifier); }, "Move Sprite", QByteArray("\1\2\3", 3)},
+            {[](auto &scene) { scene.drop(1, 2, Qt::ControlModifier); }, {}, QByteArray("\1\2\3", 3)},
+        };
+        for (const auto &[edit, text, sprites] : edits) {
+            SpriteScene scene;
+            for (int i = 0; i < 3; ++i)
+                scene.bank->setImage(i, plainImage({16, 16}, i + 1));
+            SignalLog log;
+            log.listen(*scene.bank, &SpriteBank::structureAboutToChange, "begun");
+            log.listen(*scene.bank, &SpriteBank::structureChanged, "ended");
+            edit(scene);
+            QCOMPARE(log.take(), text.isEmpty() ? QStringList() : (QStringList{"begun", "ended " + text}));
+            QCOMPARE(scene.sprites(), sprites);
+            QCOMPARE(scene.shown(5), int(sprites[0]));
+        }
     }
-}
+
+    void spriteImagesAreCopiedAndPasted()
+    {
+        SpriteScene scene;
+        scene.canvas().setMode(Fill);
+        scene.draw(1, 8);
+        scene.trigger(1, "Copy Image");
+        const auto content = CanvasClipboardContent::fromMimeData(QApplication::clipboard()->mimeData());
+        QCOMPARE(content.imageType, Offset16);
+        QCOMPARE(content.paletteId, scene.palette.id());
+        scene.trigger(2, "Paste Image");
+        QCOMPARE(scene.sprites(), QByteArray("\0\1\1", 3));
+        QApplication::clipboard()->setImage(plainPicture({100, 6}, Qt::blue));
+        scene.trigger(0, "Paste Image");
+        QCOMPARE(scene.at(0, 5), 3);
+        QCOMPARE(scene.at(0, 6), 0); // what the picture does not cover is black
+    }
+
+    void imageViewsReopenExportAndTakeTheScratchPicture()
+    {
+        ImageScene scene;
+        scene.draw(0, 5);
+        scene.reopen();
+        QCOMPARE(scene.shown(5), 1);
+        scene.stack.undo();
+        QCOMPARE(scene.shown(5), 0);
+        QSignalSpy errors(scene.view.get(), &View::error);
+        scene.canvas().setInk(0xE0);
+        scene.draw(0, 6);
+        scene.choose(Save, "out.png");
+        QCOMPARE(QImage(scene.file("out.png")).pixelColor(6, 6), QColor(Qt::red));
+        scene.choose(Save, "no/such/folder/out.png");
+        QCOMPARE(errors.count(), 1);
+        QSignalSpy changes(scene.view.get(), &View::imageChanged);
+        scene.view->setImage(nullptr);
+        scene.view->setPixels(plainImage({256, 192}, 3)); // the scratch picture
+        scene.view->setPalette(&scene.palette);
+        QVERIFY(changes.isEmpty());
+        EditorInput::Mouse{scene.canvas()}.drag({{5, 5}});
+        QCOMPARE(changes.count(), 1);
+        QCOMPARE(changes[0][0].value<QImage>().pixelIndex(5, 5), 0xE0);
+    }
+
+    void imageImportsMapOntoThePalette()
+    {
+        const struct
+        {
+            Quenmora::ImageMode mode;
+            bool scaled;
+            int corner, farCorner;
+        } cases[] = {
+            {Quenmora::LoRes_128x96, false, 0xE0, 5},
+            {Quenmora::LoRes_128x96, true, 0xE0, 0xE0},
+            {Quenmora::Layer2_640x256, true, 0, 0}, // black comes nearest to red among the first 16 entries
+        };
+        for (const auto &[mode, scaled, corner, farCorner] : cases) {
+            ImageScene scene(mode);
+            QSignalSpy errors(scene.view.get(), &View::error);
+            QVERIFY(writeFile(scene.file("nonsense.png"), "not a picture"));
+            scene.choose(Open, "nonsense.png");
+            QCOMPARE(errors, (QList<QVariantList>{{"Could not read the image file"}}));
+            const QSize size = scene.stored(0).size();
+            scene.images[0]->setImage(plainImage(size, 5));
+            QVERIFY(plainPicture({40, 30}, Qt::red).save(scene.file("in.png")));
+            scene.choose(Open, "in.png");
+            auto *dialog = scene.view->findChild<ImageEditor::ImportDialog *>();
+            dialog->findChild<QCheckBox *>()->setChecked(scaled);
+            dialog->accept();
+            QCOMPARE(scene.at(0, 0), corner);
+            QCOMPARE(scene.stored(0).pixelIndex(size.width() - 1, size.height() - 1), farCorner);
+            scene.stack.undo();
+            QCOMPARE(scene.at(0, 0), 5);
+            QVERIFY(!scene.stack.canUndo());
+        }
+    }
+};
 
 QUENMORA_TEST_MAIN(TestPixelEditor)
 #include "tst_pixeleditor.moc"

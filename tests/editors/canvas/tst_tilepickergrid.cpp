@@ -44,126 +44,119 @@ class TestTilePickerGrid : public QObject
     Q_OBJECT
 
 private slots:
-    void rowsFillTheWidth();
-    void clicksSelectAndOpen();
-    void magnificationFollowsWheelAndMenu();
-    void menuEditsTheTileUnderThePointer();
-    void dropMovesOrCopies();
-    void dockScrollsAndSurvivesItsTileSet();
-};
-
-void TestTilePickerGrid::rowsFillTheWidth()
-{
-    Fixture f;
-    QCOMPARE(f.grid.cellRect(4), QRect(16, 16, 16, 16));
-    const std::pair<QPoint, int> hits[] = {{{17, 17}, 4}, {{49, 0}, -1}, {{-1, 0}, -1}, {{17, 33}, -1}};
-    for (const auto &[point, index] : hits)
-        QCOMPARE(f.grid.indexAt(point), index);
-    const QImage shown = f.grid.grab().toImage();
-    const QRgb blue = f.palette.colourTable()[1];
-    const QList drawn{shown.pixel(16, 0), shown.pixel(30, 14), shown.pixel(31, 0), shown.pixel(16, 15)};
-    QCOMPARE(drawn, (QList{blue, blue, qRgb(0, 0, 0), qRgb(0, 0, 0)})); // with gaps
-    QCOMPARE(f.grid.heightForWidth(48), 3 * 16);
-    QCOMPARE(f.grid.heightForWidth(5), 8 * 16);
-    f.grid.setTileSet(nullptr);
-    QCOMPARE(f.grid.heightForWidth(50), 32);
-}
-
-void TestTilePickerGrid::clicksSelectAndOpen()
-{
-    Fixture f;
-    QSignalSpy selections(&f.grid, &TilePickerGrid::selectedIndexChanged);
-    QSignalSpy opened(&f.grid, &TilePickerGrid::itemDoubleClicked);
-    for (const QPoint point : {QPoint(17, 17), QPoint(18, 18), QPoint(49, 0)})
-        f.click(point);
-    f.grid.setSelectedIndex(2);
-    QTest::keyClick(&f.grid, Qt::Key_Down);
-    QTest::keyClick(&f.grid, Qt::Key_Down); // there is no tile below
-    QCOMPARE(selections, (QList<QVariantList>{{4}, {5}}));
-    QTest::mouseDClick(&f.grid, Qt::LeftButton, Qt::NoModifier, {17, 17});
-    QCOMPARE(opened, (QList<QVariantList>{{5}}));
-}
-
-void TestTilePickerGrid::magnificationFollowsWheelAndMenu()
-{
-    Fixture f;
-    const auto checked = [&f] {
-        QString texts;
-        for (const QAction *action : f.grid.magnificationActions())
-            texts += action->isChecked() ? action->text() : QString();
-        return texts;
-    };
-    QCOMPARE(checked(), QStringLiteral("2x"));
-    EditorInput::zoomByWheel(f.grid, 120);
-    QCOMPARE(f.grid.magnification(), 3);
-    QCOMPARE(checked(), QString());
-    f.trigger("16x");
-    EditorInput::zoomByWheel(f.grid, 120);
-    f.trigger("16x");
-    QCOMPARE(checked(), QStringLiteral("16x"));
-    f.trigger("1x");
-    f.trigger("Zoom Out");
-    QCOMPARE(checked(), QStringLiteral("1x"));
-}
-
-void TestTilePickerGrid::menuEditsTheTileUnderThePointer()
-{
-    Fixture f;
-    f.click(f.grid.cellRect(5).center(), Qt::RightButton);
-    f.trigger("Paste Image"); // nothing was copied yet
-    f.trigger("Copy Image");
-    f.click(f.grid.cellRect(2).center(), Qt::RightButton);
-    f.trigger("Paste Image");
-    QCOMPARE(f.numbers(), QByteArray("\0\1\5\3\4\5\6", 7));
-    f.trigger("Clear");
-    f.trigger("Insert");
-    QCOMPARE(f.numbers(), QByteArray("\0\1\0\0\3\4\5\6", 8));
-    f.trigger("Delete");
-    f.trigger("Delete");
-    f.click({49, 0}, Qt::RightButton);
-    f.trigger("Delete");
-    QCOMPARE(f.numbers(), QByteArray("\0\1\3\4\5\6", 6));
-}
-
-void TestTilePickerGrid::dropMovesOrCopies()
-{
-    Fixture f;
-    const auto drop = [&f](int from, int to, Qt::KeyboardModifiers modifiers, QMimeData *mimeData) {
-        const std::unique_ptr<QMimeData> data(mimeData);
-        EditorInput::drop(f.grid, f.grid.cellRect(from).center(), f.grid.cellRect(to).center(), *data, modifiers);
-    };
-    drop(1, 3, Qt::ShiftModifier, TileDrag{1, 0}.toMimeData());
-    QCOMPARE(f.numbers(), QByteArray("\0\1\2\1\4\5\6", 7));
-    drop(0, 2, Qt::NoModifier, TileDrag{0, 0}.toMimeData());
-    drop(0, 6, Qt::NoModifier, SpriteDrag{0}.toMimeData()); // foreign
-    QCOMPARE(f.numbers(), QByteArray("\1\2\0\1\4\5\6", 7));
-    const std::unique_ptr<QMimeData> data(TileDrag{300, 5}.toMimeData());
-    QCOMPARE(data->data(TileDrag::mimeType()), QByteArray("\0\0\x01\x2c\0\0\0\x05", 8));
-    data->setData(TileDrag::mimeType(), QByteArray("\0\0\x01\x2c", 4));
-    QVERIFY(!TileDrag::fromMimeData(data.get())); // cut
-}
-
-void TestTilePickerGrid::dockScrollsAndSurvivesItsTileSet()
-{
-    TilePickerTool dock;
-    dock.resize(200, 150);
-    dock.show();
-    QSignalSpy selected(&dock, &TilePickerTool::selectedTileChanged);
+    void rowsFillTheWidth()
     {
-        TileSet tiles(512);
-        dock.setTileSet(&tiles);
-        QVERIFY(dock.isActive());
-        dock.setSelectedIndex(500);
-        QVERIFY(dock.grid()->visibleRegion().intersects(dock.grid()->cellRect(500)));
-        QTest::mousePress(dock.grid(), Qt::LeftButton, Qt::NoModifier, {3, 3});
+        Fixture f;
+        QCOMPARE(f.grid.cellRect(4), QRect(16, 16, 16, 16));
+        const std::pair<QPoint, int> hits[] = {{{17, 17}, 4}, {{49, 0}, -1}, {{-1, 0}, -1}, {{17, 33}, -1}};
+        for (const auto &[point, index] : hits)
+            QCOMPARE(f.grid.indexAt(point), index);
+        const QImage shown = f.grid.grab().toImage();
+        const QRgb blue = f.palette.colourTable()[1];
+        const QList drawn{shown.pixel(16, 0), shown.pixel(30, 14), shown.pixel(31, 0), shown.pixel(16, 15)};
+        QCOMPARE(drawn, (QList{blue, blue, qRgb(0, 0, 0), qRgb(0, 0, 0)})); // with gaps
+        QCOMPARE(f.grid.heightForWidth(48), 3 * 16);
+        QCOMPARE(f.grid.heightForWidth(5), 8 * 16);
+        f.grid.setTileSet(nullptr);
+        QCOMPARE(f.grid.heightForWidth(50), 32);
     }
-    QVERIFY(!dock.isActive());
-    QTest::mouseMove(dock.grid(), {9, 9});
-    QTest::mouseRelease(dock.grid(), Qt::LeftButton, Qt::NoModifier, {9, 9});
-    dock.grid()->grab();
-    QCOMPARE(dock.grid()->selectedIndex(), -1);
-    QVERIFY(selected.isEmpty());
-}
+
+    void clicksSelectAndOpen()
+    {
+        Fixture f;
+        QSignalSpy selections(&f.grid, &TilePickerGrid::selectedIndexChanged);
+        QSignalSpy opened(&f.grid, &TilePickerGrid::itemDoubleClicked);
+        for (const QPoint point : {QPoint(17, 17), QPoint(18, 18), QPoint(49, 0)})
+            f.click(point);
+        f.grid.setSelectedIndex(2);
+        QTest::keyClick(&f.grid, Qt::Key_Down);
+        QTest::keyClick(&f.grid, Qt::Key_Down); // there is no tile below
+        QCOMPARE(selections, (QList<QVariantList>{{4}, {5}}));
+        QTest::mouseDClick(&f.grid, Qt::LeftButton, Qt::NoModifier, {17, 17});
+        QCOMPARE(opened, (QList<QVariantList>{{5}}));
+    }
+
+    void magnificationFollowsWheelAndMenu()
+    {
+        Fixture f;
+        const auto checked = [&f] {
+            QString texts;
+            for (const QAction *action : f.grid.magnificationActions())
+                texts += action->isChecked() ? action->text() : QString();
+            return texts;
+        };
+        QCOMPARE(checked(), QStringLiteral("2x"));
+        EditorInput::zoomByWheel(f.grid, 120);
+        QCOMPARE(f.grid.magnification(), 3);
+        QCOMPARE(checked(), QString());
+        f.trigger("16x");
+        EditorInput::zoomByWheel(f.grid, 120);
+        f.trigger("16x");
+        QCOMPARE(checked(), QStringLiteral("16x"));
+        f.trigger("1x");
+        f.trigger("Zoom Out");
+        QCOMPARE(checked(), QStringLiteral("1x"));
+    }
+
+    void menuEditsTheTileUnderThePointer()
+    {
+        Fixture f;
+        f.click(f.grid.cellRect(5).center(), Qt::RightButton);
+        f.trigger("Paste Image"); // nothing was copied yet
+        f.trigger("Copy Image");
+        f.click(f.grid.cellRect(2).center(), Qt::RightButton);
+        f.trigger("Paste Image");
+        QCOMPARE(f.numbers(), QByteArray("\0\1\5\3\4\5\6", 7));
+        f.trigger("Clear");
+        f.trigger("Insert");
+        QCOMPARE(f.numbers(), QByteArray("\0\1\0\0\3\4\5\6", 8));
+        f.trigger("Delete");
+        f.trigger("Delete");
+        f.click({49, 0}, Qt::RightButton);
+        f.trigger("Delete");
+        QCOMPARE(f.numbers(), QByteArray("\0\1\3\4\5\6", 6));
+    }
+
+    void dropMovesOrCopies()
+    {
+        Fixture f;
+        const auto drop = [&f](int from, int to, Qt::KeyboardModifiers modifiers, QMimeData *mimeData) {
+            const std::unique_ptr<QMimeData> data(mimeData);
+            EditorInput::drop(f.grid, f.grid.cellRect(from).center(), f.grid.cellRect(to).center(), *data, modifiers);
+        };
+        drop(1, 3, Qt::ShiftModifier, TileDrag{1, 0}.toMimeData());
+        QCOMPARE(f.numbers(), QByteArray("\0\1\2\1\4\5\6", 7));
+        drop(0, 2, Qt::NoModifier, TileDrag{0, 0}.toMimeData());
+        drop(0, 6, Qt::NoModifier, SpriteDrag{0}.toMimeData()); // foreign
+        QCOMPARE(f.numbers(), QByteArray("\1\2\0\1\4\5\6", 7));
+        const std::unique_ptr<QMimeData> data(TileDrag{300, 5}.toMimeData());
+        QCOMPARE(data->data(TileDrag::mimeType()), QByteArray("\0\0\x01\x2c\0\0\0\x05", 8));
+        data->setData(TileDrag::mimeType(), QByteArray("\0\0\x01\x2c", 4));
+        QVERIFY(!TileDrag::fromMimeData(data.get())); // cut
+    }
+
+    void dockScrollsAndSurvivesItsTileSet()
+    {
+        TilePickerTool dock;
+        dock.resize(200, 150);
+        dock.show();
+        QSignalSpy selected(&dock, &TilePickerTool::selectedTileChanged);
+        {
+            TileSet tiles(512);
+            dock.setTileSet(&tiles);
+            QVERIFY(dock.isActive());
+            dock.setSelectedIndex(500);
+            QVERIFY(dock.grid()->visibleRegion().intersects(dock.grid()->cellRect(500)));
+            QTest::mousePress(dock.grid(), Qt::LeftButton, Qt::NoModifier, {3, 3});
+        }
+        QVERIFY(!dock.isActive());
+        QTest::mouseMove(dock.grid(), {9, 9});
+        QTest::mouseRelease(dock.grid(), Qt::LeftButton, Qt::NoModifier, {9, 9});
+        dock.grid()->grab();
+        QCOMPARE(dock.grid()->selectedIndex(), -1);
+        QVERIFY(selected.isEmpty());
+    }
+};
 
 QUENMORA_TEST_MAIN(TestTilePickerGrid)
 #include "tst_tilepickergrid.moc"
