@@ -17,10 +17,7 @@ constexpr auto LetterA = "00000000 000FF000 00F00F00 0F0000F0 0FFFFFF0 0F0000F0 
 QImage picture(const char *digits)
 {
     const QByteArray text = QByteArray(digits).replace(' ', "");
-    QImage image = plainImage({8, 8}, 0);
-    for (int i = 0; i < 64; ++i)
-        image.setPixel(i % 8, i / 8, text.mid(i, 1).toUInt(nullptr, 16));
-    return image;
+    return pictureOf({8, 8}, QImage::Format_Indexed8, [&](int i) { return text.mid(i, 1).toUInt(nullptr, 16); });
 }
 
 QByteArray hex(const char *digits)

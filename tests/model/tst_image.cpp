@@ -9,24 +9,14 @@
 #include <QTest>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
 /// A picture of one row with these colours.
 QImage row(const QList<QRgb> &colours)
 {
-    QImage picture(int(colours.size()), 1, QImage::Format_RGB32);
-    for (int x = 0; x < picture.width(); ++x)
-        picture.setPixel(x, 0, colours.at(x));
-    return picture;
-}
-
-int squaredDistance(QRgb a, QRgb b)
-{
-    const int red = qRed(a) - qRed(b);
-    const int green = qGreen(a) - qGreen(b);
-    const int blue = qBlue(a) - qBlue(b);
-    return red * red + green * green + blue * blue;
+    return pictureOf({int(colours.size()), 1}, QImage::Format_RGB32, [&](int i) { return colours[i]; });
 }
 
 /// The pixels of a picture of one row as the first of these colours at the least distance.
@@ -34,10 +24,10 @@ QByteArray nearestOf(const QList<QRgb> &colours, const QImage &picture)
 {
     QByteArray bytes;
     for (int x = 0; x < picture.width(); ++x) {
-        const auto closer = [colour = picture.pixel(x, 0)](QRgb a, QRgb b) {
-            return squaredDistance(a, colour) < squaredDistance(b, colour);
+        const auto distance = [pixel = picture.pixelColor(x, 0)](QRgb colour) {
+            return std::hypot(pixel.red() - qRed(colour), pixel.green() - qGreen(colour), pixel.blue() - qBlue(colour));
         };
-        bytes += char(std::min_element(colours.begin(), colours.end(), closer) - colours.begin());
+        bytes += char(std::ranges::min_element(colours, {}, distance) - colours.begin());
     }
     return bytes;
 }

@@ -18,8 +18,7 @@ private slots:
         const std::tuple<int, QColor, bool> words[] = {
             {0xe381, QColor(255, 0, 255), true},
             {0x2901, QColor(37, 73, 110), false}, // levels 1, 2, 3
-            {0x9700, QColor(146, 183, 219), false}, // levels 4, 5, 6
-            {0x007e, QColor(0, 0, 0), false}, // bits that mean nothing
+            {0x977e, QColor(146, 183, 219), false}, // levels 4, 5, 6, and bits that mean nothing
         };
         for (const auto &[word, colour, priority] : words) {
             palette.setTransparencyIndex(-1);

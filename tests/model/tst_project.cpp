@@ -15,10 +15,7 @@ namespace {
 
 QList<int> spritesOf(const Map &map)
 {
-    QList<int> sprites;
-    for (const Map::PlacedSprite &placed : map.sprites())
-        sprites.append(placed.sprite);
-    return sprites;
+    return valuesOf(map.sprites(), &Map::PlacedSprite::sprite);
 }
 
 } // namespace
@@ -41,10 +38,10 @@ private slots:
             return filled;
         };
         QCOMPARE(project.createPalette(CreateAction::CopyCurrent, "Copy")->rawColour(3), 0x0301); // of the last one
-        QCOMPARE(word(CreateAction::None, source->id()), 0);
         QCOMPARE(word(CreateAction::CopyCurrent, source->id()), 0xE381);
         QCOMPARE(word(CreateAction::DefaultNext, source->id()), 0x0301);
-        QCOMPARE(word(CreateAction::Blank, source->id()), 0);
+        for (const auto action : {CreateAction::None, CreateAction::Blank})
+            QCOMPARE(word(action, source->id()), 0);
         QCOMPARE(word(CreateAction::CopyCurrent, {}), 0); // the last one was deleted
     }
 
@@ -103,18 +100,15 @@ private slots:
     {
         Project project;
         QStringList expected;
-        for (int i = 0; i < 40; ++i) { // enough for a hash to mix them up
-            expected.append(QString::number(i));
-            project.createPalette(CreateAction::Blank, expected.constLast());
-        }
+        for (int i = 0; i < 40; ++i) // enough for a hash to mix them up
+            expected << project.createPalette(CreateAction::Blank, QString::number(i))->name();
         QVERIFY(project.deletePalette(project.palettes().at(7)->id()));
         expected.removeAt(7);
         // one that is registered under an id that exists takes the place of the old one
         auto *replacement = new Palette;
         replacement->setId(project.palettes().at(5)->id());
-        replacement->setName("new");
         project.addPalette(replacement);
-        expected[5] = "new";
+        expected[5] = replacement->name();
         QCOMPARE(project.paletteNames(), expected);
         QCOMPARE(project.palette(replacement->id()), replacement);
     }
@@ -205,18 +199,15 @@ private slots:
         QVERIFY(project.deletePalette(id) && !palette && project.palettes().isEmpty());
     }
 
-    void destroysItsAssets()
+    void destroysWhatRefersFirst()
     {
         QStringList order;
         auto project = std::make_unique<Project>();
         TileSet *tiles = project->createTileSet("Rocks", {});
-        for (QObject *asset : QObjectList{project->createSpriteBank(Quenmora::FourBit, "Ships", {}), tiles,
-                                          tiles->palette(), project->createMap("Cave", tiles->id(), QSize(40, 32))}) {
-            const QString kind = asset->metaObject()->className();
-            connect(asset, &QObject::destroyed, asset, [&order, kind] { order.append(kind); });
-        }
+        for (QObject *asset : QObjectList{tiles, tiles->palette(), project->createMap("Cave", tiles->id(), {40, 32})})
+            connect(asset, &QObject::destroyed, asset, [&, kind = asset->metaObject()->className()] { order << kind; });
         project.reset();
-        QCOMPARE(order, QStringList({"Map", "TileSet", "Palette", "SpriteBank"}));
+        QCOMPARE(order, QStringList({"Map", "TileSet", "Palette"}));
     }
 };
 

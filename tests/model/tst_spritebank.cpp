@@ -11,12 +11,10 @@ namespace {
 using Edit = std::function<void(SpriteBank &)>;
 
 /// A sprite of one value, but for one pixel.
-QImage plainSprite(int value, QPoint mark = {}, int marked = -1)
+QImage plainSprite(int value, int pixel = 0, int marked = -1)
 {
-    QImage sprite = plainImage({16, 16}, value);
-    if (marked >= 0)
-        sprite.setPixel(mark, uint(marked));
-    return sprite;
+    return pictureOf({16, 16}, QImage::Format_Indexed8,
+                     [=](int i) { return i == pixel && marked >= 0 ? marked : value; });
 }
 
 /// Makes sprites 0, 1, 2 … of one colour each.
@@ -118,9 +116,9 @@ private slots:
             bank.setPalette(&m_palette);
             former.setColour(6, Qt::red, false);
             QCOMPARE(bank.image().colorTable(), m_palette.colourTable());
-            bank.setImage(0, plainSprite(227, {1, 0}, pixel));
+            bank.setImage(0, plainSprite(227, 1, pixel));
             // turned clockwise, column 1 of the top row is row 1 of the right column; then it is mirrored
-            QCOMPARE(indices(bank.spriteImage(0, true, false, true)), indices(plainSprite(227, {0, 1}, pixel)));
+            QCOMPARE(indices(bank.spriteImage(0, true, false, true)), indices(plainSprite(227, 16, pixel)));
             QImage expected(16, 16, QImage::Format_ARGB32);
             expected.fill(Qt::transparent);
             expected.setPixel(0, 1, entry < 0 ? 0 : m_palette.colourTable().at(entry));
@@ -132,17 +130,11 @@ private slots:
 
     void takesAnyPictureAsStrip()
     {
-        const auto filled = [](QImage::Format format, int height, uint pixel) {
-            QImage image(16, height, format);
-            image.fill(pixel);
-            return image;
-        };
         const std::pair<QImage, QList<int>> pictures[] = {
             {plainImage({16, 40}, 200), {200, 200}}, // two and a half sprites
             {plainImage({3, 3}, 200), {200}}, // smaller than a sprite
             {QImage(), {1, 2}},
-            {filled(QImage::Format_Grayscale8, 16, 77), {77}}, // grey values are indices
-            {filled(QImage::Format_RGB32, 32, 0xFFFFFFFF), {255, 255}},
+            {pictureOf({16, 32}, QImage::Format_RGB32, [](int) { return 0xFFFFFFFF; }), {255, 255}},
         };
         for (const auto &[picture, sprites] : pictures) {
             SpriteBank bank(Quenmora::EightBit);
@@ -155,45 +147,27 @@ private slots:
         }
     }
 
-    void appendsRawSprites()
+    void readsAndWritesRawSprites()
     {
         SpriteBank bank(Quenmora::FourBit);
         SignalLog log(bank);
         const QByteArray sprites = QByteArray(256, '\x0A') + QByteArray(256, '\xEE');
         QVERIFY(bank.importSpr(m_path("in.spr", sprites + QByteArray(88, 'x'))));
-        QVERIFY(bank.importSpr(m_path("short.spr", QByteArray(255, 'x'))));
+        QFile huge(m_path("huge.spr")); // a sparse file: more sprites than a bank may hold
+        QVERIFY(huge.open(QIODevice::WriteOnly) && huge.resize(qint64(SpriteBank::MaxCount) * 256));
+        for (const QString &bad : {m_path("missing/x"), m_path()})
+            QVERIFY(!bank.importSpr(bad) && !bank.exportSpr(bad) && !bank.importSpr(huge.fileName()));
         QCOMPARE(log.take(), QStringList({"countChanged", "imageChanged 1", "countChanged", "imageChanged 2"}));
         QVERIFY(bank.exportSpr(m_path("out.spr")));
         QCOMPARE(readFile(m_path("out.spr")), QByteArray(256, '\0') + sprites);
     }
 
-    void refusesUnreadableFiles()
-    {
-        QFile huge(m_path("huge.spr")); // a sparse file: more sprites than a bank may hold
-        QVERIFY(huge.open(QIODevice::WriteOnly) && huge.resize(qint64(SpriteBank::MaxCount) * 256));
-        SpriteBank bank(Quenmora::EightBit);
-        bank.setPalette(&m_palette);
-        SignalLog log(bank);
-        QVERIFY(!bank.importSpr(huge.fileName()));
-        for (const QString &bad : {m_path("missing/x"), m_path()})
-            QVERIFY(!bank.importSpr(bad) && !bank.exportSpr(bad));
-        for (const QString &bad : {m_path(), m_path("nonsense", "this is no picture")}) {
-            for (int i = 0; i < 2; ++i)
-                QTest::ignoreMessage(QtInfoMsg, "Failed to load image");
-            QVERIFY(bank.importImageFile(bad) == -1 && bank.importSlicedImage(bad) == -1);
-        }
-        QCOMPARE(log.take(), QStringList());
-    }
-
     void importsPictures()
     {
         // two white sprites, a red one, and what is too narrow for a fourth
-        QImage picture(56, 20, QImage::Format_RGB32);
-        picture.fill(Qt::white);
-        for (int i = 0; i < 24 * 20; ++i)
-            picture.setPixelColor(32 + i % 24, i / 24, QColor(250, 10, 0));
+        const QImage picture =
+            pictureOf({56, 20}, QImage::Format_RGB32, [](int i) { return i % 56 < 32 ? 0xFFFFFFFF : 0xFFFA0A00; });
         QVERIFY(picture.save(m_path("picture.png")));
-
         SpriteBank bank(Quenmora::EightBit);
         QTest::ignoreMessage(QtInfoMsg, "Could not remap colours");
         QCOMPARE(bank.importImageFile(m_path("picture.png")), -1); // no palette yet
@@ -202,10 +176,14 @@ private slots:
         palette.setColour(9, QColor(219, 0, 0), false);
         bank.setPalette(&palette);
         SignalLog log(bank);
-        QCOMPARE(bank.importImageFile(m_path("picture.png")), 4);
-        QCOMPARE(firstPixels(bank), (QList<int>{0, 7, 7, 9}));
+        QVERIFY(bank.importImageFile(m_path("picture.png")) == 4 && firstPixels(bank) == (QList<int>{0, 7, 7, 9}));
         bank.importImage(0, picture);
         QCOMPARE(firstPixels(bank), (QList<int>{7, 7, 7, 9}));
+        for (const QString &bad : {m_path(), m_path("nonsense", "this is no picture")}) {
+            for (int i = 0; i < 2; ++i)
+                QTest::ignoreMessage(QtInfoMsg, "Failed to load image");
+            QVERIFY(bank.importImageFile(bad) == -1 && bank.importSlicedImage(bad) == -1);
+        }
         QCOMPARE(log.take(),
                  QStringList({"imageChanged 1", "imageChanged 2", "imageChanged 3", "countChanged", "imageChanged 0"}));
 
@@ -213,8 +191,7 @@ private slots:
         SpriteBank sliced(Quenmora::EightBit);
         sliced.setPalette(&m_palette);
         SignalLog slicing(sliced);
-        QCOMPARE(sliced.importSlicedImage(m_path("picture.png")), 2);
-        QCOMPARE(firstPixels(sliced), (QList<int>{0, 1}));
+        QVERIFY(sliced.importSlicedImage(m_path("picture.png")) == 2 && firstPixels(sliced) == (QList<int>{0, 1}));
         QCOMPARE(slicing.take().first(3), QStringList({"imageChanged 0", "countChanged", "imageChanged 1"}));
         // red 255 and green 16, as the palette holds them
         QCOMPARE(sliced.image().colorTable().first(3), QList<QRgb>({0xFFFFFFFF, 0xFFFF0000, 0xFF000000}));
@@ -232,8 +209,7 @@ private slots:
         first->setSize({3, 1});
         first->frame(0)->setCells({{{0}, {1}, {2}}});
         const auto shown = [&first] {
-            const QList<AnimationFrame::Cell> cells = first->frame(0)->cells().first();
-            return QList<int>{cells[0].index, cells[1].index, cells[2].index};
+            return valuesOf(first->frame(0)->cells().first(), &AnimationFrame::Cell::index);
         };
         bank.moveSprite(0, 2);
         QCOMPARE(shown(), QList<int>({2, 0, 1}));
@@ -259,15 +235,14 @@ private slots:
         kept->setDelay(9);
         QVERIFY(!(before == bank.snapshot()));
         bank.deleteAnimation(lost->id());
-        const auto later = bank.newAnimation();
-        later->setDelay(3);
+        bank.newAnimation()->setDelay(3);
         bank.deleteSprite(0);
         m_palette.setColour(1, Qt::red, false);
         SignalLog log(bank);
         bank.restore(before);
         QCOMPARE(log.take(), QStringList({"countChanged", "restored"}));
         QCOMPARE(firstPixels(bank), (QList<int>{1, 2}));
-        QVERIFY(kept->delay() == 5 && later->delay() == 3 && bank.animations().size() == 2);
+        QCOMPARE(valuesOf(bank.animations(), &Animation::delay), QList<int>({5, 3}));
         QCOMPARE(bank.image().color(1), qRgb(255, 0, 0)); // colours are the palette's, not the snapshot's
     }
 };

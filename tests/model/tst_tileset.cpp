@@ -14,20 +14,9 @@ using Edit = std::function<void(TileSet &)>;
 /// A tile picture whose pixel at (x, y) is y·8 + x, in the colours of an all-white table.
 QImage numberedImage()
 {
-    QImage image = plainImage({8, 8}, 0);
+    QImage image = pictureOf({8, 8}, QImage::Format_Indexed8, [](int i) { return i; });
     image.setColorTable(QList<QRgb>(256, qRgb(255, 255, 255)));
-    for (int i = 0; i < 64; ++i)
-        image.setPixel(i % 8, i / 8, uint(i));
     return image;
-}
-
-/// The values of the tiles as a word, each a letter; ? for a new tile.
-QString letters(const TileSet &tiles)
-{
-    QString word;
-    for (int i = 0; i < tiles.count(); ++i)
-        word += tiles.tile(i)->value() ? QChar(tiles.tile(i)->value()) : QChar('?');
-    return word;
 }
 
 } // namespace
@@ -42,22 +31,18 @@ class TestTileSet : public QObject
 private slots:
     void keepsTilesIndependent()
     {
-        // a picture over somebody else's memory must not follow that memory
         uchar memory[64] = {7};
         Tile tile;
-        tile.setImage(QImage(memory, 8, 8, 8, QImage::Format_Indexed8));
+        tile.setImage(QImage(memory, 8, 8, 8, QImage::Format_Indexed8)); // must not follow that memory
         memory[0] = 9;
         QCOMPARE(tile.pixels()[0], uchar(7));
         tile.setAttribute(Tile::TA_SOLID | Tile::TA_DOOR, true);
         tile.setAttribute(Tile::TA_TOPSOLID, false);
-        tile.setValue(42);
-        QVERIFY(tile.hasAttribute(Tile::TA_LEFTSOLID | Tile::TA_DOOR));
-        QVERIFY(!tile.hasAttribute(Tile::TA_SOLID) && !tile.hasAttribute(Tile::TA_NONE)); // three of four edges
         const std::unique_ptr<Tile> copy(tile.clone());
-        QVERIFY(copy->state() == tile.state());
+        QVERIFY(copy->hasAttribute(Tile::TA_LEFTSOLID | Tile::TA_DOOR));
+        QVERIFY(!copy->hasAttribute(Tile::TA_SOLID) && !copy->hasAttribute(Tile::TA_NONE)); // three of four edges
         tile.setColour(1, QColor(1, 2, 3, 0));
-        QCOMPARE(tile.image().color(1), qRgb(1, 2, 3));
-        QVERIFY(copy->image().color(1) != qRgb(1, 2, 3));
+        QVERIFY(tile.image().color(1) == qRgb(1, 2, 3) && copy->image().color(1) != qRgb(1, 2, 3));
     }
 
     void announcesStructuralEdits_data()
@@ -67,61 +52,58 @@ private slots:
         const auto row = [](const char *emitted, const char *after, const Edit &edit) {
             QTest::newRow(emitted) << after << edit;
         };
-        row("tileChanged 2;Copy Tile", "abcd", [](TileSet &t) { t.copyTile(1, 2); });
+        row("tileChanged 2;Copy Tile", "abbd", [](TileSet &t) { t.copyTile(1, 2); });
         row("tileDeleted 1;Delete Tile", "acd", [](TileSet &t) { t.deleteTile(1); });
         row("tileInserted 3;Insert Tile", "abc?d", [](TileSet &t) { t.insertTile(3); });
         row("tileInserted 4;Insert Tile", "abcd?", [](TileSet &t) { t.insertTile(4); });
         row("tileSwapped 0 1;tileSwapped 1 2;tileSwapped 2 3;Move Tile", "bcda", [](TileSet &t) { t.moveTile(0, 3); });
         row("tileSwapped 3 2;tileSwapped 2 1;tileSwapped 1 0;Move Tile", "dabc", [](TileSet &t) { t.moveTile(3, 0); });
+        row("", "abcd", [](TileSet &t) {
+            t.copyTile(2, 2);
+            t.moveTile(2, 2);
+            for (const int outside : {-1, 4, 1 << 30}) {
+                t.copyTile(0, outside);
+                t.copyTile(outside, 0);
+                t.moveTile(0, outside);
+                t.moveTile(outside, 0);
+                t.deleteTile(outside);
+                t.insertTile(outside == 4 ? 5 : outside);
+                t.clearImage(outside);
+                t.setTileImage(outside, numberedImage());
+                t.setTileOffset(outside, 3);
+                t.importImage(outside, numberedImage(), 3);
+                QVERIFY(t.tileOffset(outside) == 0 && !t.tile(outside) && t.image(outside).isNull());
+                QTest::ignoreMessage(QtInfoMsg, qPrintable(QString("Image index out of range %1").arg(outside)));
+                QCOMPARE(indices(t.tileImage(outside, true, false, true, 5)), QByteArray(64, '\0'));
+            }
+        });
     }
 
     void announcesStructuralEdits()
     {
-        QFETCH(const QString, after);
         QFETCH(const Edit, edit);
         TileSet tiles(4);
-        for (int i = 0; i < 4; ++i)
-            tiles.tile(i)->setValue('a' + i);
-        tiles.setTileImage(1, numberedImage());
-        tiles.setTileOffset(1, 6);
-        tiles.tile(1)->setAttributes(1);
+        for (int i = 0; i < 4; ++i) {
+            tiles.setTileImage(i, plainImage({8, 8}, 'a' + i));
+            tiles.setTileOffset(i, 5 + i);
+            tiles.tile(i)->setAttributes(i);
+        }
         SignalLog log(tiles);
         edit(tiles);
-        QStringList expected = QString(QTest::currentDataTag()).split(';');
-        expected.prepend("structureAboutToChange");
-        expected.last().prepend("structureChanged ");
-        QCOMPARE(log.take(), expected);
-        QCOMPARE(letters(tiles), after);
-        if (const auto inserted = int(after.indexOf('?')); inserted >= 0)
-            QCOMPARE(tiles.tileOffset(inserted), 1);
-        if (expected.last().endsWith("Copy Tile"))
-            QVERIFY(tiles.image(2) == numberedImage() && tiles.tileOffset(2) == 6 && tiles.tile(2)->attributes() == 0);
-    }
-
-    void ignoresPositionsOutside()
-    {
-        TileSet tiles(4);
-        const TileSet::Snapshot before = tiles.snapshot();
-        SignalLog log(tiles);
-        for (const int outside : {-1, 4, 1 << 30}) {
-            tiles.copyTile(0, outside);
-            tiles.copyTile(outside, 0);
-            tiles.moveTile(0, outside);
-            tiles.moveTile(outside, 0);
-            tiles.deleteTile(outside);
-            tiles.insertTile(outside == 4 ? 5 : outside);
-            tiles.clearImage(outside);
-            tiles.setTileImage(outside, numberedImage());
-            tiles.setTileOffset(outside, 3);
-            tiles.importImage(outside, numberedImage(), 3);
-            QVERIFY(tiles.tileOffset(outside) == 0 && !tiles.tile(outside) && tiles.image(outside).isNull());
-            QTest::ignoreMessage(QtInfoMsg, qPrintable(QString("Image index out of range %1").arg(outside)));
-            QCOMPARE(indices(tiles.tileImage(outside, true, false, true, 5)), QByteArray(64, '\0'));
+        QStringList expected = QString(QTest::currentDataTag()).split(';', Qt::SkipEmptyParts);
+        if (!expected.isEmpty()) {
+            expected.prepend("structureAboutToChange");
+            expected.last().prepend("structureChanged ");
         }
-        tiles.copyTile(2, 2);
-        tiles.moveTile(2, 2);
-        QCOMPARE(log.take(), QStringList());
-        QVERIFY(tiles.snapshot() == before);
+        QCOMPARE(log.take(), expected);
+        QString pixels;
+        for (int i = 0; i < tiles.count(); ++i) {
+            const uchar pixel = tiles.tile(i)->pixels()[0];
+            pixels += QChar(pixel ? pixel : '?');
+            QCOMPARE(tiles.tileOffset(i), pixel ? pixel - 'a' + 5 : 1);
+        }
+        QTEST(pixels, "after");
+        QVERIFY(pixels != "abbd" || tiles.tile(2)->attributes() == 2); // a copy keeps the attributes of its place
     }
 
     void wearsColoursOfItsPalette()
@@ -156,21 +138,17 @@ private slots:
         // for bits rotate, flip, mirror: the numbers of the pixels that come to (0, 0) and (1, 0)
         constexpr std::pair<int, int> origins[] = {{0, 1},   {7, 6}, {56, 57}, {63, 62},
                                                    {56, 48}, {0, 8}, {63, 55}, {7, 15}};
-        const auto shown = [](int pixel) { return (pixel & 15) + 0x30; };
+        const auto shown = [](std::pair<int, int> pixels) {
+            return std::pair((pixels.first & 15) + 0x30, (pixels.second & 15) + 0x30);
+        };
         TileSet tiles(1);
         tiles.setTileImage(0, numberedImage());
         for (int i = 0; i < 8; ++i) {
             const QImage image = tiles.tileImage(0, i & 4, i & 2, i & 1, 3);
-            QCOMPARE(image.pixelIndex(0, 0), shown(origins[i].first));
-            QCOMPARE(image.pixelIndex(1, 0), shown(origins[i].second));
+            QCOMPARE(std::pair(image.pixelIndex(0, 0), image.pixelIndex(1, 0)), shown(origins[i]));
             QCOMPARE(image.colorTable(), numberedImage().colorTable());
-            // the painters' way gives the same pixels, and writes no others
-            QByteArray target(80, '\xEE');
-            tiles.renderTile(0, i & 4, i & 2, i & 1, 3, reinterpret_cast<uchar *>(target.data()), 10);
-            for (int y = 0; y < 8; ++y)
-                QCOMPARE(target.mid(y * 10, 10), indices(image).mid(y * 8, 8) + "\xEE\xEE");
         }
-        QCOMPARE(tiles.image(0), numberedImage());
+        QCOMPARE(indices(tiles.image(0)), indices(numberedImage()));
     }
 
     void rendersOddTilesInsideTheirBounds()
@@ -182,10 +160,6 @@ private slots:
         QCOMPARE(tiles.tile(0)->toNextData(), QByteArray::fromHex("01200000 89a00000") + QByteArray(24, '\0'));
         QCOMPARE(tiles.tile(2)->toNextData(), QByteArray(32, '\0'));
         QCOMPARE(indices(tiles.tileImage(0, true, false, false, 0)), QByteArray::fromHex("0800 0901 0a02"));
-        for (int i = -1; i <= 3; ++i) {
-            uchar target[64] = {};
-            tiles.renderTile(i, true, true, true, 0, target, 8);
-        }
         QCOMPARE(tiles.toStrip().size(), QSize(8, 24));
     }
 
@@ -197,23 +171,18 @@ private slots:
         tiles.setPalette(&palette);
         tiles.setTileImage(1, numberedImage());
         tiles.setTileOffset(1, 9);
+        tiles.tile(1)->setValue(42);
         const TileSet::Snapshot snapshot = tiles.snapshot();
         QCOMPARE(snapshot.at(1).image.constBits(), std::as_const(tiles).image(1).constBits()); // shared, not copied
-        TileSet copy(512);
-        SignalLog log(tiles, copy);
-        copy.copyTilesFrom(tiles);
-        QVERIFY(copy.snapshot() == snapshot);
-        QCOMPARE(log.take(), QStringList());
         tiles.deleteTile(1);
-        log.take();
+        SignalLog log(tiles);
         tiles.restore(snapshot);
         QCOMPARE(log.take(), QStringList("restored"));
         QVERIFY(tiles.snapshot() == snapshot);
 
         const QImage strip = tiles.toStrip();
         TileSet read(3);
-        QVERIFY(read.setStrip(strip));
-        QCOMPARE(read.image(0).colorTable(), palette.colourTable());
+        QVERIFY(read.setStrip(strip) && read.image(0).colorTable() == palette.colourTable());
         for (const QImage &other : {QImage(), strip.copy(0, 0, 8, 16), strip.copy(0, 0, 8, 32),
                                     strip.copy(0, 0, 16, 24), strip.convertToFormat(QImage::Format_RGB32)})
             QVERIFY(!read.setStrip(other));
@@ -230,15 +199,13 @@ private slots:
             tiles.setPalette(&palette);
             for (int i = 0; i < 3; ++i)
                 tiles.setTileOffset(i, 5);
-            const TileSet::Snapshot before = tiles.snapshot();
             QVERIFY(tiles.importNxt(m_path("a.nxt", QByteArray(size, '\x5C'))));
-            for (int i = 0; i < filled; ++i) {
-                QVERIFY(tiles.tileOffset(i) == 0 && tiles.image(i).pixelIndex(7, 7) == 12);
-                QCOMPARE(tiles.image(i).colorTable(), palette.colourTable());
+            for (int i = 0; i < 3; ++i) {
+                QCOMPARE(indices(tiles.image(i)), QByteArray(i < filled ? "\5\14" : "\0", 2).repeated(32));
+                QCOMPARE(tiles.tileOffset(i), i < filled ? 0 : 5);
+                QVERIFY(i >= filled || tiles.image(i).colorTable() == palette.colourTable());
             }
-            QVERIFY(tiles.snapshot().mid(filled) == before.mid(filled));
         }
-
         // a font for the second and the third tile of three
         const std::tuple<int, bool, int> fonts[] = {{0, true, 0}, {7, false, 0}, {12, false, 1}, {20, true, 2}};
         for (const auto &[size, result, filled] : fonts) {
@@ -251,7 +218,7 @@ private slots:
                 const bool read = i > 0 && i <= filled;
                 QCOMPARE(tiles.tileOffset(i), read ? 4 : 0);
                 QCOMPARE(indices(tiles.image(i)),
-                         read ? QByteArray("\6\x9\x9\x9\x9\x9\x9\6").repeated(8) : QByteArray(64, '\0'));
+                         QByteArray(read ? "\6\x9\x9\x9\x9\x9\x9\6" : "\0\0\0\0\0\0\0", 8).repeated(8));
             }
         }
     }
@@ -270,8 +237,7 @@ private slots:
         }
         // attributes that are a line feed stay one byte, and sixteen go to a line
         const QByteArray line = "\tdb\t" + QByteArray("$0a,").repeated(15) + "$0a\n";
-        for (const auto &[count, text] :
-             {std::pair<int, QByteArray>{0, ""}, {2, "\tdb\t$0a,$0a\n"}, {16, line}, {17, line + "\tdb\t$0a\n"}}) {
+        for (const auto &[count, text] : {std::pair{0, QByteArray()}, {16, line}, {17, line + "\tdb\t$0a\n"}}) {
             TileSet tiles(count);
             for (int i = 0; i < count; ++i)
                 tiles.tile(i)->setAttributes(0x0A);
@@ -280,18 +246,13 @@ private slots:
             QVERIFY(tiles.exportAttributesBinary(m_path("attributes.bin")));
             QCOMPARE(readFile(m_path("attributes.bin")), QByteArray(count, 0x0A));
         }
-    }
-
-    void refusesPathsThatCannotBeOpened()
-    {
-        TileSet tiles(1);
         for (const QString &bad : {m_path(), m_path("no/such/folder")}) {
-            QVERIFY(!tiles.importNxt(bad) && !tiles.importZXFont(0, 1, 0, 0, bad));
-            QVERIFY(!tiles.exportNxt(bad) && !tiles.exportBlocks(bad, 1, 1, false));
-            QVERIFY(!tiles.exportAttributesAsm(bad) && !tiles.exportAttributesBinary(bad));
+            QVERIFY(!three.importNxt(bad) && !three.importZXFont(0, 1, 0, 0, bad));
+            QVERIFY(!three.exportNxt(bad) && !three.exportBlocks(bad, 1, 1, false));
+            QVERIFY(!three.exportAttributesAsm(bad) && !three.exportAttributesBinary(bad));
         }
-        tiles.setName("../outside");
-        QVERIFY(!tiles.exportToDirectory(m_path()));
+        three.setName("../outside");
+        QVERIFY(!three.exportToDirectory(m_path()));
     }
 };
 

@@ -11,6 +11,7 @@
 #include <QUuid>
 #include <QVariant>
 
+#include <functional>
 #include <utility>
 
 /// What tests of the model share: files, pictures of palette indices, and the order of signals.
@@ -53,6 +54,16 @@ private:
     return image;
 }
 
+/// A picture whose pixel number i, counted row by row, is pixelAt(i).
+template <class PixelAt>
+[[nodiscard]] QImage pictureOf(QSize size, QImage::Format format, PixelAt pixelAt)
+{
+    QImage image = format == QImage::Format_Indexed8 ? plainImage(size, 0) : QImage(size, format);
+    for (int i = 0; i < size.width() * size.height(); ++i)
+        image.setPixel(i % size.width(), i / size.width(), uint(pixelAt(i)));
+    return image;
+}
+
 /// The palette indices of a picture, row by row. (QImage itself compares colours.)
 [[nodiscard]] inline QByteArray indices(const QImage &image)
 {
@@ -60,6 +71,16 @@ private:
     for (int y = 0; y < image.height(); ++y)
         bytes.append(reinterpret_cast<const char *>(image.constScanLine(y)), image.width());
     return bytes;
+}
+
+/// A member of every item of a list.
+template <class List, class Member>
+[[nodiscard]] auto valuesOf(const List &list, Member member)
+{
+    QList<std::decay_t<std::invoke_result_t<Member, decltype(*list.begin())>>> values;
+    for (const auto &item : list)
+        values.append(std::invoke(member, item));
+    return values;
 }
 
 /// Writes down signals in the order in which they are emitted, as "name argument argument".
