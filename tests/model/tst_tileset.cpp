@@ -9,8 +9,6 @@
 
 namespace {
 
-using Edit = std::function<void(TileSet &)>;
-
 /// A tile picture whose pixel at (x, y) is y·8 + x, in the colours of an all-white table.
 QImage numberedImage()
 {
@@ -45,65 +43,59 @@ private slots:
         QVERIFY(tile.image().color(1) == qRgb(1, 2, 3) && copy->image().color(1) != qRgb(1, 2, 3));
     }
 
-    void announcesStructuralEdits_data()
-    {
-        QTest::addColumn<QString>("after");
-        QTest::addColumn<Edit>("edit");
-        const auto row = [](const char *emitted, const char *after, const Edit &edit) {
-            QTest::newRow(emitted) << after << edit;
-        };
-        row("tileChanged 2;Copy Tile", "abbd", [](TileSet &t) { t.copyTile(1, 2); });
-        row("tileDeleted 1;Delete Tile", "acd", [](TileSet &t) { t.deleteTile(1); });
-        row("tileInserted 3;Insert Tile", "abc?d", [](TileSet &t) { t.insertTile(3); });
-        row("tileInserted 4;Insert Tile", "abcd?", [](TileSet &t) { t.insertTile(4); });
-        row("tileSwapped 0 1;tileSwapped 1 2;tileSwapped 2 3;Move Tile", "bcda", [](TileSet &t) { t.moveTile(0, 3); });
-        row("tileSwapped 3 2;tileSwapped 2 1;tileSwapped 1 0;Move Tile", "dabc", [](TileSet &t) { t.moveTile(3, 0); });
-        row("", "abcd", [](TileSet &t) {
-            t.copyTile(2, 2);
-            t.moveTile(2, 2);
-            for (const int outside : {-1, 4, 1 << 30}) {
-                t.copyTile(0, outside);
-                t.copyTile(outside, 0);
-                t.moveTile(0, outside);
-                t.moveTile(outside, 0);
-                t.deleteTile(outside);
-                t.insertTile(outside == 4 ? 5 : outside);
-                t.clearImage(outside);
-                t.setTileImage(outside, numberedImage());
-                t.setTileOffset(outside, 3);
-                t.importImage(outside, numberedImage(), 3);
-                QVERIFY(t.tileOffset(outside) == 0 && !t.tile(outside) && t.image(outside).isNull());
-                QTest::ignoreMessage(QtInfoMsg, qPrintable(QString("Image index out of range %1").arg(outside)));
-                QCOMPARE(indices(t.tileImage(outside, true, false, true, 5)), QByteArray(64, '\0'));
-            }
-        });
-    }
-
     void announcesStructuralEdits()
     {
-        QFETCH(const Edit, edit);
-        TileSet tiles(4);
-        for (int i = 0; i < 4; ++i) {
-            tiles.setTileImage(i, plainImage({8, 8}, 'a' + i));
-            tiles.setTileOffset(i, 5 + i);
-            tiles.tile(i)->setAttributes(i);
-        }
-        SignalLog log(tiles);
-        edit(tiles);
-        QStringList expected = QString(QTest::currentDataTag()).split(';', Qt::SkipEmptyParts);
-        if (!expected.isEmpty()) {
-            expected.prepend("structureAboutToChange");
+        const std::tuple<QString, QString, std::function<void(TileSet &)>> edits[] = {
+            {"tileChanged 2;Copy Tile", "abbd", [](TileSet &t) { t.copyTile(1, 2); }},
+            {"tileDeleted 1;Delete Tile", "acd", [](TileSet &t) { t.deleteTile(1); }},
+            {"tileInserted 3;Insert Tile", "abc?d", [](TileSet &t) { t.insertTile(3); }},
+            {"tileInserted 4;Insert Tile", "abcd?", [](TileSet &t) { t.insertTile(4); }},
+            {"tileSwapped 0 1;tileSwapped 1 2;Move Tile", "bcad", [](TileSet &t) { t.moveTile(0, 2); }},
+            {"tileSwapped 3 2;tileSwapped 2 1;Move Tile", "adbc", [](TileSet &t) { t.moveTile(3, 1); }},
+        };
+        for (const auto &[emitted, after, edit] : edits) {
+            TileSet tiles(4);
+            for (int i = 0; i < 4; ++i) {
+                tiles.setTileImage(i, plainImage({8, 8}, 'a' + i));
+                tiles.setTileOffset(i, 5 + i);
+            }
+            tiles.tile(1)->setAttributes(1);
+            SignalLog log(tiles);
+            edit(tiles);
+            QStringList expected = QStringList("structureAboutToChange") + emitted.split(';');
             expected.last().prepend("structureChanged ");
+            QCOMPARE(log.take(), expected);
+            QString pixels;
+            for (int i = 0; i < tiles.count(); ++i) {
+                const uchar pixel = tiles.tile(i)->pixels()[0];
+                pixels += QChar(pixel ? pixel : '?');
+                QCOMPARE(tiles.tileOffset(i), pixel ? pixel - 'a' + 5 : 1);
+            }
+            QCOMPARE(pixels, after);
+            QVERIFY(after != "abbd" || tiles.tile(2)->attributes() == 0); // a copy keeps the attributes of its place
         }
-        QCOMPARE(log.take(), expected);
-        QString pixels;
-        for (int i = 0; i < tiles.count(); ++i) {
-            const uchar pixel = tiles.tile(i)->pixels()[0];
-            pixels += QChar(pixel ? pixel : '?');
-            QCOMPARE(tiles.tileOffset(i), pixel ? pixel - 'a' + 5 : 1);
+    }
+
+    void ignoresPositionsOutside()
+    {
+        TileSet tiles(4);
+        SignalLog log(tiles);
+        for (const int outside : {-1, 4, 1 << 30}) {
+            for (const auto edit : {&TileSet::copyTile, &TileSet::moveTile}) {
+                for (const auto &[from, to] : {std::pair(0, outside), {outside, 0}, {2, 2}})
+                    (tiles.*edit)(from, to);
+            }
+            tiles.deleteTile(outside);
+            tiles.insertTile(outside == 4 ? 5 : outside);
+            tiles.clearImage(outside);
+            tiles.setTileImage(outside, numberedImage());
+            tiles.setTileOffset(outside, 3);
+            tiles.importImage(outside, numberedImage(), 3);
+            QVERIFY(tiles.tileOffset(outside) == 0 && !tiles.tile(outside) && tiles.image(outside).isNull());
+            QTest::ignoreMessage(QtInfoMsg, qPrintable(QString("Image index out of range %1").arg(outside)));
+            QCOMPARE(indices(tiles.tileImage(outside, true, false, true, 5)), QByteArray(64, '\0'));
         }
-        QTEST(pixels, "after");
-        QVERIFY(pixels != "abbd" || tiles.tile(2)->attributes() == 2); // a copy keeps the attributes of its place
+        QVERIFY(log.take().isEmpty() && tiles.snapshot() == TileSet(4).snapshot());
     }
 
     void wearsColoursOfItsPalette()
@@ -115,13 +107,11 @@ private slots:
         tiles.setPalette(&former);
         tiles.setPalette(&palette);
         QCOMPARE(tiles.paletteId(), palette.id());
-        QImage picture(20, 8, QImage::Format_RGB32);
-        picture.fill(Qt::white);
-        picture.setPixelColor(7, 7, Qt::black);
+        const QImage picture =
+            pictureOf({20, 8}, QImage::Format_RGB32, [](int i) { return i == 7 * 20 + 7 ? 0 : 0xFFFFFFFF; });
         SignalLog log(tiles);
         tiles.importImage(1, picture, 4);
-        QCOMPARE(tiles.tileOffset(1), 4);
-        QCOMPARE(indices(tiles.image(1)), QByteArray(63, '\xFF') + '\0');
+        QVERIFY(tiles.tileOffset(1) == 4 && indices(tiles.image(1)) == QByteArray(63, '\xFF') + '\0');
         former.setRawColour(4, 0xFF01);
         palette.setTransparencyIndex(4);
         palette.setRawColour(4, 0xFF01);
@@ -138,29 +128,25 @@ private slots:
         // for bits rotate, flip, mirror: the numbers of the pixels that come to (0, 0) and (1, 0)
         constexpr std::pair<int, int> origins[] = {{0, 1},   {7, 6}, {56, 57}, {63, 62},
                                                    {56, 48}, {0, 8}, {63, 55}, {7, 15}};
-        const auto shown = [](std::pair<int, int> pixels) {
-            return std::pair((pixels.first & 15) + 0x30, (pixels.second & 15) + 0x30);
-        };
         TileSet tiles(1);
         tiles.setTileImage(0, numberedImage());
         for (int i = 0; i < 8; ++i) {
             const QImage image = tiles.tileImage(0, i & 4, i & 2, i & 1, 3);
-            QCOMPARE(std::pair(image.pixelIndex(0, 0), image.pixelIndex(1, 0)), shown(origins[i]));
+            QCOMPARE(image.pixelIndex(0, 0), (origins[i].first & 15) + 0x30);
+            QCOMPARE(image.pixelIndex(1, 0), (origins[i].second & 15) + 0x30);
             QCOMPARE(image.colorTable(), numberedImage().colorTable());
         }
         QCOMPARE(indices(tiles.image(0)), indices(numberedImage()));
     }
 
-    void rendersOddTilesInsideTheirBounds()
+    void cutsAndPadsOddPictures()
     {
-        TileSet tiles(3);
-        tiles.setTileImage(0, numberedImage().copy(0, 0, 3, 2)); // too small
-        tiles.setTileImage(1, numberedImage().scaled(20, 20)); // too large
-        tiles.setTileImage(2, QImage());
+        TileSet tiles(2);
+        tiles.setTileImage(0, numberedImage().copy(0, 0, 3, 2));
+        tiles.setTileImage(1, numberedImage().copy(0, 0, 20, 20));
         QCOMPARE(tiles.tile(0)->toNextData(), QByteArray::fromHex("01200000 89a00000") + QByteArray(24, '\0'));
-        QCOMPARE(tiles.tile(2)->toNextData(), QByteArray(32, '\0'));
+        QCOMPARE(tiles.tile(1)->toNextData(), QByteArray::fromHex("01234567 89abcdef").repeated(4));
         QCOMPARE(indices(tiles.tileImage(0, true, false, false, 0)), QByteArray::fromHex("0800 0901 0a02"));
-        QCOMPARE(tiles.toStrip().size(), QSize(8, 24));
     }
 
     void restoresSnapshotsAndStrips()
