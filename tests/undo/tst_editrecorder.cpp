@@ -18,8 +18,7 @@ struct Scene
 {
     Scene()
     {
-        for (int x = 0; x < 8; ++x)
-            map->setTile({x, 0}, {.index = x, .used = true});
+        map->setTiles({0, 0, 8, 1}, 7, false, false, false, true);
         block->setSize({2, 1});
         block->addFrame()->setCells({{{5}, {6}}});
         recorder = std::make_unique<EditRecorder>(
@@ -102,13 +101,11 @@ void TestEditRecorder::colourEditsGatherWithinTheLimit()
     scene.palette->setColour(7, Qt::white, true);
     QCOMPARE(stack.count(), 2);
 
-    const auto words = [&] {
-        return QList<quint16>{scene.palette->rawColour(3), scene.palette->rawColour(5), scene.palette->rawColour(7)};
-    };
-    stack.setIndex(0);
-    QCOMPARE(words(), (QList<quint16>{0x0301, 0x0501, 0x0701})); // those of the standard palette
+    const Palette &palette = *scene.palette;
+    stack.setIndex(0); // the standard palette
+    QVERIFY(palette.rawColour(3) == 0x0301 && palette.rawColour(5) == 0x0501 && palette.rawColour(7) == 0x0701);
     stack.setIndex(2);
-    QCOMPARE(words(), (QList<quint16>{0xE000, 0x1C00, 0xFF81}));
+    QVERIFY(palette.rawColour(3) == 0xE000 && palette.rawColour(5) == 0x1C00 && palette.rawColour(7) == 0xFF81);
     QCOMPARE(scene.steps(), 2);
 }
 
@@ -142,8 +139,6 @@ void TestEditRecorder::undoOfTileDeletionRestoresWhatNamesTheTiles()
     scene.tileSet->moveTile(5, 6);
     scene.tileSet->deleteTile(2);
     const Map::Snapshot edited = scene.map->snapshot();
-    for (int x = 0; x < 8; ++x)
-        QCOMPARE(edited.tiles.at(0).at(x).index, (QList<int>{0, 1, 0, 2, 3, 5, 4, 6}.at(x)));
 
     QUndoStack &stack = scene.stackOf(scene.tileSet->id());
     QCOMPARE(stack.undoText(), "Delete Tile");
@@ -170,20 +165,19 @@ void TestEditRecorder::structuralSpriteEditIsOneStepWithThePlacedSprites()
     emit scene.bank->structureAboutToChange();
     scene.bank->deleteSprite(1);
     emit scene.bank->structureChanged("Delete Sprite");
-    QCOMPARE(scene.steps(), 3);
-    QUndoStack &stack = scene.stackOf(scene.bank->id());
-    QCOMPARE(stack.undoText(), "Delete Sprite");
-    stack.undo();
-    QVERIFY(scene.bank->count() == 2 && scene.walk->frame(0)->cell(0, 0).index == 1 && scene.map->sprites() == placed);
-    stack.redo();
-    QVERIFY(scene.bank->count() == 1 && scene.walk->frame(0)->cell(0, 0).index == 0);
-    QCOMPARE(scene.map->sprites(), placed.first(1));
-
     // the edit of the bank is no part of the next edit of the animation
     scene.now += 1000;
     scene.walk->setDelay(2);
+    QUndoStack &stack = scene.stackOf(scene.bank->id());
     stack.undo();
     QCOMPARE(scene.walk->frame(0)->cell(0, 0).index, 0);
+    QCOMPARE(stack.undoText(), "Delete Sprite");
+    stack.undo();
+    QVERIFY(scene.bank->count() == 2 && scene.walk->frame(0)->cell(0, 0).index == 1);
+    QCOMPARE(scene.map->sprites(), placed);
+    stack.redo();
+    QVERIFY(scene.bank->count() == 1 && scene.walk->frame(0)->cell(0, 0).index == 0);
+    QCOMPARE(scene.map->sprites(), placed.first(1));
     emit scene.bank->structureChanged("End without a beginning");
     QCOMPARE(scene.steps(), 4);
 }

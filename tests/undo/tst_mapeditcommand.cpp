@@ -11,10 +11,7 @@
 
 namespace {
 
-TileMap::TileData cell(int index)
-{
-    return {.index = index, .rotate = true, .offset = 3, .used = true};
-}
+const TileMap::TileData Cell{.index = 2, .rotate = true, .offset = 3, .used = true};
 
 /// One edit of any kind that a map knows, at any place.
 void editAnyhow(Map &map, QRandomGenerator &random)
@@ -34,8 +31,8 @@ void editAnyhow(Map &map, QRandomGenerator &random)
         [&] { map.removeSprite(0); },
         [&] { map.setTiles(QRect(0, at.y(), map.size().width(), 2), index, false, true, false, true); }, // whole rows
         [&] { map.setTiles(QRect(at, QSize(3, 3)), index, false, true, false, true); },
-        [&] { map.setTile(at, cell(index)); },
-        [&] { map.objectLayer()->setCell(at, cell(index)); },
+        [&] { map.setTile(at, Cell); },
+        [&] { map.objectLayer()->setCell(at, Cell); },
     };
     edits[random.bounded(int(std::size(edits)))]();
 }
@@ -90,18 +87,23 @@ void TestMapEditCommand::undoAndRedoGoBackToEveryState()
 void TestMapEditCommand::undoLeavesOtherChangesAlone()
 {
     Editor editor;
-    editor.edit([&] { editor.map->setTiles(QRect(3, 3, 10, 5), 4, false, false, false, true); });
-    editor.map->setTile({14, 3}, cell(8));
+    editor.edit([&] {
+        editor.map->setTiles(QRect(0, 2, 10, 1), 4, false, false, false, true);
+        editor.map->setTiles(QRect(3, 3, 10, 5), 4, false, false, false, true);
+    });
+    editor.map->setTile({14, 3}, Cell);
     editor.map->addSprite({});
-    for (const int width : {15, 10, 5}) { // wider than the changed cells, as wide, and narrower
+    for (const int width : {15, 10, 5}) { // wider than the first changed cells, as wide, and narrower
         editor.map->resize({width, 4});
         editor.stack.undo();
-        QCOMPARE(editor.map->size(), QSize(width, 4));
-        QCOMPARE(editor.tiles.cellAt({4, 3}), TileMap::TileData());
-        QCOMPARE(editor.tiles.cellAt({14, 3}), width == 15 ? cell(8) : TileMap::TileData());
+        QVERIFY(editor.tiles.cellAt({4, 2}) == TileMap::TileData()
+                && editor.tiles.cellAt({4, 3}) == TileMap::TileData());
+        QCOMPARE(editor.tiles.cellAt({14, 3}), width == 15 ? Cell : TileMap::TileData());
         QCOMPARE(editor.map->sprites().size(), 1);
         editor.stack.redo();
-        QVERIFY(editor.tiles.cellAt({4, 3}).used && !editor.tiles.cellAt({2, 3}).used);
+        QVERIFY(editor.tiles.cellAt({4, 2}).used && editor.tiles.cellAt({4, 3}).used);
+        for (const TileMap::Row &row : editor.tiles.rows())
+            QCOMPARE(row.size(), width);
     }
     editor.map.reset(); // a dead map is safe
     editor.stack.undo();
