@@ -150,11 +150,6 @@ qsizetype valuesIn(const QByteArray &text)
     return std::count_if(text.cbegin(), text.cend(), [](char c) { return c == ',' || c == '[' || c == '{'; });
 }
 
-QString invalidProject()
-{
-    return QCoreApplication::translate("ProjectDocument", "Invalid project file");
-}
-
 /// How many objects are to be made for the document: "{}" is enough to ask for one.
 qsizetype objectsIn(const QJsonObject &document)
 {
@@ -167,6 +162,20 @@ qsizetype objectsIn(const QJsonObject &document)
         }
     }
     return count;
+}
+
+/// Whether readers refuse the document for what it would take to hold it.
+bool isTooLarge(const QByteArray &text)
+{
+    if (valuesIn(text) > MaxValues)
+        return true;
+    const bool canHoldTooMany = text.count('{') > MaxObjects; // else there is no need to look closely
+    return canHoldTooMany && objectsIn(QJsonDocument::fromJson(text).object()) > MaxObjects;
+}
+
+QString invalidProject()
+{
+    return QCoreApplication::translate("ProjectDocument", "Invalid project file");
 }
 
 } // namespace
@@ -197,7 +206,7 @@ QString unreadableMember(const ProjectMembers &members)
         if (member->isEmpty() || member->size() > ZipFile::MaxMemberSize)
             return member.key();
     }
-    return valuesIn(members.value(DocumentMember)) > MaxValues ? QString(DocumentMember) : QString();
+    return isTooLarge(members.value(DocumentMember)) ? QString(DocumentMember) : QString();
 }
 
 bool readProject(Project &project, const MemberReader &read, QString &error)
