@@ -316,8 +316,12 @@ void Map::paintLayers(QPainter &painter, QPoint origin, const QRect &cells, int 
         if (placement && placement->area().intersects(cells))
             areas.append(placement->area());
     }
-    if (!areas.isEmpty())
-        m_objectLayer->paintAreas(painter, origin, cells, areas, cellSize, transparencyIndex);
+    if (areas.isEmpty())
+        return;
+    const Qt::BGMode mode = painter.backgroundMode();
+    painter.setBackgroundMode(Qt::TransparentMode); // the tile layer is what shows through
+    m_objectLayer->paintAreas(painter, origin, cells, areas, cellSize, transparencyIndex);
+    painter.setBackgroundMode(mode);
 }
 
 bool Map::exportData(const QString &fileName) const

@@ -116,9 +116,9 @@ public:
     /// The cells with zoom (1 or more) screen pixels a pixel. Palette entries whose low four bits equal
     /// the transparency index (0–15, or -1 for none) get alpha 0.
     [[nodiscard]] QImage render(const QRect &cells, int zoom, int transparencyIndex) const;
-    /// Paints cells with the top left one at origin and cellSize (1 or more) pixels along the side of each;
-    /// transparent pixels, and what lies outside the grid, are left as they are. This is what views use:
-    /// the cost depends on the pixels painted, not on the size of the grid.
+    /// Paints cells with the top left one at origin and cellSize (1 or more) pixels along the side of each.
+    /// Transparent pixels show the painter's background if its mode is opaque, or else, as outside the grid, what
+    /// was there. This is what views use: the cost depends on the pixels painted, not on the size of the grid.
     void paint(QPainter &painter, QPoint origin, const QRect &cells, int cellSize, int transparencyIndex) const;
     /// The same, but only the parts of it that lie in these areas of the grid.
     void paintAreas(QPainter &painter, QPoint origin, const QRect &cells, const QList<QRect> &areas, int cellSize,

@@ -142,6 +142,8 @@ void TileMapPicture::paint(QPainter &painter, QPoint origin, const QRect &cells,
     const std::vector<int> samples = samplesFor(m_scale, size);
     const bool opaque =
         std::all_of(colours.cbegin(), colours.cend(), [](QRgb colour) { return qAlpha(colour) == 255; });
+    // clear pixels are filled in here: blending would have to look at every pixel of the screen
+    const bool filled = !opaque && painter.backgroundMode() == Qt::OpaqueMode;
     const int stripCells = std::max(StripHeight / size, 1);
     QImage strip;
     for (const QRect &area : areas) {
@@ -150,16 +152,21 @@ void TileMapPicture::paint(QPainter &painter, QPoint origin, const QRect &cells,
             continue;
         if (inside.width() * size > strip.width()) {
             strip = QImage(inside.width() * size, stripCells * size,
-                           opaque ? QImage::Format_RGB32 : QImage::Format_ARGB32_Premultiplied);
+                           opaque || filled ? QImage::Format_RGB32 : QImage::Format_ARGB32_Premultiplied);
             if (strip.isNull())
                 return;
             strip.setDevicePixelRatio(ratio);
         }
         for (int y = inside.top(); y <= inside.bottom(); y += stripCells) {
             const QRect part = QRect(inside.left(), y, inside.width(), stripCells) & inside;
-            compose(part, {strip.bits(), strip.bytesPerLine(), samples}, colours);
-            painter.drawImage(origin + (part.topLeft() - cells.topLeft()) * cellSize, strip,
-                              QRect(QPoint(0, 0), part.size() * size));
+            const QPoint place = origin + (part.topLeft() - cells.topLeft()) * cellSize;
+            if (filled) {
+                QPainter beneath(&strip);
+                beneath.setBrushOrigin(painter.brushOrigin() - place);
+                beneath.fillRect(QRect(QPoint(0, 0), part.size() * cellSize), painter.background());
+            }
+            compose(part, {strip.bits(), strip.bytesPerLine(), samples, filled}, colours);
+            painter.drawImage(place, strip, QRect(QPoint(0, 0), part.size() * size));
         }
     }
 }
@@ -228,7 +235,7 @@ void TileMapPicture::compose(const QRect &cells, const Target &target, const std
             const QPoint offset = (part.topLeft() - cells.topLeft()) * size;
             uchar *bits = target.bits + offset.y() * target.bytesPerLine + offset.x() * qsizetype(sizeof(Pixel));
             composeFromBlock(block(column, row), part.translated(-blockCells.topLeft()),
-                             {bits, target.bytesPerLine, target.samples}, values);
+                             {bits, target.bytesPerLine, target.samples, target.keepsUnderZero}, values);
         }
     }
 }
@@ -240,25 +247,41 @@ void TileMapPicture::composeFromBlock(const Block &block, const QRect &cells, co
     const auto size = int(target.samples.size());
     const int stride = blockSide();
     const int width = cells.width() * size;
-    uchar *line = target.bits;
+    std::vector<Pixel> sparse(size_t(target.keepsUnderZero ? width : 0));
+    uchar *bits = target.bits;
     for (int row = cells.top(); row <= cells.bottom(); ++row) {
-        for (int y = 0; y < size; ++y, line += target.bytesPerLine) {
+        for (int y = 0; y < size; ++y, bits += target.bytesPerLine) {
+            auto *line = reinterpret_cast<Pixel *>(bits);
             const int sample = target.samples[size_t(y)];
-            if (y > 0 && sample == target.samples[size_t(y - 1)]) {
-                std::memcpy(line, line - target.bytesPerLine, size_t(width) * sizeof(Pixel));
+            const bool again = y > 0 && sample == target.samples[size_t(y - 1)];
+            if (again && !target.keepsUnderZero) {
+                std::memcpy(bits, bits - target.bytesPerLine, size_t(width) * sizeof(Pixel));
                 continue;
             }
-            auto *to = reinterpret_cast<Pixel *>(line);
-            const uchar *from = block.data() + (row * m_scale + sample) * stride + cells.left() * m_scale;
-            if (size == m_scale) {
-                for (int x = 0; x < width; ++x)
-                    to[x] = values[from[x]];
-                continue;
+            if (!again) {
+                composeLine(block.data() + (row * m_scale + sample) * stride + cells.left() * m_scale, cells.width(),
+                            target.samples, values, target.keepsUnderZero ? sparse.data() : line);
             }
-            for (int x = 0; x < cells.width(); ++x, from += m_scale) {
-                for (const int column : target.samples)
-                    *to++ = values[from[column]];
-            }
+            if (target.keepsUnderZero)
+                std::transform(sparse.cbegin(), sparse.cend(), line, line,
+                               [](Pixel over, Pixel under) { return over ? over : under; });
         }
+    }
+}
+
+template <typename Pixel>
+void TileMapPicture::composeLine(const uchar *from, int cells, const std::vector<int> &samples,
+                                 const std::array<Pixel, 256> &values, Pixel *to) const
+{
+    if (samples.size() == TileSize) { // the usual case, which a compiler unrolls
+        for (int x = 0; x < cells; ++x, from += TileSize, to += TileSize) {
+            for (int i = 0; i < TileSize; ++i)
+                to[i] = values[from[i]];
+        }
+        return;
+    }
+    for (int x = 0; x < cells; ++x, from += m_scale) {
+        for (const int column : samples)
+            *to++ = values[from[column]];
     }
 }

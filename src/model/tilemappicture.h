@@ -41,8 +41,9 @@ public:
     [[nodiscard]] QImage image(const QRect &area);
     /// The cells with cellSize pixels a cell as palette indices without colours.
     [[nodiscard]] QImage scaledImage(const QRect &cells, int cellSize);
-    /// Paints areas of the grid with a colour, opaque or clear, for each palette index. The cell at the top left
-    /// of `cells` comes to origin, and what lies outside `cells` is not painted.
+    /// Paints areas of the grid with a colour, opaque or clear (0), for each palette index. The cell at the top left
+    /// of `cells` comes to origin, and what lies outside `cells` is not painted. Clear pixels show the painter's
+    /// background if its mode is opaque.
     void paint(QPainter &painter, QPoint origin, const QRect &cells, const QList<QRect> &areas, int cellSize,
                const std::array<QRgb, 256> &colours);
 
@@ -55,6 +56,7 @@ private:
         uchar *bits;
         qsizetype bytesPerLine;
         const std::vector<int> &samples; ///< for each pixel along the side of a cell, the block's pixel it shows
+        bool keepsUnderZero = false; ///< a pixel of value 0 is not written
     };
 
     [[nodiscard]] int cellsPerBlock() const { return BlockSide / m_scale; }
@@ -69,6 +71,9 @@ private:
     template <typename Pixel>
     void composeFromBlock(const Block &block, const QRect &cells, const Target &target,
                           const std::array<Pixel, 256> &values);
+    template <typename Pixel>
+    void composeLine(const uchar *from, int cells, const std::vector<int> &samples,
+                     const std::array<Pixel, 256> &values, Pixel *to) const;
 
     static constexpr int BlockSide = 256; ///< pixels, or a little less where the scale does not divide it
 

@@ -26,14 +26,12 @@ void DrawTool::mouseReleased(QMouseEvent *)
 
 void DrawTool::paintUnder(QPainter &painter) const
 {
-    const MapViewport &viewport = grid()->viewport();
     if (grid()->hasHoverCell() && grid()->highlight().isEmpty()) {
         const QImage tile = grid()->tilePicture(grid()->currentTile());
         if (!tile.isNull())
-            painter.drawImage(viewport.rectOfCells({grid()->hoverCell(), QSize(1, 1)}), tile);
+            painter.drawImage(grid()->viewport().rectOfCells({grid()->hoverCell(), QSize(1, 1)}), tile);
     }
-    if (!grid()->selection().isEmpty())
-        MapGrid::paintOutline(painter, viewport.rectOfCells(grid()->selection()));
+    grid()->paintSelection(painter);
 }
 
 } // namespace MapEditor

@@ -120,6 +120,7 @@ public:
     void showContextMenu(QPoint globalPosition);
     /// Shows the tool's cursor, or that it is of no use now.
     void refreshCursor();
+    void paintSelection(QPainter &painter) const;
     /// Outlines an area of the widget so that it is seen on light and dark ground.
     static void paintOutline(QPainter &painter, const QRect &area);
     /// Edits may be nested; the outermost one becomes the undo step.
@@ -220,10 +221,8 @@ private:
     /// An edit that may change the size of the map.
     void resizingEdit(const QString &text, const std::function<void(Map &)> &operation);
 
-    bool isOpaque() const;
-    void paintBackground(QPainter &painter) const;
+    QBrush background() const;
     void paintMap(QPainter &painter, const QRect &dirty) const;
-    void paintGridLines(QPainter &painter) const;
     void paintStatus(QPainter &painter, qint64 milliseconds) const;
 
     QRubberBand *m_rubberBand;

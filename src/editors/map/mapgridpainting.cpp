@@ -10,7 +10,6 @@
 #include <QPainter>
 
 #include <algorithm>
-#include <utility>
 
 namespace MapEditor {
 
@@ -19,17 +18,32 @@ namespace {
 constexpr QColor GridLines(64, 64, 64);
 constexpr QColor LightGrey(208, 208, 208); ///< of outlines
 constexpr QColor DarkGrey(48, 48, 48);
-constexpr int StripHeight = 64; ///< of a part of the grid lines, in screen pixels
 
-/// A brush that repeats a square picture. Small ones are put together first: a brush is as slow as its picture is
-/// narrow.
+/// A brush that repeats a square picture. Narrow ones are put side by side first: a brush is as slow as its picture
+/// is narrow.
 QBrush repeating(const QImage &square)
 {
-    constexpr int Enough = 256;
-    const int times = std::max(Enough / square.width(), 1);
-    QImage image(square.size() * times, QImage::Format_RGB32);
-    QPainter(&image).fillRect(image.rect(), QBrush(square));
+    constexpr int Enough = 512;
+    const int times = Enough / square.width();
+    if (times <= 1)
+        return {square};
+    QImage image(square.width() * times, square.height(), square.format());
+    QPainter painter(&image);
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    for (int i = 0; i < times; ++i)
+        painter.drawImage(i * square.width(), 0, square);
     return {image};
+}
+
+/// The lines at the left and at the top of a cell.
+QImage lines(int cellSize, QColor colour)
+{
+    QImage image(cellSize, cellSize, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.fillRect(0, 0, cellSize, 1, colour);
+    painter.fillRect(0, 0, 1, cellSize, colour);
+    return image;
 }
 
 /// A checker board of two colours, one cell each, that starts with the first.
@@ -59,14 +73,13 @@ void MapGrid::paintEvent(QPaintEvent *event)
         return;
 
     painter.setClipRect(cells, Qt::IntersectClip);
-    if (!isOpaque())
-        paintBackground(painter);
+    painter.setBrushOrigin(cells.topLeft());
     paintMap(painter, event->rect() & cells);
     if (const QRect sprite = spriteRect(m_hoverSprite); !sprite.isEmpty())
         paintOutline(painter, sprite);
     m_tool->paintUnder(painter);
     if (m_gridVisible)
-        paintGridLines(painter);
+        painter.fillRect(cells, repeating(lines(m_viewport.cellSize, GridLines)));
     if (!m_highlight.isEmpty())
         paintOutline(painter, m_viewport.rectOfCells(m_highlight));
     m_tool->paintOver(painter);
@@ -75,34 +88,20 @@ void MapGrid::paintEvent(QPaintEvent *event)
     paintStatus(painter, timer.elapsed());
 }
 
-/// Whether the map hides all that lies beneath it, which then need not be painted.
-bool MapGrid::isOpaque() const
+/// What shows through transparent pixels and where the tile layer is hidden.
+QBrush MapGrid::background() const
 {
-    const QPointer<TileMap> layer = m_map->tileLayer();
-    return m_transparencyIndex < 0 && layer && layer->isVisible() && layer->tileSet() && layer->tileSet()->palette()
-        && layer->bounds().contains(m_viewport.visibleCells());
-}
-
-void MapGrid::paintBackground(QPainter &painter) const
-{
-    const QRect &area = m_viewport.viewRect;
     const int side = m_viewport.cellSize;
     const QPointer<TileSet> tiles = m_map->tileSet();
-    painter.setBrushOrigin(area.topLeft());
-    TileMap::TileData background;
-    background.index = m_backgroundTileIndex;
-    background.offset = tiles ? tiles->tileOffset(m_backgroundTileIndex) : 0;
-    const QImage tile = tilePicture(background);
-    if (!tile.isNull()) {
-        painter.fillRect(area, repeating(tile.scaled(side, side)));
-    } else if (m_checkerVisible) {
-        const bool odd = (m_viewport.scroll.x() + m_viewport.scroll.y()) % 2 != 0; // squares scroll with the cells
-        const auto &[first, second] =
-            odd ? std::pair(m_gridColour2, m_gridColour1) : std::pair(m_gridColour1, m_gridColour2);
-        painter.fillRect(area, repeating(checker(side, first, second)));
-    } else {
-        painter.fillRect(area, Qt::black);
-    }
+    TileMap::TileData cell;
+    cell.index = m_backgroundTileIndex;
+    cell.offset = tiles ? tiles->tileOffset(m_backgroundTileIndex) : 0;
+    if (const QImage tile = tilePicture(cell); !tile.isNull())
+        return repeating(tile.scaled(side, side).convertToFormat(QImage::Format_RGB32));
+    if (!m_checkerVisible)
+        return Qt::black;
+    const bool odd = (m_viewport.scroll.x() + m_viewport.scroll.y()) % 2 != 0; // squares scroll with the cells
+    return repeating(odd ? checker(side, m_gridColour2, m_gridColour1) : checker(side, m_gridColour1, m_gridColour2));
 }
 
 /// Paints what of the map lies in an area of the widget.
@@ -110,7 +109,13 @@ void MapGrid::paintMap(QPainter &painter, const QRect &dirty) const
 {
     const QRect cells = m_viewport.cellsUnder(dirty);
     const QPoint origin = m_viewport.rectOfCells(cells).topLeft();
+    const QPointer<TileMap> layer = m_map->tileLayer();
+    painter.setBackground(background());
+    if (!layer || !layer->isVisible() || !layer->tileSet() || !layer->tileSet()->palette())
+        painter.eraseRect(dirty); // which the tile layer does not cover
+    painter.setBackgroundMode(Qt::OpaqueMode);
     m_map->paintLayers(painter, origin, cells, m_viewport.cellSize, m_transparencyIndex);
+    painter.setBackgroundMode(Qt::TransparentMode);
     if (m_map->spriteLayerVisible())
         PlacedSprites::paint(painter, origin, cells, m_viewport.cellSize, m_map->sprites(), m_spriteBanks,
                              m_spriteTicks);
@@ -124,18 +129,10 @@ QImage MapGrid::tilePicture(const TileMap::TileData &cell) const
     return tiles->tileImage(cell.index, cell.rotate, cell.flip, cell.mirror, cell.offset);
 }
 
-void MapGrid::paintGridLines(QPainter &painter) const
+void MapGrid::paintSelection(QPainter &painter) const
 {
-    const QRect &area = m_viewport.viewRect;
-    const int step = m_viewport.cellSize;
-    for (int y = area.top(); y < area.bottom(); y += step)
-        painter.fillRect(area.left(), y, area.width(), 1, GridLines);
-    // in strips that stay in the processor's cache, which whole columns would not
-    for (int y = area.top(); y <= area.bottom(); y += StripHeight) {
-        const int height = std::min(StripHeight, area.bottom() + 1 - y);
-        for (int x = area.left(); x < area.right(); x += step)
-            painter.fillRect(x, y, 1, height, GridLines);
-    }
+    if (!m_selection.isEmpty())
+        paintOutline(painter, m_viewport.rectOfCells(m_selection));
 }
 
 void MapGrid::paintOutline(QPainter &painter, const QRect &area)

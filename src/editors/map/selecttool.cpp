@@ -10,7 +10,7 @@ bool SelectTool::activate()
 {
     grid()->setPasteArea({});
     grid()->setSelection({});
-    grid()->refreshCursor();
+    grid()->setCursor(Qt::CrossCursor);
     return true;
 }
 
@@ -39,8 +39,7 @@ void SelectTool::mouseMoved(QMouseEvent *event)
 
 void SelectTool::paintUnder(QPainter &painter) const
 {
-    if (!grid()->selection().isEmpty())
-        MapGrid::paintOutline(painter, grid()->viewport().rectOfCells(grid()->selection()));
+    grid()->paintSelection(painter);
 }
 
 } // namespace MapEditor
