@@ -16,8 +16,6 @@ namespace MapEditor {
 class MapEdit
 {
 public:
-    [[nodiscard]] bool isOpen() const { return m_depth > 0; }
-
     /// Begins an edit, or a nested one.
     void begin(const QPointer<Map> &map);
     /// Ends the edit, or a nested one. The outermost one pushes a command of that text onto the stack, if there

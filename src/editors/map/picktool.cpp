@@ -12,13 +12,8 @@ bool PickTool::activate()
     const bool refused = before == Quenmora::Ui::Paste && grid()->pasteArea().isEmpty(); // while picking
     if (before != mode() && !refused)
         m_modeBefore = before;
-    grid()->refreshCursor();
+    grid()->setCursor(QCursor(QPixmap(QStringLiteral(":/PickerCursor")), 5, 28));
     return true;
-}
-
-QCursor PickTool::cursor() const
-{
-    return QCursor(QPixmap(QStringLiteral(":/PickerCursor")), 5, 28);
 }
 
 void PickTool::mouseReleased(QMouseEvent *event)

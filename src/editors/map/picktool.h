@@ -12,7 +12,6 @@ public:
 
     Quenmora::Ui::ToolButton mode() const override { return Quenmora::Ui::Pick; }
     bool activate() override;
-    QCursor cursor() const override;
     void mouseReleased(QMouseEvent *event) override;
 
 private:

@@ -12,7 +12,6 @@ public:
 
     Quenmora::Ui::ToolButton mode() const override { return Quenmora::Ui::Select; }
     bool activate() override;
-    QCursor cursor() const override { return Qt::CrossCursor; }
     bool mousePressedFirst(QMouseEvent *event) override;
     void mouseMoved(QMouseEvent *event) override;
     void paintUnder(QPainter &painter) const override;
