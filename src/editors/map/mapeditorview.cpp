@@ -1,8 +1,8 @@
 #include "editors/map/mapeditorview.h"
 
-#include "editors/map/exportdialog.h"
 #include "editors/map/mapanimator.h"
 #include "editors/map/mapeditortoolbar.h"
+#include "editors/map/mapexport.h"
 #include "editors/map/mapgrid.h"
 #include "editors/map/mappreferences.h"
 #include "editors/map/maptoolpalette.h"
@@ -10,11 +10,9 @@
 #include "editors/map/spritepropertiespopover.h"
 #include "editors/map/viewbuilder.h"
 #include "model/placedsprites.h"
-#include "model/tileset.h"
 #include "ui/scrollbar.h"
 
 #include <QAction>
-#include <QFileDialog>
 #include <QTabWidget>
 
 #include <algorithm>
@@ -245,7 +243,7 @@ void View::toolPaletteClicked(ToolButton action, bool checked)
         m_grid->update();
         break;
     case Save:
-        chooseExportFolder();
+        m_export->start();
         break;
     case AnimPlay:
     case AnimStop:
@@ -378,44 +376,6 @@ void View::resizeMap()
 {
     if (m_map && m_resizeDialog->mapSize() != m_map->size())
         m_grid->resizeMap(m_resizeDialog->mapSize(), m_resizeDialog->alignment());
-}
-
-// Exporting
-
-void View::chooseExportFolder()
-{
-    if (!m_map)
-        return;
-    if (!m_folderDialog) {
-        m_folderDialog = new QFileDialog(this, tr("Choose a directory to export anim into"));
-        m_folderDialog->setFileMode(QFileDialog::Directory);
-        m_folderDialog->setOption(QFileDialog::ShowDirsOnly);
-        connect(m_folderDialog, &QFileDialog::fileSelected, this, &View::showExportDialog);
-    }
-    m_folderDialog->open();
-}
-
-void View::showExportDialog(const QString &folder)
-{
-    if (!m_map)
-        return;
-    m_exportFolder = folder;
-    const QPointer<TileSet> tiles = m_map->tileSet();
-    m_exportDialog->setAvailable(tiles, tiles && tiles->palette());
-    m_exportDialog->open();
-}
-
-void View::exportChosen()
-{
-    if (!m_map)
-        return;
-    const QPointer<TileSet> tiles = m_map->tileSet();
-    if (m_exportDialog->exportMap())
-        emit exportTileMap(m_exportFolder, m_map->id());
-    if (m_exportDialog->exportTiles() && tiles)
-        emit exportTiles(m_exportFolder, tiles->id());
-    if (m_exportDialog->exportPalette() && tiles)
-        emit exportTilePalette(m_exportFolder, tiles->paletteId());
 }
 
 // Placed sprites

@@ -13,14 +13,13 @@
 #include <QSize>
 #include <QWidget>
 
-class QFileDialog;
 class QUndoStack;
 class ScrollBar;
 
 namespace MapEditor {
 
-class ExportDialog;
 class MapAnimator;
+class MapExport;
 class MapGrid;
 class MapToolPalette;
 class ResizeDialog;
@@ -47,7 +46,6 @@ public:
     [[nodiscard]] MapAnimator *animator() const { return m_animator; }
     [[nodiscard]] SpritePropertiesPopover *popover() const { return m_popover; }
     [[nodiscard]] ResizeDialog *resizeDialog() const { return m_resizeDialog; }
-    [[nodiscard]] ExportDialog *exportDialog() const { return m_exportDialog; }
     /// The size of the map in cells and bytes, as a text.
     [[nodiscard]] QString sizeText() const { return m_sizeText; }
 
@@ -125,9 +123,6 @@ private:
     void showToolBarState();
     void mapSizeChanged();
     void showResizeDialog();
-    void chooseExportFolder();
-    void showExportDialog(const QString &folder);
-    void exportChosen();
 
     QPointer<Map> m_map;
     MapGrid *m_grid = nullptr;
@@ -138,9 +133,7 @@ private:
     MapAnimator *m_animator = nullptr;
     SpritePropertiesPopover *m_popover = nullptr;
     ResizeDialog *m_resizeDialog = nullptr;
-    ExportDialog *m_exportDialog = nullptr;
-    QFileDialog *m_folderDialog = nullptr; ///< made when first needed
-    QString m_exportFolder;
+    MapExport *m_export = nullptr;
     QSize m_viewPortSize; ///< in cells, as last set in the tool bar
     QString m_sizeText;
     bool m_playing = false; ///< what the person wants; the two below may keep it from happening

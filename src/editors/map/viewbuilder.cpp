@@ -1,8 +1,8 @@
 #include "editors/map/viewbuilder.h"
 
-#include "editors/map/exportdialog.h"
 #include "editors/map/mapanimator.h"
 #include "editors/map/mapeditorview.h"
+#include "editors/map/mapexport.h"
 #include "editors/map/mapgrid.h"
 #include "editors/map/maptoolpalette.h"
 #include "editors/map/resizedialog.h"
@@ -27,6 +27,7 @@ void ViewBuilder::build()
     connectGrid();
     connectScrollBars();
     connectPopover();
+    connectExport();
 }
 
 void ViewBuilder::makeParts()
@@ -38,7 +39,7 @@ void ViewBuilder::makeParts()
     m_view.m_animator = new MapAnimator(&m_view);
     m_view.m_popover = new SpritePropertiesPopover(&m_view);
     m_view.m_resizeDialog = new ResizeDialog(&m_view);
-    m_view.m_exportDialog = new ExportDialog(&m_view);
+    m_view.m_export = new MapExport(m_view.m_map, &m_view);
 }
 
 void ViewBuilder::layOut()
@@ -129,7 +130,6 @@ void ViewBuilder::connectGrid()
     QObject::connect(grid, &MapGrid::createMapFromSelection, view, &View::createMapFromSelection);
     QObject::connect(grid, &MapGrid::animationPicked, view, &View::animationPicked);
     QObject::connect(m_view.m_resizeDialog, &QDialog::accepted, view, &View::resizeMap);
-    QObject::connect(m_view.m_exportDialog, &QDialog::accepted, view, &View::exportChosen);
 }
 
 void ViewBuilder::connectScrollBars()
@@ -151,6 +151,13 @@ void ViewBuilder::connectPopover()
     QObject::connect(m_view.m_grid, &MapGrid::spriteClicked, &m_view, &View::showSprite);
     QObject::connect(m_view.m_popover, &SpritePropertiesPopover::spriteEdited, m_view.m_grid,
                      &MapGrid::setSpriteProperties);
+}
+
+void ViewBuilder::connectExport()
+{
+    QObject::connect(m_view.m_export, &MapExport::exportTileMap, &m_view, &View::exportTileMap);
+    QObject::connect(m_view.m_export, &MapExport::exportTiles, &m_view, &View::exportTiles);
+    QObject::connect(m_view.m_export, &MapExport::exportTilePalette, &m_view, &View::exportTilePalette);
 }
 
 } // namespace MapEditor

@@ -23,6 +23,7 @@ private:
     void connectGrid();
     void connectScrollBars();
     void connectPopover();
+    void connectExport();
 
     View &m_view;
 };

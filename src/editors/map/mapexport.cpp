@@ -1,0 +1,56 @@
+#include "editors/map/mapexport.h"
+
+#include "editors/map/exportdialog.h"
+#include "model/palette.h"
+#include "model/tileset.h"
+
+#include <QFileDialog>
+
+namespace MapEditor {
+
+MapExport::MapExport(const QPointer<Map> &map, QWidget *window)
+    : QObject(window)
+    , m_map(map)
+    , m_window(window)
+    , m_dialog(new ExportDialog(window))
+{
+    connect(m_dialog, &QDialog::accepted, this, &MapExport::accepted);
+}
+
+void MapExport::start()
+{
+    if (!m_map)
+        return;
+    if (!m_folderDialog) {
+        m_folderDialog = new QFileDialog(m_window, tr("Choose a directory to export anim into"));
+        m_folderDialog->setFileMode(QFileDialog::Directory);
+        m_folderDialog->setOption(QFileDialog::ShowDirsOnly);
+        connect(m_folderDialog, &QFileDialog::fileSelected, this, &MapExport::folderChosen);
+    }
+    m_folderDialog->open();
+}
+
+void MapExport::folderChosen(const QString &folder)
+{
+    if (!m_map)
+        return;
+    m_folder = folder;
+    const QPointer<TileSet> tiles = m_map->tileSet();
+    m_dialog->setAvailable(tiles, tiles && tiles->palette());
+    m_dialog->open();
+}
+
+void MapExport::accepted()
+{
+    if (!m_map)
+        return;
+    const QPointer<TileSet> tiles = m_map->tileSet();
+    if (m_dialog->exportMap())
+        emit exportTileMap(m_folder, m_map->id());
+    if (m_dialog->exportTiles() && tiles)
+        emit exportTiles(m_folder, tiles->id());
+    if (m_dialog->exportPalette() && tiles)
+        emit exportTilePalette(m_folder, tiles->paletteId());
+}
+
+} // namespace MapEditor
