@@ -1,34 +1,40 @@
 #include "editors/animation/animationlistwidget.h"
 #include "editors/map/blockselectorwindow.h"
 #include "editors/map/mapspriteswindow.h"
-#include "model/palette.h"
+#include "support/mapfixture.h"
 #include "support/testmain.h"
 
-#include <QAction>
-#include <QComboBox>
-#include <QListView>
-#include <QListWidget>
-#include <QSignalSpy>
-#include <QTest>
-#include <QToolButton>
+#include <QtWidgets>
 
 using List = AnimationEditor::AnimationListWidget;
 
 namespace {
 
-QStringList names(const List &list)
+/// Block animations "Torch", "Door" and "Water", and the sprite animation "Run".
+struct Fixture : MapAssets
+{
+    Fixture()
+    {
+        run->setName("Run");
+        for (const auto *name : {"Door", "Water"})
+            blocks->createBoundTileAnimation(name)->addFrame();
+    }
+    QPointer<TileAnimation> block(int row) const { return blocks->animations().at(row); }
+    QPointer<SpriteBank> makeBank() { return project.createSpriteBank(Quenmora::FourBit, "Foes", palette->id()); }
+};
+
+QString names(const QWidget &parent)
 {
     QStringList names;
-    const auto *items = list.findChild<QListWidget *>();
+    const auto *items = parent.findChild<QListWidget *>();
     for (int row = 0; row < items->count(); ++row)
         names.append(items->item(row)->text());
-    return names;
+    return names.join(' ');
 }
 
 void click(QAbstractItemView *view, int row)
 {
-    const QRect cell = view->visualRect(view->model()->index(row, 0));
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, cell.center());
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->visualRect(view->model()->index(row, 0)).center());
 }
 
 } // namespace
@@ -38,227 +44,157 @@ class TestMapDocks : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-
     void listKeepsTheSelection();
+    void listOffersWhatItsFlagsSay();
     void objectsAreThoseOfTheTileSet();
-    void objectsAreChosen();
     void spritesAreThoseOfTheBank();
     void spritesAreChosen();
-    void spritesFollowTheMap();
-    void listOffersWhatItsFlagsSay();
-
-private:
-    std::unique_ptr<Project> m_project;
-    QPointer<Palette> m_palette;
-    QPointer<TileSet> m_tiles;
-    QPointer<MapObjects> m_blocks;
-    QPointer<SpriteBank> m_bank;
 };
-
-void TestMapDocks::init()
-{
-    m_project = std::make_unique<Project>();
-    m_palette = m_project->createPalette(CreateAction::DefaultNext, "Colours");
-    m_tiles = m_project->createTileSet("Tiles", m_palette->id(), 16);
-    m_blocks = m_project->createBlockList("Blocks", m_tiles->id());
-    for (const auto *name : {"Door", "Torch", "Water"})
-        m_blocks->createBoundTileAnimation(name)->addFrame();
-    m_bank = m_project->createSpriteBank(Quenmora::EightBit, "Heroes", m_palette->id());
-    m_bank->addSprite();
-    m_bank->addSprite();
-    m_bank->newAnimation()->setName("Run");
-}
-
-void TestMapDocks::cleanup()
-{
-    m_project.reset();
-}
 
 void TestMapDocks::listKeepsTheSelection()
 {
+    const Fixture f;
     List list;
-    const QList<QPointer<TileAnimation>> animations = m_blocks->animations();
-    list.setAnimations(animations);
-    list.select(animations.at(1));
+    list.setAnimations(f.blocks->animations());
+    list.select(f.block(1));
     QSignalSpy changed(&list, &List::selectedItemChanged);
-    list.setAnimations(QList<QPointer<TileAnimation>>{animations.at(1), animations.at(2)});
-    QCOMPARE(list.selected(), animations.at(1).data());
+    list.setAnimations(QList{f.block(1), f.block(2)});
+    QCOMPARE(list.selected(), f.block(1).data());
     QCOMPARE(changed.count(), 0);
-    list.setAnimations(QList<QPointer<TileAnimation>>{animations.at(2)});
-    QVERIFY(!list.selected());
-    QCOMPARE(changed, (QList<QVariantList>{{QVariant::fromValue<Animation *>(nullptr)}}));
+    list.setAnimations(QList{f.block(2)});
+    list.select(f.block(2));
+    list.removeAnimation(f.block(2));
+    const auto none = QVariant::fromValue<Animation *>(nullptr);
+    QCOMPARE(changed, (Signals{{none}, {QVariant::fromValue<Animation *>(f.block(2))}, {none}}));
 
-    list.select(animations.at(2));
-    list.removeAnimation(animations.at(2));
-    QCOMPARE(changed.count(), 3);
-    QCOMPARE(list.animations().size(), 0);
-
-    list.setAnimations(animations);
-    animations.at(1)->setName("Candle");
-    QCOMPARE(names(list), (QStringList{"Door", "Candle", "Water"}));
+    list.setAnimations(f.blocks->animations());
+    f.block(1)->setName("Candle");
+    QCOMPARE(names(list), "Torch Candle Water");
     const auto *items = list.findChild<QListWidget *>();
     const qint64 before = items->item(2)->icon().cacheKey();
-    animations.at(2)->frame(0)->setIndex(0, 0, 3);
+    f.block(2)->frame(0)->setIndex(0, 0, 3);
     QTRY_VERIFY(items->item(2)->icon().cacheKey() != before);
+}
+
+void TestMapDocks::listOffersWhatItsFlagsSay()
+{
+    const Fixture f;
+    const List plain;
+    QVERIFY(!plain.findChild<QToolButton *>() && plain.findChild<QListWidget *>()->actions().isEmpty());
+    List list(List::Buttons | List::ContextMenu | List::Details);
+    list.setAnimations(f.blocks->animations());
+    QCOMPARE(list.findChildren<QToolButton *>().size(), 2);
+    const auto *items = list.findChild<QListWidget *>();
+    QCOMPARE(items->item(0)->text(), "Torch\n2 frame(s) [3x2]");
+    QString asked;
+    connect(&list, &List::addRequested, [&asked] { asked += "add "; });
+    connect(&list, &List::removeRequested, [&asked] { asked += "remove "; });
+    connect(&list, &List::cloneRequested, [&asked](Animation *animation) { asked += animation->name(); });
+    for (const auto &selected : {QPointer<TileAnimation>(), f.block(2)}) {
+        list.select(selected);
+        for (QAction *action : items->actions())
+            action->trigger();
+    }
+    QCOMPARE(asked, "add add remove Water");
 }
 
 void TestMapDocks::objectsAreThoseOfTheTileSet()
 {
+    Fixture f;
     BlockSelectorWindow dock;
     QVERIFY(!dock.isActive());
-    dock.setTileSet(m_tiles);
-    QVERIFY(dock.isActive());
-    QCOMPARE(names(*dock.list()), (QStringList{"Door", "Torch", "Water"}));
-    m_blocks->createBoundTileAnimation("Lift");
-    QCOMPARE(names(*dock.list()).last(), QStringLiteral("Lift"));
-
-    dock.selectAnimation(m_blocks->animations().at(1)->id());
-    m_blocks->removeAnimation(m_blocks->animations().at(1)->id());
-    QCOMPARE(names(*dock.list()), (QStringList{"Door", "Water", "Lift"}));
-
-    const QPointer<TileSet> others = m_project->createTileSet("Others", m_palette->id(), 16);
-    dock.setTileSet(others);
-    QVERIFY(!dock.isActive());
-    QCOMPARE(dock.placeholderText(), QStringLiteral("The tile set has no map objects"));
-    m_blocks->createBoundTileAnimation("Unseen");
-    QCOMPARE(names(*dock.list()), QStringList());
-    dock.setTileSet(m_tiles);
-    m_project->deleteBlocks(m_blocks->id());
-    QVERIFY(!dock.isActive());
-    m_project->deleteTileSet(m_tiles->id());
-    QCOMPARE(dock.placeholderText(), QStringLiteral("No active tile set"));
-}
-
-void TestMapDocks::objectsAreChosen()
-{
-    BlockSelectorWindow dock;
-    dock.setTileSet(m_tiles);
+    dock.setTileSet(f.tiles);
     dock.show();
+    QCOMPARE(names(dock), "Torch Door Water");
     auto *items = dock.list()->findChild<QListWidget *>();
     QSignalSpy selected(&dock, &BlockSelectorWindow::animationSelected);
-    const auto chosen = [this](int row) { return QVariantList{QVariant::fromValue(m_blocks->animations().at(row))}; };
     click(items, 1);
-    QCOMPARE(selected, (QList<QVariantList>{chosen(1)}));
     click(items, 1); // the tool may be another one meanwhile
     QTest::keyClick(items, Qt::Key_Down);
-    QCOMPARE(selected, (QList<QVariantList>{chosen(1), chosen(1), chosen(2)}));
-
-    selected.clear();
-    dock.selectAnimation(m_blocks->animations().at(0)->id());
-    QCOMPARE(dock.list()->selected(), m_blocks->animations().at(0).data());
+    const auto door = QVariant::fromValue(f.block(1));
+    QCOMPARE(selected, (Signals{{door}, {door}, {QVariant::fromValue(f.block(2))}}));
+    dock.selectAnimation(f.block(0)->id());
+    QCOMPARE(dock.list()->selected(), f.block(0).data());
     dock.selectAnimation(QUuid::createUuid());
     QVERIFY(!dock.list()->selected());
-    QCOMPARE(selected.count(), 0);
+    QCOMPARE(selected.count(), 3);
+
+    f.blocks->createBoundTileAnimation("Lift");
+    f.blocks->removeAnimation(f.animation->id());
+    QCOMPARE(names(dock), "Door Water Lift");
+    dock.setTileSet(f.project.createTileSet("Others", f.palette->id(), 16));
+    QCOMPARE(dock.placeholderText(), "The tile set has no map objects");
+    f.blocks->createBoundTileAnimation("Unseen");
+    QVERIFY(!dock.isActive() && names(dock).isEmpty());
+    dock.setTileSet(f.tiles);
+    delete f.blocks;
+    QVERIFY(!dock.isActive());
+    delete f.tiles;
+    QCOMPARE(dock.placeholderText(), "No active tile set");
 }
 
 void TestMapDocks::spritesAreThoseOfTheBank()
 {
+    auto f = std::make_unique<Fixture>();
     MapSpritesWindow dock;
-    dock.setProject(m_project.get());
-    QVERIFY(dock.isActive());
-    const auto *list = dock.findChild<List *>();
-    const QAbstractItemModel *sprites = dock.findChild<QListView *>("sprites")->model();
-    QCOMPARE(sprites->rowCount(), 3);
-    QCOMPARE(names(*list), QStringList{"Run"});
-    m_bank->addSprite();
-    m_bank->newAnimation()->setName("Jump");
-    QCOMPARE(sprites->rowCount(), 4);
-    QCOMPARE(names(*list), (QStringList{"Run", "Jump"}));
+    dock.setProject(&f->project);
+    f->bank->addSprite();
+    f->bank->newAnimation()->setName("Jump");
+    QCOMPARE(dock.findChild<QListView *>("sprites")->model()->rowCount(), 5);
+    QCOMPARE(names(dock), "Run Jump");
 
-    const QPointer<SpriteBank> second = m_project->createSpriteBank(Quenmora::FourBit, "Foes", m_palette->id());
+    const QPointer<SpriteBank> second = f->makeBank();
     auto *banks = dock.findChild<QComboBox *>();
     QCOMPARE(banks->count(), 2);
-    QCOMPARE(dock.bank(), m_bank);
+    QCOMPARE(dock.bank(), f->bank);
     banks->setCurrentIndex(1);
     QCOMPARE(dock.bank(), second);
-    QCOMPARE(names(*list), QStringList());
-
-    m_project->deleteSpriteBank(second->id());
-    QCOMPARE(dock.bank(), m_bank);
-    m_project->deleteSpriteBank(m_bank->id());
+    QCOMPARE(names(dock), "");
+    f->project.deleteSpriteBank(second->id());
+    QCOMPARE(dock.bank(), f->bank);
+    f->project.deleteSpriteBank(f->bank->id());
     QVERIFY(!dock.isActive() && !dock.bank());
-    m_project->createSpriteBank(Quenmora::FourBit, "New", m_palette->id());
+    f->makeBank();
     QVERIFY(dock.isActive());
-    m_project.reset();
+    f.reset();
     QVERIFY(!dock.isActive());
     dock.grab();
 }
 
 void TestMapDocks::spritesAreChosen()
 {
+    Fixture f;
     MapSpritesWindow dock;
     dock.resize(300, 400);
-    dock.setProject(m_project.get());
+    dock.setProject(&f.project);
     dock.show();
-    auto *animations = dock.findChild<QListWidget *>();
     auto *sprites = dock.findChild<QListView *>("sprites");
+    const auto *animations = dock.findChild<List *>();
     QSignalSpy single(&dock, &MapSpritesWindow::spriteSelected);
     QSignalSpy animated(&dock, &MapSpritesWindow::spriteAnimationSelected);
     click(sprites, 2);
     click(sprites, 2);
-    QCOMPARE(single, (QList<QVariantList>{{m_bank->id(), 2}, {m_bank->id(), 2}}));
-    click(animations, 0);
-    QCOMPARE(animated, (QList<QVariantList>{{QVariant::fromValue(m_bank->animations().at(0))}}));
+    click(dock.findChild<QListWidget *>(), 0);
     QVERIFY(!sprites->currentIndex().isValid() && !sprites->selectionModel()->hasSelection());
     click(sprites, 0);
-    QCOMPARE(single.last(), (QVariantList{m_bank->id(), 0}));
-    QVERIFY(!dock.findChild<List *>()->selected());
-}
+    QVERIFY(!animations->selected());
 
-void TestMapDocks::spritesFollowTheMap()
-{
-    const QPointer<SpriteBank> second = m_project->createSpriteBank(Quenmora::FourBit, "Foes", m_palette->id());
+    // what was chosen on the map is shown, not told
+    const QPointer<SpriteBank> second = f.makeBank();
     second->addSprite();
-    MapSpritesWindow dock;
-    dock.setProject(m_project.get());
-    QSignalSpy single(&dock, &MapSpritesWindow::spriteSelected);
-    QSignalSpy animated(&dock, &MapSpritesWindow::spriteAnimationSelected);
-    Map::PlacedSprite placed;
+    Map::PlacedSprite placed = f.sprite(1, {});
     placed.bank = second->id();
-    placed.sprite = 1;
     dock.selectSprite(placed);
     QCOMPARE(dock.bank(), second);
-    QCOMPARE(dock.findChild<QListView *>("sprites")->currentIndex().row(), 1);
-    placed.bank = m_bank->id();
-    placed.animation = m_bank->animations().at(0)->id();
-    dock.selectSprite(placed);
-    QCOMPARE(dock.bank(), m_bank);
-    QCOMPARE(dock.findChild<List *>()->selected(), m_bank->animations().at(0).data());
+    QCOMPARE(sprites->currentIndex().row(), 1);
+    dock.selectSprite(f.animated({}));
+    QCOMPARE(animations->selected(), f.run.data());
     placed.bank = QUuid::createUuid(); // one that is gone
     dock.selectSprite(placed);
-    QCOMPARE(dock.bank(), m_bank);
-    QCOMPARE(single.count() + animated.count(), 0);
-}
-
-void TestMapDocks::listOffersWhatItsFlagsSay()
-{
-    m_blocks->animations().at(0)->addFrame();
-    m_blocks->animations().at(0)->setSize({3, 1});
-    for (const int flags : {0, 1, 2, 1 | 2 | 4}) {
-        List list{List::Flags(flags)};
-        list.setAnimations(m_blocks->animations());
-        QCOMPARE(list.findChildren<QToolButton *>().size(), flags & List::Buttons ? 2 : 0);
-        const auto *items = list.findChild<QListWidget *>();
-        QStringList menu;
-        for (const QAction *action : items->actions())
-            menu.append(action->text());
-        QCOMPARE(menu.join(' '), flags & List::ContextMenu ? "Add Delete Clone" : "");
-        QCOMPARE(items->item(0)->text(), flags & List::Details ? "Door\n2 frame(s) [3x1]" : "Door");
-        QCOMPARE(items->item(0)->toolTip(), "Door");
-        if (menu.isEmpty())
-            continue;
-        QVERIFY(items->actions().at(0)->isEnabled() && !items->actions().at(1)->isEnabled());
-        QSignalSpy add(&list, &List::addRequested);
-        QSignalSpy remove(&list, &List::removeRequested);
-        QSignalSpy clone(&list, &List::cloneRequested);
-        list.select(m_blocks->animations().at(2));
-        for (QAction *action : items->actions())
-            action->trigger();
-        QCOMPARE(add.count() + remove.count(), 2);
-        QCOMPARE(clone, (QList<QVariantList>{{QVariant::fromValue<Animation *>(m_blocks->animations().at(2))}}));
-    }
+    QCOMPARE(dock.bank(), f.bank);
+    const QUuid id = f.bank->id();
+    QCOMPARE(single, (Signals{{id, 2}, {id, 2}, {id, 0}}));
+    QCOMPARE(animated, (Signals{{QVariant::fromValue(f.run)}}));
 }
 
 QUENMORA_TEST_MAIN(TestMapDocks)
