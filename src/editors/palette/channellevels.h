@@ -36,6 +36,15 @@ inline QColor colourOf(const ChannelLevels &levels)
     return {componentOf(levels[0]), componentOf(levels[1]), componentOf(levels[2])};
 }
 
+/// The colour to be given to a palette for it to keep the levels that the sliders show: the component of
+/// level 6, 219, is in a palette's eyes one of level 7, which begins at 217.
+inline QColor keepingLevels(const QColor &colour)
+{
+    constexpr int Level6InPalette = 216;
+    const auto kept = [](int component) { return component == componentOf(6) ? Level6InPalette : component; };
+    return {kept(colour.red()), kept(colour.green()), kept(colour.blue())};
+}
+
 /// The colour with one of its components (0 red, 1 green, 2 blue) replaced.
 inline QColor withComponent(QColor colour, int channel, int component)
 {

@@ -1,5 +1,6 @@
 #include "editors/palette/paletteeditor.h"
 
+#include "editors/palette/channellevels.h"
 #include "editors/palette/coloureditor.h"
 #include "editors/palette/palettegrid.h"
 #include "ui/svgiconengine.h"
@@ -105,7 +106,7 @@ void PaletteEditor::loadSelection()
 void PaletteEditor::applyColour(const QColor &colour, bool priority)
 {
     for (int index = m_first; index <= m_last && m_palette; ++index)
-        m_palette->setColour(index, colour, priority);
+        m_palette->setColour(index, Channel::keepingLevels(colour), priority);
     m_grid->update();
     emit colourChanged(colour, priority);
 }

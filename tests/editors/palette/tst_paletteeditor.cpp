@@ -95,6 +95,12 @@ private slots:
         QCOMPARE(words, (QList<quint16>{0, 0xE080, 0xE080, 0}));
         QCOMPARE(edits.count(), 3);
         QVERIFY(!ok->isEnabled());
+        // every level that a slider shows is the one that the palette takes
+        for (int level = 0; level <= 7; ++level) {
+            f.editor.findChild<QSlider *>("redSlider")->setValue(level);
+            ok->click();
+            QCOMPARE(f.palette.rawColour(3) >> 13, level);
+        }
     }
 
     void cancelGoesBack()
