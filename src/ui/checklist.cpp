@@ -39,8 +39,7 @@ void CheckList::mouseReleaseEvent(QMouseEvent *event)
     QListWidgetItem *const clicked = itemAt(event->position().toPoint());
     const Qt::CheckState before = clicked ? clicked->checkState() : Qt::Unchecked;
     QListWidget::mouseReleaseEvent(event);
-    // the box itself has been dealt with by the list; the rest of the row does the same
-    if (clicked && event->button() == Qt::LeftButton && clicked == currentItem() && clicked->checkState() == before) {
+    // on the box itself the list has done this already
+    if (clicked && event->button() == Qt::LeftButton && clicked == currentItem())
         setChecked(row(clicked), before != Qt::Checked);
-    }
 }

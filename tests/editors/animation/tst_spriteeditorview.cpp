@@ -54,9 +54,10 @@ void TestSpriteEditorView::showsSpritesAndFollowsTheirChanges()
 {
     Fixture f;
     f.press(Control::Next);
-    QCOMPARE(f.shownColour(), f.palette->colour(1));
-    f.palette->setColour(1, Qt::green, false);
-    QCOMPARE(f.shownColour(), f.palette->colour(1));
+    QCoreApplication::processEvents(); // the list has drawn its pictures
+    const auto *items = f.list()->findChild<QListWidget *>();
+    f.palette->setColour(0, Qt::green, false);
+    QTRY_COMPARE(items->item(0)->icon().pixmap(32).toImage().pixelColor(1, 1), f.palette->colour(0));
     f.bank->deleteSprite(0); // sprite 1 is now sprite 0
     QCOMPARE(f.shownColour(), f.palette->colour(1));
 }
@@ -68,7 +69,6 @@ void TestSpriteEditorView::dropIsOneUndoStep()
     EditorInput::drop(*f.cells(), {3, 3}, {3, 3}, *data, Qt::NoModifier);
     QCOMPARE(f.run->frame(0)->cell(0, 0).index, 3);
     QCOMPARE(f.stack.count(), 1);
-    QCOMPARE(f.stack.text(0), "Edit Frames");
     f.stack.undo();
     QCOMPARE(f.run->frame(0)->cell(0, 0).index, 0);
 }
