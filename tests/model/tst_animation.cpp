@@ -153,9 +153,9 @@ private slots:
                 shown.append(int(animation.tick(tick)));
             return shown;
         };
-        const std::pair<int, QList<int>> delays[] = {
-            {0, {0, -1, 0, -1, -1, -1, -1, -1}}, {2, {0, -1, 0, 1, -1, 2, -1, 0}}, {1, {0, 1, 1, 2, 0, 1, 2, 0}}};
-        for (const auto &[delay, shown] : delays) {
+        for (const auto &[delay, shown] : {std::pair(0, QList<int>{0, -1, 0, -1, -1, -1, -1, -1}),
+                                           {2, {0, -1, 0, 1, -1, 2, -1, 0}},
+                                           {1, {0, 1, 1, 2, 0, 1, 2, 0}}}) {
             TileAnimation animation;
             QCOMPARE(played(animation, delay, {0, 1, 1, 2, 3, 4, 5, 6}), shown);
         }

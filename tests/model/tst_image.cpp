@@ -44,13 +44,10 @@ private slots:
         Image image(Quenmora::LoRes_128x96);
         QCOMPARE(indices(image.image()), QByteArray(128 * 96, '\0'));
         QVERIFY(Image(Quenmora::ImageMode(4)).image().isNull());
-        Palette former;
-        image.setPalette(&former);
         {
             Palette palette;
             palette.loadStandardNext();
             image.setPalette(&palette);
-            former.setColour(1, Qt::white, false);
             QVERIFY(image.paletteId() == palette.id() && image.image().colorTable() == palette.colourTable());
             QImage picture = plainImage({2, 1}, 200);
             picture.setColorTable({qRgb(1, 2, 3)});
@@ -61,7 +58,6 @@ private slots:
         }
         QVERIFY(image.paletteId().isNull());
         image.setImage(QImage());
-        image.setPalette(&former);
         image.setPalette(nullptr);
         QVERIFY(image.image().isNull());
     }

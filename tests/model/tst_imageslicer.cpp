@@ -114,18 +114,17 @@ private slots:
 
     void sharesBanks()
     {
-        // 10 colours, the same 10, 10 others, and 4 of which the first bank has two and room for the rest
-        ImageSlicer slicer(strip({tile(1, 10), turned(tile(1, 10), 3), tile(5, 1), tile(101, 10), tile(9, 4)}));
+        // 10 colours, the same 10, 10 others, and 8 of which the first bank has two and just room for the rest
+        ImageSlicer slicer(strip({tile(1, 10), turned(tile(1, 10), 3), tile(5, 1), tile(101, 10), tile(9, 8)}));
         QCOMPARE(slicer.sliceTiles(), 4);
         for (int i = -1; i <= 4; ++i)
             QCOMPARE(slicer.bank(i), i == 2 ? 1 : 0);
         QList<QRgb> expected(256, 0xff000000);
-        for (int i = 0; i < 12; ++i)
+        for (int i = 0; i < 16; ++i)
             expected[i] = colour(1 + i);
         for (int i = 0; i < 10; ++i)
             expected[16 + i] = colour(101 + i);
-        QCOMPARE(slicer.bankColours(), expected);
-        QCOMPARE(slicer.piece(2).colorTable(), expected);
+        QVERIFY(slicer.bankColours() == expected && slicer.piece(2).colorTable() == expected);
         QVERIFY(slicer.piece(2).pixelIndex(1, 0) == 1 && slicer.pieceWithOffset(2).pixelIndex(1, 0) == 17);
         QVERIFY(slicer.piece(1).pixelIndex(0, 0) == 4 && slicer.piece(3).pixelIndex(3, 0) == 11);
         QVERIFY(slicer.piece(4).isNull() && slicer.piece(-1).isNull() && slicer.pieceWithOffset(4).isNull());
@@ -157,12 +156,9 @@ private slots:
         QCOMPARE(slicer.bankColours(), QList<QRgb>(256, 0xff000000));
         // pieces stay 16 × 16, so smaller sizes ask for pieces beyond the picture: those are colour 0
         ImageSlicer other(randomPicture({32, 16}, 30, 1, 7));
-        for (const auto &[size, cells, pieces] :
-             {std::tuple(5, QSize(6, 3), 3), {32, QSize(1, 0), 0}, {-16, QSize(0, 0), 0}}) {
-            QCOMPARE(other.sliceSprites(size), pieces);
-            QVERIFY(other.size() == cells && other.placements().size() == other.cellCount());
-            QVERIFY(pieces == 0 || indices(other.piece(2)) == QByteArray(256, '\0'));
-        }
+        QVERIFY(other.sliceSprites(5) == 3 && other.size() == QSize(6, 3) && other.placements().size() == 18);
+        QCOMPARE(indices(other.piece(2)), QByteArray(256, '\0'));
+        QVERIFY(other.sliceSprites(32) == 0 && other.sliceSprites(-16) == 0);
     }
 
     void findsNoCellsInSmallAndHugePictures()
