@@ -25,6 +25,7 @@ struct CanvasClipboardContent
     [[nodiscard]] QMimeData *toMimeData() const;
     /// The content of mime data; its image is null when there is none or it is damaged.
     [[nodiscard]] static CanvasClipboardContent fromMimeData(const QMimeData *mimeData);
+    /// Whether mime data has this format, damaged or not.
     [[nodiscard]] static bool isIn(const QMimeData *mimeData);
 };
 

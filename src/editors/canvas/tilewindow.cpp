@@ -9,10 +9,8 @@
 #include "ui/numberstepper.h"
 #include "ui/toolpalette.h"
 
-#include <QAction>
 #include <QFormLayout>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QScopedValueRollback>
 #include <QScrollArea>
 #include <QSignalBlocker>
@@ -145,7 +143,6 @@ void TileWindow::setTileIndex(int index)
 
 void TileWindow::setPalette(const QPointer<Palette> &palette)
 {
-    m_palette = palette;
     const bool swapped = m_tileSet && m_tileSet->palette() != palette;
     if (swapped)
         m_tileSet->setPalette(palette);

@@ -62,7 +62,6 @@ private:
     void writeTile(const QPointer<TileSet> &tileSet, int index, const QImage &image);
 
     QPointer<TileSet> m_tileSet;
-    QPointer<Palette> m_palette;
     NumberStepper *m_number;
     QSpinBox *m_offset;
     ColourSelector *m_colours;
