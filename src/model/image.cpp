@@ -32,7 +32,6 @@ void Image::setImage(const QImage &image)
 {
     m_image = NxImage::indexed(image, m_palette);
     applyColourTable();
-    emit imageChanged();
 }
 
 QPointer<Palette> Image::palette() const

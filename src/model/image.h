@@ -12,7 +12,7 @@ class Palette;
 
 /// A full-screen picture of the Next's Layer 2 or LoRes modes, held as 8-bit palette indices.
 ///
-/// The image editor paints it; undo may change it when another editor shows it than the one that painted.
+/// It announces nothing: it is painted in image editors alone, and by the undo of what was painted there.
 class Image : public QObject
 {
     Q_OBJECT
@@ -45,10 +45,6 @@ public:
     void setPalette(const QPointer<Palette> &palette);
     /// The id of the bound palette, or a null id.
     [[nodiscard]] QUuid paletteId() const;
-
-signals:
-    /// The picture was replaced.
-    void imageChanged();
 
 private:
     void applyColourTable();

@@ -11,7 +11,8 @@
 #include <QFileDialog>
 #include <QHBoxLayout>
 #include <QImageReader>
-#include <QScopedValueRollback>
+
+#include <algorithm>
 
 using namespace Quenmora::Ui;
 
@@ -21,6 +22,12 @@ namespace {
 
 constexpr int UsualZoom = 3;
 constexpr int FewColours = 16;
+
+/// Compares indices: QImage would compare colours.
+bool haveSameIndices(const QImage &a, const QImage &b)
+{
+    return a.size() == b.size() && std::equal(a.constBits(), a.constBits() + a.sizeInBytes(), b.constBits());
+}
 
 } // namespace
 
@@ -76,18 +83,27 @@ void View::setImage(const QPointer<Image> &image)
     if (m_image)
         m_image->disconnect(this);
     m_image = image;
-    if (m_image) {
+    if (m_image)
         connect(m_image, &QObject::destroyed, this, [this] { setImage(nullptr); });
-        connect(m_image, &Image::imageChanged, this, [this] {
-            if (!m_writing) // undo of an edit that was made in an editor which was closed since
-                load(m_image->image());
-        });
-    }
     canvas()->setEnabled(image);
     m_colours->setRange(0, colourCount());
     canvas()->setPictureColours(0, colourCount());
     setPalette(image ? image->palette() : nullptr);
     load(image ? image->image() : QImage());
+}
+
+void View::setUndoStack(QUndoStack *stack)
+{
+    if (m_undoStack)
+        m_undoStack->disconnect(this);
+    m_undoStack = stack;
+    if (!stack)
+        return;
+    connect(stack, &QUndoStack::indexChanged, this, [this] {
+        // undo of an edit that was made in an editor which was closed since
+        if (m_image && !haveSameIndices(m_image->image(), canvas()->image()))
+            load(m_image->image());
+    });
 }
 
 void View::setPixels(const QImage &pixels)
@@ -125,10 +141,8 @@ void View::writeBack()
 {
     if (isLoading())
         return;
-    if (m_image) {
-        const QScopedValueRollback writing(m_writing, true);
+    if (m_image)
         m_image->setImage(canvas()->image());
-    }
     emit imageChanged(canvas()->image());
 }
 

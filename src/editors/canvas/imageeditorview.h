@@ -31,7 +31,7 @@ public:
     void setPixels(const QImage &pixels);
     QImage pixels() const;
     void setPalette(const QPointer<Palette> &palette);
-    void setUndoStack(QUndoStack *stack) { m_undoStack = stack; }
+    void setUndoStack(QUndoStack *stack);
 
 signals:
     void imageChanged(QImage image);
@@ -65,7 +65,6 @@ private:
     QFileDialog *m_importFile = nullptr;
     QFileDialog *m_exportFile = nullptr;
     ImportDialog *m_importDialog = nullptr;
-    bool m_writing = false;
 };
 
 } // namespace ImageEditor

@@ -451,6 +451,7 @@ private slots:
             QCOMPARE(errors, (QList<QVariantList>{{"Could not read the image file"}}));
             const QSize size = scene.stored(0).size();
             scene.images[0]->setImage(plainImage(size, 5));
+            scene.show(0);
             QVERIFY(plainPicture({40, 30}, Qt::red).save(scene.file("in.png")));
             scene.choose(Open, "in.png");
             auto *dialog = scene.view->findChild<ImageEditor::ImportDialog *>();
