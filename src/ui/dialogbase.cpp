@@ -74,6 +74,7 @@ void DialogBase::accept()
     setError(found);
     if (found.isEmpty()) {
         QDialog::accept();
+        submit();
     }
 }
 

@@ -39,6 +39,9 @@ protected:
     /// What keeps the values from being accepted, as a sentence for the user; empty when they are fine.
     [[nodiscard]] virtual QString problem() const { return {}; }
 
+    /// The values have been accepted and the dialog is closed: tell them.
+    virtual void submit() { }
+
     [[nodiscard]] QFormLayout *form() const { return m_form; }
 
     /// The column that holds the form; more widgets go below it.

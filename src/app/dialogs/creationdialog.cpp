@@ -27,10 +27,3 @@ QString CreationDialog::problem() const
 {
     return name().isEmpty() ? tr("Please enter a name") : QString();
 }
-
-void CreationDialog::accept()
-{
-    DialogBase::accept();
-    if (result() == Accepted)
-        submit();
-}

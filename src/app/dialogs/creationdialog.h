@@ -12,8 +12,6 @@ class CreationDialog : public DialogBase
 public:
     explicit CreationDialog(const QString &title, const QString &header, QWidget *parent = nullptr);
 
-    void accept() override;
-
 protected:
     /// Opens the dialog with this name in its field.
     void openWithName(const QString &name);
@@ -23,9 +21,6 @@ protected:
     [[nodiscard]] QLineEdit *nameField() const { return m_name; }
 
     [[nodiscard]] QString problem() const override;
-
-    /// The dialog was accepted: tell it.
-    virtual void submit() = 0;
 
 private:
     QLineEdit *m_name;

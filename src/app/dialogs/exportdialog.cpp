@@ -39,11 +39,9 @@ QString ExportDialog::problem() const
     return m_first->value() > m_last->value() ? tr("The first tile comes after the last one") : QString();
 }
 
-void ExportDialog::accept()
+void ExportDialog::submit()
 {
-    DialogBase::accept();
-    if (result() == Accepted)
-        emit accepted(m_first->value(), m_last->value(), m_rotate->isChecked());
+    emit accepted(m_first->value(), m_last->value(), m_rotate->isChecked());
 }
 
 } // namespace TileEditor

@@ -15,8 +15,6 @@ class ExportDialog : public DialogBase
 public:
     explicit ExportDialog(QWidget *parent = nullptr);
 
-    void accept() override;
-
 public slots:
     /// Opens the dialog for a tile set of count tiles. The range is all of them, unless a person chose another
     /// that the tile set has as well.
@@ -28,6 +26,7 @@ signals:
 
 protected:
     [[nodiscard]] QString problem() const override;
+    void submit() override;
 
 private:
     int m_count = 0;

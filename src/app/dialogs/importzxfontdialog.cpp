@@ -167,10 +167,8 @@ QString ImportZXFontDialog::problem() const
     return {};
 }
 
-void ImportZXFontDialog::accept()
+void ImportZXFontDialog::submit()
 {
-    DialogBase::accept();
-    if (result() == Accepted)
-        emit accepted(m_first->value() - 1, m_fore->currentIndex(), m_back->currentIndex(), m_offset->value(),
-                      m_file->text());
+    emit accepted(m_first->value() - 1, m_fore->currentIndex(), m_back->currentIndex(), m_offset->value(),
+                  m_file->text());
 }

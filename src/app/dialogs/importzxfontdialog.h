@@ -24,8 +24,6 @@ public:
     /// Who answers the question for the file; runFileDialog() at first.
     void setFileChooser(const FileChooser &chooser) { m_fileChooser = chooser; }
 
-    void accept() override;
-
 public slots:
     /// Opens the dialog for a tile set.
     void show(TileSet &tileSet);
@@ -36,6 +34,7 @@ signals:
 
 protected:
     [[nodiscard]] QString problem() const override;
+    void submit() override;
 
 private:
     void chooseFile();

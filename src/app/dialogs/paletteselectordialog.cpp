@@ -25,9 +25,7 @@ QString PaletteSelectorDialog::problem() const
     return m_palette->count() == 0 ? tr("There is no palette to choose; please create one first") : QString();
 }
 
-void PaletteSelectorDialog::accept()
+void PaletteSelectorDialog::submit()
 {
-    DialogBase::accept();
-    if (result() == Accepted)
-        emit accepted(m_palette->id());
+    emit accepted(m_palette->id());
 }

@@ -15,8 +15,6 @@ class PaletteSelectorDialog : public DialogBase
 public:
     explicit PaletteSelectorDialog(QWidget *parent = nullptr);
 
-    void accept() override;
-
 public slots:
     /// Opens the dialog, the palette in use chosen.
     void show(const Project &project, const QUuid &current);
@@ -26,6 +24,7 @@ signals:
 
 protected:
     [[nodiscard]] QString problem() const override;
+    void submit() override;
 
 private:
     AssetChooser *m_palette;

@@ -40,9 +40,7 @@ QString PaletteDialog::problem() const
     return {};
 }
 
-void PaletteDialog::accept()
+void PaletteDialog::submit()
 {
-    DialogBase::accept();
-    if (result() == Accepted)
-        emit accepted(CreateAction(m_choice->checkedId()), m_name->text());
+    emit accepted(CreateAction(m_choice->checkedId()), m_name->text());
 }

@@ -16,8 +16,6 @@ class PaletteDialog : public DialogBase
 public:
     explicit PaletteDialog(QWidget *parent = nullptr);
 
-    void accept() override;
-
 public slots:
     /// Opens the dialog; items are the names that are taken.
     void show(const QStringList &items);
@@ -27,6 +25,7 @@ signals:
 
 protected:
     QString problem() const override;
+    void submit() override;
 
 private:
     QLineEdit *m_name;
