@@ -1,7 +1,6 @@
 #include "app/layoutcontroller.h"
 
 #include "app/appstate.h"
-#include "app/documentviews.h"
 #include "app/menus/viewmenu.h"
 #include "app/projecttree/projectwindow.h"
 #include "editors/canvas/spritewindow.h"
@@ -47,13 +46,7 @@ bool takeKeyboard(const QWidget *pane)
 LayoutController::LayoutController(QMainWindow *window, const DocumentViews &views, ViewMenu *viewMenu)
     : QObject(window)
     , m_window(window)
-    , m_project(views.project)
-    , m_palette(views.palette)
-    , m_tileEditor(views.tileEditor)
-    , m_spriteEditor(views.spriteEditor)
-    , m_tilePicker(views.tilePicker)
-    , m_mapObjects(views.mapObjects)
-    , m_mapSprites(views.mapSprites)
+    , m_views(views)
 {
     QList<QAction *> actions;
     for (const DockWidget *dock : docks())
@@ -90,7 +83,8 @@ void LayoutController::focusPane(int step)
 
 QList<DockWidget *> LayoutController::docks() const
 {
-    return {m_project, m_palette, m_tileEditor, m_spriteEditor, m_tilePicker, m_mapObjects, m_mapSprites};
+    return {m_views.project,    m_views.palette,    m_views.tileEditor, m_views.spriteEditor,
+            m_views.tilePicker, m_views.mapObjects, m_views.mapSprites};
 }
 
 void LayoutController::resetLayout()
@@ -100,31 +94,33 @@ void LayoutController::resetLayout()
     // the editors at the sides are tall, the tile picker is low
     m_window->setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
     m_window->setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
-    for (DockWidget *dock : {m_project, m_spriteEditor, m_tileEditor, m_palette, m_mapObjects, m_mapSprites})
-        m_window->removeDockWidget(dock);
+    for (DockWidget *dock : docks()) {
+        if (dock != m_views.tilePicker)
+            m_window->removeDockWidget(dock);
+    }
 
-    m_window->addDockWidget(Qt::LeftDockWidgetArea, m_project);
-    m_window->addDockWidget(Qt::LeftDockWidgetArea, m_mapObjects);
-    m_window->addDockWidget(Qt::LeftDockWidgetArea, m_mapSprites);
-    m_window->tabifyDockWidget(m_mapObjects, m_mapSprites);
+    m_window->addDockWidget(Qt::LeftDockWidgetArea, m_views.project);
+    m_window->addDockWidget(Qt::LeftDockWidgetArea, m_views.mapObjects);
+    m_window->addDockWidget(Qt::LeftDockWidgetArea, m_views.mapSprites);
+    m_window->tabifyDockWidget(m_views.mapObjects, m_views.mapSprites);
 
-    m_window->addDockWidget(Qt::RightDockWidgetArea, m_tileEditor);
-    m_window->addDockWidget(Qt::RightDockWidgetArea, m_palette);
-    m_window->addDockWidget(Qt::RightDockWidgetArea, m_spriteEditor);
-    m_window->tabifyDockWidget(m_palette, m_tileEditor);
-    m_window->tabifyDockWidget(m_palette, m_spriteEditor);
+    m_window->addDockWidget(Qt::RightDockWidgetArea, m_views.tileEditor);
+    m_window->addDockWidget(Qt::RightDockWidgetArea, m_views.palette);
+    m_window->addDockWidget(Qt::RightDockWidgetArea, m_views.spriteEditor);
+    m_window->tabifyDockWidget(m_views.palette, m_views.tileEditor);
+    m_window->tabifyDockWidget(m_views.palette, m_views.spriteEditor);
 
-    m_window->addDockWidget(Qt::BottomDockWidgetArea, m_tilePicker);
+    m_window->addDockWidget(Qt::BottomDockWidgetArea, m_views.tilePicker);
 
     for (DockWidget *dock : docks()) {
         dock->setFloating(false);
         dock->show();
     }
-    m_window->resizeDocks({m_project, m_palette}, {SideWidth, EditorWidth}, Qt::Horizontal);
-    m_window->resizeDocks({m_tilePicker}, {PickerHeight}, Qt::Vertical);
-    m_window->resizeDocks({m_project, m_mapObjects}, {3, 2}, Qt::Vertical); // of the height that there is
-    m_mapObjects->raise();
-    m_palette->raise();
+    m_window->resizeDocks({m_views.project, m_views.palette}, {SideWidth, EditorWidth}, Qt::Horizontal);
+    m_window->resizeDocks({m_views.tilePicker}, {PickerHeight}, Qt::Vertical);
+    m_window->resizeDocks({m_views.project, m_views.mapObjects}, {3, 2}, Qt::Vertical); // of the height that there is
+    m_views.mapObjects->raise();
+    m_views.palette->raise();
 }
 
 void LayoutController::fitToScreen()

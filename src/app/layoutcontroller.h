@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/documentviews.h"
+
 #include <QList>
 #include <QObject>
 
@@ -7,7 +9,6 @@ class AppState;
 class DockWidget;
 class QMainWindow;
 class ViewMenu;
-struct DocumentViews;
 
 /// Puts the docks into their places, and keeps and restores the places that the user gave them.
 class LayoutController : public QObject
@@ -38,11 +39,5 @@ private:
     [[nodiscard]] QList<DockWidget *> docks() const;
 
     QMainWindow *m_window;
-    DockWidget *m_project;
-    DockWidget *m_palette;
-    DockWidget *m_tileEditor;
-    DockWidget *m_spriteEditor;
-    DockWidget *m_tilePicker;
-    DockWidget *m_mapObjects;
-    DockWidget *m_mapSprites;
+    DocumentViews m_views;
 };

@@ -134,6 +134,11 @@ void ProjectTree::addAsset(ProjectNode node, const QUuid &id, const QString &nam
     item->setData(0, Qt::UserRole, id);
     item->setData(0, Qt::AccessibleDescriptionRole, nodeName(node)); // the icon says it to those who see it
     item->setFlags(item->flags() | Qt::ItemIsEditable);
+    place(item, above);
+}
+
+void ProjectTree::place(QTreeWidgetItem *item, QTreeWidgetItem *above)
+{
     above->addChild(item);
     above->setHidden(above == group(PaletteNode));
     above->sortChildren(0, Qt::AscendingOrder);
@@ -145,14 +150,8 @@ void ProjectTree::removeAsset(const QUuid &id)
     QTreeWidgetItem *item = itemOf(id);
     if (!item)
         return;
-    while (item->childCount() > 0) { // block sets outlive their tile set
-        QTreeWidgetItem *child = item->takeChild(0);
-        QTreeWidgetItem *objects = group(MapObjectsNode);
-        objects->addChild(child);
-        objects->setHidden(false);
-        objects->sortChildren(0, Qt::AscendingOrder);
-        objects->setExpanded(true);
-    }
+    while (item->childCount() > 0) // block sets outlive their tile set
+        place(item->takeChild(0), group(MapObjectsNode));
     QTreeWidgetItem *above = item->parent();
     delete item;
     if (above->childCount() == 0 && !holdsId(dataOf(above)))

@@ -69,6 +69,8 @@ private:
     void buildMenu();
     void openMenu(QTreeWidgetItem *item, const QPoint &globalPos);
     [[nodiscard]] QTreeWidgetItem *group(ProjectNode node) const;
+    /// Puts an asset's item below another one, in the order of their texts.
+    void place(QTreeWidgetItem *item, QTreeWidgetItem *above);
 
     QMenu *m_menu;
     QAction *m_copy;
