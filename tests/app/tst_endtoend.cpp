@@ -6,18 +6,17 @@
 #include "app/menus/mapmenu.h"
 #include "app/menus/palettemenu.h"
 #include "app/menus/tilemenu.h"
-#include "editors/canvas/canvas.h"
 #include "editors/canvas/tilepickergrid.h"
 #include "editors/map/mapeditorview.h"
 #include "editors/map/mapgrid.h"
 #include "editors/map/maptoolpalette.h"
 #include "model/map.h"
-#include "support/archivetools.h"
+#include "support/editorinput.h"
+#include "support/modeltools.h"
 #include "support/testmain.h"
 
 #include <QMenu>
 #include <QPainter>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QUndoStack>
 
@@ -71,14 +70,14 @@ private slots:
 private:
     Project &project() { return *m_window->projectController()->project(); }
     QByteArray content() { return m_window->projectController()->store()->fingerprint(); }
-    QByteArray exported(const char *name) const { return ArchiveTools::fileBytes(m_folder.filePath(name)); }
+    QByteArray exported(const char *name) const { return readFile(m_folder(name)); }
     MapEditor::View *page() { return qobject_cast<MapEditor::View *>(m_window->views().tabs->currentWidget()); }
     QPoint centreOf(QPoint cell) { return page()->grid()->viewport().rectOfCells({cell, QSize(1, 1)}).center(); }
     void dragCells(QPoint from, QPoint to) { drag(page()->grid(), centreOf(from), centreOf(to)); }
     void editMap();
     void editTile();
 
-    QTemporaryDir m_folder;
+    TemporaryFolder m_folder;
     std::optional<MainWindow> m_window;
 };
 
@@ -86,17 +85,17 @@ void TestEndToEnd::initTestCase()
 {
     Update::UpdateChecker::setFeedAddress({});
     m_window.emplace();
-    m_window->projectController()->setFileNameCallback([this] { return m_folder.filePath("game.quenmora"); });
+    m_window->projectController()->setFileNameCallback([this] { return m_folder("game.quenmora"); });
     m_window->menus()->setFileChooser([this](const FileRequest &request, QWidget *) {
         const QString name = request.title.contains("Import") ? "level.png" : request.title + request.defaultSuffix;
-        return m_folder.filePath(name);
+        return m_folder(name);
     });
 }
 
 void TestEndToEnd::makesALevelOfAPicture()
 {
     emit m_window->menus()->fileMenu()->newProject("Game");
-    QVERIFY(levelPicture().save(m_folder.filePath("level.png")));
+    QVERIFY(levelPicture().save(m_folder("level.png")));
     m_window->menus()->mapMenu()->showImportDialog();
     QVERIFY(page() && page()->map()->size() == LevelSize);
     page()->grid()->fitTo();
@@ -118,7 +117,7 @@ void TestEndToEnd::makesALevelOfAPicture()
     emit m_window->menus()->fileMenu()->saveProject();
     QVERIFY(!m_window->projectController()->isModified());
     emit m_window->menus()->fileMenu()->closeProject();
-    emit m_window->menus()->fileMenu()->openProject(m_folder.filePath("game.quenmora"));
+    emit m_window->menus()->fileMenu()->openProject(m_folder("game.quenmora"));
     QCOMPARE(content(), finished);
 }
 
@@ -148,8 +147,7 @@ void TestEndToEnd::editTile()
     editor->setTileIndex(Earth + 1);
     editor->canvas()->setInk(Gold);
     editor->canvas()->setMode(Quenmora::Ui::Draw);
-    const QPoint pixel = editor->canvas()->geometryInWidget().pointOf({2, 1}) + QPoint(1, 1);
-    drag(editor->canvas(), pixel, pixel);
+    EditorInput::Mouse{*editor->canvas()}.drag({{2, 1}});
 }
 
 void TestEndToEnd::exportsTheLevel()

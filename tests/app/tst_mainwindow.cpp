@@ -9,7 +9,7 @@
 #include "model/mapobjects.h"
 #include "model/spritebank.h"
 #include "model/tileset.h"
-#include "support/archivetools.h"
+#include "support/modeltools.h"
 #include "support/sampleproject.h"
 #include "support/testmain.h"
 #include "ui/messagedialog.h"
@@ -22,7 +22,6 @@
 #include <QSignalSpy>
 #include <QStatusBar>
 #include <QTabBar>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QToolButton>
 
@@ -60,7 +59,7 @@ private:
     void verifyWithoutProject();
     bool drop(const QList<QUrl> &urls);
 
-    std::optional<QTemporaryDir> m_folder;
+    TemporaryFolder m_folder;
     std::optional<MainWindow> m_window;
 };
 
@@ -68,13 +67,12 @@ void TestMainWindow::init()
 {
     QFile::remove(statePath("state.json"));
     QFile::remove(statePath("preferences.json"));
-    m_folder.emplace();
     m_window.emplace();
 }
 
 QString TestMainWindow::sampleFile()
 {
-    const QString file = m_folder->filePath("sample.quenmora");
+    const QString file = m_folder("sample.quenmora");
     ProjectStore store;
     SampleProject::fill(*store.newProject({}));
     return store.saveAs(file) ? file : QString();
@@ -119,8 +117,8 @@ void TestMainWindow::survivesDamagedState()
         R"({"windowState": "AAAA/wAAAAD9", "windowGeometry": "AAAAAAAAAAA=", "tileZoom": -5, "recent": [1, null]})"};
     for (const QByteArray &state : states) {
         m_window.reset();
-        QVERIFY(ArchiveTools::writeFile(statePath("state.json"), state));
-        QVERIFY(ArchiveTools::writeFile(statePath("preferences.json"), "[1, "));
+        QVERIFY(writeFile(statePath("state.json"), state));
+        QVERIFY(writeFile(statePath("preferences.json"), "[1, "));
         m_window.emplace();
         QCOMPARE(m_window->size(), QSize(1024, 768));
         QCOMPARE(m_window->dockWidgetArea(m_window->views().palette), Qt::RightDockWidgetArea);
@@ -135,7 +133,7 @@ void TestMainWindow::keepsStateBetweenRuns()
     m_window->views().tilePicker->setMagnification(3);
     m_window->views().project->close();
     m_window->addDockWidget(Qt::LeftDockWidgetArea, m_window->views().palette);
-    m_window->menus()->fileMenu()->setOpenFolder(m_folder->path());
+    m_window->menus()->fileMenu()->setOpenFolder(m_folder());
     m_window->resize(900, 700);
     m_window->menus()->viewMenu()->setChecked(ViewMenu::CheckableItem::StatusBar, false);
     controller()->project()->setName("Changed");
@@ -151,7 +149,7 @@ void TestMainWindow::keepsStateBetweenRuns()
     QCOMPARE(m_window->views().tilePicker->magnification(), 3);
     QVERIFY(m_window->views().project->isHidden());
     QCOMPARE(m_window->dockWidgetArea(m_window->views().palette), Qt::LeftDockWidgetArea);
-    QCOMPARE(m_window->menus()->fileMenu()->openFolder(), m_folder->path());
+    QCOMPARE(m_window->menus()->fileMenu()->openFolder(), m_folder());
     QCOMPARE(m_window->menus()->fileMenu()->recentFiles(), QStringList{file});
     QCOMPARE(m_window->size(), QSize(900, 700));
 }
@@ -214,7 +212,7 @@ void TestMainWindow::followsTheLifeOfAProject()
 
 void TestMainWindow::tellsInStatusBarAndDialog()
 {
-    controller()->openProject(m_folder->filePath("gone.quenmora")); // as a recent file that is gone
+    controller()->openProject(m_folder("gone.quenmora")); // as a recent file that is gone
     QVERIFY(m_window->messageDialog()->isVisible());
     QCOMPARE(m_window->messageDialog()->windowTitle(), "Warning!");
     QCOMPARE(m_window->messageDialog()->text(), "Invalid project file");
@@ -229,7 +227,7 @@ void TestMainWindow::tellsInStatusBarAndDialog()
     QCOMPARE(shown(), "New palette added: Main");
     m_window->statusBar()->clearMessage();
     QCOMPARE(shown(), m_window->windowTitle());
-    const QString file = m_folder->filePath("game.quenmora");
+    const QString file = m_folder("game.quenmora");
     controller()->setFileNameCallback([file] { return file; });
     controller()->save();
     QCOMPARE(shown(), "Saved Game to " + file);
@@ -252,7 +250,7 @@ bool TestMainWindow::drop(const QList<QUrl> &urls)
 void TestMainWindow::opensADroppedProject()
 {
     const QUrl file = QUrl::fromLocalFile(sampleFile());
-    QVERIFY(!drop({QUrl::fromLocalFile(m_folder->filePath("picture.png"))}));
+    QVERIFY(!drop({QUrl::fromLocalFile(m_folder("picture.png"))}));
     QVERIFY(!drop({QUrl("https://example.com/sample.quenmora")}));
     QVERIFY(!drop({file, file}));
     controller()->newProject("Game");

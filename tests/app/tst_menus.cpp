@@ -8,8 +8,13 @@
 #include "app/menus/spritemenu.h"
 #include "app/menus/tilemenu.h"
 #include "app/menus/viewmenu.h"
+#include "app/projectactions.h"
+#include "model/image.h"
+#include "model/mapobjects.h"
 #include "support/testmain.h"
 
+#include <QCheckBox>
+#include <QComboBox>
 #include <QDialog>
 #include <QLineEdit>
 #include <QSignalSpy>
@@ -54,7 +59,11 @@ QChar mnemonic(const QAction *action)
 /// A menu bar with a project that has one asset of each kind that a menu can be given.
 struct Shell
 {
-    Shell() { bar.setProject(&project); }
+    Shell()
+    {
+        bar.setProject(&project);
+        actions.serve(bar);
+    }
     void activate()
     {
         bar.paletteMenu()->setPalette(palette);
@@ -81,6 +90,7 @@ struct Shell
     QPointer<SpriteBank> sprites = project.createSpriteBank(Quenmora::EightBit, "Hero", palette->id());
     QWidget window;
     MenuBar bar{&window};
+    ProjectActions actions{[this] { return &project; }, &window};
 };
 
 } // namespace
@@ -99,7 +109,7 @@ private slots:
     void exportsTheActiveAsset_data();
     void exportsTheActiveAsset();
     void editEntries();
-    void dialogsAreBuiltWhenFirstUsed();
+    void dialogsMakeWhatIsEntered();
 };
 
 void TestMenus::entriesAndShortcuts()
@@ -300,38 +310,54 @@ void TestMenus::editEntries()
     }
 }
 
-void TestMenus::dialogsAreBuiltWhenFirstUsed()
+void TestMenus::dialogsMakeWhatIsEntered()
 {
     Shell shell;
     shell.activate();
-    QCOMPARE(shell.window.findChildren<QDialog *>().size(), 0);
-    // the menu at a position of the bar, and its entry
-    QList<QAction *> entries{entry(shell.bar.tileMenu(), "Import")->menu()->actions().constFirst()};
-    for (const auto &[menu, text] : {std::pair(2, "New Palette"),
-                                     {3, "New Tile Set"},
-                                     {3, "Create Animations"},
-                                     {3, "Swap Palette"},
-                                     {3, "Export"},
-                                     {4, "New Map"},
-                                     {5, "New"},
-                                     {5, "Swap Palette"},
-                                     {6, "New Image"},
-                                     {0, "New"}})
-        entries.append(entry(shell.menu(menu), text));
-    for (QAction *action : entries) {
-        action->trigger();
-        action->trigger();
-    }
-    const auto dialogs = shell.window.findChildren<QDialog *>(Qt::FindDirectChildrenOnly);
-    QCOMPARE(dialogs.size(), entries.size());
-
-    auto *name = dialogs.last()->findChild<QLineEdit *>();
+    const auto dialogs = [&] { return shell.window.findChildren<QDialog *>(Qt::FindDirectChildrenOnly); };
+    QVERIFY(dialogs().isEmpty()); // they are built when they are first used
+    const auto enter = [&](int menu, const char *text, const char *name, const QStringList &choices,
+                           bool checked = false) {
+        entry(shell.menu(menu), text)->trigger();
+        for (QDialog *dialog : dialogs()) {
+            if (!dialog->isVisible())
+                continue;
+            dialog->findChild<QLineEdit *>()->setText(name);
+            for (int i = 0; i < choices.size(); ++i)
+                dialog->findChildren<QComboBox *>().at(i)->setCurrentText(choices[i]);
+            if (auto *box = dialog->findChild<QCheckBox *>())
+                box->setChecked(checked);
+            dialog->accept();
+        }
+    };
+    const Project &project = shell.project;
+    enter(2, "New Palette", "Night", {});
+    QCOMPARE(project.palettes().last()->name(), "Night");
+    enter(3, "New Tile Set", "Cave", {"New palette of the same name", "256"});
+    QCOMPARE(project.tileSets().last()->palette()->name(), "Cave");
+    QVERIFY(project.tileSets().last()->count() == 256 && !project.tileSets().last()->hiRes());
+    enter(3, "New Tile Set", "Forest", {"Main", "512"}, true);
+    QCOMPARE(project.tileSets().last()->palette(), shell.palette);
+    QVERIFY(project.tileSets().last()->count() == 512 && project.tileSets().last()->hiRes());
+    enter(3, "Create Animations", "Doors", {});
+    QCOMPARE(project.blockSets().last()->tileSet(), shell.tileSet); // the active one
+    enter(4, "New Map", "Level", {"Forest"});
+    QCOMPARE(project.maps().last()->tileSet()->name(), "Forest");
+    QCOMPARE(project.maps().last()->size(), QSize(40, 32));
+    enter(5, "New", "Hero", {"Main", "4-bit, 16 colours"});
+    QVERIFY(project.spriteBanks().last()->depth() == Quenmora::FourBit);
+    QCOMPARE(project.spriteBanks().last()->palette(), shell.palette);
+    enter(5, "New", "Villain", {"New palette of the same name", "8-bit, 256 colours"});
+    QVERIFY(project.spriteBanks().last()->depth() == Quenmora::EightBit);
+    QCOMPARE(project.spriteBanks().last()->palette()->name(), "Villain");
+    enter(6, "New Image", "Title", {"640x256 16 colours", "Main"});
+    QCOMPARE(project.images().last()->mode(), Quenmora::Layer2_640x256);
     QSignalSpy created(shell.bar.fileMenu(), &FileMenu::newProject);
-    name->setText("Forest");
-    dialogs.last()->accept();
-    QCOMPARE(created, QList<QVariantList>({{"Forest"}}));
-    entries.last()->trigger();
-    QCOMPARE(name->text(), QString());
+    enter(0, "New", "Game", {});
+    QCOMPARE(created, QList<QVariantList>({{"Game"}}));
+    enter(0, "New", "", {});
+    QVERIFY(dialogs().last()->isVisible()); // a name is needed
+    QCOMPARE(dialogs().size(), 7);
 }
 
 QUENMORA_TEST_MAIN(TestMenus)

@@ -1,6 +1,4 @@
-#include "app/menus/mapmenu.h"
 #include "app/menus/menubar.h"
-#include "app/menus/palettemenu.h"
 #include "app/menus/spritemenu.h"
 #include "app/projectactions.h"
 #include "model/image.h"
@@ -9,7 +7,7 @@
 #include "model/palette.h"
 #include "model/spritebank.h"
 #include "model/tileset.h"
-#include "support/archivetools.h"
+#include "support/modeltools.h"
 #include "support/sampleproject.h"
 #include "support/testmain.h"
 
@@ -17,7 +15,6 @@
 #include <QPainter>
 #include <QProgressDialog>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QUndoStack>
 
@@ -25,7 +22,6 @@
 
 namespace {
 
-using ArchiveTools::writeFile;
 using Node = ProjectTree::ProjectNode;
 
 /// A picture of different tiles in two colours: the frame of each tells its orientation, its number stands
@@ -58,8 +54,7 @@ private slots:
     void cleanup() { m_window.reset(); } // no window outlives the application
 
     void needsAProject();
-    void createsWhatIsAskedFor();
-    void servesTheMenus();
+    void tellsTheSpriteMenuFirst();
     void copiesAndDeletes_data();
     void copiesAndDeletes();
 
@@ -78,7 +73,6 @@ private slots:
     void spriteFailureLeavesNothing();
 
 private:
-    [[nodiscard]] QString path(const QString &name) const { return m_folder->filePath(name); }
     [[nodiscard]] qsizetype assetCount() const
     {
         return m_project->palettes().size() + m_project->tileSets().size() + m_project->maps().size()
@@ -90,7 +84,7 @@ private:
     /// Writes the files of a Next data set, "world.1" of 2 × 2 cells, one of them cut to a size or left out (-1).
     void writeNextData(const QString &cutSuffix, int size) const;
 
-    std::unique_ptr<QTemporaryDir> m_folder;
+    TemporaryFolder m_folder;
     std::unique_ptr<QWidget> m_window;
     std::unique_ptr<Project> m_project;
     std::unique_ptr<ProjectActions> m_actions;
@@ -99,7 +93,6 @@ private:
 
 void TestProjectActions::init()
 {
-    m_folder = std::make_unique<QTemporaryDir>();
     m_project = std::make_unique<Project>();
     m_window = std::make_unique<QWidget>();
     m_actions = std::make_unique<ProjectActions>([this] { return m_project.get(); }, m_window.get());
@@ -130,45 +123,11 @@ void TestProjectActions::needsAProject()
     QVERIFY(m_ready.isNull() && shownFailure().isEmpty());
 }
 
-void TestProjectActions::createsWhatIsAskedFor()
-{
-    const QUuid palette = makePalette();
-    m_actions->createTileSet("Cave", {}, 512, false);
-    QCOMPARE(m_project->tileSet(m_ready)->palette()->name(), "Cave");
-    QCOMPARE(m_project->tileSet(m_ready)->palette()->rawColour(255), 0);
-    m_actions->createTileSet("Forest", palette, 256, true);
-    const QPointer<TileSet> forest = m_project->tileSet(m_ready);
-    QVERIFY(forest->paletteId() == palette && forest->count() == 256 && forest->hiRes());
-    m_actions->createMap("Level", forest->id(), {40, 32});
-    QVERIFY(m_project->map(m_ready)->size() == QSize(40, 32) && m_project->map(m_ready)->tileSet() == forest);
-    m_actions->createBlocks("Doors", forest->id());
-    QCOMPARE(m_project->blocks(m_ready)->tileSet(), forest);
-    m_actions->createImage("Title", Quenmora::Layer2_640x256, palette);
-    QCOMPARE(m_project->images().first()->mode(), Quenmora::Layer2_640x256);
-    for (const int options : {0, 1, 2, 3}) {
-        m_actions->createSprites(SpriteDialog::CreateOptions(options), "Hero", palette);
-        const QPointer<SpriteBank> bank = m_project->spriteBank(m_ready);
-        QCOMPARE(bank->depth(), options & 1 ? Quenmora::EightBit : Quenmora::FourBit);
-        QCOMPARE(bank->palette()->name(), options & 2 ? "Hero" : "Main");
-    }
-}
-
-void TestProjectActions::servesTheMenus()
+void TestProjectActions::tellsTheSpriteMenuFirst()
 {
     MenuBar bar;
-    bar.setProject(m_project.get());
-    const QUuid palette = makePalette();
-    m_project->createPalette(CreateAction::Blank, "Later");
-    bar.paletteMenu()->setPalette(m_project->palette(palette));
     m_actions->serve(bar);
-    emit bar.paletteMenu()->createPalette(CreateAction::CopyCurrent, "Copy");
-    QCOMPARE(m_project->palettes().constLast()->rawColour(255), 0xFF01); // of the active palette
-    emit bar.mapMenu()->create("Level", {}, {40, 32});
-    QCOMPARE(m_project->maps().size(), 1);
-    emit bar.mapMenu()->importRequested(path("none.png"));
-    QCOMPARE(shownFailure(), "Could not read the image file");
-
-    const QUuid sprites = m_project->createSpriteBank(Quenmora::EightBit, "Hero", palette)->id();
+    const QUuid sprites = m_project->createSpriteBank(Quenmora::EightBit, "Hero", makePalette())->id();
     bar.spriteMenu()->setSpriteBank(m_project->spriteBank(sprites));
     bool toldFirst = false; // while the bank still exists
     connect(m_actions.get(), &ProjectActions::aboutToDeleteSprites, this, [&](const QUuid &id) {
@@ -240,10 +199,9 @@ void TestProjectActions::writeNextData(const QString &cutSuffix, int size) const
                                            {"nxm", QByteArray("\2\2", 2) + QByteArray(256, '\0')},
                                            {"nxb", QByteArray("\1\0\2\0\3\0\0\0", 8)}}; // the tiles of one block
     for (auto file = files.cbegin(); file != files.cend(); ++file) {
-        if (file.key() != cutSuffix)
-            QVERIFY(writeFile(path("world.1." + file.key()), file.value()));
-        else if (size >= 0)
-            QVERIFY(writeFile(path("world.1." + file.key()), file.value().left(size)));
+        const QString name = m_folder("world.1." + file.key(), file.key() == cutSuffix ? file->left(size) : *file);
+        if (file.key() == cutSuffix && size < 0)
+            QFile::remove(name);
     }
 }
 
@@ -266,7 +224,7 @@ void TestProjectActions::importsNextData()
     QFETCH(QString, cutSuffix);
     QFETCH(int, size);
     writeNextData(cutSuffix, size);
-    m_actions->importMap(path("world.1.nxt"));
+    m_actions->importMap(m_folder("world.1.nxt"));
     QTEST(shownFailure(), "failure");
     QTEST(int(assetCount()), "assets");
     QCOMPARE(m_ready.isNull(), !shownFailure().isEmpty());
@@ -292,8 +250,8 @@ void TestProjectActions::importsPictureWithItsOrientations()
     painter.drawImage(8, 0, tile.transformed(QTransform().rotate(90)));
     painter.drawImage(16, 0, tile.transformed(QTransform().scale(-1, 1)));
     painter.end();
-    QVERIFY(picture.save(path("level.png")));
-    m_actions->importMap(path("level.png"));
+    QVERIFY(picture.save(m_folder("level.png")));
+    m_actions->importMap(m_folder("level.png"));
     const QPointer<Map> map = m_project->map(m_ready);
     QVERIFY(map);
     QCOMPARE(map->name(), "level");
@@ -325,9 +283,9 @@ void TestProjectActions::pictureLimit()
 {
     QFETCH(QSize, tiles);
     QFETCH(QString, file);
-    QVERIFY(tiles.isEmpty() ? writeFile(path(file), "\x89PNG\r\n\x1a\n and nothing more")
-                            : pictureOfTiles(tiles).save(path(file)));
-    m_actions->importMap(path(file));
+    QVERIFY(tiles.isEmpty() ? writeFile(m_folder(file), "\x89PNG\r\n\x1a\n and nothing more")
+                            : pictureOfTiles(tiles).save(m_folder(file)));
+    m_actions->importMap(m_folder(file));
     QTEST(shownFailure(), "failure");
     QCOMPARE(assetCount(), shownFailure().isEmpty() ? 3 : 0);
     QVERIFY(!m_window->findChild<QProgressDialog *>()); // it does not outlive its work
@@ -346,13 +304,13 @@ void TestProjectActions::importedPaletteIsOneUndoStep()
     QByteArray file;
     for (int i = 0; i < Palette::Size; ++i)
         file.append(char(255 - i)).append(char(i));
-    QVERIFY(writeFile(path("night.pal"), file));
+    m_folder("night.pal", file);
     QSignalSpy changed(palette, &Palette::colourChanged);
-    m_actions->importPalette(palette->id(), path("night.pal"));
+    m_actions->importPalette(palette->id(), m_folder("night.pal"));
     for (int i = 0; i < Palette::Size; ++i)
         QCOMPARE(palette->rawColour(i), quint16((255 - i) << 8 | i));
     QCOMPARE(changed.size(), Palette::Size);
-    m_actions->importPalette(palette->id(), path("night.pal")); // changes nothing
+    m_actions->importPalette(palette->id(), m_folder("night.pal")); // changes nothing
     QCOMPARE(stack.count(), 2);
     stack.undo();
     QCOMPARE(palette->rawColour(0), 0xE080);
@@ -371,8 +329,8 @@ void TestProjectActions::importsColoursOfPictures()
     indexed.setColorTable({qRgb(0, 0, 255), qRgb(219, 0, 0), qRgb(0, 255, 0)});
     indexed.fill(2);
     for (const auto &[image, third] : {std::pair(picture, 0x0201), {indexed, 0x1C00}}) { // or as it was before
-        QVERIFY(image.save(path("colours.png")));
-        m_actions->importPalette(palette->id(), path("colours.png"));
+        QVERIFY(image.save(m_folder("colours.png")));
+        m_actions->importPalette(palette->id(), m_folder("colours.png"));
         QCOMPARE(palette->rawColour(0), 0x0301);
         QCOMPARE(palette->rawColour(1), 0xC000);
         QCOMPARE(palette->rawColour(2), third);
@@ -381,15 +339,15 @@ void TestProjectActions::importsColoursOfPictures()
 
 void TestProjectActions::importsANewPalette()
 {
-    QVERIFY(writeFile(path("night.npl"), QByteArray(512, '\1') + '\0'));
-    m_actions->importPalette({}, path("night.npl"));
+    m_folder("night.npl", QByteArray(512, '\1') + '\0');
+    m_actions->importPalette({}, m_folder("night.npl"));
     const QPointer<Palette> palette = m_project->palette(m_ready);
     QCOMPARE(palette->name(), "night");
     QCOMPARE(palette->rawColour(200), 0x0101);
 
-    QVERIFY(writeFile(path("short.pal"), QByteArray(511, '\2')));
+    m_folder("short.pal", QByteArray(511, '\2'));
     QTest::ignoreMessage(QtWarningMsg, "Read error");
-    m_actions->importPalette(palette->id(), path("short.pal"));
+    m_actions->importPalette(palette->id(), m_folder("short.pal"));
     QCOMPARE(palette->rawColour(200), 0x0101);
     QCOMPARE(shownFailure(), "The file is neither a palette nor a picture that can be read");
 }
@@ -417,11 +375,11 @@ void TestProjectActions::importsSprites()
     image.fill(Qt::black);
     for (int x = 16; x < 24; ++x)
         image.setPixel(x, 0, qRgb(255, 0, 0));
-    QVERIFY(image.save(path("hero.png")));
-    QVERIFY(writeFile(path("hero.spr"), QByteArray(256, '\7') + QByteArray(256, '\5')));
+    QVERIFY(image.save(m_folder("hero.png")));
+    m_folder("hero.spr", QByteArray(256, '\7') + QByteArray(256, '\5'));
     QUndoStack stack;
     const EditRecorder recorder(m_project.get(), [&stack](const QUuid &) { return &stack; });
-    const SpriteImport import{path(picture ? "hero.png" : "hero.spr"), "Hero", Quenmora::FourBit,
+    const SpriteImport import{m_folder(picture ? "hero.png" : "hero.spr"), "Hero", Quenmora::FourBit,
                               newPalette ? QUuid() : palette};
     if (picture)
         m_actions->importSpritePicture(import);
@@ -445,10 +403,10 @@ void TestProjectActions::importsSprites()
 void TestProjectActions::spriteFailureLeavesNothing()
 {
     const QUuid palette = makePalette();
-    QVERIFY(writeFile(path("short"), QByteArray(255, '\1')));
+    m_folder("short", QByteArray(255, '\1'));
     QSignalSpy created(m_project.get(), &Project::spritesCreated); // a bank that was seen could not vanish again
     for (const QUuid &paletteId : {palette, QUuid()}) {
-        const SpriteImport import{path("short"), "Hero", Quenmora::EightBit, paletteId};
+        const SpriteImport import{m_folder("short"), "Hero", Quenmora::EightBit, paletteId};
         m_actions->importSpritePicture(import);
         QCOMPARE(shownFailure(), "Could not make sprites of the image file");
         m_actions->importSpriteData(import);

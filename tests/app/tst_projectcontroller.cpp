@@ -66,12 +66,7 @@ void TestProjectController::init()
         return m_answer;
     });
     m_controller->setFileNameCallback([this] { return m_chosenFile; });
-    m_log.emplace();
-    m_log->listen(*m_controller, &ProjectController::aboutToSave, "aboutToSave");
-    m_log->listen(*m_controller, &ProjectController::saveFinished, "saveFinished");
-    m_log->listen(*m_controller, &ProjectController::projectOpened, "opened");
-    m_log->listen(*m_controller, &ProjectController::projectClosing, "closing");
-    m_log->listen(*m_controller, &ProjectController::projectClosed, "closed");
+    m_log.emplace(*m_controller);
     m_log->listen(*m_controller->store(), &ProjectStore::loadError, "loadError");
     m_log->listen(*m_controller->store(), &ProjectStore::saveError, "saveError");
     ProjectStore store;
@@ -179,16 +174,18 @@ void TestProjectController::knowsWhatIsModified()
 
 void TestProjectController::announcesEveryStep()
 {
-    bool closing = false; // while the project still exists
-    connect(&*m_controller, &ProjectController::projectClosing, this, [&] { closing = m_controller->project(); });
+    QString closing; // the name of the project, which still exists
+    connect(&*m_controller, &ProjectController::projectClosing, this,
+            [&] { closing = m_controller->project()->name(); });
     m_controller->newProject("Game");
     m_controller->save(); // and no file was chosen
     m_chosenFile = path("game.quenmora");
     m_controller->save();
-    QCOMPARE(m_log->take(), (QStringList{"opened Game", "aboutToSave", "saveFinished", "aboutToSave", "saveFinished"}));
+    QCOMPARE(m_log->take(),
+             (QStringList{"projectOpened Project", "aboutToSave", "saveFinished", "aboutToSave", "saveFinished"}));
     m_controller->openProject(m_chosenFile);
-    QCOMPARE(m_log->take(), (QStringList{"closing", "closed", "opened Game"}));
-    QVERIFY(closing);
+    QCOMPARE(m_log->take(), (QStringList{"projectClosing", "projectClosed", "projectOpened Project"}));
+    QCOMPARE(closing, "Game");
     change();
     m_chosenFile = path("no such folder/game.quenmora");
     m_controller->saveAs();
@@ -200,7 +197,7 @@ void TestProjectController::announcesEveryStep()
     QVERIFY(m_controller->isModified());
     m_controller->close();
     m_controller->close();
-    QCOMPARE(m_log->take(), (QStringList{"aboutToSave", "saveFinished", "closing", "closed"}));
+    QCOMPARE(m_log->take(), (QStringList{"aboutToSave", "saveFinished", "projectClosing", "projectClosed"}));
 }
 
 void TestProjectController::refusesBadFiles_data()
@@ -223,7 +220,9 @@ void TestProjectController::refusesBadFiles()
     QVERIFY(!m_controller->project() && m_controller->filePath().isEmpty());
     QVERIFY(m_menu->recentFiles().isEmpty());
     m_controller->newProject("Again");
-    QCOMPARE(m_log->take(), (QStringList{"opened Game", "closing", "closed", "loadError " + message, "opened Again"}));
+    QCOMPARE(m_log->take(),
+             (QStringList{"projectOpened Project", "projectClosing", "projectClosed", "loadError " + message,
+                          "projectOpened Project"}));
 }
 
 void TestProjectController::remembersRecentProjects()

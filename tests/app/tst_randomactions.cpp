@@ -291,28 +291,26 @@ void TestRandomActions::checkMessages()
 
 void TestRandomActions::checkReferences()
 {
-    const auto expectPalette = [&](const auto &assets) {
-        for (const auto &asset : assets) {
-            const QPointer<Palette> palette = asset->palette();
-            expect(!palette || project().palette(palette->id()) == palette,
-                   "the palette of " + asset->name() + " is not of the project");
-        }
+    const auto palettes = project().palettes();
+    const auto tileSets = project().tileSets();
+    const auto blockSets = project().blockSets();
+    const auto expectOneOf = [this](const auto &asset, const auto &assets, const QString &what) {
+        expect(!asset || assets.contains(asset), what + " is not of the project");
     };
-    expectPalette(project().tileSets());
-    expectPalette(project().spriteBanks());
-    expectPalette(project().images());
-    for (const auto &tileSet : project().tileSets()) {
+    for (const auto &image : project().images())
+        expectOneOf(image->palette(), palettes, "the palette of an image");
+    for (const auto &tileSet : tileSets) {
+        expectOneOf(tileSet->palette(), palettes, "the palette of a tile set");
         for (const auto &blocks : tileSet->blockSets())
-            expect(blocks && project().blocks(blocks->id()) == blocks, "a tile set knows a block set that is gone");
+            expect(blockSets.contains(blocks), "a tile set knows a block set that is gone");
     }
-    for (const auto &blocks : project().blockSets()) {
+    for (const auto &blocks : blockSets) {
         const QPointer<TileSet> tileSet = blocks->tileSet();
-        expect(!tileSet || project().tileSet(tileSet->id()) == tileSet,
-               "the tile set of a block set is not of the project");
-        expect(!tileSet || tileSet->blockSets().value(blocks->id()) == blocks,
-               "a tile set does not know its block set");
+        expectOneOf(tileSet, tileSets, "the tile set of a block set");
+        expect(!tileSet || tileSet->blockSets().contains(blocks->id()), "a tile set does not know its block set");
     }
     for (const auto &bank : project().spriteBanks()) {
+        expectOneOf(bank->palette(), palettes, "the palette of a sprite bank");
         expect(bank->count() > 0, "a sprite bank without sprites");
         for (const auto &animation : bank->animations()) {
             expect(animation && animation->frameCount() > 0, "a sprite animation without frames");

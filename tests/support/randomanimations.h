@@ -72,14 +72,12 @@ private:
         const QPoint cell = frame->cellRect({number(size.width()), number(size.height())}).center();
         click(frame, cell);
         const bool tiles = editor.animation()->kind() == Animation::Tiles;
+        const auto dropOn = [&] {
+            drop(*frame, cell, cell,
+                 tiles ? TileDrag{number(8), number(16)}.toMimeData() : SpriteDrag{number(4)}.toMimeData());
+        };
+        const auto turn = [&] { editor.tools()->toggleAction(any(QList{RotateCW, Flip, Mirror})); };
         oneOf(
-            [&] {
-                drop(frame, tiles ? TileDrag{number(8), number(16)}.toMimeData() : SpriteDrag{number(4)}.toMimeData(),
-                     cell);
-            },
-            [&] { frame->setIndex(number(8)); }, [&] { frame->setOffset(number(16)); },
-            [&] {
-                editor.tools()->toggleAction(any(QList{RotateCW, Flip, Mirror}));
-            });
+            dropOn, turn, [&] { frame->setIndex(number(8)); }, [&] { frame->setOffset(number(16)); });
     }
 };

@@ -4,10 +4,8 @@
 #include "app/mainwindow.h"
 #include "model/palette.h"
 #include "model/project.h"
+#include "support/editorinput.h"
 
-#include <QApplication>
-#include <QDropEvent>
-#include <QMenu>
 #include <QMouseEvent>
 #include <QRandomGenerator>
 
@@ -108,15 +106,10 @@ protected:
         const QPoint start(number(std::max(widget->width(), 1)), number(std::max(widget->height(), 1)));
         drag(widget, start, number(4), button);
     }
-    void drop(QWidget *target, QMimeData *data, QPoint at, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    /// Drags what these data describe from one point of a widget to another.
+    static void drop(QWidget &widget, QPoint from, QPoint to, QMimeData *data, Qt::KeyboardModifiers modifiers = {})
     {
-        const std::unique_ptr<QMimeData> owned(data);
-        QDragEnterEvent enter(at, Qt::MoveAction, data, Qt::LeftButton, modifiers);
-        QApplication::sendEvent(target, &enter);
-        QDragMoveEvent move(at, Qt::MoveAction, data, Qt::LeftButton, modifiers);
-        QApplication::sendEvent(target, &move);
-        QDropEvent event(at, Qt::MoveAction, data, Qt::LeftButton, modifiers);
-        QApplication::sendEvent(target, &event);
+        EditorInput::drop(widget, from, to, *std::unique_ptr<QMimeData>(data), modifiers);
     }
 
     struct Action

@@ -92,8 +92,9 @@ private:
                 choose(grid.contextMenu(), "Clear");
         });
         addFor(tiles, "move tile", Undoable, [this](TilePickerGrid &grid) {
-            const int count = grid.tileSet()->count();
-            drop(&grid, TileDrag{number(count), 0}.toMimeData(), grid.cellRect(number(count)).center(),
+            const int source = number(grid.tileSet()->count());
+            const QPoint target = grid.cellRect(number(grid.tileSet()->count())).center();
+            drop(grid, grid.cellRect(source).center(), target, TileDrag{source, 0}.toMimeData(),
                  chance() ? Qt::ShiftModifier : Qt::NoModifier);
         });
     }
