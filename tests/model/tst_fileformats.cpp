@@ -63,20 +63,19 @@ private slots:
         QCOMPARE(indices(m_tiles->image(0)), indices(picture(Tile1)));
 
         m_tiles->setTileOffset(0, 2);
-        QVERIFY(m_tiles->exportBlocks(m_path("blocks.bin"), 1, 1, false));
-        QCOMPARE(readFile(m_path("blocks.bin")).left(8), hex("20 20 20 21 21 20 20 20"));
-        QVERIFY(m_tiles->exportBlocks(m_path("rotated.bin"), 1, 1, true));
-        QCOMPARE(readFile(m_path("rotated.bin")).left(8), hex("20 20 20 21 2F 20 27 20"));
+        for (const bool rotated : {false, true}) {
+            QVERIFY(m_tiles->exportBlocks(m_path("a.bin"), 1, 1, rotated));
+            QCOMPARE(readFile(m_path("a.bin")).left(8), hex(rotated ? "202020212F202720" : "2020202121202020"));
+        }
     }
 
     void tileAttributes()
     {
         m_tiles->tile(1)->setAttributes(0x0F);
         m_tiles->tile(2)->setAttributes(0x41);
-        QVERIFY(m_tiles->exportAttributesBinary(m_path("attributes.bin")));
-        QCOMPARE(readFile(m_path("attributes.bin")), hex("00 0F 41"));
-        QVERIFY(m_tiles->exportAttributesAsm(m_path("attributes.asm")));
-        QCOMPARE(readFile(m_path("attributes.asm")),
+        QVERIFY(m_tiles->exportAttributesBinary(m_path("a.bin")) && m_tiles->exportAttributesAsm(m_path("a.asm")));
+        QCOMPARE(readFile(m_path("a.bin")), hex("00 0F 41"));
+        QCOMPARE(readFile(m_path("a.asm")),
                  QByteArray("\tTA_NONE        = $00\n\tTA_TOPSOLID    = $01\n\tTA_LEFTSOLID   = $02\n"
                             "\tTA_RIGHTSOLID  = $04\n\tTA_BOTTOMSOLID = $08\n\tTA_SOLID       = $0F\n"
                             "\tTA_DEADLY      = $10\n\tTA_COLLECTIBLE = $20\n\tTA_LADDER      = $40\n"
@@ -106,8 +105,8 @@ private slots:
         m_path("level.nxm", hex("04 02 01 00 00 00") + QByteArray(252, '\xAA'));
         const QPointer<Map> map = m_project.createMap("Level", m_tiles->id(), QSize(40, 32));
         QVERIFY(map->importNxm(m_path("level.nxm"), m_path("level.nxb")));
+        QCOMPARE(map->size(), QSize(4, 2));
         QCOMPARE(map->tileLayer()->toNextData(), hex("01 00 02 00 00 00 00 00  11 00 12 00 00 00 00 00"));
-        QCOMPARE(map->tileLayer()->size(), QSize(4, 2));
     }
 
     void sprites()

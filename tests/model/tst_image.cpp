@@ -121,8 +121,7 @@ private slots:
         QVERIFY(row({qRgb(7, 9, 255)}).save(path("good.bmp"), "png") && picture.load(path("good.bmp")));
         QCOMPARE(picture.colours(), QList<QRgb>(1, qRgb(0, 16, 255)));
         for (const QString &bad :
-             {path(), path("missing.png"), path("empty", ""), path("nonsense.png", QByteArray(5000, 'x')),
-              path("header", QByteArray("BM\0\0\0\0", 6)),
+             {path(), path("missing.png"), path("nonsense.png", "BM\1\2\3"),
               // 112 MB of bits, which would be 3.6 GB of 32-bit pixels
               path("huge", QByteArray("P4\n30000 30000\n").append(1000, 'x')),
               path("overflowing", QByteArray("P6\n2147483647 2147483647\n255\n").append(1000, 'x'))}) {

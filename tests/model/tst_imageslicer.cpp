@@ -125,8 +125,8 @@ private slots:
         for (int i = 0; i < 10; ++i)
             expected[16 + i] = colour(101 + i);
         QVERIFY(slicer.bankColours() == expected && slicer.piece(2).colorTable() == expected);
-        QVERIFY(slicer.piece(2).pixelIndex(1, 0) == 1 && slicer.pieceWithOffset(2).pixelIndex(1, 0) == 17);
         QVERIFY(slicer.piece(1).pixelIndex(0, 0) == 4 && slicer.piece(3).pixelIndex(3, 0) == 11);
+        QCOMPARE(slicer.pieceWithOffset(2).pixelIndex(1, 0), 17);
         QVERIFY(slicer.piece(4).isNull() && slicer.piece(-1).isNull() && slicer.pieceWithOffset(4).isNull());
     }
 
@@ -163,9 +163,9 @@ private slots:
 
     void findsNoCellsInSmallAndHugePictures()
     {
-        // the last one has a bit a pixel in memory, but would take gigabytes when taken apart
-        for (const QImage &source : {QImage(), QImage(64, 7, QImage::Format_RGB32),
-                                     QImage(NxImage::MaxPixels / 8 + 8, 8, QImage::Format_Mono)}) {
+        // the second one has a bit a pixel in memory, but would take gigabytes when taken apart
+        const QImage huge(NxImage::MaxPixels / 8 + 8, 8, QImage::Format_Mono);
+        for (const QImage &source : {QImage(64, 7, QImage::Format_RGB32), huge}) {
             ImageSlicer slicer(source);
             QVERIFY(slicer.cellCount() == 0 && slicer.sliceTiles() == 0 && slicer.sliceSprites(16) == 0);
         }

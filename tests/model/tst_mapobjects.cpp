@@ -27,11 +27,10 @@ private slots:
         QVERIFY(!replaced && !free->tileSet() && bound->tileSet() == &tiles && door->tileSet() == &tiles);
         QVERIFY(copy->name() == "Door (Copy)" && copy->parent() == &blocks);
         const QUuid boundId = bound->id();
-        blocks.removeAnimation(boundId);
-        blocks.removeAnimation(boundId);
+        for (int i = 0; i < 2; ++i)
+            blocks.removeAnimation(boundId);
         QVERIFY(!blocks.cloneAnimation(boundId) && !bound && !blocks.contains(boundId));
         QCOMPARE(log.take(), QStringList(6, "animationsChanged"));
-        QCOMPARE(blocks.animations(), (QList<QPointer<TileAnimation>>{free, door, copy}));
         delete free; // destroyed elsewhere
         QCOMPARE(blocks.animations(), (QList<QPointer<TileAnimation>>{door, copy}));
     }
@@ -73,15 +72,13 @@ private slots:
         placed.append(nullptr);
         const AnimatedBlocks::State all = placed.state();
         QCOMPARE(all, AnimatedBlocks::State({{door, twice, 0, 0, 0}, {lift, once, 5, 6, 7}, {lift, twice, 0, 0, 0}}));
-        QCOMPARE(placed.areaAt(QPoint(4, 3)), twice); // the first of two
-        QCOMPARE(placed.areaAt(QPoint(5, 4)), once);
+        QVERIFY(placed.areaAt(QPoint(4, 3)) == twice && placed.areaAt(QPoint(5, 4)) == once); // the first of two
         QVERIFY(placed.areaAt(QPoint(6, 4)).isNull() && placed.areaAt(QPoint(9, 9)).isNull());
         QVERIFY(placed.animationIdAt(twice) == door && placed.animationIdAt(QRect(2, 2, 3, 3)).isNull());
         QCOMPARE(placed.areas(), (QHash<QRect, QUuid>{{twice, door}, {once, lift}}));
 
         const QPointer<AnimationProperties> second = placed.list().last();
-        QVERIFY(!placed.remove(QRect(0, 0, 1, 1)));
-        QVERIFY(placed.remove(twice) && !second);
+        QVERIFY(!placed.remove(QRect(0, 0, 1, 1)) && placed.remove(twice) && !second);
         QCOMPARE(placed.state(), all.mid(1, 1));
         for (const AnimatedBlocks::State &state : {all, all.mid(1), AnimatedBlocks::State()}) {
             placed.restore(state);

@@ -29,10 +29,11 @@ private slots:
             return filled;
         };
         QCOMPARE(project.createPalette(CreateAction::CopyCurrent, "Copy")->rawColour(3), 0x0301); // of the last one
-        QCOMPARE(word(CreateAction::CopyCurrent, source->id()), 0xE381);
-        QCOMPARE(word(CreateAction::DefaultNext, source->id()), 0x0301);
-        for (const auto action : {CreateAction::None, CreateAction::Blank})
-            QCOMPARE(word(action, source->id()), 0);
+        for (const auto &[action, filled] : {std::pair(CreateAction::CopyCurrent, 0xE381),
+                                             {CreateAction::None, 0},
+                                             {CreateAction::DefaultNext, 0x0301},
+                                             {CreateAction::Blank, 0}})
+            QCOMPARE(word(action, source->id()), filled);
         QCOMPARE(word(CreateAction::CopyCurrent, {}), 0); // the last one was deleted
     }
 
@@ -82,18 +83,6 @@ private slots:
         for (const QUuid &id : {unknown, QUuid()}) // no palette is none, not the palette of the null id
             QVERIFY(project.deletePalette(id) && project.deleteTileSet(id) && project.deleteBlocks(id)
                     && project.deleteMap(id) && project.deleteSpriteBank(id) && project.deleteImage(id));
-    }
-
-    void replacesWhatIsRegisteredAgain()
-    {
-        Project project;
-        const QPointer<Palette> first = project.createPalette(CreateAction::Blank, "first");
-        project.createPalette(CreateAction::Blank, "second");
-        auto *replacement = new Palette; // "untitled"
-        replacement->setId(first->id());
-        project.addPalette(replacement);
-        QVERIFY(project.palette(first->id()) == replacement);
-        QCOMPARE(project.paletteNames(), QStringList({"untitled", "second"}));
     }
 
     void spritesFollowTheirBank()
@@ -160,8 +149,7 @@ private slots:
         const QPointer<TileMap> layer = map->tileLayer();
         QVERIFY(!project.deleteTileSet(tiles->id()) && !project.deleteBlocks(blocks->id()));
         QVERIFY(project.deleteMap(map->id()) && !map && !layer);
-        QVERIFY(project.deleteTileSet(tiles->id())); // block sets do not hold it
-        QVERIFY(!tiles && blocks && !blocks->tileSet());
+        QVERIFY(project.deleteTileSet(tiles->id()) && !tiles && !blocks->tileSet()); // block sets do not hold it
         QVERIFY(project.deleteBlocks(blocks->id()) && !blocks);
 
         const QPointer<SpriteBank> bank = project.createSpriteBank(Quenmora::FourBit, "S", id);
