@@ -10,6 +10,7 @@
 #include "editors/canvas/canvas.h"
 #include "editors/canvas/imageeditorview.h"
 #include "editors/canvas/tilepickergrid.h"
+#include "editors/map/mapanimator.h"
 #include "editors/map/mapeditorview.h"
 #include "editors/map/mapgrid.h"
 #include "editors/palette/palettegrid.h"
@@ -140,18 +141,24 @@ void TestDocumentController::opensOneTabADocument()
 void TestDocumentController::storesOpenTabsInOrder()
 {
     tabs()->closeAllTabs();
-    for (const QUuid &id : {m_assets->second->id(), m_assets->map->id()})
-        documents()->setActiveMap(id);
+    documents()->setActiveMap(m_assets->second->id());
     documents()->setActiveBlockEditor(m_assets->blocks->id());
+    documents()->setActiveMap(m_assets->map->id());
+    auto *level = qobject_cast<MapEditor::View *>(tabs()->currentWidget());
+    level->toolPaletteClicked(Quenmora::Ui::AnimPlay, true);
+    bool plays = true; // while it is saved
+    const ProjectController *controller = m_window->projectController();
+    connect(controller, &ProjectController::aboutToSave, this, [&] { plays = level->animator()->isRunning(); });
     const QTemporaryDir folder;
     const QString file = folder.filePath("game.quenmora");
     m_window->projectController()->setFileNameCallback([file] { return file; });
     m_window->projectController()->save();
+    QVERIFY(!plays && level->animator()->isRunning());
     m_window->projectController()->openProject(file);
     QStringList texts;
     for (int tab = 0; tab < tabs()->count(); ++tab)
         texts.append(tabs()->tabText(tab));
-    QCOMPARE(texts, (QStringList{"Scratch Image Editor", "Second", "Level", "Doors"}));
+    QCOMPARE(texts, (QStringList{"Scratch Image Editor", "Second", "Doors", "Level"}));
     QVERIFY(!m_window->projectController()->isModified());
 }
 

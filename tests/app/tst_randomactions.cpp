@@ -14,6 +14,7 @@
 #include <QHashSeed>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QUndoGroup>
 #include <QUndoStack>
 
 #include <algorithm>
@@ -100,9 +101,8 @@ private slots:
 
 private:
     Project &project() { return *m_window->projectController()->project(); }
-    QUndoStack *stackOf(const QUuid &id) { return m_window->documentController()->undoStackFor(id); }
-    QList<QUuid> documents();
-    QHash<QUuid, int> stackIndices();
+    QList<QUndoStack *> stacks() { return m_window->documentController()->undoGroup()->stacks(); }
+    bool isDocument(const QUuid &id);
     void startJournal();
     void record();
     QString step(RandomUser &user);
@@ -132,7 +132,7 @@ private:
 
     // Since when all changes are on undo stacks: the steps in the order in which they were made.
     QList<QPointer<QUndoStack>> m_journal;
-    QHash<QUuid, int> m_indices;
+    QHash<QUndoStack *, int> m_indices; ///< how many steps of a stack have been written down
     ProjectMembers m_first;
     QStringList m_problems; ///< what the last step has shown
 };
@@ -213,47 +213,24 @@ QString TestRandomActions::step(RandomUser &user)
 
 // The order of undo steps over all documents
 
-QList<QUuid> TestRandomActions::documents()
-{
-    QList<QUuid> ids{QUuid()}; // of the scratch image
-    const auto append = [&ids](const auto &assets) {
-        for (const auto &asset : assets)
-            ids.append(asset->id());
-    };
-    append(project().palettes());
-    append(project().tileSets());
-    append(project().maps());
-    append(project().blockSets());
-    append(project().spriteBanks());
-    append(project().images());
-    return ids;
-}
-
-QHash<QUuid, int> TestRandomActions::stackIndices()
-{
-    QHash<QUuid, int> indices;
-    for (const QUuid &id : documents())
-        indices.insert(id, stackOf(id)->index());
-    return indices;
-}
-
 /// Starts where undo cannot go back behind: something changed that is on no stack.
 void TestRandomActions::startJournal()
 {
     m_window->documentController()->setClean(); // nothing merges into a clean step
+    m_indices.clear();
+    record();
     m_journal.clear();
-    m_indices = stackIndices();
     m_first = contentOf(project());
 }
 
 void TestRandomActions::record()
 {
-    const QHash<QUuid, int> indices = stackIndices();
-    for (const QUuid &id : documents()) {
-        for (int index = m_indices.value(id); index < indices.value(id); ++index)
-            m_journal.append(stackOf(id));
+    for (QUndoStack *stack : stacks()) {
+        int &written = m_indices[stack];
+        for (; written < stack->index(); ++written)
+            m_journal.append(stack);
+        written = stack->index();
     }
-    m_indices = indices;
 }
 
 /// Undoes the last steps and does them again; when these are all, the first state must come back.
@@ -341,12 +318,18 @@ void TestRandomActions::checkMaps()
     }
 }
 
+/// Whether the project has an asset of this id, or it is the null id of the scratch image.
+bool TestRandomActions::isDocument(const QUuid &id)
+{
+    return id.isNull() || project().palette(id) || project().tileSet(id) || project().map(id) || project().blocks(id)
+        || project().spriteBank(id) || project().image(id);
+}
+
 void TestRandomActions::checkViews()
 {
     const DocumentViews &views = m_window->views();
-    const QList<QUuid> ids = documents();
-    const auto expectShown = [&](const auto *asset, const QString &view) {
-        expect(!asset || ids.contains(asset->id()), view + " shows an asset that is gone");
+    const auto expectShown = [this](const auto *asset, const QString &view) {
+        expect(!asset || isDocument(asset->id()), view + " shows an asset that is gone");
     };
     const auto expectPixels = [&](const Canvas *canvas, const QImage &picture, const QString &view) {
         expect(indices(canvas->image()) == indices(picture), view + " shows other pixels than the asset has");
@@ -366,7 +349,7 @@ void TestRandomActions::checkViews()
     }
     for (int tab = 0; tab < views.tabs->count(); ++tab) {
         QWidget *page = views.tabs->widget(tab);
-        expect(ids.contains(DocumentTabView::documentId(page)), "a tab shows an asset that is gone");
+        expect(isDocument(DocumentTabView::documentId(page)), "a tab shows an asset that is gone");
         if (const auto *editor = qobject_cast<ImageEditor::View *>(page))
             expectPixels(editor->canvas(), editor->image() ? editor->image()->image() : project().scratchImage(),
                          "an image editor");
