@@ -1,20 +1,17 @@
 #include "model/map.h"
 
 #include "model/mapobjects.h"
-#include "model/palette.h"
 #include "model/project.h"
 #include "model/tileset.h"
 #include "support/modeltools.h"
 #include "support/testmain.h"
 
-#include <QPainter>
 #include <QTest>
 
 namespace {
 
 using TileData = TileMap::TileData;
 
-const TileData Blank;
 const TileData Cleared{0, false, false, false, 0, true}; ///< what setTiles() with tile 0 leaves
 
 TileData tile(int index)
@@ -46,8 +43,7 @@ struct Level
     }
 
     Project project;
-    Palette &palette = *project.createPalette(CreateAction::DefaultNext, "Main");
-    TileSet &tileSet = *project.createTileSet("Rocks", palette.id(), 16);
+    TileSet &tileSet = *project.createTileSet("Rocks", {}, 16);
     TileAnimation &animation = *project.createBlockList("Torches", tileSet.id())->createBoundTileAnimation("Torch");
     Map &map = *project.createMap("Cave", tileSet.id(), {12, 10});
     TileMap &tiles = *map.tileLayer();
@@ -127,8 +123,7 @@ private slots:
         level.tileSet.setTileOffset(1, 0);
         level.map.refreshOffsets();
         QCOMPARE(indices(), "06 00 05 90 01 00 06 00");
-        TileSet other(1);
-        level.map.setTileSet(&other);
+        level.map.setTileSet(nullptr);
         level.tileSet.deleteTile(0);
         QCOMPARE(indices(), "06 00 05 90 01 00 06 00");
     }
@@ -149,16 +144,16 @@ private slots:
             QVERIFY(!map.stampFrame(level.animation, same, {4, 3}));
         QCOMPARE(level.objects.cellAt({5, 3}), frameCell(6));
         QVERIFY(!map.removeAnimationAt(QRect(4, 3, 1, 1)) && map.removeAnimationAt(area) && level.areas().size() == 1);
-        QVERIFY(level.tiles.cellAt({5, 3}) == Blank && level.objects.cellAt({5, 3}) == Cleared);
+        QVERIFY(level.tiles.cellAt({5, 3}) == TileData() && level.objects.cellAt({5, 3}) == Cleared);
         const TileAnimation empty; // without frames
         map.placeAnimation(&empty, {0, 0});
-        QCOMPARE(level.objects.cellAt({0, 0}), Blank);
+        QCOMPARE(level.objects.cellAt({0, 0}), TileData());
         map.animatedBlocks()->add(QRect(2, 2, 2, 1), level.animation.id());
         map.animatedBlocks()->add(QRect(6, 2, 2, 1), QUuid::createUuid()); // no such animation
         map.animatedBlocks()->add(QRect(QPoint(INT_MAX, 3), QPoint(INT_MAX, 3)), level.animation.id());
         map.restampAnimations({level.project.createBlockList("Other", {}), nullptr, level.project.blockSets().first()});
         QVERIFY(level.objects.cellAt({3, 2}) == frameCell(4) && level.tiles.cellAt({3, 2}) == Cleared);
-        QVERIFY(level.objects.cellAt({6, 2}) == Blank && level.tiles.cellAt({6, 2}) == Cleared);
+        QVERIFY(level.objects.cellAt({6, 2}) == TileData() && level.tiles.cellAt({6, 2}) == Cleared);
     }
 
     void keepsSpritesOnTheirPictures()
@@ -252,32 +247,6 @@ private slots:
         QVERIFY(!level.map.exportData(m_path()));
         level.map.setName("../Cave");
         QVERIFY(!level.map.exportToDirectory(m_path()));
-    }
-
-    void showsObjectsWhereTheyArePlaced()
-    {
-        Level level;
-        for (int i = 0; i < 16; ++i)
-            level.tileSet.setTileImage(i, plainImage({8, 8}, i));
-        level.map.setTiles(level.tiles.bounds(), 9, false, false, false, true);
-        level.map.placeAnimation(&level.animation, {4, 3});
-        // the palette entries that a row of the view shows, one pixel a cell
-        const auto row = [&level](int y) {
-            QImage screen(10, 10, QImage::Format_RGB32);
-            screen.fill(Qt::white);
-            QPainter painter(&screen);
-            level.map.paintLayers(painter, {0, 0}, QRect(2, 1, 10, 9), 1, 10);
-            QList<qsizetype> entries;
-            for (int x = 0; x < 10; ++x)
-                entries << level.palette.colourTable().indexOf(screen.pixel(x, y));
-            return entries;
-        };
-        QCOMPARE(row(2), QList<qsizetype>({9, 9, 0, 0, 9, 9, 9, 9, 9, 9}));
-        level.objects.setVisible(true);
-        QCOMPARE(row(2), QList<qsizetype>({9, 9, 0x73, 0x74, 9, 9, 9, 9, 9, 9}));
-        QCOMPARE(row(0), QList<qsizetype>(10, 9)); // blank cells of the object layer hide nothing
-        level.tiles.setVisible(false);
-        QCOMPARE(row(0), QList<qsizetype>(10, 255)); // white
     }
 };
 

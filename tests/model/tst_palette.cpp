@@ -51,9 +51,9 @@ private slots:
     {
         Palette palette;
         SignalLog log(palette);
-        palette.setName("untitled");
         palette.loadStandardNext();
-        palette.setName("cave");
+        for (const char *name : {"untitled", "cave"})
+            palette.setName(name);
         QCOMPARE(log.take(), QStringList("nameChanged cave"));
         // the signal carries the snapped colour, not the expanded one (219 would be 255)
         palette.setColour(3, QColor(219, 219, 219, 9), true);
@@ -110,8 +110,8 @@ private slots:
             QCOMPARE(read.rawColour(i), palette.rawColour(i));
 
         QVERIFY(!palette.exportData(path()));
-        if (QFile::exists("/dev/full")) // a full disk shows only when the bytes leave the buffer
-            QVERIFY(!palette.exportData("/dev/full"));
+        QVERIFY(!QFile::exists("/dev/full")
+                || !palette.exportData("/dev/full")); // bytes fail when they leave the buffer
         palette.setName("../out");
         QVERIFY(!palette.exportToDirectory(path()));
     }
