@@ -24,6 +24,7 @@ AnimationView::AnimationView(AnimationListWidget *list, EditorWidget *editor, QW
     , m_editor(editor)
     , m_title(new SectionHeader(QString()))
 {
+    setFocusProxy(m_list); // before it is a part: else Qt moves it behind the editor in the order of Tab
     addWidget(SectionHeader::over(m_list, new SectionHeader(tr("Animations"))));
     addWidget(SectionHeader::over(m_editor, m_title));
     setStretchFactor(0, 0);
@@ -31,7 +32,6 @@ AnimationView::AnimationView(AnimationListWidget *list, EditorWidget *editor, QW
     setChildrenCollapsible(false);
     setSizes({ListWidth, 3 * ListWidth});
     m_list->setMinimumWidth(LeastListWidth);
-    setFocusProxy(m_list);
 
     FrameEditorWidget *cells = m_editor->frameEditor();
     cells->setCellRenderer([this](const AnimationFrame::Cell &cell) { return cellPicture(cell); });
