@@ -34,7 +34,7 @@ bool haveSameIndices(const QImage &a, const QImage &b)
 View::View(QWidget *parent)
     : QWidget(parent)
     , PixelEditor(QSize(1, 1), Qt::Vertical, {Open, Save})
-    , m_colours(new ColourPalette(this))
+    , m_colours(new ColourPalette) // takes its place in the order of Tab with the layout
 {
     canvas()->setZoomLevel(UsualZoom);
     buildPage();

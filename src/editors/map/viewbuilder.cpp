@@ -54,6 +54,8 @@ void ViewBuilder::layOut()
     scrolled->setColumnStretch(0, 1);
 
     auto *page = new QWidget;
+    // before the grid in the order of Tab: behind it, it would hand the keyboard back for ever
+    m_view.m_toolPalette->setParent(page);
     auto *row = new QHBoxLayout(page);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(2);
