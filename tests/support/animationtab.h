@@ -38,6 +38,8 @@ struct AnimationTab
         });
         view->resize(900, 500);
         view->show();
+        view->activateWindow();
+        (void)QTest::qWaitForWindowActive(view.get());
     }
     auto *editor() const { return view->editor(); }
     auto *cells() const { return editor()->frameEditor(); }

@@ -68,6 +68,7 @@ private slots:
     void toolsChangeTheSelectedCell();
     void undoRefreshesWhatIsShown();
     void addsAndClonesAnimations();
+    void tabLeadsFromTheListToTheCells();
     void deletesAnAnimationWhenAskedTwice();
     void buttonsMoveAddAndDeleteFrames();
     void assetsMayDie();
@@ -127,7 +128,6 @@ void TestBlockEditorView::playsAtTheDelayAndWraps()
 void TestBlockEditorView::toolsChangeTheSelectedCell()
 {
     Fixture f;
-    QVERIFY(!f.tool(Flip)->isEnabled());
     f.door->frame(0)->setCells({{{}, {1, 4, false, true, false}}});
     f.cells()->setSelectedCell({1, 0});
     QVERIFY(f.tool(Mirror)->isChecked() && !f.tool(Flip)->isChecked());
@@ -197,6 +197,15 @@ void TestBlockEditorView::addsAndClonesAnimations()
     QCOMPARE(f.list()->selected(), f.door);
 }
 
+void TestBlockEditorView::tabLeadsFromTheListToTheCells()
+{
+    Fixture f;
+    f.list()->setFocus();
+    for (int i = 0; i < 11; ++i)
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QCOMPARE(QApplication::focusWidget(), f.cells());
+}
+
 void TestBlockEditorView::deletesAnAnimationWhenAskedTwice()
 {
     Fixture f;
@@ -208,8 +217,6 @@ void TestBlockEditorView::deletesAnAnimationWhenAskedTwice()
     emit f.list()->removeRequested();
     QVERIFY(!removed && f.editor()->animation() == f.door);
     f.answer = true;
-    f.view->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(f.view.get()));
     f.list()->setFocus();
     QTest::keyClick(f.list()->focusProxy(), Qt::Key_Delete);
     QVERIFY(removed && !f.door && !f.editor()->isEnabled() && f.texts().isEmpty());
