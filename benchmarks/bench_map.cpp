@@ -29,8 +29,7 @@ BENCHMARK(BM_Create)->Arg(40)->Arg(9999)->Unit(benchmark::kMillisecond);
 void BM_SetCell(benchmark::State &state)
 {
     const QSize size(int(state.range(0)), int(state.range(1)));
-    Level level(size);
-    level.scatter();
+    LargeLevel level(size);
     QPoint at;
     int index = 0;
     for (auto _ : state) {
@@ -46,8 +45,7 @@ BENCHMARK(BM_SetCell)->Args({40, 32})->Args({2000, 2000});
 void BM_SetShownCell(benchmark::State &state)
 {
     const QSize size(int(state.range(0)), int(state.range(1)));
-    Level level(size);
-    level.scatter();
+    LargeLevel level(size);
     QImage screen(Screen, QImage::Format_RGB32);
     QPainter painter(&screen);
     level.map.paintLayers(painter, {}, screenAt({0, 0}, 8), 8, -1);
@@ -76,8 +74,7 @@ BENCHMARK(BM_Fill)->Args({40, 32})->Args({2000, 2000})->Unit(benchmark::kMicrose
 void BM_RenderScreenFirst(benchmark::State &state)
 {
     const int zoom = int(state.range(0));
-    Level level({2000, 2000});
-    level.scatter();
+    LargeLevel level;
     int step = 0;
     for (auto _ : state) {
         state.PauseTiming();
@@ -93,8 +90,7 @@ BENCHMARK(BM_RenderScreenFirst)->Arg(1)->Arg(4)->Unit(benchmark::kMillisecond);
 void BM_RenderScreenAgain(benchmark::State &state)
 {
     const int zoom = int(state.range(0));
-    Level level({2000, 2000});
-    level.scatter();
+    LargeLevel level;
     for (auto _ : state) {
         const QImage image = level.map.tileLayer()->render(screenAt({700, 700}, zoom * 8), zoom, 0);
         benchmark::DoNotOptimize(image.constBits());
@@ -106,8 +102,7 @@ BENCHMARK(BM_RenderScreenAgain)->Arg(1)->Arg(4)->Unit(benchmark::kMillisecond);
 void BM_PaintScreen(benchmark::State &state)
 {
     const int cellSize = int(state.range(0));
-    Level level({2000, 2000});
-    level.scatter();
+    LargeLevel level;
     QImage screen(Screen, QImage::Format_RGB32);
     QPainter painter(&screen);
     level.map.paintLayers(painter, {}, screenAt({3, 5}, cellSize), cellSize, int(state.range(1)));
@@ -120,8 +115,7 @@ BENCHMARK(BM_PaintScreen)->ArgsProduct({{1, 3, 8, 12, 32, 64}, {-1, 3}})->Unit(b
 void BM_PaintScreenAnimated(benchmark::State &state)
 {
     const int cellSize = int(state.range(0));
-    Level level({2000, 2000});
-    level.scatter();
+    LargeLevel level;
     const QRect cells = screenAt({3, 5}, cellSize);
     level.placeAnimations(cells);
     QImage screen(Screen, QImage::Format_RGB32);
@@ -153,8 +147,7 @@ BENCHMARK(BM_ScrollOverLargest)->Iterations(1)->Unit(benchmark::kMillisecond);
 
 void BM_ToNextData(benchmark::State &state)
 {
-    Level level({2000, 2000});
-    level.scatter();
+    LargeLevel level;
     qsizetype size = 0;
     for (auto _ : state)
         size = level.map.tileLayer()->toNextData().size();
@@ -164,8 +157,7 @@ BENCHMARK(BM_ToNextData)->Unit(benchmark::kMillisecond);
 
 void BM_Serialise(benchmark::State &state)
 {
-    Level level({2000, 2000});
-    level.scatter();
+    LargeLevel level;
     qsizetype size = 0;
     for (auto _ : state)
         size = level.map.tileLayer()->serialise(level.map.tileLayer()->bounds()).size();
@@ -175,8 +167,7 @@ BENCHMARK(BM_Serialise)->Unit(benchmark::kMillisecond);
 
 void BM_FromData(benchmark::State &state)
 {
-    Level level({2000, 2000});
-    level.scatter();
+    LargeLevel level;
     const QByteArray data = level.map.tileLayer()->serialise(level.map.tileLayer()->bounds());
     for (auto _ : state)
         benchmark::DoNotOptimize(std::unique_ptr<TileMap>(TileMap::fromData(data))->size());
@@ -188,8 +179,7 @@ BENCHMARK(BM_FromData)->Unit(benchmark::kMillisecond);
 void BM_Edit(benchmark::State &state)
 {
     const int side = int(state.range(0));
-    Level level({side, side});
-    level.scatter();
+    LargeLevel level({side, side});
     int index = 0;
     for (auto _ : state) {
         ++index;

@@ -15,12 +15,14 @@ namespace {
 
 using MapEditor::MapGrid;
 
-/// A level on a full screen.
+/// A square level on a full screen.
 class Editor
 {
 public:
-    explicit Editor(QSize size, int zoom) : level(size)
+    explicit Editor(int zoom, int side = 2000) : level({side, side})
     {
+        if (side <= 2000) // a larger one stays empty
+            level.scatter();
         grid.resize(Screen);
         grid.setUndoStack(&stack);
         grid.applyPreferences({.overlayGrid = false, .defaultZoom = zoom});
@@ -62,8 +64,7 @@ private:
 /// Zoom, grid lines.
 void BM_Paint(benchmark::State &state)
 {
-    Editor editor({2000, 2000}, int(state.range(0)));
-    editor.level.scatter();
+    Editor editor(int(state.range(0)));
     if (state.range(1))
         editor.grid.setGridVisible(true);
     editor.paint();
@@ -75,8 +76,7 @@ BENCHMARK(BM_Paint)->ArgsProduct({{1, 4}, {0, 1}})->MeasureProcessCPUTime()->Uni
 /// Zoom, what shows through pixels of index 0: 0 black, 1 the checker board, 2 a tile.
 void BM_PaintTransparent(benchmark::State &state)
 {
-    Editor editor({2000, 2000}, int(state.range(0)));
-    editor.level.scatter();
+    Editor editor(int(state.range(0)));
     editor.grid.setTransparencyIndex(0);
     editor.grid.setGridVisible(state.range(1) == 1);
     editor.grid.applyPreferences(
@@ -93,8 +93,7 @@ BENCHMARK(BM_PaintTransparent)
 
 void BM_PaintAfterSetCell(benchmark::State &state)
 {
-    Editor editor({2000, 2000}, int(state.range(0)));
-    editor.level.scatter();
+    Editor editor(int(state.range(0)));
     int index = 0;
     for (auto _ : state) {
         editor.level.map.setTile({10, 10}, {++index & 511, false, false, false, 0, true});
@@ -106,8 +105,7 @@ BENCHMARK(BM_PaintAfterSetCell)->Arg(1)->Arg(4)->MeasureProcessCPUTime()->Unit(b
 /// Animated blocks, one in every 8 × 8 cells of the screen, and animated sprites, all with another frame each time.
 void BM_PaintPlaying(benchmark::State &state)
 {
-    Editor editor({2000, 2000}, int(state.range(0)));
-    editor.level.scatter();
+    Editor editor(int(state.range(0)));
     editor.level.placeAnimations(editor.grid.viewport().visibleCells());
     editor.level.placeSprites(editor.grid.viewport().visibleCells());
     editor.grid.setSpriteBanks({editor.level.bank()});
@@ -124,10 +122,7 @@ BENCHMARK(BM_PaintPlaying)->Arg(1)->Arg(4)->MeasureProcessCPUTime()->Unit(benchm
 /// Side of the map: a stroke of ten cells, the screen after each of them, undo and the screen again.
 void BM_StrokeAndUndo(benchmark::State &state)
 {
-    const int side = int(state.range(0));
-    Editor editor({side, side}, 4);
-    if (side <= 2000)
-        editor.level.scatter();
+    Editor editor(4, int(state.range(0)));
     int index = 0;
     for (auto _ : state) {
         editor.stroke(++index);
@@ -139,10 +134,7 @@ BENCHMARK(BM_StrokeAndUndo)->Arg(40)->Arg(2000)->Arg(9999)->MeasureProcessCPUTim
 /// The same, with the screen painted after the stroke and after undoing it.
 void BM_StrokeAndUndoShown(benchmark::State &state)
 {
-    const int side = int(state.range(0));
-    Editor editor({side, side}, int(state.range(1)));
-    if (side <= 2000)
-        editor.level.scatter();
+    Editor editor(int(state.range(1)), int(state.range(0)));
     int index = 0;
     for (auto _ : state) {
         editor.stroke(++index);
@@ -159,10 +151,7 @@ BENCHMARK(BM_StrokeAndUndoShown)
 /// Scrolls by one cell and paints, along the diagonal of a map of that side.
 void BM_Scroll(benchmark::State &state)
 {
-    const int side = int(state.range(0));
-    Editor editor({side, side}, int(state.range(1)));
-    if (side <= 2000)
-        editor.level.scatter();
+    Editor editor(int(state.range(1)), int(state.range(0)));
     int step = 0;
     for (auto _ : state) {
         if (++step & 1)

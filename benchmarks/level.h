@@ -2,6 +2,7 @@
 
 #include "model/animatedblocks.h"
 #include "model/map.h"
+#include "model/mapobjects.h"
 #include "model/palette.h"
 #include "model/spriteanim.h"
 #include "model/spritebank.h"
@@ -46,6 +47,7 @@ public:
         }
         map.setLayers(&m_tiles, &m_objects);
         map.setTileSet(&m_tileSet);
+        m_blocks.setTileSet(&m_tileSet);
     }
 
     /// Gives every cell a random tile, orientation and offset.
@@ -63,18 +65,20 @@ public:
         m_tiles.restore(rows);
     }
 
-    /// Places animations of 4 × 4 cells and 8 frames, one in every 8 × 8 cells of the area.
+    /// Places animations of 4 × 4 cells and 8 frames of a tick each, one in every 8 × 8 cells of the area.
     void placeAnimations(const QRect &area)
     {
-        m_animation.setSize({4, 4});
+        m_animation = m_blocks.createBoundTileAnimation(QStringLiteral("Water"));
+        m_animation->setSize({4, 4});
+        m_animation->setDelay(1);
         for (int frame = 0; frame < 8; ++frame) {
-            m_animation.addFrame();
+            m_animation->addFrame();
             for (int cell = 0; cell < 16; ++cell)
-                m_animation.frame(frame)->setIndex(cell / 4, cell % 4, frame * 16 + cell);
+                m_animation->frame(frame)->setIndex(cell / 4, cell % 4, frame * 16 + cell);
         }
         for (int y = area.top(); y <= area.bottom() - 4; y += 8) {
             for (int x = area.left(); x <= area.right() - 4; x += 8)
-                map.placeAnimation(&m_animation, {x, y});
+                map.placeAnimation(m_animation, {x, y});
         }
         m_objects.setVisible(true);
     }
@@ -82,7 +86,7 @@ public:
     void showFrame(int frame)
     {
         for (const QPointer<AnimationProperties> &placement : map.animatedBlocks()->list())
-            map.stampFrame(m_animation, frame % m_animation.frameCount(), placement->area().topLeft());
+            map.stampFrame(*m_animation, frame % m_animation->frameCount(), placement->area().topLeft());
     }
 
     /// Places animations of 2 × 2 sprites and 4 frames all over the area: at 8 screen pixels a cell, about twice as
@@ -118,8 +122,16 @@ private:
     TileSet m_tileSet{512};
     TileMap m_tiles;
     TileMap m_objects;
-    TileAnimation m_animation;
+    MapObjects m_blocks;
+    QPointer<TileAnimation> m_animation;
     SpriteBank m_bank{Quenmora::EightBit};
+};
+
+/// The large map: every cell used.
+class LargeLevel : public Level
+{
+public:
+    explicit LargeLevel(QSize size = {2000, 2000}) : Level(size) { scatter(); }
 };
 
 /// The cells that a full screen shows.
