@@ -59,7 +59,6 @@ void TestMapDocks::listKeepsTheSelection()
     QSignalSpy changed(&list, &List::selectedItemChanged);
     list.setAnimations(QList{f.block(1), f.block(2)});
     QCOMPARE(list.selected(), f.block(1).data());
-    QCOMPARE(changed.count(), 0);
     list.setAnimations(QList{f.block(2)});
     list.select(f.block(2));
     list.removeAnimation(f.block(2));
@@ -109,13 +108,12 @@ void TestMapDocks::objectsAreThoseOfTheTileSet()
     click(items, 1);
     click(items, 1); // the tool may be another one meanwhile
     QTest::keyClick(items, Qt::Key_Down);
-    const auto door = QVariant::fromValue(f.block(1));
-    QCOMPARE(selected, (Signals{{door}, {door}, {QVariant::fromValue(f.block(2))}}));
     dock.selectAnimation(f.block(0)->id());
     QCOMPARE(dock.list()->selected(), f.block(0).data());
     dock.selectAnimation(QUuid::createUuid());
     QVERIFY(!dock.list()->selected());
-    QCOMPARE(selected.count(), 3);
+    const auto door = QVariant::fromValue(f.block(1));
+    QCOMPARE(selected, (Signals{{door}, {door}, {QVariant::fromValue(f.block(2))}}));
 
     f.blocks->createBoundTileAnimation("Lift");
     f.blocks->removeAnimation(f.animation->id());
@@ -149,8 +147,6 @@ void TestMapDocks::spritesAreThoseOfTheBank()
     QVERIFY(!sprites->currentIndex().isValid() && !sprites->selectionModel()->hasSelection());
     click(sprites, 0);
     QVERIFY(!animations->selected());
-    QCOMPARE(single, (Signals{{id, 2}, {id, 2}, {id, 0}}));
-    QCOMPARE(animated, (Signals{{QVariant::fromValue(f->run)}}));
 
     // what was chosen on the map is shown, not told
     const QPointer<SpriteBank> second = f->makeBank();
@@ -166,7 +162,8 @@ void TestMapDocks::spritesAreThoseOfTheBank()
     placed.bank = QUuid::createUuid(); // one that is gone
     dock.selectSprite(placed);
     QCOMPARE(dock.bank(), f->bank);
-    QCOMPARE(single.count() + animated.count(), 4);
+    QCOMPARE(single, (Signals{{id, 2}, {id, 2}, {id, 0}}));
+    QCOMPARE(animated, (Signals{{QVariant::fromValue(f->run)}}));
 
     f->bank->addSprite();
     f->bank->newAnimation()->setName("Jump");

@@ -291,8 +291,8 @@ void TestMapGrid::paintsWhatLiesBeneath()
         f.map->placeAnimation(f.animation, {4, 2});
         f.animation->frame(0)->setIndex(0, 0, 0);
         f.map->stampFrame(*f.animation, 0, {4, 2});
-        for (const int zoom : {4, 1}) { // also with cells of 8 pixels
-            f.grid.applyPreferences({checker, Qt::red, Qt::blue, false, zoom == 1 ? 8 : 4, zoom});
+        for (const int zoom : {1, 2, 8}) { // the last with a cell a strip
+            f.grid.applyPreferences({checker, Qt::red, Qt::blue, false, 8, zoom});
             f.grid.resize(10 * f.grid.viewport().cellSize, 256);
             f.grid.setBackgroundTileIndex(background);
             f.grid.setTransparencyIndex(0);

@@ -211,7 +211,6 @@ void TestMapTools::picksAndReturnsToTheToolBefore()
     for (const ToolButton mode : {Select, Pick, Pick, Paste}) // which is refused
         f.grid.setMode(mode);
     f.click(f.at(4, 2), Qt::RightButton);
-    QCOMPARE(picked.size(), 0);
     f.click(f.at(4, 2));
     QCOMPARE(picked, (Signals{{QVariant::fromValue(tile)}}));
     QCOMPARE(f.grid.mode(), Select);
