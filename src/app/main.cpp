@@ -15,6 +15,7 @@ int main(int argc, char **argv)
     QApplication::setOrganizationName(QStringLiteral("Corvandel"));
     QApplication::setApplicationVersion(appVersion());
     QApplication::setApplicationDisplayName(appDisplayName());
+    QApplication::setDesktopFileName(QStringLiteral("quenmora")); // by which Wayland desktops know the icon
 
     const QApplication application(argc, argv);
     MainWindow window;

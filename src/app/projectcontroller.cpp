@@ -1,6 +1,7 @@
 #include "app/projectcontroller.h"
 
 #include "app/menus/filemenu.h"
+#include "ui/replacing.h"
 #include "ui/titlewidth.h"
 
 #include <QFileDialog>
@@ -214,7 +215,9 @@ QString ProjectController::runSaveDialog()
         m_saveDialog->setAcceptMode(QFileDialog::AcceptSave);
         m_saveDialog->setDefaultSuffix(QStringLiteral("quenmora"));
     }
-    if (m_saveDialog->exec() != QDialog::Accepted)
-        return {};
-    return m_saveDialog->selectedFiles().value(0);
+    while (m_saveDialog->exec() == QDialog::Accepted) {
+        if (mayReplaceChosenFile(*m_saveDialog))
+            return m_saveDialog->selectedFiles().value(0);
+    }
+    return {};
 }

@@ -1,5 +1,7 @@
 #include "app/dialogs/filechooser.h"
 
+#include "ui/replacing.h"
+
 #include <QRegularExpression>
 
 namespace {
@@ -25,7 +27,9 @@ QString runFileDialog(const FileRequest &request, QWidget *parent)
         QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog,
                          [&dialog](const QString &filter) { dialog.setDefaultSuffix(suffixOf(filter)); });
     }
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().size() != 1)
-        return {};
-    return dialog.selectedFiles().constFirst();
+    while (dialog.exec() == QDialog::Accepted && dialog.selectedFiles().size() == 1) {
+        if (request.acceptMode == QFileDialog::AcceptOpen || mayReplaceChosenFile(dialog))
+            return dialog.selectedFiles().constFirst();
+    }
+    return {};
 }

@@ -6,6 +6,7 @@
 #include "editors/canvas/scrollcanvas.h"
 #include "editors/palette/colourpalette.h"
 #include "model/nximage.h"
+#include "ui/replacing.h"
 #include "ui/toolpalette.h"
 
 #include <QFileDialog>
@@ -222,7 +223,7 @@ void View::openExportFile()
 
 void View::exportImage(const QString &name)
 {
-    if (!canvas()->image().save(name))
+    if (mayReplaceChosenFile(*m_exportFile) && !canvas()->image().save(name))
         emit error(tr("There was a problem exporting data"));
 }
 
