@@ -13,6 +13,7 @@ class QComboBox;
 class ImageDialog : public CreationDialog
 {
     Q_OBJECT
+    Q_MOC_INCLUDE("model/project.h")
 
 public:
     explicit ImageDialog(QWidget *parent = nullptr);

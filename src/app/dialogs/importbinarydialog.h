@@ -14,6 +14,7 @@ namespace SpriteEditor {
 class ImportBinaryDialog : public CreationDialog
 {
     Q_OBJECT
+    Q_MOC_INCLUDE("model/project.h")
 
 public:
     explicit ImportBinaryDialog(QWidget *parent = nullptr);

@@ -13,6 +13,7 @@ class QSpinBox;
 class MapDialog : public CreationDialog
 {
     Q_OBJECT
+    Q_MOC_INCLUDE("model/project.h")
 
 public:
     static constexpr QSize LeastSize{40, 32};

@@ -11,6 +11,7 @@ class Project;
 class PaletteSelectorDialog : public DialogBase
 {
     Q_OBJECT
+    Q_MOC_INCLUDE("model/project.h")
 
 public:
     explicit PaletteSelectorDialog(QWidget *parent = nullptr);

@@ -12,6 +12,7 @@ class Project;
 class SpriteDialog : public CreationDialog
 {
     Q_OBJECT
+    Q_MOC_INCLUDE("model/project.h")
 
 public:
     enum CreateOption {

@@ -11,6 +11,7 @@ class Project;
 class TileAnimationDialog : public CreationDialog
 {
     Q_OBJECT
+    Q_MOC_INCLUDE("model/project.h")
 
 public:
     explicit TileAnimationDialog(QWidget *parent = nullptr);

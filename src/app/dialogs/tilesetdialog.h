@@ -13,6 +13,7 @@ class QComboBox;
 class TileSetDialog : public CreationDialog
 {
     Q_OBJECT
+    Q_MOC_INCLUDE("model/project.h")
 
 public:
     explicit TileSetDialog(QWidget *parent = nullptr);
