@@ -171,6 +171,7 @@ void ProjectController::close()
 {
     if (!m_project)
         return;
+    disconnect(m_project, &QObject::destroyed, nullptr, nullptr); // newer versions want this by name
     m_project->disconnect();
     emit projectClosing();
     m_store.close();

@@ -134,7 +134,7 @@ void TestMainWindow::keepsStateBetweenRuns()
     m_window->views().project->close();
     m_window->addDockWidget(Qt::LeftDockWidgetArea, m_window->views().palette);
     m_window->menus()->fileMenu()->setOpenFolder(m_folder());
-    m_window->resize(900, 700);
+    m_window->resize(780, 700);
     m_window->menus()->viewMenu()->setChecked(ViewMenu::CheckableItem::StatusBar, false);
     controller()->project()->setName("Changed");
     ProjectController::UnsavedAnswer answer = ProjectController::Cancel;
@@ -151,7 +151,7 @@ void TestMainWindow::keepsStateBetweenRuns()
     QCOMPARE(m_window->dockWidgetArea(m_window->views().palette), Qt::LeftDockWidgetArea);
     QCOMPARE(m_window->menus()->fileMenu()->openFolder(), m_folder());
     QCOMPARE(m_window->menus()->fileMenu()->recentFiles(), QStringList{file});
-    QCOMPARE(m_window->size(), QSize(900, 700));
+    QCOMPARE(m_window->size(), QSize(780, 700));
 }
 
 void TestMainWindow::saysHowToGoOnWithoutDocuments()
