@@ -8,8 +8,11 @@ picture=$2
 started=()
 work=$(mktemp -d)
 clean_up() {
-    ((${#started[@]} == 0)) || kill "${started[@]}" 2>/dev/null || true
-    wait
+    local process
+    for process in "${started[@]}"; do
+        kill "$process" 2>/dev/null || true
+        wait "$process" 2>/dev/null || true
+    done
     rm -rf "$work"
 }
 trap clean_up EXIT
@@ -27,7 +30,7 @@ unset WAYLAND_DISPLAY
 
 "$program" &
 editor=$!
-started+=("$editor")
+started=("$editor" "${started[@]}") # it ends before its display does
 for ((attempt = 0; attempt < 100; ++attempt)); do
     kill -0 "$editor" 2>/dev/null || {
         echo "$program ended before it showed a window" >&2
