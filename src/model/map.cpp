@@ -6,6 +6,8 @@
 #include "model/rawfile.h"
 #include "model/tileset.h"
 
+#include <QPainter>
+
 #include <algorithm>
 #include <limits>
 #include <utility>
