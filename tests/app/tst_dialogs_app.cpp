@@ -52,16 +52,198 @@ class TestDialogsApp : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void needsAName();
-    void needsSomethingToChoose();
-    void chosenAssetStaysChosen();
-    void exportRange();
-    void font();
-    void spritesOfAPicture();
-    void spritesOfAPictureProblems_data();
-    void spritesOfAPictureProblems();
-    void spritesOfData();
+    void init()
+    {
+        m_project = std::make_unique<Project>();
+        m_main = m_project->createPalette(CreateAction::DefaultNext, "Main")->id();
+        m_tiles = m_project->createTileSet("Tiles", m_main, 4)->id();
+    }
+
+    void needsAName()
+    {
+        TileSetDialog dialog;
+        QSignalSpy accepted(&dialog, &TileSetDialog::accepted);
+        dialog.show(*m_project);
+        QCOMPARE(confirm(dialog, "  "), "Please enter a name");
+        QCOMPARE(confirm(dialog, "Main"), "There is a palette of this name already; choose it, or another name");
+        field<AssetChooser>(dialog)->choose(m_main);
+        QCOMPARE(dialog.error(), QString());
+        QCOMPARE(confirm(dialog, " Forest "), QString());
+        QCOMPARE(accepted, QList<QVariantList>({{"Forest", m_main, 256, false}}));
+    }
+
+    void needsSomethingToChoose()
+    {
+        const Project empty;
+        MapDialog map;
+        for (int i = 0; i < 2; ++i) {
+            QCOMPARE(field<QSpinBox>(map, i)->minimum(), i == 0 ? 40 : 32);
+            QCOMPARE(field<QSpinBox>(map, i)->maximum(), 9999);
+        }
+        map.show(empty);
+        QCOMPARE(confirm(map, "Level"), "A map is made of the tiles of a tile set; please create a tile set first");
+        ImageDialog image;
+        image.show(empty);
+        QCOMPARE(confirm(image, "Title"), "An image needs a palette; please create a palette first");
+        PaletteSelectorDialog selector;
+        selector.show(empty, {});
+        QCOMPARE(confirm(selector), "There is no palette to choose; please create one first");
+
+        const QUuid used = m_project->createPalette(CreateAction::Blank, "Zebra")->id();
+        QSignalSpy accepted(&selector, &PaletteSelectorDialog::accepted);
+        selector.show(*m_project, used);
+        QCOMPARE(confirm(selector), QString());
+        QCOMPARE(accepted, QList<QVariantList>({{used}}));
+    }
+
+    void chosenAssetStaysChosen()
+    {
+        AssetChooser chooser;
+        chooser.offerPalettes(*m_project, "New");
+        QVERIFY(chooser.id().isNull());
+        chooser.choose(m_main);
+        m_project->createPalette(CreateAction::Blank, "Early"); // before it in the list
+        chooser.offerPalettes(*m_project, "New");
+        QCOMPARE(chooser.id(), m_main);
+        const Project other;
+        chooser.offerPalettes(other);
+        QVERIFY(chooser.id().isNull() && !chooser.isEnabled());
+    }
+
+    void exportRange()
+    {
+        TileEditor::ExportDialog dialog;
+        QSignalSpy accepted(&dialog, &TileEditor::ExportDialog::accepted);
+        dialog.show(256);
+        QCOMPARE(confirm(dialog), QString());
+        dialog.show(512); // as all tiles were wanted, all are
+        field<QCheckBox>(dialog)->setChecked(true);
+        QCOMPARE(confirm(dialog), QString());
+        QCOMPARE(accepted, QList<QVariantList>({{1, 256, false}, {1, 512, true}}));
+        dialog.show(512);
+        field<QSpinBox>(dialog, 0)->setValue(20);
+        field<QSpinBox>(dialog, 1)->setValue(19);
+        QCOMPARE(confirm(dialog), "The first tile comes after the last one");
+        field<QSpinBox>(dialog, 1)->setValue(20);
+        QCOMPARE(dialog.error(), QString());
+    }
+
+    void font()
+    {
+        const QString file = m_folder("font.ch8", QByteArray("\x81\0\0\0\0\0\0\x80", 8).repeated(6));
+        ImportZXFontDialog dialog;
+        dialog.setFileChooser([&](const FileRequest &, QWidget *) { return file; });
+        QSignalSpy accepted(&dialog, &ImportZXFontDialog::accepted);
+        dialog.show(*m_project->tileSet(m_tiles));
+        QCOMPARE(confirm(dialog), "Please choose a font file");
+        field<QLineEdit>(dialog)->setText(m_folder("short.bin", "1234567"));
+        QCOMPARE(dialog.error(), "There is no character in this file, or it cannot be read");
+        for (QPushButton *button : dialog.findChildren<QPushButton *>()) {
+            if (button->text().contains("rowse"))
+                button->click();
+        }
+        const auto *preview = field<PicturePreview>(dialog); // as the tiles will look
+        QCOMPARE(preview->picture().size(), QSize(4 * 8, 8)); // the tile set has 4 tiles
+        field<QSpinBox>(dialog, 0)->setValue(2);
+        field<QSpinBox>(dialog, 1)->setValue(15);
+        field<QComboBox>(dialog, 0)->setCurrentIndex(12);
+        field<QComboBox>(dialog, 1)->setCurrentIndex(3);
+        const QImage picture = preview->picture();
+        QCOMPARE(picture.size(), QSize(3 * 8, 8));
+        const QList<QRgb> colours = m_project->palette(m_main)->colourTable();
+        for (const QPoint fore : {QPoint(0, 0), QPoint(7, 0), QPoint(8, 7)})
+            QCOMPARE(picture.pixel(fore), colours[0xFC]);
+        QCOMPARE(picture.pixel(1, 0), colours[0xF3]);
+        QCOMPARE(confirm(dialog), QString());
+        QCOMPARE(accepted, QList<QVariantList>({{1, 12, 3, 15, file}}));
+        dialog.show(*m_project->createTileSet("Bare", QUuid::createUuid(), 1));
+        QCOMPARE(confirm(dialog), "The tile set has no palette to take colours from");
+    }
+
+    void spritesOfAPicture()
+    {
+        QImage picture(40, 20, QImage::Format_RGB32);
+        picture.fill(qRgb(250, 3, 3));
+        const QString file = m_folder("hero.png");
+        QVERIFY(picture.save(file));
+        SpriteEditor::ImportImageDialog dialog;
+        QSignalSpy accepted(&dialog, &SpriteEditor::ImportImageDialog::accepted);
+        // remapped: the palette's colours show, here the nearest of a palette that is all black
+        const QUuid black = m_project->createPalette(CreateAction::Blank, "Black")->id();
+        dialog.show(*m_project, file);
+        field<AssetChooser>(dialog)->choose(black);
+        QCOMPARE(field<PicturePreview>(dialog)->picture().pixel(0, 0), qRgb(0, 0, 0));
+        QCOMPARE(confirm(dialog), QString());
+        // cut, with the picture's own colours as the hardware shows them
+        dialog.show(*m_project, file);
+        field<QRadioButton>(dialog, 1)->setChecked(true);
+        QVERIFY(!field<AssetChooser>(dialog)->isEnabled());
+        QCOMPARE(field<PicturePreview>(dialog)->picture().pixel(0, 0), qRgb(255, 0, 0));
+        field<DepthChooser>(dialog)->setCurrentIndex(1);
+        QCOMPARE(confirm(dialog, "Villain"), QString());
+        QCOMPARE(accepted[0][0].value<SpriteImport>(), (SpriteImport{file, "hero", Quenmora::EightBit, black}));
+        QCOMPARE(accepted[1][0].value<SpriteImport>(), (SpriteImport{file, "Villain", Quenmora::FourBit, QUuid()}));
+    }
+
+    void spritesOfAPictureProblems_data()
+    {
+        QTest::addColumn<QSize>("size"); // of a picture of many colours
+        QTest::addColumn<bool>("slice");
+        QTest::addColumn<bool>("fourBit");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("problem");
+        const auto add = [](QSize size, bool slice, bool fourBit, const char *name, const char *problem) {
+            QTest::addRow("%s", problem) << size << slice << fourBit << name << QString::fromUtf8(problem);
+        };
+        add({}, false, false, "x", "The file is not a picture that can be read");
+        add({15, 32}, false, false, "x", "The picture is smaller than a sprite, which has 16 × 16 pixels");
+        add({16, 16}, true, false, "Main", "There is a palette of this name already; please choose another name");
+        add({16, 16}, false, false, "Main", ""); // no palette is made
+        add({32, 16}, true, true, "x", "The picture has 17 colours; 4-bit sprites show 16");
+        add({16, 16}, false, true, "x",
+            "The colours lie in several groups of 16 of the palette; 4-bit sprites show one group");
+        add({16, 16}, false, false, "", "Please enter a name");
+    }
+
+    void spritesOfAPictureProblems()
+    {
+        QFETCH(QSize, size);
+        QFETCH(bool, slice);
+        QFETCH(bool, fourBit);
+        QFETCH(QString, name);
+        const QString file = m_folder("problem.png", "no picture");
+        if (!size.isEmpty()) {
+            QImage picture(size, QImage::Format_RGB32);
+            for (int x = 0; x < size.width() * size.height(); ++x) // at most 17 snapped colours
+                picture.setPixel(x % size.width(), x / size.width(), qRgb(std::min(x % size.width() * 16, 255), 0, 0));
+            QVERIFY(picture.save(file));
+        }
+        SpriteEditor::ImportImageDialog dialog;
+        dialog.show(*m_project, file);
+        field<QRadioButton>(dialog, slice ? 1 : 0)->setChecked(true);
+        field<DepthChooser>(dialog)->setCurrentIndex(fourBit ? 1 : 0);
+        QTEST(confirm(dialog, name), "problem");
+    }
+
+    void spritesOfData()
+    {
+        const QString file = m_folder("hero.spr", QByteArray(600, '\1'));
+        SpriteEditor::ImportBinaryDialog dialog;
+        QSignalSpy accepted(&dialog, &SpriteEditor::ImportBinaryDialog::accepted);
+        dialog.show(*m_project, file);
+        QStringList labels;
+        for (const QLabel *label : dialog.findChildren<QLabel *>())
+            labels.append(label->text());
+        QVERIFY(labels.contains("2 in the file"));
+        field<AssetChooser>(dialog)->choose(m_main);
+        QCOMPARE(confirm(dialog), QString());
+        QCOMPARE(accepted[0][0].value<SpriteImport>(), (SpriteImport{file, "hero", Quenmora::EightBit, m_main}));
+        field<AssetChooser>(dialog)->choose({});
+        dialog.show(*m_project, m_folder("short.spr", QByteArray(255, '\1')));
+        QCOMPARE(confirm(dialog), "There is no sprite in this file, or it cannot be read");
+        dialog.show(*m_project, m_folder("Main.spr", QByteArray(256, '\1')));
+        QCOMPARE(confirm(dialog), "There is a palette of this name already; choose it, or another name");
+    }
 
 private:
     std::unique_ptr<Project> m_project;
@@ -69,199 +251,6 @@ private:
     QUuid m_tiles;
     TemporaryFolder m_folder;
 };
-
-void TestDialogsApp::init()
-{
-    m_project = std::make_unique<Project>();
-    m_main = m_project->createPalette(CreateAction::DefaultNext, "Main")->id();
-    m_tiles = m_project->createTileSet("Tiles", m_main, 4)->id();
-}
-
-void TestDialogsApp::needsAName()
-{
-    TileSetDialog dialog;
-    QSignalSpy accepted(&dialog, &TileSetDialog::accepted);
-    dialog.show(*m_project);
-    QCOMPARE(confirm(dialog, "  "), "Please enter a name");
-    QCOMPARE(confirm(dialog, "Main"), "There is a palette of this name already; choose it, or another name");
-    field<AssetChooser>(dialog)->choose(m_main);
-    QCOMPARE(dialog.error(), QString());
-    QCOMPARE(confirm(dialog, " Forest "), QString());
-    QCOMPARE(accepted, QList<QVariantList>({{"Forest", m_main, 256, false}}));
-}
-
-void TestDialogsApp::needsSomethingToChoose()
-{
-    const Project empty;
-    MapDialog map;
-    for (int i = 0; i < 2; ++i) {
-        QCOMPARE(field<QSpinBox>(map, i)->minimum(), i == 0 ? 40 : 32);
-        QCOMPARE(field<QSpinBox>(map, i)->maximum(), 9999);
-    }
-    map.show(empty);
-    QCOMPARE(confirm(map, "Level"), "A map is made of the tiles of a tile set; please create a tile set first");
-    ImageDialog image;
-    image.show(empty);
-    QCOMPARE(confirm(image, "Title"), "An image needs a palette; please create a palette first");
-    PaletteSelectorDialog selector;
-    selector.show(empty, {});
-    QCOMPARE(confirm(selector), "There is no palette to choose; please create one first");
-
-    const QUuid used = m_project->createPalette(CreateAction::Blank, "Zebra")->id();
-    QSignalSpy accepted(&selector, &PaletteSelectorDialog::accepted);
-    selector.show(*m_project, used);
-    QCOMPARE(confirm(selector), QString());
-    QCOMPARE(accepted, QList<QVariantList>({{used}}));
-}
-
-void TestDialogsApp::chosenAssetStaysChosen()
-{
-    AssetChooser chooser;
-    chooser.offerPalettes(*m_project, "New");
-    QVERIFY(chooser.id().isNull());
-    chooser.choose(m_main);
-    m_project->createPalette(CreateAction::Blank, "Early"); // before it in the list
-    chooser.offerPalettes(*m_project, "New");
-    QCOMPARE(chooser.id(), m_main);
-    const Project other;
-    chooser.offerPalettes(other);
-    QVERIFY(chooser.id().isNull() && !chooser.isEnabled());
-}
-
-void TestDialogsApp::exportRange()
-{
-    TileEditor::ExportDialog dialog;
-    QSignalSpy accepted(&dialog, &TileEditor::ExportDialog::accepted);
-    dialog.show(256);
-    QCOMPARE(confirm(dialog), QString());
-    dialog.show(512); // as all tiles were wanted, all are
-    field<QCheckBox>(dialog)->setChecked(true);
-    QCOMPARE(confirm(dialog), QString());
-    QCOMPARE(accepted, QList<QVariantList>({{1, 256, false}, {1, 512, true}}));
-    dialog.show(512);
-    field<QSpinBox>(dialog, 0)->setValue(20);
-    field<QSpinBox>(dialog, 1)->setValue(19);
-    QCOMPARE(confirm(dialog), "The first tile comes after the last one");
-    field<QSpinBox>(dialog, 1)->setValue(20);
-    QCOMPARE(dialog.error(), QString());
-}
-
-void TestDialogsApp::font()
-{
-    const QString file = m_folder("font.ch8", QByteArray("\x81\0\0\0\0\0\0\x80", 8).repeated(6));
-    ImportZXFontDialog dialog;
-    dialog.setFileChooser([&](const FileRequest &, QWidget *) { return file; });
-    QSignalSpy accepted(&dialog, &ImportZXFontDialog::accepted);
-    dialog.show(*m_project->tileSet(m_tiles));
-    QCOMPARE(confirm(dialog), "Please choose a font file");
-    field<QLineEdit>(dialog)->setText(m_folder("short.bin", "1234567"));
-    QCOMPARE(dialog.error(), "There is no character in this file, or it cannot be read");
-    for (QPushButton *button : dialog.findChildren<QPushButton *>()) {
-        if (button->text().contains("rowse"))
-            button->click();
-    }
-    const auto *preview = field<PicturePreview>(dialog); // as the tiles will look
-    QCOMPARE(preview->picture().size(), QSize(4 * 8, 8)); // the tile set has 4 tiles
-    field<QSpinBox>(dialog, 0)->setValue(2);
-    field<QSpinBox>(dialog, 1)->setValue(15);
-    field<QComboBox>(dialog, 0)->setCurrentIndex(12);
-    field<QComboBox>(dialog, 1)->setCurrentIndex(3);
-    const QImage picture = preview->picture();
-    QCOMPARE(picture.size(), QSize(3 * 8, 8));
-    const QList<QRgb> colours = m_project->palette(m_main)->colourTable();
-    for (const QPoint fore : {QPoint(0, 0), QPoint(7, 0), QPoint(8, 7)})
-        QCOMPARE(picture.pixel(fore), colours[0xFC]);
-    QCOMPARE(picture.pixel(1, 0), colours[0xF3]);
-    QCOMPARE(confirm(dialog), QString());
-    QCOMPARE(accepted, QList<QVariantList>({{1, 12, 3, 15, file}}));
-    dialog.show(*m_project->createTileSet("Bare", QUuid::createUuid(), 1));
-    QCOMPARE(confirm(dialog), "The tile set has no palette to take colours from");
-}
-
-void TestDialogsApp::spritesOfAPicture()
-{
-    QImage picture(40, 20, QImage::Format_RGB32);
-    picture.fill(qRgb(250, 3, 3));
-    const QString file = m_folder("hero.png");
-    QVERIFY(picture.save(file));
-    SpriteEditor::ImportImageDialog dialog;
-    QSignalSpy accepted(&dialog, &SpriteEditor::ImportImageDialog::accepted);
-    // remapped: the palette's colours show, here the nearest of a palette that is all black
-    const QUuid black = m_project->createPalette(CreateAction::Blank, "Black")->id();
-    dialog.show(*m_project, file);
-    field<AssetChooser>(dialog)->choose(black);
-    QCOMPARE(field<PicturePreview>(dialog)->picture().pixel(0, 0), qRgb(0, 0, 0));
-    QCOMPARE(confirm(dialog), QString());
-    // cut, with the picture's own colours as the hardware shows them
-    dialog.show(*m_project, file);
-    field<QRadioButton>(dialog, 1)->setChecked(true);
-    QVERIFY(!field<AssetChooser>(dialog)->isEnabled());
-    QCOMPARE(field<PicturePreview>(dialog)->picture().pixel(0, 0), qRgb(255, 0, 0));
-    field<DepthChooser>(dialog)->setCurrentIndex(1);
-    QCOMPARE(confirm(dialog, "Villain"), QString());
-    QCOMPARE(accepted[0][0].value<SpriteImport>(), (SpriteImport{file, "hero", Quenmora::EightBit, black}));
-    QCOMPARE(accepted[1][0].value<SpriteImport>(), (SpriteImport{file, "Villain", Quenmora::FourBit, QUuid()}));
-}
-
-void TestDialogsApp::spritesOfAPictureProblems_data()
-{
-    QTest::addColumn<QSize>("size"); // of a picture of many colours
-    QTest::addColumn<bool>("slice");
-    QTest::addColumn<bool>("fourBit");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("problem");
-    const auto add = [](QSize size, bool slice, bool fourBit, const char *name, const char *problem) {
-        QTest::addRow("%s", problem) << size << slice << fourBit << name << QString::fromUtf8(problem);
-    };
-    add({}, false, false, "x", "The file is not a picture that can be read");
-    add({15, 32}, false, false, "x", "The picture is smaller than a sprite, which has 16 × 16 pixels");
-    add({16, 16}, true, false, "Main", "There is a palette of this name already; please choose another name");
-    add({16, 16}, false, false, "Main", ""); // no palette is made
-    add({32, 16}, true, true, "x", "The picture has 17 colours; 4-bit sprites show 16");
-    add({16, 16}, false, true, "x",
-        "The colours lie in several groups of 16 of the palette; 4-bit sprites show one group");
-    add({16, 16}, false, false, "", "Please enter a name");
-}
-
-void TestDialogsApp::spritesOfAPictureProblems()
-{
-    QFETCH(QSize, size);
-    QFETCH(bool, slice);
-    QFETCH(bool, fourBit);
-    QFETCH(QString, name);
-    const QString file = m_folder("problem.png", "no picture");
-    if (!size.isEmpty()) {
-        QImage picture(size, QImage::Format_RGB32);
-        for (int x = 0; x < size.width() * size.height(); ++x) // at most 17 snapped colours
-            picture.setPixel(x % size.width(), x / size.width(), qRgb(std::min(x % size.width() * 16, 255), 0, 0));
-        QVERIFY(picture.save(file));
-    }
-    SpriteEditor::ImportImageDialog dialog;
-    dialog.show(*m_project, file);
-    field<QRadioButton>(dialog, slice ? 1 : 0)->setChecked(true);
-    field<DepthChooser>(dialog)->setCurrentIndex(fourBit ? 1 : 0);
-    QTEST(confirm(dialog, name), "problem");
-}
-
-void TestDialogsApp::spritesOfData()
-{
-    const QString file = m_folder("hero.spr", QByteArray(600, '\1'));
-    SpriteEditor::ImportBinaryDialog dialog;
-    QSignalSpy accepted(&dialog, &SpriteEditor::ImportBinaryDialog::accepted);
-    dialog.show(*m_project, file);
-    QStringList labels;
-    for (const QLabel *label : dialog.findChildren<QLabel *>())
-        labels.append(label->text());
-    QVERIFY(labels.contains("2 in the file"));
-    field<AssetChooser>(dialog)->choose(m_main);
-    QCOMPARE(confirm(dialog), QString());
-    QCOMPARE(accepted[0][0].value<SpriteImport>(), (SpriteImport{file, "hero", Quenmora::EightBit, m_main}));
-    field<AssetChooser>(dialog)->choose({});
-    dialog.show(*m_project, m_folder("short.spr", QByteArray(255, '\1')));
-    QCOMPARE(confirm(dialog), "There is no sprite in this file, or it cannot be read");
-    dialog.show(*m_project, m_folder("Main.spr", QByteArray(256, '\1')));
-    QCOMPARE(confirm(dialog), "There is a palette of this name already; choose it, or another name");
-}
 
 QUENMORA_TEST_MAIN(TestDialogsApp)
 #include "tst_dialogs_app.moc"

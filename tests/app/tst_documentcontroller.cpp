@@ -58,19 +58,279 @@ class TestDocumentController : public QObject
 
 private slots:
     void initTestCase() { Update::UpdateChecker::setFeedAddress({}); }
-    void init();
+    void init()
+    {
+        m_window.emplace();
+        m_window->projectController()->setUnsavedAnswerCallback(
+            [](const QString &) { return ProjectController::Discard; });
+        m_window->projectController()->newProject("Game");
+        m_assets.emplace(*project());
+    }
+
     void cleanup() { m_window.reset(); }
 
-    void opensOneTabADocument();
-    void tellsDocksAndMenusWhatIsActive();
-    void docksAndToolBarServeTheMapInFront();
-    void selectionBecomesAMap();
-    void editsTheTileOrSpriteOfADoubleClickedCell();
-    void keepsUndoHistoryAsLongAsTheAsset();
-    void clearsWhatShowedADeletedAsset();
-    void givesUndoAndClipboardToTheEditorInUse();
-    void keepsTheScratchImageAndItsPalette();
-    void storesOpenTabsInOrder();
+    void opensOneTabADocument()
+    {
+        for (int time = 0; time < 2; ++time) {
+            documents()->setActiveMap(m_assets->map->id());
+            QCOMPARE(tabText(), "Level");
+            documents()->setActiveBlockEditor(m_assets->blocks->id());
+            QCOMPARE(tabText(), "Doors");
+            documents()->setActiveSpriteEditor(m_assets->bank->id());
+            QCOMPARE(tabText(), "Hero");
+            documents()->setActiveImageEditor(m_assets->image->id());
+            QCOMPARE(tabText(), "Title && Co");
+        }
+        const QList<std::pair<QUuid, int>> expected{{QUuid(), 1},
+                                                    {m_assets->image->id(), 2}, // opened when it was created
+                                                    {m_assets->map->id(), 0},
+                                                    {m_assets->blocks->id(), 4},
+                                                    {m_assets->bank->id(), 3}};
+        QCOMPARE(tabs()->count(), expected.size());
+        for (int tab = 0; tab < tabs()->count(); ++tab) {
+            QCOMPARE(tabs()->widget(tab)->property("document_id"), QVariant(expected[tab].first));
+            QCOMPARE(tabs()->widget(tab)->property("document_type"), QVariant(expected[tab].second));
+        }
+        views().project->tree()->itemOf(m_assets->bank->id())->setText(0, "Heroine");
+        QCOMPARE(tabs()->tabText(4), "Heroine");
+    }
+
+    void tellsDocksAndMenusWhatIsActive()
+    {
+        const MenuBar *menus = m_window->menus();
+        QCOMPARE(views().palette->palette(), m_assets->imagePalette);
+        QVERIFY(!views().mapToolBar->isEnabled());
+
+        documents()->setActiveMap(m_assets->map->id());
+        QCOMPARE(views().tileEditor->tileSet(), m_assets->tiles);
+        QCOMPARE(views().tilePicker->grid()->tileSet(), m_assets->tiles);
+        QVERIFY(views().mapToolBar->isEnabled());
+        QCOMPARE(menus->mapMenu()->map(), m_assets->map);
+        QCOMPARE(menus->tileMenu()->tileSet(), m_assets->tiles);
+        QCOMPARE(views().palette->palette(), m_assets->tilePalette);
+        QCOMPARE(menus->paletteMenu()->palette(), m_assets->tilePalette);
+
+        documents()->setActiveSpriteEditor(m_assets->bank->id());
+        QCOMPARE(views().spriteEditor->sprites(), m_assets->bank);
+        QCOMPARE(menus->spriteMenu()->spriteBank(), m_assets->bank);
+        QCOMPARE(views().palette->palette(), m_assets->spritePalette);
+        QVERIFY(!views().mapToolBar->isEnabled());
+        QVERIFY(views().palette->visibleRegion().isEmpty()); // the sprite editor is in front of it
+
+        tabs()->setCurrentIndex(tabs()->indexOfDocument(m_assets->map->id())); // as by a click
+        QCOMPARE(views().palette->palette(), m_assets->tilePalette);
+        QVERIFY(views().mapToolBar->isEnabled());
+        tabs()->setCurrentIndex(tabs()->indexOfDocument({}));
+        QVERIFY(!menus->spriteMenu()->spriteBank());
+        QCOMPARE(views().palette->palette(), project()->scratchPalette());
+    }
+
+    void docksAndToolBarServeTheMapInFront()
+    {
+        const QPointer<TileAnimation> torch = m_assets->blocks->createBoundTileAnimation("Torch");
+        torch->addFrame()->setIndex(0, 0, 4);
+        MapEditor::MapGrid *level = open(m_assets->map);
+        MapEditor::MapGrid *second = open(m_assets->second);
+        emit views().tilePicker->grid()->selectedIndexChanged(7);
+        QCOMPARE(second->currentTileIndex(), 7);
+        QCOMPARE(level->currentTileIndex(), 0);
+        tabs()->setCurrentIndex(tabs()->indexOfDocument(m_assets->map->id()));
+        QCOMPARE(views().tilePicker->grid()->selectedIndex(), 0);
+        m_assets->map->setTile({3, 3}, {.index = 9, .used = true});
+        drag(level, {3, 3}, {3, 3}, Qt::MiddleButton);
+        QCOMPARE(views().tilePicker->grid()->selectedIndex(), 9);
+        open(m_assets->second);
+        QCOMPARE(views().tilePicker->grid()->selectedIndex(), 7);
+
+        emit views().mapObjects->animationSelected(torch);
+        QCOMPARE(second->mode(), Quenmora::Ui::PlaceAnim);
+        auto *sprites = views().mapSprites->findChild<QListView *>("sprites");
+        sprites->setCurrentIndex(sprites->model()->index(1, 0));
+        drag(second, {6, 6}, {6, 6});
+        QCOMPARE(m_assets->second->sprites().size(), 1);
+        QCOMPARE(m_assets->second->sprites().at(0).sprite, 1);
+        QVERIFY(m_assets->map->sprites().isEmpty());
+
+        const MapEditor::ToolBar *bar = views().mapToolBar;
+        bar->actions().at(0)->trigger();
+        QVERIFY(m_assets->map->tileLayer()->isVisible() && !m_assets->second->tileLayer()->isVisible());
+        open(m_assets->map);
+        QCOMPARE(bar->sizeText(), "40x32 (2560 bytes)");
+        QVERIFY(bar->actions().at(0)->isChecked());
+        project()->deleteMap(m_assets->map->id());
+        project()->deleteMap(m_assets->second->id());
+        QVERIFY(!bar->isEnabled() && bar->sizeText().isEmpty());
+        bar->actions().at(1)->trigger(); // for nobody
+    }
+
+    void selectionBecomesAMap()
+    {
+        m_assets->map->setTile({2, 1}, {.index = 5, .mirror = true, .used = true});
+        MapEditor::MapGrid *grid = open(m_assets->map);
+        grid->setMode(Quenmora::Ui::Select);
+        drag(grid, {2, 1}, {4, 3});
+        for (QAction *action : grid->findChild<QMenu *>()->actions()) {
+            if (action->text() == "Copy to new map")
+                action->trigger();
+        }
+        const QPointer<Map> made = project()->maps().last();
+        QCOMPARE(tabs()->indexOfDocument(made->id()), tabs()->currentIndex());
+        QVERIFY(made->size() == QSize(3, 3) && made->tileSet() == m_assets->tiles);
+        QCOMPARE(made->tileLayer()->cellAt({0, 0}), m_assets->map->tileLayer()->cellAt({2, 1}));
+        QCOMPARE(made->tileLayer()->cellAt({1, 1}), TileMap::TileData());
+        QCOMPARE(documents()->undoStackFor(m_assets->map->id())->count(), 0);
+    }
+
+    void editsTheTileOrSpriteOfADoubleClickedCell()
+    {
+        documents()->setActiveBlockEditor(m_assets->blocks->id());
+        auto *blocks = qobject_cast<BlockEditor::View *>(tabs()->currentWidget());
+        documents()->setActiveTileSet(m_assets->others->id());
+        emit blocks->tileDoubleClicked(9); // counted from 1
+        QCOMPARE(views().tileEditor->tileSet(), m_assets->tiles);
+        QCOMPARE(views().tileEditor->tileIndex(), 8);
+        emit views().tilePicker->tileDoubleClicked(5);
+        QCOMPARE(views().tileEditor->tileIndex(), 4);
+
+        documents()->setActiveSpriteEditor(m_assets->bank->id());
+        auto *sprites = qobject_cast<SpriteEditor::View *>(tabs()->currentWidget());
+        views().spriteEditor->setSprites(nullptr);
+        emit sprites->spriteDoubleClicked(1);
+        QCOMPARE(views().spriteEditor->sprites(), m_assets->bank);
+        QCOMPARE(views().spriteEditor->spriteIndex(), 1);
+    }
+
+    void keepsUndoHistoryAsLongAsTheAsset()
+    {
+        const QUuid id = m_assets->map->id();
+        documents()->setActiveMap(id);
+        const QPointer<QUndoStack> stack = documents()->undoStackFor(id);
+        stack->push(new QUndoCommand("Edit"));
+        QVERIFY(!documents()->isClean() && m_window->projectController()->isModified());
+        tabs()->closeTab(tabs()->currentIndex());
+        documents()->setActiveMap(id);
+        QCOMPARE(documents()->undoStackFor(id), stack);
+        QCOMPARE(stack->count(), 1);
+        documents()->setClean();
+        QVERIFY(documents()->isClean());
+
+        m_window->projectActions()->deleteItem(ProjectTree::MapNode, id);
+        QVERIFY(stack.isNull());
+        const QPointer<QUndoStack> scratch = documents()->undoStackFor({});
+        m_window->projectController()->close();
+        QVERIFY(scratch.isNull());
+    }
+
+    void clearsWhatShowedADeletedAsset()
+    {
+        const MenuBar *menus = m_window->menus();
+        ProjectActions *actions = m_window->projectActions();
+        documents()->setActiveBlockEditor(m_assets->blocks->id());
+        documents()->setActiveMap(m_assets->map->id());
+        documents()->setActiveSpriteEditor(m_assets->bank->id());
+
+        actions->deleteItem(ProjectTree::TileSetNode, m_assets->tiles->id());
+        QVERIFY2(m_assets->tiles && views().tileEditor->isActive(), "a map uses it");
+        actions->deleteItem(ProjectTree::TileSetNode, m_assets->others->id()); // whichever is shown
+        QVERIFY(!views().tileEditor->isActive() && !views().tilePicker->isActive() && !views().mapObjects->isActive());
+        QVERIFY(!menus->tileMenu()->tileSet());
+        const QUuid spare = project()->createSpriteBank(Quenmora::FourBit, "Spare", {})->id();
+        actions->deleteItem(ProjectTree::SpriteBankNode, spare);
+        QVERIFY(!views().spriteEditor->isActive() && !menus->spriteMenu()->spriteBank());
+        const QUuid map = m_assets->map->id();
+        actions->deleteItem(ProjectTree::MapNode, map);
+        QVERIFY(!menus->mapMenu()->map());
+        const QUuid blocks = m_assets->blocks->id();
+        actions->deleteItem(ProjectTree::MapNode, m_assets->second->id());
+        actions->deleteItem(ProjectTree::MapObjectsNode, blocks);
+        actions->deleteItem(ProjectTree::SpriteBankNode, m_assets->bank->id());
+        actions->deleteItem(ProjectTree::ImageNode, m_assets->image->id());
+        documents()->setActiveMap(map); // which nobody knows any more
+        documents()->setActiveBlockEditor(blocks);
+        QCOMPARE(tabs()->count(), 1);
+        QCOMPARE(tabText(), "Scratch Image Editor");
+        documents()->setActivePalette(m_assets->spritePalette->id());
+        actions->deleteItem(ProjectTree::PaletteNode, m_assets->imagePalette->id());
+        QVERIFY(!views().palette->isActive() && !menus->paletteMenu()->palette());
+    }
+
+    void givesUndoAndClipboardToTheEditorInUse()
+    {
+        m_window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&*m_window));
+        const auto clipboardEnabled = [this] { return m_window->menus()->editMenu()->actions().last()->isEnabled(); };
+        const auto active = [this] { return documents()->undoGroup()->activeStack(); };
+        QUndoStack *tileSteps = documents()->undoStackFor(m_assets->tiles->id());
+        QCOMPARE(active(), documents()->undoStackFor(m_assets->image->id()));
+        QVERIFY(clipboardEnabled());
+        documents()->setActiveTileSet(m_assets->tiles->id());
+        views().tileEditor->canvas()->setFocus();
+        QCOMPARE(active(), tileSteps);
+        views().project->tree()->setFocus();
+        QCOMPARE(active(), tileSteps); // the tree edits nothing
+
+        documents()->setActivePalette(m_assets->imagePalette->id());
+        views().palette->findChild<PaletteGrid *>()->setFocus();
+        m_assets->imagePalette->setColour(3, Qt::red, false);
+        QCOMPARE(tileSteps->undoText(), "Colour"); // colours are undone in the document in front
+        documents()->undoGroup()->undo();
+        QCOMPARE(m_assets->imagePalette->rawColour(3), quint16(0x0301));
+
+        documents()->setActiveSpriteEditor(m_assets->bank->id());
+        QVERIFY(!clipboardEnabled()); // the tab of its animations
+        QCOMPARE(active(), documents()->undoStackFor(m_assets->bank->id()));
+        views().spriteEditor->canvas()->setFocus();
+        QVERIFY(clipboardEnabled());
+        tabs()->setCurrentIndex(0);
+        QCOMPARE(active(), documents()->undoStackFor({}));
+        m_window->projectController()->close();
+        QVERIFY(!active() && !clipboardEnabled());
+    }
+
+    void keepsTheScratchImageAndItsPalette()
+    {
+        QImage picture = project()->scratchImage();
+        picture.scanLine(4)[3] = 5;
+        ImageEditor::View *scratch = tabs()->scratchEditor();
+        scratch->canvas()->setImage(picture);
+        QCOMPARE(project()->scratchImage().pixelIndex(3, 4), 5);
+        tabs()->closeTab(tabs()->indexOf(scratch));
+        tabs()->setScratchEditorVisible(true);
+        QCOMPARE(tabs()->currentWidget(), scratch);
+        QCOMPARE(scratch->pixels().pixelIndex(3, 4), 5);
+
+        QCOMPARE(project()->scratchPalette(), m_assets->tilePalette); // the first of a project without one
+        emit views().palette->paletteChosen(m_assets->imagePalette->id());
+        QCOMPARE(project()->scratchPalette(), m_assets->imagePalette);
+        documents()->setActiveMap(m_assets->map->id());
+        emit views().palette->paletteChosen(m_assets->spritePalette->id());
+        QCOMPARE(project()->scratchPalette(), m_assets->imagePalette);
+        QCOMPARE(views().palette->palette(), m_assets->spritePalette);
+    }
+
+    void storesOpenTabsInOrder()
+    {
+        tabs()->closeAllTabs();
+        documents()->setActiveMap(m_assets->second->id());
+        documents()->setActiveBlockEditor(m_assets->blocks->id());
+        documents()->setActiveMap(m_assets->map->id());
+        auto *level = qobject_cast<MapEditor::View *>(tabs()->currentWidget());
+        level->toolPaletteClicked(Quenmora::Ui::AnimPlay, true);
+        bool plays = true; // while it is saved
+        const ProjectController *controller = m_window->projectController();
+        connect(controller, &ProjectController::aboutToSave, this, [&] { plays = level->animator()->isRunning(); });
+        const QTemporaryDir folder;
+        const QString file = folder.filePath("game.quenmora");
+        m_window->projectController()->setFileNameCallback([file] { return file; });
+        m_window->projectController()->save();
+        QVERIFY(!plays && level->animator()->isRunning());
+        m_window->projectController()->openProject(file);
+        QStringList texts;
+        for (int tab = 0; tab < tabs()->count(); ++tab)
+            texts.append(tabs()->tabText(tab));
+        QCOMPARE(texts, (QStringList{"Scratch Image Editor", "Second", "Doors", "Level"}));
+        QVERIFY(!m_window->projectController()->isModified());
+    }
 
 private:
     [[nodiscard]] DocumentController *documents() { return m_window->documentController(); }
@@ -79,305 +339,31 @@ private:
     [[nodiscard]] Project *project() { return m_window->projectController()->project(); }
     [[nodiscard]] QString tabText() { return tabs()->tabText(tabs()->currentIndex()); }
     /// Brings a map's tab to the front, and returns its grid.
-    MapEditor::MapGrid *open(const QPointer<Map> &map);
+    MapEditor::MapGrid *open(const QPointer<Map> &map)
+    {
+        documents()->setActiveMap(map->id());
+        return qobject_cast<MapEditor::View *>(tabs()->currentWidget())->grid();
+    }
+
     /// Drags from one cell of a map to another.
-    static void drag(MapEditor::MapGrid *grid, QPoint from, QPoint to, Qt::MouseButton button = Qt::LeftButton);
+    static void drag(MapEditor::MapGrid *grid, QPoint from, QPoint to, Qt::MouseButton button = Qt::LeftButton)
+    {
+        const auto centre = [grid](QPoint cell) { return grid->viewport().rectOfCells({cell, QSize(1, 1)}).center(); };
+        QTest::mouseMove(grid, centre(from));
+        QTest::mousePress(grid, button, Qt::NoModifier, centre(from));
+        QTest::mouseMove(grid, centre(to));
+        QTest::mouseRelease(grid, button, Qt::NoModifier, centre(to));
+    }
 
     std::optional<MainWindow> m_window;
     std::optional<Assets> m_assets;
 };
 
-void TestDocumentController::init()
-{
-    m_window.emplace();
-    m_window->projectController()->setUnsavedAnswerCallback([](const QString &) { return ProjectController::Discard; });
-    m_window->projectController()->newProject("Game");
-    m_assets.emplace(*project());
-}
-
-MapEditor::MapGrid *TestDocumentController::open(const QPointer<Map> &map)
-{
-    documents()->setActiveMap(map->id());
-    return qobject_cast<MapEditor::View *>(tabs()->currentWidget())->grid();
-}
-
-void TestDocumentController::drag(MapEditor::MapGrid *grid, QPoint from, QPoint to, Qt::MouseButton button)
-{
-    const auto centre = [grid](QPoint cell) { return grid->viewport().rectOfCells({cell, QSize(1, 1)}).center(); };
-    QTest::mouseMove(grid, centre(from));
-    QTest::mousePress(grid, button, Qt::NoModifier, centre(from));
-    QTest::mouseMove(grid, centre(to));
-    QTest::mouseRelease(grid, button, Qt::NoModifier, centre(to));
-}
-
 // Tabs
-
-void TestDocumentController::opensOneTabADocument()
-{
-    for (int time = 0; time < 2; ++time) {
-        documents()->setActiveMap(m_assets->map->id());
-        QCOMPARE(tabText(), "Level");
-        documents()->setActiveBlockEditor(m_assets->blocks->id());
-        QCOMPARE(tabText(), "Doors");
-        documents()->setActiveSpriteEditor(m_assets->bank->id());
-        QCOMPARE(tabText(), "Hero");
-        documents()->setActiveImageEditor(m_assets->image->id());
-        QCOMPARE(tabText(), "Title && Co");
-    }
-    const QList<std::pair<QUuid, int>> expected{{QUuid(), 1},
-                                                {m_assets->image->id(), 2}, // opened when it was created
-                                                {m_assets->map->id(), 0},
-                                                {m_assets->blocks->id(), 4},
-                                                {m_assets->bank->id(), 3}};
-    QCOMPARE(tabs()->count(), expected.size());
-    for (int tab = 0; tab < tabs()->count(); ++tab) {
-        QCOMPARE(tabs()->widget(tab)->property("document_id"), QVariant(expected[tab].first));
-        QCOMPARE(tabs()->widget(tab)->property("document_type"), QVariant(expected[tab].second));
-    }
-    views().project->tree()->itemOf(m_assets->bank->id())->setText(0, "Heroine");
-    QCOMPARE(tabs()->tabText(4), "Heroine");
-}
-
-void TestDocumentController::storesOpenTabsInOrder()
-{
-    tabs()->closeAllTabs();
-    documents()->setActiveMap(m_assets->second->id());
-    documents()->setActiveBlockEditor(m_assets->blocks->id());
-    documents()->setActiveMap(m_assets->map->id());
-    auto *level = qobject_cast<MapEditor::View *>(tabs()->currentWidget());
-    level->toolPaletteClicked(Quenmora::Ui::AnimPlay, true);
-    bool plays = true; // while it is saved
-    const ProjectController *controller = m_window->projectController();
-    connect(controller, &ProjectController::aboutToSave, this, [&] { plays = level->animator()->isRunning(); });
-    const QTemporaryDir folder;
-    const QString file = folder.filePath("game.quenmora");
-    m_window->projectController()->setFileNameCallback([file] { return file; });
-    m_window->projectController()->save();
-    QVERIFY(!plays && level->animator()->isRunning());
-    m_window->projectController()->openProject(file);
-    QStringList texts;
-    for (int tab = 0; tab < tabs()->count(); ++tab)
-        texts.append(tabs()->tabText(tab));
-    QCOMPARE(texts, (QStringList{"Scratch Image Editor", "Second", "Doors", "Level"}));
-    QVERIFY(!m_window->projectController()->isModified());
-}
 
 // Docks and menus
 
-void TestDocumentController::tellsDocksAndMenusWhatIsActive()
-{
-    const MenuBar *menus = m_window->menus();
-    QCOMPARE(views().palette->palette(), m_assets->imagePalette);
-    QVERIFY(!views().mapToolBar->isEnabled());
-
-    documents()->setActiveMap(m_assets->map->id());
-    QCOMPARE(views().tileEditor->tileSet(), m_assets->tiles);
-    QCOMPARE(views().tilePicker->grid()->tileSet(), m_assets->tiles);
-    QVERIFY(views().mapToolBar->isEnabled());
-    QCOMPARE(menus->mapMenu()->map(), m_assets->map);
-    QCOMPARE(menus->tileMenu()->tileSet(), m_assets->tiles);
-    QCOMPARE(views().palette->palette(), m_assets->tilePalette);
-    QCOMPARE(menus->paletteMenu()->palette(), m_assets->tilePalette);
-
-    documents()->setActiveSpriteEditor(m_assets->bank->id());
-    QCOMPARE(views().spriteEditor->sprites(), m_assets->bank);
-    QCOMPARE(menus->spriteMenu()->spriteBank(), m_assets->bank);
-    QCOMPARE(views().palette->palette(), m_assets->spritePalette);
-    QVERIFY(!views().mapToolBar->isEnabled());
-    QVERIFY(views().palette->visibleRegion().isEmpty()); // the sprite editor is in front of it
-
-    tabs()->setCurrentIndex(tabs()->indexOfDocument(m_assets->map->id())); // as by a click
-    QCOMPARE(views().palette->palette(), m_assets->tilePalette);
-    QVERIFY(views().mapToolBar->isEnabled());
-    tabs()->setCurrentIndex(tabs()->indexOfDocument({}));
-    QVERIFY(!menus->spriteMenu()->spriteBank());
-    QCOMPARE(views().palette->palette(), project()->scratchPalette());
-}
-
-void TestDocumentController::docksAndToolBarServeTheMapInFront()
-{
-    const QPointer<TileAnimation> torch = m_assets->blocks->createBoundTileAnimation("Torch");
-    torch->addFrame()->setIndex(0, 0, 4);
-    MapEditor::MapGrid *level = open(m_assets->map);
-    MapEditor::MapGrid *second = open(m_assets->second);
-    emit views().tilePicker->grid()->selectedIndexChanged(7);
-    QCOMPARE(second->currentTileIndex(), 7);
-    QCOMPARE(level->currentTileIndex(), 0);
-    tabs()->setCurrentIndex(tabs()->indexOfDocument(m_assets->map->id()));
-    QCOMPARE(views().tilePicker->grid()->selectedIndex(), 0);
-    m_assets->map->setTile({3, 3}, {.index = 9, .used = true});
-    drag(level, {3, 3}, {3, 3}, Qt::MiddleButton);
-    QCOMPARE(views().tilePicker->grid()->selectedIndex(), 9);
-    open(m_assets->second);
-    QCOMPARE(views().tilePicker->grid()->selectedIndex(), 7);
-
-    emit views().mapObjects->animationSelected(torch);
-    QCOMPARE(second->mode(), Quenmora::Ui::PlaceAnim);
-    auto *sprites = views().mapSprites->findChild<QListView *>("sprites");
-    sprites->setCurrentIndex(sprites->model()->index(1, 0));
-    drag(second, {6, 6}, {6, 6});
-    QCOMPARE(m_assets->second->sprites().size(), 1);
-    QCOMPARE(m_assets->second->sprites().at(0).sprite, 1);
-    QVERIFY(m_assets->map->sprites().isEmpty());
-
-    const MapEditor::ToolBar *bar = views().mapToolBar;
-    bar->actions().at(0)->trigger();
-    QVERIFY(m_assets->map->tileLayer()->isVisible() && !m_assets->second->tileLayer()->isVisible());
-    open(m_assets->map);
-    QCOMPARE(bar->sizeText(), "40x32 (2560 bytes)");
-    QVERIFY(bar->actions().at(0)->isChecked());
-    project()->deleteMap(m_assets->map->id());
-    project()->deleteMap(m_assets->second->id());
-    QVERIFY(!bar->isEnabled() && bar->sizeText().isEmpty());
-    bar->actions().at(1)->trigger(); // for nobody
-}
-
-void TestDocumentController::selectionBecomesAMap()
-{
-    m_assets->map->setTile({2, 1}, {.index = 5, .mirror = true, .used = true});
-    MapEditor::MapGrid *grid = open(m_assets->map);
-    grid->setMode(Quenmora::Ui::Select);
-    drag(grid, {2, 1}, {4, 3});
-    for (QAction *action : grid->findChild<QMenu *>()->actions()) {
-        if (action->text() == "Copy to new map")
-            action->trigger();
-    }
-    const QPointer<Map> made = project()->maps().last();
-    QCOMPARE(tabs()->indexOfDocument(made->id()), tabs()->currentIndex());
-    QVERIFY(made->size() == QSize(3, 3) && made->tileSet() == m_assets->tiles);
-    QCOMPARE(made->tileLayer()->cellAt({0, 0}), m_assets->map->tileLayer()->cellAt({2, 1}));
-    QCOMPARE(made->tileLayer()->cellAt({1, 1}), TileMap::TileData());
-    QCOMPARE(documents()->undoStackFor(m_assets->map->id())->count(), 0);
-}
-
-void TestDocumentController::editsTheTileOrSpriteOfADoubleClickedCell()
-{
-    documents()->setActiveBlockEditor(m_assets->blocks->id());
-    auto *blocks = qobject_cast<BlockEditor::View *>(tabs()->currentWidget());
-    documents()->setActiveTileSet(m_assets->others->id());
-    emit blocks->tileDoubleClicked(9); // counted from 1
-    QCOMPARE(views().tileEditor->tileSet(), m_assets->tiles);
-    QCOMPARE(views().tileEditor->tileIndex(), 8);
-    emit views().tilePicker->tileDoubleClicked(5);
-    QCOMPARE(views().tileEditor->tileIndex(), 4);
-
-    documents()->setActiveSpriteEditor(m_assets->bank->id());
-    auto *sprites = qobject_cast<SpriteEditor::View *>(tabs()->currentWidget());
-    views().spriteEditor->setSprites(nullptr);
-    emit sprites->spriteDoubleClicked(1);
-    QCOMPARE(views().spriteEditor->sprites(), m_assets->bank);
-    QCOMPARE(views().spriteEditor->spriteIndex(), 1);
-}
-
-void TestDocumentController::clearsWhatShowedADeletedAsset()
-{
-    const MenuBar *menus = m_window->menus();
-    ProjectActions *actions = m_window->projectActions();
-    documents()->setActiveBlockEditor(m_assets->blocks->id());
-    documents()->setActiveMap(m_assets->map->id());
-    documents()->setActiveSpriteEditor(m_assets->bank->id());
-
-    actions->deleteItem(ProjectTree::TileSetNode, m_assets->tiles->id());
-    QVERIFY2(m_assets->tiles && views().tileEditor->isActive(), "a map uses it");
-    actions->deleteItem(ProjectTree::TileSetNode, m_assets->others->id()); // whichever is shown
-    QVERIFY(!views().tileEditor->isActive() && !views().tilePicker->isActive() && !views().mapObjects->isActive());
-    QVERIFY(!menus->tileMenu()->tileSet());
-    const QUuid spare = project()->createSpriteBank(Quenmora::FourBit, "Spare", {})->id();
-    actions->deleteItem(ProjectTree::SpriteBankNode, spare);
-    QVERIFY(!views().spriteEditor->isActive() && !menus->spriteMenu()->spriteBank());
-    const QUuid map = m_assets->map->id();
-    actions->deleteItem(ProjectTree::MapNode, map);
-    QVERIFY(!menus->mapMenu()->map());
-    const QUuid blocks = m_assets->blocks->id();
-    actions->deleteItem(ProjectTree::MapNode, m_assets->second->id());
-    actions->deleteItem(ProjectTree::MapObjectsNode, blocks);
-    actions->deleteItem(ProjectTree::SpriteBankNode, m_assets->bank->id());
-    actions->deleteItem(ProjectTree::ImageNode, m_assets->image->id());
-    documents()->setActiveMap(map); // which nobody knows any more
-    documents()->setActiveBlockEditor(blocks);
-    QCOMPARE(tabs()->count(), 1);
-    QCOMPARE(tabText(), "Scratch Image Editor");
-    documents()->setActivePalette(m_assets->spritePalette->id());
-    actions->deleteItem(ProjectTree::PaletteNode, m_assets->imagePalette->id());
-    QVERIFY(!views().palette->isActive() && !menus->paletteMenu()->palette());
-}
-
 // Undo and the scratch image
-
-void TestDocumentController::keepsUndoHistoryAsLongAsTheAsset()
-{
-    const QUuid id = m_assets->map->id();
-    documents()->setActiveMap(id);
-    const QPointer<QUndoStack> stack = documents()->undoStackFor(id);
-    stack->push(new QUndoCommand("Edit"));
-    QVERIFY(!documents()->isClean() && m_window->projectController()->isModified());
-    tabs()->closeTab(tabs()->currentIndex());
-    documents()->setActiveMap(id);
-    QCOMPARE(documents()->undoStackFor(id), stack);
-    QCOMPARE(stack->count(), 1);
-    documents()->setClean();
-    QVERIFY(documents()->isClean());
-
-    m_window->projectActions()->deleteItem(ProjectTree::MapNode, id);
-    QVERIFY(stack.isNull());
-    const QPointer<QUndoStack> scratch = documents()->undoStackFor({});
-    m_window->projectController()->close();
-    QVERIFY(scratch.isNull());
-}
-
-void TestDocumentController::givesUndoAndClipboardToTheEditorInUse()
-{
-    m_window->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&*m_window));
-    const auto clipboardEnabled = [this] { return m_window->menus()->editMenu()->actions().last()->isEnabled(); };
-    const auto active = [this] { return documents()->undoGroup()->activeStack(); };
-    QUndoStack *tileSteps = documents()->undoStackFor(m_assets->tiles->id());
-    QCOMPARE(active(), documents()->undoStackFor(m_assets->image->id()));
-    QVERIFY(clipboardEnabled());
-    documents()->setActiveTileSet(m_assets->tiles->id());
-    views().tileEditor->canvas()->setFocus();
-    QCOMPARE(active(), tileSteps);
-    views().project->tree()->setFocus();
-    QCOMPARE(active(), tileSteps); // the tree edits nothing
-
-    documents()->setActivePalette(m_assets->imagePalette->id());
-    views().palette->findChild<PaletteGrid *>()->setFocus();
-    m_assets->imagePalette->setColour(3, Qt::red, false);
-    QCOMPARE(tileSteps->undoText(), "Colour"); // colours are undone in the document in front
-    documents()->undoGroup()->undo();
-    QCOMPARE(m_assets->imagePalette->rawColour(3), quint16(0x0301));
-
-    documents()->setActiveSpriteEditor(m_assets->bank->id());
-    QVERIFY(!clipboardEnabled()); // the tab of its animations
-    QCOMPARE(active(), documents()->undoStackFor(m_assets->bank->id()));
-    views().spriteEditor->canvas()->setFocus();
-    QVERIFY(clipboardEnabled());
-    tabs()->setCurrentIndex(0);
-    QCOMPARE(active(), documents()->undoStackFor({}));
-    m_window->projectController()->close();
-    QVERIFY(!active() && !clipboardEnabled());
-}
-
-void TestDocumentController::keepsTheScratchImageAndItsPalette()
-{
-    QImage picture = project()->scratchImage();
-    picture.scanLine(4)[3] = 5;
-    ImageEditor::View *scratch = tabs()->scratchEditor();
-    scratch->canvas()->setImage(picture);
-    QCOMPARE(project()->scratchImage().pixelIndex(3, 4), 5);
-    tabs()->closeTab(tabs()->indexOf(scratch));
-    tabs()->setScratchEditorVisible(true);
-    QCOMPARE(tabs()->currentWidget(), scratch);
-    QCOMPARE(scratch->pixels().pixelIndex(3, 4), 5);
-
-    QCOMPARE(project()->scratchPalette(), m_assets->tilePalette); // the first of a project without one
-    emit views().palette->paletteChosen(m_assets->imagePalette->id());
-    QCOMPARE(project()->scratchPalette(), m_assets->imagePalette);
-    documents()->setActiveMap(m_assets->map->id());
-    emit views().palette->paletteChosen(m_assets->spritePalette->id());
-    QCOMPARE(project()->scratchPalette(), m_assets->imagePalette);
-    QCOMPARE(views().palette->palette(), m_assets->spritePalette);
-}
 
 QUENMORA_TEST_MAIN(TestDocumentController)
 #include "tst_documentcontroller.moc"

@@ -62,9 +62,76 @@ class TestEndToEnd : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void makesALevelOfAPicture();
-    void exportsTheLevel();
+    void initTestCase()
+    {
+        Update::UpdateChecker::setFeedAddress({});
+        m_window.emplace();
+        m_window->projectController()->setFileNameCallback([this] { return m_folder("game.quenmora"); });
+        m_window->menus()->setFileChooser([this](const FileRequest &request, QWidget *) {
+            const QString name = request.title.contains("Import") ? "level.png" : request.title + request.defaultSuffix;
+            return m_folder(name);
+        });
+    }
+
+    void makesALevelOfAPicture()
+    {
+        emit m_window->menus()->fileMenu()->newProject("Game");
+        QVERIFY(levelPicture().save(m_folder("level.png")));
+        m_window->menus()->mapMenu()->showImportDialog();
+        QVERIFY(page() && page()->map()->size() == LevelSize);
+        page()->grid()->fitTo();
+        QCoreApplication::processEvents();
+
+        const QByteArray imported = content();
+        editMap();
+        const QByteArray edited = content();
+        QVERIFY(edited != imported);
+        QUndoGroup *undo = m_window->documentController()->undoGroup();
+        QCOMPARE(undo->activeStack()->count(), 4);
+        undo->activeStack()->setIndex(0);
+        QCOMPARE(content(), imported);
+        undo->activeStack()->setIndex(4);
+        QCOMPARE(content(), edited);
+
+        editTile();
+        const QByteArray finished = content();
+        emit m_window->menus()->fileMenu()->saveProject();
+        QVERIFY(!m_window->projectController()->isModified());
+        emit m_window->menus()->fileMenu()->closeProject();
+        emit m_window->menus()->fileMenu()->openProject(m_folder("game.quenmora"));
+        QCOMPARE(content(), finished);
+    }
+
+    void exportsTheLevel()
+    {
+        m_window->documentController()->setActiveMap(project().maps().first()->id());
+        m_window->menus()->mapMenu()->showExportDialog();
+        m_window->menus()->paletteMenu()->showExportDialog();
+        m_window->menus()->tileMenu()->exportAccepted(1, 3, false);
+
+        const QByteArray map = exported("Export Map Data.map");
+        QCOMPARE(map.size(), 2 * LevelSize.width() * LevelSize.height());
+        const QRect cut(4, 3, 3, 2);
+        for (int cell = 0; cell < LevelSize.width() * LevelSize.height(); ++cell) {
+            const QPoint at(cell % LevelSize.width(), cell / LevelSize.width());
+            Kind expected = kindAt(at);
+            if (QRect(1, 1, 6, 1).contains(at) || QRect(1, 6, 3, 2).contains(at)) // painted, filled
+                expected = Earth;
+            else if (cut.contains(at))
+                expected = Sky;
+            else if (cut.translated(7, 3).contains(at)) // pasted
+                expected = Gold;
+            QVERIFY2(map.at(2 * cell) == char(expected), qPrintable(QString::number(cell)));
+            // palette offset, ninth bit of the index; how it is turned is open
+            QCOMPARE(map.at(2 * cell + 1) & 0xF1, 0);
+        }
+        QByteArray earth(64, char(Earth));
+        earth[8 + 2] = char(Gold);
+        QCOMPARE(exported("Export Tiles.bin"), QByteArray(64, char(Sky)) + QByteArray(64, char(Gold)) + earth);
+        // RRRGGGBB and the low bit of blue: 0 3 7, 7 6 0, 0 5 1
+        QCOMPARE(exported("Export Palette.pal").left(6), QByteArray("\x0F\x01\xF8\x00\x14\x01", 6));
+    }
+
     void cleanupTestCase() { m_window.reset(); }
 
 private:
@@ -74,110 +141,38 @@ private:
     MapEditor::View *page() { return qobject_cast<MapEditor::View *>(m_window->views().tabs->currentWidget()); }
     QPoint centreOf(QPoint cell) { return page()->grid()->viewport().rectOfCells({cell, QSize(1, 1)}).center(); }
     void dragCells(QPoint from, QPoint to) { drag(page()->grid(), centreOf(from), centreOf(to)); }
-    void editMap();
-    void editTile();
+    /// Four steps: paint, fill, cut, paste.
+    void editMap()
+    {
+        using enum Quenmora::Ui::ToolButton;
+        TilePickerGrid *picker = m_window->views().tilePicker->grid();
+        QTest::mouseClick(picker, Qt::LeftButton, Qt::NoModifier, picker->cellRect(Earth).center());
+        dragCells({1, 1}, {6, 1});
+        page()->toolPalette()->toggleAction(Select);
+        dragCells({1, 6}, {3, 7});
+        QAction *fill = page()->grid()->findChild<QMenu *>()->actions().last();
+        QCOMPARE(fill->text(), "Fill");
+        fill->trigger();
+        page()->toolPalette()->toggleAction(Select);
+        dragCells({4, 3}, {6, 4}); // half of the gold
+        emit m_window->menus()->editMenu()->cut();
+        emit m_window->menus()->editMenu()->paste();
+        dragCells({12, 7}, {12, 7}); // in the middle of where it comes to lie
+    }
+
+    /// One pixel of the second row of the earth becomes gold.
+    void editTile()
+    {
+        TileWindow *editor = m_window->views().tileEditor;
+        editor->setTileIndex(Earth + 1);
+        editor->canvas()->setInk(Gold);
+        editor->canvas()->setMode(Quenmora::Ui::Draw);
+        EditorInput::Mouse{*editor->canvas()}.drag({{2, 1}});
+    }
 
     TemporaryFolder m_folder;
     std::optional<MainWindow> m_window;
 };
-
-void TestEndToEnd::initTestCase()
-{
-    Update::UpdateChecker::setFeedAddress({});
-    m_window.emplace();
-    m_window->projectController()->setFileNameCallback([this] { return m_folder("game.quenmora"); });
-    m_window->menus()->setFileChooser([this](const FileRequest &request, QWidget *) {
-        const QString name = request.title.contains("Import") ? "level.png" : request.title + request.defaultSuffix;
-        return m_folder(name);
-    });
-}
-
-void TestEndToEnd::makesALevelOfAPicture()
-{
-    emit m_window->menus()->fileMenu()->newProject("Game");
-    QVERIFY(levelPicture().save(m_folder("level.png")));
-    m_window->menus()->mapMenu()->showImportDialog();
-    QVERIFY(page() && page()->map()->size() == LevelSize);
-    page()->grid()->fitTo();
-    QCoreApplication::processEvents();
-
-    const QByteArray imported = content();
-    editMap();
-    const QByteArray edited = content();
-    QVERIFY(edited != imported);
-    QUndoGroup *undo = m_window->documentController()->undoGroup();
-    QCOMPARE(undo->activeStack()->count(), 4);
-    undo->activeStack()->setIndex(0);
-    QCOMPARE(content(), imported);
-    undo->activeStack()->setIndex(4);
-    QCOMPARE(content(), edited);
-
-    editTile();
-    const QByteArray finished = content();
-    emit m_window->menus()->fileMenu()->saveProject();
-    QVERIFY(!m_window->projectController()->isModified());
-    emit m_window->menus()->fileMenu()->closeProject();
-    emit m_window->menus()->fileMenu()->openProject(m_folder("game.quenmora"));
-    QCOMPARE(content(), finished);
-}
-
-/// Four steps: paint, fill, cut, paste.
-void TestEndToEnd::editMap()
-{
-    using enum Quenmora::Ui::ToolButton;
-    TilePickerGrid *picker = m_window->views().tilePicker->grid();
-    QTest::mouseClick(picker, Qt::LeftButton, Qt::NoModifier, picker->cellRect(Earth).center());
-    dragCells({1, 1}, {6, 1});
-    page()->toolPalette()->toggleAction(Select);
-    dragCells({1, 6}, {3, 7});
-    QAction *fill = page()->grid()->findChild<QMenu *>()->actions().last();
-    QCOMPARE(fill->text(), "Fill");
-    fill->trigger();
-    page()->toolPalette()->toggleAction(Select);
-    dragCells({4, 3}, {6, 4}); // half of the gold
-    emit m_window->menus()->editMenu()->cut();
-    emit m_window->menus()->editMenu()->paste();
-    dragCells({12, 7}, {12, 7}); // in the middle of where it comes to lie
-}
-
-/// One pixel of the second row of the earth becomes gold.
-void TestEndToEnd::editTile()
-{
-    TileWindow *editor = m_window->views().tileEditor;
-    editor->setTileIndex(Earth + 1);
-    editor->canvas()->setInk(Gold);
-    editor->canvas()->setMode(Quenmora::Ui::Draw);
-    EditorInput::Mouse{*editor->canvas()}.drag({{2, 1}});
-}
-
-void TestEndToEnd::exportsTheLevel()
-{
-    m_window->documentController()->setActiveMap(project().maps().first()->id());
-    m_window->menus()->mapMenu()->showExportDialog();
-    m_window->menus()->paletteMenu()->showExportDialog();
-    m_window->menus()->tileMenu()->exportAccepted(1, 3, false);
-
-    const QByteArray map = exported("Export Map Data.map");
-    QCOMPARE(map.size(), 2 * LevelSize.width() * LevelSize.height());
-    const QRect cut(4, 3, 3, 2);
-    for (int cell = 0; cell < LevelSize.width() * LevelSize.height(); ++cell) {
-        const QPoint at(cell % LevelSize.width(), cell / LevelSize.width());
-        Kind expected = kindAt(at);
-        if (QRect(1, 1, 6, 1).contains(at) || QRect(1, 6, 3, 2).contains(at)) // painted, filled
-            expected = Earth;
-        else if (cut.contains(at))
-            expected = Sky;
-        else if (cut.translated(7, 3).contains(at)) // pasted
-            expected = Gold;
-        QVERIFY2(map.at(2 * cell) == char(expected), qPrintable(QString::number(cell)));
-        QCOMPARE(map.at(2 * cell + 1) & 0xF1, 0); // palette offset, ninth bit of the index; how it is turned is open
-    }
-    QByteArray earth(64, char(Earth));
-    earth[8 + 2] = char(Gold);
-    QCOMPARE(exported("Export Tiles.bin"), QByteArray(64, char(Sky)) + QByteArray(64, char(Gold)) + earth);
-    // RRRGGGBB and the low bit of blue: 0 3 7, 7 6 0, 0 5 1
-    QCOMPARE(exported("Export Palette.pal").left(6), QByteArray("\x0F\x01\xF8\x00\x14\x01", 6));
-}
 
 QUENMORA_TEST_MAIN(TestEndToEnd)
 #include "tst_endtoend.moc"

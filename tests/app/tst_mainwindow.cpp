@@ -34,19 +34,240 @@ class TestMainWindow : public QObject
 
 private slots:
     void initTestCase() { Update::UpdateChecker::setFeedAddress({}); }
-    void init();
+    void init()
+    {
+        QFile::remove(statePath("state.json"));
+        QFile::remove(statePath("preferences.json"));
+        m_window.emplace();
+    }
+
     void cleanup() { m_window.reset(); }
 
-    void placesTheDocks();
-    void survivesDamagedState();
-    void keepsStateBetweenRuns();
-    void saysHowToGoOnWithoutDocuments();
-    void followsTheLifeOfAProject();
-    void tellsInStatusBarAndDialog();
-    void opensADroppedProject();
-    void doesWhatTheTilesMenuAsks();
-    void isReachedByTheKeyboard();
-    void namesItsIconButtons();
+    void placesTheDocks()
+    {
+        struct Place
+        {
+            QDockWidget *dock;
+            const char *name; // by which the stored layout knows it
+            Qt::DockWidgetArea area;
+        };
+        const DocumentViews &views = m_window->views();
+        const Place places[]{{views.project, "ProjectWindow", Qt::LeftDockWidgetArea},
+                             {views.palette, "paletteWindow", Qt::RightDockWidgetArea},
+                             {views.tileEditor, "TileEditor", Qt::RightDockWidgetArea},
+                             {views.spriteEditor, "SpriteEditor", Qt::RightDockWidgetArea},
+                             {views.tilePicker, "TilePickerTool", Qt::BottomDockWidgetArea},
+                             {views.mapObjects, "TileListWindow", Qt::LeftDockWidgetArea},
+                             {views.mapSprites, "MapSpritesWindow", Qt::LeftDockWidgetArea}};
+        for (int time = 0; time < 2; ++time) {
+            for (const auto &[dock, name, area] : places) {
+                QCOMPARE(dock->objectName(), name);
+                QCOMPARE(m_window->dockWidgetArea(dock), area);
+                QVERIFY(!dock->isFloating() && !dock->isHidden());
+            }
+            QCOMPARE(m_window->tabifiedDockWidgets(views.palette).size(), 2);
+            QCOMPARE(m_window->tabifiedDockWidgets(views.mapObjects), QList<QDockWidget *>{views.mapSprites});
+            views.project->setFloating(true);
+            views.tilePicker->close();
+            m_window->addDockWidget(Qt::LeftDockWidgetArea, views.palette);
+            emit m_window->menus()->viewMenu()->resetLayout();
+        }
+    }
+
+    void survivesDamagedState()
+    {
+        const QByteArray states[]{
+            "{\"windowState\": ", // not JSON, foreign types, foreign bytes
+            R"({"windowState": 1, "windowGeometry": [], "tileZoom": "x", "recent": {}, "lastPath": null})",
+            R"({"windowState": "AAAA/wAAAAD9", "windowGeometry": "AAAAAAAAAAA=", "tileZoom": -5, "recent": [1, null]})"};
+        for (const QByteArray &state : states) {
+            m_window.reset();
+            QVERIFY(writeFile(statePath("state.json"), state));
+            QVERIFY(writeFile(statePath("preferences.json"), "[1, "));
+            m_window.emplace();
+            QCOMPARE(m_window->size(), QSize(1024, 768));
+            QCOMPARE(m_window->dockWidgetArea(m_window->views().palette), Qt::RightDockWidgetArea);
+            QVERIFY(m_window->close());
+        }
+    }
+
+    void keepsStateBetweenRuns()
+    {
+        const QString file = sampleFile();
+        controller()->openProject(file);
+        m_window->views().tilePicker->setMagnification(3);
+        m_window->views().project->close();
+        m_window->addDockWidget(Qt::LeftDockWidgetArea, m_window->views().palette);
+        m_window->menus()->fileMenu()->setOpenFolder(m_folder());
+        m_window->resize(780, 700);
+        m_window->menus()->viewMenu()->setChecked(ViewMenu::CheckableItem::StatusBar, false);
+        controller()->project()->setName("Changed");
+        ProjectController::UnsavedAnswer answer = ProjectController::Cancel;
+        controller()->setUnsavedAnswerCallback([&answer](const QString &) { return answer; });
+        QVERIFY(!m_window->close());
+        QVERIFY(m_window->isVisible() && m_window->views().tabs->count() == 1);
+        QVERIFY(!QFile::exists(statePath("state.json")));
+        answer = ProjectController::Discard;
+        QVERIFY(m_window->close());
+        QVERIFY(QFile::exists(statePath("preferences.json")));
+        m_window.emplace();
+        QCOMPARE(m_window->views().tilePicker->magnification(), 3);
+        QVERIFY(m_window->views().project->isHidden());
+        QCOMPARE(m_window->dockWidgetArea(m_window->views().palette), Qt::LeftDockWidgetArea);
+        QCOMPARE(m_window->menus()->fileMenu()->openFolder(), m_folder());
+        QCOMPARE(m_window->menus()->fileMenu()->recentFiles(), QStringList{file});
+        QCOMPARE(m_window->size(), QSize(780, 700));
+    }
+
+    void saysHowToGoOnWithoutDocuments()
+    {
+        const QString file = sampleFile();
+        m_window->menus()->fileMenu()->addRecentFile(file);
+        const auto *page = m_window->findChild<StartPage *>();
+        const auto button = [page](const QString &text) {
+            const QList<QToolButton *> buttons = page->findChildren<QToolButton *>();
+            const auto found =
+                std::find_if(buttons.begin(), buttons.end(), [&text](auto *b) { return b->text() == text; });
+            return found == buttons.end() ? nullptr : *found;
+        };
+        QVERIFY(page->isVisible());
+        QCOMPARE(page->size(), m_window->centralWidget()->size());
+        QVERIFY(button("New project")->isVisible());
+
+        button(QFileInfo(file).fileName())->click();
+        QVERIFY(controller()->project());
+        QVERIFY(!page->isVisible());
+        m_window->views().tabs->closeAllTabs();
+        QVERIFY(page->isVisible());
+        QVERIFY(!button("New project")->isVisible());
+        controller()->close();
+        QVERIFY(button("New project")->isVisible());
+    }
+
+    void followsTheLifeOfAProject()
+    {
+        const DocumentViews &views = m_window->views();
+        QVERIFY(m_window->isVisible());
+        QCOMPARE(m_window->size(), QSize(1024, 768));
+        verifyWithoutProject();
+        controller()->openProject(sampleFile());
+        QVERIFY(m_window->windowTitle().endsWith(" - Sample"));
+        QVERIFY(views.project->isActive());
+        QCOMPARE(views.tabs->currentWidget(), views.tabs->scratchEditor());
+        const ViewMenu *menu = m_window->menus()->viewMenu();
+        QVERIFY(menu->isChecked(ViewMenu::CheckableItem::ScratchEditor));
+        m_window->documentController()->setActiveMap(controller()->project()->maps().first()->id());
+        QVERIFY(views.tileEditor->isActive());
+        views.tabs->closeTab(0);
+        QVERIFY(!menu->isChecked(ViewMenu::CheckableItem::ScratchEditor));
+        controller()->close();
+        verifyWithoutProject();
+    }
+
+    void tellsInStatusBarAndDialog()
+    {
+        controller()->openProject(m_folder("gone.quenmora")); // as a recent file that is gone
+        QVERIFY(m_window->messageDialog()->isVisible());
+        QCOMPARE(m_window->messageDialog()->windowTitle(), "Warning!");
+        QCOMPARE(m_window->messageDialog()->text(), "Invalid project file");
+        m_window->messageDialog()->accept();
+        controller()->newProject("Game");
+        emit controller()->project()->error("Told by the project");
+        QCOMPARE(m_window->messageDialog()->text(), "Told by the project");
+
+        const auto shown = [this] { return m_window->statusBar()->currentMessage(); };
+        QCOMPARE(shown(), m_window->windowTitle());
+        controller()->project()->createPalette(CreateAction::Blank, "Main");
+        QCOMPARE(shown(), "New palette added: Main");
+        m_window->statusBar()->clearMessage();
+        QCOMPARE(shown(), m_window->windowTitle());
+        const QString file = m_folder("game.quenmora");
+        controller()->setFileNameCallback([file] { return file; });
+        controller()->save();
+        QCOMPARE(shown(), "Saved Game to " + file);
+        m_window->statusBar()->clearMessage();
+        QCOMPARE(shown(), "Game [" + file + "]");
+    }
+
+    void opensADroppedProject()
+    {
+        const QUrl file = QUrl::fromLocalFile(sampleFile());
+        QVERIFY(!drop({QUrl::fromLocalFile(m_folder("picture.png"))}));
+        QVERIFY(!drop({QUrl("https://example.com/sample.quenmora")}));
+        QVERIFY(!drop({file, file}));
+        controller()->newProject("Game");
+        controller()->project()->createPalette(CreateAction::Blank, "Main");
+        for (const auto answer : {ProjectController::Cancel, ProjectController::Discard}) {
+            controller()->setUnsavedAnswerCallback([answer](const QString &) { return answer; });
+            QVERIFY(drop({file}));
+            QCOMPARE(controller()->project()->name(), answer == ProjectController::Cancel ? "Game" : "Sample");
+        }
+    }
+
+    void doesWhatTheTilesMenuAsks()
+    {
+        m_window->nextTile(); // without a tile set
+        controller()->newProject("Game");
+        Project *project = controller()->project();
+        const QPointer<TileSet> tiles = project->createTileSet("Tiles", {}, 3);
+        const QPointer<SpriteBank> bank = project->createSpriteBank(Quenmora::FourBit, "Hero", {});
+        const QPointer<Palette> palette = project->createPalette(CreateAction::DefaultNext, "New");
+        m_window->documentController()->setActiveTileSet(tiles->id());
+        m_window->documentController()->setActiveSpriteEditor(bank->id());
+        const DocumentViews &views = m_window->views();
+        QList<int> visited;
+        for (const auto step : {&MainWindow::nextTile, &MainWindow::previousTile}) {
+            for (int time = 0; time < 3; ++time) {
+                ((*m_window).*step)();
+                visited.append(views.tileEditor->tileIndex());
+                QCOMPARE(views.tilePicker->grid()->selectedIndex(), visited.last());
+            }
+        }
+        QCOMPARE(visited, (QList<int>{1, 2, 2, 1, 0, 0}));
+
+        QSignalSpy changed(tiles, &TileSet::tileChanged);
+        m_window->changeTilePalette(QUuid::createUuid());
+        QVERIFY(tiles->palette() != palette && changed.isEmpty());
+        m_window->changeTilePalette(palette->id());
+        m_window->changeSpritePalette(palette->id());
+        QCOMPARE(tiles->palette(), palette);
+        QCOMPARE(changed.size(), 1); // which repaints what shows tiles
+        QCOMPARE(bank->palette(), palette);
+    }
+
+    void isReachedByTheKeyboard()
+    {
+        m_window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&*m_window));
+        const DocumentViews &views = m_window->views();
+        controller()->openProject(sampleFile());
+        m_window->documentController()->setActiveMap(controller()->project()->maps().first()->id());
+        views.tabs->currentWidget()->setFocus();
+        // in the order of the View menu, without the docks that are behind others
+        for (const QWidget *pane : std::initializer_list<QWidget *>{views.project, views.tileEditor, views.tilePicker,
+                                                                    views.mapObjects, views.tabs, views.project}) {
+            QTest::keyClick(&*m_window, Qt::Key_F6);
+            QVERIFY2(pane->isAncestorOf(QApplication::focusWidget()), qPrintable(pane->objectName()));
+        }
+        QTest::keyClick(&*m_window, Qt::Key_F6, Qt::ShiftModifier);
+        QVERIFY(views.tabs->isAncestorOf(QApplication::focusWidget()));
+    }
+
+    void namesItsIconButtons()
+    {
+        controller()->openProject(sampleFile());
+        const Project *project = controller()->project();
+        m_window->documentController()->setActiveBlockEditor(project->blockSets().first()->id());
+        m_window->documentController()->setActiveSpriteEditor(project->spriteBanks().first()->id());
+        m_window->documentController()->setActiveMap(project->maps().first()->id());
+        const auto buttons = m_window->findChildren<QAbstractButton *>();
+        QVERIFY(buttons.size() > 100);
+        for (const QAbstractButton *button : buttons) {
+            const bool ofQt = qobject_cast<QTabBar *>(button->parentWidget()) || button->objectName().startsWith("qt_");
+            const QString where = button->parentWidget()->metaObject()->className();
+            QVERIFY2(ofQt || !button->text().isEmpty() || !button->accessibleName().isEmpty(), qPrintable(where));
+        }
+    }
 
 private:
     [[nodiscard]] ProjectController *controller() { return m_window->projectController(); }
@@ -55,277 +276,41 @@ private:
         return QDir::home().filePath(".config/quenmora/" + QLatin1String(file));
     }
     /// The path of a project file made of the sample project.
-    [[nodiscard]] QString sampleFile();
-    void verifyWithoutProject();
-    bool drop(const QList<QUrl> &urls);
+    [[nodiscard]] QString sampleFile()
+    {
+        const QString file = m_folder("sample.quenmora");
+        ProjectStore store;
+        SampleProject::fill(*store.newProject({}));
+        return store.saveAs(file) ? file : QString();
+    }
+
+    void verifyWithoutProject()
+    {
+        const DocumentViews &views = m_window->views();
+        QCOMPARE(m_window->windowTitle(), QCoreApplication::applicationName());
+        QCOMPARE(m_window->statusBar()->currentMessage(), m_window->windowTitle());
+        QVERIFY(views.tabs->count() == 0 && views.tabs->isEnabled());
+        QVERIFY(!views.mapToolBar->isEnabled());
+        QVERIFY(!m_window->menus()->viewMenu()->isChecked(ViewMenu::CheckableItem::ScratchEditor));
+        for (const DockWidget *dock : m_window->findChildren<DockWidget *>())
+            QVERIFY2(!dock->isActive(), qPrintable(dock->objectName()));
+    }
+
+    bool drop(const QList<QUrl> &urls)
+    {
+        QMimeData data;
+        data.setUrls(urls);
+        QDragEnterEvent enter({50, 50}, Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(&*m_window, &enter);
+        QDropEvent event({50, 50}, Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(&*m_window, &event);
+        QCoreApplication::processEvents();
+        return enter.isAccepted() && event.isAccepted();
+    }
 
     TemporaryFolder m_folder;
     std::optional<MainWindow> m_window;
 };
-
-void TestMainWindow::init()
-{
-    QFile::remove(statePath("state.json"));
-    QFile::remove(statePath("preferences.json"));
-    m_window.emplace();
-}
-
-QString TestMainWindow::sampleFile()
-{
-    const QString file = m_folder("sample.quenmora");
-    ProjectStore store;
-    SampleProject::fill(*store.newProject({}));
-    return store.saveAs(file) ? file : QString();
-}
-
-void TestMainWindow::placesTheDocks()
-{
-    struct Place
-    {
-        QDockWidget *dock;
-        const char *name; // by which the stored layout knows it
-        Qt::DockWidgetArea area;
-    };
-    const DocumentViews &views = m_window->views();
-    const Place places[]{{views.project, "ProjectWindow", Qt::LeftDockWidgetArea},
-                         {views.palette, "paletteWindow", Qt::RightDockWidgetArea},
-                         {views.tileEditor, "TileEditor", Qt::RightDockWidgetArea},
-                         {views.spriteEditor, "SpriteEditor", Qt::RightDockWidgetArea},
-                         {views.tilePicker, "TilePickerTool", Qt::BottomDockWidgetArea},
-                         {views.mapObjects, "TileListWindow", Qt::LeftDockWidgetArea},
-                         {views.mapSprites, "MapSpritesWindow", Qt::LeftDockWidgetArea}};
-    for (int time = 0; time < 2; ++time) {
-        for (const auto &[dock, name, area] : places) {
-            QCOMPARE(dock->objectName(), name);
-            QCOMPARE(m_window->dockWidgetArea(dock), area);
-            QVERIFY(!dock->isFloating() && !dock->isHidden());
-        }
-        QCOMPARE(m_window->tabifiedDockWidgets(views.palette).size(), 2);
-        QCOMPARE(m_window->tabifiedDockWidgets(views.mapObjects), QList<QDockWidget *>{views.mapSprites});
-        views.project->setFloating(true);
-        views.tilePicker->close();
-        m_window->addDockWidget(Qt::LeftDockWidgetArea, views.palette);
-        emit m_window->menus()->viewMenu()->resetLayout();
-    }
-}
-
-void TestMainWindow::survivesDamagedState()
-{
-    const QByteArray states[]{
-        "{\"windowState\": ", // not JSON, foreign types, foreign bytes
-        R"({"windowState": 1, "windowGeometry": [], "tileZoom": "x", "recent": {}, "lastPath": null})",
-        R"({"windowState": "AAAA/wAAAAD9", "windowGeometry": "AAAAAAAAAAA=", "tileZoom": -5, "recent": [1, null]})"};
-    for (const QByteArray &state : states) {
-        m_window.reset();
-        QVERIFY(writeFile(statePath("state.json"), state));
-        QVERIFY(writeFile(statePath("preferences.json"), "[1, "));
-        m_window.emplace();
-        QCOMPARE(m_window->size(), QSize(1024, 768));
-        QCOMPARE(m_window->dockWidgetArea(m_window->views().palette), Qt::RightDockWidgetArea);
-        QVERIFY(m_window->close());
-    }
-}
-
-void TestMainWindow::keepsStateBetweenRuns()
-{
-    const QString file = sampleFile();
-    controller()->openProject(file);
-    m_window->views().tilePicker->setMagnification(3);
-    m_window->views().project->close();
-    m_window->addDockWidget(Qt::LeftDockWidgetArea, m_window->views().palette);
-    m_window->menus()->fileMenu()->setOpenFolder(m_folder());
-    m_window->resize(780, 700);
-    m_window->menus()->viewMenu()->setChecked(ViewMenu::CheckableItem::StatusBar, false);
-    controller()->project()->setName("Changed");
-    ProjectController::UnsavedAnswer answer = ProjectController::Cancel;
-    controller()->setUnsavedAnswerCallback([&answer](const QString &) { return answer; });
-    QVERIFY(!m_window->close());
-    QVERIFY(m_window->isVisible() && m_window->views().tabs->count() == 1);
-    QVERIFY(!QFile::exists(statePath("state.json")));
-    answer = ProjectController::Discard;
-    QVERIFY(m_window->close());
-    QVERIFY(QFile::exists(statePath("preferences.json")));
-    m_window.emplace();
-    QCOMPARE(m_window->views().tilePicker->magnification(), 3);
-    QVERIFY(m_window->views().project->isHidden());
-    QCOMPARE(m_window->dockWidgetArea(m_window->views().palette), Qt::LeftDockWidgetArea);
-    QCOMPARE(m_window->menus()->fileMenu()->openFolder(), m_folder());
-    QCOMPARE(m_window->menus()->fileMenu()->recentFiles(), QStringList{file});
-    QCOMPARE(m_window->size(), QSize(780, 700));
-}
-
-void TestMainWindow::saysHowToGoOnWithoutDocuments()
-{
-    const QString file = sampleFile();
-    m_window->menus()->fileMenu()->addRecentFile(file);
-    const auto *page = m_window->findChild<StartPage *>();
-    const auto button = [page](const QString &text) {
-        const QList<QToolButton *> buttons = page->findChildren<QToolButton *>();
-        const auto found = std::find_if(buttons.begin(), buttons.end(), [&text](auto *b) { return b->text() == text; });
-        return found == buttons.end() ? nullptr : *found;
-    };
-    QVERIFY(page->isVisible());
-    QCOMPARE(page->size(), m_window->centralWidget()->size());
-    QVERIFY(button("New project")->isVisible());
-
-    button(QFileInfo(file).fileName())->click();
-    QVERIFY(controller()->project());
-    QVERIFY(!page->isVisible());
-    m_window->views().tabs->closeAllTabs();
-    QVERIFY(page->isVisible());
-    QVERIFY(!button("New project")->isVisible());
-    controller()->close();
-    QVERIFY(button("New project")->isVisible());
-}
-
-void TestMainWindow::verifyWithoutProject()
-{
-    const DocumentViews &views = m_window->views();
-    QCOMPARE(m_window->windowTitle(), QCoreApplication::applicationName());
-    QCOMPARE(m_window->statusBar()->currentMessage(), m_window->windowTitle());
-    QVERIFY(views.tabs->count() == 0 && views.tabs->isEnabled());
-    QVERIFY(!views.mapToolBar->isEnabled());
-    QVERIFY(!m_window->menus()->viewMenu()->isChecked(ViewMenu::CheckableItem::ScratchEditor));
-    for (const DockWidget *dock : m_window->findChildren<DockWidget *>())
-        QVERIFY2(!dock->isActive(), qPrintable(dock->objectName()));
-}
-
-void TestMainWindow::followsTheLifeOfAProject()
-{
-    const DocumentViews &views = m_window->views();
-    QVERIFY(m_window->isVisible());
-    QCOMPARE(m_window->size(), QSize(1024, 768));
-    verifyWithoutProject();
-    controller()->openProject(sampleFile());
-    QVERIFY(m_window->windowTitle().endsWith(" - Sample"));
-    QVERIFY(views.project->isActive());
-    QCOMPARE(views.tabs->currentWidget(), views.tabs->scratchEditor());
-    const ViewMenu *menu = m_window->menus()->viewMenu();
-    QVERIFY(menu->isChecked(ViewMenu::CheckableItem::ScratchEditor));
-    m_window->documentController()->setActiveMap(controller()->project()->maps().first()->id());
-    QVERIFY(views.tileEditor->isActive());
-    views.tabs->closeTab(0);
-    QVERIFY(!menu->isChecked(ViewMenu::CheckableItem::ScratchEditor));
-    controller()->close();
-    verifyWithoutProject();
-}
-
-void TestMainWindow::tellsInStatusBarAndDialog()
-{
-    controller()->openProject(m_folder("gone.quenmora")); // as a recent file that is gone
-    QVERIFY(m_window->messageDialog()->isVisible());
-    QCOMPARE(m_window->messageDialog()->windowTitle(), "Warning!");
-    QCOMPARE(m_window->messageDialog()->text(), "Invalid project file");
-    m_window->messageDialog()->accept();
-    controller()->newProject("Game");
-    emit controller()->project()->error("Told by the project");
-    QCOMPARE(m_window->messageDialog()->text(), "Told by the project");
-
-    const auto shown = [this] { return m_window->statusBar()->currentMessage(); };
-    QCOMPARE(shown(), m_window->windowTitle());
-    controller()->project()->createPalette(CreateAction::Blank, "Main");
-    QCOMPARE(shown(), "New palette added: Main");
-    m_window->statusBar()->clearMessage();
-    QCOMPARE(shown(), m_window->windowTitle());
-    const QString file = m_folder("game.quenmora");
-    controller()->setFileNameCallback([file] { return file; });
-    controller()->save();
-    QCOMPARE(shown(), "Saved Game to " + file);
-    m_window->statusBar()->clearMessage();
-    QCOMPARE(shown(), "Game [" + file + "]");
-}
-
-bool TestMainWindow::drop(const QList<QUrl> &urls)
-{
-    QMimeData data;
-    data.setUrls(urls);
-    QDragEnterEvent enter({50, 50}, Qt::CopyAction, &data, Qt::LeftButton, {});
-    QApplication::sendEvent(&*m_window, &enter);
-    QDropEvent event({50, 50}, Qt::CopyAction, &data, Qt::LeftButton, {});
-    QApplication::sendEvent(&*m_window, &event);
-    QCoreApplication::processEvents();
-    return enter.isAccepted() && event.isAccepted();
-}
-
-void TestMainWindow::opensADroppedProject()
-{
-    const QUrl file = QUrl::fromLocalFile(sampleFile());
-    QVERIFY(!drop({QUrl::fromLocalFile(m_folder("picture.png"))}));
-    QVERIFY(!drop({QUrl("https://example.com/sample.quenmora")}));
-    QVERIFY(!drop({file, file}));
-    controller()->newProject("Game");
-    controller()->project()->createPalette(CreateAction::Blank, "Main");
-    for (const auto answer : {ProjectController::Cancel, ProjectController::Discard}) {
-        controller()->setUnsavedAnswerCallback([answer](const QString &) { return answer; });
-        QVERIFY(drop({file}));
-        QCOMPARE(controller()->project()->name(), answer == ProjectController::Cancel ? "Game" : "Sample");
-    }
-}
-
-void TestMainWindow::doesWhatTheTilesMenuAsks()
-{
-    m_window->nextTile(); // without a tile set
-    controller()->newProject("Game");
-    Project *project = controller()->project();
-    const QPointer<TileSet> tiles = project->createTileSet("Tiles", {}, 3);
-    const QPointer<SpriteBank> bank = project->createSpriteBank(Quenmora::FourBit, "Hero", {});
-    const QPointer<Palette> palette = project->createPalette(CreateAction::DefaultNext, "New");
-    m_window->documentController()->setActiveTileSet(tiles->id());
-    m_window->documentController()->setActiveSpriteEditor(bank->id());
-    const DocumentViews &views = m_window->views();
-    QList<int> visited;
-    for (const auto step : {&MainWindow::nextTile, &MainWindow::previousTile}) {
-        for (int time = 0; time < 3; ++time) {
-            ((*m_window).*step)();
-            visited.append(views.tileEditor->tileIndex());
-            QCOMPARE(views.tilePicker->grid()->selectedIndex(), visited.last());
-        }
-    }
-    QCOMPARE(visited, (QList<int>{1, 2, 2, 1, 0, 0}));
-
-    QSignalSpy changed(tiles, &TileSet::tileChanged);
-    m_window->changeTilePalette(QUuid::createUuid());
-    QVERIFY(tiles->palette() != palette && changed.isEmpty());
-    m_window->changeTilePalette(palette->id());
-    m_window->changeSpritePalette(palette->id());
-    QCOMPARE(tiles->palette(), palette);
-    QCOMPARE(changed.size(), 1); // which repaints what shows tiles
-    QCOMPARE(bank->palette(), palette);
-}
-
-void TestMainWindow::isReachedByTheKeyboard()
-{
-    m_window->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&*m_window));
-    const DocumentViews &views = m_window->views();
-    controller()->openProject(sampleFile());
-    m_window->documentController()->setActiveMap(controller()->project()->maps().first()->id());
-    views.tabs->currentWidget()->setFocus();
-    // in the order of the View menu, without the docks that are behind others
-    for (const QWidget *pane : std::initializer_list<QWidget *>{views.project, views.tileEditor, views.tilePicker,
-                                                                views.mapObjects, views.tabs, views.project}) {
-        QTest::keyClick(&*m_window, Qt::Key_F6);
-        QVERIFY2(pane->isAncestorOf(QApplication::focusWidget()), qPrintable(pane->objectName()));
-    }
-    QTest::keyClick(&*m_window, Qt::Key_F6, Qt::ShiftModifier);
-    QVERIFY(views.tabs->isAncestorOf(QApplication::focusWidget()));
-}
-
-void TestMainWindow::namesItsIconButtons()
-{
-    controller()->openProject(sampleFile());
-    const Project *project = controller()->project();
-    m_window->documentController()->setActiveBlockEditor(project->blockSets().first()->id());
-    m_window->documentController()->setActiveSpriteEditor(project->spriteBanks().first()->id());
-    m_window->documentController()->setActiveMap(project->maps().first()->id());
-    const auto buttons = m_window->findChildren<QAbstractButton *>();
-    QVERIFY(buttons.size() > 100);
-    for (const QAbstractButton *button : buttons) {
-        const bool ofQt = qobject_cast<QTabBar *>(button->parentWidget()) || button->objectName().startsWith("qt_");
-        const QString where = button->parentWidget()->metaObject()->className();
-        QVERIFY2(ofQt || !button->text().isEmpty() || !button->accessibleName().isEmpty(), qPrintable(where));
-    }
-}
 
 QUENMORA_TEST_MAIN(TestMainWindow)
 #include "tst_mainwindow.moc"

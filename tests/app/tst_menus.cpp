@@ -100,265 +100,254 @@ class TestMenus : public QObject
     Q_OBJECT
 
 private slots:
-    void entriesAndShortcuts();
-    void mnemonicsAreThereAndUnique();
-    void entriesFollowProjectAndActiveAsset_data();
-    void entriesFollowProjectAndActiveAsset();
-    void recentMenuListsProjects();
-    void opensAFileOfTheRememberedFolder();
-    void exportsTheActiveAsset_data();
-    void exportsTheActiveAsset();
-    void editEntries();
-    void dialogsMakeWhatIsEntered();
+    void entriesAndShortcuts()
+    {
+        const auto key = [](QKeySequence::StandardKey standard) {
+            const QString keys = QKeySequence(standard).toString();
+            return keys.isEmpty() ? QString() : " [" + keys + ']';
+        };
+        using Keys = QKeySequence;
+        const QStringList expected{
+            QString("New%1, Open%2, Recent>, Save%3, Save As%4, Close%5, -, Preferences, -, Quit")
+                .arg(key(Keys::New), key(Keys::Open), key(Keys::Save), key(Keys::SaveAs), key(Keys::Close)),
+            QString("Cut%1, Copy%2, Paste%3, -, Select All%4, Clear Selection%5")
+                .arg(key(Keys::Cut), key(Keys::Copy), key(Keys::Paste), key(Keys::SelectAll), key(Keys::Deselect)),
+            "New Palette [Ctrl+Alt+P], Import, -, No Palette, Export",
+            "New Tile Set [Ctrl+Alt+T], -, Create Animations, Swap Palette, Export, Export Attributes, Import>, -, "
+            "Next Tile [Ctrl+]], Previous Tile [Ctrl+[], Tile List Magnification>",
+            "New Map [Ctrl+Alt+M], -, Import, Export",
+            "New [Ctrl+Shift+B], Import, -, Swap Palette, Export Data",
+            "New Image",
+            "Scratch Image Editor, Status Bar, Reset Layout, Window>",
+            QString::fromUtf8("Check for Updates…, About"),
+        };
+        const MenuBar bar;
+        QCOMPARE(described(&bar), "File>, Edit>, Palette>, Tiles>, Map>, Sprites>, Image>, View>, Help>");
+        for (int i = 0; i < bar.actions().size(); ++i)
+            QCOMPARE(described(bar.actions().at(i)->menu()), expected.value(i));
+        const QScopedPointer<QToolBar> tools(bar.fileMenu()->createToolBar(nullptr));
+        QCOMPARE(tools->objectName(), "File Toolbar"); // the stored layout names it
+        for (const QAction *action : tools->actions())
+            QVERIFY2(action->isSeparator() || !action->icon().pixmap(18, 18).isNull(), qPrintable(action->text()));
+    }
+
+    void mnemonicsAreThereAndUnique()
+    {
+        MenuBar bar;
+        QAction undo("&Undo");
+        QAction redo("&Redo");
+        bar.editMenu()->setUndoActions(&undo, &redo);
+        QList<QWidget *> menus{&bar};
+        for (QMenu *menu : bar.findChildren<QMenu *>())
+            menus.append(menu);
+        for (const QWidget *menu : menus) {
+            QString seen;
+            for (const QAction *action : menu->actions()) {
+                if (action->isSeparator() || plain(action) == "No Palette" || plain(action) == "None")
+                    continue;
+                QVERIFY2(!mnemonic(action).isNull() && !seen.contains(mnemonic(action)), qPrintable(action->text()));
+                seen.append(mnemonic(action));
+            }
+        }
+    }
+
+    void entriesFollowProjectAndActiveAsset_data()
+    {
+        QTest::addColumn<int>("menu"); // position in the bar
+        QTest::addColumn<QString>("withProject");
+        QTest::addColumn<QString>("withAsset"); // besides
+        const auto add = [](int menu, const char *withProject, const char *withAsset = "") {
+            QTest::addRow("menu %d", menu) << menu << withProject << withAsset;
+        };
+        add(0, "New, Open, Recent, Save, Save As, Close, Preferences, Quit");
+        add(2, "New Palette, Import", ", Export");
+        add(3, "New Tile Set",
+            ", Create Animations, Swap Palette, Export, Export Attributes, Import, Next Tile, Previous Tile, "
+            "Tile List Magnification");
+        add(4, "New Map, Import", ", Export");
+        add(5, "New, Import", ", Swap Palette, Export Data");
+        add(6, "New Image");
+    }
+
+    void entriesFollowProjectAndActiveAsset()
+    {
+        QFETCH(int, menu);
+        QFETCH(QString, withProject);
+        QFETCH(QString, withAsset);
+        Shell shell;
+        const QAction *name = entry(shell.bar.paletteMenu(), "No Palette");
+        QCOMPARE(shell.enabled(menu), withProject);
+        shell.activate();
+        QCOMPARE(shell.enabled(menu), withProject + withAsset);
+        shell.palette->setName("Day & night");
+        QVERIFY(name->text() == "Day && night" && !name->isEnabled());
+        // an asset that is deleted is no longer active
+        shell.project.deleteSpriteBank(shell.sprites->id());
+        shell.project.deleteMap(shell.map->id());
+        shell.project.deleteTileSet(shell.tileSet->id());
+        shell.project.deletePalette(shell.palette->id());
+        QCOMPARE(shell.enabled(menu), withProject);
+        QCOMPARE(name->text(), "No Palette");
+        shell.bar.setProject(nullptr);
+        QCOMPARE(shell.enabled(menu), menu == 0 ? "New, Open, Recent, Preferences, Quit" : "");
+    }
+
+    void recentMenuListsProjects()
+    {
+        FileMenu menu;
+        const auto shown = [&menu] { return described(menu.recentMenu()); };
+        QCOMPARE(shown(), "None");
+        QVERIFY(!menu.recentMenu()->actions().constFirst()->isEnabled());
+        menu.setRecentFiles({"/one/game.quenmora", "/two/game.quenmora"});
+        menu.addRecentFile("/three/cut & paste.quenmora");
+        QCOMPARE(shown(), "cut  paste.quenmora, game.quenmora, game.quenmora, -, Clear");
+        QCOMPARE(menu.recentMenu()->actions().at(0)->text(), "cut && paste.quenmora");
+        QCOMPARE(menu.recentMenu()->actions().at(2)->property("filePath"), QVariant("/two/game.quenmora"));
+
+        // opening a project puts it in front, and rebuilds the menu while its entry is being served
+        connect(&menu, &FileMenu::openProject, &menu, &FileMenu::addRecentFile);
+        menu.recentMenu()->actions().at(2)->trigger();
+        QCOMPARE(menu.recentFiles().constFirst(), "/two/game.quenmora");
+        menu.recentMenu()->actions().constLast()->trigger();
+        QCOMPARE(menu.recentFiles(), QStringList());
+        QCOMPARE(shown(), "None");
+    }
+
+    void opensAFileOfTheRememberedFolder()
+    {
+        const QTemporaryDir folder;
+        FileMenu menu;
+        menu.setOpenFolder(folder.path());
+        QStringList answers{QString(), folder.filePath("sub/game.quenmora")};
+        menu.setFileChooser([&](const FileRequest &request, QWidget *) {
+            return request.folder == folder.path() ? answers.takeFirst() : "another folder";
+        });
+        QSignalSpy opened(&menu, &FileMenu::openProject);
+        entry(&menu, "Open")->trigger(); // and given up
+        entry(&menu, "Open")->trigger();
+        QCOMPARE(opened, QList<QVariantList>({{folder.filePath("sub/game.quenmora")}}));
+        QCOMPARE(menu.openFolder(), folder.filePath("sub"));
+    }
+
+    void exportsTheActiveAsset_data()
+    {
+        QTest::addColumn<int>("menu");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<int>("size"); // in bytes
+        QTest::addColumn<QString>("warning"); // in the log when it fails
+        const auto add = [](int menu, const char *text, const char *file, int size, const char *warning = "") {
+            QTest::addRow("%s %s", text, file) << menu << text << file << size << warning;
+        };
+        add(2, "Export", "x.npl", 513);
+        add(3, "Export", "tiles.bin", 4 * 64, "Export failed!");
+        add(3, "Export Attributes", "x.bin", 4);
+        add(3, "Export Attributes", "x.asm", 240);
+        add(4, "Export", "x.map", 8);
+        add(5, "Export Data", "x.spr", 256, "Failed to save data");
+    }
+
+    void exportsTheActiveAsset()
+    {
+        QFETCH(int, menu);
+        QFETCH(QString, text);
+        QFETCH(QString, file);
+        QFETCH(QString, warning);
+        const QTemporaryDir folder;
+        Shell shell;
+        shell.activate();
+        QStringList answers{QString(), folder.filePath(file), "/nowhere/" + file};
+        shell.bar.setFileChooser([&](const FileRequest &, QWidget *) { return answers.takeFirst(); });
+        QSignalSpy failed(&shell.bar, &MenuBar::failed);
+        if (!warning.isEmpty())
+            QTest::ignoreMessage(QtWarningMsg, qPrintable(warning));
+        while (!answers.isEmpty()) {
+            entry(shell.menu(menu), text)->trigger();
+            if (auto *dialog = shell.window.findChild<QDialog *>()) // asks which tiles
+                dialog->accept();
+        }
+        QTEST(int(QFileInfo(folder.filePath(file)).size()), "size");
+        QCOMPARE(failed, QList<QVariantList>({{"There was a problem exporting data", "Save Error"}}));
+        shell.bar.tileMenu()->setTileSet(nullptr);
+        QTest::ignoreMessage(QtWarningMsg, "Null tileset");
+        shell.bar.tileMenu()->exportAccepted(1, 1, false);
+    }
+
+    void editEntries()
+    {
+        EditMenu menu;
+        QAction undo("&Undo");
+        QAction redo("&Redo");
+        menu.setUndoActions(&undo, &redo);
+        QCOMPARE(menu.actions().first(2), QList<QAction *>({&undo, &redo}));
+        QVERIFY(menu.actions().at(2)->isSeparator());
+        QCOMPARE(undo.shortcuts(), QKeySequence::keyBindings(QKeySequence::Undo));
+        for (const auto &[text, command] : {std::pair("Cut", &EditMenu::cut),
+                                            {"Copy", &EditMenu::copy},
+                                            {"Paste", &EditMenu::paste},
+                                            {"Select All", &EditMenu::selectAll},
+                                            {"Clear Selection", &EditMenu::selectNone}}) {
+            QSignalSpy asked(&menu, command);
+            QAction *action = entry(&menu, text);
+            QCOMPARE(action->shortcutContext(), Qt::ApplicationShortcut);
+            action->trigger(); // not enabled
+            menu.setClipboardEnabled(true);
+            action->trigger();
+            menu.setClipboardEnabled(false);
+            QCOMPARE(asked.size(), 1);
+        }
+    }
+
+    void dialogsMakeWhatIsEntered()
+    {
+        Shell shell;
+        shell.activate();
+        const auto dialogs = [&] { return shell.window.findChildren<QDialog *>(Qt::FindDirectChildrenOnly); };
+        QVERIFY(dialogs().isEmpty()); // they are built when they are first used
+        const auto enter = [&](int menu, const char *text, const char *name, const QStringList &choices,
+                               bool checked = false) {
+            entry(shell.menu(menu), text)->trigger();
+            for (QDialog *dialog : dialogs()) {
+                if (!dialog->isVisible())
+                    continue;
+                dialog->findChild<QLineEdit *>()->setText(name);
+                for (int i = 0; i < choices.size(); ++i)
+                    dialog->findChildren<QComboBox *>().at(i)->setCurrentText(choices[i]);
+                if (auto *box = dialog->findChild<QCheckBox *>())
+                    box->setChecked(checked);
+                dialog->accept();
+            }
+        };
+        const Project &project = shell.project;
+        enter(2, "New Palette", "Night", {});
+        QCOMPARE(project.palettes().last()->name(), "Night");
+        enter(3, "New Tile Set", "Cave", {"New palette of the same name", "256"});
+        QCOMPARE(project.tileSets().last()->palette()->name(), "Cave");
+        QVERIFY(project.tileSets().last()->count() == 256 && !project.tileSets().last()->hiRes());
+        enter(3, "New Tile Set", "Forest", {"Main", "512"}, true);
+        QCOMPARE(project.tileSets().last()->palette(), shell.palette);
+        QVERIFY(project.tileSets().last()->count() == 512 && project.tileSets().last()->hiRes());
+        enter(3, "Create Animations", "Doors", {});
+        QCOMPARE(project.blockSets().last()->tileSet(), shell.tileSet); // the active one
+        enter(4, "New Map", "Level", {"Forest"});
+        QCOMPARE(project.maps().last()->tileSet()->name(), "Forest");
+        QCOMPARE(project.maps().last()->size(), QSize(40, 32));
+        enter(5, "New", "Hero", {"Main", "4-bit, 16 colours"});
+        QVERIFY(project.spriteBanks().last()->depth() == Quenmora::FourBit);
+        QCOMPARE(project.spriteBanks().last()->palette(), shell.palette);
+        enter(5, "New", "Villain", {"New palette of the same name", "8-bit, 256 colours"});
+        QVERIFY(project.spriteBanks().last()->depth() == Quenmora::EightBit);
+        QCOMPARE(project.spriteBanks().last()->palette()->name(), "Villain");
+        enter(6, "New Image", "Title", {"640x256 16 colours", "Main"});
+        QCOMPARE(project.images().last()->mode(), Quenmora::Layer2_640x256);
+        QSignalSpy created(shell.bar.fileMenu(), &FileMenu::newProject);
+        enter(0, "New", "Game", {});
+        QCOMPARE(created, QList<QVariantList>({{"Game"}}));
+        enter(0, "New", "", {});
+        QVERIFY(dialogs().last()->isVisible()); // a name is needed
+        QCOMPARE(dialogs().size(), 7);
+    }
 };
-
-void TestMenus::entriesAndShortcuts()
-{
-    const auto key = [](QKeySequence::StandardKey standard) {
-        const QString keys = QKeySequence(standard).toString();
-        return keys.isEmpty() ? QString() : " [" + keys + ']';
-    };
-    using Keys = QKeySequence;
-    const QStringList expected{
-        QString("New%1, Open%2, Recent>, Save%3, Save As%4, Close%5, -, Preferences, -, Quit")
-            .arg(key(Keys::New), key(Keys::Open), key(Keys::Save), key(Keys::SaveAs), key(Keys::Close)),
-        QString("Cut%1, Copy%2, Paste%3, -, Select All%4, Clear Selection%5")
-            .arg(key(Keys::Cut), key(Keys::Copy), key(Keys::Paste), key(Keys::SelectAll), key(Keys::Deselect)),
-        "New Palette [Ctrl+Alt+P], Import, -, No Palette, Export",
-        "New Tile Set [Ctrl+Alt+T], -, Create Animations, Swap Palette, Export, Export Attributes, Import>, -, "
-        "Next Tile [Ctrl+]], Previous Tile [Ctrl+[], Tile List Magnification>",
-        "New Map [Ctrl+Alt+M], -, Import, Export",
-        "New [Ctrl+Shift+B], Import, -, Swap Palette, Export Data",
-        "New Image",
-        "Scratch Image Editor, Status Bar, Reset Layout, Window>",
-        QString::fromUtf8("Check for Updates…, About"),
-    };
-    const MenuBar bar;
-    QCOMPARE(described(&bar), "File>, Edit>, Palette>, Tiles>, Map>, Sprites>, Image>, View>, Help>");
-    for (int i = 0; i < bar.actions().size(); ++i)
-        QCOMPARE(described(bar.actions().at(i)->menu()), expected.value(i));
-    const QScopedPointer<QToolBar> tools(bar.fileMenu()->createToolBar(nullptr));
-    QCOMPARE(tools->objectName(), "File Toolbar"); // the stored layout names it
-    for (const QAction *action : tools->actions())
-        QVERIFY2(action->isSeparator() || !action->icon().pixmap(18, 18).isNull(), qPrintable(action->text()));
-}
-
-void TestMenus::mnemonicsAreThereAndUnique()
-{
-    MenuBar bar;
-    QAction undo("&Undo");
-    QAction redo("&Redo");
-    bar.editMenu()->setUndoActions(&undo, &redo);
-    QList<QWidget *> menus{&bar};
-    for (QMenu *menu : bar.findChildren<QMenu *>())
-        menus.append(menu);
-    for (const QWidget *menu : menus) {
-        QString seen;
-        for (const QAction *action : menu->actions()) {
-            if (action->isSeparator() || plain(action) == "No Palette" || plain(action) == "None")
-                continue;
-            QVERIFY2(!mnemonic(action).isNull() && !seen.contains(mnemonic(action)), qPrintable(action->text()));
-            seen.append(mnemonic(action));
-        }
-    }
-}
-
-void TestMenus::entriesFollowProjectAndActiveAsset_data()
-{
-    QTest::addColumn<int>("menu"); // position in the bar
-    QTest::addColumn<QString>("withProject");
-    QTest::addColumn<QString>("withAsset"); // besides
-    const auto add = [](int menu, const char *withProject, const char *withAsset = "") {
-        QTest::addRow("menu %d", menu) << menu << withProject << withAsset;
-    };
-    add(0, "New, Open, Recent, Save, Save As, Close, Preferences, Quit");
-    add(2, "New Palette, Import", ", Export");
-    add(3, "New Tile Set",
-        ", Create Animations, Swap Palette, Export, Export Attributes, Import, Next Tile, Previous Tile, "
-        "Tile List Magnification");
-    add(4, "New Map, Import", ", Export");
-    add(5, "New, Import", ", Swap Palette, Export Data");
-    add(6, "New Image");
-}
-
-void TestMenus::entriesFollowProjectAndActiveAsset()
-{
-    QFETCH(int, menu);
-    QFETCH(QString, withProject);
-    QFETCH(QString, withAsset);
-    Shell shell;
-    const QAction *name = entry(shell.bar.paletteMenu(), "No Palette");
-    QCOMPARE(shell.enabled(menu), withProject);
-    shell.activate();
-    QCOMPARE(shell.enabled(menu), withProject + withAsset);
-    shell.palette->setName("Day & night");
-    QVERIFY(name->text() == "Day && night" && !name->isEnabled());
-    // an asset that is deleted is no longer active
-    shell.project.deleteSpriteBank(shell.sprites->id());
-    shell.project.deleteMap(shell.map->id());
-    shell.project.deleteTileSet(shell.tileSet->id());
-    shell.project.deletePalette(shell.palette->id());
-    QCOMPARE(shell.enabled(menu), withProject);
-    QCOMPARE(name->text(), "No Palette");
-    shell.bar.setProject(nullptr);
-    QCOMPARE(shell.enabled(menu), menu == 0 ? "New, Open, Recent, Preferences, Quit" : "");
-}
-
-void TestMenus::recentMenuListsProjects()
-{
-    FileMenu menu;
-    const auto shown = [&menu] { return described(menu.recentMenu()); };
-    QCOMPARE(shown(), "None");
-    QVERIFY(!menu.recentMenu()->actions().constFirst()->isEnabled());
-    menu.setRecentFiles({"/one/game.quenmora", "/two/game.quenmora"});
-    menu.addRecentFile("/three/cut & paste.quenmora");
-    QCOMPARE(shown(), "cut  paste.quenmora, game.quenmora, game.quenmora, -, Clear");
-    QCOMPARE(menu.recentMenu()->actions().at(0)->text(), "cut && paste.quenmora");
-    QCOMPARE(menu.recentMenu()->actions().at(2)->property("filePath"), QVariant("/two/game.quenmora"));
-
-    // opening a project puts it in front, and rebuilds the menu while its entry is being served
-    connect(&menu, &FileMenu::openProject, &menu, &FileMenu::addRecentFile);
-    menu.recentMenu()->actions().at(2)->trigger();
-    QCOMPARE(menu.recentFiles().constFirst(), "/two/game.quenmora");
-    menu.recentMenu()->actions().constLast()->trigger();
-    QCOMPARE(menu.recentFiles(), QStringList());
-    QCOMPARE(shown(), "None");
-}
-
-void TestMenus::opensAFileOfTheRememberedFolder()
-{
-    const QTemporaryDir folder;
-    FileMenu menu;
-    menu.setOpenFolder(folder.path());
-    QStringList answers{QString(), folder.filePath("sub/game.quenmora")};
-    menu.setFileChooser([&](const FileRequest &request, QWidget *) {
-        return request.folder == folder.path() ? answers.takeFirst() : "another folder";
-    });
-    QSignalSpy opened(&menu, &FileMenu::openProject);
-    entry(&menu, "Open")->trigger(); // and given up
-    entry(&menu, "Open")->trigger();
-    QCOMPARE(opened, QList<QVariantList>({{folder.filePath("sub/game.quenmora")}}));
-    QCOMPARE(menu.openFolder(), folder.filePath("sub"));
-}
-
-void TestMenus::exportsTheActiveAsset_data()
-{
-    QTest::addColumn<int>("menu");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<int>("size"); // in bytes
-    QTest::addColumn<QString>("warning"); // in the log when it fails
-    const auto add = [](int menu, const char *text, const char *file, int size, const char *warning = "") {
-        QTest::addRow("%s %s", text, file) << menu << text << file << size << warning;
-    };
-    add(2, "Export", "x.npl", 513);
-    add(3, "Export", "tiles.bin", 4 * 64, "Export failed!");
-    add(3, "Export Attributes", "x.bin", 4);
-    add(3, "Export Attributes", "x.asm", 240);
-    add(4, "Export", "x.map", 8);
-    add(5, "Export Data", "x.spr", 256, "Failed to save data");
-}
-
-void TestMenus::exportsTheActiveAsset()
-{
-    QFETCH(int, menu);
-    QFETCH(QString, text);
-    QFETCH(QString, file);
-    QFETCH(QString, warning);
-    const QTemporaryDir folder;
-    Shell shell;
-    shell.activate();
-    QStringList answers{QString(), folder.filePath(file), "/nowhere/" + file};
-    shell.bar.setFileChooser([&](const FileRequest &, QWidget *) { return answers.takeFirst(); });
-    QSignalSpy failed(&shell.bar, &MenuBar::failed);
-    if (!warning.isEmpty())
-        QTest::ignoreMessage(QtWarningMsg, qPrintable(warning));
-    while (!answers.isEmpty()) {
-        entry(shell.menu(menu), text)->trigger();
-        if (auto *dialog = shell.window.findChild<QDialog *>()) // asks which tiles
-            dialog->accept();
-    }
-    QTEST(int(QFileInfo(folder.filePath(file)).size()), "size");
-    QCOMPARE(failed, QList<QVariantList>({{"There was a problem exporting data", "Save Error"}}));
-    shell.bar.tileMenu()->setTileSet(nullptr);
-    QTest::ignoreMessage(QtWarningMsg, "Null tileset");
-    shell.bar.tileMenu()->exportAccepted(1, 1, false);
-}
-
-void TestMenus::editEntries()
-{
-    EditMenu menu;
-    QAction undo("&Undo");
-    QAction redo("&Redo");
-    menu.setUndoActions(&undo, &redo);
-    QCOMPARE(menu.actions().first(2), QList<QAction *>({&undo, &redo}));
-    QVERIFY(menu.actions().at(2)->isSeparator());
-    QCOMPARE(undo.shortcuts(), QKeySequence::keyBindings(QKeySequence::Undo));
-    for (const auto &[text, command] : {std::pair("Cut", &EditMenu::cut),
-                                        {"Copy", &EditMenu::copy},
-                                        {"Paste", &EditMenu::paste},
-                                        {"Select All", &EditMenu::selectAll},
-                                        {"Clear Selection", &EditMenu::selectNone}}) {
-        QSignalSpy asked(&menu, command);
-        QAction *action = entry(&menu, text);
-        QCOMPARE(action->shortcutContext(), Qt::ApplicationShortcut);
-        action->trigger(); // not enabled
-        menu.setClipboardEnabled(true);
-        action->trigger();
-        menu.setClipboardEnabled(false);
-        QCOMPARE(asked.size(), 1);
-    }
-}
-
-void TestMenus::dialogsMakeWhatIsEntered()
-{
-    Shell shell;
-    shell.activate();
-    const auto dialogs = [&] { return shell.window.findChildren<QDialog *>(Qt::FindDirectChildrenOnly); };
-    QVERIFY(dialogs().isEmpty()); // they are built when they are first used
-    const auto enter = [&](int menu, const char *text, const char *name, const QStringList &choices,
-                           bool checked = false) {
-        entry(shell.menu(menu), text)->trigger();
-        for (QDialog *dialog : dialogs()) {
-            if (!dialog->isVisible())
-                continue;
-            dialog->findChild<QLineEdit *>()->setText(name);
-            for (int i = 0; i < choices.size(); ++i)
-                dialog->findChildren<QComboBox *>().at(i)->setCurrentText(choices[i]);
-            if (auto *box = dialog->findChild<QCheckBox *>())
-                box->setChecked(checked);
-            dialog->accept();
-        }
-    };
-    const Project &project = shell.project;
-    enter(2, "New Palette", "Night", {});
-    QCOMPARE(project.palettes().last()->name(), "Night");
-    enter(3, "New Tile Set", "Cave", {"New palette of the same name", "256"});
-    QCOMPARE(project.tileSets().last()->palette()->name(), "Cave");
-    QVERIFY(project.tileSets().last()->count() == 256 && !project.tileSets().last()->hiRes());
-    enter(3, "New Tile Set", "Forest", {"Main", "512"}, true);
-    QCOMPARE(project.tileSets().last()->palette(), shell.palette);
-    QVERIFY(project.tileSets().last()->count() == 512 && project.tileSets().last()->hiRes());
-    enter(3, "Create Animations", "Doors", {});
-    QCOMPARE(project.blockSets().last()->tileSet(), shell.tileSet); // the active one
-    enter(4, "New Map", "Level", {"Forest"});
-    QCOMPARE(project.maps().last()->tileSet()->name(), "Forest");
-    QCOMPARE(project.maps().last()->size(), QSize(40, 32));
-    enter(5, "New", "Hero", {"Main", "4-bit, 16 colours"});
-    QVERIFY(project.spriteBanks().last()->depth() == Quenmora::FourBit);
-    QCOMPARE(project.spriteBanks().last()->palette(), shell.palette);
-    enter(5, "New", "Villain", {"New palette of the same name", "8-bit, 256 colours"});
-    QVERIFY(project.spriteBanks().last()->depth() == Quenmora::EightBit);
-    QCOMPARE(project.spriteBanks().last()->palette()->name(), "Villain");
-    enter(6, "New Image", "Title", {"640x256 16 colours", "Main"});
-    QCOMPARE(project.images().last()->mode(), Quenmora::Layer2_640x256);
-    QSignalSpy created(shell.bar.fileMenu(), &FileMenu::newProject);
-    enter(0, "New", "Game", {});
-    QCOMPARE(created, QList<QVariantList>({{"Game"}}));
-    enter(0, "New", "", {});
-    QVERIFY(dialogs().last()->isVisible()); // a name is needed
-    QCOMPARE(dialogs().size(), 7);
-}
 
 QUENMORA_TEST_MAIN(TestMenus)
 #include "tst_menus.moc"

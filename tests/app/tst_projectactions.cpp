@@ -50,27 +50,302 @@ class TestProjectActions : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
+    void init()
+    {
+        m_project = std::make_unique<Project>();
+        m_window = std::make_unique<QWidget>();
+        m_actions = std::make_unique<ProjectActions>([this] { return m_project.get(); }, m_window.get());
+        m_ready = {};
+        for (const auto signal :
+             {&ProjectActions::paletteReady, &ProjectActions::tileSetReady, &ProjectActions::mapReady,
+              &ProjectActions::blocksReady, &ProjectActions::spritesReady})
+            connect(m_actions.get(), signal, this, [this](const QUuid &id) { m_ready = id; });
+    }
+
     void cleanup() { m_window.reset(); } // no window outlives the application
 
-    void needsAProject();
-    void tellsTheSpriteMenuFirst();
-    void copiesAndDeletes_data();
-    void copiesAndDeletes();
+    void needsAProject()
+    {
+        m_project.reset();
+        m_actions->createSprites(SpriteDialog::NewPalette, "x", {});
+        m_actions->createMapFromSelection({}, {1, 1});
+        m_actions->deleteItem(ProjectTree::MapNode, {});
+        m_actions->importMap("x.nxm");
+        m_actions->importPalette({}, "x.pal");
+        QVERIFY(m_ready.isNull() && shownFailure().isEmpty());
+    }
 
-    void importsNextData_data();
-    void importsNextData();
-    void importsPictureWithItsOrientations();
-    void pictureLimit_data();
-    void pictureLimit();
+    void tellsTheSpriteMenuFirst()
+    {
+        MenuBar bar;
+        m_actions->serve(bar);
+        const QUuid sprites = m_project->createSpriteBank(Quenmora::EightBit, "Hero", makePalette())->id();
+        bar.spriteMenu()->setSpriteBank(m_project->spriteBank(sprites));
+        bool toldFirst = false; // while the bank still exists
+        connect(m_actions.get(), &ProjectActions::aboutToDeleteSprites, this, [&](const QUuid &id) {
+            toldFirst = id == sprites && m_project->spriteBank(id) && !bar.spriteMenu()->spriteBank();
+        });
+        m_actions->deleteItem(ProjectTree::SpriteBankNode, sprites);
+        QVERIFY(toldFirst && !m_project->spriteBank(sprites));
+    }
 
-    void importedPaletteIsOneUndoStep();
-    void importsColoursOfPictures();
-    void importsANewPalette();
+    void copiesAndDeletes_data()
+    {
+        QTest::addColumn<Node>("node");
+        QTest::addColumn<int>("copies");
+        QTest::addColumn<QString>("title"); // of the refusal to delete one in use
+        QTest::addColumn<QString>("text");
+        QTest::newRow("palette")
+            << ProjectTree::PaletteNode << 1 << "Palette In Use"
+            << "You may not delete this palette; it is used by one or more sprites, tiles or images";
+        QTest::newRow("tile set") << ProjectTree::TileSetNode << 1 << "Tile Set In Use"
+                                  << "You may not delete this Tile Set; it is used by one or more maps";
+        QTest::newRow("objects") << ProjectTree::MapObjectsNode << 0 << "Objects in use"
+                                 << "You may not delete these objects; they are in use by one or more maps";
+        QTest::newRow("sprites") << ProjectTree::SpriteBankNode << 0 << QString() << QString();
+        QTest::newRow("map") << ProjectTree::MapNode << 1 << QString() << QString();
+        QTest::newRow("image") << ProjectTree::ImageNode << 0 << QString() << QString();
+    }
 
-    void importsSprites_data();
-    void importsSprites();
-    void spriteFailureLeavesNothing();
+    void copiesAndDeletes()
+    {
+        QFETCH(Node, node);
+        QFETCH(int, copies);
+        QFETCH(QString, title);
+        QFETCH(QString, text);
+        SampleProject::fill(*m_project);
+        // the first of a kind is used by others, the last is not
+        const QUuid firsts[]{m_project->palettes().first()->id(),  m_project->tileSets().first()->id(),
+                             m_project->blockSets().first()->id(), m_project->spriteBanks().first()->id(),
+                             m_project->maps().first()->id(),      m_project->images().first()->id()};
+        const QUuid lasts[]{m_project->palettes().last()->id(),  m_project->tileSets().last()->id(),
+                            m_project->blockSets().last()->id(), m_project->spriteBanks().last()->id(),
+                            m_project->maps().last()->id(),      m_project->images().last()->id()};
+        qsizetype count = assetCount();
+        m_actions->copyItem(node, QUuid::createUuid());
+        QCOMPARE(assetCount(), count);
+        m_actions->copyItem(node, firsts[node]);
+        count += copies;
+        QCOMPARE(assetCount(), count);
+        QSignalSpy failed(m_actions.get(), &ProjectActions::failed);
+        connect(m_actions.get(), &ProjectActions::itemDeleted, this, [&](Node gone, const QUuid &id) {
+            QVERIFY(gone == node && (id == firsts[node] || id == lasts[node]));
+            --count; // it is gone by now
+            QCOMPARE(assetCount(), count);
+        });
+        const qsizetype before = count;
+        m_actions->deleteItem(node, firsts[node]);
+        m_actions->deleteItem(node, lasts[node]);
+        QCOMPARE(failed, title.isEmpty() ? QList<QVariantList>() : QList<QVariantList>({{text, title}}));
+        QCOMPARE(count, before - (title.isEmpty() ? 2 : 1));
+    }
+
+    void importsNextData_data()
+    {
+        QTest::addColumn<QString>("cutSuffix"); // of the file that is damaged
+        QTest::addColumn<int>("size"); // to which it is cut; -1 removes it
+        QTest::addColumn<QString>("failure");
+        QTest::addColumn<int>("assets"); // that stay
+        for (const char *suffix : {"nxp", "nxt", "nxm", "nxb"})
+            QTest::addRow("no %s", suffix) << suffix << -1 << "Some of the required files are missing" << 0;
+        QTest::newRow("short palette") << "nxp" << 511 << "Could not import the palette data" << 1;
+        QTest::newRow("short map") << "nxm" << 2 << "Could not import the map data" << 3;
+        QTest::newRow("no blocks") << "nxb" << 0 << "Could not import the map data" << 3;
+        QTest::newRow("all there") << "" << 0 << "" << 3;
+    }
+
+    void importsNextData()
+    {
+        QFETCH(QString, cutSuffix);
+        QFETCH(int, size);
+        writeNextData(cutSuffix, size);
+        m_actions->importMap(m_folder("world.1.nxt"));
+        QTEST(shownFailure(), "failure");
+        QTEST(int(assetCount()), "assets");
+        QCOMPARE(m_ready.isNull(), !shownFailure().isEmpty());
+        if (m_ready.isNull())
+            return;
+        const QPointer<Map> map = m_project->map(m_ready);
+        QCOMPARE(map->name(), "world.1");
+        QCOMPARE(map->size(), QSize(2, 2));
+        QCOMPARE(map->tileLayer()->cellAt({1, 0}).index, 2);
+        QCOMPARE(map->tileSet()->count(), 512);
+        QCOMPARE(int(map->tileSet()->tile(1)->pixels()[1]), 4);
+        QCOMPARE(map->tileSet()->palette()->rawColour(1), 0xE381);
+    }
+
+    void importsPictureWithItsOrientations()
+    {
+        // one tile and its turned and mirrored forms, and cut-off cells at the right and below
+        const QImage tile = pictureOfTiles({1, 1});
+        QImage picture(8 * 3 + 5, 8 + 7, QImage::Format_RGB32);
+        picture.fill(Qt::black);
+        QPainter painter(&picture);
+        painter.drawImage(0, 0, tile);
+        painter.drawImage(8, 0, tile.transformed(QTransform().rotate(90)));
+        painter.drawImage(16, 0, tile.transformed(QTransform().scale(-1, 1)));
+        painter.end();
+        QVERIFY(picture.save(m_folder("level.png")));
+        m_actions->importMap(m_folder("level.png"));
+        const QPointer<Map> map = m_project->map(m_ready);
+        QVERIFY(map);
+        QCOMPARE(map->name(), "level");
+        QCOMPARE(map->size(), QSize(3, 1));
+        QCOMPARE(map->tileSet()->name(), "level");
+        QCOMPARE(map->tileSet()->count(), 512);
+        const TileMap::TileData upright{.index = 0, .used = true};
+        const TileMap::TileData turned{.index = 0, .rotate = true, .used = true};
+        const TileMap::TileData mirrored{.index = 0, .mirror = true, .used = true};
+        QCOMPARE(map->tileLayer()->rows().first(), TileMap::Row({upright, turned, mirrored}));
+        QCOMPARE(map->tileLayer()->toImage({0, 0, 3, 1}).convertToFormat(QImage::Format_RGB32),
+                 picture.copy(0, 0, 24, 8));
+    }
+
+    void pictureLimit_data()
+    {
+        QTest::addColumn<QSize>("tiles");
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QString>("failure");
+        QTest::newRow("512") << QSize(32, 16) << "level.bmp" << QString();
+        QTest::newRow("513") << QSize(27, 19) << "level.bmp"
+                             << "Cannot import the image as it would need more than 512 tiles\n513 required";
+        QTest::newRow("no picture") << QSize() << "cut.png"
+                                    << "Could not read the image file";
+        QTest::newRow("suffix in upper case") << QSize() << "world.NXM"
+                                              << "Could not read the image file";
+    }
+
+    void pictureLimit()
+    {
+        QFETCH(QSize, tiles);
+        QFETCH(QString, file);
+        QVERIFY(tiles.isEmpty() ? writeFile(m_folder(file), "\x89PNG\r\n\x1a\n and nothing more")
+                                : pictureOfTiles(tiles).save(m_folder(file)));
+        m_actions->importMap(m_folder(file));
+        QTEST(shownFailure(), "failure");
+        QCOMPARE(assetCount(), shownFailure().isEmpty() ? 3 : 0);
+        QVERIFY(!m_window->findChild<QProgressDialog *>()); // it does not outlive its work
+    }
+
+    void importedPaletteIsOneUndoStep()
+    {
+        const QPointer<Palette> palette = m_project->palette(makePalette());
+        QUndoStack stack;
+        const EditRecorder recorder(m_project.get(), [&stack](const QUuid &) { return &stack; });
+        m_actions->setUndoStackProvider([&](const QUuid &id) { return id == palette->id() ? &stack : nullptr; });
+        palette->setColour(0, Qt::red, true); // a step shortly before, with which the import is not mixed up
+        // every word, those included that no colour of the program sets
+        QByteArray file;
+        for (int i = 0; i < Palette::Size; ++i)
+            file.append(char(255 - i)).append(char(i));
+        m_folder("night.pal", file);
+        QSignalSpy changed(palette, &Palette::colourChanged);
+        m_actions->importPalette(palette->id(), m_folder("night.pal"));
+        for (int i = 0; i < Palette::Size; ++i)
+            QCOMPARE(palette->rawColour(i), quint16((255 - i) << 8 | i));
+        QCOMPARE(changed.size(), Palette::Size);
+        m_actions->importPalette(palette->id(), m_folder("night.pal")); // changes nothing
+        QCOMPARE(stack.count(), 2);
+        stack.undo();
+        QCOMPARE(palette->rawColour(0), 0xE080);
+        QCOMPARE(palette->rawColour(255), 0xFF01);
+        stack.redo();
+        QCOMPARE(palette->rawColour(255), 0x00FF);
+    }
+
+    void importsColoursOfPictures()
+    {
+        const QPointer<Palette> palette = m_project->palette(makePalette());
+        QImage picture(2, 2, QImage::Format_RGB32); // its distinct colours in reading order
+        picture.fill(qRgb(0, 0, 255));
+        picture.setPixel(1, 0, qRgb(219, 0, 0)); // as the hardware shows level 6
+        QImage indexed(2, 2, QImage::Format_Indexed8); // its colour table
+        indexed.setColorTable({qRgb(0, 0, 255), qRgb(219, 0, 0), qRgb(0, 255, 0)});
+        indexed.fill(2);
+        for (const auto &[image, third] : {std::pair(picture, 0x0201), {indexed, 0x1C00}}) { // or as it was before
+            QVERIFY(image.save(m_folder("colours.png")));
+            m_actions->importPalette(palette->id(), m_folder("colours.png"));
+            QCOMPARE(palette->rawColour(0), 0x0301);
+            QCOMPARE(palette->rawColour(1), 0xC000);
+            QCOMPARE(palette->rawColour(2), third);
+        }
+    }
+
+    void importsANewPalette()
+    {
+        m_folder("night.npl", QByteArray(512, '\1') + '\0');
+        m_actions->importPalette({}, m_folder("night.npl"));
+        const QPointer<Palette> palette = m_project->palette(m_ready);
+        QCOMPARE(palette->name(), "night");
+        QCOMPARE(palette->rawColour(200), 0x0101);
+
+        m_folder("short.pal", QByteArray(511, '\2'));
+        QTest::ignoreMessage(QtWarningMsg, "Read error");
+        m_actions->importPalette(palette->id(), m_folder("short.pal"));
+        QCOMPARE(palette->rawColour(200), 0x0101);
+        QCOMPARE(shownFailure(), "The file is neither a palette nor a picture that can be read");
+    }
+
+    void importsSprites_data()
+    {
+        QTest::addColumn<bool>("picture");
+        QTest::addColumn<bool>("newPalette");
+        QTest::addColumn<int>("sprites");
+        QTest::addColumn<quint16>("word"); // of entry 1 of the palette
+        QTest::newRow("picture, remapped") << true << false << 3 << quint16(0x0101); // a blank one in front
+        QTest::newRow("picture, cut") << true << true << 2 << quint16(0xE000);
+        QTest::newRow("data") << false << false << 3 << quint16(0x0101);
+        QTest::newRow("data, new palette") << false << true << 3 << quint16(0x0101);
+    }
+
+    void importsSprites()
+    {
+        QFETCH(bool, picture);
+        QFETCH(bool, newPalette);
+        const QUuid palette = makePalette();
+        QImage image(32, 16, QImage::Format_RGB32);
+        image.fill(Qt::black);
+        for (int x = 16; x < 24; ++x)
+            image.setPixel(x, 0, qRgb(255, 0, 0));
+        QVERIFY(image.save(m_folder("hero.png")));
+        m_folder("hero.spr", QByteArray(256, '\7') + QByteArray(256, '\5'));
+        QUndoStack stack;
+        const EditRecorder recorder(m_project.get(), [&stack](const QUuid &) { return &stack; });
+        const SpriteImport import{m_folder(picture ? "hero.png" : "hero.spr"), "Hero", Quenmora::FourBit,
+                                  newPalette ? QUuid() : palette};
+        if (picture)
+            m_actions->importSpritePicture(import);
+        else
+            m_actions->importSpriteData(import);
+        const QPointer<SpriteBank> bank = m_project->spriteBank(m_ready);
+        QVERIFY(bank);
+        QCOMPARE(bank->name(), "Hero");
+        QCOMPARE(bank->depth(), Quenmora::FourBit);
+        QTEST(bank->count(), "sprites");
+        QCOMPARE(bank->palette()->name(), newPalette ? "Hero" : "Main");
+        QTEST(bank->palette()->rawColour(1), "word");
+        const QImage last = bank->spriteImage(bank->count() - 1, false, false, false);
+        if (picture)
+            QCOMPARE(last.pixel(0, 0), qRgb(255, 0, 0));
+        else
+            QCOMPARE(last.pixelIndex(0, 0), 5);
+        QCOMPARE(stack.count(), 0); // what is made by an import is no edit
+    }
+
+    void spriteFailureLeavesNothing()
+    {
+        const QUuid palette = makePalette();
+        m_folder("short", QByteArray(255, '\1'));
+        QSignalSpy created(m_project.get(), &Project::spritesCreated); // a bank that was seen could not vanish again
+        for (const QUuid &paletteId : {palette, QUuid()}) {
+            const SpriteImport import{m_folder("short"), "Hero", Quenmora::EightBit, paletteId};
+            m_actions->importSpritePicture(import);
+            QCOMPARE(shownFailure(), "Could not make sprites of the image file");
+            m_actions->importSpriteData(import);
+            QCOMPARE(shownFailure(), "Could not import the sprite data");
+            QCOMPARE(assetCount() + created.size(), 1);
+        }
+    }
 
 private:
     [[nodiscard]] qsizetype assetCount() const
@@ -79,10 +354,31 @@ private:
             + m_project->blockSets().size() + m_project->spriteBanks().size() + m_project->images().size();
     }
     /// The failure that the message box for imports shows; empty while it is not open.
-    [[nodiscard]] QString shownFailure() const;
+    [[nodiscard]] QString shownFailure() const
+    {
+        const auto *box = m_window->findChild<QMessageBox *>();
+        if (!box || !box->isVisible())
+            return {};
+        return box->text() == "Import Incomplete" ? box->informativeText() : "not the box for imports";
+    }
+
     QUuid makePalette() const { return m_project->createPalette(CreateAction::DefaultNext, "Main")->id(); }
     /// Writes the files of a Next data set, "world.1" of 2 × 2 cells, one of them cut to a size or left out (-1).
-    void writeNextData(const QString &cutSuffix, int size) const;
+    void writeNextData(const QString &cutSuffix, int size) const
+    {
+        QByteArray palette(512, '\0');
+        palette[2] = '\xE3'; // entry 1
+        palette[3] = '\x81';
+        const QHash<QString, QByteArray> files{{"nxp", palette},
+                                               {"nxt", QByteArray(32, '\x12') + QByteArray(32, '\x34')},
+                                               {"nxm", QByteArray("\2\2", 2) + QByteArray(256, '\0')},
+                                               {"nxb", QByteArray("\1\0\2\0\3\0\0\0", 8)}}; // the tiles of one block
+        for (auto file = files.cbegin(); file != files.cend(); ++file) {
+            const QString name = m_folder("world.1." + file.key(), file.key() == cutSuffix ? file->left(size) : *file);
+            if (file.key() == cutSuffix && size < 0)
+                QFile::remove(name);
+        }
+    }
 
     TemporaryFolder m_folder;
     std::unique_ptr<QWidget> m_window;
@@ -91,329 +387,13 @@ private:
     QUuid m_ready; ///< the id that a signal of the actions has told last
 };
 
-void TestProjectActions::init()
-{
-    m_project = std::make_unique<Project>();
-    m_window = std::make_unique<QWidget>();
-    m_actions = std::make_unique<ProjectActions>([this] { return m_project.get(); }, m_window.get());
-    m_ready = {};
-    for (const auto signal : {&ProjectActions::paletteReady, &ProjectActions::tileSetReady, &ProjectActions::mapReady,
-                              &ProjectActions::blocksReady, &ProjectActions::spritesReady})
-        connect(m_actions.get(), signal, this, [this](const QUuid &id) { m_ready = id; });
-}
-
-QString TestProjectActions::shownFailure() const
-{
-    const auto *box = m_window->findChild<QMessageBox *>();
-    if (!box || !box->isVisible())
-        return {};
-    return box->text() == "Import Incomplete" ? box->informativeText() : "not the box for imports";
-}
-
 // Creating, copying and deleting
-
-void TestProjectActions::needsAProject()
-{
-    m_project.reset();
-    m_actions->createSprites(SpriteDialog::NewPalette, "x", {});
-    m_actions->createMapFromSelection({}, {1, 1});
-    m_actions->deleteItem(ProjectTree::MapNode, {});
-    m_actions->importMap("x.nxm");
-    m_actions->importPalette({}, "x.pal");
-    QVERIFY(m_ready.isNull() && shownFailure().isEmpty());
-}
-
-void TestProjectActions::tellsTheSpriteMenuFirst()
-{
-    MenuBar bar;
-    m_actions->serve(bar);
-    const QUuid sprites = m_project->createSpriteBank(Quenmora::EightBit, "Hero", makePalette())->id();
-    bar.spriteMenu()->setSpriteBank(m_project->spriteBank(sprites));
-    bool toldFirst = false; // while the bank still exists
-    connect(m_actions.get(), &ProjectActions::aboutToDeleteSprites, this, [&](const QUuid &id) {
-        toldFirst = id == sprites && m_project->spriteBank(id) && !bar.spriteMenu()->spriteBank();
-    });
-    m_actions->deleteItem(ProjectTree::SpriteBankNode, sprites);
-    QVERIFY(toldFirst && !m_project->spriteBank(sprites));
-}
-
-void TestProjectActions::copiesAndDeletes_data()
-{
-    QTest::addColumn<Node>("node");
-    QTest::addColumn<int>("copies");
-    QTest::addColumn<QString>("title"); // of the refusal to delete one in use
-    QTest::addColumn<QString>("text");
-    QTest::newRow("palette") << ProjectTree::PaletteNode << 1 << "Palette In Use"
-                             << "You may not delete this palette; it is used by one or more sprites, tiles or images";
-    QTest::newRow("tile set") << ProjectTree::TileSetNode << 1 << "Tile Set In Use"
-                              << "You may not delete this Tile Set; it is used by one or more maps";
-    QTest::newRow("objects") << ProjectTree::MapObjectsNode << 0 << "Objects in use"
-                             << "You may not delete these objects; they are in use by one or more maps";
-    QTest::newRow("sprites") << ProjectTree::SpriteBankNode << 0 << QString() << QString();
-    QTest::newRow("map") << ProjectTree::MapNode << 1 << QString() << QString();
-    QTest::newRow("image") << ProjectTree::ImageNode << 0 << QString() << QString();
-}
-
-void TestProjectActions::copiesAndDeletes()
-{
-    QFETCH(Node, node);
-    QFETCH(int, copies);
-    QFETCH(QString, title);
-    QFETCH(QString, text);
-    SampleProject::fill(*m_project);
-    // the first of a kind is used by others, the last is not
-    const QUuid firsts[]{m_project->palettes().first()->id(),  m_project->tileSets().first()->id(),
-                         m_project->blockSets().first()->id(), m_project->spriteBanks().first()->id(),
-                         m_project->maps().first()->id(),      m_project->images().first()->id()};
-    const QUuid lasts[]{m_project->palettes().last()->id(),  m_project->tileSets().last()->id(),
-                        m_project->blockSets().last()->id(), m_project->spriteBanks().last()->id(),
-                        m_project->maps().last()->id(),      m_project->images().last()->id()};
-    qsizetype count = assetCount();
-    m_actions->copyItem(node, QUuid::createUuid());
-    QCOMPARE(assetCount(), count);
-    m_actions->copyItem(node, firsts[node]);
-    count += copies;
-    QCOMPARE(assetCount(), count);
-    QSignalSpy failed(m_actions.get(), &ProjectActions::failed);
-    connect(m_actions.get(), &ProjectActions::itemDeleted, this, [&](Node gone, const QUuid &id) {
-        QVERIFY(gone == node && (id == firsts[node] || id == lasts[node]));
-        --count; // it is gone by now
-        QCOMPARE(assetCount(), count);
-    });
-    const qsizetype before = count;
-    m_actions->deleteItem(node, firsts[node]);
-    m_actions->deleteItem(node, lasts[node]);
-    QCOMPARE(failed, title.isEmpty() ? QList<QVariantList>() : QList<QVariantList>({{text, title}}));
-    QCOMPARE(count, before - (title.isEmpty() ? 2 : 1));
-}
 
 // Maps
 
-void TestProjectActions::writeNextData(const QString &cutSuffix, int size) const
-{
-    QByteArray palette(512, '\0');
-    palette[2] = '\xE3'; // entry 1
-    palette[3] = '\x81';
-    const QHash<QString, QByteArray> files{{"nxp", palette},
-                                           {"nxt", QByteArray(32, '\x12') + QByteArray(32, '\x34')},
-                                           {"nxm", QByteArray("\2\2", 2) + QByteArray(256, '\0')},
-                                           {"nxb", QByteArray("\1\0\2\0\3\0\0\0", 8)}}; // the tiles of one block
-    for (auto file = files.cbegin(); file != files.cend(); ++file) {
-        const QString name = m_folder("world.1." + file.key(), file.key() == cutSuffix ? file->left(size) : *file);
-        if (file.key() == cutSuffix && size < 0)
-            QFile::remove(name);
-    }
-}
-
-void TestProjectActions::importsNextData_data()
-{
-    QTest::addColumn<QString>("cutSuffix"); // of the file that is damaged
-    QTest::addColumn<int>("size"); // to which it is cut; -1 removes it
-    QTest::addColumn<QString>("failure");
-    QTest::addColumn<int>("assets"); // that stay
-    for (const char *suffix : {"nxp", "nxt", "nxm", "nxb"})
-        QTest::addRow("no %s", suffix) << suffix << -1 << "Some of the required files are missing" << 0;
-    QTest::newRow("short palette") << "nxp" << 511 << "Could not import the palette data" << 1;
-    QTest::newRow("short map") << "nxm" << 2 << "Could not import the map data" << 3;
-    QTest::newRow("no blocks") << "nxb" << 0 << "Could not import the map data" << 3;
-    QTest::newRow("all there") << "" << 0 << "" << 3;
-}
-
-void TestProjectActions::importsNextData()
-{
-    QFETCH(QString, cutSuffix);
-    QFETCH(int, size);
-    writeNextData(cutSuffix, size);
-    m_actions->importMap(m_folder("world.1.nxt"));
-    QTEST(shownFailure(), "failure");
-    QTEST(int(assetCount()), "assets");
-    QCOMPARE(m_ready.isNull(), !shownFailure().isEmpty());
-    if (m_ready.isNull())
-        return;
-    const QPointer<Map> map = m_project->map(m_ready);
-    QCOMPARE(map->name(), "world.1");
-    QCOMPARE(map->size(), QSize(2, 2));
-    QCOMPARE(map->tileLayer()->cellAt({1, 0}).index, 2);
-    QCOMPARE(map->tileSet()->count(), 512);
-    QCOMPARE(int(map->tileSet()->tile(1)->pixels()[1]), 4);
-    QCOMPARE(map->tileSet()->palette()->rawColour(1), 0xE381);
-}
-
-void TestProjectActions::importsPictureWithItsOrientations()
-{
-    // one tile and its turned and mirrored forms, and cut-off cells at the right and below
-    const QImage tile = pictureOfTiles({1, 1});
-    QImage picture(8 * 3 + 5, 8 + 7, QImage::Format_RGB32);
-    picture.fill(Qt::black);
-    QPainter painter(&picture);
-    painter.drawImage(0, 0, tile);
-    painter.drawImage(8, 0, tile.transformed(QTransform().rotate(90)));
-    painter.drawImage(16, 0, tile.transformed(QTransform().scale(-1, 1)));
-    painter.end();
-    QVERIFY(picture.save(m_folder("level.png")));
-    m_actions->importMap(m_folder("level.png"));
-    const QPointer<Map> map = m_project->map(m_ready);
-    QVERIFY(map);
-    QCOMPARE(map->name(), "level");
-    QCOMPARE(map->size(), QSize(3, 1));
-    QCOMPARE(map->tileSet()->name(), "level");
-    QCOMPARE(map->tileSet()->count(), 512);
-    const TileMap::TileData upright{.index = 0, .used = true};
-    const TileMap::TileData turned{.index = 0, .rotate = true, .used = true};
-    const TileMap::TileData mirrored{.index = 0, .mirror = true, .used = true};
-    QCOMPARE(map->tileLayer()->rows().first(), TileMap::Row({upright, turned, mirrored}));
-    QCOMPARE(map->tileLayer()->toImage({0, 0, 3, 1}).convertToFormat(QImage::Format_RGB32), picture.copy(0, 0, 24, 8));
-}
-
-void TestProjectActions::pictureLimit_data()
-{
-    QTest::addColumn<QSize>("tiles");
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QString>("failure");
-    QTest::newRow("512") << QSize(32, 16) << "level.bmp" << QString();
-    QTest::newRow("513") << QSize(27, 19) << "level.bmp"
-                         << "Cannot import the image as it would need more than 512 tiles\n513 required";
-    QTest::newRow("no picture") << QSize() << "cut.png"
-                                << "Could not read the image file";
-    QTest::newRow("suffix in upper case") << QSize() << "world.NXM"
-                                          << "Could not read the image file";
-}
-
-void TestProjectActions::pictureLimit()
-{
-    QFETCH(QSize, tiles);
-    QFETCH(QString, file);
-    QVERIFY(tiles.isEmpty() ? writeFile(m_folder(file), "\x89PNG\r\n\x1a\n and nothing more")
-                            : pictureOfTiles(tiles).save(m_folder(file)));
-    m_actions->importMap(m_folder(file));
-    QTEST(shownFailure(), "failure");
-    QCOMPARE(assetCount(), shownFailure().isEmpty() ? 3 : 0);
-    QVERIFY(!m_window->findChild<QProgressDialog *>()); // it does not outlive its work
-}
-
 // Palettes
 
-void TestProjectActions::importedPaletteIsOneUndoStep()
-{
-    const QPointer<Palette> palette = m_project->palette(makePalette());
-    QUndoStack stack;
-    const EditRecorder recorder(m_project.get(), [&stack](const QUuid &) { return &stack; });
-    m_actions->setUndoStackProvider([&](const QUuid &id) { return id == palette->id() ? &stack : nullptr; });
-    palette->setColour(0, Qt::red, true); // a step shortly before, with which the import is not mixed up
-    // every word, those included that no colour of the program sets
-    QByteArray file;
-    for (int i = 0; i < Palette::Size; ++i)
-        file.append(char(255 - i)).append(char(i));
-    m_folder("night.pal", file);
-    QSignalSpy changed(palette, &Palette::colourChanged);
-    m_actions->importPalette(palette->id(), m_folder("night.pal"));
-    for (int i = 0; i < Palette::Size; ++i)
-        QCOMPARE(palette->rawColour(i), quint16((255 - i) << 8 | i));
-    QCOMPARE(changed.size(), Palette::Size);
-    m_actions->importPalette(palette->id(), m_folder("night.pal")); // changes nothing
-    QCOMPARE(stack.count(), 2);
-    stack.undo();
-    QCOMPARE(palette->rawColour(0), 0xE080);
-    QCOMPARE(palette->rawColour(255), 0xFF01);
-    stack.redo();
-    QCOMPARE(palette->rawColour(255), 0x00FF);
-}
-
-void TestProjectActions::importsColoursOfPictures()
-{
-    const QPointer<Palette> palette = m_project->palette(makePalette());
-    QImage picture(2, 2, QImage::Format_RGB32); // its distinct colours in reading order
-    picture.fill(qRgb(0, 0, 255));
-    picture.setPixel(1, 0, qRgb(219, 0, 0)); // as the hardware shows level 6
-    QImage indexed(2, 2, QImage::Format_Indexed8); // its colour table
-    indexed.setColorTable({qRgb(0, 0, 255), qRgb(219, 0, 0), qRgb(0, 255, 0)});
-    indexed.fill(2);
-    for (const auto &[image, third] : {std::pair(picture, 0x0201), {indexed, 0x1C00}}) { // or as it was before
-        QVERIFY(image.save(m_folder("colours.png")));
-        m_actions->importPalette(palette->id(), m_folder("colours.png"));
-        QCOMPARE(palette->rawColour(0), 0x0301);
-        QCOMPARE(palette->rawColour(1), 0xC000);
-        QCOMPARE(palette->rawColour(2), third);
-    }
-}
-
-void TestProjectActions::importsANewPalette()
-{
-    m_folder("night.npl", QByteArray(512, '\1') + '\0');
-    m_actions->importPalette({}, m_folder("night.npl"));
-    const QPointer<Palette> palette = m_project->palette(m_ready);
-    QCOMPARE(palette->name(), "night");
-    QCOMPARE(palette->rawColour(200), 0x0101);
-
-    m_folder("short.pal", QByteArray(511, '\2'));
-    QTest::ignoreMessage(QtWarningMsg, "Read error");
-    m_actions->importPalette(palette->id(), m_folder("short.pal"));
-    QCOMPARE(palette->rawColour(200), 0x0101);
-    QCOMPARE(shownFailure(), "The file is neither a palette nor a picture that can be read");
-}
-
 // Sprites
-
-void TestProjectActions::importsSprites_data()
-{
-    QTest::addColumn<bool>("picture");
-    QTest::addColumn<bool>("newPalette");
-    QTest::addColumn<int>("sprites");
-    QTest::addColumn<quint16>("word"); // of entry 1 of the palette
-    QTest::newRow("picture, remapped") << true << false << 3 << quint16(0x0101); // a blank one in front
-    QTest::newRow("picture, cut") << true << true << 2 << quint16(0xE000);
-    QTest::newRow("data") << false << false << 3 << quint16(0x0101);
-    QTest::newRow("data, new palette") << false << true << 3 << quint16(0x0101);
-}
-
-void TestProjectActions::importsSprites()
-{
-    QFETCH(bool, picture);
-    QFETCH(bool, newPalette);
-    const QUuid palette = makePalette();
-    QImage image(32, 16, QImage::Format_RGB32);
-    image.fill(Qt::black);
-    for (int x = 16; x < 24; ++x)
-        image.setPixel(x, 0, qRgb(255, 0, 0));
-    QVERIFY(image.save(m_folder("hero.png")));
-    m_folder("hero.spr", QByteArray(256, '\7') + QByteArray(256, '\5'));
-    QUndoStack stack;
-    const EditRecorder recorder(m_project.get(), [&stack](const QUuid &) { return &stack; });
-    const SpriteImport import{m_folder(picture ? "hero.png" : "hero.spr"), "Hero", Quenmora::FourBit,
-                              newPalette ? QUuid() : palette};
-    if (picture)
-        m_actions->importSpritePicture(import);
-    else
-        m_actions->importSpriteData(import);
-    const QPointer<SpriteBank> bank = m_project->spriteBank(m_ready);
-    QVERIFY(bank);
-    QCOMPARE(bank->name(), "Hero");
-    QCOMPARE(bank->depth(), Quenmora::FourBit);
-    QTEST(bank->count(), "sprites");
-    QCOMPARE(bank->palette()->name(), newPalette ? "Hero" : "Main");
-    QTEST(bank->palette()->rawColour(1), "word");
-    const QImage last = bank->spriteImage(bank->count() - 1, false, false, false);
-    if (picture)
-        QCOMPARE(last.pixel(0, 0), qRgb(255, 0, 0));
-    else
-        QCOMPARE(last.pixelIndex(0, 0), 5);
-    QCOMPARE(stack.count(), 0); // what is made by an import is no edit
-}
-
-void TestProjectActions::spriteFailureLeavesNothing()
-{
-    const QUuid palette = makePalette();
-    m_folder("short", QByteArray(255, '\1'));
-    QSignalSpy created(m_project.get(), &Project::spritesCreated); // a bank that was seen could not vanish again
-    for (const QUuid &paletteId : {palette, QUuid()}) {
-        const SpriteImport import{m_folder("short"), "Hero", Quenmora::EightBit, paletteId};
-        m_actions->importSpritePicture(import);
-        QCOMPARE(shownFailure(), "Could not make sprites of the image file");
-        m_actions->importSpriteData(import);
-        QCOMPARE(shownFailure(), "Could not import the sprite data");
-        QCOMPARE(assetCount() + created.size(), 1);
-    }
-}
 
 QUENMORA_TEST_MAIN(TestProjectActions)
 #include "tst_projectactions.moc"

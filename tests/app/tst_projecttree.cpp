@@ -33,19 +33,145 @@ class TestProjectTree : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
+    void init()
+    {
+        m_project = std::make_unique<Project>();
+        m_window = std::make_unique<ProjectWindow>();
+        m_window->setProject(m_project.get());
+        m_window->activate();
+        m_window->resize(300, 500);
+        m_window->show();
+        QCOMPARE(shownItems(), QStringList{"untitled"});
+        const QUuid palette = m_project->createPalette(CreateAction::Blank, "Unlisted")->id();
+        QCOMPARE(shownItems(), QStringList{"untitled"});
+        m_tiles = m_project->createTileSet("Tiles", palette);
+        m_project->createTileSet("Forest", palette);
+        m_doors = m_project->createBlockList("Doors", m_tiles->id());
+        m_hero = m_project->createSpriteBank(Quenmora::FourBit, "Hero", palette);
+        m_level = m_project->createMap("Level", m_tiles->id(), {40, 32});
+        m_title = m_project->createImage(Quenmora::LoRes_128x96, "Title", palette);
+    }
+
     void cleanup() { m_window.reset(); }
-    void listsAssetsByKind();
-    void followsOneProject();
-    void activatesByDoubleClickAndEnter();
-    void renamesAndSorts();
-    void offersItsMenuOnAssetsOnly();
+    void listsAssetsByKind()
+    {
+        const QStringList all{"untitled", " Tile Sets", "  Forest", "  Tiles", "   Doors", " Sprites",
+                              "  Hero",   " Maps",      "  Level",  " Images", "  Title"};
+        QCOMPARE(shownItems(), all);
+        m_window->setProject(m_project.get()); // which has its assets now
+        QCOMPARE(shownItems(), all);
+        const Qt::GlobalColor colours[]{Qt::blue, Qt::red, Qt::magenta, Qt::green, Qt::cyan, Qt::yellow};
+        const QTreeWidgetItem *groups = tree()->topLevelItem(0);
+        QCOMPARE(groups->childCount(), 6);
+        for (int node = 0; node < 6; ++node) {
+            QCOMPARE(groups->child(node)->data(0, Qt::UserRole), QVariant(node));
+            QCOMPARE(groups->child(node)->foreground(0).color(), QColor(colours[node]).lighter(150));
+        }
+    }
+
+    void followsOneProject()
+    {
+        const QUuid tiles = m_tiles->id();
+        m_project->deleteTileSet(tiles);
+        m_window->removeItem(ProjectTree::TileSetNode, tiles);
+        m_window->removeItem(ProjectTree::TileSetNode, tiles);
+        QCOMPARE(shownItems().mid(1, 4),
+                 (QStringList{" Tile Sets", "  Forest", " Objects", "  Doors"})); // without tiles
+        Project other;
+        other.createBlockList("Unbound", {});
+        m_window->setProject(&other);
+        m_project->createTileSet("Of the project before", {});
+        QCOMPARE(shownItems(), (QStringList{"untitled", " Objects", "  Unbound"}));
+        m_window->setProject(nullptr);
+        QCOMPARE(tree()->topLevelItemCount(), 0);
+    }
+
+    void activatesByDoubleClickAndEnter()
+    {
+        QStringList activated;
+        const auto note = [&](const char *kind, auto signal) {
+            connect(m_window.get(), signal, this,
+                    [&activated, kind](QUuid id) { activated.append(kind + id.toString()); });
+        };
+        note("palette", &ProjectWindow::selectedPaletteChanged);
+        note("tiles", &ProjectWindow::selectedTileSetChanged);
+        note("blocks", &ProjectWindow::selectedBlocksChanged);
+        note("sprites", &ProjectWindow::selectedSpritesChanged);
+        note("map", &ProjectWindow::selectedMapChanged);
+        note("image", &ProjectWindow::selectedImageChanged);
+        for (const QUuid &id : {m_tiles->id(), m_doors->id(), m_hero->id(), m_level->id(), m_title->id()}) {
+            QTest::mouseClick(tree()->viewport(), Qt::LeftButton, {}, placeOf(tree()->itemOf(id)));
+            QTest::mouseDClick(tree()->viewport(), Qt::LeftButton, {}, placeOf(tree()->itemOf(id)));
+        }
+        tree()->doubleClickFilter(tree()->topLevelItem(0), 0);
+        tree()->doubleClickFilter(tree()->topLevelItem(0)->child(ProjectTree::MapNode), 0);
+        QTest::keyClick(tree(), Qt::Key_Return);
+        m_window->itemDoubleClicked(ProjectTree::PaletteNode, m_tiles->id());
+        QCOMPARE(activated,
+                 (QStringList{"tiles" + m_tiles->id().toString(), "blocks" + m_doors->id().toString(),
+                              "sprites" + m_hero->id().toString(), "map" + m_level->id().toString(),
+                              "image" + m_title->id().toString(), "image" + m_title->id().toString(),
+                              "palette" + m_tiles->id().toString()}));
+    }
+
+    void renamesAndSorts()
+    {
+        QSignalSpy renamed(m_window.get(), &ProjectWindow::itemRenamed);
+        rename(m_tiles->id(), "Bricks");
+        QCOMPARE(shownItems().mid(1, 4), (QStringList{" Tile Sets", "  Bricks", "   Doors", "  Forest"}));
+        rename(m_doors->id(), "Gates");
+        rename(m_hero->id(), "Heroine");
+        rename(m_level->id(), "Level 1");
+        rename(m_title->id(), "Titles");
+        rename(m_tiles->id(), "  "); // nobody may have this name
+        QCOMPARE(shownItems(),
+                 (QStringList{"untitled", " Tile Sets", "  Bricks", "   Gates", "  Forest", " Sprites", "  Heroine",
+                              " Maps", "  Level 1", " Images", "  Titles"}));
+        QCOMPARE((QStringList{m_tiles->name(), m_doors->name(), m_hero->name(), m_level->name(), m_title->name()}),
+                 (QStringList{"Bricks", "Gates", "Heroine", "Level 1", "Titles"}));
+        QCOMPARE(renamed.size(), 5);
+        QCOMPARE(renamed.last(), (QVariantList{m_title->id(), "Titles"}));
+    }
+
+    void offersItsMenuOnAssetsOnly()
+    {
+        QMenu *menu = tree()->itemMenu();
+        tree()->showContextMenu(placeOf(tree()->topLevelItem(0)->child(ProjectTree::TileSetNode)));
+        tree()->showContextMenu(placeOf(tree()->topLevelItem(0)));
+        QVERIFY(!menu->isVisible());
+        tree()->showContextMenu(placeOf(tree()->itemOf(m_doors->id())));
+        QVERIFY(menu->isVisible());
+        menu->hide();
+
+        QSignalSpy deleted(m_window.get(), &ProjectWindow::deleteItemTriggered);
+        QSignalSpy copied(m_window.get(), &ProjectWindow::copyItemTriggered);
+        menu->actions().at(1)->trigger();
+        QCOMPARE(deleted.takeFirst(), (QVariantList{QVariant::fromValue(ProjectTree::MapObjectsNode), m_doors->id()}));
+        tree()->setCurrentItem(tree()->itemOf(m_tiles->id()));
+        tree()->showItemContextMenu();
+        QVERIFY(menu->isVisible());
+        menu->hide();
+        menu->actions().at(2)->trigger();
+        QTest::keyClick(tree(), Qt::Key_Delete);
+        const QVariantList tiles{QVariant::fromValue(ProjectTree::TileSetNode), m_tiles->id()};
+        QCOMPARE(copied, QList<QVariantList>{tiles});
+        QCOMPARE(deleted, QList<QVariantList>{tiles});
+    }
 
 private:
     [[nodiscard]] ProjectTree *tree() const { return m_window->tree(); }
     [[nodiscard]] QStringList shownItems() const { return shown(tree()->topLevelItem(0)); }
     [[nodiscard]] QPoint placeOf(const QTreeWidgetItem *item) const { return tree()->visualItemRect(item).center(); }
-    void rename(const QUuid &id, const QString &name);
+    void rename(const QUuid &id, const QString &name)
+    {
+        tree()->setCurrentItem(tree()->itemOf(id));
+        QTest::keyClick(tree(), Qt::Key_F2);
+        auto *editor = tree()->findChild<QLineEdit *>();
+        QVERIFY(editor);
+        editor->setText(name);
+        QTest::keyClick(editor, Qt::Key_Return);
+        QTRY_VERIFY(!tree()->findChild<QLineEdit *>());
+    }
 
     std::unique_ptr<Project> m_project;
     std::unique_ptr<ProjectWindow> m_window;
@@ -56,139 +182,6 @@ private:
     QPointer<Map> m_level;
     QPointer<Image> m_title;
 };
-
-void TestProjectTree::init()
-{
-    m_project = std::make_unique<Project>();
-    m_window = std::make_unique<ProjectWindow>();
-    m_window->setProject(m_project.get());
-    m_window->activate();
-    m_window->resize(300, 500);
-    m_window->show();
-    QCOMPARE(shownItems(), QStringList{"untitled"});
-    const QUuid palette = m_project->createPalette(CreateAction::Blank, "Unlisted")->id();
-    QCOMPARE(shownItems(), QStringList{"untitled"});
-    m_tiles = m_project->createTileSet("Tiles", palette);
-    m_project->createTileSet("Forest", palette);
-    m_doors = m_project->createBlockList("Doors", m_tiles->id());
-    m_hero = m_project->createSpriteBank(Quenmora::FourBit, "Hero", palette);
-    m_level = m_project->createMap("Level", m_tiles->id(), {40, 32});
-    m_title = m_project->createImage(Quenmora::LoRes_128x96, "Title", palette);
-}
-
-void TestProjectTree::listsAssetsByKind()
-{
-    const QStringList all{"untitled", " Tile Sets", "  Forest", "  Tiles", "   Doors", " Sprites",
-                          "  Hero",   " Maps",      "  Level",  " Images", "  Title"};
-    QCOMPARE(shownItems(), all);
-    m_window->setProject(m_project.get()); // which has its assets now
-    QCOMPARE(shownItems(), all);
-    const Qt::GlobalColor colours[]{Qt::blue, Qt::red, Qt::magenta, Qt::green, Qt::cyan, Qt::yellow};
-    const QTreeWidgetItem *groups = tree()->topLevelItem(0);
-    QCOMPARE(groups->childCount(), 6);
-    for (int node = 0; node < 6; ++node) {
-        QCOMPARE(groups->child(node)->data(0, Qt::UserRole), QVariant(node));
-        QCOMPARE(groups->child(node)->foreground(0).color(), QColor(colours[node]).lighter(150));
-    }
-}
-
-void TestProjectTree::followsOneProject()
-{
-    const QUuid tiles = m_tiles->id();
-    m_project->deleteTileSet(tiles);
-    m_window->removeItem(ProjectTree::TileSetNode, tiles);
-    m_window->removeItem(ProjectTree::TileSetNode, tiles);
-    QCOMPARE(shownItems().mid(1, 4), (QStringList{" Tile Sets", "  Forest", " Objects", "  Doors"})); // without tiles
-    Project other;
-    other.createBlockList("Unbound", {});
-    m_window->setProject(&other);
-    m_project->createTileSet("Of the project before", {});
-    QCOMPARE(shownItems(), (QStringList{"untitled", " Objects", "  Unbound"}));
-    m_window->setProject(nullptr);
-    QCOMPARE(tree()->topLevelItemCount(), 0);
-}
-
-void TestProjectTree::activatesByDoubleClickAndEnter()
-{
-    QStringList activated;
-    const auto note = [&](const char *kind, auto signal) {
-        connect(m_window.get(), signal, this, [&activated, kind](QUuid id) { activated.append(kind + id.toString()); });
-    };
-    note("palette", &ProjectWindow::selectedPaletteChanged);
-    note("tiles", &ProjectWindow::selectedTileSetChanged);
-    note("blocks", &ProjectWindow::selectedBlocksChanged);
-    note("sprites", &ProjectWindow::selectedSpritesChanged);
-    note("map", &ProjectWindow::selectedMapChanged);
-    note("image", &ProjectWindow::selectedImageChanged);
-    for (const QUuid &id : {m_tiles->id(), m_doors->id(), m_hero->id(), m_level->id(), m_title->id()}) {
-        QTest::mouseClick(tree()->viewport(), Qt::LeftButton, {}, placeOf(tree()->itemOf(id)));
-        QTest::mouseDClick(tree()->viewport(), Qt::LeftButton, {}, placeOf(tree()->itemOf(id)));
-    }
-    tree()->doubleClickFilter(tree()->topLevelItem(0), 0);
-    tree()->doubleClickFilter(tree()->topLevelItem(0)->child(ProjectTree::MapNode), 0);
-    QTest::keyClick(tree(), Qt::Key_Return);
-    m_window->itemDoubleClicked(ProjectTree::PaletteNode, m_tiles->id());
-    QCOMPARE(activated,
-             (QStringList{"tiles" + m_tiles->id().toString(), "blocks" + m_doors->id().toString(),
-                          "sprites" + m_hero->id().toString(), "map" + m_level->id().toString(),
-                          "image" + m_title->id().toString(), "image" + m_title->id().toString(),
-                          "palette" + m_tiles->id().toString()}));
-}
-
-void TestProjectTree::rename(const QUuid &id, const QString &name)
-{
-    tree()->setCurrentItem(tree()->itemOf(id));
-    QTest::keyClick(tree(), Qt::Key_F2);
-    auto *editor = tree()->findChild<QLineEdit *>();
-    QVERIFY(editor);
-    editor->setText(name);
-    QTest::keyClick(editor, Qt::Key_Return);
-    QTRY_VERIFY(!tree()->findChild<QLineEdit *>());
-}
-
-void TestProjectTree::renamesAndSorts()
-{
-    QSignalSpy renamed(m_window.get(), &ProjectWindow::itemRenamed);
-    rename(m_tiles->id(), "Bricks");
-    QCOMPARE(shownItems().mid(1, 4), (QStringList{" Tile Sets", "  Bricks", "   Doors", "  Forest"}));
-    rename(m_doors->id(), "Gates");
-    rename(m_hero->id(), "Heroine");
-    rename(m_level->id(), "Level 1");
-    rename(m_title->id(), "Titles");
-    rename(m_tiles->id(), "  "); // nobody may have this name
-    QCOMPARE(shownItems(),
-             (QStringList{"untitled", " Tile Sets", "  Bricks", "   Gates", "  Forest", " Sprites", "  Heroine",
-                          " Maps", "  Level 1", " Images", "  Titles"}));
-    QCOMPARE((QStringList{m_tiles->name(), m_doors->name(), m_hero->name(), m_level->name(), m_title->name()}),
-             (QStringList{"Bricks", "Gates", "Heroine", "Level 1", "Titles"}));
-    QCOMPARE(renamed.size(), 5);
-    QCOMPARE(renamed.last(), (QVariantList{m_title->id(), "Titles"}));
-}
-
-void TestProjectTree::offersItsMenuOnAssetsOnly()
-{
-    QMenu *menu = tree()->itemMenu();
-    tree()->showContextMenu(placeOf(tree()->topLevelItem(0)->child(ProjectTree::TileSetNode)));
-    tree()->showContextMenu(placeOf(tree()->topLevelItem(0)));
-    QVERIFY(!menu->isVisible());
-    tree()->showContextMenu(placeOf(tree()->itemOf(m_doors->id())));
-    QVERIFY(menu->isVisible());
-    menu->hide();
-
-    QSignalSpy deleted(m_window.get(), &ProjectWindow::deleteItemTriggered);
-    QSignalSpy copied(m_window.get(), &ProjectWindow::copyItemTriggered);
-    menu->actions().at(1)->trigger();
-    QCOMPARE(deleted.takeFirst(), (QVariantList{QVariant::fromValue(ProjectTree::MapObjectsNode), m_doors->id()}));
-    tree()->setCurrentItem(tree()->itemOf(m_tiles->id()));
-    tree()->showItemContextMenu();
-    QVERIFY(menu->isVisible());
-    menu->hide();
-    menu->actions().at(2)->trigger();
-    QTest::keyClick(tree(), Qt::Key_Delete);
-    const QVariantList tiles{QVariant::fromValue(ProjectTree::TileSetNode), m_tiles->id()};
-    QCOMPARE(copied, QList<QVariantList>{tiles});
-    QCOMPARE(deleted, QList<QVariantList>{tiles});
-}
 
 QUENMORA_TEST_MAIN(TestProjectTree)
 #include "tst_projecttree.moc"

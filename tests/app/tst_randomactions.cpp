@@ -95,17 +95,110 @@ public:
     }
 
 private slots:
-    void initTestCase();
-    void holdsWhateverIsDone();
-    void cleanupTestCase();
+    void initTestCase()
+    {
+        QHashSeed::setDeterministicGlobalSeed();
+        Update::UpdateChecker::setFeedAddress({});
+        EditClock::setSource([this] { return m_time; });
+        s_previousHandler = qInstallMessageHandler(collectWarnings);
+        m_window.emplace();
+        m_window->projectController()->setUnsavedAnswerCallback(
+            [](const QString &) { return ProjectController::Discard; });
+        m_window->projectController()->setFileNameCallback([this] { return m_folder.filePath("game.quenmora"); });
+        m_window->projectController()->newProject("Game");
+        s_warnings.clear();
+    }
+
+    void holdsWhateverIsDone()
+    {
+        bool given = false;
+        quint32 seed = quint32(qEnvironmentVariable("QUENMORA_SEED").toUInt(&given));
+        // A run among all tests does the same everywhere; one by hand looks for something new.
+        if (!given)
+            seed = secondsAsked() > 0 ? QRandomGenerator::system()->generate() : UsualSeed;
+        std::printf("Random actions with QUENMORA_SEED=%u\n", seed);
+        std::fflush(stdout);
+
+        RandomUser user(*m_window, seed);
+        startJournal();
+        QElapsedTimer timer;
+        timer.start();
+        QStringList trail;
+        while (timer.elapsed() < millisecondsToAct()) {
+            const QString problem = step(user);
+            trail.append(user.lastAction());
+            if (!problem.isEmpty()) {
+                const QString last = trail.mid(std::max<qsizetype>(trail.size() - 15, 0)).join(", ");
+                QFAIL(qPrintable(
+                    QStringLiteral("Seed %1, step %2 (%3): %4").arg(seed).arg(trail.size()).arg(last, problem)));
+            }
+        }
+        std::printf("%lld actions in %lld s\n", static_cast<long long>(trail.size()), timer.elapsed() / 1000LL);
+    }
+
+    void cleanupTestCase()
+    {
+        m_window.reset();
+        qInstallMessageHandler(s_previousHandler);
+        EditClock::setSource({});
+    }
 
 private:
     Project &project() { return *m_window->projectController()->project(); }
     QList<QUndoStack *> stacks() { return m_window->documentController()->undoGroup()->stacks(); }
-    bool isDocument(const QUuid &id);
-    void startJournal();
-    void record();
-    QString step(RandomUser &user);
+    /// Whether the project has an asset of this id, or it is the null id of the scratch image.
+    bool isDocument(const QUuid &id)
+    {
+        return id.isNull() || project().palette(id) || project().tileSet(id) || project().map(id)
+            || project().blocks(id) || project().spriteBank(id) || project().image(id);
+    }
+
+    /// Starts where undo cannot go back behind: something changed that is on no stack.
+    void startJournal()
+    {
+        m_window->documentController()->setClean(); // nothing merges into a clean step
+        m_indices.clear();
+        record();
+        m_journal.clear();
+        m_first = contentOf(project());
+    }
+
+    void record()
+    {
+        for (QUndoStack *stack : stacks()) {
+            int &written = m_indices[stack];
+            for (; written < stack->index(); ++written)
+                m_journal.append(stack);
+            written = stack->index();
+        }
+    }
+
+    /// Lets the user act once, and tells what does not hold afterwards.
+    QString step(RandomUser &user)
+    {
+        m_time += 3'600'000;
+        const RandomUser::Effect effect = user.act();
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        if (effect == RandomUser::Lasting)
+            startJournal();
+        else
+            record();
+
+        checkMessages();
+        checkReferences();
+        checkViews();
+        if (user.number(20) == 0)
+            checkUndo(1 + user.number(8));
+        if (user.number(60) == 0)
+            checkUndo(m_journal.size());
+        const int chance = user.number(200);
+        if (chance < 2)
+            checkSaving();
+        if (chance == 1)
+            reopen();
+        return std::exchange(m_problems, {}).join('\n');
+    }
 
     /// Notes what does not hold.
     void expect(bool holds, const QString &problem)
@@ -118,13 +211,149 @@ private:
         const QString changed = difference(before, after);
         expect(changed.isEmpty(), when + ": " + changed);
     }
-    void checkMessages();
-    void checkReferences();
-    void checkMaps();
-    void checkViews();
-    void checkUndo(qsizetype depth);
-    void checkSaving();
-    void reopen();
+    void checkMessages()
+    {
+        const QStringList refusals{"Palette In Use", "Tile Set In Use", "Objects in use"};
+        for (MessageDialog *dialog = m_window->messageDialog(); dialog->isVisible(); dialog->accept())
+            expect(refusals.contains(dialog->windowTitle()), "message: " + dialog->text());
+        const QStringList warnings = std::exchange(s_warnings, {});
+        expect(warnings.isEmpty(), warnings.join('\n'));
+    }
+
+    void checkReferences()
+    {
+        const auto palettes = project().palettes();
+        const auto tileSets = project().tileSets();
+        const auto blockSets = project().blockSets();
+        const auto expectOneOf = [this](const auto &asset, const auto &assets, const QString &what) {
+            expect(!asset || assets.contains(asset), what + " is not of the project");
+        };
+        for (const auto &image : project().images())
+            expectOneOf(image->palette(), palettes, "the palette of an image");
+        for (const auto &tileSet : tileSets) {
+            expectOneOf(tileSet->palette(), palettes, "the palette of a tile set");
+            for (const auto &blocks : tileSet->blockSets())
+                expect(blockSets.contains(blocks), "a tile set knows a block set that is gone");
+        }
+        for (const auto &blocks : blockSets) {
+            const QPointer<TileSet> tileSet = blocks->tileSet();
+            expectOneOf(tileSet, tileSets, "the tile set of a block set");
+            expect(!tileSet || tileSet->blockSets().contains(blocks->id()), "a tile set does not know its block set");
+        }
+        for (const auto &bank : project().spriteBanks()) {
+            expectOneOf(bank->palette(), palettes, "the palette of a sprite bank");
+            expect(bank->count() > 0, "a sprite bank without sprites");
+            for (const auto &animation : bank->animations()) {
+                expect(animation && animation->frameCount() > 0, "a sprite animation without frames");
+                for (int frame = 0; frame < animation->frameCount(); ++frame)
+                    expect(animation->frame(frame)->size() == animation->size(), "a frame of another size");
+            }
+        }
+        checkMaps();
+    }
+
+    void checkMaps()
+    {
+        for (const auto &map : project().maps()) {
+            expect(map->tileSet() && map->tileSet() == project().tileSet(map->tileSetId()),
+                   "a map without its tile set");
+            expect(map->objectLayer() && map->objectLayer()->size() == map->size(), "layers of different sizes");
+            expect(!map->size().isEmpty(), "an empty map");
+            for (const auto &placement : map->animatedBlocks()->list())
+                expect(QRect(QPoint(), map->size()).intersects(placement->area()), "an animation beside the map");
+            const int tiles = std::max(map->tileSet() ? map->tileSet()->count() : 0, 1);
+            const auto shown = [tiles](const TileMap::TileData &cell) { return cell.index >= 0 && cell.index < tiles; };
+            for (const TileMap::Row &row : map->tileLayer()->rows())
+                expect(std::all_of(row.cbegin(), row.cend(), shown), "a cell shows a tile that is not there");
+            for (const auto &sprite : map->sprites()) {
+                const QPointer<SpriteBank> bank = project().spriteBank(sprite.bank);
+                expect(!bank || !sprite.animation.isNull() || sprite.sprite < bank->count(),
+                       "a placed sprite that is not there");
+            }
+        }
+    }
+
+    void checkViews()
+    {
+        const DocumentViews &views = m_window->views();
+        const auto expectShown = [this](const auto *asset, const QString &view) {
+            expect(!asset || isDocument(asset->id()), view + " shows an asset that is gone");
+        };
+        const auto expectPixels = [&](const Canvas *canvas, const QImage &picture, const QString &view) {
+            expect(indices(canvas->image()) == indices(picture), view + " shows other pixels than the asset has");
+        };
+        const TileSet *tileSet = views.tileEditor->tileSet();
+        const SpriteBank *bank = views.spriteEditor->sprites();
+        expectShown(views.palette->palette(), "the palette dock");
+        expectShown(views.tilePicker->grid()->tileSet(), "the tile picker");
+        expectShown(tileSet, "the tile editor");
+        expectShown(bank, "the sprite editor");
+        if (tileSet && tileSet->tile(views.tileEditor->tileIndex()))
+            expectPixels(views.tileEditor->canvas(), tileSet->image(views.tileEditor->tileIndex()), "the tile editor");
+        if (bank) {
+            const int index = views.spriteEditor->spriteIndex();
+            expect(index >= 0 && index < bank->count(), "the sprite editor shows a sprite that is not there");
+            expectPixels(views.spriteEditor->canvas(), bank->spriteImage(index, false, false, false),
+                         "the sprite editor");
+        }
+        for (int tab = 0; tab < views.tabs->count(); ++tab) {
+            QWidget *page = views.tabs->widget(tab);
+            expect(isDocument(DocumentTabView::documentId(page)), "a tab shows an asset that is gone");
+            if (const auto *editor = qobject_cast<ImageEditor::View *>(page))
+                expectPixels(editor->canvas(), editor->image() ? editor->image()->image() : project().scratchImage(),
+                             "an image editor");
+        }
+    }
+
+    /// Undoes the last steps and does them again; when these are all, the first state must come back.
+    void checkUndo(qsizetype depth)
+    {
+        depth = std::min(depth, m_journal.size());
+        const ProjectMembers last = contentOf(project());
+        QStringList texts;
+        for (qsizetype count = 1; count <= depth; ++count) {
+            QUndoStack *stack = m_journal.at(m_journal.size() - count);
+            texts.prepend(stack->undoText());
+            stack->undo();
+        }
+        QCoreApplication::processEvents();
+        checkReferences();
+        checkViews();
+        if (depth == m_journal.size())
+            expectSame(m_first, contentOf(project()), "undone to the first step, " + texts.join(", "));
+        for (qsizetype count = depth; count > 0; --count)
+            m_journal.at(m_journal.size() - count)->redo();
+        QCoreApplication::processEvents();
+        expectSame(last, contentOf(project()), "redone to the last step, " + texts.join(", "));
+    }
+
+    void checkSaving()
+    {
+        for (const auto &map : project().maps())
+            map->restampAnimations(project().blockSets()); // as opening does, which clears what was drawn below them
+        startJournal();
+        ProjectController *controller = m_window->projectController();
+        controller->save();
+        expect(!controller->isModified(), "modified after saving");
+        expectSame(m_first, contentOf(project()), "changed by saving");
+        ProjectStore store;
+        const Project *read = store.newProject({});
+        expect(store.load(controller->filePath()), "the saved file cannot be read");
+        expectSame(m_first, store.project() ? contentOf(*read) : ProjectMembers(), "the saved file");
+    }
+
+    void reopen()
+    {
+        const ProjectMembers saved = m_first;
+        ProjectController *controller = m_window->projectController();
+        const QString file = controller->filePath();
+        controller->close();
+        controller->openProject(file);
+        QCoreApplication::processEvents();
+        expectSame(saved, contentOf(project()), "changed by opening");
+        expect(!controller->isModified(), "modified after opening");
+        startJournal();
+    }
 
     QTemporaryDir m_folder;
     std::optional<MainWindow> m_window;
@@ -137,254 +366,11 @@ private:
     QStringList m_problems; ///< what the last step has shown
 };
 
-void TestRandomActions::initTestCase()
-{
-    QHashSeed::setDeterministicGlobalSeed();
-    Update::UpdateChecker::setFeedAddress({});
-    EditClock::setSource([this] { return m_time; });
-    s_previousHandler = qInstallMessageHandler(collectWarnings);
-    m_window.emplace();
-    m_window->projectController()->setUnsavedAnswerCallback([](const QString &) { return ProjectController::Discard; });
-    m_window->projectController()->setFileNameCallback([this] { return m_folder.filePath("game.quenmora"); });
-    m_window->projectController()->newProject("Game");
-    s_warnings.clear();
-}
-
-void TestRandomActions::cleanupTestCase()
-{
-    m_window.reset();
-    qInstallMessageHandler(s_previousHandler);
-    EditClock::setSource({});
-}
-
-void TestRandomActions::holdsWhateverIsDone()
-{
-    bool given = false;
-    quint32 seed = quint32(qEnvironmentVariable("QUENMORA_SEED").toUInt(&given));
-    // A run among all tests does the same everywhere; one by hand looks for something new.
-    if (!given)
-        seed = secondsAsked() > 0 ? QRandomGenerator::system()->generate() : UsualSeed;
-    std::printf("Random actions with QUENMORA_SEED=%u\n", seed);
-    std::fflush(stdout);
-
-    RandomUser user(*m_window, seed);
-    startJournal();
-    QElapsedTimer timer;
-    timer.start();
-    QStringList trail;
-    while (timer.elapsed() < millisecondsToAct()) {
-        const QString problem = step(user);
-        trail.append(user.lastAction());
-        if (!problem.isEmpty()) {
-            const QString last = trail.mid(std::max<qsizetype>(trail.size() - 15, 0)).join(", ");
-            QFAIL(
-                qPrintable(QStringLiteral("Seed %1, step %2 (%3): %4").arg(seed).arg(trail.size()).arg(last, problem)));
-        }
-    }
-    std::printf("%lld actions in %lld s\n", static_cast<long long>(trail.size()), timer.elapsed() / 1000LL);
-}
-
-/// Lets the user act once, and tells what does not hold afterwards.
-QString TestRandomActions::step(RandomUser &user)
-{
-    m_time += 3'600'000;
-    const RandomUser::Effect effect = user.act();
-    QCoreApplication::processEvents();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    if (effect == RandomUser::Lasting)
-        startJournal();
-    else
-        record();
-
-    checkMessages();
-    checkReferences();
-    checkViews();
-    if (user.number(20) == 0)
-        checkUndo(1 + user.number(8));
-    if (user.number(60) == 0)
-        checkUndo(m_journal.size());
-    const int chance = user.number(200);
-    if (chance < 2)
-        checkSaving();
-    if (chance == 1)
-        reopen();
-    return std::exchange(m_problems, {}).join('\n');
-}
-
 // The order of undo steps over all documents
-
-/// Starts where undo cannot go back behind: something changed that is on no stack.
-void TestRandomActions::startJournal()
-{
-    m_window->documentController()->setClean(); // nothing merges into a clean step
-    m_indices.clear();
-    record();
-    m_journal.clear();
-    m_first = contentOf(project());
-}
-
-void TestRandomActions::record()
-{
-    for (QUndoStack *stack : stacks()) {
-        int &written = m_indices[stack];
-        for (; written < stack->index(); ++written)
-            m_journal.append(stack);
-        written = stack->index();
-    }
-}
-
-/// Undoes the last steps and does them again; when these are all, the first state must come back.
-void TestRandomActions::checkUndo(qsizetype depth)
-{
-    depth = std::min(depth, m_journal.size());
-    const ProjectMembers last = contentOf(project());
-    QStringList texts;
-    for (qsizetype count = 1; count <= depth; ++count) {
-        QUndoStack *stack = m_journal.at(m_journal.size() - count);
-        texts.prepend(stack->undoText());
-        stack->undo();
-    }
-    QCoreApplication::processEvents();
-    checkReferences();
-    checkViews();
-    if (depth == m_journal.size())
-        expectSame(m_first, contentOf(project()), "undone to the first step, " + texts.join(", "));
-    for (qsizetype count = depth; count > 0; --count)
-        m_journal.at(m_journal.size() - count)->redo();
-    QCoreApplication::processEvents();
-    expectSame(last, contentOf(project()), "redone to the last step, " + texts.join(", "));
-}
 
 // What must hold after every action
 
-void TestRandomActions::checkMessages()
-{
-    const QStringList refusals{"Palette In Use", "Tile Set In Use", "Objects in use"};
-    for (MessageDialog *dialog = m_window->messageDialog(); dialog->isVisible(); dialog->accept())
-        expect(refusals.contains(dialog->windowTitle()), "message: " + dialog->text());
-    const QStringList warnings = std::exchange(s_warnings, {});
-    expect(warnings.isEmpty(), warnings.join('\n'));
-}
-
-void TestRandomActions::checkReferences()
-{
-    const auto palettes = project().palettes();
-    const auto tileSets = project().tileSets();
-    const auto blockSets = project().blockSets();
-    const auto expectOneOf = [this](const auto &asset, const auto &assets, const QString &what) {
-        expect(!asset || assets.contains(asset), what + " is not of the project");
-    };
-    for (const auto &image : project().images())
-        expectOneOf(image->palette(), palettes, "the palette of an image");
-    for (const auto &tileSet : tileSets) {
-        expectOneOf(tileSet->palette(), palettes, "the palette of a tile set");
-        for (const auto &blocks : tileSet->blockSets())
-            expect(blockSets.contains(blocks), "a tile set knows a block set that is gone");
-    }
-    for (const auto &blocks : blockSets) {
-        const QPointer<TileSet> tileSet = blocks->tileSet();
-        expectOneOf(tileSet, tileSets, "the tile set of a block set");
-        expect(!tileSet || tileSet->blockSets().contains(blocks->id()), "a tile set does not know its block set");
-    }
-    for (const auto &bank : project().spriteBanks()) {
-        expectOneOf(bank->palette(), palettes, "the palette of a sprite bank");
-        expect(bank->count() > 0, "a sprite bank without sprites");
-        for (const auto &animation : bank->animations()) {
-            expect(animation && animation->frameCount() > 0, "a sprite animation without frames");
-            for (int frame = 0; frame < animation->frameCount(); ++frame)
-                expect(animation->frame(frame)->size() == animation->size(), "a frame of another size");
-        }
-    }
-    checkMaps();
-}
-
-void TestRandomActions::checkMaps()
-{
-    for (const auto &map : project().maps()) {
-        expect(map->tileSet() && map->tileSet() == project().tileSet(map->tileSetId()), "a map without its tile set");
-        expect(map->objectLayer() && map->objectLayer()->size() == map->size(), "layers of different sizes");
-        expect(!map->size().isEmpty(), "an empty map");
-        for (const auto &placement : map->animatedBlocks()->list())
-            expect(QRect(QPoint(), map->size()).intersects(placement->area()), "an animation beside the map");
-        const int tiles = std::max(map->tileSet() ? map->tileSet()->count() : 0, 1);
-        const auto shown = [tiles](const TileMap::TileData &cell) { return cell.index >= 0 && cell.index < tiles; };
-        for (const TileMap::Row &row : map->tileLayer()->rows())
-            expect(std::all_of(row.cbegin(), row.cend(), shown), "a cell shows a tile that is not there");
-        for (const auto &sprite : map->sprites()) {
-            const QPointer<SpriteBank> bank = project().spriteBank(sprite.bank);
-            expect(!bank || !sprite.animation.isNull() || sprite.sprite < bank->count(),
-                   "a placed sprite that is not there");
-        }
-    }
-}
-
-/// Whether the project has an asset of this id, or it is the null id of the scratch image.
-bool TestRandomActions::isDocument(const QUuid &id)
-{
-    return id.isNull() || project().palette(id) || project().tileSet(id) || project().map(id) || project().blocks(id)
-        || project().spriteBank(id) || project().image(id);
-}
-
-void TestRandomActions::checkViews()
-{
-    const DocumentViews &views = m_window->views();
-    const auto expectShown = [this](const auto *asset, const QString &view) {
-        expect(!asset || isDocument(asset->id()), view + " shows an asset that is gone");
-    };
-    const auto expectPixels = [&](const Canvas *canvas, const QImage &picture, const QString &view) {
-        expect(indices(canvas->image()) == indices(picture), view + " shows other pixels than the asset has");
-    };
-    const TileSet *tileSet = views.tileEditor->tileSet();
-    const SpriteBank *bank = views.spriteEditor->sprites();
-    expectShown(views.palette->palette(), "the palette dock");
-    expectShown(views.tilePicker->grid()->tileSet(), "the tile picker");
-    expectShown(tileSet, "the tile editor");
-    expectShown(bank, "the sprite editor");
-    if (tileSet && tileSet->tile(views.tileEditor->tileIndex()))
-        expectPixels(views.tileEditor->canvas(), tileSet->image(views.tileEditor->tileIndex()), "the tile editor");
-    if (bank) {
-        const int index = views.spriteEditor->spriteIndex();
-        expect(index >= 0 && index < bank->count(), "the sprite editor shows a sprite that is not there");
-        expectPixels(views.spriteEditor->canvas(), bank->spriteImage(index, false, false, false), "the sprite editor");
-    }
-    for (int tab = 0; tab < views.tabs->count(); ++tab) {
-        QWidget *page = views.tabs->widget(tab);
-        expect(isDocument(DocumentTabView::documentId(page)), "a tab shows an asset that is gone");
-        if (const auto *editor = qobject_cast<ImageEditor::View *>(page))
-            expectPixels(editor->canvas(), editor->image() ? editor->image()->image() : project().scratchImage(),
-                         "an image editor");
-    }
-}
-
 // Saving
-
-void TestRandomActions::checkSaving()
-{
-    for (const auto &map : project().maps())
-        map->restampAnimations(project().blockSets()); // as opening does, which clears what was drawn below them
-    startJournal();
-    ProjectController *controller = m_window->projectController();
-    controller->save();
-    expect(!controller->isModified(), "modified after saving");
-    expectSame(m_first, contentOf(project()), "changed by saving");
-    ProjectStore store;
-    const Project *read = store.newProject({});
-    expect(store.load(controller->filePath()), "the saved file cannot be read");
-    expectSame(m_first, store.project() ? contentOf(*read) : ProjectMembers(), "the saved file");
-}
-
-void TestRandomActions::reopen()
-{
-    const ProjectMembers saved = m_first;
-    ProjectController *controller = m_window->projectController();
-    const QString file = controller->filePath();
-    controller->close();
-    controller->openProject(file);
-    QCoreApplication::processEvents();
-    expectSame(saved, contentOf(project()), "changed by opening");
-    expect(!controller->isModified(), "modified after opening");
-    startJournal();
-}
 
 QUENMORA_TEST_MAIN(TestRandomActions)
 #include "tst_randomactions.moc"

@@ -35,74 +35,70 @@ class TestPreferences : public QObject
     Q_OBJECT
 
 private slots:
-    void everySettingIsReadBackOrFallsBack();
-    void onlySaveKeepsChanges();
-    void chosenColourGoesToItsButton();
-};
-
-void TestPreferences::everySettingIsReadBackOrFallsBack()
-{
-    PreferencesDialog dialog;
-    QCOMPARE(dialog.toJson(), Defaults);
-    dialog.fromJson(Unusable);
-    QCOMPARE(dialog.toJson(), Defaults);
-    dialog.fromJson(Changed);
-    dialog.fromJson({});
-    QCOMPARE(dialog.toJson(), Changed);
-    // what is missing: defaults on the general page, present values on the map editor page
-    dialog.fromJson(QJsonDocument(QJsonArray{1, 2}));
-    QCOMPARE(dialog.generalPage()->toJson(), Defaults["general"].toObject());
-    MapEditorPage *page = dialog.mapEditorPage();
-    QCOMPARE(page->toJson(), Changed["mapEditor"].toObject());
-    page->fromJson({{"gridSize", 100'000}, {"defaultZoom", -3}, {"gridColour1", "no colour"}});
-    QVERIFY(page->gridSize() == 256 && page->defaultZoom() == 1 && !page->gridColour1().isValid());
-    for (const char *interval : {"hourly", "Daily", ""}) {
-        dialog.generalPage()->fromJson({{"updateInterval", "daily"}});
-        dialog.generalPage()->fromJson({{"updateInterval", interval}});
-        QCOMPARE(dialog.generalPage()->updateInterval(), "weekly");
+    void everySettingIsReadBackOrFallsBack()
+    {
+        PreferencesDialog dialog;
+        QCOMPARE(dialog.toJson(), Defaults);
+        dialog.fromJson(Unusable);
+        QCOMPARE(dialog.toJson(), Defaults);
+        dialog.fromJson(Changed);
+        dialog.fromJson({});
+        QCOMPARE(dialog.toJson(), Changed);
+        // what is missing: defaults on the general page, present values on the map editor page
+        dialog.fromJson(QJsonDocument(QJsonArray{1, 2}));
+        QCOMPARE(dialog.generalPage()->toJson(), Defaults["general"].toObject());
+        MapEditorPage *page = dialog.mapEditorPage();
+        QCOMPARE(page->toJson(), Changed["mapEditor"].toObject());
+        page->fromJson({{"gridSize", 100'000}, {"defaultZoom", -3}, {"gridColour1", "no colour"}});
+        QVERIFY(page->gridSize() == 256 && page->defaultZoom() == 1 && !page->gridColour1().isValid());
+        for (const char *interval : {"hourly", "Daily", ""}) {
+            dialog.generalPage()->fromJson({{"updateInterval", "daily"}});
+            dialog.generalPage()->fromJson({{"updateInterval", interval}});
+            QCOMPARE(dialog.generalPage()->updateInterval(), "weekly");
+        }
     }
-}
 
-void TestPreferences::onlySaveKeepsChanges()
-{
-    PreferencesDialog dialog;
-    const auto *buttons = dialog.findChild<QDialogButtonBox *>();
-    const std::function<void()> rejections[] = {[&] { buttons->button(QDialogButtonBox::Cancel)->click(); },
-                                                [&] { QTest::keyClick(&dialog, Qt::Key_Escape); },
-                                                [&] { dialog.close(); }};
-    for (const auto &reject : rejections) {
+    void onlySaveKeepsChanges()
+    {
+        PreferencesDialog dialog;
+        const auto *buttons = dialog.findChild<QDialogButtonBox *>();
+        const std::function<void()> rejections[] = {[&] { buttons->button(QDialogButtonBox::Cancel)->click(); },
+                                                    [&] { QTest::keyClick(&dialog, Qt::Key_Escape); },
+                                                    [&] { dialog.close(); }};
+        for (const auto &reject : rejections) {
+            dialog.show();
+            dialog.fromJson(Changed);
+            reject();
+            QVERIFY(!dialog.isVisible());
+            QCOMPARE(dialog.toJson(), Defaults);
+        }
         dialog.show();
         dialog.fromJson(Changed);
-        reject();
+        buttons->button(QDialogButtonBox::Save)->click();
         QVERIFY(!dialog.isVisible());
-        QCOMPARE(dialog.toJson(), Defaults);
+        QCOMPARE(dialog.toJson(), Changed);
     }
-    dialog.show();
-    dialog.fromJson(Changed);
-    buttons->button(QDialogButtonBox::Save)->click();
-    QVERIFY(!dialog.isVisible());
-    QCOMPARE(dialog.toJson(), Changed);
-}
 
-void TestPreferences::chosenColourGoesToItsButton()
-{
-    MapEditorPage page;
-    page.show();
-    const auto buttons = page.findChildren<ColourButton *>();
-    buttons.at(1)->click();
-    auto *chooser = page.findChild<QColorDialog *>();
-    QVERIFY(chooser->isVisible() && chooser->isModal());
-    QCOMPARE(chooser->currentColor(), QColor(80, 80, 80));
-    chooser->setCurrentColor(QColor(1, 2, 3));
-    chooser->accept();
-    QCOMPARE(page.gridColour2(), QColor(1, 2, 3));
-    QCOMPARE(buttons.at(1)->icon().pixmap(QSize(48, 16), 1.0).toImage().pixelColor(20, 8), QColor(1, 2, 3));
-    buttons.at(0)->click();
-    QCOMPARE(page.findChildren<QColorDialog *>().size(), 1);
-    chooser->setCurrentColor(QColor(9, 9, 9));
-    chooser->reject();
-    QCOMPARE(page.gridColour1(), QColor(64, 64, 64));
-}
+    void chosenColourGoesToItsButton()
+    {
+        MapEditorPage page;
+        page.show();
+        const auto buttons = page.findChildren<ColourButton *>();
+        buttons.at(1)->click();
+        auto *chooser = page.findChild<QColorDialog *>();
+        QVERIFY(chooser->isVisible() && chooser->isModal());
+        QCOMPARE(chooser->currentColor(), QColor(80, 80, 80));
+        chooser->setCurrentColor(QColor(1, 2, 3));
+        chooser->accept();
+        QCOMPARE(page.gridColour2(), QColor(1, 2, 3));
+        QCOMPARE(buttons.at(1)->icon().pixmap(QSize(48, 16), 1.0).toImage().pixelColor(20, 8), QColor(1, 2, 3));
+        buttons.at(0)->click();
+        QCOMPARE(page.findChildren<QColorDialog *>().size(), 1);
+        chooser->setCurrentColor(QColor(9, 9, 9));
+        chooser->reject();
+        QCOMPARE(page.gridColour1(), QColor(64, 64, 64));
+    }
+};
 
 QUENMORA_TEST_MAIN(TestPreferences)
 #include "tst_preferences.moc"

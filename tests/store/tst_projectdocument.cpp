@@ -87,21 +87,11 @@ class TestProjectDocument : public QObject
     Q_OBJECT
 
 private slots:
-    void readsAndWritesEveryKeyAndMember();
-    void missingAndUnusableValuesTakeTheirDefaults();
-    void takesWhatFits();
-    void refusesWhatNoDefaultCanReplace();
-    void choosesAScratchPalette();
-    void takesAScratchImageThatFits();
-    void stampsPlacementsIntoTheObjectLayer();
-    void savesWhatHasNoTilesOrColoursAndTellsWhatIsLost();
-};
-
-void TestProjectDocument::readsAndWritesEveryKeyAndMember()
-{
-    ProjectMembers members = leastMembers();
-    setDocument(members,
-                json(R"({
+    void readsAndWritesEveryKeyAndMember()
+    {
+        ProjectMembers members = leastMembers();
+        setDocument(members,
+                    json(R"({
         'formatVersion': 2, 'id': '<1>', 'name': '\u0022\u00e9%1', 'opendocuments': ['map', 'image'], 'scratchPalette': '<1>',
         'screen_size': {'width': 256, 'height': 192}, 'play_area': {'x': -1, 'y': 2, 'width': 3, 'height': 4},
         'palettes': [{'id': '<1>', 'name': 'P', 'transparency_index': 227}],
@@ -125,184 +115,187 @@ void TestProjectDocument::readsAndWritesEveryKeyAndMember()
             'frames': [{'id': '<1>', 'anim': [{'index': 9, 'offset': 0, 'flip': true, 'mirror': false,
             'rotate': true}, {'index': 0, 'offset': 0, 'flip': false, 'mirror': true, 'rotate': false}]}]}]}],
         'images': [{'id': '<1>', 'name': 'I', 'palette': '<1>', 'type': 3}]})")
-                    .toObject());
-    members.insert("tilemap/" + First, OneCell + FirstId.toRfc4122());
-    members.insert("scratch.png", png(gradient({256, 192})));
+                        .toObject());
+        members.insert("tilemap/" + First, OneCell + FirstId.toRfc4122());
+        members.insert("scratch.png", png(gradient({256, 192})));
 
-    Project project;
-    read(project, members);
-    ProjectMembers written = serializeProject(project, true);
-    QCOMPARE(written.keys(), members.keys());
-    replace(written, {"palettes", "0", "colours"}, QJsonValue::Undefined);
-    QCOMPARE(withoutSpriteFrameIds(written).value("project.json"),
-             withoutSpriteFrameIds(members).value("project.json"));
-    QVERIFY2(written.value("project.json") != members.value("project.json"), "sprite animations have new frame ids");
-    QCOMPARE(written.value("tilemap/" + First), members.value("tilemap/" + First));
-    for (const QString &name : members.keys().filter(".png")) {
-        const QImage picture = QImage::fromData(written.value(name), "png");
-        QVERIFY(picture.format() == QImage::Format_Indexed8 && picture.colorCount() == 256);
-        QCOMPARE(indices(picture), indices(QImage::fromData(members.value(name), "png")));
-    }
-    QVERIFY(!documentOf(serializeProject(project, false)).contains("opendocuments"));
-}
-
-void TestProjectDocument::missingAndUnusableValuesTakeTheirDefaults()
-{
-    const QJsonValue defaults = json(
-        "{'formatVersion': 2, 'id': '<0>', 'name': '', 'scratchPalette': '<1>', "
-        "'screen_size': {'width': 320, 'height': 256}, 'play_area': {'x': 0, 'y': 0, 'width': 320, 'height': 256}, "
-        "'palettes': [{'id': '<1>', 'name': '', 'transparency_index': -1}], "
-        "'tilesets': [{'id': '<1>', 'name': '', 'hires': false, 'palette': '', 'count': 2, "
-        "'offsets': [0, 0], 'tiles': [{'offset': 0, 'attributes': 0, 'value': 0}, {}]}], "
-        "'maps': [{'id': '<1>', 'name': '', 'tileset': '<0>', 'tile_transparency': -1, 'grid_visible': true, "
-        "'backgroundTileIndex': -1, 'tileLayerVisible': true, 'objectLayerVisible': false, "
-        "'spriteLayerVisible': true}], 'mapObjects': [{'id': '<1>', 'name': '', 'tiles': '', 'animations': "
-        "[{'id': '<1>', 'name': '', 'width': 0, 'height': 0, 'delay': 0, 'type': 0}]}], "
-        "'sprites': [{'id': '<1>', 'name': '', 'palette': '', 'transparency': -1, 'depth': 1, "
-        "'animations': [{'id': '<1>', 'width': 1, 'height': 1, 'delay': 0}]}], "
-        "'images': [{'id': '<1>', 'name': '', 'palette': '', 'type': 0}]}");
-    const QJsonObject kinds = defaults.toObject();
-    for (const QJsonValue &wrong : {QJsonValue(QJsonValue::Undefined), json("null"), json("0.5"), json("2147483648"),
-                                    json("1e300"), json("['x']")}) {
-        // every key of an asset but its id, its contents and how many there are of them
-        ProjectMembers members = leastMembers();
-        for (auto kind = kinds.begin(); kind != kinds.end(); ++kind) {
-            const QJsonObject asset = kind.value()[0].toObject();
-            for (auto member = asset.begin(); member != asset.end(); ++member) {
-                if (member.key() != "id" && member.key() != "count" && !member.value().isArray())
-                    replace(members, {kind.key(), "0", member.key()}, wrong);
-            }
-        }
-        const QJsonObject document = documentOf(rewritten(members));
-        QVERIFY2(matches(document, defaults), shown(wrong) + shown(document));
-    }
-}
-
-void TestProjectDocument::takesWhatFits()
-{
-    // a few letters for so many cells, each of which would be saved as a hundred
-    const QByteArray frames = "[{'width': 256, 'height': 256, 'frames': [{}, {}, {}, {}, {}]}]";
-    const std::tuple<const char *, const char *, QByteArray, QByteArray> cases[] = {
-        {"palettes", "colours", "[7, 32768]", "[7, 32768" + QByteArray(", 0").repeated(254) + "]"},
-        {"palettes", "colours", "[7" + QByteArray(", 257").repeated(299) + "]",
-         "[7" + QByteArray(", 257").repeated(255) + "]"},
-        {"tilesets", "offsets", "[1, 2, 3]", "[1, 2]"},
-        {"tilesets", "tiles", "[{'offset': 7}, {'value': 3}, {}]", "[{'offset': 7}, {'offset': 0, 'value': 3}]"},
-        {"sprites", "offsets", "[-1, 300, 1e300, 'x']", "[-1, 44, 0, 0]"},
-        {"sprites", "depth", "-1", "1"},
-        {"sprites", "animations", frames, "[{'width': 1, 'height': 1}]"},
-        {"images", "type", "7", "0"},
-        {"maps", "animations", "[{}, {'x': 3, 'width': 257, 'height': 1e300}]",
-         "[{'id': '<0>', 'x': 3, 'y': 0, 'width': 0, 'height': 0}]"},
-        {"maps", "sprites", "[{'y': '7', 'mirror': 1}]",
-         "[{'bank': '<0>', 'animation': '<0>', 'sprite': -1, 'x': 0, 'y': 0, 'mirror': false, 'name': ''}]"},
-        {"mapObjects", "animations", frames, "[{'width': 0, 'height': 0}]"},
-        {"mapObjects", "animations", // cells that are missing, and one too many
-         "[{'width': 3, 'height': 2, 'frames': [{'id': '<2>', 'tileData': [{'index': 1}, {}, {}, {'index': 4, "
-         "'rotate': true, 'offset': 9}]}, {'tileData': [{}, {}, {}, {}, {}, {'index': 6}, {'index': 7}]}]}]",
-         "[{'width': 3, 'height': 2, 'frames': [{'id': '<2>', 'tileData': [{'index': 1}, {'index': 0}, {}, "
-         "{'index': 4, 'rotate': true, 'offset': 9}, {'index': 0, 'offset': 0, 'rotate': false}, {}]}, "
-         "{'tileData': [{}, {}, {}, {}, {}, {'index': 6}]}]}]"},
-    };
-    for (const auto &[kind, key, stored, expected] : cases) {
-        ProjectMembers members = leastMembers();
-        replace(members, {kind, "0", key}, json(stored));
-        const QJsonValue value = valueAt(documentOf(rewritten(members)), {kind, "0", key});
-        QVERIFY2(matches(value, json(expected)), kind + shown(value));
-    }
-}
-
-void TestProjectDocument::refusesWhatNoDefaultCanReplace()
-{
-    const QString newer = "Project file is from a newer version of Quenmora";
-    const QString unfit = "Error setting tile set anim - Name %1";
-    const QString strip = "tileset/" + First + ".png";
-    const QString cells = "tilemap/" + First;
-    const QString sprites = "sprite/" + First + ".png";
-    const QString image = "images/" + First + ".png";
-    const std::tuple<QString, QByteArray, QString> cases[] = {
-        {"project.json", "", "Invalid project file"},
-        {"project.json", R"({"formatVersion": 3, "tilesets": [{}]})", newer},
-        {"project.json", R"({"formatVersion": 3000000000})", newer},
-        {strip, "", "Failed to load tile set tileImage \"" + strip + "\" from project file"},
-        {strip, "no picture", unfit},
-        {strip, png(gradient({8, 8})), unfit},
-        {strip, png(gradient({16, 16})), unfit},
-        {strip, png(gradient({8, 16}).convertToFormat(QImage::Format_RGB32)), unfit},
-        {cells, "", "Failed to load tile map anim for map Name %1"},
-        {cells, OneCell.chopped(1), "Failed to load tile map anim for map Name %1"},
-        {sprites, "", "Project has a missing sprite anim"},
-        {sprites, OneCell, "Project has a missing sprite anim"},
-        {image, "", "Failed to load tile image Name %1"},
-        {image, OneCell, "Failed to load tile image Name %1"},
-    };
-    for (const auto &[member, bytes, message] : cases) {
-        ProjectMembers members = leastMembers();
-        for (const char *kind : {"tilesets", "maps", "sprites", "images"})
-            replace(members, {kind, "0", "name"}, "Name %1");
-        members.insert(member, bytes);
-        Project project;
-        QString error;
-        QVERIFY(!readProject(project, readerOf(members), error));
-        QCOMPARE(error, message);
-    }
-}
-
-void TestProjectDocument::choosesAScratchPalette()
-{
-    const auto chosen = [](const ProjectMembers &members) {
-        return documentOf(rewritten(members)).value("scratchPalette").toString();
-    };
-    QCOMPARE(chosen({{"project.json", "{\"name\": \"cut"}}), QUuid().toString()); // an empty project
-    for (const QString &stored : {Second, QUuid::createUuid().toString(), QUuid().toString()}) {
-        ProjectMembers members;
-        setDocument(members, json("{'palettes': [{'id': '<1>'}, {'id': '<2>'}]}").toObject());
-        replace(members, {"scratchPalette"}, stored);
-        QCOMPARE(chosen(members), stored == Second ? Second : First);
-    }
-}
-
-void TestProjectDocument::takesAScratchImageThatFits()
-{
-    const QImage whole = gradient({256, 192});
-    for (const auto &[scratch, loads] : {std::pair{png(whole), true},
-                                         {QByteArray("GIF89a"), false},
-                                         {png(gradient({255, 192})), false},
-                                         {png(whole.convertToFormat(QImage::Format_RGB32)), false}}) {
-        ProjectMembers members = leastMembers();
-        members.insert("scratch.png", scratch);
         Project project;
         read(project, members);
-        QCOMPARE(indices(project.scratchImage()), loads ? indices(whole) : QByteArray(256 * 192, 0));
+        ProjectMembers written = serializeProject(project, true);
+        QCOMPARE(written.keys(), members.keys());
+        replace(written, {"palettes", "0", "colours"}, QJsonValue::Undefined);
+        QCOMPARE(withoutSpriteFrameIds(written).value("project.json"),
+                 withoutSpriteFrameIds(members).value("project.json"));
+        QVERIFY2(written.value("project.json") != members.value("project.json"),
+                 "sprite animations have new frame ids");
+        QCOMPARE(written.value("tilemap/" + First), members.value("tilemap/" + First));
+        for (const QString &name : members.keys().filter(".png")) {
+            const QImage picture = QImage::fromData(written.value(name), "png");
+            QVERIFY(picture.format() == QImage::Format_Indexed8 && picture.colorCount() == 256);
+            QCOMPARE(indices(picture), indices(QImage::fromData(members.value(name), "png")));
+        }
+        QVERIFY(!documentOf(serializeProject(project, false)).contains("opendocuments"));
     }
-}
 
-void TestProjectDocument::stampsPlacementsIntoTheObjectLayer()
-{
-    ProjectMembers members = leastMembers();
-    replace(members, {"mapObjects", "0", "animations"},
+    void missingAndUnusableValuesTakeTheirDefaults()
+    {
+        const QJsonValue defaults = json(
+            "{'formatVersion': 2, 'id': '<0>', 'name': '', 'scratchPalette': '<1>', "
+            "'screen_size': {'width': 320, 'height': 256}, 'play_area': {'x': 0, 'y': 0, 'width': 320, 'height': 256}, "
+            "'palettes': [{'id': '<1>', 'name': '', 'transparency_index': -1}], "
+            "'tilesets': [{'id': '<1>', 'name': '', 'hires': false, 'palette': '', 'count': 2, "
+            "'offsets': [0, 0], 'tiles': [{'offset': 0, 'attributes': 0, 'value': 0}, {}]}], "
+            "'maps': [{'id': '<1>', 'name': '', 'tileset': '<0>', 'tile_transparency': -1, 'grid_visible': true, "
+            "'backgroundTileIndex': -1, 'tileLayerVisible': true, 'objectLayerVisible': false, "
+            "'spriteLayerVisible': true}], 'mapObjects': [{'id': '<1>', 'name': '', 'tiles': '', 'animations': "
+            "[{'id': '<1>', 'name': '', 'width': 0, 'height': 0, 'delay': 0, 'type': 0}]}], "
+            "'sprites': [{'id': '<1>', 'name': '', 'palette': '', 'transparency': -1, 'depth': 1, "
+            "'animations': [{'id': '<1>', 'width': 1, 'height': 1, 'delay': 0}]}], "
+            "'images': [{'id': '<1>', 'name': '', 'palette': '', 'type': 0}]}");
+        const QJsonObject kinds = defaults.toObject();
+        for (const QJsonValue &wrong : {QJsonValue(QJsonValue::Undefined), json("null"), json("0.5"),
+                                        json("2147483648"), json("1e300"), json("['x']")}) {
+            // every key of an asset but its id, its contents and how many there are of them
+            ProjectMembers members = leastMembers();
+            for (auto kind = kinds.begin(); kind != kinds.end(); ++kind) {
+                const QJsonObject asset = kind.value()[0].toObject();
+                for (auto member = asset.begin(); member != asset.end(); ++member) {
+                    if (member.key() != "id" && member.key() != "count" && !member.value().isArray())
+                        replace(members, {kind.key(), "0", member.key()}, wrong);
+                }
+            }
+            const QJsonObject document = documentOf(rewritten(members));
+            QVERIFY2(matches(document, defaults), shown(wrong) + shown(document));
+        }
+    }
+
+    void takesWhatFits()
+    {
+        // a few letters for so many cells, each of which would be saved as a hundred
+        const QByteArray frames = "[{'width': 256, 'height': 256, 'frames': [{}, {}, {}, {}, {}]}]";
+        const std::tuple<const char *, const char *, QByteArray, QByteArray> cases[] = {
+            {"palettes", "colours", "[7, 32768]", "[7, 32768" + QByteArray(", 0").repeated(254) + "]"},
+            {"palettes", "colours", "[7" + QByteArray(", 257").repeated(299) + "]",
+             "[7" + QByteArray(", 257").repeated(255) + "]"},
+            {"tilesets", "offsets", "[1, 2, 3]", "[1, 2]"},
+            {"tilesets", "tiles", "[{'offset': 7}, {'value': 3}, {}]", "[{'offset': 7}, {'offset': 0, 'value': 3}]"},
+            {"sprites", "offsets", "[-1, 300, 1e300, 'x']", "[-1, 44, 0, 0]"},
+            {"sprites", "depth", "-1", "1"},
+            {"sprites", "animations", frames, "[{'width': 1, 'height': 1}]"},
+            {"images", "type", "7", "0"},
+            {"maps", "animations", "[{}, {'x': 3, 'width': 257, 'height': 1e300}]",
+             "[{'id': '<0>', 'x': 3, 'y': 0, 'width': 0, 'height': 0}]"},
+            {"maps", "sprites", "[{'y': '7', 'mirror': 1}]",
+             "[{'bank': '<0>', 'animation': '<0>', 'sprite': -1, 'x': 0, 'y': 0, 'mirror': false, 'name': ''}]"},
+            {"mapObjects", "animations", frames, "[{'width': 0, 'height': 0}]"},
+            {"mapObjects", "animations", // cells that are missing, and one too many
+             "[{'width': 3, 'height': 2, 'frames': [{'id': '<2>', 'tileData': [{'index': 1}, {}, {}, {'index': 4, "
+             "'rotate': true, 'offset': 9}]}, {'tileData': [{}, {}, {}, {}, {}, {'index': 6}, {'index': 7}]}]}]",
+             "[{'width': 3, 'height': 2, 'frames': [{'id': '<2>', 'tileData': [{'index': 1}, {'index': 0}, {}, "
+             "{'index': 4, 'rotate': true, 'offset': 9}, {'index': 0, 'offset': 0, 'rotate': false}, {}]}, "
+             "{'tileData': [{}, {}, {}, {}, {}, {'index': 6}]}]}]"},
+        };
+        for (const auto &[kind, key, stored, expected] : cases) {
+            ProjectMembers members = leastMembers();
+            replace(members, {kind, "0", key}, json(stored));
+            const QJsonValue value = valueAt(documentOf(rewritten(members)), {kind, "0", key});
+            QVERIFY2(matches(value, json(expected)), kind + shown(value));
+        }
+    }
+
+    void refusesWhatNoDefaultCanReplace()
+    {
+        const QString newer = "Project file is from a newer version of Quenmora";
+        const QString unfit = "Error setting tile set anim - Name %1";
+        const QString strip = "tileset/" + First + ".png";
+        const QString cells = "tilemap/" + First;
+        const QString sprites = "sprite/" + First + ".png";
+        const QString image = "images/" + First + ".png";
+        const std::tuple<QString, QByteArray, QString> cases[] = {
+            {"project.json", "", "Invalid project file"},
+            {"project.json", R"({"formatVersion": 3, "tilesets": [{}]})", newer},
+            {"project.json", R"({"formatVersion": 3000000000})", newer},
+            {strip, "", "Failed to load tile set tileImage \"" + strip + "\" from project file"},
+            {strip, "no picture", unfit},
+            {strip, png(gradient({8, 8})), unfit},
+            {strip, png(gradient({16, 16})), unfit},
+            {strip, png(gradient({8, 16}).convertToFormat(QImage::Format_RGB32)), unfit},
+            {cells, "", "Failed to load tile map anim for map Name %1"},
+            {cells, OneCell.chopped(1), "Failed to load tile map anim for map Name %1"},
+            {sprites, "", "Project has a missing sprite anim"},
+            {sprites, OneCell, "Project has a missing sprite anim"},
+            {image, "", "Failed to load tile image Name %1"},
+            {image, OneCell, "Failed to load tile image Name %1"},
+        };
+        for (const auto &[member, bytes, message] : cases) {
+            ProjectMembers members = leastMembers();
+            for (const char *kind : {"tilesets", "maps", "sprites", "images"})
+                replace(members, {kind, "0", "name"}, "Name %1");
+            members.insert(member, bytes);
+            Project project;
+            QString error;
+            QVERIFY(!readProject(project, readerOf(members), error));
+            QCOMPARE(error, message);
+        }
+    }
+
+    void choosesAScratchPalette()
+    {
+        const auto chosen = [](const ProjectMembers &members) {
+            return documentOf(rewritten(members)).value("scratchPalette").toString();
+        };
+        QCOMPARE(chosen({{"project.json", "{\"name\": \"cut"}}), QUuid().toString()); // an empty project
+        for (const QString &stored : {Second, QUuid::createUuid().toString(), QUuid().toString()}) {
+            ProjectMembers members;
+            setDocument(members, json("{'palettes': [{'id': '<1>'}, {'id': '<2>'}]}").toObject());
+            replace(members, {"scratchPalette"}, stored);
+            QCOMPARE(chosen(members), stored == Second ? Second : First);
+        }
+    }
+
+    void takesAScratchImageThatFits()
+    {
+        const QImage whole = gradient({256, 192});
+        for (const auto &[scratch, loads] : {std::pair{png(whole), true},
+                                             {QByteArray("GIF89a"), false},
+                                             {png(gradient({255, 192})), false},
+                                             {png(whole.convertToFormat(QImage::Format_RGB32)), false}}) {
+            ProjectMembers members = leastMembers();
+            members.insert("scratch.png", scratch);
+            Project project;
+            read(project, members);
+            QCOMPARE(indices(project.scratchImage()), loads ? indices(whole) : QByteArray(256 * 192, 0));
+        }
+    }
+
+    void stampsPlacementsIntoTheObjectLayer()
+    {
+        ProjectMembers members = leastMembers();
+        replace(
+            members, {"mapObjects", "0", "animations"},
             json("[{'id': '<2>', 'width': 1, 'height': 1, 'frames': [{'tileData': [{'index': 1, 'flip': true}]}]}]"));
-    replace(members, {"maps", "0", "animations"}, json("[{'id': '<2>', 'width': 1, 'height': 1}]"));
-    Project project;
-    read(project, members);
-    const auto map = project.map(FirstId);
-    QCOMPARE(map->objectLayer()->cellAt({0, 0}), (TileMap::TileData{.index = 1, .flip = true, .used = true}));
-    QCOMPARE(map->tileLayer()->cellAt({0, 0}), TileMap::TileData{.used = true});
-}
+        replace(members, {"maps", "0", "animations"}, json("[{'id': '<2>', 'width': 1, 'height': 1}]"));
+        Project project;
+        read(project, members);
+        const auto map = project.map(FirstId);
+        QCOMPARE(map->objectLayer()->cellAt({0, 0}), (TileMap::TileData{.index = 1, .flip = true, .used = true}));
+        QCOMPARE(map->tileLayer()->cellAt({0, 0}), TileMap::TileData{.used = true});
+    }
 
-void TestProjectDocument::savesWhatHasNoTilesOrColoursAndTellsWhatIsLost()
-{
-    Project project;
-    project.createTileSet("Emptied", QUuid::createUuid(), 1)->deleteTile(0);
-    const ProjectMembers members = serializeProject(project, true);
-    QCOMPARE(unreadableMember(members), "");
-    QVERIFY2(rewritten(members) == members, "a tile set without tiles has no picture");
-    QCOMPARE(QImage::fromData(members.value("scratch.png"), "png").colorCount(), 256); // it had no colours so far
-    QCOMPARE(unreadableMember({{"tileset/1.png", {}}}), "tileset/1.png");
-    QCOMPARE(unreadableMember({{"project.json", QByteArray(9 << 20, ',')}}), "project.json");
-    const QByteArray many = "{\"images\": [{}" + QByteArray(",{}").repeated(40'000) + "]}";
-    QCOMPARE(unreadableMember({{"project.json", many}}), "project.json");
-}
+    void savesWhatHasNoTilesOrColoursAndTellsWhatIsLost()
+    {
+        Project project;
+        project.createTileSet("Emptied", QUuid::createUuid(), 1)->deleteTile(0);
+        const ProjectMembers members = serializeProject(project, true);
+        QCOMPARE(unreadableMember(members), "");
+        QVERIFY2(rewritten(members) == members, "a tile set without tiles has no picture");
+        QCOMPARE(QImage::fromData(members.value("scratch.png"), "png").colorCount(), 256); // it had no colours so far
+        QCOMPARE(unreadableMember({{"tileset/1.png", {}}}), "tileset/1.png");
+        QCOMPARE(unreadableMember({{"project.json", QByteArray(9 << 20, ',')}}), "project.json");
+        const QByteArray many = "{\"images\": [{}" + QByteArray(",{}").repeated(40'000) + "]}";
+        QCOMPARE(unreadableMember({{"project.json", many}}), "project.json");
+    }
+};
 
 QUENMORA_TEST_MAIN(TestProjectDocument)
 #include "tst_projectdocument.moc"

@@ -19,18 +19,207 @@ class TestProjectStore : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_store = std::make_unique<ProjectStore>();
+        m_log = std::make_unique<SignalLog>();
+        m_log->listen(*m_store, &ProjectStore::projectLoad, "projectLoad");
+        m_log->listen(*m_store, &ProjectStore::loadError, "loadError");
+        m_log->listen(*m_store, &ProjectStore::saveError, "saveError");
+        m_log->listen(*m_store, &ProjectStore::showMessage, "showMessage");
+    }
+
     void cleanup() { m_store.reset(); }
 
-    void thereIsOneProjectAtMost();
-    void savesAndLoads();
-    void backsUpThePreviousVersion();
-    void refusesPlacesThatCannotBeWritten();
-    void refusesToSaveWhatCouldNotBeLoaded();
-    void survivesAFullDisk();
-    void refusesFilesThatAreNoProjects();
-    void theFingerprintFollowsTheContent();
-    void exportsAssets();
+    void thereIsOneProjectAtMost()
+    {
+        const QPointer<Project> first = m_store->newProject("first");
+        m_store->setFileName("somewhere");
+        const QPointer<Project> second = m_store->newProject("second");
+        QVERIFY(!first && m_store->fileName().isEmpty());
+        m_store->close();
+        QVERIFY(!second && m_store->fingerprint().isEmpty() && !m_store->save(false));
+        const QPointer<Project> third = m_store->newProject("third");
+        m_store.reset();
+        QVERIFY(!third);
+    }
+
+    void savesAndLoads()
+    {
+        const QString file = path("level.quenmora");
+        SampleProject::fill(*m_store->newProject("new"));
+        QVERIFY(m_store->saveAs(file));
+        QCOMPARE(m_store->fileName(), file);
+        QCOMPARE(m_log->take(), QStringList("showMessage Saved Sample to " + file + " 2500"));
+
+        m_store->newProject("loading...");
+        QString fileDuringLoad = "not emitted";
+        connect(m_store.get(), &ProjectStore::projectLoad, this, [&] { fileDuringLoad = m_store->fileName(); });
+        QVERIFY(m_store->load(file));
+        QCOMPARE(m_log->take(), (QStringList{"projectLoad Sample", "showMessage Project loaded 2500"}));
+        QCOMPARE(fileDuringLoad, "");
+        QCOMPARE(m_store->fileName(), file);
+        QCOMPARE(m_store->project()->openDocuments(), (QStringList{"first", "second"}));
+    }
+
+    void backsUpThePreviousVersion()
+    {
+        const QString file = path("a.quenmora");
+        const QString backup = file + ".bak";
+        m_store->newProject("one");
+        m_store->setFileName(file);
+        QVERIFY(m_store->save(true)); // nothing to back up yet
+        QCOMPARE(entries(), QStringList("a.quenmora"));
+        for (const char *name : {"two", "three"}) { // the second time there is a backup to replace
+            const QByteArray before = readFile(file);
+            m_store->project()->setName(name);
+            QVERIFY(m_store->save(true));
+            QCOMPARE(readFile(backup), before);
+            QVERIFY(readFile(file) != before);
+        }
+        const QByteArray whole = readFile(file);
+        {
+            const FileSizeLimit fullDisk(100);
+            QVERIFY(!m_store->save(true));
+            QVERIFY(!m_store->save(true)); // what the first one left behind does not replace the backup
+        }
+        for (const bool backUp : {true, false}) { // nor does it now, and then none is wanted
+            QVERIFY(m_store->save(backUp));
+            QCOMPARE(readFile(backup), whole);
+        }
+        m_store->project()->setName("four");
+        QVERIFY(m_store->save(false) && m_store->save(true));
+        QVERIFY(readFile(backup) != whole); // the file was whole again
+    }
+
+    void refusesPlacesThatCannotBeWritten()
+    {
+        QVERIFY(writeFile(path("file"), "content"));
+        QVERIFY(QDir(m_folder->path()).mkdir("folder"));
+        m_store->newProject("new");
+        for (const char *name : {"missing/a.quenmora", "file/a.quenmora", "folder"}) {
+            m_store->setFileName(path(name));
+            QVERIFY(!m_store->save(true));
+            QCOMPARE(m_store->fileName(), path(name));
+            QVERIFY(!m_store->saveAs(path(name)));
+            QCOMPARE(m_store->fileName(), "");
+            QCOMPARE(m_log->take(), QStringList(2, "saveError Could not create the project file"));
+            QCOMPARE(entries(), (QStringList{"file", "folder"}));
+        }
+    }
+
+    void refusesToSaveWhatCouldNotBeLoaded()
+    {
+        m_store->newProject("new")->createTileSet("Too many for a PNG", {}, 125'001);
+        m_store->setFileName(path("a.quenmora"));
+        QVERIFY(writeFile(m_store->fileName(), "last version"));
+        QVERIFY(!m_store->save(true));
+        QVERIFY(m_log->take().first().startsWith("saveError Could not write tileset/"));
+        QCOMPARE(readFile(m_store->fileName()), "last version");
+    }
+
+    void survivesAFullDisk()
+    {
+        QImage noise = SampleProject::gradient({640, 512}); // which deflate cannot shrink
+        QRandomGenerator(1).generate(reinterpret_cast<quint32 *>(noise.bits()),
+                                     reinterpret_cast<quint32 *>(noise.bits() + noise.sizeInBytes()));
+        m_store->newProject("noise")->createImage(Quenmora::Layer2_256x192, "noise", {})->setImage(noise);
+        QVERIFY(m_store->saveAs(path("a.quenmora")));
+        const QByteArray whole = readFile(path("a.quenmora"));
+        const QByteArray fingerprint = m_store->fingerprint();
+        for (const auto &[missing, message] :
+             {std::pair{200'000, "saveError Could not write images/"}, // the first member
+              {1, "saveError Could not finish writing the project file"}}) {
+            m_log->take();
+            {
+                const FileSizeLimit fullDisk(rlim_t(whole.size() - missing));
+                QVERIFY(!m_store->save(true));
+            }
+            const QStringList lines = m_log->take();
+            QVERIFY2(lines.size() == 1 && lines.first().startsWith(message), qPrintable(lines.join('\n')));
+            QCOMPARE(readFile(path("a.quenmora.bak")), whole);
+        }
+        QVERIFY(m_store->saveAs(path("good.quenmora")));
+        QVERIFY(m_store->newProject("loading...") && m_store->load(path("good.quenmora")));
+        QCOMPARE(m_store->fingerprint(), fingerprint);
+    }
+
+    void refusesFilesThatAreNoProjects()
+    {
+        QVERIFY(writeFile(path("empty"), {}));
+        QVERIFY(writeFile(path("text"), "PK is not enough"));
+        QVERIFY(QDir(m_folder->path()).mkdir("folder"));
+        QVERIFY(writeArchive(path("archive"), {{"other.json", "{}"}}));
+        const QPointer<Project> project = m_store->newProject("loading...");
+        for (const char *name : {"missing", "empty", "text", "folder", "archive"}) {
+            QCOMPARE(m_store->project(), project.data()); // it is its owner who closes it, while no archive was opened
+            QVERIFY(!m_store->load(path(name)));
+            QCOMPARE(m_log->take(), QStringList("loadError Invalid project file"));
+        }
+        QVERIFY(!project && !m_store->project() && m_store->fileName().isEmpty());
+    }
+
+    void theFingerprintFollowsTheContent()
+    {
+        Project *project = m_store->newProject("new");
+        SampleProject::fill(*project);
+        QByteArray last = m_store->fingerprint();
+        QCOMPARE(last.size(), 20);
+        project->setOpenDocuments({"another"});
+        QCOMPARE(m_store->fingerprint(), last);
+
+        // what reaches the document, and each kind of member
+        const std::function<void()> edits[] = {
+            [&] { project->setName("x"); },
+            [&] { project->palettes().first()->setRawColour(0, 2); },
+            [&] { project->tileSets().first()->clearImage(0); },
+            [&] {
+                project->maps().first()->setTile({2, 3}, {.index = 1, .used = true});
+            },
+            [&] { project->spriteBanks().first()->clearSprite(1); },
+            [&] {
+                project->images().first()->setImage(SampleProject::gradient({256, 191}));
+            },
+            [&] {
+                project->setScratchImage(SampleProject::gradient({192, 256}));
+            },
+            [&] { project->blockSets().first()->animations().first()->frame(0)->setIndex(0, 0, 99); },
+        };
+        for (const auto &edit : edits) {
+            edit();
+            QVERIFY2(m_store->fingerprint() != last, qPrintable(QString::number(&edit - edits)));
+            last = m_store->fingerprint();
+        }
+    }
+
+    void exportsAssets()
+    {
+        const auto lineAfter = [this](auto slot, const QString &folder, const QUuid &id) {
+            (m_store.get()->*slot)(folder, id);
+            return m_log->take().join('\n');
+        };
+        const QString folder = m_folder->path();
+        const std::tuple<void (ProjectStore::*)(const QString &, const QUuid &), QString, QString, int> cases[] = {
+            {&ProjectStore::exportMap, "Map", "Level_tilemap.bin", 6 * 4 * 2},
+            {&ProjectStore::exportTiles, "Tile set", "Tiles_tiles.nxt", 4 * 32},
+            {&ProjectStore::exportPalette, "Palette", "Main_palette.bin", 512},
+        };
+        for (const auto &[slot, kind, file, size] : cases) {
+            const QString noun = kind.toLower();
+            m_store->close();
+            QCOMPARE(lineAfter(slot, folder, {}), "saveError Invalid " + noun + " id"); // no project
+            Project *project = m_store->newProject("new");
+            SampleProject::fill(*project);
+            const QUuid id = kind == "Map" ? project->maps().first()->id()
+                : kind == "Palette"        ? project->palettes().first()->id()
+                                           : project->tileSets().first()->id();
+            QCOMPARE(lineAfter(slot, folder, QUuid::createUuid()), "saveError Invalid " + noun + " id");
+            QCOMPARE(lineAfter(slot, path("missing"), id), "saveError Exporting the " + noun + " failed");
+            QCOMPARE(lineAfter(slot, folder, id), "showMessage " + kind + " exported 2000");
+            QCOMPARE(QFileInfo(path(file)).size(), size);
+        }
+    }
 
 private:
     [[nodiscard]] QString path(const QString &name) const { return m_folder->filePath(name); }
@@ -44,205 +233,6 @@ private:
     std::unique_ptr<ProjectStore> m_store;
     std::unique_ptr<SignalLog> m_log; ///< of the store's signals
 };
-
-void TestProjectStore::init()
-{
-    m_folder = std::make_unique<QTemporaryDir>();
-    m_store = std::make_unique<ProjectStore>();
-    m_log = std::make_unique<SignalLog>();
-    m_log->listen(*m_store, &ProjectStore::projectLoad, "projectLoad");
-    m_log->listen(*m_store, &ProjectStore::loadError, "loadError");
-    m_log->listen(*m_store, &ProjectStore::saveError, "saveError");
-    m_log->listen(*m_store, &ProjectStore::showMessage, "showMessage");
-}
-
-void TestProjectStore::thereIsOneProjectAtMost()
-{
-    const QPointer<Project> first = m_store->newProject("first");
-    m_store->setFileName("somewhere");
-    const QPointer<Project> second = m_store->newProject("second");
-    QVERIFY(!first && m_store->fileName().isEmpty());
-    m_store->close();
-    QVERIFY(!second && m_store->fingerprint().isEmpty() && !m_store->save(false));
-    const QPointer<Project> third = m_store->newProject("third");
-    m_store.reset();
-    QVERIFY(!third);
-}
-
-void TestProjectStore::savesAndLoads()
-{
-    const QString file = path("level.quenmora");
-    SampleProject::fill(*m_store->newProject("new"));
-    QVERIFY(m_store->saveAs(file));
-    QCOMPARE(m_store->fileName(), file);
-    QCOMPARE(m_log->take(), QStringList("showMessage Saved Sample to " + file + " 2500"));
-
-    m_store->newProject("loading...");
-    QString fileDuringLoad = "not emitted";
-    connect(m_store.get(), &ProjectStore::projectLoad, this, [&] { fileDuringLoad = m_store->fileName(); });
-    QVERIFY(m_store->load(file));
-    QCOMPARE(m_log->take(), (QStringList{"projectLoad Sample", "showMessage Project loaded 2500"}));
-    QCOMPARE(fileDuringLoad, "");
-    QCOMPARE(m_store->fileName(), file);
-    QCOMPARE(m_store->project()->openDocuments(), (QStringList{"first", "second"}));
-}
-
-void TestProjectStore::backsUpThePreviousVersion()
-{
-    const QString file = path("a.quenmora");
-    const QString backup = file + ".bak";
-    m_store->newProject("one");
-    m_store->setFileName(file);
-    QVERIFY(m_store->save(true)); // nothing to back up yet
-    QCOMPARE(entries(), QStringList("a.quenmora"));
-    for (const char *name : {"two", "three"}) { // the second time there is a backup to replace
-        const QByteArray before = readFile(file);
-        m_store->project()->setName(name);
-        QVERIFY(m_store->save(true));
-        QCOMPARE(readFile(backup), before);
-        QVERIFY(readFile(file) != before);
-    }
-    const QByteArray whole = readFile(file);
-    {
-        const FileSizeLimit fullDisk(100);
-        QVERIFY(!m_store->save(true));
-        QVERIFY(!m_store->save(true)); // what the first one left behind does not replace the backup
-    }
-    for (const bool backUp : {true, false}) { // nor does it now, and then none is wanted
-        QVERIFY(m_store->save(backUp));
-        QCOMPARE(readFile(backup), whole);
-    }
-    m_store->project()->setName("four");
-    QVERIFY(m_store->save(false) && m_store->save(true));
-    QVERIFY(readFile(backup) != whole); // the file was whole again
-}
-
-void TestProjectStore::refusesPlacesThatCannotBeWritten()
-{
-    QVERIFY(writeFile(path("file"), "content"));
-    QVERIFY(QDir(m_folder->path()).mkdir("folder"));
-    m_store->newProject("new");
-    for (const char *name : {"missing/a.quenmora", "file/a.quenmora", "folder"}) {
-        m_store->setFileName(path(name));
-        QVERIFY(!m_store->save(true));
-        QCOMPARE(m_store->fileName(), path(name));
-        QVERIFY(!m_store->saveAs(path(name)));
-        QCOMPARE(m_store->fileName(), "");
-        QCOMPARE(m_log->take(), QStringList(2, "saveError Could not create the project file"));
-        QCOMPARE(entries(), (QStringList{"file", "folder"}));
-    }
-}
-
-void TestProjectStore::refusesToSaveWhatCouldNotBeLoaded()
-{
-    m_store->newProject("new")->createTileSet("Too many for a PNG", {}, 125'001);
-    m_store->setFileName(path("a.quenmora"));
-    QVERIFY(writeFile(m_store->fileName(), "last version"));
-    QVERIFY(!m_store->save(true));
-    QVERIFY(m_log->take().first().startsWith("saveError Could not write tileset/"));
-    QCOMPARE(readFile(m_store->fileName()), "last version");
-}
-
-void TestProjectStore::survivesAFullDisk()
-{
-    QImage noise = SampleProject::gradient({640, 512}); // which deflate cannot shrink
-    QRandomGenerator(1).generate(reinterpret_cast<quint32 *>(noise.bits()),
-                                 reinterpret_cast<quint32 *>(noise.bits() + noise.sizeInBytes()));
-    m_store->newProject("noise")->createImage(Quenmora::Layer2_256x192, "noise", {})->setImage(noise);
-    QVERIFY(m_store->saveAs(path("a.quenmora")));
-    const QByteArray whole = readFile(path("a.quenmora"));
-    const QByteArray fingerprint = m_store->fingerprint();
-    for (const auto &[missing, message] : {std::pair{200'000, "saveError Could not write images/"}, // the first member
-                                           {1, "saveError Could not finish writing the project file"}}) {
-        m_log->take();
-        {
-            const FileSizeLimit fullDisk(rlim_t(whole.size() - missing));
-            QVERIFY(!m_store->save(true));
-        }
-        const QStringList lines = m_log->take();
-        QVERIFY2(lines.size() == 1 && lines.first().startsWith(message), qPrintable(lines.join('\n')));
-        QCOMPARE(readFile(path("a.quenmora.bak")), whole);
-    }
-    QVERIFY(m_store->saveAs(path("good.quenmora")));
-    QVERIFY(m_store->newProject("loading...") && m_store->load(path("good.quenmora")));
-    QCOMPARE(m_store->fingerprint(), fingerprint);
-}
-
-void TestProjectStore::refusesFilesThatAreNoProjects()
-{
-    QVERIFY(writeFile(path("empty"), {}));
-    QVERIFY(writeFile(path("text"), "PK is not enough"));
-    QVERIFY(QDir(m_folder->path()).mkdir("folder"));
-    QVERIFY(writeArchive(path("archive"), {{"other.json", "{}"}}));
-    const QPointer<Project> project = m_store->newProject("loading...");
-    for (const char *name : {"missing", "empty", "text", "folder", "archive"}) {
-        QCOMPARE(m_store->project(), project.data()); // it is its owner who closes it, while no archive was opened
-        QVERIFY(!m_store->load(path(name)));
-        QCOMPARE(m_log->take(), QStringList("loadError Invalid project file"));
-    }
-    QVERIFY(!project && !m_store->project() && m_store->fileName().isEmpty());
-}
-
-void TestProjectStore::theFingerprintFollowsTheContent()
-{
-    Project *project = m_store->newProject("new");
-    SampleProject::fill(*project);
-    QByteArray last = m_store->fingerprint();
-    QCOMPARE(last.size(), 20);
-    project->setOpenDocuments({"another"});
-    QCOMPARE(m_store->fingerprint(), last);
-
-    // what reaches the document, and each kind of member
-    const std::function<void()> edits[] = {
-        [&] { project->setName("x"); },
-        [&] { project->palettes().first()->setRawColour(0, 2); },
-        [&] { project->tileSets().first()->clearImage(0); },
-        [&] {
-            project->maps().first()->setTile({2, 3}, {.index = 1, .used = true});
-        },
-        [&] { project->spriteBanks().first()->clearSprite(1); },
-        [&] {
-            project->images().first()->setImage(SampleProject::gradient({256, 191}));
-        },
-        [&] {
-            project->setScratchImage(SampleProject::gradient({192, 256}));
-        },
-        [&] { project->blockSets().first()->animations().first()->frame(0)->setIndex(0, 0, 99); },
-    };
-    for (const auto &edit : edits) {
-        edit();
-        QVERIFY2(m_store->fingerprint() != last, qPrintable(QString::number(&edit - edits)));
-        last = m_store->fingerprint();
-    }
-}
-
-void TestProjectStore::exportsAssets()
-{
-    const auto lineAfter = [this](auto slot, const QString &folder, const QUuid &id) {
-        (m_store.get()->*slot)(folder, id);
-        return m_log->take().join('\n');
-    };
-    const QString folder = m_folder->path();
-    const std::tuple<void (ProjectStore::*)(const QString &, const QUuid &), QString, QString, int> cases[] = {
-        {&ProjectStore::exportMap, "Map", "Level_tilemap.bin", 6 * 4 * 2},
-        {&ProjectStore::exportTiles, "Tile set", "Tiles_tiles.nxt", 4 * 32},
-        {&ProjectStore::exportPalette, "Palette", "Main_palette.bin", 512},
-    };
-    for (const auto &[slot, kind, file, size] : cases) {
-        const QString noun = kind.toLower();
-        m_store->close();
-        QCOMPARE(lineAfter(slot, folder, {}), "saveError Invalid " + noun + " id"); // no project
-        Project *project = m_store->newProject("new");
-        SampleProject::fill(*project);
-        const QUuid id = kind == "Map" ? project->maps().first()->id()
-            : kind == "Palette"        ? project->palettes().first()->id()
-                                       : project->tileSets().first()->id();
-        QCOMPARE(lineAfter(slot, folder, QUuid::createUuid()), "saveError Invalid " + noun + " id");
-        QCOMPARE(lineAfter(slot, path("missing"), id), "saveError Exporting the " + noun + " failed");
-        QCOMPARE(lineAfter(slot, folder, id), "showMessage " + kind + " exported 2000");
-        QCOMPARE(QFileInfo(path(file)).size(), size);
-    }
-}
 
 QUENMORA_TEST_MAIN(TestProjectStore)
 #include "tst_projectstore.moc"

@@ -30,69 +30,64 @@ class TestDialogs : public QObject
     Q_OBJECT
 
 private slots:
-    void dialogStaysOpenUntilItsProblemIsGone();
-    void messagesWaitForTheirTurn();
-    void dockSwitchesItsPages();
-    void aboutBoxHoldsTheLicenceOfTheIcons();
+    void dialogStaysOpenUntilItsProblemIsGone()
+    {
+        NameDialog dialog;
+        dialog.open();
+        dialog.name->setText("x");
+        dialog.name->clear();
+        QCOMPARE(dialog.error(), QString()); // nobody is told off while typing
+        dialog.okButton()->click();
+        QVERIFY(dialog.isVisible());
+        QCOMPARE(dialog.error(), "A name is needed");
+        dialog.reject();
+        dialog.open(); // begins clean, with the keyboard in the first field
+        QCOMPARE(dialog.error(), QString());
+        QCOMPARE(dialog.focusWidget(), dialog.name);
+        QTest::keyClick(dialog.name, Qt::Key_Tab);
+        QCOMPARE(dialog.focusWidget(), dialog.okButton());
+        dialog.okButton()->click();
+        dialog.name->setText("Forest");
+        QCOMPARE(dialog.error(), QString());
+        QTest::keyClick(dialog.name, Qt::Key_Return);
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(dialog.result(), int(QDialog::Accepted));
+    }
+
+    void messagesWaitForTheirTurn()
+    {
+        MessageDialog dialog;
+        for (int round = 0; round < 2; ++round) {
+            dialog.showMessage("one");
+            dialog.showMessage("two", "Palette In Use");
+            QCOMPARE(dialog.text() + dialog.windowTitle(), "oneWarning!");
+        }
+        dialog.accept();
+        QVERIFY(dialog.isVisible());
+        QCOMPARE(dialog.text() + dialog.windowTitle(), "twoPalette In Use");
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+        QVERIFY(!dialog.isVisible());
+    }
+
+    void dockSwitchesItsPages()
+    {
+        DockWidget dock("Tiles", "No tile set");
+        const QSignalSpy changed(&dock, &DockWidget::activeChanged);
+        dock.activate(); // nothing to show yet
+        auto *content = new QWidget;
+        dock.setContent(content);
+        for (const bool active : {false, true, true, false}) {
+            dock.setActive(active);
+            QCOMPARE(content->isVisibleTo(&dock), active);
+        }
+        QCOMPARE(changed, (QList<QVariantList>{{true}, {false}}));
+    }
+
+    void aboutBoxHoldsTheLicenceOfTheIcons()
+    {
+        QVERIFY(AboutBox().findChild<QPlainTextEdit *>()->toPlainText().startsWith("ISC License"));
+    }
 };
-
-void TestDialogs::dialogStaysOpenUntilItsProblemIsGone()
-{
-    NameDialog dialog;
-    dialog.open();
-    dialog.name->setText("x");
-    dialog.name->clear();
-    QCOMPARE(dialog.error(), QString()); // nobody is told off while typing
-    dialog.okButton()->click();
-    QVERIFY(dialog.isVisible());
-    QCOMPARE(dialog.error(), "A name is needed");
-    dialog.reject();
-    dialog.open(); // begins clean, with the keyboard in the first field
-    QCOMPARE(dialog.error(), QString());
-    QCOMPARE(dialog.focusWidget(), dialog.name);
-    QTest::keyClick(dialog.name, Qt::Key_Tab);
-    QCOMPARE(dialog.focusWidget(), dialog.okButton());
-    dialog.okButton()->click();
-    dialog.name->setText("Forest");
-    QCOMPARE(dialog.error(), QString());
-    QTest::keyClick(dialog.name, Qt::Key_Return);
-    QVERIFY(!dialog.isVisible());
-    QCOMPARE(dialog.result(), int(QDialog::Accepted));
-}
-
-void TestDialogs::messagesWaitForTheirTurn()
-{
-    MessageDialog dialog;
-    for (int round = 0; round < 2; ++round) {
-        dialog.showMessage("one");
-        dialog.showMessage("two", "Palette In Use");
-        QCOMPARE(dialog.text() + dialog.windowTitle(), "oneWarning!");
-    }
-    dialog.accept();
-    QVERIFY(dialog.isVisible());
-    QCOMPARE(dialog.text() + dialog.windowTitle(), "twoPalette In Use");
-    QTest::keyClick(&dialog, Qt::Key_Escape);
-    QVERIFY(!dialog.isVisible());
-}
-
-void TestDialogs::dockSwitchesItsPages()
-{
-    DockWidget dock("Tiles", "No tile set");
-    const QSignalSpy changed(&dock, &DockWidget::activeChanged);
-    dock.activate(); // nothing to show yet
-    auto *content = new QWidget;
-    dock.setContent(content);
-    for (const bool active : {false, true, true, false}) {
-        dock.setActive(active);
-        QCOMPARE(content->isVisibleTo(&dock), active);
-    }
-    QCOMPARE(changed, (QList<QVariantList>{{true}, {false}}));
-}
-
-void TestDialogs::aboutBoxHoldsTheLicenceOfTheIcons()
-{
-    QVERIFY(AboutBox().findChild<QPlainTextEdit *>()->toPlainText().startsWith("ISC License"));
-}
 
 QUENMORA_TEST_MAIN(TestDialogs)
 #include "tst_dialogs.moc"

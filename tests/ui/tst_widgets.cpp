@@ -19,140 +19,131 @@ class TestWidgets : public QObject
     Q_OBJECT
 
 private slots:
-    void popoverFindsRoom_data();
-    void popoverFindsRoom();
-    void popoverPointsAtItsTargetAndClosesOnEscape();
-    void flowLayoutBreaksRows();
-    void stepperStaysInItsRange();
-    void scrollBarButtonsNameTheirEnd();
-    void checkListTicksByClickAndByKey();
-    void sectionHidesItsContentWhileCollapsed();
-};
-
-void TestWidgets::popoverFindsRoom_data()
-{
-    QTest::addColumn<QRect>("target");
-    QTest::addColumn<DialogPosition>("wanted");
-    QTest::addColumn<QPoint>("corner");
-    QTest::addColumn<DialogPosition>("position");
-    // a popover of 100 x 50 on a screen that starts at (10, 20) and measures 400 x 300
-    QTest::newRow("right") << QRect(100, 100, 20, 10) << RightOf << QPoint(120, 79) << RightOf;
-    QTest::newRow("no room on the right") << QRect(300, 100, 20, 10) << RightOf << QPoint(200, 79) << LeftOf;
-    QTest::newRow("just room on the right") << QRect(290, 100, 20, 10) << RightOf << QPoint(310, 79) << RightOf;
-    QTest::newRow("no room above") << QRect(100, 60, 20, 10) << Above << QPoint(59, 70) << Below;
-    QTest::newRow("too high up") << QRect(100, 20, 20, 10) << RightOf << QPoint(120, 20) << RightOf;
-    QTest::newRow("too far down") << QRect(100, 310, 20, 10) << RightOf << QPoint(120, 270) << RightOf;
-    QTest::newRow("none on either side") << QRect(50, 100, 300, 10) << LeftOf << QPoint(10, 79) << LeftOf;
-}
-
-void TestWidgets::popoverFindsRoom()
-{
-    QFETCH(const QRect, target);
-    QFETCH(DialogPosition, wanted);
-    QTEST(Popover::place({100, 50}, target, {10, 20, 400, 300}, wanted), "corner");
-    QTEST(wanted, "position");
-}
-
-void TestWidgets::popoverPointsAtItsTargetAndClosesOnEscape()
-{
-    Popover popover(nullptr);
-    popover.setContent(new QLabel("Sprite\nproperties\nof three lines"));
-    const QSignalSpy closed(&popover, &Popover::closed);
-    const QRect target(200, 200, 10, 10);
-    popover.showBeside(target);
-    QCOMPARE(std::pair(popover.arrow(), popover.x()), std::pair(Quenmora::Ui::Left, 210));
-    QVERIFY(popover.mask().contains({1, target.center().y() - popover.y()}));
-    popover.showBeside(target, Below);
-    QCOMPARE(std::pair(popover.arrow(), popover.y()), std::pair(Quenmora::Ui::Up, 210));
-    QTest::keyClick(&popover, Qt::Key_Escape);
-    QVERIFY(!popover.isVisible() && closed.size() == 1);
-}
-
-void TestWidgets::flowLayoutBreaksRows()
-{
-    QWidget window;
-    auto *layout = new FlowLayout(&window);
-    layout->setSpacing(2);
-    layout->setContentsMargins(3, 3, 3, 3);
-    for (int i = 0; i < 6; ++i) {
-        auto *item = new QWidget(&window);
-        item->setFixedSize(20, 10);
-        item->setHidden(i == 0); // takes no room
-        layout->addWidget(item);
+    void popoverFindsRoom_data()
+    {
+        QTest::addColumn<QRect>("target");
+        QTest::addColumn<DialogPosition>("wanted");
+        QTest::addColumn<QPoint>("corner");
+        QTest::addColumn<DialogPosition>("position");
+        // a popover of 100 x 50 on a screen that starts at (10, 20) and measures 400 x 300
+        QTest::newRow("right") << QRect(100, 100, 20, 10) << RightOf << QPoint(120, 79) << RightOf;
+        QTest::newRow("no room on the right") << QRect(300, 100, 20, 10) << RightOf << QPoint(200, 79) << LeftOf;
+        QTest::newRow("just room on the right") << QRect(290, 100, 20, 10) << RightOf << QPoint(310, 79) << RightOf;
+        QTest::newRow("no room above") << QRect(100, 60, 20, 10) << Above << QPoint(59, 70) << Below;
+        QTest::newRow("too high up") << QRect(100, 20, 20, 10) << RightOf << QPoint(120, 20) << RightOf;
+        QTest::newRow("too far down") << QRect(100, 310, 20, 10) << RightOf << QPoint(120, 270) << RightOf;
+        QTest::newRow("none on either side") << QRect(50, 100, 300, 10) << LeftOf << QPoint(10, 79) << LeftOf;
     }
-    QCOMPARE(layout->sizeHint(), QSize(114, 16));
-    // all in one row, a pixel short, three and two, one a row, narrower than an item
-    for (const auto &[width, height] : {std::pair(114, 16), {113, 28}, {70, 28}, {30, 64}, {5, 64}}) {
-        QCOMPARE(layout->heightForWidth(width), height);
-        layout->setGeometry({0, 0, width, height});
-        QCOMPARE(layout->itemAt(5)->geometry().bottom(), height - 3 - 1);
+
+    void popoverFindsRoom()
+    {
+        QFETCH(const QRect, target);
+        QFETCH(DialogPosition, wanted);
+        QTEST(Popover::place({100, 50}, target, {10, 20, 400, 300}, wanted), "corner");
+        QTEST(wanted, "position");
     }
-}
 
-void TestWidgets::stepperStaysInItsRange()
-{
-    NumberStepper stepper;
-    const QSignalSpy changed(&stepper, &NumberStepper::valueChanged);
-    const auto buttons = stepper.findChildren<QToolButton *>(); // back and forward
-    stepper.setRange(1, 3);
-    for (const int button : {1, 1, 1, 0})
-        buttons[button]->click();
-    stepper.setRange(1, 1);
-    QCOMPARE(changed, (QList<QVariantList>{{2}, {3}, {2}, {1}}));
-    QVERIFY(!buttons[0]->isEnabled() && !buttons[1]->isEnabled());
-}
+    void popoverPointsAtItsTargetAndClosesOnEscape()
+    {
+        Popover popover(nullptr);
+        popover.setContent(new QLabel("Sprite\nproperties\nof three lines"));
+        const QSignalSpy closed(&popover, &Popover::closed);
+        const QRect target(200, 200, 10, 10);
+        popover.showBeside(target);
+        QCOMPARE(std::pair(popover.arrow(), popover.x()), std::pair(Quenmora::Ui::Left, 210));
+        QVERIFY(popover.mask().contains({1, target.center().y() - popover.y()}));
+        popover.showBeside(target, Below);
+        QCOMPARE(std::pair(popover.arrow(), popover.y()), std::pair(Quenmora::Ui::Up, 210));
+        QTest::keyClick(&popover, Qt::Key_Escape);
+        QVERIFY(!popover.isVisible() && closed.size() == 1);
+    }
 
-void TestWidgets::scrollBarButtonsNameTheirEnd()
-{
-    const QList<QStringList> heard{{"Add a column on the left: add 0", "Remove the column on the left: remove 0",
-                                    "Remove the column on the right: remove 1", "Add a column on the right: add 1"},
-                                   {"Add a row at the top: add 0", "Remove the row at the top: remove 0",
-                                    "Remove the row at the bottom: remove 1", "Add a row at the bottom: add 1"}};
-    for (const auto orientation : {Qt::Horizontal, Qt::Vertical}) {
-        ScrollBar bar(orientation);
-        const auto buttons = bar.findChildren<QToolButton *>(); // from the beginning to the end
-        QStringList clicks;
-        const auto hear = [&clicks](const QString &what) {
-            return [&clicks, what](Quenmora::Position end) { clicks.last() += what + QString::number(end); };
-        };
-        connect(&bar, &ScrollBar::add, this, hear(": add "));
-        connect(&bar, &ScrollBar::remove, this, hear(": remove "));
-        for (QToolButton *button : buttons) {
-            clicks += button->accessibleName();
-            button->click();
+    void flowLayoutBreaksRows()
+    {
+        QWidget window;
+        auto *layout = new FlowLayout(&window);
+        layout->setSpacing(2);
+        layout->setContentsMargins(3, 3, 3, 3);
+        for (int i = 0; i < 6; ++i) {
+            auto *item = new QWidget(&window);
+            item->setFixedSize(20, 10);
+            item->setHidden(i == 0); // takes no room
+            layout->addWidget(item);
         }
-        bar.setRemoveEnabled(false);
-        buttons[1]->click();
-        QCOMPARE(clicks, heard[orientation == Qt::Vertical]);
+        QCOMPARE(layout->sizeHint(), QSize(114, 16));
+        // all in one row, a pixel short, three and two, one a row, narrower than an item
+        for (const auto &[width, height] : {std::pair(114, 16), {113, 28}, {70, 28}, {30, 64}, {5, 64}}) {
+            QCOMPARE(layout->heightForWidth(width), height);
+            layout->setGeometry({0, 0, width, height});
+            QCOMPARE(layout->itemAt(5)->geometry().bottom(), height - 3 - 1);
+        }
     }
-}
 
-void TestWidgets::checkListTicksByClickAndByKey()
-{
-    CheckList list;
-    for (const QString text : {"zero", "one", "two"})
-        list.addCheck(text);
-    list.resize(200, 200);
-    list.show();
-    const QSignalSpy changed(&list, &CheckList::checkChanged);
-    const QRect row = list.visualItemRect(list.item(1));
-    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, row.center());
-    QTest::keyClick(&list, Qt::Key_Down);
-    QTest::keyClick(&list, Qt::Key_Space);
-    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, {row.left() + 8, row.center().y()}); // on the box itself
-    QCOMPARE(changed, (QList<QVariantList>{{1, true}, {2, true}, {1, false}}));
-}
-
-void TestWidgets::sectionHidesItsContentWhileCollapsed()
-{
-    ExpandableSection section("Attributes");
-    auto *content = new QLabel("content");
-    section.setContent(content);
-    for (const bool expanded : {false, true, false}) {
-        QCOMPARE(content->isVisibleTo(&section), expanded);
-        section.findChild<QToolButton *>()->click();
+    void stepperStaysInItsRange()
+    {
+        NumberStepper stepper;
+        const QSignalSpy changed(&stepper, &NumberStepper::valueChanged);
+        const auto buttons = stepper.findChildren<QToolButton *>(); // back and forward
+        stepper.setRange(1, 3);
+        for (const int button : {1, 1, 1, 0})
+            buttons[button]->click();
+        stepper.setRange(1, 1);
+        QCOMPARE(changed, (QList<QVariantList>{{2}, {3}, {2}, {1}}));
+        QVERIFY(!buttons[0]->isEnabled() && !buttons[1]->isEnabled());
     }
-}
+
+    void scrollBarButtonsNameTheirEnd()
+    {
+        const QList<QStringList> heard{{"Add a column on the left: add 0", "Remove the column on the left: remove 0",
+                                        "Remove the column on the right: remove 1", "Add a column on the right: add 1"},
+                                       {"Add a row at the top: add 0", "Remove the row at the top: remove 0",
+                                        "Remove the row at the bottom: remove 1", "Add a row at the bottom: add 1"}};
+        for (const auto orientation : {Qt::Horizontal, Qt::Vertical}) {
+            ScrollBar bar(orientation);
+            const auto buttons = bar.findChildren<QToolButton *>(); // from the beginning to the end
+            QStringList clicks;
+            const auto hear = [&clicks](const QString &what) {
+                return [&clicks, what](Quenmora::Position end) { clicks.last() += what + QString::number(end); };
+            };
+            connect(&bar, &ScrollBar::add, this, hear(": add "));
+            connect(&bar, &ScrollBar::remove, this, hear(": remove "));
+            for (QToolButton *button : buttons) {
+                clicks += button->accessibleName();
+                button->click();
+            }
+            bar.setRemoveEnabled(false);
+            buttons[1]->click();
+            QCOMPARE(clicks, heard[orientation == Qt::Vertical]);
+        }
+    }
+
+    void checkListTicksByClickAndByKey()
+    {
+        CheckList list;
+        for (const QString text : {"zero", "one", "two"})
+            list.addCheck(text);
+        list.resize(200, 200);
+        list.show();
+        const QSignalSpy changed(&list, &CheckList::checkChanged);
+        const QRect row = list.visualItemRect(list.item(1));
+        QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, row.center());
+        QTest::keyClick(&list, Qt::Key_Down);
+        QTest::keyClick(&list, Qt::Key_Space);
+        QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, {row.left() + 8, row.center().y()}); // on the box itself
+        QCOMPARE(changed, (QList<QVariantList>{{1, true}, {2, true}, {1, false}}));
+    }
+
+    void sectionHidesItsContentWhileCollapsed()
+    {
+        ExpandableSection section("Attributes");
+        auto *content = new QLabel("content");
+        section.setContent(content);
+        for (const bool expanded : {false, true, false}) {
+            QCOMPARE(content->isVisibleTo(&section), expanded);
+            section.findChild<QToolButton *>()->click();
+        }
+    }
+};
 
 QUENMORA_TEST_MAIN(TestWidgets)
 #include "tst_widgets.moc"

@@ -63,53 +63,50 @@ class TestMapEditCommand : public QObject
     Q_OBJECT
 
 private slots:
-    void undoAndRedoGoBackToEveryState();
-    void undoLeavesOtherChangesAlone();
-};
-
-void TestMapEditCommand::undoAndRedoGoBackToEveryState()
-{
-    const quint32 seed = QRandomGenerator::global()->generate();
-    qInfo("seed %u", seed);
-    QRandomGenerator random(seed);
-    Editor editor;
-    QList<Map::Snapshot> states{editor.map->snapshot()};
-    for (int step = 0; step < 200; ++step) {
-        editor.edit([&] { editAnyhow(*editor.map, random); });
-        states.append(editor.map->snapshot());
+    void undoAndRedoGoBackToEveryState()
+    {
+        const quint32 seed = QRandomGenerator::global()->generate();
+        qInfo("seed %u", seed);
+        QRandomGenerator random(seed);
+        Editor editor;
+        QList<Map::Snapshot> states{editor.map->snapshot()};
+        for (int step = 0; step < 200; ++step) {
+            editor.edit([&] { editAnyhow(*editor.map, random); });
+            states.append(editor.map->snapshot());
+        }
+        for (int walk = 0; walk < 100; ++walk) {
+            editor.stack.setIndex(random.bounded(editor.stack.count() + 1));
+            QVERIFY(editor.map->snapshot() == states.at(editor.stack.index()));
+        }
     }
-    for (int walk = 0; walk < 100; ++walk) {
-        editor.stack.setIndex(random.bounded(editor.stack.count() + 1));
-        QVERIFY(editor.map->snapshot() == states.at(editor.stack.index()));
-    }
-}
 
-void TestMapEditCommand::undoLeavesOtherChangesAlone()
-{
-    Editor editor;
-    editor.edit([&] {
-        editor.map->setTiles(QRect(0, 2, 10, 1), 4, false, false, false, true);
-        editor.map->setTiles(QRect(3, 3, 10, 5), 4, false, false, false, true);
-    });
-    editor.map->setTile({14, 3}, Cell);
-    editor.map->addSprite({});
-    for (const int width : {15, 10, 5}) { // wider than the first changed cells, as wide, and narrower
-        editor.map->resize({width, 4});
+    void undoLeavesOtherChangesAlone()
+    {
+        Editor editor;
+        editor.edit([&] {
+            editor.map->setTiles(QRect(0, 2, 10, 1), 4, false, false, false, true);
+            editor.map->setTiles(QRect(3, 3, 10, 5), 4, false, false, false, true);
+        });
+        editor.map->setTile({14, 3}, Cell);
+        editor.map->addSprite({});
+        for (const int width : {15, 10, 5}) { // wider than the first changed cells, as wide, and narrower
+            editor.map->resize({width, 4});
+            editor.stack.undo();
+            QVERIFY(editor.tiles.cellAt({4, 2}) == TileMap::TileData()
+                    && editor.tiles.cellAt({4, 3}) == TileMap::TileData());
+            QCOMPARE(editor.tiles.cellAt({14, 3}), width == 15 ? Cell : TileMap::TileData());
+            QCOMPARE(editor.map->sprites().size(), 1);
+            editor.stack.redo();
+            QVERIFY(editor.tiles.cellAt({4, 2}).used && editor.tiles.cellAt({4, 3}).used);
+            for (const TileMap::Row &row : editor.tiles.rows())
+                QCOMPARE(row.size(), width);
+        }
+        editor.map.reset(); // a dead map is safe
         editor.stack.undo();
-        QVERIFY(editor.tiles.cellAt({4, 2}) == TileMap::TileData()
-                && editor.tiles.cellAt({4, 3}) == TileMap::TileData());
-        QCOMPARE(editor.tiles.cellAt({14, 3}), width == 15 ? Cell : TileMap::TileData());
-        QCOMPARE(editor.map->sprites().size(), 1);
         editor.stack.redo();
-        QVERIFY(editor.tiles.cellAt({4, 2}).used && editor.tiles.cellAt({4, 3}).used);
-        for (const TileMap::Row &row : editor.tiles.rows())
-            QCOMPARE(row.size(), width);
+        QCOMPARE(editor.stack.index(), 1);
     }
-    editor.map.reset(); // a dead map is safe
-    editor.stack.undo();
-    editor.stack.redo();
-    QCOMPARE(editor.stack.index(), 1);
-}
+};
 
 QUENMORA_TEST_MAIN(TestMapEditCommand)
 #include "tst_mapeditcommand.moc"

@@ -13,44 +13,42 @@ class TestAnimationControl : public QObject
     Q_OBJECT
 
 private slots:
-    void buttonsAreTheListedOnes();
-    void labelAndPauseChangeBeforeTheSignal();
-};
-
-void TestAnimationControl::buttonsAreTheListedOnes()
-{
-    Control control;
-    QStringList found; // + can be checked, * is, - is disabled
-    for (const QToolButton *button : control.findChildren<QToolButton *>()) {
-        QCOMPARE(button->defaultAction(), control.action(Control::Action(found.size())));
-        QVERIFY(!button->icon().isNull());
-        found += button->toolTip() + (button->isCheckable() ? "+" : "") + (button->isChecked() ? "*" : "")
-            + (button->isEnabled() ? "" : "-");
+    void buttonsAreTheListedOnes()
+    {
+        Control control;
+        QStringList found; // + can be checked, * is, - is disabled
+        for (const QToolButton *button : control.findChildren<QToolButton *>()) {
+            QCOMPARE(button->defaultAction(), control.action(Control::Action(found.size())));
+            QVERIFY(!button->icon().isNull());
+            found += button->toolTip() + (button->isCheckable() ? "+" : "") + (button->isChecked() ? "*" : "")
+                + (button->isEnabled() ? "" : "-");
+        }
+        QCOMPARE(found,
+                 QStringList({"Goto first frame", "Previous frame", "Play", "Pause playback+", "Stop", "Next frame",
+                              "Goto last frame", "Add a frame", "Delete current frame", "Loop+*", "Ping pong+-"}));
+        control.action(Control::PingPong)->setChecked(true);
+        QVERIFY(!control.action(Control::Loop)->isChecked());
     }
-    QCOMPARE(found,
-             QStringList({"Goto first frame", "Previous frame", "Play", "Pause playback+", "Stop", "Next frame",
-                          "Goto last frame", "Add a frame", "Delete current frame", "Loop+*", "Ping pong+-"}));
-    control.action(Control::PingPong)->setChecked(true);
-    QVERIFY(!control.action(Control::Loop)->isChecked());
-}
 
-void TestAnimationControl::labelAndPauseChangeBeforeTheSignal()
-{
-    Control control;
-    QStringList heard(control.text());
-    connect(&control, &Control::buttonClicked, this, [&](Control::Action action, bool checked) {
-        heard += QStringLiteral("%1%2: %3").arg(action).arg(checked ? "+" : "").arg(control.text());
-    });
-    control.setFrame(2, 4);
-    for (const auto action :
-         {Control::Next, Control::Last, Control::Next, Control::Previous, Control::First, Control::Previous,
-          Control::Pause, Control::Play, Control::Pause, Control::Stop, Control::Pause, Control::Pause})
-        control.action(action)->trigger();
-    QCOMPARE(heard,
-             QStringList({"Frame 1 of 1", "5: Frame 3 of 4", "6: Frame 4 of 4", "5: Frame 4 of 4", "1: Frame 3 of 4",
-                          "0: Frame 1 of 4", "1: Frame 1 of 4", "3+: Frame 1 of 4", "2: Frame 1 of 4",
-                          "3+: Frame 1 of 4", "4: Frame 1 of 4", "3+: Frame 1 of 4", "3: Frame 1 of 4"}));
-}
+    void labelAndPauseChangeBeforeTheSignal()
+    {
+        Control control;
+        QStringList heard(control.text());
+        connect(&control, &Control::buttonClicked, this, [&](Control::Action action, bool checked) {
+            heard += QStringLiteral("%1%2: %3").arg(action).arg(checked ? "+" : "").arg(control.text());
+        });
+        control.setFrame(2, 4);
+        for (const auto action :
+             {Control::Next, Control::Last, Control::Next, Control::Previous, Control::First, Control::Previous,
+              Control::Pause, Control::Play, Control::Pause, Control::Stop, Control::Pause, Control::Pause})
+            control.action(action)->trigger();
+        QCOMPARE(
+            heard,
+            QStringList({"Frame 1 of 1", "5: Frame 3 of 4", "6: Frame 4 of 4", "5: Frame 4 of 4", "1: Frame 3 of 4",
+                         "0: Frame 1 of 4", "1: Frame 1 of 4", "3+: Frame 1 of 4", "2: Frame 1 of 4",
+                         "3+: Frame 1 of 4", "4: Frame 1 of 4", "3+: Frame 1 of 4", "3: Frame 1 of 4"}));
+    }
+};
 
 QUENMORA_TEST_MAIN(TestAnimationControl)
 #include "tst_animationcontrol.moc"

@@ -63,213 +63,203 @@ class TestBlockEditorView : public QObject
 private slots:
     void cleanup() { EditClock::setSource({}); }
 
-    void toolBarShowsAndSetsTheProperties();
-    void playsAtTheDelayAndWraps();
-    void toolsChangeTheSelectedCell();
-    void undoRefreshesWhatIsShown();
-    void addsAndClonesAnimations();
-    void tabLeadsFromTheListToTheCells();
-    void deletesAnAnimationWhenAskedTwice();
-    void buttonsMoveAddAndDeleteFrames();
-    void assetsMayDie();
-};
-
-void TestBlockEditorView::toolBarShowsAndSetsTheProperties()
-{
-    const QStringList names{"Width", "Height", "Delay"};
-    Fixture f;
-    f.door->setMapObjectType(MapObjectType::HorizontalPlatform);
-    f.stack.clear();
-    f.open(f.blocks);
-    QVERIFY(!f.list()->selected() && !f.editor()->isEnabled());
-    f.list()->select(f.door);
-    QCOMPARE(f.stack.count(), 0); // showing is no edit
-    auto *name = f.field<QLineEdit>("Name");
-    auto *type = f.field<QComboBox>("Type");
-    QCOMPARE(name->text(), "Door");
-    QCOMPARE(type->currentText(), "Horizontal Platform");
-    QCOMPARE(f.numbers(names), QList<int>({2, 1, 2}));
-
-    QTest::keyClicks(name, "s");
-    type->setCurrentIndex(0);
-    f.setNumbers({{"Width", 99}, {"Height", 3}, {"Delay", -1}});
-    QCOMPARE(f.door->name(), "Doors");
-    QCOMPARE(f.view->title(), "Animation: Doors");
-    QCOMPARE(f.door->type(), MapObjectType::Normal);
-    QCOMPARE(f.door->size(), QSize(16, 3));
-    QCOMPARE(f.door->delay(), 0);
-    QCOMPARE(f.field<QSpinBox>("Delay")->text(), "None");
-
-    // a block that is not shown any more is left alone
-    const auto other = f.blocks->createBoundTileAnimation("Lift");
-    f.list()->select(other);
-    f.setNumbers({{"Width", 7}});
-    QCOMPARE(f.door->size(), QSize(16, 3));
-    QCOMPARE(other->size(), QSize(7, 1));
-}
-
-void TestBlockEditorView::playsAtTheDelayAndWraps()
-{
-    Fixture f;
-    QCOMPARE(f.editor()->frameInterval(), 60);
-    f.setNumbers({{"Delay", 0}});
-    QCOMPARE(f.editor()->frameInterval(), 20);
-    QCOMPARE(f.played(4), QList<int>({1, 2, 0, 1}));
-    f.press(Control::Play);
-    QVERIFY(f.editor()->isPlaying());
-    f.list()->select(nullptr);
-    QVERIFY(!f.editor()->isPlaying());
-    f.list()->select(f.door);
-    f.press(Control::Play);
-    f.view->hide();
-    QVERIFY(!f.editor()->isPlaying());
-}
-
-void TestBlockEditorView::toolsChangeTheSelectedCell()
-{
-    Fixture f;
-    f.door->frame(0)->setCells({{{}, {1, 4, false, true, false}}});
-    f.cells()->setSelectedCell({1, 0});
-    QVERIFY(f.tool(Mirror)->isChecked() && !f.tool(Flip)->isChecked());
-    QCOMPARE(f.numbers({"Index", "Palette offset"}), QList<int>({1, 4}));
-    f.setNumbers({{"Palette offset", 16}, {"Index", 6}});
-    for (const ToolButton button : {RotateCW, Flip, Mirror, ZoomIn})
-        f.tool(button)->trigger();
-    QCOMPARE(f.door->frame(0)->cell(0, 1), (AnimationFrame::Cell{6, 15, true, false, true}));
-    QCOMPARE(f.cells()->zoom(), 16);
-
-    const QSignalSpy edited(f.view.get(), &View::tileDoubleClicked);
-    QTest::mouseDClick(f.cells(), Qt::LeftButton, Qt::NoModifier, f.cells()->cellRect({1, 0}).center());
-    QCOMPARE(edited, (QList<QVariantList>{{7}})); // counted from 1
-
-    f.press(Control::Next); // the buttons show the cell of that frame
-    QVERIFY(!f.tool(Flip)->isChecked());
-    f.tiles->setTileOffset(6, 2);
-    QCOMPARE(f.tool(PaintPalette)->toolTip(), "Update palette offsets to default values");
-    f.tool(PaintPalette)->trigger();
-    QCOMPARE(f.door->frame(0)->cell(0, 1).offset, 2);
-}
-
-void TestBlockEditorView::undoRefreshesWhatIsShown()
-{
-    Fixture f;
-    qint64 now = 10'000;
-    EditClock::setSource([&now] { return now += 1000; });
-    const auto before = f.door->state();
-    f.setNumbers({{"Delay", 9}, {"Width", 4}});
-    f.field<QComboBox>("Type")->setCurrentIndex(1);
-    f.cells()->setSelectedCell({3, 0});
-    f.tool(Flip)->trigger();
-    f.press(Control::AddFrame);
-    const auto after = f.door->state();
-
-    f.stack.undo();
-    QCOMPARE(f.label(), "3 of 3"); // the one shown has gone
-    f.stack.setIndex(0);
-    QVERIFY(f.door->state() == before);
-    QCOMPARE(f.numbers({"Width", "Delay"}), QList<int>({2, 2}));
-    QCOMPARE(f.field<QComboBox>("Type")->currentIndex(), 0);
-    QCOMPARE(f.editor()->frameInterval(), 60);
-    QVERIFY(!f.tool(Flip)->isEnabled() && !f.tool(Flip)->isChecked()); // no cell is selected any more
-    f.stack.setIndex(5);
-    QVERIFY(f.door->state() == after);
-}
-
-void TestBlockEditorView::addsAndClonesAnimations()
-{
-    Fixture f;
-    const QSignalSpy added(f.view.get(), &View::animationAdded);
-    emit f.list()->addRequested();
-    const auto *made = qobject_cast<TileAnimation *>(f.editor()->animation());
-    QCOMPARE(f.texts(), QStringList({"Door", "New Object"}));
-    QCOMPARE(made->frameCount(), 1);
-    QCOMPARE(made->tileSet(), f.tiles);
-    QCOMPARE(added.last().first().value<TileAnimation *>(), made);
-
-    emit f.list()->cloneRequested(f.door);
-    QCOMPARE(f.texts(), QStringList({"Door", "New Object", "Door (Copy)"}));
-    QCOMPARE(f.view->title(), "Animation: Door (Copy)");
-    QCOMPARE(added.count(), 2);
-
-    f.list()->select(f.door);
-    const auto lift = f.blocks->createBoundTileAnimation("Lift"); // by others
-    QCOMPARE(f.texts().last(), "Lift");
-    QCOMPARE(f.list()->selected(), f.door);
-}
-
-void TestBlockEditorView::tabLeadsFromTheListToTheCells()
-{
-    Fixture f;
-    f.list()->setFocus();
-    for (int i = 0; i < 11; ++i)
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    QCOMPARE(QApplication::focusWidget(), f.cells());
-}
-
-void TestBlockEditorView::deletesAnAnimationWhenAskedTwice()
-{
-    Fixture f;
-    bool removed = false;
-    connect(f.view.get(), &View::animationRemoved, this, [&](TileAnimation *animation) {
-        removed = animation == f.door && f.blocks->contains(animation->id()); // still there
-    });
-    f.answer = false;
-    emit f.list()->removeRequested();
-    QVERIFY(!removed && f.editor()->animation() == f.door);
-    f.answer = true;
-    f.list()->setFocus();
-    QTest::keyClick(f.list()->focusProxy(), Qt::Key_Delete);
-    QVERIFY(removed && !f.door && !f.editor()->isEnabled() && f.texts().isEmpty());
-    emit f.list()->removeRequested(); // nothing is selected
-    QCOMPARE(f.questions, QStringList(2, "Delete? Are you sure you want to remove this animation?"));
-}
-
-void TestBlockEditorView::buttonsMoveAddAndDeleteFrames()
-{
-    Fixture f;
-    QStringList labels;
-    for (const auto action : {Control::Previous, Control::Next, Control::Next, Control::Next, Control::Previous,
-                              Control::Last, Control::AddFrame, Control::DeleteFrame, Control::First,
-                              Control::DeleteFrame, Control::DeleteFrame, Control::DeleteFrame}) {
-        f.press(action);
-        QVERIFY(f.label().startsWith(QString::number(f.cells()->currentFrame() + 1)));
-        labels += f.label();
-    }
-    QCOMPARE(labels.join(", "),
-             "1 of 3, 2 of 3, 3 of 3, 3 of 3, 2 of 3, 3 of 3, 4 of 4, 3 of 3, 1 of 3, 1 of 2, 1 of 1, 1 of 1");
-    QCOMPARE(f.door->frame(0)->cell(0, 0), AnimationFrame::Cell()); // the last one became empty
-}
-
-void TestBlockEditorView::assetsMayDie()
-{
-    for (const QString what : {"tile set", "block set", "animation", "animation, asking", "view, asking"}) {
+    void toolBarShowsAndSetsTheProperties()
+    {
+        const QStringList names{"Width", "Height", "Delay"};
         Fixture f;
-        const auto remove = [&] {
-            if (what == "view, asking")
-                f.view.reset();
-            else
-                delete QHash<QChar, QObject *>{{u't', f.tiles}, {u'b', f.blocks}, {u'a', f.door}}.value(what[0]);
-            return true;
-        };
-        f.cells()->setSelectedCell({0, 0});
-        f.press(Control::Play);
-        if (what.endsWith("asking")) { // whether it is to be deleted
-            f.view->setQuestion([&](const QString &, const QString &) { return remove(); });
-            emit f.list()->removeRequested();
-        } else {
-            remove();
-        }
-        if (!f.view)
-            continue;
-        QCOMPARE(f.editor()->isPlaying(), !f.door.isNull());
-        QCOMPARE(f.editor()->isEnabled(), !f.door.isNull());
-        QCOMPARE(f.texts().isEmpty(), f.door.isNull());
-        f.view->grab();
-        f.tool(PaintPalette)->trigger();
-        f.press(Control::Next);
-        emit f.list()->addRequested();
+        f.door->setMapObjectType(MapObjectType::HorizontalPlatform);
+        f.stack.clear();
+        f.open(f.blocks);
+        QVERIFY(!f.list()->selected() && !f.editor()->isEnabled());
+        f.list()->select(f.door);
+        QCOMPARE(f.stack.count(), 0); // showing is no edit
+        auto *name = f.field<QLineEdit>("Name");
+        auto *type = f.field<QComboBox>("Type");
+        QCOMPARE(name->text(), "Door");
+        QCOMPARE(type->currentText(), "Horizontal Platform");
+        QCOMPARE(f.numbers(names), QList<int>({2, 1, 2}));
+
+        QTest::keyClicks(name, "s");
+        type->setCurrentIndex(0);
+        f.setNumbers({{"Width", 99}, {"Height", 3}, {"Delay", -1}});
+        QCOMPARE(f.door->name(), "Doors");
+        QCOMPARE(f.view->title(), "Animation: Doors");
+        QCOMPARE(f.door->type(), MapObjectType::Normal);
+        QCOMPARE(f.door->size(), QSize(16, 3));
+        QCOMPARE(f.door->delay(), 0);
+        QCOMPARE(f.field<QSpinBox>("Delay")->text(), "None");
+
+        // a block that is not shown any more is left alone
+        const auto other = f.blocks->createBoundTileAnimation("Lift");
+        f.list()->select(other);
+        f.setNumbers({{"Width", 7}});
+        QCOMPARE(f.door->size(), QSize(16, 3));
+        QCOMPARE(other->size(), QSize(7, 1));
     }
-}
+
+    void playsAtTheDelayAndWraps()
+    {
+        Fixture f;
+        QCOMPARE(f.editor()->frameInterval(), 60);
+        f.setNumbers({{"Delay", 0}});
+        QCOMPARE(f.editor()->frameInterval(), 20);
+        QCOMPARE(f.played(4), QList<int>({1, 2, 0, 1}));
+        f.press(Control::Play);
+        QVERIFY(f.editor()->isPlaying());
+        f.list()->select(nullptr);
+        QVERIFY(!f.editor()->isPlaying());
+        f.list()->select(f.door);
+        f.press(Control::Play);
+        f.view->hide();
+        QVERIFY(!f.editor()->isPlaying());
+    }
+
+    void toolsChangeTheSelectedCell()
+    {
+        Fixture f;
+        f.door->frame(0)->setCells({{{}, {1, 4, false, true, false}}});
+        f.cells()->setSelectedCell({1, 0});
+        QVERIFY(f.tool(Mirror)->isChecked() && !f.tool(Flip)->isChecked());
+        QCOMPARE(f.numbers({"Index", "Palette offset"}), QList<int>({1, 4}));
+        f.setNumbers({{"Palette offset", 16}, {"Index", 6}});
+        for (const ToolButton button : {RotateCW, Flip, Mirror, ZoomIn})
+            f.tool(button)->trigger();
+        QCOMPARE(f.door->frame(0)->cell(0, 1), (AnimationFrame::Cell{6, 15, true, false, true}));
+        QCOMPARE(f.cells()->zoom(), 16);
+
+        const QSignalSpy edited(f.view.get(), &View::tileDoubleClicked);
+        QTest::mouseDClick(f.cells(), Qt::LeftButton, Qt::NoModifier, f.cells()->cellRect({1, 0}).center());
+        QCOMPARE(edited, (QList<QVariantList>{{7}})); // counted from 1
+
+        f.press(Control::Next); // the buttons show the cell of that frame
+        QVERIFY(!f.tool(Flip)->isChecked());
+        f.tiles->setTileOffset(6, 2);
+        QCOMPARE(f.tool(PaintPalette)->toolTip(), "Update palette offsets to default values");
+        f.tool(PaintPalette)->trigger();
+        QCOMPARE(f.door->frame(0)->cell(0, 1).offset, 2);
+    }
+
+    void undoRefreshesWhatIsShown()
+    {
+        Fixture f;
+        qint64 now = 10'000;
+        EditClock::setSource([&now] { return now += 1000; });
+        const auto before = f.door->state();
+        f.setNumbers({{"Delay", 9}, {"Width", 4}});
+        f.field<QComboBox>("Type")->setCurrentIndex(1);
+        f.cells()->setSelectedCell({3, 0});
+        f.tool(Flip)->trigger();
+        f.press(Control::AddFrame);
+        const auto after = f.door->state();
+
+        f.stack.undo();
+        QCOMPARE(f.label(), "3 of 3"); // the one shown has gone
+        f.stack.setIndex(0);
+        QVERIFY(f.door->state() == before);
+        QCOMPARE(f.numbers({"Width", "Delay"}), QList<int>({2, 2}));
+        QCOMPARE(f.field<QComboBox>("Type")->currentIndex(), 0);
+        QCOMPARE(f.editor()->frameInterval(), 60);
+        QVERIFY(!f.tool(Flip)->isEnabled() && !f.tool(Flip)->isChecked()); // no cell is selected any more
+        f.stack.setIndex(5);
+        QVERIFY(f.door->state() == after);
+    }
+
+    void addsAndClonesAnimations()
+    {
+        Fixture f;
+        const QSignalSpy added(f.view.get(), &View::animationAdded);
+        emit f.list()->addRequested();
+        const auto *made = qobject_cast<TileAnimation *>(f.editor()->animation());
+        QCOMPARE(f.texts(), QStringList({"Door", "New Object"}));
+        QCOMPARE(made->frameCount(), 1);
+        QCOMPARE(made->tileSet(), f.tiles);
+        QCOMPARE(added.last().first().value<TileAnimation *>(), made);
+
+        emit f.list()->cloneRequested(f.door);
+        QCOMPARE(f.texts(), QStringList({"Door", "New Object", "Door (Copy)"}));
+        QCOMPARE(f.view->title(), "Animation: Door (Copy)");
+        QCOMPARE(added.count(), 2);
+
+        f.list()->select(f.door);
+        const auto lift = f.blocks->createBoundTileAnimation("Lift"); // by others
+        QCOMPARE(f.texts().last(), "Lift");
+        QCOMPARE(f.list()->selected(), f.door);
+    }
+
+    void tabLeadsFromTheListToTheCells()
+    {
+        Fixture f;
+        f.list()->setFocus();
+        for (int i = 0; i < 11; ++i)
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        QCOMPARE(QApplication::focusWidget(), f.cells());
+    }
+
+    void deletesAnAnimationWhenAskedTwice()
+    {
+        Fixture f;
+        bool removed = false;
+        connect(f.view.get(), &View::animationRemoved, this, [&](TileAnimation *animation) {
+            removed = animation == f.door && f.blocks->contains(animation->id()); // still there
+        });
+        f.answer = false;
+        emit f.list()->removeRequested();
+        QVERIFY(!removed && f.editor()->animation() == f.door);
+        f.answer = true;
+        f.list()->setFocus();
+        QTest::keyClick(f.list()->focusProxy(), Qt::Key_Delete);
+        QVERIFY(removed && !f.door && !f.editor()->isEnabled() && f.texts().isEmpty());
+        emit f.list()->removeRequested(); // nothing is selected
+        QCOMPARE(f.questions, QStringList(2, "Delete? Are you sure you want to remove this animation?"));
+    }
+
+    void buttonsMoveAddAndDeleteFrames()
+    {
+        Fixture f;
+        QStringList labels;
+        for (const auto action : {Control::Previous, Control::Next, Control::Next, Control::Next, Control::Previous,
+                                  Control::Last, Control::AddFrame, Control::DeleteFrame, Control::First,
+                                  Control::DeleteFrame, Control::DeleteFrame, Control::DeleteFrame}) {
+            f.press(action);
+            QVERIFY(f.label().startsWith(QString::number(f.cells()->currentFrame() + 1)));
+            labels += f.label();
+        }
+        QCOMPARE(labels.join(", "),
+                 "1 of 3, 2 of 3, 3 of 3, 3 of 3, 2 of 3, 3 of 3, 4 of 4, 3 of 3, 1 of 3, 1 of 2, 1 of 1, 1 of 1");
+        QCOMPARE(f.door->frame(0)->cell(0, 0), AnimationFrame::Cell()); // the last one became empty
+    }
+
+    void assetsMayDie()
+    {
+        for (const QString what : {"tile set", "block set", "animation", "animation, asking", "view, asking"}) {
+            Fixture f;
+            const auto remove = [&] {
+                if (what == "view, asking")
+                    f.view.reset();
+                else
+                    delete QHash<QChar, QObject *>{{u't', f.tiles}, {u'b', f.blocks}, {u'a', f.door}}.value(what[0]);
+                return true;
+            };
+            f.cells()->setSelectedCell({0, 0});
+            f.press(Control::Play);
+            if (what.endsWith("asking")) { // whether it is to be deleted
+                f.view->setQuestion([&](const QString &, const QString &) { return remove(); });
+                emit f.list()->removeRequested();
+            } else {
+                remove();
+            }
+            if (!f.view)
+                continue;
+            QCOMPARE(f.editor()->isPlaying(), !f.door.isNull());
+            QCOMPARE(f.editor()->isEnabled(), !f.door.isNull());
+            QCOMPARE(f.texts().isEmpty(), f.door.isNull());
+            f.view->grab();
+            f.tool(PaintPalette)->trigger();
+            f.press(Control::Next);
+            emit f.list()->addRequested();
+        }
+    }
+};
 
 QUENMORA_TEST_MAIN(TestBlockEditorView)
 #include "tst_blockeditorview.moc"

@@ -49,173 +49,165 @@ class TestFrameEditor : public QObject
     Q_OBJECT
 
 private slots:
-    void settersChangeTheSelectedCellOfTheCurrentFrame();
-    void menuAndToolTipShowTheCell();
-    void paintsCellsAndMarks();
-    void sizeFollowsZoomAndAnimation();
-    void selectsByMouseAndKeys();
-    void takesWhatFits();
-    void animationMayDieDuringADrag();
-};
-
-void TestFrameEditor::settersChangeTheSelectedCellOfTheCurrentFrame()
-{
-    Fixture f;
-    f.editor.setRotated(true); // no cell is selected
-    QCOMPARE(f.cell(0, 0), Cell());
-    f.editor.setCurrentFrame(1);
-    f.editor.setSelectedCell({2, 1});
-    f.editor.setRotated(true);
-    f.editor.setOffset(5);
-    f.editor.setIndex(9);
-    QCOMPARE(f.cell(1, 2, 1), (Cell{9, 5, false, false, true}));
-    QCOMPARE(f.cell(1, 2, 0), Cell());
-
-    TileAnimation empty;
-    f.editor.setAnimation(&empty); // without frames
-    f.editor.setSelectedCell({0, 0});
-    f.editor.setRotated(true);
-}
-
-void TestFrameEditor::menuAndToolTipShowTheCell()
-{
-    Fixture f;
-    f.block->frame(0)->setCells({{{}, {7, 3, true, false, true}, {}}, {{}, {}, {}}});
-    QHelpEvent inside(QEvent::ToolTip, f.at(1, 0), {});
-    QApplication::sendEvent(&f.editor, &inside);
-    QCOMPARE(QToolTip::text(), "Index:\t7\nOffset:\t3\nFlip\tYes\nMirror:\tNo\nRotate:\tYes");
-    QHelpEvent outside(QEvent::ToolTip, {200, 200}, {});
-    QApplication::sendEvent(&f.editor, &outside);
-    QTRY_VERIFY(!QToolTip::isVisible());
-
-    QMenu &menu = *f.editor.contextMenu();
-    QTest::mouseClick(&f.editor, Qt::RightButton, Qt::NoModifier, f.at(1, 0));
-    QVERIFY(menu.isVisible());
-    QStringList entries(menu.title());
-    for (QAction *action : menu.actions()) {
-        entries += action->text() + (action->isChecked() ? "+" : "-");
-        action->trigger();
-    }
-    menu.close();
-    QCOMPARE(entries, QStringList({"Frame", "Rotated+", "Flipped+", "Mirrored-"}));
-    QCOMPARE(f.cell(0, 1), (Cell{7, 3, false, true, false}));
-}
-
-void TestFrameEditor::paintsCellsAndMarks()
-{
-    Fixture f;
-    f.block->frame(1)->setIndex(1, 0, 1);
-    f.editor.setCellRenderer([](const Cell &cell) {
-        QImage picture(1, 1, QImage::Format_RGB32);
-        picture.fill(Qt::red);
-        return cell.index == 1 ? picture : QImage();
-    });
-    f.editor.setCurrentFrame(1);
-    f.editor.setSelectedCell({1, 0});
-    const QImage seen = f.editor.grab().toImage();
-    for (const auto &[position, colour] : {std::pair(QPoint(5, 5), QColor(Qt::black)),
-                                           {{0, 32}, Qt::red},
-                                           {{32, 63}, Qt::black},
-                                           {{48, 2}, {127, 127, 127}}})
-        QCOMPARE(seen.pixelColor(position), colour);
-    f.editor.setAnimation(nullptr);
-    QCOMPARE(f.editor.size(), QSize(32, 32));
-    QCOMPARE(f.editor.grab().toImage().pixelColor(5, 5), QColor(Qt::darkGray));
-}
-
-void TestFrameEditor::sizeFollowsZoomAndAnimation()
-{
-    Fixture f;
-    for (int i = 0; i < 5; ++i) // 4, 8, 16, 32, 64 and no further
-        f.editor.zoomIn();
-    QCOMPARE(f.editor.size(), QSize(3, 2) * 8 * 64);
-    for (int i = 0; i < 7; ++i)
-        f.editor.zoomOut();
-    QCOMPARE(f.editor.size(), QSize(24, 16));
-    f.editor.setSelectedCell({2, 1});
-    const QSignalSpy selection(&f.editor, &FrameEditorWidget::selectedCellChanged);
-    f.block->setWidth(2);
-    QCOMPARE(f.editor.size(), QSize(16, 16));
-    QCOMPARE(selection, (QList<QVariantList>{{None}}));
-}
-
-void TestFrameEditor::selectsByMouseAndKeys()
-{
-    for (const auto &[position, cell] : {std::pair(QPoint(0, 1), QPoint(0, 0)),
-                                         {{31, 31}, {0, 0}},
-                                         {{32, 32}, {1, 1}},
-                                         {{96, 0}, None},
-                                         {{0, 64}, None},
-                                         {{-1, 0}, None}}) {
-        Fixture f;
-        const QSignalSpy selection(&f.editor, &FrameEditorWidget::selectedCellChanged);
-        QTest::mouseRelease(&f.editor, Qt::LeftButton, Qt::NoModifier, position);
-        QCOMPARE(selection, cell == None ? QList<QVariantList>() : (QList<QVariantList>{{cell}}));
-    }
-    Fixture f;
-    const QSignalSpy activated(&f.editor, &FrameEditorWidget::cellActivated);
-    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Down, Qt::Key_Right, Qt::Key_Right, Qt::Key_Right, Qt::Key_Down,
-                              Qt::Key_Left, Qt::Key_Return})
-        QTest::keyClick(&f.editor, key);
-    QCOMPARE(activated, (QList<QVariantList>{{QPoint(1, 1)}}));
-}
-
-void TestFrameEditor::takesWhatFits()
-{
-    const QString tiles("quenmora/tile-drag-anim");
-    const QByteArray good("0000000700000003");
-    constexpr QPoint Nowhere(-9, -9);
-    struct Drag
+    void settersChangeTheSelectedCellOfTheCurrentFrame()
     {
-        QString type;
-        QByteArray hex;
-        QPoint target{2, 1}; ///< while the drag is over the widget
-        bool dropped = false;
-    };
-    const Drag drags[] = {{tiles, good, {2, 1}, true},
-                          {tiles, good, None}, // outside
-                          {"quenmora/sprite-drag-anim", "00000007", Nowhere},
-                          {"text/plain", good, Nowhere},
-                          {tiles, good.chopped(2)},
-                          {tiles, "ffffffff00000003"},
-                          {tiles, "0000001000000003"}, // beyond the last tile
-                          {tiles, "0000000700000010"}}; // beyond the last offset
-    for (const Drag &drag : drags) {
         Fixture f;
-        f.editor.setIndexCount(16);
+        f.editor.setRotated(true); // no cell is selected
+        QCOMPARE(f.cell(0, 0), Cell());
         f.editor.setCurrentFrame(1);
-        f.block->frame(1)->setMirror(1, 2, true);
-        const QSignalSpy selection(&f.editor, &FrameEditorWidget::selectedCellChanged);
-        QMimeData data;
-        data.setData(drag.type, QByteArray::fromHex(drag.hex));
-        QPoint target = Nowhere;
-        QCOMPARE(f.drop(data, drag.target == None ? QPoint(200, 10) : f.at(drag.target.x(), drag.target.y()),
-                        [&] { target = f.editor.dropTarget(); }),
-                 drag.dropped);
-        QCOMPARE(target, drag.target);
-        QCOMPARE(f.editor.dropTarget(), None);
-        QCOMPARE(selection, drag.dropped ? (QList<QVariantList>{{drag.target}}) : QList<QVariantList>());
-        QCOMPARE(f.cell(1, 2, 1), (drag.dropped ? Cell{7, 3, false, true, false} : Cell{0, 0, false, true, false}));
+        f.editor.setSelectedCell({2, 1});
+        f.editor.setRotated(true);
+        f.editor.setOffset(5);
+        f.editor.setIndex(9);
+        QCOMPARE(f.cell(1, 2, 1), (Cell{9, 5, false, false, true}));
+        QCOMPARE(f.cell(1, 2, 0), Cell());
+
+        TileAnimation empty;
+        f.editor.setAnimation(&empty); // without frames
+        f.editor.setSelectedCell({0, 0});
+        f.editor.setRotated(true);
     }
 
-    Fixture f;
-    SpriteAnim walk;
-    f.editor.setAnimation(&walk);
-    const std::unique_ptr<QMimeData> tile(TileDrag{1, 0}.toMimeData());
-    const std::unique_ptr<QMimeData> sprite(SpriteDrag{12}.toMimeData());
-    QVERIFY(!f.drop(*tile, {5, 5}));
-    QVERIFY(f.drop(*sprite, {5, 5}));
-    QCOMPARE(walk.frame(0)->cell(0, 0).index, 12);
-}
+    void menuAndToolTipShowTheCell()
+    {
+        Fixture f;
+        f.block->frame(0)->setCells({{{}, {7, 3, true, false, true}, {}}, {{}, {}, {}}});
+        QHelpEvent inside(QEvent::ToolTip, f.at(1, 0), {});
+        QApplication::sendEvent(&f.editor, &inside);
+        QCOMPARE(QToolTip::text(), "Index:\t7\nOffset:\t3\nFlip\tYes\nMirror:\tNo\nRotate:\tYes");
+        QHelpEvent outside(QEvent::ToolTip, {200, 200}, {});
+        QApplication::sendEvent(&f.editor, &outside);
+        QTRY_VERIFY(!QToolTip::isVisible());
 
-void TestFrameEditor::animationMayDieDuringADrag()
-{
-    Fixture f;
-    const std::unique_ptr<QMimeData> data(TileDrag{1, 0}.toMimeData());
-    QVERIFY(!f.drop(*data, {3, 3}, [&] { f.block.reset(); }));
-    QCOMPARE(f.editor.dropTarget(), None);
-    f.editor.grab();
-}
+        QMenu &menu = *f.editor.contextMenu();
+        QTest::mouseClick(&f.editor, Qt::RightButton, Qt::NoModifier, f.at(1, 0));
+        QVERIFY(menu.isVisible());
+        QStringList entries(menu.title());
+        for (QAction *action : menu.actions()) {
+            entries += action->text() + (action->isChecked() ? "+" : "-");
+            action->trigger();
+        }
+        menu.close();
+        QCOMPARE(entries, QStringList({"Frame", "Rotated+", "Flipped+", "Mirrored-"}));
+        QCOMPARE(f.cell(0, 1), (Cell{7, 3, false, true, false}));
+    }
+
+    void paintsCellsAndMarks()
+    {
+        Fixture f;
+        f.block->frame(1)->setIndex(1, 0, 1);
+        f.editor.setCellRenderer([](const Cell &cell) {
+            QImage picture(1, 1, QImage::Format_RGB32);
+            picture.fill(Qt::red);
+            return cell.index == 1 ? picture : QImage();
+        });
+        f.editor.setCurrentFrame(1);
+        f.editor.setSelectedCell({1, 0});
+        const QImage seen = f.editor.grab().toImage();
+        for (const auto &[position, colour] : {std::pair(QPoint(5, 5), QColor(Qt::black)),
+                                               {{0, 32}, Qt::red},
+                                               {{32, 63}, Qt::black},
+                                               {{48, 2}, {127, 127, 127}}})
+            QCOMPARE(seen.pixelColor(position), colour);
+        f.editor.setAnimation(nullptr);
+        QCOMPARE(f.editor.size(), QSize(32, 32));
+        QCOMPARE(f.editor.grab().toImage().pixelColor(5, 5), QColor(Qt::darkGray));
+    }
+
+    void sizeFollowsZoomAndAnimation()
+    {
+        Fixture f;
+        for (int i = 0; i < 5; ++i) // 4, 8, 16, 32, 64 and no further
+            f.editor.zoomIn();
+        QCOMPARE(f.editor.size(), QSize(3, 2) * 8 * 64);
+        for (int i = 0; i < 7; ++i)
+            f.editor.zoomOut();
+        QCOMPARE(f.editor.size(), QSize(24, 16));
+        f.editor.setSelectedCell({2, 1});
+        const QSignalSpy selection(&f.editor, &FrameEditorWidget::selectedCellChanged);
+        f.block->setWidth(2);
+        QCOMPARE(f.editor.size(), QSize(16, 16));
+        QCOMPARE(selection, (QList<QVariantList>{{None}}));
+    }
+
+    void selectsByMouseAndKeys()
+    {
+        for (const auto &[position, cell] : {std::pair(QPoint(0, 1), QPoint(0, 0)),
+                                             {{31, 31}, {0, 0}},
+                                             {{32, 32}, {1, 1}},
+                                             {{96, 0}, None},
+                                             {{0, 64}, None},
+                                             {{-1, 0}, None}}) {
+            Fixture f;
+            const QSignalSpy selection(&f.editor, &FrameEditorWidget::selectedCellChanged);
+            QTest::mouseRelease(&f.editor, Qt::LeftButton, Qt::NoModifier, position);
+            QCOMPARE(selection, cell == None ? QList<QVariantList>() : (QList<QVariantList>{{cell}}));
+        }
+        Fixture f;
+        const QSignalSpy activated(&f.editor, &FrameEditorWidget::cellActivated);
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Down, Qt::Key_Right, Qt::Key_Right, Qt::Key_Right,
+                                  Qt::Key_Down, Qt::Key_Left, Qt::Key_Return})
+            QTest::keyClick(&f.editor, key);
+        QCOMPARE(activated, (QList<QVariantList>{{QPoint(1, 1)}}));
+    }
+
+    void takesWhatFits()
+    {
+        const QString tiles("quenmora/tile-drag-anim");
+        const QByteArray good("0000000700000003");
+        constexpr QPoint Nowhere(-9, -9);
+        struct Drag
+        {
+            QString type;
+            QByteArray hex;
+            QPoint target{2, 1}; ///< while the drag is over the widget
+            bool dropped = false;
+        };
+        const Drag drags[] = {{tiles, good, {2, 1}, true},
+                              {tiles, good, None}, // outside
+                              {"quenmora/sprite-drag-anim", "00000007", Nowhere},
+                              {"text/plain", good, Nowhere},
+                              {tiles, good.chopped(2)},
+                              {tiles, "ffffffff00000003"},
+                              {tiles, "0000001000000003"}, // beyond the last tile
+                              {tiles, "0000000700000010"}}; // beyond the last offset
+        for (const Drag &drag : drags) {
+            Fixture f;
+            f.editor.setIndexCount(16);
+            f.editor.setCurrentFrame(1);
+            f.block->frame(1)->setMirror(1, 2, true);
+            const QSignalSpy selection(&f.editor, &FrameEditorWidget::selectedCellChanged);
+            QMimeData data;
+            data.setData(drag.type, QByteArray::fromHex(drag.hex));
+            QPoint target = Nowhere;
+            QCOMPARE(f.drop(data, drag.target == None ? QPoint(200, 10) : f.at(drag.target.x(), drag.target.y()),
+                            [&] { target = f.editor.dropTarget(); }),
+                     drag.dropped);
+            QCOMPARE(target, drag.target);
+            QCOMPARE(f.editor.dropTarget(), None);
+            QCOMPARE(selection, drag.dropped ? (QList<QVariantList>{{drag.target}}) : QList<QVariantList>());
+            QCOMPARE(f.cell(1, 2, 1), (drag.dropped ? Cell{7, 3, false, true, false} : Cell{0, 0, false, true, false}));
+        }
+
+        Fixture f;
+        SpriteAnim walk;
+        f.editor.setAnimation(&walk);
+        const std::unique_ptr<QMimeData> tile(TileDrag{1, 0}.toMimeData());
+        const std::unique_ptr<QMimeData> sprite(SpriteDrag{12}.toMimeData());
+        QVERIFY(!f.drop(*tile, {5, 5}));
+        QVERIFY(f.drop(*sprite, {5, 5}));
+        QCOMPARE(walk.frame(0)->cell(0, 0).index, 12);
+    }
+
+    void animationMayDieDuringADrag()
+    {
+        Fixture f;
+        const std::unique_ptr<QMimeData> data(TileDrag{1, 0}.toMimeData());
+        QVERIFY(!f.drop(*data, {3, 3}, [&] { f.block.reset(); }));
+        QCOMPARE(f.editor.dropTarget(), None);
+        f.editor.grab();
+    }
+};
 
 QUENMORA_TEST_MAIN(TestFrameEditor)
 #include "tst_frameeditor.moc"

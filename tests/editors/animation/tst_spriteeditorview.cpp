@@ -43,81 +43,76 @@ class TestSpriteEditorView : public QObject
     Q_OBJECT
 
 private slots:
-    void showsSpritesAndFollowsTheirChanges();
-    void dropIsOneUndoStep();
-    void playsLoopsAndBackAndForth();
-    void addsClonesAndDeletes();
-    void assetsMayDie();
-};
-
-void TestSpriteEditorView::showsSpritesAndFollowsTheirChanges()
-{
-    Fixture f;
-    f.press(Control::Next);
-    QCoreApplication::processEvents(); // the list has drawn its pictures
-    const auto *items = f.list()->findChild<QListWidget *>();
-    f.palette->setColour(0, Qt::green, false);
-    QTRY_COMPARE(items->item(0)->icon().pixmap(32).toImage().pixelColor(1, 1), f.palette->colour(0));
-    f.bank->deleteSprite(0); // sprite 1 is now sprite 0
-    QCOMPARE(f.shownColour(), f.palette->colour(1));
-}
-
-void TestSpriteEditorView::dropIsOneUndoStep()
-{
-    Fixture f;
-    const std::unique_ptr<QMimeData> data(SpriteDrag{3}.toMimeData());
-    EditorInput::drop(*f.cells(), {3, 3}, {3, 3}, *data, Qt::NoModifier);
-    QCOMPARE(f.run->frame(0)->cell(0, 0).index, 3);
-    QCOMPARE(f.stack.count(), 1);
-    f.stack.undo();
-    QCOMPARE(f.run->frame(0)->cell(0, 0).index, 0);
-}
-
-void TestSpriteEditorView::playsLoopsAndBackAndForth()
-{
-    Fixture f;
-    QCOMPARE(f.played(5), QList<int>({1, 2, 3, 0, 1}));
-    f.press(Control::First);
-    f.press(Control::PingPong);
-    QCOMPARE(f.played(8), QList<int>({1, 2, 3, 2, 1, 0, 1, 2}));
-    f.press(Control::Last);
-    QCOMPARE(f.played(2), QList<int>({2, 1}));
-
-    for (const bool playing : {true, false}) { // what was stopped does not go on after a pause
-        f.press(playing ? Control::Play : Control::Stop);
-        f.press(Control::Pause);
-        QVERIFY(!f.editor()->isPlaying());
-        f.press(Control::Pause);
-        QCOMPARE(f.editor()->isPlaying(), playing);
-    }
-}
-
-void TestSpriteEditorView::addsClonesAndDeletes()
-{
-    Fixture f;
-    emit f.list()->cloneRequested(f.run);
-    QCOMPARE(f.texts(), QStringList({"Run\n4 frame(s) [1x1]", "Run (copy)\n4 frame(s) [1x1]"}));
-    emit f.list()->addRequested();
-    QCOMPARE(f.view->title(), "Animation: New Sprite");
-    emit f.list()->removeRequested();
-    QCOMPARE(f.bank->animations().size(), 2);
-    QCOMPARE(f.view->title(), "No animation selected");
-    QCOMPARE(f.stack.count(), 0);
-}
-
-void TestSpriteEditorView::assetsMayDie()
-{
-    for (const QString what : {"palette", "bank", "animation"}) {
+    void showsSpritesAndFollowsTheirChanges()
+    {
         Fixture f;
-        f.press(Control::Play);
-        delete QHash<QString, QObject *>{{"palette", f.palette}, {"bank", f.bank}, {"animation", f.run}}.value(what);
-        QCOMPARE(f.editor()->isPlaying(), what == "palette");
-        f.view->grab();
-        emit f.list()->addRequested();
-        QCOMPARE(f.editor()->isEnabled(), what != "bank");
         f.press(Control::Next);
+        QCoreApplication::processEvents(); // the list has drawn its pictures
+        const auto *items = f.list()->findChild<QListWidget *>();
+        f.palette->setColour(0, Qt::green, false);
+        QTRY_COMPARE(items->item(0)->icon().pixmap(32).toImage().pixelColor(1, 1), f.palette->colour(0));
+        f.bank->deleteSprite(0); // sprite 1 is now sprite 0
+        QCOMPARE(f.shownColour(), f.palette->colour(1));
     }
-}
+
+    void dropIsOneUndoStep()
+    {
+        Fixture f;
+        const std::unique_ptr<QMimeData> data(SpriteDrag{3}.toMimeData());
+        EditorInput::drop(*f.cells(), {3, 3}, {3, 3}, *data, Qt::NoModifier);
+        QCOMPARE(f.run->frame(0)->cell(0, 0).index, 3);
+        QCOMPARE(f.stack.count(), 1);
+        f.stack.undo();
+        QCOMPARE(f.run->frame(0)->cell(0, 0).index, 0);
+    }
+
+    void playsLoopsAndBackAndForth()
+    {
+        Fixture f;
+        QCOMPARE(f.played(5), QList<int>({1, 2, 3, 0, 1}));
+        f.press(Control::First);
+        f.press(Control::PingPong);
+        QCOMPARE(f.played(8), QList<int>({1, 2, 3, 2, 1, 0, 1, 2}));
+        f.press(Control::Last);
+        QCOMPARE(f.played(2), QList<int>({2, 1}));
+
+        for (const bool playing : {true, false}) { // what was stopped does not go on after a pause
+            f.press(playing ? Control::Play : Control::Stop);
+            f.press(Control::Pause);
+            QVERIFY(!f.editor()->isPlaying());
+            f.press(Control::Pause);
+            QCOMPARE(f.editor()->isPlaying(), playing);
+        }
+    }
+
+    void addsClonesAndDeletes()
+    {
+        Fixture f;
+        emit f.list()->cloneRequested(f.run);
+        QCOMPARE(f.texts(), QStringList({"Run\n4 frame(s) [1x1]", "Run (copy)\n4 frame(s) [1x1]"}));
+        emit f.list()->addRequested();
+        QCOMPARE(f.view->title(), "Animation: New Sprite");
+        emit f.list()->removeRequested();
+        QCOMPARE(f.bank->animations().size(), 2);
+        QCOMPARE(f.view->title(), "No animation selected");
+        QCOMPARE(f.stack.count(), 0);
+    }
+
+    void assetsMayDie()
+    {
+        for (const QString what : {"palette", "bank", "animation"}) {
+            Fixture f;
+            f.press(Control::Play);
+            delete QHash<QString, QObject *>{{"palette", f.palette}, {"bank", f.bank}, {"animation", f.run}}.value(
+                what);
+            QCOMPARE(f.editor()->isPlaying(), what == "palette");
+            f.view->grab();
+            emit f.list()->addRequested();
+            QCOMPARE(f.editor()->isEnabled(), what != "bank");
+            f.press(Control::Next);
+        }
+    }
+};
 
 QUENMORA_TEST_MAIN(TestSpriteEditorView)
 #include "tst_spriteeditorview.moc"

@@ -17,322 +17,315 @@ class TestMapGrid : public QObject
     Q_OBJECT
 
 private slots:
-    void laysCellsOut();
-    void findsCellsAndPixels();
-    void zoomStaysInItsRange();
-    void wheelScrollsAndZooms();
-    void scrollingMovesTheBand();
-    void editsTheSelection();
-    void editsPlacedSprites();
-    void resizesTheMap();
-    void paintsTheLayers();
-    void paintsWhatLiesBeneath();
-    void repaintsWhenAssetsChange();
-};
-
-void TestMapGrid::laysCellsOut()
-{
-    for (const auto &[widget, map, viewport, viewRect, furthest, fitted] :
-         {std::tuple(QSize(330, 100), QSize(40, 32), QSize(), QRect(5, 2, 320, 96), QPoint(30, 29), 3),
-          {{330, 330}, {40, 2}, {5, 4}, {85, 133, 160, 64}, {35, 0}, 66},
-          {{20, 100}, {40, 32}, {}, {10, 2, 0, 96}, {40, 29}, 1}}) {
-        MapViewport v;
-        v.viewportEnabled = !viewport.isEmpty();
-        v.viewportSize = viewport;
-        v.scroll = {1000, 1000};
-        v.layout(widget, map);
-        QCOMPARE(v.viewRect, viewRect);
-        QCOMPARE(v.scroll, furthest); // kept inside the map
-        v.fit(widget, map);
-        QCOMPARE(v.zoomFactor, 1);
-        QCOMPARE(v.cellSize, fitted);
-    }
-}
-
-void TestMapGrid::findsCellsAndPixels()
-{
-    MapViewport v;
-    v.cellSize = 12;
-    v.scroll = {3, 5};
-    v.viewRect = QRect(10, 20, 240, 240); // (10, 20) is the corner of cell (3, 5)
-    QCOMPARE(v.cellAt({21, 31}), QPoint(3, 5));
-    QCOMPARE(v.snappedCellAt({22, 32}), QPoint(4, 6));
-    QCOMPARE(v.pixelAt({21, 31}), QPoint(31, 47));
-    v.snap = 4;
-    QCOMPARE(v.snappedCellAt({70, 80}), QPoint(4, 8));
-    QCOMPARE(v.snappedCellAt({58, 32}), QPoint(4, 4)); // cell (7, 6)
-    QCOMPARE(v.snappedPixel({64, 80}), QPoint(64, 64));
-    // rounded down, also left of the cells
-    QCOMPARE(v.cellsUnder(QRect(QPoint(9, 8), QPoint(33, 20))), QRect(QPoint(2, 4), QPoint(4, 5)));
-    QCOMPARE(v.rectOfCells({4, 6, 2, 1}), QRect(22, 32, 24, 12));
-    QCOMPARE(v.rectOfPixels({28, 48, 8, 8}), QRect(16, 32, 12, 12));
-}
-
-void TestMapGrid::zoomStaysInItsRange()
-{
-    MapGridFixture f;
-    QSignalSpy deltas(&f.grid, &MapGrid::scrollDeltaChanged);
-    for (int i = 0; i < 20; ++i)
-        f.grid.zoomIn();
-    for (int i = 0; i < 20; ++i)
-        f.grid.zoomOut();
-    QCOMPARE(deltas.size(), 4 + 7); // from 4 to 8 and from there to 1
-    QCOMPARE(deltas.at(3), (QVariantList{10, 8}));
-    f.grid.setViewPort(true, {4, 4});
-    f.grid.fitTo();
-    QCOMPARE(f.grid.viewport().viewRect, QRect(32, 0, 256, 256));
-    f.grid.applyPreferences({true, Qt::red, Qt::blue, false, 16, 3});
-    f.grid.applyPreferences({false, Qt::red, Qt::blue, true, 8, 9}); // 9 is out of range
-    QCOMPARE(f.grid.viewport().cellSize, 24);
-    QVERIFY(f.grid.isGridVisible());
-}
-
-void TestMapGrid::wheelScrollsAndZooms()
-{
-    MapGridFixture f;
-    f.grid.applyPreferences({.gridSize = 4, .defaultZoom = 8});
-    f.grid.setHorizontalScrollPosition(5);
-    f.grid.setVerticalScrollPosition(5);
-    QSignalSpy positions(&f.grid, &MapGrid::scrollPositionChanged);
-    QPoint before(5, 5);
-    for (const auto &[delta, modifiers, scroll, zoom] : {std::tuple(QPoint(0, -120), Qt::NoModifier, QPoint(5, 6), 8),
-                                                         {{0, 120}, Qt::NoModifier, {5, 5}, 8},
-                                                         {{0, -120}, Qt::ShiftModifier, {6, 5}, 8},
-                                                         {{0, 120}, Qt::ShiftModifier, {5, 5}, 8},
-                                                         {{-120, 0}, Qt::NoModifier, {6, 5}, 8},
-                                                         {{0, 0}, Qt::NoModifier, {6, 5}, 8}, // fingers on a touchpad
-                                                         {{0, -120}, Qt::ControlModifier, {6, 5}, 7},
-                                                         {{0, 120}, Qt::ControlModifier, {6, 5}, 8}}) {
-        f.move(f.at(1, 1));
-        QWheelEvent event(f.at(3, 3), f.grid.mapToGlobal(f.at(3, 3)), {}, delta, Qt::NoButton, modifiers,
-                          Qt::NoScrollPhase, false);
-        QApplication::sendEvent(&f.grid, &event);
-        QCOMPARE(f.grid.viewport().scroll, scroll);
-        QCOMPARE(f.grid.viewport().zoomFactor, zoom);
-        QCOMPARE(positions.size(), scroll != before);
-        QCOMPARE(f.grid.hasHoverCell(), scroll == before);
-        positions.clear();
-        before = scroll;
-    }
-}
-
-void TestMapGrid::scrollingMovesTheBand()
-{
-    MapGridFixture f;
-    f.grid.resize(160, 128); // 10 × 8 of the 20 × 16 cells
-    f.grid.setMode(Select);
-    f.press(f.at(2, 2));
-    f.move(f.at(4, 4));
-    f.grid.scrollRight();
-    f.grid.scrollDown();
-    f.grid.scrollUp();
-    f.grid.scrollUp(); // there is nothing above
-    f.move(f.at(4, 4));
-    f.release(f.at(4, 4));
-    QCOMPARE(f.grid.selection(), QRect(QPoint(2, 2), QPoint(5, 4)));
-
-    QSignalSpy positions(&f.grid, &MapGrid::scrollPositionChanged);
-    for (int i = 0; i < 30; ++i)
-        f.grid.scrollRight();
-    QCOMPARE(positions.size(), 9);
-    f.grid.setMap(f.map);
-    QCOMPARE(positions.last(), QVariantList{QPoint(0, 0)});
-}
-
-void TestMapGrid::editsTheSelection()
-{
-    MapGridFixture f;
-    f.map->setTile({1, 1}, {3, true, false, false, 2, true});
-    f.map->setTile({2, 1}, {4, false, false, false, 0, true});
-    f.grid.setTransparencyIndex(4);
-    f.grid.setMode(Select);
-    auto *contextMenu = f.grid.findChild<QMenu *>();
-    f.click(f.at(1, 1), Qt::RightButton);
-    QVERIFY(!contextMenu->isVisible()); // nothing is selected
-    f.drag({f.at(1, 1), f.at(2, 1)});
-    f.press(f.at(1, 1), Qt::RightButton);
-    QVERIFY(contextMenu->isVisible() && f.grid.heldButtons() == Qt::NoButton);
-    contextMenu->hide();
-    QHash<QString, QAction *> menu;
-    for (QAction *action : contextMenu->actions())
-        menu.insert(action->text(), action);
-    menu.value("Copy as Image")->trigger();
-    const QImage image = QApplication::clipboard()->image();
-    QCOMPARE(image.size(), QSize(16, 8));
-    QCOMPARE(image.pixelColor(0, 0), f.colour(2 * 16 + 3));
-    QCOMPARE(image.pixelColor(8, 0).alpha(), 0);
-    QCOMPARE(image.text("paletteid"), f.palette->id().toString());
-    QSignalSpy wanted(&f.grid, &MapGrid::createMapFromSelection);
-    menu.value("Copy to new map")->trigger();
-    QCOMPARE(wanted, (Signals{{f.map->id(), QSize(2, 1)}}));
-    QApplication::clipboard()->clear();
-
-    menu.value("Cut")->trigger();
-    QCOMPARE(f.tile(1, 1), (TileData{0, false, false, false, 0, true}));
-    QVERIFY(f.grid.selection().isEmpty());
-    QCOMPARE(f.grid.pasteArea(), QRect(1, 1, 2, 1));
-    const auto copied = TileMap::readSelection(QApplication::clipboard()->mimeData());
-    QCOMPARE(copied.size, QSize(2, 1));
-    QCOMPARE(copied.cells.first(), (TileData{3, true, false, false, 2, true}));
-    f.grid.cutSelection(); // nothing is selected
-
-    f.drag({f.at(1, 1), f.at(2, 3)});
-    f.grid.setCurrentTileIndex(3);
-    f.grid.setFlipped(true);
-    menu.value("Fill")->trigger();
-    QCOMPARE(f.tile(2, 3), (TileData{3, false, true, false, 2, true}));
-    QVERIFY(!f.tile(3, 3).used);
-    f.grid.clearSelection();
-    QCOMPARE(f.tile(2, 3), (TileData{0, false, false, false, 0, true}));
-    f.grid.setCurrentTileIndex(-1);
-    f.grid.fillSelection();
-    QCOMPARE(f.steps(), "Cut|Fill|Clear");
-}
-
-void TestMapGrid::editsPlacedSprites()
-{
-    MapGridFixture f;
-    for (int i = 0; i < 3; ++i)
-        f.map->addSprite(f.sprite(i, {i * 32, 0}));
-    f.grid.setMode(PlaceSprite);
-    f.click(f.pixel(65, 1));
-    QCOMPARE(f.grid.spriteRect(2), QRect(128, 0, 32, 32));
-    QCOMPARE(f.grid.spriteRect(3), QRect());
-    Map::PlacedSprite changed = f.map->sprites().at(2);
-    changed.name = "Door";
-    f.grid.setSpriteProperties(changed);
-    QCOMPARE(f.map->sprites().at(2), changed);
-
-    QSignalSpy selected(&f.grid, &MapGrid::selectedSpriteChanged);
-    for (const int x : {1, 65}) {
-        f.grid.setSpriteVisibility(false);
-        f.move(f.pixel(x, 1));
-        QVERIFY(!f.grid.deleteSprite()); // what is hidden is not under the pointer
-        f.grid.setSpriteVisibility(true);
-        f.move(f.pixel(x, 2));
-        f.grid.setSpriteVisibility(false);
-        QVERIFY(!f.grid.deleteSprite()); // nor what was hidden afterwards
-        f.grid.setSpriteVisibility(true);
-        f.move(f.pixel(x, 1));
-        QVERIFY(f.grid.deleteSprite() && !f.grid.deleteSprite());
-    }
-    QCOMPARE(selected, (Signals{{1}, {-1}}));
-    f.grid.setSpriteProperties(changed); // nothing is selected
-    f.grid.setCurrentSprite(f.bank->id(), 1);
-    f.click(f.at(8, 8));
-    QCOMPARE(f.steps(), "Sprite Properties|Delete Sprite|Delete Sprite|Place Sprite");
-    f.stack.undo();
-    QCOMPARE(f.grid.selectedSprite(), -1);
-}
-
-void TestMapGrid::resizesTheMap()
-{
-    using Operation = void (*)(MapGrid &);
-    for (const auto &[text, size, operation] :
-         {std::tuple("Add Rows", QSize(20, 19), Operation([](MapGrid &grid) { grid.addRows(Begin, 3); })),
-          {"Add Columns", {22, 16}, [](MapGrid &grid) { grid.addColumns(End, 2); }},
-          {"Remove Rows", {20, 1}, [](MapGrid &grid) { grid.removeRows(End, 500); }},
-          {"Remove Columns", {1, 16}, [](MapGrid &grid) { grid.removeColumns(End, 50); }},
-          {"Resize Map", {5, 7}, [](MapGrid &grid) {
-               grid.resizeMap({5, 7}, Qt::AlignLeft | Qt::AlignTop);
-           }}}) {
-        MapGridFixture f;
-        f.map->addSprite(f.sprite(1, {150, 120}));
-        f.grid.setMode(PlaceSprite);
-        f.click(f.pixel(155, 125));
-        f.grid.selectAll();
-        QSignalSpy resized(&f.grid, &MapGrid::mapResized);
-        operation(f.grid);
-        QCOMPARE(f.map->size(), size);
-        QCOMPARE(f.steps(), text);
-        QCOMPARE(f.grid.selection().size(), size.boundedTo({20, 16}));
-        f.grid.selectAll();
-        f.stack.undo();
-        QCOMPARE(resized, (Signals{{size}, {QSize(20, 16)}}));
-        QVERIFY(QRect(0, 0, 20, 16).contains(f.grid.selection()));
-        QCOMPARE(f.map->sprites().size(), 1);
-    }
-}
-
-void TestMapGrid::paintsTheLayers()
-{
-    MapGridFixture f;
-    f.map->setTile({1, 1}, {3, false, false, false, 2, true});
-    f.map->placeAnimation(f.animation, {4, 4});
-    f.map->addSprite(f.sprite(2, {80, 80}));
-    f.grid.setCurrentTileIndex(9);
-    f.move(f.at(12, 3));
-    const QColor line(64, 64, 64);
-    const auto colours = [&f] {
-        QList<QColor> found;
-        for (const QPoint point : {f.at(1, 1), f.at(6, 5), f.at(10, 11), f.at(12, 3), {32, 40}, {40, 32}, {319, 255}})
-            found.append(f.screenColour(point));
-        return found;
-    };
-    const QColor blank = f.colour(0);
-    QCOMPARE(colours(), (QList{f.colour(2 * 16 + 3), f.colour(5), f.colour(2), f.colour(9), blank, blank, blank}));
-    f.grid.setSpriteVisibility(false);
-    f.grid.setObjectVisibility(false);
-    f.grid.setGridVisible(true);
-    f.move({-1, -1});
-    QCOMPARE(colours(), (QList{f.colour(2 * 16 + 3), blank, blank, blank, line, line, blank}));
-}
-
-void TestMapGrid::paintsWhatLiesBeneath()
-{
-    for (const auto &[checker, background, even, odd] : {std::tuple(true, -1, Qt::red, Qt::blue),
-                                                         {false, -1, Qt::black, Qt::black},
-                                                         {true, 3, Qt::green, Qt::green},
-                                                         {false, 16, Qt::black, Qt::black}}) {
-        MapGridFixture f;
-        f.palette->setColour(2 * 16 + 3, Qt::green, false);
-        f.map->placeAnimation(f.animation, {4, 2});
-        f.animation->frame(0)->setIndex(0, 0, 0);
-        f.map->stampFrame(*f.animation, 0, {4, 2});
-        f.map->setTile({4, 2}, {1, false, false, false, 0, true});
-        for (const int zoom : {1, 2, 8}) { // the last with a cell a strip
-            f.grid.applyPreferences({checker, Qt::red, Qt::blue, false, 8, zoom});
-            f.grid.resize(10 * f.grid.viewport().cellSize, 256);
-            f.grid.setBackgroundTileIndex(background);
-            f.grid.setTransparencyIndex(0);
-            const auto colourAt = [&f](int x, int y) {
-                return f.screenColour(f.grid.viewport().rectOfCells({x, y, 1, 1}).center());
-            };
-            for (const bool visible : {true, false}) {
-                f.grid.setMapVisibility(visible);
-                QCOMPARE(colourAt(2, 2), even);
-                QCOMPARE(colourAt(2, 3), odd);
-                QCOMPARE(colourAt(4, 2), visible ? f.colour(1) : even); // through the object layer
-                QCOMPARE(colourAt(5, 2), f.colour(5));
-            }
-            f.grid.scrollRight(); // the squares go with their cells
-            QCOMPARE(colourAt(2, 3), odd);
-            f.grid.scrollLeft();
-            f.grid.setMapVisibility(true);
-            f.grid.setTransparencyIndex(-1);
-            QCOMPARE(colourAt(2, 3), f.colour(0));
+    void laysCellsOut()
+    {
+        for (const auto &[widget, map, viewport, viewRect, furthest, fitted] :
+             {std::tuple(QSize(330, 100), QSize(40, 32), QSize(), QRect(5, 2, 320, 96), QPoint(30, 29), 3),
+              {{330, 330}, {40, 2}, {5, 4}, {85, 133, 160, 64}, {35, 0}, 66},
+              {{20, 100}, {40, 32}, {}, {10, 2, 0, 96}, {40, 29}, 1}}) {
+            MapViewport v;
+            v.viewportEnabled = !viewport.isEmpty();
+            v.viewportSize = viewport;
+            v.scroll = {1000, 1000};
+            v.layout(widget, map);
+            QCOMPARE(v.viewRect, viewRect);
+            QCOMPARE(v.scroll, furthest); // kept inside the map
+            v.fit(widget, map);
+            QCOMPARE(v.zoomFactor, 1);
+            QCOMPARE(v.cellSize, fitted);
         }
     }
-}
 
-void TestMapGrid::repaintsWhenAssetsChange()
-{
-    MapGridFixture f;
-    PaintWatch painted(&f.grid);
-    const auto repaintsAfter = [&painted](const auto &change) { return !painted.after(change).isEmpty(); };
-    const QPointer<SpriteAnim> added = f.bank->newAnimation();
-    QVERIFY(!repaintsAfter([] {}));
-    QVERIFY(repaintsAfter([&f] { f.tiles->notifyImageChanged(3); }));
-    QVERIFY(repaintsAfter([&f] { f.tiles->moveTile(3, 4); }));
-    QVERIFY(repaintsAfter([&f] { f.palette->setColour(3, Qt::green, false); }));
-    QVERIFY(repaintsAfter([&f] { f.bank->clearSprite(1); }));
-    QVERIFY(repaintsAfter([&f] { f.run->frame(0)->setIndex(0, 0, 3); }));
-    QVERIFY(repaintsAfter([&added] { added->frame(0)->setIndex(0, 0, 3); }));
-    f.grid.setSpriteBanks({});
-    QVERIFY(!repaintsAfter([&f] { f.bank->clearSprite(1); }));
-    f.grid.setMap(nullptr);
-    QVERIFY(!repaintsAfter([&f] { f.tiles->notifyImageChanged(3); }));
-}
+    void findsCellsAndPixels()
+    {
+        MapViewport v;
+        v.cellSize = 12;
+        v.scroll = {3, 5};
+        v.viewRect = QRect(10, 20, 240, 240); // (10, 20) is the corner of cell (3, 5)
+        QCOMPARE(v.cellAt({21, 31}), QPoint(3, 5));
+        QCOMPARE(v.snappedCellAt({22, 32}), QPoint(4, 6));
+        QCOMPARE(v.pixelAt({21, 31}), QPoint(31, 47));
+        v.snap = 4;
+        QCOMPARE(v.snappedCellAt({70, 80}), QPoint(4, 8));
+        QCOMPARE(v.snappedCellAt({58, 32}), QPoint(4, 4)); // cell (7, 6)
+        QCOMPARE(v.snappedPixel({64, 80}), QPoint(64, 64));
+        // rounded down, also left of the cells
+        QCOMPARE(v.cellsUnder(QRect(QPoint(9, 8), QPoint(33, 20))), QRect(QPoint(2, 4), QPoint(4, 5)));
+        QCOMPARE(v.rectOfCells({4, 6, 2, 1}), QRect(22, 32, 24, 12));
+        QCOMPARE(v.rectOfPixels({28, 48, 8, 8}), QRect(16, 32, 12, 12));
+    }
+
+    void zoomStaysInItsRange()
+    {
+        MapGridFixture f;
+        QSignalSpy deltas(&f.grid, &MapGrid::scrollDeltaChanged);
+        for (int i = 0; i < 20; ++i)
+            f.grid.zoomIn();
+        for (int i = 0; i < 20; ++i)
+            f.grid.zoomOut();
+        QCOMPARE(deltas.size(), 4 + 7); // from 4 to 8 and from there to 1
+        QCOMPARE(deltas.at(3), (QVariantList{10, 8}));
+        f.grid.setViewPort(true, {4, 4});
+        f.grid.fitTo();
+        QCOMPARE(f.grid.viewport().viewRect, QRect(32, 0, 256, 256));
+        f.grid.applyPreferences({true, Qt::red, Qt::blue, false, 16, 3});
+        f.grid.applyPreferences({false, Qt::red, Qt::blue, true, 8, 9}); // 9 is out of range
+        QCOMPARE(f.grid.viewport().cellSize, 24);
+        QVERIFY(f.grid.isGridVisible());
+    }
+
+    void wheelScrollsAndZooms()
+    {
+        MapGridFixture f;
+        f.grid.applyPreferences({.gridSize = 4, .defaultZoom = 8});
+        f.grid.setHorizontalScrollPosition(5);
+        f.grid.setVerticalScrollPosition(5);
+        QSignalSpy positions(&f.grid, &MapGrid::scrollPositionChanged);
+        QPoint before(5, 5);
+        for (const auto &[delta, modifiers, scroll, zoom] :
+             {std::tuple(QPoint(0, -120), Qt::NoModifier, QPoint(5, 6), 8),
+              {{0, 120}, Qt::NoModifier, {5, 5}, 8},
+              {{0, -120}, Qt::ShiftModifier, {6, 5}, 8},
+              {{0, 120}, Qt::ShiftModifier, {5, 5}, 8},
+              {{-120, 0}, Qt::NoModifier, {6, 5}, 8},
+              {{0, 0}, Qt::NoModifier, {6, 5}, 8}, // fingers on a touchpad
+              {{0, -120}, Qt::ControlModifier, {6, 5}, 7},
+              {{0, 120}, Qt::ControlModifier, {6, 5}, 8}}) {
+            f.move(f.at(1, 1));
+            QWheelEvent event(f.at(3, 3), f.grid.mapToGlobal(f.at(3, 3)), {}, delta, Qt::NoButton, modifiers,
+                              Qt::NoScrollPhase, false);
+            QApplication::sendEvent(&f.grid, &event);
+            QCOMPARE(f.grid.viewport().scroll, scroll);
+            QCOMPARE(f.grid.viewport().zoomFactor, zoom);
+            QCOMPARE(positions.size(), scroll != before);
+            QCOMPARE(f.grid.hasHoverCell(), scroll == before);
+            positions.clear();
+            before = scroll;
+        }
+    }
+
+    void scrollingMovesTheBand()
+    {
+        MapGridFixture f;
+        f.grid.resize(160, 128); // 10 × 8 of the 20 × 16 cells
+        f.grid.setMode(Select);
+        f.press(f.at(2, 2));
+        f.move(f.at(4, 4));
+        f.grid.scrollRight();
+        f.grid.scrollDown();
+        f.grid.scrollUp();
+        f.grid.scrollUp(); // there is nothing above
+        f.move(f.at(4, 4));
+        f.release(f.at(4, 4));
+        QCOMPARE(f.grid.selection(), QRect(QPoint(2, 2), QPoint(5, 4)));
+
+        QSignalSpy positions(&f.grid, &MapGrid::scrollPositionChanged);
+        for (int i = 0; i < 30; ++i)
+            f.grid.scrollRight();
+        QCOMPARE(positions.size(), 9);
+        f.grid.setMap(f.map);
+        QCOMPARE(positions.last(), QVariantList{QPoint(0, 0)});
+    }
+
+    void editsTheSelection()
+    {
+        MapGridFixture f;
+        f.map->setTile({1, 1}, {3, true, false, false, 2, true});
+        f.map->setTile({2, 1}, {4, false, false, false, 0, true});
+        f.grid.setTransparencyIndex(4);
+        f.grid.setMode(Select);
+        auto *contextMenu = f.grid.findChild<QMenu *>();
+        f.click(f.at(1, 1), Qt::RightButton);
+        QVERIFY(!contextMenu->isVisible()); // nothing is selected
+        f.drag({f.at(1, 1), f.at(2, 1)});
+        f.press(f.at(1, 1), Qt::RightButton);
+        QVERIFY(contextMenu->isVisible() && f.grid.heldButtons() == Qt::NoButton);
+        contextMenu->hide();
+        QHash<QString, QAction *> menu;
+        for (QAction *action : contextMenu->actions())
+            menu.insert(action->text(), action);
+        menu.value("Copy as Image")->trigger();
+        const QImage image = QApplication::clipboard()->image();
+        QCOMPARE(image.size(), QSize(16, 8));
+        QCOMPARE(image.pixelColor(0, 0), f.colour(2 * 16 + 3));
+        QCOMPARE(image.pixelColor(8, 0).alpha(), 0);
+        QCOMPARE(image.text("paletteid"), f.palette->id().toString());
+        QSignalSpy wanted(&f.grid, &MapGrid::createMapFromSelection);
+        menu.value("Copy to new map")->trigger();
+        QCOMPARE(wanted, (Signals{{f.map->id(), QSize(2, 1)}}));
+        QApplication::clipboard()->clear();
+
+        menu.value("Cut")->trigger();
+        QCOMPARE(f.tile(1, 1), (TileData{0, false, false, false, 0, true}));
+        QVERIFY(f.grid.selection().isEmpty());
+        QCOMPARE(f.grid.pasteArea(), QRect(1, 1, 2, 1));
+        const auto copied = TileMap::readSelection(QApplication::clipboard()->mimeData());
+        QCOMPARE(copied.size, QSize(2, 1));
+        QCOMPARE(copied.cells.first(), (TileData{3, true, false, false, 2, true}));
+        f.grid.cutSelection(); // nothing is selected
+
+        f.drag({f.at(1, 1), f.at(2, 3)});
+        f.grid.setCurrentTileIndex(3);
+        f.grid.setFlipped(true);
+        menu.value("Fill")->trigger();
+        QCOMPARE(f.tile(2, 3), (TileData{3, false, true, false, 2, true}));
+        QVERIFY(!f.tile(3, 3).used);
+        f.grid.clearSelection();
+        QCOMPARE(f.tile(2, 3), (TileData{0, false, false, false, 0, true}));
+        f.grid.setCurrentTileIndex(-1);
+        f.grid.fillSelection();
+        QCOMPARE(f.steps(), "Cut|Fill|Clear");
+    }
+
+    void editsPlacedSprites()
+    {
+        MapGridFixture f;
+        for (int i = 0; i < 3; ++i)
+            f.map->addSprite(f.sprite(i, {i * 32, 0}));
+        f.grid.setMode(PlaceSprite);
+        f.click(f.pixel(65, 1));
+        QCOMPARE(f.grid.spriteRect(2), QRect(128, 0, 32, 32));
+        QCOMPARE(f.grid.spriteRect(3), QRect());
+        Map::PlacedSprite changed = f.map->sprites().at(2);
+        changed.name = "Door";
+        f.grid.setSpriteProperties(changed);
+        QCOMPARE(f.map->sprites().at(2), changed);
+
+        QSignalSpy selected(&f.grid, &MapGrid::selectedSpriteChanged);
+        for (const int x : {1, 65}) {
+            f.grid.setSpriteVisibility(false);
+            f.move(f.pixel(x, 1));
+            QVERIFY(!f.grid.deleteSprite()); // what is hidden is not under the pointer
+            f.grid.setSpriteVisibility(true);
+            f.move(f.pixel(x, 2));
+            f.grid.setSpriteVisibility(false);
+            QVERIFY(!f.grid.deleteSprite()); // nor what was hidden afterwards
+            f.grid.setSpriteVisibility(true);
+            f.move(f.pixel(x, 1));
+            QVERIFY(f.grid.deleteSprite() && !f.grid.deleteSprite());
+        }
+        QCOMPARE(selected, (Signals{{1}, {-1}}));
+        f.grid.setSpriteProperties(changed); // nothing is selected
+        f.grid.setCurrentSprite(f.bank->id(), 1);
+        f.click(f.at(8, 8));
+        QCOMPARE(f.steps(), "Sprite Properties|Delete Sprite|Delete Sprite|Place Sprite");
+        f.stack.undo();
+        QCOMPARE(f.grid.selectedSprite(), -1);
+    }
+
+    void resizesTheMap()
+    {
+        using Operation = void (*)(MapGrid &);
+        for (const auto &[text, size, operation] :
+             {std::tuple("Add Rows", QSize(20, 19), Operation([](MapGrid &grid) { grid.addRows(Begin, 3); })),
+              {"Add Columns", {22, 16}, [](MapGrid &grid) { grid.addColumns(End, 2); }},
+              {"Remove Rows", {20, 1}, [](MapGrid &grid) { grid.removeRows(End, 500); }},
+              {"Remove Columns", {1, 16}, [](MapGrid &grid) { grid.removeColumns(End, 50); }},
+              {"Resize Map", {5, 7}, [](MapGrid &grid) {
+                   grid.resizeMap({5, 7}, Qt::AlignLeft | Qt::AlignTop);
+               }}}) {
+            MapGridFixture f;
+            f.map->addSprite(f.sprite(1, {150, 120}));
+            f.grid.setMode(PlaceSprite);
+            f.click(f.pixel(155, 125));
+            f.grid.selectAll();
+            QSignalSpy resized(&f.grid, &MapGrid::mapResized);
+            operation(f.grid);
+            QCOMPARE(f.map->size(), size);
+            QCOMPARE(f.steps(), text);
+            QCOMPARE(f.grid.selection().size(), size.boundedTo({20, 16}));
+            f.grid.selectAll();
+            f.stack.undo();
+            QCOMPARE(resized, (Signals{{size}, {QSize(20, 16)}}));
+            QVERIFY(QRect(0, 0, 20, 16).contains(f.grid.selection()));
+            QCOMPARE(f.map->sprites().size(), 1);
+        }
+    }
+
+    void paintsTheLayers()
+    {
+        MapGridFixture f;
+        f.map->setTile({1, 1}, {3, false, false, false, 2, true});
+        f.map->placeAnimation(f.animation, {4, 4});
+        f.map->addSprite(f.sprite(2, {80, 80}));
+        f.grid.setCurrentTileIndex(9);
+        f.move(f.at(12, 3));
+        const QColor line(64, 64, 64);
+        const auto colours = [&f] {
+            QList<QColor> found;
+            for (const QPoint point :
+                 {f.at(1, 1), f.at(6, 5), f.at(10, 11), f.at(12, 3), {32, 40}, {40, 32}, {319, 255}})
+                found.append(f.screenColour(point));
+            return found;
+        };
+        const QColor blank = f.colour(0);
+        QCOMPARE(colours(), (QList{f.colour(2 * 16 + 3), f.colour(5), f.colour(2), f.colour(9), blank, blank, blank}));
+        f.grid.setSpriteVisibility(false);
+        f.grid.setObjectVisibility(false);
+        f.grid.setGridVisible(true);
+        f.move({-1, -1});
+        QCOMPARE(colours(), (QList{f.colour(2 * 16 + 3), blank, blank, blank, line, line, blank}));
+    }
+
+    void paintsWhatLiesBeneath()
+    {
+        for (const auto &[checker, background, even, odd] : {std::tuple(true, -1, Qt::red, Qt::blue),
+                                                             {false, -1, Qt::black, Qt::black},
+                                                             {true, 3, Qt::green, Qt::green},
+                                                             {false, 16, Qt::black, Qt::black}}) {
+            MapGridFixture f;
+            f.palette->setColour(2 * 16 + 3, Qt::green, false);
+            f.map->placeAnimation(f.animation, {4, 2});
+            f.animation->frame(0)->setIndex(0, 0, 0);
+            f.map->stampFrame(*f.animation, 0, {4, 2});
+            f.map->setTile({4, 2}, {1, false, false, false, 0, true});
+            for (const int zoom : {1, 2, 8}) { // the last with a cell a strip
+                f.grid.applyPreferences({checker, Qt::red, Qt::blue, false, 8, zoom});
+                f.grid.resize(10 * f.grid.viewport().cellSize, 256);
+                f.grid.setBackgroundTileIndex(background);
+                f.grid.setTransparencyIndex(0);
+                const auto colourAt = [&f](int x, int y) {
+                    return f.screenColour(f.grid.viewport().rectOfCells({x, y, 1, 1}).center());
+                };
+                for (const bool visible : {true, false}) {
+                    f.grid.setMapVisibility(visible);
+                    QCOMPARE(colourAt(2, 2), even);
+                    QCOMPARE(colourAt(2, 3), odd);
+                    QCOMPARE(colourAt(4, 2), visible ? f.colour(1) : even); // through the object layer
+                    QCOMPARE(colourAt(5, 2), f.colour(5));
+                }
+                f.grid.scrollRight(); // the squares go with their cells
+                QCOMPARE(colourAt(2, 3), odd);
+                f.grid.scrollLeft();
+                f.grid.setMapVisibility(true);
+                f.grid.setTransparencyIndex(-1);
+                QCOMPARE(colourAt(2, 3), f.colour(0));
+            }
+        }
+    }
+
+    void repaintsWhenAssetsChange()
+    {
+        MapGridFixture f;
+        PaintWatch painted(&f.grid);
+        const auto repaintsAfter = [&painted](const auto &change) { return !painted.after(change).isEmpty(); };
+        const QPointer<SpriteAnim> added = f.bank->newAnimation();
+        QVERIFY(!repaintsAfter([] {}));
+        QVERIFY(repaintsAfter([&f] { f.tiles->notifyImageChanged(3); }));
+        QVERIFY(repaintsAfter([&f] { f.tiles->moveTile(3, 4); }));
+        QVERIFY(repaintsAfter([&f] { f.palette->setColour(3, Qt::green, false); }));
+        QVERIFY(repaintsAfter([&f] { f.bank->clearSprite(1); }));
+        QVERIFY(repaintsAfter([&f] { f.run->frame(0)->setIndex(0, 0, 3); }));
+        QVERIFY(repaintsAfter([&added] { added->frame(0)->setIndex(0, 0, 3); }));
+        f.grid.setCurrentTileIndex(15);
+        QVERIFY(repaintsAfter([&f] { f.tiles->deleteTile(15); }));
+        QCOMPARE(f.grid.currentTileIndex(), 14); // not a tile that is gone
+        f.grid.setSpriteBanks({});
+        QVERIFY(!repaintsAfter([&f] { f.bank->clearSprite(1); }));
+        f.grid.setMap(nullptr);
+        QVERIFY(!repaintsAfter([&f] { f.tiles->notifyImageChanged(3); }));
+    }
+};
 
 QUENMORA_TEST_MAIN(TestMapGrid)
 #include "tst_mapgrid.moc"

@@ -12,259 +12,249 @@ class TestMapTools : public QObject
     Q_OBJECT
 
 private slots:
-    void strokeWritesItsCells();
-    void strokeIsOneStep();
-    void hiddenLayersAreNotEdited();
-    void placesAnAnimationOncePerStroke();
-    void playedFramesAreNoEdit();
-    void selectsTheCellsUnderTheBand();
-    void pastesWhatFits();
-    void picksAndReturnsToTheToolBefore();
-    void placesSpritesInsideTheMap();
-    void movesTheTopmostSprite();
-};
-
-void TestMapTools::strokeWritesItsCells()
-{
-    using Points = QList<QPoint>;
-    // where the pointer goes, the snap size, and the cells row by row
-    for (const auto &[points, snap, cells] : {
-             std::tuple(Points{F::at(2, 2)}, 1, Points()), // without a move
-             {{F::at(2, 2), F::at(2, 2) + QPoint(1, 0)}, 1, {{2, 2}}},
-             {{F::at(2, 2), F::at(5, 2)}, 1, {{2, 2}, {3, 2}, {4, 2}, {5, 2}}}, // fast
-             {{F::at(3, 5), F::at(2, 2)}, 1, {{2, 2}, {2, 3}, {3, 4}, {3, 5}}},
-             {{F::at(5, 6), F::at(6, 7)}, 4, {{4, 4}}},
-             {{F::at(1, 1), F::at(13, 5)}, 4, {{0, 0}, {4, 0}, {8, 4}, {12, 4}}},
-             {{F::at(2, 2), F::at(3, 2), {-40, 500}, F::at(6, 2)}, 1, {{2, 2}, {3, 2}, {6, 2}}}, // outside and back
-         }) {
-        F f;
-        f.grid.setCurrentTileIndex(3);
-        f.grid.setRotated(true);
-        f.grid.setMirrored(true);
-        f.grid.setSnapToSize(snap);
-        for (const auto button : {Qt::LeftButton, Qt::RightButton}) { // which clears again
-            f.drag(points, button);
-            Points written;
-            for (int i = 0; i < 16 * 20; ++i) {
-                if (f.tile(i % 20, i / 20) == TileData{3, true, false, true, 2, button == Qt::LeftButton})
-                    written.append({i % 20, i / 20});
+    void strokeWritesItsCells()
+    {
+        using Points = QList<QPoint>;
+        // where the pointer goes, the snap size, and the cells row by row
+        for (const auto &[points, snap, cells] : {
+                 std::tuple(Points{F::at(2, 2)}, 1, Points()), // without a move
+                 {{F::at(2, 2), F::at(2, 2) + QPoint(1, 0)}, 1, {{2, 2}}},
+                 {{F::at(2, 2), F::at(5, 2)}, 1, {{2, 2}, {3, 2}, {4, 2}, {5, 2}}}, // fast
+                 {{F::at(3, 5), F::at(2, 2)}, 1, {{2, 2}, {2, 3}, {3, 4}, {3, 5}}},
+                 {{F::at(5, 6), F::at(6, 7)}, 4, {{4, 4}}},
+                 {{F::at(1, 1), F::at(13, 5)}, 4, {{0, 0}, {4, 0}, {8, 4}, {12, 4}}},
+                 {{F::at(2, 2), F::at(3, 2), {-40, 500}, F::at(6, 2)}, 1, {{2, 2}, {3, 2}, {6, 2}}}, // outside and back
+             }) {
+            F f;
+            f.grid.setCurrentTileIndex(3);
+            f.grid.setRotated(true);
+            f.grid.setMirrored(true);
+            f.grid.setSnapToSize(snap);
+            for (const auto button : {Qt::LeftButton, Qt::RightButton}) { // which clears again
+                f.drag(points, button);
+                Points written;
+                for (int i = 0; i < 16 * 20; ++i) {
+                    if (f.tile(i % 20, i / 20) == TileData{3, true, false, true, 2, button == Qt::LeftButton})
+                        written.append({i % 20, i / 20});
+                }
+                QCOMPARE(written, cells);
             }
-            QCOMPARE(written, cells);
-        }
-        QCOMPARE(f.steps(), cells.isEmpty() ? "" : "Paint|Paint");
-    }
-}
-
-void TestMapTools::strokeIsOneStep()
-{
-    F f;
-    f.grid.setCurrentTileIndex(4);
-    const QList<QPoint> points{f.at(0, 3), f.at(4, 3), f.at(9, 3)};
-    f.drag(points);
-    f.drag(points); // the same tile over itself
-    QCOMPARE(f.steps(), "Paint");
-    f.stack.undo();
-    QVERIFY(!f.tile(0, 3).used && !f.tile(9, 3).used);
-    f.stack.redo();
-    QVERIFY(f.tile(0, 3).used);
-
-    f.drag({f.at(1, 0), f.at(2, 0), {-3, -3}}); // released outside, and the edit ends all the same
-    f.move(f.at(7, 7));
-    QVERIFY(!f.tile(7, 7).used); // no button is held any more
-    f.grid.setUndoStack(nullptr);
-    f.drag({f.at(0, 5), f.at(1, 5)});
-    QVERIFY(f.tile(1, 5).used && f.stack.count() == 2); // edited, not recorded
-}
-
-void TestMapTools::hiddenLayersAreNotEdited()
-{
-    F f;
-    const Map::Snapshot before = f.map->snapshot();
-    const std::function<void()> choices[] = {[&f] { f.grid.setCurrentTileIndex(4); },
-                                             [&f] { f.grid.setCurrentTileAnimation(f.animation); },
-                                             [&f] { f.grid.setCurrentSprite(f.bank->id(), 1); }};
-    for (const auto &choose : choices) {
-        choose();
-        const Qt::CursorShape shape = f.grid.cursor().shape();
-        for (const bool visible : {false, true}) {
-            f.grid.setMapVisibility(visible);
-            f.grid.setObjectVisibility(visible);
-            f.grid.setSpriteVisibility(visible);
-            QCOMPARE(f.grid.cursor().shape(), visible ? shape : Qt::ForbiddenCursor);
-            if (!visible)
-                f.drag({f.at(1, 1), f.at(2, 1)});
-            QVERIFY(f.map->snapshot() == before);
+            QCOMPARE(f.steps(), cells.isEmpty() ? "" : "Paint|Paint");
         }
     }
-}
 
-void TestMapTools::placesAnAnimationOncePerStroke()
-{
-    F f;
-    f.grid.setCurrentTileAnimation(f.animation);
-    QCOMPARE(f.grid.cursor().shape(), Qt::OpenHandCursor);
-    f.drag({f.at(2, 3), f.at(3, 3), f.at(9, 9)});
-    f.move(f.at(4, 4));
-    QCOMPARE(f.grid.cursor().shape(), Qt::SizeAllCursor); // over what was placed just now
-    QCOMPARE(f.map->animatedBlocks()->areas(), (QHash<QRect, QUuid>{{QRect(3, 3, 3, 2), f.animation->id()}}));
-    QCOMPARE(f.object(5, 4), (TileData{5, false, false, false, 0, true}));
-
-    f.move(f.at(15, 10));
-    QVERIFY(f.grid.highlight().isEmpty() && !f.grid.removeAnimation());
-    f.move(f.at(5, 4));
-    QCOMPARE(f.grid.highlight(), QRect(3, 3, 3, 2));
-    f.drag({f.at(5, 4), f.at(12, 4)}); // what is there already is not placed again
-    QVERIFY(f.grid.removeAnimation() && f.map->animatedBlocks()->list().isEmpty());
-    QCOMPARE(f.steps(), "Place Animation|Remove Animation");
-    f.stack.setIndex(0);
-    QVERIFY(f.map->animatedBlocks()->list().isEmpty() && !f.object(5, 4).used);
-}
-
-void TestMapTools::playedFramesAreNoEdit()
-{
-    F f;
-    f.map->placeAnimation(f.animation, {3, 3});
-    f.grid.setCurrentTileIndex(4);
-    f.press(f.at(10, 1));
-    f.map->stampFrame(*f.animation, 1, {3, 3});
-    f.release(f.at(10, 1));
-    QCOMPARE(f.stack.count(), 0);
-
-    f.press(f.at(10, 1));
-    f.move(f.at(11, 1));
-    f.map->stampFrame(*f.animation, 0, {3, 3});
-    f.release(f.at(11, 1));
-    f.map->stampFrame(*f.animation, 1, {3, 3});
-    f.stack.undo();
-    QCOMPARE(f.object(3, 3).index, 6); // the frame stays as it plays
-    QVERIFY(!f.tile(11, 1).used);
-}
-
-void TestMapTools::selectsTheCellsUnderTheBand()
-{
-    for (const auto &[from, to, cells] : {std::tuple(F::at(2, 3), F::at(5, 4), QRect(2, 3, 4, 2)),
-                                          {F::at(5, 4), F::at(2, 3), {2, 3, 4, 2}},
-                                          {F::at(5, 4), F::at(5, 4) + QPoint(1, 1), {5, 4, 1, 1}},
-                                          {QPoint(-90, -90), F::at(1, 1), {0, 0, 2, 2}}}) {
+    void strokeIsOneStep()
+    {
         F f;
-        f.press(from, Qt::LeftButton, Qt::ShiftModifier); // with any tool
-        f.move(f.at(8, 8));
-        f.move(to);
-        f.release(to);
+        f.grid.setCurrentTileIndex(4);
+        const QList<QPoint> points{f.at(0, 3), f.at(4, 3), f.at(9, 3)};
+        f.drag(points);
+        f.drag(points); // the same tile over itself
+        QCOMPARE(f.steps(), "Paint");
+        f.stack.undo();
+        QVERIFY(!f.tile(0, 3).used && !f.tile(9, 3).used);
+        f.stack.redo();
+        QVERIFY(f.tile(0, 3).used);
+
+        f.drag({f.at(1, 0), f.at(2, 0), {-3, -3}}); // released outside, and the edit ends all the same
+        f.move(f.at(7, 7));
+        QVERIFY(!f.tile(7, 7).used); // no button is held any more
+        f.grid.setUndoStack(nullptr);
+        f.drag({f.at(0, 5), f.at(1, 5)});
+        QVERIFY(f.tile(1, 5).used && f.stack.count() == 2); // edited, not recorded
+    }
+
+    void hiddenLayersAreNotEdited()
+    {
+        F f;
+        const Map::Snapshot before = f.map->snapshot();
+        const std::function<void()> choices[] = {[&f] { f.grid.setCurrentTileIndex(4); },
+                                                 [&f] { f.grid.setCurrentTileAnimation(f.animation); },
+                                                 [&f] { f.grid.setCurrentSprite(f.bank->id(), 1); }};
+        for (const auto &choose : choices) {
+            choose();
+            const Qt::CursorShape shape = f.grid.cursor().shape();
+            for (const bool visible : {false, true}) {
+                f.grid.setMapVisibility(visible);
+                f.grid.setObjectVisibility(visible);
+                f.grid.setSpriteVisibility(visible);
+                QCOMPARE(f.grid.cursor().shape(), visible ? shape : Qt::ForbiddenCursor);
+                if (!visible)
+                    f.drag({f.at(1, 1), f.at(2, 1)});
+                QVERIFY(f.map->snapshot() == before);
+            }
+        }
+    }
+
+    void placesAnAnimationOncePerStroke()
+    {
+        F f;
+        f.grid.setCurrentTileAnimation(f.animation);
+        QCOMPARE(f.grid.cursor().shape(), Qt::OpenHandCursor);
+        f.drag({f.at(2, 3), f.at(3, 3), f.at(9, 9)});
+        f.move(f.at(4, 4));
+        QCOMPARE(f.grid.cursor().shape(), Qt::SizeAllCursor); // over what was placed just now
+        QCOMPARE(f.map->animatedBlocks()->areas(), (QHash<QRect, QUuid>{{QRect(3, 3, 3, 2), f.animation->id()}}));
+        QCOMPARE(f.object(5, 4), (TileData{5, false, false, false, 0, true}));
+
+        f.move(f.at(15, 10));
+        QVERIFY(f.grid.highlight().isEmpty() && !f.grid.removeAnimation());
+        f.move(f.at(5, 4));
+        QCOMPARE(f.grid.highlight(), QRect(3, 3, 3, 2));
+        f.drag({f.at(5, 4), f.at(12, 4)}); // what is there already is not placed again
+        QVERIFY(f.grid.removeAnimation() && f.map->animatedBlocks()->list().isEmpty());
+        QCOMPARE(f.steps(), "Place Animation|Remove Animation");
+        f.stack.setIndex(0);
+        QVERIFY(f.map->animatedBlocks()->list().isEmpty() && !f.object(5, 4).used);
+    }
+
+    void playedFramesAreNoEdit()
+    {
+        F f;
+        f.map->placeAnimation(f.animation, {3, 3});
+        f.grid.setCurrentTileIndex(4);
+        f.press(f.at(10, 1));
+        f.map->stampFrame(*f.animation, 1, {3, 3});
+        f.release(f.at(10, 1));
+        QCOMPARE(f.stack.count(), 0);
+
+        f.press(f.at(10, 1));
+        f.move(f.at(11, 1));
+        f.map->stampFrame(*f.animation, 0, {3, 3});
+        f.release(f.at(11, 1));
+        f.map->stampFrame(*f.animation, 1, {3, 3});
+        f.stack.undo();
+        QCOMPARE(f.object(3, 3).index, 6); // the frame stays as it plays
+        QVERIFY(!f.tile(11, 1).used);
+    }
+
+    void selectsTheCellsUnderTheBand()
+    {
+        for (const auto &[from, to, cells] : {std::tuple(F::at(2, 3), F::at(5, 4), QRect(2, 3, 4, 2)),
+                                              {F::at(5, 4), F::at(2, 3), {2, 3, 4, 2}},
+                                              {F::at(5, 4), F::at(5, 4) + QPoint(1, 1), {5, 4, 1, 1}},
+                                              {QPoint(-90, -90), F::at(1, 1), {0, 0, 2, 2}}}) {
+            F f;
+            f.press(from, Qt::LeftButton, Qt::ShiftModifier); // with any tool
+            f.move(f.at(8, 8));
+            f.move(to);
+            f.release(to);
+            QCOMPARE(f.grid.mode(), Select);
+            QCOMPARE(f.grid.cursor().shape(), Qt::CrossCursor);
+            QCOMPARE(f.grid.selection(), cells);
+            f.grid.copySelection();
+            QCOMPARE(f.grid.mode(), Draw);
+            QCOMPARE(f.grid.selection(), cells);
+            QCOMPARE(f.grid.pasteArea(), cells);
+        }
+    }
+
+    void pastesWhatFits()
+    {
+        // the height and width that the data announces, its cells (-1 for no data at all), whether its tiles are the
+        // map's
+        for (const auto &[height, width, cells, ownTiles, accepted] : {std::tuple(2, 3, 6, true, true),
+                                                                       {2, 3, 6, false, false},
+                                                                       {2, 3, 5, true, false},
+                                                                       {0x7FFFFFFF, 0x7FFFFFFF, 6, true, false},
+                                                                       {-2, -3, 6, true, false},
+                                                                       {0, 5, 0, true, false},
+                                                                       {0, 0, -1, true, false}}) {
+            F f;
+            QByteArray data;
+            QDataStream stream(&data, QIODevice::WriteOnly);
+            if (cells >= 0)
+                stream << qint32(height) << qint32(width);
+            for (int i = 0; i < cells; ++i)
+                stream << qint32(i + 1) << true << qint32(0) << false << false << false;
+            if (cells >= 0)
+                stream << (ownTiles ? f.tiles->id() : QUuid::createUuid());
+            auto *copied = new QMimeData;
+            copied->setData("quenmora-map-toNextData", data);
+            QApplication::clipboard()->setMimeData(copied);
+            f.grid.setMode(Select);
+            f.grid.setMode(Paste);
+            QCOMPARE(f.grid.mode(), accepted ? Paste : Select);
+            f.move(f.at(19, 8));
+            f.click(f.at(19, 8));
+            if (accepted) {
+                QCOMPARE(f.grid.pasteArea(), QRect(18, 7, 3, 2)); // around the pointer; the last column lies outside
+                QCOMPARE(f.tile(18, 7).index, 1);
+                QCOMPARE(f.tile(19, 8).index, 5);
+            }
+            // what was accepted may have been replaced since
+            f.map->setTile({0, 0}, {9, false, false, false, 0, true});
+            QApplication::clipboard()->setMimeData(f.map->tileLayer()->toMimeData({0, 0, 1, 1}));
+            f.click(f.at(10, 10));
+            QCOMPARE(f.steps(), accepted ? "Paste" : "");
+        }
+    }
+
+    void picksAndReturnsToTheToolBefore()
+    {
+        F f;
+        const TileData tile{3, true, false, true, 7, true};
+        f.map->setTile({4, 2}, tile);
+        QApplication::clipboard()->clear();
+        QSignalSpy picked(&f.grid, &MapEditor::MapGrid::tilePicked);
+        for (const ToolButton mode : {Select, Pick, Pick, Paste}) // which is refused
+            f.grid.setMode(mode);
+        f.click(f.at(4, 2), Qt::RightButton);
+        f.click(f.at(4, 2));
+        QCOMPARE(picked, (Signals{{QVariant::fromValue(tile)}}));
         QCOMPARE(f.grid.mode(), Select);
-        QCOMPARE(f.grid.cursor().shape(), Qt::CrossCursor);
-        QCOMPARE(f.grid.selection(), cells);
-        f.grid.copySelection();
+
+        f.grid.setMode(Draw);
+        f.grid.setCurrentTileIndex(9);
+        f.drag({f.at(2, 2), f.at(3, 2), f.at(4, 2)}, Qt::MiddleButton);
+        QCOMPARE(picked.size(), 2);
         QCOMPARE(f.grid.mode(), Draw);
-        QCOMPARE(f.grid.selection(), cells);
-        QCOMPARE(f.grid.pasteArea(), cells);
+        QCOMPARE(f.stack.count(), 0);
     }
-}
 
-void TestMapTools::pastesWhatFits()
-{
-    // the height and width that the data announces, its cells (-1 for no data at all), whether its tiles are the map's
-    for (const auto &[height, width, cells, ownTiles, accepted] : {std::tuple(2, 3, 6, true, true),
-                                                                   {2, 3, 6, false, false},
-                                                                   {2, 3, 5, true, false},
-                                                                   {0x7FFFFFFF, 0x7FFFFFFF, 6, true, false},
-                                                                   {-2, -3, 6, true, false},
-                                                                   {0, 5, 0, true, false},
-                                                                   {0, 0, -1, true, false}}) {
+    void placesSpritesInsideTheMap()
+    {
         F f;
-        QByteArray data;
-        QDataStream stream(&data, QIODevice::WriteOnly);
-        if (cells >= 0)
-            stream << qint32(height) << qint32(width);
-        for (int i = 0; i < cells; ++i)
-            stream << qint32(i + 1) << true << qint32(0) << false << false << false;
-        if (cells >= 0)
-            stream << (ownTiles ? f.tiles->id() : QUuid::createUuid());
-        auto *copied = new QMimeData;
-        copied->setData("quenmora-map-toNextData", data);
-        QApplication::clipboard()->setMimeData(copied);
-        f.grid.setMode(Select);
-        f.grid.setMode(Paste);
-        QCOMPARE(f.grid.mode(), accepted ? Paste : Select);
-        f.move(f.at(19, 8));
-        f.click(f.at(19, 8));
-        if (accepted) {
-            QCOMPARE(f.grid.pasteArea(), QRect(18, 7, 3, 2)); // around the pointer; the last column lies outside
-            QCOMPARE(f.tile(18, 7).index, 1);
-            QCOMPARE(f.tile(19, 8).index, 5);
+        QSignalSpy clicked(&f.grid, &MapEditor::MapGrid::spriteClicked);
+        f.grid.setCurrentSpriteAnimation(f.run);
+        int placed = 0;
+        for (const auto &[pixel, snap, position] : {std::tuple(QPoint(33, 21), 1, QPoint(33, 21)),
+                                                    {QPoint(99, 21), 2, QPoint(96, 16)},
+                                                    {QPoint(159, 127), 1, QPoint(159, 127)}}) {
+            f.grid.setSnapToSize(snap);
+            f.click(f.pixel(pixel.x(), pixel.y()));
+            QCOMPARE(f.grid.selectedSprite(), placed);
+            QCOMPARE(f.map->sprites().value(placed), f.animated(position));
+            ++placed;
         }
-        // what was accepted may have been replaced since
-        f.map->setTile({0, 0}, {9, false, false, false, 0, true});
-        QApplication::clipboard()->setMimeData(f.map->tileLayer()->toMimeData({0, 0, 1, 1}));
-        f.click(f.at(10, 10));
-        QCOMPARE(f.steps(), accepted ? "Paste" : "");
+        f.click(f.pixel(160, 20)); // outside
+        f.drag({f.pixel(40, 30), f.pixel(41, 30)}); // too short for a move
+        QCOMPARE(clicked, (Signals{{0}}));
+        f.grid.setCurrentSprite({}, -1);
+        f.click(f.pixel(60, 100)); // beside them, with nothing to place
+        QCOMPARE(f.grid.selectedSprite(), -1);
+        QCOMPARE(f.steps(), "Place Sprite|Place Sprite|Place Sprite");
     }
-}
 
-void TestMapTools::picksAndReturnsToTheToolBefore()
-{
-    F f;
-    const TileData tile{3, true, false, true, 7, true};
-    f.map->setTile({4, 2}, tile);
-    QApplication::clipboard()->clear();
-    QSignalSpy picked(&f.grid, &MapEditor::MapGrid::tilePicked);
-    for (const ToolButton mode : {Select, Pick, Pick, Paste}) // which is refused
-        f.grid.setMode(mode);
-    f.click(f.at(4, 2), Qt::RightButton);
-    f.click(f.at(4, 2));
-    QCOMPARE(picked, (Signals{{QVariant::fromValue(tile)}}));
-    QCOMPARE(f.grid.mode(), Select);
-
-    f.grid.setMode(Draw);
-    f.grid.setCurrentTileIndex(9);
-    f.drag({f.at(2, 2), f.at(3, 2), f.at(4, 2)}, Qt::MiddleButton);
-    QCOMPARE(picked.size(), 2);
-    QCOMPARE(f.grid.mode(), Draw);
-    QCOMPARE(f.stack.count(), 0);
-}
-
-void TestMapTools::placesSpritesInsideTheMap()
-{
-    F f;
-    QSignalSpy clicked(&f.grid, &MapEditor::MapGrid::spriteClicked);
-    f.grid.setCurrentSpriteAnimation(f.run);
-    int placed = 0;
-    for (const auto &[pixel, snap, position] : {std::tuple(QPoint(33, 21), 1, QPoint(33, 21)),
-                                                {QPoint(99, 21), 2, QPoint(96, 16)},
-                                                {QPoint(159, 127), 1, QPoint(159, 127)}}) {
-        f.grid.setSnapToSize(snap);
-        f.click(f.pixel(pixel.x(), pixel.y()));
-        QCOMPARE(f.grid.selectedSprite(), placed);
-        QCOMPARE(f.map->sprites().value(placed), f.animated(position));
-        ++placed;
+    void movesTheTopmostSprite()
+    {
+        F f;
+        QSignalSpy clicked(&f.grid, &MapEditor::MapGrid::spriteClicked);
+        f.map->addSprite(f.sprite(1, {40, 40}));
+        f.map->addSprite(f.sprite(2, {44, 44}));
+        f.grid.setMode(PlaceSprite);
+        f.grid.setSnapToSize(2);
+        f.drag({f.pixel(46, 47), f.pixel(60, 60), f.pixel(97, 70)});
+        QCOMPARE(f.map->sprites(), (QList{f.sprite(1, {40, 40}), f.sprite(2, {80, 64})})); // (95, 67) snapped
+        f.press(f.pixel(45, 45));
+        f.bank->deleteSprite(1); // and with it what is being dragged
+        f.move(f.pixel(70, 70));
+        f.release(f.pixel(70, 70));
+        QCOMPARE(f.map->sprites(), QList{f.sprite(1, {80, 64})});
+        QCOMPARE(f.steps(), "Move Sprite|Move Sprite"); // the bank's change is in the second
+        QVERIFY(clicked.isEmpty());
     }
-    f.click(f.pixel(160, 20)); // outside
-    f.drag({f.pixel(40, 30), f.pixel(41, 30)}); // too short for a move
-    QCOMPARE(clicked, (Signals{{0}}));
-    f.grid.setCurrentSprite({}, -1);
-    f.click(f.pixel(60, 100)); // beside them, with nothing to place
-    QCOMPARE(f.grid.selectedSprite(), -1);
-    QCOMPARE(f.steps(), "Place Sprite|Place Sprite|Place Sprite");
-}
-
-void TestMapTools::movesTheTopmostSprite()
-{
-    F f;
-    QSignalSpy clicked(&f.grid, &MapEditor::MapGrid::spriteClicked);
-    f.map->addSprite(f.sprite(1, {40, 40}));
-    f.map->addSprite(f.sprite(2, {44, 44}));
-    f.grid.setMode(PlaceSprite);
-    f.grid.setSnapToSize(2);
-    f.drag({f.pixel(46, 47), f.pixel(60, 60), f.pixel(97, 70)});
-    QCOMPARE(f.map->sprites(), (QList{f.sprite(1, {40, 40}), f.sprite(2, {80, 64})})); // (95, 67) snapped
-    f.press(f.pixel(45, 45));
-    f.bank->deleteSprite(1); // and with it what is being dragged
-    f.move(f.pixel(70, 70));
-    f.release(f.pixel(70, 70));
-    QCOMPARE(f.map->sprites(), QList{f.sprite(1, {80, 64})});
-    QCOMPARE(f.steps(), "Move Sprite|Move Sprite"); // the bank's change is in the second
-    QVERIFY(clicked.isEmpty());
-}
+};
 
 QUENMORA_TEST_MAIN(TestMapTools)
 #include "tst_maptools.moc"
