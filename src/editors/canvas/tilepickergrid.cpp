@@ -147,7 +147,11 @@ void TilePickerGrid::paintEvent(QPaintEvent *event)
         QImage image = m_tileSet->image(index);
         if (palette)
             image.setColorTable(colours);
-        painter.drawImage(cellRect(index).adjusted(0, 0, -1, -1), image);
+        // scaled here: a painter that scales looks every pixel of the screen up in the colour table
+        const QRect frame = cellRect(index).adjusted(0, 0, -1, -1);
+        image = image.convertToFormat(QImage::Format_RGB32).scaled(frame.size() * devicePixelRatioF());
+        image.setDevicePixelRatio(devicePixelRatioF());
+        painter.drawImage(frame.topLeft(), image);
     }
     paintMarks(painter);
     for (int index = std::max(first, LastUnshaded + 1); index < last; ++index)
