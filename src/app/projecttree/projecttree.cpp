@@ -95,7 +95,7 @@ void ProjectTree::buildMenu()
     m_copy = add(tr("&Copy"), QStringLiteral(":/Copy"), &ProjectTree::copyItem);
 }
 
-void ProjectTree::reset(const QPointer<Project> &project)
+void ProjectTree::showProject(const QPointer<Project> &project)
 {
     clear();
     if (!project)

@@ -36,7 +36,7 @@ public:
     explicit ProjectTree(QWidget *parent = nullptr);
 
     /// Starts anew with the project item and the empty groups; null leaves the tree empty.
-    void reset(const QPointer<Project> &project);
+    void showProject(const QPointer<Project> &project);
     /// Lists an asset. Map objects go below the tile set of the id parent, every other kind into its group.
     void addAsset(ProjectNode node, const QUuid &id, const QString &name, const QUuid &parent = {});
     /// Takes an asset out of the list; map objects below a tile set stay, in the group "Objects".

@@ -56,7 +56,7 @@ void ProjectWindow::setProject(QPointer<Project> project)
         m_project->disconnect(this);
     m_project = project;
     const QSignalBlocker blocker(m_tree);
-    m_tree->reset(m_project);
+    m_tree->showProject(m_project);
     if (!m_project)
         return;
     fill();
