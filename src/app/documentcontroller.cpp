@@ -7,8 +7,6 @@
 #include "app/menus/palettemenu.h"
 #include "app/menus/spritemenu.h"
 #include "app/menus/tilemenu.h"
-#include "app/preferences/mapeditorpage.h"
-#include "app/preferences/preferencesdialog.h"
 #include "app/projectcontroller.h"
 #include "app/projecttree/projectwindow.h"
 #include "editors/animation/blockeditorview.h"
@@ -23,6 +21,8 @@
 #include "editors/map/mappreferences.h"
 #include "editors/map/mapspriteswindow.h"
 #include "editors/palette/palettewindow.h"
+#include "preferences/mapeditorpage.h"
+#include "preferences/preferencesdialog.h"
 
 #include <QScopedValueRollback>
 

@@ -6,10 +6,10 @@
 #include "app/menus/spritemenu.h"
 #include "app/menus/tilemenu.h"
 #include "app/menus/viewmenu.h"
-#include "app/preferences/generalpage.h"
 #include "app/startpage.h"
 #include "app/version.h"
 #include "editors/map/mapeditorview.h"
+#include "preferences/generalpage.h"
 #include "ui/messagedialog.h"
 
 #include <QApplication>

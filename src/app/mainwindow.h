@@ -6,7 +6,6 @@
 #include "app/documentviews.h"
 #include "app/layoutcontroller.h"
 #include "app/menus/menubar.h"
-#include "app/preferences/preferencesdialog.h"
 #include "app/projectactions.h"
 #include "app/projectcontroller.h"
 #include "app/projecttree/projectwindow.h"
@@ -18,6 +17,7 @@
 #include "editors/map/mapeditortoolbar.h"
 #include "editors/map/mapspriteswindow.h"
 #include "editors/palette/palettewindow.h"
+#include "preferences/preferencesdialog.h"
 #include "update/updatecontroller.h"
 
 #include <QMainWindow>

@@ -1,6 +1,6 @@
 #include "update/updatecontroller.h"
 
-#include "app/preferences/generalpage.h"
+#include "preferences/generalpage.h"
 
 #include <QDateTime>
 

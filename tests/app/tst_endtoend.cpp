@@ -11,6 +11,7 @@
 #include "editors/map/mapgrid.h"
 #include "editors/map/maptoolpalette.h"
 #include "model/map.h"
+#include "support/canvasmouse.h"
 #include "support/editorinput.h"
 #include "support/modeltools.h"
 #include "support/testmain.h"

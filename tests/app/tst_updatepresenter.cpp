@@ -1,7 +1,7 @@
 #include "app/updatepresenter.h"
 
-#include "app/preferences/generalpage.h"
 #include "app/version.h"
+#include "preferences/generalpage.h"
 #include "support/testmain.h"
 #include "ui/aboutbox.h"
 #include "update/updatedialog.h"

@@ -1,7 +1,7 @@
-#include "app/preferences/colourbutton.h"
-#include "app/preferences/generalpage.h"
-#include "app/preferences/mapeditorpage.h"
-#include "app/preferences/preferencesdialog.h"
+#include "preferences/colourbutton.h"
+#include "preferences/generalpage.h"
+#include "preferences/mapeditorpage.h"
+#include "preferences/preferencesdialog.h"
 #include "support/testmain.h"
 
 #include <QColorDialog>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "editors/animation/animationlistwidget.h"
 #include "editors/animation/editorwidget.h"
+#include "editors/common/animationlistwidget.h"
 #include "model/project.h"
 #include "undo/editrecorder.h"
 

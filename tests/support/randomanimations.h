@@ -1,12 +1,12 @@
 #pragma once
 
 #include "editors/animation/animationcontrolwidget.h"
-#include "editors/animation/animationlistwidget.h"
 #include "editors/animation/animationtoolbar.h"
 #include "editors/animation/animationview.h"
 #include "editors/animation/editorwidget.h"
 #include "editors/animation/frameeditorwidget.h"
-#include "editors/canvas/dragdata.h"
+#include "editors/common/animationlistwidget.h"
+#include "editors/common/dragdata.h"
 #include "support/randomhands.h"
 #include "ui/toolpalette.h"
 

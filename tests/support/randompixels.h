@@ -1,10 +1,10 @@
 #pragma once
 
 #include "editors/canvas/canvas.h"
-#include "editors/canvas/dragdata.h"
 #include "editors/canvas/imageeditorview.h"
 #include "editors/canvas/spritelist.h"
 #include "editors/canvas/tilepickergrid.h"
+#include "editors/common/dragdata.h"
 #include "editors/palette/paletteeditor.h"
 #include "support/randomhands.h"
 

@@ -1,4 +1,4 @@
-#include "app/preferences/generalpage.h"
+#include "preferences/generalpage.h"
 #include "support/testmain.h"
 #include "update/feedserver.h"
 #include "update/updatecontroller.h"

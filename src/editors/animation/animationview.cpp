@@ -1,7 +1,7 @@
 #include "editors/animation/animationview.h"
 
-#include "editors/animation/animationlistwidget.h"
 #include "editors/animation/editorwidget.h"
+#include "editors/common/animationlistwidget.h"
 #include "ui/sectionheader.h"
 #include "ui/titlewidth.h"
 

@@ -1,7 +1,7 @@
 #include "editors/animation/blockeditorview.h"
 
 #include "editors/animation/animationeditorwidget.h"
-#include "editors/animation/animationlistwidget.h"
+#include "editors/common/animationlistwidget.h"
 #include "model/tileset.h"
 
 namespace BlockEditor {

@@ -1,6 +1,6 @@
 #include "editors/animation/frameeditorwidget.h"
 
-#include "editors/canvas/dragdata.h"
+#include "editors/common/dragdata.h"
 
 #include <QContextMenuEvent>
 #include <QHelpEvent>

@@ -1,7 +1,7 @@
 #include "editors/animation/spriteeditorview.h"
 
-#include "editors/animation/animationlistwidget.h"
 #include "editors/animation/spriteanimationeditorwidget.h"
+#include "editors/common/animationlistwidget.h"
 #include "model/spriteanim.h"
 
 namespace SpriteEditor {

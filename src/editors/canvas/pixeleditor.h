@@ -1,6 +1,6 @@
 #pragma once
 
-#include "editors/edittarget.h"
+#include "editors/common/edittarget.h"
 #include "ui/enums.h"
 #include "undo/pixeleditcommand.h"
 

@@ -1,7 +1,7 @@
 #include "editors/canvas/spritelist.h"
 
 #include "editors/canvas/canvasclipboard.h"
-#include "editors/canvas/dragdata.h"
+#include "editors/common/dragdata.h"
 #include "ui/svgiconengine.h"
 
 #include <QClipboard>

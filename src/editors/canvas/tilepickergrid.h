@@ -1,7 +1,7 @@
 #pragma once
 
 #include "editors/canvas/cellgrid.h"
-#include "editors/canvas/dragdata.h"
+#include "editors/common/dragdata.h"
 #include "model/tileset.h"
 
 #include <QActionGroup>

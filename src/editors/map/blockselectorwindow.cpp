@@ -1,6 +1,6 @@
 #include "editors/map/blockselectorwindow.h"
 
-#include "editors/animation/animationlistwidget.h"
+#include "editors/common/animationlistwidget.h"
 
 #include <QSignalBlocker>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "editors/edittarget.h"
+#include "editors/common/edittarget.h"
 #include "model/enums.h"
 #include "model/map.h"
 #include "model/spriteanim.h"

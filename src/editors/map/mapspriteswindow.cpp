@@ -1,6 +1,6 @@
 #include "editors/map/mapspriteswindow.h"
 
-#include "editors/animation/animationlistwidget.h"
+#include "editors/common/animationlistwidget.h"
 #include "editors/map/spritelistmodel.h"
 #include "ui/quietlist.h"
 #include "ui/repeatedpress.h"

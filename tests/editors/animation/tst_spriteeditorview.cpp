@@ -1,7 +1,7 @@
 #include "editors/animation/spriteeditorview.h"
 
 #include "editors/animation/spriteanimationeditorwidget.h"
-#include "editors/canvas/dragdata.h"
+#include "editors/common/dragdata.h"
 
 #include "support/animationtab.h"
 #include "support/editorinput.h"

@@ -2,6 +2,7 @@
 #include "editors/canvas/canvasclipboard.h"
 #include "editors/canvas/scrollcanvas.h"
 
+#include "support/canvasmouse.h"
 #include "support/editorinput.h"
 
 #include <QScrollBar>

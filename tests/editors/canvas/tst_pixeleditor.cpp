@@ -1,14 +1,15 @@
 // The three editors around a canvas: what they have in common, then what each has of its own.
 
 #include "editors/canvas/canvasclipboard.h"
-#include "editors/canvas/dragdata.h"
 #include "editors/canvas/imageeditorview.h"
 #include "editors/canvas/imageimportdialog.h"
 #include "editors/canvas/spritelist.h"
 #include "editors/canvas/spritewindow.h"
 #include "editors/canvas/tilewindow.h"
+#include "editors/common/dragdata.h"
 #include "ui/toolpalette.h"
 
+#include "support/canvasmouse.h"
 #include "support/editorinput.h"
 
 #include <QAction>

@@ -1,6 +1,6 @@
-#include "editors/canvas/dragdata.h"
 #include "editors/canvas/tilepickergrid.h"
 #include "editors/canvas/tilepickertool.h"
+#include "editors/common/dragdata.h"
 #include "model/palette.h"
 
 #include "support/editorinput.h"

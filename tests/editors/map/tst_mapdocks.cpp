@@ -1,4 +1,4 @@
-#include "editors/animation/animationlistwidget.h"
+#include "editors/common/animationlistwidget.h"
 #include "editors/map/blockselectorwindow.h"
 #include "editors/map/mapspriteswindow.h"
 #include "support/mapfixture.h"

@@ -1,4 +1,4 @@
-#include "app/preferences/colourbutton.h"
+#include "preferences/colourbutton.h"
 
 #include <QIcon>
 #include <QPixmap>

@@ -1,4 +1,4 @@
-#include "editors/animation/animationlistwidget.h"
+#include "editors/common/animationlistwidget.h"
 
 #include "ui/quietlist.h"
 #include "ui/repeatedpress.h"

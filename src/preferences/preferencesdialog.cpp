@@ -1,7 +1,7 @@
-#include "app/preferences/preferencesdialog.h"
+#include "preferences/preferencesdialog.h"
 
-#include "app/preferences/generalpage.h"
-#include "app/preferences/mapeditorpage.h"
+#include "preferences/generalpage.h"
+#include "preferences/mapeditorpage.h"
 
 #include <QDialogButtonBox>
 #include <QHBoxLayout>

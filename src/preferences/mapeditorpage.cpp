@@ -1,6 +1,6 @@
-#include "app/preferences/mapeditorpage.h"
+#include "preferences/mapeditorpage.h"
 
-#include "app/preferences/colourbutton.h"
+#include "preferences/colourbutton.h"
 
 #include <QCheckBox>
 #include <QColorDialog>

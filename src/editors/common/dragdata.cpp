@@ -1,4 +1,4 @@
-#include "editors/canvas/dragdata.h"
+#include "editors/common/dragdata.h"
 
 #include <QDataStream>
 #include <QList>

@@ -1,4 +1,4 @@
-#include "app/preferences/generalpage.h"
+#include "preferences/generalpage.h"
 
 #include <QCheckBox>
 #include <QComboBox>

@@ -1,4 +1,4 @@
-#include "app/preferences/basepreferencespage.h"
+#include "preferences/basepreferencespage.h"
 
 BasePreferencesPage::BasePreferencesPage(QWidget *parent) : QScrollArea(parent)
 {

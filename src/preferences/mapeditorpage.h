@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/preferences/basepreferencespage.h"
+#include "preferences/basepreferencespage.h"
 
 #include <QColor>
 #include <QPointer>

@@ -1,0 +1,3 @@
+#include "editors/common/edittarget.h"
+
+EditTarget::~EditTarget() = default;

@@ -1,3 +1,0 @@
-#include "editors/edittarget.h"
-
-EditTarget::~EditTarget() = default;
