@@ -3,10 +3,12 @@
 #include "ui/expandablesection.h"
 #include "ui/flowlayout.h"
 #include "ui/numberstepper.h"
+#include "ui/outline.h"
 #include "ui/popover.h"
 #include "ui/scrollbar.h"
 
 #include <QLabel>
+#include <QPainter>
 #include <QSignalSpy>
 #include <QTest>
 #include <QToolButton>
@@ -41,6 +43,32 @@ private slots:
         QFETCH(DialogPosition, wanted);
         QTEST(Popover::place({100, 50}, target, {10, 20, 400, 300}, wanted), "corner");
         QTEST(wanted, "position");
+    }
+
+    void outlineIsSeenOnEveryGround()
+    {
+        constexpr QRect area(5, 3, 40, 30);
+        for (const QColor ground : {Qt::black, Qt::white, Qt::gray}) {
+            QImage image(50, 40, QImage::Format_RGB32);
+            image.fill(ground);
+            QPainter painter(&image);
+            paintOutline(painter, area);
+            painter.end();
+            const auto seen = [&](QPoint pixel) {
+                return std::abs(qGray(image.pixel(pixel)) - qGray(ground.rgb())) > 100;
+            };
+            // within any eight pixels along a side it differs from the ground; inside and around it nothing changed
+            for (const QPoint corner : {area.topLeft(), QPoint(5, 32), QPoint(44, 3)}) {
+                const bool down = corner.x() > 5;
+                for (int at = 0; at + 8 <= (down ? area.height() : area.width()); ++at) {
+                    int count = 0;
+                    for (int i = at; i < at + 8; ++i)
+                        count += seen(corner + (down ? QPoint(0, i) : QPoint(i, 0)));
+                    QVERIFY2(count >= 3, qPrintable(QDebug::toString(corner) + QString::number(at)));
+                }
+            }
+            QVERIFY(!seen({7, 5}) && !seen({4, 3}) && !seen({45, 32}));
+        }
     }
 
     void popoverPointsAtItsTargetAndClosesOnEscape()
