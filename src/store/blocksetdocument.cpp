@@ -27,7 +27,7 @@ QJsonObject writeAnimation(const TileAnimation &animation)
 void readAnimation(DocumentReader &reader, MapObjects &blocks, const QJsonObject &object)
 {
     const QPointer<TileAnimation> animation =
-        blocks.createTileAnimation(DocumentValue::id(object, Id), object.value(Name).toString());
+        blocks.createTileAnimation(DocumentValue::id(object, Id), DocumentValue::name(object, Name));
     animation->setMapObjectType(
         DocumentValue::enumerator(object, Type, MapObjectType::HorizontalPlatform, MapObjectType::Normal));
     AnimationDocument::read(reader, *animation, object, FrameCells, 0, AnimationDocument::FrameIds::Restored);
@@ -52,7 +52,7 @@ void readBlockSet(DocumentReader &reader, const QJsonObject &object)
 {
     auto *blocks = new MapObjects(&reader.project);
     blocks->setId(DocumentValue::id(object, Id));
-    blocks->setName(object.value(Name).toString());
+    blocks->setName(DocumentValue::name(object, Name));
     blocks->setTileSet(reader.project.tileSet(DocumentValue::id(object, BoundTileSet)));
     for (const QJsonValue &animation : object.value(Animations).toArray())
         readAnimation(reader, *blocks, animation.toObject());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/assetname.h"
 #include "store/projectdocument.h"
 
 #include <QJsonObject>
@@ -35,6 +36,12 @@ struct DocumentReader
 /// Values of the document. What is missing, of another type or (for numbers) no 32-bit integer counts
 /// as the fallback.
 namespace DocumentValue {
+
+/// The name under a key, cut to what a name may be.
+[[nodiscard]] inline QString name(const QJsonObject &object, QLatin1String key)
+{
+    return AssetName::cut(object.value(key).toString());
+}
 
 /// The id under a key; null when it is missing or none.
 [[nodiscard]] inline QUuid id(const QJsonObject &object, QLatin1String key)

@@ -38,7 +38,7 @@ bool readImage(DocumentReader &reader, const QJsonObject &object)
     const auto mode = DocumentValue::enumerator(object, Type, Quenmora::LoRes_128x96, Quenmora::Layer2_256x192);
     auto *image = new Image(mode, &reader.project);
     image->setId(DocumentValue::id(object, Id));
-    image->setName(object.value(Name).toString());
+    image->setName(DocumentValue::name(object, Name));
     const QImage pixels = PngMember::decode(reader.member(pixelsMember(image->id())));
     if (pixels.isNull())
         return reader.fail(

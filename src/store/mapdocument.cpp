@@ -111,7 +111,7 @@ Map::PlacedSprite readSprite(const QJsonObject &object)
     sprite.initialDelay = object.value(InitialDelay).toInt();
     sprite.repeatDelay = object.value(RepeatDelay).toInt();
     sprite.paletteOffset = object.value(PaletteOffset).toInt();
-    sprite.name = object.value(Name).toString();
+    sprite.name = DocumentValue::name(object, Name);
     return sprite;
 }
 
@@ -163,7 +163,7 @@ QJsonObject writeMap(const Map &map, ProjectMembers &members)
 
 bool readMap(DocumentReader &reader, const QJsonObject &object)
 {
-    auto *map = new Map(object.value(Name).toString(), &reader.project);
+    auto *map = new Map(DocumentValue::name(object, Name), &reader.project);
     readContent(*map, object);
     TileMap *tiles = TileMap::fromData(reader.member(cellsMember(map->id())), &reader.project);
     if (!tiles)

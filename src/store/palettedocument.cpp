@@ -34,7 +34,7 @@ void readPalette(DocumentReader &reader, const QJsonObject &object)
 {
     auto *palette = new Palette(&reader.project);
     palette->setId(DocumentValue::idOrNew(object, Id));
-    palette->setName(object.value(Name).toString());
+    palette->setName(DocumentValue::name(object, Name));
     palette->setTransparencyIndex(object.value(TransparencyIndex).toInt(-1));
     const QJsonArray colours = object.value(Colours).toArray();
     const int stored = int(std::min<qsizetype>(colours.size(), Palette::Size));

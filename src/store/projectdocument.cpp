@@ -20,6 +20,7 @@
 #include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QSet>
 
 #include <algorithm>
 
@@ -84,11 +85,27 @@ QJsonObject writeSettings(const Project &project)
     };
 }
 
+/// The open documents, each once: a document has one tab, and many ways to write its id.
+QStringList readOpenDocuments(const QJsonArray &entries)
+{
+    QStringList documents;
+    QSet<QString> known;
+    for (const QJsonValue &entry : entries) {
+        const QString document = entry.toString();
+        const QUuid id = QUuid::fromString(document);
+        const QString key = id.isNull() ? document : id.toString();
+        if (!known.contains(key))
+            documents.append(document);
+        known.insert(key);
+    }
+    return documents;
+}
+
 void readSettings(Project &project, const QJsonObject &document)
 {
     const QJsonObject screen = document.value(ScreenSize).toObject();
     const QJsonObject area = document.value(PlayArea).toObject();
-    project.setName(document.value(Name).toString());
+    project.setName(DocumentValue::name(document, Name));
     project.setId(DocumentValue::id(document, Id));
     project.setScreenSize({DocumentValue::coordinate(screen, Width, DefaultScreenSize.width()),
                            DocumentValue::coordinate(screen, Height, DefaultScreenSize.height())});
@@ -96,10 +113,7 @@ void readSettings(Project &project, const QJsonObject &document)
                          DocumentValue::coordinate(area, Width, DefaultScreenSize.width()),
                          DocumentValue::coordinate(area, Height, DefaultScreenSize.height())});
     project.setScratchPaletteId(DocumentValue::id(document, ScratchPalette));
-    QStringList openDocuments;
-    for (const QJsonValue &entry : document.value(OpenDocuments).toArray())
-        openDocuments.append(entry.toString());
-    project.setOpenDocuments(openDocuments);
+    project.setOpenDocuments(readOpenDocuments(document.value(OpenDocuments).toArray()));
 }
 
 /// Reads one kind of asset; stops at the first that cannot be read.

@@ -47,7 +47,7 @@ QByteArray readOffsets(const QJsonArray &array)
 void readAnimation(DocumentReader &reader, SpriteBank &bank, const QJsonObject &object)
 {
     const QPointer<SpriteAnim> animation = bank.addAnimation(DocumentValue::id(object, Id));
-    animation->setName(object.value(Name).toString());
+    animation->setName(DocumentValue::name(object, Name));
     animation->clearFrames(); // a new one has a frame
     AnimationDocument::read(reader, *animation, object, FrameCells, 1, AnimationDocument::FrameIds::New);
 }
@@ -76,7 +76,7 @@ bool readSpriteBank(DocumentReader &reader, const QJsonObject &object)
     const auto depth = DocumentValue::enumerator(object, Depth, Quenmora::EightBit, Quenmora::EightBit);
     auto *bank = new SpriteBank(depth, &reader.project);
     bank->setId(DocumentValue::idOrNew(object, Id));
-    bank->setName(object.value(Name).toString());
+    bank->setName(DocumentValue::name(object, Name));
     bank->setTransparency(object.value(Transparency).toInt(-1));
     if (const QJsonArray offsets = object.value(Offsets).toArray(); !offsets.isEmpty())
         bank->setOffsets(readOffsets(offsets));

@@ -78,7 +78,7 @@ QJsonObject writeTileSet(const TileSet &tileSet, ProjectMembers &members)
 bool readTileSet(DocumentReader &reader, const QJsonObject &object)
 {
     const QUuid id = DocumentValue::idOrNew(object, Id);
-    const QString name = object.value(Name).toString();
+    const QString name = DocumentValue::name(object, Name);
     const int count = object.value(Count).toInt(DefaultCount);
     const QByteArray strip = reader.member(stripMember(id));
     if (strip.isEmpty() && count != 0) // a set without tiles has no picture

@@ -203,6 +203,35 @@ private slots:
         }
     }
 
+    void cutsNamesAndOpensEachDocumentOnce()
+    {
+        const QString letters(1023, 'n');
+        for (const auto &[stored, cut] : {std::pair{letters + "xyz", letters + 'x'},
+                                          {letters + "\U0001F600", letters}, // not through the middle of a character
+                                          {letters + 'x', letters + 'x'}}) {
+            ProjectMembers members = leastMembers();
+            replace(members, {"maps", "0", "sprites"}, json("[{}]"));
+            const Path names[] = {{"name"},
+                                  {"palettes", "0", "name"},
+                                  {"tilesets", "0", "name"},
+                                  {"maps", "0", "name"},
+                                  {"maps", "0", "sprites", "0", "name"},
+                                  {"mapObjects", "0", "name"},
+                                  {"mapObjects", "0", "animations", "0", "name"},
+                                  {"sprites", "0", "name"},
+                                  {"sprites", "0", "animations", "0", "name"},
+                                  {"images", "0", "name"}};
+            for (const Path &name : names)
+                replace(members, name, stored);
+            const QJsonObject document = documentOf(rewritten(members));
+            for (const Path &name : names)
+                QVERIFY2(valueAt(document, name) == cut, qPrintable(name.join('/')));
+        }
+        ProjectMembers members = leastMembers();
+        replace(members, {"opendocuments"}, QJsonArray{First, First.toUpper(), "x", Second, First + "x", "x"});
+        QCOMPARE(documentOf(rewritten(members)).value("opendocuments"), json("['<1>', 'x', '<2>']"));
+    }
+
     void refusesWhatNoDefaultCanReplace()
     {
         const QString newer = "Project file is from a newer version of Quenmora";
