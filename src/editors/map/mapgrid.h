@@ -133,7 +133,7 @@ public slots:
     void setCurrentTileAnimation(QPointer<TileAnimation> anim);
     void setCurrentSpriteAnimation(QPointer<SpriteAnim> anim);
     void setCurrentSprite(QUuid bankId, int index);
-    /// Shows or hides the grid lines and the checker board.
+    /// Shows or hides the grid lines, and with them the checker board of those who prefer one.
     void setGridVisible(bool visible);
     void zoomIn();
     void zoomOut();
@@ -232,7 +232,8 @@ private:
     Quenmora::Ui::ToolButton m_mode = Quenmora::Ui::Draw;
     Quenmora::Ui::ToolButton m_savedMode = Quenmora::Ui::Draw; ///< the one before, or at the last press
     bool m_gridVisible = false;
-    bool m_checkerVisible = true;
+    bool m_checkerVisible = true; ///< goes with the grid lines, if there is a checker board
+    bool m_checkerBoard = false; ///< beneath the map, as the preferences ask
     QColor m_gridColour1{64, 64, 64};
     QColor m_gridColour2{80, 80, 80};
     TileMap::TileData m_currentTile; ///< index and orientation alone count; index -1 for none

@@ -201,6 +201,7 @@ void MapGrid::setGridVisible(bool visible)
 
 void MapGrid::applyPreferences(const Preferences &preferences)
 {
+    m_checkerBoard = preferences.checkerBoard;
     setGridVisible(preferences.checkerBoard);
     m_gridVisible = preferences.overlayGrid;
     m_gridColour1 = preferences.gridColour1;

@@ -98,7 +98,7 @@ QBrush MapGrid::background() const
     cell.offset = tiles ? tiles->tileOffset(m_backgroundTileIndex) : 0;
     if (const QImage tile = tilePicture(cell); !tile.isNull())
         return repeating(tile.scaled(side, side).convertToFormat(QImage::Format_RGB32));
-    if (!m_checkerVisible)
+    if (!m_checkerBoard || !m_checkerVisible)
         return Qt::black;
     const bool odd = (m_viewport.scroll.x() + m_viewport.scroll.y()) % 2 != 0; // squares scroll with the cells
     return repeating(odd ? checker(side, m_gridColour2, m_gridColour1) : checker(side, m_gridColour1, m_gridColour2));

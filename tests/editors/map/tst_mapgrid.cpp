@@ -304,6 +304,23 @@ private slots:
         }
     }
 
+    void checkerBoardIsForThoseWhoPreferIt()
+    {
+        // the grid lines are another preference, and Toggle Grid shows what is preferred
+        for (const auto &[applied, preferred] : {std::pair(false, false), {true, false}, {true, true}}) {
+            MapGridFixture f;
+            f.grid.setTransparencyIndex(0);
+            if (applied)
+                f.grid.applyPreferences({preferred, Qt::red, Qt::red, true, 4, 4});
+            for (int toggled = 0; toggled < 2; ++toggled) {
+                QCOMPARE(f.screenColour(f.at(3, 3)), preferred ? Qt::red : Qt::black);
+                f.grid.setGridVisible(true);
+            }
+            f.grid.setGridVisible(false);
+            QCOMPARE(f.screenColour(f.at(3, 3)), QColor(Qt::black));
+        }
+    }
+
     void repaintsWhenAssetsChange()
     {
         MapGridFixture f;
