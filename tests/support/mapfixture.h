@@ -111,7 +111,7 @@ struct MapGridFixture : MapAssets
     }
     void move(QPoint point)
     {
-        QMouseEvent event(QEvent::MouseMove, point, grid.mapToGlobal(point), Qt::NoButton, grid.heldButtons(), {});
+        QMouseEvent event(QEvent::MouseMove, point, grid.mapToGlobal(point), Qt::NoButton, grid.pointer().held, {});
         QApplication::sendEvent(&grid, &event);
     }
     void release(QPoint point, Qt::MouseButton button = Qt::LeftButton)

@@ -1,6 +1,6 @@
 #include "editors/map/drawtool.h"
 
-#include "editors/map/mapgrid.h"
+#include "editors/map/mappainter.h"
 
 #include <QPainter>
 
@@ -8,30 +8,30 @@ namespace MapEditor {
 
 bool DrawTool::activate()
 {
-    grid()->refreshCursor();
-    grid()->selectNone();
+    surface()->refreshCursor();
+    surface()->hideRubberBand();
+    surface()->setSelection({});
     return true;
 }
 
 bool DrawTool::isUnavailable() const
 {
-    const QPointer<Map> map = grid()->map();
-    return map && map->tileLayer() && !map->tileLayer()->isVisible();
+    return map() && map()->tileLayer() && !map()->tileLayer()->isVisible();
 }
 
 void DrawTool::mouseReleased(QMouseEvent *)
 {
-    grid()->endEdit(MapGrid::tr("Paint"));
+    surface()->endEdit(tr("Paint"));
 }
 
 void DrawTool::paintUnder(QPainter &painter) const
 {
-    if (grid()->hasHoverCell() && grid()->highlight().isEmpty()) {
-        const QImage tile = grid()->tilePicture(grid()->currentTile());
+    if (pointer().hasCell() && pointer().highlight.isEmpty()) {
+        const QImage tile = MapPainter::tilePicture(map(), brush().cellFor(map()));
         if (!tile.isNull())
-            painter.drawImage(grid()->viewport().rectOfCells({grid()->hoverCell(), QSize(1, 1)}), tile);
+            painter.drawImage(viewport().rectOfCells({pointer().cell, QSize(1, 1)}), tile);
     }
-    grid()->paintSelection(painter);
+    paintSelection(painter);
 }
 
 } // namespace MapEditor

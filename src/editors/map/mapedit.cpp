@@ -2,8 +2,6 @@
 
 #include "undo/mapeditcommand.h"
 
-#include <QUndoStack>
-
 #include <algorithm>
 #include <utility>
 
@@ -60,38 +58,50 @@ void adoptFrames(Map::Snapshot &before, const Map::Snapshot &after)
 
 } // namespace
 
-void MapEdit::begin(const QPointer<Map> &map)
+void MapEdit::setMap(const QPointer<Map> &map)
 {
-    if (m_depth++ > 0 || !map)
-        return;
+    abandon();
     m_map = map;
-    m_before = map->snapshot();
 }
 
-void MapEdit::end(const QString &text, QUndoStack *stack)
+void MapEdit::begin()
+{
+    if (m_depth++ == 0 && m_map)
+        m_before = m_map->snapshot();
+}
+
+void MapEdit::end(const QString &text)
 {
     if (m_depth == 0 || --m_depth > 0)
         return;
-    if (m_map && stack) {
+    if (m_map && m_stack) {
         const Map::Snapshot after = m_map->snapshot();
         adoptFrames(m_before, after);
         if (m_before != after)
-            stack->push(new MapEditCommand(text, m_map, m_before, after)); // the stack owns it
+            m_stack->push(new MapEditCommand(text, m_map, m_before, after)); // the stack owns it
     }
     abandon();
 }
 
-void MapEdit::endAll(const QString &text, QUndoStack *stack)
+void MapEdit::endAll(const QString &text)
 {
     m_depth = std::min(m_depth, 1);
-    end(text, stack);
+    end(text);
 }
 
 void MapEdit::abandon()
 {
-    m_map.clear();
     m_before = {};
     m_depth = 0;
+}
+
+void MapEdit::run(const QString &text, const std::function<void(Map &)> &operation)
+{
+    if (!m_map)
+        return;
+    begin();
+    operation(*m_map);
+    end(text);
 }
 
 } // namespace MapEditor

@@ -4,30 +4,38 @@
 
 #include <QPointer>
 #include <QString>
+#include <QUndoStack>
 
-class QUndoStack;
+#include <functional>
 
 namespace MapEditor {
 
-/// One edit of a map, from its beginning to the undo step that it becomes.
+/// The edit of a map that is going on, from its beginning to the undo step that it becomes.
 ///
 /// Edits may be nested, the outermost one counts. Frames of animations that play while an edit is open
-/// are no part of it.
+/// are no part of it. Without a map nothing is edited, and without a stack nothing is recorded.
 class MapEdit
 {
 public:
+    /// The map that is edited from now on. An open edit is forgotten.
+    void setMap(const QPointer<Map> &map);
+    void setUndoStack(QUndoStack *stack) { m_stack = stack; }
+
     /// Begins an edit, or a nested one.
-    void begin(const QPointer<Map> &map);
-    /// Ends the edit, or a nested one. The outermost one pushes a command of that text onto the stack, if there
-    /// is one and the map is another one than before. Without an open edit it does nothing.
-    void end(const QString &text, QUndoStack *stack);
+    void begin();
+    /// Ends the edit, or a nested one. The outermost one pushes a command of that text, if the map is another
+    /// one than before. Without an open edit it does nothing.
+    void end(const QString &text);
     /// Ends the edit however deeply it is nested.
-    void endAll(const QString &text, QUndoStack *stack);
+    void endAll(const QString &text);
     /// Forgets the edit, whose map is gone.
     void abandon();
+    /// An edit, or a nested one, that is made at once.
+    void run(const QString &text, const std::function<void(Map &)> &operation);
 
 private:
     QPointer<Map> m_map;
+    QPointer<QUndoStack> m_stack;
     Map::Snapshot m_before;
     int m_depth = 0;
 };

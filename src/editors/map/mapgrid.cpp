@@ -1,18 +1,16 @@
 #include "editors/map/mapgrid.h"
 
-#include "editors/map/drawtool.h"
-#include "editors/map/pastetool.h"
-#include "editors/map/picktool.h"
-#include "editors/map/placeanimationtool.h"
-#include "editors/map/placespritetool.h"
-#include "editors/map/selecttool.h"
-#include "model/tileset.h"
+#include "editors/map/mapclipboard.h"
+#include "editors/map/mappainter.h"
+#include "model/placedsprites.h"
 
-#include <QDebug>
+#include <QElapsedTimer>
 #include <QMenu>
-#include <QMetaEnum>
 #include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
 #include <QRubberBand>
+#include <QWheelEvent>
 
 using namespace Quenmora::Ui;
 
@@ -28,25 +26,12 @@ MapGrid::MapGrid(QWidget *parent)
     setFocusPolicy(Qt::StrongFocus);
     setAccessibleName(tr("Map"));
     m_rubberBand->hide();
-    addTool<DrawTool>();
-    addTool<SelectTool>();
-    addTool<PasteTool>();
-    addTool<PickTool>();
-    addTool<PlaceAnimationTool>();
-    addTool<PlaceSpriteTool>();
-    m_tool = m_tools.value(m_mode);
     refreshCursor();
     buildContextMenu();
+    followContent();
 }
 
 MapGrid::~MapGrid() = default;
-
-template <typename Tool>
-void MapGrid::addTool()
-{
-    const auto tool = std::make_shared<Tool>(this);
-    m_tools.insert(tool->mode(), tool);
-}
 
 void MapGrid::buildContextMenu()
 {
@@ -57,153 +42,266 @@ void MapGrid::buildContextMenu()
     m_contextMenu->addAction(tr("Fill"), this, &MapGrid::fillSelection);
 }
 
-// ---- The current tool and what it draws with --------------------------------------------------
+// ---- What is shown ----------------------------------------------------------------------------
+
+void MapGrid::followContent()
+{
+    connect(&m_content, &MapContent::changed, this, &MapGrid::tileMapChanged);
+    connect(&m_content, &MapContent::tilesChanged, this, [this](int count) {
+        m_brush.keepWithin(count);
+        update();
+    });
+    connect(&m_content, &MapContent::layersShown, this, [this] {
+        if (map() && !map()->spriteLayerVisible())
+            pointer().sprite = -1; // nobody sees what would be deleted
+        refreshCursor();
+        update();
+    });
+    connect(&m_content, &MapContent::mapDestroyed, this, [this] {
+        m_rubberBand->hide();
+        relayout();
+    });
+    connect(&m_editing, &MapEditing::changed, this, &MapGrid::tileMapChanged);
+    connect(&m_editing, &MapEditing::selectedSpriteChanged, this, &MapGrid::selectedSpriteChanged);
+    connect(&m_editing, &MapEditing::mapResized, this, [this](QSize size) {
+        emit mapResized(size);
+        relayout();
+    });
+}
+
+void MapGrid::setMap(const QPointer<Map> &map)
+{
+    releaseButtons();
+    setEnabled(false);
+    m_content.setMap(map);
+    m_editing.mapChanged();
+    const bool scrolled = !m_viewport.scroll.isNull();
+    m_viewport.scroll = QPoint();
+    if (map)
+        m_display.gridVisible = map->gridVisible();
+    setEnabled(true);
+    refreshCursor();
+    relayout();
+    if (scrolled)
+        emit scrollPositionChanged(m_viewport.scroll);
+}
+
+void MapGrid::applyPreferences(const Preferences &preferences)
+{
+    m_display.apply(preferences);
+    m_viewport.setBaseSize(preferences.gridSize);
+    m_viewport.setZoom(preferences.defaultZoom);
+    relayout();
+}
+
+QRect MapGrid::spriteRect(int index) const
+{
+    if (!m_content.hasSprite(index))
+        return {};
+    const QRect pixels = PlacedSprites::area(map()->sprites().at(index), spriteBanks());
+    return pixels.isEmpty() ? QRect() : m_viewport.rectOfPixels(pixels);
+}
+
+void MapGrid::paintEvent(QPaintEvent *event)
+{
+    QElapsedTimer timer;
+    timer.start();
+    QPainter painter(this);
+    painter.setClipRegion(event->region());
+    const QRect cells = map() && isEnabled() ? m_viewport.viewRect : QRect();
+    const QRegion margins = QRegion(rect()) - cells;
+    for (const QRect &margin : margins)
+        painter.fillRect(margin, palette().window());
+    if (cells.isEmpty())
+        return;
+
+    const MapPainter content(m_content, m_viewport, m_display);
+    painter.setClipRect(cells, Qt::IntersectClip);
+    painter.setBrushOrigin(cells.topLeft());
+    content.paintContent(painter, event->rect() & cells);
+    if (const QRect sprite = spriteRect(pointer().sprite); !sprite.isEmpty())
+        MapPainter::paintOutline(painter, sprite);
+    m_tools.tool()->paintUnder(painter);
+    if (m_display.gridVisible)
+        content.paintGridLines(painter);
+    if (!pointer().highlight.isEmpty())
+        MapPainter::paintOutline(painter, m_viewport.rectOfCells(pointer().highlight));
+    m_tools.tool()->paintOver(painter);
+
+    painter.setClipRegion(event->region());
+    MapPainter::paintStatus(painter, pointer().cell, timer.elapsed());
+}
+
+// ---- Where it is shown ------------------------------------------------------------------------
+
+void MapGrid::relayout()
+{
+    const QPoint scroll = m_viewport.scroll;
+    m_viewport.layout(size(), m_content.mapSize());
+    const QSize furthest = m_viewport.overflow(m_content.mapSize());
+    emit scrollDeltaChanged(furthest.width(), furthest.height());
+    if (m_viewport.scroll != scroll) {
+        pointer().clearCell();
+        emit scrollPositionChanged(m_viewport.scroll);
+    }
+    update();
+}
+
+void MapGrid::resizeEvent(QResizeEvent *)
+{
+    relayout();
+}
+
+void MapGrid::setViewPort(bool enabled, QSize size)
+{
+    m_viewport.viewportEnabled = enabled;
+    m_viewport.viewportSize = size;
+    relayout();
+}
+
+void MapGrid::setBaseSize(int pixels)
+{
+    m_viewport.setBaseSize(pixels);
+    relayout();
+}
+
+void MapGrid::zoomBy(int steps)
+{
+    if (m_viewport.setZoom(m_viewport.zoomFactor + steps))
+        relayout();
+}
+
+void MapGrid::fitTo(bool doEvent)
+{
+    m_viewport.fit(size(), m_content.mapSize());
+    if (doEvent)
+        relayout();
+}
+
+void MapGrid::scrollBy(QPoint direction)
+{
+    const QPoint before = m_viewport.scroll;
+    if (!m_viewport.scrollBy(direction, m_content.mapSize()))
+        return;
+    const QPoint shift = (before - m_viewport.scroll) * m_viewport.cellSize;
+    pointer().clearCell();
+    pointer().press += shift; // what was pressed moves along
+    if (m_rubberBand->isVisible())
+        m_rubberBand->move(m_rubberBand->pos() + shift);
+    update();
+    emit scrollPositionChanged(m_viewport.scroll);
+}
+
+void MapGrid::setScrollPosition(QPoint position)
+{
+    if (position != m_viewport.scroll)
+        pointer().clearCell();
+    m_viewport.scroll = position;
+    update();
+}
+
+void MapGrid::wheelEvent(QWheelEvent *event)
+{
+    const QPoint delta = event->angleDelta();
+    if (delta.isNull())
+        return; // a touchpad tells that fingers came or went
+    const bool sideways = delta.y() == 0 && delta.x() != 0;
+    if (event->modifiers() & Qt::ControlModifier)
+        zoomBy(delta.y() < 1 ? -1 : 1);
+    else if (event->modifiers() & Qt::ShiftModifier)
+        scrollBy({delta.y() < 1 ? 1 : -1, 0});
+    else if (sideways)
+        scrollBy({delta.x() < 1 ? 1 : -1, 0});
+    else
+        scrollBy({0, delta.y() < 1 ? 1 : -1});
+    event->accept();
+}
+
+// ---- The tools, and what they work with -------------------------------------------------------
 
 void MapGrid::setMode(ToolButton mode)
 {
-    m_savedMode = m_mode;
-    m_mode = mode;
-    m_hoverSprite = -1;
-    m_highlight = QRect();
+    m_tools.setMode(mode);
+    pointer().sprite = -1;
+    pointer().highlight = QRect();
     if (mode != PlaceSprite)
         selectSprite(-1);
-    if (const auto tool = m_tools.value(mode)) {
-        m_tool = tool;
-        if (!tool->activate() && m_savedMode != Paste) {
-            setMode(m_savedMode);
-            return;
-        }
-    } else {
-        qInfo().noquote().nospace() << "MapWidget::setMode(" << QMetaEnum::fromType<ToolButton>().valueToKey(mode)
-                                    << ")";
-        qInfo("Unhandled switch case");
+    if (!m_tools.activate()) {
+        setMode(savedMode());
+        return;
     }
-    if (mode != m_savedMode)
+    if (mode != savedMode())
         emit modeChanged(mode);
     update();
 }
 
+void MapGrid::showCursor(const QCursor &cursor)
+{
+    if (cursor.shape() == Qt::BitmapCursor || cursor.shape() != this->cursor().shape())
+        setCursor(cursor);
+}
+
 void MapGrid::refreshCursor()
 {
-    setCursor(m_tool->isUnavailable() ? QCursor(Qt::ForbiddenCursor) : m_tool->cursor());
+    const MapTool *tool = m_tools.tool();
+    showCursor(tool->isUnavailable() ? QCursor(Qt::ForbiddenCursor) : tool->cursor());
 }
 
 void MapGrid::setCurrentTileIndex(int index)
 {
-    m_currentAnimation.clear();
-    m_currentTile.index = index;
+    m_brush.chooseTile(index);
     update();
 }
 
 void MapGrid::setCurrentTileAnimation(QPointer<TileAnimation> anim)
 {
-    m_currentTile.index = -1;
-    m_currentAnimation = anim;
+    m_brush.chooseAnimation(anim);
     setMode(PlaceAnim);
 }
 
 void MapGrid::setCurrentSpriteAnimation(QPointer<SpriteAnim> anim)
 {
-    if (!anim) {
-        setSpriteTemplate(std::nullopt);
-        return;
-    }
-    const auto *bank = qobject_cast<SpriteBank *>(anim->parent());
-    Map::PlacedSprite sprite;
-    sprite.bank = bank ? bank->id() : QUuid();
-    sprite.animation = anim->id();
-    sprite.sprite = -1;
-    setSpriteTemplate(sprite);
+    m_brush.chooseSpriteAnimation(anim);
+    useSprite();
 }
 
 void MapGrid::setCurrentSprite(QUuid bankId, int index)
 {
-    if (index < 0) {
-        setSpriteTemplate(std::nullopt);
-        return;
-    }
-    Map::PlacedSprite sprite;
-    sprite.bank = bankId;
-    sprite.sprite = index;
-    setSpriteTemplate(sprite);
+    m_brush.chooseSprite(bankId, index);
+    useSprite();
 }
 
-void MapGrid::setSpriteTemplate(const std::optional<Map::PlacedSprite> &sprite)
+void MapGrid::useSprite()
 {
-    m_currentTile.index = -1;
-    m_spriteTemplate = sprite;
-    if (sprite)
+    if (m_brush.sprite)
         setMode(PlaceSprite);
     update();
 }
 
-void MapGrid::setRotated(bool rotated)
-{
-    m_currentTile.rotate = rotated;
-    update();
-}
-
-void MapGrid::setFlipped(bool flipped)
-{
-    m_currentTile.flip = flipped;
-    update();
-}
-
-void MapGrid::setMirrored(bool mirrored)
-{
-    m_currentTile.mirror = mirrored;
-    update();
-}
-
-TileMap::TileData MapGrid::currentTile() const
-{
-    TileMap::TileData cell = m_currentTile;
-    const QPointer<TileSet> tiles = m_map ? m_map->tileSet() : nullptr;
-    cell.offset = tiles ? tiles->tileOffset(cell.index) : 0;
-    cell.used = true;
-    return cell;
-}
-
 void MapGrid::pickTileAt(QPoint point)
 {
-    if (!m_map || !m_map->tileLayer() || !m_viewport.viewRect.contains(point))
+    const QPointer<TileMap> layer = m_content.tileLayer();
+    if (!layer || !m_viewport.viewRect.contains(point))
         return;
     const QPoint cell = m_viewport.cellAt(point);
-    const AnimatedBlocks *placements = m_map->animatedBlocks();
+    const AnimatedBlocks *placements = map()->animatedBlocks();
     const QUuid animation = placements->animationIdAt(placements->areaAt(cell));
-    emit tilePicked(m_map->tileLayer()->cellAt(cell));
+    emit tilePicked(layer->cellAt(cell));
     if (!animation.isNull())
         emit animationPicked(animation);
 }
 
-bool MapGrid::hasHoverCell() const
-{
-    return m_hoverCell.x() >= 0 && m_hoverCell.y() >= 0;
-}
-
-void MapGrid::beginEdit()
-{
-    m_edit.begin(m_map);
-}
-
-void MapGrid::endEdit(const QString &text)
-{
-    m_edit.end(text, m_undoStack);
-}
-
-// ---- Mouse ------------------------------------------------------------------------------------
-
 void MapGrid::mousePressEvent(QMouseEvent *event)
 {
-    m_pressPoint = event->position().toPoint();
-    m_buttons = event->buttons();
-    m_savedMode = m_mode;
-    if (event->button() == Qt::MiddleButton || m_tool->mousePressedFirst(event))
+    pointer().press = event->position().toPoint();
+    pointer().held = event->buttons();
+    m_tools.saveMode();
+    if (event->button() == Qt::MiddleButton || m_tools.tool()->mousePressedFirst(event))
         return;
     if (event->modifiers() & Qt::ShiftModifier) {
         setMode(Select);
         emit modeChanged(Select);
-    } else if (!m_tool->mousePressed(event)) {
+    } else if (!m_tools.tool()->mousePressed(event)) {
         QWidget::mousePressEvent(event);
     }
 }
@@ -213,34 +311,34 @@ void MapGrid::mouseMoveEvent(QMouseEvent *event)
     if (event->spontaneous() && event->buttons() == Qt::NoButton)
         releaseButtons(); // another window took the release
     if (m_viewport.viewRect.contains(event->position().toPoint())) {
-        m_tool->mouseMoved(event);
-    } else if (hasHoverCell()) {
-        clearHoverCell();
+        m_tools.tool()->mouseMoved(event);
+    } else if (pointer().hasCell()) {
+        pointer().clearCell();
         update();
     }
 }
 
 void MapGrid::mouseReleaseEvent(QMouseEvent *event)
 {
-    if (m_buttons & Qt::MiddleButton) {
+    if (pointer().held & Qt::MiddleButton) {
         pickTileAt(event->position().toPoint());
-        setMode(m_savedMode);
+        setMode(savedMode());
     } else {
-        m_tool->mouseReleased(event);
+        m_tools.tool()->mouseReleased(event);
     }
     releaseButtons();
 }
 
 void MapGrid::releaseButtons()
 {
-    m_edit.endAll(tr("Edit"), m_undoStack);
+    m_editing.edit().endAll(tr("Edit"));
     m_rubberBand->hide();
-    m_buttons = Qt::NoButton;
+    pointer().held = Qt::NoButton;
 }
 
 void MapGrid::leaveEvent(QEvent *event)
 {
-    clearHoverCell();
+    pointer().clearCell();
     update();
     QWidget::leaveEvent(event);
 }
@@ -249,6 +347,70 @@ void MapGrid::hideEvent(QHideEvent *event)
 {
     releaseButtons();
     QWidget::hideEvent(event);
+}
+
+// ---- The selection ----------------------------------------------------------------------------
+
+void MapGrid::selectAll()
+{
+    setMode(Select);
+    setSelection(QRect(QPoint(0, 0), m_content.mapSize()));
+}
+
+void MapGrid::selectNone()
+{
+    hideRubberBand();
+    setSelection(QRect());
+}
+
+void MapGrid::showRubberBand(const QRect &area)
+{
+    m_rubberBand->setGeometry(area);
+    m_rubberBand->show();
+}
+
+void MapGrid::hideRubberBand()
+{
+    m_rubberBand->hide();
+}
+
+void MapGrid::showContextMenu(QPoint globalPosition)
+{
+    pointer().held = Qt::NoButton; // the menu takes the release
+    m_contextMenu->popup(globalPosition);
+}
+
+bool MapGrid::copyCells()
+{
+    const QRect cells = selection();
+    if (!map() || !MapClipboard::copy(*map(), cells))
+        return false;
+    setMode(savedMode());
+    m_editing.selectCopied(cells); // choosing a tool cleared it
+    return true;
+}
+
+void MapGrid::cutSelection()
+{
+    beginEdit();
+    if (copyCells()) {
+        clearSelection();
+        selectNone();
+    }
+    endEdit(tr("Cut"));
+}
+
+void MapGrid::mapFromSelection()
+{
+    const QSize size = selection().size();
+    if (copyCells())
+        emit createMapFromSelection(map()->id(), size);
+}
+
+void MapGrid::copyAsImage()
+{
+    if (map())
+        static_cast<void>(MapClipboard::copyPicture(*map(), selection(), m_display.transparencyIndex));
 }
 
 } // namespace MapEditor

@@ -1,6 +1,10 @@
 #include "editors/map/maptool.h"
 
+#include "editors/map/mappainter.h"
+
 namespace MapEditor {
+
+MapSurface::~MapSurface() = default;
 
 MapTool::~MapTool() = default;
 
@@ -27,6 +31,12 @@ bool MapTool::mousePressed(QMouseEvent *)
 void MapTool::mouseMoved(QMouseEvent *) { }
 
 void MapTool::mouseReleased(QMouseEvent *) { }
+
+void MapTool::paintSelection(QPainter &painter) const
+{
+    if (const QRect cells = surface()->selection(); !cells.isEmpty())
+        MapPainter::paintOutline(painter, viewport().rectOfCells(cells));
+}
 
 void MapTool::paintUnder(QPainter &) const { }
 

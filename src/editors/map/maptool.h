@@ -1,7 +1,12 @@
 #pragma once
 
+#include "editors/map/mapbrush.h"
+#include "editors/map/mappointer.h"
+#include "editors/map/mapsurface.h"
+#include "editors/map/mapviewport.h"
 #include "ui/enums.h"
 
+#include <QCoreApplication>
 #include <QCursor>
 #include <QtGlobal>
 
@@ -10,16 +15,16 @@ class QPainter;
 
 namespace MapEditor {
 
-class MapGrid;
-
-/// What happens on a map grid between a press of the mouse and its release.
+/// What happens on a map between a press of the mouse and its release.
 ///
-/// Tools are made once by their grid, which outlives them and holds what they share. They may be called
-/// when the grid shows no map.
+/// Tools are made once for a surface, which outlives them and holds what they share. They may be called
+/// when it shows no map.
 class MapTool
 {
+    Q_DECLARE_TR_FUNCTIONS(MapEditor::MapTool)
+
 public:
-    explicit MapTool(MapGrid *grid) : m_grid(grid) { }
+    explicit MapTool(MapSurface *surface) : m_surface(surface) { }
     virtual ~MapTool();
 
     virtual Quenmora::Ui::ToolButton mode() const = 0;
@@ -29,7 +34,7 @@ public:
     /// Whether the layer that the tool edits is hidden.
     virtual bool isUnavailable() const;
 
-    /// A press before the grid looks at the modifiers; true consumes it.
+    /// A press before the modifiers are looked at; true consumes it.
     virtual bool mousePressedFirst(QMouseEvent *event);
     /// A press; true consumes it.
     virtual bool mousePressed(QMouseEvent *event);
@@ -43,12 +48,17 @@ public:
     virtual void paintOver(QPainter &painter) const;
 
 protected:
-    MapGrid *grid() const { return m_grid; }
+    MapSurface *surface() const { return m_surface; }
+    QPointer<Map> map() const { return m_surface->map(); }
+    const MapViewport &viewport() const { return m_surface->viewport(); }
+    const MapBrush &brush() const { return m_surface->brush(); }
+    MapPointer &pointer() const { return m_surface->pointer(); }
+    void paintSelection(QPainter &painter) const;
 
 private:
     Q_DISABLE_COPY_MOVE(MapTool)
 
-    MapGrid *const m_grid;
+    MapSurface *const m_surface;
 };
 
 } // namespace MapEditor

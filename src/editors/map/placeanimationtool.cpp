@@ -1,34 +1,31 @@
 #include "editors/map/placeanimationtool.h"
 
-#include "editors/map/mapgrid.h"
-
 #include <QPainter>
 
 namespace MapEditor {
 
 bool PlaceAnimationTool::activate()
 {
-    grid()->refreshCursor();
+    surface()->refreshCursor();
     return true;
 }
 
 bool PlaceAnimationTool::isUnavailable() const
 {
-    const QPointer<Map> map = grid()->map();
-    return map && map->objectLayer() && !map->objectLayer()->isVisible();
+    return map() && map()->objectLayer() && !map()->objectLayer()->isVisible();
 }
 
 void PlaceAnimationTool::mouseReleased(QMouseEvent *)
 {
-    grid()->endEdit(MapGrid::tr("Place Animation"));
+    surface()->endEdit(tr("Place Animation"));
 }
 
 void PlaceAnimationTool::paintOver(QPainter &painter) const
 {
-    const QPointer<TileAnimation> animation = grid()->currentAnimation();
-    if (!animation || !grid()->hasHoverCell() || !grid()->highlight().isEmpty())
+    const QPointer<TileAnimation> animation = brush().animation;
+    if (!animation || !pointer().hasCell() || !pointer().highlight.isEmpty())
         return;
-    const QRect area = grid()->viewport().rectOfCells({grid()->hoverCell(), animation->size()});
+    const QRect area = viewport().rectOfCells({pointer().cell, animation->size()});
     painter.drawImage(area, animation->frameImage(animation->size() * TileMap::TileSize));
 }
 

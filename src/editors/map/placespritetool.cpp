@@ -1,6 +1,5 @@
 #include "editors/map/placespritetool.h"
 
-#include "editors/map/mapgrid.h"
 #include "model/placedsprites.h"
 
 #include <QApplication>
@@ -12,101 +11,96 @@ namespace MapEditor {
 bool PlaceSpriteTool::activate()
 {
     m_grabbed = -1;
-    grid()->refreshCursor();
+    surface()->refreshCursor();
     return true;
 }
 
 bool PlaceSpriteTool::isUnavailable() const
 {
-    return grid()->map() && !grid()->map()->spriteLayerVisible();
+    return map() && !map()->spriteLayerVisible();
 }
 
 int PlaceSpriteTool::spriteAt(QPoint pixel) const
 {
     if (isUnavailable()) // nobody sees where they are
         return -1;
-    return PlacedSprites::indexAt(pixel, grid()->map()->sprites(), grid()->spriteBanks());
+    return PlacedSprites::indexAt(pixel, map()->sprites(), surface()->spriteBanks());
 }
 
 bool PlaceSpriteTool::mousePressed(QMouseEvent *event)
 {
-    const QPointer<Map> map = grid()->map();
-    if (!map || !map->spriteLayerVisible() || !(event->buttons() & Qt::LeftButton) || isDragging())
+    if (!map() || !map()->spriteLayerVisible() || !(event->buttons() & Qt::LeftButton) || isDragging())
         return false;
-    const QPoint pixel = grid()->viewport().pixelAt(event->position().toPoint());
+    const QPoint pixel = viewport().pixelAt(event->position().toPoint());
     if (const int index = spriteAt(pixel); index >= 0)
         grab(index, pixel);
-    else if (grid()->spriteTemplate())
-        placeAt(grid()->viewport().snappedPixel(pixel));
+    else if (brush().sprite)
+        placeAt(viewport().snappedPixel(pixel));
     else
-        grid()->selectSprite(-1);
-    grid()->update();
+        surface()->selectSprite(-1);
+    surface()->repaintSoon();
     return true;
 }
 
 void PlaceSpriteTool::grab(int index, QPoint pixel)
 {
     m_grabbed = index;
-    m_sprite = grid()->map()->sprites().at(index);
+    m_sprite = map()->sprites().at(index);
     m_grabOffset = pixel - QPoint(m_sprite.x, m_sprite.y);
     m_pulled = m_moved = false;
-    grid()->setHoverSprite(index);
-    grid()->selectSprite(index);
-    grid()->beginEdit();
+    pointer().sprite = index;
+    surface()->selectSprite(index);
+    surface()->beginEdit();
 }
 
 void PlaceSpriteTool::placeAt(QPoint pixel)
 {
-    const QPointer<Map> map = grid()->map();
-    if (!QRect(QPoint(0, 0), map->size() * TileMap::TileSize).contains(pixel))
+    if (!QRect(QPoint(0, 0), map()->size() * TileMap::TileSize).contains(pixel))
         return;
-    Map::PlacedSprite sprite = *grid()->spriteTemplate();
+    Map::PlacedSprite sprite = *brush().sprite;
     sprite.x = pixel.x();
     sprite.y = pixel.y();
-    grid()->beginEdit();
-    const int index = map->addSprite(sprite);
-    grid()->setHoverSprite(index);
-    grid()->endEdit(MapGrid::tr("Place Sprite"));
-    grid()->selectSprite(index);
+    surface()->beginEdit();
+    const int index = map()->addSprite(sprite);
+    pointer().sprite = index;
+    surface()->endEdit(tr("Place Sprite"));
+    surface()->selectSprite(index);
 }
 
 bool PlaceSpriteTool::isDragging() const
 {
-    const QPointer<Map> map = grid()->map();
-    return map && m_grabbed >= 0 && m_grabbed < map->sprites().size() && map->sprites().at(m_grabbed) == m_sprite
-        && grid()->heldButtons() & Qt::LeftButton;
+    return map() && m_grabbed >= 0 && m_grabbed < map()->sprites().size() && map()->sprites().at(m_grabbed) == m_sprite
+        && pointer().held & Qt::LeftButton;
 }
 
 void PlaceSpriteTool::mouseMoved(QMouseEvent *event)
 {
-    if (!grid()->map())
+    if (!map())
         return;
-    const MapViewport &viewport = grid()->viewport();
     const QPoint point = event->position().toPoint();
-    m_previewPixel = viewport.snappedPixel(viewport.pixelAt(point));
-    grid()->setHoverCell(viewport.cellAt(point));
+    m_previewPixel = viewport().snappedPixel(viewport().pixelAt(point));
+    pointer().cell = viewport().cellAt(point);
     if (isDragging())
         drag(event);
     else
-        grid()->setHoverSprite(spriteAt(viewport.pixelAt(point)));
-    grid()->update();
+        pointer().sprite = spriteAt(viewport().pixelAt(point));
+    surface()->repaintSoon();
 }
 
 void PlaceSpriteTool::drag(QMouseEvent *event)
 {
-    const MapViewport &viewport = grid()->viewport();
     const QPoint point = event->position().toPoint();
-    if ((point - grid()->pressPoint()).manhattanLength() >= QApplication::startDragDistance())
+    if ((point - pointer().press).manhattanLength() >= QApplication::startDragDistance())
         m_pulled = true;
     if (!m_pulled)
         return;
-    const QPoint position = viewport.snappedPixel(viewport.pixelAt(point) - m_grabOffset);
+    const QPoint position = viewport().snappedPixel(viewport().pixelAt(point) - m_grabOffset);
     if (position == QPoint(m_sprite.x, m_sprite.y))
         return;
     m_sprite.x = position.x();
     m_sprite.y = position.y();
     m_moved = true;
-    grid()->map()->setSprite(m_grabbed, m_sprite);
+    map()->setSprite(m_grabbed, m_sprite);
 }
 
 void PlaceSpriteTool::mouseReleased(QMouseEvent *)
@@ -115,22 +109,21 @@ void PlaceSpriteTool::mouseReleased(QMouseEvent *)
         return;
     const bool clicked = isDragging() && !m_moved;
     const int index = std::exchange(m_grabbed, -1);
-    grid()->endEdit(MapGrid::tr("Move Sprite"));
+    surface()->endEdit(tr("Move Sprite"));
     if (clicked)
-        emit grid()->spriteClicked(index);
+        surface()->clickSprite(index);
 }
 
 void PlaceSpriteTool::paintOver(QPainter &painter) const
 {
-    const auto &chosen = grid()->spriteTemplate();
-    if (!chosen || m_grabbed >= 0 || grid()->hoverSprite() >= 0 || !grid()->hasHoverCell())
+    const auto &chosen = brush().sprite;
+    if (!chosen || m_grabbed >= 0 || pointer().sprite >= 0 || !pointer().hasCell())
         return;
     Map::PlacedSprite sprite = *chosen;
     sprite.x = m_previewPixel.x();
     sprite.y = m_previewPixel.y();
-    const MapViewport &viewport = grid()->viewport();
-    PlacedSprites::paint(painter, viewport.viewRect.topLeft(), viewport.visibleCells(), viewport.cellSize, {sprite},
-                         grid()->spriteBanks(), grid()->spriteTicks());
+    PlacedSprites::paint(painter, viewport().viewRect.topLeft(), viewport().visibleCells(), viewport().cellSize,
+                         {sprite}, surface()->spriteBanks(), surface()->spriteTicks());
 }
 
 } // namespace MapEditor

@@ -1,45 +1,42 @@
 #include "editors/map/selecttool.h"
 
-#include "editors/map/mapgrid.h"
-
 #include <QMouseEvent>
 
 namespace MapEditor {
 
 bool SelectTool::activate()
 {
-    grid()->setPasteArea({});
-    grid()->setSelection({});
-    grid()->setCursor(Qt::CrossCursor);
+    surface()->setPasteArea({});
+    surface()->setSelection({});
+    surface()->showCursor(Qt::CrossCursor);
     return true;
 }
 
 bool SelectTool::mousePressedFirst(QMouseEvent *event)
 {
-    if (event->button() != Qt::RightButton || grid()->selection().isEmpty())
+    if (event->button() != Qt::RightButton || surface()->selection().isEmpty())
         return false;
-    grid()->showContextMenu(event->globalPosition().toPoint());
+    surface()->showContextMenu(event->globalPosition().toPoint());
     return true;
 }
 
 void SelectTool::mouseMoved(QMouseEvent *event)
 {
     const QPoint point = event->position().toPoint();
-    const MapViewport &viewport = grid()->viewport();
-    if (const QPoint cell = viewport.cellAt(point); cell != grid()->hoverCell()) {
-        grid()->setHoverCell(cell);
-        grid()->update();
+    if (const QPoint cell = viewport().cellAt(point); cell != pointer().cell) {
+        pointer().cell = cell;
+        surface()->repaintSoon();
     }
-    if (!(grid()->heldButtons() & Qt::LeftButton))
+    if (!(pointer().held & Qt::LeftButton))
         return;
-    const QRect band = QRect(grid()->pressPoint(), point).normalized();
-    grid()->showRubberBand(band);
-    grid()->setSelection(viewport.cellsUnder(band));
+    const QRect band = QRect(pointer().press, point).normalized();
+    surface()->showRubberBand(band);
+    surface()->setSelection(viewport().cellsUnder(band));
 }
 
 void SelectTool::paintUnder(QPainter &painter) const
 {
-    grid()->paintSelection(painter);
+    paintSelection(painter);
 }
 
 } // namespace MapEditor

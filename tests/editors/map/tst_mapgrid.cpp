@@ -98,7 +98,7 @@ private slots:
             QCOMPARE(f.grid.viewport().scroll, scroll);
             QCOMPARE(f.grid.viewport().zoomFactor, zoom);
             QCOMPARE(positions.size(), scroll != before);
-            QCOMPARE(f.grid.hasHoverCell(), scroll == before);
+            QCOMPARE(f.grid.pointer().hasCell(), scroll == before);
             positions.clear();
             before = scroll;
         }
@@ -139,7 +139,7 @@ private slots:
         QVERIFY(!contextMenu->isVisible()); // nothing is selected
         f.drag({f.at(1, 1), f.at(2, 1)});
         f.press(f.at(1, 1), Qt::RightButton);
-        QVERIFY(contextMenu->isVisible() && f.grid.heldButtons() == Qt::NoButton);
+        QVERIFY(contextMenu->isVisible() && f.grid.pointer().held == Qt::NoButton);
         contextMenu->hide();
         QHash<QString, QAction *> menu;
         for (QAction *action : contextMenu->actions())

@@ -98,9 +98,9 @@ private slots:
         QCOMPARE(f.object(5, 4), (TileData{5, false, false, false, 0, true}));
 
         f.move(f.at(15, 10));
-        QVERIFY(f.grid.highlight().isEmpty() && !f.grid.removeAnimation());
+        QVERIFY(f.grid.pointer().highlight.isEmpty() && !f.grid.removeAnimation());
         f.move(f.at(5, 4));
-        QCOMPARE(f.grid.highlight(), QRect(3, 3, 3, 2));
+        QCOMPARE(f.grid.pointer().highlight, QRect(3, 3, 3, 2));
         f.drag({f.at(5, 4), f.at(12, 4)}); // what is there already is not placed again
         QVERIFY(f.grid.removeAnimation() && f.map->animatedBlocks()->list().isEmpty());
         QCOMPARE(f.steps(), "Place Animation|Remove Animation");

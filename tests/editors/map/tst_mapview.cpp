@@ -79,8 +79,8 @@ private slots:
         f.map->setTile({0, 0}, {.index = 5, .used = true});
         f.map->placeAnimation(f.animation, {0, 2});
         f.grid->setSelection({0, 0, 1, 1});
-        f.grid->setHoverSprite(0);
-        f.grid->setHighlight({0, 2, 3, 2});
+        f.grid->pointer().sprite = 0;
+        f.grid->pointer().highlight = {0, 2, 3, 2};
         for (const auto &[key, step] : {std::pair(Qt::Key_Delete, "Delete Sprite"),
                                         {Qt::Key_Backspace, "Remove Animation"},
                                         {Qt::Key_Delete, "Clear"}}) {

@@ -1,0 +1,60 @@
+#include "editors/map/mapclipboard.h"
+
+#include "model/map.h"
+#include "model/tileset.h"
+
+#include <QClipboard>
+#include <QDebug>
+#include <QGuiApplication>
+#include <QMimeData>
+
+namespace MapClipboard {
+
+namespace {
+
+/// The most cells that are copied at once, as cells or as a picture: what 1 GiB holds of pixels.
+constexpr qint64 MaxCells = (qint64(1) << 30) / (TileMap::TileSize * TileMap::TileSize);
+
+bool canBeCopied(const Map &map, QSize cells)
+{
+    if (!map.tileLayer() || cells.isEmpty())
+        return false;
+    if (qint64(cells.width()) * cells.height() <= MaxCells)
+        return true;
+    qWarning("The selection is too large for the clipboard");
+    return false;
+}
+
+} // namespace
+
+bool copy(const Map &map, const QRect &cells)
+{
+    if (!canBeCopied(map, cells.size()))
+        return false;
+    QGuiApplication::clipboard()->setMimeData(map.tileLayer()->toMimeData(cells)); // the clipboard owns it
+    return true;
+}
+
+bool copyPicture(const Map &map, const QRect &cells, int transparencyIndex)
+{
+    if (!canBeCopied(map, cells.size()))
+        return false;
+    QImage image = map.tileLayer()->render(cells, 1, transparencyIndex);
+    if (image.isNull())
+        return false;
+    const QPointer<TileSet> tiles = map.tileSet();
+    image.setText(QStringLiteral("paletteid"), (tiles ? tiles->paletteId() : QUuid()).toString());
+    QGuiApplication::clipboard()->setImage(image);
+    return true;
+}
+
+QSize sizeFor(const Map *map)
+{
+    if (!map)
+        return {};
+    const TileMap::Selection selection = TileMap::readSelection(QGuiApplication::clipboard()->mimeData());
+    const QUuid tiles = map->tileSet() ? map->tileSet()->id() : QUuid();
+    return selection.tileSetId == tiles ? selection.size : QSize();
+}
+
+} // namespace MapClipboard

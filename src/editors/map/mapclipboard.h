@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QRect>
+#include <QSize>
+
+class Map;
+
+/// The clipboard, as far as it holds cells of a map's tile layer.
+namespace MapClipboard {
+
+// False, and nothing is copied, without cells or with more than the clipboard should hold.
+[[nodiscard]] bool copy(const Map &map, const QRect &cells);
+/// One pixel a pixel, and which palette it is drawn with; pixels of the transparency index are transparent.
+[[nodiscard]] bool copyPicture(const Map &map, const QRect &cells, int transparencyIndex);
+
+/// The size of what the clipboard holds for a map; empty when that is nothing, damaged, or made of other tiles.
+[[nodiscard]] QSize sizeFor(const Map *map);
+
+} // namespace MapClipboard
