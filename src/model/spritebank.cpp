@@ -40,6 +40,14 @@ void SpriteBank::updateColour(int, QColor, bool)
     emit coloursChanged();
 }
 
+void SpriteBank::changeTransparency(int transparency)
+{
+    if (transparency == m_transparency)
+        return;
+    m_transparency = transparency;
+    emit coloursChanged();
+}
+
 /// Gives the strip the palette's colours, or black for those that it lacks without one: painting a picture
 /// with an index that has no colour reads past its table. It stays shared with snapshots when nothing changes.
 void SpriteBank::applyColours()
@@ -97,10 +105,9 @@ QImage SpriteBank::renderSprite(int index, int paletteOffset, bool rotate, bool 
     if (!contains(index))
         return {};
     const QList<QRgb> colours = m_image.colorTable();
-    const bool fourBit = m_depth == Quenmora::FourBit;
-    const int bank = fourBit ? (paletteOffset & 15) << 4 : 0;
-    const int mask = fourBit ? 15 : 255;
-    const int transparent = fourBit ? m_transparency & mask : m_transparency;
+    const int bank = m_depth == Quenmora::FourBit ? (paletteOffset & 15) << 4 : 0;
+    const int mask = clearPixels().pixelCount() - 1;
+    const int transparent = clearPixels().pixel();
 
     QImage sprite(SpriteSize, SpriteSize, QImage::Format_ARGB32);
     for (int y = 0; y < SpriteSize; ++y) {

@@ -4,6 +4,7 @@
 #include "model/assetregistry.h"
 #include "model/enums.h"
 #include "model/palette.h"
+#include "model/spritetransparency.h"
 
 #include <QByteArray>
 #include <QHash>
@@ -53,6 +54,9 @@ public:
     /// The pixel value that is not drawn; a 4-bit bank compares its low four bits only.
     [[nodiscard]] int transparency() const { return m_transparency; }
     void setTransparency(int transparency) { m_transparency = transparency; }
+    /// The same, announced by coloursChanged() when it is another one.
+    void changeTransparency(int transparency);
+    [[nodiscard]] SpriteTransparency clearPixels() const { return {m_depth, m_transparency}; }
 
     /// Bytes that are kept and saved with the bank; the bank itself does not read them.
     [[nodiscard]] QByteArray offsets() const { return m_offsets; }
@@ -125,7 +129,8 @@ signals:
     void structureChanged(const QString &text);
     void animationsChanged();
     void restored();
-    /// The sprites have other colours: another palette was bound, or an entry of the bound one changed.
+    /// The sprites look different though their pixels stay: another palette was bound, an entry of the bound one
+    /// changed, or another index became the transparent one.
     void coloursChanged();
 
 public slots:
@@ -146,7 +151,7 @@ private:
     void resize(int count);
     void writePixels(int index, const uchar *pixels);
 
-    int m_transparency = 0xE3;
+    int m_transparency = SpriteTransparency::DefaultIndex;
     QUuid m_id = QUuid::createUuid();
     QString m_name;
     Quenmora::Sprite m_depth;

@@ -6,10 +6,15 @@
 #include "editors/palette/colourpalette.h"
 #include "ui/sectionheader.h"
 #include "ui/toolpalette.h"
+#include "undo/snapshotcommand.h"
 
+#include <QFormLayout>
 #include <QScopedValueRollback>
 #include <QScrollArea>
+#include <QSignalBlocker>
+#include <QSpinBox>
 #include <QSplitter>
+#include <QUndoStack>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -21,12 +26,16 @@ namespace {
 constexpr QSize SpriteSize(SpriteBank::SpriteSize, SpriteBank::SpriteSize);
 constexpr int BankSize = 16;
 
+constexpr int TransparencyCommandId = 1004;
+constexpr qint64 TransparencyMergeInterval = 400; // milliseconds: the steps of an arrow that is held are one
+
 } // namespace
 
 SpriteWindow::SpriteWindow(QWidget *parent)
     : DockWidget(tr("Sprite Editor"), tr("No sprites selected"), parent)
     , PixelEditor(SpriteSize, Qt::Horizontal, {RotateCW, RotateCCW})
     , m_colours(new ColourPalette)
+    , m_transparency(new QSpinBox)
     , m_header(new SectionHeader(QString()))
     , m_list(new SpriteEditor::SpriteList)
 {
@@ -46,6 +55,11 @@ void SpriteWindow::buildPage()
     editorLayout->addWidget(tools());
     editorLayout->addWidget(new ScrollCanvas(canvas()), 1);
     editorLayout->addWidget(m_colours);
+    m_transparency->setKeyboardTracking(false); // a number is one edit, not one for each digit
+    m_transparency->setToolTip(tr("Pixels of this index are not drawn on the Next, whatever their colour"));
+    auto *form = new QFormLayout;
+    form->addRow(tr("Transparent index"), m_transparency);
+    editorLayout->addLayout(form);
 
     auto *scroller = new QScrollArea;
     scroller->setFocusPolicy(Qt::NoFocus); // what is in it has the keyboard
@@ -70,6 +84,7 @@ void SpriteWindow::connectParts()
     connect(canvas(), &Canvas::backgroundPicked, m_colours, &ColourPalette::setSecondaryIndex);
     connect(m_colours, &ColourPalette::primaryIndexChanged, canvas(), &Canvas::setInk);
     connect(m_colours, &ColourPalette::secondaryIndexChanged, canvas(), &Canvas::setPaper);
+    connect(m_transparency, &QSpinBox::valueChanged, this, &SpriteWindow::changeTransparency);
     connectCanvas(content());
 
     using SpriteEditor::SpriteList;
@@ -113,6 +128,7 @@ void SpriteWindow::setSprites(const QPointer<SpriteBank> &sprites)
         });
         connect(m_sprites, &SpriteBank::countChanged, this, &SpriteWindow::refresh);
         connect(m_sprites, &SpriteBank::restored, this, &SpriteWindow::refresh);
+        connect(m_sprites, &SpriteBank::coloursChanged, this, &SpriteWindow::showTransparency);
         connect(m_sprites, &QObject::destroyed, this, [this] { setSprites(nullptr); });
     }
     refresh();
@@ -135,6 +151,7 @@ void SpriteWindow::refresh()
         return;
     m_index = std::clamp(m_index, 0, m_sprites->count() - 1);
     m_list->setSelectedIndex(m_index);
+    showTransparency();
     loadSprite();
 }
 
@@ -147,6 +164,17 @@ void SpriteWindow::changeSprite(int index)
 void SpriteWindow::loadSprite()
 {
     load(m_sprites->spriteImage(m_index, false, false, false));
+}
+
+void SpriteWindow::showTransparency()
+{
+    const SpriteTransparency clear = m_sprites->clearPixels();
+    // a damaged project may have a bank all of whose pixels are drawn; a person cannot ask for it
+    const bool none = clear.pixel() < 0;
+    const QSignalBlocker blocker(m_transparency);
+    m_transparency->setSpecialValueText(none ? tr("None") : QString());
+    m_transparency->setRange(none ? -1 : 0, clear.pixelCount() - 1);
+    m_transparency->setValue(clear.pixel());
 }
 
 // ---- Edits ----------------------------------------------------------------------------------
@@ -167,6 +195,23 @@ void SpriteWindow::editStructure(const QString &text, const std::function<void(S
     edit(*m_sprites);
     emit m_sprites->structureChanged(text);
     refresh();
+}
+
+void SpriteWindow::changeTransparency(int pixel)
+{
+    if (!m_sprites || pixel < 0 || pixel == m_sprites->clearPixels().pixel())
+        return;
+    const int before = m_sprites->transparency();
+    m_sprites->changeTransparency(pixel);
+    QUndoStack *stack = m_stackFor ? m_stackFor(m_sprites->id()) : nullptr;
+    if (!stack)
+        return;
+    const auto restore = [bank = m_sprites](int index) {
+        if (bank)
+            bank->changeTransparency(index);
+    };
+    stack->push(new SnapshotCommand<int>(tr("Transparent Index"), before, pixel, restore, TransparencyCommandId,
+                                         m_sprites->id(), TransparencyMergeInterval));
 }
 
 void SpriteWindow::pushEdit(const QString &text, const QImage &before, const QImage &after, PixelEditCommand::Kind kind)

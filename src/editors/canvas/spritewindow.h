@@ -6,6 +6,7 @@
 #include "undo/editrecorder.h"
 
 class ColourPalette;
+class QSpinBox;
 class SectionHeader;
 
 namespace SpriteEditor {
@@ -45,6 +46,9 @@ private:
     void buildPage();
     void connectParts();
     void loadSprite();
+    void showTransparency();
+    /// Makes a pixel value the one that is not drawn, as one undo step.
+    void changeTransparency(int pixel);
     /// Runs a change of the bank's structure as one undo step.
     void editStructure(const QString &text, const std::function<void(SpriteBank &)> &edit);
     void pushEdit(const QString &text, const QImage &before, const QImage &after, PixelEditCommand::Kind kind);
@@ -52,6 +56,7 @@ private:
 
     QPointer<SpriteBank> m_sprites;
     ColourPalette *m_colours;
+    QSpinBox *m_transparency;
     SectionHeader *m_header;
     SpriteEditor::SpriteList *m_list;
     int m_index = 0;

@@ -391,6 +391,46 @@ private slots:
         }
     }
 
+    void spriteBanksHaveATransparentIndex()
+    {
+        const struct
+        {
+            Quenmora::Sprite depth;
+            int before;
+            QString shown;
+            int chosen;
+            QList<int> clear; // of the pixels 3, 5 and 21
+        } cases[] = {
+            {Quenmora::EightBit, 5, "5", 21, {21}},
+            {Quenmora::EightBit, -1, "None", 5, {5}}, // as a damaged project may have it
+            {Quenmora::FourBit, 227, "3", 5, {5, 21}},
+        };
+        for (const auto &[depth, before, shown, chosen, clear] : cases) {
+            SpriteScene scene;
+            scene.bank = std::make_unique<SpriteBank>(depth);
+            scene.bank->setPalette(&scene.palette);
+            scene.bank->setTransparency(before);
+            scene.window.setSprites(scene.bank.get());
+            auto *index = scene.window.findChild<QSpinBox *>();
+            QCOMPARE(index->text(), shown);
+            QSignalSpy repainted(scene.bank.get(), &SpriteBank::coloursChanged); // what maps paint anew for
+            index->setValue(chosen);
+            for (const int pixel : {3, 5, 21}) {
+                scene.bank->setImage(0, plainImage({16, 16}, pixel));
+                const int alpha = qAlpha(scene.bank->renderSprite(0, 0, false, false, false).pixel(0, 0));
+                QCOMPARE(alpha == 0, clear.contains(pixel));
+            }
+            QCOMPARE(scene.stack.count(), 1);
+            scene.stack.undo();
+            QCOMPARE(scene.bank->transparency(), before);
+            QCOMPARE(index->text(), shown);
+            scene.stack.redo();
+            QCOMPARE(scene.bank->transparency(), chosen);
+            QCOMPARE(repainted.size(), 3);
+            scene.window.setSprites(nullptr);
+        }
+    }
+
     void spriteImagesAreCopiedAndPasted()
     {
         SpriteScene scene;
