@@ -25,6 +25,20 @@ void BM_Create(benchmark::State &state)
 }
 BENCHMARK(BM_Create)->Arg(40)->Arg(9999)->Unit(benchmark::kMillisecond);
 
+/// What reading a project does for many small placements of a large animation.
+void BM_Restamp(benchmark::State &state)
+{
+    Level level({1000, 1000});
+    TileAnimation &animation = *level.blocks().createBoundTileAnimation(QStringLiteral("Large"));
+    animation.setSize({250, 250});
+    animation.addFrame();
+    for (int i = 0; i < 5000; ++i)
+        level.map.animatedBlocks()->add(QRect(i % 100 * 5, i / 100 * 5, 1, 1), animation.id());
+    for (auto _ : state)
+        level.map.restampAnimations({&level.blocks()});
+}
+BENCHMARK(BM_Restamp)->Unit(benchmark::kMillisecond);
+
 /// Strokes of a pen: each cell next to the one before, over all of the map.
 void BM_SetCell(benchmark::State &state)
 {

@@ -86,7 +86,7 @@ public:
     void showFrame(int frame)
     {
         for (const QPointer<AnimationProperties> &placement : map.animatedBlocks()->list())
-            map.stampFrame(*m_animation, frame % m_animation->frameCount(), placement->area().topLeft());
+            map.stampFrame(*m_animation, frame % m_animation->frameCount(), placement->area());
     }
 
     /// Places animations of 2 × 2 sprites and 4 frames all over the area: at 8 screen pixels a cell, about twice as
@@ -115,6 +115,7 @@ public:
     }
 
     Map map;
+    [[nodiscard]] MapObjects &blocks() { return m_blocks; }
     [[nodiscard]] SpriteBank *bank() { return &m_bank; }
 
 private:

@@ -202,7 +202,7 @@ void Map::placeAnimation(const Animation *animation, QPoint topLeft)
     const QRect area(topLeft, animation->size());
     if (m_tileLayer)
         m_tileLayer->fill(area, 0, false, false, false, true);
-    stampFrame(*animation, 0, topLeft);
+    stampFrame(*animation, 0, area);
     m_animatedBlocks->add(area, animation->id());
 }
 
@@ -222,21 +222,20 @@ bool Map::removeAnimationAt(const QRect &area)
     return true;
 }
 
-bool Map::stampFrame(const Animation &animation, int frame, QPoint topLeft)
+bool Map::stampFrame(const Animation &animation, int frame, const QRect &area)
 {
     if (!m_objectLayer || frame < 0 || frame >= animation.frameCount())
         return false;
-    // a damaged project may place it anywhere, even where reckoning with positions would overflow
-    constexpr int reach = Animation::MaximumSide;
-    if (!m_objectLayer->bounds().adjusted(-reach, -reach, 0, 0).contains(topLeft))
-        return false;
-    bool changed = false;
     const AnimationFrame::Cells &rows = animation.frame(frame)->cells();
-    for (int y = 0; y < rows.size(); ++y) {
-        for (int x = 0; x < rows[y].size(); ++x) {
-            const AnimationFrame::Cell &cell = rows[y][x];
-            changed |= m_objectLayer->setCell(topLeft + QPoint(x, y),
-                                              {cell.index, cell.rotate, cell.flip, cell.mirror, cell.offset, true});
+    // a damaged project may place it anywhere
+    const QRect inside = area & m_objectLayer->bounds();
+    bool changed = false;
+    for (int y = inside.top(); y <= inside.bottom() && y - area.top() < rows.size(); ++y) {
+        const QList<AnimationFrame::Cell> &row = rows[y - area.top()];
+        for (int x = inside.left(); x <= inside.right() && x - area.left() < row.size(); ++x) {
+            const AnimationFrame::Cell &cell = row[x - area.left()];
+            changed |=
+                m_objectLayer->setCell({x, y}, {cell.index, cell.rotate, cell.flip, cell.mirror, cell.offset, true});
         }
     }
     return changed;
@@ -253,7 +252,7 @@ void Map::restampAnimations(const QList<QPointer<MapObjects>> &blockSets)
             const QPointer<TileAnimation> animation = blocks ? blocks->animation(placement->animationId()) : nullptr;
             if (!animation)
                 continue;
-            stampFrame(*animation, 0, placement->area().topLeft());
+            stampFrame(*animation, 0, placement->area());
             break;
         }
     }

@@ -122,9 +122,9 @@ public:
     void placeAnimation(const Animation *animation, QPoint topLeft);
     /// Removes the placement with exactly this area and clears the area; false when there is none.
     bool removeAnimationAt(const QRect &area);
-    /// Writes the cells of a frame into the object layer; a frame that the animation does not have is ignored.
-    /// Whether a cell is another one now.
-    bool stampFrame(const Animation &animation, int frame, QPoint topLeft);
+    /// Writes what lies in a placement's area of a frame into the object layer, which shows nothing of it elsewhere; a
+    /// frame that the animation does not have is ignored. Whether a cell is another one now.
+    bool stampFrame(const Animation &animation, int frame, const QRect &area);
     /// Shows the first frame of every placement again, after a project was read.
     void restampAnimations(const QList<QPointer<MapObjects>> &blockSets);
 

@@ -139,9 +139,9 @@ private slots:
         QVERIFY(level.areas().size() == 2 && map.animatedBlocks()->animationIdAt(area) == level.animation.id());
         QVERIFY(level.tiles.cellAt({5, 3}) == Cleared && level.tiles.cellAt({6, 3}) == tile(9));
         QVERIFY(level.objects.cellAt({4, 3}) == frameCell(3) && level.objects.cellAt({5, 3}) == frameCell(4));
-        QVERIFY(map.stampFrame(level.animation, 1, {4, 3}));
+        QVERIFY(map.stampFrame(level.animation, 1, area));
         for (const int same : {1, 2, -1}) // the frame that it shows already, and two that are not there
-            QVERIFY(!map.stampFrame(level.animation, same, {4, 3}));
+            QVERIFY(!map.stampFrame(level.animation, same, area));
         QCOMPARE(level.objects.cellAt({5, 3}), frameCell(6));
         QVERIFY(!map.removeAnimationAt(QRect(4, 3, 1, 1)) && map.removeAnimationAt(area) && level.areas().size() == 1);
         QVERIFY(level.tiles.cellAt({5, 3}) == TileData() && level.objects.cellAt({5, 3}) == Cleared);
@@ -150,10 +150,12 @@ private slots:
         QCOMPARE(level.objects.cellAt({0, 0}), TileData());
         map.animatedBlocks()->add(QRect(2, 2, 2, 1), level.animation.id());
         map.animatedBlocks()->add(QRect(6, 2, 2, 1), QUuid::createUuid()); // no such animation
+        map.animatedBlocks()->add(QRect(8, 8, 1, 2), level.animation.id()); // narrower and higher than the animation
         map.animatedBlocks()->add(QRect(QPoint(INT_MAX, 3), QPoint(INT_MAX, 3)), level.animation.id());
         map.restampAnimations({level.project.createBlockList("Other", {}), nullptr, level.project.blockSets().first()});
         QVERIFY(level.objects.cellAt({3, 2}) == frameCell(4) && level.tiles.cellAt({3, 2}) == Cleared);
         QVERIFY(level.objects.cellAt({6, 2}) == TileData() && level.tiles.cellAt({6, 2}) == Cleared);
+        QVERIFY(level.objects.cellAt({8, 8}) == frameCell(3) && level.objects.cellAt({9, 8}) == TileData());
     }
 
     void keepsSpritesOnTheirPictures()

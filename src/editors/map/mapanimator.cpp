@@ -58,10 +58,9 @@ bool MapAnimator::play(const AnimationProperties &placement)
         if (frame < 0)
             continue;
         due = true;
-        const QPoint topLeft = placement.area().topLeft();
         // frames of an animation often have cells in common, or all of them
-        if (m_map->stampFrame(*animation, int(frame), topLeft))
-            m_changedAreas.append({topLeft, animation->size()});
+        if (m_map->stampFrame(*animation, int(frame), placement.area()))
+            m_changedAreas.append(placement.area());
     }
     return due;
 }

@@ -277,7 +277,7 @@ private slots:
             f.palette->setColour(2 * 16 + 3, Qt::green, false);
             f.map->placeAnimation(f.animation, {4, 2});
             f.animation->frame(0)->setIndex(0, 0, 0);
-            f.map->stampFrame(*f.animation, 0, {4, 2});
+            f.map->stampFrame(*f.animation, 0, {{4, 2}, f.animation->size()});
             f.map->setTile({4, 2}, {1, false, false, false, 0, true});
             for (const int zoom : {1, 2, 8}) { // the last with a cell a strip
                 f.grid.applyPreferences({checker, Qt::red, Qt::blue, false, 8, zoom});

@@ -114,15 +114,15 @@ private slots:
         f.map->placeAnimation(f.animation, {3, 3});
         f.grid.setCurrentTileIndex(4);
         f.press(f.at(10, 1));
-        f.map->stampFrame(*f.animation, 1, {3, 3});
+        f.map->stampFrame(*f.animation, 1, {{3, 3}, f.animation->size()});
         f.release(f.at(10, 1));
         QCOMPARE(f.stack.count(), 0);
 
         f.press(f.at(10, 1));
         f.move(f.at(11, 1));
-        f.map->stampFrame(*f.animation, 0, {3, 3});
+        f.map->stampFrame(*f.animation, 0, {{3, 3}, f.animation->size()});
         f.release(f.at(11, 1));
-        f.map->stampFrame(*f.animation, 1, {3, 3});
+        f.map->stampFrame(*f.animation, 1, {{3, 3}, f.animation->size()});
         f.stack.undo();
         QCOMPARE(f.object(3, 3).index, 6); // the frame stays as it plays
         QVERIFY(!f.tile(11, 1).used);
