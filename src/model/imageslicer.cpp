@@ -66,28 +66,43 @@ ImageSlicer::ImageSlicer(const QImage &source, QObject *parent)
 
 int ImageSlicer::sliceTiles()
 {
-    slice(TileSide, cellsOf(m_source, TileSide));
+    const NxImage snapped(m_source);
+    const QImage indexed = snapped.toIndexed();
+    slice(indexed, TileSide, cellsOf(m_source, TileSide));
+    if (snapped.colours().size() > indexed.colorCount())
+        findReducedPieces(snapped.image(), indexed);
     assignBanks();
     return m_pieces.count();
 }
 
 int ImageSlicer::sliceSprites(int size)
 {
-    slice(SpriteSide, cellsOf(m_source, size));
-    for (auto &[piece, orientation] : m_placements)
-        orientation = 0;
+    sliceSpritesOf(NxImage(m_source).toIndexed(), size);
     return m_pieces.count();
 }
 
-void ImageSlicer::slice(int side, const QSize &cells)
+int ImageSlicer::sliceIndexedSprites()
 {
-    const QImage picture = NxImage(m_source).toIndexed();
+    Q_ASSERT(m_source.isNull() || m_source.format() == QImage::Format_Indexed8);
+    sliceSpritesOf(m_source, SpriteSide);
+    return m_pieces.count();
+}
 
+void ImageSlicer::sliceSpritesOf(const QImage &picture, int size)
+{
+    slice(picture, SpriteSide, cellsOf(picture, size));
+    for (auto &[piece, orientation] : m_placements)
+        orientation = 0;
+}
+
+void ImageSlicer::slice(const QImage &picture, int side, const QSize &cells)
+{
     m_cells = picture.isNull() ? QSize(0, 0) : cells;
     m_colours = picture.colorTable();
     m_pieces = PieceTable(side);
     m_placements.clear();
     m_placements.reserve(cellCount());
+    m_reduced.clear();
     m_banks.fill(Bank());
     m_assignments.clear();
 
@@ -99,6 +114,27 @@ void ImageSlicer::slice(int side, const QSize &cells)
             emit processed(int(m_placements.size()) - 1);
         }
     }
+}
+
+/// Marks the pieces of all cells in which a pixel does not show its colour.
+void ImageSlicer::findReducedPieces(const QImage &picture, const QImage &indexed)
+{
+    m_reduced.resize(m_pieces.count());
+    for (int y = 0; y < m_cells.height() * TileSide; ++y) {
+        const auto *colours = reinterpret_cast<const QRgb *>(picture.constScanLine(y));
+        const uchar *indices = indexed.constScanLine(y);
+        for (int x = 0; x < m_cells.width() * TileSide; ++x) {
+            if (m_colours.at(indices[x]) != colours[x])
+                m_reduced[m_placements.at(y / TileSide * m_cells.width() + x / TileSide).first] = true;
+        }
+    }
+}
+
+int ImageSlicer::lossyTileCount() const
+{
+    const auto withBank = m_assignments.size();
+    const auto reduced = std::count(m_reduced.cbegin(), m_reduced.cbegin() + qMin(withBank, m_reduced.size()), true);
+    return int(m_pieces.count() - withBank + reduced);
 }
 
 /// Gives each tile the first bank that has its colours or room for them.

@@ -43,6 +43,13 @@ public:
     /// Cuts 16 × 16 pieces for as many cells as pieces of size × size would make; gives the number of
     /// distinct pieces. Placements have orientation 0, and there are no banks.
     int sliceSprites(int size);
+    /// Cuts 16 × 16 pieces of a picture that is indexed already: its indices stay, and its colour table becomes
+    /// colours(). Otherwise as sliceSprites().
+    int sliceIndexedSprites();
+
+    /// Distinct tiles that do not show all their colours: no bank had room for them, or the picture has more than
+    /// the 256 colours that are told apart.
+    [[nodiscard]] int lossyTileCount() const;
 
     /// Distinct pieces that were cut.
     [[nodiscard]] int pieceCount() const { return m_pieces.count(); }
@@ -97,7 +104,9 @@ private:
         quint8 used = 0;
     };
 
-    void slice(int side, const QSize &cells);
+    void slice(const QImage &picture, int side, const QSize &cells);
+    void sliceSpritesOf(const QImage &picture, int size);
+    void findReducedPieces(const QImage &picture, const QImage &indexed);
     void assignBanks();
     [[nodiscard]] TileColours coloursOf(int index) const;
     [[nodiscard]] QImage sprite(int index) const;
@@ -108,6 +117,7 @@ private:
     QSize m_cells;
     PieceTable m_pieces{TileSide};
     QList<Placement> m_placements;
+    QList<bool> m_reduced; ///< by piece; empty where no piece lost a colour beyond the 256th
     QList<QRgb> m_colours;
     std::array<Bank, BankCount> m_banks;
     QList<Assignment> m_assignments; ///< of the first tiles, up to one that found no bank

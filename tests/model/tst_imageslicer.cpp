@@ -136,6 +136,7 @@ private slots:
         ImageSlicer slicer(strip({tile(1, 3), tile(4, 2), tile(20, 17), tile(40, 3)}));
         QTest::ignoreMessage(QtWarningMsg, "Palette full!");
         QCOMPARE(slicer.sliceTiles(), 4);
+        QCOMPARE(slicer.lossyTileCount(), 2);
         QCOMPARE(slicer.bankColours().mid(4, 2), QList<QRgb>({colour(5), 0xff000000}));
         // the first tile's colours are those that its bank had then
         QCOMPARE(slicer.piece(0).colorTable(),
@@ -143,6 +144,26 @@ private slots:
         QVERIFY(slicer.bank(2) == 0 && slicer.piece(2).colorCount() == 17);
         QVERIFY(slicer.piece(2).pixelIndex(0, 2) == 16 && slicer.pieceWithOffset(2).pixelIndex(0, 2) == 0);
         QCOMPARE(slicer.piece(3).colorTable(), QList<QRgb>({colour(40), colour(41), colour(42)}));
+    }
+
+    void countsTilesThatLoseColours()
+    {
+        QList<QImage> tiles;
+        for (int first = 0; first < 256; first += 16)
+            tiles.append(tile(first, 16));
+        ImageSlicer full(strip(tiles)); // every bank
+        QVERIFY(full.sliceTiles() == 16 && full.lossyTileCount() == 0);
+        ImageSlicer over(strip(tiles + QList<QImage>{tile(256, 1), tile(5, 1), tile(256, 1)})); // one colour more
+        QVERIFY(over.sliceTiles() == 18 && over.lossyTileCount() == 1);
+    }
+
+    void keepsIndicesOfSprites()
+    {
+        // two colours that look the same, and an index that none of the colours has
+        QImage sprites = pictureOf({40, 16}, QImage::Format_Indexed8, [](int i) { return i % 40 < 16 ? 3 : 200; });
+        ImageSlicer slicer(sprites);
+        QVERIFY(slicer.sliceIndexedSprites() == 2 && slicer.colours() == sprites.colorTable());
+        QCOMPARE(indices(slicer.piece(1)), QByteArray(256, char(200)));
     }
 
     void mergesSpritesWithoutOrientation()
