@@ -184,7 +184,7 @@ void ProjectActions::importMap(const QString &filePath)
         isNextData(filePath) ? importNextData(*project, filePath) : importPicture(*project, filePath, m_dialogParent);
     if (map)
         emit mapReady(map->id());
-    else
+    if (!failure.isEmpty())
         reportIncompleteImport(failure);
 }
 

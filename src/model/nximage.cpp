@@ -2,17 +2,19 @@
 
 #include "model/nextcolour.h"
 #include "model/palette.h"
-
-#include <QImageReader>
+#include "model/picturefile.h"
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace {
 
 constexpr size_t Steps = NextColour::SnapSteps;
 constexpr size_t GridSize = Steps * Steps * Steps;
 constexpr qsizetype TableSize = 256;
+constexpr QRgb Clear = 0; // no snapped colour: these are opaque
+constexpr int LeastAlpha = 128; ///< of a pixel that is not clear
 
 /// One value for each colour of the snap grid, by gridIndex().
 template <typename Value>
@@ -49,7 +51,7 @@ qsizetype nearest(const QList<QRgb> &colours, QRgb colour)
 }
 
 /// A snapped picture as 8-bit indices; indexOf holds the index of each of its colours.
-QImage mapped(const QImage &picture, const Grid<quint8> &indexOf, const QList<QRgb> &colourTable)
+QImage mapped(const QImage &picture, const Grid<quint8> &indexOf, const QList<QRgb> &colourTable, quint8 clear = 0)
 {
     QImage result(picture.size(), QImage::Format_Indexed8);
     if (result.isNull())
@@ -60,7 +62,7 @@ QImage mapped(const QImage &picture, const Grid<quint8> &indexOf, const QList<QR
         const auto *from = reinterpret_cast<const QRgb *>(picture.constScanLine(y));
         uchar *to = result.scanLine(y);
         for (int x = 0; x < width; ++x)
-            to[x] = indexOf[gridIndex(from[x])];
+            to[x] = from[x] == Clear ? clear : indexOf[gridIndex(from[x])];
     }
     return result;
 }
@@ -79,16 +81,37 @@ bool NxImage::accepts(const QSize &size)
     return qint64(size.width()) * size.height() <= MaxPixels;
 }
 
-bool NxImage::setImage(const QImage &image)
+bool NxImage::setImage(QImage image)
+{
+    m_image =
+        accepts(image.size()) ? std::move(image).convertToFormat(QImage::Format_RGB32, Qt::AvoidDither) : QImage();
+    snap();
+    return true;
+}
+
+void NxImage::setTranslucent(QImage image)
+{
+    m_image =
+        accepts(image.size()) ? std::move(image).convertToFormat(QImage::Format_ARGB32, Qt::AvoidDither) : QImage();
+    snap();
+}
+
+/// Snaps the pixels, and lists their colours. Without an alpha channel whatever stands for alpha means nothing.
+void NxImage::snap()
 {
     m_colours.clear();
-    m_image = accepts(image.size()) ? image.convertToFormat(QImage::Format_RGB32, Qt::AvoidDither) : QImage();
-
+    m_hasClearPixels = false;
+    const int leastAlpha = m_image.hasAlphaChannel() ? LeastAlpha : 0;
     Grid<bool> seen{};
     const int width = m_image.width();
     for (int y = 0; y < m_image.height(); ++y) {
         auto *line = reinterpret_cast<QRgb *>(m_image.scanLine(y));
         for (int x = 0; x < width; ++x) {
+            if (qAlpha(line[x]) < leastAlpha) {
+                line[x] = Clear;
+                m_hasClearPixels = true;
+                continue;
+            }
             bool &known = seen[gridIndex(line[x])];
             line[x] = snapped(line[x]);
             if (!known) {
@@ -97,15 +120,11 @@ bool NxImage::setImage(const QImage &image)
             }
         }
     }
-    return true;
 }
 
 bool NxImage::load(const QString &fileName)
 {
-    QImageReader reader(fileName);
-    // the size in the file's header comes first: a small file may announce gigabytes of pixels
-    const QImage picture = accepts(reader.size()) ? reader.read() : QImage();
-    setImage(picture);
+    setImage(PictureFile::read(fileName).image);
     return !m_image.isNull();
 }
 
@@ -127,6 +146,15 @@ QImage NxImage::toIndexed() const
         indexOf[gridIndex(m_colours[i])] = quint8(i < TableSize ? i : nearest(table, m_colours[i]));
     table.resize(TableSize);
     return mapped(m_image, indexOf, table);
+}
+
+QImage NxImage::withIndices(const QList<int> &indices, int clear, const QList<QRgb> &colourTable) const
+{
+    Q_ASSERT(indices.size() == m_colours.size());
+    Grid<quint8> indexOf{};
+    for (qsizetype i = 0; i < indices.size(); ++i)
+        indexOf[gridIndex(m_colours[i])] = quint8(indices[i]);
+    return mapped(m_image, indexOf, colourTable, quint8(clear));
 }
 
 QImage NxImage::indexed(const QImage &picture, const QPointer<Palette> &palette)

@@ -11,7 +11,7 @@ class Palette;
 /// a component on which Next colours are chosen, and listed.
 ///
 /// Tile sets, sprite banks and the image slicer import through it: remap() for pixels of an existing
-/// palette, toIndexed() for pixels of the picture's own colour list.
+/// palette, toIndexed() for pixels of the picture's own colour list, withIndices() for any others.
 class NxImage : public QObject
 {
     Q_OBJECT
@@ -29,14 +29,18 @@ public:
 
     /// Takes a picture of any format; its alpha is dropped. A picture beyond MaxPixels becomes an empty
     /// one. Always true.
-    bool setImage(const QImage &image);
-    /// Reads a file of any format that Qt knows; false, and an empty picture, when it is unreadable.
+    bool setImage(QImage image);
+    /// The same with transparency: pixels that are less than half opaque are clear. They bring no colour, and are 0
+    /// in image(), which has an alpha channel then.
+    void setTranslucent(QImage image);
+    /// Reads a file as PictureFile does; false, and an empty picture, when it is unreadable.
     [[nodiscard]] bool load(const QString &fileName);
 
     /// The snapped picture, in the 32-bit RGB format.
     [[nodiscard]] QImage image() const { return m_image; }
     /// The distinct colours in order of first appearance, row by row.
     [[nodiscard]] QList<QRgb> colours() const { return m_colours; }
+    [[nodiscard]] bool hasClearPixels() const { return m_hasClearPixels; }
 
     /// The picture as 8-bit indices of a palette, every colour at its nearestIndex(); null without a palette.
     [[nodiscard]] QImage remap(const QPointer<Palette> &palette) const;
@@ -44,12 +48,18 @@ public:
     /// black. Colours beyond the 256th take the nearest of the first 256, the lowest index among equals.
     [[nodiscard]] QImage toIndexed() const;
 
+    /// The picture as these 8-bit indices, one for each of colours(), and one for clear pixels.
+    [[nodiscard]] QImage withIndices(const QList<int> &indices, int clear, const QList<QRgb> &colourTable) const;
+
     /// Any picture as 8-bit indices, null when there are none. An indexed one is taken as it is, and so are
     /// bits and greys, which PNG readers hand over where indices were stored without colours; all others are
     /// mapped onto the palette, or onto their own colours without one.
     [[nodiscard]] static QImage indexed(const QImage &picture, const QPointer<Palette> &palette);
 
 private:
+    void snap();
+
     QImage m_image;
     QList<QRgb> m_colours;
+    bool m_hasClearPixels = false;
 };

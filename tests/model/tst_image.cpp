@@ -1,12 +1,16 @@
 #include "model/image.h"
 #include "model/nximage.h"
 #include "model/palette.h"
+#include "model/picturefile.h"
 #include "support/modeltools.h"
 #include "support/testmain.h"
 
 #include <QBuffer>
+#include <QMimeData>
 #include <QRandomGenerator>
 #include <QTest>
+
+#include <sys/stat.h>
 
 #include <algorithm>
 #include <cmath>
@@ -129,6 +133,65 @@ private slots:
         }
         picture.setImage(QImage(NxImage::MaxPixels / 8 + 8, 8, QImage::Format_Mono)); // taken as an empty one
         QVERIFY(picture.image().isNull() && picture.toIndexed().isNull());
+    }
+
+    void decodesTheFormatsThatDialogsName_data()
+    {
+        const QByteArray gif = QByteArray::fromHex("47494638376101000100800000ff000000000021f90400000000002c0000000001"
+                                                   "000100000202440100");
+        const QByteArray svg = "<svg xmlns='http://www.w3.org/2000/svg' width='1' height='1'/>";
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<bool>("good");
+        const QImage picture = row({qRgb(255, 0, 0)});
+        for (const char *format : {"png", "bmp", "jpeg", "pbm", "pgm", "ppm", "xbm", "xpm", "ico"}) {
+            QBuffer file;
+            QVERIFY(picture.save(&file, format));
+            QTest::newRow(format) << file.data() << (qstrcmp(format, "ico") != 0);
+        }
+        QTest::newRow("gif") << gif << true;
+        QTest::newRow("svg") << svg << false; // whose pictures may be any other file
+        QTest::newRow("svg with a heading") << "<?xml version='1.0'?>" + svg << false;
+    }
+
+    void decodesTheFormatsThatDialogsName()
+    {
+        QFETCH(QByteArray, bytes);
+        QFETCH(bool, good);
+        const TemporaryFolder path;
+        for (const char *name : {"picture.png", "picture.svg", "picture"}) // the content alone counts
+            QCOMPARE(PictureFile::read(path(name, bytes)).image.size(), good ? QSize(1, 1) : QSize(0, 0));
+        QMimeData clipboard;
+        clipboard.setData("image/png", bytes);
+        QCOMPARE(PictureFile::of(&clipboard).isNull(), !good);
+        clipboard.setImageData(row({qRgb(255, 0, 0), qRgb(0, 0, 0)})); // what Qt would make of the bytes
+        QCOMPARE(PictureFile::of(&clipboard).size(), good ? QSize(1, 1) : QSize(0, 0));
+        clipboard.removeFormat("image/png");
+        QCOMPARE(PictureFile::of(&clipboard).size(), QSize(2, 1));
+    }
+
+    void tellsWhyAPictureIsRefused()
+    {
+        const TemporaryFolder path;
+        const QByteArray line(1024, '\0');
+        const QString largest = path("largest", QByteArray("P4\n8192 8192\n") + line.repeated(8192));
+        const QImage picture = PictureFile::read(largest).image; // of bits, so that it is quick
+        QCOMPARE(picture.size(), QSize(8192, 8192));
+        const QString pipe = path("pipe.png");
+        QCOMPARE(mkfifo(qPrintable(pipe), 0600), 0); // opening it would wait for somebody to write
+        const QString failure = "Could not read the image file";
+        const QPair<QString, QString> refusals[] = {
+            {path("larger", QByteArray("P4\n8200 8192\n") + line),
+             failure + "\nIt has 8200 × 8192 pixels; at most 8192 × 8192, or as many in another shape, can be read"},
+            {pipe, failure + "\nIt is a pipe or a device, not a file"},
+            {"/dev/zero", failure + "\nIt is a pipe or a device, not a file"},
+            {path("nonsense.png", "BM\1\2\3"), failure},
+            {path("missing.png"), failure},
+        };
+        for (const auto &[file, text] : refusals) {
+            const PictureFile refused = PictureFile::read(file);
+            QVERIFY(refused.image.isNull());
+            QCOMPARE(refused.failure(), text);
+        }
     }
 };
 

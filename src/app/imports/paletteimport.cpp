@@ -1,13 +1,12 @@
 #include "app/imports/paletteimport.h"
 
 #include "model/nextcolour.h"
-#include "model/nximage.h"
+#include "model/picturefile.h"
 #include "model/project.h"
 #include "undo/snapshotcommand.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
-#include <QImageReader>
 #include <QPointer>
 #include <QStringList>
 #include <QUndoStack>
@@ -76,10 +75,7 @@ Words distinctWords(const QImage &picture)
 /// The words that a picture file brings, at most 256; none when it is no picture.
 Words wordsOfPicture(const QString &fileName)
 {
-    QImageReader reader(fileName);
-    if (!NxImage::accepts(reader.size()))
-        return {};
-    const QImage picture = reader.read();
+    const QImage picture = PictureFile::read(fileName).image;
     if (picture.colorTable().isEmpty())
         return distinctWords(picture.convertToFormat(QImage::Format_RGB32));
     Words words;

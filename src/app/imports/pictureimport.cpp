@@ -5,6 +5,7 @@
 #include "app/imports/waitcursor.h"
 #include "model/imageslicer.h"
 #include "model/nximage.h"
+#include "model/picturefile.h"
 #include "model/project.h"
 #include "model/tileset.h"
 
@@ -56,17 +57,30 @@ QPointer<Map> createMap(Project &project, const QString &name, const QUuid &tile
     return map;
 }
 
+/// Tells that tiles do not show all their colours; empty when all do.
+QString lossOf(const ImageSlicer &slicer)
+{
+    const int lossy = slicer.lossyTileCount();
+    if (lossy == 0)
+        return {};
+    return tr("Tiles that lost colours: %1 of %2.\n"
+              "A tile shows 16 colours, and all of them together have 16 groups of 16. Reduce the colours of the "
+              "picture, to 16 in each tile of 8 × 8 pixels and to fewer in all, and import it again.")
+        .arg(lossy)
+        .arg(slicer.pieceCount());
+}
+
 } // namespace
 
 MapImport importPicture(Project &project, const QString &filePath, QWidget *parent)
 {
     const QPointer<Project> guarded = &project; // events are handled while the picture is cut
     const WaitCursor wait;
-    NxImage picture;
-    if (!picture.load(filePath))
-        return {nullptr, tr("Could not read the image file")};
+    const PictureFile picture = PictureFile::read(filePath);
+    if (picture.image.isNull())
+        return {nullptr, picture.failure()};
 
-    ImageSlicer slicer(picture.image());
+    ImageSlicer slicer(picture.image);
     int tiles = 0;
     {
         SlicingProgress progress(slicer, parent);
@@ -83,5 +97,5 @@ MapImport importPicture(Project &project, const QString &filePath, QWidget *pare
     const QString name = QFileInfo(filePath).completeBaseName();
     const QUuid palette = createPaletteOf(project, name, slicer.bankColours())->id();
     const QPointer<TileSet> tileSet = createTileSet(project, name, palette, slicer, tiles);
-    return {createMap(project, name, tileSet->id(), slicer), {}};
+    return {createMap(project, name, tileSet->id(), slicer), lossOf(slicer)};
 }

@@ -1,29 +1,23 @@
 #include "editors/canvas/canvasclipboard.h"
 
 #include "editors/canvas/canvas.h"
+#include "model/picturefile.h"
 
 #include <QAction>
 #include <QBuffer>
 #include <QClipboard>
 #include <QDataStream>
 #include <QGuiApplication>
-#include <QImageReader>
 #include <QMimeData>
 
 namespace {
 
 constexpr auto MimeType = "quenmora/canvas-anim";
-/// Larger pictures than any asset's are refused before they are decoded.
-constexpr int MaximumSide = 8192;
 
-/// The indexed picture in PNG data, null when it is damaged or absurd.
-QImage readImage(QIODevice *device)
+/// The indexed picture that follows, null when it is damaged or absurd.
+QImage readImage(QIODevice &device)
 {
-    QImageReader reader(device, "png");
-    const QSize size = reader.size();
-    if (!size.isValid() || size.width() > MaximumSide || size.height() > MaximumSide)
-        return {};
-    const QImage image = reader.read();
+    const QImage image = PictureFile::read(device).image;
     // A colour table that is a ramp of grey comes back as greyscale; its values are the indices.
     if (image.format() == QImage::Format_Grayscale8)
         return image.convertToFormat(QImage::Format_Indexed8);
@@ -66,7 +60,7 @@ CanvasClipboardContent CanvasClipboardContent::fromMimeData(const QMimeData *mim
     const bool known = imageType >= Quenmora::Ui::Ula && imageType <= Quenmora::Ui::Full256;
     if (stream.status() != QDataStream::Ok || !known)
         return {};
-    return {reserved, Quenmora::Ui::ImageType(imageType), paletteId, readImage(&buffer)};
+    return {reserved, Quenmora::Ui::ImageType(imageType), paletteId, readImage(buffer)};
 }
 
 CanvasClipboard::CanvasClipboard(Canvas *canvas) : QObject(canvas), m_canvas(canvas) { }
@@ -93,10 +87,10 @@ void CanvasClipboard::copyToClipboard()
 
 CanvasClipboardContent CanvasClipboard::contentOfPicture(const QMimeData *mimeData) const
 {
-    if (!m_canvas || !mimeData || !mimeData->hasImage())
+    if (!m_canvas)
         return {};
-    // Qt decodes no picture of more than 256 MiB, and the canvas converts only what fits into its image.
-    const QImage pixels = m_canvas->pixelsOf(mimeData->imageData().value<QImage>());
+    // the canvas converts only what fits into its image
+    const QImage pixels = m_canvas->pixelsOf(PictureFile::of(mimeData));
     return {0, m_canvas->imageType(), m_canvas->paletteId(), pixels};
 }
 

@@ -5,13 +5,12 @@
 #include "editors/canvas/imageimportdialog.h"
 #include "editors/canvas/scrollcanvas.h"
 #include "editors/palette/colourpalette.h"
-#include "model/nximage.h"
+#include "model/picturefile.h"
 #include "ui/replacing.h"
 #include "ui/toolpalette.h"
 
 #include <QFileDialog>
 #include <QHBoxLayout>
-#include <QImageReader>
 
 #include <algorithm>
 
@@ -190,17 +189,16 @@ void View::openImportFile()
 
 void View::importPicture(const QString &fileName)
 {
-    QImageReader reader(fileName);
-    const QImage picture = NxImage::accepts(reader.size()) ? reader.read() : QImage();
-    if (picture.isNull()) {
-        emit error(tr("Could not read the image file"));
+    const PictureFile picture = PictureFile::read(fileName);
+    if (picture.image.isNull()) {
+        emit error(picture.failure());
         return;
     }
     if (!m_importDialog) {
         m_importDialog = new ImportDialog(this);
         connect(m_importDialog, &ImportDialog::imported, this, &View::place);
     }
-    m_importDialog->show(picture, canvas()->palette(), canvas()->image().size(), colourCount());
+    m_importDialog->show(picture.image, canvas()->palette(), canvas()->image().size(), colourCount());
 }
 
 void View::place(const QImage &pixels)

@@ -2,6 +2,7 @@
 
 #include "editors/canvas/canvasclipboard.h"
 #include "editors/common/dragdata.h"
+#include "model/picturefile.h"
 #include "ui/svgiconengine.h"
 
 #include <QClipboard>
@@ -25,7 +26,7 @@ QImage clipboardImage()
     const QImage ours = CanvasClipboardContent::fromMimeData(mimeData).image;
     if (!ours.isNull())
         return ours;
-    return mimeData ? mimeData->imageData().value<QImage>() : QImage();
+    return PictureFile::of(mimeData);
 }
 
 } // namespace
