@@ -214,10 +214,7 @@ bool SpriteBank::exportSpr(const QString &fileName) const
 int SpriteBank::importImageFile(const QString &fileName)
 {
     NxImage picture;
-    const bool loaded = picture.load(fileName);
-    const int columns = picture.image().width() / SpriteSize;
-    const int rows = picture.image().height() / SpriteSize;
-    if (!loaded || !hasRoomFor(qsizetype(rows) * columns)) {
+    if (!picture.load(fileName)) {
         qInfo("Failed to load image");
         return -1;
     }
@@ -226,12 +223,23 @@ int SpriteBank::importImageFile(const QString &fileName)
         qInfo("Could not remap colours");
         return -1;
     }
+    return appendPieces(mapped);
+}
+
+int SpriteBank::appendPieces(const QImage &indexed)
+{
+    const int columns = indexed.width() / SpriteSize;
+    const int rows = indexed.height() / SpriteSize;
+    if (!hasRoomFor(qsizetype(rows) * columns)) {
+        qInfo("Failed to load image");
+        return -1;
+    }
     const int first = count();
     resize(first + rows * columns);
     for (int row = 0; row < rows; ++row) {
         for (int column = 0; column < columns; ++column) {
             const QPoint corner(column * SpriteSize, row * SpriteSize);
-            setImage(first + row * columns + column, mapped.copy({corner, QSize(SpriteSize, SpriteSize)}));
+            setImage(first + row * columns + column, indexed.copy({corner, QSize(SpriteSize, SpriteSize)}));
         }
     }
     emit countChanged();

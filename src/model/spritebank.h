@@ -96,6 +96,8 @@ public:
     /// Appends the 16×16 pieces of a picture file, row by row, in the nearest colours of the bound palette.
     /// The new number of sprites, or −1 when the picture cannot be used; the bank is then unchanged.
     [[nodiscard]] int importImageFile(const QString &fileName);
+    /// The same with the pieces of a picture of indices.
+    [[nodiscard]] int appendPieces(const QImage &indexed);
     /// Fills a new bank with the distinct 16×16 pieces of a picture file, and the bound palette with its
     /// colours. The number of pieces, or −1 when the picture cannot be used; nothing is then changed.
     [[nodiscard]] int importSlicedImage(const QString &fileName);

@@ -199,7 +199,7 @@ private slots:
         add({15, 32}, false, false, "x", "The picture is smaller than a sprite, which has 16 × 16 pixels");
         add({16, 16}, true, false, "Main", "There is a palette of this name already; please choose another name");
         add({16, 16}, false, false, "Main", ""); // no palette is made
-        add({32, 16}, true, true, "x", "The picture has 17 colours; 4-bit sprites show 16");
+        add({16, 16}, true, true, "x", "The picture has 16 colours; 4-bit sprites show 15 beside the transparent one");
         add({16, 16}, false, true, "x",
             "The colours lie in several groups of 16 of the palette; 4-bit sprites show one group");
         add({16, 16}, false, false, "", "Please enter a name");

@@ -213,18 +213,33 @@ private slots:
                                     << "Could not read the image file";
         QTest::newRow("suffix in upper case") << QSize() << "world.NXM"
                                               << "Could not read the image file";
+        QTest::newRow("too large") << QSize() << "huge.ppm"
+                                   << "Could not read the image file\nIt has 9000 × 9000 pixels; at most 8192 × 8192, "
+                                      "or as many in another shape, can be read";
     }
 
     void pictureLimit()
     {
         QFETCH(QSize, tiles);
         QFETCH(QString, file);
-        QVERIFY(tiles.isEmpty() ? writeFile(m_folder(file), "\x89PNG\r\n\x1a\n and nothing more")
-                                : pictureOfTiles(tiles).save(m_folder(file)));
+        const QByteArray head = file == "huge.ppm" ? "P6 9000 9000 255\n" : "\x89PNG\r\n\x1a\n and nothing more";
+        QVERIFY(tiles.isEmpty() ? writeFile(m_folder(file), head) : pictureOfTiles(tiles).save(m_folder(file)));
         m_actions->importMap(m_folder(file));
         QTEST(shownFailure(), "failure");
         QCOMPARE(assetCount(), shownFailure().isEmpty() ? 3 : 0);
         QVERIFY(!m_window->findChild<QProgressDialog *>()); // it does not outlive its work
+    }
+
+    void tellsOfTilesThatLostColours()
+    {
+        QImage picture(32, 8, QImage::Format_RGB32);
+        picture.fill(Qt::black);
+        for (int i = 0; i < 17; ++i) // more colours than a tile shows
+            picture.setPixel(9 + i % 4, i / 4, qRgb(16 + 16 * (i % 8), 16 * (i / 8), 0));
+        QVERIFY(picture.save(m_folder("level.png")));
+        m_actions->importMap(m_folder("level.png"));
+        QVERIFY(!m_ready.isNull() && assetCount() == 3); // what can be shown is there
+        QVERIFY2(shownFailure().startsWith("Tiles that lost colours: 1 of 2.\n"), qPrintable(shownFailure()));
     }
 
     void importedPaletteIsOneUndoStep()
@@ -330,6 +345,48 @@ private slots:
         else
             QCOMPARE(last.pixelIndex(0, 0), 5);
         QCOMPARE(stack.count(), 0); // what is made by an import is no edit
+    }
+
+    void importedSpritesAreClearWhereThePictureIs_data()
+    {
+        QTest::addColumn<Quenmora::Sprite>("depth");
+        QTest::addColumn<bool>("newPalette");
+        QTest::addColumn<int>("colours"); // of the picture
+        QTest::newRow("8 bits, remapped") << Quenmora::EightBit << false << 256;
+        QTest::newRow("8 bits, own colours") << Quenmora::EightBit << true << 255;
+        QTest::newRow("8 bits, a colour too many") << Quenmora::EightBit << true << 256;
+        QTest::newRow("4 bits, remapped") << Quenmora::FourBit << false << 256;
+        QTest::newRow("4 bits, own colours") << Quenmora::FourBit << true << 15;
+    }
+
+    void importedSpritesAreClearWhereThePictureIs()
+    {
+        QFETCH(Quenmora::Sprite, depth);
+        QFETCH(bool, newPalette);
+        QFETCH(int, colours);
+        const QUuid standard = makePalette();
+        // every colour of the standard palette, that of the transparent index too
+        QImage picture(16, 32, QImage::Format_ARGB32);
+        for (int i = 0; i < 512; ++i) {
+            const QRgb rgb = m_project->palette(standard)->colour(i % colours).rgb();
+            const int alpha = i == 300 ? 127 : i == 301 ? 128 : i < 257 ? 255 : 0;
+            picture.setPixel(i % 16, i / 16, (rgb & RGB_MASK) | uint(alpha) << 24);
+        }
+        QVERIFY(picture.save(m_folder("hero.png")));
+        m_actions->importSpritePicture({m_folder("hero.png"), "Hero", depth, newPalette ? QUuid() : standard});
+        const QPointer<SpriteBank> bank = m_project->spriteBank(m_ready);
+        QVERIFY(bank && bank->count() == (newPalette ? 2 : 3));
+        for (int i = 0; i < 512; ++i) {
+            const int sprite = bank->count() - 2 + i / 256;
+            const QRgb shown = bank->renderSprite(sprite, 0, false, false, false).pixel(i % 16, i / 16 % 16);
+            QVERIFY2((qAlpha(shown) == 0) == (qAlpha(picture.pixel(i % 16, i / 16)) < 128),
+                     qPrintable(QString::number(i)));
+            if (qAlpha(shown) > 0 && newPalette && colours < 256) {
+                Palette hardware;
+                hardware.setColour(0, Palette::snapColour(QColor::fromRgb(picture.pixel(i % 16, i / 16))), false);
+                QCOMPARE(shown, hardware.colour(0).rgb());
+            }
+        }
     }
 
     void spriteFailureLeavesNothing()

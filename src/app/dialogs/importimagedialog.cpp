@@ -4,6 +4,7 @@
 #include "app/dialogs/depthchooser.h"
 #include "app/dialogs/picturepreview.h"
 #include "app/imports/waitcursor.h"
+#include "model/picturefile.h"
 #include "model/spritebank.h"
 
 #include <QFileInfo>
@@ -59,9 +60,10 @@ void ImportImageDialog::show(const Project &project, const QString &file)
     m_file = file;
     {
         const WaitCursor wait;
-        if (!m_picture.load(file))
-            m_picture.setImage({});
-        m_thumbnail.setImage(thumbnailOf(m_picture.image()));
+        auto [image, refusal] = PictureFile::read(file);
+        m_refusal = refusal;
+        m_picture.setTranslucent(std::move(image));
+        m_thumbnail.setTranslucent(thumbnailOf(m_picture.image()));
     }
     m_palette->offerPalettes(project);
     const bool hasPalettes = m_palette->count() > 0;
@@ -82,29 +84,42 @@ Palette *ImportImageDialog::chosenPalette() const
     return m_project && m_remap->isChecked() ? m_project->palette(m_palette->id()) : nullptr;
 }
 
+SpriteTransparency ImportImageDialog::transparency() const
+{
+    return {m_depth->depth()};
+}
+
+SpriteColours ImportImageDialog::coloursOf(const NxImage &picture) const
+{
+    const Palette *palette = chosenPalette();
+    return palette ? SpriteColours::nearest(picture, *palette, transparency())
+                   : SpriteColours::own(picture, transparency());
+}
+
 void ImportImageDialog::refresh()
 {
     m_palette->setEnabled(m_remap->isChecked());
-    Palette own;
-    Palette *palette = chosenPalette();
-    QImage shown;
-    if (palette) {
-        shown = m_thumbnail.remap(palette);
-    } else {
-        shown = m_thumbnail.toIndexed();
-        const QList<QRgb> colours = shown.colorTable();
-        for (qsizetype i = 0; i < colours.size(); ++i)
-            own.setColour(int(i), QColor::fromRgb(colours[i]), false);
-        if (!shown.isNull())
-            shown.setColorTable(own.colourTable());
+    const SpriteColours colours = coloursOf(m_thumbnail);
+    Palette shownColours; // as the Next has them
+    for (qsizetype i = 0; i < colours.table().size(); ++i)
+        shownColours.setColour(int(i), QColor::fromRgb(colours.table()[i]), false);
+    QImage shown = colours.pixels(m_thumbnail);
+    if (!shown.isNull()) {
+        shown.setColorTable(shownColours.colourTable());
+        shown.setColor(transparency().pixel(), qRgba(0, 0, 0, 0));
     }
     m_preview->setPicture(shown);
-    m_summary->setText(m_picture.image().isNull() ? tr("No picture")
-                                                  : tr("%1 × %2 sprites, colours: %3")
-                                                        .arg(pieces().width())
-                                                        .arg(pieces().height())
-                                                        .arg(m_picture.colours().size()));
+    m_summary->setText(summary());
     revalidate();
+}
+
+QString ImportImageDialog::summary() const
+{
+    if (m_picture.image().isNull())
+        return tr("No picture");
+    const QString text = m_picture.hasClearPixels() ? tr("%1 × %2 sprites, colours: %3, and transparent pixels")
+                                                    : tr("%1 × %2 sprites, colours: %3");
+    return text.arg(pieces().width()).arg(pieces().height()).arg(m_picture.colours().size());
 }
 
 QString ImportImageDialog::problem() const
@@ -113,7 +128,7 @@ QString ImportImageDialog::problem() const
     if (!found.isEmpty())
         return found;
     if (m_picture.image().isNull())
-        return tr("The file is not a picture that can be read");
+        return m_refusal.isEmpty() ? tr("The file is not a picture that can be read") : m_refusal;
     const qint64 count = qint64(pieces().width()) * pieces().height();
     if (count == 0)
         return tr("The picture is smaller than a sprite, which has 16 × 16 pixels");
@@ -124,22 +139,20 @@ QString ImportImageDialog::problem() const
     return m_depth->depth() == Quenmora::FourBit ? depthProblem() : QString();
 }
 
-/// What keeps the picture from being shown by 4-bit sprites: they use one group of 16 colours.
+/// What keeps the picture from being shown by 4-bit sprites: they use one group of 16 colours, one of which is
+/// transparent.
 QString ImportImageDialog::depthProblem() const
 {
-    const QList<QRgb> colours = m_picture.colours();
-    const Palette *palette = chosenPalette();
-    if (!palette) {
-        return colours.size() > FourBitColours
-            ? tr("The picture has %1 colours; 4-bit sprites show 16").arg(colours.size())
+    if (!chosenPalette()) {
+        return m_picture.colours().size() >= FourBitColours
+            ? tr("The picture has %1 colours; 4-bit sprites show 15 beside the transparent one")
+                  .arg(m_picture.colours().size())
             : QString();
     }
-    const auto group = [palette](QRgb colour) {
-        return palette->nearestIndex(QColor::fromRgb(colour)) / FourBitColours;
-    };
-    const int first = group(colours.constFirst());
-    const bool oneGroup =
-        std::all_of(colours.cbegin(), colours.cend(), [&](QRgb colour) { return group(colour) == first; });
+    const QList<int> indices = coloursOf(m_picture).indices();
+    const bool oneGroup = std::all_of(indices.cbegin(), indices.cend(), [&indices](int index) {
+        return index / FourBitColours == indices.constFirst() / FourBitColours;
+    });
     return oneGroup ? QString()
                     : tr("The colours lie in several groups of 16 of the palette; 4-bit sprites show one group");
 }

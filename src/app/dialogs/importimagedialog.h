@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/dialogs/creationdialog.h"
+#include "app/imports/spritecolours.h"
 #include "app/imports/spriteimport.h"
 #include "model/nximage.h"
 #include "model/palette.h"
@@ -39,13 +40,18 @@ protected:
 private:
     void refresh();
     [[nodiscard]] Palette *chosenPalette() const;
+    [[nodiscard]] SpriteTransparency transparency() const;
+    /// What the picture's colours become, as far as the choices go.
+    [[nodiscard]] SpriteColours coloursOf(const NxImage &picture) const;
     [[nodiscard]] QString depthProblem() const;
+    [[nodiscard]] QString summary() const;
     /// Pieces of 16×16 across and down.
     [[nodiscard]] QSize pieces() const;
 
     QPointer<const Project> m_project;
     QString m_file;
     NxImage m_picture; ///< empty when the file cannot be read
+    QString m_refusal; ///< why
     NxImage m_thumbnail;
     QRadioButton *m_remap;
     QRadioButton *m_slice;

@@ -4,6 +4,22 @@
 
 #include <cmath>
 
+namespace {
+
+/// A checker board of two colours of the theme.
+QBrush checkers(const QPalette &theme)
+{
+    constexpr int side = 8;
+    QPixmap squares(2 * side, 2 * side);
+    squares.fill(theme.color(QPalette::Midlight));
+    QPainter painter(&squares);
+    for (const int at : {0, side})
+        painter.fillRect(at, at, side, side, theme.color(QPalette::Mid));
+    return squares;
+}
+
+} // namespace
+
 PicturePreview::PicturePreview(QWidget *parent) : QFrame(parent)
 {
     setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
@@ -30,5 +46,7 @@ void PicturePreview::paintEvent(QPaintEvent *event)
     target.moveCenter(room.center());
     QPainter painter(this);
     painter.setRenderHint(QPainter::SmoothPixmapTransform, scale < 1);
+    if (m_picture.hasAlphaChannel())
+        painter.fillRect(QRectF(target.topLeft().toPoint(), target.size()), checkers(palette()));
     painter.drawImage(QRectF(target.topLeft().toPoint(), target.size()), m_picture);
 }

@@ -3,7 +3,8 @@
 #include <QFrame>
 #include <QImage>
 
-/// Shows a picture as large as it fits, with whole pixels where it is smaller than the room.
+/// Shows a picture as large as it fits, with whole pixels where it is smaller than the room. A checker board shows
+/// through what is transparent.
 class PicturePreview : public QFrame
 {
     Q_OBJECT

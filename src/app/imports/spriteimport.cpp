@@ -2,9 +2,11 @@
 
 #include "app/imports/paletteimport.h"
 #include "app/imports/slicingprogress.h"
+#include "app/imports/spritecolours.h"
 #include "app/imports/waitcursor.h"
 #include "model/imageslicer.h"
 #include "model/nximage.h"
+#include "model/picturefile.h"
 #include "model/project.h"
 #include "model/spritebank.h"
 
@@ -20,13 +22,13 @@ bool fits(qint64 sprites)
     return sprites > 0 && sprites < SpriteBank::MaxCount;
 }
 
-SpriteBank *importSliced(Project &project, const SpriteImport &import, const QImage &picture, QWidget *parent)
+SpriteBank *importSliced(Project &project, const SpriteImport &import, const NxImage &picture, QWidget *parent)
 {
     const QPointer<Project> guarded = &project; // events are handled while the picture is cut
-    ImageSlicer slicer(picture);
+    ImageSlicer slicer(SpriteColours::own(picture, {import.depth}).pixels(picture));
     {
         SlicingProgress progress(slicer, parent);
-        slicer.sliceSprites(SpriteBank::SpriteSize);
+        slicer.sliceIndexedSprites();
     }
     if (!guarded || !fits(slicer.pieceCount()))
         return nullptr;
@@ -41,16 +43,17 @@ SpriteBank *importSpritePicture(Project &project, const SpriteImport &import, QW
 {
     const WaitCursor wait;
     NxImage picture;
-    if (!picture.load(import.file))
-        return nullptr;
+    picture.setTranslucent(PictureFile::read(import.file).image);
     if (import.paletteId.isNull())
-        return importSliced(project, import, picture.image(), parent);
+        return importSliced(project, import, picture, parent);
     const QSize size = picture.image().size();
     const bool usable = fits(qint64(size.width() / SpriteBank::SpriteSize) * (size.height() / SpriteBank::SpriteSize));
-    if (!usable || !project.palette(import.paletteId))
+    const QPointer<Palette> palette = project.palette(import.paletteId);
+    if (!usable || !palette)
         return nullptr;
     SpriteBank *bank = project.createSpriteBank(import.depth, import.name, import.paletteId);
-    return bank->importImageFile(import.file) > 1 ? bank : nullptr;
+    const SpriteColours colours = SpriteColours::nearest(picture, *palette, bank->clearPixels());
+    return bank->appendPieces(colours.pixels(picture)) > 1 ? bank : nullptr;
 }
 
 SpriteBank *importSpriteData(Project &project, const SpriteImport &import)

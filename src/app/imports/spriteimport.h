@@ -21,8 +21,9 @@ struct SpriteImport
 };
 
 /// Makes a bank of the 16×16 pieces of a picture: all of them in the nearest colours of a palette of the
-/// project, or the distinct ones in colours of their own, with a new palette of these. The window in front
-/// shows the progress. Null, and the project is as it was, when the picture cannot be used.
+/// project, or the distinct ones in colours of their own, with a new palette of these. What is clear in the picture
+/// is so in the sprites, and nothing else. The window in front shows the progress. Null, and the project is as it was,
+/// when the picture cannot be used.
 [[nodiscard]] SpriteBank *importSpritePicture(Project &project, const SpriteImport &import, QWidget *parent);
 
 /// Makes a bank of raw sprite data; a new palette is the standard one. Null, and the project is as it was,
