@@ -2,7 +2,7 @@
 
 #include "model/mapobjects.h"
 #include "model/palette.h"
-#include "undo/mapeditcommand.h"
+#include "undo/animationchange.h"
 #include "undo/palettecolourcommand.h"
 #include "undo/snapshotcommand.h"
 
@@ -10,7 +10,6 @@
 #include <QTimer>
 #include <QUndoStack>
 
-#include <type_traits>
 #include <utility>
 
 namespace {
@@ -29,6 +28,38 @@ template <>
 constexpr int AnimationCommandId<TileAnimation::State> = 1002;
 template <>
 constexpr int AnimationCommandId<Animation::State> = 1003;
+
+/// Which tile or sprite is which for the cells of an animation.
+Numbering::Names namesFor(const TileAnimation &animation)
+{
+    const QPointer<TileSet> tileSet = animation.tileSet();
+    return tileSet ? Numbering::of(*tileSet).names() : Numbering::Names();
+}
+
+Numbering::Names namesFor(const SpriteAnim &animation)
+{
+    auto *bank = qobject_cast<SpriteBank *>(animation.parent());
+    return bank ? Numbering::of(*bank).names() : Numbering::Names();
+}
+
+/// The animations of the block sets that are bound to a tile set.
+QList<QPointer<TileAnimation>> animationsOf(const Project &project, const TileSet &tileSet)
+{
+    QList<QPointer<TileAnimation>> animations;
+    for (const QPointer<MapObjects> &blocks : project.blockSets()) {
+        if (blocks->tileSet() == &tileSet)
+            animations.append(blocks->animations());
+    }
+    return animations;
+}
+
+/// A step that keeps what changed, in the function that takes it back, instead of two states.
+template <typename State>
+std::unique_ptr<QUndoCommand> structureCommand(const QString &text, const std::function<void()> &turn)
+{
+    return std::make_unique<SnapshotCommand<State>>(
+        text, State(), State(), [turn](const State &) { turn(); }, NeverMerges, QVariant(), NoTimeLimit);
+}
 
 } // namespace
 
@@ -75,19 +106,10 @@ void EditRecorder::trackSprites(SpriteBank *bank)
 {
     trackAnimations(bank, m_spriteAnimationStates);
     trackStructure(bank, m_pendingSpriteBanks);
-    connect(bank, &SpriteBank::structureAboutToChange, this, [this, bank] {
-        if (m_restoring || !m_project)
-            return;
-        QHash<QUuid, Map::Snapshot> &maps = m_pendingMaps[bank];
-        maps.clear();
-        for (const QPointer<Map> &map : m_project->maps())
-            maps.insert(map->id(), map->snapshot());
-    });
-    connect(bank, &QObject::destroyed, this, [this, bank] { m_pendingMaps.remove(bank); });
 }
 
-template <typename Asset, typename State>
-void EditRecorder::trackStructure(Asset *asset, QHash<Asset *, State> &pending)
+template <typename Asset, typename Edit>
+void EditRecorder::trackStructure(Asset *asset, QHash<Asset *, Edit> &pending)
 {
     connect(asset, &Asset::structureAboutToChange, this, [this, asset, &pending] {
         if (!m_restoring)
@@ -96,14 +118,11 @@ void EditRecorder::trackStructure(Asset *asset, QHash<Asset *, State> &pending)
     connect(asset, &Asset::structureChanged, this, [this, asset, &pending](const QString &text) {
         if (m_restoring || !pending.contains(asset))
             return;
-        State before = pending.take(asset);
-        State after = capture(*asset);
+        const Edit before = pending.take(asset);
+        const Edit after = capture(*asset);
         refreshAnimationStates();
-        auto command = std::make_unique<SnapshotCommand<State>>(
-            text, std::move(before), std::move(after), restorer<State>(asset), NeverMerges, QVariant(), NoTimeLimit);
-        if constexpr (std::is_same_v<Asset, SpriteBank>)
-            recordMaps(asset, *command);
-        push(asset->id(), std::move(command));
+        if (!after.looksLike(before))
+            push(asset->id(), command(text, *asset, before, after));
     });
     connect(asset, &QObject::destroyed, this, [asset, &pending] { pending.remove(asset); });
 }
@@ -146,10 +165,20 @@ void EditRecorder::recordAnimation(Anim *animation, const QUuid &documentId, QHa
     if (after == known.value())
         return;
     State before = std::exchange(known.value(), after);
+    const auto change = [recorder = QPointer(this), guarded = QPointer(animation),
+                         names = namesFor(*animation)](const State &from, const State &to) {
+        if (!recorder || !guarded)
+            return;
+        recorder->restore([&] {
+            const Renumbering since = Renumbering::since(names, namesFor(*guarded));
+            guarded->restore(
+                changed(guarded->state(), renumberedAnimation(from, since), renumberedAnimation(to, since)));
+        });
+    };
     push(documentId,
-         std::make_unique<SnapshotCommand<State>>(tr("Edit Frames"), std::move(before), std::move(after),
-                                                  restorer<State>(animation), AnimationCommandId<State>,
-                                                  animation->id().toString(), AnimationMergeInterval));
+         std::make_unique<SnapshotCommand<State>>(tr("Edit Frames"), std::move(before), std::move(after), change,
+                                                  AnimationCommandId<State>, animation->id().toString(),
+                                                  AnimationMergeInterval));
 }
 
 void EditRecorder::push(const QUuid &documentId, std::unique_ptr<QUndoCommand> command)
@@ -158,76 +187,97 @@ void EditRecorder::push(const QUuid &documentId, std::unique_ptr<QUndoCommand> c
         stack->push(command.release());
 }
 
-void EditRecorder::recordMaps(SpriteBank *bank, QUndoCommand &command)
+TileSetEdit EditRecorder::capture(TileSet &tileSet) const
 {
-    const QHash<QUuid, Map::Snapshot> maps = m_pendingMaps.take(bank);
-    for (auto before = maps.cbegin(); m_project && before != maps.cend(); ++before) {
-        const QPointer<Map> map = m_project->map(before.key());
-        if (map && map->sprites() != before->sprites) // the command belongs to its parent
-            new MapEditCommand(command.text(), map, *before, map->snapshot(), &command);
-    }
-}
-
-EditRecorder::TileSetEdit EditRecorder::capture(const TileSet &tileSet) const
-{
-    TileSetEdit edit{.tiles = tileSet.snapshot(), .maps = {}, .animations = {}};
+    TileSetEdit edit{
+        .tiles = tileSet.snapshot(), .maps = {}, .animations = {}, .names = Numbering::of(tileSet).names()};
     if (!m_project)
         return edit;
     for (const QPointer<Map> &map : m_project->maps()) {
         if (map->tileSet() == &tileSet)
             edit.maps.insert(map->id(), map->snapshot());
     }
-    for (const QPointer<MapObjects> &blocks : m_project->blockSets()) {
-        if (blocks->tileSet() != &tileSet)
-            continue;
-        for (const QPointer<TileAnimation> &animation : blocks->animations())
-            edit.animations.insert(animation->id(), animation->state());
-    }
+    for (const QPointer<TileAnimation> &animation : animationsOf(*m_project, tileSet))
+        edit.animations.insert(animation->id(), animation->state());
     return edit;
 }
 
-SpriteBank::State EditRecorder::capture(const SpriteBank &bank) const
+SpriteBankEdit EditRecorder::capture(SpriteBank &bank) const
 {
-    return bank.snapshot();
+    SpriteBankEdit edit{.bank = bank.snapshot(), .maps = {}, .names = Numbering::of(bank).names()};
+    if (!m_project)
+        return edit;
+    for (const QPointer<Map> &map : m_project->maps())
+        edit.maps.insert(map->id(), map->sprites());
+    return edit;
 }
 
-template <typename State, typename Asset>
-std::function<void(const State &)> EditRecorder::restorer(Asset *asset)
+std::unique_ptr<QUndoCommand> EditRecorder::command(const QString &text, TileSet &tileSet, const TileSetEdit &before,
+                                                    const TileSetEdit &after)
 {
-    return [recorder = QPointer<EditRecorder>(this), asset = QPointer<Asset>(asset)](const State &state) {
-        if (!recorder || !asset)
+    return structureCommand<TileSetEdit>(text, turner(tileSet, TileSetChange(before, after)));
+}
+
+std::unique_ptr<QUndoCommand> EditRecorder::command(const QString &text, SpriteBank &bank, const SpriteBankEdit &before,
+                                                    const SpriteBankEdit &after)
+{
+    return structureCommand<SpriteBank::State>(text, turner(bank, SpriteBankChange(before, after, bank.id())));
+}
+
+template <typename Asset, typename Change>
+std::function<void()> EditRecorder::turner(Asset &asset, const Change &change)
+{
+    return [recorder = QPointer(this), guarded = QPointer(&asset), way = change]() mutable {
+        if (!recorder || !guarded)
             return;
-        {
-            const QScopedValueRollback restoring(recorder->m_restoring, true);
-            recorder->putBack(*asset, state);
-        }
-        recorder->refreshAnimationStates();
+        const auto now = recorder->capture(*guarded);
+        const auto next = way.undone(now);
+        recorder->restore([&] { recorder->put(*guarded, now, next); });
+        way = way.turned(now, next);
     };
 }
 
-template <typename Asset, typename State>
-void EditRecorder::putBack(Asset &asset, const State &state)
+void EditRecorder::put(TileSet &tileSet, const TileSetEdit &now, const TileSetEdit &next)
 {
-    asset.restore(state);
-}
-
-void EditRecorder::putBack(TileSet &tileSet, const TileSetEdit &state)
-{
-    tileSet.restore(state.tiles);
+    Numbering::of(tileSet).setNames(next.names);
+    tileSet.restore(next.tiles);
     if (!m_project)
         return;
-    for (auto snapshot = state.maps.cbegin(); snapshot != state.maps.cend(); ++snapshot) {
-        if (const QPointer<Map> map = m_project->map(snapshot.key()))
-            map->restore(snapshot.value());
+    for (auto content = next.maps.cbegin(); content != next.maps.cend(); ++content) {
+        const QPointer<Map> map = m_project->map(content.key());
+        if (map && *content != now.maps.value(content.key()))
+            map->restore(*content);
     }
-    for (const QPointer<MapObjects> &blocks : m_project->blockSets()) {
-        if (blocks->tileSet() != &tileSet)
+    for (const QPointer<TileAnimation> &animation : animationsOf(*m_project, tileSet)) {
+        const TileAnimation::State state = next.animations.value(animation->id());
+        if (state != now.animations.value(animation->id()))
+            animation->restore(state);
+    }
+}
+
+void EditRecorder::put(SpriteBank &bank, const SpriteBankEdit &now, const SpriteBankEdit &next)
+{
+    Numbering::of(bank).setNames(next.names);
+    SpriteBank::State state = next.bank;
+    state.animations.removeIf([&now](auto entry) { return entry.value() == now.bank.animations.value(entry.key()); });
+    bank.restore(state);
+    for (auto sprites = next.maps.cbegin(); m_project && sprites != next.maps.cend(); ++sprites) {
+        const QPointer<Map> map = m_project->map(sprites.key());
+        if (!map || *sprites == now.maps.value(sprites.key()))
             continue;
-        for (const QPointer<TileAnimation> &animation : blocks->animations()) {
-            if (const auto known = state.animations.constFind(animation->id()); known != state.animations.cend())
-                animation->restore(known.value());
-        }
+        Map::Snapshot content = map->snapshot();
+        content.sprites = *sprites;
+        map->restore(content);
     }
+}
+
+void EditRecorder::restore(const std::function<void()> &steps)
+{
+    {
+        const QScopedValueRollback restoring(m_restoring, true);
+        steps();
+    }
+    refreshAnimationStates();
 }
 
 void EditRecorder::refreshAnimationStates()

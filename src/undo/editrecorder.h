@@ -1,11 +1,9 @@
 #pragma once
 
-#include "model/map.h"
 #include "model/project.h"
 #include "model/spriteanim.h"
-#include "model/spritebank.h"
 #include "model/tileanimation.h"
-#include "model/tileset.h"
+#include "undo/structurechange.h"
 
 #include <QHash>
 #include <QObject>
@@ -24,7 +22,8 @@ class QUndoStack;
 ///
 /// The model knows nothing of undo, it only emits its signals. Pixel edits and map edits are not
 /// recorded here: their editors push commands of their own. Assets that the project gains later are
-/// watched as well.
+/// watched as well. Steps of different documents may be undone in any order: each takes back what its edit
+/// changed, and leaves alone what others did since.
 class EditRecorder final : public QObject
 {
     Q_OBJECT
@@ -33,15 +32,7 @@ public:
     /// The undo stack for an edit of the asset with this id; null leaves the edit unrecorded.
     using StackProvider = std::function<QUndoStack *(const QUuid &)>;
 
-    /// A tile set together with everything that a structural edit of it changes.
-    struct TileSetEdit
-    {
-        TileSet::Snapshot tiles;
-        /// The maps that use the tile set, by their ids.
-        QHash<QUuid, Map::Snapshot> maps;
-        /// The tile animations of the block sets bound to the tile set, by their ids.
-        QHash<QUuid, TileAnimation::State> animations;
-    };
+    using TileSetEdit = ::TileSetEdit;
 
     EditRecorder(Project *project, StackProvider stackFor, QObject *parent = nullptr);
     ~EditRecorder() override;
@@ -53,8 +44,8 @@ private:
     void trackSprites(SpriteBank *bank);
 
     /// Records what happens between structureAboutToChange() and structureChanged() of a tile set or bank.
-    template <typename Asset, typename State>
-    void trackStructure(Asset *asset, QHash<Asset *, State> &pending);
+    template <typename Asset, typename Edit>
+    void trackStructure(Asset *asset, QHash<Asset *, Edit> &pending);
     /// Tracks the animations of a block set or bank, now and whenever it gains some.
     template <typename Owner, typename Anim, typename State>
     void trackAnimations(Owner *owner, QHash<Anim *, State> &states);
@@ -66,19 +57,24 @@ private:
     void recordAnimation(Anim *animation, const QUuid &documentId, QHash<Anim *, State> &states);
     void push(const QUuid &documentId, std::unique_ptr<QUndoCommand> command);
 
-    /// What happened to the maps of the project while the structure of a bank was edited (sprites placed on
-    /// them follow) becomes part of the command of that edit.
-    void recordMaps(SpriteBank *bank, QUndoCommand &command);
+    [[nodiscard]] TileSetEdit capture(TileSet &tileSet) const;
+    [[nodiscard]] SpriteBankEdit capture(SpriteBank &bank) const;
 
-    [[nodiscard]] TileSetEdit capture(const TileSet &tileSet) const;
-    [[nodiscard]] SpriteBank::State capture(const SpriteBank &bank) const;
+    /// The step for what a structural edit changed.
+    [[nodiscard]] std::unique_ptr<QUndoCommand> command(const QString &text, TileSet &tileSet,
+                                                        const TileSetEdit &before, const TileSetEdit &after);
+    [[nodiscard]] std::unique_ptr<QUndoCommand> command(const QString &text, SpriteBank &bank,
+                                                        const SpriteBankEdit &before, const SpriteBankEdit &after);
+    /// What such a step calls to take the change back, or back again, wherever the asset is by then. It does nothing
+    /// when the asset is gone.
+    template <typename Asset, typename Change>
+    [[nodiscard]] std::function<void()> turner(Asset &asset, const Change &change);
+    /// Puts what has become of the asset into it, as far as that is not there already.
+    void put(TileSet &tileSet, const TileSetEdit &now, const TileSetEdit &next);
+    void put(SpriteBank &bank, const SpriteBankEdit &now, const SpriteBankEdit &next);
 
-    /// What a command calls to put a state into the asset. It does nothing when the asset is gone.
-    template <typename State, typename Asset>
-    [[nodiscard]] std::function<void(const State &)> restorer(Asset *asset);
-    void putBack(TileSet &tileSet, const TileSetEdit &state);
-    template <typename Asset, typename State>
-    void putBack(Asset &asset, const State &state);
+    /// Does what an undo step does; nothing is recorded meanwhile.
+    void restore(const std::function<void()> &steps);
     /// Takes over the present state of every tracked animation, so that what was changed by an undo step
     /// or a structural edit is not recorded once more.
     void refreshAnimationStates();
@@ -92,6 +88,5 @@ private:
     QHash<SpriteAnim *, Animation::State> m_spriteAnimationStates;
     // Taken when a structural edit began that has not ended yet.
     QHash<TileSet *, TileSetEdit> m_pendingTileSets;
-    QHash<SpriteBank *, SpriteBank::State> m_pendingSpriteBanks;
-    QHash<SpriteBank *, QHash<QUuid, Map::Snapshot>> m_pendingMaps; ///< by their ids
+    QHash<SpriteBank *, SpriteBankEdit> m_pendingSpriteBanks;
 };

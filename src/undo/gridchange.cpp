@@ -2,37 +2,100 @@
 
 #include <algorithm>
 #include <functional>
+#include <limits>
+#include <numeric>
 #include <tuple>
 
 namespace {
 
-/// Whether two contents are grids of the same number of rows and columns.
-bool sameShape(const TileMap::Rows &a, const TileMap::Rows &b)
+template <typename Rows>
+QSize sizeOf(const Rows &rows)
 {
-    const auto sameWidth = [](const TileMap::Row &first, const TileMap::Row &second) {
-        return first.size() == second.size();
-    };
+    return {rows.isEmpty() ? 0 : int(rows.constFirst().size()), int(rows.size())};
+}
+
+/// Whether two contents are grids of the same number of rows and columns.
+template <typename Rows>
+bool sameShape(const Rows &a, const Rows &b)
+{
+    const auto sameWidth = [](const auto &first, const auto &second) { return first.size() == second.size(); };
     return std::equal(a.cbegin(), a.cend(), b.cbegin(), b.cend(), sameWidth);
 }
 
-void write(TileMap::Rows &rows, qsizetype row, qsizetype column, const TileMap::Row &cells)
+template <typename Row>
+void write(QList<Row> &rows, qsizetype row, qsizetype column, const Row &cells)
 {
     if (row >= rows.size() || column >= rows.at(row).size())
         return;
-    TileMap::Row &target = rows[row];
+    Row &target = rows[row];
     if (column == 0 && cells.size() == target.size())
         target = cells; // shared, not copied
     else
         std::copy_n(cells.cbegin(), std::min(cells.size(), target.size() - column), target.begin() + column);
 }
 
+/// Writes only over cells that are as expected.
+template <typename Row>
+void writeOver(const Row &expected, QList<Row> &rows, qsizetype row, qsizetype column, const Row &cells)
+{
+    if (row >= rows.size())
+        return;
+    const Row present = rows.at(row).mid(column, cells.size());
+    if (present == expected) {
+        write(rows, row, column, cells);
+        return;
+    }
+    for (qsizetype i = 0; i < present.size(); ++i) {
+        if (present.at(i) == expected.at(i))
+            rows[row][column + i] = cells.at(i);
+    }
+}
+
+/// How many cells differ where two contents overlap, the second one being shifted; it stops counting at a bound.
+template <typename Rows>
+qint64 differences(const Rows &before, const Rows &after, QPoint shift, qint64 bound)
+{
+    const QRect overlap = QRect(shift, sizeOf(before)) & QRect(QPoint(), sizeOf(after));
+    qint64 count = 0;
+    for (int y = overlap.top(); y <= overlap.bottom() && count < bound; ++y) {
+        const auto first = after.at(y).cbegin() + overlap.left();
+        count += std::inner_product(first, first + overlap.width(),
+                                    before.at(y - shift.y()).cbegin() + overlap.left() - shift.x(), qint64(0),
+                                    std::plus<>(), std::not_equal_to<>());
+    }
+    return count;
+}
+
+/// By how much the content moved when a grid was resized: it stays at the left, in the middle or at the right, and
+/// likewise up and down, whichever leaves the fewest cells that differ.
+template <typename Rows>
+QPoint shiftBetween(const Rows &before, const Rows &after)
+{
+    const QSize growth = sizeOf(after) - sizeOf(before);
+    QPoint best;
+    qint64 fewest = std::numeric_limits<qint64>::max();
+    for (const int y : {0, growth.height(), growth.height() / 2}) {
+        for (const int x : {0, growth.width(), growth.width() / 2}) {
+            if (const qint64 count = differences(before, after, {x, y}, fewest); count < fewest) {
+                fewest = count;
+                best = {x, y};
+            }
+            if (fewest == 0)
+                return best;
+        }
+    }
+    return best;
+}
+
 } // namespace
 
-GridChange::GridChange(const TileMap::Rows &before, const TileMap::Rows &after) : m_resized(!sameShape(before, after))
+template <typename Cell>
+GridChange<Cell>::GridChange(const Rows &before, const Rows &after) : m_resized(!sameShape(before, after))
 {
     if (m_resized) {
         m_before = before;
         m_after = after;
+        m_shift = shiftBetween(before, after);
         return;
     }
     for (qsizetype row = 0; row < before.size(); ++row) {
@@ -42,16 +105,42 @@ GridChange::GridChange(const TileMap::Rows &before, const TileMap::Rows &after) 
     }
 }
 
-void GridChange::apply(Side side, TileMap::Rows &rows) const
+template <typename Cell>
+void GridChange<Cell>::apply(EditSide side, Rows &rows) const
 {
-    const bool back = side == Side::Before;
     if (m_resized)
-        rows = back ? m_before : m_after;
+        rows = resized(side, rows);
     for (const Run &run : m_runs)
-        write(rows, run.row, run.column, back ? run.before : run.after);
+        write(rows, run.row, run.column, side == EditSide::Before ? run.before : run.after);
 }
 
-void GridChange::addRunsOf(qsizetype row, const TileMap::Row &before, const TileMap::Row &after)
+template <typename Cell>
+void GridChange<Cell>::applyWhereUntouched(EditSide side, Rows &rows) const
+{
+    const bool back = side == EditSide::Before;
+    if (m_resized)
+        rows = resized(side, rows);
+    for (const Run &run : m_runs)
+        writeOver(back ? run.after : run.before, rows, run.row, run.column, back ? run.before : run.after);
+}
+
+template <typename Cell>
+GridChange<Cell> GridChange<Cell>::renumbered(const Renumbering &renumbering) const
+{
+    GridChange result = *this;
+    if (renumbering.changesNothing())
+        return result;
+    result.m_before = ::renumbered(m_before, renumbering);
+    result.m_after = ::renumbered(m_after, renumbering);
+    for (Run &run : result.m_runs) {
+        run.before = ::renumbered(Rows{run.before}, renumbering).constFirst();
+        run.after = ::renumbered(Rows{run.after}, renumbering).constFirst();
+    }
+    return result;
+}
+
+template <typename Cell>
+void GridChange<Cell>::addRunsOf(qsizetype row, const Row &before, const Row &after)
 {
     auto from = before.cbegin();
     auto to = after.cbegin();
@@ -65,3 +154,29 @@ void GridChange::addRunsOf(qsizetype row, const TileMap::Row &before, const Tile
         m_runs.append({row, column, before.mid(column, length), after.mid(column, length)});
     }
 }
+
+/// The content of the side, but with the cells that have changed since the edit.
+template <typename Cell>
+typename GridChange<Cell>::Rows GridChange<Cell>::resized(EditSide side, const Rows &rows) const
+{
+    const bool back = side == EditSide::Before;
+    const Rows &from = back ? m_after : m_before;
+    Rows to = back ? m_before : m_after;
+    const QPoint shift = back ? -m_shift : m_shift;
+    const QRect known = QRect(QPoint(), sizeOf(from)) & QRect(QPoint(), sizeOf(rows));
+    const QRect overlap = known.translated(shift) & QRect(QPoint(), sizeOf(to));
+    for (int y = overlap.top(); y <= overlap.bottom(); ++y) {
+        const Row &was = from.at(y - shift.y());
+        const Row &is = rows.at(y - shift.y());
+        if (was == is)
+            continue;
+        for (int x = overlap.left(); x <= overlap.right(); ++x) {
+            if (const Cell &cell = is.at(x - shift.x()); cell != was.at(x - shift.x()))
+                to[y][x] = cell;
+        }
+    }
+    return to;
+}
+
+template class GridChange<TileMap::TileData>;
+template class GridChange<AnimationFrame::Cell>;

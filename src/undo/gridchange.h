@@ -1,24 +1,41 @@
 #pragma once
 
+#include "model/animation.h"
 #include "model/tilemap.h"
+#include "undo/editside.h"
+#include "undo/numbering.h"
 
 #include <QList>
+#include <QPoint>
+#include <QRect>
+#include <QSize>
 
-/// The difference between two contents of a grid of cells: what an undo step keeps of a map layer.
+/// The difference between two contents of a grid of cells: what an undo step keeps of a map layer, or of a frame of
+/// an animation.
 ///
 /// It holds the runs of cells that differ, so its size follows the edit and not the grid; only when
 /// the edit changed the grid's size does it hold both contents. Runs that span a whole row share it with
 /// the contents that they were made from.
+template <typename Cell>
 class GridChange
 {
 public:
-    GridChange(const TileMap::Rows &before, const TileMap::Rows &after);
+    using Row = QList<Cell>;
+    using Rows = QList<Row>;
 
-    enum class Side { Before, After };
+    GridChange(const Rows &before, const Rows &after);
+
+    [[nodiscard]] bool changesNothing() const { return !m_resized && m_runs.isEmpty(); }
 
     /// Gives the cells that differ their content from before or after the change, and leaves the others as
-    /// they are. Cells outside the grid are skipped.
-    void apply(Side side, TileMap::Rows &rows) const;
+    /// they are. Cells outside the grid are skipped. A grid that was resized keeps, where it still reaches, the cells
+    /// that hold something else than they did on the other side.
+    void apply(EditSide side, Rows &rows) const;
+    /// The same, but only where cells hold what they did on the other side.
+    void applyWhereUntouched(EditSide side, Rows &rows) const;
+
+    /// The same change after what the cells name got other numbers.
+    [[nodiscard]] GridChange renumbered(const Renumbering &renumbering) const;
 
 private:
     /// Neighbouring cells of a row that differ.
@@ -26,14 +43,23 @@ private:
     {
         qsizetype row;
         qsizetype column;
-        TileMap::Row before;
-        TileMap::Row after;
+        Row before;
+        Row after;
     };
 
-    void addRunsOf(qsizetype row, const TileMap::Row &before, const TileMap::Row &after);
+    void addRunsOf(qsizetype row, const Row &before, const Row &after);
+    [[nodiscard]] Rows resized(EditSide side, const Rows &rows) const;
 
     QList<Run> m_runs;
     bool m_resized;
-    TileMap::Rows m_before; ///< these two only when resized
-    TileMap::Rows m_after;
+    // these only when resized
+    Rows m_before;
+    Rows m_after;
+    QPoint m_shift; ///< by how many cells the content moved
 };
+
+extern template class GridChange<TileMap::TileData>;
+extern template class GridChange<AnimationFrame::Cell>;
+
+using LayerChange = GridChange<TileMap::TileData>;
+using FrameChange = GridChange<AnimationFrame::Cell>;

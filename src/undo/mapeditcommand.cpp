@@ -1,23 +1,54 @@
 #include "undo/mapeditcommand.h"
 
-MapEditCommand::MapEditCommand(const QString &text, Map *map, const Map::Snapshot &before, const Map::Snapshot &after,
-                               QUndoCommand *parent)
-    : QUndoCommand(text, parent)
+#include "model/project.h"
+#include "model/spritebank.h"
+#include "model/tileset.h"
+#include "undo/structurechange.h"
+
+namespace {
+
+Numbering::Names tileNamesOf(const Map *map)
+{
+    const QPointer<TileSet> tileSet = map ? map->tileSet() : nullptr;
+    return tileSet ? Numbering::of(*tileSet).names() : Numbering::Names();
+}
+
+/// Of the bank that sprites on a map name; none when it is gone, or the map is in no project.
+Numbering::Names spriteNamesOf(const Map *map, const QUuid &bankId)
+{
+    const auto *project = map ? qobject_cast<Project *>(map->parent()) : nullptr;
+    const QPointer<SpriteBank> bank = project ? project->spriteBank(bankId) : nullptr;
+    return bank ? Numbering::of(*bank).names() : Numbering::Names();
+}
+
+} // namespace
+
+MapEditCommand::MapEditCommand(const QString &text, Map *map, const Map::Snapshot &before, const Map::Snapshot &after)
+    : QUndoCommand(text)
     , m_map(map)
     , m_tiles(before.tiles, after.tiles)
     , m_objects(before.objects, after.objects)
+    , m_placements(before.placements, after.placements)
+    , m_sprites(before.sprites, after.sprites)
+    , m_tileNames(tileNamesOf(map))
 {
-    if (before.placements != after.placements)
-        m_placements = {before.placements, after.placements};
-    if (before.sprites != after.sprites)
-        m_sprites = {before.sprites, after.sprites};
+    noteBanksOf(m_sprites.before());
+    noteBanksOf(m_sprites.after());
 }
 
 MapEditCommand::~MapEditCommand() = default;
 
+void MapEditCommand::noteBanksOf(const QList<Map::PlacedSprite> &sprites)
+{
+    for (const Map::PlacedSprite &sprite : sprites) {
+        if (!m_spriteNames.contains(sprite.bank))
+            m_spriteNames.insert(sprite.bank, spriteNamesOf(m_map, sprite.bank));
+    }
+}
+
 void MapEditCommand::undo()
 {
-    apply(GridChange::Side::Before);
+    apply(EditSide::Before);
     m_applied = false;
 }
 
@@ -25,18 +56,31 @@ void MapEditCommand::redo()
 {
     if (m_applied)
         return;
-    apply(GridChange::Side::After);
+    apply(EditSide::After);
     m_applied = true;
 }
 
-void MapEditCommand::apply(GridChange::Side side)
+MapEditCommand::SpritesChange MapEditCommand::spritesChange() const
+{
+    QList<Map::PlacedSprite> before = m_sprites.before();
+    QList<Map::PlacedSprite> after = m_sprites.after();
+    for (auto names = m_spriteNames.cbegin(); names != m_spriteNames.cend(); ++names) {
+        const Renumbering since = Renumbering::since(*names, spriteNamesOf(m_map, names.key()));
+        before = renumbered(before, names.key(), since);
+        after = renumbered(after, names.key(), since);
+    }
+    return {before, after};
+}
+
+void MapEditCommand::apply(EditSide side)
 {
     if (!m_map)
         return;
     Map::Snapshot content = m_map->snapshot();
-    m_tiles.apply(side, content.tiles);
-    m_objects.apply(side, content.objects);
+    const Renumbering since = Renumbering::since(m_tileNames, tileNamesOf(m_map));
+    m_tiles.renumbered(since).apply(side, content.tiles);
+    m_objects.renumbered(since).apply(side, content.objects);
     m_placements.apply(side, content.placements);
-    m_sprites.apply(side, content.sprites);
+    spritesChange().apply(side, content.sprites);
     m_map->restore(content);
 }

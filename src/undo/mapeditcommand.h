@@ -2,48 +2,45 @@
 
 #include "model/animatedblocks.h"
 #include "model/map.h"
+#include "undo/editside.h"
 #include "undo/gridchange.h"
+#include "undo/listchange.h"
+#include "undo/numbering.h"
 
+#include <QHash>
 #include <QPointer>
 #include <QUndoCommand>
+#include <QUuid>
 
 /// Undo step of one edit of a map.
 ///
 /// The edit has been applied when the command is pushed, so the first redo does nothing. Of the two
 /// snapshots it keeps what differs between them: a stroke on a large map costs as much memory as on a
-/// small one, and undoing it leaves alone what was changed elsewhere in the meantime, for instance
-/// cells that follow tiles which were moved in their tile set.
+/// small one, and undoing it leaves alone what was changed elsewhere in the meantime. Tiles and sprites are
+/// meant, not their numbers, which other documents' edits of the tile set or a bank may have changed since.
 class MapEditCommand final : public QUndoCommand
 {
 public:
-    MapEditCommand(const QString &text, Map *map, const Map::Snapshot &before, const Map::Snapshot &after,
-                   QUndoCommand *parent = nullptr);
+    MapEditCommand(const QString &text, Map *map, const Map::Snapshot &before, const Map::Snapshot &after);
     ~MapEditCommand() override;
 
     void undo() override;
     void redo() override;
 
 private:
-    /// A list before and after the edit; both are empty when the edit did not change it.
-    template <typename Entry>
-    struct ListChange
-    {
-        void apply(GridChange::Side side, QList<Entry> &list) const
-        {
-            if (before != after)
-                list = side == GridChange::Side::Before ? before : after;
-        }
+    using SpritesChange = ListChange<Map::PlacedSprite>;
 
-        QList<Entry> before;
-        QList<Entry> after;
-    };
-
-    void apply(GridChange::Side side);
+    void apply(EditSide side);
+    void noteBanksOf(const QList<Map::PlacedSprite> &sprites);
+    /// The change of the placed sprites in the numbers that their banks have now.
+    [[nodiscard]] SpritesChange spritesChange() const;
 
     QPointer<Map> m_map;
-    GridChange m_tiles;
-    GridChange m_objects;
+    LayerChange m_tiles;
+    LayerChange m_objects;
     ListChange<AnimationProperties::State> m_placements;
-    ListChange<Map::PlacedSprite> m_sprites;
+    SpritesChange m_sprites;
+    Numbering::Names m_tileNames; ///< as all names, those of when the command was made
+    QHash<QUuid, Numbering::Names> m_spriteNames; ///< by bank
     bool m_applied = true;
 };

@@ -8,25 +8,33 @@
 #include <functional>
 #include <utility>
 
-/// Undo step that puts a whole state, a value, back into its asset.
+/// Undo step between two states, which are values, of an asset.
 ///
 /// The change has been applied when the command is pushed, so the first redo does nothing. Two
 /// commands of the same state type merge when their ids and merge keys are equal and the newer one
-/// follows within the merge interval; the limit slides, it counts from the edit merged last. Children, which
-/// have been applied as well, are undone and redone with it.
+/// follows within the merge interval; the limit slides, it counts from the edit merged last.
 template <typename State>
 class SnapshotCommand final : public QUndoCommand
 {
 public:
+    /// Puts a whole state into the asset.
     using Restore = std::function<void(const State &)>;
+    /// Takes what lies between two states back in the asset, which may have been changed elsewhere since.
+    using Change = std::function<void(const State &from, const State &to)>;
 
     /// id -1 never merges; a negative mergeInterval (milliseconds) sets no time limit.
     SnapshotCommand(const QString &text, State before, State after, Restore restore, int id, QVariant mergeKey,
                     qint64 mergeInterval)
+        : SnapshotCommand(text, std::move(before), std::move(after),
+                          Change([restore = std::move(restore)](const State &, const State &to) { restore(to); }), id,
+                          std::move(mergeKey), mergeInterval)
+    { }
+    SnapshotCommand(const QString &text, State before, State after, Change change, int id, QVariant mergeKey,
+                    qint64 mergeInterval)
         : QUndoCommand(text)
         , m_before(std::move(before))
         , m_after(std::move(after))
-        , m_restore(std::move(restore))
+        , m_change(std::move(change))
         , m_id(id)
         , m_mergeKey(std::move(mergeKey))
         , m_mergeInterval(mergeInterval)
@@ -34,8 +42,7 @@ public:
 
     void undo() override
     {
-        m_restore(m_before);
-        QUndoCommand::undo(); // its children
+        m_change(m_after, m_before);
         m_applied = false;
     }
 
@@ -43,8 +50,7 @@ public:
     {
         if (m_applied)
             return;
-        m_restore(m_after);
-        QUndoCommand::redo(); // its children
+        m_change(m_before, m_after);
         m_applied = true;
     }
 
@@ -65,7 +71,7 @@ public:
 private:
     State m_before;
     State m_after;
-    Restore m_restore;
+    Change m_change;
     int m_id;
     QVariant m_mergeKey;
     qint64 m_mergeInterval;

@@ -6,6 +6,7 @@
 #include "support/modeltools.h"
 #include "support/projectmembers.h"
 #include "support/randomuser.h"
+#include "support/sharedwork.h"
 #include "support/testmain.h"
 #include "ui/messagedialog.h"
 #include "undo/editclock.h"
@@ -97,6 +98,8 @@ public:
 private slots:
     void initTestCase()
     {
+        std::printf("Random actions with QUENMORA_SEED=%u\n", m_seed);
+        std::fflush(stdout);
         QHashSeed::setDeterministicGlobalSeed();
         Update::UpdateChecker::setFeedAddress({});
         EditClock::setSource([this] { return m_time; });
@@ -111,14 +114,7 @@ private slots:
 
     void holdsWhateverIsDone()
     {
-        bool given = false;
-        quint32 seed = quint32(qEnvironmentVariable("QUENMORA_SEED").toUInt(&given));
-        // A run among all tests does the same everywhere; one by hand looks for something new.
-        if (!given)
-            seed = secondsAsked() > 0 ? QRandomGenerator::system()->generate() : UsualSeed;
-        std::printf("Random actions with QUENMORA_SEED=%u\n", seed);
-        std::fflush(stdout);
-
+        const quint32 seed = m_seed;
         RandomUser user(*m_window, seed);
         startJournal();
         QElapsedTimer timer;
@@ -134,6 +130,27 @@ private slots:
             }
         }
         std::printf("%lld actions in %lld s\n", static_cast<long long>(trail.size()), timer.elapsed() / 1000LL);
+    }
+
+    void undoneIsWhatWasDone()
+    {
+        constexpr int StepsOfARound = 150;
+        SharedWork work(*m_window, m_seed);
+        QElapsedTimer timer;
+        timer.start();
+        int rounds = 0;
+        for (; timer.elapsed() < millisecondsToAct() / 6; ++rounds) {
+            work.begin();
+            for (int step = 0; step < StepsOfARound; ++step) {
+                m_time += 3'600'000;
+                work.act();
+                if (const auto [is, must] = work.compared(); is != must)
+                    QFAIL(qPrintable(
+                        QStringLiteral("Seed %1, round %2, after %3\nis\n%4\nmust be\n%5")
+                            .arg(QString::number(m_seed), QString::number(rounds), work.history(), is, must)));
+            }
+        }
+        std::printf("%d rounds of %d steps\n", rounds, StepsOfARound);
     }
 
     void cleanupTestCase()
@@ -355,8 +372,17 @@ private:
         startJournal();
     }
 
+    /// A run among all tests does the same everywhere; one by hand looks for something new.
+    static quint32 chosenSeed()
+    {
+        bool given = false;
+        const quint32 seed = qEnvironmentVariable("QUENMORA_SEED").toUInt(&given);
+        return given ? seed : secondsAsked() > 0 ? QRandomGenerator::system()->generate() : UsualSeed;
+    }
+
     QTemporaryDir m_folder;
     std::optional<MainWindow> m_window;
+    const quint32 m_seed = chosenSeed();
     qint64 m_time = 1; ///< an hour passes between two actions, so that no two of them merge
 
     // Since when all changes are on undo stacks: the steps in the order in which they were made.

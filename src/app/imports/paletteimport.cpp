@@ -106,12 +106,14 @@ void replaceWords(Palette &palette, const Palette &words, QUndoStack *stack)
     setWords(palette, after);
     if (!stack)
         return;
-    const auto restore = [guarded = QPointer<Palette>(&palette)](const Words &state) {
-        if (guarded)
-            setWords(*guarded, state);
+    const auto change = [guarded = QPointer<Palette>(&palette)](const Words &from, const Words &to) {
+        for (int i = 0; guarded && i < Palette::Size; ++i) {
+            if (guarded->rawColour(i) == from[i]) // colours that were edited since stay
+                guarded->setRawColour(i, to[i]);
+        }
     };
     stack->push(new SnapshotCommand<Words>(QCoreApplication::translate("PaletteImport", "Import Palette"), before,
-                                           after, restore, NeverMerges, QVariant(), NoTimeLimit));
+                                           after, change, NeverMerges, QVariant(), NoTimeLimit));
 }
 
 Palette *createPaletteOf(Project &project, const QString &name, const QList<QRgb> &colours)

@@ -6,6 +6,7 @@
 #include "editors/palette/colourpalette.h"
 #include "ui/sectionheader.h"
 #include "ui/toolpalette.h"
+#include "undo/numbering.h"
 #include "undo/snapshotcommand.h"
 
 #include <QFormLayout>
@@ -218,16 +219,17 @@ void SpriteWindow::pushEdit(const QString &text, const QImage &before, const QIm
 {
     if (!m_sprites || !m_stackFor)
         return;
-    const auto apply = [window = QPointer(this), bank = m_sprites, index = m_index](const QImage &image) {
-        if (window)
-            window->applyEdit(bank, index, image);
+    const int name = Numbering::of(*m_sprites).nameAt(m_index); // the sprite may have another number later
+    const auto apply = [window = QPointer(this), bank = m_sprites, name](const QImage &image) {
+        if (window && bank)
+            window->applyEdit(bank, Numbering::of(*bank).numberOf(name), image);
     };
-    push(m_stackFor(m_sprites->id()), text, before, after, apply, mergeKey(m_sprites->id(), m_index), kind);
+    push(m_stackFor(m_sprites->id()), text, before, after, apply, mergeKey(m_sprites->id(), name), kind);
 }
 
 void SpriteWindow::applyEdit(const QPointer<SpriteBank> &bank, int index, const QImage &image)
 {
-    if (!bank || index >= bank->count())
+    if (!bank || index < 0 || index >= bank->count())
         return;
     if (bank == m_sprites && index == m_index)
         canvas()->setImage(image);

@@ -8,6 +8,7 @@
 #include "ui/expandablesection.h"
 #include "ui/numberstepper.h"
 #include "ui/toolpalette.h"
+#include "undo/numbering.h"
 
 #include <QFormLayout>
 #include <QHBoxLayout>
@@ -222,11 +223,12 @@ void TileWindow::pushEdit(const QString &text, const QImage &before, const QImag
 {
     if (!m_tileSet || !m_stackFor)
         return;
-    const auto apply = [window = QPointer(this), tileSet = m_tileSet, index = tileIndex()](const QImage &image) {
-        if (window)
-            window->applyEdit(tileSet, index, image);
+    const int name = Numbering::of(*m_tileSet).nameAt(tileIndex()); // the tile may have another number later
+    const auto apply = [window = QPointer(this), tileSet = m_tileSet, name](const QImage &image) {
+        if (window && tileSet)
+            window->applyEdit(tileSet, Numbering::of(*tileSet).numberOf(name), image);
     };
-    push(m_stackFor(m_tileSet->id()), text, before, after, apply, mergeKey(m_tileSet->id(), tileIndex()), kind);
+    push(m_stackFor(m_tileSet->id()), text, before, after, apply, mergeKey(m_tileSet->id(), name), kind);
 }
 
 void TileWindow::applyEdit(const QPointer<TileSet> &tileSet, int index, const QImage &image)

@@ -1,0 +1,101 @@
+#pragma once
+
+#include <QHash>
+#include <QList>
+#include <QObject>
+
+#include <functional>
+#include <optional>
+
+class SpriteBank;
+class TileSet;
+
+/// Names for the tiles of a tile set, or the sprites of a bank, that stay theirs when their numbers change.
+///
+/// An undo step is made at one time and applied at another, and steps of other documents may have inserted, deleted
+/// or moved tiles in between: what a step calls tile 7 may be tile 6 by then. It keeps the names, which lead from the
+/// numbers of the one time to those of the other. A tile whose deletion is undone has its old name again. The numbering
+/// is a child of the asset, made when somebody first asks for it; until tiles change places, names are numbers.
+class Numbering final : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The names in the order of the numbers. No two are the same.
+    using Names = QList<int>;
+
+    [[nodiscard]] static Numbering &of(TileSet &tileSet);
+    [[nodiscard]] static Numbering &of(SpriteBank &bank);
+
+    [[nodiscard]] const Names &names();
+    /// Sets which tile is which, after the asset was given other contents.
+    void setNames(const Names &names) { m_names = names; }
+
+    /// The name of a tile or sprite; -1 outside the asset.
+    [[nodiscard]] int nameAt(int number) { return names().value(number, -1); }
+    /// Where the one of this name is now; -1 when it is gone.
+    [[nodiscard]] int numberOf(int name) { return int(names().indexOf(name)); }
+
+private:
+    template <typename Asset>
+    static Numbering &numberingOf(Asset &asset);
+
+    Numbering(QObject *asset, std::function<int()> count);
+    void follow(TileSet &tileSet);
+    void follow(SpriteBank &bank);
+    /// Gives names to what was appended without a word, and forgets what was cut off.
+    void fit(int count);
+
+    std::function<int()> m_count;
+    Names m_names;
+    int m_nextName = 0;
+};
+
+/// What becomes of the numbers when things are inserted, deleted and moved.
+class Renumbering
+{
+public:
+    Renumbering(const Numbering::Names &from, const Numbering::Names &to);
+    /// What became of the numbers since a step was made; nothing when it knew no names, or there are none now because
+    /// the asset is gone.
+    [[nodiscard]] static Renumbering since(const Numbering::Names &made, const Numbering::Names &now)
+    {
+        return {made, made.isEmpty() || now.isEmpty() ? made : now};
+    }
+
+    [[nodiscard]] bool changesNothing() const { return m_changesNothing; }
+    /// The new number; none when what had it is gone. Numbers that the asset never had stay as far behind its
+    /// end as they are.
+    [[nodiscard]] std::optional<int> operator()(int number) const;
+
+private:
+    bool m_changesNothing;
+    QList<int> m_numbers; ///< -1 for what is gone
+    int m_growth;
+};
+
+/// A grid whose cells name tiles or sprites, renumbered; cells show number 0 in place of what is gone. Rows that do
+/// not change, or are shared, stay so.
+template <typename Cell>
+[[nodiscard]] QList<QList<Cell>> renumbered(const QList<QList<Cell>> &rows, const Renumbering &renumbering)
+{
+    if (renumbering.changesNothing())
+        return rows;
+    QHash<const Cell *, QList<Cell>> results; // rows that share their storage are looked at once
+    QList<QList<Cell>> all = rows;
+    for (qsizetype i = 0; i < rows.size(); ++i) {
+        const QList<Cell> &row = rows.at(i);
+        auto result = results.find(row.constData());
+        if (result == results.end()) {
+            result = results.insert(row.constData(), row);
+            for (qsizetype column = 0; column < row.size(); ++column) {
+                const int number = row.at(column).index;
+                if (const int renamed = renumbering(number).value_or(0); renamed != number)
+                    (*result)[column].index = renamed;
+            }
+        }
+        if (result->constData() != row.constData())
+            all[i] = *result;
+    }
+    return all;
+}
