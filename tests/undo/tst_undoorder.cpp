@@ -1,0 +1,238 @@
+#include "model/mapobjects.h"
+#include "model/palette.h"
+#include "support/modeltools.h"
+#include "support/testmain.h"
+#include "undo/editrecorder.h"
+#include "undo/mapeditcommand.h"
+
+#include <QTest>
+#include <QUndoStack>
+
+#include <functional>
+#include <optional>
+
+namespace {
+
+/// Assets that share a tile set and a bank. Tile n shows pixels n + 1 at first, and so does sprite n: edits name
+/// them by that, so that they mean the same with and without another edit before them.
+struct Scene
+{
+    Scene()
+    {
+        for (int i = 0; i < 8; ++i) {
+            if (i > 0)
+                bank->addSprite();
+            bank->setImage(i, plainImage({16, 16}, i + 1));
+            tileSet->setTileImage(i, plainImage({8, 8}, i + 1));
+            level->setTile({i, 0}, {7 - i, false, true, false, i, true});
+            level->objectLayer()->setCell({i, 1}, {i, false, false, false, 0, true});
+            other->setTile({i, i % 4}, {i % 4, false, false, false, 0, true});
+            level->addSprite(placed(i + 1));
+            other->addSprite(placed(8 - i));
+        }
+        block->setSize({4, 1});
+        block->addFrame()->setCells({{{0}, {3}, {4}, {7}}});
+        walk->setSize({3, 1});
+        walk->frame(0)->setCells({{{0}, {3}, {4}}});
+        recorder.emplace(&project, [this](const QUuid &) { return front; });
+    }
+    int tile(int pixel) const
+    {
+        return find(
+            tileSet->count(), [&](int i) { return tileSet->image(i); }, pixel);
+    }
+    int sprite(int pixel) const
+    {
+        return find(
+            bank->count(), [&](int i) { return bank->spriteImage(i, false, false, false); }, pixel);
+    }
+    Map::PlacedSprite placed(int pixel, int x = 1) const
+    {
+        return {.bank = bank->id(), .animation = {}, .sprite = sprite(pixel), .x = x, .name = {}};
+    }
+    template <typename Edit>
+    void ofBank(Edit edit) const
+    {
+        emit bank->structureAboutToChange();
+        edit();
+        emit bank->structureChanged("Edit");
+    }
+    template <typename Edit>
+    void ofMap(const QPointer<Map> &map, Edit edit) const
+    {
+        const Map::Snapshot before = map->snapshot();
+        edit(*map);
+        front->push(new MapEditCommand("Edit", map, before, map->snapshot()));
+    }
+    QString contents() const
+    {
+        QString text;
+        QDebug out(&text);
+        for (const Tile::State &state : tileSet->snapshot())
+            out << state.image.pixelIndex(0, 0) << state.offset << state.attributes << state.value;
+        for (int i = 0; i < bank->count(); ++i)
+            out << "\nsprite" << bank->spriteImage(i, false, false, false).pixelIndex(0, 0);
+        for (const QPointer<Map> &map : project.maps()) {
+            for (const TileMap::Rows &layer : {map->tileLayer()->rows(), map->objectLayer()->rows()}) {
+                for (const TileMap::Row &row : layer) {
+                    out << "\n";
+                    for (const auto &cell : row)
+                        out << cell.index << cell.flip << cell.offset << cell.used << ',';
+                }
+            }
+            for (const Map::PlacedSprite &sprite : map->sprites())
+                out << "\nplaced" << sprite.sprite << sprite.x << sprite.flip;
+        }
+        for (const Animation *animation : std::initializer_list<Animation *>{block, walk}) {
+            out << "\nanimation" << animation->size() << animation->delay();
+            for (int frame = 0; frame < animation->frameCount(); ++frame) {
+                for (const auto &cell : animation->frame(frame)->cells().value(0))
+                    out << cell.index << cell.mirror;
+            }
+        }
+        return text;
+    }
+
+    Project project;
+    QPointer<Palette> palette = project.createPalette(CreateAction::DefaultNext, "Colours");
+    QPointer<TileSet> tileSet = project.createTileSet("Tiles", palette->id(), 8);
+    QPointer<Map> level = project.createMap("Level", tileSet->id(), {8, 2});
+    QPointer<Map> other = project.createMap("Other", tileSet->id(), {8, 4});
+    QPointer<MapObjects> blocks = project.createBlockList("Blocks", tileSet->id());
+    QPointer<TileAnimation> block = blocks->createBoundTileAnimation("Door");
+    QPointer<SpriteBank> bank = project.createSpriteBank(Quenmora::EightBit, "Sprites", palette->id());
+    QPointer<SpriteAnim> walk = bank->newAnimation();
+    QUndoStack first;
+    QUndoStack second;
+    QUndoStack *front = &first;
+    std::optional<EditRecorder> recorder;
+
+private:
+    static int find(int count, const std::function<QImage(int)> &picture, int pixel)
+    {
+        for (int i = 0; i < count; ++i) {
+            if (picture(i).pixelIndex(0, 0) == pixel)
+                return i;
+        }
+        return -1;
+    }
+};
+
+struct Edit
+{
+    const char *name;
+    std::function<void(Scene &)> run;
+};
+
+const QList<Edit> &edits()
+{
+    static const QList<Edit> all{
+        {"delete tile", [](Scene &s) { s.tileSet->deleteTile(s.tile(5)); }},
+        {"insert tile", [](Scene &s) { s.tileSet->insertTile(s.tile(1)); }},
+        {"move tile", [](Scene &s) { s.tileSet->moveTile(s.tile(8), s.tile(2)); }},
+        {"copy tile", [](Scene &s) { s.tileSet->copyTile(s.tile(2), s.tile(7)); }},
+        {"delete sprite", [](Scene &s) { s.ofBank([&] { s.bank->deleteSprite(s.sprite(4)); }); }},
+        {"move sprite", [](Scene &s) { s.ofBank([&] { s.bank->moveSprite(s.sprite(7), s.sprite(2)); }); }},
+        {"add sprite", [](Scene &s) { s.ofBank([&] { s.bank->addSprite(); }); }},
+        {"clear sprite", [](Scene &s) { s.ofBank([&] { s.bank->clearSprite(s.sprite(8)); }); }},
+        {"block frames", [](Scene &s) { s.block->frame(0)->setIndex(0, 0, s.tile(6)); }},
+        {"walk frames", [](Scene &s) { s.walk->setDelay(3), s.walk->addFrame()->setIndex(0, 0, s.sprite(6)); }},
+        {"fill and resize",
+         [](Scene &s) {
+             s.ofMap(s.other, [&s](Map &map) {
+                 map.setTiles({0, 0, 8, 4}, s.tile(4), false, false, false, true);
+                 map.resize({9, 5});
+             });
+         }},
+        {"shrink", [](Scene &s) { s.ofMap(s.level, [](Map &map) {
+                                      map.resize({6, 2});
+                                  }); }},
+        {"place sprites",
+         [](Scene &s) {
+             s.ofMap(s.other, [&s](Map &map) {
+                 for (int x = 2; x < 7; ++x)
+                     map.addSprite(s.placed(5, x));
+             });
+         }},
+        {"take sprite away", [](Scene &s) { s.ofMap(s.other, [](Map &map) { map.removeSprite(0); }); }},
+        {"unknown to undo",
+         [](Scene &s) {
+             s.tileSet->tile(s.tile(3))->setValue(9);
+             s.bank->setImage(s.sprite(5), plainImage({16, 16}, 50));
+             const QPointer<Map> map = s.project.createMap("New", s.tileSet->id(), {2, 1});
+             map->setTile({0, 0}, {s.tile(3), false, false, false, 0, true});
+             map->addSprite(s.placed(3));
+         }},
+    };
+    return all;
+}
+
+} // namespace
+
+class TestUndoOrder : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    /// Undone after another edit, on another stack, an edit leaves what that one would have made alone.
+    void undoLeavesWhatAnotherEditMade_data()
+    {
+        QTest::addColumn<Edit>("edit");
+        QTest::addColumn<Edit>("other");
+        const QStringList ofOneMap{"fill and resize", "place sprites", "take sprite away"}; // which are on one stack
+        for (const Edit &edit : edits()) {
+            for (const Edit &other : edits()) {
+                const bool onOneStack = ofOneMap.contains(edit.name) && ofOneMap.contains(other.name);
+                if (edit.name != other.name && !onOneStack && edit.name != edits().constLast().name)
+                    QTest::addRow("%s, %s", edit.name, other.name) << edit << other;
+            }
+        }
+    }
+    void undoLeavesWhatAnotherEditMade()
+    {
+        QFETCH(Edit, edit);
+        QFETCH(Edit, other);
+        Scene alone;
+        const QString atFirst = alone.contents();
+        other.run(alone);
+
+        Scene scene;
+        edit.run(scene);
+        const int steps = scene.first.count();
+        scene.front = &scene.second;
+        other.run(scene);
+        const QString both = scene.contents();
+        scene.first.setIndex(0);
+        QCOMPARE(scene.contents(), alone.contents());
+        scene.first.setIndex(steps);
+        QCOMPARE(scene.contents(), both);
+        scene.second.setIndex(0);
+        scene.second.setIndex(scene.second.count());
+        QCOMPARE(scene.contents(), both);
+        QVERIFY(scene.first.count() == steps && scene.second.count() <= 2);
+
+        if (other.name == edits().constLast().name)
+            return;
+        scene.second.setIndex(0);
+        scene.first.setIndex(0);
+        QCOMPARE(scene.contents(), atFirst);
+    }
+
+    void editsWithoutAChangeLeaveNoStep()
+    {
+        Scene scene;
+        scene.tileSet->setTileImage(6, scene.tileSet->image(1));
+        scene.tileSet->copyTile(1, 6);
+        scene.bank->clearSprite(3);
+        scene.ofBank([&] { scene.bank->clearSprite(3); });
+        scene.ofBank([&] { scene.bank->copySprite(2, 2); });
+        scene.ofBank([&] { scene.bank->moveSprite(2, 2); });
+        scene.ofBank([&] { scene.bank->deleteSprite(99); });
+        QCOMPARE(scene.first.count(), 0);
+        scene.ofBank([&] { scene.bank->clearSprite(2); });
+        QCOMPARE(scene.first.count(), 1);
+    }
+};
+
+QUENMORA_TEST_MAIN(TestUndoOrder)
+#include "tst_undoorder.moc"
