@@ -14,6 +14,7 @@
 #include "model/palette.h"
 #include "model/spritebank.h"
 #include "model/tileset.h"
+#include "ui/plaintext.h"
 #include "ui/titlewidth.h"
 
 #include <QClipboard>
@@ -239,7 +240,7 @@ void ProjectActions::reportIncompleteImport(const QString &failure)
         m_importBox = new QMessageBox(QMessageBox::Warning, QCoreApplication::applicationName(),
                                       tr("Import Incomplete"), QMessageBox::Ok, m_dialogParent);
     }
-    m_importBox->setInformativeText(failure);
+    m_importBox->setInformativeText(plainText(failure));
     widenForTitle(*m_importBox);
     m_importBox->open();
 }

@@ -28,6 +28,7 @@ DialogBase::DialogBase(const QString &title, QWidget *parent)
     QFont bold = m_header->font();
     bold.setBold(true);
     m_header->setFont(bold);
+    m_header->setTextFormat(Qt::PlainText);
     m_header->hide();
 
     m_form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);

@@ -1,5 +1,7 @@
 #include "ui/sectionheader.h"
 
+#include "ui/plaintext.h"
+
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -37,5 +39,5 @@ QString SectionHeader::text() const
 void SectionHeader::setText(const QString &text)
 {
     m_text->setText(text);
-    m_text->setToolTip(text);
+    m_text->setToolTip(plainText(text));
 }

@@ -1,6 +1,7 @@
 #include "app/menus/filemenu.h"
 
 #include "app/dialogs/projectdialog.h"
+#include "ui/plaintext.h"
 
 #include <QFileInfo>
 #include <QToolBar>
@@ -96,7 +97,7 @@ void FileMenu::rebuildRecentMenu()
         // an ampersand of the name is no mnemonic
         QAction *entry = m_recentMenu->addAction(QFileInfo(path).fileName().replace(u'&', QStringLiteral("&&")));
         entry->setProperty("filePath", path);
-        entry->setToolTip(path);
+        entry->setToolTip(plainText(path));
         connect(entry, &QAction::triggered, this, [this, path] { emit openProject(path); });
         m_recentProjects.append(entry);
     }

@@ -1,5 +1,6 @@
 #include "editors/common/animationlistwidget.h"
 
+#include "ui/plaintext.h"
 #include "ui/quietlist.h"
 #include "ui/repeatedpress.h"
 #include "ui/svgiconengine.h"
@@ -164,13 +165,12 @@ void AnimationListWidget::updateText(int row)
         return;
     QListWidgetItem *item = m_list->item(row);
     const QSize size = animation->size();
-    item->setText(m_flags.testFlag(Details) ? tr("%1\n%4 frame(s) [%2x%3]")
-                                                  .arg(animation->name())
-                                                  .arg(size.width())
-                                                  .arg(size.height())
-                                                  .arg(animation->frameCount())
-                                            : animation->name());
-    item->setToolTip(animation->name());
+    item->setText(m_flags.testFlag(Details)
+                      ? tr("%1\n%4 frame(s) [%2x%3]")
+                            .arg(animation->name(), QString::number(size.width()), QString::number(size.height()),
+                                 QString::number(animation->frameCount()))
+                      : animation->name());
+    item->setToolTip(plainText(animation->name()));
 }
 
 void AnimationListWidget::updatePicture(int row)
