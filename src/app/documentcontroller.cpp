@@ -75,6 +75,7 @@ void DocumentController::connectTabs()
     connect(m_views.tabs, &DocumentTabView::showAnimPicker, m_views.mapObjects, &QWidget::raise);
     const ImageEditor::View *scratch = m_views.tabs->scratchEditor();
     connect(scratch, &ImageEditor::View::error, this, &DocumentController::error);
+    connect(scratch, &ImageEditor::View::exported, this, &DocumentController::exported);
     connect(scratch, &ImageEditor::View::imageChanged, this, [this](const QImage &image) {
         if (project())
             project()->setScratchImage(image);
@@ -379,6 +380,7 @@ void DocumentController::setActiveImageEditor(QUuid imageId)
         ImageEditor::View *editor = m_views.tabs->openImageEditor(image);
         editor->setUndoStack(undoStackFor(imageId));
         connect(editor, &ImageEditor::View::error, this, &DocumentController::error);
+        connect(editor, &ImageEditor::View::exported, this, &DocumentController::exported);
         closeWith(image, editor);
     }
     setActivePalette(image->paletteId());

@@ -64,6 +64,8 @@ signals:
     void createMapFromSelection(QUuid mapId, QSize size);
     /// An editor could not read or write a file.
     void error(const QString &message);
+    /// An editor wrote an asset of that name to a file.
+    void exported(const QString &asset, const QString &filePath);
 
 private:
     void connectTabs();

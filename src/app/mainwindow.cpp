@@ -1,16 +1,19 @@
 #include "app/mainwindow.h"
 
+#include "app/exportmessages.h"
 #include "app/menus/editmenu.h"
 #include "app/menus/filemenu.h"
 #include "app/menus/helpmenu.h"
 #include "app/menus/spritemenu.h"
 #include "app/menus/tilemenu.h"
 #include "app/menus/viewmenu.h"
+#include "app/nextsteps.h"
 #include "app/startpage.h"
 #include "app/version.h"
 #include "editors/map/mapeditorview.h"
 #include "preferences/generalpage.h"
 #include "ui/messagedialog.h"
+#include "ui/plaintext.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -48,12 +51,13 @@ MainWindow::MainWindow(QWidget *parent)
     , m_documents(m_views, &m_projectController)
     , m_actions([this] { return m_projectController.project(); }, this)
     , m_layout(this, m_views, m_menuBar.viewMenu())
+    , m_exportMessages(new ExportMessages(statusBar()))
 {
+    PlainToolTips::enforce();
     m_mapToolBar.setEnabled(false);
     setUnifiedTitleAndToolBarOnMac(true);
     setDocumentMode(true);
     setAcceptDrops(true);
-    statusBar();
     setWindowTitle(QCoreApplication::applicationName());
     resize(DefaultSize);
     setWindowIcon(QIcon(QStringLiteral(":Application")));
@@ -101,9 +105,10 @@ void MainWindow::connectProjectController()
     connect(controller, &ProjectController::error, this, &MainWindow::showError);
 
     const ProjectStore *store = m_projectController.store();
-    connect(store, &ProjectStore::loadError, this, &MainWindow::showError);
-    connect(store, &ProjectStore::saveError, this, &MainWindow::showError);
+    connect(store, &ProjectStore::loadError, this, &MainWindow::onStoreError);
+    connect(store, &ProjectStore::saveError, this, &MainWindow::onStoreError);
     connect(store, &ProjectStore::showMessage, statusBar(), &QStatusBar::showMessage);
+    connect(store, &ProjectStore::exported, m_exportMessages, &ExportMessages::add);
 
     m_projectController.setBackupCallback([this] { return m_preferences.generalPage()->backupOnSave(); });
     m_projectController.setCleanCallbacks([this] { return m_documents.isClean(); }, [this] { m_documents.setClean(); });
@@ -111,11 +116,13 @@ void MainWindow::connectProjectController()
 
 void MainWindow::connectMenus()
 {
-    const auto showMessage = [this](const QString &text, const QString &title) {
-        messageDialog()->showMessage(text, title);
-    };
-    connect(&m_menuBar, &MenuBar::failed, this, showMessage);
-    connect(&m_actions, &ProjectActions::failed, this, showMessage);
+    connect(&m_menuBar, &MenuBar::failed, this,
+            [this](const QString &text, const QString &title, const QString &reason) {
+                messageDialog()->showMessage(text, title, reason);
+            });
+    connect(&m_menuBar, &MenuBar::exported, m_exportMessages, &ExportMessages::add);
+    connect(&m_actions, &ProjectActions::failed, this,
+            [this](const QString &text, const QString &title) { messageDialog()->showMessage(text, title); });
 
     connect(m_menuBar.fileMenu(), &FileMenu::displayPreferences, &m_preferences, &QDialog::open);
     connect(m_menuBar.fileMenu(), &FileMenu::quit, this, &QWidget::close);
@@ -147,12 +154,14 @@ void MainWindow::connectActions()
     connect(&m_actions, &ProjectActions::spritesReady, &m_documents, &DocumentController::setActiveSpriteEditor);
     connect(&m_actions, &ProjectActions::itemDeleted, &m_documents, &DocumentController::forget);
     connect(&m_documents, &DocumentController::error, this, &MainWindow::showError);
+    connect(&m_documents, &DocumentController::exported, m_exportMessages, &ExportMessages::add);
     connect(&m_documents, &DocumentController::createMapFromSelection, &m_actions,
             &ProjectActions::createMapFromSelection);
 }
 
 void MainWindow::connectDocks()
 {
+    m_projectDock.setNextSteps(new NextSteps(m_menuBar));
     connect(&m_projectDock, &ProjectWindow::deleteItemTriggered, &m_actions, &ProjectActions::deleteItem);
     connect(&m_projectDock, &ProjectWindow::copyItemTriggered, &m_actions, &ProjectActions::copyItem);
     connect(&m_paletteDock, &PaletteWindow::deleteRequested, &m_actions,
@@ -301,6 +310,11 @@ MessageDialog *MainWindow::messageDialog()
 void MainWindow::showError(const QString &message)
 {
     messageDialog()->showMessage(message);
+}
+
+void MainWindow::onStoreError(const QString &message)
+{
+    messageDialog()->showMessage(message, MessageDialog::defaultTitle(), m_projectController.store()->errorDetail());
 }
 
 void MainWindow::messageChanged(const QString &message)

@@ -24,6 +24,7 @@
 #include <QPointer>
 #include <QUuid>
 
+class ExportMessages;
 class MessageDialog;
 class StartPage;
 
@@ -83,6 +84,8 @@ private:
 
     void onAboutToSave();
     void onSaveFinished();
+    /// Shows what the store could not do, and which file that is about.
+    void onStoreError(const QString &message);
     void onProjectOpened(Project *project);
     void onProjectClosing();
     void onProjectClosed();
@@ -111,4 +114,5 @@ private:
     DocumentController m_documents;
     ProjectActions m_actions;
     LayoutController m_layout;
+    ExportMessages *m_exportMessages;
 };

@@ -7,6 +7,7 @@
 #include <QFileDialog>
 #include <QGuiApplication>
 #include <QMessageBox>
+#include <QRegularExpression>
 #include <QWidget>
 
 #include <utility>
@@ -35,6 +36,16 @@ public:
 private:
     QPointer<QWidget> m_widget;
 };
+
+/// A name of a file for a project, which may be called what no file can be.
+QString proposedFileName(const QString &projectName)
+{
+    static const QRegularExpression forbidden(QStringLiteral("[/\\\\:*?\"<>|\\x00-\\x1f]"));
+    constexpr int MostLetters = 60; // of up to four bytes each, of which a file's name has 255
+    QString name = projectName.left(MostLetters).trimmed();
+    name.replace(forbidden, QStringLiteral("_"));
+    return (name.isEmpty() ? QStringLiteral("project") : name) + QStringLiteral(".quenmora");
+}
 
 } // namespace
 
@@ -216,6 +227,7 @@ QString ProjectController::runSaveDialog()
         m_saveDialog->setAcceptMode(QFileDialog::AcceptSave);
         m_saveDialog->setDefaultSuffix(QStringLiteral("quenmora"));
     }
+    m_saveDialog->selectFile(proposedFileName(m_project ? m_project->name() : QString()));
     while (m_saveDialog->exec() == QDialog::Accepted) {
         if (mayReplaceChosenFile(*m_saveDialog))
             return m_saveDialog->selectedFiles().value(0);

@@ -1,6 +1,7 @@
 #include "app/startpage.h"
 
 #include "app/menus/filemenu.h"
+#include "app/widebutton.h"
 #include "ui/svgiconengine.h"
 
 #include <QAction>
@@ -14,14 +15,7 @@ namespace {
 /// A wide button that does what an entry of the menu does.
 QToolButton *buttonFor(QAction *action, const QString &text, const QIcon &icon)
 {
-    auto *button = new QToolButton;
-    button->setText(text);
-    button->setIcon(icon);
-    button->setIconSize({18, 18});
-    button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    button->setAutoRaise(true);
-    button->setFocusPolicy(Qt::StrongFocus);
-    button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    QToolButton *button = wideButton(text, icon);
     button->setToolTip(action->toolTip());
     QObject::connect(button, &QToolButton::clicked, action, &QAction::trigger);
     return button;

@@ -331,9 +331,14 @@ bool Map::exportData(const QString &fileName) const
     return layer && RawFile::write(fileName, layer->toNextData());
 }
 
+QString Map::exportFileName() const
+{
+    return m_name + QStringLiteral("_tilemap.bin");
+}
+
 bool Map::exportToDirectory(const QString &folder) const
 {
-    return exportData(RawFile::pathIn(folder, m_name + QStringLiteral("_tilemap.bin")));
+    return exportData(RawFile::pathIn(folder, exportFileName()));
 }
 
 bool Map::importNxm(const QString &mapFile, const QString &blockFile)

@@ -143,7 +143,9 @@ public:
 
     /// Writes the tile layer as Next tilemap data; false unless every byte was written.
     [[nodiscard]] bool exportData(const QString &fileName) const;
-    /// The same into NAME_tilemap.bin in a folder; false also when the name cannot be part of a file's name.
+    /// The name of the file that exportToDirectory() writes, NAME_tilemap.bin.
+    [[nodiscard]] QString exportFileName() const;
+    /// The same into that file in a folder; false also when the name cannot be part of a file's name.
     [[nodiscard]] bool exportToDirectory(const QString &folder) const;
     /// Takes size and tile layer from a tile data set (nxmfile.h). False when the map file cannot be read
     /// or is cut, or names a block that the block file does not have; what was read by then stays.

@@ -188,7 +188,12 @@ bool Palette::importData(const QString &fileName)
     return true;
 }
 
+QString Palette::exportFileName() const
+{
+    return m_name + QStringLiteral("_palette.bin");
+}
+
 bool Palette::exportToDirectory(const QString &folder) const
 {
-    return exportData(RawFile::pathIn(folder, m_name + QLatin1String("_palette.bin")));
+    return exportData(RawFile::pathIn(folder, exportFileName()));
 }

@@ -60,7 +60,9 @@ public:
     [[nodiscard]] int transparencyIndex() const { return m_transparencyIndex; }
     void setTransparencyIndex(int index) { m_transparencyIndex = index; }
 
-    /// Writes NAME_palette.bin into a folder; false also when the name cannot be part of a file's name.
+    /// The name of the file that exportToDirectory() writes, NAME_palette.bin.
+    [[nodiscard]] QString exportFileName() const;
+    /// Writes that file into a folder; false also when the name cannot be part of a file's name.
     [[nodiscard]] bool exportToDirectory(const QString &folder) const;
 
 signals:

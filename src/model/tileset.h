@@ -171,7 +171,9 @@ public:
 
     /// Next tile data: Tile::toNextData() of every tile.
     [[nodiscard]] bool exportNxt(const QString &fileName) const;
-    /// Next tile data, as "NAME_tiles.nxt" in a folder.
+    /// The name of the file that exportToDirectory() writes, NAME_tiles.nxt.
+    [[nodiscard]] QString exportFileName() const;
+    /// Next tile data, as that file in a folder; false also when the name cannot be part of a file's name.
     [[nodiscard]] bool exportToDirectory(const QString &folder) const;
     /// One byte a pixel, 64 bytes a tile, of the tiles startBlock to endBlock counted from 1; each pixel is
     /// the palette index with the tile's own offset. With rotate, rows and columns change places.

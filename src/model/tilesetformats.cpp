@@ -26,9 +26,14 @@ bool TileSet::exportNxt(const QString &fileName) const
     return RawFile::write(fileName, nextData());
 }
 
+QString TileSet::exportFileName() const
+{
+    return m_name + QStringLiteral("_tiles.nxt");
+}
+
 bool TileSet::exportToDirectory(const QString &folder) const
 {
-    return exportNxt(RawFile::pathIn(folder, m_name + QLatin1String("_tiles.nxt")));
+    return exportNxt(RawFile::pathIn(folder, exportFileName()));
 }
 
 bool TileSet::importNxt(const QString &filename)

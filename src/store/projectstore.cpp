@@ -4,10 +4,12 @@
 #include "model/palette.h"
 #include "model/project.h"
 #include "model/tileset.h"
+#include "model/writeproblem.h"
 #include "store/projectdocument.h"
 #include "store/zipfile.h"
 
 #include <QCryptographicHash>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -42,16 +44,14 @@ Project *ProjectStore::newProject(const QString &name)
 bool ProjectStore::load(const QString &fileName)
 {
     ZipFile archive;
-    if (!archive.openForReading(fileName)) {
-        emit loadError(tr("Invalid project file"));
-        return false;
-    }
+    if (!archive.openForReading(fileName))
+        return failToLoad(tr("Invalid project file"), fileName);
     if (!m_project)
         newProject({});
     QString error;
     if (!readProject(
             *m_project, [&archive](const QString &member) { return archive.read(member); }, error)) {
-        emit loadError(error);
+        static_cast<void>(failToLoad(error, fileName));
         close();
         return false;
     }
@@ -124,8 +124,16 @@ void ProjectStore::backUp() const
     QFile::rename(m_fileName, backupName);
 }
 
+bool ProjectStore::failToLoad(const QString &message, const QString &fileName)
+{
+    m_errorDetail = QDir::toNativeSeparators(fileName);
+    emit loadError(message);
+    return false;
+}
+
 bool ProjectStore::failToSave(const QString &message)
 {
+    m_errorDetail = QDir::toNativeSeparators(m_fileName);
     emit saveError(message);
     return false;
 }
@@ -151,10 +159,14 @@ void ProjectStore::exportPalette(const QString &dir, const QUuid &id)
 template <typename Asset>
 void ProjectStore::exportAsset(const QPointer<Asset> &asset, const QString &dir, const ExportMessages &messages)
 {
-    if (!asset)
+    m_errorDetail.clear();
+    if (!asset) {
         emit saveError(messages.unknown);
-    else if (asset->exportToDirectory(dir))
+    } else if (asset->exportToDirectory(dir)) {
         emit showMessage(messages.exported, ExportMessageTime);
-    else
+        emit exported(asset->name(), QDir(dir).filePath(asset->exportFileName()));
+    } else {
+        m_errorDetail = writeProblem(dir, asset->exportFileName());
         emit saveError(messages.failed);
+    }
 }

@@ -47,6 +47,9 @@ public:
     [[nodiscard]] QString fileName() const { return m_fileName; }
     void setFileName(const QString &fileName) { m_fileName = fileName; }
 
+    /// What the last failure that was told is about: the file, or why it could not be written.
+    [[nodiscard]] QString errorDetail() const { return m_errorDetail; }
+
 signals:
     /// A project file was read; name is the project's.
     void projectLoad(const QString &name);
@@ -55,6 +58,8 @@ signals:
     void saveError(const QString &message);
     /// A message for the status bar; timeout in milliseconds.
     void showMessage(const QString &message, int timeout);
+    /// An asset of that name was exported to a file.
+    void exported(const QString &asset, const QString &filePath);
 
 public slots:
     // Each writes one asset into a folder, in the asset's own raw format.
@@ -76,9 +81,11 @@ private:
     /// Keeps the file under the name of its backup, unless it is what a failed save left behind, which must
     /// not push out the last whole version.
     void backUp() const;
+    [[nodiscard]] bool failToLoad(const QString &message, const QString &fileName);
     [[nodiscard]] bool failToSave(const QString &message);
 
     QString m_fileName;
     QPointer<Project> m_project;
+    QString m_errorDetail;
     QString m_incompleteFile; ///< the file that the last save began to write and could not finish, or none
 };

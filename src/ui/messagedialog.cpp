@@ -11,18 +11,42 @@ namespace {
 
 constexpr int MostWaiting = 20; // a flood of failures must not hold the user for ever
 
+/// A text whose words, such as paths, can be broken where they are too long for a line.
+QString breakable(const QString &text)
+{
+    constexpr int longest = 60;
+    constexpr QChar zeroWidthSpace(0x200B);
+    QString broken;
+    int wordLength = 0;
+    for (const QChar letter : text) {
+        wordLength = letter.isSpace() ? 0 : wordLength + 1;
+        if (wordLength > longest && !letter.isLowSurrogate()) {
+            broken += zeroWidthSpace;
+            wordLength = 1;
+        }
+        broken += letter;
+    }
+    return broken;
 }
 
-MessageDialog::MessageDialog(QWidget *parent) : QDialog(parent), m_icon(new QLabel(this)), m_text(new QLabel(this))
+} // namespace
+
+MessageDialog::MessageDialog(QWidget *parent)
+    : QDialog(parent)
+    , m_icon(new QLabel(this))
+    , m_text(new QLabel(this))
+    , m_detail(new QLabel(this))
 {
     setWindowTitle(defaultTitle());
     setModal(true);
 
     m_text->setObjectName(QStringLiteral("text"));
-    m_text->setWordWrap(true);
-    m_text->setTextFormat(Qt::PlainText); // messages quote file names
-    m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    m_text->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    for (QLabel *label : {m_text, m_detail}) {
+        label->setWordWrap(true);
+        label->setTextFormat(Qt::PlainText); // messages quote file names
+        label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    }
     m_icon->setAlignment(Qt::AlignTop);
 
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok, this);
@@ -31,7 +55,10 @@ MessageDialog::MessageDialog(QWidget *parent) : QDialog(parent), m_icon(new QLab
     auto *row = new QHBoxLayout;
     row->setSpacing(row->spacing() * 2);
     row->addWidget(m_icon);
-    row->addWidget(m_text, 1);
+    auto *texts = new QVBoxLayout;
+    texts->addWidget(m_text);
+    texts->addWidget(m_detail);
+    row->addLayout(texts, 1);
     auto *layout = new QVBoxLayout(this);
     layout->setSizeConstraint(QLayout::SetFixedSize);
     layout->addLayout(row);
@@ -45,16 +72,20 @@ QString MessageDialog::defaultTitle()
 
 QString MessageDialog::text() const
 {
-    return m_text->text();
+    return m_shown.text;
 }
 
-void MessageDialog::showMessage(const QString &text, const QString &title)
+QString MessageDialog::detail() const
 {
-    const Message message{text, title};
+    return m_shown.detail;
+}
+
+void MessageDialog::showMessage(const QString &text, const QString &title, const QString &detail)
+{
+    const Message message{text, title, detail};
     if (!isVisible()) {
         display(message);
-    } else if (message != Message{m_text->text(), windowTitle()} && !m_waiting.contains(message)
-               && m_waiting.size() < MostWaiting) {
+    } else if (message != m_shown && !m_waiting.contains(message) && m_waiting.size() < MostWaiting) {
         m_waiting.enqueue(message);
     }
 }
@@ -71,7 +102,10 @@ void MessageDialog::display(const Message &message)
 {
     setWindowTitle(message.title);
     m_text->setMinimumWidth(titleWidth(message.title));
-    m_text->setText(message.text);
+    m_shown = message;
+    m_text->setText(breakable(message.text));
+    m_detail->setText(breakable(message.detail));
+    m_detail->setVisible(!message.detail.isEmpty());
     const int extent = style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, this);
     m_icon->setPixmap(style()
                           ->standardIcon(QStyle::SP_MessageBoxWarning, nullptr, this)

@@ -21,9 +21,11 @@ public:
 
     /// The message being shown, or shown last.
     [[nodiscard]] QString text() const;
+    /// What stands below it: which file it is about, or why it happened; may be empty.
+    [[nodiscard]] QString detail() const;
 
 public slots:
-    void showMessage(const QString &text, const QString &title = defaultTitle());
+    void showMessage(const QString &text, const QString &title = defaultTitle(), const QString &detail = {});
 
     void done(int result) override;
 
@@ -32,6 +34,7 @@ private:
     {
         QString text;
         QString title;
+        QString detail;
 
         bool operator==(const Message &) const = default;
     };
@@ -40,5 +43,7 @@ private:
 
     QLabel *m_icon;
     QLabel *m_text;
+    QLabel *m_detail;
+    Message m_shown;
     QQueue<Message> m_waiting;
 };

@@ -1,5 +1,8 @@
 #include "app/dialogs/exportdialog.h"
 
+#include "model/tileset.h"
+#include "ui/indexsuffix.h"
+
 #include <QCheckBox>
 #include <QFormLayout>
 #include <QSpinBox>
@@ -17,12 +20,16 @@ ExportDialog::ExportDialog(QWidget *parent)
     form()->addRow(tr("&First tile"), m_first);
     form()->addRow(tr("&Last tile"), m_last);
     form()->addRow(QString(), m_rotate);
-    for (const QSpinBox *box : {m_first, m_last})
+    for (QSpinBox *box : {m_first, m_last}) {
+        showIndexSuffix(*box);
         connect(box, &QSpinBox::valueChanged, this, &ExportDialog::revalidate);
+    }
 }
 
-void ExportDialog::show(int count)
+void ExportDialog::show(const TileSet &tileSet)
 {
+    setWindowTitle(tr("Export Tiles: %1").arg(tileSet.name()));
+    const int count = tileSet.count();
     const bool toTheEnd = m_last->value() >= m_count;
     m_count = count;
     for (QSpinBox *box : {m_first, m_last})

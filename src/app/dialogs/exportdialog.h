@@ -4,6 +4,7 @@
 
 class QCheckBox;
 class QSpinBox;
+class TileSet;
 
 namespace TileEditor {
 
@@ -16,9 +17,9 @@ public:
     explicit ExportDialog(QWidget *parent = nullptr);
 
 public slots:
-    /// Opens the dialog for a tile set of count tiles. The range is all of them, unless a person chose another
-    /// that the tile set has as well.
-    void show(int count);
+    /// Opens the dialog for a tile set. The range is all of its tiles, unless a person chose another that the
+    /// tile set has as well.
+    void show(const TileSet &tileSet);
 
 signals:
     /// First and last tile count from 1.

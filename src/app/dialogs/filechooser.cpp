@@ -1,5 +1,6 @@
 #include "app/dialogs/filechooser.h"
 
+#include "ui/assettitle.h"
 #include "ui/replacing.h"
 
 #include <QRegularExpression>
@@ -23,6 +24,8 @@ QString runFileDialog(const FileRequest &request, QWidget *parent)
                                                                      : QFileDialog::AnyFile);
     dialog.setNameFilters(request.nameFilters);
     dialog.setDefaultSuffix(request.defaultSuffix);
+    if (!request.asset.isEmpty())
+        nameInTitleBar(dialog, request.asset);
     if (request.nameFilters.size() > 1 && !request.defaultSuffix.isEmpty()) {
         QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog,
                          [&dialog](const QString &filter) { dialog.setDefaultSuffix(suffixOf(filter)); });

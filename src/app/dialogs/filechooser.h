@@ -13,9 +13,11 @@ struct FileRequest
     QStringList nameFilters; ///< such as "Palette (*.pal *.npl)"
     QFileDialog::AcceptMode acceptMode = QFileDialog::AcceptOpen;
     /// Completes a name that is typed without a suffix; with several filters, the chosen one's suffix does.
-    QString defaultSuffix;
+    QString defaultSuffix = {};
     /// Where the dialog starts; empty for where the last one ended.
-    QString folder;
+    QString folder = {};
+    /// The name of the asset that is saved, if one is.
+    QString asset = {};
 };
 
 /// Answers a request with a file, or with an empty string when the person gives up. Menus ask through

@@ -18,9 +18,10 @@ ImageDialog::ImageDialog(QWidget *parent)
     form()->addRow(tr("&Palette"), m_palette);
 }
 
-void ImageDialog::show(const Project &project)
+void ImageDialog::show(const Project &project, const QUuid &palette)
 {
     m_palette->offerPalettes(project);
+    m_palette->choose(palette);
     openWithName({});
 }
 

@@ -19,8 +19,8 @@ public:
     explicit ImageDialog(QWidget *parent = nullptr);
 
 public slots:
-    /// Opens the dialog with the palettes of a project.
-    void show(const Project &project);
+    /// Opens the dialog with the palettes of a project, one of which is proposed.
+    void show(const Project &project, const QUuid &palette = {});
 
 signals:
     void accepted(const QString &name, Quenmora::ImageMode mode, const QUuid &paletteId);

@@ -1,6 +1,7 @@
 #include "app/menus/imagemenu.h"
 
 #include "app/dialogs/imagedialog.h"
+#include "model/palette.h"
 
 ImageMenu::ImageMenu(QWidget *parent) : ProjectMenu(tr("&Image"), parent)
 {
@@ -14,6 +15,8 @@ void ImageMenu::updateActions()
 
 void ImageMenu::showNewDialog()
 {
-    if (project())
-        lazily(m_dialog, this, &ImageMenu::createImage)->show(*project());
+    if (!project())
+        return;
+    const Palette *inFront = m_paletteInFront();
+    lazily(m_dialog, this, &ImageMenu::createImage)->show(*project(), inFront ? inFront->id() : QUuid());
 }

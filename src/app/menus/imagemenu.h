@@ -5,6 +5,8 @@
 
 #include <QUuid>
 
+#include <functional>
+
 class ImageDialog;
 
 /// The "Image" menu.
@@ -13,7 +15,12 @@ class ImageMenu : public ProjectMenu
     Q_OBJECT
 
 public:
+    using PaletteProvider = std::function<Palette *()>;
+
     explicit ImageMenu(QWidget *parent = nullptr);
+
+    /// Where the menu finds the palette in front, which a new image is offered first.
+    void setPaletteProvider(const PaletteProvider &provider) { m_paletteInFront = provider; }
 
 public slots:
     void showNewDialog();
@@ -26,4 +33,5 @@ protected:
 
 private:
     QPointer<ImageDialog> m_dialog;
+    PaletteProvider m_paletteInFront = [] { return nullptr; };
 };

@@ -42,7 +42,8 @@ void MapMenu::showExportDialog()
 {
     if (!m_map)
         return;
-    const QString file = fileToSave(tr("Export Map Data"), {tr("Map Data (*.map)")}, QStringLiteral(".map"));
-    if (!file.isEmpty() && m_map && !m_map->exportData(file))
-        reportExportFailure();
+    const QString file =
+        fileToSave(tr("Export Map Data"), m_map->name(), {tr("Map Data (*.map)")}, QStringLiteral(".map"));
+    if (!file.isEmpty() && m_map)
+        reportExport(m_map->exportData(file), m_map->name(), file);
 }

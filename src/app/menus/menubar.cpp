@@ -24,8 +24,11 @@ MenuBar::MenuBar(QWidget *parent)
 {
     for (QMenu *menu : findChildren<QMenu *>(Qt::FindDirectChildrenOnly))
         addMenu(menu);
-    for (const ProjectMenu *menu : findChildren<ProjectMenu *>(Qt::FindDirectChildrenOnly))
+    for (const ProjectMenu *menu : findChildren<ProjectMenu *>(Qt::FindDirectChildrenOnly)) {
         connect(menu, &ProjectMenu::failed, this, &MenuBar::failed);
+        connect(menu, &ProjectMenu::exported, this, &MenuBar::exported);
+    }
+    m_image->setPaletteProvider([this] { return m_palette->palette(); });
     setProject(nullptr);
 }
 

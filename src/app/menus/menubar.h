@@ -42,8 +42,10 @@ public slots:
     void setProject(const QPointer<Project> &project);
 
 signals:
-    /// A menu could not do what was asked for: a text for the user, and its title.
-    void failed(const QString &text, const QString &title);
+    /// A menu could not do what was asked for: a text for the user, its title, and why.
+    void failed(const QString &text, const QString &title, const QString &reason);
+    /// A menu wrote an asset of that name to a file.
+    void exported(const QString &asset, const QString &filePath);
 
 private:
     FileMenu *m_file;

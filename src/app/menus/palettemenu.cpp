@@ -1,6 +1,7 @@
 #include "app/menus/palettemenu.h"
 
 #include "editors/palette/palettedialog.h"
+#include "ui/plaintext.h"
 
 PaletteMenu::PaletteMenu(QWidget *parent) : ProjectMenu(tr("&Palette"), parent)
 {
@@ -25,6 +26,7 @@ void PaletteMenu::updateActions()
     setEnabled(project());
     m_export->setEnabled(m_palette);
     m_name->setText(m_palette ? m_palette->name().replace(u'&', QStringLiteral("&&")) : tr("No Palette"));
+    m_name->setToolTip(plainText(m_name->toolTip()));
 }
 
 void PaletteMenu::showNewDialog()
@@ -46,7 +48,8 @@ void PaletteMenu::showExportDialog()
 {
     if (!m_palette)
         return;
-    const QString file = fileToSave(tr("Export Palette"), {tr("Palette (*.pal *.npl)")}, QStringLiteral(".pal"));
-    if (!file.isEmpty() && m_palette && !m_palette->exportData(file))
-        reportExportFailure();
+    const QString file =
+        fileToSave(tr("Export Palette"), m_palette->name(), {tr("Palette (*.pal *.npl)")}, QStringLiteral(".pal"));
+    if (!file.isEmpty() && m_palette)
+        reportExport(m_palette->exportData(file), m_palette->name(), file);
 }

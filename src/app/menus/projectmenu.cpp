@@ -1,5 +1,6 @@
 #include "app/menus/projectmenu.h"
 
+#include "model/writeproblem.h"
 #include "ui/svgiconengine.h"
 
 ProjectMenu::ProjectMenu(const QString &title, QWidget *parent) : QMenu(title, parent) { }
@@ -21,13 +22,17 @@ QAction *ProjectMenu::newAction(const QString &text, const QKeySequence &shortcu
 
 QString ProjectMenu::fileToOpen(const QString &title, const QStringList &nameFilters) const
 {
-    return chooseFile({title, nameFilters, QFileDialog::AcceptOpen, QString(), QString()});
+    return chooseFile({.title = title, .nameFilters = nameFilters});
 }
 
-QString ProjectMenu::fileToSave(const QString &title, const QStringList &nameFilters,
+QString ProjectMenu::fileToSave(const QString &title, const QString &asset, const QStringList &nameFilters,
                                 const QString &defaultSuffix) const
 {
-    return chooseFile({title, nameFilters, QFileDialog::AcceptSave, defaultSuffix, QString()});
+    return chooseFile({.title = title,
+                       .nameFilters = nameFilters,
+                       .acceptMode = QFileDialog::AcceptSave,
+                       .defaultSuffix = defaultSuffix,
+                       .asset = asset});
 }
 
 QString ProjectMenu::chooseFile(const FileRequest &request) const
@@ -35,9 +40,12 @@ QString ProjectMenu::chooseFile(const FileRequest &request) const
     return m_fileChooser(request, dialogParent());
 }
 
-void ProjectMenu::reportExportFailure()
+void ProjectMenu::reportExport(bool written, const QString &asset, const QString &filePath)
 {
-    emit failed(tr("There was a problem exporting data"), tr("Save Error"));
+    if (written)
+        emit exported(asset, filePath);
+    else
+        emit failed(tr("There was a problem exporting data"), tr("Save Error"), writeProblem(filePath));
 }
 
 QWidget *ProjectMenu::dialogParent() const

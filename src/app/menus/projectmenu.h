@@ -28,8 +28,10 @@ public slots:
     void setProject(const QPointer<Project> &project);
 
 signals:
-    /// Something that was asked for could not be done: a text for the user, and its title.
-    void failed(const QString &text, const QString &title);
+    /// Something that was asked for could not be done: a text for the user, its title, and why.
+    void failed(const QString &text, const QString &title, const QString &reason);
+    /// An asset of that name was written to a file.
+    void exported(const QString &asset, const QString &filePath);
 
 protected:
     /// Enables what can be done now; called whenever the project or the active asset changes.
@@ -71,12 +73,12 @@ protected:
 
     // The file that a person chooses; empty when it is none.
     [[nodiscard]] QString fileToOpen(const QString &title, const QStringList &nameFilters) const;
-    [[nodiscard]] QString fileToSave(const QString &title, const QStringList &nameFilters,
+    [[nodiscard]] QString fileToSave(const QString &title, const QString &asset, const QStringList &nameFilters,
                                      const QString &defaultSuffix) const;
     [[nodiscard]] QString chooseFile(const FileRequest &request) const;
     [[nodiscard]] FileChooser fileChooser() const { return m_fileChooser; }
-    /// Tells the user that a file could not be written.
-    void reportExportFailure();
+    /// Tells the user of a file that was written, or could not be.
+    void reportExport(bool written, const QString &asset, const QString &filePath);
 
     /// The window over which the menu's dialogs stand.
     [[nodiscard]] QWidget *dialogParent() const;

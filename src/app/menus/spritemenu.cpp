@@ -58,9 +58,12 @@ void SpriteMenu::showExportDialog()
 {
     if (!m_spriteBank)
         return;
-    const QString file = fileToSave(tr("Export Sprite Data"), {tr("Next Sprites (*.spr)")}, QStringLiteral(".spr"));
-    if (file.isEmpty() || !m_spriteBank || m_spriteBank->exportSpr(file))
+    const QString file = fileToSave(tr("Export Sprite Data"), m_spriteBank->name(), {tr("Next Sprites (*.spr)")},
+                                    QStringLiteral(".spr"));
+    if (file.isEmpty() || !m_spriteBank)
         return;
-    qWarning("Failed to save data");
-    reportExportFailure();
+    const bool written = m_spriteBank->exportSpr(file);
+    if (!written)
+        qWarning("Failed to save data");
+    reportExport(written, m_spriteBank->name(), file);
 }

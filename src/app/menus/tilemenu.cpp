@@ -69,7 +69,7 @@ void TileMenu::showSwapPaletteDialog()
 void TileMenu::showExportDialog()
 {
     if (m_tileSet)
-        lazily(m_exportDialog, this, &TileMenu::exportAccepted)->show(m_tileSet->count());
+        lazily(m_exportDialog, this, &TileMenu::exportAccepted)->show(*m_tileSet);
 }
 
 void TileMenu::exportAccepted(int first, int last, bool rotate)
@@ -78,24 +78,27 @@ void TileMenu::exportAccepted(int first, int last, bool rotate)
         qWarning("Null tileset");
         return;
     }
-    const QString file = fileToSave(tr("Export Tiles"), {tr("Tile Data (*.bin)")}, QStringLiteral(".bin"));
-    if (file.isEmpty() || !m_tileSet || m_tileSet->exportBlocks(file, first, last, rotate))
+    const QString file =
+        fileToSave(tr("Export Tiles"), m_tileSet->name(), {tr("Tile Data (*.bin)")}, QStringLiteral(".bin"));
+    if (file.isEmpty() || !m_tileSet)
         return;
-    qWarning("Export failed!");
-    reportExportFailure();
+    const bool written = m_tileSet->exportBlocks(file, first, last, rotate);
+    if (!written)
+        qWarning("Export failed!");
+    reportExport(written, m_tileSet->name(), file);
 }
 
 void TileMenu::showExportAttributesDialog()
 {
     if (!m_tileSet)
         return;
-    const QString file = fileToSave(tr("Export tile attributes"), {tr("ASM Code (*.asm)"), tr("Binary Data (*.bin)")},
-                                    QStringLiteral(".asm"));
+    const QString file = fileToSave(tr("Export tile attributes"), m_tileSet->name(),
+                                    {tr("ASM Code (*.asm)"), tr("Binary Data (*.bin)")}, QStringLiteral(".asm"));
     if (file.isEmpty() || !m_tileSet)
         return;
     const bool binary = file.endsWith(QLatin1String(".bin"), Qt::CaseInsensitive);
-    if (!(binary ? m_tileSet->exportAttributesBinary(file) : m_tileSet->exportAttributesAsm(file)))
-        reportExportFailure();
+    reportExport(binary ? m_tileSet->exportAttributesBinary(file) : m_tileSet->exportAttributesAsm(file),
+                 m_tileSet->name(), file);
 }
 
 void TileMenu::showImportFontDialog()

@@ -158,6 +158,15 @@ void ProjectTree::removeAsset(const QUuid &id)
         above->setHidden(true);
 }
 
+bool ProjectTree::isEmpty() const
+{
+    for (int node = PaletteNode + 1; node < NodeCount && topLevelItem(0); ++node) {
+        if (group(ProjectNode(node))->childCount() > 0)
+            return false;
+    }
+    return true;
+}
+
 QTreeWidgetItem *ProjectTree::itemOf(const QUuid &id) const
 {
     if (id.isNull())

@@ -42,6 +42,8 @@ public:
     /// Takes an asset out of the list; map objects below a tile set stay, in the group "Objects".
     void removeAsset(const QUuid &id);
 
+    /// Whether no asset is listed where it can be seen: palettes never are.
+    [[nodiscard]] bool isEmpty() const;
     /// The item of an asset, or null.
     [[nodiscard]] QTreeWidgetItem *itemOf(const QUuid &id) const;
     /// The kind and id of an asset's item; false for any other item and null.

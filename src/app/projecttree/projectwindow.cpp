@@ -8,6 +8,7 @@
 #include "model/tileset.h"
 
 #include <QSignalBlocker>
+#include <QVBoxLayout>
 
 namespace {
 
@@ -43,7 +44,13 @@ ProjectWindow::ProjectWindow(QWidget *parent)
 {
     setObjectName(QStringLiteral("ProjectWindow"));
     setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
-    setContent(m_tree);
+    auto *content = new QWidget;
+    auto *layout = new QVBoxLayout(content);
+    layout->setContentsMargins({});
+    layout->setSpacing(0);
+    layout->addWidget(m_tree, 1);
+    content->setFocusProxy(m_tree);
+    setContent(content);
     connect(m_tree, &ProjectTree::itemDoubleClicked, this, &ProjectWindow::itemDoubleClicked);
     connect(m_tree, &QTreeWidget::itemChanged, this, &ProjectWindow::itemEdited);
     connect(m_tree, &ProjectTree::deleteItem, this, &ProjectWindow::deleteItemTriggered);
@@ -57,10 +64,24 @@ void ProjectWindow::setProject(QPointer<Project> project)
     m_project = project;
     const QSignalBlocker blocker(m_tree);
     m_tree->showProject(m_project);
-    if (!m_project)
-        return;
-    fill();
-    followProject();
+    if (m_project) {
+        fill();
+        followProject();
+    }
+    updateNextSteps();
+}
+
+void ProjectWindow::setNextSteps(QWidget *steps)
+{
+    m_nextSteps = steps;
+    content()->layout()->addWidget(steps);
+    updateNextSteps();
+}
+
+void ProjectWindow::updateNextSteps()
+{
+    if (m_nextSteps)
+        m_nextSteps->setVisible(m_project && m_tree->isEmpty());
 }
 
 template <typename Asset>
@@ -73,6 +94,7 @@ void ProjectWindow::add(ProjectTree::ProjectNode node, const QPointer<Asset> &as
         parent = asset->tileSet() ? asset->tileSet()->id() : QUuid();
     const QSignalBlocker blocker(m_tree);
     m_tree->addAsset(node, asset->id(), asset->name(), parent);
+    updateNextSteps();
 }
 
 void ProjectWindow::fill()
@@ -106,6 +128,7 @@ void ProjectWindow::removeItem(ProjectTree::ProjectNode, QUuid id)
 {
     const QSignalBlocker blocker(m_tree);
     m_tree->removeAsset(id);
+    updateNextSteps();
 }
 
 void ProjectWindow::itemDoubleClicked(ProjectTree::ProjectNode node, QUuid id)

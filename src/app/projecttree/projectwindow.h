@@ -17,6 +17,9 @@ public:
 
     [[nodiscard]] ProjectTree *tree() const { return m_tree; }
 
+    /// What to show below the tree, while the project has nothing to list, about how to begin.
+    void setNextSteps(QWidget *steps);
+
 public slots:
     /// Lists the assets of a project, and those that it gains; null empties the tree.
     void setProject(QPointer<Project> project);
@@ -40,10 +43,12 @@ signals:
 
 private:
     void fill();
+    void updateNextSteps();
     void followProject();
     template <typename Asset>
     void add(ProjectTree::ProjectNode node, const QPointer<Asset> &asset);
 
     ProjectTree *m_tree;
+    QWidget *m_nextSteps = nullptr;
     QPointer<Project> m_project;
 };

@@ -6,6 +6,8 @@
 #include "editors/canvas/scrollcanvas.h"
 #include "editors/palette/colourpalette.h"
 #include "model/picturefile.h"
+#include "model/writeproblem.h"
+#include "ui/assettitle.h"
 #include "ui/replacing.h"
 #include "ui/toolpalette.h"
 
@@ -216,13 +218,23 @@ void View::openExportFile()
         m_exportFile->setDefaultSuffix(QStringLiteral(".png"));
         connect(m_exportFile, &QFileDialog::fileSelected, this, &View::exportImage);
     }
+    nameInTitleBar(*m_exportFile, name());
     m_exportFile->open();
 }
 
-void View::exportImage(const QString &name)
+void View::exportImage(const QString &fileName)
 {
-    if (mayReplaceChosenFile(*m_exportFile) && !canvas()->image().save(name))
-        emit error(tr("There was a problem exporting data"));
+    if (m_exportFile && !mayReplaceChosenFile(*m_exportFile))
+        return;
+    if (canvas()->image().save(fileName))
+        emit exported(name(), fileName);
+    else
+        emit error(tr("There was a problem exporting data") + u'\n' + writeProblem(fileName));
+}
+
+QString View::name() const
+{
+    return m_image ? m_image->name() : tr("Scratch Image");
 }
 
 // ---- Keys -------------------------------------------------------------------------------------

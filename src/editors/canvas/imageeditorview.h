@@ -37,13 +37,15 @@ signals:
     void imageChanged(QImage image);
     /// A file could not be read or written.
     void error(const QString &message);
+    /// The picture was written to a file; asset is its name.
+    void exported(const QString &asset, const QString &filePath);
 
 protected:
     bool event(QEvent *event) override;
 
 private slots:
     void changeMode(Quenmora::Ui::ToolButton action, bool checked);
-    void exportImage(const QString &name);
+    void exportImage(const QString &fileName);
     void setForeIndex(int index);
     void setBackIndex(int index);
 
@@ -55,6 +57,8 @@ private:
     void writeBack();
     void openImportFile();
     void openExportFile();
+    /// The image's name.
+    QString name() const;
     void importPicture(const QString &fileName);
     void place(const QImage &pixels);
     void pushEdit(const QString &text, const QImage &before, const QImage &after, PixelEditCommand::Kind kind);

@@ -2,11 +2,14 @@
 
 #include "ui/dialogbase.h"
 
+class Map;
 class QCheckBox;
+class QDir;
+class QLabel;
 
 namespace MapEditor {
 
-/// Asks what of a map is to be exported.
+/// Asks what of a map is to be exported, and names the files.
 class ExportDialog : public DialogBase
 {
     Q_OBJECT
@@ -14,8 +17,8 @@ class ExportDialog : public DialogBase
 public:
     explicit ExportDialog(QWidget *parent = nullptr);
 
-    /// What there is to export beside the map itself.
-    void setAvailable(bool tiles, bool palette);
+    /// Offers a map, and what it has of a tile set with a palette, for a folder.
+    void offer(const Map &map, const QDir &folder);
 
     [[nodiscard]] bool exportMap() const;
     [[nodiscard]] bool exportTiles() const;
@@ -25,11 +28,20 @@ protected:
     [[nodiscard]] QString problem() const override;
 
 private:
-    QCheckBox *addCheckBox(const QString &text);
+    /// A box, and the name of the file that it stands for.
+    struct Choice
+    {
+        QCheckBox *box;
+        QLabel *file;
+    };
 
-    QCheckBox *m_map;
-    QCheckBox *m_tiles;
-    QCheckBox *m_palette;
+    Choice addChoice(const QString &text);
+    /// A choice without a file cannot be made.
+    void setFile(const Choice &choice, const QDir &folder, const QString &fileName);
+
+    Choice m_map;
+    Choice m_tiles;
+    Choice m_palette;
 };
 
 } // namespace MapEditor

@@ -3,6 +3,7 @@
 #include "editors/map/exportdialog.h"
 #include "model/palette.h"
 #include "model/tileset.h"
+#include "ui/assettitle.h"
 
 #include <QFileDialog>
 
@@ -27,6 +28,7 @@ void MapExport::start()
         m_folderDialog->setOption(QFileDialog::ShowDirsOnly);
         connect(m_folderDialog, &QFileDialog::fileSelected, this, &MapExport::folderChosen);
     }
+    nameInTitleBar(*m_folderDialog, m_map->name());
     m_folderDialog->open();
 }
 
@@ -35,8 +37,7 @@ void MapExport::folderChosen(const QString &folder)
     if (!m_map)
         return;
     m_folder = folder;
-    const QPointer<TileSet> tiles = m_map->tileSet();
-    m_dialog->setAvailable(tiles, tiles && tiles->palette());
+    m_dialog->offer(*m_map, folder);
     m_dialog->open();
 }
 

@@ -1,0 +1,44 @@
+#include "app/exportmessages.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QLocale>
+#include <QStatusBar>
+#include <QTimer>
+
+namespace {
+
+constexpr int MessageTime = 10000; // milliseconds: there is a path to be read
+
+QString sizeOf(const QFileInfo &file)
+{
+    return QLocale().toString(file.size());
+}
+
+} // namespace
+
+ExportMessages::ExportMessages(QStatusBar *statusBar) : QObject(statusBar), m_statusBar(statusBar) { }
+
+void ExportMessages::add(const QString &asset, const QString &filePath)
+{
+    if (m_written.isEmpty())
+        QTimer::singleShot(0, this, [this] { m_written.clear(); });
+    m_written.append({asset, filePath});
+    m_statusBar->showMessage(text(), MessageTime);
+}
+
+QString ExportMessages::text() const
+{
+    if (m_written.size() == 1) {
+        const auto &[asset, filePath] = m_written.constFirst();
+        return tr("Exported %1 to %2 (%3 bytes)")
+            .arg(asset, QDir::toNativeSeparators(filePath), sizeOf(QFileInfo(filePath)));
+    }
+    QStringList files;
+    for (const Written &written : m_written) {
+        const QFileInfo file(written.filePath);
+        files.append(tr("%1 (%2 bytes)").arg(file.fileName(), sizeOf(file)));
+    }
+    const QString folder = QFileInfo(m_written.constFirst().filePath).path();
+    return tr("Exported to %1: %2").arg(QDir::toNativeSeparators(folder), files.join(QStringLiteral(", ")));
+}

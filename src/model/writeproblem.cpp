@@ -1,0 +1,36 @@
+#include "model/writeproblem.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+
+namespace {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("WriteProblem", text);
+}
+
+} // namespace
+
+QString writeProblem(const QString &filePath)
+{
+    const QFileInfo file(filePath);
+    const QFileInfo folder(file.absolutePath());
+    const QString path = QDir::toNativeSeparators(filePath);
+    if (!folder.isDir())
+        return tr("There is no folder %1").arg(QDir::toNativeSeparators(folder.filePath()));
+    if (file.isDir())
+        return tr("%1 is a folder").arg(path);
+    if (file.exists() ? !file.isWritable() : !folder.isWritable())
+        return tr("You may not write to %1").arg(path);
+    return tr("%1 could not be written to its end; there may be no room left").arg(path);
+}
+
+QString writeProblem(const QString &folder, const QString &fileName)
+{
+    if (QFileInfo(fileName).fileName() != fileName)
+        return tr("No file can be called %1: a slash would lead into another folder. Another name of the asset helps.")
+            .arg(fileName);
+    return writeProblem(QDir(folder).filePath(fileName));
+}
