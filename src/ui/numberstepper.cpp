@@ -1,5 +1,6 @@
 #include "ui/numberstepper.h"
 
+#include "ui/indexsuffix.h"
 #include "ui/svgiconengine.h"
 
 #include <QHBoxLayout>
@@ -71,6 +72,11 @@ void NumberStepper::setItemName(const QString &name)
     const QString forward = tr("%1: next").arg(name);
     m_forward->setToolTip(forward);
     m_forward->setAccessibleName(forward);
+}
+
+void NumberStepper::showIndex()
+{
+    showIndexSuffix(*m_number);
 }
 
 void NumberStepper::setValue(int value)

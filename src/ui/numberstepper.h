@@ -23,6 +23,9 @@ public:
     /// What the number counts ("Tile"), for tool tips and assistive technology.
     void setItemName(const QString &name);
 
+    /// Shows the index, counting from 0, behind the number, which is to count from 1.
+    void showIndex();
+
 public slots:
     void setValue(int value);
 

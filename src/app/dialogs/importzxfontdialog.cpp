@@ -2,6 +2,7 @@
 
 #include "app/dialogs/picturepreview.h"
 #include "model/palette.h"
+#include "ui/indexsuffix.h"
 
 #include <QComboBox>
 #include <QFile>
@@ -73,6 +74,7 @@ ImportZXFontDialog::ImportZXFontDialog(QWidget *parent)
     for (QWidget *next : std::initializer_list<QWidget *>{browse, m_first, m_offset, m_fore, m_back})
         setTabOrder(std::exchange(previous, next), next);
 
+    showIndexSuffix(*m_first);
     m_offset->setRange(0, Palette::Size / ColoursPerOffset - 1);
     for (int index = 0; index < ColoursPerOffset; ++index) {
         m_fore->addItem(QString::number(index));
@@ -100,10 +102,7 @@ void ImportZXFontDialog::show(TileSet &tileSet)
 void ImportZXFontDialog::chooseFile()
 {
     const QString file = m_fileChooser({.title = tr("Import Spectrum Characters"),
-                                        .nameFilters = {tr("Fonts (*.bin *.raw *.ch8)"), tr("All files (*)")},
-                                        .acceptMode = QFileDialog::AcceptOpen,
-                                        .defaultSuffix = {},
-                                        .folder = {}},
+                                        .nameFilters = {tr("Fonts (*.bin *.raw *.ch8)"), tr("All files (*)")}},
                                        this);
     if (!file.isEmpty())
         m_file->setText(file);

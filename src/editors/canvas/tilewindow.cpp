@@ -41,6 +41,7 @@ TileWindow::TileWindow(QWidget *parent)
     setObjectName(QStringLiteral("TileEditor"));
     canvas()->setImageType(Offset16);
     m_number->setItemName(tr("Tile"));
+    m_number->showIndex();
     m_offset->setRange(1, BankCount);
     m_offset->setToolTip(tr("The group of 16 colours that the tile is drawn with"));
 
