@@ -1,0 +1,345 @@
+#include "app/mainwindow.h"
+
+#include "app/dialogs/exportdialog.h"
+#include "app/menus/filemenu.h"
+#include "app/menus/imagemenu.h"
+#include "app/menus/mapmenu.h"
+#include "app/menus/palettemenu.h"
+#include "app/menus/spritemenu.h"
+#include "app/menus/tilemenu.h"
+#include "app/nextsteps.h"
+#include "editors/canvas/imageeditorview.h"
+#include "editors/map/exportdialog.h"
+#include "support/sampleproject.h"
+#include "support/testmain.h"
+#include "ui/messagedialog.h"
+
+#include <QAbstractItemView>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialog>
+#include <QFileDialog>
+#include <QHelpEvent>
+#include <QLabel>
+#include <QSignalSpy>
+#include <QStatusBar>
+#include <QTabBar>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <QToolTip>
+#include <QWindow>
+
+#include <memory>
+
+namespace {
+
+/// Gives everything in a project the same name.
+void nameAll(const Project &project, const QString &name)
+{
+    const auto rename = [&name](const auto &assets) {
+        for (const auto &asset : assets)
+            asset->setName(name);
+    };
+    rename(project.palettes());
+    rename(project.tileSets());
+    rename(project.maps());
+    rename(project.blockSets());
+    rename(project.spriteBanks());
+    rename(project.images());
+    for (const auto &blocks : project.blockSets())
+        rename(blocks->animations());
+    for (const auto &bank : project.spriteBanks())
+        rename(bank->animations());
+}
+
+/// The tool tip that a widget shows at a point, or null.
+const QLabel *toolTipAt(QWidget *widget, QPoint pos)
+{
+    QHelpEvent help(QEvent::ToolTip, pos, widget->mapToGlobal(pos));
+    QApplication::sendEvent(widget, &help);
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        if (window->inherits("QTipLabel") && QToolTip::isVisible())
+            return qobject_cast<QLabel *>(window);
+    }
+    return nullptr;
+}
+
+/// What every list, tree and chooser of the program shows.
+QStringList listedTexts()
+{
+    QStringList texts;
+    const auto add = [&texts](const QAbstractItemModel *model, const QModelIndex &above, auto &&self) -> void {
+        for (int row = 0; row < model->rowCount(above); ++row) {
+            const QModelIndex index = model->index(row, 0, above);
+            texts.append(index.data(Qt::DisplayRole).toString());
+            QVERIFY2(!Qt::mightBeRichText(index.data(Qt::ToolTipRole).toString()), qPrintable(texts.last()));
+            self(model, index, self);
+        }
+    };
+    for (const QWidget *widget : QApplication::allWidgets()) {
+        if (const auto *view = qobject_cast<const QAbstractItemView *>(widget); view && view->model())
+            add(view->model(), {}, add);
+    }
+    return texts;
+}
+
+QAction *entry(const QMenu *menu, const QString &text)
+{
+    for (QAction *action : menu->actions()) {
+        if (action->text().remove(u'&') == text)
+            return action;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+/// What the window tells people: names as they are, what was written where, and what comes next.
+class TestTexts : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { Update::UpdateChecker::setFeedAddress({}); }
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_window = std::make_unique<MainWindow>();
+        m_window->projectController()->setUnsavedAnswerCallback([](auto) { return ProjectController::Discard; });
+    }
+    void cleanup() { m_window.reset(); }
+
+    void showsNamesAsTheyAre_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const char *name : {"<img src='/tmp/pipe'>", "&lt;i>", "<?xml version='1.0'?> <b>", "<!DOCTYPE html> x",
+                                 "Run %1 of %2, %3 %4 %5 %L1"})
+            QTest::newRow(name) << name;
+    }
+
+    void showsNamesAsTheyAre()
+    {
+        QFETCH(const QString, name);
+        openSample();
+        nameAll(project(), name);
+        openAll();
+        m_window->menus()->fileMenu()->addRecentFile("/" + name);
+        QCoreApplication::processEvents(); // what is to be deleted later
+        for (QWidget *widget : QApplication::allWidgets()) {
+            const char *kind = widget->metaObject()->className();
+            QVERIFY2(!Qt::mightBeRichText(widget->toolTip()), kind);
+            if (const auto *label = qobject_cast<QLabel *>(widget))
+                QVERIFY2(label->textFormat() == Qt::PlainText || !Qt::mightBeRichText(label->text()), kind);
+            const auto *menu = qobject_cast<QMenu *>(widget);
+            for (const QAction *action : menu && menu->toolTipsVisible() ? menu->actions() : QList<QAction *>())
+                QVERIFY2(!Qt::mightBeRichText(action->toolTip()), qPrintable(action->text()));
+        }
+
+        // with the first row of details, and as they are everywhere else
+        const auto run = project().spriteBanks().first()->animations().first();
+        const QStringList texts = listedTexts();
+        QVERIFY(texts.contains(name));
+        QVERIFY(texts.contains(name + QString("\n%1 frame(s) [2x1]").arg(run->frameCount())));
+    }
+
+    void toolTipsOfTitlesAreNoMarkup()
+    {
+        openSample();
+        nameAll(project(), "<img src='/tmp/pipe'>");
+        openAll();
+        int tips = 0;
+        for (QTabBar *bar : m_window->findChildren<QTabBar *>(Qt::FindDirectChildrenOnly)) { // of the docks
+            for (int tab = 0; tab < bar->count(); ++tab) {
+                const QLabel *tip = toolTipAt(bar, bar->tabRect(tab).center());
+                if (!tip)
+                    continue;
+                QCOMPARE(tip->textFormat(), Qt::PlainText);
+                tips += tip->text().contains("<img");
+            }
+        }
+        QVERIFY(tips > 0);
+        QToolTip::hideText();
+    }
+
+    void tellsWhatWasExported_data()
+    {
+        QTest::addColumn<int>("menu"); // of the menu bar
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QString>("asset");
+        QTest::addColumn<QString>("size");
+        const auto add = [](int menu, const char *text, const char *file, const char *asset, const char *size) {
+            QTest::newRow(file) << menu << text << file << asset << size;
+        };
+        add(2, "Export", "colours.npl", "Main", "513");
+        add(3, "Export", "tiles.bin", "Tiles", "256");
+        add(3, "Export Attributes", "attributes.bin", "Tiles", "4");
+        add(4, "Export", "level.map", "Level", "48");
+        add(5, "Export Data", "hero.spr", "Hero", "768");
+    }
+
+    void tellsWhatWasExported()
+    {
+        QFETCH(int, menu);
+        QFETCH(QString, text);
+        QFETCH(QString, asset);
+        QFETCH(QString, file);
+        QFETCH(QString, size);
+        openSample();
+        openAll();
+        FileRequest request;
+        QString answer = m_folder->filePath(file);
+        m_window->menus()->setFileChooser([&](const FileRequest &asked, QWidget *) {
+            request = asked;
+            return answer;
+        });
+        const auto exportNow = [&] {
+            entry(m_window->menus()->actions().at(menu)->menu(), text)->trigger();
+            if (auto *dialog = m_window->findChild<TileEditor::ExportDialog *>()) { // asks which tiles
+                QCOMPARE(dialog->windowTitle(), "Export Tiles: Tiles");
+                dialog->accept();
+            }
+        };
+        exportNow();
+        QCOMPARE(request.asset, asset);
+        QCOMPARE(message(), QString("Exported %1 to %2 (%3 bytes)").arg(asset, answer, size));
+
+        answer = m_folder->filePath("gone/" + file);
+        if (file.endsWith("tiles.bin") || file.endsWith(".spr"))
+            QTest::ignoreMessage(QtWarningMsg, file.endsWith(".spr") ? "Failed to save data" : "Export failed!");
+        exportNow();
+        const MessageDialog *dialog = m_window->messageDialog();
+        QCOMPARE(dialog->text(), "There was a problem exporting data");
+        QCOMPARE(dialog->detail(), "There is no folder " + m_folder->filePath("gone"));
+    }
+
+    void tellsWhatWentIntoAFolder()
+    {
+        openSample();
+        openAll();
+        const QPointer<Map> map = project().maps().first();
+        m_window->documentController()->setActiveMap(map->id());
+        auto *view = m_window->views().tabs->currentWidget();
+        QVERIFY(QFile(m_folder->filePath("Main_palette.bin")).open(QIODevice::WriteOnly));
+        QMetaObject::invokeMethod(view, "toolPaletteClicked", Q_ARG(Quenmora::Ui::ToolButton, Quenmora::Ui::Save));
+        auto *folders = view->findChild<QFileDialog *>();
+        QCOMPARE(folders->windowTitle(), "Choose a directory to export anim into");
+        QVERIFY(folders->windowHandle()->title().contains(": Level"));
+        folders->close();
+        const auto exportTo = [&](const QString &folder) {
+            emit folders->fileSelected(folder);
+            auto *dialog = view->findChild<MapEditor::ExportDialog *>();
+            QStringList shown{dialog->windowTitle()};
+            for (const QLabel *label : dialog->findChildren<QLabel *>())
+                shown.append(label->text());
+            dialog->accept();
+            return shown.join('|');
+        };
+        const QString asked = exportTo(m_folder->path());
+        for (const char *text :
+             {"Export: Level", "|Level_tilemap.bin|", "|Tiles_tiles.nxt|", "|Main_palette.bin (replaces"})
+            QVERIFY2(asked.contains(text), qPrintable(asked));
+        QCOMPARE(message(),
+                 QString("Exported to %1: Level_tilemap.bin (48 bytes), Tiles_tiles.nxt (128 bytes), Main_palette.bin "
+                         "(512 bytes)")
+                     .arg(m_folder->path()));
+
+        map->setName("in/out");
+        exportTo(m_folder->path());
+        const MessageDialog *dialog = m_window->messageDialog();
+        QCOMPARE(dialog->text(), "Exporting the map failed");
+        QVERIFY2(dialog->detail().contains("called in/out_tilemap.bin: a slash"), qPrintable(dialog->detail()));
+    }
+
+    void tellsWhereAnImageWent()
+    {
+        openSample();
+        for (const bool scratch : {true, false}) {
+            const QString file = m_folder->filePath(scratch ? "scratch.bmp" : "title.bmp");
+            if (scratch)
+                m_window->views().tabs->setScratchEditorVisible(true);
+            else
+                m_window->documentController()->setActiveImageEditor(project().images().first()->id());
+            auto *view = m_window->views().tabs->currentWidget();
+            QVERIFY(QMetaObject::invokeMethod(view, "exportImage", Q_ARG(QString, file)));
+            QCOMPARE(message(),
+                     QString("Exported %1 to %2 (%3 bytes)")
+                         .arg(scratch ? "Scratch Image" : "Title", file, QLocale().toString(QFileInfo(file).size())));
+        }
+    }
+
+    void tellsWhichFileIsNoProject()
+    {
+        m_window->projectController()->openProject("/gone/game.quenmora");
+        QCOMPARE(m_window->messageDialog()->text(), "Invalid project file");
+        QCOMPARE(m_window->messageDialog()->detail(), "/gone/game.quenmora");
+        m_window->showError("Something else");
+        m_window->messageDialog()->accept(); // the next one in turn
+        QCOMPARE(m_window->messageDialog()->text(), "Something else");
+        QCOMPARE(m_window->messageDialog()->detail(), "");
+    }
+
+    void proposesWhatIsMeant()
+    {
+        m_window->projectController()->newProject("Rise/Fall: 2");
+        QStringList proposed;
+        QTimer::singleShot(0, this, [&proposed] {
+            auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+            proposed = dialog->selectedFiles();
+            dialog->reject();
+        });
+        m_window->projectController()->save();
+        QCOMPARE(QFileInfo(proposed.value(0)).fileName(), "Rise_Fall_ 2.quenmora");
+
+        for (const char *name : {"Night", "Day", "Dusk"})
+            project().createPalette(CreateAction::Blank, name);
+        const QPointer<Palette> inFront = project().palettes().at(1);
+        m_window->documentController()->setActivePalette(inFront->id());
+        m_window->menus()->imageMenu()->showNewDialog();
+        auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+        QCOMPARE(dialog->findChildren<QComboBox *>().last()->currentText(), "Day");
+    }
+
+    void saysHowToBegin()
+    {
+        const auto *steps = m_window->findChild<NextSteps *>();
+        QVERIFY(!steps->isVisible());
+        m_window->projectController()->newProject("Game");
+        QVERIFY(steps->isVisible());
+        QCOMPARE(m_window->views().tabs->currentWidget(), m_window->views().tabs->scratchEditor());
+        project().createPalette(CreateAction::Blank, "Main"); // which is not listed, and makes no picture yet
+        QVERIFY(steps->isVisible());
+        const QUuid tiles = project().createTileSet("Tiles", {}, 1, false)->id();
+        QVERIFY(!steps->isVisible());
+        m_window->projectActions()->deleteItem(ProjectTree::TileSetNode, tiles);
+        QVERIFY(steps->isVisible());
+        m_window->projectController()->close();
+        QVERIFY(!steps->isVisible());
+    }
+
+private:
+    Project &project() { return *m_window->projectController()->project(); }
+    QString message() const { return m_window->statusBar()->currentMessage(); }
+    void openSample()
+    {
+        m_window->projectController()->newProject("Sample");
+        SampleProject::fill(project());
+    }
+    /// Shows an asset of every kind.
+    void openAll()
+    {
+        DocumentController &documents = *m_window->documentController();
+        documents.setActiveImageEditor(project().images().first()->id());
+        documents.setActiveSpriteEditor(project().spriteBanks().first()->id());
+        documents.setActiveBlockEditor(project().blockSets().first()->id());
+        documents.setActiveMap(project().maps().first()->id());
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<MainWindow> m_window;
+};
+
+QUENMORA_TEST_MAIN(TestTexts)
+#include "tst_texts.moc"
