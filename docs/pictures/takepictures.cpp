@@ -1,7 +1,9 @@
 // Takes the pictures of the documentation: opens the sample project in the real window, and saves what
 // it shows of every editor, menu and dialog.
 //
-//   takepictures SAMPLE FOLDER [dark]
+//   takepictures SAMPLE FOLDER light|dark [NAME…]
+//
+// With names it saves only those pictures.
 
 #include "app/documentcontroller.h"
 #include "app/documenttabview.h"
@@ -59,11 +61,12 @@ QPalette darkPalette()
 class PictureTaker
 {
 public:
-    PictureTaker(MainWindow &window, const QDir &folder, const QString &suffix)
+    PictureTaker(MainWindow &window, const QDir &folder, const QString &suffix, const QStringList &wanted)
         : m_window(window)
         , m_views(window.views())
         , m_folder(folder)
         , m_suffix(suffix)
+        , m_wanted(wanted)
     { }
 
     void takeAll(const QString &sample);
@@ -79,7 +82,8 @@ private:
     }
     void save(const QPixmap &picture, const QString &name)
     {
-        picture.save(m_folder.filePath(name + m_suffix + QStringLiteral(".png")));
+        if (m_wanted.isEmpty() || m_wanted.contains(name + m_suffix))
+            picture.save(m_folder.filePath(name + m_suffix + QStringLiteral(".png")));
     }
     /// The window with what stands in front of it.
     void shoot(const QString &name, const QList<QWidget *> &inFront = {})
@@ -114,6 +118,7 @@ private:
     const DocumentViews &m_views;
     QDir m_folder;
     QString m_suffix;
+    QStringList m_wanted; ///< empty for all
 };
 
 void PictureTaker::takeAll(const QString &sample)
@@ -202,7 +207,7 @@ void PictureTaker::takeAnimations()
     };
     documents().setActiveBlockEditor(project().blockSets().constFirst()->id());
     selectFirst();
-    shoot(QStringLiteral("blocks"));
+    shoot(QStringLiteral("map-objects"));
     documents().setActiveSpriteEditor(project().spriteBanks().constFirst()->id());
     selectFirst();
     shoot(QStringLiteral("sprite-animations"));
@@ -260,7 +265,7 @@ void PictureTaker::takeDialogs()
 
 int main(int argc, char **argv)
 {
-    if (argc < 3)
+    if (argc < 4)
         return 1;
     const QTemporaryDir home;
     qputenv("HOME", home.path().toLocal8Bit());
@@ -268,7 +273,8 @@ int main(int argc, char **argv)
     QApplication::setApplicationVersion(appVersion());
     QApplication application(argc, argv);
     QApplication::setStyle(QStringLiteral("Fusion"));
-    const bool dark = argc > 3;
+    const QStringList arguments = QApplication::arguments();
+    const bool dark = arguments.at(3) == QLatin1String("dark");
     if (dark)
         QApplication::setPalette(darkPalette());
     Update::UpdateChecker::setFeedAddress({}); // pictures are taken without a network
@@ -280,7 +286,8 @@ int main(int argc, char **argv)
         return 1;
     MainWindow window;
     window.resize(WindowSize);
-    PictureTaker(window, QDir(QString::fromLocal8Bit(argv[2])), dark ? QStringLiteral("-dark") : QString())
+    PictureTaker(window, QDir(QString::fromLocal8Bit(argv[2])), dark ? QStringLiteral("-dark") : QString(),
+                 arguments.mid(4))
         .takeAll(sample);
     window.projectController()->close();
     return 0;
