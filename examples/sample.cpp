@@ -45,7 +45,7 @@ constexpr std::array TileRows{
     Tile::TA_DOOR,
 };
 
-/// An animated block of the level. Positions and sizes are in cells, delays in ticks of 20 ms.
+/// An animation of the level. Positions and sizes are in cells, delays in ticks of 20 ms.
 struct Block
 {
     QString name;

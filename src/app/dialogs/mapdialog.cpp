@@ -8,11 +8,11 @@
 
 namespace {
 
-QSpinBox *newTileCount(int least, QWidget *parent)
+QSpinBox *newSide(int least, QWidget *parent)
 {
     auto *box = new QSpinBox(parent);
     box->setRange(least, MapDialog::MostTiles);
-    box->setSuffix(MapDialog::tr(" tiles"));
+    box->setSuffix(MapDialog::tr(" cells"));
     return box;
 }
 
@@ -21,8 +21,8 @@ QSpinBox *newTileCount(int least, QWidget *parent)
 MapDialog::MapDialog(QWidget *parent)
     : CreationDialog(tr("New Map"), tr("Create a new map"), parent)
     , m_tileSet(new AssetChooser(this))
-    , m_width(newTileCount(LeastSize.width(), this))
-    , m_height(newTileCount(LeastSize.height(), this))
+    , m_width(newSide(LeastSize.width(), this))
+    , m_height(newSide(LeastSize.height(), this))
 {
     form()->addRow(tr("&Tile set"), m_tileSet);
     form()->addRow(tr("&Width"), m_width);

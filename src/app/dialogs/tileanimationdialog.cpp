@@ -6,7 +6,7 @@
 #include <QFormLayout>
 
 TileAnimationDialog::TileAnimationDialog(QWidget *parent)
-    : CreationDialog(tr("New Tile Animations"), tr("Create a set of tile animations"), parent)
+    : CreationDialog(tr("New Map Objects"), tr("Create map objects: animations for maps"), parent)
     , m_tileSet(new AssetChooser(this))
 {
     form()->addRow(tr("&Tile set"), m_tileSet);
@@ -22,7 +22,7 @@ void TileAnimationDialog::show(const Project &project, const QUuid &tileSetId)
 QString TileAnimationDialog::problem() const
 {
     if (m_tileSet->count() == 0)
-        return tr("Animations are made of the tiles of a tile set; please create a tile set first");
+        return tr("Map objects are made of the tiles of a tile set; please create a tile set first");
     return CreationDialog::problem();
 }
 

@@ -10,7 +10,7 @@ BlockEditorToolBar::BlockEditorToolBar(QWidget *parent)
     m_type->addItem(tr("Normal"), int(MapObjectType::Normal));
     m_type->addItem(tr("Horizontal Platform"), int(MapObjectType::HorizontalPlatform));
     m_type->setAccessibleName(tr("Type"));
-    m_type->setToolTip(tr("How the game moves the block"));
+    m_type->setToolTip(tr("How the game moves the animation"));
     addControl(QString(), m_type, AfterName);
     connect(m_type, &QComboBox::currentIndexChanged, this,
             [this] { emit blockTypeChanged(MapObjectType(m_type->currentData().toInt())); });
