@@ -10,6 +10,7 @@
 #include "app/nextsteps.h"
 #include "editors/canvas/imageeditorview.h"
 #include "editors/map/exportdialog.h"
+#include "model/assetname.h"
 #include "support/sampleproject.h"
 #include "support/testmain.h"
 #include "ui/messagedialog.h"
@@ -21,6 +22,7 @@
 #include <QFileDialog>
 #include <QHelpEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QSignalSpy>
 #include <QStatusBar>
 #include <QTabBar>
@@ -161,6 +163,31 @@ private slots:
         }
         QVERIFY(tips > 0);
         QToolTip::hideText();
+    }
+
+    void takesNoEndlessNames()
+    {
+        openSample();
+        openAll();
+        const MenuBar &menus = *m_window->menus();
+        menus.fileMenu()->showNewDialog();
+        menus.paletteMenu()->showNewDialog();
+        menus.tileMenu()->showNewDialog();
+        menus.tileMenu()->showAnimationDialog();
+        menus.mapMenu()->showNewDialog();
+        menus.spriteMenu()->showNewDialog();
+        menus.imageMenu()->showNewDialog();
+        ProjectTree *tree = m_window->views().project->tree();
+        tree->editItem(tree->itemOf(project().maps().first()->id()));
+        entry(m_window->views().palette->findChild<QMenu *>(), "Rename")->trigger();
+        int fields = 0;
+        for (const QLineEdit *field : m_window->findChildren<QLineEdit *>()) {
+            if (qobject_cast<QAbstractSpinBox *>(field->parentWidget()))
+                continue;
+            QVERIFY2(field->maxLength() == AssetName::MaxLength, field->parentWidget()->metaObject()->className());
+            ++fields;
+        }
+        QCOMPARE(fields, 7 + 2 + 3); // dialogs, renames, and animations of two kinds and a placed sprite
     }
 
     void tellsWhatWasExported_data()

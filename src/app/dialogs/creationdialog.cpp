@@ -1,5 +1,7 @@
 #include "app/dialogs/creationdialog.h"
 
+#include "model/assetname.h"
+
 #include <QFormLayout>
 #include <QLineEdit>
 
@@ -9,6 +11,7 @@ CreationDialog::CreationDialog(const QString &title, const QString &header, QWid
 {
     setHeader(header);
     form()->addRow(tr("&Name"), m_name);
+    m_name->setMaxLength(AssetName::MaxLength);
     connect(m_name, &QLineEdit::textChanged, this, &CreationDialog::revalidate);
 }
 

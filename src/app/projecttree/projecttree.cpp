@@ -1,9 +1,12 @@
 #include "app/projecttree/projecttree.h"
 
+#include "model/assetname.h"
 #include "ui/svgiconengine.h"
 
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QMenu>
+#include <QStyledItemDelegate>
 #include <QTreeWidgetItemIterator>
 
 #include <array>
@@ -30,6 +33,21 @@ constexpr std::array<Group, ProjectTree::NodeCount> Groups{{
 constexpr int LighterFactor = 150;
 /// Behind the light colours of the groups, which a light theme would swallow
 constexpr QColor GroupBackground(56, 56, 64);
+
+/// Lets nobody type an endless name.
+class NameDelegate final : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        QWidget *editor = QStyledItemDelegate::createEditor(parent, option, index);
+        if (auto *name = qobject_cast<QLineEdit *>(editor))
+            name->setMaxLength(AssetName::MaxLength);
+        return editor;
+    }
+};
 
 QVariant dataOf(const QTreeWidgetItem *item)
 {
@@ -70,6 +88,7 @@ ProjectTree::ProjectTree(QWidget *parent) : QTreeWidget(parent), m_menu(new QMen
     setExpandsOnDoubleClick(false); // it opens the asset
     setContextMenuPolicy(Qt::CustomContextMenu);
     setEditTriggers(EditKeyPressed);
+    setItemDelegate(new NameDelegate(this));
     setAccessibleName(tr("Project"));
     setFrameShape(QFrame::NoFrame);
     buildMenu();

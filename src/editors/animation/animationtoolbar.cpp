@@ -1,5 +1,6 @@
 #include "editors/animation/animationtoolbar.h"
 
+#include "model/assetname.h"
 #include "ui/flowlayout.h"
 
 #include <QHBoxLayout>
@@ -62,6 +63,7 @@ AnimationToolBar::AnimationToolBar(const QString &widthToolTip, const QString &h
                   MaximumDelay);
     m_delay->setSpecialValueText(tr("None"));
 
+    m_name->setMaxLength(AssetName::MaxLength);
     connect(m_name, &QLineEdit::textChanged, this, &AnimationToolBar::nameChanged);
     connect(m_width, &QSpinBox::valueChanged, this, &AnimationToolBar::widthChanged);
     connect(m_height, &QSpinBox::valueChanged, this, &AnimationToolBar::heightChanged);

@@ -1,5 +1,7 @@
 #include "editors/map/spriteproperties.h"
 
+#include "model/assetname.h"
+
 #include <QCheckBox>
 #include <QFormLayout>
 #include <QLineEdit>
@@ -15,6 +17,7 @@ SpriteProperties::SpriteProperties(QWidget *parent) : QWidget(parent), m_name(ne
     auto *form = new QFormLayout(this);
     form->setContentsMargins(0, 0, 0, 0);
     form->addRow(tr("Name"), m_name);
+    m_name->setMaxLength(AssetName::MaxLength);
     connect(m_name, &QLineEdit::textChanged, this, [this](const QString &name) { edit(&Sprite::name, name); });
     m_mirror = addCheckBox(form, tr("Mirror"), &Sprite::mirror);
     m_flip = addCheckBox(form, tr("Flip"), &Sprite::flip);

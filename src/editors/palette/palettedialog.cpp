@@ -1,5 +1,7 @@
 #include "editors/palette/palettedialog.h"
 
+#include "model/assetname.h"
+
 #include <QButtonGroup>
 #include <QFormLayout>
 #include <QLineEdit>
@@ -21,6 +23,7 @@ PaletteDialog::PaletteDialog(QWidget *parent)
     addChoice(CreateAction::DefaultNext, tr("Use the default Next palette"));
     addChoice(CreateAction::Blank, tr("Create a blank palette"));
     m_choice->button(int(CreateAction::DefaultNext))->setChecked(true);
+    m_name->setMaxLength(AssetName::MaxLength);
     connect(m_name, &QLineEdit::textChanged, this, &PaletteDialog::revalidate);
 }
 

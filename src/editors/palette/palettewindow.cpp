@@ -1,6 +1,7 @@
 #include "editors/palette/palettewindow.h"
 
 #include "editors/palette/paletteeditor.h"
+#include "model/assetname.h"
 #include "ui/svgiconengine.h"
 
 #include <QComboBox>
@@ -150,6 +151,7 @@ void PaletteWindow::startRenaming()
     m_chooser->setEditable(true);
     m_chooser->setInsertPolicy(QComboBox::NoInsert);
     m_chooser->setCompleter(nullptr);
+    m_chooser->lineEdit()->setMaxLength(AssetName::MaxLength);
     m_chooser->lineEdit()->setText(m_palette->name());
     m_chooser->lineEdit()->selectAll();
     m_chooser->setFocus(Qt::OtherFocusReason);
