@@ -114,13 +114,13 @@ private slots:
     {
         TileEditor::ExportDialog dialog;
         QSignalSpy accepted(&dialog, &TileEditor::ExportDialog::accepted);
-        dialog.show(256);
+        dialog.show(TileSet(256));
         QCOMPARE(confirm(dialog), QString());
-        dialog.show(512); // as all tiles were wanted, all are
+        dialog.show(TileSet(512)); // as all tiles were wanted, all are
         field<QCheckBox>(dialog)->setChecked(true);
         QCOMPARE(confirm(dialog), QString());
         QCOMPARE(accepted, QList<QVariantList>({{1, 256, false}, {1, 512, true}}));
-        dialog.show(512);
+        dialog.show(TileSet(512));
         field<QSpinBox>(dialog, 0)->setValue(20);
         field<QSpinBox>(dialog, 1)->setValue(19);
         QCOMPARE(confirm(dialog), "The first tile comes after the last one");

@@ -289,6 +289,7 @@ private slots:
                 m_window->views().tabs->setScratchEditorVisible(true);
             else
                 m_window->documentController()->setActiveImageEditor(project().images().first()->id());
+            QCoreApplication::processEvents(); // or both would be told together
             auto *view = m_window->views().tabs->currentWidget();
             QVERIFY(QMetaObject::invokeMethod(view, "exportImage", Q_ARG(QString, file)));
             QCOMPARE(message(),
