@@ -3,13 +3,13 @@
 #include "editors/map/mapclipboard.h"
 #include "editors/map/mappainter.h"
 #include "model/placedsprites.h"
+#include "ui/outlineband.h"
 
 #include <QElapsedTimer>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
-#include <QRubberBand>
 #include <QWheelEvent>
 
 using namespace Quenmora::Ui;
@@ -18,7 +18,7 @@ namespace MapEditor {
 
 MapGrid::MapGrid(QWidget *parent)
     : QWidget(parent)
-    , m_rubberBand(new QRubberBand(QRubberBand::Rectangle, this))
+    , m_rubberBand(new OutlineBand(this))
     , m_contextMenu(new QMenu(this))
 {
     setAttribute(Qt::WA_OpaquePaintEvent);

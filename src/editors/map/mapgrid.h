@@ -10,8 +10,8 @@
 
 #include <QWidget>
 
+class OutlineBand;
 class QMenu;
-class QRubberBand;
 
 namespace MapEditor {
 
@@ -192,7 +192,7 @@ private:
     MapBrush m_brush;
     MapEditing m_editing{m_content};
     MapToolBox m_tools{this}; ///< which use all of the above
-    QRubberBand *m_rubberBand;
+    OutlineBand *m_rubberBand;
     QMenu *m_contextMenu;
 };
 

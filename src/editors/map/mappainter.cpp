@@ -102,13 +102,19 @@ QImage MapPainter::tilePicture(const QPointer<Map> &map, const TileMap::TileData
     return tiles->tileImage(cell.index, cell.rotate, cell.flip, cell.mirror, cell.offset);
 }
 
-void MapPainter::paintOutline(QPainter &painter, const QRect &area)
+void MapPainter::paintOutline(QPainter &painter, const QRect &area, int thickness)
 {
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(LightGrey);
-    painter.drawRect(area.adjusted(0, 0, -1, -1));
-    painter.setPen(DarkGrey);
-    painter.drawRect(area.adjusted(1, 1, -2, -2));
+    for (int i = 0; i < 2 * thickness; ++i) {
+        painter.setPen(i < thickness ? LightGrey : DarkGrey);
+        painter.drawRect(area.adjusted(i, i, -i - 1, -i - 1));
+    }
+}
+
+void MapPainter::paintSelection(QPainter &painter, const QRect &area)
+{
+    constexpr int Roomy = 16; // smaller ones would be all outline
+    paintOutline(painter, area, std::min(area.width(), area.height()) < Roomy ? 1 : 2);
 }
 
 void MapPainter::paintStatus(QPainter &painter, QPoint cell, qint64 milliseconds)

@@ -27,8 +27,10 @@ public:
 
     /// How a tile looks in a cell; null when the map's tile set does not have it.
     [[nodiscard]] static QImage tilePicture(const QPointer<Map> &map, const TileMap::TileData &cell);
-    /// Outlines an area with a light and a dark line, so that it is seen on every ground.
-    static void paintOutline(QPainter &painter, const QRect &area);
+    /// Outlines an area inside its edge with a light and a dark line, so that it is seen on every ground.
+    static void paintOutline(QPainter &painter, const QRect &area, int thickness = 1);
+    /// The same for what is selected or about to be pasted: lines that are found at a glance.
+    static void paintSelection(QPainter &painter, const QRect &area);
     /// Where the pointer is and how long the painting took.
     static void paintStatus(QPainter &painter, QPoint cell, qint64 milliseconds);
 

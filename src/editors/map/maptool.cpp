@@ -35,7 +35,7 @@ void MapTool::mouseReleased(QMouseEvent *) { }
 void MapTool::paintSelection(QPainter &painter) const
 {
     if (const QRect cells = surface()->selection(); !cells.isEmpty())
-        MapPainter::paintOutline(painter, viewport().rectOfCells(cells));
+        MapPainter::paintSelection(painter, viewport().rectOfCells(cells));
 }
 
 void MapTool::paintUnder(QPainter &) const { }

@@ -47,7 +47,7 @@ bool PasteTool::mousePressed(QMouseEvent *)
 void PasteTool::paintOver(QPainter &painter) const
 {
     if (!surface()->pasteArea().isEmpty())
-        MapPainter::paintOutline(painter, viewport().rectOfCells(surface()->pasteArea()));
+        MapPainter::paintSelection(painter, viewport().rectOfCells(surface()->pasteArea()));
 }
 
 } // namespace MapEditor
