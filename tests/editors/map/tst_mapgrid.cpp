@@ -1,6 +1,6 @@
 #include "support/mapfixture.h"
 
-#include "editors/map/mappreferences.h"
+#include "editors/map/mappainter.h"
 #include "support/paintwatch.h"
 #include "support/testmain.h"
 
@@ -127,119 +127,45 @@ private slots:
         QCOMPARE(positions.last(), QVariantList{QPoint(0, 0)});
     }
 
-    void editsTheSelection()
+    void contextMenuActsOnTheSelection()
     {
         MapGridFixture f;
         f.map->setTile({1, 1}, {3, true, false, false, 2, true});
         f.map->setTile({2, 1}, {4, false, false, false, 0, true});
         f.grid.setTransparencyIndex(4);
+        f.grid.setCurrentTileIndex(5);
         f.grid.setMode(Select);
-        auto *contextMenu = f.grid.findChild<QMenu *>();
+        auto *menu = f.grid.findChild<QMenu *>();
         f.click(f.at(1, 1), Qt::RightButton);
-        QVERIFY(!contextMenu->isVisible()); // nothing is selected
+        QVERIFY(!menu->isVisible()); // nothing is selected
         f.drag({f.at(1, 1), f.at(2, 1)});
         f.press(f.at(1, 1), Qt::RightButton);
-        QVERIFY(contextMenu->isVisible() && f.grid.pointer().held == Qt::NoButton);
-        contextMenu->hide();
-        QHash<QString, QAction *> menu;
-        for (QAction *action : contextMenu->actions())
-            menu.insert(action->text(), action);
-        menu.value("Copy as Image")->trigger();
+        QVERIFY(menu->isVisible() && f.grid.pointer().held == Qt::NoButton);
+        menu->hide();
+        const auto choose = [menu](int action, const char *text) {
+            QCOMPARE(menu->actions().at(action)->text(), text);
+            menu->actions().at(action)->trigger();
+        };
+        choose(3, "Copy as Image");
         const QImage image = QApplication::clipboard()->image();
         QCOMPARE(image.size(), QSize(16, 8));
         QCOMPARE(image.pixelColor(0, 0), f.colour(2 * 16 + 3));
         QCOMPARE(image.pixelColor(8, 0).alpha(), 0);
         QCOMPARE(image.text("paletteid"), f.palette->id().toString());
         QSignalSpy wanted(&f.grid, &MapGrid::createMapFromSelection);
-        menu.value("Copy to new map")->trigger();
+        choose(2, "Copy to new map");
         QCOMPARE(wanted, (Signals{{f.map->id(), QSize(2, 1)}}));
         QApplication::clipboard()->clear();
-
-        menu.value("Cut")->trigger();
+        choose(4, "Fill");
+        choose(0, "Cut");
         QCOMPARE(f.tile(1, 1), (TileData{0, false, false, false, 0, true}));
         QVERIFY(f.grid.selection().isEmpty());
         QCOMPARE(f.grid.pasteArea(), QRect(1, 1, 2, 1));
         const auto copied = TileMap::readSelection(QApplication::clipboard()->mimeData());
         QCOMPARE(copied.size, QSize(2, 1));
-        QCOMPARE(copied.cells.first(), (TileData{3, true, false, false, 2, true}));
-        f.grid.cutSelection(); // nothing is selected
-
-        f.drag({f.at(1, 1), f.at(2, 3)});
-        f.grid.setCurrentTileIndex(3);
-        f.grid.setFlipped(true);
-        menu.value("Fill")->trigger();
-        QCOMPARE(f.tile(2, 3), (TileData{3, false, true, false, 2, true}));
-        QVERIFY(!f.tile(3, 3).used);
-        f.grid.clearSelection();
-        QCOMPARE(f.tile(2, 3), (TileData{0, false, false, false, 0, true}));
-        f.grid.setCurrentTileIndex(-1);
-        f.grid.fillSelection();
-        QCOMPARE(f.steps(), "Cut|Fill|Clear");
-    }
-
-    void editsPlacedSprites()
-    {
-        MapGridFixture f;
-        for (int i = 0; i < 3; ++i)
-            f.map->addSprite(f.sprite(i, {i * 32, 0}));
-        f.grid.setMode(PlaceSprite);
-        f.click(f.pixel(65, 1));
-        QCOMPARE(f.grid.spriteRect(2), QRect(128, 0, 32, 32));
-        QCOMPARE(f.grid.spriteRect(3), QRect());
-        Map::PlacedSprite changed = f.map->sprites().at(2);
-        changed.name = "Door";
-        f.grid.setSpriteProperties(changed);
-        QCOMPARE(f.map->sprites().at(2), changed);
-
-        QSignalSpy selected(&f.grid, &MapGrid::selectedSpriteChanged);
-        for (const int x : {1, 65}) {
-            f.grid.setSpriteVisibility(false);
-            f.move(f.pixel(x, 1));
-            QVERIFY(!f.grid.deleteSprite()); // what is hidden is not under the pointer
-            f.grid.setSpriteVisibility(true);
-            f.move(f.pixel(x, 2));
-            f.grid.setSpriteVisibility(false);
-            QVERIFY(!f.grid.deleteSprite()); // nor what was hidden afterwards
-            f.grid.setSpriteVisibility(true);
-            f.move(f.pixel(x, 1));
-            QVERIFY(f.grid.deleteSprite() && !f.grid.deleteSprite());
-        }
-        QCOMPARE(selected, (Signals{{1}, {-1}}));
-        f.grid.setSpriteProperties(changed); // nothing is selected
-        f.grid.setCurrentSprite(f.bank->id(), 1);
-        f.click(f.at(8, 8));
-        QCOMPARE(f.steps(), "Sprite Properties|Delete Sprite|Delete Sprite|Place Sprite");
-        f.stack.undo();
-        QCOMPARE(f.grid.selectedSprite(), -1);
-    }
-
-    void resizesTheMap()
-    {
-        using Operation = void (*)(MapGrid &);
-        for (const auto &[text, size, operation] :
-             {std::tuple("Add Rows", QSize(20, 19), Operation([](MapGrid &grid) { grid.addRows(Begin, 3); })),
-              {"Add Columns", {22, 16}, [](MapGrid &grid) { grid.addColumns(End, 2); }},
-              {"Remove Rows", {20, 1}, [](MapGrid &grid) { grid.removeRows(End, 500); }},
-              {"Remove Columns", {1, 16}, [](MapGrid &grid) { grid.removeColumns(End, 50); }},
-              {"Resize Map", {5, 7}, [](MapGrid &grid) {
-                   grid.resizeMap({5, 7}, Qt::AlignLeft | Qt::AlignTop);
-               }}}) {
-            MapGridFixture f;
-            f.map->addSprite(f.sprite(1, {150, 120}));
-            f.grid.setMode(PlaceSprite);
-            f.click(f.pixel(155, 125));
-            f.grid.selectAll();
-            QSignalSpy resized(&f.grid, &MapGrid::mapResized);
-            operation(f.grid);
-            QCOMPARE(f.map->size(), size);
-            QCOMPARE(f.steps(), text);
-            QCOMPARE(f.grid.selection().size(), size.boundedTo({20, 16}));
-            f.grid.selectAll();
-            f.stack.undo();
-            QCOMPARE(resized, (Signals{{size}, {QSize(20, 16)}}));
-            QVERIFY(QRect(0, 0, 20, 16).contains(f.grid.selection()));
-            QCOMPARE(f.map->sprites().size(), 1);
-        }
+        QCOMPARE(copied.cells.first(), (TileData{5, false, false, false, 0, true}));
+        choose(0, "Cut"); // nothing is selected
+        QCOMPARE(f.steps(), "Fill|Cut");
     }
 
     void paintsTheLayers()
@@ -269,55 +195,79 @@ private slots:
 
     void paintsWhatLiesBeneath()
     {
-        for (const auto &[checker, background, even, odd] : {std::tuple(true, -1, Qt::red, Qt::blue),
-                                                             {false, -1, Qt::black, Qt::black},
-                                                             {true, 3, Qt::green, Qt::green},
-                                                             {false, 16, Qt::black, Qt::black}}) {
-            MapGridFixture f;
+        // whether a checker board is preferred (none: no preferences were applied), whether the grid was toggled since,
+        // the background tile, and what is seen in two cells
+        using Preferred = std::optional<bool>;
+        for (const auto &[preferred, toggled, background, even, odd] :
+             {std::tuple(Preferred(true), Preferred(), -1, Qt::red, Qt::blue),
+              {true, true, -1, Qt::red, Qt::blue},
+              {true, false, -1, Qt::black, Qt::black},
+              {false, {}, -1, Qt::black, Qt::black},
+              {false, true, 16, Qt::black, Qt::black}, // there is no such tile
+              {{}, {}, -1, Qt::black, Qt::black},
+              {{}, true, -1, Qt::black, Qt::black},
+              {true, {}, 3, Qt::green, Qt::green}}) {
+            MapAssets f;
             f.palette->setColour(2 * 16 + 3, Qt::green, false);
             f.map->placeAnimation(f.animation, {4, 2});
             f.animation->frame(0)->setIndex(0, 0, 0);
             f.map->stampFrame(*f.animation, 0, {{4, 2}, f.animation->size()});
             f.map->setTile({4, 2}, {1, false, false, false, 0, true});
+            MapEditor::MapContent content;
+            content.setMap(f.map);
+            MapEditor::MapDisplay display;
+            display.backgroundTileIndex = background;
+            if (preferred)
+                display.apply({*preferred, Qt::red, Qt::blue, true, 8, 4});
+            if (toggled)
+                display.setGridVisible(*toggled);
             for (const int zoom : {1, 2, 8}) { // the last with a cell a strip
-                f.grid.applyPreferences({checker, Qt::red, Qt::blue, false, 8, zoom});
-                f.grid.resize(10 * f.grid.viewport().cellSize, 256);
-                f.grid.setBackgroundTileIndex(background);
-                f.grid.setTransparencyIndex(0);
-                const auto colourAt = [&f](int x, int y) {
-                    return f.screenColour(f.grid.viewport().rectOfCells({x, y, 1, 1}).center());
+                MapViewport viewport;
+                viewport.setZoom(zoom);
+                QImage screen(10 * viewport.cellSize + 6, 256 + 6, QImage::Format_RGB32);
+                viewport.layout(screen.size(), f.map->size());
+                const auto colourAt = [&](int x, int y) {
+                    QPainter painter(&screen);
+                    painter.setBrushOrigin(viewport.viewRect.topLeft());
+                    MapEditor::MapPainter(content, viewport, display).paintContent(painter, viewport.viewRect);
+                    return screen.pixelColor(viewport.rectOfCells({x, y, 1, 1}).center());
                 };
+                display.transparencyIndex = 0;
                 for (const bool visible : {true, false}) {
-                    f.grid.setMapVisibility(visible);
+                    content.setTilesVisible(visible);
                     QCOMPARE(colourAt(2, 2), even);
                     QCOMPARE(colourAt(2, 3), odd);
-                    QCOMPARE(colourAt(4, 2), visible ? f.colour(1) : even); // through the object layer
-                    QCOMPARE(colourAt(5, 2), f.colour(5));
+                    QCOMPARE(colourAt(4, 2), visible ? QColor(f.palette->colourTable().at(1)) : even); // see-through
+                    QCOMPARE(colourAt(5, 2), QColor(f.palette->colourTable().at(5)));
                 }
-                f.grid.scrollRight(); // the squares go with their cells
+                viewport.scrollBy({1, 0}, f.map->size()); // the squares go with their cells
                 QCOMPARE(colourAt(2, 3), odd);
-                f.grid.scrollLeft();
-                f.grid.setMapVisibility(true);
-                f.grid.setTransparencyIndex(-1);
-                QCOMPARE(colourAt(2, 3), f.colour(0));
+                content.setTilesVisible(true);
+                display.transparencyIndex = -1;
+                QCOMPARE(colourAt(2, 3), QColor(f.palette->colourTable().at(0)));
             }
         }
     }
 
-    void checkerBoardIsForThoseWhoPreferIt()
+    void selectionIsSeenOnEveryGround()
     {
-        // the grid lines are another preference, and Toggle Grid shows what is preferred
-        for (const auto &[applied, preferred] : {std::pair(false, false), {true, false}, {true, true}}) {
-            MapGridFixture f;
-            f.grid.setTransparencyIndex(0);
-            if (applied)
-                f.grid.applyPreferences({preferred, Qt::red, Qt::red, true, 4, 4});
-            for (int toggled = 0; toggled < 2; ++toggled) {
-                QCOMPARE(f.screenColour(f.at(3, 3)), preferred ? Qt::red : Qt::black);
-                f.grid.setGridVisible(true);
+        for (const int ground : {0, 48, 128, 208, 255}) {
+            QImage image(64, 48, QImage::Format_RGB32);
+            image.fill(qRgb(ground, ground, ground));
+            QPainter painter(&image);
+            const QRect area(8, 8, 48, 32);
+            MapEditor::MapPainter::paintSelection(painter, area);
+            const QPoint centre = area.center();
+            for (const auto &[start, step] : {std::pair(QPoint(0, centre.y()), QPoint(1, 0)),
+                                              {{63, centre.y()}, {-1, 0}},
+                                              {{centre.x(), 0}, {0, 1}},
+                                              {{centre.x(), 47}, {0, -1}}}) {
+                int seen = 0;
+                for (int i = 0; i < 20; ++i)
+                    seen += std::abs(qGray(image.pixel(start + i * step)) - ground) >= 80;
+                QVERIFY(seen >= 2);
+                QCOMPARE(qGray(image.pixel(start + 7 * step)), ground); // it stays inside
             }
-            f.grid.setGridVisible(false);
-            QCOMPARE(f.screenColour(f.at(3, 3)), QColor(Qt::black));
         }
     }
 

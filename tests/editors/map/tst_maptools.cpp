@@ -59,9 +59,7 @@ private slots:
         f.drag({f.at(1, 0), f.at(2, 0), {-3, -3}}); // released outside, and the edit ends all the same
         f.move(f.at(7, 7));
         QVERIFY(!f.tile(7, 7).used); // no button is held any more
-        f.grid.setUndoStack(nullptr);
-        f.drag({f.at(0, 5), f.at(1, 5)});
-        QVERIFY(f.tile(1, 5).used && f.stack.count() == 2); // edited, not recorded
+        QCOMPARE(f.stack.count(), 2);
     }
 
     void hiddenLayersAreNotEdited()
@@ -106,26 +104,6 @@ private slots:
         QCOMPARE(f.steps(), "Place Animation|Remove Animation");
         f.stack.setIndex(0);
         QVERIFY(f.map->animatedBlocks()->list().isEmpty() && !f.object(5, 4).used);
-    }
-
-    void playedFramesAreNoEdit()
-    {
-        F f;
-        f.map->placeAnimation(f.animation, {3, 3});
-        f.grid.setCurrentTileIndex(4);
-        f.press(f.at(10, 1));
-        f.map->stampFrame(*f.animation, 1, {{3, 3}, f.animation->size()});
-        f.release(f.at(10, 1));
-        QCOMPARE(f.stack.count(), 0);
-
-        f.press(f.at(10, 1));
-        f.move(f.at(11, 1));
-        f.map->stampFrame(*f.animation, 0, {{3, 3}, f.animation->size()});
-        f.release(f.at(11, 1));
-        f.map->stampFrame(*f.animation, 1, {{3, 3}, f.animation->size()});
-        f.stack.undo();
-        QCOMPARE(f.object(3, 3).index, 6); // the frame stays as it plays
-        QVERIFY(!f.tile(11, 1).used);
     }
 
     void selectsTheCellsUnderTheBand()
