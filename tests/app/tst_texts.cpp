@@ -8,6 +8,7 @@
 #include "app/menus/spritemenu.h"
 #include "app/menus/tilemenu.h"
 #include "app/nextsteps.h"
+#include "editors/canvas/canvas.h"
 #include "editors/canvas/imageeditorview.h"
 #include "editors/map/exportdialog.h"
 #include "model/assetname.h"
@@ -336,7 +337,14 @@ private slots:
         QVERIFY(!steps->isVisible());
         m_window->projectController()->newProject("Game");
         QVERIFY(steps->isVisible());
-        QCOMPARE(m_window->views().tabs->currentWidget(), m_window->views().tabs->scratchEditor());
+        ImageEditor::View *scratch = m_window->views().tabs->scratchEditor();
+        QCOMPARE(m_window->views().tabs->currentWidget(), scratch);
+        // which has no colours yet, and does not show what stood there before
+        QWidget *canvas = scratch->canvas();
+        QImage shown(canvas->size(), QImage::Format_RGB32);
+        shown.fill(Qt::magenta);
+        canvas->render(&shown, {}, {}, {});
+        QCOMPARE(shown.pixelColor(0, 0), canvas->palette().color(QPalette::Window));
         project().createPalette(CreateAction::Blank, "Main"); // which is not listed, and makes no picture yet
         QVERIFY(steps->isVisible());
         const QUuid tiles = project().createTileSet("Tiles", {}, 1, false)->id();

@@ -1,6 +1,7 @@
 #include "editors/canvas/pixeleditor.h"
 
 #include "editors/canvas/canvas.h"
+#include "editors/canvas/palettenotice.h"
 #include "model/palette.h"
 #include "ui/toolpalette.h"
 
@@ -35,6 +36,7 @@ PixelEditor::PixelEditor(QSize imageSize, Qt::Orientation toolPalette, const QLi
     : m_canvas(new Canvas(imageSize))
     , m_tools(new ToolPalette(toolPalette))
 {
+    new PaletteNotice(m_canvas);
     for (const ToolButton button : {Draw, Line, Rectangle, RectangleFill, Circle, Fill, Pick, Select})
         m_tools->addEntry(button);
     // While something is being pasted, pasting is the tool in use.
