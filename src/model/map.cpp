@@ -146,6 +146,7 @@ void Map::moveContent(QPoint cells)
 {
     if (!neededTileLayer())
         return;
+    m_origin += cells;
     const QRect grid = m_tileLayer->bounds();
     const QRect staying = grid.translated(-cells); // what lies in it now will lie on the map
     QList<QRect> leaving;
@@ -360,10 +361,16 @@ bool Map::importNxm(const QString &mapFile, const QString &blockFile)
     return true;
 }
 
+bool Map::Snapshot::operator==(const Snapshot &other) const
+{
+    return tiles == other.tiles && objects == other.objects && placements == other.placements
+        && sprites == other.sprites;
+}
+
 Map::Snapshot Map::snapshot() const
 {
     return {m_tileLayer ? m_tileLayer->rows() : TileMap::Rows(),
-            m_objectLayer ? m_objectLayer->rows() : TileMap::Rows(), m_animatedBlocks->state(), m_sprites};
+            m_objectLayer ? m_objectLayer->rows() : TileMap::Rows(), m_animatedBlocks->state(), m_sprites, m_origin};
 }
 
 void Map::restore(const Snapshot &snapshot)
@@ -374,5 +381,6 @@ void Map::restore(const Snapshot &snapshot)
         m_objectLayer->restore(snapshot.objects);
     m_animatedBlocks->restore(snapshot.placements);
     m_sprites = snapshot.sprites;
+    m_origin = snapshot.origin;
     emit restored();
 }

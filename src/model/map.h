@@ -66,8 +66,11 @@ public:
         TileMap::Rows objects;
         AnimatedBlocks::State placements;
         QList<PlacedSprite> sprites;
+        /// The cell where that one is now which was the first one of the new map, as far as content has moved.
+        QPoint origin{};
 
-        bool operator==(const Snapshot &) const = default;
+        /// Whether the contents are equal, wherever they were before.
+        bool operator==(const Snapshot &other) const;
     };
 
     explicit Map(const QString &name = {}, QObject *parent = nullptr);
@@ -180,6 +183,7 @@ private:
     QPointer<TileMap> m_objectLayer;
     AnimatedBlocks *m_animatedBlocks; ///< owned as a child
     QList<PlacedSprite> m_sprites;
+    QPoint m_origin; ///< see Snapshot
     bool m_spriteLayerVisible = true;
     bool m_gridVisible = false;
     int m_tileTransparencyIndex = -1;

@@ -208,7 +208,7 @@ SpriteBankEdit EditRecorder::capture(SpriteBank &bank) const
     if (!m_project)
         return edit;
     for (const QPointer<Map> &map : m_project->maps())
-        edit.maps.insert(map->id(), map->sprites());
+        edit.maps.insert(map->id(), {map->sprites(), map->snapshot().origin});
     return edit;
 }
 
@@ -261,12 +261,12 @@ void EditRecorder::put(SpriteBank &bank, const SpriteBankEdit &now, const Sprite
     SpriteBank::State state = next.bank;
     state.animations.removeIf([&now](auto entry) { return entry.value() == now.bank.animations.value(entry.key()); });
     bank.restore(state);
-    for (auto sprites = next.maps.cbegin(); m_project && sprites != next.maps.cend(); ++sprites) {
-        const QPointer<Map> map = m_project->map(sprites.key());
-        if (!map || *sprites == now.maps.value(sprites.key()))
+    for (auto placed = next.maps.cbegin(); m_project && placed != next.maps.cend(); ++placed) {
+        const QPointer<Map> map = m_project->map(placed.key());
+        if (!map || *placed == now.maps.value(placed.key()))
             continue;
         Map::Snapshot content = map->snapshot();
-        content.sprites = *sprites;
+        content.sprites = placed->sprites;
         map->restore(content);
     }
 }

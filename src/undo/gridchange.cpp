@@ -2,8 +2,6 @@
 
 #include <algorithm>
 #include <functional>
-#include <limits>
-#include <numeric>
 #include <tuple>
 
 namespace {
@@ -51,51 +49,16 @@ void writeOver(const Row &expected, QList<Row> &rows, qsizetype row, qsizetype c
     }
 }
 
-/// How many cells differ where two contents overlap, the second one being shifted; it stops counting at a bound.
-template <typename Rows>
-qint64 differences(const Rows &before, const Rows &after, QPoint shift, qint64 bound)
-{
-    const QRect overlap = QRect(shift, sizeOf(before)) & QRect(QPoint(), sizeOf(after));
-    qint64 count = 0;
-    for (int y = overlap.top(); y <= overlap.bottom() && count < bound; ++y) {
-        const auto first = after.at(y).cbegin() + overlap.left();
-        count += std::inner_product(first, first + overlap.width(),
-                                    before.at(y - shift.y()).cbegin() + overlap.left() - shift.x(), qint64(0),
-                                    std::plus<>(), std::not_equal_to<>());
-    }
-    return count;
-}
-
-/// By how much the content moved when a grid was resized: it stays at the left, in the middle or at the right, and
-/// likewise up and down, whichever leaves the fewest cells that differ.
-template <typename Rows>
-QPoint shiftBetween(const Rows &before, const Rows &after)
-{
-    const QSize growth = sizeOf(after) - sizeOf(before);
-    QPoint best;
-    qint64 fewest = std::numeric_limits<qint64>::max();
-    for (const int y : {0, growth.height(), growth.height() / 2}) {
-        for (const int x : {0, growth.width(), growth.width() / 2}) {
-            if (const qint64 count = differences(before, after, {x, y}, fewest); count < fewest) {
-                fewest = count;
-                best = {x, y};
-            }
-            if (fewest == 0)
-                return best;
-        }
-    }
-    return best;
-}
-
 } // namespace
 
 template <typename Cell>
-GridChange<Cell>::GridChange(const Rows &before, const Rows &after) : m_resized(!sameShape(before, after))
+GridChange<Cell>::GridChange(const Rows &before, const Rows &after, QPoint shift)
+    : m_resized(!shift.isNull() || !sameShape(before, after))
 {
     if (m_resized) {
         m_before = before;
         m_after = after;
-        m_shift = shiftBetween(before, after);
+        m_shift = shift;
         return;
     }
     for (qsizetype row = 0; row < before.size(); ++row) {
@@ -135,6 +98,21 @@ GridChange<Cell> GridChange<Cell>::renumbered(const Renumbering &renumbering) co
     for (Run &run : result.m_runs) {
         run.before = ::renumbered(Rows{run.before}, renumbering).constFirst();
         run.after = ::renumbered(Rows{run.after}, renumbering).constFirst();
+    }
+    return result;
+}
+
+template <typename Cell>
+GridChange<Cell> GridChange<Cell>::moved(QPoint cells) const
+{
+    GridChange result = *this;
+    result.m_runs.clear();
+    for (Run run : m_runs) {
+        run.row += cells.y();
+        run.column += cells.x();
+        const qsizetype cut = std::clamp<qsizetype>(-run.column, 0, run.before.size());
+        if (run.row >= 0 && cut < run.before.size())
+            result.m_runs.append({run.row, run.column + cut, run.before.sliced(cut), run.after.sliced(cut)});
     }
     return result;
 }

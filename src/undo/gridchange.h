@@ -14,7 +14,7 @@
 /// an animation.
 ///
 /// It holds the runs of cells that differ, so its size follows the edit and not the grid; only when
-/// the edit changed the grid's size does it hold both contents. Runs that span a whole row share it with
+/// the edit resized the grid or moved its content does it hold both contents. Runs that span a whole row share it with
 /// the contents that they were made from.
 template <typename Cell>
 class GridChange
@@ -23,7 +23,8 @@ public:
     using Row = QList<Cell>;
     using Rows = QList<Row>;
 
-    GridChange(const Rows &before, const Rows &after);
+    /// shift tells by how many cells the edit moved the content, as resizing may.
+    GridChange(const Rows &before, const Rows &after, QPoint shift = {});
 
     [[nodiscard]] bool changesNothing() const { return !m_resized && m_runs.isEmpty(); }
 
@@ -36,6 +37,8 @@ public:
 
     /// The same change after what the cells name got other numbers.
     [[nodiscard]] GridChange renumbered(const Renumbering &renumbering) const;
+    /// The same change after the content of a grid that it did not resize was moved by others.
+    [[nodiscard]] GridChange moved(QPoint cells) const;
 
 private:
     /// Neighbouring cells of a row that differ.

@@ -21,15 +21,24 @@ Numbering::Names spriteNamesOf(const Map *map, const QUuid &bankId)
     return bank ? Numbering::of(*bank).names() : Numbering::Names();
 }
 
+/// Placements after the content of their map moved by so many cells.
+AnimatedBlocks::State moved(AnimatedBlocks::State placements, QPoint cells)
+{
+    for (AnimationProperties::State &placement : placements)
+        placement.area.translate(cells);
+    return placements;
+}
+
 } // namespace
 
 MapEditCommand::MapEditCommand(const QString &text, Map *map, const Map::Snapshot &before, const Map::Snapshot &after)
     : QUndoCommand(text)
     , m_map(map)
-    , m_tiles(before.tiles, after.tiles)
-    , m_objects(before.objects, after.objects)
-    , m_placements(before.placements, after.placements)
-    , m_sprites(before.sprites, after.sprites)
+    , m_shift(after.origin - before.origin)
+    , m_tiles(before.tiles, after.tiles, m_shift)
+    , m_objects(before.objects, after.objects, m_shift)
+    , m_placements(before.placements, moved(after.placements, -m_shift))
+    , m_sprites(before.sprites, ::moved(after.sprites, -m_shift))
     , m_tileNames(tileNamesOf(map))
 {
     noteBanksOf(m_sprites.before());
@@ -80,7 +89,19 @@ void MapEditCommand::apply(EditSide side)
     const Renumbering since = Renumbering::since(m_tileNames, tileNamesOf(m_map));
     m_tiles.renumbered(since).apply(side, content.tiles);
     m_objects.renumbered(since).apply(side, content.objects);
+
+    // What lies on the map is compared where it was before the content moved.
+    const bool back = side == EditSide::Before;
+    const auto moveContent = [&content](QPoint cells) {
+        content.placements = moved(content.placements, cells);
+        content.sprites = ::moved(content.sprites, cells);
+        content.origin += cells;
+    };
+    if (back)
+        moveContent(-m_shift);
     m_placements.apply(side, content.placements);
     spritesChange().apply(side, content.sprites);
+    if (!back)
+        moveContent(m_shift);
     m_map->restore(content);
 }

@@ -36,8 +36,10 @@ private:
     [[nodiscard]] SpritesChange spritesChange() const;
 
     QPointer<Map> m_map;
+    QPoint m_shift; ///< by how many cells the content moved
     LayerChange m_tiles;
     LayerChange m_objects;
+    // these two in the places from before the content moved
     ListChange<AnimationProperties::State> m_placements;
     SpritesChange m_sprites;
     Numbering::Names m_tileNames; ///< as all names, those of when the command was made

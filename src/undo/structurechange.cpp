@@ -130,6 +130,15 @@ Sprites renumbered(const Sprites &sprites, const QUuid &bank, const Renumbering 
     return result;
 }
 
+Sprites moved(Sprites sprites, QPoint cells)
+{
+    for (Map::PlacedSprite &sprite : sprites) {
+        sprite.x += cells.x() * TileMap::TileSize;
+        sprite.y += cells.y() * TileMap::TileSize;
+    }
+    return sprites;
+}
+
 template <typename State>
 FramesChange::FramesChange(const QHash<QUuid, State> &before, const QHash<QUuid, State> &after, const Renumbering &back)
 {
@@ -169,7 +178,7 @@ TileSetChange::TileSetChange(const TileSetEdit &before, const TileSetEdit &after
         if (left == after.maps.cend())
             continue;
         const Layers lost{LayerChange(map->tiles, renumbered(left->tiles, back)),
-                          LayerChange(map->objects, renumbered(left->objects, back))};
+                          LayerChange(map->objects, renumbered(left->objects, back)), left->origin};
         if (!lost.tiles.changesNothing() || !lost.objects.changesNothing())
             m_lostCells.insert(map.key(), lost);
     }
@@ -204,8 +213,9 @@ TileSetEdit TileSetChange::undone(const TileSetEdit &now) const
         map->tiles = renumbered(map->tiles, back);
         map->objects = renumbered(map->objects, back);
         if (const auto lost = m_lostCells.constFind(map.key()); lost != m_lostCells.cend()) {
-            lost->tiles.renumbered(since).applyWhereUntouched(EditSide::Before, map->tiles);
-            lost->objects.renumbered(since).applyWhereUntouched(EditSide::Before, map->objects);
+            const QPoint shift = map->origin - lost->origin;
+            lost->tiles.renumbered(since).moved(shift).applyWhereUntouched(EditSide::Before, map->tiles);
+            lost->objects.renumbered(since).moved(shift).applyWhereUntouched(EditSide::Before, map->objects);
         }
     }
     m_frames.undo(result.animations, back, since);
@@ -221,9 +231,10 @@ SpriteBankChange::SpriteBankChange(const SpriteBankEdit &before, const SpriteBan
                 std::equal_to<>(), m_before, m_after);
     const Renumbering back(after.names, before.names);
     for (auto map = before.maps.cbegin(); map != before.maps.cend(); ++map) {
-        const ListChange<Map::PlacedSprite> lost(*map, renumbered(after.maps.value(map.key(), *map), bankId, back));
+        const SpriteBankEdit::Placed left = after.maps.value(map.key(), *map);
+        const ListChange<Map::PlacedSprite> lost(map->sprites, renumbered(left.sprites, bankId, back));
         if (!lost.changesNothing())
-            m_lostSprites.insert(map.key(), lost);
+            m_lostSprites.insert(map.key(), {lost, left.origin});
     }
     m_frames = FramesChange(before.bank.animations, after.bank.animations, back);
 }
@@ -246,10 +257,13 @@ SpriteBankEdit SpriteBankChange::undone(const SpriteBankEdit &now) const
     const Renumbering back(now.names, result.names);
     const Renumbering since(m_names, result.names);
     for (auto map = result.maps.begin(); map != result.maps.end(); ++map) {
-        *map = renumbered(*map, m_bankId, back);
-        if (const auto lost = m_lostSprites.constFind(map.key()); lost != m_lostSprites.cend())
-            ListChange(renumbered(lost->before(), m_bankId, since), renumbered(lost->after(), m_bankId, since))
-                .apply(EditSide::Before, *map);
+        map->sprites = renumbered(map->sprites, m_bankId, back);
+        if (const auto lost = m_lostSprites.constFind(map.key()); lost != m_lostSprites.cend()) {
+            const auto today = [&](const QList<Map::PlacedSprite> &then) {
+                return moved(renumbered(then, m_bankId, since), map->origin - lost->origin);
+            };
+            ListChange(today(lost->list.before()), today(lost->list.after())).apply(EditSide::Before, map->sprites);
+        }
     }
     m_frames.undo(result.bank.animations, back, since);
     return result;

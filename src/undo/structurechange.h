@@ -30,9 +30,17 @@ struct TileSetEdit
 /// A sprite bank together with everything that a structural edit of it changes.
 struct SpriteBankEdit
 {
+    struct Placed
+    {
+        QList<Map::PlacedSprite> sprites;
+        QPoint origin{}; ///< of the map's snapshot
+
+        bool operator==(const Placed &other) const { return sprites == other.sprites; }
+    };
+
     SpriteBank::State bank;
     /// What is placed on the maps of the project, by their ids.
-    QHash<QUuid, QList<Map::PlacedSprite>> maps;
+    QHash<QUuid, Placed> maps;
     /// Which sprite is which.
     Numbering::Names names{};
 
@@ -76,6 +84,7 @@ private:
     {
         LayerChange tiles;
         LayerChange objects;
+        QPoint origin; ///< of the map's snapshot then
     };
 
     ListChange<int> m_order;
@@ -104,10 +113,17 @@ private:
     Numbering::Names m_names; ///< from before the edit: what was lost is kept in these numbers
     QHash<int, QByteArray> m_before; ///< by name, as the next: pixels of sprites that are gone or not as they were
     QHash<int, QByteArray> m_after;
-    QHash<QUuid, ListChange<Map::PlacedSprite>> m_lostSprites; ///< by the ids of the maps
+    struct Sprites
+    {
+        ListChange<Map::PlacedSprite> list;
+        QPoint origin; ///< of the map's snapshot then
+    };
+    QHash<QUuid, Sprites> m_lostSprites; ///< by the ids of the maps
     FramesChange m_frames;
 };
 
 /// Placed sprites after the sprites of a bank got other numbers; those of sprites that are gone are left out.
 [[nodiscard]] QList<Map::PlacedSprite> renumbered(const QList<Map::PlacedSprite> &sprites, const QUuid &bank,
                                                   const Renumbering &renumbering);
+/// Placed sprites after the content of their map moved by so many cells.
+[[nodiscard]] QList<Map::PlacedSprite> moved(QList<Map::PlacedSprite> sprites, QPoint cells);

@@ -387,14 +387,20 @@ private:
             const QSize larger(size.width() + number(2), size.height() + 1);
             if (larger.height() > 8)
                 return;
+            const bool atEnd = chance();
+            const QPoint shift = atEnd ? QPoint(larger.width() - size.width(), 1) : QPoint();
             mapEdit(
-                "grow", [&] { map.resize(larger); },
+                "grow",
+                [&] { map.resize(larger, atEnd ? Qt::AlignRight | Qt::AlignBottom : Qt::AlignLeft | Qt::AlignTop); },
                 [=](Things &things) {
                     Level grown{larger, QList<int>(larger.width() * larger.height(), things.tiles.first()), {}};
                     Level &old = things.levels[level];
-                    for (int i = 0; i < old.cells.size(); ++i)
-                        grown.cells[i / old.size.width() * larger.width() + i % old.size.width()] = old.cells[i];
-                    grown.placed = old.placed;
+                    for (int i = 0; i < old.cells.size(); ++i) {
+                        const QPoint at = QPoint(i % old.size.width(), i / old.size.width()) + shift;
+                        grown.cells[at.y() * larger.width() + at.x()] = old.cells[i];
+                    }
+                    for (const auto &[id, x] : std::as_const(old.placed))
+                        grown.placed.append({id, x + shift.x() * 8});
                     old = grown;
                 });
         };

@@ -141,7 +141,7 @@ const QList<Edit> &edits()
          [](Scene &s) {
              s.ofMap(s.other, [&s](Map &map) {
                  map.setTiles({0, 0, 8, 4}, s.tile(4), false, false, false, true);
-                 map.resize({9, 5});
+                 map.resize({9, 5}, Qt::AlignRight | Qt::AlignBottom);
              });
          }},
         {"shrink", [](Scene &s) { s.ofMap(s.level, [](Map &map) {
