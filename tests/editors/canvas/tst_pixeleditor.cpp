@@ -305,12 +305,17 @@ private slots:
         scene.tiles->deleteTile(3);
         QCOMPARE(scene.window.tileIndex(), 6);
         const auto before = scene.tiles->snapshot();
-        scene.stack.undo(); // of a tile that is no more
+        scene.stack.undo(); // of the tile, which has another number now
+        QVERIFY(scene.tiles->snapshot() != before);
+        scene.stack.redo();
         QCOMPARE(scene.tiles->snapshot(), before);
         scene.show(0);
         QCOMPARE(scene.shown(1), 1);
         scene.tiles->deleteTile(0);
         QCOMPARE(scene.shown(1), 0);
+        const auto without = scene.tiles->snapshot();
+        scene.stack.undo(); // of a tile that is no more
+        QCOMPARE(scene.tiles->snapshot(), without);
         scene.tiles->restore(before);
         QCOMPARE(scene.shown(1), 1);
     }
