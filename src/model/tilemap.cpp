@@ -30,11 +30,13 @@ QString mimeType()
 template <typename Change>
 bool changeRows(Rows &rows, int first, int last, Change change)
 {
-    const Rows before = rows; // keeps the storage alive that identifies a row
+    if (first > last)
+        return false;
+    const Rows before = rows.sliced(first, last - first + 1); // keeps the storage alive that identifies a row
     QHash<const TileData *, Row> results;
     bool changed = false;
     for (int y = first; y <= last; ++y) {
-        const Row &row = before[y];
+        const Row &row = before[y - first];
         auto result = results.constFind(row.constData());
         if (result == results.cend())
             result = results.insert(row.constData(), change(row));
