@@ -1,63 +1,29 @@
 #include "editors/canvas/canvas.h"
 
 #include "editors/canvas/canvasclipboard.h"
-#include "editors/canvas/circlecanvastool.h"
-#include "editors/canvas/drawcanvastool.h"
-#include "editors/canvas/fillcanvastool.h"
-#include "editors/canvas/linecanvastool.h"
-#include "editors/canvas/pastecanvastool.h"
-#include "editors/canvas/pickcanvastool.h"
-#include "editors/canvas/pictureimport.h"
-#include "editors/canvas/rectanglecanvastool.h"
-#include "editors/canvas/selectcanvastool.h"
+#include "editors/canvas/layeraction.h"
 
 #include <QMenu>
 #include <QMetaEnum>
 #include <QRubberBand>
 
 #include <algorithm>
-#include <cstring>
 
 using namespace Quenmora::Ui;
-
-namespace {
-
-/// Compares indices; QImage's own comparison takes two indices of one colour for equal.
-bool samePixels(const QImage &a, const QImage &b)
-{
-    if (a.size() != b.size())
-        return false;
-    for (int y = 0; y < a.height(); ++y) {
-        if (std::memcmp(a.constScanLine(y), b.constScanLine(y), size_t(a.width())) != 0)
-            return false;
-    }
-    return true;
-}
-
-} // namespace
 
 Canvas::Canvas(QSize imageSize, QWidget *parent)
     : QWidget(parent)
     , m_layer(imageSize)
+    , m_tools(this)
     , m_contextMenu(new QMenu(this))
-    , m_selection(new QRubberBand(QRubberBand::Rectangle, this))
+    , m_band(new QRubberBand(QRubberBand::Rectangle, this))
     , m_clipboard(new CanvasClipboard(this))
 {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     setAccessibleName(tr("Paint canvas"));
-    m_selection->hide();
-
-    m_tools.insert(Draw, std::make_shared<DrawCanvasTool>(this));
-    m_tools.insert(Select, std::make_shared<SelectCanvasTool>(this));
-    m_tools.insert(Rectangle, std::make_shared<RectangleCanvasTool>(this, false));
-    m_tools.insert(RectangleFill, std::make_shared<RectangleCanvasTool>(this, true));
-    m_tools.insert(Line, std::make_shared<LineCanvasTool>(this));
-    m_tools.insert(Circle, std::make_shared<CircleCanvasTool>(this));
-    m_tools.insert(Fill, std::make_shared<FillCanvasTool>(this));
-    m_tools.insert(Pick, std::make_shared<PickCanvasTool>(this));
-    m_tools.insert(Paste, std::make_shared<PasteCanvasTool>(this));
+    m_band->hide();
     chooseTool(Draw);
 
     connect(m_clipboard, &CanvasClipboard::pasted, this, &Canvas::setPasteMode);
@@ -81,7 +47,7 @@ void Canvas::buildContextMenu()
     m_contextMenu->addAction(tr("Select All"), this, &Canvas::selectAll);
     m_contextMenu->addAction(tr("Select None"), this, &Canvas::selectNone);
     m_contextMenu->addAction(tr("Erase"), this, &Canvas::eraseSelection);
-    m_contextMenu->addAction(tr("Fill"), this, [this] { fillSelection(tr("Fill"), m_ink); });
+    m_contextMenu->addAction(tr("Fill"), this, [this] { fillSelection(tr("Fill"), m_colours.ink); });
 }
 
 void Canvas::bindPalette(const QPointer<Palette> &palette)
@@ -102,31 +68,26 @@ QUuid Canvas::paletteId() const
 
 void Canvas::swapInkAndPaper()
 {
-    const int ink = m_ink;
-    setInk(m_paper);
-    setPaper(ink);
-    emit foregroundPicked(m_ink);
-    emit backgroundPicked(m_paper);
+    const int ink = m_colours.ink;
+    pickInk(m_colours.paper);
+    pickPaper(ink);
 }
 
 void Canvas::setPictureColours(int first, int count)
 {
-    m_firstPictureColour = first;
-    m_pictureColourCount = count;
+    m_colours.firstOfPictures = first;
+    m_colours.countOfPictures = count;
 }
 
 QImage Canvas::pixelsOf(const QImage &picture) const
 {
-    if (!m_palette || m_pictureColourCount == 0)
-        return {};
     // Only what the image has room for is converted.
-    const QImage part = picture.copy(m_layer.rect() & picture.rect());
-    return PictureImport::indexed(part, *m_palette, m_firstPictureColour, m_pictureColourCount);
+    return m_colours.indexed(picture.copy(m_layer.rect() & picture.rect()), m_palette);
 }
 
 void Canvas::setImageType(ImageType type)
 {
-    m_imageType = type;
+    m_colours.imageType = type;
     update();
 }
 
@@ -139,7 +100,7 @@ void Canvas::setTallPixels(bool tall)
 
 bool Canvas::hasSelection() const
 {
-    return !m_selection->isHidden();
+    return m_selection.exists();
 }
 
 QImage Canvas::clipboardImage() const
@@ -197,28 +158,29 @@ void Canvas::setZoomLevel(int level)
 
 void Canvas::setGridLinesVisible(bool visible)
 {
-    m_gridLines = visible;
+    m_overlay.gridLines = visible;
     update();
 }
 
 void Canvas::setInk(int index)
 {
-    m_ink = index;
+    m_colours.ink = index;
     m_layer.setInk(index);
 }
 
 void Canvas::setPaper(int index)
 {
-    m_paper = index;
+    m_colours.paper = index;
     m_layer.setPaper(index);
 }
 
 void Canvas::setImage(const QImage &image)
 {
     // What was drawn into the image before belongs to another tile, sprite or moment.
-    m_beforeImage = QImage();
+    m_edit.giveUp();
     m_layer.setImage(image);
     m_layer.reloadColourTable();
+    m_selection.clipTo(m_layer.rect());
     relayout();
     emit imageChanged();
 }
@@ -237,26 +199,32 @@ void Canvas::updatePalette(int, QColor, bool)
 
 void Canvas::remap(int offset)
 {
-    if (m_imageType != Offset16)
+    if (m_colours.imageType != Offset16)
         return;
-    const int base = ((offset - 1) * 16) & 0xF0;
+    const int base = CanvasColours::baseOf(offset);
     m_layer.moveToGroup(base);
-    m_ink = m_ink % 16 + base;
-    m_paper = m_paper % 16 + base;
+    m_colours.moveToBank(base);
     update();
+}
+
+void Canvas::pickInk(int index)
+{
+    setInk(index);
+    emit foregroundPicked(index);
+}
+
+void Canvas::pickPaper(int index)
+{
+    setPaper(index);
+    emit backgroundPicked(index);
 }
 
 // ---- Edits ----------------------------------------------------------------------------------
 
-void Canvas::resetDrag()
-{
-    m_pressPixel = m_currentPixel = Nowhere;
-}
-
 void Canvas::beginEdit()
 {
     finishStroke();
-    m_beforeImage = image();
+    m_edit.begin(image());
 }
 
 void Canvas::finishStroke()
@@ -269,10 +237,8 @@ void Canvas::finishStroke()
 
 void Canvas::finishEdit(const QString &text, PixelEditCommand::Kind kind)
 {
-    if (m_beforeImage.isNull())
-        return;
-    const QImage before = std::exchange(m_beforeImage, QImage());
-    if (!samePixels(before, image()))
+    const QImage before = m_edit.end(image());
+    if (!before.isNull())
         emit edited(text, before, image(), kind);
 }
 
@@ -290,7 +256,7 @@ void Canvas::applyEdit(const QString &text, PixelEditCommand::Kind kind,
 
 void Canvas::eraseSelection()
 {
-    fillSelection(tr("Erase"), m_paper);
+    fillSelection(tr("Erase"), m_colours.paper);
 }
 
 void Canvas::fillSelection(const QString &text, int index)
@@ -306,7 +272,7 @@ void Canvas::pasteAtCursor()
     const QImage pasted = clipboardImage();
     if (pasted.isNull())
         return;
-    const QPoint corner = m_cursor - QPoint(pasted.width() / 2, pasted.height() / 2);
+    const QPoint corner = m_pointer.cursor - QPoint(pasted.width() / 2, pasted.height() / 2);
     applyEdit(tr("Paste"), PixelEditCommand::None, [&](Layer2Image &layer) { layer.paste(pasted, corner); });
 }
 
@@ -316,10 +282,8 @@ void Canvas::chooseTool(ToolButton mode)
 {
     // A drag does not go on in another tool.
     finishStroke();
-    m_buttons = Qt::NoButton;
-    m_mode = mode;
-    m_tool = m_tools.value(mode).get();
-    m_tool->activate();
+    m_pointer.buttons = Qt::NoButton;
+    m_tools.choose(mode);
     emit modeChanged(mode);
 }
 
@@ -329,64 +293,27 @@ void Canvas::setMode(ToolButton mode, bool checked)
         m_clipboard->copyToClipboard();
         if (mode == Cut)
             eraseSelection();
-        m_selection->hide();
+        hideSelection();
         update();
         return;
     }
 
     selectNone();
-    switch (mode) {
-    case Draw:
-    case Line:
-    case Rectangle:
-    case RectangleFill:
-    case Circle:
-    case Select:
-    case Fill:
-    case Pick:
-        chooseTool(mode);
-        break;
-    case Paste:
+    if (const auto action = LayerAction::of(mode))
+        applyEdit(action->text, action->kind, action->run);
+    else if (mode == Paste)
         m_clipboard->pasteFromClipboard();
-        break;
-    case Grid:
-        m_pixelGrid = checked;
-        break;
-    case ZoomIn:
+    else if (m_tools.has(mode))
+        chooseTool(mode);
+    else if (mode == Grid)
+        m_overlay.checker = checked;
+    else if (mode == ZoomIn)
         setZoomLevel(m_geometry.zoom + CanvasGeometry::ZoomStep);
-        break;
-    case ZoomOut:
+    else if (mode == ZoomOut)
         setZoomLevel(m_geometry.zoom - CanvasGeometry::ZoomStep);
-        break;
-    case RotateCW:
-        applyEdit(tr("Rotate"), PixelEditCommand::None, [](Layer2Image &layer) { layer.rotate(90); });
-        break;
-    case RotateCCW:
-        applyEdit(tr("Rotate"), PixelEditCommand::None, [](Layer2Image &layer) { layer.rotate(270); });
-        break;
-    case MoveUp:
-        applyEdit(tr("Scroll"), PixelEditCommand::Scroll, &Layer2Image::shiftUp);
-        break;
-    case MoveDown:
-        applyEdit(tr("Scroll"), PixelEditCommand::Scroll, &Layer2Image::shiftDown);
-        break;
-    case MoveLeft:
-        applyEdit(tr("Scroll"), PixelEditCommand::Scroll, &Layer2Image::shiftLeft);
-        break;
-    case MoveRight:
-        applyEdit(tr("Scroll"), PixelEditCommand::Scroll, &Layer2Image::shiftRight);
-        break;
-    case Flip:
-        applyEdit(tr("Flip"), PixelEditCommand::None, &Layer2Image::flip);
-        break;
-    case Mirror:
-        applyEdit(tr("Mirror"), PixelEditCommand::None, &Layer2Image::mirror);
-        break;
-    default:
+    else
         qInfo().noquote().nospace() << "PaintCanvas::setMode(" << QMetaEnum::fromType<ToolButton>().valueToKey(mode)
                                     << ")";
-        break;
-    }
     update();
 }
 
@@ -394,72 +321,57 @@ void Canvas::setMode(ToolButton mode, bool checked)
 
 QRect Canvas::selection() const
 {
-    if (!hasSelection())
-        return {};
-    const QRect band = m_selection->geometry();
-    const QSize cell = m_geometry.cell();
-    const QRect pixels(m_geometry.pixelAt(band.topLeft()),
-                       QSize(band.width() / cell.width(), band.height() / cell.height()));
-    return pixels & image().rect();
+    return m_selection.pixels();
 }
 
 void Canvas::selectAll()
 {
-    m_anchor = m_geometry.imageRect.topLeft();
-    setSelection(m_anchor, m_geometry.imageRect.bottomRight() + QPoint(1, 1));
+    m_selection.setAnchor(m_geometry.imageRect.topLeft());
+    extendSelection(m_geometry.imageRect.bottomRight() + QPoint(1, 1));
 }
 
 void Canvas::selectNone()
 {
-    m_selection->hide();
-    m_anchor = Nowhere;
+    hideSelection();
+    m_selection.clearAnchor();
+}
+
+void Canvas::hideSelection()
+{
+    m_selection.hide();
+    m_band->hide();
 }
 
 void Canvas::beginSelection(QPoint point)
 {
-    m_anchor = point;
-    if (m_buttons & Qt::LeftButton)
-        setSelection(m_anchor, point);
+    m_selection.setAnchor(point);
+    if (m_pointer.buttons & Qt::LeftButton)
+        extendSelection(point);
 }
 
 void Canvas::extendSelection(QPoint point)
 {
-    if (m_anchor != Nowhere)
-        setSelection(m_anchor, point);
+    if (!m_selection.hasAnchor())
+        return;
+    m_band->setGeometry(m_selection.extendTo(point, m_geometry, m_layer.rect()));
+    m_band->show();
 }
 
-void Canvas::clearAnchor()
+void Canvas::placeBand()
 {
-    m_anchor = Nowhere;
+    if (!selection().isEmpty())
+        m_band->setGeometry(m_geometry.rectOf(selection()));
 }
 
-void Canvas::setSelection(QPoint from, QPoint to)
+void Canvas::openContextMenu(QPoint globalPosition)
 {
-    const QRect &area = m_geometry.imageRect;
-    const QSize cell = m_geometry.cell();
-    const auto snapped = [&](QPoint point) {
-        const QPoint offset = point - area.topLeft();
-        return point - QPoint(offset.x() % cell.width(), offset.y() % cell.height());
-    };
-    const QPoint a = snapped(from);
-    const QPoint b = snapped(to);
-    const QPoint topLeft(std::max(std::min(a.x(), b.x()), area.left()), std::max(std::min(a.y(), b.y()), area.top()));
-    const QPoint bottomRight(std::min(std::max(a.x(), b.x()), area.right()),
-                             std::min(std::max(a.y(), b.y()), area.bottom()));
-    m_selection->setGeometry(QRect(topLeft, bottomRight));
-    m_selection->show();
-}
-
-void Canvas::placeSelection(const QRect &pixels)
-{
-    m_selection->setGeometry(QRect(m_geometry.pointOf(pixels.topLeft()), m_geometry.scaled(pixels.size())));
+    m_contextMenu->exec(globalPosition);
 }
 
 // ---- Layout ---------------------------------------------------------------------------------
 
 void Canvas::relayout(const std::function<void(CanvasGeometry &)> &change)
 {
-    const QRect selected = selection();
     const QPoint scroll = m_geometry.scroll;
     if (change)
         change(m_geometry);
@@ -468,8 +380,7 @@ void Canvas::relayout(const std::function<void(CanvasGeometry &)> &change)
     emit scrollValuesChanged(overflow.width(), overflow.height());
     if (m_geometry.scroll != scroll)
         emit scrollPositionChanged(m_geometry.scroll);
-    if (!selected.isEmpty())
-        placeSelection(selected);
+    placeBand();
     updateGeometry();
     update();
 }
@@ -481,10 +392,8 @@ void Canvas::resizeEvent(QResizeEvent *)
 
 void Canvas::scrollTo(QPoint position)
 {
-    const QRect selected = selection();
     m_geometry.scroll = position;
-    if (!selected.isEmpty())
-        placeSelection(selected);
+    placeBand();
     update();
 }
 

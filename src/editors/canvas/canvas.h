@@ -1,20 +1,19 @@
 #pragma once
 
+#include "editors/canvas/canvascolours.h"
 #include "editors/canvas/canvasgeometry.h"
+#include "editors/canvas/canvasoverlay.h"
+#include "editors/canvas/canvaspointer.h"
+#include "editors/canvas/canvasselection.h"
+#include "editors/canvas/canvassurface.h"
+#include "editors/canvas/canvastoolbox.h"
 #include "editors/canvas/layer2image.h"
-#include "ui/enums.h"
-#include "undo/pixeleditcommand.h"
+#include "editors/canvas/pendingedit.h"
 
-#include <QHash>
 #include <QUuid>
 #include <QWidget>
 
-#include <array>
-#include <functional>
-#include <memory>
-
 class CanvasClipboard;
-class CanvasTool;
 class QMenu;
 class QRubberBand;
 
@@ -23,7 +22,10 @@ class QRubberBand;
 /// It shows one indexed image in the colours of a palette and lets the current tool draw on it. It
 /// never writes to an asset: imageChanged() says that the image is another one, and edited() that
 /// an edit is finished, with the pixels before and after; the editor around it does the rest.
-class Canvas : public QWidget
+///
+/// The widget takes events, paints and announces. What it holds are values that know no widget, and what the tools
+/// may do with it is CanvasSurface.
+class Canvas : public QWidget, public CanvasSurface
 {
     Q_OBJECT
 
@@ -38,13 +40,13 @@ public:
     /// The palette's id, null without one.
     QUuid paletteId() const;
 
-    int ink() const { return m_ink; }
-    int paper() const { return m_paper; }
+    int ink() const { return m_colours.ink; }
+    int paper() const { return m_colours.paper; }
     /// Exchanges ink and paper, and announces both as picked.
     void swapInkAndPaper();
     int zoom() const { return m_geometry.zoom; }
-    Quenmora::Ui::ToolButton mode() const { return m_mode; }
-    Quenmora::Ui::ImageType imageType() const { return m_imageType; }
+    Quenmora::Ui::ToolButton mode() const { return m_tools.mode(); }
+    Quenmora::Ui::ImageType imageType() const { return m_colours.imageType; }
     void setImageType(Quenmora::Ui::ImageType type);
     /// Lets paste take other programs' pictures as well, in count (16 or 256) entries of the palette from
     /// first on. A canvas that has not been told takes only what canvases copy.
@@ -61,40 +63,25 @@ public:
     /// The selection in image pixels, clipped to the image; empty when there is none.
     QRect selection() const;
     /// What the paste tool pastes; null before something was pasted.
-    QImage clipboardImage() const;
+    QImage clipboardImage() const override;
 
     /// Scrolls by one pixel for an arrow key without modifiers; false for every other key.
     bool scrollByKey(const QKeyEvent *event);
 
     QSize sizeHint() const override;
 
-    // What the tools work with.
-    Layer2Image &layer() { return m_layer; }
-    const Layer2Image &layer() const { return m_layer; }
-    const CanvasGeometry &geometryInWidget() const { return m_geometry; }
-    Qt::MouseButtons heldButtons() const { return m_buttons; }
-    /// The image pixel under the pointer, (-1, -1) after the pointer left.
-    QPoint cursorPixel() const { return m_cursor; }
-    QPoint pressPixel() const { return m_pressPixel; }
-    QPoint currentPixel() const { return m_currentPixel; }
     QMenu *contextMenu() const { return m_contextMenu; }
-    /// Ends the preview of the shape being dragged.
-    void resetDrag();
-    /// Remembers the image as it is before an edit; a stroke that is still going on ends here.
-    void beginEdit();
-    /// True from beginEdit() to finishEdit().
-    bool isEditing() const { return !m_beforeImage.isNull(); }
-    /// Announces the edit when it changed a pixel.
+
+    Layer2Image &layer() override { return m_layer; }
+    const CanvasGeometry &geometryInWidget() const override { return m_geometry; }
+    const CanvasPointer &pointer() const override { return m_pointer; }
+    void beginEdit() override;
+    bool isEditing() const override { return m_edit.isOpen(); }
+    /// Ends the edit, and announces it when it changed a pixel.
     void finishEdit(const QString &text, PixelEditCommand::Kind kind);
-    /// Runs an operation on the layer as one edit.
+    void finishStroke() override;
     void applyEdit(const QString &text, PixelEditCommand::Kind kind,
-                   const std::function<void(Layer2Image &)> &operation);
-    /// Announces what the draw tool has drawn since the press, if it is drawing.
-    void finishStroke();
-    void beginSelection(QPoint point);
-    void extendSelection(QPoint point);
-    void clearAnchor();
-    void pasteAtCursor();
+                   const std::function<void(Layer2Image &)> &operation) override;
 
 public slots:
     /// Sets the first row shown; the vertical scroll bar is connected here.
@@ -146,46 +133,43 @@ private slots:
     void updatePalette(int index, QColor colour, bool priority);
 
 private:
-    static constexpr QPoint Nowhere{-1, -1};
-
     void buildContextMenu();
+
+    // what the tools do with the canvas
+    void showCursor(const QCursor &cursor) override { setCursor(cursor); }
+    void scheduleRepaint() override { update(); }
+    void resetDrag() override { m_pointer.endDrag(); }
+    void pasteAtCursor() override;
+    void pickInk(int index) override;
+    void pickPaper(int index) override;
+    void beginSelection(QPoint point) override;
+    void extendSelection(QPoint point) override;
+    void endSelection() override { m_selection.clearAnchor(); }
+    void openContextMenu(QPoint globalPosition) override;
+
     /// Changes the geometry, if asked to, and fits the image; the selection stays on its pixels.
     void relayout(const std::function<void(CanvasGeometry &)> &change = {});
     /// Shows another part of the image; the selection stays on its pixels.
     void scrollTo(QPoint position);
     void scrollBy(QPoint delta);
+    void placeBand();
+    void hideSelection();
     void eraseSelection();
     void fillSelection(const QString &text, int index);
-    void setSelection(QPoint from, QPoint to);
-    void placeSelection(const QRect &pixels);
     void chooseTool(Quenmora::Ui::ToolButton mode);
     void hoverAt(QPoint pixel);
     void paintImage(QPainter &painter) const;
-    void paintChecker(QPainter &painter, QSize cell) const;
-    void paintGridLines(QPainter &painter, QSize cell) const;
 
     QPointer<Palette> m_palette;
     Layer2Image m_layer;
-    QMenu *m_contextMenu;
-    bool m_pixelGrid = false;
-    bool m_gridLines = false;
-    int m_overlayAlpha = 80;
-    int m_ink = 1;
-    int m_paper = 0;
-    Quenmora::Ui::ImageType m_imageType = Quenmora::Ui::Full256;
-    int m_firstPictureColour = 0;
-    int m_pictureColourCount = 0;
-    Quenmora::Ui::ToolButton m_mode = Quenmora::Ui::Draw;
     CanvasGeometry m_geometry;
-    QPoint m_cursor;
-    QPoint m_anchor;
-    std::array<QColor, 2> m_overlayColours{QColor(64, 64, 64), QColor(80, 80, 80)};
-    Qt::MouseButtons m_buttons = Qt::NoButton;
-    QRubberBand *m_selection;
+    CanvasColours m_colours;
+    CanvasOverlay m_overlay;
+    CanvasPointer m_pointer;
+    PendingEdit m_edit;
+    CanvasSelection m_selection;
+    CanvasToolBox m_tools;
+    QMenu *m_contextMenu;
+    QRubberBand *m_band; ///< shows the selection
     QPointer<CanvasClipboard> m_clipboard;
-    QPoint m_pressPixel = Nowhere;
-    QPoint m_currentPixel = Nowhere;
-    QImage m_beforeImage;
-    QHash<Quenmora::Ui::ToolButton, std::shared_ptr<CanvasTool>> m_tools;
-    CanvasTool *m_tool = nullptr;
 };

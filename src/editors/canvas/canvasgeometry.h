@@ -39,6 +39,19 @@ struct CanvasGeometry
             + QPoint((pixel.x() - scroll.x()) * cell().width(), (pixel.y() - scroll.y()) * cell().height());
     }
 
+    /// The rectangle in the widget that image pixels cover.
+    QRect rectOf(const QRect &pixels) const { return {pointOf(pixels.topLeft()), scaled(pixels.size())}; }
+
+    /// The rectangle in the widget between two points of it, each snapped to the top-left corner of its pixel, both
+    /// corners included; it does not leave imageRect.
+    QRect bandBetween(QPoint from, QPoint to) const;
+
+    /// The pixels that a rectangle in the widget covers to their right and bottom edges.
+    QRect pixelsUnder(const QRect &band) const
+    {
+        return {pixelAt(band.topLeft()), QSize(band.width() / cell().width(), band.height() / cell().height())};
+    }
+
     /// The part of the image, in pixels, that imageRect shows.
     QRect visiblePixels() const
     {

@@ -2,7 +2,7 @@
 
 #include <QPoint>
 
-class Canvas;
+class CanvasSurface;
 class Layer2Image;
 class QMouseEvent;
 class QPainter;
@@ -14,7 +14,7 @@ class QPainter;
 class CanvasTool
 {
 public:
-    explicit CanvasTool(Canvas *canvas) : m_canvas(canvas) { }
+    explicit CanvasTool(CanvasSurface *canvas) : m_canvas(canvas) { }
     virtual ~CanvasTool();
 
     /// Called when the tool becomes the current one.
@@ -31,10 +31,10 @@ public:
     virtual bool hasPreview() const;
 
 protected:
-    Canvas *canvas() const { return m_canvas; }
+    CanvasSurface *canvas() const { return m_canvas; }
 
 private:
     Q_DISABLE_COPY_MOVE(CanvasTool)
 
-    Canvas *const m_canvas;
+    CanvasSurface *const m_canvas;
 };

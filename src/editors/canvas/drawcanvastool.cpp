@@ -1,17 +1,21 @@
 #include "editors/canvas/drawcanvastool.h"
 
-#include "editors/canvas/canvas.h"
+#include "editors/canvas/canvaspointer.h"
+#include "editors/canvas/canvassurface.h"
+#include "editors/canvas/layer2image.h"
+
+#include <QCursor>
 
 void DrawCanvasTool::activate()
 {
-    canvas()->setCursor(Qt::CrossCursor);
+    canvas()->showCursor(Qt::CrossCursor);
 }
 
 void DrawCanvasTool::mousePressed(QMouseEvent *)
 {
     canvas()->beginEdit();
     plot();
-    canvas()->update();
+    canvas()->scheduleRepaint();
 }
 
 bool DrawCanvasTool::mouseMoved(QMouseEvent *)
@@ -29,8 +33,8 @@ void DrawCanvasTool::mouseReleased(QMouseEvent *)
 void DrawCanvasTool::plot()
 {
     Layer2Image &layer = canvas()->layer();
-    if (canvas()->heldButtons() & Qt::LeftButton)
-        layer.setPixel(canvas()->cursorPixel(), layer.ink());
-    else if (canvas()->heldButtons() & Qt::RightButton)
-        layer.setPixel(canvas()->cursorPixel(), layer.paper());
+    if (canvas()->pointer().buttons & Qt::LeftButton)
+        layer.setPixel(canvas()->pointer().cursor, layer.ink());
+    else if (canvas()->pointer().buttons & Qt::RightButton)
+        layer.setPixel(canvas()->pointer().cursor, layer.paper());
 }

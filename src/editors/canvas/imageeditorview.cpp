@@ -14,8 +14,6 @@
 #include <QFileDialog>
 #include <QHBoxLayout>
 
-#include <algorithm>
-
 using namespace Quenmora::Ui;
 
 namespace ImageEditor {
@@ -24,12 +22,6 @@ namespace {
 
 constexpr int UsualZoom = 3;
 constexpr int FewColours = 16;
-
-/// Compares indices: QImage would compare colours.
-bool haveSameIndices(const QImage &a, const QImage &b)
-{
-    return a.size() == b.size() && std::equal(a.constBits(), a.constBits() + a.sizeInBytes(), b.constBits());
-}
 
 } // namespace
 
@@ -103,7 +95,7 @@ void View::setUndoStack(QUndoStack *stack)
         return;
     connect(stack, &QUndoStack::indexChanged, this, [this] {
         // undo of an edit that was made in an editor which was closed since
-        if (m_image && !haveSameIndices(m_image->image(), canvas()->image()))
+        if (m_image && !Layer2Image::haveSameIndices(m_image->image(), canvas()->image()))
             load(m_image->image());
     });
 }

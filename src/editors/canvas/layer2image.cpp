@@ -55,6 +55,17 @@ void Layer2Image::setPaper(int index)
         m_paper = index;
 }
 
+bool Layer2Image::haveSameIndices(const QImage &a, const QImage &b)
+{
+    if (a.size() != b.size())
+        return false;
+    for (int y = 0; y < a.height(); ++y) {
+        if (std::memcmp(a.constScanLine(y), b.constScanLine(y), size_t(a.width())) != 0)
+            return false;
+    }
+    return true;
+}
+
 void Layer2Image::copyFrom(const Layer2Image &other)
 {
     m_image = other.m_image;

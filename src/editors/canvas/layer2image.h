@@ -35,6 +35,9 @@ public:
     void setInk(int index);
     void setPaper(int index);
 
+    /// Compares indices; QImage's own comparison takes two indices of one colour for equal.
+    static bool haveSameIndices(const QImage &a, const QImage &b);
+
     /// Makes this a copy of other that shares its pixels until one of the two is drawn into.
     void copyFrom(const Layer2Image &other);
 

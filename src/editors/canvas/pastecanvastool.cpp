@@ -1,13 +1,16 @@
 #include "editors/canvas/pastecanvastool.h"
 
-#include "editors/canvas/canvas.h"
-#include "editors/canvas/canvasclipboard.h"
+#include "editors/canvas/canvasgeometry.h"
+#include "editors/canvas/canvaspointer.h"
+#include "editors/canvas/canvassurface.h"
+#include "editors/canvas/layer2image.h"
 
+#include <QCursor>
 #include <QPainter>
 
 void PasteCanvasTool::activate()
 {
-    canvas()->setCursor(Qt::CrossCursor);
+    canvas()->showCursor(Qt::CrossCursor);
 }
 
 void PasteCanvasTool::mouseReleased(QMouseEvent *)
@@ -21,9 +24,8 @@ void PasteCanvasTool::paint(QPainter &painter) const
     if (image.isNull())
         return;
     const CanvasGeometry &geometry = canvas()->geometryInWidget();
-    if (canvas()->palette())
-        image.setColorTable(canvas()->palette()->colourTable());
-    const QPoint corner = canvas()->cursorPixel() - QPoint(image.width() / 2, image.height() / 2);
+    image.setColorTable(canvas()->layer().image().colorTable());
+    const QPoint corner = canvas()->pointer().cursor - QPoint(image.width() / 2, image.height() / 2);
     const QRect target(geometry.pointOf(corner), geometry.scaled(image.size()));
 
     painter.save();

@@ -1,23 +1,25 @@
 #include "editors/canvas/pickcanvastool.h"
 
-#include "editors/canvas/canvas.h"
+#include "editors/canvas/canvaspointer.h"
+#include "editors/canvas/canvassurface.h"
+#include "editors/canvas/layer2image.h"
+
+#include <QCursor>
+#include <QPixmap>
 
 void PickCanvasTool::activate()
 {
-    canvas()->setCursor(QCursor(QPixmap(QStringLiteral(":/PickerCursor")), 5, 28));
+    canvas()->showCursor(QCursor(QPixmap(QStringLiteral(":/PickerCursor")), 5, 28));
 }
 
 void PickCanvasTool::mouseReleased(QMouseEvent *)
 {
-    const QPoint pixel = canvas()->cursorPixel();
+    const QPoint pixel = canvas()->pointer().cursor;
     if (!canvas()->layer().rect().contains(pixel))
         return;
     const int index = canvas()->layer().pixelIndex(pixel);
-    if (canvas()->heldButtons() & Qt::LeftButton) {
-        canvas()->setInk(index);
-        emit canvas()->foregroundPicked(index);
-    } else if (canvas()->heldButtons() & Qt::RightButton) {
-        canvas()->setPaper(index);
-        emit canvas()->backgroundPicked(index);
-    }
+    if (canvas()->pointer().buttons & Qt::LeftButton)
+        canvas()->pickInk(index);
+    else if (canvas()->pointer().buttons & Qt::RightButton)
+        canvas()->pickPaper(index);
 }

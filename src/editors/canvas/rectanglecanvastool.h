@@ -11,7 +11,7 @@ class RectangleCanvasTool final : public ShapeCanvasTool
     Q_DECLARE_TR_FUNCTIONS(RectangleCanvasTool)
 
 public:
-    RectangleCanvasTool(Canvas *canvas, bool filled) : ShapeCanvasTool(canvas), m_filled(filled) { }
+    RectangleCanvasTool(CanvasSurface *canvas, bool filled) : ShapeCanvasTool(canvas), m_filled(filled) { }
 
 protected:
     void draw(Layer2Image &layer) const override

@@ -1,13 +1,14 @@
 #include "editors/canvas/selectcanvastool.h"
 
-#include "editors/canvas/canvas.h"
+#include "editors/canvas/canvaspointer.h"
+#include "editors/canvas/canvassurface.h"
 
-#include <QMenu>
+#include <QCursor>
 #include <QMouseEvent>
 
 void SelectCanvasTool::activate()
 {
-    canvas()->setCursor(Qt::ArrowCursor);
+    canvas()->showCursor(Qt::ArrowCursor);
 }
 
 void SelectCanvasTool::mousePressed(QMouseEvent *event)
@@ -17,15 +18,15 @@ void SelectCanvasTool::mousePressed(QMouseEvent *event)
 
 bool SelectCanvasTool::mouseMoved(QMouseEvent *event)
 {
-    if (canvas()->heldButtons() & Qt::LeftButton)
+    if (canvas()->pointer().buttons & Qt::LeftButton)
         canvas()->extendSelection(event->position().toPoint());
     return false;
 }
 
 void SelectCanvasTool::mouseReleased(QMouseEvent *event)
 {
-    if (canvas()->heldButtons() & Qt::RightButton)
-        canvas()->contextMenu()->exec(event->globalPosition().toPoint());
+    if (canvas()->pointer().buttons & Qt::RightButton)
+        canvas()->openContextMenu(event->globalPosition().toPoint());
     else
-        canvas()->clearAnchor();
+        canvas()->endSelection();
 }

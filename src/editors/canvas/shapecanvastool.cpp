@@ -1,19 +1,21 @@
 #include "editors/canvas/shapecanvastool.h"
 
-#include "editors/canvas/canvas.h"
+#include "editors/canvas/canvaspointer.h"
+#include "editors/canvas/canvassurface.h"
+#include "editors/canvas/layer2image.h"
 
-#include <algorithm>
+#include <QCursor>
 
 void ShapeCanvasTool::activate()
 {
-    canvas()->setCursor(Qt::CrossCursor);
+    canvas()->showCursor(Qt::CrossCursor);
     canvas()->resetDrag();
 }
 
 void ShapeCanvasTool::mouseReleased(QMouseEvent *)
 {
     // The second of two buttons comes up after the drag has ended.
-    if (canvas()->heldButtons() == Qt::NoButton)
+    if (canvas()->pointer().buttons == Qt::NoButton)
         return;
     canvas()->applyEdit(text(), PixelEditCommand::None, [this](Layer2Image &layer) {
         draw(layer);
@@ -33,17 +35,15 @@ bool ShapeCanvasTool::hasPreview() const
 
 QPoint ShapeCanvasTool::pressed() const
 {
-    return canvas()->pressPixel();
+    return canvas()->pointer().pressed;
 }
 
 QPoint ShapeCanvasTool::current() const
 {
-    return canvas()->currentPixel();
+    return canvas()->pointer().current;
 }
 
 QRect ShapeCanvasTool::dragRect() const
 {
-    const auto [left, right] = std::minmax({pressed().x(), current().x()});
-    const auto [top, bottom] = std::minmax({pressed().y(), current().y()});
-    return {QPoint(left, top), QPoint(right, bottom)};
+    return canvas()->pointer().dragged();
 }

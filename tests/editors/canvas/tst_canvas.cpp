@@ -192,7 +192,7 @@ private slots:
         log.listen(f.canvas, &Canvas::backgroundPicked, "back");
         f.canvas.setInk(200);
         f.run({RectangleFill, {{1, 1}, {3, 3}}});
-        QCOMPARE(f.canvas.cursorPixel(), QPoint(3, 3)); // where the pointer is, though the drag is over
+        QCOMPARE(f.canvas.pointer().cursor, QPoint(3, 3)); // where the pointer is, though the drag is over
         f.canvas.setInk(1);
         f.run({Pick, {{3, 3}}, Qt::RightButton});
         f.run({Pick, {{3, 3}}});

@@ -1,0 +1,152 @@
+// How the canvas looks, and what mouse and keyboard do with it.
+
+#include "editors/canvas/canvas.h"
+#include "editors/canvas/canvastool.h"
+
+#include <QKeyEvent>
+#include <QMenu>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QWheelEvent>
+
+namespace {
+
+int sign(int value)
+{
+    return (value > 0) - (value < 0);
+}
+
+/// How far an arrow key moves the image; nothing for every other key.
+QPoint scrollOf(int key)
+{
+    switch (key) {
+    case Qt::Key_Left:
+        return {1, 0};
+    case Qt::Key_Up:
+        return {0, 1};
+    case Qt::Key_Right:
+        return {-1, 0};
+    case Qt::Key_Down:
+        return {0, -1};
+    default:
+        return {};
+    }
+}
+
+} // namespace
+
+// ---- Painting -------------------------------------------------------------------------------
+
+void Canvas::paintEvent(QPaintEvent *event)
+{
+    if (image().isNull() || !m_palette)
+        return;
+    QPainter painter(this);
+    painter.setClipRegion(event->region());
+    painter.fillRect(rect(), QWidget::palette().window());
+    paintImage(painter);
+    m_overlay.paint(painter, m_geometry);
+    m_tools.tool().paint(painter);
+}
+
+void Canvas::paintImage(QPainter &painter) const
+{
+    QImage shown = image();
+    if (m_tools.tool().hasPreview() && m_layer.rect().contains(m_pointer.pressed)) {
+        Layer2Image preview(QSize(1, 1));
+        preview.copyFrom(m_layer);
+        m_tools.tool().drawPreview(preview);
+        shown = preview.image();
+    }
+    // Only what is on the screen is converted and scaled.
+    const QRect visible = m_geometry.visiblePixels() & shown.rect();
+    if (visible.isEmpty())
+        return;
+    const QImage part = shown.copy(visible).convertToFormat(QImage::Format_RGB32);
+    painter.drawImage(QRect(m_geometry.imageRect.topLeft(), m_geometry.scaled(visible.size())), part);
+}
+
+// ---- Mouse and keyboard ---------------------------------------------------------------------
+
+void Canvas::hoverAt(QPoint pixel)
+{
+    m_pointer.cursor = pixel;
+    const bool inside = m_layer.rect().contains(pixel);
+    emit pixelHovered(inside ? pixel : CanvasPointer::Nowhere, inside ? m_layer.pixelIndex(pixel) : -1);
+}
+
+void Canvas::mousePressEvent(QMouseEvent *event)
+{
+    m_pointer.press(m_geometry.pixelAt(event->position().toPoint()), event->buttons());
+    m_tools.tool().mousePressed(event);
+}
+
+void Canvas::mouseMoveEvent(QMouseEvent *event)
+{
+    const QPoint pixel = m_geometry.pixelAt(event->position().toPoint());
+    if (!m_pointer.moveTo(pixel))
+        return;
+    if (m_tools.tool().mouseMoved(event))
+        update();
+    hoverAt(pixel);
+}
+
+void Canvas::mouseReleaseEvent(QMouseEvent *event)
+{
+    const QPoint pixel = m_geometry.pixelAt(event->position().toPoint());
+    m_pointer.current = pixel;
+    const QPointer guard(this); // a tool may open a menu, under which anything can happen
+    m_tools.tool().mouseReleased(event);
+    if (!guard)
+        return;
+    m_pointer.buttons = Qt::NoButton;
+    hoverAt(pixel);
+}
+
+void Canvas::leaveEvent(QEvent *event)
+{
+    hoverAt(CanvasPointer::Nowhere);
+    m_selection.clearAnchor();
+    update();
+    QWidget::leaveEvent(event);
+}
+
+void Canvas::wheelEvent(QWheelEvent *event)
+{
+    if (!m_geometry.imageRect.contains(event->position().toPoint())) {
+        event->ignore();
+        return;
+    }
+    const QPoint step(2 * sign(event->angleDelta().x()), 2 * sign(event->angleDelta().y()));
+    if (event->modifiers() & Qt::ControlModifier)
+        setZoomLevel(m_geometry.zoom + (step.y() < 1 ? -CanvasGeometry::ZoomStep : CanvasGeometry::ZoomStep));
+    else
+        scrollBy(step);
+    event->accept();
+}
+
+bool Canvas::scrollByKey(const QKeyEvent *event)
+{
+    if (event->modifiers() & ~Qt::KeypadModifier)
+        return false;
+    const QPoint delta = scrollOf(event->key());
+    if (delta.isNull())
+        return false;
+    scrollBy(delta);
+    return true;
+}
+
+void Canvas::keyPressEvent(QKeyEvent *event)
+{
+    if (!scrollByKey(event))
+        QWidget::keyPressEvent(event);
+}
+
+void Canvas::contextMenuEvent(QContextMenuEvent *event)
+{
+    // The select tool opens the menu for the mouse.
+    if (event->reason() == QContextMenuEvent::Keyboard)
+        m_contextMenu->popup(event->globalPos());
+    else
+        event->ignore();
+}
