@@ -51,11 +51,6 @@ private slots:
         f.drag(points);
         f.drag(points); // the same tile over itself
         QCOMPARE(f.steps(), "Paint");
-        f.stack.undo();
-        QVERIFY(!f.tile(0, 3).used && !f.tile(9, 3).used);
-        f.stack.redo();
-        QVERIFY(f.tile(0, 3).used);
-
         f.drag({f.at(1, 0), f.at(2, 0), {-3, -3}}); // released outside, and the edit ends all the same
         f.move(f.at(7, 7));
         QVERIFY(!f.tile(7, 7).used); // no button is held any more
@@ -127,44 +122,28 @@ private slots:
         }
     }
 
-    void pastesWhatFits()
+    void pastesWhatIsOfTheSameTiles()
     {
-        // the height and width that the data announces, its cells (-1 for no data at all), whether its tiles are the
-        // map's
-        for (const auto &[height, width, cells, ownTiles, accepted] : {std::tuple(2, 3, 6, true, true),
-                                                                       {2, 3, 6, false, false},
-                                                                       {2, 3, 5, true, false},
-                                                                       {0x7FFFFFFF, 0x7FFFFFFF, 6, true, false},
-                                                                       {-2, -3, 6, true, false},
-                                                                       {0, 5, 0, true, false},
-                                                                       {0, 0, -1, true, false}}) {
+        for (const bool own : {true, false}) {
             F f;
-            QByteArray data;
-            QDataStream stream(&data, QIODevice::WriteOnly);
-            if (cells >= 0)
-                stream << qint32(height) << qint32(width);
-            for (int i = 0; i < cells; ++i)
-                stream << qint32(i + 1) << true << qint32(0) << false << false << false;
-            if (cells >= 0)
-                stream << (ownTiles ? f.tiles->id() : QUuid::createUuid());
-            auto *copied = new QMimeData;
-            copied->setData("quenmora-map-toNextData", data);
-            QApplication::clipboard()->setMimeData(copied);
+            MapAssets others;
+            const MapAssets &source = own ? static_cast<const MapAssets &>(f) : others;
+            source.map->setTile({4, 4}, {1, false, false, false, 0, true});
+            source.map->setTile({5, 5}, {5, false, false, false, 0, true});
+            const auto copy = [&source](const QRect &cells) {
+                QApplication::clipboard()->setMimeData(source.map->tileLayer()->toMimeData(cells));
+            };
+            copy({4, 4, 3, 2});
             f.grid.setMode(Select);
             f.grid.setMode(Paste);
-            QCOMPARE(f.grid.mode(), accepted ? Paste : Select);
+            QCOMPARE(f.grid.mode(), own ? Paste : Select);
             f.move(f.at(19, 8));
             f.click(f.at(19, 8));
-            if (accepted) {
-                QCOMPARE(f.grid.pasteArea(), QRect(18, 7, 3, 2)); // around the pointer; the last column lies outside
-                QCOMPARE(f.tile(18, 7).index, 1);
-                QCOMPARE(f.tile(19, 8).index, 5);
-            }
-            // what was accepted may have been replaced since
-            f.map->setTile({0, 0}, {9, false, false, false, 0, true});
-            QApplication::clipboard()->setMimeData(f.map->tileLayer()->toMimeData({0, 0, 1, 1}));
+            QCOMPARE(f.tile(18, 7).index, own ? 1 : 0); // around the pointer; the last column lies outside
+            QCOMPARE(f.tile(19, 8).index, own ? 5 : 0);
+            copy({0, 0, 1, 1}); // in place of what was accepted
             f.click(f.at(10, 10));
-            QCOMPARE(f.steps(), accepted ? "Paste" : "");
+            QCOMPARE(f.steps(), own ? "Paste" : "");
         }
     }
 
@@ -231,6 +210,15 @@ private slots:
         QCOMPARE(f.map->sprites(), QList{f.sprite(1, {80, 64})});
         QCOMPARE(f.steps(), "Move Sprite|Move Sprite"); // the bank's change is in the second
         QVERIFY(clicked.isEmpty());
+
+        f.move(f.pixel(81, 65));
+        f.grid.setSpriteVisibility(false);
+        QVERIFY(!f.grid.deleteSprite()); // what is hidden is not under the pointer
+        f.move(f.pixel(82, 65));
+        f.grid.setSpriteVisibility(true);
+        QVERIFY(!f.grid.deleteSprite());
+        f.move(f.pixel(81, 65));
+        QVERIFY(f.grid.deleteSprite());
     }
 };
 
