@@ -3,12 +3,13 @@
 
 #include "model/map.h"
 #include "model/palette.h"
+#include "model/pngreader.h"
 #include "model/project.h"
 #include "model/spritebank.h"
 #include "model/tilemap.h"
 #include "model/tileset.h"
-#include "store/pngmember.h"
 
+#include <QBuffer>
 #include <QFile>
 #include <QLoggingCategory>
 #include <QMimeData>
@@ -33,6 +34,15 @@ void readClipboard(Map &map, const QByteArray &bytes)
     clipboard.setData(QStringLiteral("quenmora-map-toNextData"), bytes);
     map.pasteTiles({-1, 1}, &clipboard);
     (void)TileMap::readSelection(&clipboard);
+}
+
+QImage decoded(const QByteArray &bytes)
+{
+    QBuffer buffer;
+    buffer.setData(bytes);
+    buffer.open(QIODevice::ReadOnly);
+    PngReader reader(buffer);
+    return reader.readHead() && reader.byteCount() <= 1 << 26 ? reader.read() : QImage();
 }
 
 void readFormat(int format, const QByteArray &bytes)
@@ -66,7 +76,7 @@ void readFormat(int format, const QByteArray &bytes)
         readClipboard(*map, bytes);
         break;
     case 7:
-        bank->setWholeImage(PngMember::decode(bytes));
+        bank->setWholeImage(decoded(bytes));
         break;
     }
 }

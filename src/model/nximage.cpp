@@ -67,6 +67,15 @@ QImage mapped(const QImage &picture, const Grid<quint8> &indexOf, const QList<QR
     return result;
 }
 
+/// The colours whose indices are stored as levels of grey.
+QList<QRgb> greyRamp()
+{
+    QList<QRgb> colours;
+    for (int level = 0; level < TableSize; ++level)
+        colours.append(qRgb(level, level, level));
+    return colours;
+}
+
 } // namespace
 
 NxImage::NxImage(QObject *parent) : QObject(parent) { }
@@ -165,7 +174,10 @@ QImage NxImage::indexed(const QImage &picture, const QPointer<Palette> &palette)
         return picture;
     case QImage::Format_Grayscale8: {
         QImage indices = picture;
-        return indices.reinterpretAsFormat(QImage::Format_Indexed8) ? indices : QImage();
+        if (!indices.reinterpretAsFormat(QImage::Format_Indexed8))
+            return {};
+        indices.setColorTable(greyRamp());
+        return indices;
     }
     case QImage::Format_Mono:
     case QImage::Format_MonoLSB:

@@ -1,6 +1,7 @@
 #include "model/picturefile.h"
 
 #include "model/nximage.h"
+#include "model/pngreader.h"
 
 #include <QBuffer>
 #include <QCoreApplication>
@@ -72,8 +73,9 @@ PictureFile refused(const QString &refusal = {})
     return {{}, refusal};
 }
 
-/// Reads what is known to be of this format.
-PictureFile decoded(QImageReader &reader)
+/// Reads the picture of a reader that knows its size.
+template <class Reader>
+PictureFile decoded(Reader &reader)
 {
     const QSize size = reader.size();
     if (size.isEmpty())
@@ -115,6 +117,10 @@ PictureFile PictureFile::read(QIODevice &device)
                                         [&start](const Signature &known) { return start.startsWith(known.bytes); });
     if (signature == std::end(Signatures))
         return refused();
+    if (qstrcmp(signature->format, "png") == 0) {
+        PngReader reader(device);
+        return reader.readHead() ? decoded(reader) : refused();
+    }
     QImageReader reader(&device, signature->format);
     reader.setAutoDetectImageFormat(false); // no other decoder is asked
     return reader.canRead() ? decoded(reader) : refused();

@@ -5,6 +5,7 @@
 #include "model/tilemappicture.h"
 #include "model/tileset.h"
 
+#include <QBuffer>
 #include <QHash>
 #include <QMimeData>
 
@@ -321,11 +322,15 @@ QByteArray TileMap::serialise(const QRect &area) const
 
 TileMap *TileMap::fromData(const QByteArray &data, QObject *parent)
 {
-    const auto reader = TileMapFormat::Reader::open(data);
-    if (!reader)
+    QBuffer buffer;
+    buffer.setData(data);
+    buffer.open(QIODevice::ReadOnly);
+    TileMapFormat::Budget budget{std::numeric_limits<qint64>::max(), std::numeric_limits<qint64>::max()};
+    const auto rows = TileMapFormat::readRows(buffer, budget);
+    if (!rows)
         return nullptr;
-    auto *map = new TileMap(reader->size(), parent);
-    map->m_rows = reader->rows();
+    auto *map = new TileMap(0, 0, parent);
+    map->restore(*rows);
     return map;
 }
 

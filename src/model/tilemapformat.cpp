@@ -1,5 +1,6 @@
 #include "model/tilemapformat.h"
 
+#include <QIODevice>
 #include <QtEndian>
 
 #include <algorithm>
@@ -15,6 +16,12 @@ constexpr qsizetype HeaderSize = 8;
 constexpr qsizetype CellSize = 12;
 constexpr qsizetype IdSize = 16;
 constexpr qsizetype NextCellSize = 2;
+
+/// Cells along a side of a grid that is read: far more than the editor makes.
+constexpr int MaxSide = 1 << 16;
+
+/// What a row takes besides its cells, in cells: a list in each of a map's two layers.
+constexpr qint64 RowCost = 6;
 
 char *writeCell(char *to, const TileData &cell)
 {
@@ -45,6 +52,42 @@ char *writeNextCell(char *to, const TileData &cell)
     to[1] = char((cell.offset & 15) << 4 | int(cell.mirror) << 3 | int(cell.flip) << 2 | int(cell.rotate) << 1
                  | (cell.index >> 8 & 1));
     return to + NextCellSize;
+}
+
+/// The size that a head announces, 0 × 0 when either side is 0; nothing when it is negative, or has more cells than
+/// these bytes can hold.
+std::optional<QSize> sizeIn(const QByteArray &head, qint64 bytes)
+{
+    const qint32 height = qFromBigEndian<qint32>(head.constData());
+    const qint32 width = qFromBigEndian<qint32>(head.constData() + 4);
+    if (height < 0 || width < 0 || qint64(height) * width > bytes / CellSize)
+        return std::nullopt;
+    return height > 0 && width > 0 ? QSize(width, height) : QSize(0, 0);
+}
+
+bool takeMemory(qint64 cells, Budget &budget)
+{
+    budget.memory -= cells;
+    return budget.memory >= 0;
+}
+
+/// Takes what a grid costs whatever is in it.
+bool takeGrid(QSize size, Budget &budget)
+{
+    budget.cells -= qint64(size.width()) * size.height();
+    return std::max(size.width(), size.height()) <= MaxSide && budget.cells >= 0
+        && takeMemory(size.height() * RowCost, budget);
+}
+
+Row rowIn(const QByteArray &bytes)
+{
+    Row row(bytes.size() / CellSize);
+    const auto *from = reinterpret_cast<const uchar *>(bytes.constData());
+    for (TileData &cell : row) {
+        cell = readCell(from);
+        from += CellSize;
+    }
+    return row;
 }
 
 } // namespace
@@ -90,17 +133,56 @@ QByteArray serialise(const TileMap::Rows &rows, const QRect &area, const QUuid &
     return data;
 }
 
+std::optional<TileMap::Rows> readRows(QIODevice &device, Budget &budget)
+{
+    const QByteArray head = device.read(HeaderSize);
+    const auto size = head.size() == HeaderSize ? sizeIn(head, device.bytesAvailable()) : std::nullopt;
+    if (!size || !takeGrid(*size, budget))
+        return std::nullopt;
+    TileMap::Rows rows;
+    QByteArray before;
+    QByteArray bytes;
+    for (int y = 0; y < size->height(); ++y) {
+        bytes.resize(size->width() * CellSize);
+        if (device.read(bytes.data(), bytes.size()) != bytes.size())
+            return std::nullopt;
+        if (bytes == before) {
+            rows.append(rows.last());
+        } else if (takeMemory(size->width(), budget)) {
+            rows.append(rowIn(bytes));
+            bytes.swap(before);
+        } else {
+            return std::nullopt;
+        }
+    }
+    char id[IdSize];
+    const bool damaged = device.read(id, IdSize) < 0; // they need not be there
+    return damaged ? std::nullopt : std::optional(rows);
+}
+
+bool takeRows(const QByteArray &data, Budget &budget)
+{
+    const auto size = data.size() >= HeaderSize ? sizeIn(data, data.size() - HeaderSize) : std::nullopt;
+    if (!size || !takeGrid(*size, budget))
+        return false;
+    const qsizetype rowSize = size->width() * CellSize;
+    const char *row = data.constData() + HeaderSize;
+    for (int y = 0; y < size->height(); ++y, row += rowSize) {
+        const bool isShared = y > 0 && std::memcmp(row, row - rowSize, size_t(rowSize)) == 0;
+        if (!isShared && !takeMemory(size->width(), budget))
+            return false;
+    }
+    return true;
+}
+
 Reader::Reader(const QByteArray &data, QSize size) : m_data(data), m_size(size) { }
 
 std::optional<Reader> Reader::open(const QByteArray &data)
 {
     if (data.size() < HeaderSize)
         return std::nullopt;
-    const qint32 height = qFromBigEndian<qint32>(data.constData());
-    const qint32 width = qFromBigEndian<qint32>(data.constData() + 4);
-    if (height < 0 || width < 0 || qint64(height) * width > (data.size() - HeaderSize) / CellSize)
-        return std::nullopt;
-    return Reader(data, height > 0 && width > 0 ? QSize(width, height) : QSize(0, 0));
+    const auto size = sizeIn(data, data.size() - HeaderSize);
+    return size ? std::optional(Reader(data, *size)) : std::nullopt;
 }
 
 const uchar *Reader::cellAt(int x, int y) const
@@ -114,23 +196,6 @@ void Reader::readCells(int x, int y, int count, TileData *cells) const
     const uchar *from = cellAt(x, y);
     for (int i = 0; i < count; ++i, from += CellSize)
         cells[i] = readCell(from);
-}
-
-TileMap::Rows Reader::rows() const
-{
-    TileMap::Rows rows;
-    rows.reserve(m_size.height());
-    for (int y = 0; y < m_size.height(); ++y) {
-        const qsizetype rowSize = m_size.width() * CellSize;
-        if (y > 0 && std::memcmp(cellAt(0, y), cellAt(0, y - 1), size_t(rowSize)) == 0) {
-            rows.append(rows.last());
-            continue;
-        }
-        Row row(m_size.width());
-        readCells(0, y, m_size.width(), row.data());
-        rows.append(std::move(row));
-    }
-    return rows;
 }
 
 QUuid Reader::tileSetId() const

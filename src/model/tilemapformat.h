@@ -4,6 +4,8 @@
 
 #include <optional>
 
+class QIODevice;
+
 /// The two forms in which the cells of a tile map leave the program.
 ///
 /// Next tilemap data, what the hardware reads and ".map" files hold: two bytes a cell, rows top to bottom,
@@ -30,7 +32,22 @@ namespace TileMapFormat {
 /// The area of a grid in data-stream form, with blank cells outside the grid.
 [[nodiscard]] QByteArray serialise(const TileMap::Rows &rows, const QRect &area, const QUuid &tileSetId);
 
-/// What data in data-stream form holds.
+/// What the cells that are read may cost.
+struct Budget
+{
+    qint64 cells; ///< to look at
+    qint64 memory; ///< to keep, in cells; rows that equal the one before them share it
+};
+
+/// Reads the rows of a grid in data-stream form, one after the other, from a device that may be sequential; what
+/// follows the tile set's id is left unread. Takes what they cost from the budget. Nothing when the data is too short
+/// for the cells that it announces, the budget is, or a side has more than 65536 cells.
+[[nodiscard]] std::optional<TileMap::Rows> readRows(QIODevice &device, Budget &budget);
+
+/// Takes what readRows() would; false when it would give nothing.
+[[nodiscard]] bool takeRows(const QByteArray &data, Budget &budget);
+
+/// What clipboard data in data-stream form holds.
 class Reader
 {
 public:
@@ -39,8 +56,6 @@ public:
 
     /// 0 × 0 when either side is 0.
     [[nodiscard]] QSize size() const { return m_size; }
-    /// All cells; equal rows in a row share their storage.
-    [[nodiscard]] TileMap::Rows rows() const;
     /// Reads count cells of row y from column x on; all of them must lie inside.
     void readCells(int x, int y, int count, TileMap::TileData *cells) const;
     /// The tile set's id; null when the data ends before it.

@@ -50,8 +50,10 @@ QJsonObject writeBlockSet(const MapObjects &blocks)
 
 void readBlockSet(DocumentReader &reader, const QJsonObject &object)
 {
+    const QUuid id = DocumentValue::id(object, Id);
+    (void)DocumentReader::makeRoom(reader.project.blocks(id));
     auto *blocks = new MapObjects(&reader.project);
-    blocks->setId(DocumentValue::id(object, Id));
+    blocks->setId(id);
     blocks->setName(DocumentValue::name(object, Name));
     blocks->setTileSet(reader.project.tileSet(DocumentValue::id(object, BoundTileSet)));
     for (const QJsonValue &animation : object.value(Animations).toArray())

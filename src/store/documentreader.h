@@ -2,12 +2,19 @@
 
 #include "model/assetname.h"
 #include "store/projectdocument.h"
+#include "store/readingbudget.h"
 
+#include <QIODevice>
+#include <QImage>
 #include <QJsonObject>
 #include <QJsonValue>
 #include <QLatin1String>
+#include <QPointer>
 #include <QString>
 #include <QUuid>
+
+#include <memory>
+#include <optional>
 
 /// What the readers of all kinds of asset share while one project is read.
 ///
@@ -17,20 +24,44 @@
 struct DocumentReader
 {
     Project &project;
-    const MemberReader &member;
+    const MemberOpener &members;
     QString &error;
+
+    ReadingBudget budget{};
 
     /// How many cells the animations may still have that the document does not spell out. Sizes cost
     /// nothing to write; without a bound a short document could ask for all memory there is, here and
     /// again when the project is saved.
     qsizetype impliedCells = qsizetype(1) << 18;
 
-    /// Notes why the project cannot be read; always false.
-    [[nodiscard]] bool fail(const QString &message)
+    /// A picture of the archive.
+    struct Picture
     {
-        error = message;
-        return false;
+        QImage image; ///< null also when it is none, or takes more than the budget has
+        bool isThere = false; ///< whether there is an undamaged member
+    };
+
+    enum class Use { Pixels, Tiles };
+
+    /// The member, ready to be read; null when it is not there or empty.
+    [[nodiscard]] std::unique_ptr<QIODevice> open(const QString &memberName) const;
+    /// The whole member; empty when it is not there, damaged, or longer than this.
+    [[nodiscard]] QByteArray readAll(const QString &memberName, qint64 mostBytes) const;
+    // The members of an asset; again is whether it replaces one.
+    [[nodiscard]] Picture readPicture(const QString &memberName, Use use, bool again);
+    [[nodiscard]] std::optional<TileMap::Rows> readCells(const QString &memberName, bool again);
+
+    /// Frees the asset whose place one with the same id is about to take. Whether there is one.
+    template <class Asset>
+    [[nodiscard]] static bool makeRoom(const QPointer<Asset> &earlier)
+    {
+        const bool found = earlier;
+        delete earlier.data();
+        return found;
     }
+
+    /// Notes why the project cannot be read; always false.
+    [[nodiscard]] bool fail(const QString &message);
 };
 
 /// Values of the document. What is missing, of another type or (for numbers) no 32-bit integer counts

@@ -36,10 +36,12 @@ QJsonObject writeImage(const Image &image, ProjectMembers &members)
 bool readImage(DocumentReader &reader, const QJsonObject &object)
 {
     const auto mode = DocumentValue::enumerator(object, Type, Quenmora::LoRes_128x96, Quenmora::Layer2_256x192);
+    const QUuid id = DocumentValue::id(object, Id);
+    const bool again = DocumentReader::makeRoom(reader.project.image(id));
     auto *image = new Image(mode, &reader.project);
-    image->setId(DocumentValue::id(object, Id));
+    image->setId(id);
     image->setName(DocumentValue::name(object, Name));
-    const QImage pixels = PngMember::decode(reader.member(pixelsMember(image->id())));
+    const QImage pixels = reader.readPicture(pixelsMember(id), DocumentReader::Use::Pixels, again).image;
     if (pixels.isNull())
         return reader.fail(
             QCoreApplication::translate("ProjectDocument", "Failed to load tile image %1").arg(image->name()));

@@ -118,7 +118,6 @@ Map::PlacedSprite readSprite(const QJsonObject &object)
 /// What the map itself holds, without its layers.
 void readContent(Map &map, const QJsonObject &object)
 {
-    map.setId(DocumentValue::idOrNew(object, Id));
     map.setTileTransparencyIndex(object.value(TileTransparency).toInt(-1));
     map.setGridVisible(object.value(GridVisible).toBool(true));
     map.setBackgroundTileIndex(object.value(BackgroundTileIndex).toInt(-1));
@@ -132,7 +131,22 @@ void readContent(Map &map, const QJsonObject &object)
         map.addSprite(readSprite(sprite.toObject()));
 }
 
+/// As DocumentReader::makeRoom(), with the layers, which are the project's.
+bool freeMap(const QPointer<Map> &earlier)
+{
+    if (earlier) {
+        delete earlier->tileLayer().data();
+        delete earlier->objectLayer().data();
+    }
+    return DocumentReader::makeRoom(earlier);
+}
+
 } // namespace
+
+bool isTileLayer(const QString &memberName)
+{
+    return memberName.startsWith(QLatin1String("tilemap/"));
+}
 
 QJsonObject writeMap(const Map &map, ProjectMembers &members)
 {
@@ -163,12 +177,17 @@ QJsonObject writeMap(const Map &map, ProjectMembers &members)
 
 bool readMap(DocumentReader &reader, const QJsonObject &object)
 {
+    const QUuid id = DocumentValue::idOrNew(object, Id);
+    const bool again = freeMap(reader.project.map(id));
     auto *map = new Map(DocumentValue::name(object, Name), &reader.project);
+    map->setId(id);
     readContent(*map, object);
-    TileMap *tiles = TileMap::fromData(reader.member(cellsMember(map->id())), &reader.project);
-    if (!tiles)
+    const auto rows = reader.readCells(cellsMember(id), again);
+    if (!rows)
         return reader.fail(
             QCoreApplication::translate("ProjectDocument", "Failed to load tile map anim for map %1").arg(map->name()));
+    auto *tiles = new TileMap(0, 0, &reader.project);
+    tiles->restore(*rows);
     tiles->setVisible(object.value(TileLayerVisible).toBool(true));
     auto *objects = new TileMap(tiles->size(), &reader.project);
     objects->setVisible(object.value(ObjectLayerVisible).toBool(false));

@@ -12,3 +12,5 @@ struct DocumentReader;
 /// be stamped from the placements once the block sets are there.
 [[nodiscard]] QJsonObject writeMap(const Map &map, ProjectMembers &members);
 [[nodiscard]] bool readMap(DocumentReader &reader, const QJsonObject &object);
+/// Whether a member of that name is the cells of a map.
+[[nodiscard]] bool isTileLayer(const QString &memberName);

@@ -32,8 +32,10 @@ QJsonObject writePalette(const Palette &palette)
 
 void readPalette(DocumentReader &reader, const QJsonObject &object)
 {
+    const QUuid id = DocumentValue::idOrNew(object, Id);
+    (void)DocumentReader::makeRoom(reader.project.palette(id));
     auto *palette = new Palette(&reader.project);
-    palette->setId(DocumentValue::idOrNew(object, Id));
+    palette->setId(id);
     palette->setName(DocumentValue::name(object, Name));
     palette->setTransparencyIndex(object.value(TransparencyIndex).toInt(-1));
     const QJsonArray colours = object.value(Colours).toArray();

@@ -1,9 +1,10 @@
 #include "store/pngmember.h"
 
-#include "store/deflate.h"
+#include "model/pngreader.h"
 
 #include <QBuffer>
-#include <QImageReader>
+
+#include <algorithm>
 
 namespace {
 
@@ -13,16 +14,12 @@ constexpr int ColourTableSize = 256;
 /// default follows the screen, and content that has not changed is to give the same bytes on every screen.
 constexpr int DotsPerMetre = 3780;
 
-/// Whether a PNG of so many bytes can hold that many pixels: no pixel takes less than a bit.
-bool canHold(qint64 bytes, QSize pixels)
-{
-    return pixels.isValid() && qint64(pixels.width()) * pixels.height() / 8 <= bytes * MaxDeflateRatio;
-}
-
 } // namespace
 
 QByteArray PngMember::encode(const QImage &image)
 {
+    if (std::max(image.width(), image.height()) > PngReader::MaxSide)
+        return {};
     QImage stored = image;
     stored.setDotsPerMeterX(DotsPerMetre);
     stored.setDotsPerMeterY(DotsPerMetre);
@@ -33,13 +30,4 @@ QByteArray PngMember::encode(const QImage &image)
     QByteArray bytes;
     QBuffer buffer(&bytes);
     return buffer.open(QIODevice::WriteOnly) && stored.save(&buffer, "png") ? bytes : QByteArray();
-}
-
-QImage PngMember::decode(const QByteArray &bytes)
-{
-    QBuffer buffer;
-    buffer.setData(bytes);
-    QImageReader reader(&buffer, "png");
-    reader.setAutoDetectImageFormat(false);
-    return canHold(bytes.size(), reader.size()) ? reader.read() : QImage();
 }

@@ -4,6 +4,7 @@
 #include "model/map.h"
 #include "model/mapobjects.h"
 #include "model/palette.h"
+#include "model/pngreader.h"
 #include "model/project.h"
 #include "model/spritebank.h"
 #include "model/tileset.h"
@@ -17,12 +18,14 @@
 #include "store/tilesetdocument.h"
 #include "store/zipfile.h"
 
+#include <QBuffer>
 #include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QSet>
 
 #include <algorithm>
+#include <numeric>
 
 namespace {
 
@@ -30,9 +33,14 @@ namespace {
 constexpr int FormatVersion = 2;
 constexpr int OldestVersion = 1;
 
-/// Values in the document. A frame of 16 × 16 cells, the largest that the editors offer, has some 1500; in
-/// memory a value takes up to a hundred bytes.
-constexpr qsizetype MaxValues = qsizetype(8) << 20;
+/// Bytes of the document. A frame of 16 × 16 cells, the largest that the editors offer, takes 80 KiB as it is written.
+constexpr qsizetype MaxDocument = qsizetype(128) << 20;
+
+// What the document takes in memory, in bytes, text included
+constexpr qint64 MaxMemory = qint64(384) << 20;
+constexpr qint64 ValueMemory = 16;
+constexpr qint64 KeyMemory = 56;
+constexpr qint64 ContainerMemory = 160;
 
 /// Assets, animations and frames in a project; a large game has some thousands.
 constexpr qsizetype MaxObjects = qsizetype(1) << 15;
@@ -97,6 +105,8 @@ QStringList readOpenDocuments(const QJsonArray &entries)
         if (!known.contains(key))
             documents.append(document);
         known.insert(key);
+        if (documents.size() >= MaxObjects) // there are no more to open
+            break;
     }
     return documents;
 }
@@ -143,7 +153,7 @@ void readScratch(DocumentReader &reader)
     Project &project = reader.project;
     if (const auto palettes = project.palettes(); !project.scratchPalette() && !palettes.isEmpty())
         project.setScratchPalette(palettes.first());
-    const QImage stored = PngMember::decode(reader.member(ScratchMember));
+    const QImage stored = reader.readPicture(ScratchMember, DocumentReader::Use::Pixels, false).image;
     if (stored.size() == project.scratchImage().size() && stored.depth() <= 8 && !stored.isNull())
         project.setScratchImage(stored.convertToFormat(QImage::Format_Indexed8));
 }
@@ -158,10 +168,14 @@ void readBlockSets(DocumentReader &reader, const QJsonObject &document)
         map->restampAnimations(blockSets);
 }
 
-/// How many values a JSON text can hold, give or take those that are text with commas.
-qsizetype valuesIn(const QByteArray &text)
+/// Bytes that a JSON text and its values can take in memory, give or take what stands in names.
+qint64 memoryFor(const QByteArray &text)
 {
-    return std::count_if(text.cbegin(), text.cend(), [](char c) { return c == ',' || c == '[' || c == '{'; });
+    const auto memoryOf = [](char c) {
+        return c == ',' ? ValueMemory : c == ':' ? KeyMemory : c == '[' || c == '{' ? ContainerMemory : 0;
+    };
+    return std::accumulate(text.cbegin(), text.cend(), qint64(text.size()),
+                           [memoryOf](qint64 sum, char c) { return sum + memoryOf(c); });
 }
 
 /// How many objects are to be made for the document: "{}" is enough to ask for one.
@@ -181,10 +195,25 @@ qsizetype objectsIn(const QJsonObject &document)
 /// Whether readers refuse the document for what it would take to hold it.
 bool isTooLarge(const QByteArray &text)
 {
-    if (valuesIn(text) > MaxValues)
+    if (text.size() > MaxDocument || memoryFor(text) > MaxMemory)
         return true;
     const bool canHoldTooMany = text.count('{') > MaxObjects; // else there is no need to look closely
     return canHoldTooMany && objectsIn(QJsonDocument::fromJson(text).object()) > MaxObjects;
+}
+
+/// Whether the reading of a picture or of cells stays within the budget.
+bool isInside(ReadingBudget &budget, const QString &name, const QByteArray &bytes)
+{
+    if (name.endsWith(QLatin1String(".png"))) {
+        QBuffer buffer;
+        buffer.setData(bytes);
+        buffer.open(QIODevice::ReadOnly);
+        PngReader picture(buffer);
+        return picture.readHead() && budget.takePixels(picture.byteCount(), isTileSet(name), false);
+    }
+    return !isTileLayer(name) || budget.takeCells(false, [&bytes](TileMapFormat::Budget &cells) {
+        return TileMapFormat::takeRows(bytes, cells);
+    });
 }
 
 QString invalidProject()
@@ -216,8 +245,9 @@ ProjectMembers serializeProject(const Project &project, bool includeOpenDocument
 
 QString unreadableMember(const ProjectMembers &members)
 {
+    ReadingBudget budget;
     for (auto member = members.cbegin(); member != members.cend(); ++member) {
-        if (member->isEmpty() || member->size() > ZipFile::MaxMemberSize)
+        if (member->isEmpty() || member->size() > ZipFile::MaxMemberSize || !isInside(budget, member.key(), *member))
             return member.key();
     }
     return isTooLarge(members.value(DocumentMember)) ? QString(DocumentMember) : QString();
@@ -225,12 +255,24 @@ QString unreadableMember(const ProjectMembers &members)
 
 bool readProject(Project &project, const MemberReader &read, QString &error)
 {
+    const MemberOpener members = [&read](const QString &member) -> std::unique_ptr<QIODevice> {
+        auto buffer = std::make_unique<QBuffer>();
+        buffer->setData(read(member));
+        buffer->open(QIODevice::ReadOnly);
+        return buffer;
+    };
+    return readProject(project, members, error);
+}
+
+bool readProject(Project &project, const MemberOpener &members, QString &error)
+{
     error.clear();
-    DocumentReader reader{project, read, error};
-    const QByteArray text = read(DocumentMember);
-    if (text.isEmpty() || valuesIn(text) > MaxValues)
+    DocumentReader reader{project, members, error};
+    QByteArray text = reader.readAll(DocumentMember, MaxDocument);
+    if (text.isEmpty() || memoryFor(text) > MaxMemory)
         return reader.fail(invalidProject());
     const QJsonObject document = QJsonDocument::fromJson(text).object(); // empty when the text is no JSON
+    text.clear();
     if (document.value(Version).toInteger(OldestVersion) > FormatVersion)
         return reader.fail(
             QCoreApplication::translate("ProjectDocument", "Project file is from a newer version of Quenmora"));

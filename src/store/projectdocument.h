@@ -5,14 +5,20 @@
 #include <QString>
 
 #include <functional>
+#include <memory>
 
 class Project;
+class QIODevice;
 
 /// The members of a project file by name, in the order in which they are written.
 using ProjectMembers = QMap<QString, QByteArray>;
 
 /// Gives the bytes of a member of a project file, and no bytes for a member that is not there.
 using MemberReader = std::function<QByteArray(const QString &memberName)>;
+
+/// Opens a member of a project file for reading from its start, as far as it is needed; null for one that is not
+/// there. The device may be sequential, and the next one ends it.
+using MemberOpener = std::function<std::unique_ptr<QIODevice>(const QString &memberName)>;
 
 /// Everything that a project file holds: the document "project.json", a PNG for each tile set,
 /// sprite bank and image and for the scratch image, and the cells of each map.
@@ -29,4 +35,5 @@ using MemberReader = std::function<QByteArray(const QString &memberName)>;
 /// The members may hold anything: a value that is missing or unusable takes its default, and what no
 /// default can replace ends the reading with false and a message for the user in error. The project is
 /// then half read and only fit to be destroyed.
+[[nodiscard]] bool readProject(Project &project, const MemberOpener &members, QString &error);
 [[nodiscard]] bool readProject(Project &project, const MemberReader &read, QString &error);

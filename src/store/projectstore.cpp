@@ -50,7 +50,7 @@ bool ProjectStore::load(const QString &fileName)
         newProject({});
     QString error;
     if (!readProject(
-            *m_project, [&archive](const QString &member) { return archive.read(member); }, error)) {
+            *m_project, [&archive](const QString &member) { return archive.open(member); }, error)) {
         static_cast<void>(failToLoad(error, fileName));
         close();
         return false;

@@ -74,15 +74,17 @@ QJsonObject writeSpriteBank(const SpriteBank &bank, ProjectMembers &members)
 bool readSpriteBank(DocumentReader &reader, const QJsonObject &object)
 {
     const auto depth = DocumentValue::enumerator(object, Depth, Quenmora::EightBit, Quenmora::EightBit);
+    const QUuid id = DocumentValue::idOrNew(object, Id);
+    const bool again = DocumentReader::makeRoom(reader.project.spriteBank(id));
     auto *bank = new SpriteBank(depth, &reader.project);
-    bank->setId(DocumentValue::idOrNew(object, Id));
+    bank->setId(id);
     bank->setName(DocumentValue::name(object, Name));
     bank->setTransparency(object.value(Transparency).toInt(-1));
     if (const QJsonArray offsets = object.value(Offsets).toArray(); !offsets.isEmpty())
         bank->setOffsets(readOffsets(offsets));
     for (const QJsonValue &animation : object.value(Animations).toArray())
         readAnimation(reader, *bank, animation.toObject());
-    const QImage pixels = PngMember::decode(reader.member(pixelsMember(bank->id())));
+    const QImage pixels = reader.readPicture(pixelsMember(id), DocumentReader::Use::Pixels, again).image;
     if (pixels.isNull())
         return reader.fail(QCoreApplication::translate("ProjectDocument", "Project has a missing sprite anim"));
     bank->setPalette(reader.project.palette(DocumentValue::id(object, BoundPalette)));

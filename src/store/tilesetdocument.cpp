@@ -49,6 +49,11 @@ void readTiles(TileSet &tileSet, const QJsonArray &offsets, const QJsonArray &ti
 
 } // namespace
 
+bool isTileSet(const QString &memberName)
+{
+    return memberName.startsWith(QLatin1String("tileset/"));
+}
+
 QJsonObject writeTileSet(const TileSet &tileSet, ProjectMembers &members)
 {
     QJsonArray offsets;
@@ -80,17 +85,17 @@ bool readTileSet(DocumentReader &reader, const QJsonObject &object)
     const QUuid id = DocumentValue::idOrNew(object, Id);
     const QString name = DocumentValue::name(object, Name);
     const int count = object.value(Count).toInt(DefaultCount);
-    const QByteArray strip = reader.member(stripMember(id));
-    if (strip.isEmpty() && count != 0) // a set without tiles has no picture
+    const bool again = DocumentReader::makeRoom(reader.project.tileSet(id));
+    const auto strip = reader.readPicture(stripMember(id), DocumentReader::Use::Tiles, again);
+    if (!strip.isThere && count != 0) // a set without tiles has no picture
         return reader.fail(
             QCoreApplication::translate("ProjectDocument", "Failed to load tile set tileImage \"%1\" from project file")
                 .arg(stripMember(id)));
 
     // The tiles are made only when there is a picture for each of them: the count may be any number.
-    const QImage pixels = PngMember::decode(strip);
-    const bool fits = count >= 0 && pixels.height() == qint64(count) * Tile::Size;
+    const bool fits = count >= 0 && strip.image.height() == qint64(count) * Tile::Size;
     auto *tileSet = new TileSet(fits ? count : 0, &reader.project);
-    if (!fits || (count > 0 && !tileSet->setStrip(pixels)))
+    if (!fits || (count > 0 && !tileSet->setStrip(strip.image)))
         return reader.fail(
             QCoreApplication::translate("ProjectDocument", "Error setting tile set anim - %1").arg(name));
     tileSet->setId(id);

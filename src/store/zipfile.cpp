@@ -1,7 +1,5 @@
 #include "store/zipfile.h"
 
-#include "store/deflate.h"
-
 #include <QDateTime>
 #include <QFileInfo>
 #include <QHash>
@@ -18,6 +16,9 @@ constexpr int MaxNameLength = 65535; // the length field has 16 bits
 
 /// minizip takes and counts bytes in 32-bit integers: larger buffers go through in slices.
 constexpr qint64 SliceSize = qint64(1) << 30;
+
+/// Deflate cannot pack more than this many bytes into one: what claims more is damaged, or wants to fill the memory.
+constexpr qint64 MaxDeflateRatio = 1032;
 
 /// Bytes that a packed member takes besides its content; an empty one takes two.
 constexpr qint64 DeflateSlack = 64;
@@ -57,18 +58,38 @@ bool hasPlausibleSize(const unz_file_info64 &info)
     return qint64(info.uncompressed_size) <= qint64(info.compressed_size) * ratio + DeflateSlack;
 }
 
-/// Unpacks the current member, which is open, into all of bytes.
-bool unpack(unzFile reader, QByteArray &bytes)
+/// The current member of an archive, open and unpacked as it is read.
+class MemberDevice final : public QIODevice
 {
-    for (qint64 done = 0; done < bytes.size();) {
-        const auto slice = unsigned(std::min(bytes.size() - done, SliceSize));
-        const int count = unzReadCurrentFile(reader, bytes.data() + done, slice);
-        if (count <= 0)
-            return false;
-        done += count;
+public:
+    MemberDevice(unzFile reader, qint64 size) : m_reader(reader), m_left(size)
+    {
+        open(QIODevice::ReadOnly | QIODevice::Unbuffered);
     }
-    return true;
-}
+    [[nodiscard]] bool isSequential() const override { return true; }
+    [[nodiscard]] qint64 bytesAvailable() const override { return m_left; }
+
+protected:
+    qint64 readData(char *to, qint64 size) override
+    {
+        qint64 done = 0;
+        for (const qint64 wanted = std::min(size, m_left); m_intact && done < wanted;) {
+            const int count = unzReadCurrentFile(m_reader, to + done, unsigned(std::min(wanted - done, SliceSize)));
+            m_intact = count > 0;
+            done += std::max(count, 0);
+        }
+        m_left -= done;
+        if (m_intact && m_left == 0 && done > 0)
+            m_intact = unzCloseCurrentFile(m_reader) == UNZ_OK; // compares the checksum
+        return m_intact ? done : -1;
+    }
+    qint64 writeData(const char *, qint64) override { return -1; }
+
+private:
+    unzFile m_reader;
+    qint64 m_left; ///< bytes that were not read yet
+    bool m_intact = true;
+};
 
 bool pack(zipFile writer, const QByteArray &bytes)
 {
@@ -142,22 +163,28 @@ bool ZipFile::contains(const QString &memberName) const
 
 QByteArray ZipFile::read(const QString &memberName) const
 {
-    if (!m_archive)
+    const std::unique_ptr<QIODevice> member = open(memberName);
+    if (!member)
         return {};
+    QByteArray bytes(member->bytesAvailable(), Qt::Uninitialized);
+    return member->read(bytes.data(), bytes.size()) == bytes.size() ? bytes : QByteArray();
+}
+
+std::unique_ptr<QIODevice> ZipFile::open(const QString &memberName) const
+{
+    if (!m_archive)
+        return nullptr;
     const unzFile reader = m_archive->reader;
     const auto member = m_archive->members.constFind(memberName.toLocal8Bit());
     if (member == m_archive->members.cend())
-        return {};
+        return nullptr;
     unz_file_info64 info{};
     if (unzGoToFilePos64(reader, &*member) != UNZ_OK
         || unzGetCurrentFileInfo64(reader, &info, nullptr, 0, nullptr, 0, nullptr, 0) != UNZ_OK
         || info.compressed_size > quint64(m_archive->fileSize) || !hasPlausibleSize(info)
-        || unzOpenCurrentFile(reader) != UNZ_OK)
-        return {};
-    QByteArray bytes(qsizetype(info.uncompressed_size), Qt::Uninitialized);
-    const bool unpacked = unpack(reader, bytes);
-    const bool intact = unzCloseCurrentFile(reader) == UNZ_OK; // compares the checksum
-    return unpacked && intact ? bytes : QByteArray();
+        || unzOpenCurrentFile(reader) != UNZ_OK) // which closes the one before
+        return nullptr;
+    return std::make_unique<MemberDevice>(reader, qint64(info.uncompressed_size));
 }
 
 bool ZipFile::write(const QString &memberName, const QByteArray &bytes)

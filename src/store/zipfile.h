@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QIODevice>
 #include <QObject>
 #include <QString>
 
@@ -36,6 +37,12 @@ public:
     /// The unpacked bytes of a member; empty when there is no such member, when it is damaged, or
     /// when it claims to be larger than MaxMemberSize or than its packed bytes can yield.
     [[nodiscard]] QByteArray read(const QString &memberName) const;
+
+    /// Opens a member for reading from its start, as far as somebody asks; null where read() would refuse it by its
+    /// claims. The last bytes are handed out only when the whole is undamaged, and reading fails for ever otherwise;
+    /// bytesAvailable() is what the member claims to have. There is one such device at a time: another member that is
+    /// read ends it, and so does closing.
+    [[nodiscard]] std::unique_ptr<QIODevice> open(const QString &memberName) const;
 
     /// Adds a member to an archive open for writing; false when it could not be written whole.
     [[nodiscard]] bool write(const QString &memberName, const QByteArray &bytes);
