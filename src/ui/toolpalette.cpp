@@ -8,12 +8,21 @@
 #include <QGridLayout>
 #include <QToolButton>
 
+#include <algorithm>
+
 using Quenmora::Ui::ToolButton;
 
 namespace {
 
 constexpr int IconExtent = 24; // the size that the pictures are drawn on: whole pixels, crisp lines
-constexpr int Columns = 2; // of a vertical palette
+constexpr int UsualColumns = 2; // of a vertical palette
+constexpr int LeastRows = 5;
+constexpr int StretchedRow = 100; // behind all buttons
+
+int rowsOf(qsizetype count, int columns)
+{
+    return int((count + columns - 1) / columns);
+}
 
 } // namespace
 
@@ -21,11 +30,14 @@ ToolPalette::ToolPalette(Qt::Orientation orientation, QWidget *parent)
     : QWidget(parent)
     , m_orientation(orientation)
     , m_tools(new QActionGroup(this))
+    , m_columns(UsualColumns)
 {
     QLayout *layout = nullptr;
     if (orientation == Qt::Vertical) {
-        layout = new QGridLayout(this);
-        layout->setSizeConstraint(QLayout::SetFixedSize);
+        auto *grid = new QGridLayout(this);
+        grid->setRowStretch(StretchedRow, 1);
+        setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+        layout = grid;
     } else {
         layout = new FlowLayout(this);
     }
@@ -142,7 +154,8 @@ QAction *ToolPalette::addEntry(const Entry &entry)
     button->setAccessibleName(entry.text);
     button->setIconSize({IconExtent, IconExtent});
     button->setAutoRaise(true);
-    place(button);
+    m_buttons.append(button);
+    place(int(m_buttons.size()) - 1);
     return added;
 }
 
@@ -189,12 +202,48 @@ void ToolPalette::setShowGridChecked(bool checked)
     }
 }
 
-void ToolPalette::place(QToolButton *button)
+// Layout
+
+void ToolPalette::place(int index)
 {
-    if (m_orientation == Qt::Horizontal) {
-        layout()->addWidget(button);
+    if (m_orientation == Qt::Horizontal)
+        layout()->addWidget(m_buttons.at(index));
+    else
+        static_cast<QGridLayout *>(layout())->addWidget(m_buttons.at(index), index / m_columns, index % m_columns);
+}
+
+QSize ToolPalette::sizeOfRows(int rows) const
+{
+    const QSize button = m_buttons.isEmpty() ? QSize() : m_buttons.first()->sizeHint();
+    const QSize pitch = button + QSize(layout()->spacing(), layout()->spacing());
+    const QSize cells(m_columns * pitch.width(), rows * pitch.height());
+    return (cells - (pitch - button)).grownBy(layout()->contentsMargins());
+}
+
+QSize ToolPalette::sizeHint() const
+{
+    return m_orientation == Qt::Vertical ? sizeOfRows(rowsOf(m_buttons.size(), UsualColumns)) : QWidget::sizeHint();
+}
+
+QSize ToolPalette::minimumSizeHint() const
+{
+    return m_orientation == Qt::Vertical ? sizeOfRows(std::min(LeastRows, rowsOf(m_buttons.size(), UsualColumns)))
+                                         : QWidget::minimumSizeHint();
+}
+
+void ToolPalette::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    if (m_orientation == Qt::Horizontal || m_buttons.isEmpty())
         return;
-    }
-    const int index = static_cast<int>(m_actions.size()) - 1;
-    static_cast<QGridLayout *>(layout())->addWidget(button, index / Columns, index % Columns);
+    int rows = LeastRows;
+    while (rows < m_buttons.size() && sizeOfRows(rows + 1).height() <= height())
+        ++rows;
+    const int columns = std::max(UsualColumns, rowsOf(m_buttons.size(), rows));
+    if (columns == m_columns)
+        return;
+    m_columns = columns;
+    for (int index = 0; index < m_buttons.size(); ++index)
+        place(index);
+    updateGeometry(); // it is wider now, or narrower
 }

@@ -36,7 +36,8 @@ public:
         QList<QKeySequence> shortcuts; ///< the first is named in the tool tip
     };
 
-    /// A vertical palette has two columns; a horizontal one fills rows of the width it is given.
+    /// A vertical palette has two columns, and more where it is low; a horizontal one fills rows of the width it is
+    /// given.
     explicit ToolPalette(Qt::Orientation orientation = Qt::Vertical, QWidget *parent = nullptr);
 
     /// The usual icon, text and kind of a button, without shortcuts.
@@ -51,6 +52,9 @@ public:
 
     /// The exclusive tool that is chosen, _end_toggles when none is.
     [[nodiscard]] Quenmora::Ui::ToolButton mode() const;
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
 
 public slots:
     /// Checks the action of mode when it is an exclusive tool; emits nothing.
@@ -72,10 +76,17 @@ signals:
     /// the state after the click, false for a button that has none.
     void actionActivated(Quenmora::Ui::ToolButton action, bool checked);
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
-    void place(QToolButton *button);
+    /// The size of a vertical palette with so many rows in its present columns.
+    [[nodiscard]] QSize sizeOfRows(int rows) const;
+    void place(int index);
 
     Qt::Orientation m_orientation;
     QActionGroup *m_tools;
     QHash<Quenmora::Ui::ToolButton, QAction *> m_actions;
+    QList<QToolButton *> m_buttons;
+    int m_columns;
 };

@@ -46,6 +46,21 @@ private slots:
             QVERIFY(!button->icon().isNull() && !button->toolTip().isEmpty() && !button->accessibleName().isEmpty());
     }
 
+    void fitsIntoLittleHeight()
+    {
+        ToolPalette palette;
+        for (int value = Draw; value < _end_toggles; ++value)
+            palette.addEntry(ToolButton(value));
+        for (const int height : {palette.sizeHint().height(), palette.minimumSizeHint().height(), 1000}) {
+            palette.resize(palette.minimumSizeHint().width(), height);
+            palette.resize(palette.minimumSizeHint().width(), height); // as a layout does
+            palette.show();
+            for (const QToolButton *button : palette.findChildren<QToolButton *>())
+                QVERIFY(palette.rect().contains(button->geometry()));
+        }
+        QVERIFY(palette.minimumSizeHint().width() < palette.minimumSizeHint().height()); // two columns again
+    }
+
     void announcesWhatIsDone()
     {
         Fixture f;
