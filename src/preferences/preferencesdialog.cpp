@@ -65,7 +65,12 @@ void PreferencesDialog::fromJson(const QJsonDocument &document)
 
 void PreferencesDialog::reject()
 {
+    // what an update check noted meanwhile was not set here
+    const QString lastUpdateCheck = m_generalPage->lastUpdateCheck();
+    const QString skippedVersion = m_generalPage->skippedVersion();
     fromJson(std::exchange(m_snapshot, {}));
+    m_generalPage->setLastUpdateCheck(lastUpdateCheck);
+    m_generalPage->setSkippedVersion(skippedVersion);
     QDialog::reject();
 }
 

@@ -14,7 +14,8 @@ class QStackedWidget;
 /// The user's settings, gathered on pages.
 ///
 /// The pages' widgets are the settings and take effect at once; rejecting the dialog puts back what
-/// they held when it was shown. Reading and writing the preferences file is the owner's part.
+/// they held when it was shown, but for what update checks noted meanwhile. Reading and writing the preferences file is
+/// the owner's part.
 class PreferencesDialog final : public QDialog
 {
     Q_OBJECT

@@ -70,8 +70,16 @@ private slots:
             dialog.fromJson(Changed);
             reject();
             QVERIFY(!dialog.isVisible());
+            dialog.generalPage()->setLastUpdateCheck({});
+            dialog.generalPage()->setSkippedVersion({});
             QCOMPARE(dialog.toJson(), Defaults);
         }
+        dialog.show();
+        dialog.generalPage()->setLastUpdateCheck("2026-11-03"); // by a check that ends now
+        dialog.generalPage()->setSkippedVersion("0.8.0.0");
+        dialog.reject();
+        QCOMPARE(dialog.generalPage()->lastUpdateCheck(), "2026-11-03");
+        QCOMPARE(dialog.generalPage()->skippedVersion(), "0.8.0.0");
         dialog.show();
         dialog.fromJson(Changed);
         buttons->button(QDialogButtonBox::Save)->click();
