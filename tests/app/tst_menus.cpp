@@ -227,6 +227,16 @@ private slots:
         entry(&menu, "Open")->trigger();
         QCOMPARE(opened, QList<QVariantList>({{folder.filePath("sub/game.quenmora")}}));
         QCOMPARE(menu.openFolder(), folder.filePath("sub"));
+
+        QString asked; // where to start without a remembered folder, or one that is there
+        menu.setFileChooser([&](const FileRequest &request, QWidget *) { return (asked = request.folder, QString()); });
+        for (const QString &remembered : {QString(""), folder.filePath("gone"), QString("~")}) {
+            menu.setOpenFolder(remembered);
+            menu.showOpenDialog();
+            QCOMPARE(asked, QDir::currentPath());
+        }
+        menu.setOpenFolder("");
+        QCOMPARE(menu.openFolder(), QDir::currentPath());
     }
 
     void exportsTheActiveAsset_data()

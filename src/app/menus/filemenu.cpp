@@ -54,11 +54,12 @@ void FileMenu::showNewDialog()
 
 void FileMenu::showOpenDialog()
 {
+    const QString folder = m_openFolder.exists() ? openFolder() : QDir::currentPath(); // one that is gone says nothing
     const QString file = chooseFile({.title = tr("Open project"),
                                      .nameFilters = {tr("Project file (*.quenmora)")},
                                      .acceptMode = QFileDialog::AcceptOpen,
                                      .defaultSuffix = QStringLiteral("quenmora"),
-                                     .folder = openFolder()});
+                                     .folder = folder});
     if (file.isEmpty())
         return;
     m_openFolder = QFileInfo(file).absoluteDir();

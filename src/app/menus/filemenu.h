@@ -38,7 +38,7 @@ public:
     /// The absolute path of the folder in which "Open" starts to look.
     [[nodiscard]] QString openFolder() const { return m_openFolder.absolutePath(); }
     /// Remembers a folder; an empty path is the current working folder.
-    void setOpenFolder(const QString &path) { m_openFolder.setPath(path); }
+    void setOpenFolder(const QString &path) { m_openFolder = QDir(path); }
 
 public slots:
     void showNewDialog();
