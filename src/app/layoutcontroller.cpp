@@ -1,6 +1,7 @@
 #include "app/layoutcontroller.h"
 
 #include "app/appstate.h"
+#include "app/docktabs.h"
 #include "app/menus/viewmenu.h"
 #include "app/projecttree/projectwindow.h"
 #include "editors/canvas/spritewindow.h"
@@ -25,7 +26,7 @@ constexpr int StateVersion = 0;
 
 // The sizes of a new window's docks, in pixels; a dock that needs more gets it
 constexpr int SideWidth = 215;
-constexpr int EditorWidth = 310;
+constexpr int EditorWidth = 320;
 constexpr int PickerHeight = 150;
 
 /// Gives the keyboard to the first widget in a pane that takes it.
@@ -47,6 +48,7 @@ LayoutController::LayoutController(QMainWindow *window, const DocumentViews &vie
     : QObject(window)
     , m_window(window)
     , m_views(views)
+    , m_sizes(new DockSizes(window, docks()))
 {
     QList<QAction *> actions;
     for (const DockWidget *dock : docks())
@@ -54,6 +56,14 @@ LayoutController::LayoutController(QMainWindow *window, const DocumentViews &vie
     viewMenu->setDockActions(actions);
     connect(viewMenu, &ViewMenu::resetLayout, this, &LayoutController::resetLayout);
     addPaneKeys();
+    // those that are titled with the name of what they edit
+    const auto mark = [](DockWidget *dock, ProjectTree::ProjectNode node) {
+        dock->setWindowIcon(ProjectTree::nodeIcon(node));
+        return dock;
+    };
+    new DockTabs(window,
+                 {mark(m_views.palette, ProjectTree::PaletteNode), mark(m_views.tileEditor, ProjectTree::TileSetNode),
+                  mark(m_views.spriteEditor, ProjectTree::SpriteBankNode)});
 }
 
 void LayoutController::addPaneKeys()
@@ -119,6 +129,10 @@ void LayoutController::resetLayout()
     m_window->resizeDocks({m_views.project, m_views.palette}, {SideWidth, EditorWidth}, Qt::Horizontal);
     m_window->resizeDocks({m_views.tilePicker}, {PickerHeight}, Qt::Vertical);
     m_window->resizeDocks({m_views.project, m_views.mapObjects}, {3, 2}, Qt::Vertical); // of the height that there is
+    for (DockWidget *dock : docks()) {
+        const bool isEditor = m_window->dockWidgetArea(dock) == Qt::RightDockWidgetArea;
+        m_sizes->want(dock, {isEditor ? EditorWidth : SideWidth, PickerHeight});
+    }
     m_views.mapObjects->raise();
     m_views.palette->raise();
 }
@@ -139,6 +153,7 @@ void LayoutController::saveLayout(AppState &state) const
 
 void LayoutController::restoreLayout(const AppState &state)
 {
-    m_window->restoreState(state.windowState(), StateVersion);
+    if (m_window->restoreState(state.windowState(), StateVersion))
+        m_sizes->keep();
     m_window->restoreGeometry(state.windowGeometry());
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/docksizes.h"
 #include "app/documentviews.h"
 
 #include <QList>
@@ -40,4 +41,5 @@ private:
 
     QMainWindow *m_window;
     DocumentViews m_views;
+    DockSizes *m_sizes;
 };
