@@ -254,14 +254,35 @@ QPointer<Map> Project::cloneMap(const QUuid &id)
 
 // Deleting
 
-bool Project::deletePalette(const QUuid &id)
+bool Project::usesPalette(const QUuid &id) const
 {
     const QPointer<Palette> palette = this->palette(id);
     const auto bound = [&palette](const auto &assets) {
         return std::any_of(assets.begin(), assets.end(),
                            [&palette](const auto &asset) { return asset->palette() == palette; });
     };
-    if (palette && (bound(tileSets()) || bound(spriteBanks()) || bound(images()) || id == m_scratchPaletteId))
+    return palette && (bound(tileSets()) || bound(spriteBanks()) || bound(images()) || id == m_scratchPaletteId);
+}
+
+bool Project::usesTileSet(const QUuid &id) const
+{
+    const QPointer<TileSet> tileSet = this->tileSet(id);
+    const QList<QPointer<Map>> maps = this->maps();
+    return tileSet && std::any_of(maps.begin(), maps.end(), [&](const auto &map) { return map->tileSet() == tileSet; });
+}
+
+bool Project::usesBlocks(const QUuid &id) const
+{
+    const QPointer<MapObjects> blocks = this->blocks(id);
+    const QList<QPointer<Map>> maps = this->maps();
+    return blocks && std::any_of(maps.begin(), maps.end(), [&](const auto &map) {
+               return map->tileSet() && map->tileSet()->blockSets().value(id) == blocks;
+           });
+}
+
+bool Project::deletePalette(const QUuid &id)
+{
+    if (usesPalette(id))
         return false;
     delete m_palettes.take(id).data();
     return true;
@@ -269,22 +290,16 @@ bool Project::deletePalette(const QUuid &id)
 
 bool Project::deleteTileSet(const QUuid &id)
 {
-    const QPointer<TileSet> tileSet = this->tileSet(id);
-    for (const QPointer<Map> &map : maps()) {
-        if (tileSet && map->tileSet() == tileSet)
-            return false;
-    }
+    if (usesTileSet(id))
+        return false;
     delete m_tileSets.take(id).data();
     return true;
 }
 
 bool Project::deleteBlocks(const QUuid &id)
 {
-    const QPointer<MapObjects> blocks = this->blocks(id);
-    for (const QPointer<Map> &map : maps()) {
-        if (blocks && map->tileSet() && map->tileSet()->blockSets().value(id) == blocks)
-            return false;
-    }
+    if (usesBlocks(id))
+        return false;
     delete m_blockSets.take(id).data();
     return true;
 }

@@ -143,6 +143,11 @@ public slots:
 
     [[nodiscard]] QStringList paletteNames() const;
 
+    // Whether another asset, or the scratch image, needs this one, which therefore may not be deleted.
+    [[nodiscard]] bool usesPalette(const QUuid &id) const;
+    [[nodiscard]] bool usesTileSet(const QUuid &id) const;
+    [[nodiscard]] bool usesBlocks(const QUuid &id) const;
+
     // Copies are named like their source followed by " (copy)"; null for an unknown id.
 
     /// Copies the tile layer; the object layer, placed sprites and view settings start afresh.

@@ -2,10 +2,9 @@
 
 #include "editors/animation/editorwidget.h"
 #include "editors/common/animationlistwidget.h"
+#include "ui/question.h"
 #include "ui/sectionheader.h"
-#include "ui/titlewidth.h"
 
-#include <QMessageBox>
 #include <QScopedValueRollback>
 
 namespace AnimationEditor {
@@ -138,15 +137,7 @@ bool AnimationView::confirmsDeletion()
     const QString text = tr("Are you sure you want to remove this animation?");
     if (const Question question = m_question)
         return question(title, text);
-    // not on the stack: it goes with the view
-    const QPointer<QMessageBox> box =
-        new QMessageBox(QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No, this);
-    box->setDefaultButton(QMessageBox::No); // there is no way back
-    widenForTitle(*box);
-    const bool confirmed = box->exec() == QMessageBox::Yes;
-    if (box)
-        box->deleteLater();
-    return confirmed;
+    return askYesOrNo(this, title, text);
 }
 
 } // namespace AnimationEditor
