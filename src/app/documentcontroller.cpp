@@ -11,6 +11,7 @@
 #include "app/projecttree/projectwindow.h"
 #include "editors/animation/blockeditorview.h"
 #include "editors/animation/spriteeditorview.h"
+#include "editors/canvas/canvas.h"
 #include "editors/canvas/imageeditorview.h"
 #include "editors/canvas/spritewindow.h"
 #include "editors/canvas/tilepickertool.h"
@@ -24,7 +25,10 @@
 #include "preferences/mapeditorpage.h"
 #include "preferences/preferencesdialog.h"
 
+#include <QLayout>
 #include <QScopedValueRollback>
+
+#include <algorithm>
 
 namespace {
 
@@ -40,6 +44,16 @@ MapEditor::Preferences preferencesOf(const MapEditorPage &page)
     return preferences;
 }
 
+/// Shows a dock in front, also one that was closed.
+void bringUp(QDockWidget *dock)
+{
+    dock->show();
+    if (QLayout *layout = dock->parentWidget() ? dock->parentWidget()->layout() : nullptr)
+        layout->activate(); // or it had no tab yet to be raised by
+    dock->lower(); // what was raised last is not raised again, although it was closed since
+    dock->raise();
+}
+
 } // namespace
 
 DocumentController::DocumentController(const DocumentViews &views, ProjectController *projectController,
@@ -48,6 +62,7 @@ DocumentController::DocumentController(const DocumentViews &views, ProjectContro
     , m_views(views)
     , m_projectController(projectController)
     , m_focus(views, m_stacks.group(), [this](const QUuid &id) { return undoStackFor(id); })
+    , m_keyboardReturn(views)
 {
     const auto stackFor = [this](const QUuid &id) { return undoStackFor(id); };
     m_views.tileEditor->setUndoStackProvider(stackFor);
@@ -63,8 +78,10 @@ void DocumentController::connectTabs()
     // a tab that the user brought to the front
     const auto follow = [this](auto activated, auto activate) {
         connect(m_views.tabs, activated, this, [this, activate](auto... id) {
-            if (!m_activating)
-                (this->*activate)(id...);
+            if (m_activating)
+                return;
+            const QScopedValueRollback following(m_following, true);
+            (this->*activate)(id...);
         });
     };
     follow(&DocumentTabView::MapEditorActivated, &DocumentController::setActiveMap);
@@ -84,20 +101,24 @@ void DocumentController::connectTabs()
 
 void DocumentController::connectDocks()
 {
-    connect(m_views.project, &ProjectWindow::selectedPaletteChanged, this, &DocumentController::setActivePalette);
-    connect(m_views.project, &ProjectWindow::selectedTileSetChanged, this, &DocumentController::setActiveTileSet);
+    connect(m_views.project, &ProjectWindow::selectedPaletteChanged, this, &DocumentController::openPalette);
+    connect(m_views.project, &ProjectWindow::selectedTileSetChanged, this, &DocumentController::openTileSet);
     connect(m_views.project, &ProjectWindow::selectedBlocksChanged, this, &DocumentController::setActiveBlockEditor);
-    connect(m_views.project, &ProjectWindow::selectedSpritesChanged, this, &DocumentController::setActiveSpriteEditor);
+    connect(m_views.project, &ProjectWindow::selectedSpritesChanged, this, &DocumentController::openSprites);
     connect(m_views.project, &ProjectWindow::selectedMapChanged, this, &DocumentController::setActiveMap);
     connect(m_views.project, &ProjectWindow::selectedImageChanged, this, &DocumentController::setActiveImageEditor);
     connect(m_views.project, &ProjectWindow::itemRenamed, m_views.tabs, &DocumentTabView::renameDocument);
     connect(m_views.project, &ProjectWindow::itemRenamed, m_views.mapSprites, &MapSpritesWindow::refreshBanks);
     connect(m_views.project, &ProjectWindow::itemRenamed, m_views.spriteEditor, &SpriteWindow::refresh);
-    // they have no tab, so a dock that was closed opens again for them
-    connect(m_views.project, &ProjectWindow::selectedPaletteChanged, m_views.palette, &QWidget::show);
-    connect(m_views.project, &ProjectWindow::selectedTileSetChanged, m_views.tileEditor, &QWidget::show);
     connect(m_views.palette, &PaletteWindow::paletteChosen, this, &DocumentController::choosePalette);
     connect(m_views.tilePicker, &TilePickerTool::tileDoubleClicked, this, &DocumentController::editTile);
+    // another tile set or bank may be shown while the dock has the keyboard
+    connect(m_views.tileEditor, &TileWindow::activeStateChanged, &m_focus, &EditFocus::refresh);
+    for (DockWidget *dock :
+         std::initializer_list<DockWidget *>{m_views.tileEditor, m_views.spriteEditor, m_views.palette}) {
+        connect(dock, &DockWidget::activeChanged, &m_focus, &EditFocus::refresh);
+        connect(dock, &QDockWidget::visibilityChanged, &m_focus, &EditFocus::refresh);
+    }
 }
 
 Project *DocumentController::project() const
@@ -168,6 +189,19 @@ void DocumentController::setScratchPalette(const QPointer<Palette> &palette)
     m_views.tabs->scratchEditor()->setPalette(palette);
 }
 
+bool DocumentController::freeScratchPalette(const QUuid &id)
+{
+    const QImage image = project() ? project()->scratchImage() : QImage();
+    const bool isBlank =
+        std::all_of(image.constBits(), image.constBits() + image.sizeInBytes(), [](uchar index) { return index == 0; });
+    if (image.isNull() || !isBlank || id.isNull() || project()->scratchPaletteId() != id)
+        return false;
+    const QList<QPointer<Palette>> palettes = project()->palettes();
+    const auto other = std::ranges::find_if(palettes, [&id](const auto &palette) { return palette->id() != id; });
+    setScratchPalette(other == palettes.end() ? nullptr : *other);
+    return true;
+}
+
 void DocumentController::closeProject()
 {
     disconnectMapEditor();
@@ -177,6 +211,7 @@ void DocumentController::closeProject()
     scratch->setPalette(nullptr);
     m_recorder.reset();
     m_stacks.clear();
+    m_editedSprites.clear();
 }
 
 QUndoStack *DocumentController::undoStackFor(const QUuid &id)
@@ -195,14 +230,17 @@ QUndoStack *DocumentController::recordingStackFor(const QUuid &id)
 bool DocumentController::showTab(const QUuid &id)
 {
     const int tab = m_views.tabs->indexOfDocument(id);
-    if (tab >= 0)
+    if (tab >= 0) {
         m_views.tabs->setCurrentIndex(tab);
+        if (!m_following)
+            m_views.tabs->focusPage(); // also when it was in front
+    }
     return tab >= 0;
 }
 
 void DocumentController::closeWith(QObject *asset, QWidget *page)
 {
-    connect(asset, &QObject::destroyed, page, [tabs = m_views.tabs, page] { tabs->closeTab(tabs->indexOf(page)); });
+    connect(asset, &QObject::destroyed, page, [tabs = m_views.tabs, page] { tabs->closeDeleted(page); });
 }
 
 void DocumentController::showPalette(const QPointer<Palette> &palette)
@@ -211,6 +249,7 @@ void DocumentController::showPalette(const QPointer<Palette> &palette)
         return;
     m_views.palette->setPalette(palette);
     m_views.menuBar->paletteMenu()->setPalette(palette);
+    m_focus.refresh();
 }
 
 void DocumentController::setActivePalette(QUuid paletteId)
@@ -243,13 +282,13 @@ void DocumentController::showTileSet(const QPointer<TileSet> &tileSet)
 void DocumentController::editTile(int number)
 {
     m_views.tileEditor->setTileIndex(number);
-    m_views.tileEditor->raise();
+    bringUp(m_views.tileEditor);
 }
 
 void DocumentController::editSprite(int index)
 {
     m_views.spriteEditor->changeSprite(index);
-    m_views.spriteEditor->raise();
+    bringUp(m_views.spriteEditor);
 }
 
 void DocumentController::setActiveTileSet(QUuid tileSetId)
@@ -263,6 +302,29 @@ void DocumentController::setActiveTileSet(QUuid tileSetId)
     m_views.tileEditor->setPalette(tileSet->palette());
     m_views.tileEditor->raise();
     showPalette(tileSet->palette());
+}
+
+void DocumentController::openPalette(const QUuid &id)
+{
+    setActivePalette(id);
+    if (asset(id))
+        bringUp(m_views.palette);
+}
+
+void DocumentController::openTileSet(const QUuid &id)
+{
+    setActiveTileSet(id);
+    if (!asset(id))
+        return;
+    bringUp(m_views.tileEditor);
+    m_views.tileEditor->canvas()->setFocus(Qt::OtherFocusReason); // it has no page that could have the keyboard
+}
+
+void DocumentController::openSprites(const QUuid &id)
+{
+    setActiveSpriteEditor(id);
+    if (asset(id))
+        bringUp(m_views.spriteEditor);
 }
 
 void DocumentController::openMap(const QPointer<Map> &map)
@@ -328,7 +390,15 @@ void DocumentController::offerSpriteBanks()
 
 void DocumentController::showSprites(const QPointer<SpriteBank> &bank)
 {
-    m_views.spriteEditor->setSprites(bank);
+    SpriteWindow *editor = m_views.spriteEditor;
+    if (const SpriteBank *before = editor->sprites())
+        m_editedSprites[before->id()] = editor->spriteIndex();
+    if (bank != editor->sprites()) {
+        editor->setSprites(bank);
+        if (bank)
+            editor->changeSprite(m_editedSprites.value(bank->id()));
+    }
+    m_focus.refresh();
     if (bank)
         m_views.mapSprites->showBank(bank->id());
     m_views.menuBar->spriteMenu()->setSpriteBank(bank);

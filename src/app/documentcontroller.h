@@ -2,12 +2,14 @@
 
 #include "app/documentviews.h"
 #include "app/editfocus.h"
+#include "app/keyboardreturn.h"
 #include "app/projecttree/projecttree.h"
 #include "app/undostacks.h"
 #include "model/palette.h"
 #include "model/project.h"
 #include "undo/editrecorder.h"
 
+#include <QHash>
 #include <QList>
 #include <QObject>
 #include <QPointer>
@@ -56,6 +58,17 @@ public slots:
     void setActiveImageEditor(QUuid imageId);
     void scratchEditorActivated();
 
+    // What is opened is seen: these bring up its dock, even when it was closed, besides activating the asset.
+    void openPalette(const QUuid &id);
+    void openTileSet(const QUuid &id);
+    void openSprites(const QUuid &id);
+
+    /// Gives the scratch image another palette than that of an id, if nothing was drawn on it; false when it does not
+    /// have that one, or needs it.
+    bool freeScratchPalette(const QUuid &id);
+    /// Draws the scratch image with a palette from now on.
+    void setScratchPalette(const QPointer<Palette> &palette);
+
     /// Clears the docks and menus of an asset's kind, whichever they show: this one has been deleted.
     void forget(ProjectTree::ProjectNode node, const QUuid &id);
 
@@ -75,8 +88,6 @@ private:
     [[nodiscard]] QObject *asset(const QUuid &id) const;
 
     void openScratchImage();
-    /// Draws the scratch image with a palette from now on.
-    void setScratchPalette(const QPointer<Palette> &palette);
     void choosePalette(const QUuid &id);
     void openMap(const QPointer<Map> &map);
     void connectMapEditor(MapEditor::View *editor);
@@ -99,9 +110,14 @@ private:
     ProjectController *m_projectController;
     UndoStacks m_stacks;
     EditFocus m_focus;
+    KeyboardReturn m_keyboardReturn;
     std::unique_ptr<EditRecorder> m_recorder;
     /// Of the active map editor to the docks that serve it.
     QList<QMetaObject::Connection> m_mapConnections;
+    /// By bank, the sprite that was edited last.
+    QHash<QUuid, int> m_editedSprites;
     /// The front tab changes because an asset is being activated, which needs no further activation.
     bool m_activating = false;
+    /// An asset is being activated because its tab came to the front, which has seen to the keyboard.
+    bool m_following = false;
 };

@@ -1,5 +1,6 @@
 #include "app/documenttabview.h"
 
+#include "app/projecttree/projecttree.h"
 #include "editors/animation/blockeditorview.h"
 #include "editors/animation/spriteeditorview.h"
 #include "editors/canvas/imageeditorview.h"
@@ -7,6 +8,7 @@
 #include "model/image.h"
 #include "ui/svgiconengine.h"
 
+#include <QKeyEvent>
 #include <QMenu>
 #include <QScopedValueRollback>
 #include <QShortcut>
@@ -23,6 +25,23 @@ constexpr const char *TypeProperty = "document_type";
 QString tabTextOf(const QString &name)
 {
     return QString(name).replace(u'&', QStringLiteral("&&"));
+}
+
+/// Documents of one name differ by it.
+QIcon iconOf(DocumentTabView::DocumentType type)
+{
+    switch (type) {
+    case DocumentTabView::MapDocument:
+        return ProjectTree::nodeIcon(ProjectTree::MapNode);
+    case DocumentTabView::ScratchDocument:
+    case DocumentTabView::ImageDocument:
+        return ProjectTree::nodeIcon(ProjectTree::ImageNode);
+    case DocumentTabView::SpriteDocument:
+        return ProjectTree::nodeIcon(ProjectTree::SpriteBankNode);
+    case DocumentTabView::BlocksDocument:
+        return ProjectTree::nodeIcon(ProjectTree::MapObjectsNode);
+    }
+    return {};
 }
 
 /// A tab bar that scrolls rather than squeezing tabs until nothing of their texts is left.
@@ -46,7 +65,8 @@ DocumentTabView::DocumentTabView(QWidget *parent) : QTabWidget(parent), m_scratc
     m_scratchEditor->setProperty(TypeProperty, int(ScratchDocument));
     m_scratchEditor->hide();
     buildTabBar();
-    connect(this, &QTabWidget::tabCloseRequested, this, &DocumentTabView::closeTab);
+    connect(this, &QTabWidget::tabCloseRequested, this, [this](int index) { closePages({widget(index)}); });
+    connect(this, &QTabWidget::tabBarClicked, this, &DocumentTabView::focusPage);
     connect(this, &QTabWidget::currentChanged, this, &DocumentTabView::currentIndexChanged);
 }
 
@@ -63,7 +83,7 @@ void DocumentTabView::buildTabBar()
     tabBar()->setAccessibleName(tr("Open documents"));
     connect(tabBar(), &QWidget::customContextMenuRequested, this, &DocumentTabView::showTabMenu);
     auto *close = new QShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_W), this);
-    connect(close, &QShortcut::activated, this, [this] { closeTab(currentIndex()); });
+    connect(close, &QShortcut::activated, this, [this] { closePages({currentWidget()}); });
 }
 
 void DocumentTabView::showTabMenu(const QPoint &pos)
@@ -76,14 +96,16 @@ void DocumentTabView::showTabMenu(const QPoint &pos)
     menu->setAttribute(Qt::WA_DeleteOnClose);
     QAction *close = menu->addAction(themedIcon(QStringLiteral(":/Clear")), tr("&Close Tab"));
     close->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_W);
-    connect(close, &QAction::triggered, this, [this, page] { closeTab(indexOf(page)); });
+    connect(close, &QAction::triggered, this, [this, page] { closePages({page}); });
     QAction *others = menu->addAction(tr("Close &Other Tabs"));
     others->setEnabled(count() > 1);
     connect(others, &QAction::triggered, this, [this, page] {
+        QList<QPointer<QWidget>> pages;
         for (int index = count() - 1; index >= 0; --index) {
             if (widget(index) != page)
-                closeTab(index);
+                pages.append(widget(index));
         }
+        closePages(pages);
     });
     menu->popup(tabBar()->mapToGlobal(pos));
 }
@@ -140,7 +162,7 @@ void DocumentTabView::open(QWidget *page, DocumentType type, const QUuid &id, co
     // before it becomes current and is announced
     page->setProperty(IdProperty, id);
     page->setProperty(TypeProperty, int(type));
-    setCurrentIndex(addTab(page, tabTextOf(name)));
+    setCurrentIndex(addTab(page, iconOf(type), tabTextOf(name)));
 }
 
 MapEditor::View *DocumentTabView::openMapEditor(const QPointer<Map> &map)
@@ -180,6 +202,20 @@ void DocumentTabView::closeTab(int index)
         setScratchEditorVisible(false);
     else
         delete page;
+}
+
+void DocumentTabView::closePages(const QList<QPointer<QWidget>> &pages)
+{
+    for (const QPointer<QWidget> &page : pages)
+        closeTab(indexOf(page));
+    focusPage();
+}
+
+void DocumentTabView::closeDeleted(const QWidget *page)
+{
+    const QWidget *focus = window()->focusWidget();
+    const QScopedValueRollback leaving(m_leavesKeyboard, focus && !isAncestorOf(focus));
+    closeTab(indexOf(page));
 }
 
 void DocumentTabView::closeAllTabs()
@@ -223,13 +259,31 @@ QList<MapEditor::View *> DocumentTabView::mapEditors() const
     return editors;
 }
 
+void DocumentTabView::focusPage()
+{
+    QWidget *page = currentWidget();
+    if (page && !page->isAncestorOf(window()->focusWidget()))
+        page->setFocus(Qt::OtherFocusReason);
+}
+
+void DocumentTabView::keyPressEvent(QKeyEvent *event)
+{
+    const QWidget *before = currentWidget();
+    QTabWidget::keyPressEvent(event);
+    if (currentWidget() != before) // by Ctrl+Tab
+        focusPage();
+}
+
 void DocumentTabView::currentIndexChanged(int index)
 {
-    const QWidget *page = widget(index);
+    QWidget *page = widget(index);
     bool isNumber = false;
     const int type = page ? page->property(TypeProperty).toInt(&isNumber) : 0;
     if (!isNumber || m_closingAll)
         return;
+    // who goes from tab to tab on the bar stays there
+    if (!m_leavesKeyboard && !tabBar()->hasFocus())
+        page->setFocus(Qt::OtherFocusReason);
     const QUuid id = documentId(page);
     switch (type) {
     case MapDocument:
@@ -256,7 +310,8 @@ void DocumentTabView::setScratchEditorVisible(bool visible)
 {
     const int index = indexOf(m_scratchEditor);
     if (visible) {
-        setCurrentIndex(index >= 0 ? index : addTab(m_scratchEditor, tr("Scratch Image Editor")));
+        setCurrentIndex(index >= 0 ? index
+                                   : addTab(m_scratchEditor, iconOf(ScratchDocument), tr("Scratch Image Editor")));
     } else if (index >= 0) {
         removeTab(index);
         m_scratchEditor->hide();

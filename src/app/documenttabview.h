@@ -61,9 +61,14 @@ public:
     SpriteEditor::View *openSpriteEditor(const QPointer<SpriteBank> &bank);
     BlockEditor::View *openBlockEditor(const QPointer<MapObjects> &blocks);
 
+    /// Gives the keyboard to the page in front, unless something on it has it.
+    void focusPage();
+
     void closeAllTabs();
     /// Closes the tab of a document if it has one.
     void closeDocument(const QUuid &id);
+    /// The same for one that was deleted: the keyboard stays where that was asked for.
+    void closeDeleted(const QWidget *page);
     void renameDocument(const QUuid &id, const QString &name);
 
     /// The documents that have tabs, in tab order; the scratch image, which has no id, is not among them.
@@ -73,7 +78,7 @@ public:
 public slots:
     /// Destroys the page; only that of the scratch image is kept for the next time.
     void closeTab(int index);
-    /// Tells by a signal of its kind which document came to the front.
+    /// Tells by a signal of its kind which document came to the front, and gives it the keyboard.
     void currentIndexChanged(int index);
     void setScratchEditorVisible(bool visible);
 
@@ -88,6 +93,7 @@ signals:
     void scratchEditorVisibleChanged(bool visible);
 
 protected:
+    void keyPressEvent(QKeyEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void tabInserted(int index) override;
     void tabRemoved(int index) override;
@@ -97,9 +103,13 @@ private:
     void placeEmptyPage();
     void showTabMenu(const QPoint &pos);
     void open(QWidget *page, DocumentType type, const QUuid &id, const QString &name);
+    /// Closes tabs that a person is done with, who goes on in the one that is in front then.
+    void closePages(const QList<QPointer<QWidget>> &pages);
 
     ImageEditor::View *m_scratchEditor;
     QWidget *m_emptyPage = nullptr;
     /// A page that comes to the front because those after it are closed is not activated.
     bool m_closingAll = false;
+    /// The page that comes to the front now was not asked for.
+    bool m_leavesKeyboard = false;
 };

@@ -57,18 +57,38 @@ void EditFocus::followKeyboard(QWidget *widget)
 {
     if (!widget)
         return;
-    const auto holds = [widget](const QWidget *container) { return container->isAncestorOf(widget); };
-    const QPointer<TileSet> tileSet = m_views.tileEditor->tileSet();
-    const QPointer<SpriteBank> sprites = m_views.spriteEditor->sprites();
-    const QPointer<Palette> palette = m_views.palette->palette();
-    if (tileSet && holds(m_views.tileEditor))
-        activate(m_views.tileEditor, tileSet->id());
-    else if (sprites && holds(m_views.spriteEditor))
-        activate(m_views.spriteEditor, sprites->id());
-    else if (palette && holds(m_views.palette) && !m_undoGroup->activeStack())
-        activate(m_views.palette, palette->id()); // with no document in front, colours have steps of their own
-    else if (m_views.tabs->isAncestorOf(widget))
+    for (QWidget *dock : std::initializer_list<QWidget *>{m_views.tileEditor, m_views.spriteEditor, m_views.palette}) {
+        const std::optional<QUuid> shown = dock->isAncestorOf(widget) ? assetIn(dock) : std::nullopt;
+        // with no document in front, colours have steps of their own
+        if (shown && (dock != m_views.palette || !m_undoGroup->activeStack()))
+            return activate(dock, *shown);
+    }
+    if (m_views.tabs->isAncestorOf(widget))
         followTab();
+}
+
+std::optional<QUuid> EditFocus::assetIn(const QWidget *dock) const
+{
+    const auto idOf = [](const auto &asset) { return asset ? std::optional(asset->id()) : std::nullopt; };
+    if (dock == m_views.tileEditor)
+        return idOf(m_views.tileEditor->tileSet());
+    if (dock == m_views.spriteEditor)
+        return idOf(m_views.spriteEditor->sprites());
+    return dock && dock == m_views.palette ? idOf(m_views.palette->palette()) : std::nullopt;
+}
+
+void EditFocus::refresh()
+{
+    QWidget *dock = qobject_cast<QDockWidget *>(m_active);
+    if (!dock)
+        return;
+    const std::optional<QUuid> shown = dock->isHidden() ? std::nullopt : assetIn(dock);
+    if (shown)
+        activate(dock, *shown);
+    else
+        followTab();
+    if (dock->isHidden())
+        m_views.tabs->focusPage();
 }
 
 void EditFocus::followTab()

@@ -9,6 +9,8 @@
 #include <QUuid>
 #include <QWidget>
 
+#include <optional>
+
 class EditTarget;
 class QUndoGroup;
 
@@ -30,6 +32,9 @@ public:
     /// The open project; without one nothing can be edited.
     void setProject(const QPointer<Project> &project);
 
+    /// Looks again at what the docks show: without its asset, or closed, a dock is no longer worked in.
+    void refresh();
+
     /// The editor that the user works in, as the target of the clipboard commands; null when it is none.
     [[nodiscard]] EditTarget *target() const;
 
@@ -37,6 +42,8 @@ private:
     /// Makes the page in front the active one.
     void followTab();
     void followKeyboard(QWidget *widget);
+    /// The asset that a dock edits; none when it shows none, or is no editor.
+    [[nodiscard]] std::optional<QUuid> assetIn(const QWidget *dock) const;
     void activate(QWidget *editor, const QUuid &documentId);
     void activateNone();
     void serveMapEditor(QWidget *page);

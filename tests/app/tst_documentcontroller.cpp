@@ -25,7 +25,9 @@
 #include <QTest>
 #include <QUndoStack>
 
+#include <functional>
 #include <optional>
+#include <utility>
 
 namespace {
 
@@ -200,6 +202,47 @@ private slots:
         QCOMPARE(views().spriteEditor->spriteIndex(), 1);
     }
 
+    void showsWhatIsOpened()
+    {
+        ProjectActions *actions = m_window->projectActions();
+        ProjectWindow *tree = views().project;
+        const std::pair<std::function<void()>, QDockWidget *> cases[]{
+            {[&] { emit tree->selectedTileSetChanged(m_assets->tiles->id()); }, views().tileEditor},
+            {[&] { actions->createTileSet("New", {}, 4, false); }, views().tileEditor},
+            {[&] { emit views().tilePicker->tileDoubleClicked(2); }, views().tileEditor},
+            {[&] { emit tree->selectedSpritesChanged(m_assets->bank->id()); }, views().spriteEditor},
+            {[&] { actions->createSprites(SpriteDialog::NewPalette, "New", {}); }, views().spriteEditor},
+            {[&] { actions->createPalette(CreateAction::Blank, "Night"); }, views().palette},
+            {[&] { emit tree->selectedPaletteChanged(m_assets->tilePalette->id()); }, views().palette}};
+        for (const auto &[open, dock] : cases) {
+            dock->close();
+            QCoreApplication::processEvents();
+            open();
+            QCoreApplication::processEvents();
+            QVERIFY2(!dock->visibleRegion().isEmpty(), qPrintable(dock->objectName()));
+        }
+        views().spriteEditor->close(); // by somebody who only goes through the tabs
+        documents()->setActiveMap(m_assets->map->id());
+        tabs()->setCurrentIndex(tabs()->indexOfDocument(m_assets->bank->id()));
+        QVERIFY(views().spriteEditor->isHidden());
+    }
+
+    void comesBackToTheSpriteThatWasEdited()
+    {
+        const QPointer<SpriteBank> other = project()->createSpriteBank(Quenmora::FourBit, "Other", {});
+        documents()->setActiveSpriteEditor(m_assets->bank->id());
+        views().spriteEditor->changeSprite(1);
+        for (const QPointer<SpriteBank> &between : {other, QPointer<SpriteBank>()}) {
+            if (between)
+                documents()->setActiveSpriteEditor(between->id());
+            else
+                tabs()->setCurrentIndex(0);
+            tabs()->setCurrentIndex(tabs()->indexOfDocument(m_assets->bank->id()));
+            QCOMPARE(views().spriteEditor->sprites(), m_assets->bank);
+            QCOMPARE(views().spriteEditor->spriteIndex(), 1);
+        }
+    }
+
     void keepsUndoHistoryAsLongAsTheAsset()
     {
         const QUuid id = m_assets->map->id();
@@ -268,6 +311,19 @@ private slots:
         QCOMPARE(active(), tileSteps);
         views().project->tree()->setFocus();
         QCOMPARE(active(), tileSteps); // the tree edits nothing
+
+        documents()->setActiveTileSet(m_assets->others->id()); // and the keyboard stays
+        QCOMPARE(active(), documents()->undoStackFor(m_assets->others->id()));
+        m_window->projectActions()->deleteItem(ProjectTree::TileSetNode, m_assets->others->id());
+        QCOMPARE(active(), documents()->undoStackFor(m_assets->image->id()));
+        documents()->setActiveTileSet(m_assets->tiles->id());
+        views().tileEditor->canvas()->setFocus();
+        QCOMPARE(active(), tileSteps);
+        views().tileEditor->close();
+        QCOMPARE(active(), documents()->undoStackFor(m_assets->image->id()));
+        QVERIFY(tabs()->isAncestorOf(QApplication::focusWidget()));
+        views().tileEditor->show();
+        views().tileEditor->canvas()->setFocus();
 
         documents()->setActivePalette(m_assets->imagePalette->id());
         views().palette->findChild<PaletteGrid *>()->setFocus();

@@ -153,6 +153,8 @@ private slots:
         menu->hide();
         menu->actions().at(2)->trigger();
         QTest::keyClick(tree(), Qt::Key_Delete);
+        QKeyEvent held(QEvent::KeyPress, Qt::Key_Delete, Qt::NoModifier, {}, true);
+        QApplication::sendEvent(tree(), &held);
         const QVariantList tiles{QVariant::fromValue(ProjectTree::TileSetNode), m_tiles->id()};
         QCOMPARE(copied, QList<QVariantList>{tiles});
         QCOMPARE(deleted, QList<QVariantList>{tiles});

@@ -80,6 +80,11 @@ QString ProjectTree::nodeName(ProjectNode node)
     return {};
 }
 
+QIcon ProjectTree::nodeIcon(ProjectNode node)
+{
+    return themedIcon(QLatin1StringView(Groups[size_t(node)].icon));
+}
+
 ProjectTree::ProjectTree(QWidget *parent) : QTreeWidget(parent), m_menu(new QMenu(this))
 {
     setColumnCount(1);
@@ -149,7 +154,7 @@ void ProjectTree::addAsset(ProjectNode node, const QUuid &id, const QString &nam
     if (!above)
         above = group(node);
     auto *item = new QTreeWidgetItem({name});
-    item->setIcon(0, themedIcon(QLatin1StringView(Groups[size_t(node)].icon)));
+    item->setIcon(0, nodeIcon(node));
     item->setData(0, Qt::UserRole, id);
     item->setData(0, Qt::AccessibleDescriptionRole, nodeName(node)); // the icon says it to those who see it
     item->setFlags(item->flags() | Qt::ItemIsEditable);
@@ -248,7 +253,8 @@ void ProjectTree::keyPressEvent(QKeyEvent *event)
             return;
         }
         if (event->matches(QKeySequence::Delete)) {
-            emit deleteItem(node, id);
+            if (!event->isAutoRepeat()) // one press, one asset
+                emit deleteItem(node, id);
             return;
         }
     }

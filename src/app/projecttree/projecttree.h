@@ -32,6 +32,8 @@ public:
 
     /// What an asset of the kind is called, such as "Tile Set".
     [[nodiscard]] static QString nodeName(ProjectNode node);
+    /// The picture of the kind, wherever assets are listed or shown.
+    [[nodiscard]] static QIcon nodeIcon(ProjectNode node);
 
     explicit ProjectTree(QWidget *parent = nullptr);
 
