@@ -14,6 +14,7 @@
 #include "preferences/generalpage.h"
 #include "ui/messagedialog.h"
 #include "ui/plaintext.h"
+#include "ui/question.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -43,6 +44,9 @@ MainWindow::MainWindow(QWidget *parent)
     : QMainWindow(parent)
     , m_startPage(new StartPage(m_menuBar.fileMenu(), &m_tabs))
     , m_projectController(this, m_menuBar.fileMenu())
+    , m_askBeforeDeletion([this](const DeletionQuestion &question) {
+        return askYesOrNo(this, question.title, question.text, question.consequences);
+    })
     , m_preferences(this)
     , m_updateController(m_preferences.generalPage(), [this] { savePreferences(); },
                          {appVersion(), appReleaseDate(), appChannel()})
@@ -147,11 +151,11 @@ void MainWindow::connectActions()
 {
     m_actions.setUndoStackProvider([this](const QUuid &id) { return m_documents.recordingStackFor(id); });
     m_actions.serve(m_menuBar);
-    connect(&m_actions, &ProjectActions::paletteReady, &m_documents, &DocumentController::setActivePalette);
-    connect(&m_actions, &ProjectActions::tileSetReady, &m_documents, &DocumentController::setActiveTileSet);
+    connect(&m_actions, &ProjectActions::paletteReady, &m_documents, &DocumentController::openPalette);
+    connect(&m_actions, &ProjectActions::tileSetReady, &m_documents, &DocumentController::openTileSet);
     connect(&m_actions, &ProjectActions::mapReady, &m_documents, &DocumentController::setActiveMap);
     connect(&m_actions, &ProjectActions::blocksReady, &m_documents, &DocumentController::setActiveBlockEditor);
-    connect(&m_actions, &ProjectActions::spritesReady, &m_documents, &DocumentController::setActiveSpriteEditor);
+    connect(&m_actions, &ProjectActions::spritesReady, &m_documents, &DocumentController::openSprites);
     connect(&m_actions, &ProjectActions::itemDeleted, &m_documents, &DocumentController::forget);
     connect(&m_documents, &DocumentController::error, this, &MainWindow::showError);
     connect(&m_documents, &DocumentController::exported, m_exportMessages, &ExportMessages::add);
@@ -162,12 +166,27 @@ void MainWindow::connectActions()
 void MainWindow::connectDocks()
 {
     m_projectDock.setNextSteps(new NextSteps(m_menuBar));
-    connect(&m_projectDock, &ProjectWindow::deleteItemTriggered, &m_actions, &ProjectActions::deleteItem);
+    connect(&m_projectDock, &ProjectWindow::deleteItemTriggered, this, &MainWindow::deleteItem);
     connect(&m_projectDock, &ProjectWindow::copyItemTriggered, &m_actions, &ProjectActions::copyItem);
-    connect(&m_paletteDock, &PaletteWindow::deleteRequested, &m_actions,
-            [this](const QUuid &id) { m_actions.deleteItem(ProjectTree::PaletteNode, id); });
+    connect(&m_paletteDock, &PaletteWindow::deleteRequested, this,
+            [this](const QUuid &id) { deleteItem(ProjectTree::PaletteNode, id); });
     connect(&m_paletteDock, &PaletteWindow::copyRequested, &m_actions,
             [this](const QUuid &id) { m_actions.copyItem(ProjectTree::PaletteNode, id); });
+}
+
+void MainWindow::deleteItem(ProjectTree::ProjectNode node, const QUuid &id)
+{
+    const QPointer<Project> project = m_projectController.project();
+    if (!project)
+        return;
+    // the first palette became the scratch image's by itself, whether or not that is used
+    const bool freed = node == ProjectTree::PaletteNode && m_documents.freeScratchPalette(id);
+    const auto question = deletionQuestion(*project, node, id);
+    // without a question there is nothing to lose: the actions refuse it and say why
+    if (!question || m_askBeforeDeletion(*question))
+        m_actions.deleteItem(node, id);
+    if (freed && project && project->palette(id))
+        m_documents.setScratchPalette(project->palette(id)); // it stays
 }
 
 // Showing and closing

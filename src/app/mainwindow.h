@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/appstate.h"
+#include "app/deletionquestion.h"
 #include "app/documentcontroller.h"
 #include "app/documenttabview.h"
 #include "app/documentviews.h"
@@ -24,6 +25,9 @@
 #include <QPointer>
 #include <QUuid>
 
+#include <functional>
+#include <utility>
+
 class ExportMessages;
 class MessageDialog;
 class StartPage;
@@ -38,8 +42,14 @@ class MainWindow : public QMainWindow
     Q_OBJECT
 
 public:
+    /// Answers whether an asset is to be deleted.
+    using DeletionAnswer = std::function<bool(const DeletionQuestion &question)>;
+
     explicit MainWindow(QWidget *parent = nullptr);
     ~MainWindow() override;
+
+    /// Replaces the message box that asks before an asset is deleted.
+    void setDeletionCallback(DeletionAnswer answer) { m_askBeforeDeletion = std::move(answer); }
 
     /// Maximizes the window where the screen is too small for it.
     void fitToScreen() { m_layout.fitToScreen(); }
@@ -77,6 +87,8 @@ private:
     void connectMenus();
     void connectActions();
     void connectDocks();
+    /// Deletes an asset that may be deleted when the person, who is asked, wants that.
+    void deleteItem(ProjectTree::ProjectNode node, const QUuid &id);
 
     void loadState();
     void saveState();
@@ -106,6 +118,7 @@ private:
     ProjectController m_projectController;
     AppState m_state;
     bool m_firstShow = true;
+    DeletionAnswer m_askBeforeDeletion;
     PreferencesDialog m_preferences;
     QPointer<MessageDialog> m_messageDialog;
     UpdateController m_updateController;

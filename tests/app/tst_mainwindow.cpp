@@ -5,6 +5,7 @@
 #include "app/startpage.h"
 #include "editors/canvas/imageeditorview.h"
 #include "editors/canvas/tilepickergrid.h"
+#include "model/image.h"
 #include "model/map.h"
 #include "model/mapobjects.h"
 #include "model/spritebank.h"
@@ -16,8 +17,11 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
 #include <QDropEvent>
+#include <QLineEdit>
+#include <QListView>
 #include <QMimeData>
 #include <QSignalSpy>
 #include <QStatusBar>
@@ -89,6 +93,14 @@ private slots:
             QCOMPARE(m_window->dockWidgetArea(m_window->views().palette), Qt::RightDockWidgetArea);
             QVERIFY(m_window->close());
         }
+    }
+
+    void remembersTheWorkingFolderAtFirst()
+    {
+        QVERIFY(m_window->close());
+        AppState state;
+        QVERIFY(state.loadState());
+        QCOMPARE(state.lastPath(), QDir::currentPath());
     }
 
     void keepsStateBetweenRuns()
@@ -233,6 +245,214 @@ private slots:
         QCOMPARE(tiles->palette(), palette);
         QCOMPARE(changed.size(), 1); // which repaints what shows tiles
         QCOMPARE(bank->palette(), palette);
+    }
+
+    void asksBeforeAnAssetIsDeleted_data()
+    {
+        QTest::addColumn<ProjectTree::ProjectNode>("node");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("consequences"); // none when nothing is asked, since it stays in any case
+        const auto add = [](const char *name, ProjectTree::ProjectNode node, const char *consequences) {
+            QTest::newRow(name) << node << QString(name) << QString(consequences);
+        };
+        add("Level", ProjectTree::MapNode, "Lost with it: 2 placed sprites, 1 placed animation.\n");
+        add("Hero", ProjectTree::SpriteBankNode,
+            "Lost with it: 1 animation. No longer shown: 2 placed sprites on 1 map.\n");
+        add("Spare", ProjectTree::TileSetNode, "Left without tiles: Barrels, Wells %1.\n");
+        add("Wells %1", ProjectTree::MapObjectsNode, "Lost with it: 2 animations.\n");
+        add("Title", ProjectTree::ImageNode, "");
+        add("Unused", ProjectTree::PaletteNode, "");
+        add("Tiles", ProjectTree::TileSetNode, nullptr);
+        add("Blocks", ProjectTree::MapObjectsNode, nullptr);
+        add("Main", ProjectTree::PaletteNode, nullptr);
+    }
+
+    void asksBeforeAnAssetIsDeleted()
+    {
+        QFETCH(const ProjectTree::ProjectNode, node);
+        QFETCH(const QString, name);
+        QFETCH(const QString, consequences);
+        controller()->openProject(sampleFile());
+        Project *project = controller()->project();
+        const QUuid spare = project->createTileSet("Spare", project->palettes().first()->id(), 1)->id();
+        const QPointer<MapObjects> wells = project->createBlockList("Wells %1", spare);
+        wells->createBoundTileAnimation("Deep");
+        wells->createBoundTileAnimation("Dry");
+        project->createBlockList("Barrels", spare);
+        project->createPalette(CreateAction::Blank, "Unused");
+        project->images().first()->setName("Title");
+
+        QUuid id;
+        const auto find = [&](const auto &assets) {
+            for (const auto &asset : assets) {
+                if (asset->name() == name)
+                    id = asset->id();
+            }
+        };
+        find(project->palettes());
+        find(project->tileSets());
+        find(project->blockSets());
+        find(project->spriteBanks());
+        find(project->maps());
+        find(project->images());
+        QVERIFY(!id.isNull());
+        QSignalSpy deleted(m_window->projectActions(), &ProjectActions::itemDeleted);
+        for (const bool answer : {false, true}) {
+            QStringList asked;
+            m_window->setDeletionCallback([&](const DeletionQuestion &question) {
+                asked += {question.text, question.consequences};
+                return answer;
+            });
+            if (node == ProjectTree::PaletteNode)
+                emit m_window->views().palette->deleteRequested(id);
+            else
+                emit m_window->views().project->deleteItemTriggered(node, id);
+            const bool mayGo = !consequences.isNull();
+            const QString text = QString::fromUtf8("Delete “%2” (%1)?").arg(ProjectTree::nodeName(node), name);
+            QCOMPARE(asked, mayGo ? QStringList({text, consequences + "There is no undo for this."}) : QStringList());
+            QCOMPARE(deleted.size(), answer && mayGo ? 1 : 0);
+            QCOMPARE(m_window->findChild<MessageDialog *>() != nullptr, !mayGo); // which says why it stays
+        }
+    }
+
+    void unusedScratchImageNeedsNoPalette()
+    {
+        controller()->newProject("Game");
+        Project *project = controller()->project();
+        const QPointer<Palette> first = project->createPalette(CreateAction::Blank, "First");
+        bool answer = false;
+        m_window->setDeletionCallback([&answer](const DeletionQuestion &) { return answer; });
+        const auto remove = [this](const QPointer<Palette> &palette) {
+            emit m_window->views().palette->deleteRequested(palette->id());
+        };
+        remove(first);
+        QCOMPARE(project->scratchPalette(), first);
+        answer = true;
+        const QPointer<Palette> second = project->createPalette(CreateAction::Blank, "Second");
+        remove(first);
+        QVERIFY(!first);
+        QCOMPARE(project->scratchPalette(), second);
+        QImage drawn = project->scratchImage();
+        drawn.scanLine(100)[17] = 1;
+        project->setScratchImage(drawn);
+        remove(second);
+        QVERIFY(second);
+        project->setScratchImage(QImage(drawn.size(), QImage::Format_Indexed8)); // pixels of any value
+        drawn.fill(0);
+        project->setScratchImage(drawn);
+        remove(second);
+        QVERIFY(!second && !project->scratchPalette());
+    }
+
+    void pageInFrontHasTheKeyboard()
+    {
+        m_window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&*m_window));
+        DocumentTabView *tabs = m_window->views().tabs;
+        ProjectTree *tree = m_window->views().project->tree();
+        const auto pageHasIt = [&] {
+            return tabs->currentWidget() && tabs->currentWidget()->isAncestorOf(QApplication::focusWidget())
+                && QApplication::focusWidget() == tabs->currentWidget()->focusProxy();
+        };
+        tree->setFocus();
+        controller()->openProject(sampleFile());
+        QVERIFY(pageHasIt());
+        Project *project = controller()->project();
+        const QUuid level = project->maps().first()->id();
+        for (int time = 0; time < 2; ++time) { // opened, and in front already
+            tree->setFocus();
+            emit tree->itemDoubleClicked(ProjectTree::MapNode, level);
+            QVERIFY(pageHasIt());
+        }
+        const int map = tabs->currentIndex();
+        const QPoint scratchTab = tabs->tabBar()->tabRect(0).center();
+        for (int time = 0; time < 2; ++time) { // another tab, and the one in front
+            tree->setFocus();
+            QTest::mouseClick(tabs->tabBar(), Qt::LeftButton, {}, scratchTab);
+            QVERIFY(tabs->currentIndex() == 0 && pageHasIt());
+        }
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab, Qt::ControlModifier);
+        QVERIFY(tabs->currentIndex() == map && pageHasIt());
+        tree->setFocus();
+        emit tabs->tabCloseRequested(0);
+        QVERIFY(tabs->count() == 1 && pageHasIt());
+        tree->setFocus();
+        m_window->menus()->viewMenu()->setChecked(ViewMenu::CheckableItem::ScratchEditor, true);
+        QVERIFY(tabs->count() == 2 && pageHasIt());
+
+        tabs->tabBar()->setFocus();
+        QTest::keyClick(tabs->tabBar(), Qt::Key_Left);
+        QVERIFY(tabs->currentIndex() == 0 && tabs->tabBar()->hasFocus()); // going through the tabs
+        tree->setFocus();
+        m_window->projectActions()->deleteItem(ProjectTree::MapNode, level);
+        QVERIFY(tabs->count() == 1 && tree->hasFocus()); // going through the tree
+        emit tree->itemDoubleClicked(ProjectTree::TileSetNode, project->tileSets().first()->id());
+        QVERIFY(m_window->views().tileEditor->isAncestorOf(QApplication::focusWidget()));
+    }
+
+    void clickedDockLeavesTheKeyboardToTheMap()
+    {
+        m_window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&*m_window));
+        controller()->openProject(sampleFile());
+        const DocumentViews &views = m_window->views();
+        m_window->documentController()->setActiveMap(controller()->project()->maps().first()->id());
+        const QWidget *map = views.tabs->currentWidget()->focusProxy();
+        views.mapSprites->raise();
+        QCoreApplication::processEvents();
+        QWidget *places[] = {views.tilePicker->grid(), views.mapSprites->findChild<QListView *>("sprites")->viewport(),
+                             views.mapSprites->findChild<QComboBox *>()};
+        for (QWidget *place : places) {
+            views.project->tree()->setFocus();
+            QTest::mouseClick(place, Qt::LeftButton, {}, {5, 5});
+            QCOMPARE(QApplication::focusWidget(), map);
+            if (QWidget *popup = QApplication::activePopupWidget())
+                popup->close();
+        }
+        views.tilePicker->grid()->setFocus(Qt::TabFocusReason);
+        QTest::keyClick(views.tilePicker->grid(), Qt::Key_Right);
+        QVERIFY(views.tilePicker->grid()->hasFocus());
+        auto *typedIn = new QLineEdit(views.tilePicker->widget());
+        typedIn->show();
+        typedIn->setFocus();
+        QTest::mouseClick(typedIn, Qt::LeftButton);
+        QVERIFY(typedIn->hasFocus());
+        views.tabs->setScratchEditorVisible(true);
+        QTest::mouseClick(views.tilePicker->grid(), Qt::LeftButton, {}, {5, 5});
+        QVERIFY(views.tilePicker->grid()->hasFocus()); // no map in front
+    }
+
+    void fitsSmallScreens()
+    {
+        controller()->openProject(sampleFile());
+        const Project *project = controller()->project();
+        DocumentController *documents = m_window->documentController();
+        documents->setActiveBlockEditor(project->blockSets().first()->id());
+        documents->setActiveSpriteEditor(project->spriteBanks().first()->id());
+        documents->setActiveMap(project->maps().first()->id());
+        QCoreApplication::processEvents();
+        m_window->resize(1, 1);
+        QVERIFY2(m_window->width() <= 900 && m_window->height() <= 490, // a screen of 1920 x 1080 at scale 2
+                 qPrintable(QString("%1 x %2").arg(m_window->width()).arg(m_window->height())));
+        QCoreApplication::processEvents();
+        QVERIFY(m_window->views().project->width() < 200);
+        m_window->resize(1200, 800);
+        QCoreApplication::processEvents();
+        int marked = 0;
+        for (const QTabBar *bar : m_window->findChildren<QTabBar *>(QString(), Qt::FindDirectChildrenOnly)) {
+            for (int tab = 0; tab < bar->count(); ++tab) {
+                const int text = bar->fontMetrics().horizontalAdvance(bar->tabText(tab));
+                QVERIFY2(bar->tabRect(tab).width() >= text + 16, qPrintable(bar->tabText(tab)));
+                marked += bar->tabIcon(tab).isNull() ? 0 : 1;
+            }
+        }
+        QCOMPARE(marked, 3); // palette, tile set and sprites, whose tabs are named after them
+        QList<QImage> icons; // an image, map objects, sprites and a map may have one name
+        for (int tab = 0; tab < 4; ++tab) {
+            const QImage icon = m_window->views().tabs->tabIcon(tab).pixmap(16).toImage();
+            QVERIFY(!icon.isNull() && !icons.contains(icon));
+            icons.append(icon);
+        }
     }
 
     void isReachedByTheKeyboard()
