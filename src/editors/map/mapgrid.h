@@ -29,7 +29,7 @@ public:
     explicit MapGrid(QWidget *parent = nullptr);
     ~MapGrid() override;
 
-    QPointer<Map> map() const override { return m_content.map(); }
+    const QPointer<Map> &map() const override { return m_content.map(); }
     void setMap(const QPointer<Map> &map);
     const QList<QPointer<SpriteBank>> &spriteBanks() const override { return m_content.spriteBanks(); }
     /// Where edits are recorded; without one they are not.

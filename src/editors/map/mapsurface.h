@@ -25,7 +25,7 @@ public:
     virtual ~MapSurface();
 
     // What is edited, and what with.
-    virtual QPointer<Map> map() const = 0; ///< null when none is shown
+    virtual const QPointer<Map> &map() const = 0; ///< null when none is shown
     virtual const QList<QPointer<SpriteBank>> &spriteBanks() const = 0;
     virtual const MapViewport &viewport() const = 0;
     virtual const MapBrush &brush() const = 0;

@@ -49,7 +49,7 @@ public:
 
 protected:
     MapSurface *surface() const { return m_surface; }
-    QPointer<Map> map() const { return m_surface->map(); }
+    const QPointer<Map> &map() const { return m_surface->map(); }
     const MapViewport &viewport() const { return m_surface->viewport(); }
     const MapBrush &brush() const { return m_surface->brush(); }
     MapPointer &pointer() const { return m_surface->pointer(); }
