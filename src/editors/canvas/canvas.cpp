@@ -2,10 +2,10 @@
 
 #include "editors/canvas/canvasclipboard.h"
 #include "editors/canvas/layeraction.h"
+#include "ui/outlineband.h"
 
 #include <QMenu>
 #include <QMetaEnum>
-#include <QRubberBand>
 
 #include <algorithm>
 
@@ -16,7 +16,7 @@ Canvas::Canvas(QSize imageSize, QWidget *parent)
     , m_layer(imageSize)
     , m_tools(this)
     , m_contextMenu(new QMenu(this))
-    , m_band(new QRubberBand(QRubberBand::Rectangle, this))
+    , m_band(new OutlineBand(this))
     , m_clipboard(new CanvasClipboard(this))
 {
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -96,11 +96,6 @@ void Canvas::setTallPixels(bool tall)
     if (tall == m_geometry.tallPixels)
         return;
     relayout([tall](CanvasGeometry &geometry) { geometry.tallPixels = tall; });
-}
-
-bool Canvas::hasSelection() const
-{
-    return m_selection.exists();
 }
 
 QImage Canvas::clipboardImage() const
@@ -355,6 +350,14 @@ void Canvas::extendSelection(QPoint point)
         return;
     m_band->setGeometry(m_selection.extendTo(point, m_geometry, m_layer.rect()));
     m_band->show();
+}
+
+void Canvas::endSelection()
+{
+    m_selection.clearAnchor();
+    const bool drawn = m_pointer.buttons & Qt::LeftButton;
+    if (m_clickDeselects && drawn && (!hasSelection() || m_pointer.pressed == m_pointer.current))
+        hideSelection();
 }
 
 void Canvas::placeBand()

@@ -59,7 +59,11 @@ public:
     /// Chooses a tool, or runs an action of the tool palette.
     void setMode(Quenmora::Ui::ToolButton mode, bool checked = false);
 
-    bool hasSelection() const;
+    /// Lets a click with the select tool, and a drag that encloses no pixel, end the selection. A canvas that has
+    /// not been told keeps what the press began: nothing that can be copied or filled, but at zoom 1 the pixel.
+    void setClickDeselects(bool deselects) { m_clickDeselects = deselects; }
+    /// Whether at least one pixel is selected.
+    bool hasSelection() const { return !selection().isEmpty(); }
     /// The selection in image pixels, clipped to the image; empty when there is none.
     QRect selection() const;
     /// What the paste tool pastes; null before something was pasted.
@@ -144,7 +148,7 @@ private:
     void pickPaper(int index) override;
     void beginSelection(QPoint point) override;
     void extendSelection(QPoint point) override;
-    void endSelection() override { m_selection.clearAnchor(); }
+    void endSelection() override;
     void openContextMenu(QPoint globalPosition) override;
 
     /// Changes the geometry, if asked to, and fits the image; the selection stays on its pixels.
@@ -171,5 +175,6 @@ private:
     CanvasToolBox m_tools;
     QMenu *m_contextMenu;
     QRubberBand *m_band; ///< shows the selection
+    bool m_clickDeselects = false;
     QPointer<CanvasClipboard> m_clipboard;
 };

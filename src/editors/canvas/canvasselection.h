@@ -11,8 +11,7 @@ class CanvasSelection
 public:
     static constexpr QPoint NoAnchor{-1, -1};
 
-    /// True from the first press on, when it holds no pixel yet.
-    bool exists() const { return m_exists; }
+    /// Empty when nothing is selected, as after a press that has not been dragged yet.
     QRect pixels() const { return m_exists ? m_pixels : QRect(); }
     bool hasAnchor() const { return m_anchor != NoAnchor; }
 

@@ -37,6 +37,7 @@ PixelEditor::PixelEditor(QSize imageSize, Qt::Orientation toolPalette, const QLi
     , m_tools(new ToolPalette(toolPalette))
 {
     new PaletteNotice(m_canvas);
+    m_canvas->setClickDeselects(true);
     for (const ToolButton button : {Draw, Line, Rectangle, RectangleFill, Circle, Fill, Pick, Select})
         m_tools->addEntry(button);
     // While something is being pasted, pasting is the tool in use.

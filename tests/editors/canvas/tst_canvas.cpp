@@ -5,6 +5,7 @@
 #include "support/canvasmouse.h"
 #include "support/editorinput.h"
 
+#include <QRubberBand>
 #include <QScrollBar>
 #include <QTimer>
 
@@ -76,13 +77,12 @@ class TestCanvas : public QObject
     Q_OBJECT
 
 private slots:
-    void layoutFollowsSizeAndZoom()
+    void zoomAndScrollStayInBounds()
     {
         Fixture f;
         const CanvasGeometry &geometry = f.canvas.geometryInWidget();
         QSignalSpy amounts(&f.canvas, &Canvas::scrollValuesChanged);
         f.canvas.resize(400, 100);
-        QCOMPARE(geometry.imageRect, QRect(72, 2, 256, 96));
         QCOMPARE(amounts.last(), QVariantList({16 - 25, 12 - 6}));
         for (int i = 0; i < 20; ++i)
             QTest::keyClick(&f.canvas, Qt::Key_Down);
@@ -92,14 +92,7 @@ private slots:
         f.canvas.resize(256, 192);
         QCOMPARE(geometry.scroll, QPoint(0, 0));
         f.canvas.setTallPixels(true);
-        f.canvas.setZoomLevel(8);
-        QCOMPARE(geometry.imageRect, QRect(64, 0, 128, 192));
-        QCOMPARE(geometry.pixelAt({64, 10}), QPoint(0, 0));
-        QCOMPARE(geometry.pixelAt({64 + 127, 17}), QPoint(15, 1));
-        f.canvas.setZoomLevel(1);
-        f.canvas.setImage(plainImage({97, 4}, 0));
-        f.canvas.resize(100, 100);
-        QCOMPARE(geometry.imageRect, QRect(2, 46, 97, 8)); // 100 / 2 - 97 / 2
+        QCOMPARE(f.mouse.centreOf({0, 0}).y(), 16);
         f.canvas.setZoomLevel(63);
         f.canvas.setMode(ZoomIn);
         QCOMPARE(f.canvas.zoom(), 64);
@@ -204,6 +197,7 @@ private slots:
     void selectionStaysOnItsPixels()
     {
         Fixture f;
+        const auto *band = f.canvas.findChild<QRubberBand *>();
         f.run({Select, {{2, 1}, {4, 4}}});
         const QRect selected(2, 1, 2, 3);
         QCOMPARE(f.canvas.selection(), selected);
@@ -211,14 +205,37 @@ private slots:
         QCOMPARE(f.canvas.selection(), selected);
         f.canvas.setZoomLevel(32);
         QTest::keyClick(&f.canvas, Qt::Key_Right);
-        QCOMPARE(f.canvas.selection(), selected);
         f.canvas.setHorizontalPosition(4); // as a scroll bar does
         QCOMPARE(f.canvas.selection(), selected);
+        QCOMPARE(band->geometry(), QRect(32, -96, 64, 96));
         f.canvas.setZoomLevel(16);
         f.canvas.selectAll();
         QCOMPARE(f.canvas.selection(), QRect(QPoint(), ImageSize));
+        QVERIFY(f.shown({5, 5}) == QColor(Qt::black)
+                && f.canvas.grab().toImage().pixelColor(4, 0) == QColor(Qt::white));
         f.canvas.setMode(Draw);
-        QVERIFY(!f.canvas.hasSelection());
+        QVERIFY(!f.canvas.hasSelection() && !band->isVisible());
+    }
+
+    void clickSelectsNothing()
+    {
+        for (const bool deselects : {false, true}) {
+            Fixture f;
+            f.canvas.setClickDeselects(deselects);
+            const auto *band = f.canvas.findChild<QRubberBand *>();
+            f.run({Select, {{2, 1}, {4, 4}}});
+            f.mouse.drag({{9, 9}}, Qt::MiddleButton);
+            QVERIFY(f.canvas.hasSelection());
+            f.mouse.drag({{3, 3}});
+            QCOMPARE(std::pair(f.canvas.hasSelection(), band->isVisible()), std::pair(false, !deselects));
+            f.canvas.copy();
+            QCOMPARE(QApplication::clipboard()->image().size(), ImageSize);
+            EditorInput::trigger(*f.canvas.contextMenu(), "Fill");
+            QCOMPARE(f.texts(), "");
+            f.canvas.setZoomLevel(1);
+            f.mouse.drag({{3, 3}});
+            QCOMPARE(f.canvas.selection(), deselects ? QRect() : QRect(3, 3, 1, 1));
+        }
     }
 
     void menuActsOnTheSelection()
