@@ -37,12 +37,11 @@ inline void trigger(const QMenu &menu, const QString &text)
     QFAIL(qPrintable(QStringLiteral("no action ") + text));
 }
 
-/// A drag from one point of a widget to another, as the window system reports it. Calls over before the drop
-/// if the drag was let in, and returns whether the drop was taken.
-inline bool drop(QWidget &widget, QPoint from, QPoint to, const QMimeData &data, Qt::KeyboardModifiers modifiers,
-                 const std::function<void()> &over = {})
+/// A drag that another program brings to a point of a widget, as the window system reports it. Calls over before the
+/// drop if the drag was let in, and returns whether the drop was taken.
+inline bool dropFromElsewhere(QWidget &widget, QPoint to, const QMimeData &data, Qt::KeyboardModifiers modifiers = {},
+                              const std::function<void()> &over = {})
 {
-    QTest::mousePress(&widget, Qt::LeftButton, Qt::NoModifier, from);
     QDragEnterEvent enter(to, Qt::MoveAction, &data, Qt::LeftButton, modifiers);
     enter.ignore();
     QApplication::sendEvent(&widget, &enter);
@@ -56,6 +55,14 @@ inline bool drop(QWidget &widget, QPoint from, QPoint to, const QMimeData &data,
     dropped.ignore();
     QApplication::sendEvent(&widget, &dropped);
     return dropped.isAccepted();
+}
+
+/// The same for a drag that starts at another point of the widget.
+inline bool drop(QWidget &widget, QPoint from, QPoint to, const QMimeData &data, Qt::KeyboardModifiers modifiers,
+                 const std::function<void()> &over = {})
+{
+    QTest::mousePress(&widget, Qt::LeftButton, Qt::NoModifier, from);
+    return dropFromElsewhere(widget, to, data, modifiers, over);
 }
 
 /// The wheel turned by delta (120 a notch) with Ctrl held, over the middle of a widget.

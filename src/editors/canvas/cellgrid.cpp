@@ -7,6 +7,7 @@
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPointer>
 
 #include <algorithm>
 
@@ -27,6 +28,7 @@ void CellGrid::reset(int selected)
 {
     m_hovered = m_dropTarget = -1;
     m_pressPoint = {-1, -1};
+    m_pressed = false;
     m_selected = selected;
     refresh();
 }
@@ -106,6 +108,7 @@ void CellGrid::paintDotted(QPainter &painter, const QRect &frame, int dotWidth)
 void CellGrid::mousePressEvent(QMouseEvent *event)
 {
     m_pressPoint = event->position().toPoint();
+    m_pressed = true;
 }
 
 void CellGrid::mouseMoveEvent(QMouseEvent *event)
@@ -125,6 +128,7 @@ void CellGrid::mouseMoveEvent(QMouseEvent *event)
 
 void CellGrid::mouseReleaseEvent(QMouseEvent *event)
 {
+    m_pressed = false;
     const int index = indexAt(event->position().toPoint());
     if (event->button() == Qt::LeftButton)
         clicked(index);
@@ -168,7 +172,10 @@ void CellGrid::startDrag(int index)
     auto *drag = new QDrag(this);
     drag->setMimeData(dragData(index));
     drag->setPixmap(QPixmap::fromImage(picture(index).scaled(cell(), cell())));
+    const QPointer guard(this); // anything can happen while it is being dragged
     drag->exec(Qt::MoveAction);
+    if (guard)
+        m_pressed = false;
 }
 
 void CellGrid::setDropTarget(int index)
@@ -196,13 +203,21 @@ void CellGrid::dragLeaveEvent(QDragLeaveEvent *)
     setDropTarget(-1);
 }
 
+int CellGrid::sourceOf(const QDropEvent &drop) const
+{
+    // A drag from another program has no source here. It can be another editor with elements of its own, and what
+    // was pressed here last is not meant then: that button is up again.
+    const bool ours = m_pressed && (!drop.source() || drop.source() == this);
+    return ours ? pressedIndex() : -1;
+}
+
 void CellGrid::dropEvent(QDropEvent *event)
 {
     if (!event->mimeData()->hasFormat(m_mimeType))
         return;
     event->acceptProposedAction();
     setDropTarget(-1);
-    const int source = pressedIndex();
+    const int source = sourceOf(*event);
     const int target = elementAt(event->position().toPoint());
     if (source < 0 || target < 0)
         return;

@@ -95,10 +95,15 @@ private:
     void setDropTarget(int index);
     void startDrag(int index);
 
+    /// The element that a drag which is dropped here was started with, -1 when it came from somewhere else.
+    int sourceOf(const QDropEvent &drop) const;
+
     const QString m_mimeType;
     QMenu *const m_menu;
     int m_selected = -1;
     int m_hovered = -1;
     int m_dropTarget = -1;
     QPoint m_pressPoint{-1, -1};
+    /// The button is down since the press, or what was dragged then has not been let go of yet.
+    bool m_pressed = false;
 };

@@ -128,6 +128,9 @@ private slots:
         QCOMPARE(f.numbers(), QByteArray("\0\1\2\1\4\5\6", 7));
         drop(0, 2, Qt::NoModifier, TileDrag{0, 0}.toMimeData());
         drop(0, 6, Qt::NoModifier, SpriteDrag{0}.toMimeData()); // foreign
+        f.click(f.grid.cellRect(4).center()); // what was pressed last is not what another editor drags
+        const std::unique_ptr<QMimeData> foreign(TileDrag{4, 0}.toMimeData());
+        QVERIFY(EditorInput::dropFromElsewhere(f.grid, f.grid.cellRect(6).center(), *foreign));
         QCOMPARE(f.numbers(), QByteArray("\1\2\0\1\4\5\6", 7));
         const std::unique_ptr<QMimeData> data(TileDrag{300, 5}.toMimeData());
         QCOMPARE(data->data(TileDrag::mimeType()), QByteArray("\0\0\x01\x2c\0\0\0\x05", 8));
