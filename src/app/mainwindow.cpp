@@ -15,6 +15,7 @@
 #include "ui/messagedialog.h"
 #include "ui/plaintext.h"
 #include "ui/question.h"
+#include "ui/readablehints.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -61,6 +62,7 @@ MainWindow::MainWindow(QWidget *parent)
     m_mapToolBar.setEnabled(false);
     setUnifiedTitleAndToolBarOnMac(true);
     setDocumentMode(true);
+    new ReadableHints(this);
     setAcceptDrops(true);
     setWindowTitle(QCoreApplication::applicationName());
     resize(DefaultSize);

@@ -1,10 +1,12 @@
 #include "support/testmain.h"
 #include "ui/checklist.h"
+#include "ui/dockwidget.h"
 #include "ui/expandablesection.h"
 #include "ui/flowlayout.h"
 #include "ui/numberstepper.h"
 #include "ui/outline.h"
 #include "ui/popover.h"
+#include "ui/readablehints.h"
 #include "ui/scrollbar.h"
 
 #include <QLabel>
@@ -69,6 +71,42 @@ private slots:
             }
             QVERIFY(!seen({7, 5}) && !seen({4, 3}) && !seen({45, 32}));
         }
+    }
+
+    void hintsAreReadableInEveryTheme()
+    {
+        const auto theme = [](const QColor &text, const QColor &ground) {
+            QPalette palette;
+            for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+                palette.setColor(role, text);
+            for (const auto role : {QPalette::Window, QPalette::Base, QPalette::Button})
+                palette.setColor(role, ground);
+            palette.setColor(QPalette::PlaceholderText, QColor(0, 0, 0, 128));
+            return palette;
+        };
+        const QPalette light = theme(Qt::black, Qt::white);
+        const QPalette before = QApplication::palette();
+        QApplication::setPalette(theme(Qt::white, QColor(40, 40, 40)));
+        QWidget window;
+        new ReadableHints(&window);
+        DockWidget dock("Dock", "Nothing here");
+        dock.resize(200, 100);
+        const auto spread = [&dock] {
+            const QImage shown = dock.findChild<QLabel *>()->grab().toImage();
+            int darkest = 255;
+            int lightest = 0;
+            for (int i = 0; i < shown.width() * shown.height(); ++i) {
+                const int grey = qGray(shown.pixel(i % shown.width(), i / shown.width()));
+                darkest = std::min(darkest, grey);
+                lightest = std::max(lightest, grey);
+            }
+            return lightest - darkest;
+        };
+        QVERIFY2(spread() > 80, qPrintable(QString::number(spread())));
+        QApplication::setPalette(light); // while it runs
+        QVERIFY2(spread() > 80, qPrintable(QString::number(spread())));
+        QCOMPARE(ReadableHints::readable(light), light); // a theme's own colour is kept
+        QApplication::setPalette(before);
     }
 
     void popoverPointsAtItsTargetAndClosesOnEscape()
