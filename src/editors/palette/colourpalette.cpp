@@ -1,5 +1,6 @@
 #include "editors/palette/colourpalette.h"
 
+#include "editors/palette/colourmarks.h"
 #include "ui/gridkeys.h"
 
 #include <QHelpEvent>
@@ -7,13 +8,23 @@
 #include <QPainter>
 #include <QToolTip>
 
+#include <algorithm>
+
 namespace {
 
-constexpr int FewColumns = 16;
+constexpr int FewColours = 16;
+constexpr int ColumnsOfFew = 8;
+constexpr int UsualColumns = 16;
 constexpr int ManyColumns = 32;
 constexpr int LeastCell = 8;
-constexpr int UsualCell = 12;
-constexpr int LargestCell = 16;
+constexpr int UsualCell = 12; ///< from here on many columns are taken
+constexpr int LargestCell = 24;
+constexpr int LargestOfMany = 18; ///< where the rows of all colours shall leave room for what is painted
+constexpr int LargestOfTallRows = 14;
+
+constexpr int Edge = 2; ///< around the cells, for the marks of the outer ones
+constexpr QRect Swatches(Edge, Edge, 36, 36);
+constexpr int Left = Swatches.width() + 3 * Edge; ///< of the cells
 
 } // namespace
 
@@ -27,31 +38,75 @@ ColourPalette::ColourPalette(QWidget *parent) : QWidget(parent)
     setFocusPolicy(Qt::TabFocus);
 }
 
+// ---- Layout ---------------------------------------------------------------------------------
+
 int ColourPalette::columns(int width) const
 {
-    return m_count >= Palette::Size && width >= ManyColumns * LeastCell ? ManyColumns : FewColumns;
+    if (m_count <= FewColours)
+        return ColumnsOfFew;
+    return width >= Left + ManyColumns * UsualCell + Edge ? ManyColumns : UsualColumns;
 }
 
-int ColourPalette::cell(int width) const
+int ColourPalette::rows(int width) const
 {
-    return qBound(LeastCell, width / columns(width), LargestCell);
+    return m_count / columns(width);
+}
+
+int ColourPalette::wantedCell(int width) const
+{
+    const int across = columns(width);
+    const int largest = across == ManyColumns ? LargestOfMany
+        : across == UsualColumns              ? LargestOfTallRows
+                                              : LargestCell;
+    return qBound(LeastCell, (width - Left - Edge) / across, largest);
+}
+
+int ColourPalette::heightFor(int cell, int width) const
+{
+    return std::max(cell * rows(width), Swatches.height()) + 2 * Edge;
+}
+
+int ColourPalette::cell() const
+{
+    // a place that is too low for the cells has smaller ones
+    const int fitting = (height() - 2 * Edge) / rows(width());
+    return std::max(LeastCell, std::min(wantedCell(width()), fitting));
 }
 
 int ColourPalette::heightForWidth(int width) const
 {
-    return cell(width) * (m_count / columns(width));
+    return heightFor(wantedCell(width), width);
 }
 
 QSize ColourPalette::sizeHint() const
 {
-    const int width = ManyColumns * UsualCell;
+    const int width = Left + ManyColumns * UsualCell + Edge;
     return {width, heightForWidth(width)};
 }
 
 QSize ColourPalette::minimumSizeHint() const
 {
-    return {FewColumns * LeastCell, cell(width()) * (m_count / columns(width()))};
+    const int across = m_count <= FewColours ? ColumnsOfFew : UsualColumns;
+    return {Left + across * LeastCell + Edge, heightFor(LeastCell, width())};
 }
+
+QRect ColourPalette::cellRect(int index) const
+{
+    const int place = index - m_offset;
+    const int across = columns(width());
+    return {Left + place % across * cell(), Edge + place / across * cell(), cell(), cell()};
+}
+
+int ColourPalette::indexAt(QPoint point) const
+{
+    const int across = columns(width());
+    const QPoint inside = point - QPoint(Left, Edge);
+    if (inside.x() < 0 || inside.y() < 0 || inside.x() >= across * cell() || inside.y() >= rows(width()) * cell())
+        return -1;
+    return m_offset + inside.y() / cell() * across + inside.x() / cell();
+}
+
+// ---- What is shown --------------------------------------------------------------------------
 
 void ColourPalette::setPalette(const QPointer<Palette> &palette)
 {
@@ -85,15 +140,14 @@ void ColourPalette::setSecondaryIndex(int index)
     update();
 }
 
-int ColourPalette::indexAt(QPoint point) const
+QColor ColourPalette::colour(int index) const
 {
-    const int across = columns(width());
-    const int column = point.x() / cell(width());
-    const int row = point.y() / cell(width());
-    if (point.x() < 0 || point.y() < 0 || column >= across || row >= m_count / across)
-        return -1;
-    return m_offset + row * across + column;
+    QColor colour = m_palette && index >= 0 && index < Palette::Size ? m_palette->colour(index) : QColor(Qt::black);
+    colour.setAlpha(255);
+    return colour;
 }
+
+// ---- Mouse and keyboard ---------------------------------------------------------------------
 
 void ColourPalette::mousePressEvent(QMouseEvent *event)
 {
@@ -155,27 +209,23 @@ bool ColourPalette::event(QEvent *event)
     return true;
 }
 
+// ---- Painting -------------------------------------------------------------------------------
+
 void ColourPalette::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    const int side = cell(width());
-    const int across = columns(width());
-    for (int i = 0; i < m_count; ++i) {
-        const int index = m_offset + i;
-        const QRect rect(i % across * side, i / across * side, side - 1, side - 1);
-        QColor colour = m_palette ? m_palette->colour(index) : QColor(Qt::black);
-        colour.setAlpha(255);
-        painter.fillRect(rect, colour);
-        if (index != m_primary && index != m_secondary)
-            continue;
-        // A black frame inside a white one reads on any colour; the secondary colour's is dotted.
-        painter.setPen(QPen(Qt::white, 1, index == m_primary ? Qt::SolidLine : Qt::DotLine));
-        painter.drawRect(rect.adjusted(0, 0, -1, -1));
-        painter.setPen(Qt::black);
-        painter.drawRect(rect.adjusted(1, 1, -2, -2));
-    }
+    ColourMarks::paintSwatches(painter, Swatches, colour(m_primary), colour(m_secondary),
+                               QWidget::palette().color(QPalette::Mid));
+    for (int index = m_offset; index < m_offset + m_count; ++index)
+        painter.fillRect(cellRect(index).adjusted(0, 0, -1, -1), colour(index));
+    const auto marked = [this](int index) { return index >= m_offset && index < m_offset + m_count; };
+    if (marked(m_primary))
+        ColourMarks::paintFore(painter, cellRect(m_primary).adjusted(0, 0, -1, -1));
+    if (marked(m_secondary))
+        ColourMarks::paintBack(painter, cellRect(m_secondary).adjusted(0, 0, -1, -1));
     if (hasFocus()) {
+        painter.setBrush(Qt::NoBrush);
         painter.setPen(QWidget::palette().color(QPalette::Highlight));
-        painter.drawRect(0, 0, across * side - 1, m_count / across * side - 1);
+        painter.drawRect(QRect(cellRect(m_offset).topLeft(), cellRect(m_offset + m_count - 1).bottomRight()));
     }
 }

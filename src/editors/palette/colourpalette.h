@@ -6,8 +6,8 @@
 #include <QWidget>
 
 /// Chooses a primary and a secondary colour from many colours of a palette: all 256, or 16 of them
-/// from an offset on. The left button chooses the primary colour, the right button the secondary;
-/// so do the arrow keys without and with Shift.
+/// from an offset on. Two swatches beside them show which are chosen. The left button chooses the primary colour, the
+/// right button the secondary; so do the arrow keys without and with Shift.
 class ColourPalette : public QWidget
 {
     Q_OBJECT
@@ -44,10 +44,16 @@ protected:
     bool event(QEvent *event) override;
 
 private:
-    /// 256 colours take 32 columns where these fit, else 16.
+    /// 256 colours take 32 columns where these fit, else 16; few take two rows.
     int columns(int width) const;
-    int cell(int width) const;
+    int rows(int width) const;
+    /// Side of a cell when there is height enough.
+    int wantedCell(int width) const;
+    int heightFor(int cell, int width) const;
+    int cell() const;
+    QRect cellRect(int index) const;
     int indexAt(QPoint point) const;
+    QColor colour(int index) const;
     void choosePrimary(int index);
     void chooseSecondary(int index);
 

@@ -1,5 +1,6 @@
 #include "editors/palette/colourselector.h"
 
+#include "editors/palette/colourmarks.h"
 #include "ui/gridkeys.h"
 
 #include <QMouseEvent>
@@ -183,12 +184,8 @@ void ColourSelector::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     const QPalette &colours = QWidget::palette();
-    // The foreground's swatch overlaps the background's, as in most paint programs.
-    painter.setPen(colours.color(QPalette::Mid));
-    painter.setBrush(colour(m_backIndex));
-    painter.drawRect(oriented({17, 17, 26, 26}));
-    painter.setBrush(colour(m_foreIndex));
-    painter.drawRect(oriented({4, 4, 26, 26}));
+    ColourMarks::paintSwatches(painter, oriented({4, 4, 40, 40}), colour(m_foreIndex), colour(m_backIndex),
+                               colours.color(QPalette::Mid));
 
     const int first = (m_offset - 1) * ColoursInBank;
     for (int cell = 0; cell < ColoursInBank; ++cell) {
@@ -196,14 +193,11 @@ void ColourSelector::paintEvent(QPaintEvent *)
         painter.setPen(Qt::black);
         painter.setBrush(colour(first + cell));
         painter.drawRect(rect);
-        painter.setBrush(Qt::NoBrush);
-        // Frames that read on any colour: solid for the foreground, dotted for the background.
-        if (first + cell == m_foreIndex || first + cell == m_backIndex) {
-            painter.setPen(QPen(Qt::black, 1));
-            painter.drawRect(rect.adjusted(2, 2, -2, -2));
-            painter.setPen(QPen(Qt::white, 1, first + cell == m_foreIndex ? Qt::SolidLine : Qt::DotLine));
-            painter.drawRect(rect.adjusted(1, 1, -1, -1));
-        }
+        const QRect marked = cellRect(cell).adjusted(2, 2, -2, -2);
+        if (first + cell == m_foreIndex)
+            ColourMarks::paintFore(painter, marked);
+        if (first + cell == m_backIndex)
+            ColourMarks::paintBack(painter, marked);
     }
     if (hasFocus()) {
         painter.setPen(colours.color(QPalette::Highlight));

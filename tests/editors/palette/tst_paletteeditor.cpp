@@ -1,5 +1,6 @@
 #include "editors/palette/channellevels.h"
 #include "editors/palette/coloureditor.h"
+#include "editors/palette/colourpalette.h"
 #include "editors/palette/colourselector.h"
 #include "editors/palette/palettedialog.h"
 #include "editors/palette/paletteeditor.h"
@@ -179,6 +180,39 @@ private slots:
             QTest::keyClick(&selector, flat ? Qt::Key_Up : Qt::Key_Left); // there is no third row
             QTest::keyClick(&selector, flat ? Qt::Key_Right : Qt::Key_Down, Qt::ShiftModifier);
             QCOMPARE(log.take(), (QStringList{"fore 27", "back 27", "fore 19", "back 28"}));
+        }
+    }
+
+    void chosenColoursAreSeenOnEveryColour()
+    {
+        for (const QColor colour : {Qt::black, Qt::white, Qt::gray}) {
+            for (const int count : {16, 256}) {
+                Palette palette;
+                palette.fill(colour, false);
+                palette.setRawColour(5, 0xE000); // red
+                ColourPalette chooser;
+                chooser.setPalette(&palette);
+                chooser.setRange(0, count);
+                chooser.resize(300, chooser.heightForWidth(300));
+                chooser.show();
+                const auto before = chooser.grab().toImage();
+                SignalLog log;
+                log.listen(chooser, &ColourPalette::primaryIndexChanged, "fore");
+                log.listen(chooser, &ColourPalette::secondaryIndexChanged, "back");
+                const int cell = count == 16 ? 24 : 14;
+                const QPoint third(42 + 2 * cell + cell / 2, 2 + cell / 2);
+                QTest::mouseClick(&chooser, Qt::RightButton, Qt::NoModifier, third);
+                QTest::mouseClick(&chooser, Qt::LeftButton, Qt::NoModifier, third + QPoint(3 * cell, 0));
+                QTest::mouseClick(&chooser, Qt::LeftButton, Qt::NoModifier, QPoint(20, 20)); // a swatch
+                QCOMPARE(log.take(), (QStringList{"back 2", "fore 5"}));
+                const auto after = chooser.grab().toImage();
+                QCOMPARE(after.pixelColor(5, 5), QColor(Qt::red)); // the foreground's swatch
+                QSet<QRgb> mark;
+                for (int x = third.x() - cell / 2; x < third.x() + cell / 2; ++x)
+                    mark += after.pixel(x, third.y() - cell / 2);
+                QVERIFY(mark.contains(qRgb(0, 0, 0)) && mark.contains(qRgb(255, 255, 255)));
+                QCOMPARE(after.pixel(third), before.pixel(third)); // the colour itself is still to be seen
+            }
         }
     }
 
