@@ -2,6 +2,7 @@
 
 #include "app/documenttabview.h"
 #include "app/menus/editmenu.h"
+#include "app/menus/imagemenu.h"
 #include "app/menus/mapmenu.h"
 #include "app/menus/menubar.h"
 #include "app/menus/palettemenu.h"
@@ -89,6 +90,11 @@ void DocumentController::connectTabs()
     follow(&DocumentTabView::ImageEditorActivated, &DocumentController::setActiveImageEditor);
     follow(&DocumentTabView::SpriteEditorActivated, &DocumentController::setActiveSpriteEditor);
     follow(&DocumentTabView::BlockEditorActivated, &DocumentController::setActiveBlockEditor);
+    connect(m_views.tabs, &DocumentTabView::currentChanged, this, [this] {
+        const auto *editor = qobject_cast<ImageEditor::View *>(m_views.tabs->currentWidget());
+        m_views.menuBar->imageMenu()->setImage(editor ? editor->image() : nullptr);
+    });
+    connect(m_views.menuBar->imageMenu(), &ImageMenu::swapPalette, this, &DocumentController::changeImagePalette);
     connect(m_views.tabs, &DocumentTabView::showAnimPicker, m_views.mapObjects, &QWidget::raise);
     const ImageEditor::View *scratch = m_views.tabs->scratchEditor();
     connect(scratch, &ImageEditor::View::error, this, &DocumentController::error);
@@ -454,6 +460,16 @@ void DocumentController::setActiveImageEditor(QUuid imageId)
         closeWith(image, editor);
     }
     setActivePalette(image->paletteId());
+}
+
+void DocumentController::changeImagePalette(QUuid paletteId)
+{
+    auto *editor = qobject_cast<ImageEditor::View *>(m_views.tabs->currentWidget());
+    const QPointer<Palette> palette = project() ? project()->palette(paletteId) : nullptr;
+    if (!editor || !palette)
+        return;
+    editor->swapPalette(palette);
+    showPalette(palette);
 }
 
 void DocumentController::scratchEditorActivated()

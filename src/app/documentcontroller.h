@@ -56,6 +56,8 @@ public slots:
     void setActiveSpriteEditor(QUuid spriteBankId);
     void setActiveBlockEditor(QUuid blocksId);
     void setActiveImageEditor(QUuid imageId);
+    /// Shows the image in front with another palette.
+    void changeImagePalette(QUuid paletteId);
     void scratchEditorActivated();
 
     // What is opened is seen: these bring up its dock, even when it was closed, besides activating the asset.

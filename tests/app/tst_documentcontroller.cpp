@@ -1,6 +1,7 @@
 #include "app/mainwindow.h"
 
 #include "app/menus/editmenu.h"
+#include "app/menus/imagemenu.h"
 #include "app/menus/mapmenu.h"
 #include "app/menus/palettemenu.h"
 #include "app/menus/spritemenu.h"
@@ -95,6 +96,20 @@ private slots:
         }
         views().project->tree()->itemOf(m_assets->bank->id())->setText(0, "Heroine");
         QCOMPARE(tabs()->tabText(4), "Heroine");
+    }
+
+    void imageInFrontTakesAnotherPalette()
+    {
+        const auto offered = [this] { return m_window->menus()->imageMenu()->actions().last()->isEnabled(); };
+        documents()->setActiveMap(m_assets->map->id());
+        QVERIFY(!offered());
+        documents()->setActiveImageEditor(m_assets->image->id());
+        QVERIFY(offered());
+        emit m_window->menus()->imageMenu()->swapPalette(m_assets->tilePalette->id());
+        QCOMPARE(m_assets->image->palette(), m_assets->tilePalette);
+        QCOMPARE(views().palette->palette(), m_assets->tilePalette);
+        documents()->undoGroup()->undo();
+        QCOMPARE(m_assets->image->palette(), m_assets->imagePalette);
     }
 
     void tellsDocksAndMenusWhatIsActive()

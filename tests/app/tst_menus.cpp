@@ -117,7 +117,7 @@ private slots:
             "Next Tile [Ctrl+]], Previous Tile [Ctrl+[], Tile List Magnification>",
             "New Map [Ctrl+Alt+M], -, Import, Export",
             "New [Ctrl+Shift+B], Import, -, Swap Palette, Export Data",
-            "New Image",
+            "New Image, -, Swap Palette",
             "Scratch Image Editor, Status Bar, Reset Layout, Window>",
             QString::fromUtf8("Check for Updates…, About"),
         };

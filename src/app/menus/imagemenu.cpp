@@ -1,16 +1,26 @@
 #include "app/menus/imagemenu.h"
 
 #include "app/dialogs/imagedialog.h"
+#include "app/dialogs/paletteselectordialog.h"
+#include "model/image.h"
 #include "model/palette.h"
 
 ImageMenu::ImageMenu(QWidget *parent) : ProjectMenu(tr("&Image"), parent)
 {
     addCommand(this, tr("&New Image"), &ImageMenu::showNewDialog, {}, QStringLiteral(":/Image"));
+    addSeparator();
+    m_swap = addCommand(this, tr("&Swap Palette"), &ImageMenu::showSwapPaletteDialog, {}, QStringLiteral(":/Swap"));
+}
+
+void ImageMenu::setImage(const QPointer<Image> &image)
+{
+    setActive(m_image, image);
 }
 
 void ImageMenu::updateActions()
 {
     setEnabled(project());
+    m_swap->setEnabled(m_image);
 }
 
 void ImageMenu::showNewDialog()
@@ -19,4 +29,10 @@ void ImageMenu::showNewDialog()
         return;
     const Palette *inFront = m_paletteInFront();
     lazily(m_dialog, this, &ImageMenu::createImage)->show(*project(), inFront ? inFront->id() : QUuid());
+}
+
+void ImageMenu::showSwapPaletteDialog()
+{
+    if (project() && m_image)
+        lazily(m_paletteDialog, this, &ImageMenu::swapPalette)->show(*project(), m_image->paletteId());
 }

@@ -10,6 +10,7 @@
 #include "ui/assettitle.h"
 #include "ui/replacing.h"
 #include "ui/toolpalette.h"
+#include "undo/snapshotcommand.h"
 
 #include <QFileDialog>
 #include <QHBoxLayout>
@@ -95,6 +96,8 @@ void View::setUndoStack(QUndoStack *stack)
         return;
     connect(stack, &QUndoStack::indexChanged, this, [this] {
         // undo of an edit that was made in an editor which was closed since
+        if (m_image && m_image->palette() != canvas()->palette())
+            setPalette(m_image->palette());
         if (m_image && !Layer2Image::haveSameIndices(m_image->image(), canvas()->image()))
             load(m_image->image());
     });
@@ -127,6 +130,23 @@ void View::setBackIndex(int index)
 {
     canvas()->setPaper(index);
     m_colours->setSecondaryIndex(index);
+}
+
+void View::swapPalette(const QPointer<Palette> &palette)
+{
+    if (!m_image || !palette || m_image->palette() == palette)
+        return;
+    const QPointer<Palette> before = m_image->palette();
+    m_image->setPalette(palette);
+    setPalette(palette);
+    if (!m_undoStack)
+        return;
+    const auto bind = [image = m_image, hadNone = !before](const QPointer<Palette> &other) {
+        if (image && (other || hadNone)) // else the palette was deleted since
+            image->setPalette(other);
+    };
+    m_undoStack->push(
+        new SnapshotCommand<QPointer<Palette>>(tr("Swap Palette"), before, palette, bind, -1, QVariant(), -1));
 }
 
 // ---- Edits ----------------------------------------------------------------------------------
@@ -216,6 +236,7 @@ void View::openExportFile()
 
 void View::exportImage(const QString &fileName)
 {
+    // a name that nobody chose in the dialog was not completed by it either
     if (m_exportFile && !mayReplaceChosenFile(*m_exportFile))
         return;
     if (canvas()->image().save(fileName))

@@ -31,6 +31,8 @@ public:
     void setPixels(const QImage &pixels);
     QImage pixels() const;
     void setPalette(const QPointer<Palette> &palette);
+    /// Shows the image with another palette from now on, as an undo step; its pixels keep their indices.
+    void swapPalette(const QPointer<Palette> &palette);
     void setUndoStack(QUndoStack *stack);
 
 signals:

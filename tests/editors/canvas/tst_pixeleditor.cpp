@@ -142,6 +142,10 @@ struct ImageScene : Scene
     void destroy() override { images.clear(); }
 
     QString file(const QString &name) const { return folder.filePath(name); }
+    void exportAs(const QString &name) const
+    {
+        QMetaObject::invokeMethod(view.get(), "exportImage", Q_ARG(QString, file(name)));
+    }
     /// Answers the file dialog that an action of the view opens.
     void choose(ToolButton action, const QString &name) const
     {
@@ -464,6 +468,8 @@ private slots:
         QSignalSpy errors(scene.view.get(), &View::error);
         scene.canvas().setInk(0xE0);
         scene.draw(0, 6);
+        scene.exportAs("early.png"); // no dialog was opened yet
+        QVERIFY(QFile::exists(scene.file("early.png")));
         scene.choose(Save, "out.png");
         QCOMPARE(QImage(scene.file("out.png")).pixelColor(6, 6), QColor(Qt::red));
         scene.choose(Save, "no/such/folder/out.png");
@@ -476,6 +482,31 @@ private slots:
         EditorInput::Mouse{scene.canvas()}.drag({{5, 5}});
         QCOMPARE(changes.count(), 1);
         QCOMPARE(changes[0][0].value<QImage>().pixelIndex(5, 5), 0xE0);
+    }
+
+    void imageTakesAnotherPalette()
+    {
+        ImageScene scene;
+        Palette *other = new Palette;
+        other->fill(Qt::red, false);
+        const auto bound = [&scene](Palette *palette) {
+            return scene.images[0]->palette() == palette && scene.canvas().palette() == palette
+                && scene.canvas().image().colorTable() == palette->colourTable();
+        };
+        scene.draw(0, 5);
+        scene.view->swapPalette(&scene.palette);
+        scene.view->swapPalette(other);
+        QVERIFY(bound(other) && scene.stack.count() == 2);
+        scene.reopen();
+        scene.stack.undo();
+        QVERIFY(bound(&scene.palette));
+        QCOMPARE(scene.at(0, 5), 1);
+        scene.stack.redo();
+        QVERIFY(bound(other));
+        scene.stack.undo();
+        delete other;
+        scene.stack.redo();
+        QVERIFY(bound(&scene.palette)); // what was deleted since is not taken
     }
 
     void imageImportsMapOntoThePalette()
