@@ -97,6 +97,7 @@ private slots:
         f.grid.scrollDown();
         f.grid.scrollUp();
         f.grid.scrollUp(); // there is nothing above
+        QCOMPARE(f.grid.findChild<QRubberBand *>()->geometry(), QRect(QPoint(24, 40), QPoint(56, 72)));
         f.move(f.at(4, 4));
         f.release(f.at(4, 4));
         QCOMPARE(f.grid.selection(), QRect(QPoint(2, 2), QPoint(5, 4)));

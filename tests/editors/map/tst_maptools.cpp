@@ -119,6 +119,8 @@ private slots:
             QCOMPARE(f.grid.mode(), Draw);
             QCOMPARE(f.grid.selection(), cells);
             QCOMPARE(f.grid.pasteArea(), cells);
+            f.grid.setMode(Draw);
+            QVERIFY(f.grid.selection().isEmpty());
         }
     }
 
@@ -157,6 +159,7 @@ private slots:
         for (const ToolButton mode : {Select, Pick, Pick, Paste}) // which is refused
             f.grid.setMode(mode);
         f.click(f.at(4, 2), Qt::RightButton);
+        QCOMPARE(f.grid.mode(), Pick);
         f.click(f.at(4, 2));
         QCOMPARE(picked, (Signals{{QVariant::fromValue(tile)}}));
         QCOMPARE(f.grid.mode(), Select);
