@@ -29,7 +29,7 @@ NextSteps::NextSteps(const MenuBar &menus, QWidget *parent) : QWidget(parent)
     };
     add(tr("A map from a picture"), QStringLiteral(":/Import"),
         tr("Cuts a picture into tiles and makes a palette, a tile set and a map of it"), menus.mapMenu(),
-        &MapMenu::showImportDialog);
+        &MapMenu::showPictureDialog);
     add(tr("A new palette"), QStringLiteral(":/Palette"), tr("The colours that everything else is drawn with"),
         menus.paletteMenu(), &PaletteMenu::showNewDialog);
     add(tr("A new tile set"), QStringLiteral(":/TileSet"), tr("The tiles that maps are built from"), menus.tileMenu(),

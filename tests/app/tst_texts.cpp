@@ -16,6 +16,7 @@
 #include "support/testmain.h"
 #include "ui/messagedialog.h"
 
+#include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
@@ -345,6 +346,13 @@ private slots:
         shown.fill(Qt::magenta);
         canvas->render(&shown, {}, {}, {});
         QCOMPARE(shown.pixelColor(0, 0), canvas->palette().color(QPalette::Window));
+        QString listed;
+        m_window->menus()->setFileChooser([&listed](const FileRequest &request, QWidget *) {
+            listed = request.nameFilters.value(0);
+            return QString();
+        });
+        steps->findChild<QAbstractButton *>()->click();
+        QVERIFY2(listed.contains("*.png"), qPrintable(listed));
         project().createPalette(CreateAction::Blank, "Main"); // which is not listed, and makes no picture yet
         QVERIFY(steps->isVisible());
         const QUuid tiles = project().createTileSet("Tiles", {}, 1, false)->id();

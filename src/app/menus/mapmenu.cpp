@@ -27,13 +27,31 @@ void MapMenu::showNewDialog()
         lazily(m_dialog, this, &MapMenu::create)->show(*project());
 }
 
+QString MapMenu::nextTilesFilter()
+{
+    return tr("NextTiles (*.nxm *.nxt *.nxp *.nxb)");
+}
+
+QString MapMenu::imagesFilter()
+{
+    return tr("Image files (*.png *.bmp *.gif *.jpg *.jpeg *.pbm *.pgm *.ppm *.xbm *.xpm)");
+}
+
 void MapMenu::showImportDialog()
+{
+    askForImport({nextTilesFilter(), imagesFilter()});
+}
+
+void MapMenu::showPictureDialog()
+{
+    askForImport({imagesFilter(), nextTilesFilter()});
+}
+
+void MapMenu::askForImport(const QStringList &nameFilters)
 {
     if (!project())
         return;
-    const QString file = fileToOpen(tr("Import Map Data"),
-                                    {tr("NextTiles (*.nxm *.nxt *.nxp *.nxb)"),
-                                     tr("Image files (*.png *.bmp *.gif *.jpg *.jpeg *.pbm *.pgm *.ppm *.xbm *.xpm)")});
+    const QString file = fileToOpen(tr("Import Map Data"), nameFilters);
     if (!file.isEmpty())
         emit importRequested(file);
 }

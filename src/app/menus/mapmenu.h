@@ -23,6 +23,8 @@ public slots:
     void setMap(const QPointer<Map> &map);
     void showNewDialog();
     void showImportDialog();
+    /// The same dialog, which lists pictures first.
+    void showPictureDialog();
     void showExportDialog();
 
 signals:
@@ -33,6 +35,10 @@ protected:
     void updateActions() override;
 
 private:
+    [[nodiscard]] static QString nextTilesFilter();
+    [[nodiscard]] static QString imagesFilter();
+    void askForImport(const QStringList &nameFilters);
+
     QPointer<Map> m_map;
     QAction *m_export;
     QPointer<MapDialog> m_dialog;
