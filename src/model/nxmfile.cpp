@@ -1,5 +1,7 @@
 #include "model/nxmfile.h"
 
+#include "model/rawfile.h"
+
 #include <QFile>
 #include <QtEndian>
 
@@ -15,7 +17,7 @@ constexpr int MaxBlocks = 0x10000; // all that a block number can name
 std::optional<QByteArray> readStart(const QString &fileName, qint64 maxSize)
 {
     QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!RawFile::openForReading(file))
         return std::nullopt;
     return file.read(maxSize);
 }

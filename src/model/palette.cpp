@@ -179,7 +179,7 @@ bool Palette::importData(const QString &fileName)
 {
     const qsizetype size = fileSize(fileName);
     QFile file(fileName);
-    if (file.size() != size || !file.open(QIODevice::ReadOnly))
+    if (file.size() != size || !RawFile::openForReading(file))
         return false;
     const QByteArray bytes = file.read(size);
     if (bytes.size() != size)

@@ -189,7 +189,7 @@ void SpriteBank::moveSprite(int from, int to)
 bool SpriteBank::importSpr(const QString &fileName)
 {
     QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly) || !hasRoomFor(file.size() / SpriteBytes))
+    if (!RawFile::openForReading(file) || !hasRoomFor(file.size() / SpriteBytes))
         return false;
     const QByteArray data = file.read(file.size());
     const int first = count();

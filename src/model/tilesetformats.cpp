@@ -39,7 +39,7 @@ bool TileSet::exportToDirectory(const QString &folder) const
 bool TileSet::importNxt(const QString &filename)
 {
     QFile file(filename);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!RawFile::openForReading(file))
         return false;
     const QByteArray bytes = file.read(qint64(count()) * Tile::DataSize);
     for (int i = 0; (i + 1) * qsizetype(Tile::DataSize) <= bytes.size(); ++i) {
@@ -107,7 +107,7 @@ bool TileSet::exportAttributesBinary(const QString &fileName) const
 bool TileSet::importZXFont(int index, int foreIndex, int backIndex, int offset, const QString &filename)
 {
     QFile file(filename);
-    if (!file.open(QIODevice::ReadOnly) || index < 0)
+    if (!RawFile::openForReading(file) || index < 0)
         return false;
     for (int i = index; i < count() && !file.atEnd(); ++i) {
         const QByteArray rows = file.read(Tile::Size);

@@ -1,5 +1,7 @@
 #include "model/writeproblem.h"
 
+#include "model/rawfile.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
@@ -22,7 +24,9 @@ QString writeProblem(const QString &filePath)
         return tr("There is no folder %1").arg(QDir::toNativeSeparators(folder.filePath()));
     if (file.isDir())
         return tr("%1 is a folder").arg(path);
-    if (file.exists() ? !file.isWritable() : !folder.isWritable())
+    if (file.exists() && !file.isFile())
+        return tr("%1 is a pipe or a device, not a file").arg(path);
+    if (file.exists() ? !RawFile::isWritable(filePath) : !folder.isWritable())
         return tr("You may not write to %1").arg(path);
     return tr("%1 could not be written to its end; there may be no room left").arg(path);
 }

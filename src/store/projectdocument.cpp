@@ -3,6 +3,7 @@
 #include "model/image.h"
 #include "model/map.h"
 #include "model/mapobjects.h"
+#include "model/nximage.h"
 #include "model/palette.h"
 #include "model/pngreader.h"
 #include "model/project.h"
@@ -155,7 +156,7 @@ void readScratch(DocumentReader &reader)
         project.setScratchPalette(palettes.first());
     const QImage stored = reader.readPicture(ScratchMember, DocumentReader::Use::Pixels, false).image;
     if (stored.size() == project.scratchImage().size() && stored.depth() <= 8 && !stored.isNull())
-        project.setScratchImage(stored.convertToFormat(QImage::Format_Indexed8));
+        project.setScratchImage(NxImage::indexed(stored, nullptr));
 }
 
 /// Every placement names an animation of a block set, so this comes last.

@@ -3,8 +3,10 @@
 #include "model/map.h"
 #include "model/palette.h"
 #include "model/project.h"
+#include "model/rawfile.h"
 #include "model/tileset.h"
 #include "model/writeproblem.h"
+#include "store/fileownership.h"
 #include "store/projectdocument.h"
 #include "store/zipfile.h"
 
@@ -18,6 +20,14 @@ namespace {
 // Milliseconds that a message stays in the status bar
 constexpr int FileMessageTime = 2500;
 constexpr int ExportMessageTime = 2000;
+
+/// The file that is to be replaced: what a link leads to, so that it stays a link.
+QString targetOf(const QString &fileName)
+{
+    const QFileInfo file(fileName);
+    const QString target = file.isSymLink() ? file.canonicalFilePath() : QString(); // empty where it leads nowhere
+    return target.isEmpty() ? fileName : target;
+}
 
 } // namespace
 
@@ -69,10 +79,13 @@ bool ProjectStore::save(bool backup)
     const ProjectMembers members = serializeProject(*m_project, true);
     if (const QString lost = unreadableMember(members); !lost.isEmpty())
         return failToSave(tr("Could not write %1").arg(lost));
+    const QString file = targetOf(m_fileName);
+    if (!RawFile::isWritable(file))
+        return failToSave(tr("Could not create the project file"));
     if (backup)
-        backUp();
+        backUp(file);
     ZipFile archive;
-    if (!archive.openForWriting(m_fileName))
+    if (!archive.openForWriting(file))
         return failToSave(tr("Could not create the project file"));
     m_incompleteFile = m_fileName;
     for (auto member = members.cbegin(); member != members.cend(); ++member) {
@@ -115,13 +128,14 @@ void ProjectStore::close()
     m_incompleteFile.clear();
 }
 
-void ProjectStore::backUp() const
+void ProjectStore::backUp(const QString &file) const
 {
-    if (!QFileInfo(m_fileName).isFile() || m_fileName == m_incompleteFile)
+    if (!QFileInfo(file).isFile() || m_fileName == m_incompleteFile)
         return;
-    const QString backupName = QStringLiteral("%1.bak").arg(m_fileName);
+    const QString backupName = file + QStringLiteral(".bak"); // a name may hold what arg() would replace
     QFile::remove(backupName);
-    QFile::rename(m_fileName, backupName);
+    if (QFile::rename(file, backupName))
+        FileOwnership::createLike(file, backupName);
 }
 
 bool ProjectStore::failToLoad(const QString &message, const QString &fileName)

@@ -80,7 +80,7 @@ private:
     void exportAsset(const QPointer<Asset> &asset, const QString &dir, const ExportMessages &messages);
     /// Keeps the file under the name of its backup, unless it is what a failed save left behind, which must
     /// not push out the last whole version.
-    void backUp() const;
+    void backUp(const QString &file) const;
     [[nodiscard]] bool failToLoad(const QString &message, const QString &fileName);
     [[nodiscard]] bool failToSave(const QString &message);
 

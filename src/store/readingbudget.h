@@ -36,7 +36,7 @@ public:
 
 private:
     /// What is read for an id once more takes the place of what was read before: that much work for nothing.
-    static constexpr int Again = 64;
+    static constexpr int Again = 8;
 
     qint64 m_pixels = qint64(1) << 28; ///< four of the largest pictures, or half a million tiles
     /// Some maps of 9999 × 9999 cells, one of them without two rows that are equal.

@@ -1,5 +1,7 @@
 #include "store/zipfile.h"
 
+#include "model/rawfile.h"
+
 #include <QDateTime>
 #include <QFileInfo>
 #include <QHash>
@@ -149,6 +151,8 @@ bool ZipFile::openForReading(const QString &fileName)
 bool ZipFile::openForWriting(const QString &fileName)
 {
     close();
+    if (!RawFile::isWritable(fileName))
+        return false;
     const zipFile writer = zipOpen64(fileName.toLocal8Bit().constData(), APPEND_STATUS_CREATE);
     if (!writer)
         return false;

@@ -3,6 +3,7 @@
 #include "support/archivetools.h"
 #include "support/projectmembers.h"
 #include "support/sampleproject.h"
+#include "support/stderrwatch.h"
 #include "support/testmain.h"
 
 #include <QLoggingCategory>
@@ -11,6 +12,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <optional>
 #include <sys/resource.h>
 
 using namespace ArchiveTools;
@@ -79,6 +81,7 @@ class TestDamagedArchives : public QObject
 private slots:
     void initTestCase()
     {
+        m_output.emplace();
         QLoggingCategory::setFilterRules("*.warning=false\n*.info=false"); // each damage is worth a few
         Project project;
         SampleProject::fill(project);
@@ -124,6 +127,36 @@ private slots:
                 survives(archive, QStringLiteral("random bytes %1 from %2").arg(round).arg(from), Either);
             }
         }
+    }
+
+    void workThatIsMultiplied()
+    {
+        QVERIFY(documentOf(m_members).value("images").toArray().size() == 1);
+        for (const char *kind : {"tilesets", "maps", "sprites", "images"}) {
+            // a picture of a megabyte, or as many cells, over and over again
+            const QString id = valueAt(documentOf(m_members), {kind, "0", "id"}).toString();
+            const QString name = m_members.keys().filter(id).first();
+            ProjectMembers members = m_members;
+            QJsonArray assets = documentOf(members).value(kind).toArray();
+            QJsonObject asset = assets.first().toObject();
+            if (name.startsWith("tilemap"))
+                members.insert(name, QByteArray::fromHex("000003E8000003E8").append(12'000'000, '\1'));
+            else if (name.startsWith("tileset"))
+                asset.insert("count", 16384);
+            if (name.endsWith(".png"))
+                members.insert(name, png(gradient({name.startsWith("tileset") ? 8 : 16, 131'072})));
+            for (const auto &[times, expected] : {std::pair{2, Loads}, {1000, Refused}}) {
+                replace(members, {kind}, many(times, asset));
+                survives(archiveOf(members), QStringLiteral("%1 %2 times").arg(name).arg(times), expected);
+            }
+        }
+    }
+
+    void longTails()
+    {
+        for (auto member = m_members.cbegin(); member != m_members.cend(); ++member)
+            survives(archiveWith(member.key(), *member + QByteArray(2 << 20, ' ')), member.key() + " with a tail",
+                     Loads);
     }
 
     void impossibleCounts()
@@ -214,6 +247,7 @@ private slots:
     void cleanupTestCase()
     {
         QLoggingCategory::setFilterRules({});
+        QCOMPARE(m_output->written(), QByteArray());
         rusage usage{};
         getrusage(RUSAGE_SELF, &usage);
         qInfo("seed %u, peak memory %ld MiB", Seed, usage.ru_maxrss / 1024);
@@ -256,6 +290,7 @@ private:
         QVERIFY2(store.load(m_folder.filePath("good.quenmora")), outcome);
     }
 
+    std::optional<StderrWatch> m_output; ///< everything is to go through the log
     QTemporaryDir m_folder;
     const QString m_file = m_folder.filePath("damaged.quenmora");
     ProjectMembers m_members;

@@ -297,6 +297,30 @@ private slots:
         }
     }
 
+    void keepsIndicesAndColoursThatAreARampOfGrey()
+    {
+        QList<QRgb> greys;
+        for (int level = 0; level < 256; ++level)
+            greys.append(qRgb(level, level, level));
+        QImage pixels = gradient({16, 16}); // which a PNG then holds as levels of grey
+        pixels.setColorTable(greys);
+        QImage scratch = gradient({256, 192});
+        scratch.setColorTable(greys);
+        Project project;
+        project.createImage(Quenmora::Layer2_256x192, "image", {})->setImage(pixels);
+        project.createSpriteBank(Quenmora::EightBit, "bank", {})->setWholeImage(pixels);
+        project.setScratchImage(scratch);
+        Project again;
+        read(again, serializeProject(project, true));
+        for (const auto &[image, before] : {std::pair{again.images().first()->image(), pixels},
+                                            {again.spriteBanks().first()->image(), pixels},
+                                            {again.scratchImage(), scratch}}) {
+            QCOMPARE(image.format(), QImage::Format_Indexed8);
+            QCOMPARE(image.colorTable(), greys);
+            QCOMPARE(indices(image), indices(before));
+        }
+    }
+
     void stampsPlacementsIntoTheObjectLayer()
     {
         ProjectMembers members = leastMembers();
@@ -320,6 +344,17 @@ private slots:
         QVERIFY2(rewritten(members) == members, "a tile set without tiles has no picture");
         QCOMPARE(QImage::fromData(members.value("scratch.png"), "png").colorCount(), 256); // it had no colours so far
         QCOMPARE(unreadableMember({{"tileset/1.png", {}}}), "tileset/1.png");
+        const QByteArray tiles = png(plainImage({8, 800'000}, 0)); // an object each
+        QCOMPARE(unreadableMember({{"tileset/1.png", tiles}}), "");
+        QVERIFY(unreadableMember({{"tileset/1.png", tiles},
+                                  {"tileset/2.png", tiles},
+                                  {"tileset/3.png", tiles},
+                                  {"tileset/4.png", tiles},
+                                  {"tileset/5.png", tiles},
+                                  {"tileset/6.png", tiles}})
+                == "tileset/6.png");
+        const QByteArray wide = QByteArray::fromHex("0000000100010001").append(12 * 65'537, '\0');
+        QCOMPARE(unreadableMember({{"tilemap/1", wide}}), "tilemap/1");
         QCOMPARE(unreadableMember({{"project.json", QByteArray(3 << 20, '{')}}), "project.json");
         const QByteArray many = "{\"images\": [{}" + QByteArray(",{}").repeated(40'000) + "]}";
         QCOMPARE(unreadableMember({{"project.json", many}}), "project.json");

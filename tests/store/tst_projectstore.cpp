@@ -11,6 +11,9 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 using ArchiveTools::writeArchive;
 
 /// Tests a store in a folder of its own.
@@ -107,6 +110,62 @@ private slots:
             QCOMPARE(m_log->take(), QStringList(2, "saveError Could not create the project file"));
             QCOMPARE(entries(), (QStringList{"file", "folder"}));
         }
+    }
+
+    void refusesWhatIsNoFileOrKeptFromBeingWritten()
+    {
+        const auto encoded = [this](const char *name) { return QFile::encodeName(path(name)); };
+        QVERIFY(writeFile(path("kept"), "last version") && chmod(encoded("kept"), 0444) == 0);
+        QVERIFY(mkfifo(encoded("pipe"), 0600) == 0);
+        QVERIFY(QFile::link(path("pipe"), path("link")) && QFile::link("/dev/null", path("device")));
+        Project *project = m_store->newProject("new");
+        SampleProject::fill(*project);
+        const auto tiles = project->tileSets().first();
+        for (const char *name : {"kept", "pipe", "link", "device"}) { // at once: nobody reads the pipe
+            m_store->setFileName(path(name));
+            QVERIFY(!m_store->save(true) && !m_store->save(false));
+            QCOMPARE(m_log->take(), QStringList(2, "saveError Could not create the project file"));
+            QVERIFY(!tiles->exportNxt(path(name)));
+            if (QString(name) == "kept")
+                continue;
+            QVERIFY(!tiles->importNxt(path(name)) && !project->palettes().first()->importData(path(name)));
+            QVERIFY(!project->spriteBanks().first()->importSpr(path(name)));
+            QVERIFY(!project->maps().first()->importNxm(path(name), path(name)));
+            QVERIFY(!m_store->load(path(name)));
+            QCOMPARE(m_log->take(), QStringList("loadError Invalid project file"));
+        }
+        QCOMPARE(readFile(path("kept")), "last version");
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot).size(), 4);
+    }
+
+    void keepsLinksAndWhoMayReadTheFile()
+    {
+        QVERIFY(QDir(m_folder->path()).mkdir("folder"));
+        const QString target = path("folder/target%1.quenmora");
+        m_store->newProject("one");
+        QVERIFY(m_store->saveAs(target) && QFile::link(target, path("link")));
+        const QByteArray name = QFile::encodeName(target);
+        const bool isAdministrator = chown(name, 1, 2) == 0;
+        const auto status = [](const QByteArray &file) {
+            struct stat found = {};
+            stat(file, &found);
+            return found;
+        };
+        for (const mode_t mode : {mode_t(0600), mode_t(0664)}) {
+            for (const bool backUp : {true, false}) {
+                QVERIFY(chmod(name, mode) == 0);
+                const QByteArray before = readFile(target);
+                m_store->project()->setName(m_store->project()->name() + 'x');
+                m_store->setFileName(path("link"));
+                QVERIFY(m_store->save(backUp));
+                QCOMPARE(QFileInfo(path("link")).symLinkTarget(), target);
+                QVERIFY(readFile(target) != before);
+                QCOMPARE(readFile(target + ".bak") == before, backUp);
+                QCOMPARE(status(name).st_mode & 07777, mode);
+                QVERIFY(!isAdministrator || (status(name).st_uid == 1 && status(name).st_gid == 2));
+            }
+        }
+        QCOMPARE(entries(), (QStringList{"folder", "link"})); // the backups are beside the target
     }
 
     void refusesToSaveWhatCouldNotBeLoaded()
