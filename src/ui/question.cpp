@@ -1,5 +1,6 @@
 #include "ui/question.h"
 
+#include "ui/plaintext.h"
 #include "ui/titlewidth.h"
 
 #include <QMessageBox>
@@ -12,7 +13,7 @@ bool askYesOrNo(QWidget *parent, const QString &title, const QString &text, cons
         new QMessageBox(QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No, parent);
     box->setDefaultButton(QMessageBox::No);
     box->setTextFormat(Qt::PlainText);
-    box->setInformativeText(details);
+    box->setInformativeText(plainText(details)); // whose format is always guessed
     widenForTitle(*box);
     const bool confirmed = box->exec() == QMessageBox::Yes;
     if (box)
