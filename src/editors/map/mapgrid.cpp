@@ -16,10 +16,7 @@ using namespace Quenmora::Ui;
 
 namespace MapEditor {
 
-MapGrid::MapGrid(QWidget *parent)
-    : QWidget(parent)
-    , m_rubberBand(new OutlineBand(this))
-    , m_contextMenu(new QMenu(this))
+MapGrid::MapGrid(QWidget *parent) : QWidget(parent), m_rubberBand(new OutlineBand(this)), m_contextMenu(new QMenu(this))
 {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
