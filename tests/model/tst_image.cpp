@@ -48,11 +48,18 @@ private slots:
         Image image(Quenmora::LoRes_128x96);
         QCOMPARE(indices(image.image()), QByteArray(128 * 96, '\0'));
         QVERIFY(Image(Quenmora::ImageMode(4)).image().isNull());
+        image.setImage(row({0xffff0000, 0xff0000ff})); // without a palette it gets indices of its own
+        QCOMPARE(indices(image.image()), QByteArray("\0\1", 2));
         {
+            Palette former;
             Palette palette;
             palette.loadStandardNext();
-            image.setPalette(&palette);
+            palette.storeRawColour(9, 0xff01);
+            for (Palette *bound : {&former, &palette})
+                image.setPalette(bound);
             QVERIFY(image.paletteId() == palette.id() && image.image().colorTable() == palette.colourTable());
+            image.setImage(row({0xffffffff, 0xff000000}));
+            QCOMPARE(indices(image.image()), QByteArray("\x09\0", 2));
             QImage picture = plainImage({2, 1}, 200);
             picture.setColorTable({qRgb(1, 2, 3)});
             image.setImage(picture);
@@ -61,20 +68,6 @@ private slots:
             QCOMPARE(image.image().colorTable(), palette.colourTable());
         }
         QVERIFY(image.paletteId().isNull());
-        image.setImage(QImage());
-        QVERIFY(image.image().isNull());
-    }
-
-    void staysIndexed()
-    {
-        Palette palette;
-        palette.storeRawColour(9, 0xff01);
-        Image image(Quenmora::LoRes_128x96);
-        image.setImage(row({0xffff0000, 0xff0000ff}));
-        QCOMPARE(indices(image.image()), QByteArray("\0\1", 2));
-        image.setPalette(&palette);
-        image.setImage(row({0xffffffff, 0xff000000}));
-        QCOMPARE(indices(image.image()), QByteArray("\x09\0", 2));
         for (const int value : {1, 200}) { // without colours PNG makes bits or greys of the indices
             QImage plain = plainImage({9, 1}, value);
             plain.setColorTable(value == 1 ? QList<QRgb>{0xff000000, 0xffffffff} : QList<QRgb>());
@@ -89,31 +82,27 @@ private slots:
     {
         NxImage picture;
         picture.setImage(row({qRgb(7, 9, 255), qRgb(24, 25, 0), qRgba(1, 10, 250, 3), qRgb(8, 8, 8)}));
-        QCOMPARE(picture.colours(), QList<QRgb>({qRgb(0, 16, 255), qRgb(16, 32, 0), qRgb(0, 0, 0)}));
         QCOMPARE(picture.image(), row({qRgb(0, 16, 255), qRgb(16, 32, 0), qRgb(0, 16, 255), qRgb(0, 0, 0)}));
         QCOMPARE(indices(picture.toIndexed()), QByteArray("\0\1\0\2", 4));
-        QCOMPARE(picture.toIndexed().colorTable(), picture.colours() + QList<QRgb>(253, 0));
+        QCOMPARE(picture.toIndexed().colorTable(),
+                 QList<QRgb>({qRgb(0, 16, 255), qRgb(16, 32, 0), qRgb(0, 0, 0)}) + QList<QRgb>(253, 0));
 
         Palette palette;
         palette.loadStandardNext();
-        palette.storeRawColour(10, 0xe000);
-        palette.storeRawColour(200, 0xe000);
+        for (const int red : {10, 200})
+            palette.storeRawColour(red, 0xe000);
         QRandomGenerator random(3);
         QList<QRgb> noise{0xffff0000, 0xffffffff, 0xff000000};
         for (int i = 0; i < 2000; ++i)
             noise << (0xff000000 | random.generate());
         picture.setImage(row(noise)); // a second picture starts a list of its own
         const QImage mapped = picture.remap(&palette);
-        QCOMPARE(mapped.colorTable(), palette.colourTable());
         QCOMPARE(indices(mapped), nearestOf(palette.colourTable(), picture.image()));
-        QCOMPARE(indices(mapped).first(3), QByteArray("\x0a\xff\x00", 3));
-        QVERIFY(picture.remap(nullptr).isNull());
-
+        QVERIFY(indices(mapped).startsWith(QByteArray("\x0a\xff\x00", 3)) && picture.remap(nullptr).isNull());
         // of its own colours the first 256 are kept
-        QVERIFY(picture.colours().size() > 256);
-        const QImage indexed = picture.toIndexed();
-        QCOMPARE(indexed.colorTable(), picture.colours().first(256));
-        QCOMPARE(indices(indexed), nearestOf(picture.colours().first(256), picture.image()));
+        QVERIFY(picture.colours().size() > 256 && picture.colours().constFirst() == 0xffff0000);
+        QCOMPARE(picture.toIndexed().colorTable(), picture.colours().first(256));
+        QCOMPARE(indices(picture.toIndexed()), nearestOf(picture.colours().first(256), picture.image()));
     }
 
     void loadsGoodFilesOnly()
@@ -122,7 +111,6 @@ private slots:
         NxImage picture;
         // the content decides, whatever the name says
         QVERIFY(row({qRgb(7, 9, 255)}).save(path("good.bmp"), "png") && picture.load(path("good.bmp")));
-        QCOMPARE(picture.colours(), QList<QRgb>(1, qRgb(0, 16, 255)));
         for (const QString &bad :
              {path(), path("missing.png"), path("nonsense.png", "BM\1\2\3"),
               // 112 MB of bits, which would be 3.6 GB of 32-bit pixels

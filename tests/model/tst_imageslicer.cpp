@@ -81,9 +81,8 @@ private slots:
              {std::tuple(0, 0, 7), {0, 1, 6}, {8 + 7, 0, 7}, {8 + 6, 0, 6}, {16 + 7, 0, 7}, {16 + 7, 1, 6}})
             source.setPixel(x, y, colour(number));
         ImageSlicer slicer(source);
-        QVERIFY(slicer.size() == QSize(5, 1) && slicer.cellCount() == 5);
         SignalLog log(slicer);
-        QCOMPARE(slicer.sliceTiles(), 2);
+        QVERIFY(slicer.size() == QSize(5, 1) && slicer.sliceTiles() == 2);
         QCOMPARE(slicer.placements(), Placements({{0, 0}, {0, 4}, {0, 2}, {1, 0}, {1, 7}}));
         QCOMPARE(log.take().mid(3), QStringList({"processed 3", "processed 4"}));
     }
@@ -125,8 +124,7 @@ private slots:
         for (int i = 0; i < 10; ++i)
             expected[16 + i] = colour(101 + i);
         QVERIFY(slicer.bankColours() == expected && slicer.piece(2).colorTable() == expected);
-        QVERIFY(slicer.piece(1).pixelIndex(0, 0) == 4 && slicer.piece(3).pixelIndex(3, 0) == 11);
-        QCOMPARE(slicer.pieceWithOffset(2).pixelIndex(1, 0), 17);
+        QVERIFY(slicer.piece(1).pixelIndex(0, 0) == 4 && slicer.pieceWithOffset(2).pixelIndex(1, 0) == 17);
         QVERIFY(slicer.piece(4).isNull() && slicer.piece(-1).isNull() && slicer.pieceWithOffset(4).isNull());
     }
 
@@ -141,7 +139,6 @@ private slots:
         // the first tile's colours are those that its bank had then
         QCOMPARE(slicer.piece(0).colorTable(),
                  QList<QRgb>({colour(1), colour(2), colour(3)}) + QList<QRgb>(13, 0xff000000) + QList<QRgb>(240, 0));
-        QVERIFY(slicer.bank(2) == 0 && slicer.piece(2).colorCount() == 17);
         QVERIFY(slicer.piece(2).pixelIndex(0, 2) == 16 && slicer.pieceWithOffset(2).pixelIndex(0, 2) == 0);
         QCOMPARE(slicer.piece(3).colorTable(), QList<QRgb>({colour(40), colour(41), colour(42)}));
     }
@@ -172,22 +169,16 @@ private slots:
         ImageSlicer slicer(strip({sprite, turned(sprite, 2)}));
         QCOMPARE(slicer.sliceSprites(16), 1);
         QCOMPARE(slicer.placements(), Placements({{0, 0}, {0, 0}}));
-        QCOMPARE(slicer.piece(0).colorTable(), slicer.colours());
         QCOMPARE(slicer.piece(0).convertToFormat(QImage::Format_RGB32), sprite);
         // pieces stay 16 × 16, so smaller sizes ask for pieces beyond the picture: those are colour 0
         ImageSlicer other(randomPicture({32, 16}, 30, 1, 7));
-        QVERIFY(other.sliceSprites(5) == 3 && other.size() == QSize(6, 3) && other.placements().size() == 18);
-        QCOMPARE(indices(other.piece(2)), QByteArray(256, '\0'));
-        QVERIFY(other.sliceSprites(32) == 0 && other.sliceSprites(-16) == 0);
-    }
-
-    void findsNoCellsInSmallAndHugePictures()
-    {
-        // a bit a pixel in memory, but it would take gigabytes when taken apart
-        ImageSlicer huge(QImage(NxImage::MaxPixels / 8 + 8, 8, QImage::Format_Mono));
-        ImageSlicer flat(QImage(64, 7, QImage::Format_RGB32));
-        for (ImageSlicer *slicer : {&huge, &flat})
-            QVERIFY(slicer->cellCount() == 0 && slicer->sliceTiles() == 0 && slicer->sliceSprites(16) == 0);
+        QVERIFY(other.sliceSprites(5) == 3 && other.size() == QSize(6, 3) && other.sliceSprites(-16) == 0);
+        // a bit a pixel in memory, but it would take gigabytes when taken apart; and one that has no whole cell
+        for (const QImage &none :
+             {QImage(NxImage::MaxPixels / 8 + 8, 8, QImage::Format_Mono), QImage(64, 7, QImage::Format_RGB32)}) {
+            ImageSlicer empty(none);
+            QVERIFY(empty.cellCount() == 0 && empty.sliceTiles() == 0 && empty.sliceSprites(16) == 0);
+        }
     }
 };
 

@@ -13,20 +13,17 @@ class TestPalette : public QObject
 private slots:
     void readsWords()
     {
-        Palette palette;
-        QCOMPARE(palette.colours(), QList<QColor>(256, QColor(0, 0, 0)));
-        const std::tuple<int, QColor, bool> words[] = {
-            {0xe381, QColor(255, 0, 255), true},
-            {0x2901, QColor(37, 73, 110), false}, // levels 1, 2, 3
-            {0x977e, QColor(146, 183, 219), false}, // levels 4, 5, 6, and bits that mean nothing
+        const std::tuple<int, QRgb, bool> words[] = {
+            {0xe381, qRgb(255, 0, 255), true},
+            {0x2901, qRgb(37, 73, 110), false}, // levels 1, 2, 3
+            {0x977e, qRgb(146, 183, 219), false}, // levels 4, 5, 6, and bits that mean nothing
         };
         for (const auto &[word, colour, priority] : words) {
-            palette.setTransparencyIndex(-1);
+            Palette palette;
             palette.storeRawColour(7, quint16(word));
-            QVERIFY(palette.colour(7) == colour && palette.priority(7) == priority);
+            QVERIFY(palette.colour(7) == QColor(colour) && palette.priority(7) == priority);
             palette.setTransparencyIndex(7);
-            QCOMPARE(palette.colours().at(7).rgba(), colour.rgb() & 0xffffff);
-            QCOMPARE(palette.colourTable().at(7), colour.rgb());
+            QVERIFY(palette.colours().at(7).rgba() == (colour & RGB_MASK) && palette.colourTable().at(7) == colour);
         }
     }
 
@@ -52,20 +49,18 @@ private slots:
         Palette palette;
         SignalLog log(palette);
         palette.loadStandardNext();
-        for (const char *name : {"untitled", "cave"})
-            palette.setName(name);
-        QCOMPARE(log.take(), QStringList("nameChanged cave"));
+        palette.setName("untitled");
         // the signal carries the snapped colour, not the expanded one (219 would be 255)
         palette.setColour(3, QColor(219, 219, 219, 9), true);
         palette.setColour(3, QColor(255, 255, 255), true);
-        QCOMPARE(log.take(), QStringList({"colourChanged 3 #ffe0e0e0 true", "colourEdited 3 0301 ff81"}));
         palette.setTransparencyIndex(5);
         for (int i = 0; i < 2; ++i)
             palette.setRawColour(5, 0xe0fe);
-        QCOMPARE(log.take(), QStringList("colourChanged 5 #00ff0000 true"));
+        QCOMPARE(log.take(),
+                 QStringList(
+                     {"colourChanged 3 #ffe0e0e0 true", "colourEdited 3 0301 ff81", "colourChanged 5 #00ff0000 true"}));
         for (int i = 2; i < 256; ++i)
             palette.storeRawColour(i, 0x1c00);
-        palette.fill(QColor(0, 255, 0), false);
         palette.fill(QColor(0, 255, 0), false);
         QCOMPARE(log.take(),
                  QStringList({"colourChanged 0 #ff00ff00 false", "colourEdited 0 0000 1c00",
@@ -75,15 +70,13 @@ private slots:
     void findsNearest()
     {
         Palette palette;
-        for (const int white : {5, 9, 200})
-            palette.storeRawColour(white, 0xff01);
-        palette.storeRawColour(2, 0x2000); // red 37
-        palette.storeRawColour(20, 0x4000); // red 73
-        QCOMPARE(palette.nearestIndex(QColor(255, 255, 255)), 5);
-        QCOMPARE(palette.nearestIndex(QColor(55, 0, 0)), 2); // halfway between 37 and 73
+        for (const auto &[index, word] : {std::pair(5, 0xff01), {9, 0xff01}, {200, 0xff01}, {2, 0x2000}, {20, 0x4000}})
+            palette.storeRawColour(index, quint16(word)); // white, and red 37 and 73
+        QCOMPARE(palette.nearestIndex(Qt::white), 5);
+        QCOMPARE(palette.nearestIndex(QColor(55, 0, 0)), 2); // halfway
         // an opaque colour never equals the transparent entry, which still wins by distance
         palette.setTransparencyIndex(5);
-        QCOMPARE(palette.nearestIndex(QColor(255, 255, 255)), 9);
+        QCOMPARE(palette.nearestIndex(Qt::white), 9);
         QCOMPARE(palette.nearestIndex(QColor(250, 240, 251)), 5);
         QCOMPARE(palette.nearestIndex(QColor(255, 255, 255, 0)), 5);
     }
@@ -96,22 +89,19 @@ private slots:
         palette.storeRawColour(1, 0xe3ff); // bits that mean nothing are kept
         QVERIFY(palette.exportData(path("A.NPL", QByteArray(9999, 'x'))));
         const QByteArray bytes = readFile(path("A.NPL"));
-        QCOMPARE(bytes.left(10).toHex(), "0000e3ff020103010400");
-        QCOMPARE(bytes.mid(510), QByteArray("\xff\x01\x00", 3));
+        QVERIFY(bytes.startsWith(QByteArray::fromHex("0000e3ff020103010400")) && bytes.size() == 513);
         Palette read;
         SignalLog log(read);
-        QVERIFY(read.importData(path("A.NPL")));
-        QCOMPARE(log.take(), QStringList());
+        QVERIFY(read.importData(path("A.NPL")) && log.take().isEmpty());
         for (const auto &[name, size] :
              {std::pair("a.pal", 0), {"a.pal", 511}, {"a.pal", 513}, {"a.npl", 512}, {"a.npl", 514}})
             QVERIFY(!read.importData(path(name, QByteArray(size, 'x'))));
         QVERIFY(!read.importData(path()) && !read.importData(path("missing.pal")));
-        for (int i = 0; i < 256; ++i)
-            QCOMPARE(read.rawColour(i), palette.rawColour(i));
+        QVERIFY(read.exportData(path("b.npl")) && readFile(path("b.npl")) == bytes);
 
         QVERIFY(!palette.exportData(path()));
-        QVERIFY(!QFile::exists("/dev/full")
-                || !palette.exportData("/dev/full")); // bytes fail when they leave the buffer
+        // bytes fail when they leave the buffer
+        QVERIFY(!QFile::exists("/dev/full") || !palette.exportData("/dev/full"));
         palette.setName("../out");
         QVERIFY(!palette.exportToDirectory(path()));
     }

@@ -22,19 +22,16 @@ private slots:
         const QPointer<Palette> source = project.createPalette(CreateAction::Blank, "Source");
         source->storeRawColour(3, 0xE381);
         const QPointer<Palette> last = project.createPalette(CreateAction::DefaultNext, "Last");
-        const auto word = [&project](CreateAction action, const QUuid &id) {
-            const QPointer<Palette> created = project.createPalette(action, "New", id);
-            const int filled = created->rawColour(3);
-            project.deletePalette(created->id());
-            return filled;
-        };
         QCOMPARE(project.createPalette(CreateAction::CopyCurrent, "Copy")->rawColour(3), 0x0301); // of the last one
-        for (const auto &[action, filled] : {std::pair(CreateAction::CopyCurrent, 0xE381),
-                                             {CreateAction::None, 0},
-                                             {CreateAction::DefaultNext, 0x0301},
-                                             {CreateAction::Blank, 0}})
-            QCOMPARE(word(action, source->id()), filled);
-        QCOMPARE(word(CreateAction::CopyCurrent, {}), 0); // the last one was deleted
+        for (const auto &[action, id, filled] : {std::tuple(CreateAction::CopyCurrent, source->id(), 0xE381),
+                                                 {CreateAction::None, source->id(), 0},
+                                                 {CreateAction::DefaultNext, source->id(), 0x0301},
+                                                 {CreateAction::Blank, source->id(), 0},
+                                                 {CreateAction::CopyCurrent, QUuid(), 0}}) { // the last was deleted
+            const QPointer<Palette> created = project.createPalette(action, "New", id);
+            QCOMPARE(created->rawColour(3), filled);
+            project.deletePalette(created->id());
+        }
     }
 
     void announcesCreation()
@@ -46,9 +43,9 @@ private slots:
             log.take(),
             QStringList({"showMessage New palette added: Rocks 2500", "paletteCreated Palette", "tileSetsChanged Rocks",
                          "showMessage New tile set added: Rocks 2500", "tilesetCreated TileSet"}));
-        const QUuid palette = project.palettes().constFirst()->id();
-        QVERIFY(tiles->count() == 512 && !tiles->hiRes() && tiles->paletteId() == palette);
-        QVERIFY(project.createTileSet("Trees", palette, 256, true)->count() == 256 && project.palettes().size() == 1);
+        const QUuid palette = tiles->paletteId();
+        QVERIFY(tiles->count() == 512 && !tiles->hiRes() && project.palettes().constFirst()->id() == palette);
+        QVERIFY(project.createTileSet("Trees", palette, 256, true)->hiRes() && project.palettes().size() == 1);
         QCOMPARE(log.take().constFirst(), "tileSetsChanged Rocks Trees");
 
         const QPointer<MapObjects> blocks = project.createBlockList("Doors", tiles->id());
@@ -90,18 +87,16 @@ private slots:
             project.addSpriteBank(registered);
         QVERIFY(registered->parent() == &project && project.spriteBanks().size() == 1);
         for (SpriteBank *bank : {project.createSpriteBank(Quenmora::FourBit, "Ships", {}).data(), registered}) {
-            const QPointer<Map> first = project.createMap("Level", {}, QSize(40, 32));
-            const QPointer<Map> second = project.createMap("Level", {}, QSize(40, 32));
+            const QPointer<Map> maps[] = {project.createMap("A", {}, {40, 32}), project.createMap("B", {}, {40, 32})};
             for (int sprite = 0; sprite < 5; ++sprite) {
                 bank->addSprite();
-                first->addSprite({.bank = bank->id(), .sprite = sprite});
+                maps[sprite / 4]->addSprite({.bank = bank->id(), .sprite = sprite});
             }
-            second->addSprite({.bank = bank->id(), .sprite = 4});
             bank->moveSprite(4, 1);
-            QCOMPARE(valuesOf(first->sprites(), &Map::PlacedSprite::sprite), QList<int>({0, 2, 3, 4, 1}));
+            QCOMPARE(valuesOf(maps[0]->sprites(), &Map::PlacedSprite::sprite), QList<int>({0, 2, 3, 4}));
             bank->deleteSprite(1);
-            QCOMPARE(valuesOf(first->sprites(), &Map::PlacedSprite::sprite), QList<int>({0, 1, 2, 3}));
-            QVERIFY(second->sprites().isEmpty());
+            QCOMPARE(valuesOf(maps[0]->sprites(), &Map::PlacedSprite::sprite), QList<int>({0, 1, 2, 3}));
+            QVERIFY(maps[1]->sprites().isEmpty());
         }
     }
 
@@ -114,7 +109,6 @@ private slots:
         QVERIFY(paletteCopy->name() == "Dusk (copy)" && paletteCopy->colours() == palette->colours());
 
         const QPointer<TileSet> tiles = project.createTileSet("Rocks", palette->id(), 3, true);
-        tiles->tile(2)->setValue(99);
         tiles->setTileImage(2, plainImage({8, 8}, 9));
         const QPointer<TileSet> tilesCopy = project.cloneTileSet(tiles->id());
         QVERIFY(tilesCopy->name() == "Rocks (copy)" && tilesCopy->palette() == palette && !tilesCopy->hiRes());
@@ -122,15 +116,15 @@ private slots:
 
         const QPointer<Map> map = project.createMap("Level", tiles->id(), QSize(40, 32));
         const TileMap::TileData cell{2, true, false, true, 7, true};
-        map->setTile(QPoint(39, 31), cell);
-        map->objectLayer()->setCell(QPoint(0, 0), cell);
+        for (TileMap *layer : {map->tileLayer().data(), map->objectLayer().data()})
+            layer->setCell(QPoint(39, 31), cell);
         map->addSprite({});
-        const QPointer<Map> mapCopy = project.cloneMap(map->id());
-        QVERIFY(mapCopy->name() == "Level (copy)" && mapCopy->tileSet() == tiles && mapCopy->sprites().isEmpty());
-        QVERIFY(mapCopy->tileLayer()->rows() == map->tileLayer()->rows() && !mapCopy->objectLayer()->isVisible());
-        QCOMPARE(mapCopy->objectLayer()->cellAt(QPoint(0, 0)), TileMap::TileData{});
+        const QPointer<Map> copy = project.cloneMap(map->id());
+        QVERIFY(copy->name() == "Level (copy)" && copy->tileSet() == tiles && copy->sprites().isEmpty());
+        QVERIFY(copy->tileLayer()->rows() == map->tileLayer()->rows() && !copy->objectLayer()->isVisible());
+        QCOMPARE(copy->objectLayer()->cellAt(QPoint(39, 31)), TileMap::TileData{});
         // the copy is one: what is drawn into it stays out of the source
-        mapCopy->setTile(QPoint(39, 31), {});
+        copy->setTile(QPoint(39, 31), {});
         QCOMPARE(map->tileLayer()->cellAt(QPoint(39, 31)), cell);
     }
 

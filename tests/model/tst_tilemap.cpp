@@ -125,25 +125,6 @@ private slots:
         const TileMap::Row row{filled, filled, {}, {}};
         QVERIFY(map.rows() == (TileMap::Rows{TileMap::Row(4), {filled, filled, {}, cell}, row, row}));
         QCOMPARE(storage(map, 2), storage(map, 3));
-        map.fill(map.bounds(), 100, false, false, false, false); // no tile of the set
-        QCOMPARE(map.cellAt({3, 3}).offset, 0);
-    }
-
-    void editsRowsAndColumns()
-    {
-        TileMap map(0, 0);
-        map.restore(digits({"12", "34"}));
-        map.insertColumn(Quenmora::Begin);
-        map.insertRow(Quenmora::End);
-        QVERIFY(map.rows() == digits({".12", ".34", "..."}) && map.size() == QSize(3, 3));
-        map.removeColumn(Quenmora::End);
-        map.removeRow(Quenmora::Begin);
-        QVERIFY(map.rows() == digits({".3", ".."}) && map.size() == QSize(2, 2));
-        map.insertColumn(Quenmora::End);
-        map.insertRow(Quenmora::Begin);
-        map.removeColumn(Quenmora::Begin);
-        map.removeRow(Quenmora::End);
-        QVERIFY(map.rows() == digits({"..", "3."}));
     }
 
     void resizesAround()
@@ -191,8 +172,8 @@ private slots:
         map.setCell({1, 0}, {1, false, false, false, 2, true});
         SignalLog log(map);
         tiles.set.moveTile(1, 3);
-        QCOMPARE(map.cellAt({1, 0}).index, 3);
         map.swapTiles(20, 21); // no cell shows them
+        QCOMPARE(map.cellAt({1, 0}).index, 3);
         QCOMPARE(log.take(), QStringList({"tilesChanged", "tilesChanged"}));
 
         QImage screen(32, 16, QImage::Format_RGB32); // two pixels of the device are one of the painter
@@ -211,9 +192,6 @@ private slots:
         const QImage image = map.render(map.bounds(), 1, 0);
         QVERIFY(indices(image) == QByteArray(128, '\0') && image.pixel(0, 0) == qRgba(0, 0, 0, 0));
         QVERIFY(map.render(map.bounds(), INT_MAX, 0).isNull());
-        map.setTileSet(nullptr);
-        tiles.set.moveTile(3, 1);
-        QCOMPARE(log.take(), QStringList());
     }
 
     void writesAndReadsCells()
@@ -239,22 +217,7 @@ private slots:
         QVERIFY(copy && copy->rows() == map.rows() && storage(*copy, 2) == storage(*copy, 3));
     }
 
-    void refusesDamagedData()
-    {
-        // half a header, half a cell, a negative height, 1 in 32 bits
-        for (const char *hex :
-             {"00000001 000000", "00000001 00000001 0101010101010101010101",
-              "ffffffff 00000001 010101010101010101010101", "10000001 10000001 010101010101010101010101"}) {
-            QMimeData mimeData;
-            mimeData.setData(QStringLiteral("quenmora-map-toNextData"), QByteArray::fromHex(hex));
-            TileMap map(5, 5);
-            map.paste({0, 0}, &mimeData);
-            QVERIFY(map.rows() == TileMap(5, 5).rows() && TileMap::readSelection(&mimeData).size.isEmpty());
-            QCOMPARE(TileMap::fromData(QByteArray::fromHex(hex)), nullptr);
-        }
-    }
-
-    void pastesInside()
+    void pastesWhatFits()
     {
         TileSet tileSet(9);
         TileMap source(0, 0);
@@ -263,11 +226,18 @@ private slots:
         const std::unique_ptr<QMimeData> mimeData(source.toMimeData(source.bounds()));
         const auto [tileSetId, size, cells] = TileMap::readSelection(mimeData.get());
         QVERIFY(size == QSize(3, 1) && tileSetId == tileSet.id() && cells == source.rows().first());
-        QVERIFY(TileMap::readSelection(nullptr).size.isEmpty());
         TileMap target(12, 2);
         for (const QPoint at : {QPoint(10, 0), QPoint(-2, 1), QPoint(5, 2)})
             target.paste(at, mimeData.get());
-        target.paste({0, 0}, nullptr);
+        // half a header, half a cell, a negative height, 1 in 32 bits
+        for (const char *hex :
+             {"00000001 000000", "00000001 00000001 0101010101010101010101",
+              "ffffffff 00000001 010101010101010101010101", "10000001 10000001 010101010101010101010101"}) {
+            mimeData->setData(mimeData->formats().first(), QByteArray::fromHex(hex));
+            target.paste({0, 0}, mimeData.get());
+            QVERIFY(TileMap::readSelection(mimeData.get()).size.isEmpty());
+            QCOMPARE(TileMap::fromData(QByteArray::fromHex(hex)), nullptr);
+        }
         QVERIFY(target.rows() == digits({"..........12", "3..........."}));
     }
 
@@ -280,26 +250,25 @@ private slots:
             map.setTileSet(&tiles.set);
             std::unique_ptr<QMimeData> cut;
             const TileMap::Rows rows(50, TileMap::Row(60, {3, true, false, true, 4, true}));
+            const auto scatter = [&] {
+                for (int i = 0; i < 500; ++i)
+                    map.setCell({tiles.random.bounded(70), tiles.random.bounded(40)}, tiles.cell());
+            };
+            const auto deleteTile = [&] {
+                tiles.set.deleteTile(2);
+                map.shiftTileIndices(2, -1);
+            };
             const std::function<void()> changes[] = {
                 [] {},
-                [&] {
-                    for (int i = 0; i < 500; ++i)
-                        map.setCell({tiles.random.bounded(70), tiles.random.bounded(40)}, tiles.cell());
-                },
-                [&] {
-                    map.fill(QRect(20, 25, 30, 9), 3, true, false, true, true);
-                    cut.reset(map.toMimeData(QRect(10, 10, 20, 20)));
-                },
-                [&] { map.paste(QPoint(45, 5), cut.get()); },
+                scatter,
+                [&] { map.fill(QRect(20, 25, 30, 9), 3, true, false, true, true); },
+                [&] { cut.reset(map.toMimeData(QRect(10, 10, 20, 20))), map.paste(QPoint(45, 5), cut.get()); },
                 [&] { tiles.set.moveTile(1, 5); },
                 [&] { tiles.scribble(3); },
                 [&] { tiles.palette.setColour(35, QColor(255, 0, 0), false); },
                 [&] { map.insertColumn(Quenmora::Begin); },
                 [&] { map.insertRow(Quenmora::Begin); },
-                [&] {
-                    tiles.set.deleteTile(2);
-                    map.shiftTileIndices(2, -1);
-                },
+                deleteTile,
                 [&] { map.resize(QSize(60, 45), Qt::AlignCenter); },
                 [&] { map.refreshOffsets(); },
                 [&] { map.restore(rows); },

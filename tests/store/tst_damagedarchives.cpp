@@ -259,7 +259,7 @@ private slots:
 private:
     [[nodiscard]] QByteArray archiveOf(const ProjectMembers &members) const
     {
-        return writeArchive(m_file, members) ? fileBytes(m_file) : QByteArray();
+        return writeArchive(m_file, members) ? readFile(m_file) : QByteArray();
     }
 
     /// The sample with another content of one member.

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "store/zipfile.h"
+#include "support/modeltools.h"
 
 #include <QByteArray>
-#include <QFile>
 #include <QMap>
 #include <QString>
 
@@ -22,18 +22,6 @@ inline bool writeArchive(const QString &fileName, const Members &members)
             return false;
     }
     return zip.close();
-}
-
-inline QByteArray fileBytes(const QString &fileName)
-{
-    QFile file(fileName);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-inline bool writeFile(const QString &fileName, const QByteArray &bytes)
-{
-    QFile file(fileName);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
 }
 
 /// Fields of a record in the central directory of an archive, as offsets from its signature.

@@ -10,6 +10,7 @@
 #include "model/spritebank.h"
 #include "model/tilemap.h"
 #include "model/tileset.h"
+#include "support/modeltools.h"
 
 #include <QBuffer>
 
@@ -25,13 +26,7 @@ constexpr int Most = std::numeric_limits<int>::max();
 /// A picture whose pixels run through all 256 indices.
 inline QImage gradient(QSize size)
 {
-    QImage image(size, QImage::Format_Indexed8);
-    image.setColorTable(QList<QRgb>(256, qRgb(0, 0, 0)));
-    for (int y = 0; y < size.height(); ++y) {
-        for (int x = 0; x < size.width(); ++x)
-            image.scanLine(y)[x] = uchar(y * size.width() + x);
-    }
-    return image;
+    return pictureOf(size, QImage::Format_Indexed8, [](int i) { return i & 255; });
 }
 
 inline QByteArray png(const QImage &image)

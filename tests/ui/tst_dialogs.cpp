@@ -38,20 +38,17 @@ private slots:
         dialog.name->clear();
         QCOMPARE(dialog.error(), QString()); // nobody is told off while typing
         dialog.okButton()->click();
-        QVERIFY(dialog.isVisible());
-        QCOMPARE(dialog.error(), "A name is needed");
+        QVERIFY(dialog.isVisible() && dialog.error() == "A name is needed");
         dialog.reject();
         dialog.open(); // begins clean, with the keyboard in the first field
-        QCOMPARE(dialog.error(), QString());
-        QCOMPARE(dialog.focusWidget(), dialog.name);
+        QVERIFY(dialog.error().isEmpty() && dialog.focusWidget() == dialog.name);
         QTest::keyClick(dialog.name, Qt::Key_Tab);
         QCOMPARE(dialog.focusWidget(), dialog.okButton());
         dialog.okButton()->click();
         dialog.name->setText("Forest");
         QCOMPARE(dialog.error(), QString());
         QTest::keyClick(dialog.name, Qt::Key_Return);
-        QVERIFY(!dialog.isVisible());
-        QCOMPARE(dialog.result(), int(QDialog::Accepted));
+        QVERIFY(!dialog.isVisible() && dialog.result() == QDialog::Accepted);
     }
 
     void messagesWaitForTheirTurn()
@@ -63,8 +60,8 @@ private slots:
             QCOMPARE(dialog.text() + dialog.windowTitle(), "oneWarning!");
         }
         dialog.accept();
-        QVERIFY(dialog.isVisible());
         QCOMPARE(dialog.text() + dialog.windowTitle(), "twoPalette In Use");
+        QVERIFY(dialog.isVisible());
         QTest::keyClick(&dialog, Qt::Key_Escape);
         QVERIFY(!dialog.isVisible());
     }

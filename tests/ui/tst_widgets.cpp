@@ -23,28 +23,23 @@ class TestWidgets : public QObject
     Q_OBJECT
 
 private slots:
-    void popoverFindsRoom_data()
-    {
-        QTest::addColumn<QRect>("target");
-        QTest::addColumn<DialogPosition>("wanted");
-        QTest::addColumn<QPoint>("corner");
-        QTest::addColumn<DialogPosition>("position");
-        // a popover of 100 x 50 on a screen that starts at (10, 20) and measures 400 x 300
-        QTest::newRow("right") << QRect(100, 100, 20, 10) << RightOf << QPoint(120, 79) << RightOf;
-        QTest::newRow("no room on the right") << QRect(300, 100, 20, 10) << RightOf << QPoint(200, 79) << LeftOf;
-        QTest::newRow("just room on the right") << QRect(290, 100, 20, 10) << RightOf << QPoint(310, 79) << RightOf;
-        QTest::newRow("no room above") << QRect(100, 60, 20, 10) << Above << QPoint(59, 70) << Below;
-        QTest::newRow("too high up") << QRect(100, 20, 20, 10) << RightOf << QPoint(120, 20) << RightOf;
-        QTest::newRow("too far down") << QRect(100, 310, 20, 10) << RightOf << QPoint(120, 270) << RightOf;
-        QTest::newRow("none on either side") << QRect(50, 100, 300, 10) << LeftOf << QPoint(10, 79) << LeftOf;
-    }
-
     void popoverFindsRoom()
     {
-        QFETCH(const QRect, target);
-        QFETCH(DialogPosition, wanted);
-        QTEST(Popover::place({100, 50}, target, {10, 20, 400, 300}, wanted), "corner");
-        QTEST(wanted, "position");
+        // a popover of 100 x 50 on a screen that starts at (10, 20) and measures 400 x 300
+        const std::tuple<QRect, DialogPosition, QPoint, DialogPosition> cases[] = {
+            {{100, 100, 20, 10}, RightOf, {120, 79}, RightOf},
+            {{300, 100, 20, 10}, RightOf, {200, 79}, LeftOf}, // no room on the right
+            {{290, 100, 20, 10}, RightOf, {310, 79}, RightOf}, // just room
+            {{100, 60, 20, 10}, Above, {59, 70}, Below},
+            {{100, 20, 20, 10}, RightOf, {120, 20}, RightOf}, // too high up
+            {{100, 310, 20, 10}, RightOf, {120, 270}, RightOf}, // too far down
+            {{50, 100, 300, 10}, LeftOf, {10, 79}, LeftOf}, // room on neither side
+        };
+        for (const auto &[target, wanted, corner, side] : cases) {
+            DialogPosition position = wanted;
+            QCOMPARE(Popover::place({100, 50}, target, {10, 20, 400, 300}, position), corner);
+            QCOMPARE(position, side);
+        }
     }
 
     void outlineIsSeenOnEveryGround()
@@ -160,26 +155,20 @@ private slots:
 
     void scrollBarButtonsNameTheirEnd()
     {
-        const QList<QStringList> heard{{"Add a column on the left: add 0", "Remove the column on the left: remove 0",
-                                        "Remove the column on the right: remove 1", "Add a column on the right: add 1"},
-                                       {"Add a row at the top: add 0", "Remove the row at the top: remove 0",
-                                        "Remove the row at the bottom: remove 1", "Add a row at the bottom: add 1"}};
         for (const auto orientation : {Qt::Horizontal, Qt::Vertical}) {
             ScrollBar bar(orientation);
+            QStringList heard;
+            connect(&bar, &ScrollBar::add, this, [&](Quenmora::Position end) { heard += QString("add %1").arg(end); });
+            connect(&bar, &ScrollBar::remove, this,
+                    [&](Quenmora::Position end) { heard += QString("remove %1").arg(end); });
             const auto buttons = bar.findChildren<QToolButton *>(); // from the beginning to the end
-            QStringList clicks;
-            const auto hear = [&clicks](const QString &what) {
-                return [&clicks, what](Quenmora::Position end) { clicks.last() += what + QString::number(end); };
-            };
-            connect(&bar, &ScrollBar::add, this, hear(": add "));
-            connect(&bar, &ScrollBar::remove, this, hear(": remove "));
-            for (QToolButton *button : buttons) {
-                clicks += button->accessibleName();
+            for (QToolButton *button : buttons)
                 button->click();
-            }
             bar.setRemoveEnabled(false);
             buttons[1]->click();
-            QCOMPARE(clicks, heard[orientation == Qt::Vertical]);
+            QCOMPARE(heard, QStringList({"add 0", "remove 0", "remove 1", "add 1"}));
+            QCOMPARE(buttons[1]->accessibleName(),
+                     orientation == Qt::Horizontal ? "Remove the column on the left" : "Remove the row at the top");
         }
     }
 

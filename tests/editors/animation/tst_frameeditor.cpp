@@ -49,29 +49,12 @@ class TestFrameEditor : public QObject
     Q_OBJECT
 
 private slots:
-    void settersChangeTheSelectedCellOfTheCurrentFrame()
-    {
-        Fixture f;
-        f.editor.setRotated(true); // no cell is selected
-        QCOMPARE(f.cell(0, 0), Cell());
-        f.editor.setCurrentFrame(1);
-        f.editor.setSelectedCell({2, 1});
-        f.editor.setRotated(true);
-        f.editor.setOffset(5);
-        f.editor.setIndex(9);
-        QCOMPARE(f.cell(1, 2, 1), (Cell{9, 5, false, false, true}));
-        QCOMPARE(f.cell(1, 2, 0), Cell());
-
-        TileAnimation empty;
-        f.editor.setAnimation(&empty); // without frames
-        f.editor.setSelectedCell({0, 0});
-        f.editor.setRotated(true);
-    }
-
     void menuAndToolTipShowTheCell()
     {
         Fixture f;
-        f.block->frame(0)->setCells({{{}, {7, 3, true, false, true}, {}}, {{}, {}, {}}});
+        f.block->frame(1)->setCells({{{}, {7, 3, true, false, true}, {}}, {{}, {}, {}}});
+        f.editor.setCurrentFrame(1);
+        f.editor.setRotated(true); // no cell is selected
         QHelpEvent inside(QEvent::ToolTip, f.at(1, 0), {});
         QApplication::sendEvent(&f.editor, &inside);
         QCOMPARE(QToolTip::text(), "Index:\t7\nOffset:\t3\nFlip\tYes\nMirror:\tNo\nRotate:\tYes");
@@ -89,7 +72,12 @@ private slots:
         }
         menu.close();
         QCOMPARE(entries, QStringList({"Frame", "Rotated+", "Flipped+", "Mirrored-"}));
-        QCOMPARE(f.cell(0, 1), (Cell{7, 3, false, true, false}));
+        QVERIFY(f.cell(0, 1, 1) == (Cell{7, 3, false, true, false}) && f.cell(0, 1, 0) == Cell());
+
+        TileAnimation empty;
+        f.editor.setAnimation(&empty); // without frames
+        f.editor.setSelectedCell({0, 0});
+        f.editor.setRotated(true);
     }
 
     void paintsCellsAndMarks()
@@ -104,11 +92,8 @@ private slots:
         f.editor.setCurrentFrame(1);
         f.editor.setSelectedCell({1, 0});
         const QImage seen = f.editor.grab().toImage();
-        for (const auto &[position, colour] : {std::pair(QPoint(5, 5), QColor(Qt::black)),
-                                               {{0, 32}, Qt::red},
-                                               {{32, 63}, Qt::black},
-                                               {{48, 2}, {127, 127, 127}}})
-            QCOMPARE(seen.pixelColor(position), colour);
+        for (const auto &[x, y, colour] : {std::tuple(5, 5, 0), {0, 32, 0xFF0000}, {32, 63, 0}, {48, 2, 0x7F7F7F}})
+            QCOMPARE(seen.pixelColor(x, y), QColor(QRgb(colour)));
         f.editor.setAnimation(nullptr);
         QCOMPARE(f.editor.size(), QSize(32, 32));
         QCOMPARE(f.editor.grab().toImage().pixelColor(5, 5), QColor(Qt::darkGray));
@@ -132,18 +117,18 @@ private slots:
 
     void selectsByMouseAndKeys()
     {
-        for (const auto &[position, cell] : {std::pair(QPoint(0, 1), QPoint(0, 0)),
-                                             {{31, 31}, {0, 0}},
-                                             {{32, 32}, {1, 1}},
-                                             {{96, 0}, None},
-                                             {{0, 64}, None},
-                                             {{-1, 0}, None}}) {
-            Fixture f;
+        Fixture f;
+        for (const auto &[x, y, cell] : {std::tuple(0, 1, QPoint(0, 0)),
+                                         {32, 32, {1, 1}},
+                                         {31, 31, {0, 0}},
+                                         {96, 0, None},
+                                         {0, 64, None},
+                                         {-1, 0, None}}) {
             const QSignalSpy selection(&f.editor, &FrameEditorWidget::selectedCellChanged);
-            QTest::mouseRelease(&f.editor, Qt::LeftButton, Qt::NoModifier, position);
+            QTest::mouseRelease(&f.editor, Qt::LeftButton, Qt::NoModifier, {x, y});
             QCOMPARE(selection, cell == None ? QList<QVariantList>() : (QList<QVariantList>{{cell}}));
         }
-        Fixture f;
+        f.editor.setSelectedCell(None);
         const QSignalSpy activated(&f.editor, &FrameEditorWidget::cellActivated);
         for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Down, Qt::Key_Right, Qt::Key_Right, Qt::Key_Right,
                                   Qt::Key_Down, Qt::Key_Left, Qt::Key_Return})
@@ -154,48 +139,39 @@ private slots:
     void takesWhatFits()
     {
         const QString tiles("quenmora/tile-drag-anim");
-        const QByteArray good("0000000700000003");
+        constexpr auto good = "0000000700000003";
         constexpr QPoint Nowhere(-9, -9);
-        struct Drag
-        {
-            QString type;
-            QByteArray hex;
-            QPoint target{2, 1}; ///< while the drag is over the widget
-            bool dropped = false;
-        };
-        const Drag drags[] = {{tiles, good, {2, 1}, true},
-                              {tiles, good, None}, // outside
-                              {"quenmora/sprite-drag-anim", "00000007", Nowhere},
-                              {"text/plain", good, Nowhere},
-                              {tiles, good.chopped(2)},
-                              {tiles, "ffffffff00000003"},
-                              {tiles, "0000001000000003"}, // beyond the last tile
-                              {tiles, "0000000700000010"}}; // beyond the last offset
-        for (const Drag &drag : drags) {
+        // the type, the bytes, what is the target while the drag is over the widget, and whether it is dropped
+        const std::tuple<QString, const char *, QPoint, bool> drags[] = {
+            {tiles, good, {2, 1}, true},
+            {tiles, good, None, false}, // outside
+            {"quenmora/sprite-drag-anim", "00000007", Nowhere, false},
+            {"text/plain", good, Nowhere, false},
+            {tiles, "00000007000000", {2, 1}, false},
+            {tiles, "ffffffff00000003", {2, 1}, false},
+            {tiles, "0000001000000003", {2, 1}, false}, // beyond the last tile
+            {tiles, "0000000700000010", {2, 1}, false}}; // beyond the last offset
+        for (const auto &[type, hex, over, dropped] : drags) {
             Fixture f;
             f.editor.setIndexCount(16);
             f.editor.setCurrentFrame(1);
             f.block->frame(1)->setMirror(1, 2, true);
             const QSignalSpy selection(&f.editor, &FrameEditorWidget::selectedCellChanged);
             QMimeData data;
-            data.setData(drag.type, QByteArray::fromHex(drag.hex));
+            data.setData(type, QByteArray::fromHex(hex));
             QPoint target = Nowhere;
-            QCOMPARE(f.drop(data, drag.target == None ? QPoint(200, 10) : f.at(drag.target.x(), drag.target.y()),
-                            [&] { target = f.editor.dropTarget(); }),
-                     drag.dropped);
-            QCOMPARE(target, drag.target);
-            QCOMPARE(f.editor.dropTarget(), None);
-            QCOMPARE(selection, drag.dropped ? (QList<QVariantList>{{drag.target}}) : QList<QVariantList>());
-            QCOMPARE(f.cell(1, 2, 1), (drag.dropped ? Cell{7, 3, false, true, false} : Cell{0, 0, false, true, false}));
+            const QPoint position = over == None ? QPoint(200, 10) : f.at(2, 1);
+            QCOMPARE(f.drop(data, position, [&] { target = f.editor.dropTarget(); }), dropped);
+            QVERIFY(target == over && f.editor.dropTarget() == None);
+            QCOMPARE(selection, dropped ? (QList<QVariantList>{{over}}) : QList<QVariantList>());
+            QCOMPARE(f.cell(1, 2, 1), (dropped ? Cell{7, 3, false, true, false} : Cell{0, 0, false, true, false}));
         }
 
         Fixture f;
         SpriteAnim walk;
         f.editor.setAnimation(&walk);
-        const std::unique_ptr<QMimeData> tile(TileDrag{1, 0}.toMimeData());
-        const std::unique_ptr<QMimeData> sprite(SpriteDrag{12}.toMimeData());
-        QVERIFY(!f.drop(*tile, {5, 5}));
-        QVERIFY(f.drop(*sprite, {5, 5}));
+        QVERIFY(!f.drop(*std::unique_ptr<QMimeData>(TileDrag{1, 0}.toMimeData()), {5, 5}));
+        QVERIFY(f.drop(*std::unique_ptr<QMimeData>(SpriteDrag{12}.toMimeData()), {5, 5}));
         QCOMPARE(walk.frame(0)->cell(0, 0).index, 12);
     }
 
