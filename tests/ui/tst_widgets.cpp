@@ -84,8 +84,10 @@ private slots:
         QApplication::setPalette(theme(Qt::white, QColor(40, 40, 40)));
         QWidget window;
         new ReadableHints(&window);
+        window.show();
         DockWidget dock("Dock", "Nothing here");
         dock.resize(200, 100);
+        dock.show();
         const auto spread = [&dock] {
             const QImage shown = dock.findChild<QLabel *>()->grab().toImage();
             int darkest = 255;
@@ -98,7 +100,9 @@ private slots:
             return lightest - darkest;
         };
         QVERIFY2(spread() > 80, qPrintable(QString::number(spread())));
-        QApplication::setPalette(light); // while it runs
+        QApplication::setPalette(theme(Qt::white, QColor(20, 20, 60))); // while it runs
+        QTRY_COMPARE(dock.palette().color(QPalette::Window), QColor(20, 20, 60));
+        QCoreApplication::processEvents();
         QVERIFY2(spread() > 80, qPrintable(QString::number(spread())));
         QCOMPARE(ReadableHints::readable(light), light); // a theme's own colour is kept
         QApplication::setPalette(before);
