@@ -103,9 +103,9 @@ private slots:
         door.addFrame();
         door.restore(state);
         QVERIFY(door.state() == state);
-        QCOMPARE(
-            log.take(),
-            QStringList({"contentChanged", "delayChanged 5", "sizeChanged 1x1", "frameChanged 0", "contentChanged"}));
+        QCOMPARE(log.take(),
+                 QStringList({"contentChanged", "delayChanged 5", "contentChanged", "sizeChanged 1x1", "frameChanged 0",
+                              "contentChanged"}));
     }
 
     void playsByTheClock()
