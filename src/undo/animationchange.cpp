@@ -27,6 +27,14 @@ QHash<QUuid, AnimationFrame::Cells> byId(const QList<Frame> &frames)
     return cells;
 }
 
+/// Gives a frame that another size was not applied to the size of its animation.
+void resize(AnimationFrame::Cells &cells, QSize size)
+{
+    cells.resize(size.height());
+    for (QList<AnimationFrame::Cell> &row : cells)
+        row.resize(size.width());
+}
+
 } // namespace
 
 Animation::State changed(const Animation::State &now, const Animation::State &from, const Animation::State &to)
@@ -42,11 +50,14 @@ Animation::State changed(const Animation::State &now, const Animation::State &fr
     const auto present = byId(now.frames);
     const auto before = byId(from.frames);
     const auto after = byId(to.frames);
+    const bool resized = now.size != from.size || from.size != to.size;
     result.frames.clear();
     for (const QUuid &id : std::as_const(ids)) {
         AnimationFrame::Cells cells = present.value(id, after.value(id));
         if (present.contains(id) && before.contains(id) && after.contains(id))
             FrameChange(before.value(id), after.value(id)).applyWhereUntouched(EditSide::After, cells);
+        if (resized)
+            resize(cells, result.size);
         result.frames.append({id, cells});
     }
     return result;
