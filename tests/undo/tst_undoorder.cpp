@@ -1,7 +1,9 @@
 #include "model/mapobjects.h"
 #include "model/palette.h"
+#include "model/spriteanim.h"
 #include "support/modeltools.h"
 #include "support/testmain.h"
+#include "undo/animationchange.h"
 #include "undo/editrecorder.h"
 #include "undo/mapeditcommand.h"
 
@@ -231,6 +233,20 @@ private slots:
         QCOMPARE(scene.first.count(), 0);
         scene.ofBank([&] { scene.bank->clearSprite(2); });
         QCOMPARE(scene.first.count(), 1);
+    }
+
+    void framesAddedSinceTakeTheSizeThatComesBack()
+    {
+        SpriteAnim run;
+        const Animation::State small = run.state();
+        run.setSize(QSize(3, 2));
+        const Animation::State large = run.state();
+        run.addFrame();
+        const Animation::State back = changed(run.state(), large, small);
+        QCOMPARE(back.size, small.size);
+        for (const Animation::State::Frame &frame : back.frames)
+            QVERIFY(frame.cells.size() == small.size.height() && frame.cells.last().size() == small.size.width());
+        QCOMPARE(back.frames.size(), 2);
     }
 };
 
