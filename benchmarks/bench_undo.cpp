@@ -113,6 +113,21 @@ void recordTileCopy(benchmark::State &state)
     }
 }
 
+/// Undoes and redoes the deletion of a tile that some cells of the map show: two steps an iteration.
+void undoTileDeletion(benchmark::State &state)
+{
+    MapProject project(int(state.range(0)));
+    QUndoStack stack;
+    const EditRecorder recorder(&project.project(), [&stack](const QUuid &) { return &stack; });
+    const qint64 before = bytesInUse();
+    project.tileSet().deleteTile(5);
+    state.counters["bytes a step"] = double(bytesInUse() - before);
+    for (auto _ : state) {
+        stack.undo();
+        stack.redo();
+    }
+}
+
 /// Edits one frame of one of many animations: the work must not grow with the animations beside it.
 void recordFrameEdit(benchmark::State &state)
 {
@@ -145,6 +160,7 @@ BENCHMARK(undoStroke)
     ->Unit(benchmark::kMicrosecond);
 BENCHMARK(undoFill)->Arg(200)->Arg(2000)->Unit(benchmark::kMicrosecond);
 BENCHMARK(recordTileCopy)->Arg(200)->Arg(2000)->Unit(benchmark::kMicrosecond);
+BENCHMARK(undoTileDeletion)->Arg(200)->Arg(2000)->Unit(benchmark::kMicrosecond);
 BENCHMARK(recordFrameEdit)->Arg(1)->Arg(1000)->Unit(benchmark::kMicrosecond);
 
 BENCHMARK_MAIN();

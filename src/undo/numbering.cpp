@@ -4,15 +4,33 @@
 #include "model/tileset.h"
 
 #include <algorithm>
-#include <limits>
 #include <utility>
 
-Numbering::Numbering(QObject *asset, std::function<int()> count) : QObject(asset), m_count(std::move(count)) { }
+namespace {
+
+/// All that there are, by asset: a tile set has hundreds of children to search.
+QHash<const QObject *, Numbering *> &numberings()
+{
+    static QHash<const QObject *, Numbering *> all;
+    return all;
+}
+
+} // namespace
+
+Numbering::Numbering(QObject *asset, std::function<int()> count) : QObject(asset), m_count(std::move(count))
+{
+    numberings().insert(asset, this);
+}
+
+Numbering::~Numbering()
+{
+    numberings().remove(parent());
+}
 
 template <typename Asset>
 Numbering &Numbering::numberingOf(Asset &asset)
 {
-    auto *numbering = asset.template findChild<Numbering *>(QString(), Qt::FindDirectChildrenOnly);
+    Numbering *numbering = numberings().value(&asset);
     if (!numbering) {
         numbering = new Numbering(&asset, [&asset] { return asset.count(); });
         numbering->follow(asset);
@@ -87,14 +105,4 @@ Renumbering::Renumbering(const Numbering::Names &from, const Numbering::Names &t
     m_numbers.reserve(from.size());
     for (const int name : from)
         m_numbers.append(numbers.value(name, -1));
-}
-
-std::optional<int> Renumbering::operator()(int number) const
-{
-    if (m_changesNothing || number < 0)
-        return number;
-    if (number >= m_numbers.size())
-        return int(std::min<qint64>(qint64(number) + m_growth, std::numeric_limits<int>::max()));
-    const int renamed = m_numbers.at(number);
-    return renamed < 0 ? std::nullopt : std::optional(renamed);
 }

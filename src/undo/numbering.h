@@ -4,8 +4,11 @@
 #include <QList>
 #include <QObject>
 
+#include <algorithm>
 #include <functional>
+#include <limits>
 #include <optional>
+#include <span>
 
 class SpriteBank;
 class TileSet;
@@ -23,6 +26,8 @@ class Numbering final : public QObject
 public:
     /// The names in the order of the numbers. No two are the same.
     using Names = QList<int>;
+
+    ~Numbering() override;
 
     [[nodiscard]] static Numbering &of(TileSet &tileSet);
     [[nodiscard]] static Numbering &of(SpriteBank &bank);
@@ -66,7 +71,15 @@ public:
     [[nodiscard]] bool changesNothing() const { return m_changesNothing; }
     /// The new number; none when what had it is gone. Numbers that the asset never had stay as far behind its
     /// end as they are.
-    [[nodiscard]] std::optional<int> operator()(int number) const;
+    [[nodiscard]] std::optional<int> operator()(int number) const
+    {
+        if (m_changesNothing || number < 0)
+            return number;
+        if (number >= m_numbers.size())
+            return int(std::min<qint64>(qint64(number) + m_growth, std::numeric_limits<int>::max()));
+        const int renamed = m_numbers.at(number);
+        return renamed < 0 ? std::nullopt : std::optional(renamed);
+    }
 
 private:
     bool m_changesNothing;
@@ -88,10 +101,12 @@ template <typename Cell>
         auto result = results.find(row.constData());
         if (result == results.end()) {
             result = results.insert(row.constData(), row);
-            for (qsizetype column = 0; column < row.size(); ++column) {
-                const int number = row.at(column).index;
-                if (const int renamed = renumbering(number).value_or(0); renamed != number)
-                    (*result)[column].index = renamed;
+            const auto first = std::find_if(row.cbegin(), row.cend(), [&renumbering](const Cell &cell) {
+                return renumbering(cell.index).value_or(0) != cell.index;
+            });
+            if (first != row.cend()) {
+                for (Cell &cell : std::span(result->data(), size_t(row.size())).subspan(size_t(first - row.cbegin())))
+                    cell.index = renumbering(cell.index).value_or(0);
             }
         }
         if (result->constData() != row.constData())
