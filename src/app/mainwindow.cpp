@@ -19,8 +19,10 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDir>
 #include <QDragEnterEvent>
 #include <QFileInfo>
+#include <QLocale>
 #include <QMimeData>
 #include <QStatusBar>
 #include <QToolBar>
@@ -111,7 +113,7 @@ void MainWindow::connectProjectController()
     connect(controller, &ProjectController::error, this, &MainWindow::showError);
 
     const ProjectStore *store = m_projectController.store();
-    connect(store, &ProjectStore::loadError, this, &MainWindow::onStoreError);
+    connect(store, &ProjectStore::loadError, this, &MainWindow::onLoadError);
     connect(store, &ProjectStore::saveError, this, &MainWindow::onStoreError);
     connect(store, &ProjectStore::showMessage, statusBar(), &QStatusBar::showMessage);
     connect(store, &ProjectStore::exported, m_exportMessages, &ExportMessages::add);
@@ -336,6 +338,20 @@ void MainWindow::showError(const QString &message)
 void MainWindow::onStoreError(const QString &message)
 {
     messageDialog()->showMessage(message, MessageDialog::defaultTitle(), m_projectController.store()->errorDetail());
+}
+
+void MainWindow::onLoadError(const QString &message)
+{
+    QString detail = m_projectController.store()->errorDetail();
+    const QString file = QDir::fromNativeSeparators(detail);
+    const QFileInfo backup(ProjectStore::backupOf(file));
+    MessageDialog::Offer offer;
+    if (backup.isFile()) {
+        detail += QLatin1Char('\n')
+            + tr("Its backup is from %1").arg(QLocale().toString(backup.lastModified(), QLocale::ShortFormat));
+        offer = {tr("Open &Backup"), [this, file] { m_projectController.openBackup(file); }};
+    }
+    messageDialog()->showMessage(message, MessageDialog::defaultTitle(), detail, offer);
 }
 
 void MainWindow::messageChanged(const QString &message)

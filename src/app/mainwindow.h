@@ -98,6 +98,8 @@ private:
     void onSaveFinished();
     /// Shows what the store could not do, and which file that is about.
     void onStoreError(const QString &message);
+    /// The same, and offers the backup that lies beside the file.
+    void onLoadError(const QString &message);
     void onProjectOpened(Project *project);
     void onProjectClosing();
     void onProjectClosed();

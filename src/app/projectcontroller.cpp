@@ -135,17 +135,37 @@ void ProjectController::openProject(QString filePath)
 {
     if (!confirmClose())
         return;
-    close();
     const Suspension suspension(m_parentWidget);
-    m_project = m_store.newProject(tr("loading..."));
-    if (!m_store.load(filePath)) {
-        m_store.close();
-        m_project.clear();
+    if (!load(filePath))
         return;
-    }
     emit projectOpened(m_project);
     addToRecentProjects(filePath);
     markSaved();
+}
+
+void ProjectController::openBackup(const QString &filePath)
+{
+    if (!confirmClose())
+        return;
+    const Suspension suspension(m_parentWidget);
+    if (!load(ProjectStore::backupOf(filePath)))
+        return;
+    m_store.setFileName({});
+    m_proposedFile = filePath;
+    emit projectOpened(m_project);
+    m_savedFingerprint.clear();
+    m_markClean();
+}
+
+bool ProjectController::load(const QString &filePath)
+{
+    close();
+    m_project = m_store.newProject(tr("loading..."));
+    if (m_store.load(filePath))
+        return true;
+    m_store.close();
+    m_project.clear();
+    return false;
 }
 
 void ProjectController::save()
@@ -187,12 +207,14 @@ void ProjectController::close()
     emit projectClosing();
     m_store.close();
     m_project.clear();
+    m_proposedFile.clear();
     emit projectClosed();
 }
 
 void ProjectController::markSaved()
 {
     m_savedFingerprint = m_store.fingerprint();
+    m_proposedFile.clear();
     m_markClean();
 }
 
@@ -227,7 +249,8 @@ QString ProjectController::runSaveDialog()
         m_saveDialog->setAcceptMode(QFileDialog::AcceptSave);
         m_saveDialog->setDefaultSuffix(QStringLiteral("quenmora"));
     }
-    m_saveDialog->selectFile(proposedFileName(m_project ? m_project->name() : QString()));
+    m_saveDialog->selectFile(m_proposedFile.isEmpty() ? proposedFileName(m_project ? m_project->name() : QString())
+                                                      : m_proposedFile);
     while (m_saveDialog->exec() == QDialog::Accepted) {
         if (mayReplaceChosenFile(*m_saveDialog))
             return m_saveDialog->selectedFiles().value(0);

@@ -57,6 +57,10 @@ public:
 public slots:
     void newProject(QString name);
     void openProject(QString filePath);
+    /// Opens the backup of a project file, in place of one that cannot be opened, as a modified project that has no
+    /// file: saving asks for one, proposes the one of that path, and so replaces neither the backup nor the file
+    /// unasked.
+    void openBackup(const QString &filePath);
     void save();
     void saveAs();
     /// Closes the open project without asking.
@@ -74,6 +78,8 @@ signals:
 
 private:
     void connectTo(FileMenu *fileMenu);
+    /// Replaces the open project by the one of a file; without one when it cannot be read.
+    [[nodiscard]] bool load(const QString &filePath);
     void addToRecentProjects(const QString &filePath);
     void markSaved();
     [[nodiscard]] bool write();
@@ -86,6 +92,7 @@ private:
     QPointer<Project> m_project;
     /// The store's fingerprint when the project was last created, opened or saved.
     QByteArray m_savedFingerprint;
+    QString m_proposedFile; ///< to save a project without a file to; empty where its name proposes one
     QPointer<QFileDialog> m_saveDialog; ///< made when first needed
 
     std::function<bool()> m_backup;

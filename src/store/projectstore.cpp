@@ -128,11 +128,16 @@ void ProjectStore::close()
     m_incompleteFile.clear();
 }
 
+QString ProjectStore::backupOf(const QString &fileName)
+{
+    return targetOf(fileName) + QStringLiteral(".bak"); // a name may hold what arg() would replace
+}
+
 void ProjectStore::backUp(const QString &file) const
 {
     if (!QFileInfo(file).isFile() || m_fileName == m_incompleteFile)
         return;
-    const QString backupName = file + QStringLiteral(".bak"); // a name may hold what arg() would replace
+    const QString backupName = backupOf(file);
     QFile::remove(backupName);
     if (QFile::rename(file, backupName))
         FileOwnership::createLike(file, backupName);

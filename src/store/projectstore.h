@@ -47,6 +47,9 @@ public:
     [[nodiscard]] QString fileName() const { return m_fileName; }
     void setFileName(const QString &fileName) { m_fileName = fileName; }
 
+    /// Where the backup of a project file lies, if there is one: beside what a link leads to.
+    [[nodiscard]] static QString backupOf(const QString &fileName);
+
     /// What the last failure that was told is about: the file, or why it could not be written.
     [[nodiscard]] QString errorDetail() const { return m_errorDetail; }
 

@@ -4,8 +4,12 @@
 
 #include <QDialogButtonBox>
 #include <QLabel>
+#include <QPushButton>
 #include <QStyle>
 #include <QVBoxLayout>
+
+#include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -52,6 +56,13 @@ MessageDialog::MessageDialog(QWidget *parent)
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok, this);
     connect(buttons, &QDialogButtonBox::accepted, this, &MessageDialog::accept);
 
+    m_accept = buttons->addButton(QString(), QDialogButtonBox::ActionRole);
+    connect(m_accept, &QPushButton::clicked, this, [this] {
+        const Offer offer = m_shown.offer; // the next message may take its place
+        accept();
+        offer.accept();
+    });
+
     auto *row = new QHBoxLayout;
     row->setSpacing(row->spacing() * 2);
     row->addWidget(m_icon);
@@ -80,12 +91,19 @@ QString MessageDialog::detail() const
     return m_shown.detail;
 }
 
-void MessageDialog::showMessage(const QString &text, const QString &title, const QString &detail)
+bool MessageDialog::Message::saysTheSameAs(const Message &other) const
 {
-    const Message message{text, title, detail};
+    return text == other.text && title == other.title && detail == other.detail;
+}
+
+void MessageDialog::showMessage(const QString &text, const QString &title, const QString &detail, const Offer &offer)
+{
+    const Message message{text, title, detail, offer};
+    const auto same = [&message](const Message &other) { return message.saysTheSameAs(other); };
     if (!isVisible()) {
         display(message);
-    } else if (message != m_shown && !m_waiting.contains(message) && m_waiting.size() < MostWaiting) {
+    } else if (!same(m_shown) && std::none_of(m_waiting.cbegin(), m_waiting.cend(), same)
+               && m_waiting.size() < MostWaiting) {
         m_waiting.enqueue(message);
     }
 }
@@ -106,6 +124,8 @@ void MessageDialog::display(const Message &message)
     m_text->setText(breakable(message.text));
     m_detail->setText(breakable(message.detail));
     m_detail->setVisible(!message.detail.isEmpty());
+    m_accept->setText(message.offer.text);
+    m_accept->setVisible(!message.offer.text.isEmpty());
     const int extent = style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, this);
     m_icon->setPixmap(style()
                           ->standardIcon(QStyle::SP_MessageBoxWarning, nullptr, this)

@@ -3,7 +3,10 @@
 #include <QDialog>
 #include <QQueue>
 
+#include <functional>
+
 class QLabel;
+class QPushButton;
 
 /// The one dialog in which the program says that something failed.
 ///
@@ -14,6 +17,13 @@ class MessageDialog : public QDialog
     Q_OBJECT
 
 public:
+    /// What can be done about a failure: the text of a button beside OK, and what it does when the message is gone.
+    struct Offer
+    {
+        QString text; ///< empty for no offer
+        std::function<void()> accept;
+    };
+
     explicit MessageDialog(QWidget *parent = nullptr);
 
     /// The title used when none is given, "Warning!".
@@ -25,7 +35,8 @@ public:
     [[nodiscard]] QString detail() const;
 
 public slots:
-    void showMessage(const QString &text, const QString &title = defaultTitle(), const QString &detail = {});
+    void showMessage(const QString &text, const QString &title = defaultTitle(), const QString &detail = {},
+                     const Offer &offer = {});
 
     void done(int result) override;
 
@@ -35,8 +46,9 @@ private:
         QString text;
         QString title;
         QString detail;
+        Offer offer;
 
-        bool operator==(const Message &) const = default;
+        [[nodiscard]] bool saysTheSameAs(const Message &other) const;
     };
 
     void display(const Message &message);
@@ -44,6 +56,7 @@ private:
     QLabel *m_icon;
     QLabel *m_text;
     QLabel *m_detail;
+    QPushButton *m_accept; ///< the offer
     Message m_shown;
     QQueue<Message> m_waiting;
 };
