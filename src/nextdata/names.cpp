@@ -1,0 +1,140 @@
+#include "nextdata/names.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+namespace NextData {
+namespace {
+
+constexpr qsizetype LongestWord =
+    40; ///< what is added to it still fits into the 63 characters that C compilers tell apart
+constexpr qsizetype LongestLabel = 56; ///< of those that people choose
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("NextData", text);
+}
+
+/// Words that mean something to one of the assemblers or to C, in lower case.
+const QSet<QString> &reservedWords()
+{
+    static const QSet<QString> words = [] {
+        const auto lists = {
+            // registers and conditions of the Z80
+            "a b c d e f h l i r af bc de hl ix iy sp pc ixh ixl iyh iyl hx lx hy ly xh xl yh yl nz z nc po pe p m ns",
+            // instructions, those of the Next included
+            "adc add and bit brlc bsla bsra bsrf bsrl call ccf cp cpd cpdr cpi cpir cpl daa dec di djnz ei ex exx halt "
+            "im in inc ind indr ini inir jp jr ld ldd lddr lddrx lddx ldi ldir ldirx ldix ldpirx ldrx ldws mirror mul "
+            "neg nextreg nop or otdr otib otir out outd outi outinb pixelad pixeldn pop push res ret reti retn rl rla "
+            "rlc rlca rld rr rra rrc rrca rrd rst sbc scf set setae sla sli sll slr sra srl stop sub swap swapnib test "
+            "tst xor",
+            // directives and operators
+            "abs align assert bank binary block break byte bank code const cont data db dc dd defb defc defd defgroup "
+            "define defl defm defp defs defvars defw device disp display dl dm ds dup dw dword dz edup else elseif end "
+            "endif endm endmod endmodule endp endr ends endt ent eq equ even export exitm extern fpos ge global gt "
+            "high if ifdef ifndef incbin inchob include inctrd insert jnz le list local low lt lua macro mmu mod "
+            "module ne nolist not nul opt org output page phase proc public rept savebin savenex savesna seek section "
+            "shl shr sizeof slot space struct text title undefine unphase while word",
+            // C, with what z88dk adds, and the names that every program has
+            "alignas alignof auto bool case char complex constexpr continue default do double enum extern false far "
+            "float for fortran goto imaginary inline int interrupt long main near new near naked noreturn nullptr "
+            "register restrict return sfr short signed sizeof static switch true typedef typeof union unsigned using "
+            "void volatile asm class delete friend namespace operator private protected template this throw try "
+            "virtual catch at banked critical nonbanked preserves_regs reentrant shadowregs wparam",
+        };
+        QSet<QString> all;
+        for (const char *list : lists) {
+            const QStringList split = QString::fromLatin1(list).split(u' ');
+            all.unite(QSet<QString>(split.cbegin(), split.cend()));
+        }
+        return all;
+    }();
+    return words;
+}
+
+bool isAsciiLetter(QChar c)
+{
+    return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z');
+}
+
+bool isAsciiDigit(QChar c)
+{
+    return c >= u'0' && c <= u'9';
+}
+
+} // namespace
+
+QString asWord(const QString &name)
+{
+    // far more than fits, and little enough for a name of any length
+    QString letters = name.left(16 * LongestWord).toLower();
+    letters.replace(QChar(0xDF), QStringLiteral("ss")); // the one letter of Latin 1 that is no letter with an accent
+    letters = letters.normalized(QString::NormalizationForm_KD);
+    QString word;
+    for (const QChar c : std::as_const(letters)) {
+        if (c.isMark())
+            continue;
+        if (isAsciiLetter(c) || isAsciiDigit(c))
+            word += c;
+        else if (!word.isEmpty() && !word.endsWith(u'_'))
+            word += u'_';
+        if (word.size() == LongestWord)
+            break;
+    }
+    if (word.endsWith(u'_'))
+        word.chop(1);
+    return word;
+}
+
+QString Names::claim(const QString &name, const QString &fallback, const QStringList &suffixes)
+{
+    QString word = asWord(name);
+    if (word.isEmpty())
+        word = fallback;
+    else if (!isAsciiLetter(word.front()))
+        word = fallback + u'_' + word;
+    if (reservedWords().contains(word))
+        word += QStringLiteral("_data");
+
+    QString label = word;
+    for (int number = 2; !areFree(label, suffixes); ++number)
+        label = word + u'_' + QString::number(number);
+    take(label, suffixes);
+    return label;
+}
+
+Result<QString> Names::claimExactly(const QString &label, const QStringList &suffixes)
+{
+    const bool isWord = !label.isEmpty() && isAsciiLetter(label.front())
+        && std::all_of(label.cbegin(), label.cend(),
+                       [](QChar c) { return isAsciiLetter(c) || isAsciiDigit(c) || c == u'_'; });
+    if (!isWord || label.size() > LongestLabel)
+        return Failure{tr("“%1” cannot be a label: those are a letter, then letters, digits and _, %2 at most")
+                           .arg(label.left(LongestLabel))
+                           .arg(LongestLabel)};
+    if (reservedWords().contains(label.toLower()))
+        return Failure{tr("“%1” cannot be a label: assemblers or C give it a meaning").arg(label)};
+    if (!areFree(label, suffixes))
+        return Failure{tr("The label “%1”, or a name made of it, is that of another output already").arg(label)};
+    take(label, suffixes);
+    return label;
+}
+
+bool Names::areFree(const QString &label, const QStringList &suffixes) const
+{
+    const QString lower = label.toLower();
+    return !m_taken.contains(lower) && std::none_of(suffixes.cbegin(), suffixes.cend(), [&](const QString &suffix) {
+        return m_taken.contains(lower + u'_' + suffix.toLower());
+    });
+}
+
+void Names::take(const QString &label, const QStringList &suffixes)
+{
+    const QString lower = label.toLower();
+    m_taken.insert(lower);
+    for (const QString &suffix : suffixes)
+        m_taken.insert(lower + u'_' + suffix.toLower());
+}
+
+} // namespace NextData

@@ -1,0 +1,141 @@
+#include "nextdata/sourcetext.h"
+
+namespace NextData::SourceText {
+namespace {
+
+struct Syntax
+{
+    const char *bytes; ///< starts a line of bytes
+    const char *hex; ///< stands before a hexadecimal number
+    const char *constant; ///< with name and value
+    const char *label;
+};
+
+constexpr Syntax syntaxOf(Dialect dialect)
+{
+    switch (dialect) {
+    case Dialect::Z80asm:
+        return {"\tdefb ", "$", "%1:\tequ %2\n", "%1:\n"};
+    case Dialect::GnuAs:
+        return {"\t.byte ", "0x", "\t.equ %1, %2\n", "\t.global %1\n%1:\n"};
+    case Dialect::C:
+        return {"\t", "0x", "#define %1 %2\n", ""};
+    case Dialect::Sjasmplus:
+        break;
+    }
+    return {"\tdb ", "$", "%1:\tequ %2\n", "%1:\n"};
+}
+
+QString nameOf(const Heading &heading, const QString &suffix)
+{
+    return heading.label + u'_' + suffix;
+}
+
+QString constantName(const Heading &heading, const QString &suffix)
+{
+    return nameOf(heading, suffix).toUpper();
+}
+
+/// The text as it can stand in a comment of any dialect: on one line, without what would end it or join it to the next.
+QString asComment(const QString &text)
+{
+    QString comment = text.left(200).simplified();
+    for (QChar &c : comment) {
+        if (!c.isPrint() || c == u'\\' || c == u'?' || c == u'*')
+            c = u' ';
+    }
+    return comment.simplified();
+}
+
+QByteArray constantsOf(const Heading &heading, const Syntax &syntax)
+{
+    QString text;
+    for (const Data::Constant &constant : heading.constants)
+        text += QString::fromLatin1(syntax.constant)
+                    .arg(constantName(heading, constant.name), QString::number(constant.value));
+    return text.toLatin1();
+}
+
+/// Lines of bytes. The two-digit numbers are written by hand: text of a large map has a hundred million of them.
+void appendBytes(QByteArray &text, const Data::Block &block, const Syntax &syntax, const char *lineEnd)
+{
+    constexpr char digits[] = "0123456789abcdef";
+    const QByteArray hex = syntax.hex;
+    const qsizetype perLine = std::max(block.bytesPerLine, 1);
+    text.reserve(text.size() + block.bytes.size() * (hex.size() + 3) + (block.bytes.size() / perLine + 1) * 10);
+    for (qsizetype i = 0; i < block.bytes.size(); ++i) {
+        const auto byte = uchar(block.bytes[i]);
+        text += i % perLine == 0 ? QByteArrayView(syntax.bytes) : QByteArrayView(",");
+        text += hex;
+        text += digits[byte >> 4];
+        text += digits[byte & 15];
+        if (i % perLine == perLine - 1 || i == block.bytes.size() - 1)
+            text += lineEnd;
+    }
+}
+
+qsizetype sizeOf(const Section &section)
+{
+    qsizetype size = 0;
+    for (const Data::Block &block : section.blocks)
+        size += block.bytes.size();
+    return size;
+}
+
+} // namespace
+
+QByteArray assembler(Dialect dialect, const Heading &heading, const Section &section, bool isFirst)
+{
+    const Syntax syntax = syntaxOf(dialect);
+    const auto label = [&syntax](const QString &name) {
+        return QString::fromLatin1(syntax.label).arg(name).toLatin1();
+    };
+    QByteArray text = "; " + asComment(heading.title).toUtf8() + "\n\n";
+    if (isFirst)
+        text += constantsOf(heading, syntax) + '\n';
+    text += label(section.label);
+    for (const Data::Block &block : section.blocks) {
+        if (!block.comment.isEmpty())
+            text += "; " + asComment(block.comment).toUtf8() + '\n';
+        if (!block.name.isEmpty())
+            text += label(nameOf(heading, block.name));
+        appendBytes(text, block, syntax, "\n");
+    }
+    return text;
+}
+
+QByteArray cSource(const Heading &heading, const Section &section, const QString &headerName)
+{
+    const Syntax syntax = syntaxOf(Dialect::C);
+    QByteArray text = "/* " + asComment(heading.title).toUtf8() + " */\n\n";
+    text += "#include \"" + headerName.toUtf8() + "\"\n\n";
+    text += "const unsigned char " + section.label.toLatin1() + '[' + QByteArray::number(sizeOf(section)) + "] = {\n";
+    for (const Data::Block &block : section.blocks) {
+        if (!block.comment.isEmpty())
+            text += "\t/* " + asComment(block.comment).toUtf8() + " */\n";
+        appendBytes(text, block, syntax, ",\n");
+    }
+    return text + "};\n";
+}
+
+QByteArray cHeader(const Heading &heading, const QList<Section> &sections)
+{
+    const Syntax syntax = syntaxOf(Dialect::C);
+    const QByteArray guard = constantName(heading, QStringLiteral("included")).toLatin1();
+    QByteArray text = "/* " + asComment(heading.title).toUtf8() + " */\n\n";
+    text += "#ifndef " + guard + "\n#define " + guard + "\n\n" + constantsOf(heading, syntax) + '\n';
+    for (const Section &section : sections) {
+        text += "extern const unsigned char " + section.label.toLatin1() + '[' + QByteArray::number(sizeOf(section))
+            + "];\n";
+        qsizetype offset = 0;
+        for (const Data::Block &block : section.blocks) {
+            if (!block.name.isEmpty())
+                text += "#define " + nameOf(heading, block.name).toLatin1() + " (" + section.label.toLatin1() + " + "
+                    + QByteArray::number(offset) + ")\n";
+            offset += block.bytes.size();
+        }
+    }
+    return text + "\n#endif\n";
+}
+
+} // namespace NextData::SourceText
