@@ -457,6 +457,10 @@ void DocumentController::setActiveImageEditor(QUuid imageId)
         editor->setUndoStack(undoStackFor(imageId));
         connect(editor, &ImageEditor::View::error, this, &DocumentController::error);
         connect(editor, &ImageEditor::View::exported, this, &DocumentController::exported);
+        connect(editor, &ImageEditor::View::paletteSwapped, this, [this, editor](const QPointer<Palette> &palette) {
+            if (editor == m_views.tabs->currentWidget())
+                showPalette(palette);
+        });
         closeWith(image, editor);
     }
     setActivePalette(image->paletteId());
@@ -469,7 +473,6 @@ void DocumentController::changeImagePalette(QUuid paletteId)
     if (!editor || !palette)
         return;
     editor->swapPalette(palette);
-    showPalette(palette);
 }
 
 void DocumentController::scratchEditorActivated()

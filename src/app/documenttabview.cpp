@@ -6,6 +6,7 @@
 #include "editors/canvas/imageeditorview.h"
 #include "editors/map/mapeditorview.h"
 #include "model/image.h"
+#include "ui/plaintext.h"
 #include "ui/svgiconengine.h"
 
 #include <QKeyEvent>
@@ -20,12 +21,6 @@ namespace {
 
 constexpr const char *IdProperty = "document_id";
 constexpr const char *TypeProperty = "document_type";
-
-/// A name as the text of a tab, which takes an ampersand for a mnemonic.
-QString tabTextOf(const QString &name)
-{
-    return QString(name).replace(u'&', QStringLiteral("&&"));
-}
 
 /// Documents of one name differ by it.
 QIcon iconOf(DocumentTabView::DocumentType type)
@@ -162,7 +157,7 @@ void DocumentTabView::open(QWidget *page, DocumentType type, const QUuid &id, co
     // before it becomes current and is announced
     page->setProperty(IdProperty, id);
     page->setProperty(TypeProperty, int(type));
-    setCurrentIndex(addTab(page, iconOf(type), tabTextOf(name)));
+    setCurrentIndex(addTab(page, iconOf(type), withoutMnemonic(name)));
 }
 
 MapEditor::View *DocumentTabView::openMapEditor(const QPointer<Map> &map)
@@ -236,7 +231,7 @@ void DocumentTabView::closeDocument(const QUuid &id)
 void DocumentTabView::renameDocument(const QUuid &id, const QString &name)
 {
     if (const int index = indexOfDocument(id); !id.isNull() && index >= 0)
-        setTabText(index, tabTextOf(name));
+        setTabText(index, withoutMnemonic(name));
 }
 
 QStringList DocumentTabView::openDocumentIds() const

@@ -1,5 +1,8 @@
 #include "ui/dockwidget.h"
 
+#include "ui/plaintext.h"
+
+#include <QEvent>
 #include <QLabel>
 #include <QStackedWidget>
 
@@ -17,6 +20,14 @@ DockWidget::DockWidget(const QString &title, const QString &placeholder, QWidget
     m_placeholder->setMinimumHeight(4 * m_placeholder->fontMetrics().lineSpacing());
     m_pages->addWidget(m_placeholder);
     setWidget(m_pages);
+}
+
+bool DockWidget::event(QEvent *event)
+{
+    const bool handled = QDockWidget::event(event);
+    if (event->type() == QEvent::WindowTitleChange) // the title may be an asset's name
+        toggleViewAction()->setText(withoutMnemonic(windowTitle()));
+    return handled;
 }
 
 void DockWidget::setContent(QWidget *content)

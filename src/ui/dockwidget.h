@@ -35,6 +35,9 @@ signals:
     /// The page changed.
     void activeChanged(bool active);
 
+protected:
+    bool event(QEvent *event) override;
+
 private:
     QStackedWidget *m_pages;
     QLabel *m_placeholder;

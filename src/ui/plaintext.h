@@ -9,6 +9,12 @@
 /// Rich text fetches the pictures that it names, which may be any file, a pipe or a device among them.
 [[nodiscard]] QString plainText(const QString &text);
 
+/// A text as that of an action or a tab, where an ampersand would mark the letter behind it as a mnemonic.
+[[nodiscard]] inline QString withoutMnemonic(QString text)
+{
+    return text.replace(u'&', QStringLiteral("&&"));
+}
+
 /// Shows every tool tip of the application as it is written, also those that Qt makes of titles and file names.
 class PlainToolTips : public QObject
 {

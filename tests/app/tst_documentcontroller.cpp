@@ -110,6 +110,7 @@ private slots:
         QCOMPARE(views().palette->palette(), m_assets->tilePalette);
         documents()->undoGroup()->undo();
         QCOMPARE(m_assets->image->palette(), m_assets->imagePalette);
+        QCOMPARE(views().palette->palette(), m_assets->imagePalette);
     }
 
     void tellsDocksAndMenusWhatIsActive()

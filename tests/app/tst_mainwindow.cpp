@@ -430,6 +430,7 @@ private slots:
         documents->setActiveBlockEditor(project->blockSets().first()->id());
         documents->setActiveSpriteEditor(project->spriteBanks().first()->id());
         documents->setActiveMap(project->maps().first()->id());
+        project->tileSets().first()->setName("Rock & Roll"); // no mnemonic
         QCoreApplication::processEvents();
         m_window->resize(1, 1);
         QVERIFY2(m_window->width() <= 900 && m_window->height() <= 490, // a screen of 1920 x 1080 at scale 2
@@ -446,6 +447,7 @@ private slots:
                 marked += bar->tabIcon(tab).isNull() ? 0 : 1;
             }
         }
+        QCOMPARE(m_window->views().tileEditor->toggleViewAction()->text(), "Rock && Roll");
         QCOMPARE(marked, 3); // palette, tile set and sprites, whose tabs are named after them
         QList<QImage> icons; // an image, map objects, sprites and a map may have one name
         for (int tab = 0; tab < 4; ++tab) {

@@ -2,6 +2,7 @@
 
 #include "app/dialogs/picturepreview.h"
 #include "model/palette.h"
+#include "model/rawfile.h"
 #include "ui/indexsuffix.h"
 
 #include <QComboBox>
@@ -112,7 +113,7 @@ void ImportZXFontDialog::readFont()
 {
     QFile file(m_file->text());
     m_font.clear();
-    if (m_tileSet && !file.fileName().isEmpty() && file.open(QIODevice::ReadOnly))
+    if (m_tileSet && RawFile::openForReading(file))
         m_font = file.read(qint64(m_tileSet->count()) * CharacterBytes);
     updatePreview();
 }

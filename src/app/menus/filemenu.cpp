@@ -95,8 +95,7 @@ void FileMenu::rebuildRecentMenu()
     }
     m_recentProjects.clear();
     for (const QString &path : m_recentFiles.paths()) {
-        // an ampersand of the name is no mnemonic
-        QAction *entry = m_recentMenu->addAction(QFileInfo(path).fileName().replace(u'&', QStringLiteral("&&")));
+        QAction *entry = m_recentMenu->addAction(withoutMnemonic(QFileInfo(path).fileName()));
         entry->setProperty("filePath", path);
         entry->setToolTip(plainText(path));
         connect(entry, &QAction::triggered, this, [this, path] { emit openProject(path); });

@@ -25,7 +25,7 @@ void PaletteMenu::updateActions()
 {
     setEnabled(project());
     m_export->setEnabled(m_palette);
-    m_name->setText(m_palette ? m_palette->name().replace(u'&', QStringLiteral("&&")) : tr("No Palette"));
+    m_name->setText(m_palette ? withoutMnemonic(m_palette->name()) : tr("No Palette"));
     m_name->setToolTip(plainText(m_name->toolTip()));
 }
 

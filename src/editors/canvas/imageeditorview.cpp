@@ -6,13 +6,16 @@
 #include "editors/canvas/scrollcanvas.h"
 #include "editors/palette/colourpalette.h"
 #include "model/picturefile.h"
+#include "model/rawfile.h"
 #include "model/writeproblem.h"
 #include "ui/assettitle.h"
 #include "ui/replacing.h"
 #include "ui/toolpalette.h"
 #include "undo/snapshotcommand.h"
 
+#include <QBuffer>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QHBoxLayout>
 
 using namespace Quenmora::Ui;
@@ -96,8 +99,10 @@ void View::setUndoStack(QUndoStack *stack)
         return;
     connect(stack, &QUndoStack::indexChanged, this, [this] {
         // undo of an edit that was made in an editor which was closed since
-        if (m_image && m_image->palette() != canvas()->palette())
+        if (m_image && m_image->palette() != canvas()->palette()) {
             setPalette(m_image->palette());
+            emit paletteSwapped(m_image->palette());
+        }
         if (m_image && !Layer2Image::haveSameIndices(m_image->image(), canvas()->image()))
             load(m_image->image());
     });
@@ -139,6 +144,7 @@ void View::swapPalette(const QPointer<Palette> &palette)
     const QPointer<Palette> before = m_image->palette();
     m_image->setPalette(palette);
     setPalette(palette);
+    emit paletteSwapped(palette);
     if (!m_undoStack)
         return;
     const auto bind = [image = m_image, hadNone = !before](const QPointer<Palette> &other) {
@@ -239,10 +245,14 @@ void View::exportImage(const QString &fileName)
     // a name that nobody chose in the dialog was not completed by it either
     if (m_exportFile && !mayReplaceChosenFile(*m_exportFile))
         return;
-    if (canvas()->image().save(fileName))
+    QBuffer file;
+    const bool isPicture = canvas()->image().save(&file, QFileInfo(fileName).suffix().toLatin1().constData());
+    if (isPicture && RawFile::write(fileName, file.data()))
         emit exported(name(), fileName);
     else
-        emit error(tr("There was a problem exporting data") + u'\n' + writeProblem(fileName));
+        emit error(
+            tr("There was a problem exporting data") + u'\n'
+            + (isPicture ? writeProblem(fileName) : tr("Pictures are written as .png, .xpm, .jpg or .bmp files")));
 }
 
 QString View::name() const

@@ -37,6 +37,8 @@ public:
 
 signals:
     void imageChanged(QImage image);
+    /// The image was bound to another palette, or to the one before again by undo.
+    void paletteSwapped(const QPointer<Palette> &palette);
     /// A file could not be read or written.
     void error(const QString &message);
     /// The picture was written to a file; asset is its name.

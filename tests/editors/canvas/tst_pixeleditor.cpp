@@ -19,6 +19,8 @@
 #include <QTemporaryDir>
 #include <QUndoStack>
 
+#include <sys/stat.h>
+
 using namespace Quenmora::Ui;
 using ImageEditor::View;
 using SpriteEditor::SpriteList;
@@ -472,8 +474,10 @@ private slots:
         QVERIFY(QFile::exists(scene.file("early.png")));
         scene.choose(Save, "out.png");
         QCOMPARE(QImage(scene.file("out.png")).pixelColor(6, 6), QColor(Qt::red));
-        scene.choose(Save, "no/such/folder/out.png");
-        QCOMPARE(errors.count(), 1);
+        QCOMPARE(mkfifo(qPrintable(scene.file("pipe.png")), 0600), 0); // which would wait for its reader
+        for (const char *name : {"no/such/folder/out.png", "out.unknown", "pipe.png"})
+            scene.choose(Save, name);
+        QCOMPARE(errors.count(), 3);
         QSignalSpy changes(scene.view.get(), &View::imageChanged);
         scene.view->setImage(nullptr);
         scene.view->setPixels(plainImage({256, 192}, 3)); // the scratch picture
