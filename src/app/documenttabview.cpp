@@ -45,9 +45,10 @@ class TabBar final : public QTabBar
 protected:
     QSize minimumTabSizeHint(int index) const override
     {
-        const int least = fontMetrics().averageCharWidth() * 18; // a dozen letters and the close button
         const QSize whole = tabSizeHint(index);
-        return {std::min(whole.width(), least), whole.height()};
+        const int text = fontMetrics().horizontalAdvance(tabText(index));
+        const int least = std::min(text, fontMetrics().averageCharWidth() * 14);
+        return {whole.width() - text + least, whole.height()};
     }
 };
 
