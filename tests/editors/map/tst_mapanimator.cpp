@@ -77,20 +77,6 @@ private slots:
             }
         }
     }
-
-    void assetsMayGoWhilePlaying()
-    {
-        for (int asset = 0; asset < 6; ++asset) {
-            Fixture f;
-            f.tick(2);
-            delete QList<QObject *>{f.animation, f.blocks, f.tiles, f.map, f.map->objectLayer()}.value(asset);
-            if (asset == 5)
-                f.animation->clearFrames();
-            f.tick(2);
-            if (f.map && f.map->objectLayer())
-                QCOMPARE(f.object(3, 4).index, 6); // the last frame stays
-        }
-    }
 };
 
 QUENMORA_TEST_MAIN(TestMapAnimator)
