@@ -4,7 +4,6 @@
 #include "editors/canvas/canvasoverlay.h"
 #include "editors/canvas/canvasselection.h"
 #include "editors/canvas/layer2image.h"
-#include "editors/canvas/pendingedit.h"
 
 #include "support/modeltools.h"
 #include "support/testmain.h"
@@ -67,42 +66,20 @@ private slots:
         }
     }
 
-    void editKnowsWhetherIndicesChanged()
-    {
-        const QImage before = plainImage(ImageSize, 1);
-        const QImage after = plainImage(ImageSize, 2); // of the same colour
-        PendingEdit edit;
-        QVERIFY(edit.end(after).isNull());
-        for (const QImage &now : {before, after}) {
-            edit.begin(before);
-            QVERIFY(edit.isOpen());
-            QCOMPARE(edit.end(now).isNull(), indices(now) == indices(before));
-            QVERIFY(!edit.isOpen());
-        }
-        edit.begin(before);
-        edit.giveUp();
-        QVERIFY(edit.end(after).isNull());
-    }
-
     void overlayMarksCells()
     {
-        const auto painted = [](CanvasOverlay overlay, int zoom) {
+        const auto painted = [](CanvasOverlay overlay, QColor ground, int zoom, QSize pixels) {
             QImage image(64, 64, QImage::Format_RGB32);
-            image.fill(Qt::white);
+            image.fill(ground);
             QPainter painter(&image);
-            overlay.paint(painter, fitted(zoom, false, image.size(), {32, 32}));
-            return image;
+            overlay.paint(painter, fitted(zoom, false, image.size(), pixels));
+            painter.end();
+            return [image](int x, int y) { return qRed(image.pixel(x, y)); };
         };
         // white under 80 / 255 of (64, 64, 64) or (80, 80, 80), in cells of at least 16 pixels
-        const QImage checker = painted({.checker = true}, 2);
-        const auto at = [&checker](int x, int y) { return qRed(checker.pixel(x, y)); };
+        const auto at = painted({.checker = true}, Qt::white, 2, {32, 32});
         QCOMPARE((QList{at(0, 0), at(15, 15), at(16, 0), at(0, 16), at(16, 16)}), (QList{195, 195, 200, 200, 195}));
-        QImage dark(64, 64, QImage::Format_RGB32);
-        dark.fill(Qt::black);
-        QPainter painter(&dark);
-        CanvasOverlay{.gridLines = true}.paint(painter, fitted(32, false, dark.size(), {2, 2}));
-        painter.end();
-        const auto lit = [&dark](int x, int y) { return qRed(dark.pixel(x, y)) > 0; };
+        const auto lit = painted({.gridLines = true}, Qt::black, 32, {2, 2});
         QVERIFY(lit(0, 5) && lit(32, 5) && lit(5, 32) && !lit(31, 5) && !lit(5, 33) && !lit(16, 16));
     }
 };

