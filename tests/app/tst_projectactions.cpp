@@ -444,13 +444,5 @@ private:
     QUuid m_ready; ///< the id that a signal of the actions has told last
 };
 
-// Creating, copying and deleting
-
-// Maps
-
-// Palettes
-
-// Sprites
-
 QUENMORA_TEST_MAIN(TestProjectActions)
 #include "tst_projectactions.moc"

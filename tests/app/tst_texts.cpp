@@ -205,6 +205,7 @@ private slots:
         add(2, "Export", "colours.npl", "Main", "513");
         add(3, "Export", "tiles.bin", "Tiles", "256");
         add(3, "Export Attributes", "attributes.bin", "Tiles", "4");
+        add(3, "Export Attributes", "attributes.asm", "Tiles", "240");
         add(4, "Export", "level.map", "Level", "48");
         add(5, "Export Data", "hero.spr", "Hero", "768");
     }
@@ -298,17 +299,6 @@ private slots:
                      QString("Exported %1 to %2 (%3 bytes)")
                          .arg(scratch ? "Scratch Image" : "Title", file, QLocale().toString(QFileInfo(file).size())));
         }
-    }
-
-    void tellsWhichFileIsNoProject()
-    {
-        m_window->projectController()->openProject("/gone/game.quenmora");
-        QCOMPARE(m_window->messageDialog()->text(), "Invalid project file");
-        QCOMPARE(m_window->messageDialog()->detail(), "/gone/game.quenmora");
-        m_window->showError("Something else");
-        m_window->messageDialog()->accept(); // the next one in turn
-        QCOMPARE(m_window->messageDialog()->text(), "Something else");
-        QCOMPARE(m_window->messageDialog()->detail(), "");
     }
 
     void proposesWhatIsMeant()
