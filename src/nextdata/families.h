@@ -6,6 +6,12 @@
 namespace NextData {
 
 [[nodiscard]] QList<Form> paletteForms();
+[[nodiscard]] QList<Form> tileForms();
 [[nodiscard]] QList<Form> mapForms();
+[[nodiscard]] QList<Form> objectForms(); ///< what is placed on maps
+[[nodiscard]] QList<Form> blockAnimationForms();
+[[nodiscard]] QList<Form> spriteForms();
+[[nodiscard]] QList<Form> spriteAnimationForms();
+[[nodiscard]] QList<Form> imageForms();
 
 } // namespace NextData

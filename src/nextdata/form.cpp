@@ -12,7 +12,8 @@ namespace {
 
 QList<Form> allForms()
 {
-    QList<Form> all = paletteForms() + mapForms();
+    QList<Form> all = paletteForms() + tileForms() + mapForms() + objectForms() + blockAnimationForms() + spriteForms()
+        + spriteAnimationForms() + imageForms();
     for (Form &form : all)
         form.options += commonOptions();
     return all;

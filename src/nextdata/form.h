@@ -20,11 +20,12 @@ struct Data
         qint64 value;
     };
 
-    /// A run of bytes. One with a name gets a label of its own in text, LABEL_name.
+    /// A run of bytes. One with a name, which may be any text, gets a label of its own in text, LABEL_name.
     struct Block
     {
         QByteArray bytes;
         QString name{};
+        int number = -1; ///< that text defines as LABEL_NAME_NUMBER, of a block with a name; -1 for none
         QString comment{};
         int bytesPerLine = 16; ///< in text
         bool startsFile = false; ///< a new file begins with it

@@ -63,6 +63,15 @@ bool isAsciiDigit(QChar c)
     return c >= u'0' && c <= u'9';
 }
 
+/// A word that begins with a letter.
+QString labelWord(const QString &name, const QString &fallback)
+{
+    const QString word = asWord(name);
+    if (word.isEmpty())
+        return fallback;
+    return isAsciiLetter(word.front()) ? word : fallback + u'_' + word;
+}
+
 } // namespace
 
 QString asWord(const QString &name)
@@ -89,17 +98,23 @@ QString asWord(const QString &name)
 
 QString Names::claim(const QString &name, const QString &fallback, const QStringList &suffixes)
 {
-    QString word = asWord(name);
-    if (word.isEmpty())
-        word = fallback;
-    else if (!isAsciiLetter(word.front()))
-        word = fallback + u'_' + word;
-    if (reservedWords().contains(word))
-        word += QStringLiteral("_data");
+    const QString word = labelWord(name, fallback);
+    return claimNumbered(reservedWords().contains(word) ? word + QStringLiteral("_data") : word, suffixes);
+}
 
-    QString label = word;
-    for (int number = 2; !areFree(label, suffixes); ++number)
-        label = word + u'_' + QString::number(number);
+QString Names::claimPart(const QString &name, const QString &fallback, const QStringList &suffixes)
+{
+    return claimNumbered(labelWord(name, fallback), suffixes);
+}
+
+QString Names::claimNumbered(const QString &word, const QStringList &suffixes)
+{
+    int &number = m_lastNumber[word]; // 0 for a new word
+    QString label;
+    do {
+        ++number;
+        label = number == 1 ? word : word + u'_' + QString::number(number);
+    } while (!areFree(label, suffixes));
     take(label, suffixes);
     return label;
 }

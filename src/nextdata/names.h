@@ -2,6 +2,7 @@
 
 #include "nextdata/result.h"
 
+#include <QHash>
 #include <QSet>
 #include <QString>
 #include <QStringList>
@@ -19,14 +20,19 @@ public:
     /// is added as long as it, or a name that is made of it, is taken.
     [[nodiscard]] QString claim(const QString &name, const QString &fallback, const QStringList &suffixes = {});
 
+    /// The same for what stands behind "label_", where no word is reserved.
+    [[nodiscard]] QString claimPart(const QString &name, const QString &fallback, const QStringList &suffixes = {});
+
     /// Claims exactly this label; a failure says why it cannot be one.
     [[nodiscard]] Result<QString> claimExactly(const QString &label, const QStringList &suffixes = {});
 
 private:
+    [[nodiscard]] QString claimNumbered(const QString &word, const QStringList &suffixes);
     [[nodiscard]] bool areFree(const QString &label, const QStringList &suffixes) const;
     void take(const QString &label, const QStringList &suffixes);
 
     QSet<QString> m_taken; ///< in lower case
+    QHash<QString, int> m_lastNumber; ///< that was added to a word
 };
 
 /// The name in lower case ASCII letters, digits and single underscores, with accents taken off, at most 40 of them;

@@ -20,6 +20,8 @@ QString tr(const char *text)
     return QCoreApplication::translate("NextData", text);
 }
 
+const QString HeaderGuard = QString::fromLatin1(SourceText::HeaderGuard);
+
 std::optional<Dialect> dialectOf(const OptionValues &values)
 {
     if (values.is("text", "sjasmplus"))
@@ -104,10 +106,27 @@ QStringList partsOf(qsizetype files, const OptionValues &values)
     return parts;
 }
 
+/// Makes the names of blocks parts of labels, each another one, and defines their numbers.
+void nameBlocks(Data &data)
+{
+    Names names;
+    (void)names.claimPart(HeaderGuard, {});
+    for (const Data::Constant &constant : std::as_const(data.constants))
+        (void)names.claimPart(constant.name, constant.name);
+    const QString number = QStringLiteral("number");
+    for (Data::Block &block : data.blocks) {
+        if (block.name.isEmpty())
+            continue;
+        block.name = names.claimPart(block.name, QStringLiteral("part"), {number});
+        if (block.number >= 0)
+            data.constants.append({block.name + u'_' + number, block.number});
+    }
+}
+
 /// All that is behind "LABEL_" in a name of the output.
 QStringList suffixesOf(const Data &data, const QStringList &parts)
 {
-    QStringList suffixes{QStringLiteral("included")};
+    QStringList suffixes{HeaderGuard};
     for (const Data::Constant &constant : data.constants)
         suffixes.append(constant.name);
     for (const Data::Block &block : data.blocks) {
@@ -212,6 +231,7 @@ Result<QList<OutputFile>> write(const Form &form, const Source &source, const Op
     if (const qint64 padding = padded(size, values) - size; padding > 0)
         data.blocks.append({.bytes = QByteArray(padding, '\0'), .comment = tr("padding")});
     data.constants.append({QStringLiteral("size"), size});
+    nameBlocks(data);
 
     const QList<Blocks> files = filesOf(data.blocks, fileSize(values));
     const QStringList parts = partsOf(files.size(), values);

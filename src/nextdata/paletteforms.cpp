@@ -7,6 +7,7 @@
 
 #include "model/palette.h"
 #include "nextdata/families.h"
+#include "nextdata/palettewords.h"
 
 #include <QCoreApplication>
 
@@ -21,17 +22,6 @@ QString tr(const char *text)
     return QCoreApplication::translate("NextData", text);
 }
 
-QByteArray wordsOf(const Palette &palette, int first, int count)
-{
-    QByteArray bytes;
-    for (int i = first; i < first + count; ++i) {
-        const quint16 word = palette.rawColour(i);
-        bytes += char(word >> 8);
-        bytes += char(word & 0xFF);
-    }
-    return bytes;
-}
-
 Result<qint64> sizeOfWords(const Source &, const OptionValues &)
 {
     return 2 * Palette::Size;
@@ -40,7 +30,7 @@ Result<qint64> sizeOfWords(const Source &, const OptionValues &)
 Result<Data> writeWords(const Source &source, const OptionValues &)
 {
     return Data{{{QStringLiteral("count"), Palette::Size}},
-                {{.bytes = wordsOf(source.as<Palette>(), 0, Palette::Size)}}};
+                {{.bytes = paletteWords(source.as<Palette>(), 0, Palette::Size)}}};
 }
 
 Result<qint64> sizeWithTransparency(const Source &, const OptionValues &)
@@ -56,7 +46,7 @@ Result<Data> writeWithTransparency(const Source &source, const OptionValues &val
     if (index >= 0)
         transparency = values.is("transparency", "index") ? char(index) : char(palette.rawColour(index) >> 8);
     return Data{{{QStringLiteral("count"), Palette::Size}, {QStringLiteral("transparency"), uchar(transparency)}},
-                {{.bytes = wordsOf(palette, 0, Palette::Size)},
+                {{.bytes = paletteWords(palette, 0, Palette::Size)},
                  {.bytes = QByteArray(1, transparency), .comment = tr("transparency")}}};
 }
 
@@ -82,10 +72,21 @@ Result<Data> writeGroup(const Source &source, const OptionValues &values)
 {
     const int group = values.number("group");
     return Data{{{QStringLiteral("count"), GroupSize}, {QStringLiteral("offset"), group}},
-                {{.bytes = wordsOf(source.as<Palette>(), group * GroupSize, GroupSize)}}};
+                {{.bytes = paletteWords(source.as<Palette>(), group * GroupSize, GroupSize)}}};
 }
 
 } // namespace
+
+QByteArray paletteWords(const Palette &palette, int first, int count)
+{
+    QByteArray bytes;
+    for (int i = first; i < first + count; ++i) {
+        const quint16 word = palette.rawColour(i);
+        bytes += char(word >> 8);
+        bytes += char(word & 0xFF);
+    }
+    return bytes;
+}
 
 QList<Form> paletteForms()
 {

@@ -121,7 +121,7 @@ QByteArray cSource(const Heading &heading, const Section &section, const QString
 QByteArray cHeader(const Heading &heading, const QList<Section> &sections)
 {
     const Syntax syntax = syntaxOf(Dialect::C);
-    const QByteArray guard = constantName(heading, QStringLiteral("included")).toLatin1();
+    const QByteArray guard = constantName(heading, QString::fromLatin1(HeaderGuard)).toLatin1();
     QByteArray text = "/* " + asComment(heading.title).toUtf8() + " */\n\n";
     text += "#ifndef " + guard + "\n#define " + guard + "\n\n" + constantsOf(heading, syntax) + '\n';
     for (const Section &section : sections) {

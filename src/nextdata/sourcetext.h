@@ -21,6 +21,9 @@ enum class Dialect {
     C, ///< an array, and a header that declares it
 };
 
+/// What a C header defines, behind the label, so that it is read once.
+inline constexpr char HeaderGuard[] = "included";
+
 /// The bytes of one file.
 struct Section
 {

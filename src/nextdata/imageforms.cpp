@@ -1,0 +1,157 @@
+// Full-screen pictures.
+//
+//   layer2-256   49,152 bytes: 256 × 192 pixels, a byte each, by rows
+//   layer2-320   81,920 bytes: 320 × 256 pixels, a byte each, by columns
+//   layer2-640   81,920 bytes: 640 × 256 pixels, by columns of pairs, two pixels a byte, the left one in the high
+//   nibble lores        12,288 bytes: 128 × 96 pixels, a byte each, by rows; on request in two files of 48 rows, which
+//   the
+//                machine has at $4000 and $6000
+//
+// Each may have the 512 bytes of its palette (form "palette") in front.
+
+#include "model/image.h"
+#include "model/palette.h"
+#include "nextdata/families.h"
+#include "nextdata/palettewords.h"
+#include "nextdata/pixels.h"
+
+#include <QCoreApplication>
+
+namespace NextData {
+namespace {
+
+using Quenmora::ImageMode;
+
+constexpr int PaletteBytes = 2 * Palette::Size;
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("NextData", text);
+}
+
+template <ImageMode Mode>
+QString refusal(const Source &source)
+{
+    const auto &image = source.as<Image>();
+    if (image.mode() == Mode && image.image().size() == Image::sizeOf(Mode))
+        return {};
+    const auto text = [](QSize size) { return tr("%1 × %2").arg(size.width()).arg(size.height()); };
+    return tr("“%1” has %2 pixels, and this form %3")
+        .arg(image.name(), text(image.image().size()), text(Image::sizeOf(Mode)));
+}
+
+template <ImageMode Mode>
+Result<qint64> size(const Source &source, const OptionValues &values)
+{
+    const QSize pixels = Image::sizeOf(Mode);
+    const qint64 bytes = qint64(pixels.width()) * pixels.height() / (Mode == Quenmora::Layer2_640x256 ? 2 : 1);
+    if (!values.flag("palette"))
+        return bytes;
+    if (!source.as<Image>().palette())
+        return Failure{tr("“%1” has no palette that could stand in front").arg(source.name())};
+    return PaletteBytes + bytes;
+}
+
+/// The blocks behind the palette, if that is wanted.
+Result<Data> withPalette(const Source &source, const OptionValues &values, const QList<Data::Block> &pixels)
+{
+    const QSize size = source.as<Image>().image().size();
+    Data data{{{QStringLiteral("width"), size.width()}, {QStringLiteral("height"), size.height()}}, {}};
+    if (values.flag("palette")) {
+        const QPointer<Palette> palette = source.as<Image>().palette();
+        if (!palette)
+            return Failure{tr("“%1” has no palette that could stand in front").arg(source.name())};
+        data.blocks.append({.bytes = paletteWords(*palette, 0, Palette::Size), .name = QStringLiteral("palette")});
+    }
+    for (Data::Block block : pixels) {
+        if (data.blocks.isEmpty()) // its label is that of the whole
+            block.name.clear();
+        data.blocks.append(block);
+    }
+    return data;
+}
+
+Data::Block pixelBlock(const QByteArray &bytes)
+{
+    return {.bytes = bytes, .name = QStringLiteral("pixels"), .bytesPerLine = 32};
+}
+
+Result<Data> write256(const Source &source, const OptionValues &values)
+{
+    return withPalette(source, values, {pixelBlock(pixelRows(source.as<Image>().image()))});
+}
+
+Result<Data> write320(const Source &source, const OptionValues &values)
+{
+    const QImage image = source.as<Image>().image();
+    return withPalette(source, values, {pixelBlock(columnsOf(pixelRows(image), image.width()))});
+}
+
+Result<Data> write640(const Source &source, const OptionValues &values)
+{
+    const QImage image = source.as<Image>().image();
+    const QByteArray pixels = pixelRows(image);
+    // the high nibble of all pixels comes from one register
+    const int offset = uchar(pixels.front()) >> 4;
+    for (qsizetype i = 0; i < pixels.size(); ++i) {
+        if (const int index = uchar(pixels[i]); index >> 4 != offset) {
+            return Failure{
+                tr("“%1”: the pixel at %2, %3 has the index %4, and only those from %5 to %6 go with the first "
+                   "pixel")
+                    .arg(source.name(), QString::number(i % image.width()), QString::number(i / image.width()),
+                         QString::number(index), QString::number(offset * 16), QString::number(offset * 16 + 15))};
+        }
+    }
+    const QByteArray bytes = columnsOf(packedPairs(pixels), image.width() / 2);
+    Result<Data> data = withPalette(source, values, {pixelBlock(bytes)});
+    if (!data)
+        return data;
+    Data withOffset = *std::move(data);
+    withOffset.constants.append({QStringLiteral("offset"), offset});
+    return withOffset;
+}
+
+Result<Data> writeLoRes(const Source &source, const OptionValues &values)
+{
+    const QByteArray pixels = pixelRows(source.as<Image>().image());
+    if (!values.flag("halves"))
+        return withPalette(source, values, {pixelBlock(pixels)});
+    Data::Block top = pixelBlock(pixels.first(pixels.size() / 2));
+    Data::Block bottom = pixelBlock(pixels.last(pixels.size() / 2));
+    bottom.name = QStringLiteral("bottom");
+    bottom.startsFile = true;
+    return withPalette(source, values, {top, bottom});
+}
+
+template <ImageMode Mode>
+Form form(const char *id, const QString &title, const char *suffix, const QList<Option> &options,
+          Result<Data> (*write)(const Source &, const OptionValues &))
+{
+    return {.id = QString::fromLatin1(id),
+            .kind = AssetKind::Image,
+            .title = title,
+            .suffix = QString::fromLatin1(suffix),
+            .options = options,
+            .size = size<Mode>,
+            .write = write,
+            .refusal = refusal<Mode>};
+}
+
+} // namespace
+
+QList<Form> imageForms()
+{
+    const Option palette = Option::flag(QStringLiteral("palette"), tr("Palette in front"),
+                                        tr("Writes the 512 bytes of the image's palette before the pixels"));
+    const Option halves = Option::flag(QStringLiteral("halves"), tr("Two halves"),
+                                       tr("Writes the upper and the lower half into files of their own"));
+    return {
+        form<Quenmora::Layer2_256x192>("layer2-256", tr("Layer 2, 256 × 192, by rows"), "nxi", {palette}, write256),
+        form<Quenmora::Layer2_320x256>("layer2-320", tr("Layer 2, 320 × 256, by columns"), "nxi", {palette}, write320),
+        form<Quenmora::Layer2_640x256>("layer2-640", tr("Layer 2, 640 × 256, by columns, two pixels a byte"), "nxi",
+                                       {palette}, write640),
+        form<Quenmora::LoRes_128x96>("lores", tr("LoRes, 128 × 96, by rows"), "slr", {palette, halves}, writeLoRes),
+    };
+}
+
+} // namespace NextData

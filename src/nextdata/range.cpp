@@ -1,0 +1,39 @@
+#include "nextdata/range.h"
+
+#include <QCoreApplication>
+
+namespace NextData {
+namespace {
+
+constexpr int Most = 65535;
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("NextData", text);
+}
+
+} // namespace
+
+QList<Option> Range::options()
+{
+    return {Option::number(QStringLiteral("first"), tr("First"), tr("The number of the first one, counted from 0"), 0,
+                           Most, 0),
+            Option::number(QStringLiteral("count"), tr("Count"), tr("How many are written; 0 is all from the first on"),
+                           0, Most, 0)};
+}
+
+Result<Range> Range::chosen(const OptionValues &values, int available)
+{
+    const int first = values.number("first");
+    const int wanted = values.number("count");
+    const int count = wanted > 0 ? wanted : available - first;
+    if (first >= available || count > available - first) {
+        return Failure{tr("Options first and count: there are %1, and %2 from number %3 on are not")
+                           .arg(available)
+                           .arg(std::max(count, 1))
+                           .arg(first)};
+    }
+    return Range{first, count};
+}
+
+} // namespace NextData
