@@ -1,0 +1,84 @@
+#include "nextdata/recipe.h"
+
+#include "model/rawfile.h"
+#include "nextdata/filenames.h"
+#include "nextdata/form.h"
+#include "nextdata/wholefile.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace NextData {
+namespace {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("NextData", text);
+}
+
+/// Whether two files are one on some system that the project may come to.
+bool isSameFile(const QString &a, const QString &b)
+{
+    return a.compare(b, Qt::CaseInsensitive) == 0;
+}
+
+} // namespace
+
+QString Recipe::pathFor(const QString &projectFile)
+{
+    const QString suffix = QStringLiteral(".quenmora");
+    const bool isUsual = projectFile.endsWith(suffix, Qt::CaseInsensitive);
+    return (isUsual ? projectFile.chopped(suffix.size()) : projectFile) + QStringLiteral(".quenmora-export.json");
+}
+
+void Recipe::setOutputs(const QList<RecipeOutput> &outputs)
+{
+    m_outputs = outputs;
+    std::stable_sort(m_outputs.begin(), m_outputs.end(),
+                     [](const RecipeOutput &a, const RecipeOutput &b) { return a.file < b.file; });
+}
+
+QString Recipe::problemOf(const RecipeOutput &output)
+{
+    const Form *form = findForm(output.form);
+    if (!form)
+        return tr("There is no form “%1”").arg(output.form);
+    if (form->kind != output.kind)
+        return tr("%1 is a form of %2, not of %3").arg(form->id, titleOf(form->kind), titleOf(output.kind));
+    if (const auto values = OptionValues::parse(form->options, output.options); !values)
+        return values.reason();
+    return FileNames::problemOf(output.file);
+}
+
+QString Recipe::problemAt(qsizetype index) const
+{
+    const RecipeOutput &output = m_outputs.at(index);
+    const auto others = std::count_if(m_outputs.cbegin(), m_outputs.cend(),
+                                      [&](const RecipeOutput &each) { return isSameFile(each.file, output.file); });
+    if (others > 1)
+        return tr("“%1” is the file of another output as well").arg(output.file);
+    return problemOf(output);
+}
+
+QList<Recipe::Problem> Recipe::load(const QString &path)
+{
+    QFile file(path);
+    if (!QFileInfo::exists(path))
+        return {{0, tr("There is no such file")}};
+    if (!RawFile::openForReading(file))
+        return {{0, tr("The file cannot be read")}};
+    if (file.size() > MaxBytes)
+        return {{0, tr("The file is too large for a recipe")}};
+    return parse(file.read(MaxBytes));
+}
+
+QString Recipe::save(const QString &path) const
+{
+    const QByteArray bytes = text();
+    return WholeFile::stateOf(path, bytes) == WholeFile::State::Unchanged ? QString() : WholeFile::write(path, bytes);
+}
+
+} // namespace NextData
