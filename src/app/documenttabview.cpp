@@ -5,6 +5,7 @@
 #include "editors/animation/spriteeditorview.h"
 #include "editors/canvas/imageeditorview.h"
 #include "editors/map/mapeditorview.h"
+#include "editors/map/mapgrid.h"
 #include "model/image.h"
 #include "ui/plaintext.h"
 #include "ui/svgiconengine.h"
@@ -164,6 +165,7 @@ void DocumentTabView::open(QWidget *page, DocumentType type, const QUuid &id, co
 MapEditor::View *DocumentTabView::openMapEditor(const QPointer<Map> &map)
 {
     auto *page = new MapEditor::View(map, this);
+    page->grid()->setPaintsOnPress(true);
     connect(page, &MapEditor::View::placeAnimModeEnabled, this, &DocumentTabView::showAnimPicker);
     open(page, MapDocument, map->id(), map->name());
     return page;

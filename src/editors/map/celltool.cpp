@@ -15,6 +15,8 @@ bool CellTool::mousePressed(QMouseEvent *event)
     else
         pointer().clearCell();
     surface()->beginEdit();
+    if (brush().paintsOnPress)
+        mouseMoved(event);
     return false;
 }
 

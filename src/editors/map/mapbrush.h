@@ -17,6 +17,7 @@ struct MapBrush
     TileMap::TileData tile; ///< index and orientation alone count; index -1 for none
     QPointer<TileAnimation> animation;
     std::optional<Map::PlacedSprite> sprite; ///< as it will be placed, but for its position
+    bool paintsOnPress = false; ///< a tile or animation goes where the button is pressed, not only where it is moved to
 
     void chooseTile(int index);
     void chooseAnimation(const QPointer<TileAnimation> &chosen);

@@ -42,6 +42,8 @@ public:
 
     const MapViewport &viewport() const override { return m_viewport; }
     void setBaseSize(int pixels);
+    /// A click paints, or places an animation, as a drag does; otherwise a press without a movement does nothing.
+    void setPaintsOnPress(bool paints) { m_brush.paintsOnPress = paints; }
     void applyPreferences(const Preferences &preferences);
     bool isGridVisible() const { return m_display.gridVisible; }
     int transparencyIndex() const { return m_display.transparencyIndex; }

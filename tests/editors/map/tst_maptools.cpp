@@ -43,6 +43,23 @@ private slots:
         }
     }
 
+    void clickPaintsWhereThatIsChosen()
+    {
+        F f;
+        f.grid.setPaintsOnPress(true);
+        f.grid.setCurrentTileIndex(4);
+        f.click(f.at(3, 2));
+        QVERIFY(f.tile(3, 2).used && f.tile(3, 2).index == 4);
+        f.click(f.at(3, 2), Qt::RightButton);
+        QVERIFY(!f.tile(3, 2).used);
+        f.click(f.at(3, 2), Qt::MiddleButton); // picks
+        f.grid.setCurrentTileAnimation(f.animation);
+        f.click(f.at(3, 2));
+        f.click(f.at(3, 2)); // on the one that is there
+        QCOMPARE(f.map->animatedBlocks()->list().size(), 1);
+        QCOMPARE(f.steps(), "Paint|Paint|Place Animation");
+    }
+
     void strokeIsOneStep()
     {
         F f;
