@@ -8,6 +8,7 @@
 #include "app/menus/tilemenu.h"
 #include "app/menus/viewmenu.h"
 #include "app/nextsteps.h"
+#include "app/returnwatch.h"
 #include "app/startpage.h"
 #include "app/version.h"
 #include "editors/map/mapeditorview.h"
@@ -117,6 +118,8 @@ void MainWindow::connectProjectController()
     connect(store, &ProjectStore::saveError, this, &MainWindow::onStoreError);
     connect(store, &ProjectStore::showMessage, statusBar(), &QStatusBar::showMessage);
     connect(store, &ProjectStore::exported, m_exportMessages, &ExportMessages::add);
+
+    connect(new ReturnWatch(this), &ReturnWatch::returned, &m_projectController, &ProjectController::checkFile);
 
     m_projectController.setBackupCallback([this] { return m_preferences.generalPage()->backupOnSave(); });
     m_projectController.setCleanCallbacks([this] { return m_documents.isClean(); }, [this] { m_documents.setClean(); });

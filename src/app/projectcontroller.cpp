@@ -4,10 +4,12 @@
 #include "ui/replacing.h"
 #include "ui/titlewidth.h"
 
+#include <QDir>
 #include <QFileDialog>
 #include <QGuiApplication>
 #include <QMessageBox>
 #include <QRegularExpression>
+#include <QScopedValueRollback>
 #include <QWidget>
 
 #include <utility>
@@ -57,6 +59,8 @@ ProjectController::ProjectController(QWidget *parentWidget, FileMenu *fileMenu)
     , m_isClean([] { return true; })
     , m_markClean([] {})
     , m_ask([this](const QString &projectName) { return askAboutChanges(projectName); })
+    , m_askAboutForeignChange(
+          [this](const ForeignChange &change) { return ::askAboutForeignChange(m_parentWidget, change); })
     , m_chooseFile([this] { return runSaveDialog(); })
 {
     if (fileMenu)
@@ -91,6 +95,11 @@ void ProjectController::setUnsavedAnswerCallback(std::function<UnsavedAnswer(con
     m_ask = std::move(ask);
 }
 
+void ProjectController::setForeignChangeCallback(std::function<ForeignChange::Answer(const ForeignChange &)> ask)
+{
+    m_askAboutForeignChange = std::move(ask);
+}
+
 void ProjectController::setFileNameCallback(std::function<QString()> chooseFile)
 {
     m_chooseFile = std::move(chooseFile);
@@ -98,17 +107,23 @@ void ProjectController::setFileNameCallback(std::function<QString()> chooseFile)
 
 bool ProjectController::isModified() const
 {
-    return m_project && (!m_isClean() || m_store.fingerprint() != m_savedFingerprint);
+    return m_project && (fileDiffers() || hasUnsavedChanges());
+}
+
+bool ProjectController::hasUnsavedChanges() const
+{
+    return !m_isClean() || m_store.fingerprint() != m_savedFingerprint;
 }
 
 bool ProjectController::confirmClose()
 {
     if (!isModified())
         return true;
+    const QPointer<Project> asked = m_project;
     switch (m_ask(m_project->name())) {
     case Save:
         save();
-        return !isModified();
+        return asked && !isModified(); // a file that was loaded instead is to be looked at
     case Discard:
         return true;
     case Cancel:
@@ -133,28 +148,41 @@ void ProjectController::newProject(QString name)
 
 void ProjectController::openProject(QString filePath)
 {
-    if (!confirmClose())
-        return;
+    if (confirmClose())
+        open(filePath);
+}
+
+void ProjectController::open(const QString &filePath)
+{
     const Suspension suspension(m_parentWidget);
+    const FileState file(filePath); // before it is read: what happens to it meanwhile is noticed then
     if (!load(filePath))
         return;
+    follow(file);
     emit projectOpened(m_project);
     addToRecentProjects(filePath);
     markSaved();
 }
 
-void ProjectController::openBackup(const QString &filePath)
+bool ProjectController::openCopy(const QString &copy, const QString &filePath)
 {
     if (!confirmClose())
-        return;
+        return false;
     const Suspension suspension(m_parentWidget);
-    if (!load(ProjectStore::backupOf(filePath)))
-        return;
-    m_store.setFileName({});
-    m_proposedFile = filePath;
+    if (!load(copy))
+        return false;
+    m_store.setFileName(filePath);
+    follow(FileState(filePath));
     emit projectOpened(m_project);
     m_savedFingerprint.clear();
     m_markClean();
+    return true;
+}
+
+void ProjectController::openBackup(const QString &filePath)
+{
+    if (openCopy(ProjectStore::backupOf(filePath), {}))
+        m_proposedFile = filePath;
 }
 
 bool ProjectController::load(const QString &filePath)
@@ -170,7 +198,7 @@ bool ProjectController::load(const QString &filePath)
 
 void ProjectController::save()
 {
-    if (!m_project)
+    if (!m_project || (!filePath().isEmpty() && !settleForeignChange()))
         return;
     emit aboutToSave();
     if (write())
@@ -180,13 +208,20 @@ void ProjectController::save()
 
 bool ProjectController::write()
 {
-    if (!filePath().isEmpty())
-        return m_store.save(m_backup());
-    const QString chosen = m_chooseFile();
-    if (chosen.isEmpty() || !m_store.saveAs(chosen))
+    const bool named = !filePath().isEmpty();
+    const QString file = named ? filePath() : m_chooseFile();
+    if (file.isEmpty())
         return false;
-    addToRecentProjects(filePath());
-    return true;
+    const bool written = named ? m_store.save(m_backup()) : m_store.saveAs(file);
+    if (written || file == m_file.fileName()) {
+        const FileState left(file); // also what a failed save left behind is no foreign change
+        if (!left.hasContentOf(m_file))
+            m_savedFingerprint.clear(); // until the save has succeeded nothing is safe
+        follow(left);
+    }
+    if (written && !named)
+        addToRecentProjects(file);
+    return written;
 }
 
 void ProjectController::saveAs()
@@ -208,6 +243,7 @@ void ProjectController::close()
     m_store.close();
     m_project.clear();
     m_proposedFile.clear();
+    follow({});
     emit projectClosed();
 }
 
@@ -216,6 +252,71 @@ void ProjectController::markSaved()
     m_savedFingerprint = m_store.fingerprint();
     m_proposedFile.clear();
     m_markClean();
+}
+
+// What other programs do to the file
+
+void ProjectController::follow(const FileState &file)
+{
+    m_file = file;
+    m_seenFile = file;
+}
+
+bool ProjectController::lookAtFile()
+{
+    if (m_seenFile.isCurrent())
+        return false;
+    const FileState before = std::exchange(m_seenFile, FileState(filePath()));
+    return !m_seenFile.hasContentOf(before);
+}
+
+void ProjectController::checkFile()
+{
+    if (!m_project || filePath().isEmpty() || m_asking || !lookAtFile() || !fileDiffers())
+        return;
+    if (m_seenFile.exists()) {
+        static_cast<void>(settleForeignChange());
+    } else {
+        emit error(tr("Another program removed or renamed the file of this project, which saving writes again:\n%1")
+                       .arg(QDir::toNativeSeparators(filePath())));
+    }
+}
+
+bool ProjectController::settleForeignChange()
+{
+    if (m_asking)
+        return false;
+    const QScopedValueRollback asking(m_asking, true);
+    // it may change again while the question is read
+    for (lookAtFile(); fileDiffers(); lookAtFile()) {
+        if (!m_seenFile.exists())
+            return true;
+        const QPointer<Project> asked = m_project;
+        const ForeignChange::Answer answer = m_askAboutForeignChange({filePath(), hasUnsavedChanges()});
+        if (!asked || answer == ForeignChange::Cancel)
+            return false;
+        if (answer == ForeignChange::Load) {
+            reload();
+            return false;
+        }
+        m_file = m_seenFile;
+        m_savedFingerprint.clear(); // the project is in no file any more
+    }
+    return true;
+}
+
+void ProjectController::reload()
+{
+    const QString file = filePath();
+    // A file that cannot be read must not cost the project that is here.
+    ProjectStore trial;
+    trial.newProject({});
+    QString problem;
+    connect(&trial, &ProjectStore::loadError, this, [&problem](const QString &message) { problem = message; });
+    if (trial.load(file))
+        open(file);
+    else
+        emit error(tr("The file cannot be loaded, and the project stays as it is here: %1").arg(problem));
 }
 
 void ProjectController::addToRecentProjects(const QString &filePath)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/filestate.h"
+#include "app/foreignchange.h"
 #include "model/project.h"
 #include "store/projectstore.h"
 
@@ -15,7 +17,7 @@ class QFileDialog;
 class QWidget;
 
 /// Runs the life of a project as the user sees it: create, open, save, save as, close; and asks before
-/// anything that would discard work.
+/// anything that would discard work, or another program's change of the project's file.
 ///
 /// It knows nothing of the window: what it needs from there comes through callbacks, what it does it
 /// tells by its signals. Why loading or saving failed is told by its store.
@@ -36,7 +38,8 @@ public:
     [[nodiscard]] bool confirmClose();
 
     /// Whether there is something to save: an undo stack that is not clean, or content that differs from
-    /// what was last created, opened or saved. Which tabs are open does not count.
+    /// what was last created, opened or saved, or a file that was seen to hold no longer what was. Which tabs are open
+    /// does not count.
     [[nodiscard]] bool isModified() const;
 
     /// The open project, or null.
@@ -45,12 +48,18 @@ public:
     [[nodiscard]] QString filePath() const { return m_store.fileName(); }
     [[nodiscard]] ProjectStore *store() { return &m_store; }
 
+    /// Opens a copy of a project as the modified project that belongs to a file, or to none for an empty path. False
+    /// when the open project was not to be closed, or the copy cannot be read.
+    bool openCopy(const QString &copy, const QString &filePath);
+
     /// Whether the previous version of the file is kept when saving.
     void setBackupCallback(std::function<bool()> backup);
     /// Whether every undo stack is clean, and marking all of them clean.
     void setCleanCallbacks(std::function<bool()> isClean, std::function<void()> markClean);
     /// Asks what becomes of the unsaved changes of the project of that name, in place of a message box.
     void setUnsavedAnswerCallback(std::function<UnsavedAnswer(const QString &)> ask);
+    /// Asks what is to be done about a file that another program changed, in place of a message box.
+    void setForeignChangeCallback(std::function<ForeignChange::Answer(const ForeignChange &)> ask);
     /// Chooses the file to save to, empty for none, in place of a file dialog.
     void setFileNameCallback(std::function<QString()> chooseFile);
 
@@ -61,6 +70,9 @@ public slots:
     /// file: saving asks for one, proposes the one of that path, and so replaces neither the backup nor the file
     /// unasked.
     void openBackup(const QString &filePath);
+    /// Looks whether another program changed or removed the project's file since it was opened or saved, or since this
+    /// was asked or told: asks or tells it then. Saving looks, too, and asks again where nothing was decided.
+    void checkFile();
     void save();
     void saveAs();
     /// Closes the open project without asking.
@@ -80,6 +92,17 @@ private:
     void connectTo(FileMenu *fileMenu);
     /// Replaces the open project by the one of a file; without one when it cannot be read.
     [[nodiscard]] bool load(const QString &filePath);
+    void open(const QString &filePath);
+    [[nodiscard]] bool hasUnsavedChanges() const;
+    /// Takes the file as it is now for the project's own.
+    void follow(const FileState &file);
+    /// Looks at the project's file; true when its content is another than when it was last looked at.
+    bool lookAtFile();
+    [[nodiscard]] bool fileDiffers() const { return !m_seenFile.hasContentOf(m_file); }
+    /// Asks about the change that was seen, and loads the file or settles that it may be replaced. False when the
+    /// project is no longer to be saved.
+    [[nodiscard]] bool settleForeignChange();
+    void reload();
     void addToRecentProjects(const QString &filePath);
     void markSaved();
     [[nodiscard]] bool write();
@@ -92,6 +115,9 @@ private:
     QPointer<Project> m_project;
     /// The store's fingerprint when the project was last created, opened or saved.
     QByteArray m_savedFingerprint;
+    FileState m_file; ///< as it was when the project was last opened or saved
+    FileState m_seenFile; ///< as it was when it was last looked at
+    bool m_asking = false; ///< about a foreign change
     QString m_proposedFile; ///< to save a project without a file to; empty where its name proposes one
     QPointer<QFileDialog> m_saveDialog; ///< made when first needed
 
@@ -99,5 +125,6 @@ private:
     std::function<bool()> m_isClean;
     std::function<void()> m_markClean;
     std::function<UnsavedAnswer(const QString &)> m_ask;
+    std::function<ForeignChange::Answer(const ForeignChange &)> m_askAboutForeignChange;
     std::function<QString()> m_chooseFile;
 };

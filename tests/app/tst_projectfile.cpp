@@ -1,6 +1,8 @@
 #include "app/mainwindow.h"
 
 #include "app/menus/filemenu.h"
+#include "app/returnwatch.h"
+#include "support/filesizelimit.h"
 #include "support/modeltools.h"
 #include "support/sampleproject.h"
 #include "support/testmain.h"
@@ -9,6 +11,7 @@
 #include <QAbstractButton>
 #include <QDialogButtonBox>
 #include <QFileDialog>
+#include <QMessageBox>
 #include <QTest>
 #include <QTimer>
 
@@ -27,6 +30,12 @@ private slots:
     {
         m_folder.emplace();
         m_window.emplace();
+        m_asked.clear();
+        m_answer = ForeignChange::Cancel;
+        controller()->setForeignChangeCallback([this](const ForeignChange &change) {
+            m_asked.append(change.filePath + (change.hasUnsavedChanges ? ", unsaved" : ""));
+            return m_answer;
+        });
     }
     void cleanup() { m_window.reset(); }
 
@@ -103,8 +112,204 @@ private slots:
         QVERIFY(!controller()->project());
     }
 
+    void asksAboutForeignChanges_data()
+    {
+        QTest::addColumn<bool>("saving"); // or coming back to the window
+        QTest::addColumn<ForeignChange::Answer>("answer");
+        for (const bool saving : {false, true}) {
+            const char *when = saving ? "saving" : "coming back";
+            QTest::addRow("%s: load", when) << saving << ForeignChange::Load;
+            QTest::addRow("%s: keep", when) << saving << ForeignChange::Keep;
+            QTest::addRow("%s: cancel", when) << saving << ForeignChange::Cancel;
+        }
+    }
+
+    void asksAboutForeignChanges()
+    {
+        QFETCH(const bool, saving);
+        QFETCH(const ForeignChange::Answer, answer);
+        const QString file = openMine();
+        controller()->project()->setName("Mine, changed");
+        writeProject(file, "Theirs");
+        m_answer = answer;
+        SignalLog log;
+        log.listen(*controller(), &ProjectController::aboutToSave, "aboutToSave");
+        if (saving)
+            controller()->save();
+        else
+            controller()->checkFile();
+        QCOMPARE(m_asked, QStringList{file + ", unsaved"});
+        QCOMPARE(log.take().size(), saving && answer == ForeignChange::Keep ? 1 : 0);
+        QCOMPARE(nameIn(file), saving && answer == ForeignChange::Keep ? "Mine, changed" : "Theirs");
+        QCOMPARE(controller()->project()->name(), answer == ForeignChange::Load ? "Theirs" : "Mine, changed");
+        QCOMPARE(controller()->isModified(), nameIn(file) != controller()->project()->name());
+
+        controller()->checkFile(); // a change is asked about once
+        QCOMPARE(m_asked.size(), 1);
+        controller()->save(); // what is undecided is asked again
+        QCOMPARE(m_asked.size(), answer == ForeignChange::Cancel ? 2 : 1);
+        QCOMPARE(nameIn(file), answer == ForeignChange::Keep ? "Mine, changed" : "Theirs");
+        writeProject(file, "Theirs again");
+        controller()->checkFile();
+        QCOMPARE(m_asked.size(), answer == ForeignChange::Cancel ? 3 : 2);
+    }
+
+    void keepsTheOnlyCopyOfUnchangedWork()
+    {
+        const QString file = openMine();
+        writeProject(file, "Theirs");
+        controller()->checkFile();
+        QCOMPARE(m_asked, QStringList{file});
+        QVERIFY2(controller()->isModified(), "what is here is in no file any more");
+        controller()->setUnsavedAnswerCallback([](const QString &) { return ProjectController::Save; });
+        QVERIFY2(!controller()->confirmClose(), "the file was not to be replaced");
+        m_answer = ForeignChange::Load;
+        QVERIFY2(!controller()->confirmClose(), "the file is to be looked at");
+        QCOMPARE(controller()->project()->name(), "Theirs");
+        QVERIFY(!controller()->isModified());
+
+        writeProject(file, "Theirs again");
+        m_answer = ForeignChange::Keep;
+        controller()->checkFile();
+        QVERIFY(controller()->isModified());
+
+        QVERIFY(writeFile(file, "torn"));
+        m_answer = ForeignChange::Load;
+        controller()->checkFile();
+        QVERIFY(m_window->messageDialog()->text().endsWith("Invalid project file"));
+        QCOMPARE(controller()->project()->name(), "Theirs");
+        QCOMPARE(controller()->filePath(), file);
+        m_answer = ForeignChange::Cancel;
+        controller()->save();
+        QCOMPARE(readFile(file), "torn");
+    }
+
+    void asksNothingWhereNothingForeignHappened()
+    {
+        m_answer = ForeignChange::Load;
+        const QString file = openMine();
+        const QByteArray bytes = readFile(file);
+        QVERIFY(QFile::remove(file) && writeFile(file, bytes)); // as a version control system does
+        QFile touched(file);
+        QVERIFY(touched.open(QIODevice::ReadWrite));
+        QVERIFY(touched.setFileTime(QDateTime::currentDateTime().addDays(1), QFileDevice::FileModificationTime));
+        touched.close();
+        controller()->checkFile();
+        QVERIFY(!controller()->isModified());
+        controller()->project()->setName("Changed");
+        controller()->save();
+        controller()->checkFile();
+        controller()->setFileNameCallback([this] { return (*m_folder)("other.quenmora"); });
+        controller()->saveAs();
+        writeProject(file, "Theirs"); // which is no longer ours
+        controller()->checkFile();
+        controller()->save();
+        {
+            const FileSizeLimit fullDisk(64);
+            controller()->save();
+            QVERIFY2(controller()->isModified(), "the file is damaged");
+        }
+        controller()->checkFile();
+        controller()->save();
+        QVERIFY(!controller()->isModified());
+        controller()->newProject("Without a file");
+        controller()->checkFile();
+        QVERIFY2(m_asked.isEmpty(), qPrintable(m_asked.join(u' ')));
+    }
+
+    void tellsOnceThatTheFileIsGone()
+    {
+        const QString file = openMine();
+        QVERIFY(QFile::rename(file, file + ".away"));
+        MessageDialog *dialog = m_window->messageDialog();
+        for (const bool first : {true, false}) {
+            controller()->checkFile();
+            QCOMPARE(dialog->isVisible(), first);
+            dialog->accept();
+        }
+        QVERIFY2(dialog->text().contains(file), qPrintable(dialog->text()));
+        QVERIFY(controller()->isModified());
+        QVERIFY(QFile::rename(file + ".away", file));
+        controller()->checkFile();
+        QVERIFY(!controller()->isModified());
+        QVERIFY(QFile::remove(file));
+        controller()->save();
+        QVERIFY(m_asked.isEmpty());
+        QCOMPARE(nameIn(file), "Mine");
+    }
+
+    void looksWhenThePersonComesBack()
+    {
+        const QString file = openMine();
+        m_answer = ForeignChange::Keep;
+        QWidget other;
+        other.show();
+        other.activateWindow();
+        writeProject(file, "Theirs");
+        m_window->activateWindow();
+        QTRY_COMPARE(m_asked.size(), 1);
+
+        QDialog question(&*m_window);
+        question.setModal(true);
+        question.show();
+        writeProject(file, "Theirs again");
+        question.activateWindow();
+        waitForReturn();
+        QCOMPARE(m_asked.size(), 1);
+        question.close();
+        m_window->activateWindow();
+        QTest::mousePress(m_window->windowHandle(), Qt::LeftButton, {}, {1, 1});
+        waitForReturn();
+        QVERIFY2(m_asked.size() == 1, "a stroke is going on");
+        QTest::mouseRelease(m_window->windowHandle(), Qt::LeftButton, {}, {1, 1});
+        QTRY_COMPARE(m_asked.size(), 2);
+    }
+
+    void proposesWhatLosesNothing()
+    {
+        for (const bool unsaved : {false, true}) {
+            QStringList seen;
+            QTimer::singleShot(0, this, [&seen] {
+                auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+                seen = QStringList{box->text(), box->informativeText(), box->defaultButton()->text()};
+                QTest::keyClick(box, Qt::Key_Escape);
+            });
+            QCOMPARE(askAboutForeignChange(&*m_window, {"/a/game.quenmora", unsaved}), ForeignChange::Cancel);
+            QVERIFY(seen.at(0).contains("/a/game.quenmora"));
+            QCOMPARE(seen.at(1).contains("unsaved"), unsaved);
+            QVERIFY2(seen.at(2).contains(unsaved ? "Cancel" : "Load"), qPrintable(seen.at(2)));
+        }
+        for (const auto &[text, answer] :
+             {std::pair("&Load File", ForeignChange::Load), {"&Keep Mine", ForeignChange::Keep}}) {
+            QTimer::singleShot(0, this, [wanted = text] {
+                const auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+                for (QAbstractButton *button : box->buttons()) {
+                    if (button->text() == wanted)
+                        button->click();
+                }
+            });
+            QCOMPARE(askAboutForeignChange(&*m_window, {"/a/game.quenmora", true}), answer);
+        }
+    }
+
 private:
     [[nodiscard]] ProjectController *controller() { return m_window->projectController(); }
+    /// Opens the project "Mine"; what is asked about its file is written down from now on.
+    QString openMine()
+    {
+        const QString file = (*m_folder)("game.quenmora");
+        writeProject(file, "Mine");
+        controller()->openProject(file);
+        return file;
+    }
+    /// Until whatever follows a return has happened.
+    void waitForReturn()
+    {
+        emit qApp->focusWindowChanged(QGuiApplication::focusWindow());
+        bool over = false;
+        QTimer::singleShot(2 * ReturnWatch::Pause, &*m_window, [&over] { over = true; });
+        QTRY_VERIFY(over);
+    }
     /// The button beside a message's OK.
     [[nodiscard]] QAbstractButton *offer()
     {
@@ -130,6 +335,8 @@ private:
 
     std::optional<TemporaryFolder> m_folder;
     std::optional<MainWindow> m_window;
+    QStringList m_asked; ///< about what foreign changes
+    ForeignChange::Answer m_answer = ForeignChange::Cancel;
 };
 
 QUENMORA_TEST_MAIN(TestProjectFile)

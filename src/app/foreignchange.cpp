@@ -1,0 +1,40 @@
+#include "app/foreignchange.h"
+
+#include "ui/plaintext.h"
+#include "ui/titlewidth.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("ForeignChange", text);
+}
+
+} // namespace
+
+ForeignChange::Answer askAboutForeignChange(QWidget *parent, const ForeignChange &change)
+{
+    QMessageBox box(
+        QMessageBox::Warning, tr("File Changed"),
+        tr("Another program changed the file of this project:\n%1").arg(QDir::toNativeSeparators(change.filePath)),
+        QMessageBox::NoButton, parent);
+    box.setTextFormat(Qt::PlainText);
+    box.setInformativeText(plainText(
+        (change.hasUnsavedChanges ? tr("Load File opens it as it is now and drops your unsaved changes.")
+                                  : tr("Load File opens it as it is now."))
+        + QLatin1Char('\n') + tr("Keep Mine keeps the project as it is here; saving then replaces the file.")));
+    QPushButton *load = box.addButton(tr("&Load File"), QMessageBox::AcceptRole);
+    const QPushButton *keep = box.addButton(tr("&Keep Mine"), QMessageBox::DestructiveRole);
+    QPushButton *cancel = box.addButton(QMessageBox::Cancel);
+    box.setDefaultButton(change.hasUnsavedChanges ? cancel : load);
+    widenForTitle(box);
+    box.exec();
+    if (box.clickedButton() == load)
+        return ForeignChange::Load;
+    return box.clickedButton() == keep ? ForeignChange::Keep : ForeignChange::Cancel;
+}
