@@ -139,7 +139,7 @@ Result<Data> writeSprites(const Source &source, const OptionValues &values)
 
 Result<qint64> sizeOfBlocks(const Source &source, const OptionValues &)
 {
-    return CountBytes + RecordBytes * source.as<Map>().animatedBlocks()->list().size();
+    return CountBytes + RecordBytes * source.as<Map>().animatedBlocks()->state().size();
 }
 
 Result<Data> writeBlocks(const Source &source, const OptionValues &)
