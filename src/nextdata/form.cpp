@@ -47,7 +47,7 @@ QList<const Form *> formsFor(const Source &source)
 QString refusalOf(const Form &form, const Source &source)
 {
     if (form.kind != source.kind()) {
-        return QCoreApplication::translate("NextData", "“%1” is %2, and %3 is a form of %4")
+        return QCoreApplication::translate("NextData", "“%1” is %2, and the form %3 is for %4")
             .arg(source.name(), titleOf(source.kind()), form.id, titleOf(form.kind));
     }
     return form.refusal ? form.refusal(source) : QString();

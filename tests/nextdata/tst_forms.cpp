@@ -1,7 +1,4 @@
-#include "model/nextcolour.h"
-#include "nextdata/form.h"
-#include "nextdata/names.h"
-#include "nextdata/output.h"
+#include "support/formoutput.h"
 #include "support/randomproject.h"
 #include "support/testmain.h"
 
@@ -10,8 +7,6 @@
 using namespace NextData;
 
 namespace {
-
-using Options = QMap<QString, QString>;
 
 /// Takes little-endian numbers out of bytes, one after the other.
 class Bytes
@@ -69,44 +64,17 @@ class TestForms : public QObject
 
     Project &project() { return m_random->project; }
 
-    template <typename Asset>
-    Source source(const QPointer<Asset> &asset)
-    {
-        return Source(project(), static_cast<const Asset *>(asset.data()));
-    }
-
-    /// All files of an output, or the reason why there are none.
-    static Result<QList<OutputFile>> written(const QString &id, const Source &source, const Options &options)
-    {
-        const Form *form = findForm(id);
-        const auto values = OptionValues::parse(form->options, options);
-        if (!values)
-            return values.failure();
-        Names names;
-        return write(*form, source, *values, "level.map", names);
-    }
-
     /// The bytes of an output, whose size is told without making them.
     template <typename Asset>
     QByteArray bytesOf(const QString &id, const QPointer<Asset> &asset, const Options &options = {})
     {
         m_read.insert(id);
-        const auto files = written(id, source(asset), options);
-        if (!files)
-            qFatal("%s", qPrintable(files.reason()));
-        QByteArray bytes;
-        for (const OutputFile &file : *files)
-            bytes += file.bytes;
         const Form &form = *findForm(id);
-        if (*sizeOf(form, source(asset), *OptionValues::parse(form.options, options)) != bytes.size())
-            qFatal("another size was told of %s", qPrintable(id));
+        const Source source = sourceOf(project(), asset);
+        const QByteArray bytes = writtenBytes(id, source, options);
+        if (*sizeOf(form, source, *OptionValues::parse(form.options, options)) != bytes.size())
+            qFatal("another size was told of %s: %s", qPrintable(id), bytes.constData());
         return bytes;
-    }
-
-    template <typename Asset>
-    QString refusal(const QString &id, const QPointer<Asset> &asset, const Options &options = {})
-    {
-        return written(id, source(asset), options).reason();
     }
 
 private slots:
@@ -133,6 +101,8 @@ private slots:
             readSprites(bank);
         }
         readImages();
+        for (const Form &form : forms())
+            QVERIFY2(m_read.contains(form.id), qPrintable(form.id + " was not looked at"));
     }
 
 private:
@@ -331,7 +301,9 @@ private:
         if (bank->depth() == Quenmora::FourBit)
             QVERIFY(isPacked(bytesOf("sprites-packed", bank, range), pixels));
         else
-            QVERIFY(refusal("sprites-packed", bank).contains("sprite 0 (counted from 0) has a pixel of index"));
+            QVERIFY(written("sprites-packed", sourceOf(project(), bank))
+                        .reason()
+                        .contains("sprite 0 (counted from 0) has a pixel of index"));
     }
 
     void readImages()
@@ -356,18 +328,9 @@ private:
                 QCOMPARE(bytes, indices(picture));
             }
         }
-        const auto halves = written("lores", source(project().images().last()), {{"halves", "true"}});
+        const auto halves = written("lores", sourceOf(project(), project().images().last()), {{"halves", "true"}});
         const QByteArray whole = bytesOf("lores", project().images().last());
-        QCOMPARE(*halves, (QList<OutputFile>{{"level_0.map", whole.left(6144)}, {"level_1.map", whole.mid(6144)}}));
-    }
-
-private slots:
-    void everyFormWasRead()
-    {
-        QSet<QString> ids;
-        for (const Form &form : forms())
-            ids.insert(form.id);
-        QCOMPARE(m_read, ids);
+        QCOMPARE(*halves, (QList<OutputFile>{{"level_0.bin", whole.left(6144)}, {"level_1.bin", whole.mid(6144)}}));
     }
 };
 

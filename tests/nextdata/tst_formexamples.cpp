@@ -1,0 +1,270 @@
+#include "support/formoutput.h"
+#include "support/randomproject.h"
+#include "support/testmain.h"
+
+#include <QTest>
+
+using namespace NextData;
+
+namespace {
+
+/// A picture of these hexadecimal digits, zeros behind them.
+QImage picture(QSize size, const QByteArray &digits)
+{
+    return pictureOf(size, QImage::Format_Indexed8, [&digits](int i) { return digits.mid(i, 1).toUInt(nullptr, 16); });
+}
+
+} // namespace
+
+/// The worked examples of docs/file-formats.md, and what no form takes.
+class TestFormExamples : public QObject
+{
+    Q_OBJECT
+
+    Project m_project;
+    QPointer<Palette> m_palette = m_project.createPalette(CreateAction::Blank, "Sunset");
+    QPointer<TileSet> m_tiles = m_project.createTileSet("Rocks", m_palette->id(), 3);
+    QPointer<Map> m_cave = m_project.createMap("Cave", m_tiles->id(), {2, 2});
+    QPointer<Map> m_hall = m_project.createMap("Hall", m_tiles->id(), {3, 2});
+    QPointer<MapObjects> m_blocks = m_project.createBlockList("Blocks", m_tiles->id());
+    QPointer<MapObjects> m_platform = m_project.createBlockList("Platform", m_tiles->id());
+    QPointer<SpriteBank> m_bank = m_project.createSpriteBank(Quenmora::FourBit, "Hero", m_palette->id());
+
+    /// The asset of a name.
+    Source asset(const QString &name) const
+    {
+        for (const Source &source : Source::all(m_project)) {
+            if (source.name() == name)
+                return source;
+        }
+        qFatal("there is no %s", qPrintable(name));
+    }
+
+    static void setCell(Animation &animation, int frame, int column, const AnimationFrame::Cell &cell)
+    {
+        AnimationFrame::Cells cells = animation.frame(frame)->cells();
+        cells[0][column] = cell;
+        animation.frame(frame)->setCells(cells);
+    }
+
+private slots:
+    void initTestCase()
+    {
+        m_palette->setRawColour(0, 0xE381);
+        m_palette->setRawColour(1, 0x5600);
+        m_palette->setRawColour(2, 0xEC01);
+        m_palette->setTransparencyIndex(2);
+
+        m_tiles->setTileImage(0,
+                              picture({8, 8},
+                                      "0001100000122100012332101234532"
+                                      "1F00000000F000000777777770000000A"));
+        m_tiles->setTileOffset(0, 2);
+        m_tiles->tile(1)->setValue(5);
+        m_tiles->tile(2)->setValue(-1);
+        m_tiles->tile(1)->setAttributes(0x0F);
+        m_tiles->tile(2)->setAttributes(0x41);
+
+        m_cave->setTile({0, 0}, {257, false, false, true, 3, true});
+        m_cave->setTile({1, 0}, {5, true, false, false, 0, true});
+        m_cave->setTile({0, 1}, {2, false, true, false, 15, true});
+        m_cave->setTile({1, 1}, {511, true, true, true, 10, true});
+        for (int i = 0; i < 6; ++i)
+            m_hall->setTile({i % 3, i / 3}, {i + 1, false, false, false, 0, true});
+
+        m_bank->setWholeImage(picture({16, 64}, "0123456789ABCDEF"));
+        const auto run = m_bank->newAnimation();
+        run->setName("Run");
+        run->setSize({2, 1});
+        run->setDelay(4);
+        run->addFrame();
+        setCell(*run, 0, 1, {1});
+        setCell(*run, 1, 0, {2});
+        setCell(*run, 1, 1, {2, 0, false, true});
+
+        const auto lift = m_platform->createBoundTileAnimation("Lift");
+        lift->setMapObjectType(MapObjectType::HorizontalPlatform);
+        lift->setSize({3, 1});
+        lift->addFrame();
+        setCell(*lift, 0, 0, {257});
+        setCell(*lift, 0, 1, {5, 3});
+        setCell(*lift, 0, 2, {5, 3, false, true});
+
+        const QUuid still = m_blocks->createBoundTileAnimation("Still")->id();
+        const QUuid moving = m_blocks->createBoundTileAnimation("Moving")->id();
+        m_blocks->animation(moving)->setMapObjectType(MapObjectType::HorizontalPlatform);
+        m_cave->animatedBlocks()->append(new AnimationProperties({moving, {31, 6, 3, 1}, 0, 10, 0}));
+        Q_UNUSED(still)
+
+        const auto bats = m_project.createSpriteBank(Quenmora::FourBit, "Bats", m_palette->id());
+        bats->newAnimation();
+        const QUuid flight = bats->newAnimation()->id();
+        m_cave->addSprite({m_bank->id(), {}, 3, 40, -8, true, false, false, 0, 0, 0, 2, {}});
+        m_cave->addSprite({bats->id(), flight, 0, 300, 100, false, false, false, 1, 50, 100, 0, "Bat"});
+
+        for (const auto mode :
+             {Quenmora::Layer2_256x192, Quenmora::Layer2_320x256, Quenmora::Layer2_640x256, Quenmora::LoRes_128x96}) {
+            const QSize size = Image::sizeOf(mode);
+            m_project.createImage(mode, QString::number(size.width()), m_palette->id())
+                ->setImage(picture(size, QByteArray("12").leftJustified(size.width(), '0') + '3'));
+        }
+    }
+
+    void example_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<Options>("options");
+        QTest::addColumn<int>("offset");
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<int>("size"); // of the whole
+        const auto add = [](const char *form, const char *name, const Options &options, const char *bytes, int size,
+                            int offset = 0) {
+            QTest::addRow("%s at %d of %s, %d options", form, offset, name, int(options.size()))
+                << name << options << offset << QByteArray::fromHex(bytes) << size;
+        };
+        add("palette", "Sunset", {}, "E3 81 56 00 EC 01 00 00", 512);
+        add("palette-513", "Sunset", {}, "EC", 513, 512);
+        add("palette-513", "Sunset", {{"transparency", "index"}}, "02", 513, 512);
+        add("palette-8bit", "Sunset", {}, "E3 56 EC 00", 256);
+        add("palette-group", "Sunset", {{"group", "0"}}, "E3 81 56 00 EC 01 00 00", 32);
+        add("tiles-4bit", "Rocks", {}, "00 01 10 00 00 12 21 00 01 23 32 10 12 34 53 21 F0 00 00 00 0F 00 00 00 77",
+            96);
+        add("tiles-8bit", "Rocks", {{"count", "1"}}, "20 20 20 21 21 20 20 20", 64);
+        add("tiles-8bit", "Rocks", {{"order", "columns"}, {"count", "1"}}, "20 20 20 21 2F 20 27 20", 64);
+        add("tiles-1bit", "Rocks", {{"ink", "1"}}, "18 24 42 81 00 00 00 00 00", 24);
+        add("tile-attributes", "Rocks", {}, "00 0F 41", 3);
+        add("tile-values", "Rocks", {}, "00 05 FF", 3);
+        add("tile-values", "Rocks", {{"width", "word"}}, "00 00 05 00 FF FF", 6);
+        add("map-2byte", "Cave", {}, "01 39 05 02 02 F4 FF AF", 8);
+        add("map-2byte", "Cave", {{"order", "columns"}}, "01 39 02 F4 05 02 FF AF", 8);
+        add("map-2byte", "Cave", {{"screen-height", "1"}, {"pad", "5"}}, "01 39 05 02 02 F4 FF AF 00 00", 10);
+        add("map-1byte", "Hall", {}, "01 02 03 04 05 06", 6);
+        add("map-1byte", "Hall", {{"order", "columns"}}, "01 04 02 05 03 06", 6);
+        add("map-1byte", "Hall", {{"screen-width", "2"}, {"screen-height", "2"}}, "01 02 04 05 03 00 06 00", 8);
+        add("map-sprites", "Cave", {},
+            "02 00  28 00 F8 FF 00 28 03 00 00 00 00 00 00 00 00 00"
+            "2C 01 64 00 01 01 01 00 01 00 32 00 64 00 22 00  42 61 74 00",
+            38);
+        add("map-blocks", "Cave", {}, "01 00  1F 00 06 00 03 01 00 01 01 00 00 00 00 00 0A 00", 18);
+        add("block-animations", "Platform", {}, "01 00 04 00  03 01 01 01 00 00  01 01 05 30 05 38", 16);
+        add("sprite-animations", "Hero", {}, "01 00 04 00  02 01 02 00 04 00  00 00 01 00 02 00 02 08", 18);
+        add("sprites-8bit", "Hero", {}, "00 01 02 03 04 05 06 07 08 09 0A 0B 0C 0D 0E 0F 00", 1024);
+        add("sprites-packed", "Hero", {}, "01 23 45 67 89 AB CD EF 00", 512);
+        add("layer2-256", "256", {}, "01 02 00", 49152);
+        add("layer2-256", "256", {}, "03 00", 49152, 256);
+        add("layer2-256", "256", {{"palette", "true"}}, "00 01 02", 49664, 511);
+        add("layer2-320", "320", {}, "01 03 00", 81920);
+        add("layer2-320", "320", {}, "02 00", 81920, 256);
+        add("layer2-640", "640", {}, "12 30 00", 81920);
+        add("lores", "128", {}, "01 02 00", 12288);
+        add("lores", "128", {}, "03 00", 12288, 128);
+    }
+
+    void example()
+    {
+        QFETCH(QString, name);
+        QFETCH(Options, options);
+        QFETCH(int, offset);
+        QFETCH(QByteArray, bytes);
+        QFETCH(int, size);
+        const QString form = QString(QTest::currentDataTag()).section(' ', 0, 0);
+        const QByteArray all = writtenBytes(form, asset(name), options);
+        QCOMPARE(all.size(), size);
+        QCOMPARE(all.mid(offset, bytes.size()).toHex(' '), bytes.toHex(' '));
+    }
+
+    void refusal_data()
+    {
+        const auto mapWith = [this](const char *name, QPoint at, const TileMap::TileData &cell) {
+            const auto map = m_project.createMap(name, m_tiles->id(), {3, 2});
+            map->setTile({0, 0}, {1, false, false, false, 4, true});
+            map->setTile(at, cell);
+            return map;
+        };
+        mapWith("Mirrored", {2, 1}, {1, false, false, true, 4, true});
+        mapWith("Offsets", {1, 1}, {1, false, false, false, 5, true});
+        mapWith("Beyond", {1, 0}, {512, false, false, false, 4, true});
+        mapWith("Far", {1, 0}, {})->addSprite({m_bank->id(), {}, 0, 32768});
+        mapWith("No bank", {1, 0}, {})
+            ->addSprite({QUuid::createUuid(), {}, 0, 0, 0, false, false, false, 0, 0, 0, 0, "Cat"});
+        mapWith("No run", {1, 0}, {})->addSprite({m_bank->id(), QUuid::createUuid()});
+        mapWith("No block", {1, 0}, {})->animatedBlocks()->add({0, 0, 1, 1}, QUuid::createUuid());
+        const auto wide = m_project.createBlockList("Wide", m_tiles->id())->createBoundTileAnimation("Wall");
+        wide->setSize({256, 1});
+        const auto high = m_project.createBlockList("High", m_tiles->id())->createBoundTileAnimation("Tower");
+        high->setSize({1, 1});
+        high->addFrame();
+        setCell(*high, 0, 0, {512});
+        m_project.createSpriteBank(Quenmora::EightBit, "Deep", {})->setWholeImage(plainImage({16, 32}, 16));
+        m_project.createImage(Quenmora::Layer2_640x256, "Colourful", {})->setImage(picture({640, 256}, "01"));
+        m_project.createImage(Quenmora::LoRes_128x96, "Bare", {});
+        QImage mixed = plainImage({640, 256}, 17);
+        mixed.setPixel(5, 3, 32);
+        m_project.images().at(4)->setImage(mixed);
+        const auto valued = m_project.createTileSet("Valued", m_palette->id(), 2);
+        valued->tile(1)->setValue(256);
+        m_project.createTileSet("Tileless", m_palette->id(), 0);
+
+        QTest::addColumn<QString>("form");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<Options>("options");
+        QTest::addColumn<QString>("reason");
+        const auto add = [](const char *form, const char *name, const Options &options, const char *reason) {
+            QTest::addRow("%s", reason) << form << name << options << QString::fromUtf8(reason);
+        };
+        add("palette", "Cave", {}, "“Cave” is a map, and the form palette is for a palette");
+        add("layer2-256", "320", {}, "“320” has 320 × 256 pixels, and this form 256 × 192");
+        add("layer2-640", "Colourful", {{"palette", "true"}},
+            "“Colourful”: the pixel at 5, 3 has the index 32, and only those from 16 to 31 go with the first pixel");
+        add("lores", "Bare", {{"palette", "true"}}, "“Bare” has no palette that could stand in front");
+        add("tiles-4bit", "Rocks", {{"first", "3"}},
+            "Options first and count: there are 3, and 1 from number 3 on are not");
+        add("tiles-4bit", "Rocks", {{"first", "1"}, {"count", "3"}},
+            "Options first and count: there are 3, and 3 from number 1 on are not");
+        add("tiles-4bit", "Tileless", {}, "Options first and count: there are 0, and 1 from number 0 on are not");
+        add("tile-values", "Valued", {}, "“Valued”: tile 1 (counted from 0) has the value 256, and -128 to 255 fit");
+        add("map-1byte", "Cave", {},
+            "“Cave”: the cell in column 0, row 0 (counted from 0) shows tile 257, and 255 is the last one that fits");
+        add("map-1byte", "Mirrored", {},
+            "“Mirrored”: the cell in column 2, row 1 (counted from 0) is rotated or mirrored, which one byte does not "
+            "tell");
+        add("map-1byte", "Offsets", {},
+            "“Offsets”: the cell in column 1, row 1 (counted from 0) has the palette offset 5, others have 4, and one "
+            "byte does not tell them apart");
+        add("map-2byte", "Beyond", {},
+            "“Beyond”: the cell in column 1, row 0 (counted from 0) shows tile 512, and 511 is the last one that fits");
+        add("map-sprites", "Far", {}, "“Far”, placed sprite 0: x is 32768, and -32768 to 32767 fit");
+        add("map-sprites", "No bank", {}, "“No bank”, placed sprite 0 “Cat”: its sprite bank is not in the project");
+        add("map-sprites", "No run", {}, "“No run”, placed sprite 0: its animation is not in the project");
+        add("map-blocks", "No block", {}, "“No block”, placed animation 0: its animation is not in the project");
+        add("block-animations", "Wide", {}, "“Wide”, animation “Wall”: the width is 256, and 0 to 255 fit");
+        add("block-animations", "High", {},
+            "Animation “Tower”, frame 0, column 0, row 0 (counted from 0): it shows number 512, and 511 is the last "
+            "one that fits");
+        add("sprites-packed", "Deep", {},
+            "“Deep” is a bank of 8 bits: sprite 0 (counted from 0) has a pixel of index 16, and 4 bits hold 0 to 15");
+        add("map-2byte", "Cave", {{"order", "diagonals"}}, "Option order: “diagonals” is not one of rows, columns");
+        add("map-2byte", "Cave", {{"screen-width", " 4"}},
+            "Option screen-width: “ 4” is not a whole number from 0 to 9999");
+        add("map-2byte", "Cave", {{"pad", "65537"}}, "Option pad: “65537” is not a whole number from 0 to 65536");
+        add("lores", "128", {{"halves", "yes"}}, "Option halves: “yes” is not true or false");
+        add("lores", "128", {{"half", "true"}},
+            "There is no option “half”, only palette, halves, text, label, pad, cut");
+        add("lores", "128", {{"text", "c"}, {"label", "2nd"}},
+            "“2nd” cannot be a label: those are a letter, then letters, digits and _, 56 at most");
+        add("lores", "128", {{"text", "gas"}, {"label", "LD"}},
+            "“LD” cannot be a label: assemblers or C give it a meaning");
+    }
+
+    void refusal()
+    {
+        QFETCH(QString, form);
+        QFETCH(QString, name);
+        QFETCH(Options, options);
+        QFETCH(QString, reason);
+        QCOMPARE(written(form, asset(name), options).reason(), reason);
+    }
+};
+
+QUENMORA_TEST_MAIN(TestFormExamples)
+#include "tst_formexamples.moc"
