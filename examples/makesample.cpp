@@ -1,5 +1,5 @@
 // makesample PICTURES FILE: makes the sample project from its pictures. A file that holds just that already
-// is not written, because an archive would have another time in it.
+// is not written: it changes with the pictures alone, not with the version of what deflates it.
 
 #include "examples/sample.h"
 #include "model/project.h"

@@ -12,9 +12,6 @@ namespace {
 using TileData = TileMap::TileData;
 using Row = TileMap::Row;
 
-constexpr qsizetype HeaderSize = 8;
-constexpr qsizetype CellSize = 12;
-constexpr qsizetype IdSize = 16;
 constexpr qsizetype NextCellSize = 2;
 
 /// Cells along a side of a grid that is read: far more than the editor makes.
@@ -104,17 +101,34 @@ QByteArray toNextData(const TileMap::Rows &rows)
     return data;
 }
 
+void appendHead(QByteArray &data, QSize size)
+{
+    char head[HeadSize];
+    qToBigEndian(qint32(size.height()), head);
+    qToBigEndian(qint32(size.width()), head + 4);
+    data.append(head, HeadSize);
+}
+
+void appendRow(QByteArray &data, const TileMap::Row &row)
+{
+    const qsizetype start = data.size();
+    data.resize(start + row.size() * CellSize);
+    char *to = data.data() + start;
+    for (const TileData &cell : row)
+        to = writeCell(to, cell);
+}
+
 QByteArray serialise(const TileMap::Rows &rows, const QRect &area, const QUuid &tileSetId)
 {
     const int width = std::max(area.width(), 0);
     const int height = std::max(area.height(), 0);
     const qsizetype rowSize = width * CellSize;
-    QByteArray data(HeaderSize + height * rowSize + IdSize, Qt::Uninitialized);
-    qToBigEndian(qint32(height), data.data());
-    qToBigEndian(qint32(width), data.data() + 4);
+    QByteArray data;
+    appendHead(data, {width, height});
+    data.resize(HeadSize + height * rowSize + IdSize);
 
     // zero cells are zero bytes, so what lies outside the grid is filled as bytes
-    char *to = data.data() + HeaderSize;
+    char *to = data.data() + HeadSize;
     for (int y = area.top(); y < area.top() + height; ++y, to += rowSize) {
         const Row row = rows.value(y);
         const qsizetype first = std::clamp<qsizetype>(area.left(), 0, row.size());
@@ -135,8 +149,8 @@ QByteArray serialise(const TileMap::Rows &rows, const QRect &area, const QUuid &
 
 std::optional<TileMap::Rows> readRows(QIODevice &device, Budget &budget)
 {
-    const QByteArray head = device.read(HeaderSize);
-    const auto size = head.size() == HeaderSize ? sizeIn(head, device.bytesAvailable()) : std::nullopt;
+    const QByteArray head = device.read(HeadSize);
+    const auto size = head.size() == HeadSize ? sizeIn(head, device.bytesAvailable()) : std::nullopt;
     if (!size || !takeGrid(*size, budget))
         return std::nullopt;
     TileMap::Rows rows;
@@ -160,16 +174,13 @@ std::optional<TileMap::Rows> readRows(QIODevice &device, Budget &budget)
     return damaged ? std::nullopt : std::optional(rows);
 }
 
-bool takeRows(const QByteArray &data, Budget &budget)
+bool takeRows(const TileMap::Rows &rows, QSize size, Budget &budget)
 {
-    const auto size = data.size() >= HeaderSize ? sizeIn(data, data.size() - HeaderSize) : std::nullopt;
-    if (!size || !takeGrid(*size, budget))
+    if (!takeGrid(size, budget))
         return false;
-    const qsizetype rowSize = size->width() * CellSize;
-    const char *row = data.constData() + HeaderSize;
-    for (int y = 0; y < size->height(); ++y, row += rowSize) {
-        const bool isShared = y > 0 && std::memcmp(row, row - rowSize, size_t(rowSize)) == 0;
-        if (!isShared && !takeMemory(size->width(), budget))
+    for (qsizetype y = 0; y < rows.size(); ++y) {
+        const bool isShared = y > 0 && rows[y] == rows[y - 1];
+        if (!isShared && !takeMemory(size.width(), budget))
             return false;
     }
     return true;
@@ -179,15 +190,15 @@ Reader::Reader(const QByteArray &data, QSize size) : m_data(data), m_size(size) 
 
 std::optional<Reader> Reader::open(const QByteArray &data)
 {
-    if (data.size() < HeaderSize)
+    if (data.size() < HeadSize)
         return std::nullopt;
-    const auto size = sizeIn(data, data.size() - HeaderSize);
+    const auto size = sizeIn(data, data.size() - HeadSize);
     return size ? std::optional(Reader(data, *size)) : std::nullopt;
 }
 
 const uchar *Reader::cellAt(int x, int y) const
 {
-    return reinterpret_cast<const uchar *>(m_data.constData()) + HeaderSize
+    return reinterpret_cast<const uchar *>(m_data.constData()) + HeadSize
         + (qsizetype(y) * m_size.width() + x) * CellSize;
 }
 
@@ -201,7 +212,7 @@ void Reader::readCells(int x, int y, int count, TileData *cells) const
 QUuid Reader::tileSetId() const
 {
     const qsizetype cellBytes = CellSize * m_size.width() * m_size.height();
-    const auto id = QByteArrayView(m_data).sliced(HeaderSize + cellBytes);
+    const auto id = QByteArrayView(m_data).sliced(HeadSize + cellBytes);
     return id.size() < IdSize ? QUuid() : QUuid::fromRfc4122(id.first(IdSize));
 }
 

@@ -27,10 +27,25 @@ class QIODevice;
 ///     then    16         id of the tile set, RFC 4122 byte order, null for none
 namespace TileMapFormat {
 
+// Bytes of the data-stream form
+constexpr qsizetype HeadSize = 8;
+constexpr qsizetype CellSize = 12;
+constexpr qsizetype IdSize = 16;
+
 [[nodiscard]] QByteArray toNextData(const TileMap::Rows &rows);
 
 /// The area of a grid in data-stream form, with blank cells outside the grid.
 [[nodiscard]] QByteArray serialise(const TileMap::Rows &rows, const QRect &area, const QUuid &tileSetId);
+
+/// Bytes that a grid of this size takes in data-stream form.
+[[nodiscard]] constexpr qint64 sizeOf(QSize size)
+{
+    return HeadSize + qint64(size.width()) * size.height() * CellSize + IdSize;
+}
+
+// The parts of the data-stream form of a whole grid, which ends with the id.
+void appendHead(QByteArray &data, QSize size);
+void appendRow(QByteArray &data, const TileMap::Row &row);
 
 /// What the cells that are read may cost.
 struct Budget
@@ -44,8 +59,8 @@ struct Budget
 /// for the cells that it announces, the budget is, or a side has more than 65536 cells.
 [[nodiscard]] std::optional<TileMap::Rows> readRows(QIODevice &device, Budget &budget);
 
-/// Takes what readRows() would; false when it would give nothing.
-[[nodiscard]] bool takeRows(const QByteArray &data, Budget &budget);
+/// Takes what readRows() would for a grid; false when it would give nothing.
+[[nodiscard]] bool takeRows(const TileMap::Rows &rows, QSize size, Budget &budget);
 
 /// What clipboard data in data-stream form holds.
 class Reader

@@ -4,7 +4,6 @@
 #include "model/palette.h"
 #include "model/project.h"
 #include "store/documentreader.h"
-#include "store/pngmember.h"
 
 #include <QCoreApplication>
 
@@ -22,9 +21,9 @@ QString pixelsMember(const QUuid &id)
 
 } // namespace
 
-QJsonObject writeImage(const Image &image, ProjectMembers &members)
+QJsonObject writeImage(const Image &image, ProjectSnapshot &members)
 {
-    members.insert(pixelsMember(image.id()), PngMember::encode(image.image()));
+    members.append({pixelsMember(image.id()), image.image()});
     return {
         {Id, image.id().toString()},
         {Name, image.name()},

@@ -143,16 +143,14 @@ bool freeMap(const QPointer<Map> &earlier)
 
 } // namespace
 
-bool isTileLayer(const QString &memberName)
-{
-    return memberName.startsWith(QLatin1String("tilemap/"));
-}
-
-QJsonObject writeMap(const Map &map, ProjectMembers &members)
+QJsonObject writeMap(const Map &map, ProjectSnapshot &members)
 {
     const QPointer<TileMap> tiles = map.tileLayer();
     const QPointer<TileMap> objects = map.objectLayer();
-    members.insert(cellsMember(map.id()), tiles ? tiles->serialise(tiles->bounds()) : TileMap(0, 0).serialise({}));
+    ProjectMember::Cells cells;
+    if (tiles)
+        cells = {tiles->size(), tiles->rows(), tiles->tileSet() ? tiles->tileSet()->id() : QUuid()};
+    members.append({cellsMember(map.id()), cells});
 
     QJsonArray placements;
     for (const QPointer<AnimationProperties> &placement : map.animatedBlocks()->list())

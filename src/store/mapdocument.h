@@ -10,7 +10,5 @@ struct DocumentReader;
 /// A map has the cells of its tile layer, and with them its size, in the member "tilemap/%1", %1 being its
 /// id, in the data-stream form of a tile map. The object layer is not stored; reading leaves it blank, to
 /// be stamped from the placements once the block sets are there.
-[[nodiscard]] QJsonObject writeMap(const Map &map, ProjectMembers &members);
+[[nodiscard]] QJsonObject writeMap(const Map &map, ProjectSnapshot &members);
 [[nodiscard]] bool readMap(DocumentReader &reader, const QJsonObject &object);
-/// Whether a member of that name is the cells of a map.
-[[nodiscard]] bool isTileLayer(const QString &memberName);

@@ -16,11 +16,18 @@ constexpr int DotsPerMetre = 3780;
 
 } // namespace
 
+bool PngMember::canHold(const QImage &image)
+{
+    return !image.isNull() && std::max(image.width(), image.height()) <= PngReader::MaxSide;
+}
+
 QByteArray PngMember::encode(const QImage &image)
 {
-    if (std::max(image.width(), image.height()) > PngReader::MaxSide)
+    if (!canHold(image))
         return {};
-    QImage stored = image;
+    // the pixels without what else may hang on a picture from outside: texts, profiles
+    QImage stored(image.constBits(), image.width(), image.height(), image.bytesPerLine(), image.format());
+    stored.setColorTable(image.colorTable());
     stored.setDotsPerMeterX(DotsPerMetre);
     stored.setDotsPerMeterY(DotsPerMetre);
     if (stored.format() == QImage::Format_Indexed8) {

@@ -5,7 +5,6 @@
 #include "model/mapobjects.h"
 #include "model/nximage.h"
 #include "model/palette.h"
-#include "model/pngreader.h"
 #include "model/project.h"
 #include "model/spritebank.h"
 #include "model/tileset.h"
@@ -15,6 +14,7 @@
 #include "store/mapdocument.h"
 #include "store/palettedocument.h"
 #include "store/pngmember.h"
+#include "store/projectmember.h"
 #include "store/spritebankdocument.h"
 #include "store/tilesetdocument.h"
 #include "store/zipfile.h"
@@ -193,29 +193,45 @@ qsizetype objectsIn(const QJsonObject &document)
     return count;
 }
 
-/// Whether readers refuse the document for what it would take to hold it.
-bool isTooLarge(const QByteArray &text)
+/// Bytes that PngReader takes for a pixel of a picture that is stored.
+int bytesPerPixel(const QImage &picture)
 {
-    if (text.size() > MaxDocument || memoryFor(text) > MaxMemory)
-        return true;
-    const bool canHoldTooMany = text.count('{') > MaxObjects; // else there is no need to look closely
-    return canHoldTooMany && objectsIn(QJsonDocument::fromJson(text).object()) > MaxObjects;
+    return picture.depth() <= 8 ? 1 : picture.depth() <= 32 ? 4 : 8;
 }
 
-/// Whether the reading of a picture or of cells stays within the budget.
-bool isInside(ReadingBudget &budget, const QString &name, const QByteArray &bytes)
+/// Whether readers take what a member holds.
+class Readability
 {
-    if (name.endsWith(QLatin1String(".png"))) {
-        QBuffer buffer;
-        buffer.setData(bytes);
-        buffer.open(QIODevice::ReadOnly);
-        PngReader picture(buffer);
-        return picture.readHead() && budget.takePixels(picture.byteCount(), isTileSet(name), false);
+public:
+    [[nodiscard]] bool operator()(const ProjectMember &member)
+    {
+        return std::visit([&](const auto &content) { return isReadable(member.name, content); }, member.content);
     }
-    return !isTileLayer(name) || budget.takeCells(false, [&bytes](TileMapFormat::Budget &cells) {
-        return TileMapFormat::takeRows(bytes, cells);
-    });
-}
+
+private:
+    [[nodiscard]] bool isReadable(const QString &, const QJsonObject &document) const
+    {
+        const QByteArray text = textOf(document);
+        if (text.size() > MaxDocument || memoryFor(text) > MaxMemory)
+            return false;
+        const bool canHoldTooMany = text.count('{') > MaxObjects; // else there is no need to look closely
+        return !canHoldTooMany || objectsIn(document) <= MaxObjects;
+    }
+    [[nodiscard]] bool isReadable(const QString &name, const QImage &picture)
+    {
+        const qint64 bytes = qint64(picture.width()) * picture.height() * bytesPerPixel(picture);
+        return PngMember::canHold(picture) && m_budget.takePixels(bytes, isTileSet(name), false);
+    }
+    [[nodiscard]] bool isReadable(const QString &, const ProjectMember::Cells &cells)
+    {
+        const qint64 bytes = TileMapFormat::sizeOf(cells.size);
+        return bytes <= ZipFile::MaxMemberSize && m_budget.takeCells(false, [&cells](TileMapFormat::Budget &budget) {
+            return TileMapFormat::takeRows(cells.rows, cells.size, budget);
+        });
+    }
+
+    ReadingBudget m_budget;
+};
 
 QString invalidProject()
 {
@@ -224,9 +240,9 @@ QString invalidProject()
 
 } // namespace
 
-ProjectMembers serializeProject(const Project &project, bool includeOpenDocuments)
+ProjectSnapshot snapshotOf(const Project &project, bool includeOpenDocuments)
 {
-    ProjectMembers members;
+    ProjectSnapshot members;
     QJsonObject document = writeSettings(project);
     if (includeOpenDocuments)
         document.insert(OpenDocuments, QJsonArray::fromStringList(project.openDocuments()));
@@ -239,19 +255,26 @@ ProjectMembers serializeProject(const Project &project, bool includeOpenDocument
     document.insert(Maps, writeAll(project.maps(), withMembers(writeMap)));
     document.insert(SpriteBanks, writeAll(project.spriteBanks(), withMembers(writeSpriteBank)));
     document.insert(Images, writeAll(project.images(), withMembers(writeImage)));
-    members.insert(DocumentMember, QJsonDocument(document).toJson(QJsonDocument::Indented));
-    members.insert(ScratchMember, PngMember::encode(project.scratchImage()));
+    members.append({DocumentMember, document});
+    members.append({ScratchMember, project.scratchImage()});
+    std::sort(members.begin(), members.end(),
+              [](const ProjectMember &a, const ProjectMember &b) { return a.name < b.name; });
     return members;
 }
 
-QString unreadableMember(const ProjectMembers &members)
+ProjectMembers serializeProject(const Project &project, bool includeOpenDocuments)
 {
-    ReadingBudget budget;
-    for (auto member = members.cbegin(); member != members.cend(); ++member) {
-        if (member->isEmpty() || member->size() > ZipFile::MaxMemberSize || !isInside(budget, member.key(), *member))
-            return member.key();
-    }
-    return isTooLarge(members.value(DocumentMember)) ? QString(DocumentMember) : QString();
+    ProjectMembers members;
+    const ProjectSnapshot snapshot = snapshotOf(project, includeOpenDocuments);
+    for (const ProjectMember &member : snapshot)
+        members.insert(member.name, member.bytes());
+    return members;
+}
+
+QString unreadableMember(const ProjectSnapshot &snapshot)
+{
+    const auto refused = std::find_if_not(snapshot.cbegin(), snapshot.cend(), Readability());
+    return refused == snapshot.cend() ? QString() : refused->name;
 }
 
 bool readProject(Project &project, const MemberReader &read, QString &error)

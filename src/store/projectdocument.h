@@ -1,5 +1,7 @@
 #pragma once
 
+#include "store/projectmember.h"
+
 #include <QByteArray>
 #include <QMap>
 #include <QString>
@@ -20,15 +22,19 @@ using MemberReader = std::function<QByteArray(const QString &memberName)>;
 /// there. The device may be sequential, and the next one ends it.
 using MemberOpener = std::function<std::unique_ptr<QIODevice>(const QString &memberName)>;
 
-/// Everything that a project file holds: the document "project.json", a PNG for each tile set,
-/// sprite bank and image and for the scratch image, and the cells of each map.
+/// What a project file holds, as values, in the order in which it is written: the document "project.json", a PNG for
+/// each tile set, sprite bank and image and for the scratch image, and the cells of each map. Costs what undo's
+/// snapshots cost; the bytes are made from it piece by piece, whenever they are wanted (MemberBlocks).
 ///
 /// The list of open documents, which is no part of the project's content, is left out on request.
+[[nodiscard]] ProjectSnapshot snapshotOf(const Project &project, bool includeOpenDocuments);
+
+/// The same as bytes by name, all of them in memory.
 [[nodiscard]] ProjectMembers serializeProject(const Project &project, bool includeOpenDocuments);
 
-/// The name of a member that could not be read again, or none: a picture that no PNG can hold is a member
-/// without bytes, and readers refuse what is larger than anything that they expect.
-[[nodiscard]] QString unreadableMember(const ProjectMembers &members);
+/// The name of a member that could not be read again, or none: no PNG can hold some pictures, and readers refuse what
+/// is larger than anything that they expect.
+[[nodiscard]] QString unreadableMember(const ProjectSnapshot &snapshot);
 
 /// Fills an empty project from the members of a project file.
 ///

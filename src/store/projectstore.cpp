@@ -7,6 +7,7 @@
 #include "model/tileset.h"
 #include "model/writeproblem.h"
 #include "store/fileownership.h"
+#include "store/packedmember.h"
 #include "store/projectdocument.h"
 #include "store/zipfile.h"
 
@@ -76,9 +77,10 @@ bool ProjectStore::save(bool backup)
     if (!m_project)
         return failToSave(tr("Could not create the project file"));
     // Nothing on disk is touched before all that is to be written is there.
-    const ProjectMembers members = serializeProject(*m_project, true);
-    if (const QString lost = unreadableMember(members); !lost.isEmpty())
+    const ProjectSnapshot snapshot = snapshotOf(*m_project, true);
+    if (const QString lost = unreadableMember(snapshot); !lost.isEmpty())
         return failToSave(tr("Could not write %1").arg(lost));
+    const QList<PackedMember> members = packed(snapshot);
     const QString file = targetOf(m_fileName);
     if (!RawFile::isWritable(file))
         return failToSave(tr("Could not create the project file"));
@@ -88,9 +90,9 @@ bool ProjectStore::save(bool backup)
     if (!archive.openForWriting(file))
         return failToSave(tr("Could not create the project file"));
     m_incompleteFile = m_fileName;
-    for (auto member = members.cbegin(); member != members.cend(); ++member) {
-        if (!archive.write(member.key(), member.value()))
-            return failToSave(tr("Could not write %1").arg(member.key()));
+    for (const PackedMember &member : members) {
+        if (!archive.write(member))
+            return failToSave(tr("Could not write %1").arg(member.name));
     }
     if (!archive.close())
         return failToSave(tr("Could not finish writing the project file"));
@@ -113,17 +115,32 @@ QByteArray ProjectStore::fingerprint() const
     if (!m_project)
         return {};
     QCryptographicHash hash(QCryptographicHash::Sha1);
-    const ProjectMembers members = serializeProject(*m_project, false);
-    for (auto member = members.cbegin(); member != members.cend(); ++member) {
-        hash.addData(member.key().toUtf8());
-        hash.addData(member.value());
+    const ProjectSnapshot snapshot = snapshotOf(*m_project, false);
+    for (const ProjectMember &member : snapshot) {
+        hash.addData(member.name.toUtf8());
+        for (MemberBlocks blocks(member, &m_kept); !blocks.atEnd();)
+            hash.addData(blocks.next());
     }
     return hash.result();
+}
+
+QList<PackedMember> ProjectStore::packed(const ProjectSnapshot &snapshot)
+{
+    QList<PackedMember> members;
+    for (const ProjectMember &member : snapshot) {
+        MemberPacker packer(member, m_kept);
+        while (!packer.atEnd())
+            packer.step();
+        members.append(packer.packed());
+    }
+    m_kept.keepOnly(members);
+    return members;
 }
 
 void ProjectStore::close()
 {
     delete m_project;
+    m_kept.clear();
     m_fileName.clear();
     m_incompleteFile.clear();
 }

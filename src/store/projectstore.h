@@ -1,5 +1,7 @@
 #pragma once
 
+#include "store/keptblocks.h"
+
 #include <QByteArray>
 #include <QObject>
 #include <QPointer>
@@ -43,6 +45,10 @@ public:
     /// Destroys the open project, if any, and forgets its file.
     void close();
 
+    /// The deflated blocks of what was saved last. Who writes copies of the project beside its file packs them through
+    /// these, so that neither deflates again what the other has done.
+    [[nodiscard]] KeptBlocks &keptBlocks() { return m_kept; }
+
     [[nodiscard]] Project *project() const;
     [[nodiscard]] QString fileName() const { return m_fileName; }
     void setFileName(const QString &fileName) { m_fileName = fileName; }
@@ -84,11 +90,13 @@ private:
     /// Keeps the file under the name of its backup, unless it is what a failed save left behind, which must
     /// not push out the last whole version.
     void backUp(const QString &file) const;
+    [[nodiscard]] QList<PackedMember> packed(const ProjectSnapshot &snapshot);
     [[nodiscard]] bool failToLoad(const QString &message, const QString &fileName);
     [[nodiscard]] bool failToSave(const QString &message);
 
     QString m_fileName;
     QPointer<Project> m_project;
     QString m_errorDetail;
+    KeptBlocks m_kept;
     QString m_incompleteFile; ///< the file that the last save began to write and could not finish, or none
 };

@@ -6,7 +6,6 @@
 #include "model/spritebank.h"
 #include "store/animationdocument.h"
 #include "store/documentreader.h"
-#include "store/pngmember.h"
 
 #include <QCoreApplication>
 #include <QJsonArray>
@@ -54,12 +53,12 @@ void readAnimation(DocumentReader &reader, SpriteBank &bank, const QJsonObject &
 
 } // namespace
 
-QJsonObject writeSpriteBank(const SpriteBank &bank, ProjectMembers &members)
+QJsonObject writeSpriteBank(const SpriteBank &bank, ProjectSnapshot &members)
 {
     QJsonArray animations;
     for (const QPointer<SpriteAnim> &animation : bank.animations())
         animations.append(AnimationDocument::write(*animation, FrameCells));
-    members.insert(pixelsMember(bank.id()), PngMember::encode(bank.image()));
+    members.append({pixelsMember(bank.id()), bank.image()});
     return {
         {Id, bank.id().toString()},
         {Name, bank.name()},

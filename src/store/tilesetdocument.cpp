@@ -4,7 +4,6 @@
 #include "model/project.h"
 #include "model/tileset.h"
 #include "store/documentreader.h"
-#include "store/pngmember.h"
 
 #include <QCoreApplication>
 #include <QJsonArray>
@@ -54,7 +53,7 @@ bool isTileSet(const QString &memberName)
     return memberName.startsWith(QLatin1String("tileset/"));
 }
 
-QJsonObject writeTileSet(const TileSet &tileSet, ProjectMembers &members)
+QJsonObject writeTileSet(const TileSet &tileSet, ProjectSnapshot &members)
 {
     QJsonArray offsets;
     QJsonArray tiles;
@@ -68,7 +67,7 @@ QJsonObject writeTileSet(const TileSet &tileSet, ProjectMembers &members)
         });
     }
     if (tileSet.count() > 0) // else there is no picture
-        members.insert(stripMember(tileSet.id()), PngMember::encode(tileSet.toStrip()));
+        members.append({stripMember(tileSet.id()), tileSet.toStrip()});
     return {
         {Id, tileSet.id().toString()},
         {Name, tileSet.name()},

@@ -1,8 +1,8 @@
 #include "store/zipfile.h"
 
 #include "model/rawfile.h"
+#include "store/packedmember.h"
 
-#include <QDateTime>
 #include <QFileInfo>
 #include <QHash>
 
@@ -93,28 +93,14 @@ private:
     bool m_intact = true;
 };
 
-bool pack(zipFile writer, const QByteArray &bytes)
-{
-    for (qint64 done = 0; done < bytes.size();) {
-        const auto slice = unsigned(std::min(bytes.size() - done, SliceSize));
-        if (zipWriteInFileInZip(writer, bytes.constData() + done, slice) != ZIP_OK)
-            return false;
-        done += slice;
-    }
-    return true;
-}
+/// All members are from the same time, so that equal projects make equal files: the first that the format can tell,
+/// midnight on the first of January 1980.
+constexpr uLong FirstDosDate = 1 << 21 | 1 << 16;
 
-zip_fileinfo writtenNow()
+bool append(zipFile writer, QByteArrayView bytes)
 {
-    const QDateTime now = QDateTime::currentDateTime();
-    zip_fileinfo info{};
-    info.tmz_date.tm_sec = now.time().second();
-    info.tmz_date.tm_min = now.time().minute();
-    info.tmz_date.tm_hour = now.time().hour();
-    info.tmz_date.tm_mday = now.date().day();
-    info.tmz_date.tm_mon = now.date().month() - 1;
-    info.tmz_date.tm_year = now.date().year();
-    return info;
+    Q_ASSERT(bytes.size() <= SliceSize);
+    return zipWriteInFileInZip(writer, bytes.data(), unsigned(bytes.size())) == ZIP_OK;
 }
 
 } // namespace
@@ -193,17 +179,27 @@ std::unique_ptr<QIODevice> ZipFile::open(const QString &memberName) const
 
 bool ZipFile::write(const QString &memberName, const QByteArray &bytes)
 {
+    return write(PackedMember::pack(memberName, bytes));
+}
+
+bool ZipFile::write(const PackedMember &member)
+{
+    constexpr int AsItIs = 1; // the bytes are deflated already
     if (!m_archive || !m_archive->writer)
         return false;
     const zipFile writer = m_archive->writer;
-    const zip_fileinfo info = writtenNow();
-    if (zipOpenNewFileInZip64(writer, memberName.toLocal8Bit().constData(), &info, nullptr, 0, nullptr, 0, nullptr,
-                              Z_DEFLATED, BestCompression, bytes.size() >= Zip64Threshold)
+    zip_fileinfo info{};
+    info.dosDate = FirstDosDate;
+    const qint64 size = member.size();
+    if (zipOpenNewFileInZip2_64(writer, member.name.toLocal8Bit().constData(), &info, nullptr, 0, nullptr, 0, nullptr,
+                                Z_DEFLATED, BestCompression, AsItIs, size >= Zip64Threshold)
         != ZIP_OK)
         return false;
-    const bool packed = pack(writer, bytes);
-    const bool finished = zipCloseFileInZip(writer) == ZIP_OK;
-    return packed && finished;
+    const bool written = std::all_of(member.blocks.cbegin(), member.blocks.cend(),
+                                     [writer](const PackedBlock &block) { return append(writer, block.deflated); })
+        && append(writer, PackedBlock::EndOfStream);
+    const bool finished = zipCloseFileInZipRaw64(writer, ZPOS64_T(size), member.checksum()) == ZIP_OK;
+    return written && finished;
 }
 
 bool ZipFile::close()

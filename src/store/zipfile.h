@@ -7,9 +7,12 @@
 
 #include <memory>
 
+struct PackedMember;
+
 /// A zip archive that is open for reading or for writing.
 ///
-/// Members are deflated at the best level and looked up by their full, case-sensitive name; zip64
+/// Members are deflated at the best level, all with the same time, so that equal contents make equal archives, and
+/// looked up by their full, case-sensitive name; zip64
 /// records are used when an archive needs them. File and member names are passed on in the local
 /// 8-bit encoding. Every failure is told by the result alone, and an archive from outside may be
 /// damaged in any way: it costs no more memory than the bytes that it really holds.
@@ -46,6 +49,8 @@ public:
 
     /// Adds a member to an archive open for writing; false when it could not be written whole.
     [[nodiscard]] bool write(const QString &memberName, const QByteArray &bytes);
+    /// The same with a member that is deflated already.
+    [[nodiscard]] bool write(const PackedMember &member);
 
     /// Finishes an archive that is being written, and closes it. True when all of it went well, and
     /// when no archive is open.
