@@ -32,25 +32,24 @@ Outcome impossible(const QString &reason)
 }
 
 /// Brings a file to what it should be and adds it to the outcome; false, with the reason, when it cannot be written.
-bool settle(Outcome &outcome, const QString &place, const QByteArray &bytes, RecipeRun::Mode mode)
+bool settle(Outcome &outcome, const OutputFile &file, const QString &place, RecipeRun::Mode mode)
 {
-    const WholeFile::State state = WholeFile::stateOf(place, bytes);
+    const WholeFile::State state = WholeFile::stateOf(place, file.bytes);
     if (state != WholeFile::State::Unchanged && mode == RecipeRun::Mode::Write) {
-        if (const QString problem = WholeFile::write(place, bytes); !problem.isEmpty()) {
+        if (const QString problem = WholeFile::write(place, file.bytes); !problem.isEmpty()) {
             outcome.state = State::Impossible;
             outcome.reason = problem;
             return false;
         }
     }
-    const State asOutput = state == WholeFile::State::New ? State::New
-        : state == WholeFile::State::Changed              ? State::Changed
-                                                          : State::Unchanged;
+    const State fileState = state == WholeFile::State::New ? State::New
+        : state == WholeFile::State::Changed               ? State::Changed
+                                                           : State::Unchanged;
     if (outcome.files.isEmpty())
-        outcome.state = asOutput;
-    else if (outcome.state != asOutput)
+        outcome.state = fileState;
+    else if (outcome.state != fileState)
         outcome.state = State::Changed;
-    outcome.files.append(place);
-    outcome.bytes += bytes.size();
+    outcome.files.append({file.name, fileState, file.bytes.size()});
     return true;
 }
 
@@ -154,7 +153,7 @@ Outcome RecipeRun::run(qsizetype index, Mode mode)
     }
     Outcome outcome;
     for (qsizetype i = 0; i < files->size(); ++i) {
-        if (!settle(outcome, places[i], files->at(i).bytes, mode))
+        if (!settle(outcome, files->at(i), places[i], mode))
             break;
     }
     return outcome;
@@ -184,7 +183,7 @@ Outcome runSingle(const Source &source, const Form &form, const OptionValues &va
         return impossible(files.reason());
     Outcome outcome;
     for (const OutputFile &file : *files) {
-        if (!settle(outcome, target.dir().filePath(file.name), file.bytes, mode))
+        if (!settle(outcome, file, target.dir().filePath(file.name), mode))
             break;
     }
     return outcome;

@@ -24,12 +24,18 @@ public:
     enum class State { New, Changed, Unchanged, Impossible };
     enum class Mode { Look, Write };
 
+    struct File
+    {
+        QString name; ///< below the folder
+        State state;
+        qint64 bytes;
+    };
+
     struct Outcome
     {
-        State state = State::Unchanged; ///< of all files together: New when none of them was there
+        State state = State::Unchanged; ///< of all files together
         QString reason{}; ///< why it is impossible
-        QStringList files{}; ///< their places, in order
-        qint64 bytes = 0; ///< in all files
+        QList<File> files{}; ///< in order; of an impossible output those that were written before it failed
     };
 
     /// Told how many outputs are done, of how many; false stops the run before the next one.

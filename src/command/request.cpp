@@ -1,0 +1,171 @@
+#include "command/request.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+
+namespace {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("Request", text);
+}
+
+const QString Help = QStringLiteral("help");
+const QString Version = QStringLiteral("version");
+const QString Formats = QStringLiteral("formats");
+const QString List = QStringLiteral("list");
+const QString Describe = QStringLiteral("describe");
+const QString Recipe = QStringLiteral("recipe");
+const QString Output = QStringLiteral("output");
+const QString Asset = QStringLiteral("asset");
+const QString Format = QStringLiteral("format");
+const QString OptionKey = QStringLiteral("option");
+const QString To = QStringLiteral("to");
+const QString Depfile = QStringLiteral("depfile");
+const QString DryRun = QStringLiteral("dry-run");
+const QString Quiet = QStringLiteral("quiet");
+
+const QString ShortHelp = QStringLiteral("h");
+
+void addOptions(QCommandLineParser &parser)
+{
+    parser.addOptions({
+        {Recipe, tr("Do this recipe, not the one beside the project."), tr("file")},
+        {Output, tr("Write below this folder, not below the project's."), tr("folder")},
+        {{DryRun, QStringLiteral("n")}, tr("Write nothing, but say what would be written.")},
+        {Depfile, tr("Tell make or ninja in this file what was made of what."), tr("file")},
+        {{Quiet, QStringLiteral("q")}, tr("Say nothing unless something fails.")},
+        {Asset, tr("Without a recipe: write the asset of this name or id …"), tr("name")},
+        {Format, tr("… in this form …"), tr("id")},
+        {OptionKey, tr("… with this option of the form, which may be given again for others …"), tr("key=value")},
+        {To, tr("… to this file."), tr("file")},
+        {List, tr("List the assets: kind, id and name.")},
+        {Formats, tr("List the forms and their options.")},
+        {Describe, tr("Describe the whole project as text, for git diff.")},
+        {{ShortHelp, Help}, tr("Show this help.")},
+        {{QStringLiteral("v"), Version}, tr("Show the version.")},
+    });
+    parser.addPositionalArgument(QStringLiteral("project"), tr("A project file, as game.quenmora."));
+}
+
+void describe(QCommandLineParser &parser)
+{
+    parser.setApplicationDescription(
+        tr("Writes the graphics of a Quenmora project in the forms that a game takes, as its recipe says: the file\n"
+           "game.quenmora-export.json beside game.quenmora, which File > Export Project in the editor makes.\n"
+           "Files whose bytes stay the same are not touched."));
+}
+
+/// Options that ask for something else than each other, of which there can be one.
+Request::Action actionOf(const QCommandLineParser &parser, QString &error)
+{
+    using Action = Request::Action;
+    const std::pair<QString, Action> choices[] = {
+        {Formats, Action::Formats}, {List, Action::List}, {Describe, Action::Describe}, {Asset, Action::Single}};
+    if (parser.isSet(Help))
+        return Action::Help;
+    if (parser.isSet(Version))
+        return Action::Version;
+    Action action = Action::Recipe;
+    QString first;
+    for (const auto &[option, meant] : choices) {
+        if (!parser.isSet(option))
+            continue;
+        if (!first.isEmpty())
+            error = tr("--%1 and --%2 do not go together").arg(first, option);
+        first = option;
+        action = meant;
+    }
+    return action;
+}
+
+/// Options that mean nothing for what is asked for.
+QString strayOption(const QCommandLineParser &parser, Request::Action action)
+{
+    using Action = Request::Action;
+    QStringList stray;
+    if (action != Action::Recipe)
+        stray << Recipe << Output;
+    if (action != Action::Single)
+        stray << Format << OptionKey << To;
+    if (action != Action::Recipe && action != Action::Single)
+        stray << DryRun << Depfile;
+    for (const QString &option : stray) {
+        if (parser.isSet(option))
+            return option;
+    }
+    return {};
+}
+
+QString takeOptions(Request &request, const QStringList &pairs)
+{
+    for (const QString &pair : pairs) {
+        const qsizetype equals = pair.indexOf(u'=');
+        if (equals < 1)
+            return tr("--%1 takes KEY=VALUE, not “%2”").arg(OptionKey, pair);
+        request.options.insert(pair.first(equals), pair.sliced(equals + 1));
+    }
+    return {};
+}
+
+/// What is wrong with the values of options, and with what stands beside options.
+QString problemOf(const QCommandLineParser &parser, Request::Action action)
+{
+    for (const QString &option : {Recipe, Output, Asset, Format, To, Depfile}) {
+        if (parser.values(option).size() > 1)
+            return tr("--%1 is there twice").arg(option);
+        if (parser.isSet(option) && parser.value(option).isEmpty())
+            return tr("--%1 needs a value").arg(option);
+    }
+    if (const QString stray = strayOption(parser, action); !stray.isEmpty())
+        return tr("--%1 means nothing here").arg(stray);
+    for (const QString &option : {Format, To}) {
+        if (action == Request::Action::Single && !parser.isSet(option))
+            return tr("--%1 needs --%2").arg(Asset, option);
+    }
+    const QStringList projects = parser.positionalArguments();
+    const qsizetype wanted = action == Request::Action::Formats ? 0 : 1;
+    if (projects.size() > wanted)
+        return tr("“%1” is one argument too many").arg(projects[wanted]);
+    if (projects.size() < wanted || projects.contains(QString()))
+        return tr("A project file is missing");
+    return {};
+}
+
+} // namespace
+
+Request Request::parse(const QStringList &arguments, QString &error)
+{
+    QCommandLineParser parser;
+    addOptions(parser);
+    Request request;
+    if (!parser.parse(arguments)) {
+        error = parser.errorText();
+        return request;
+    }
+    error.clear();
+    request.action = actionOf(parser, error);
+    if (request.action == Action::Help || request.action == Action::Version || !error.isEmpty())
+        return request;
+    error = problemOf(parser, request.action);
+    if (error.isEmpty())
+        error = takeOptions(request, parser.values(OptionKey));
+    request.project = parser.positionalArguments().value(0);
+    request.recipe = parser.value(Recipe);
+    request.output = parser.value(Output);
+    request.asset = parser.value(Asset);
+    request.form = parser.value(Format);
+    request.target = parser.value(To);
+    request.depfile = parser.value(Depfile);
+    request.isDryRun = parser.isSet(DryRun);
+    request.isQuiet = parser.isSet(Quiet);
+    return request;
+}
+
+QString Request::helpText()
+{
+    QCommandLineParser parser;
+    addOptions(parser);
+    describe(parser);
+    return parser.helpText();
+}

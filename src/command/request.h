@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QMap>
+#include <QString>
+#include <QStringList>
+
+/// What the command line asks for.
+struct Request
+{
+    enum class Action {
+        Help,
+        Version,
+        Formats, ///< list the forms
+        List, ///< list the assets
+        Describe,
+        Recipe,
+        Single, ///< one asset, without a recipe
+    };
+
+    Action action = Action::Recipe;
+    QString project;
+
+    QString recipe; ///< empty for the one beside the project
+    QString output; ///< empty for the project's folder
+
+    QString asset; ///< of Single, a name or an id
+    QString form;
+    QMap<QString, QString> options;
+    QString target;
+
+    QString depfile; ///< none when empty
+    bool isDryRun = false;
+    bool isQuiet = false;
+
+    /// The words of a command line, the program's name first. What is wrong with them is in error; the request is then
+    /// of no use.
+    [[nodiscard]] static Request parse(const QStringList &arguments, QString &error);
+
+    [[nodiscard]] static QString helpText();
+};

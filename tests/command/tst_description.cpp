@@ -1,0 +1,155 @@
+#include "command/description.h"
+
+#include "support/sampleproject.h"
+#include "support/testmain.h"
+
+#include "model/mapobjects.h"
+#include "model/tileanimation.h"
+
+#include <QTest>
+
+#include <algorithm>
+#include <functional>
+
+namespace {
+
+/// The lines that one text has and the other has not, "-" before those of the first and "+" before those of the second.
+QStringList difference(const QByteArray &before, const QByteArray &after)
+{
+    QByteArrayList old = before.split('\n');
+    QStringList changes;
+    QStringList added;
+    for (const QByteArray &line : after.split('\n')) {
+        if (!old.removeOne(line))
+            added.append("+" + QString::fromUtf8(line).trimmed());
+    }
+    for (const QByteArray &line : old)
+        changes.append("-" + QString::fromUtf8(line).trimmed());
+    return changes + added;
+}
+
+using Edit = std::function<void(Project &)>;
+
+} // namespace
+
+Q_DECLARE_METATYPE(Edit)
+
+/// Two descriptions differ by what differs between the projects.
+class TestDescription : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_project = std::make_unique<Project>();
+        SampleProject::fill(*m_project);
+    }
+
+    void oneEditChangesItsLines_data()
+    {
+        QTest::addColumn<Edit>("edit");
+        QTest::addColumn<QStringList>("changes");
+        const auto row = [](const char *name, const Edit &edit, const QStringList &changes) {
+            QTest::newRow(name) << edit << changes;
+        };
+        row("nothing", [](Project &) {}, {});
+        row("open documents", [](Project &p) { p.setOpenDocuments({"other"}); }, {});
+        row("project", [](Project &p) { p.setName("A\nB"); }, {R"(-project "Sample")", R"(+project "A\nB")"});
+        row("screen", [](Project &p) { p.setScreenSize({1, 2}); }, {"-screen 256 192", "+screen 1 2"});
+        row("colour", [](Project &p) { p.palettes()[0]->setRawColour(9, 0x2681); },
+            {"-colour 9 $0901 levels 0 2 3", "+colour 9 $2681 levels 1 1 5 priority"});
+        row("transparency", [](Project &p) { p.palettes()[1]->setTransparencyIndex(0); },
+            {"-transparency none", "+transparency 0"});
+        row("pixel of a tile",
+            [](Project &p) {
+                setPixel(*p.tileSets()[0], 1, {3, 2}, 15);
+            },
+            {"-01234567", "+012f4567"});
+        row("tile", [](Project &p) { p.tileSets()[0]->tile(3)->setValue(-4); },
+            {"-tile 3 offset 15 attributes $FF value 0", "+tile 3 offset 15 attributes $FF value -4"});
+        row("cell",
+            [](Project &p) {
+                p.maps()[0]->setTile({2, 3}, {7, true, true, true, 12, true});
+            },
+            {"-.*5 257f/3", "+. . 7rmf/12 . . 257f/3"});
+        row("cells",
+            [](Project &p) {
+                p.maps()[0]->setTiles({0, 3, 5, 1}, 2, false, true, false, true);
+            },
+            {"-.*5 257f/3", "+2f/10*5 257f/3"});
+        row("placement", [](Project &p) { p.maps()[0]->animatedBlocks()->list()[0]->setStartFrame(0); },
+            {R"(-animation "Door" at 1 1 size 3 2 start 1 delays 5 6)",
+             R"(+animation "Door" at 1 1 size 3 2 start 0 delays 5 6)"});
+        row("placed sprite",
+            [](Project &p) {
+                Map::PlacedSprite sprite = p.maps()[0]->sprites()[1];
+                sprite.x = 46;
+                sprite.flip = true;
+                p.maps()[0]->setSprite(1, sprite);
+            },
+            {R"(-sprite "" at 47 0 bank "Hero" sprite 2 offset 15 start 0 delays 0 0)",
+             R"(+sprite "" at 46 0 bank "Hero" sprite 2 flipped offset 15 start 0 delays 0 0)"});
+        row("cell of an animation",
+            [](Project &p) { p.blockSets()[0]->animations()[0]->frame(0)->setIndex(1, 2, 100); },
+            {"-3m/3 4f/4 5r/5", "+3m/3 4f/4 100r/5"});
+        row("delay", [](Project &p) { p.spriteBanks()[0]->animations()[0]->setDelay(9); },
+            {R"(-animation "Run" size 2 1 delay 1)", R"(+animation "Run" size 2 1 delay 9)"});
+        row("pixel of a sprite of 4 bits",
+            [](Project &p) {
+                QImage sprite = p.spriteBanks()[0]->spriteImage(0, false, false, false);
+                sprite.setPixel(0, 5, 0xFE); // whose upper half does not count
+                p.spriteBanks()[0]->setImage(0, sprite);
+            },
+            {"-0*16", "+e000000000000000"});
+        row("pixel of an image",
+            [](Project &p) {
+                QImage image = p.images()[1]->image();
+                image.bits()[image.bytesPerLine()] = 0xAB;
+                p.images()[1]->setImage(image);
+            },
+            {"-00*320", "+ab" + QString(638, u'0')});
+        row("name", [](Project &p) { p.images()[3]->setName("Wide"); },
+            {R"(-image "Wide")", R"(-image "Small")", R"(+image "Wide" ID2)", R"(+image "Wide" ID3)"});
+    }
+
+    void oneEditChangesItsLines()
+    {
+        QFETCH(const Edit, edit);
+        QFETCH(QStringList, changes);
+        const QByteArray before = describe(*m_project);
+        edit(*m_project);
+        const QByteArray after = describe(*m_project);
+        for (int i = 0; i < 4; ++i)
+            changes.replaceInStrings("ID" + QString::number(i), m_project->images()[i]->id().toString());
+        QCOMPARE(difference(before, after), changes);
+        QCOMPARE(describe(*m_project), after);
+    }
+
+    /// What refers to something that is not there says so, and what is blank is short.
+    void readsWell()
+    {
+        const QByteArrayList lines = describe(*m_project).split('\n');
+        const auto follows = [&](const QByteArray &first, const QByteArray &next) {
+            return lines.value(lines.indexOf(first) + 1) == next;
+        };
+        QVERIFY(lines.startsWith("project \"Sample\"") && lines.endsWith(""));
+        QVERIFY(follows("blocks \"Unbound\"", "  tiles none"));
+        QVERIFY(follows("sprites \"Without a palette\"", "  palette none"));
+        QVERIFY(follows("tiles \"\"", "  palette none"));
+        QVERIFY(follows("palette \"\u00E9t\u00E9 \\\"2\\\"\\n\\\\%1\"", "  transparency none"));
+    }
+
+private:
+    static void setPixel(TileSet &tiles, int index, QPoint at, uint value)
+    {
+        QImage image = tiles.image(index);
+        image.setPixel(at, value);
+        tiles.setTileImage(index, image);
+    }
+
+    std::unique_ptr<Project> m_project;
+};
+
+QUENMORA_TEST_MAIN(TestDescription)
+#include "tst_description.moc"
