@@ -23,7 +23,7 @@ public:
 
     explicit operator bool() const { return std::holds_alternative<Value>(m_content); }
     const Value &operator*() const & { return std::get<Value>(m_content); }
-    Value &&operator*() && { return std::get<Value>(std::move(m_content)); }
+    Value operator*() && { return std::get<Value>(std::move(m_content)); }
     const Value *operator->() const { return &std::get<Value>(m_content); }
 
     /// Empty when there is a value.

@@ -1,0 +1,273 @@
+#include "nextdata/filenames.h"
+#include "support/formoutput.h"
+#include "support/randomproject.h"
+#include "support/testmain.h"
+
+#include <QProcess>
+#include <QRegularExpression>
+#include <QStandardPaths>
+#include <QTest>
+
+using namespace NextData;
+
+namespace {
+
+/// Names that people or damaged projects give, and that no assembler or file system would take.
+const QStringList &awkwardNames()
+{
+    static const QStringList names{
+        "Level",
+        "Level",
+        "level 2",
+        "ld",
+        "HL",
+        "int",
+        "1st",
+        "",
+        "..",
+        "../../up",
+        "con.map",
+        "Gr\u00F6\u00DFe \"x\" / y\\",
+        "\u65E5\u672C",
+        "*/ #error",
+        "a\n\tdb 1\r\n; b ?\?/",
+        "label:",
+        QString(10000, 'x'),
+        QString(10000, 'x') + 'y',
+    };
+    return names;
+}
+
+struct Tools
+{
+    QString suffix;
+    QString include; ///< takes in a file
+    QString numbers; ///< writes a byte each of two constants and of half the place of a block's label
+    QList<QStringList> commands; ///< that make all.bin of the file "all" with that suffix
+};
+
+Tools toolsOf(const QString &dialect)
+{
+    const QString numbers = "SPOT_COUNT, SPOT_RECORD_SIZE, (spot_bat - spot) / 2\n";
+    if (dialect == "gas")
+        return {"s",
+                ".include \"%1\"\n",
+                ".byte " + numbers,
+                {{"z80-unknown-coff-as", "-march=z80n", "-o", "all.o", "all.s"},
+                 {"z80-unknown-coff-objcopy", "-O", "binary", "all.o", "all.bin"}}};
+    const QString word = dialect == "z80asm" ? "\tdefb " : "\tdb ";
+    return {"asm", "\tinclude \"%1\"\n", word + numbers, {{"z80asm", "-o", "all.bin", "all.asm"}}};
+}
+
+} // namespace
+
+/// Text, assembled or compiled, is the same as the bytes; names in it and of files are good everywhere.
+class TestSourceText : public QObject
+{
+    Q_OBJECT
+
+    RandomProject m_random{3};
+
+    /// Outputs of all assets in all their forms, whole, padded, and cut, with the bytes for which they stand.
+    struct Outputs
+    {
+        QByteArray bytes;
+        QList<OutputFile> files;
+    };
+
+    Outputs outputs(const QString &dialect, const QString &suffix)
+    {
+        Outputs all;
+        Names names;
+        int number = 0;
+        const auto add = [&](const QString &form, const Source &source, Options options) {
+            const auto binary = written(form, source, options);
+            if (!binary) // a map that does not fit into one byte a cell, sprites that do not into four bits
+                return;
+            for (const OutputFile &file : *binary)
+                all.bytes += file.bytes;
+            options.insert("text", dialect);
+            const auto text = written(form, source, options, QString("o%1.%2").arg(number++).arg(suffix), &names);
+            if (!text)
+                qFatal("%s", qPrintable(text.reason()));
+            all.files += *text;
+        };
+        for (const Source &source : Source::all(m_random.project)) {
+            for (const Form *form : formsFor(source)) {
+                const bool isLarge = form->kind == AssetKind::Image; // one of its form is enough
+                for (const Options &options : {Options{{"cut", "8k"}, {"pad", "1000"}}, Options()}) {
+                    if (!isLarge || !options.isEmpty())
+                        add(form->id, source, options);
+                }
+            }
+        }
+        add("map-sprites", sourceOf(m_random.project, m_random.map), {{"label", "spot"}});
+        const QList<Map::PlacedSprite> &sprites = m_random.map->sprites();
+        all.bytes += char(sprites.size());
+        all.bytes += char(16);
+        all.bytes += char(1 + 8 * (sprites.size() - 1)); // half the place of the last one
+        return all;
+    }
+
+    /// Runs a tool in a folder; what it said, or nothing when it was content.
+    static QString run(const QString &folder, const QStringList &command)
+    {
+        QProcess tool;
+        tool.setWorkingDirectory(folder);
+        tool.setProcessChannelMode(QProcess::MergedChannels);
+        tool.start(command.first(), command.mid(1));
+        const bool succeeded = tool.waitForFinished(120000) && tool.exitCode() == 0;
+        const QString said = QString::fromUtf8(tool.readAll());
+        return succeeded && said.trimmed().isEmpty() ? QString() : command.first() + " failed: " + said;
+    }
+
+private slots:
+    void initTestCase()
+    {
+        QStringList names = awkwardNames();
+        for (const auto &palette : m_random.project.palettes())
+            palette->setName(names.takeFirst());
+        m_random.tiles->setName(names.takeFirst());
+        m_random.map->setName(names.takeFirst());
+        m_random.map->addSprite({m_random.project.spriteBanks().first()->id()});
+        Map::PlacedSprite bat = m_random.map->sprites().last();
+        for (const QString &name : awkwardNames()) {
+            bat.name = name;
+            m_random.map->addSprite(bat);
+        }
+        bat.name = "Bat";
+        m_random.map->addSprite(bat);
+        for (const auto &bank : m_random.project.spriteBanks()) {
+            bank->setName(names.takeFirst());
+            for (const auto &animation : bank->animations())
+                animation->setName(names.first());
+        }
+        for (const auto &image : m_random.project.images())
+            image->setName(names.takeFirst());
+        for (const QString &name : names) {
+            const auto plain = m_random.project.createMap(name, m_random.tiles->id(), {90, 3});
+            plain->setTile({1, 2}, {255, false, false, false, 0, true});
+        }
+    }
+
+    void assembles_data()
+    {
+        QTest::addColumn<QString>("dialect");
+        for (const char *dialect : {"sjasmplus", "z80asm", "gas"})
+            QTest::newRow(dialect) << dialect;
+    }
+
+    void assembles()
+    {
+        QFETCH(QString, dialect);
+        const Tools tools = toolsOf(dialect);
+        if (QStandardPaths::findExecutable(tools.commands.first().first()).isEmpty())
+            QSKIP(qPrintable(tools.commands.first().first() + " is not installed"));
+        const TemporaryFolder folder;
+        const Outputs all = outputs(dialect, tools.suffix);
+        QString source;
+        for (const OutputFile &file : all.files) {
+            folder(file.name, file.bytes);
+            source += tools.include.arg(file.name);
+        }
+        folder("all." + tools.suffix, (source + tools.numbers).toLatin1());
+        for (const QStringList &command : tools.commands)
+            QCOMPARE(run(folder(), command), QString());
+        QVERIFY(readFile(folder("all.bin")) == all.bytes);
+    }
+
+    void compiles()
+    {
+        if (QStandardPaths::findExecutable("gcc").isEmpty())
+            QSKIP("gcc is not installed");
+        const TemporaryFolder folder;
+        const Outputs all = outputs("c", "c");
+        QString includes = "#include <stdio.h>\n";
+        QString writes;
+        const QRegularExpression array("extern const unsigned char (\\w+)\\[");
+        for (const OutputFile &file : all.files) {
+            folder(file.name, file.bytes);
+            includes += QString("#include \"%1\"\n").arg(file.name);
+            auto arrays = array.globalMatch(QString::fromUtf8(file.bytes));
+            while (arrays.hasNext())
+                writes += QString("fwrite(%1, 1, sizeof %1, stdout);\n").arg(arrays.next().captured(1));
+        }
+        writes += "putchar(SPOT_COUNT); putchar(SPOT_RECORD_SIZE); putchar((int)(spot_bat - spot) / 2);\n";
+        folder("all.c", (includes + "int main(void) {\n" + writes + "return 0; }\n").toLatin1());
+        const QStringList command{"gcc", "-std=c99", "-pedantic", "-Wall", "-Wextra", "-Werror", "-o", "all", "all.c"};
+        QCOMPARE(run(folder(), command), QString());
+        QProcess program;
+        program.start(folder("all"), QStringList());
+        QVERIFY(program.waitForFinished());
+        QVERIFY(program.readAllStandardOutput() == all.bytes);
+    }
+
+    void filesAreCut()
+    {
+        const auto palette = sourceOf(m_random.project, m_random.project.palettes().first());
+        const auto image = sourceOf(m_random.project, m_random.project.images().last());
+        const auto sizes = [](const Source &source, const QString &form, const Options &options) {
+            QStringList texts;
+            for (const OutputFile &file : *written(form, source, options, "a.b.bin"))
+                texts.append(QString("%1 %2").arg(file.name).arg(file.bytes.size()));
+            return texts;
+        };
+        QCOMPARE(sizes(palette, "palette", {{"cut", "8k"}}), (QStringList{"a.b_0.bin 512"}));
+        QCOMPARE(sizes(palette, "palette", {{"cut", "16k"}, {"pad", "16400"}}),
+                 (QStringList{"a.b_0.bin 16384", "a.b_1.bin 16"}));
+        QCOMPARE(sizes(image, "lores", {{"cut", "8k"}, {"palette", "true"}}),
+                 (QStringList{"a.b_0.bin 8192", "a.b_1.bin 4608"}));
+        QCOMPARE(sizes(image, "lores", {{"cut", "8k"}, {"halves", "true"}, {"pad", "8192"}}),
+                 (QStringList{"a.b_0.bin 6144", "a.b_1.bin 8192", "a.b_2.bin 2048"}));
+    }
+
+    void labels()
+    {
+        Names names;
+        QStringList labels;
+        for (const QString &name : awkwardNames())
+            labels.append(names.claim(name, "map", {"width"}));
+        QCOMPARE(labels,
+                 (QStringList{"level", "level_2", "level_2_2", "ld_data", "hl_data", "int_data", "map_1st", "map",
+                              "map_2", "up", "con_map", "grosse_x_y", "map_3", "error", "a_db_1_b", "label",
+                              QString(40, 'x'), QString(40, 'x') + "_2"}));
+        QCOMPARE(names.claim("Level width", "map"), "level_width_2"); // LEVEL_WIDTH is there
+        QCOMPARE(names.claim("Up", "map", {"of"}), "up_2");
+        QVERIFY(names.claimExactly("Tower") && !names.claimExactly("tower") && !names.claimExactly("level"));
+    }
+
+    void fileNames_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("fileName");
+        const auto add = [](const QString &name, const QString &fileName) {
+            QTest::addRow("%s", qPrintable(name.left(20))) << name << fileName;
+        };
+        add("Level 1", "Level 1");
+        add("Gr\u00F6\u00DFe", "Gr\u00F6\u00DFe");
+        add("../../etc/passwd", "_.._etc_passwd");
+        add("a:b*c?\"<>|\\d\n", "a_b_c______d_");
+        add("Con", "map_Con");
+        add("lpt\u00B9.old", "map_lpt\u00B9.old");
+        add("dots. . .", "dots");
+        add("..", "map");
+        add("", "map");
+        add(QString(10000, QChar(0x65E5)), QString(80, QChar(0x65E5)));
+    }
+
+    void fileNames()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, fileName);
+        QCOMPARE(FileNames::fromAssetName(name, "map"), fileName);
+        QCOMPARE(FileNames::problemOf("gfx/" + fileName + ".map"), QString());
+        const auto palette = sourceOf(m_random.project, m_random.project.palettes().first());
+        if (name != fileName) // what is no file's name is never written under it
+            QVERIFY(!FileNames::problemOf(name).isEmpty() || name == "Con");
+        for (const char *path : {"/etc/passwd", "C:/a", "../a", "a/../../b", "a//b", "a/", "a/.", "nul.map", "a?b"})
+            QVERIFY2(!FileNames::problemOf(path).isEmpty() && !written("palette", palette, {}, path), path);
+    }
+};
+
+QUENMORA_TEST_MAIN(TestSourceText)
+#include "tst_sourcetext.moc"
