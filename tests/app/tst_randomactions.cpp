@@ -6,7 +6,6 @@
 #include "support/modeltools.h"
 #include "support/projectmembers.h"
 #include "support/randomuser.h"
-#include "support/sharedwork.h"
 #include "support/testmain.h"
 #include "ui/messagedialog.h"
 #include "undo/editclock.h"
@@ -130,27 +129,6 @@ private slots:
             }
         }
         std::printf("%lld actions in %lld s\n", static_cast<long long>(trail.size()), timer.elapsed() / 1000LL);
-    }
-
-    void undoneIsWhatWasDone()
-    {
-        constexpr int StepsOfARound = 150;
-        SharedWork work(*m_window, m_seed);
-        QElapsedTimer timer;
-        timer.start();
-        int rounds = 0;
-        for (; timer.elapsed() < millisecondsToAct() / 6; ++rounds) {
-            work.begin();
-            for (int step = 0; step < StepsOfARound; ++step) {
-                m_time += 3'600'000;
-                work.act();
-                if (const auto [is, must] = work.compared(); is != must)
-                    QFAIL(qPrintable(
-                        QStringLiteral("Seed %1, round %2, after %3\nis\n%4\nmust be\n%5")
-                            .arg(QString::number(m_seed), QString::number(rounds), work.history(), is, must)));
-            }
-        }
-        std::printf("%d rounds of %d steps\n", rounds, StepsOfARound);
     }
 
     void cleanupTestCase()
@@ -391,12 +369,6 @@ private:
     ProjectMembers m_first;
     QStringList m_problems; ///< what the last step has shown
 };
-
-// The order of undo steps over all documents
-
-// What must hold after every action
-
-// Saving
 
 QUENMORA_TEST_MAIN(TestRandomActions)
 #include "tst_randomactions.moc"
