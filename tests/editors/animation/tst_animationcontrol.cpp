@@ -4,7 +4,6 @@
 
 #include <QAction>
 #include <QTest>
-#include <QToolButton>
 
 using Control = AnimationControlWidget;
 
@@ -13,19 +12,10 @@ class TestAnimationControl : public QObject
     Q_OBJECT
 
 private slots:
-    void buttonsAreTheListedOnes()
+    void playsInALoopAtFirst()
     {
-        Control control;
-        QStringList found; // + can be checked, * is, - is disabled
-        for (const QToolButton *button : control.findChildren<QToolButton *>()) {
-            QCOMPARE(button->defaultAction(), control.action(Control::Action(found.size())));
-            QVERIFY(!button->icon().isNull());
-            found += button->toolTip() + (button->isCheckable() ? "+" : "") + (button->isChecked() ? "*" : "")
-                + (button->isEnabled() ? "" : "-");
-        }
-        QCOMPARE(found,
-                 QStringList({"Goto first frame", "Previous frame", "Play", "Pause playback+", "Stop", "Next frame",
-                              "Goto last frame", "Add a frame", "Delete current frame", "Loop+*", "Ping pong+-"}));
+        const Control control;
+        QVERIFY(control.action(Control::Loop)->isChecked() && !control.action(Control::PingPong)->isEnabled());
         control.action(Control::PingPong)->setChecked(true);
         QVERIFY(!control.action(Control::Loop)->isChecked());
     }

@@ -1,7 +1,6 @@
 #include "editors/animation/blockeditorview.h"
 
 #include "editors/animation/animationeditorwidget.h"
-#include "undo/editclock.h"
 
 #include "support/animationtab.h"
 #include "support/testmain.h"
@@ -61,8 +60,6 @@ class TestBlockEditorView : public QObject
     Q_OBJECT
 
 private slots:
-    void cleanup() { EditClock::setSource({}); }
-
     void toolBarShowsAndSetsTheProperties()
     {
         Fixture f;
@@ -131,30 +128,6 @@ private slots:
         QCOMPARE(f.tool(PaintPalette)->toolTip(), "Update palette offsets to default values");
         f.tool(PaintPalette)->trigger();
         QCOMPARE(f.door->frame(0)->cell(0, 1).offset, 2);
-    }
-
-    void undoRefreshesWhatIsShown()
-    {
-        Fixture f;
-        qint64 now = 10'000;
-        EditClock::setSource([&now] { return now += 1000; });
-        const auto before = f.door->state();
-        f.setNumbers({{"Delay", 9}, {"Width", 4}});
-        f.field<QComboBox>("Type")->setCurrentIndex(1);
-        f.cells()->setSelectedCell({3, 0});
-        f.tool(Flip)->trigger();
-        f.press(Control::AddFrame);
-        const auto after = f.door->state();
-
-        f.stack.undo();
-        QCOMPARE(f.label(), "3 of 3"); // the one shown has gone
-        f.stack.setIndex(0);
-        QVERIFY(f.door->state() == before);
-        QCOMPARE(f.numbers({"Width", "Delay"}), QList<int>({2, 2}));
-        QVERIFY(f.field<QComboBox>("Type")->currentIndex() == 0 && f.editor()->frameInterval() == 60);
-        QVERIFY(!f.tool(Flip)->isEnabled() && !f.tool(Flip)->isChecked()); // no cell is selected any more
-        f.stack.setIndex(5);
-        QVERIFY(f.door->state() == after);
     }
 
     void addsClonesAndDeletesAnimations()

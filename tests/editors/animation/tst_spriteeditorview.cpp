@@ -1,10 +1,8 @@
 #include "editors/animation/spriteeditorview.h"
 
 #include "editors/animation/spriteanimationeditorwidget.h"
-#include "editors/common/dragdata.h"
 
 #include "support/animationtab.h"
-#include "support/editorinput.h"
 #include "support/modeltools.h"
 #include "support/testmain.h"
 
@@ -53,17 +51,6 @@ private slots:
         QTRY_COMPARE(items->item(0)->icon().pixmap(32).toImage().pixelColor(1, 1), f.palette->colour(0));
         f.bank->deleteSprite(0); // sprite 1 is now sprite 0
         QCOMPARE(f.shownColour(), f.palette->colour(1));
-    }
-
-    void dropIsOneUndoStep()
-    {
-        Fixture f;
-        const std::unique_ptr<QMimeData> data(SpriteDrag{3}.toMimeData());
-        EditorInput::drop(*f.cells(), {3, 3}, {3, 3}, *data, Qt::NoModifier);
-        QCOMPARE(f.run->frame(0)->cell(0, 0).index, 3);
-        QCOMPARE(f.stack.count(), 1);
-        f.stack.undo();
-        QCOMPARE(f.run->frame(0)->cell(0, 0).index, 0);
     }
 
     void playsLoopsAndBackAndForth()

@@ -53,15 +53,6 @@ class TestPaletteEditor : public QObject
     Q_OBJECT
 
 private slots:
-    void levelsMapBackToThemselves()
-    {
-        constexpr std::array Components{0, 37, 73, 110, 146, 183, 219, 255};
-        for (int level = 0; level <= 7; ++level) {
-            QCOMPARE(Channel::componentOf(level), Components[size_t(level)]);
-            QCOMPARE(Channel::levelOf(Components[size_t(level)]), level);
-        }
-    }
-
     void draggingSelectsARunAndEnablesTools()
     {
         Fixture f;
@@ -185,34 +176,31 @@ private slots:
 
     void chosenColoursAreSeenOnEveryColour()
     {
-        for (const QColor colour : {Qt::black, Qt::white, Qt::gray}) {
-            for (const int count : {16, 256}) {
-                Palette palette;
-                palette.fill(colour, false);
-                palette.setRawColour(5, 0xE000); // red
-                ColourPalette chooser;
-                chooser.setPalette(&palette);
-                chooser.setRange(0, count);
-                chooser.resize(300, chooser.heightForWidth(300));
-                chooser.show();
-                const auto before = chooser.grab().toImage();
-                SignalLog log;
-                log.listen(chooser, &ColourPalette::primaryIndexChanged, "fore");
-                log.listen(chooser, &ColourPalette::secondaryIndexChanged, "back");
-                const int cell = count == 16 ? 24 : 14;
-                const QPoint third(42 + 2 * cell + cell / 2, 2 + cell / 2);
-                QTest::mouseClick(&chooser, Qt::RightButton, Qt::NoModifier, third);
-                QTest::mouseClick(&chooser, Qt::LeftButton, Qt::NoModifier, third + QPoint(3 * cell, 0));
-                QTest::mouseClick(&chooser, Qt::LeftButton, Qt::NoModifier, QPoint(20, 20)); // a swatch
-                QCOMPARE(log.take(), (QStringList{"back 2", "fore 5"}));
-                const auto after = chooser.grab().toImage();
-                QCOMPARE(after.pixelColor(5, 5), QColor(Qt::red)); // the foreground's swatch
-                QSet<QRgb> mark;
-                for (int x = third.x() - cell / 2; x < third.x() + cell / 2; ++x)
-                    mark += after.pixel(x, third.y() - cell / 2);
-                QVERIFY(mark.contains(qRgb(0, 0, 0)) && mark.contains(qRgb(255, 255, 255)));
-                QCOMPARE(after.pixel(third), before.pixel(third)); // the colour itself is still to be seen
-            }
+        for (const auto &[colour, count, cell] : {std::tuple(Qt::black, 16, 24), {Qt::white, 256, 14}}) {
+            Palette palette;
+            palette.fill(colour, false);
+            palette.setRawColour(5, 0xE000); // red
+            ColourPalette chooser;
+            chooser.setPalette(&palette);
+            chooser.setRange(0, count);
+            chooser.resize(300, chooser.heightForWidth(300));
+            chooser.show();
+            const auto before = chooser.grab().toImage();
+            SignalLog log;
+            log.listen(chooser, &ColourPalette::primaryIndexChanged, "fore");
+            log.listen(chooser, &ColourPalette::secondaryIndexChanged, "back");
+            const QPoint third(42 + 2 * cell + cell / 2, 2 + cell / 2);
+            QTest::mouseClick(&chooser, Qt::RightButton, Qt::NoModifier, third);
+            QTest::mouseClick(&chooser, Qt::LeftButton, Qt::NoModifier, third + QPoint(3 * cell, 0));
+            QTest::mouseClick(&chooser, Qt::LeftButton, Qt::NoModifier, QPoint(20, 20)); // a swatch
+            QCOMPARE(log.take(), (QStringList{"back 2", "fore 5"}));
+            const auto after = chooser.grab().toImage();
+            QCOMPARE(after.pixelColor(5, 5), QColor(Qt::red)); // the foreground's swatch
+            QSet<QRgb> mark;
+            for (int x = third.x() - cell / 2; x < third.x() + cell / 2; ++x)
+                mark += after.pixel(x, third.y() - cell / 2);
+            QVERIFY(mark.contains(qRgb(0, 0, 0)) && mark.contains(qRgb(255, 255, 255)));
+            QCOMPARE(after.pixel(third), before.pixel(third)); // the colour itself is still to be seen
         }
     }
 
