@@ -166,6 +166,7 @@ QList<Form> blockAnimationForms()
              .kind = AssetKind::BlockSet,
              .title = tr("Animations of blocks"),
              .suffix = QStringLiteral("bin"),
+             .noun = QStringLiteral("animations"),
              .options = {},
              .size = size<MapObjects>,
              .write = write<MapObjects>}};
@@ -177,6 +178,7 @@ QList<Form> spriteAnimationForms()
              .kind = AssetKind::SpriteBank,
              .title = tr("Animations of sprites"),
              .suffix = QStringLiteral("bin"),
+             .noun = QStringLiteral("animations"),
              .options = {},
              .size = size<SpriteBank>,
              .write = write<SpriteBank>}};

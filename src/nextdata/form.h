@@ -43,6 +43,7 @@ struct Form
     AssetKind kind;
     QString title; ///< for people
     QString suffix; ///< of its binary files, without the dot
+    QString noun{}; ///< in labels, behind the asset's name; empty in the form that an asset itself is
     QList<Option> options; ///< its own, then those that all forms have
 
     Result<qint64> (*size)(const Source &source, const OptionValues &values); ///< of the bytes, without making them

@@ -140,12 +140,15 @@ QStringList suffixesOf(const Data &data, const QStringList &parts)
     return suffixes;
 }
 
-Result<QString> claimLabel(const Source &source, const OptionValues &values, const QStringList &suffixes, Names &names)
+Result<QString> claimLabel(const Form &form, const Source &source, const OptionValues &values,
+                           const QStringList &suffixes, Names &names)
 {
     const QString chosen = values.text("label");
     if (!chosen.isEmpty())
         return names.claimExactly(chosen, suffixes);
-    return names.claim(source.name(), wordOf(source.kind()), suffixes);
+    const bool isNamed = asWord(source.name()).endsWith(form.noun); // as a palette "Title palette" is
+    const QString name = isNamed ? source.name() : source.name() + u' ' + form.noun;
+    return names.claim(name, wordOf(source.kind()), suffixes);
 }
 
 /// The files as source text, named after the output's file.
@@ -236,7 +239,7 @@ Result<QList<OutputFile>> write(const Form &form, const Source &source, const Op
     const QList<Blocks> files = filesOf(data.blocks, fileSize(values));
     const QStringList parts = partsOf(files.size(), values);
     if (const auto dialect = dialectOf(values)) {
-        const Result<QString> label = claimLabel(source, values, suffixesOf(data, parts), names);
+        const Result<QString> label = claimLabel(form, source, values, suffixesOf(data, parts), names);
         if (!label)
             return label.failure();
         return asText(*dialect, {tr("%1: %2").arg(source.name(), form.title), *label, data.constants}, files, parts,

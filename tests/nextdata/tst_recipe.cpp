@@ -211,7 +211,7 @@ private slots:
         RecipeRun last(*m_project, recipe, path(), {});
         QVERIFY(last.run(2, RecipeRun::Mode::Look).state == State::Unchanged);
         QVERIFY(last.run(0, RecipeRun::Mode::Look).state == State::Unchanged);
-        QVERIFY(readFile(path("3.asm")).contains("main_data_2:"));
+        QVERIFY(readFile(path("3.asm")).contains("main_palette_2:"));
     }
 
     void impossibleOutputsAreTold()

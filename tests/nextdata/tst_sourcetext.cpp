@@ -223,6 +223,17 @@ private slots:
 
     void labels()
     {
+        // what is written of the two assets that are called "Level" tells their labels apart
+        Names taken;
+        const auto labelOf = [&taken](const QString &form, const Source &source) {
+            const auto files = written(form, source, {{"text", "c"}}, "a.c", &taken);
+            return QString::fromUtf8(files->first().bytes).section("char ", 1).section('[', 0, 0);
+        };
+        const Project &project = m_random.project;
+        QCOMPARE(labelOf("tiles-4bit", sourceOf(project, m_random.tiles)), "level");
+        QCOMPARE(labelOf("palette", sourceOf(project, project.palettes().first())), "level_palette");
+        QCOMPARE(labelOf("palette-8bit", sourceOf(project, project.palettes().first())), "level_palette_2");
+
         Names names;
         QStringList labels;
         for (const QString &name : awkwardNames())
