@@ -14,6 +14,7 @@
 #include "model/tilemap.h"
 #include "model/tileset.h"
 
+#include <QHash>
 #include <QImage>
 #include <QList>
 #include <QPainter>
@@ -21,6 +22,7 @@
 #include <QRect>
 #include <QUuid>
 
+#include <algorithm>
 #include <array>
 
 namespace {
@@ -365,15 +367,79 @@ void populate(Map &map, const MapObjects &blockSet, const SpriteBank &bank)
     }
 }
 
-void addTitle(Project &project, const QImage &picture)
+/// The frame of a status panel, as wide as the screen, of the wall at the bottom of the level.
+void addPanel(Project &project, TileSet *tileSet, const TileCutter &cutter)
+{
+    constexpr QSize Size(40, 4);
+    auto *map = named(new Map(QString(), &project), "map", "Panel");
+    map->setLayers(new TileMap(Size, &project), new TileMap(Size, &project));
+    map->setTileSet(tileSet);
+    const TileMap::TileData wall = cutter.levelCell({0, LevelSize.height() / Tile::Size - 1});
+    for (int y = 0; y < Size.height(); ++y) {
+        for (int x = 0; x < Size.width(); ++x) {
+            if (x == 0 || y == 0 || x + 1 == Size.width() || y + 1 == Size.height())
+                map->setTile({x, y}, wall);
+        }
+    }
+    project.addMap(map);
+}
+
+void addImage(Project &project, const QString &name, Quenmora::ImageMode mode, Palette *palette, const QImage &indices)
+{
+    auto *image = named(new Image(mode, &project), "image", name);
+    image->setPalette(palette);
+    image->setImage(indices);
+    project.addImage(image);
+}
+
+/// The title, and what a game shows before and besides it, each in the mode that fits it.
+void addTitles(Project &project, const QImage &picture)
 {
     NxImage snapped;
     snapped.setImage(picture);
-    const QPointer<Palette> palette = addPalette(project, "Title", snapped.colours());
-    auto *image = named(new Image(Quenmora::Layer2_320x256, &project), "image", "Title");
-    image->setPalette(palette);
-    image->setImage(snapped.remap(palette));
-    project.addImage(image);
+    Palette *palette = addPalette(project, "Title", snapped.colours());
+    const QImage title = snapped.remap(palette);
+    // the letters and the tower, without what the player is told
+    const QImage loading = title.copy({32, 0, 256, 192});
+    addImage(project, "Title", Quenmora::Layer2_320x256, palette, title);
+    addImage(project, "Loading Screen", Quenmora::Layer2_256x192, palette, loading);
+    addImage(project, "Small Title", Quenmora::LoRes_128x96, palette, loading.scaled(128, 96));
+}
+
+/// The colours that the picture has most of, as many as two pixels a byte leave.
+QList<QRgb> commonestColours(const NxImage &picture)
+{
+    constexpr qsizetype Count = 16;
+    QHash<QRgb, int> pixels;
+    const QImage image = picture.image();
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            ++pixels[image.pixel(x, y)];
+    }
+    QList<QRgb> colours = picture.colours();
+    std::stable_sort(colours.begin(), colours.end(), [&](QRgb a, QRgb b) { return pixels[a] > pixels[b]; });
+    return colours.first(qMin(Count, colours.size()));
+}
+
+/// The beginning of the level below a high sky, its pixels as narrow as the mode has them.
+void addEnding(Project &project, const QImage &level)
+{
+    constexpr QSize Size(640, 256);
+    QImage scene(Size.width() / 2, Size.height(), QImage::Format_RGB32);
+    scene.fill(level.pixel(0, 0));
+    QPainter(&scene).drawImage(0, scene.height() - level.height(), level);
+    const NxImage snapped(scene);
+    const QList<QRgb> colours = commonestColours(snapped);
+    Palette *palette = addPalette(project, "Ending", colours);
+    QList<int> indices;
+    for (const QRgb colour : snapped.colours()) {
+        const auto nearest = std::min_element(colours.cbegin(), colours.cend(), [colour](QRgb a, QRgb b) {
+            return NextColour::squaredDistance(a, colour) < NextColour::squaredDistance(b, colour);
+        });
+        indices.append(int(nearest - colours.cbegin()));
+    }
+    addImage(project, "Ending", Quenmora::Layer2_640x256, palette,
+             snapped.withIndices(indices, 0, palette->colourTable()).scaled(Size));
 }
 
 } // namespace
@@ -393,7 +459,9 @@ bool buildSample(Project &project, const QDir &folder, QString &error)
     const SpriteBank *bank = addSprites(project, pictures.sprites);
     Map *map = addMap(project, tileSet, cutter);
     populate(*map, *blockSet, *bank);
-    addTitle(project, pictures.title);
+    addPanel(project, tileSet, cutter);
+    addTitles(project, pictures.title);
+    addEnding(project, pictures.level);
     project.setScratchPalette(tileSet->palette());
     project.setOpenDocuments({bank->id().toString(), blockSet->id().toString(), map->id().toString()});
     return true;

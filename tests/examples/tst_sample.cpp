@@ -43,13 +43,15 @@ private slots:
     {
         QVERIFY(m_store.load(exampleFile("sample.quenmora")));
         const Project &project = *m_store.project();
-        QVERIFY(project.maps().size() == 1 && project.spriteBanks().size() == 1 && project.images().size() == 1);
+        QVERIFY(project.maps().size() == 2 && project.spriteBanks().size() == 1 && project.images().size() == 4);
         m_map = project.maps().first();
         m_bank = project.spriteBanks().first();
         QVERIFY(project.openDocuments().size() == 3 && project.openDocuments().last() == m_map->id().toString());
         const QImage title = project.images().first()->image();
         QCOMPARE(title.size(), project.screenSize());
         QCOMPARE(title.convertToFormat(QImage::Format_RGB32), picture("title.png"));
+        const QImage loading = project.images()[1]->image();
+        QCOMPARE(loading.convertToFormat(QImage::Format_RGB32), picture("title.png").copy(32, 0, 256, 192));
     }
 
     void theLevelLooksLikeItsPicture()

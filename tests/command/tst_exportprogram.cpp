@@ -1,0 +1,214 @@
+#include "exportprogram.h" // made by the build: where the program and the examples are
+#include "nextdata/form.h"
+#include "nextdata/recipe.h"
+#include "support/modeltools.h"
+#include "support/testmain.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QElapsedTimer>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTest>
+
+using namespace NextData;
+
+namespace {
+
+const QString Program = QStringLiteral(EXPORT_PROGRAM);
+const QString Examples = QStringLiteral(EXAMPLES_FOLDER);
+constexpr int Patience = 60'000; ///< milliseconds, on a machine that does much else
+
+/// How a program ended, and what it said on both channels.
+struct Ending
+{
+    int code = -1;
+    QByteArray text;
+};
+
+Ending run(const QString &program, const QStringList &words, const QString &folder = {}, bool isBare = false)
+{
+    QProcess process;
+    process.setProcessChannelMode(QProcess::MergedChannels);
+    process.setWorkingDirectory(folder);
+    QProcessEnvironment environment;
+    environment.insert("PATH", qEnvironmentVariable("PATH"));
+    if (isBare) // what is wrong would be noticed when a platform were needed
+        environment.insert("QT_QPA_PLATFORM", "none");
+    else
+        environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("LC_ALL", "C");
+    process.setProcessEnvironment(environment);
+    process.start(program, words);
+    const bool hasEnded = process.waitForFinished(Patience) && process.exitStatus() == QProcess::NormalExit;
+    return {hasEnded ? process.exitCode() : -1, process.readAll()};
+}
+
+} // namespace
+
+/// The program as a process, on the sample project.
+class TestExportProgram : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_folder = std::make_unique<TemporaryFolder>();
+        for (const QString &name : {QString("sample.quenmora"), QString("sample.quenmora-export.json")})
+            QVERIFY(QFile::copy(QDir(Examples).filePath(name), path(name)));
+    }
+
+    void needsNeitherWidgetsNorADisplay()
+    {
+        const QByteArray program = readFile(Program);
+        QVERIFY(program.contains("libQt6Core") && !program.contains("libQt6Widgets"));
+        QVERIFY(!program.contains("libQt6Svg") && !program.contains("libQt6Network"));
+
+        const Ending ending = run(Program, {"-q", path("sample.quenmora"), "--output", path("ü ö")}, "/", true);
+        QVERIFY2(ending.code == 0 && ending.text.isEmpty(), ending.text);
+        QVERIFY(QFile::exists(path("ü ö/game/gfx/hill.nxt")));
+        const Ending wrong = run(Program, {"--nonsense"}, "/", true);
+        QVERIFY(wrong.code == 2 && wrong.text.startsWith("quenmora-export: Unknown option"));
+        const Ending failed = run(Program, {"ä.quenmora"}, "/", true);
+        QVERIFY(failed.code == 1 && failed.text == "ä.quenmora: There is no such file\n");
+    }
+
+    void theSamplesRecipeUsesEveryForm()
+    {
+        Recipe recipe;
+        QVERIFY(recipe.load(path("sample.quenmora-export.json")).isEmpty());
+        QCOMPARE(recipe.text(), readFile(path("sample.quenmora-export.json")));
+        QSet<QString> unused;
+        for (const Form &form : forms())
+            unused.insert(form.id);
+        for (const RecipeOutput &output : recipe.outputs())
+            unused.remove(output.form);
+        QVERIFY2(unused.isEmpty(), qPrintable(QStringList(unused.values()).join(' ')));
+        const QByteArray count = QByteArray::number(recipe.outputs().size());
+        QCOMPARE(run(Program, {path("sample.quenmora")}).text.split('\n').last(2).first(), count + " new");
+        QCOMPARE(run(Program, {path("sample.quenmora")}).text, count + " unchanged\n");
+    }
+
+    /// Files are never seen half written, and stay whole when the process is killed at any moment.
+    void filesAreAlwaysWhole()
+    {
+        // the same large files as bytes and as source text
+        const QUuid title("378ea1a1-69a6-5c67-85f8-aaff42059689");
+        const QMap<QString, QString> sideOptions[] = {{{"text", "c"}}, {{"pad", "65536"}}};
+        QList<QMap<QString, QByteArray>> whole;
+        for (int side = 0; side < 2; ++side) {
+            QList<RecipeOutput> outputs;
+            for (int i = 0; i < 8; ++i)
+                outputs.append(
+                    {AssetKind::Image, title, "Title", "layer2-320", sideOptions[side], QString("out/%1.c").arg(i)});
+            Recipe recipe;
+            recipe.setOutputs(outputs);
+            QCOMPARE(recipe.save(path(QString::number(side))), QString());
+            QCOMPARE(run(Program, words(side)).code, 0);
+            whole.append(filesIn("out"));
+        }
+        QVERIFY(whole[0].size() == 16 && whole[1].size() == 16 && whole[0]["0.c"] != whole[1]["0.c"]);
+        int killed = 0;
+        for (int round = 0; round < 8; ++round) {
+            const int side = round % 2;
+            const QString watched = QString("%1.c").arg(round);
+            const qint64 sizes[] = {whole[0][watched].size(), whole[1][watched].size()};
+            QProcess process;
+            process.start(Program, words(side));
+            QElapsedTimer timer;
+            timer.start();
+            // it is killed as soon as one of the files has changed; another one in each round
+            while (process.state() != QProcess::NotRunning && timer.elapsed() < Patience) {
+                const qint64 size = QFileInfo(path("out/" + watched)).size();
+                QVERIFY2(size == sizes[0] || size == sizes[1], qPrintable(QString::number(size)));
+                if (size == sizes[side])
+                    break;
+                process.waitForFinished(0);
+            }
+            killed += process.state() != QProcess::NotRunning;
+            process.kill();
+            QVERIFY(process.state() == QProcess::NotRunning || process.waitForFinished(Patience));
+            const QMap<QString, QByteArray> left = filesIn("out");
+            for (auto file = left.cbegin(); file != left.cend(); ++file) {
+                const QString name = file.key();
+                QVERIFY2(name.startsWith('.') || *file == whole[0].value(name) || *file == whole[1].value(name),
+                         qPrintable(name));
+            }
+        }
+        QVERIFY2(killed > 0, "it was never killed while it worked");
+        QCOMPARE(run(Program, words(0)).code, 0);
+    }
+
+    void ninjaKnowsFromTheDepfile()
+    {
+        if (QStandardPaths::findExecutable("ninja").isEmpty())
+            QSKIP("there is no ninja");
+        QVERIFY(QFile::rename(path("sample.quenmora-export.json"), path("my recipe.json")));
+        QVERIFY(
+            writeFile(path("build.ninja"),
+                      "rule export\n command = '" + Program.toUtf8()
+                          + "' -q --output 'a b' --recipe 'my recipe.json' --depfile d sample.quenmora && touch $out\n"
+                            " depfile = d\n deps = gcc\nbuild stamp: export\n"));
+        QVERIFY2(run("ninja", {}, path()).code == 0, "the first run");
+        QVERIFY(run("ninja", {}, path()).text.contains("no work to do"));
+        QFile recipe(path("my recipe.json"));
+        QVERIFY(recipe.open(QIODevice::ReadWrite)
+                && recipe.setFileTime(QDateTime::currentDateTime().addSecs(60), QFile::FileModificationTime));
+        QVERIFY(!run("ninja", {}, path()).text.contains("no work to do"));
+    }
+
+    /// The loader in the examples is assembled from the sample's exports, again only when one of them changed.
+    void theExampleGameIsMade()
+    {
+        for (const char *tool : {"make", "z80-unknown-coff-as", "z80-unknown-coff-ld"}) {
+            if (QStandardPaths::findExecutable(tool).isEmpty())
+                QSKIP("there is no binutils-z80, or no make");
+        }
+        QVERIFY(QDir(path()).mkdir("game"));
+        for (const char *name : {"Makefile", "game.s"})
+            QVERIFY(QFile::copy(QDir(Examples).filePath(QString("game/") + name), path(QString("game/") + name)));
+        const QStringList make{"EXPORT=" + Program};
+        const Ending made = run("make", make, path("game"));
+        QVERIFY2(made.code == 0, made.text);
+
+        const QByteArray game = readFile(path("game/game.nex"));
+        QCOMPARE(game.size(), 512 + 2 * 16384);
+        QVERIFY(game.startsWith(QByteArray("NextV1.2\0\2", 10)));
+        QCOMPARE(game.mid(512, 108 * 32), readFile(path("game/gfx/hill.nxt")));
+        for (const char *part : {"level.pal", "cast.nxp", "cast.spr"})
+            QVERIFY2(game.indexOf(readFile(path(QString("game/gfx/") + part)), 512 + 16384) > 0, part);
+
+        const auto later = [this](const QString &name, int seconds) {
+            QFile file(path(name));
+            return file.open(QIODevice::ReadWrite)
+                && file.setFileTime(QDateTime::currentDateTime().addSecs(seconds), QFile::FileModificationTime);
+        };
+        QVERIFY(run("make", make, path("game")).text.contains("up to date"));
+        QVERIFY(later("sample.quenmora", 2));
+        const QByteArray again = run("make", make, path("game")).text;
+        QVERIFY2(again.contains("21 unchanged") && !again.contains("coff-as"), again);
+    }
+
+private:
+    [[nodiscard]] QString path() const { return (*m_folder)(); }
+    [[nodiscard]] QString path(const QString &name) const { return (*m_folder)(name); }
+
+    [[nodiscard]] QStringList words(int side) const
+    {
+        return {"-q", path("sample.quenmora"), "--recipe", path(QString::number(side))};
+    }
+
+    [[nodiscard]] QMap<QString, QByteArray> filesIn(const QString &folder) const
+    {
+        QMap<QString, QByteArray> files;
+        for (const QString &name : QDir(path(folder)).entryList(QDir::Files | QDir::Hidden))
+            files.insert(name, readFile(path(folder + u'/' + name)));
+        return files;
+    }
+
+    std::unique_ptr<TemporaryFolder> m_folder;
+};
+
+QUENMORA_TEST_MAIN(TestExportProgram)
+#include "tst_exportprogram.moc"
