@@ -182,7 +182,7 @@ void ProjectActions::importMap(const QString &filePath)
     if (!project)
         return;
     const auto [map, failure] =
-        isNextData(filePath) ? importNextData(*project, filePath) : importPicture(*project, filePath, m_dialogParent);
+        isNextData(filePath) ? importNextData(*project, filePath, m_dialogParent) : importPicture(*project, filePath, m_dialogParent);
     if (map)
         emit mapReady(map->id());
     if (!failure.isEmpty())
@@ -228,7 +228,7 @@ void ProjectActions::importSpriteData(const SpriteImport &import)
     Project *project = m_project();
     if (!project)
         return;
-    if (const SpriteBank *bank = ::importSpriteData(*project, import))
+    if (const SpriteBank *bank = ::importSpriteData(*project, import, m_dialogParent))
         emit spritesReady(bank->id());
     else
         reportIncompleteImport(tr("Could not import the sprite data"));

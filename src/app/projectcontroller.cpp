@@ -1,12 +1,14 @@
 #include "app/projectcontroller.h"
 
 #include "app/menus/filemenu.h"
+#include "model/map.h"
+#include "ui/busy.h"
 #include "ui/replacing.h"
 #include "ui/titlewidth.h"
 
 #include <QDir>
 #include <QFileDialog>
-#include <QGuiApplication>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QRegularExpression>
 #include <QScopedValueRollback>
@@ -16,7 +18,7 @@
 
 namespace {
 
-/// While it lives a widget is not repainted and the pointer tells to wait.
+/// While it lives a widget is not repainted.
 class Suspension
 {
 public:
@@ -24,13 +26,11 @@ public:
     {
         if (m_widget)
             m_widget->setUpdatesEnabled(false);
-        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     }
     Suspension(const Suspension &) = delete;
     Suspension &operator=(const Suspension &) = delete;
     ~Suspension()
     {
-        QGuiApplication::restoreOverrideCursor();
         if (m_widget)
             m_widget->setUpdatesEnabled(true);
     }
@@ -47,6 +47,20 @@ QString proposedFileName(const QString &projectName)
     QString name = projectName.left(MostLetters).trimmed();
     name.replace(forbidden, QStringLiteral("_"));
     return (name.isEmpty() ? QStringLiteral("project") : name) + QStringLiteral(".quenmora");
+}
+
+QString opening(const QString &filePath)
+{
+    return ProjectController::tr("Opening %1…").arg(QFileInfo(filePath).fileName());
+}
+
+/// How much there is to save: next to maps nothing counts.
+qint64 bytesOf(const Project &project)
+{
+    qint64 bytes = 0;
+    for (const auto &map : project.maps())
+        bytes += map->dataSize();
+    return bytes;
 }
 
 } // namespace
@@ -154,6 +168,7 @@ void ProjectController::openProject(QString filePath)
 
 void ProjectController::open(const QString &filePath)
 {
+    const Busy busy(m_parentWidget, opening(filePath));
     const Suspension suspension(m_parentWidget);
     const FileState file(filePath); // before it is read: what happens to it meanwhile is noticed then
     if (!load(filePath))
@@ -168,6 +183,7 @@ bool ProjectController::openCopy(const QString &copy, const QString &filePath)
 {
     if (!confirmClose())
         return false;
+    const Busy busy(m_parentWidget, opening(copy));
     const Suspension suspension(m_parentWidget);
     if (!load(copy))
         return false;
@@ -201,17 +217,18 @@ void ProjectController::save()
     if (!m_project || (!filePath().isEmpty() && !settleForeignChange()))
         return;
     emit aboutToSave();
-    if (write())
-        markSaved();
+    const QString file = filePath().isEmpty() ? m_chooseFile() : filePath();
+    if (!file.isEmpty()) {
+        const Busy busy(m_parentWidget, tr("Saving %1…").arg(m_project->name()), bytesOf(*m_project));
+        if (write(file))
+            markSaved();
+    }
     emit saveFinished();
 }
 
-bool ProjectController::write()
+bool ProjectController::write(const QString &file)
 {
     const bool named = !filePath().isEmpty();
-    const QString file = named ? filePath() : m_chooseFile();
-    if (file.isEmpty())
-        return false;
     const bool written = named ? m_store.save(m_backup()) : m_store.saveAs(file);
     if (written || file == m_file.fileName()) {
         const FileState left(file); // also what a failed save left behind is no foreign change

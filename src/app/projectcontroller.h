@@ -105,7 +105,7 @@ private:
     void reload();
     void addToRecentProjects(const QString &filePath);
     void markSaved();
-    [[nodiscard]] bool write();
+    [[nodiscard]] bool write(const QString &file);
     [[nodiscard]] UnsavedAnswer askAboutChanges(const QString &projectName);
     [[nodiscard]] QString runSaveDialog();
 

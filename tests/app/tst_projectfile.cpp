@@ -1,7 +1,9 @@
 #include "app/mainwindow.h"
 
 #include "app/menus/filemenu.h"
+#include "app/menus/mapmenu.h"
 #include "app/returnwatch.h"
+#include "editors/map/exportdialog.h"
 #include "support/filesizelimit.h"
 #include "support/modeltools.h"
 #include "support/sampleproject.h"
@@ -12,13 +14,43 @@
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QStatusBar>
 #include <QTest>
 #include <QTimer>
 
 #include <algorithm>
+#include <functional>
 #include <optional>
+#include <utility>
 
-// What becomes of a project's file outside of the editor: it is damaged, or another program changes it.
+// What becomes of a project's file outside of the editor: it is damaged, or another program changes it. And what is
+// said while files are read and written.
+
+namespace {
+
+/// Writes down what a status bar shows whenever it is painted, and whether the pointer tells to wait then.
+class PaintedMessages : public QObject
+{
+public:
+    explicit PaintedMessages(QStatusBar *statusBar) : m_statusBar(statusBar) { statusBar->installEventFilter(this); }
+    QStringList take() { return std::exchange(m_messages, {}); }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        const QCursor *pointer = QGuiApplication::overrideCursor();
+        if (event->type() == QEvent::Paint)
+            m_messages.append(m_statusBar->currentMessage()
+                              + (pointer && pointer->shape() == Qt::WaitCursor ? ", waiting" : ""));
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    QStatusBar *m_statusBar;
+    QStringList m_messages;
+};
+
+} // namespace
 
 class TestProjectFile : public QObject
 {
@@ -263,6 +295,69 @@ private slots:
         QVERIFY2(m_asked.size() == 1, "a stroke is going on");
         QTest::mouseRelease(m_window->windowHandle(), Qt::LeftButton, {}, {1, 1});
         QTRY_COMPARE(m_asked.size(), 2);
+    }
+
+    void saysAtOnceWhatItIsDoing_data()
+    {
+        QTest::addColumn<bool>("large");
+        QTest::newRow("a small map") << false;
+        QTest::newRow("a large map") << true;
+    }
+
+    void saysAtOnceWhatItIsDoing()
+    {
+        QFETCH(const bool, large);
+        const QString file = openMine();
+        const QPointer<Map> map = controller()->project()->maps().first();
+        if (large)
+            map->resize({1000, 1000}, {});
+        m_window->documentController()->setActiveMap(map->id());
+        QWidget *tab = m_window->views().tabs->currentWidget();
+        m_window->menus()->setFileChooser([this](const FileRequest &, QWidget *) { return (*m_folder)("level.map"); });
+        const QString picture = (*m_folder)("picture.png");
+        QVERIFY(SampleProject::gradient({64, 64}).save(picture));
+        const auto exportMap = [this] {
+            for (QAction *entry : m_window->menus()->mapMenu()->actions()) {
+                if (entry->text() == "&Export")
+                    entry->trigger();
+            }
+        };
+        const auto exportToFolder = [this, tab] {
+            QMetaObject::invokeMethod(tab, "toolPaletteClicked", Q_ARG(Quenmora::Ui::ToolButton, Quenmora::Ui::Save));
+            emit tab->findChild<QFileDialog *>()->fileSelected((*m_folder)());
+            tab->findChild<MapEditor::ExportDialog *>()->accept();
+        };
+        const auto importSprites = [this, picture] {
+            m_window->projectActions()->importSpritePicture({picture, "A", Quenmora::EightBit, {}});
+        };
+        struct Work
+        {
+            QString said;
+            bool whateverTheSize;
+            std::function<void()> work;
+            QString saidAfterwards; ///< how that begins
+        };
+        const Work works[]{
+            {"Saving Mine…", false, [this] { controller()->save(); }, "Saved Mine to "},
+            {"Exporting Level…", false, exportMap, "Exported Level to "},
+            {"Exporting Level…", false, exportToFolder, "Exported to "},
+            {"Importing picture.png…", true, [&] { m_window->projectActions()->importMap(picture); }, "New tile set"},
+            {"Importing game.quenmora…", true, [&] { m_window->projectActions()->importMap(file); }, "Mine ["},
+            {"Importing picture.png…", true, importSprites, "New"},
+            {"Opening game.quenmora…", true, [&] { controller()->openProject(file); }, "Project loaded"},
+        };
+        controller()->setUnsavedAnswerCallback([](const QString &) { return ProjectController::Discard; });
+        PaintedMessages painted(m_window->statusBar());
+        for (const auto &[said, whateverTheSize, work, saidAfterwards] : works) {
+            QCoreApplication::processEvents();
+            painted.take();
+            work();
+            QCOMPARE(painted.take().filter("…"),
+                     large || whateverTheSize ? QStringList{said + ", waiting"} : QStringList());
+            QVERIFY(!QGuiApplication::overrideCursor());
+            const QString now = m_window->statusBar()->currentMessage();
+            QVERIFY2(now.startsWith(saidAfterwards), qPrintable(now));
+        }
     }
 
     void proposesWhatLosesNothing()

@@ -3,9 +3,9 @@
 #include "app/dialogs/assetchooser.h"
 #include "app/dialogs/depthchooser.h"
 #include "app/dialogs/picturepreview.h"
-#include "app/imports/waitcursor.h"
 #include "model/picturefile.h"
 #include "model/spritebank.h"
+#include "ui/busy.h"
 
 #include <QFileInfo>
 #include <QFormLayout>
@@ -59,7 +59,7 @@ void ImportImageDialog::show(const Project &project, const QString &file)
     m_project = &project;
     m_file = file;
     {
-        const WaitCursor wait;
+        const Busy busy(parentWidget(), tr("Reading %1…").arg(QFileInfo(file).fileName()));
         auto [image, refusal] = PictureFile::read(file);
         m_refusal = refusal;
         m_picture.setTranslucent(std::move(image));

@@ -3,6 +3,7 @@
 #include "model/palette.h"
 #include "model/project.h"
 #include "model/tileset.h"
+#include "ui/busy.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -26,7 +27,7 @@ MapImport failed(const QString &failure)
 
 } // namespace
 
-MapImport importNextData(Project &project, const QString &filePath)
+MapImport importNextData(Project &project, const QString &filePath, QWidget *parent)
 {
     const QFileInfo chosen(filePath);
     const QString name = chosen.completeBaseName();
@@ -38,6 +39,7 @@ MapImport importNextData(Project &project, const QString &filePath)
             return failed(tr("Some of the required files are missing"));
     }
 
+    const Busy busy(parent, tr("Importing %1…").arg(chosen.fileName()), QFileInfo(file("nxm")).size());
     const QPointer<Palette> palette = project.createPalette(CreateAction::Blank, name);
     if (!palette->importData(file("nxp")))
         return failed(tr("Could not import the palette data"));

@@ -2,12 +2,12 @@
 
 #include "app/imports/paletteimport.h"
 #include "app/imports/slicingprogress.h"
-#include "app/imports/waitcursor.h"
 #include "model/imageslicer.h"
 #include "model/nximage.h"
 #include "model/picturefile.h"
 #include "model/project.h"
 #include "model/tileset.h"
+#include "ui/busy.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -75,7 +75,7 @@ QString lossOf(const ImageSlicer &slicer)
 MapImport importPicture(Project &project, const QString &filePath, QWidget *parent)
 {
     const QPointer<Project> guarded = &project; // events are handled while the picture is cut
-    const WaitCursor wait;
+    const Busy busy(parent, tr("Importing %1…").arg(QFileInfo(filePath).fileName()));
     const PictureFile picture = PictureFile::read(filePath);
     if (picture.image.isNull())
         return {nullptr, picture.failure()};

@@ -8,7 +8,7 @@ namespace {
 
 // milliseconds
 constexpr int UpdateInterval = 40; // every update repaints and handles events, which costs more than many cells
-constexpr int Patience = 250;
+constexpr int Patience = 500; // told at once where the beginning lets it expect more than this
 
 } // namespace
 
@@ -17,7 +17,7 @@ SlicingProgress::SlicingProgress(ImageSlicer &slicer, QWidget *parent)
                parent)
 {
     m_dialog.setCancelButton(nullptr);
-    m_dialog.setWindowModality(Qt::WindowModal);
+    m_dialog.setWindowModality(Qt::ApplicationModal);
     m_dialog.setMinimumDuration(Patience);
     m_dialog.setValue(0);
     m_sinceUpdate.start();

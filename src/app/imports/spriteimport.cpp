@@ -3,13 +3,14 @@
 #include "app/imports/paletteimport.h"
 #include "app/imports/slicingprogress.h"
 #include "app/imports/spritecolours.h"
-#include "app/imports/waitcursor.h"
 #include "model/imageslicer.h"
 #include "model/nximage.h"
 #include "model/picturefile.h"
 #include "model/project.h"
 #include "model/spritebank.h"
+#include "ui/busy.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 // What can fail is looked at first: creating an asset is announced, and cannot be taken back unseen.
@@ -20,6 +21,11 @@ namespace {
 bool fits(qint64 sprites)
 {
     return sprites > 0 && sprites < SpriteBank::MaxCount;
+}
+
+QString importing(const SpriteImport &import)
+{
+    return QCoreApplication::translate("SpriteImport", "Importing %1…").arg(QFileInfo(import.file).fileName());
 }
 
 SpriteBank *importSliced(Project &project, const SpriteImport &import, const NxImage &picture, QWidget *parent)
@@ -41,7 +47,7 @@ SpriteBank *importSliced(Project &project, const SpriteImport &import, const NxI
 
 SpriteBank *importSpritePicture(Project &project, const SpriteImport &import, QWidget *parent)
 {
-    const WaitCursor wait;
+    const Busy busy(parent, importing(import));
     NxImage picture;
     picture.setTranslucent(PictureFile::read(import.file).image);
     if (import.paletteId.isNull())
@@ -56,12 +62,12 @@ SpriteBank *importSpritePicture(Project &project, const SpriteImport &import, QW
     return bank->appendPieces(colours.pixels(picture)) > 1 ? bank : nullptr;
 }
 
-SpriteBank *importSpriteData(Project &project, const SpriteImport &import)
+SpriteBank *importSpriteData(Project &project, const SpriteImport &import, QWidget *parent)
 {
     const QFileInfo file(import.file);
     if (!file.isReadable() || !fits(file.size() / SpriteBank::SpriteBytes))
         return nullptr;
-    const WaitCursor wait;
+    const Busy busy(parent, importing(import), file.size());
     const QUuid palette = import.paletteId.isNull()
         ? project.createPalette(CreateAction::DefaultNext, import.name)->id()
         : import.paletteId;

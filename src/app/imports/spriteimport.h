@@ -28,4 +28,4 @@ struct SpriteImport
 
 /// Makes a bank of raw sprite data; a new palette is the standard one. Null, and the project is as it was,
 /// when the file cannot be used.
-[[nodiscard]] SpriteBank *importSpriteData(Project &project, const SpriteImport &import);
+[[nodiscard]] SpriteBank *importSpriteData(Project &project, const SpriteImport &import, QWidget *parent);

@@ -1,6 +1,7 @@
 #include "app/menus/mapmenu.h"
 
 #include "app/dialogs/mapdialog.h"
+#include "ui/busy.h"
 
 MapMenu::MapMenu(QWidget *parent) : ProjectMenu(tr("&Map"), parent)
 {
@@ -62,6 +63,8 @@ void MapMenu::showExportDialog()
         return;
     const QString file =
         fileToSave(tr("Export Map Data"), m_map->name(), {tr("Map Data (*.map)")}, QStringLiteral(".map"));
-    if (!file.isEmpty() && m_map)
-        reportExport(m_map->exportData(file), m_map->name(), file);
+    if (file.isEmpty() || !m_map)
+        return;
+    const Busy busy(dialogParent(), tr("Exporting %1…").arg(m_map->name()), m_map->dataSize());
+    reportExport(m_map->exportData(file), m_map->name(), file);
 }

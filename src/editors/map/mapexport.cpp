@@ -4,6 +4,7 @@
 #include "model/palette.h"
 #include "model/tileset.h"
 #include "ui/assettitle.h"
+#include "ui/busy.h"
 
 #include <QFileDialog>
 
@@ -45,6 +46,7 @@ void MapExport::accepted()
 {
     if (!m_map)
         return;
+    const Busy busy(m_window, tr("Exporting %1…").arg(m_map->name()), m_map->dataSize());
     const QPointer<TileSet> tiles = m_map->tileSet();
     if (m_dialog->exportMap())
         emit exportTileMap(m_folder, m_map->id());
