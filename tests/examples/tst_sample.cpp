@@ -9,6 +9,7 @@
 #include "store/projectdocument.h"
 #include "store/projectstore.h"
 #include "store/zipfile.h"
+#include "support/formreaders.h"
 #include "support/testmain.h"
 
 #include <QPainter>
@@ -119,6 +120,8 @@ private slots:
                 QCOMPARE(stored, member.value());
         }
     }
+
+    void everyFormIsReadAgain() { FormReaders(*m_store.project(), 1).readAll(); }
 
     void unusablePicturesAreRefused()
     {

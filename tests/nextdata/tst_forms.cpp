@@ -1,4 +1,5 @@
 #include "support/formoutput.h"
+#include "support/formreaders.h"
 #include "support/randomproject.h"
 #include "support/testmain.h"
 
@@ -8,329 +9,274 @@ using namespace NextData;
 
 namespace {
 
-/// Takes little-endian numbers out of bytes, one after the other.
-class Bytes
+/// A picture of these hexadecimal digits, zeros behind them.
+QImage picture(QSize size, const QByteArray &digits)
 {
-public:
-    Bytes(const QByteArray &bytes, qsizetype at = 0) : m_bytes(bytes), m_at(at) { }
-
-    int byte() { return uchar(m_bytes.at(m_at++)); }
-    int word()
-    {
-        const int low = byte();
-        return low + 256 * byte();
-    }
-    int signedWord()
-    {
-        const int value = word();
-        return value < 0x8000 ? value : value - 0x10000;
-    }
-    QString text(qsizetype at) const { return QString::fromUtf8(m_bytes.constData() + at); }
-    bool atEnd() const { return m_at == m_bytes.size(); }
-
-private:
-    QByteArray m_bytes;
-    qsizetype m_at;
-};
-
-/// A cell of two bytes.
-TileMap::TileData cellOf(int index, int attributes)
-{
-    return {index + (attributes & 1) * 256, bool(attributes & 2), bool(attributes & 4),
-            bool(attributes & 8),           attributes / 16,      true};
-}
-
-/// Whether the pixels are the nibbles of the bytes, the high one first.
-bool isPacked(const QByteArray &bytes, const QByteArray &pixels)
-{
-    QByteArray nibbles;
-    for (const char byte : bytes)
-        nibbles.append(char(uchar(byte) / 16)).append(char(uchar(byte) % 16));
-    QByteArray low;
-    for (const char pixel : pixels)
-        low.append(char(uchar(pixel) % 16));
-    return nibbles == low;
+    return pictureOf(size, QImage::Format_Indexed8, [&digits](int i) { return digits.mid(i, 1).toUInt(nullptr, 16); });
 }
 
 } // namespace
 
-/// What is written is read again, by readers that know the layouts alone.
+/// The forms of random projects, the worked examples of docs/file-formats.md, and what no form takes.
 class TestForms : public QObject
 {
     Q_OBJECT
 
-    std::unique_ptr<RandomProject> m_random;
-    QSet<QString> m_read; ///< ids of the forms whose bytes were looked at
+    Project m_project;
+    QPointer<Palette> m_palette = m_project.createPalette(CreateAction::Blank, "Sunset");
+    QPointer<TileSet> m_tiles = m_project.createTileSet("Rocks", m_palette->id(), 3);
+    QPointer<Map> m_cave = m_project.createMap("Cave", m_tiles->id(), {2, 2});
+    QPointer<Map> m_hall = m_project.createMap("Hall", m_tiles->id(), {3, 2});
+    QPointer<MapObjects> m_blocks = m_project.createBlockList("Blocks", m_tiles->id());
+    QPointer<MapObjects> m_platform = m_project.createBlockList("Platform", m_tiles->id());
+    QPointer<SpriteBank> m_bank = m_project.createSpriteBank(Quenmora::FourBit, "Hero", m_palette->id());
 
-    Project &project() { return m_random->project; }
-
-    /// The bytes of an output, whose size is told without making them.
-    template <typename Asset>
-    QByteArray bytesOf(const QString &id, const QPointer<Asset> &asset, const Options &options = {})
+    /// The asset of a name.
+    Source asset(const QString &name) const
     {
-        m_read.insert(id);
-        const Form &form = *findForm(id);
-        const Source source = sourceOf(project(), asset);
-        const QByteArray bytes = writtenBytes(id, source, options);
-        if (*sizeOf(form, source, *OptionValues::parse(form.options, options)) != bytes.size())
-            qFatal("another size was told of %s: %s", qPrintable(id), bytes.constData());
-        return bytes;
+        for (const Source &source : Source::all(m_project)) {
+            if (source.name() == name)
+                return source;
+        }
+        qFatal("there is no %s", qPrintable(name));
+    }
+
+    static void setCell(Animation &animation, int frame, int column, const AnimationFrame::Cell &cell)
+    {
+        AnimationFrame::Cells cells = animation.frame(frame)->cells();
+        cells[0][column] = cell;
+        animation.frame(frame)->setCells(cells);
     }
 
 private slots:
-    void random_data()
+    void initTestCase()
+    {
+        m_palette->setRawColour(0, 0xE381);
+        m_palette->setRawColour(1, 0x5600);
+        m_palette->setRawColour(2, 0xEC01);
+        m_palette->setTransparencyIndex(2);
+
+        m_tiles->setTileImage(0,
+                              picture({8, 8},
+                                      "0001100000122100012332101234532"
+                                      "1F00000000F000000777777770000000A"));
+        m_tiles->setTileOffset(0, 2);
+        m_tiles->tile(1)->setValue(5);
+        m_tiles->tile(2)->setValue(-1);
+        m_tiles->tile(1)->setAttributes(0x0F);
+        m_tiles->tile(2)->setAttributes(0x41);
+
+        m_cave->setTile({0, 0}, {257, false, false, true, 3, true});
+        m_cave->setTile({1, 0}, {5, true, false, false, 0, true});
+        m_cave->setTile({0, 1}, {2, false, true, false, 15, true});
+        m_cave->setTile({1, 1}, {511, true, true, true, 10, true});
+        for (int i = 0; i < 6; ++i)
+            m_hall->setTile({i % 3, i / 3}, {i + 1, false, false, false, 0, true});
+
+        m_bank->setWholeImage(picture({16, 64}, "0123456789ABCDEF"));
+        const auto run = m_bank->newAnimation();
+        run->setName("Run");
+        run->setSize({2, 1});
+        run->setDelay(4);
+        run->addFrame();
+        setCell(*run, 0, 1, {1});
+        setCell(*run, 1, 0, {2});
+        setCell(*run, 1, 1, {2, 0, false, true});
+
+        const auto lift = m_platform->createBoundTileAnimation("Lift");
+        lift->setMapObjectType(MapObjectType::HorizontalPlatform);
+        lift->setSize({3, 1});
+        lift->addFrame();
+        setCell(*lift, 0, 0, {257});
+        setCell(*lift, 0, 1, {5, 3});
+        setCell(*lift, 0, 2, {5, 3, false, true});
+
+        const QUuid still = m_blocks->createBoundTileAnimation("Still")->id();
+        const QUuid moving = m_blocks->createBoundTileAnimation("Moving")->id();
+        m_blocks->animation(moving)->setMapObjectType(MapObjectType::HorizontalPlatform);
+        m_cave->animatedBlocks()->append(new AnimationProperties({moving, {31, 6, 3, 1}, 0, 10, 0}));
+        Q_UNUSED(still)
+
+        const auto bats = m_project.createSpriteBank(Quenmora::FourBit, "Bats", m_palette->id());
+        bats->newAnimation();
+        const QUuid flight = bats->newAnimation()->id();
+        m_cave->addSprite({m_bank->id(), {}, 3, 40, -8, true, false, false, 0, 0, 0, 2, {}});
+        m_cave->addSprite({bats->id(), flight, 0, 300, 100, false, false, false, 1, 50, 100, 0, "Bat"});
+
+        for (const auto mode :
+             {Quenmora::Layer2_256x192, Quenmora::Layer2_320x256, Quenmora::Layer2_640x256, Quenmora::LoRes_128x96}) {
+            const QSize size = Image::sizeOf(mode);
+            m_project.createImage(mode, QString::number(size.width()), m_palette->id())
+                ->setImage(picture(size, QByteArray("12").leftJustified(size.width(), '0') + '3'));
+        }
+    }
+
+    void readsTheSame_data()
     {
         QTest::addColumn<quint32>("seed");
         for (quint32 seed = 1; seed <= 20; ++seed)
             QTest::addRow("seed %u", seed) << seed;
     }
 
-    void random()
+    void readsTheSame()
     {
         QFETCH(quint32, seed);
-        m_random = std::make_unique<RandomProject>(seed);
-        readPalettes();
-        readTiles();
-        readMaps();
-        readPlacedSprites();
-        readPlacedBlocks();
-        for (const auto &blocks : project().blockSets())
-            readAnimations(bytesOf("block-animations", blocks), blocks->animations());
-        for (const auto &bank : project().spriteBanks()) {
-            readAnimations(bytesOf("sprite-animations", bank), bank->animations());
-            readSprites(bank);
-        }
-        readImages();
-        for (const Form &form : forms())
-            QVERIFY2(m_read.contains(form.id), qPrintable(form.id + " was not looked at"));
+        FormReaders(RandomProject(seed).project, seed).readAll();
     }
 
-private:
-    void readPalettes()
+    void example_data()
     {
-        const QPointer<Palette> palette = project().palettes().first();
-        const int group = m_random->number(16);
-        const QByteArray words = bytesOf("palette", palette);
-        const QByteArray colours = bytesOf("palette-8bit", palette);
-        for (int i = 0; i < 256; ++i) {
-            Bytes word(words, 2 * i);
-            const int rrrgggbb = word.byte();
-            QCOMPARE(rrrgggbb * 256 + word.byte(), palette->rawColour(i));
-            QCOMPARE(uchar(colours.at(i)), rrrgggbb);
-        }
-        QCOMPARE(bytesOf("palette-group", palette, {{"group", QString::number(group)}}), words.mid(group * 32, 32));
-        const int index = palette->transparencyIndex();
-        const int colour = index < 0 ? 0xE3 : palette->rawColour(index) / 256;
-        QCOMPARE(bytesOf("palette-513", palette), words + char(colour));
-        QCOMPARE(bytesOf("palette-513", palette, {{"transparency", "index"}}), words + char(index < 0 ? 0xE3 : index));
-    }
-
-    void readTiles()
-    {
-        const QPointer<TileSet> tiles = m_random->tiles;
-        const int first = m_random->number(tiles->count());
-        const int count = 1 + m_random->number(tiles->count() - first);
-        const int ink = m_random->number(16);
-        const Options range{{"first", QString::number(first)}, {"count", QString::number(count)}};
-        const auto with = [&range](const QString &option, const QString &value) {
-            Options options = range;
-            options.insert(option, value);
-            return options;
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<Options>("options");
+        QTest::addColumn<int>("offset");
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<int>("size"); // of the whole
+        const auto add = [](const char *form, const char *name, const Options &options, const char *bytes, int size,
+                            int offset = 0) {
+            QTest::addRow("%s at %d of %s, %d options", form, offset, name, int(options.size()))
+                << name << options << offset << QByteArray::fromHex(bytes) << size;
         };
-        QCOMPARE(bytesOf("tiles-4bit", tiles).size(), tiles->count() * 32);
-        const QByteArray packed = bytesOf("tiles-4bit", tiles, range);
-        const QByteArray rows = bytesOf("tiles-8bit", tiles, range);
-        const QByteArray columns = bytesOf("tiles-8bit", tiles, with("order", "columns"));
-        const QByteArray bits = bytesOf("tiles-1bit", tiles, with("ink", QString::number(ink)));
-        const QByteArray attributes = bytesOf("tile-attributes", tiles, range);
-        const QByteArray values = bytesOf("tile-values", tiles, range);
-        const QByteArray words = bytesOf("tile-values", tiles, with("width", "word"));
-        QCOMPARE(packed.size(), count * 32);
-        for (int i = 0; i < count; ++i) {
-            const Tile &tile = *tiles->tile(first + i);
-            const QByteArray pixels = indices(tile.image());
-            QVERIFY(isPacked(packed.mid(i * 32, 32), pixels));
-            for (int y = 0; y < 8; ++y) {
-                for (int x = 0; x < 8; ++x) {
-                    const int pixel = uchar(pixels[y * 8 + x]) % 16;
-                    QCOMPARE(uchar(rows[i * 64 + y * 8 + x]), tile.offset() * 16 + pixel);
-                    QCOMPARE(uchar(columns[i * 64 + x * 8 + y]), tile.offset() * 16 + pixel);
-                    QCOMPARE(bool(bits[i * 8 + y] & 0x80 >> x), pixel == ink);
-                }
-            }
-            QCOMPARE(uchar(attributes[i]), tile.attributes());
-            QCOMPARE(uchar(values[i]), tile.value());
-            QCOMPARE(Bytes(words, i * 2).word(), tile.value());
-        }
+        add("palette", "Sunset", {}, "E3 81 56 00 EC 01 00 00", 512);
+        add("palette-513", "Sunset", {}, "EC", 513, 512);
+        add("palette-513", "Sunset", {{"transparency", "index"}}, "02", 513, 512);
+        add("palette-8bit", "Sunset", {}, "E3 56 EC 00", 256);
+        add("palette-group", "Sunset", {{"group", "0"}}, "E3 81 56 00 EC 01 00 00", 32);
+        add("tiles-4bit", "Rocks", {}, "00 01 10 00 00 12 21 00 01 23 32 10 12 34 53 21 F0 00 00 00 0F 00 00 00 77",
+            96);
+        add("tiles-8bit", "Rocks", {{"count", "1"}}, "20 20 20 21 21 20 20 20", 64);
+        add("tiles-8bit", "Rocks", {{"order", "columns"}, {"count", "1"}}, "20 20 20 21 2F 20 27 20", 64);
+        add("tiles-1bit", "Rocks", {{"ink", "1"}}, "18 24 42 81 00 00 00 00 00", 24);
+        add("tile-attributes", "Rocks", {}, "00 0F 41", 3);
+        add("tile-values", "Rocks", {}, "00 05 FF", 3);
+        add("tile-values", "Rocks", {{"width", "word"}}, "00 00 05 00 FF FF", 6);
+        add("map-2byte", "Cave", {}, "01 39 05 02 02 F4 FF AF", 8);
+        add("map-2byte", "Cave", {{"order", "columns"}}, "01 39 02 F4 05 02 FF AF", 8);
+        add("map-2byte", "Cave", {{"screen-height", "1"}, {"pad", "5"}}, "01 39 05 02 02 F4 FF AF 00 00", 10);
+        add("map-1byte", "Hall", {}, "01 02 03 04 05 06", 6);
+        add("map-1byte", "Hall", {{"order", "columns"}}, "01 04 02 05 03 06", 6);
+        add("map-1byte", "Hall", {{"screen-width", "2"}, {"screen-height", "2"}}, "01 02 04 05 03 00 06 00", 8);
+        add("map-sprites", "Cave", {},
+            "02 00  28 00 F8 FF 00 28 03 00 00 00 00 00 00 00 00 00"
+            "2C 01 64 00 01 01 01 00 01 00 32 00 64 00 22 00  42 61 74 00",
+            38);
+        add("map-blocks", "Cave", {}, "01 00  1F 00 06 00 03 01 00 01 01 00 00 00 00 00 0A 00", 18);
+        add("block-animations", "Platform", {}, "01 00 04 00  03 01 01 01 00 00  01 01 05 30 05 38", 16);
+        add("sprite-animations", "Hero", {}, "01 00 04 00  02 01 02 00 04 00  00 00 01 00 02 00 02 08", 18);
+        add("sprites-8bit", "Hero", {}, "00 01 02 03 04 05 06 07 08 09 0A 0B 0C 0D 0E 0F 00", 1024);
+        add("sprites-packed", "Hero", {}, "01 23 45 67 89 AB CD EF 00", 512);
+        add("layer2-256", "256", {}, "01 02 00", 49152);
+        add("layer2-256", "256", {}, "03 00", 49152, 256);
+        add("layer2-256", "256", {{"palette", "true"}}, "00 01 02", 49664, 511);
+        add("layer2-320", "320", {}, "01 03 00", 81920);
+        add("layer2-320", "320", {}, "02 00", 81920, 256);
+        add("layer2-640", "640", {}, "12 30 00", 81920);
+        add("lores", "128", {}, "01 02 00", 12288);
+        add("lores", "128", {}, "03 00", 12288, 128);
     }
 
-    /// The positions of cells in the order of the bytes.
-    static QList<QPoint> order(QSize map, QSize screen, bool byColumns)
+    void example()
     {
-        QList<QPoint> positions;
-        const int inner = byColumns ? screen.height() : screen.width();
-        for (int top = 0; top < map.height(); top += screen.height()) {
-            for (int left = 0; left < map.width(); left += screen.width()) {
-                for (int i = 0; i < screen.width() * screen.height(); ++i)
-                    positions.append(byColumns ? QPoint(left + i / inner, top + i % inner)
-                                               : QPoint(left + i % inner, top + i / inner));
-            }
-        }
-        return positions;
+        QFETCH(QString, name);
+        QFETCH(Options, options);
+        QFETCH(int, offset);
+        QFETCH(QByteArray, bytes);
+        QFETCH(int, size);
+        const QString form = QString(QTest::currentDataTag()).section(' ', 0, 0);
+        const QByteArray all = writtenBytes(form, asset(name), options);
+        QCOMPARE(all.size(), size);
+        QCOMPARE(all.mid(offset, bytes.size()).toHex(' '), bytes.toHex(' '));
     }
 
-    void readMaps()
+    void refusal_data()
     {
-        const QPointer<Map> map = m_random->map;
-        const QPointer<Map> plain = project().createMap("Plain", m_random->tiles->id(), map->size());
-        const int offset = m_random->number(16);
-        for (const QPoint &at : order(map->size(), map->size(), false)) {
-            if (m_random->chance()) // others are never drawn
-                plain->setTile(at, {m_random->number(256), false, false, false, offset, true});
-        }
-        QCOMPARE(bytesOf("map-2byte", map), map->tileLayer()->toNextData()); // what the editor's own export writes
-        const QSize cut(1 + m_random->number(12), 1 + m_random->number(12));
-        for (const QSize screen : {QSize(0, 0), QSize(cut.width(), 0), cut}) {
-            const QSize size(screen.width() > 0 ? screen.width() : map->size().width(),
-                             screen.height() > 0 ? screen.height() : map->size().height());
-            for (const bool byColumns : {false, true}) {
-                const Options options{{"order", byColumns ? "columns" : "rows"},
-                                      {"screen-width", QString::number(screen.width())},
-                                      {"screen-height", QString::number(screen.height())}};
-                Bytes two(bytesOf("map-2byte", map, options));
-                Bytes one(bytesOf("map-1byte", plain, options));
-                for (const QPoint &at : order(map->size(), size, byColumns)) {
-                    const int index = two.byte();
-                    auto cell = cellOf(index, two.byte());
-                    cell.used = map->tileLayer()->cellAt(at).used;
-                    QCOMPARE(cell, map->tileLayer()->cellAt(at));
-                    QCOMPARE(one.byte(), plain->tileLayer()->cellAt(at).index);
-                }
-                QVERIFY(two.atEnd() && one.atEnd());
-            }
-        }
+        const auto mapWith = [this](const char *name, QPoint at, const TileMap::TileData &cell) {
+            const auto map = m_project.createMap(name, m_tiles->id(), {3, 2});
+            map->setTile({0, 0}, {1, false, false, false, 4, true});
+            map->setTile(at, cell);
+            return map;
+        };
+        mapWith("Mirrored", {2, 1}, {1, false, false, true, 4, true});
+        mapWith("Offsets", {1, 1}, {1, false, false, false, 5, true});
+        mapWith("Beyond", {1, 0}, {512, false, false, false, 4, true});
+        mapWith("Far", {1, 0}, {})->addSprite({m_bank->id(), {}, 0, 32768});
+        mapWith("No bank", {1, 0}, {})
+            ->addSprite({QUuid::createUuid(), {}, 0, 0, 0, false, false, false, 0, 0, 0, 0, "Cat"});
+        mapWith("No run", {1, 0}, {})->addSprite({m_bank->id(), QUuid::createUuid()});
+        mapWith("No block", {1, 0}, {})->animatedBlocks()->add({0, 0, 1, 1}, QUuid::createUuid());
+        const auto wide = m_project.createBlockList("Wide", m_tiles->id())->createBoundTileAnimation("Wall");
+        wide->setSize({256, 1});
+        const auto high = m_project.createBlockList("High", m_tiles->id())->createBoundTileAnimation("Tower");
+        high->setSize({1, 1});
+        high->addFrame();
+        setCell(*high, 0, 0, {512});
+        m_project.createSpriteBank(Quenmora::EightBit, "Deep", {})->setWholeImage(plainImage({16, 32}, 16));
+        m_project.createImage(Quenmora::Layer2_640x256, "Colourful", {})->setImage(picture({640, 256}, "01"));
+        m_project.createImage(Quenmora::LoRes_128x96, "Bare", {});
+        QImage mixed = plainImage({640, 256}, 17);
+        mixed.setPixel(5, 3, 32);
+        m_project.images().at(4)->setImage(mixed);
+        const auto valued = m_project.createTileSet("Valued", m_palette->id(), 2);
+        valued->tile(1)->setValue(256);
+        m_project.createTileSet("Tileless", m_palette->id(), 0);
+
+        QTest::addColumn<QString>("form");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<Options>("options");
+        QTest::addColumn<QString>("reason");
+        const auto add = [](const char *form, const char *name, const Options &options, const char *reason) {
+            QTest::addRow("%s", reason) << form << name << options << QString::fromUtf8(reason);
+        };
+        add("palette", "Cave", {}, "“Cave” is a map, and the form palette is for a palette");
+        add("layer2-256", "320", {}, "“320” has 320 × 256 pixels, and this form 256 × 192");
+        add("layer2-640", "Colourful", {{"palette", "true"}},
+            "“Colourful”: the pixel at 5, 3 has the index 32, and only those from 16 to 31 go with the first pixel");
+        add("lores", "Bare", {{"palette", "true"}}, "“Bare” has no palette that could stand in front");
+        add("tiles-4bit", "Rocks", {{"first", "3"}},
+            "Options first and count: there are 3, and 1 from number 3 on are not");
+        add("tiles-4bit", "Rocks", {{"first", "1"}, {"count", "3"}},
+            "Options first and count: there are 3, and 3 from number 1 on are not");
+        add("tiles-4bit", "Tileless", {}, "Options first and count: there are 0, and 1 from number 0 on are not");
+        add("tile-values", "Valued", {}, "“Valued”: tile 1 (counted from 0) has the value 256, and -128 to 255 fit");
+        add("map-1byte", "Cave", {},
+            "“Cave”: the cell in column 0, row 0 (counted from 0) shows tile 257, and 255 is the last one that fits");
+        add("map-1byte", "Mirrored", {},
+            "“Mirrored”: the cell in column 2, row 1 (counted from 0) is rotated or mirrored, which one byte does not "
+            "tell");
+        add("map-1byte", "Offsets", {},
+            "“Offsets”: the cell in column 1, row 1 (counted from 0) has the palette offset 5, others have 4, and one "
+            "byte does not tell them apart");
+        add("map-2byte", "Beyond", {},
+            "“Beyond”: the cell in column 1, row 0 (counted from 0) shows tile 512, and 511 is the last one that fits");
+        add("map-sprites", "Far", {}, "“Far”, placed sprite 0: x is 32768, and -32768 to 32767 fit");
+        add("map-sprites", "No bank", {}, "“No bank”, placed sprite 0 “Cat”: its sprite bank is not in the project");
+        add("map-sprites", "No run", {}, "“No run”, placed sprite 0: its animation is not in the project");
+        add("map-blocks", "No block", {}, "“No block”, placed animation 0: its animation is not in the project");
+        add("block-animations", "Wide", {}, "“Wide”, animation “Wall”: the width is 256, and 0 to 255 fit");
+        add("block-animations", "High", {},
+            "Animation “Tower”, frame 0, column 0, row 0 (counted from 0): it shows number 512, and 511 is the last "
+            "one that fits");
+        add("sprites-packed", "Deep", {},
+            "“Deep” is a bank of 8 bits: sprite 0 (counted from 0) has a pixel of index 16, and 4 bits hold 0 to 15");
+        add("map-2byte", "Cave", {{"order", "diagonals"}}, "Option order: “diagonals” is not one of rows, columns");
+        add("map-2byte", "Cave", {{"screen-width", " 4"}},
+            "Option screen-width: “ 4” is not a whole number from 0 to 9999");
+        add("map-2byte", "Cave", {{"pad", "65537"}}, "Option pad: “65537” is not a whole number from 0 to 65536");
+        add("lores", "128", {{"halves", "yes"}}, "Option halves: “yes” is not true or false");
+        add("lores", "128", {{"half", "true"}},
+            "There is no option “half”, only palette, halves, text, label, pad, cut");
+        add("lores", "128", {{"text", "c"}, {"label", "2nd"}},
+            "“2nd” cannot be a label: those are a letter, then letters, digits and _, 56 at most");
+        add("lores", "128", {{"text", "gas"}, {"label", "LD"}},
+            "“LD” cannot be a label: assemblers or C give it a meaning");
     }
 
-    void readPlacedSprites()
+    void refusal()
     {
-        const QPointer<Map> map = m_random->map;
-        const QByteArray bytes = bytesOf("map-sprites", map);
-        QCOMPARE(bytesOf("map-sprites", map, {{"names", "none"}}).size(), 2 + 16 * map->sprites().size());
-        Bytes in(bytes);
-        QCOMPARE(in.word(), map->sprites().size());
-        for (const Map::PlacedSprite &sprite : map->sprites()) {
-            Map::PlacedSprite read;
-            read.x = in.signedWord();
-            read.y = in.signedWord();
-            const auto bank = project().spriteBanks().at(in.byte());
-            read.bank = bank->id();
-            const int flags = in.byte();
-            read.paletteOffset = flags / 16;
-            read.mirror = flags & 8;
-            read.flip = flags & 4;
-            read.rotate = flags & 2;
-            const int number = in.word();
-            if (flags & 1)
-                read.animation = bank->animations().at(number)->id();
-            read.sprite = flags & 1 ? sprite.sprite : number; // which does not show
-            read.startFrame = in.word();
-            read.initialDelay = in.word();
-            read.repeatDelay = in.word();
-            const int name = in.word();
-            read.name = name > 0 ? in.text(name) : QString();
-            QCOMPARE(read, sprite);
-        }
-    }
-
-    void readPlacedBlocks()
-    {
-        Bytes in(bytesOf("map-blocks", m_random->map));
-        const AnimatedBlocks::State placements = m_random->map->animatedBlocks()->state();
-        QCOMPARE(in.word(), placements.size());
-        for (const AnimationProperties::State &placement : placements) {
-            AnimationProperties::State read;
-            const int column = in.signedWord();
-            const int row = in.signedWord();
-            const int width = in.byte();
-            read.area = {column, row, width, in.byte()};
-            const auto set = project().blockSets().at(in.byte());
-            const int kind = in.byte();
-            const auto animation = set->animations().at(in.word());
-            QCOMPARE(kind, int(animation->type()));
-            read.animationId = animation->id();
-            read.startFrame = in.word();
-            read.initialDelay = in.word();
-            read.repeatDelay = in.word();
-            QCOMPARE(read, placement);
-        }
-        QVERIFY(in.atEnd());
-    }
-
-    template <typename Animations>
-    static void readAnimations(const QByteArray &bytes, const Animations &animations)
-    {
-        Bytes places(bytes);
-        QCOMPARE(places.word(), animations.size());
-        for (const auto &animation : animations) {
-            Bytes in(bytes, places.word());
-            const int width = in.byte();
-            QCOMPARE(QSize(width, in.byte()), animation->size());
-            QCOMPARE(in.byte(), animation->frameCount());
-            const auto *blocks = qobject_cast<const TileAnimation *>(animation.data());
-            QCOMPARE(in.byte(), blocks ? int(blocks->type()) : 0);
-            QCOMPARE(in.word(), animation->delay());
-            for (int i = 0; i < animation->frameCount() * animation->size().width() * animation->size().height(); ++i) {
-                const int place = i / animation->size().width();
-                const int index = in.byte();
-                const auto read = cellOf(index, in.byte());
-                const auto cell = animation->frame(place / animation->size().height())
-                                      ->cell(place % animation->size().height(), i % animation->size().width());
-                QCOMPARE(read, (TileMap::TileData{cell.index, cell.rotate, cell.flip, cell.mirror, cell.offset, true}));
-            }
-        }
-    }
-
-    void readSprites(const QPointer<SpriteBank> &bank)
-    {
-        const int first = m_random->number(bank->count());
-        const Options range{{"first", QString::number(first)}};
-        QByteArray pixels;
-        for (int i = first; i < bank->count(); ++i)
-            pixels += indices(bank->spriteImage(i, false, false, false));
-        QCOMPARE(bytesOf("sprites-8bit", bank, range), pixels);
-        if (bank->depth() == Quenmora::FourBit)
-            QVERIFY(isPacked(bytesOf("sprites-packed", bank, range), pixels));
-        else
-            QVERIFY(written("sprites-packed", sourceOf(project(), bank))
-                        .reason()
-                        .contains("sprite 0 (counted from 0) has a pixel of index"));
-    }
-
-    void readImages()
-    {
-        const QByteArray palette = bytesOf("palette", project().palettes().first());
-        const char *forms[] = {"layer2-256", "layer2-320", "layer2-640", "lores"};
-        for (const auto &image : project().images()) {
-            const QString id = forms[image->mode()];
-            const QImage picture = image->image();
-            const QByteArray bytes = bytesOf(id, image);
-            QCOMPARE(bytesOf(id, image, {{"palette", "true"}}), palette + bytes);
-            if (image->mode() == Quenmora::Layer2_640x256) {
-                for (int i = 0; i < bytes.size(); ++i) {
-                    const char pair[] = {char(picture.pixelIndex(i / 256 * 2, i % 256)),
-                                         char(picture.pixelIndex(i / 256 * 2 + 1, i % 256))};
-                    QVERIFY(isPacked(bytes.mid(i, 1), QByteArray(pair, 2)));
-                }
-            } else if (image->mode() == Quenmora::Layer2_320x256) {
-                for (int i = 0; i < bytes.size(); ++i)
-                    QCOMPARE(uchar(bytes[i]), picture.pixelIndex(i / 256, i % 256));
-            } else {
-                QCOMPARE(bytes, indices(picture));
-            }
-        }
-        const auto halves = written("lores", sourceOf(project(), project().images().last()), {{"halves", "true"}});
-        const QByteArray whole = bytesOf("lores", project().images().last());
-        QCOMPARE(*halves, (QList<OutputFile>{{"level_0.bin", whole.left(6144)}, {"level_1.bin", whole.mid(6144)}}));
+        QFETCH(QString, form);
+        QFETCH(QString, name);
+        QFETCH(Options, options);
+        QFETCH(QString, reason);
+        QCOMPARE(written(form, asset(name), options).reason(), reason);
     }
 };
 

@@ -29,6 +29,7 @@ public:
         for (const auto depth : {Quenmora::FourBit, Quenmora::EightBit})
             addSprites(depth, palette->id());
         addMap({1 + number(40), 1 + number(30)});
+        addPlainMap({1 + number(40), 1 + number(30)});
         for (const auto mode :
              {Quenmora::Layer2_256x192, Quenmora::Layer2_320x256, Quenmora::Layer2_640x256, Quenmora::LoRes_128x96})
             addImage(mode, palette->id());
@@ -109,6 +110,17 @@ private:
             const QRect area(number(0x10000) - 0x8000, number(0x10000) - 0x8000, number(256), number(256));
             map->animatedBlocks()->append(new AnimationProperties(
                 {blocks->animations().at(number(3))->id(), area, number(0x10000), number(0x10000), number(0x10000)}));
+        }
+    }
+
+    /// A map that fits into one byte a cell.
+    void addPlainMap(QSize size)
+    {
+        const auto plain = project.createMap("Plain", tiles->id(), size);
+        const int offset = number(16);
+        for (int i = 0; i < size.width() * size.height(); ++i) {
+            if (chance()) // others are never drawn
+                plain->setTile({i % size.width(), i / size.width()}, {number(256), false, false, false, offset, true});
         }
     }
 
