@@ -36,7 +36,7 @@ _quenmora_export() {
             --to --list --formats --describe --help --version" -- "$word")
     else
         compopt -o filenames
-        mapfile -t COMPREPLY < <(compgen -d -- "$word" && compgen -f -X '!*.quenmora' -- "$word")
+        mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -X '!*.quenmora' -- "$word")
     fi
 }
 complete -F _quenmora_export quenmora-export

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# check-package.sh PACKAGE [PICTURE]: installs a Debian package of the editor on a bare Debian 12, starts it without
-# a display and on a virtual one (saving a picture of that), and takes the package off again; nothing may be left of
-# it. Needs root and mmdebstrap, to which it passes MMDEBSTRAP_ARGUMENTS.
+# check-package.sh PACKAGE [PICTURE]: installs a Debian package of the editor on a bare Debian 12, exports the sample
+# project, starts the editor without a display and on a virtual one (saving a picture of that), and takes the package off
+# again; nothing may be left of it. Needs root and mmdebstrap, to which it passes MMDEBSTRAP_ARGUMENTS.
 set -euo pipefail
 package=$1
 picture=${2:-}
@@ -50,6 +50,30 @@ documents=$system/usr/share/doc/quenmora
 # shellcheck disable=SC2016 # dpkg's own variable
 version=$(inside dpkg-query --show --showformat '${Version}' quenmora)
 [[ $(zcat "$documents/changelog.gz") == "quenmora ($version) "* ]] || fail "The change log does not know $version"
+
+echo "==> Exporting the sample project"
+for page in quenmora quenmora-export; do
+    [[ -s $system/usr/share/man/man1/$page.1.gz ]] || fail "No manual page $page"
+done
+inside cp -r /usr/share/quenmora/examples /tmp/examples
+inside quenmora-export --quiet /tmp/examples/sample.quenmora
+again=$(inside quenmora-export /tmp/examples/sample.quenmora)
+[[ $again =~ ^[0-9]+\ unchanged$ ]] || fail "Exporting again wrote: $again"
+complete() { # the last word of a command line
+    # shellcheck disable=SC2016 # it is for the shell inside
+    inside bash -c 'source /usr/share/bash-completion/completions/quenmora-export
+        compopt() { :; }
+        COMP_WORDS=("$@") COMP_CWORD=$(($# - 1))
+        _quenmora_export
+        printf "%s\n" "${COMPREPLY[@]}"' bash "$@"
+}
+[[ $(complete quenmora-export --for) == $'--format\n--formats' ]] || fail "Options are not completed"
+[[ $(complete quenmora-export --format layer2-6) == layer2-640 ]] || fail "Forms are not completed"
+[[ $(complete quenmora-export /tmp/examples/sample.quenmora --asset Hill) == "Hill Tiles" ]] ||
+    fail "Assets are not completed"
+apt install make binutils-z80
+inside make --silent --directory=/tmp/examples/game
+[[ -s $system/tmp/examples/game/game.nex ]] || fail "The example game was not built"
 
 echo "==> Starting the program with nothing but what the package brought along"
 status=0

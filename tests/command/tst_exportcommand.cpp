@@ -111,7 +111,7 @@ private slots:
                "x: There is no option “group”, only text, label, pad, cut");
         single("Nobody", "palette", {"--to", "x"}, "game.quenmora: There is no asset “Nobody”");
         single("Main", "map-2byte", {"--to", "x"},
-               "game.quenmora: “Main” is a palette, and map-2byte is a form of a map");
+               "game.quenmora: “Main” is a palette, and the form map-2byte is for a map");
         single("Twin", "palette", {"--to", "x"},
                "game.quenmora: “Twin” is the name of several assets: use an id (ID, OTHER)");
         single("Main", "palette", {"--to", "./game.quenmora"}, "./game.quenmora: This is the project itself");
