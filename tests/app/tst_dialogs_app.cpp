@@ -122,6 +122,7 @@ private slots:
         QCOMPARE(accepted, QList<QVariantList>({{1, 256, false}, {1, 512, true}}));
         dialog.show(TileSet(512));
         field<QSpinBox>(dialog, 0)->setValue(20);
+        QCOMPARE(field<QSpinBox>(dialog, 0)->text(), "20 (index 19)");
         field<QSpinBox>(dialog, 1)->setValue(19);
         QCOMPARE(confirm(dialog), "The first tile comes after the last one");
         field<QSpinBox>(dialog, 1)->setValue(20);
@@ -145,6 +146,7 @@ private slots:
         const auto *preview = field<PicturePreview>(dialog); // as the tiles will look
         QCOMPARE(preview->picture().size(), QSize(4 * 8, 8)); // the tile set has 4 tiles
         field<QSpinBox>(dialog, 0)->setValue(2);
+        QCOMPARE(field<QSpinBox>(dialog, 0)->text(), "2 (index 1)");
         field<QSpinBox>(dialog, 1)->setValue(15);
         field<QComboBox>(dialog, 0)->setCurrentIndex(12);
         field<QComboBox>(dialog, 1)->setCurrentIndex(3);

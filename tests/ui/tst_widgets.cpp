@@ -13,6 +13,7 @@
 #include <QLabel>
 #include <QPainter>
 #include <QSignalSpy>
+#include <QSpinBox>
 #include <QTest>
 #include <QToolButton>
 
@@ -147,6 +148,8 @@ private slots:
         stepper.setRange(1, 3);
         for (const int button : {1, 1, 1, 0})
             buttons[button]->click();
+        stepper.showIndex();
+        QCOMPARE(stepper.findChild<QSpinBox *>()->text(), "2 (index 1)");
         stepper.setRange(1, 1);
         QCOMPARE(changed, (QList<QVariantList>{{2}, {3}, {2}, {1}}));
         QVERIFY(!buttons[0]->isEnabled() && !buttons[1]->isEnabled());

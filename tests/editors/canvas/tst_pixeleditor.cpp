@@ -7,6 +7,7 @@
 #include "editors/canvas/spritewindow.h"
 #include "editors/canvas/tilewindow.h"
 #include "editors/common/dragdata.h"
+#include "ui/numberstepper.h"
 #include "ui/toolpalette.h"
 
 #include "support/canvasmouse.h"
@@ -304,6 +305,8 @@ private slots:
         QCOMPARE(scene.shown(1), 0);
         scene.tiles->deleteTile(3);
         QCOMPARE(scene.window.tileIndex(), 6);
+        const auto *stepper = scene.window.findChild<NumberStepper *>();
+        QCOMPARE(stepper->findChild<QSpinBox *>()->text(), "7 (index 6)");
         const auto before = scene.tiles->snapshot();
         scene.stack.undo(); // of the tile, which has another number now
         QVERIFY(scene.tiles->snapshot() != before);
