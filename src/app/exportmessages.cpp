@@ -24,7 +24,12 @@ void ExportMessages::add(const QString &asset, const QString &filePath)
     if (m_written.isEmpty())
         QTimer::singleShot(0, this, [this] { m_written.clear(); });
     m_written.append({asset, filePath});
-    m_statusBar->showMessage(text(), MessageTime);
+    show(text());
+}
+
+void ExportMessages::show(const QString &message)
+{
+    m_statusBar->showMessage(message, MessageTime);
 }
 
 QString ExportMessages::text() const

@@ -18,6 +18,8 @@ public:
 public slots:
     /// An asset of that name was written to a file.
     void add(const QString &asset, const QString &filePath);
+    /// Shows what is known of an export otherwise.
+    void show(const QString &message);
 
 private:
     [[nodiscard]] QString text() const;

@@ -1,6 +1,7 @@
 #include "app/mainwindow.h"
 
 #include "app/exportmessages.h"
+#include "app/exportproject/projectexport.h"
 #include "app/menus/editmenu.h"
 #include "app/menus/filemenu.h"
 #include "app/menus/helpmenu.h"
@@ -60,6 +61,7 @@ MainWindow::MainWindow(QWidget *parent)
     , m_actions([this] { return m_projectController.project(); }, this)
     , m_layout(this, m_views, m_menuBar.viewMenu())
     , m_exportMessages(new ExportMessages(statusBar()))
+    , m_projectExport(new ProjectExport(&m_projectController, this))
 {
     PlainToolTips::enforce();
     m_mapToolBar.setEnabled(false);
@@ -132,6 +134,13 @@ void MainWindow::connectMenus()
                 messageDialog()->showMessage(text, title, reason);
             });
     connect(&m_menuBar, &MenuBar::exported, m_exportMessages, &ExportMessages::add);
+    connect(m_menuBar.fileMenu(), &FileMenu::exportProject, m_projectExport, &ProjectExport::exportProject);
+    connect(m_menuBar.fileMenu(), &FileMenu::exportAgain, m_projectExport, &ProjectExport::exportAgain);
+    connect(m_projectExport, &ProjectExport::exported, m_exportMessages, &ExportMessages::show);
+    connect(m_projectExport, &ProjectExport::failed, this,
+            [this](const QString &text, const QString &title, const QString &reason) {
+                messageDialog()->showMessage(text, title, reason);
+            });
     connect(&m_actions, &ProjectActions::failed, this,
             [this](const QString &text, const QString &title) { messageDialog()->showMessage(text, title); });
 

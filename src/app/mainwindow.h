@@ -30,6 +30,7 @@
 
 class ExportMessages;
 class MessageDialog;
+class ProjectExport;
 class StartPage;
 
 /// The program's one window: it owns all that lives as long as the program, and wires it together. It
@@ -57,6 +58,7 @@ public:
     [[nodiscard]] ProjectController *projectController() { return &m_projectController; }
     [[nodiscard]] DocumentController *documentController() { return &m_documents; }
     [[nodiscard]] ProjectActions *projectActions() { return &m_actions; }
+    [[nodiscard]] ProjectExport *projectExport() { return m_projectExport; }
     [[nodiscard]] const DocumentViews &views() const { return m_views; }
     [[nodiscard]] MenuBar *menus() { return &m_menuBar; }
     /// The dialog that shows errors, made when it is first needed.
@@ -130,4 +132,5 @@ private:
     ProjectActions m_actions;
     LayoutController m_layout;
     ExportMessages *m_exportMessages;
+    ProjectExport *m_projectExport;
 };

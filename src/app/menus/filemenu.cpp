@@ -16,6 +16,12 @@ FileMenu::FileMenu(QWidget *parent) : ProjectMenu(tr("&File"), parent)
     m_saveAs = addCommand(this, tr("Save &As"), &FileMenu::saveProjectAs, {}, QStringLiteral(":/tb-save-file-as"));
     m_close = addCommand(this, tr("&Close"), &FileMenu::closeProject, {}, QStringLiteral(":/tb-close-document"));
     addSeparator();
+    m_export = addCommand(this, tr("&Export Project…"), &FileMenu::exportProject, {}, QStringLiteral(":/Export"));
+    m_exportAgain =
+        addCommand(this, tr("Export A&gain"), &FileMenu::exportAgain, Qt::Key_F9, QStringLiteral(":/Update"));
+    m_export->setToolTip(tr("Shows what the game takes of this project, in which forms and files, and writes it"));
+    m_exportAgain->setToolTip(tr("Writes what has changed of the files for the game, without a dialog"));
+    addSeparator();
     addCommand(this, tr("&Preferences"), &FileMenu::displayPreferences)->setMenuRole(QAction::PreferencesRole);
     addSeparator();
     m_quit = addCommand(this, tr("&Quit"), &FileMenu::quit, {}, QStringLiteral(":/tb-exit-application"));
@@ -43,7 +49,7 @@ QToolBar *FileMenu::createToolBar(QWidget *parent) const
 
 void FileMenu::updateActions()
 {
-    for (QAction *action : {m_save, m_saveAs, m_close})
+    for (QAction *action : {m_save, m_saveAs, m_close, m_export, m_exportAgain})
         action->setEnabled(project());
 }
 

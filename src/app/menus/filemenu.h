@@ -51,6 +51,8 @@ signals:
     void saveProject();
     void saveProjectAs();
     void closeProject();
+    void exportProject();
+    void exportAgain();
     void displayPreferences();
     void quit();
     void recentFilesChanged();
@@ -70,6 +72,8 @@ private:
     QAction *m_save;
     QAction *m_saveAs;
     QAction *m_close;
+    QAction *m_export;
+    QAction *m_exportAgain;
     QAction *m_quit;
     QPointer<ProjectDialog> m_dialog;
 };

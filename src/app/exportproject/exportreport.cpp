@@ -1,0 +1,71 @@
+#include "app/exportproject/exportreport.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QLocale>
+
+using NextData::Recipe;
+using NextData::RecipeRun;
+
+namespace {
+
+constexpr int MostFailures = 8; // that a message box shows
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("ExportReport", text);
+}
+
+QString number(qint64 value)
+{
+    return QLocale().toString(value);
+}
+
+QString counted(qint64 count, const QString &one, const QString &many)
+{
+    return count == 1 ? one : many.arg(number(count));
+}
+
+} // namespace
+
+ExportReport::ExportReport(const Recipe &recipe, const QList<RecipeRun::Outcome> &outcomes, const QString &folder)
+    : m_folder(folder)
+    , m_stopped(outcomes.size() < recipe.outputs().size())
+{
+    for (qsizetype i = 0; i < outcomes.size(); ++i) {
+        const RecipeRun::Outcome &outcome = outcomes[i];
+        if (outcome.state == RecipeRun::State::Impossible)
+            m_failures.append(tr("%1: %2").arg(recipe.outputs().at(i).file, outcome.reason));
+        for (const RecipeRun::File &file : outcome.files) { // also of what failed half-way
+            if (file.state == RecipeRun::State::Unchanged) {
+                ++m_unchanged;
+            } else {
+                ++m_written;
+                m_bytes += file.bytes;
+            }
+        }
+    }
+}
+
+QString ExportReport::text() const
+{
+    QString text =
+        m_written > 0 ? counted(m_written, tr("Exported 1 file"), tr("Exported %1 files")) : tr("Exported nothing");
+    if (m_written > 0)
+        text += tr(" (%1)").arg(counted(m_bytes, tr("1 byte"), tr("%1 bytes")));
+    if (m_unchanged > 0)
+        text += tr(", %1 unchanged").arg(number(m_unchanged));
+    if (!m_failures.isEmpty())
+        text += tr(", %1 failed").arg(number(m_failures.size()));
+    text += (m_unchanged > 0 || !m_failures.isEmpty() ? tr(", to %1") : tr(" to %1"))
+                .arg(QDir::toNativeSeparators(m_folder));
+    return m_stopped ? tr("Stopped: %1").arg(text) : text;
+}
+
+QString ExportReport::failures() const
+{
+    QStringList shown = m_failures.first(std::min<qsizetype>(m_failures.size(), MostFailures));
+    if (const qsizetype more = m_failures.size() - shown.size(); more > 0)
+        shown.append(tr("… and %1 more").arg(number(more)));
+    return shown.join(u'\n');
+}

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "nextdata/recipe.h"
+
+#include <QObject>
+#include <QPointer>
+
+#include <functional>
+
+class ExportProjectDialog;
+class ExportReport;
+class ProjectController;
+
+/// Exports the open project as its recipe says, which lies beside the project's file: with a dialog that shows the
+/// recipe, or at once.
+class ProjectExport : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// dialogParent is the window over which dialogs and progress are shown.
+    ProjectExport(ProjectController *controller, QWidget *dialogParent);
+
+    using Problems = QList<NextData::Recipe::Problem>;
+    /// Whether a project that has no file is to be saved first; asked with a message box otherwise.
+    void setSaveCallback(const std::function<bool()> &mayBeSaved) { m_mayBeSaved = mayBeSaved; }
+    /// Whether to start anew in place of a recipe that cannot be read.
+    void setStartAnewCallback(const std::function<bool(const QString &path, const Problems &)> &startsAnew)
+    {
+        m_startsAnew = startsAnew;
+    }
+
+    [[nodiscard]] ExportProjectDialog *dialog();
+
+public slots:
+    /// Shows the recipe.
+    void exportProject();
+    /// Does the recipe; shows it where there is none.
+    void exportAgain();
+
+signals:
+    /// What was written, for the status bar.
+    void exported(const QString &message);
+    /// Something could not be done: a text for the user, its title, and why.
+    void failed(const QString &text, const QString &title, const QString &reason);
+
+private:
+    /// Whether the project has a file now.
+    [[nodiscard]] bool hasFile();
+    [[nodiscard]] bool askToSave() const;
+    [[nodiscard]] bool askToStartAnew(const QString &path, const Problems &problems) const;
+    /// Reads the recipe, where there is one; false when it is damaged and is to stay.
+    [[nodiscard]] bool load();
+    void showDialog();
+    [[nodiscard]] bool save(const NextData::Recipe &recipe);
+    void report(const ExportReport &report);
+
+    QPointer<ProjectController> m_controller;
+    QPointer<QWidget> m_dialogParent;
+    QPointer<ExportProjectDialog> m_dialog;
+    std::function<bool()> m_mayBeSaved;
+    std::function<bool(const QString &, const Problems &)> m_startsAnew;
+
+    NextData::Recipe m_recipe; ///< that was read
+    bool m_isDamaged = false; ///< the file, which is kept aside when another recipe takes its place
+};
