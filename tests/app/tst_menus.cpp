@@ -108,7 +108,8 @@ private slots:
         };
         using Keys = QKeySequence;
         const QStringList expected{
-            QString("New%1, Open%2, Recent>, Save%3, Save As%4, Close%5, -, Preferences, -, Quit")
+            QString("New%1, Open%2, Recent>, Save%3, Save As%4, Close%5, -, "
+                    "Export Project\u2026, Export Again [F9], -, Preferences, -, Quit")
                 .arg(key(Keys::New), key(Keys::Open), key(Keys::Save), key(Keys::SaveAs), key(Keys::Close)),
             QString("Cut%1, Copy%2, Paste%3, -, Select All%4, Clear Selection%5")
                 .arg(key(Keys::Cut), key(Keys::Copy), key(Keys::Paste), key(Keys::SelectAll), key(Keys::Deselect)),
@@ -159,7 +160,7 @@ private slots:
         const auto add = [](int menu, const char *withProject, const char *withAsset = "") {
             QTest::addRow("menu %d", menu) << menu << withProject << withAsset;
         };
-        add(0, "New, Open, Recent, Save, Save As, Close, Preferences, Quit");
+        add(0, "New, Open, Recent, Save, Save As, Close, Export Project\u2026, Export Again, Preferences, Quit");
         add(2, "New Palette, Import", ", Export");
         add(3, "New Tile Set",
             ", Create Animations, Swap Palette, Export, Export Attributes, Import, Next Tile, Previous Tile, "

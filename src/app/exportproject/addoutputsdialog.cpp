@@ -62,7 +62,9 @@ AddOutputsDialog::AddOutputsDialog(QWidget *parent)
         std::find_if(options.cbegin(), options.cend(), [](const Option &option) { return option.id == TextOption; });
     for (const Option::Choice &choice : text->choices)
         m_text->addItem(choice.title, choice.id);
+    m_text->setObjectName(TextOption);
     m_text->setToolTip(text->description);
+    m_folder->setObjectName(QStringLiteral("folder"));
     m_folder->setPlaceholderText(tr("The project's folder"));
     m_folder->setToolTip(tr("A folder below the project's, with / between folders"));
     form()->addRow(tr("&Source text"), m_text);

@@ -22,6 +22,7 @@
 #include <QLocale>
 #include <QPushButton>
 #include <QScreen>
+#include <QShowEvent>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QTableView>
@@ -31,13 +32,15 @@
 
 #include <algorithm>
 #include <functional>
+#include <utility>
 
 using namespace NextData;
 
 namespace {
 
 constexpr QSize UsualSize(920, 600);
-constexpr int ColumnWidths[RecipeTable::ColumnCount] = {150, 215, 215, 80, 80, 120}; // the last one stretches
+constexpr int NumberWidth = 80;
+constexpr int StateWidth = 150; ///< at least
 
 } // namespace
 
@@ -132,8 +135,6 @@ QWidget *ExportProjectDialog::buildTable()
     m_view->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
     m_view->horizontalHeader()->setHighlightSections(false);
     m_view->horizontalHeader()->setStretchLastSection(true);
-    for (int column = 0; column < RecipeTable::ColumnCount; ++column)
-        m_view->setColumnWidth(column, ColumnWidths[column]);
     connect(m_view, &QTableView::doubleClicked, this, &ExportProjectDialog::editOutput);
 
     m_pages->addWidget(m_view);
@@ -163,7 +164,6 @@ QWidget *ExportProjectDialog::buildFirstStep()
                                "From then on one key writes all that has changed."));
     text->setAlignment(Qt::AlignCenter);
     text->setWordWrap(true);
-    text->setMinimumWidth(440);
     m_firstStep = new QPushButton(themedIcon(QStringLiteral(":/Plus")), tr("&Add Assets…"));
     connect(m_firstStep, &QPushButton::clicked, this, &ExportProjectDialog::addOutputs);
 
@@ -172,7 +172,7 @@ QWidget *ExportProjectDialog::buildFirstStep()
     layout->setSpacing(16);
     layout->addStretch(1);
     layout->addWidget(picture, 0, Qt::AlignHCenter);
-    layout->addWidget(text, 0, Qt::AlignHCenter);
+    layout->addWidget(text);
     layout->addWidget(m_firstStep, 0, Qt::AlignHCenter);
     layout->addStretch(2);
     return page;
@@ -213,6 +213,21 @@ void ExportProjectDialog::done(int result)
     QDialog::done(result);
     m_table->close();
     m_project.clear();
+}
+
+void ExportProjectDialog::showEvent(QShowEvent *event)
+{
+    QDialog::showEvent(event);
+    if (event->spontaneous() || m_hasWidths)
+        return;
+    // what is said in words shares what the numbers and the state leave
+    m_hasWidths = true;
+    const int words = width() - 2 * NumberWidth - StateWidth - 2 * layout()->contentsMargins().left();
+    for (const auto &[column, share] :
+         {std::pair(RecipeTable::AssetColumn, 26), {RecipeTable::FormColumn, 37}, {RecipeTable::FileColumn, 37}})
+        m_view->setColumnWidth(column, words * share / 100);
+    for (const int column : {RecipeTable::SizeColumn, RecipeTable::BanksColumn})
+        m_view->setColumnWidth(column, NumberWidth);
 }
 
 bool ExportProjectDialog::event(QEvent *event)

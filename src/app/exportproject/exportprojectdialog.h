@@ -56,6 +56,7 @@ signals:
     void exported(const ExportReport &report);
 
 protected:
+    void showEvent(QShowEvent *event) override;
     bool event(QEvent *event) override;
 
 private:
@@ -76,6 +77,7 @@ private:
     QPointer<const Project> m_project;
     QString m_projectFile;
     bool m_isNew = false;
+    bool m_hasWidths = false; ///< the table's columns, which are the person's then
     RecipeTable *m_table;
     QTableView *m_view;
     QStackedWidget *m_pages; ///< the table, or what to begin with

@@ -38,6 +38,8 @@ OutputDialog::OutputDialog(QWidget *parent)
     asset->addWidget(m_asset, 1);
     m_form->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     m_form->setMinimumContentsLength(40);
+    m_form->setObjectName(QStringLiteral("form"));
+    m_file->setObjectName(QStringLiteral("file"));
     m_file->setToolTip(tr("Below the project's folder, with / between folders"));
     m_size->setTextFormat(Qt::PlainText);
     m_size->setForegroundRole(QPalette::PlaceholderText);

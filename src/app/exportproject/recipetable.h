@@ -56,6 +56,8 @@ public:
 
     /// Looks at all outputs again, for the project or the files may have changed.
     void lookAgain();
+    /// Whether there are outputs to be looked at yet, or again.
+    [[nodiscard]] bool isLooking() const { return m_idle.isActive(); }
     /// Nothing before it is looked at.
     [[nodiscard]] const std::optional<NextData::RecipeRun::Outcome> &outcome(int row) const;
     [[nodiscard]] Sum sum() const;

@@ -1,0 +1,440 @@
+// What a game takes of a project: the table of a recipe, the dialogs that fill it, and both ways to export in the real
+// window.
+
+#include "app/exportproject/addoutputsdialog.h"
+#include "app/exportproject/exportprojectdialog.h"
+#include "app/exportproject/exportreport.h"
+#include "app/exportproject/outputdialog.h"
+#include "app/exportproject/outputpreview.h"
+#include "app/exportproject/projectexport.h"
+#include "app/exportproject/recipetable.h"
+#include "app/mainwindow.h"
+#include "app/menus/filemenu.h"
+#include "nextdata/usual.h"
+#include "support/modeltools.h"
+#include "support/sampleproject.h"
+#include "support/testmain.h"
+#include "ui/messagedialog.h"
+
+#include <QAbstractItemModelTester>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QSpinBox>
+#include <QStatusBar>
+#include <QTableView>
+#include <QTest>
+#include <QTreeWidget>
+
+#include <optional>
+
+using namespace NextData;
+using State = RecipeRun::State;
+
+namespace {
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void write(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+}
+
+/// All assets of a project in their usual forms, as far as those can be.
+Recipe usualRecipe(const Project &project)
+{
+    TakenFiles taken;
+    QList<RecipeOutput> outputs;
+    for (const Source &source : Source::all(project)) {
+        for (const Form *form : usualForms(source)) {
+            const auto values = *OptionValues::parse(form->options, {});
+            outputs.append({source.kind(),
+                            source.id(),
+                            source.name(),
+                            form->id,
+                            {},
+                            taken.claim(usualFile(source.name(), *form, values))});
+        }
+    }
+    Recipe recipe;
+    recipe.setOutputs(outputs);
+    return recipe;
+}
+
+void lookAtAll(RecipeTable &table)
+{
+    while (table.isLooking())
+        QCoreApplication::processEvents();
+}
+
+QString cell(const RecipeTable &table, const QString &file, RecipeTable::Column column)
+{
+    return table.index(table.rowOf(file), column).data().toString();
+}
+
+/// The outputs that a dialog for adding some would add to a recipe, whatever it ticks by itself.
+QList<RecipeOutput> addedBy(AddOutputsDialog &dialog)
+{
+    QSignalSpy added(&dialog, &AddOutputsDialog::accepted);
+    auto *assets = dialog.findChild<QTreeWidget *>();
+    for (int i = 0; i < assets->topLevelItemCount(); ++i)
+        assets->topLevelItem(i)->setCheckState(0, Qt::Checked);
+    dialog.accept();
+    return added.value(0).value(0).value<QList<RecipeOutput>>();
+}
+
+} // namespace
+
+class TestExportProject : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { Update::UpdateChecker::setFeedAddress({}); }
+
+    void init()
+    {
+        m_folder = std::make_unique<TemporaryFolder>();
+        m_project = std::make_unique<Project>();
+    }
+
+    // The table
+
+    void rowsTellWhatExportingWouldDo_data()
+    {
+        QTest::addColumn<std::function<void()>>("change");
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QString>("state");
+        const auto add = [](const char *name, const char *file, const char *state, std::function<void()> change) {
+            QTest::newRow(name) << std::move(change) << file << state;
+        };
+        add("nothing", "Level.map", "Unchanged", [] {});
+        add("a cell", "Level.map", "Changed", [this] { m_project->maps().first()->setTile({1, 1}, {7}); });
+        add("a cell, and its tiles", "Tiles.nxt", "Unchanged", [this] {
+            m_project->maps().first()->setTile({1, 1}, {7});
+        });
+        add("a file is gone", "Tiles.nxt", "New", [this] { QVERIFY(QFile::remove(path("Tiles.nxt"))); });
+        add("a file is another's", "Main.pal", "Changed", [this] { write(path("Main.pal"), "x"); });
+        add("a folder in its place", "Main.pal", "Cannot be: “Main.pal” cannot be written: it is a folder",
+            [this] { QVERIFY(QFile::remove(path("Main.pal")) && QDir().mkdir(path("Main.pal"))); });
+        add("an asset is gone", "Level.map", "Cannot be: The project no longer has a map “Level” with the id",
+            [this] { m_project->deleteMap(m_project->maps().first()->id()); });
+    }
+    void rowsTellWhatExportingWouldDo()
+    {
+        QFETCH(const std::function<void()>, change);
+        QFETCH(const QString, file);
+        QFETCH(const QString, state);
+        SampleProject::fill(*m_project);
+        RecipeTable table;
+        const QAbstractItemModelTester tester(&table, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        table.open(*m_project, path("game.quenmora"), usualRecipe(*m_project));
+        lookAtAll(table);
+        QCOMPARE(cell(table, file, RecipeTable::StateColumn), "New");
+        QCOMPARE(table.run({}).size(), table.rowCount());
+        lookAtAll(table);
+        QCOMPARE(cell(table, file, RecipeTable::StateColumn), "Unchanged");
+
+        change();
+        table.lookAgain();
+        lookAtAll(table);
+        const QString told = cell(table, file, RecipeTable::StateColumn);
+        QVERIFY2(told.startsWith(state) && (told == state || state.startsWith("Cannot")), qPrintable(told));
+    }
+
+    void rowsTellSizesAndBanks()
+    {
+        SampleProject::fill(*m_project);
+        RecipeTable table;
+        table.open(*m_project, path("game.quenmora"), usualRecipe(*m_project));
+        QCOMPARE(cell(table, "Title.nxi", RecipeTable::SizeColumn), "49,152");
+        QCOMPARE(cell(table, "Title.nxi", RecipeTable::BanksColumn), "6 / 3");
+        QCOMPARE(cell(table, "Level.map", RecipeTable::SizeColumn), "48");
+        QCOMPARE(cell(table, "Level.map", RecipeTable::BanksColumn), "1 / 1");
+        QCOMPARE(RecipeTable::banksText(8193), "2 pages of 8 KiB, 1 bank of 16 KiB");
+    }
+
+    void renamedAssetsGetTheirNames()
+    {
+        SampleProject::fill(*m_project);
+        const Recipe recipe = usualRecipe(*m_project);
+        m_project->maps().first()->setName("Cellar");
+        RecipeTable table;
+        table.open(*m_project, path("game.quenmora"), recipe);
+        QVERIFY(table.isModified());
+        QCOMPARE(cell(table, "Level.map", RecipeTable::AssetColumn), "Cellar");
+        table.setSaved();
+        table.open(*m_project, path("game.quenmora"), table.recipe());
+        QVERIFY(!table.isModified());
+    }
+
+    void copiesAndRemovalsKeepTheRest()
+    {
+        SampleProject::fill(*m_project);
+        RecipeTable table;
+        table.open(*m_project, path("game.quenmora"), usualRecipe(*m_project));
+        const Recipe before = table.recipe();
+        const int level = table.rowOf("Level.map");
+        const int title = table.rowOf("Title.nxi");
+        QCOMPARE(table.duplicate({level, title}), (QStringList{"Level_2.map", "Title_2.nxi"}));
+        QCOMPARE(table.rowCount(), before.outputs().size() + 2);
+        QCOMPARE(table.output(table.rowOf("Level_2.map")).id, table.output(table.rowOf("Level.map")).id);
+        table.remove({table.rowOf("Level_2.map"), table.rowOf("Title_2.nxi")});
+        QCOMPARE(table.recipe(), before);
+        QVERIFY(!table.isModified());
+    }
+
+    void stopsBetweenOutputs()
+    {
+        SampleProject::fill(*m_project);
+        RecipeTable table;
+        table.open(*m_project, path("game.quenmora"), usualRecipe(*m_project));
+        const auto outcomes = table.run([](int done, int) { return done < 2; });
+        QCOMPARE(outcomes.size(), 2);
+        const ExportReport report(table.recipe(), outcomes, path("."));
+        QVERIFY2(report.text().startsWith("Stopped: Exported 2 files ("), qPrintable(report.text()));
+    }
+
+    // The dialogs
+
+    void addedOutputsHaveFilesOfTheirOwn_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::newRow("bytes") << "none";
+        QTest::newRow("source text") << "sjasmplus";
+        QTest::newRow("C") << "c";
+    }
+    void addedOutputsHaveFilesOfTheirOwn()
+    {
+        QFETCH(const QString, text);
+        SampleProject::fill(*m_project);
+        const QStringList names{"Level",
+                                "level",
+                                "Level_2",
+                                "",
+                                "a/b",
+                                "a\\b",
+                                "CON",
+                                "../x",
+                                "ü \"x\"",
+                                "1st.",
+                                QString(10000, 'y'),
+                                QString(10000, 'y')};
+        for (const QString &name : names) {
+            m_project->createPalette(CreateAction::DefaultNext, name);
+            m_project->createMap(name, m_project->tileSets().first()->id(), {2, 2});
+        }
+        AddOutputsDialog dialog;
+        QList<RecipeOutput> outputs;
+        RecipeTable table;
+        table.open(*m_project, path("game.quenmora"), {});
+        for (const QString folder : {"", "data/gfx"}) {
+            dialog.show(*m_project, table.recipe());
+            dialog.findChild<QComboBox *>("text")->setCurrentIndex(
+                dialog.findChild<QComboBox *>("text")->findData(text));
+            dialog.findChild<QLineEdit *>("folder")->setText(folder);
+            const QList<RecipeOutput> added = addedBy(dialog);
+            QVERIFY(added.size() > 2 * names.size());
+            for (const RecipeOutput &output : added)
+                QCOMPARE(output.file.startsWith("data/gfx/"), !folder.isEmpty());
+            table.add(added);
+        }
+        Recipe read;
+        QVERIFY(read.parse(table.recipe().text()).isEmpty()); // which refuses equal and impossible files
+        QCOMPARE(read, table.recipe());
+        const auto outcomes = table.run({});
+        for (int row = 0; row < outcomes.size(); ++row) {
+            // of the sample, what has no palette or holds more than its form
+            if (names.contains(table.output(row).name))
+                QVERIFY2(outcomes[row].state == State::New, qPrintable(outcomes[row].reason));
+        }
+    }
+
+    void proposesWhatThereIs()
+    {
+        SampleProject::fill(*m_project);
+        AddOutputsDialog dialog;
+        dialog.show(*m_project, {});
+        QSignalSpy added(&dialog, &AddOutputsDialog::accepted);
+        dialog.accept();
+        QStringList files;
+        for (const RecipeOutput &output : added.value(0).value(0).value<QList<RecipeOutput>>())
+            files.append(output.file);
+        for (const char *file : {"Level.map", "Level_sprites.bin", "Level_blocks.bin", "Tiles.nxt", "Main.pal",
+                                 "Blocks_animations.bin", "Hero.spr", "Hero_animations.bin", "Title.nxi"})
+            QVERIFY2(files.contains(file), file);
+        QVERIFY(!files.contains("Unbound_animations.bin")); // without animations
+        dialog.show(*m_project, usualRecipe(*m_project));
+        dialog.accept();
+        QVERIFY(dialog.isVisible());
+        QCOMPARE(dialog.error(), "Please tick what is to be exported");
+    }
+
+    void outputsAreEditedByTheKindOfTheirOptions()
+    {
+        SampleProject::fill(*m_project);
+        const QPointer<Map> map = m_project->maps().first();
+        OutputDialog dialog;
+        QSignalSpy edited(&dialog, &OutputDialog::accepted);
+        RecipeOutput output{AssetKind::Map, map->id(), map->name(), "map-2byte", {{"order", "columns"}}, "a/Level.map"};
+        RecipeOutput other = output;
+        other.file = "LEVEL.h";
+        dialog.show(*m_project, output, TakenFiles({other}));
+        QCOMPARE(dialog.findChild<QComboBox *>("order")->currentData(), "columns");
+        QVERIFY(!dialog.findChild<QLineEdit *>("label")->isEnabled());
+        const auto choose = [&dialog](const char *field, const char *value) {
+            auto *box = dialog.findChild<QComboBox *>(field);
+            box->setCurrentIndex(box->findData(value));
+            emit box->activated(box->currentIndex());
+        };
+        choose("form", "map-sprites"); // another one, which has no order
+        QCOMPARE(dialog.findChild<QLineEdit *>("file")->text(), "a/Level_sprites.bin");
+        choose("text", "c");
+        QCOMPARE(dialog.findChild<QLineEdit *>("file")->text(), "a/Level_sprites.c");
+        dialog.findChild<QLineEdit *>("label")->setText("placed");
+        dialog.findChild<QSpinBox *>("pad")->setValue(256);
+        dialog.findChild<QLineEdit *>("file")->setText("level.H");
+        dialog.accept();
+        QCOMPARE(dialog.error(), "“level.H” is the file of another output");
+        dialog.findChild<QLineEdit *>("file")->setText("../level.c");
+        dialog.accept();
+        QCOMPARE(dialog.error(), "“../level.c” cannot be written: it leads out of its folder");
+        dialog.findChild<QLineEdit *>("file")->setText("placed.c");
+        dialog.accept();
+        output.form = "map-sprites";
+        output.options = {{"label", "placed"}, {"pad", "256"}, {"text", "c"}};
+        output.file = "placed.c";
+        QCOMPARE(edited.value(0).value(0).value<RecipeOutput>(), output);
+    }
+
+    void previewsBeginnings()
+    {
+        QByteArray bytes(20, '\x0F');
+        bytes[16] = '\xAB';
+        QCOMPARE(OutputPreview::textOf({{"a.bin", bytes}}, false),
+                 "0000  0F 0F 0F 0F 0F 0F 0F 0F  0F 0F 0F 0F 0F 0F 0F 0F\n0010  AB 0F 0F 0F");
+        QCOMPARE(OutputPreview::textOf({{"a.c", "é\nb"}, {"a.h", "\n"}}, true),
+                 "a.c (4 bytes)\né\nb\n\na.h (1 bytes)\n");
+        const QString long_ = OutputPreview::textOf({{"a.bin", QByteArray(100000, 'x')}}, false);
+        QVERIFY(long_.size() < 10000 && long_.endsWith("…"));
+    }
+
+    // The window
+
+    void exportsAProjectAndExportsItAgain()
+    {
+        MainWindow window;
+        ProjectExport &exporter = *window.projectExport();
+        QAction *project = action(window, "Export Project…");
+        QAction *again = action(window, "Export Again");
+        QVERIFY(!project->isEnabled() && !again->isEnabled());
+        emit window.menus()->fileMenu()->newProject("Game");
+        window.projectController()->project()->createPalette(CreateAction::DefaultNext, "Main");
+        const QPointer<Palette> palette = window.projectController()->project()->palettes().first();
+
+        // a project without a file
+        bool mayBeSaved = false;
+        int questions = 0;
+        exporter.setSaveCallback([&] { return ++questions, mayBeSaved; });
+        window.projectController()->setFileNameCallback([this] { return path("game.quenmora"); });
+        project->trigger();
+        QVERIFY(!exporter.dialog()->isVisible() && !QFile::exists(path("game.quenmora")));
+        mayBeSaved = true;
+        again->trigger(); // shows the recipe where there is none
+        QCOMPARE(questions, 2);
+        QVERIFY(exporter.dialog()->isVisible() && QFile::exists(path("game.quenmora")));
+
+        // what closing leaves as it was, and exporting keeps
+        exporter.dialog()->addOutputs();
+        auto *add = exporter.dialog()->findChild<AddOutputsDialog *>();
+        add->accept();
+        exporter.dialog()->reject();
+        QVERIFY(!QFile::exists(recipePath()));
+        project->trigger();
+        exporter.dialog()->addOutputs();
+        add->accept();
+        exporter.dialog()->exportAll();
+        const QString folder = QDir::toNativeSeparators(QFileInfo(path("game.quenmora")).path());
+        const int count = exporter.dialog()->table()->rowCount();
+        QVERIFY(count >= 1 && !exporter.dialog()->table()->isModified());
+        QCOMPARE(window.statusBar()->currentMessage(),
+                 QString("Exported %1 (%2 bytes) to %3")
+                     .arg(count == 1 ? QString("1 file") : QString("%1 files").arg(count))
+                     .arg(QLocale().toString(512 * count), folder));
+        QCOMPARE(contentOf(path("Main.pal")).size(), 512);
+        exporter.dialog()->reject();
+
+        palette->setRawColour(0, 0x0101);
+        again->trigger();
+        QVERIFY(!exporter.dialog()->isVisible());
+        QCOMPARE(contentOf(path("Main.pal")).left(2).toHex(), QByteArray("0101"));
+        const QString unchanged = count > 1 ? QString(", %1 unchanged,").arg(count - 1) : QString();
+        QCOMPARE(window.statusBar()->currentMessage(), "Exported 1 file (512 bytes)" + unchanged + " to " + folder);
+
+        QVERIFY(QFile::remove(path("Main.pal")) && QDir().mkdir(path("Main.pal")));
+        again->trigger();
+        QVERIFY(window.statusBar()->currentMessage().contains("1 failed"));
+        QCOMPARE(window.messageDialog()->text(), "There was a problem exporting data");
+        QCOMPARE(window.messageDialog()->detail(), "Main.pal: “Main.pal” cannot be written: it is a folder");
+        window.messageDialog()->accept();
+    }
+
+    void neverReplacesADamagedRecipeUnasked()
+    {
+        MainWindow window;
+        ProjectExport &exporter = *window.projectExport();
+        emit window.menus()->fileMenu()->newProject("Game");
+        window.projectController()->project()->createPalette(CreateAction::DefaultNext, "Main");
+        window.projectController()->setFileNameCallback([this] { return path("game.quenmora"); });
+        emit window.menus()->fileMenu()->saveProject();
+        const QByteArray damaged = "{\n    \"formatVersion\": 1,\n    \"outputs\": [\n        {}\n    ]\n}\n";
+        write(recipePath(), damaged);
+
+        bool startsAnew = false;
+        QList<int> lines;
+        exporter.setStartAnewCallback([&](const QString &, const ProjectExport::Problems &problems) {
+            for (const Recipe::Problem &problem : problems)
+                lines.append(problem.line);
+            return startsAnew;
+        });
+        action(window, "Export Again")->trigger();
+        QVERIFY(!exporter.dialog()->isVisible() && lines.contains(4));
+
+        startsAnew = true;
+        for (const bool isSaved : {false, true, true}) {
+            write(recipePath(), damaged);
+            action(window, "Export Project…")->trigger();
+            QVERIFY(exporter.dialog()->isVisible());
+            isSaved ? exporter.dialog()->save() : exporter.dialog()->reject();
+            QCOMPARE(contentOf(recipePath()) == damaged, !isSaved);
+        }
+        QCOMPARE(contentOf(recipePath() + ".bad"), damaged);
+        QCOMPARE(contentOf(recipePath() + ".bad2"), damaged);
+    }
+
+private:
+    [[nodiscard]] QString path(const QString &name) const { return (*m_folder)(name); }
+    [[nodiscard]] QString recipePath() const { return path("game.quenmora-export.json"); }
+    static QAction *action(MainWindow &window, const QString &text)
+    {
+        for (QAction *each : window.menus()->fileMenu()->actions()) {
+            if (QString(each->text()).remove('&') == text)
+                return each;
+        }
+        return nullptr;
+    }
+
+    std::unique_ptr<TemporaryFolder> m_folder;
+    std::unique_ptr<Project> m_project;
+};
+
+QUENMORA_TEST_MAIN(TestExportProject)
+#include "tst_exportproject.moc"
