@@ -2,12 +2,12 @@
 
 #include <numeric>
 
-PackedBlock KeptBlocks::packed(const QByteArray &content)
+PackedBlock KeptBlocks::packed(const MemberBlock &block)
 {
-    const ContentKey key = ContentDigest::keyOf(content);
+    const ContentKey key = PackedBlock::keyOf(block.bytes, block.historySize);
     auto kept = m_blocks.find(key);
     if (kept == m_blocks.end())
-        kept = m_blocks.insert(key, PackedBlock::pack(content, key));
+        kept = m_blocks.insert(key, PackedBlock::pack(block.bytes, block.historySize));
     return *kept;
 }
 

@@ -9,14 +9,14 @@
 
 /// The deflated blocks of what was packed last, so that packing again costs what has changed since.
 ///
-/// They are compressed and known by what they were made of (ContentKey). Whoever has packed a whole project says so by
-/// keepOnly(), which lets everything else go: they then take no more memory than the project's file. Packed members
-/// share their blocks with what is kept, and stay whole when that goes.
+/// They are compressed and known by what they were made of (ContentKey), which keeps no more of it than a digest.
+/// Whoever has packed a whole project says so by keepOnly(), which lets everything else go: they then take no more
+/// memory than the project's file. Packed members share their blocks with what is kept, and stay whole when that goes.
 class KeptBlocks
 {
 public:
-    /// The block with this content, packed now unless it is kept.
-    [[nodiscard]] PackedBlock packed(const QByteArray &content);
+    /// The block in packed form, packed now unless it is kept.
+    [[nodiscard]] PackedBlock packed(const MemberBlock &block);
 
     /// Tells pictures apart by what is stored of them: size, pixels and colours.
     [[nodiscard]] static ContentKey pictureKey(const QImage &picture);

@@ -4,7 +4,6 @@
 
 #include <zlib.h>
 
-#include <algorithm>
 #include <numeric>
 
 qint64 PackedMember::size() const
@@ -37,9 +36,10 @@ ContentKey PackedMember::key() const
 PackedMember PackedMember::pack(const QString &name, const QByteArray &content)
 {
     PackedMember member{name, {}, {}};
-    for (qsizetype done = 0; done < content.size(); done += MemberBlocks::BlockSize)
-        member.blocks.append(PackedBlock::pack(
-            QByteArrayView(content).sliced(done, std::min(MemberBlocks::BlockSize, content.size() - done))));
+    for (qsizetype done = 0; done < content.size(); done += MemberBlocks::BlockSize) {
+        const MemberBlock block = MemberBlocks::blockOf(content, done, true);
+        member.blocks.append(PackedBlock::pack(block.bytes, block.historySize));
+    }
     return member;
 }
 

@@ -39,12 +39,21 @@ struct ProjectMember
 /// The members of a project file in the order in which they are written, which is that of their names.
 using ProjectSnapshot = QList<ProjectMember>;
 
+/// A part of a member's bytes, with those that go before it as far as deflating looks back.
+struct MemberBlock
+{
+    QByteArray bytes;
+    qsizetype historySize = 0; ///< how many of the bytes go before the block
+
+    [[nodiscard]] QByteArrayView content() const { return QByteArrayView(bytes).sliced(historySize); }
+};
+
 /// Makes the bytes of a member, from its start and in blocks, so that a large one is never whole in memory and equal
 /// parts of two contents give equal blocks: those of a tile layer end with rows.
 class MemberBlocks
 {
 public:
-    /// Bytes of a block, as far as rows of cells allow.
+    /// Bytes of a block, as far as rows of cells allow: as much as is deflated in some milliseconds.
     static constexpr qsizetype BlockSize = qsizetype(256) << 10;
 
     /// With kept blocks, which must live as long, a picture that was packed is unpacked instead of being encoded.
@@ -55,11 +64,14 @@ public:
 
     [[nodiscard]] bool atEnd() const { return m_atEnd; }
     /// The next block, which may be empty.
-    [[nodiscard]] QByteArray next();
+    [[nodiscard]] MemberBlock next();
+
+    /// The block of some bytes that starts at a place, to be deflated with or without what goes before it.
+    [[nodiscard]] static MemberBlock blockOf(const QByteArray &bytes, qsizetype start, bool withHistory);
 
 private:
-    [[nodiscard]] QByteArray nextCells(const ProjectMember::Cells &cells);
-    [[nodiscard]] QByteArray nextBytes();
+    [[nodiscard]] MemberBlock nextCells(const ProjectMember::Cells &cells);
+    [[nodiscard]] MemberBlock nextBytes();
     [[nodiscard]] QByteArray encoded(const QImage &picture) const;
 
     ProjectMember m_member;

@@ -119,7 +119,7 @@ QByteArray ProjectStore::fingerprint() const
     for (const ProjectMember &member : snapshot) {
         hash.addData(member.name.toUtf8());
         for (MemberBlocks blocks(member, &m_kept); !blocks.atEnd();)
-            hash.addData(blocks.next());
+            hash.addData(blocks.next().content());
     }
     return hash.result();
 }
