@@ -191,7 +191,7 @@ int ExportCommand::doRecipe(const Project &project)
     Recipe recipe;
     const QList<Recipe::Problem> problems = recipe.load(file);
     for (const Recipe::Problem &problem : problems)
-        fail(problem.line > 0 ? QStringLiteral("%1:%2").arg(file).arg(problem.line) : file, problem.reason);
+        fail(problem.line > 0 ? file + u':' + QString::number(problem.line) : file, problem.reason);
     if (!problems.isEmpty())
         return Failed;
 
@@ -271,7 +271,12 @@ bool ExportCommand::writeDepfile(const QStringList &targets, const QStringList &
 {
     if (m_request.depfile.isEmpty() || m_request.isDryRun || targets.isEmpty())
         return true;
+    const QString place = QFileInfo(m_request.depfile).canonicalFilePath();
     for (const QString &path : targets + prerequisites) {
+        if (!place.isEmpty() && QFileInfo(path).canonicalFilePath() == place) {
+            fail(m_request.depfile, tr("This file is exported, or exported from"));
+            return false;
+        }
         if (!Depfile::canName(path)) {
             fail(m_request.depfile,
                  tr("make cannot be told of “%1”: its name has characters that end names").arg(path));

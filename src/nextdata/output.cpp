@@ -96,7 +96,7 @@ QByteArray joined(const Blocks &blocks)
 }
 
 /// What is added to the name of each file: nothing to that of the only one, unless more may come when the asset grows.
-QStringList partsOf(qsizetype files, const OptionValues &values)
+QStringList partNames(qsizetype files, const OptionValues &values)
 {
     if (files == 1 && values.is("cut", "none"))
         return {QString()};
@@ -174,6 +174,33 @@ Result<QList<OutputFile>> asText(Dialect dialect, const SourceText::Heading &hea
     return output;
 }
 
+/// The bytes of an output, cut into those of its files.
+struct Parts
+{
+    Data data;
+    QList<Blocks> files;
+    QStringList names; ///< what each file's name has more than the output's
+};
+
+Result<Parts> partsOf(const Form &form, const Source &source, const OptionValues &values)
+{
+    if (const QString refusal = refusalOf(form, source); !refusal.isEmpty())
+        return Failure{refusal};
+    Result<Data> written = form.write(source, values);
+    if (!written)
+        return written.failure();
+    Data data = *std::move(written);
+    const qint64 size = sizeOf(data.blocks);
+    if (size == 0)
+        return Failure{tr("“%1” has nothing to write in this form").arg(source.name())};
+    if (const qint64 padding = padded(size, values) - size; padding > 0)
+        data.blocks.append({.bytes = QByteArray(padding, '\0'), .comment = tr("padding")});
+    data.constants.append({QStringLiteral("size"), size});
+    nameBlocks(data);
+    const QList<Blocks> files = filesOf(data.blocks, fileSize(values));
+    return Parts{data, files, partNames(files.size(), values)};
+}
+
 } // namespace
 
 QList<Option> commonOptions()
@@ -216,38 +243,33 @@ Result<qint64> sizeOf(const Form &form, const Source &source, const OptionValues
     return size ? padded(*size, values) : size;
 }
 
+void claimNames(const Form &form, const Source &source, const OptionValues &values, Names &names)
+{
+    if (!dialectOf(values))
+        return;
+    if (const Result<Parts> parts = partsOf(form, source, values))
+        static_cast<void>(claimLabel(form, source, values, suffixesOf(parts->data, parts->names), names));
+}
+
 Result<QList<OutputFile>> write(const Form &form, const Source &source, const OptionValues &values,
                                 const QString &fileName, Names &names)
 {
-    if (const QString refusal = refusalOf(form, source); !refusal.isEmpty())
-        return Failure{refusal};
     if (const QString problem = FileNames::problemOf(fileName); !problem.isEmpty() || fileName.contains(u'/'))
         return Failure{problem.isEmpty() ? tr("“%1” is no plain file name").arg(fileName) : problem};
-
-    Result<Data> written = form.write(source, values);
-    if (!written)
-        return written.failure();
-    Data data = *std::move(written);
-    const qint64 size = sizeOf(data.blocks);
-    if (size == 0)
-        return Failure{tr("“%1” has nothing to write in this form").arg(source.name())};
-    if (const qint64 padding = padded(size, values) - size; padding > 0)
-        data.blocks.append({.bytes = QByteArray(padding, '\0'), .comment = tr("padding")});
-    data.constants.append({QStringLiteral("size"), size});
-    nameBlocks(data);
-
-    const QList<Blocks> files = filesOf(data.blocks, fileSize(values));
-    const QStringList parts = partsOf(files.size(), values);
+    const Result<Parts> parts = partsOf(form, source, values);
+    if (!parts)
+        return parts.failure();
     if (const auto dialect = dialectOf(values)) {
-        const Result<QString> label = claimLabel(form, source, values, suffixesOf(data, parts), names);
+        const QStringList suffixes = suffixesOf(parts->data, parts->names);
+        const Result<QString> label = claimLabel(form, source, values, suffixes, names);
         if (!label)
             return label.failure();
-        return asText(*dialect, {tr("%1: %2").arg(source.name(), form.title), *label, data.constants}, files, parts,
-                      fileName);
+        return asText(*dialect, {tr("%1: %2").arg(source.name(), form.title), *label, parts->data.constants},
+                      parts->files, parts->names, fileName);
     }
     QList<OutputFile> output;
-    for (qsizetype i = 0; i < files.size(); ++i)
-        output.append({FileNames::withPart(fileName, parts[i]), joined(files[i])});
+    for (qsizetype i = 0; i < parts->files.size(); ++i)
+        output.append({FileNames::withPart(fileName, parts->names[i]), joined(parts->files[i])});
     return output;
 }
 

@@ -31,4 +31,7 @@ struct OutputFile
 [[nodiscard]] Result<QList<OutputFile>> write(const Form &form, const Source &source, const OptionValues &values,
                                               const QString &fileName, Names &names);
 
+/// Takes the labels and constants that write() would take, without making the text.
+void claimNames(const Form &form, const Source &source, const OptionValues &values, Names &names);
+
 } // namespace NextData

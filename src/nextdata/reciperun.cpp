@@ -81,7 +81,7 @@ Result<Source> RecipeRun::sourceOf(const RecipeOutput &output) const
     return Failure{tr("The project no longer has %1 “%2” with the id %3").arg(titleOf(output.kind), output.name, id)};
 }
 
-Result<QList<OutputFile>> RecipeRun::write(const RecipeOutput &output, Names &names) const
+Result<RecipeRun::Task> RecipeRun::taskOf(const RecipeOutput &output) const
 {
     if (const QString problem = Recipe::problemOf(output); !problem.isEmpty())
         return Failure{problem};
@@ -92,35 +92,38 @@ Result<QList<OutputFile>> RecipeRun::write(const RecipeOutput &output, Names &na
     const Result<OptionValues> values = OptionValues::parse(form->options, output.options);
     if (!values)
         return values.failure();
+    return Task{form, *source, *values};
+}
+
+void RecipeRun::claimNamesBefore(qsizetype index)
+{
+    if (index < m_named) {
+        m_names = Names();
+        m_named = 0;
+    }
+    for (; m_named < index; ++m_named) {
+        if (const Result<Task> task = taskOf(m_outputs.at(m_named)))
+            claimNames(*task->form, task->source, task->values, m_names);
+    }
+}
+
+Result<QList<OutputFile>> RecipeRun::make(qsizetype index)
+{
+    claimNamesBefore(index);
+    ++m_named; // with this one, whatever comes of it
+    const RecipeOutput &output = m_outputs.at(index);
+    const Result<Task> task = taskOf(output);
+    if (!task)
+        return task.failure();
     const qsizetype slash = output.file.lastIndexOf(u'/') + 1;
-    Result<QList<OutputFile>> files = NextData::write(*form, *source, *values, output.file.sliced(slash), names);
+    Result<QList<OutputFile>> files =
+        write(*task->form, task->source, task->values, output.file.sliced(slash), m_names);
     if (!files)
         return files;
     QList<OutputFile> placed = *std::move(files);
     for (OutputFile &file : placed)
         file.name.prepend(QStringView(output.file).first(slash));
     return placed;
-}
-
-Names RecipeRun::namesBefore(qsizetype index)
-{
-    while (m_names.size() <= index) {
-        const RecipeOutput &output = m_outputs.at(m_names.size() - 1);
-        Names names = m_names.last();
-        if (output.options.contains(QStringLiteral("text"))) // others have no labels
-            static_cast<void>(write(output, names));
-        m_names.append(names);
-    }
-    return m_names.at(index);
-}
-
-Result<QList<OutputFile>> RecipeRun::make(qsizetype index)
-{
-    Names names = namesBefore(index);
-    Result<QList<OutputFile>> files = write(m_outputs.at(index), names);
-    if (m_names.size() == index + 1)
-        m_names.append(names);
-    return files;
 }
 
 QString RecipeRun::claim(const QString &place, qsizetype index)

@@ -56,16 +56,25 @@ public:
     [[nodiscard]] QList<Outcome> runAll(Mode mode, const Progress &progress = {});
 
 private:
-    [[nodiscard]] Result<QList<OutputFile>> write(const RecipeOutput &output, Names &names) const;
+    /// An output whose words have been understood.
+    struct Task
+    {
+        const Form *form;
+        Source source;
+        OptionValues values;
+    };
+
+    [[nodiscard]] Result<Task> taskOf(const RecipeOutput &output) const;
     [[nodiscard]] Result<Source> sourceOf(const RecipeOutput &output) const;
-    [[nodiscard]] Names namesBefore(qsizetype index);
+    void claimNamesBefore(qsizetype index);
     [[nodiscard]] QString claim(const QString &place, qsizetype index);
 
     QList<RecipeOutput> m_outputs;
     QList<Source> m_sources; ///< all of the project
     QHash<QUuid, qsizetype> m_sourceOfId;
     TargetFolder m_folder;
-    QList<Names> m_names{Names()}; ///< those that are taken before each output, as far as they are known
+    Names m_names; ///< of the first outputs
+    qsizetype m_named = 0; ///< how many outputs these are
     QHash<QString, qsizetype> m_places; ///< in one case, and the output whose they are; −1 for the files that are kept
 };
 

@@ -128,7 +128,7 @@ private:
             }
             const QString file = output.file.toCaseFolded();
             if (lineOfFile.contains(file) && !file.isEmpty())
-                note(tr("“%1” is the file of line %2 already").arg(output.file).arg(lineOfFile.value(file)));
+                note(tr("“%1” is the file of line %2 already").arg(output.file, QString::number(lineOfFile.value(file))));
             lineOfFile.insert(file, m_line);
             outputs.append(output);
         }

@@ -103,6 +103,8 @@ private slots:
         row("depfile", {"game.quenmora", "--output", "a;b", "--depfile", "d"},
             "d: make cannot be told of “a;b/gfx data/palette.pal”: its name has characters that end names");
         row("depfile's place", {"game.quenmora", "--depfile", "."}, ".: . is a folder");
+        row("depfile over project", {"game.quenmora", "--depfile", "./game.quenmora"},
+            "./game.quenmora: This file is exported, or exported from");
         row("output folder", {"game.quenmora", "--output", "bad.json"},
             "gfx data/palette.pal: The folder PATH/bad.json/gfx data cannot be made|"
             "hero.c: The folder PATH/bad.json cannot be made|level.map: The folder PATH/bad.json cannot be made");

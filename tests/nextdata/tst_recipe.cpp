@@ -121,6 +121,8 @@ private slots:
         output("kind", QByteArray(good).replace("palette\", \"id", "colours\", \"id").replace("main.", "x."),
                "5: There is no kind of asset “colours”");
         output("id", QByteArray(good).replace(PaletteId, "7").replace("main.", "x."), "5: “7” is no id");
+        row("percent", recipeOf({outputLine("palette", "{}", "%2"), outputLine("palette", "{}", "%2")}),
+            "5: “%2” is the file of line 4 already");
         output("form", outputLine("palette-17", "{}", "x"), "5: There is no form “palette-17”");
         output("form of another kind", outputLine("map-2byte", "{}", "x"),
                "5: map-2byte is a form of a map, not of a palette");
