@@ -13,16 +13,6 @@ class TestAppState : public QObject
 private slots:
     void cleanup() { QDir(path({})).removeRecursively(); }
 
-    void startsWithoutFiles()
-    {
-        AppState state;
-        QTest::ignoreMessage(QtWarningMsg, "Open state.json failed");
-        QVERIFY(!state.loadState());
-        QTest::ignoreMessage(QtWarningMsg, "Failed to open settings json file");
-        QVERIFY(state.loadPreferences().isNull());
-        QVERIFY(state.tileZoom() == 8 && state.lastPath().isEmpty() && state.recentFiles().isEmpty());
-    }
-
     void writesStateForTheNextRun()
     {
         AppState state;

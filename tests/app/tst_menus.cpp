@@ -152,45 +152,39 @@ private slots:
         }
     }
 
-    void entriesFollowProjectAndActiveAsset_data()
-    {
-        QTest::addColumn<int>("menu"); // position in the bar
-        QTest::addColumn<QString>("withProject");
-        QTest::addColumn<QString>("withAsset"); // besides
-        const auto add = [](int menu, const char *withProject, const char *withAsset = "") {
-            QTest::addRow("menu %d", menu) << menu << withProject << withAsset;
-        };
-        add(0, "New, Open, Recent, Save, Save As, Close, Export Project\u2026, Export Again, Preferences, Quit");
-        add(2, "New Palette, Import", ", Export");
-        add(3, "New Tile Set",
-            ", Create Animations, Swap Palette, Export, Export Attributes, Import, Next Tile, Previous Tile, "
-            "Tile List Magnification");
-        add(4, "New Map, Import", ", Export");
-        add(5, "New, Import", ", Swap Palette, Export Data");
-        add(6, "New Image");
-    }
-
     void entriesFollowProjectAndActiveAsset()
     {
-        QFETCH(int, menu);
-        QFETCH(QString, withProject);
-        QFETCH(QString, withAsset);
-        Shell shell;
-        const QAction *name = entry(shell.bar.paletteMenu(), "No Palette");
-        QCOMPARE(shell.enabled(menu), withProject);
-        shell.activate();
-        QCOMPARE(shell.enabled(menu), withProject + withAsset);
-        shell.palette->setName("Day & night");
-        QVERIFY(name->text() == "Day && night" && !name->isEnabled());
-        // an asset that is deleted is no longer active
-        shell.project.deleteSpriteBank(shell.sprites->id());
-        shell.project.deleteMap(shell.map->id());
-        shell.project.deleteTileSet(shell.tileSet->id());
-        shell.project.deletePalette(shell.palette->id());
-        QCOMPARE(shell.enabled(menu), withProject);
-        QCOMPARE(name->text(), "No Palette");
-        shell.bar.setProject(nullptr);
-        QCOMPARE(shell.enabled(menu), menu == 0 ? "New, Open, Recent, Preferences, Quit" : "");
+        // the position of a menu in the bar, what can be chosen with a project, and what besides with an active asset
+        for (const auto &[menu, withProject, withAsset] :
+             {std::tuple(
+                  0,
+                  QString(
+                      "New, Open, Recent, Save, Save As, Close, Export Project\u2026, Export Again, Preferences, Quit"),
+                  QString()),
+              {2, "New Palette, Import", ", Export"},
+              {3, "New Tile Set",
+               ", Create Animations, Swap Palette, Export, Export Attributes, Import, Next Tile, Previous Tile, "
+               "Tile List Magnification"},
+              {4, "New Map, Import", ", Export"},
+              {5, "New, Import", ", Swap Palette, Export Data"},
+              {6, "New Image", ""}}) {
+            Shell shell;
+            const QAction *name = entry(shell.bar.paletteMenu(), "No Palette");
+            QCOMPARE(shell.enabled(menu), withProject);
+            shell.activate();
+            QCOMPARE(shell.enabled(menu), withProject + withAsset);
+            shell.palette->setName("Day & night");
+            QVERIFY(name->text() == "Day && night" && !name->isEnabled());
+            // an asset that is deleted is no longer active
+            shell.project.deleteSpriteBank(shell.sprites->id());
+            shell.project.deleteMap(shell.map->id());
+            shell.project.deleteTileSet(shell.tileSet->id());
+            shell.project.deletePalette(shell.palette->id());
+            QCOMPARE(shell.enabled(menu), withProject);
+            QCOMPARE(name->text(), "No Palette");
+            shell.bar.setProject(nullptr);
+            QCOMPARE(shell.enabled(menu), menu == 0 ? "New, Open, Recent, Preferences, Quit" : "");
+        }
     }
 
     void recentMenuListsProjects()

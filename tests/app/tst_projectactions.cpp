@@ -75,20 +75,6 @@ private slots:
         QVERIFY(m_ready.isNull() && shownFailure().isEmpty());
     }
 
-    void tellsTheSpriteMenuFirst()
-    {
-        MenuBar bar;
-        m_actions->serve(bar);
-        const QUuid sprites = m_project->createSpriteBank(Quenmora::EightBit, "Hero", makePalette())->id();
-        bar.spriteMenu()->setSpriteBank(m_project->spriteBank(sprites));
-        bool toldFirst = false; // while the bank still exists
-        connect(m_actions.get(), &ProjectActions::aboutToDeleteSprites, this, [&](const QUuid &id) {
-            toldFirst = id == sprites && m_project->spriteBank(id) && !bar.spriteMenu()->spriteBank();
-        });
-        m_actions->deleteItem(ProjectTree::SpriteBankNode, sprites);
-        QVERIFY(toldFirst && !m_project->spriteBank(sprites));
-    }
-
     void copiesAndDeletes_data()
     {
         QTest::addColumn<Node>("node");
