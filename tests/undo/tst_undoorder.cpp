@@ -30,6 +30,8 @@ struct Scene
                 bank->addSprite();
             bank->setImage(i, plainImage({16, 16}, i + 1));
             tileSet->setTileImage(i, plainImage({8, 8}, i + 1));
+            tileSet->setTileOffset(i, i);
+            tileSet->tile(i)->setAttributes(i);
             level->setTile({i, 0}, {7 - i, false, true, false, i, true});
             level->objectLayer()->setCell({i, 1}, {i, false, false, false, 0, true});
             other->setTile({i, i % 4}, {i % 4, false, false, false, 0, true});
@@ -289,6 +291,7 @@ private slots:
     {
         Scene scene;
         scene.tileSet->setTileImage(6, scene.tileSet->image(1));
+        scene.tileSet->setTileOffset(6, scene.tileSet->tileOffset(1));
         scene.tileSet->copyTile(1, 6);
         scene.bank->clearSprite(3);
         scene.ofBank([&] { scene.bank->clearSprite(3); });
