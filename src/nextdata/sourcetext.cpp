@@ -1,5 +1,8 @@
 #include "nextdata/sourcetext.h"
 
+#include <algorithm>
+#include <array>
+
 namespace NextData::SourceText {
 namespace {
 
@@ -56,24 +59,6 @@ QByteArray constantsOf(const Heading &heading, const Syntax &syntax)
     return text.toLatin1();
 }
 
-/// Lines of bytes. The two-digit numbers are written by hand: text of a large map has a hundred million of them.
-void appendBytes(QByteArray &text, const Data::Block &block, const Syntax &syntax, const char *lineEnd)
-{
-    constexpr char digits[] = "0123456789abcdef";
-    const QByteArray hex = syntax.hex;
-    const qsizetype perLine = std::max(block.bytesPerLine, 1);
-    text.reserve(text.size() + block.bytes.size() * (hex.size() + 3) + (block.bytes.size() / perLine + 1) * 10);
-    for (qsizetype i = 0; i < block.bytes.size(); ++i) {
-        const auto byte = uchar(block.bytes[i]);
-        text += i % perLine == 0 ? QByteArrayView(syntax.bytes) : QByteArrayView(",");
-        text += hex;
-        text += digits[byte >> 4];
-        text += digits[byte & 15];
-        if (i % perLine == perLine - 1 || i == block.bytes.size() - 1)
-            text += lineEnd;
-    }
-}
-
 qsizetype sizeOf(const Section &section)
 {
     qsizetype size = 0;
@@ -81,6 +66,41 @@ qsizetype sizeOf(const Section &section)
         size += block.bytes.size();
     return size;
 }
+
+/// Writes lines of bytes. A text of a large map has a hundred million of them.
+class ByteLines
+{
+public:
+    ByteLines(const Syntax &syntax, const char *lineEnd) : m_start(syntax.bytes), m_end(lineEnd)
+    {
+        for (size_t byte = 0; byte < m_numbers.size(); ++byte)
+            m_numbers[byte] = syntax.hex + QByteArray::number(uint(byte), 16).rightJustified(2, '0') + ',';
+    }
+
+    /// Makes room for the text of so many bytes.
+    void reserve(QByteArray &text, qsizetype bytes) const
+    {
+        text.reserve(text.size() + bytes * (m_numbers.front().size() + 1));
+    }
+
+    void append(QByteArray &text, const Data::Block &block) const
+    {
+        const qsizetype perLine = std::max(block.bytesPerLine, 1);
+        for (qsizetype first = 0; first < block.bytes.size(); first += perLine) {
+            const qsizetype end = std::min(first + perLine, block.bytes.size());
+            text += m_start;
+            for (qsizetype i = first; i < end; ++i)
+                text += m_numbers[uchar(block.bytes[i])];
+            text.chop(1);
+            text += m_end;
+        }
+    }
+
+private:
+    QByteArray m_start;
+    QByteArray m_end;
+    std::array<QByteArray, 256> m_numbers; ///< in hexadecimal, with the comma behind
+};
 
 } // namespace
 
@@ -94,12 +114,14 @@ QByteArray assembler(Dialect dialect, const Heading &heading, const Section &sec
     if (isFirst)
         text += constantsOf(heading, syntax) + '\n';
     text += label(section.label);
+    const ByteLines lines(syntax, "\n");
+    lines.reserve(text, sizeOf(section));
     for (const Data::Block &block : section.blocks) {
         if (!block.comment.isEmpty())
             text += "; " + asComment(block.comment).toUtf8() + '\n';
         if (!block.name.isEmpty())
             text += label(nameOf(heading, block.name));
-        appendBytes(text, block, syntax, "\n");
+        lines.append(text, block);
     }
     return text;
 }
@@ -110,12 +132,15 @@ QByteArray cSource(const Heading &heading, const Section &section, const QString
     QByteArray text = "/* " + asComment(heading.title).toUtf8() + " */\n\n";
     text += "#include \"" + headerName.toUtf8() + "\"\n\n";
     text += "const unsigned char " + section.label.toLatin1() + '[' + QByteArray::number(sizeOf(section)) + "] = {\n";
+    const ByteLines lines(syntax, ",\n");
+    lines.reserve(text, sizeOf(section));
     for (const Data::Block &block : section.blocks) {
         if (!block.comment.isEmpty())
             text += "\t/* " + asComment(block.comment).toUtf8() + " */\n";
-        appendBytes(text, block, syntax, ",\n");
+        lines.append(text, block);
     }
-    return text + "};\n";
+    text += "};\n";
+    return text;
 }
 
 QByteArray cHeader(const Heading &heading, const QList<Section> &sections)
@@ -135,7 +160,8 @@ QByteArray cHeader(const Heading &heading, const QList<Section> &sections)
             offset += block.bytes.size();
         }
     }
-    return text + "\n#endif\n";
+    text += "\n#endif\n";
+    return text;
 }
 
 } // namespace NextData::SourceText
