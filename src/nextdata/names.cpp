@@ -7,8 +7,7 @@
 namespace NextData {
 namespace {
 
-constexpr qsizetype LongestWord =
-    40; ///< what is added to it still fits into the 63 characters that C compilers tell apart
+constexpr qsizetype LongestWord = 40; ///< two of them are below the 127 characters that assemblers tell apart
 constexpr qsizetype LongestLabel = 56; ///< of those that people choose
 
 QString tr(const char *text)

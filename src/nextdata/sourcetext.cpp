@@ -42,7 +42,7 @@ QString constantName(const Heading &heading, const QString &suffix)
 /// The text as it can stand in a comment of any dialect: on one line, without what would end it or join it to the next.
 QString asComment(const QString &text)
 {
-    QString comment = text.left(200).simplified();
+    QString comment = text.left(200);
     for (QChar &c : comment) {
         if (!c.isPrint() || c == u'\\' || c == u'?' || c == u'*')
             c = u' ';
