@@ -16,6 +16,7 @@
 #include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QTextStream>
 
 namespace {
 
@@ -107,7 +108,7 @@ QByteArray cellText(const Cell &cell)
 class Describer
 {
 public:
-    explicit Describer(const Project &project) : m_project(project)
+    Describer(const Project &project, QTextStream &out) : m_project(project), m_out(out)
     {
         note(project.palettes());
         note(project.tileSets());
@@ -121,7 +122,7 @@ public:
             note(bank->animations());
     }
 
-    QByteArray describe()
+    void describe()
     {
         describeSettings();
         for (const QPointer<Palette> &palette : m_project.palettes())
@@ -136,7 +137,6 @@ public:
             describe(*bank);
         for (const QPointer<Image> &image : m_project.images())
             describe(*image);
-        return m_text;
     }
 
 private:
@@ -169,12 +169,7 @@ private:
         return named->isUnique ? quoted(named->name) : quoted(named->name) + ' ' + idText;
     }
 
-    void line(int depth, const QByteArray &text)
-    {
-        m_text.append(2 * depth, ' ');
-        m_text += text;
-        m_text += '\n';
-    }
+    void line(int depth, const QByteArray &text) { m_out << QByteArray(2 * depth, ' ') << text << '\n'; }
 
     void pixels(int depth, const QImage &image, int digits)
     {
@@ -328,12 +323,12 @@ private:
 
     const Project &m_project;
     QHash<QUuid, Named> m_names;
-    QByteArray m_text;
+    QTextStream &m_out;
 };
 
 } // namespace
 
-QByteArray describe(const Project &project)
+void describe(const Project &project, QTextStream &out)
 {
-    return Describer(project).describe();
+    Describer(project, out).describe();
 }

@@ -1,12 +1,11 @@
 #pragma once
 
-#include <QByteArray>
-
 class Project;
+class QTextStream;
 
-/// Everything that a project holds, as text for comparing two versions of it: one fact a line, so that what differs
-/// between two texts is what differs between the projects. Assets stand at the beginning of a line, in the order in
-/// which they were made, and what belongs to them is indented.
+/// Writes everything that a project holds as text for comparing two versions of it: one fact a line, so that what
+/// differs between two texts is what differs between the projects. Assets stand at the beginning of a line, in the
+/// order in which they were made, and what belongs to them is indented.
 ///
 ///     tiles "Level"
 ///       palette "Level"
@@ -18,4 +17,4 @@ class Project;
 ///       0/1*60 12rm/3 . . .                     a row of cells: tile, transforms, palette offset
 ///
 /// Ids stand only where a name would not tell which asset is meant. Which documents are open is no fact of the game.
-[[nodiscard]] QByteArray describe(const Project &project);
+void describe(const Project &project, QTextStream &out);

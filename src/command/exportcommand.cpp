@@ -167,7 +167,7 @@ int ExportCommand::withProject()
     case Request::Action::List:
         return listAssets(project);
     case Request::Action::Describe:
-        m_out << QString::fromUtf8(describe(project));
+        describe(project, m_out);
         return Done;
     case Request::Action::Single:
         return doSingle(project);

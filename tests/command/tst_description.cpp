@@ -7,6 +7,7 @@
 #include "model/tileanimation.h"
 
 #include <QTest>
+#include <QTextStream>
 
 #include <algorithm>
 #include <functional>
@@ -26,6 +27,16 @@ QStringList difference(const QByteArray &before, const QByteArray &after)
     for (const QByteArray &line : old)
         changes.append("-" + QString::fromUtf8(line).trimmed());
     return changes + added;
+}
+
+/// The description as UTF-8.
+QByteArray described(const Project &project)
+{
+    QByteArray text;
+    QTextStream out(&text);
+    describe(project, out);
+    out.flush();
+    return text;
 }
 
 using Edit = std::function<void(Project &)>;
@@ -117,19 +128,19 @@ private slots:
     {
         QFETCH(const Edit, edit);
         QFETCH(QStringList, changes);
-        const QByteArray before = describe(*m_project);
+        const QByteArray before = described(*m_project);
         edit(*m_project);
-        const QByteArray after = describe(*m_project);
+        const QByteArray after = described(*m_project);
         for (int i = 0; i < 4; ++i)
             changes.replaceInStrings("ID" + QString::number(i), m_project->images()[i]->id().toString());
         QCOMPARE(difference(before, after), changes);
-        QCOMPARE(describe(*m_project), after);
+        QCOMPARE(described(*m_project), after);
     }
 
     /// What refers to something that is not there says so, and what is blank is short.
     void readsWell()
     {
-        const QByteArrayList lines = describe(*m_project).split('\n');
+        const QByteArrayList lines = described(*m_project).split('\n');
         const auto follows = [&](const QByteArray &first, const QByteArray &next) {
             return lines.value(lines.indexOf(first) + 1) == next;
         };
