@@ -38,6 +38,8 @@ private slots:
         QVariantList expected = state();
         for (const auto &[key, modifiers, field, value] :
              {std::tuple(Qt::Key_S, Qt::NoModifier, 0, QVariant(int(Select))),
+              {Qt::Key_P, Qt::NoModifier, 0, int(Pick)},
+              {Qt::Key_D, Qt::NoModifier, 0, int(Draw)},
               {Qt::Key_R, Qt::ControlModifier, 1, true},
               {Qt::Key_F, Qt::ShiftModifier, 2, true},
               {Qt::Key_M, Qt::ShiftModifier, 3, true},
