@@ -24,8 +24,7 @@
 #include "model/tilemapformat.h"
 #include "nextdata/families.h"
 #include "nextdata/records.h"
-
-#include <QCoreApplication>
+#include "nextdata/tr.h"
 
 #include <optional>
 
@@ -38,11 +37,6 @@ constexpr int WordBytes = 2;
 constexpr int HeadBytes = 6;
 constexpr int CellBytes = 2;
 constexpr int MostIndex = 511; ///< of a cell
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("NextData", text);
-}
 
 template <typename Owner>
 Animations animationsOf(const Source &source)

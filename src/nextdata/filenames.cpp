@@ -1,6 +1,7 @@
 #include "nextdata/filenames.h"
 
-#include <QCoreApplication>
+#include "nextdata/tr.h"
+
 #include <QStringList>
 
 #include <algorithm>
@@ -10,11 +11,6 @@ namespace {
 
 constexpr qsizetype LongestBase = 80; ///< leaves room for a part and a suffix, whatever takes four bytes a character
 constexpr qsizetype LongestName = 255; ///< in bytes, that file systems take
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("NextData", text);
-}
 
 bool isForbidden(QChar c)
 {

@@ -2,8 +2,7 @@
 
 #include "nextdata/families.h"
 #include "nextdata/output.h"
-
-#include <QCoreApplication>
+#include "nextdata/tr.h"
 
 #include <algorithm>
 
@@ -47,7 +46,7 @@ QList<const Form *> formsFor(const Source &source)
 QString refusalOf(const Form &form, const Source &source)
 {
     if (form.kind != source.kind()) {
-        return QCoreApplication::translate("NextData", "“%1” is %2, and the form %3 is for %4")
+        return tr("“%1” is %2, and the form %3 is for %4")
             .arg(source.name(), titleOf(source.kind()), form.id, titleOf(form.kind));
     }
     return form.refusal ? form.refusal(source) : QString();

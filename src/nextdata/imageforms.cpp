@@ -1,11 +1,9 @@
-// Full-screen pictures.
+// Full-screen pictures, a byte a pixel where nothing else is said.
 //
-//   layer2-256   49,152 bytes: 256 × 192 pixels, a byte each, by rows
-//   layer2-320   81,920 bytes: 320 × 256 pixels, a byte each, by columns
-//   layer2-640   81,920 bytes: 640 × 256 pixels, by columns of pairs, two pixels a byte, the left one in the high
-//   nibble lores        12,288 bytes: 128 × 96 pixels, a byte each, by rows; on request in two files of 48 rows, which
-//   the
-//                machine has at $4000 and $6000
+//   layer2-256   49,152 bytes: 256 × 192 pixels by rows
+//   layer2-320   81,920 bytes: 320 × 256 pixels by columns
+//   layer2-640   81,920 bytes: 640 × 256 pixels by columns of pairs; the left one in the high nibble of a byte
+//   lores        12,288 bytes: 128 × 96 pixels by rows; on request in two files of 48 rows, for $4000 and $6000
 //
 // Each may have the 512 bytes of its palette (form "palette") in front.
 
@@ -14,8 +12,7 @@
 #include "nextdata/families.h"
 #include "nextdata/palettewords.h"
 #include "nextdata/pixels.h"
-
-#include <QCoreApplication>
+#include "nextdata/tr.h"
 
 namespace NextData {
 namespace {
@@ -23,11 +20,6 @@ namespace {
 using Quenmora::ImageMode;
 
 constexpr int PaletteBytes = 2 * Palette::Size;
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("NextData", text);
-}
 
 template <ImageMode Mode>
 QString refusal(const Source &source)
@@ -40,6 +32,11 @@ QString refusal(const Source &source)
         .arg(image.name(), text(image.image().size()), text(Image::sizeOf(Mode)));
 }
 
+Failure noPalette(const Source &source)
+{
+    return {tr("“%1” has no palette that could stand in front").arg(source.name())};
+}
+
 template <ImageMode Mode>
 Result<qint64> size(const Source &source, const OptionValues &values)
 {
@@ -48,7 +45,7 @@ Result<qint64> size(const Source &source, const OptionValues &values)
     if (!values.flag("palette"))
         return bytes;
     if (!source.as<Image>().palette())
-        return Failure{tr("“%1” has no palette that could stand in front").arg(source.name())};
+        return noPalette(source);
     return PaletteBytes + bytes;
 }
 
@@ -60,7 +57,7 @@ Result<Data> withPalette(const Source &source, const OptionValues &values, const
     if (values.flag("palette")) {
         const QPointer<Palette> palette = source.as<Image>().palette();
         if (!palette)
-            return Failure{tr("“%1” has no palette that could stand in front").arg(source.name())};
+            return noPalette(source);
         data.blocks.append({.bytes = paletteWords(*palette, 0, Palette::Size), .name = QStringLiteral("palette")});
     }
     for (Data::Block block : pixels) {

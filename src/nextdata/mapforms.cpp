@@ -9,8 +9,7 @@
 #include "model/map.h"
 #include "model/tilemapformat.h"
 #include "nextdata/families.h"
-
-#include <QCoreApplication>
+#include "nextdata/tr.h"
 
 #include <algorithm>
 #include <optional>
@@ -26,11 +25,6 @@ constexpr int MostIndex = 511; ///< of a cell of two bytes
 constexpr int MostByteIndex = 255;
 constexpr int MostSide = 9999; ///< cells along a screen
 constexpr int LongestLine = 160; ///< bytes in a line of text: a row of 80 cells
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("NextData", text);
-}
 
 Rows rowsOf(const Map &map)
 {

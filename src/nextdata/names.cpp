@@ -1,6 +1,6 @@
 #include "nextdata/names.h"
 
-#include <QCoreApplication>
+#include "nextdata/tr.h"
 
 #include <algorithm>
 
@@ -9,11 +9,6 @@ namespace {
 
 constexpr qsizetype LongestWord = 40; ///< two of them are below the 127 characters that assemblers tell apart
 constexpr qsizetype LongestLabel = 56; ///< of those that people choose
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("NextData", text);
-}
 
 /// Words that mean something to one of the assemblers or to C, in lower case.
 const QSet<QString> &reservedWords()

@@ -24,19 +24,13 @@
 #include "model/spritebank.h"
 #include "nextdata/families.h"
 #include "nextdata/records.h"
-
-#include <QCoreApplication>
+#include "nextdata/tr.h"
 
 namespace NextData {
 namespace {
 
 constexpr int CountBytes = 2;
 constexpr int RecordBytes = 16;
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("NextData", text);
-}
 
 /// The place of the asset with an id in a list; -1 when it has none.
 template <typename Asset>

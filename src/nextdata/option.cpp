@@ -1,17 +1,13 @@
 #include "nextdata/option.h"
 
-#include <QCoreApplication>
+#include "nextdata/tr.h"
+
 #include <QStringList>
 
 #include <algorithm>
 
 namespace NextData {
 namespace {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("NextData", text);
-}
 
 const QString True = QStringLiteral("true");
 const QString False = QStringLiteral("false");

@@ -3,8 +3,7 @@
 #include "nextdata/filenames.h"
 #include "nextdata/names.h"
 #include "nextdata/sourcetext.h"
-
-#include <QCoreApplication>
+#include "nextdata/tr.h"
 
 #include <limits>
 #include <optional>
@@ -14,11 +13,6 @@ namespace {
 
 using Blocks = QList<Data::Block>;
 using SourceText::Dialect;
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("NextData", text);
-}
 
 const QString HeaderGuard = QString::fromLatin1(SourceText::HeaderGuard);
 

@@ -8,19 +8,13 @@
 #include "model/palette.h"
 #include "nextdata/families.h"
 #include "nextdata/palettewords.h"
-
-#include <QCoreApplication>
+#include "nextdata/tr.h"
 
 namespace NextData {
 namespace {
 
 constexpr int GroupSize = 16;
 constexpr char HardwareTransparency = '\xE3'; ///< what the machine starts with, as an index and as a colour
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("NextData", text);
-}
 
 Result<qint64> sizeOfWords(const Source &, const OptionValues &)
 {

@@ -1,16 +1,11 @@
 #include "nextdata/range.h"
 
-#include <QCoreApplication>
+#include "nextdata/tr.h"
 
 namespace NextData {
 namespace {
 
 constexpr int Most = 65535;
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("NextData", text);
-}
 
 } // namespace
 

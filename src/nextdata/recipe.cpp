@@ -3,9 +3,9 @@
 #include "model/rawfile.h"
 #include "nextdata/filenames.h"
 #include "nextdata/form.h"
+#include "nextdata/tr.h"
 #include "nextdata/wholefile.h"
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 
@@ -13,11 +13,6 @@
 
 namespace NextData {
 namespace {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("NextData", text);
-}
 
 /// Whether two files are one on some system that the project may come to.
 bool isSameFile(const QString &a, const QString &b)

@@ -31,8 +31,8 @@ struct RecipeOutput
 ///     {
 ///         "formatVersion": 1,
 ///         "outputs": [
-///             {"kind": "palette", "id": "…", "name": "Level", "form": "palette-512", "options": {}, "file": "a.pal"},
-///             {"kind": "map", "id": "…", "name": "Level", "form": "map-8", "options": {"pad": 256}, "file":
+///             {"kind": "palette", "id": "…", "name": "Level", "form": "palette", "options": {}, "file": "a.pal"},
+///             {"kind": "map", "id": "…", "name": "Level", "form": "map-2byte", "options": {"pad": 256}, "file":
 ///             "level.map"}
 ///         ]
 ///     }

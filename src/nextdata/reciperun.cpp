@@ -1,9 +1,9 @@
 #include "nextdata/reciperun.h"
 
 #include "nextdata/form.h"
+#include "nextdata/tr.h"
 #include "nextdata/wholefile.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 
@@ -14,11 +14,6 @@ using State = RecipeRun::State;
 using Outcome = RecipeRun::Outcome;
 
 constexpr qsizetype KeptFile = -1;
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("NextData", text);
-}
 
 /// A key that is the same for names that are one file on some system.
 QString keyOf(const QString &place)

@@ -2,8 +2,8 @@
 
 #include "nextdata/form.h"
 #include "nextdata/recipe.h"
+#include "nextdata/tr.h"
 
-#include <QCoreApplication>
 #include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -29,11 +29,6 @@ constexpr QLatin1String Name("name");
 constexpr QLatin1String FormId("form");
 constexpr QLatin1String Options("options");
 constexpr QLatin1String File("file");
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("NextData", text);
-}
 
 std::optional<AssetKind> kindOf(const QString &word)
 {
@@ -128,7 +123,8 @@ private:
             }
             const QString file = output.file.toCaseFolded();
             if (lineOfFile.contains(file) && !file.isEmpty())
-                note(tr("“%1” is the file of line %2 already").arg(output.file, QString::number(lineOfFile.value(file))));
+                note(tr("“%1” is the file of line %2 already")
+                         .arg(output.file, QString::number(lineOfFile.value(file))));
             lineOfFile.insert(file, m_line);
             outputs.append(output);
         }

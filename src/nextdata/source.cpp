@@ -7,18 +7,12 @@
 #include "model/project.h"
 #include "model/spritebank.h"
 #include "model/tileset.h"
-
-#include <QCoreApplication>
+#include "nextdata/tr.h"
 
 #include <algorithm>
 
 namespace NextData {
 namespace {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("NextData", text);
-}
 
 template <typename Asset>
 void append(QList<Source> &sources, const Project &project, const QList<QPointer<Asset>> &assets)

@@ -9,16 +9,10 @@
 #include "nextdata/families.h"
 #include "nextdata/pixels.h"
 #include "nextdata/range.h"
-
-#include <QCoreApplication>
+#include "nextdata/tr.h"
 
 namespace NextData {
 namespace {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("NextData", text);
-}
 
 Result<Range> rangeOf(const Source &source, const OptionValues &values)
 {

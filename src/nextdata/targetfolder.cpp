@@ -1,19 +1,14 @@
 #include "nextdata/targetfolder.h"
 
 #include "nextdata/filenames.h"
+#include "nextdata/tr.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QStringList>
 
 namespace NextData {
 namespace {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("NextData", text);
-}
 
 /// The path with its links followed, as far as it exists.
 QString withoutLinks(const QString &path)

@@ -9,18 +9,12 @@
 #include "model/tileset.h"
 #include "nextdata/families.h"
 #include "nextdata/range.h"
-
-#include <QCoreApplication>
+#include "nextdata/tr.h"
 
 namespace NextData {
 namespace {
 
 constexpr int PixelCount = Tile::Size * Tile::Size;
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("NextData", text);
-}
 
 Result<Range> rangeOf(const Source &source, const OptionValues &values)
 {
