@@ -6,8 +6,8 @@
 build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-svg-dev libgl1-mesa-dev libminizip-dev zlib1g-dev
     libdeflate-dev libxxhash-dev fonts-dejavu-core)
 
-# The assemblers to which tests give the source text that is written for them.
-test_packages=(z80asm binutils-z80)
+# The assemblers to which tests give the source text that is written for them, and what builds the example game.
+test_packages=(z80asm binutils-z80 make)
 
 jobs=$(nproc 2>/dev/null || echo 2)
 
