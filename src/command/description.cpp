@@ -12,22 +12,17 @@
 #include "model/tileanimation.h"
 #include "model/tilemap.h"
 #include "model/tileset.h"
+#include "nextdata/quoted.h"
 
 #include <QHash>
-#include <QJsonArray>
-#include <QJsonDocument>
 #include <QTextStream>
+
+using NextData::quoted;
 
 namespace {
 
-/// Runs of so many equal pixels or cells, or more, are told by their number.
+/// Runs of so many equal cells, or more, are told by their number.
 constexpr int ShortestRun = 4;
-
-/// The name in quotes, on one line whatever it holds.
-QByteArray quoted(const QString &name)
-{
-    return QJsonDocument(QJsonArray{name}).toJson(QJsonDocument::Compact).sliced(1).chopped(1);
-}
 
 QByteArray hex(uint value, int digits)
 {
@@ -44,36 +39,21 @@ QByteArray onOff(bool on)
     return on ? "on" : "off";
 }
 
-/// The rows of a picture, with so many hexadecimal digits a pixel of which only the last ones are told.
-class PixelRows
+/// A row of a picture, with one or two hexadecimal digits a pixel: of one, only the low half is told.
+QByteArray pixelRow(const QImage &image, int y, int digits)
 {
-public:
-    PixelRows(const QImage &image, int digits) : m_image(image), m_digits(digits) { }
-
-    [[nodiscard]] int count() const { return m_image.height(); }
-
-    [[nodiscard]] QByteArray row(int y) const
-    {
-        constexpr const char *Digits = "0123456789abcdef";
-        const uchar *pixels = m_image.constScanLine(y);
-        const int mask = m_digits == 1 ? 0x0F : 0xFF;
-        bool isPlain = true;
-        QByteArray text;
-        text.reserve(m_image.width() * m_digits);
-        for (int x = 0; x < m_image.width(); ++x) {
-            isPlain = isPlain && (pixels[x] & mask) == (pixels[0] & mask);
-            if (m_digits == 2)
-                text += Digits[pixels[x] >> 4];
-            text += Digits[pixels[x] & 15];
-        }
-        return isPlain ? text.first(qMin<qsizetype>(m_digits, text.size())) + '*' + QByteArray::number(m_image.width())
-                       : text;
+    constexpr const char *Digits = "0123456789abcdef";
+    const uchar *pixels = image.constScanLine(y);
+    QByteArray text;
+    text.reserve(image.width() * digits);
+    for (int x = 0; x < image.width(); ++x) {
+        if (digits == 2)
+            text += Digits[pixels[x] >> 4];
+        text += Digits[pixels[x] & 15];
     }
-
-private:
-    const QImage m_image;
-    const int m_digits;
-};
+    const QByteArray first = text.left(digits);
+    return text == first.repeated(image.width()) ? first + '*' + QByteArray::number(image.width()) : text;
+}
 
 /// A row of cells, runs of equal ones told once.
 template <typename Cell, typename Text>
@@ -173,9 +153,8 @@ private:
 
     void pixels(int depth, const QImage &image, int digits)
     {
-        const PixelRows rows(image, digits);
-        for (int y = 0; y < rows.count(); ++y)
-            line(depth, rows.row(y));
+        for (int y = 0; y < image.height(); ++y)
+            line(depth, pixelRow(image, y, digits));
     }
 
     void describeSettings()

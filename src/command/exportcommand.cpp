@@ -4,14 +4,13 @@
 #include "command/description.h"
 #include "model/project.h"
 #include "nextdata/form.h"
+#include "nextdata/quoted.h"
 #include "nextdata/wholefile.h"
 #include "store/projectstore.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
-#include <QJsonArray>
-#include <QJsonDocument>
 #include <QTextStream>
 
 #include <algorithm>
@@ -42,12 +41,6 @@ QString wordOf(State state)
         return tr("failed");
     }
     return {};
-}
-
-/// The name in quotes, on one line whatever it holds.
-QString quoted(const QString &name)
-{
-    return QString::fromUtf8(QJsonDocument(QJsonArray{name}).toJson(QJsonDocument::Compact).sliced(1).chopped(1));
 }
 
 /// The file in a folder, as people and build tools name it: without a folder where that is the current one.
@@ -180,7 +173,7 @@ int ExportCommand::listAssets(const Project &project)
 {
     for (const Source &source : Source::all(project)) {
         m_out << NextData::wordOf(source.kind()).leftJustified(KindWidth) << ' '
-              << source.id().toString(QUuid::WithoutBraces) << ' ' << quoted(source.name()) << '\n';
+              << source.id().toString(QUuid::WithoutBraces) << ' ' << QString::fromUtf8(quoted(source.name())) << '\n';
     }
     return Done;
 }

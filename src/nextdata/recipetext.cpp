@@ -1,6 +1,7 @@
 // The text of a recipe, read and written.
 
 #include "nextdata/form.h"
+#include "nextdata/quoted.h"
 #include "nextdata/recipe.h"
 #include "nextdata/tr.h"
 
@@ -12,6 +13,7 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <cctype>
 #include <cmath>
 #include <optional>
 
@@ -204,12 +206,6 @@ private:
 
     int m_line = 0;
 };
-
-/// The text as JSON has it, quotes included.
-QByteArray quoted(const QString &text)
-{
-    return QJsonDocument(QJsonArray{text}).toJson(QJsonDocument::Compact).sliced(1).chopped(1);
-}
 
 QByteArray optionsText(const RecipeOutput &output)
 {

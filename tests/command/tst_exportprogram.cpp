@@ -5,7 +5,6 @@
 #include "support/testmain.h"
 
 #include <QDir>
-#include <QDirIterator>
 #include <QElapsedTimer>
 #include <QProcess>
 #include <QStandardPaths>
@@ -26,19 +25,19 @@ struct Ending
     QByteArray text;
 };
 
+/// Runs a program; bare without what a desktop sets, and with a platform that Qt does not have.
 Ending run(const QString &program, const QStringList &words, const QString &folder = {}, bool isBare = false)
 {
-    QProcess process;
-    process.setProcessChannelMode(QProcess::MergedChannels);
-    process.setWorkingDirectory(folder);
     QProcessEnvironment environment;
-    environment.insert("PATH", qEnvironmentVariable("PATH"));
-    if (isBare) // what is wrong would be noticed when a platform were needed
+    if (isBare)
         environment.insert("QT_QPA_PLATFORM", "none");
     else
         environment = QProcessEnvironment::systemEnvironment();
     environment.insert("LC_ALL", "C");
+    QProcess process;
+    process.setProcessChannelMode(QProcess::MergedChannels);
     process.setProcessEnvironment(environment);
+    process.setWorkingDirectory(folder);
     process.start(program, words);
     const bool hasEnded = process.waitForFinished(Patience) && process.exitStatus() == QProcess::NormalExit;
     return {hasEnded ? process.exitCode() : -1, process.readAll()};
