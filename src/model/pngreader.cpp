@@ -42,26 +42,28 @@ QByteArray chunk(const QByteArray &type, const QByteArray &content)
     return bigEndian(quint32(content.size())) + type + content + bigEndian(checksum(content, checksum(type, 0)));
 }
 
-/// Undoes the filter of a row of bytes; above is the row over it, zeros over the first one.
-void unfilter(int filter, uchar *row, const uchar *above, int width)
+/// Undoes the filter of a row of bytes; above is the row over it, zeros over the first one. What stands left of a byte
+/// is that of the pixel before, of so many bytes.
+template <int PixelSize>
+void unfilter(int filter, uchar *row, const uchar *above, int size)
 {
     switch (filter) {
     case 1:
-        for (int x = 1; x < width; ++x)
-            row[x] = uchar(row[x] + row[x - 1]);
+        for (int x = PixelSize; x < size; ++x)
+            row[x] = uchar(row[x] + row[x - PixelSize]);
         break;
     case 2:
-        for (int x = 0; x < width; ++x)
+        for (int x = 0; x < size; ++x)
             row[x] = uchar(row[x] + above[x]);
         break;
     case 3:
-        for (int x = 0; x < width; ++x)
-            row[x] = uchar(row[x] + ((x > 0 ? row[x - 1] : 0) + above[x]) / 2);
+        for (int x = 0; x < size; ++x)
+            row[x] = uchar(row[x] + ((x >= PixelSize ? row[x - PixelSize] : 0) + above[x]) / 2);
         break;
     case 4: // the neighbour that is nearest to left + above − corner
-        for (int x = 0; x < width; ++x) {
-            const int left = x > 0 ? row[x - 1] : 0;
-            const int corner = x > 0 ? above[x - 1] : 0;
+        for (int x = 0; x < size; ++x) {
+            const int left = x >= PixelSize ? row[x - PixelSize] : 0;
+            const int corner = x >= PixelSize ? above[x - PixelSize] : 0;
             const int toLeft = std::abs(above[x] - corner);
             const int toAbove = std::abs(left - corner);
             const int toCorner = std::abs(left + above[x] - 2 * corner);
@@ -73,6 +75,19 @@ void unfilter(int filter, uchar *row, const uchar *above, int width)
         break;
     default:
         break;
+    }
+}
+
+/// Puts a row of pixels, of so many bytes each, into a picture.
+template <int PixelSize>
+void store(const uchar *row, int width, uchar *to)
+{
+    if constexpr (PixelSize == 1) {
+        std::memcpy(to, row, size_t(width));
+    } else {
+        auto *pixels = reinterpret_cast<QRgb *>(to);
+        for (int x = 0; x < width; ++x, row += PixelSize)
+            pixels[x] = qRgba(row[0], row[1], row[2], PixelSize == 4 ? row[3] : 255);
     }
 }
 
@@ -210,8 +225,8 @@ QList<QSize> PngReader::passes() const
 
 bool PngReader::isPlain() const
 {
-    return m_depth == 8 && !m_interlaced
-        && (m_colourType == Palette || (m_colourType == Grey && m_transparency.isEmpty()));
+    return m_depth == 8 && !m_interlaced && m_colourType != GreyAlpha
+        && (m_colourType == Palette || m_transparency.isEmpty());
 }
 
 QByteArray PngReader::take(qint64 count)
@@ -307,48 +322,74 @@ QImage PngReader::read()
 
 QImage PngReader::readPlain(const Chunk &first)
 {
-    const int width = m_size.width();
-    const int height = m_size.height();
-    QImage image(m_size, m_colourType == Palette ? QImage::Format_Indexed8 : QImage::Format_Grayscale8);
+    const QImage::Format format = m_colourType == Palette ? QImage::Format_Indexed8
+        : m_colourType == Grey                            ? QImage::Format_Grayscale8
+        : m_colourType == Colours                         ? QImage::Format_RGB32
+                                                          : QImage::Format_ARGB32;
+    QImage image(m_size, format);
     if (image.isNull())
         return {};
+    if (m_colourType == Palette)
+        image.setColorTable(colourTable());
+    PixelStream stream(*this, first, nullptr);
+    const bool read = channels() == 1 ? readRows<1>(stream, image)
+        : channels() == 3             ? readRows<3>(stream, image)
+                                      : readRows<4>(stream, image);
+    return read && stream.finish() ? image : QImage();
+}
+
+QList<QRgb> PngReader::colourTable() const
+{
     QList<QRgb> table;
     for (qsizetype i = 0; i < m_colours.size() / 3; ++i) {
         const auto component = [this, i](int which) { return int(uchar(m_colours.at(3 * i + which))); };
         const int alpha = i < m_transparency.size() ? uchar(m_transparency.at(i)) : 255;
         table.append(qRgba(component(0), component(1), component(2), alpha));
     }
-    if (m_colourType == Palette)
-        image.setColorTable(table);
+    return table;
+}
 
-    PixelStream stream(*this, first, nullptr);
-    const qint64 rowSize = width + 1; // each row begins with its filter
+/// Reads all rows of pixels that have so many bytes.
+template <int PixelSize>
+bool PngReader::readRows(PixelStream &stream, QImage &image) const
+{
+    const int height = m_size.height();
+    const int rowBytes = m_size.width() * PixelSize;
+    const qint64 rowSize = qint64(rowBytes) + 1; // each row begins with its filter
     const int most = int(std::max<qint64>(1, SliceSize / rowSize));
-    QByteArray rows(most * rowSize, Qt::Uninitialized);
-    const QByteArray zeros(width, '\0');
-    const auto *above = reinterpret_cast<const uchar *>(zeros.constData());
+    // in front of those that are read stands the row over them
+    QByteArray rows((1 + most) * rowSize, '\0');
     for (int y = 0; y < height; y += most) {
         const int count = std::min(most, height - y);
-        auto *row = reinterpret_cast<uchar *>(rows.data());
-        if (!stream.read(row, count * rowSize))
-            return {};
-        for (int i = 0; i < count; ++i, row += rowSize) {
+        auto *above = reinterpret_cast<uchar *>(rows.data());
+        if (!stream.read(above + rowSize, count * rowSize))
+            return false;
+        for (int i = 0; i < count; ++i, above += rowSize) {
+            uchar *row = above + rowSize;
             if (row[0] > LastFilter)
-                return {};
-            uchar *pixels = image.scanLine(y + i);
-            std::memcpy(pixels, row + 1, size_t(width));
-            unfilter(row[0], pixels, above, width);
-            above = pixels;
+                return false;
+            unfilter<PixelSize>(row[0], row + 1, above + 1, rowBytes);
+            store<PixelSize>(row + 1, m_size.width(), image.scanLine(y + i));
         }
+        std::memcpy(rows.data(), above, size_t(rowSize));
     }
-    return stream.finish() ? image : QImage();
+    return true;
 }
 
 QImage PngReader::readOther(const Chunk &first)
 {
-    QByteArray packed;
+    // all of it is kept once, so the length of the pixels is filled in when it is known
+    QByteArray png = Signature.toByteArray() + chunk("IHDR", m_head);
+    if (!m_colours.isEmpty())
+        png += chunk("PLTE", m_colours);
+    if (!m_transparency.isEmpty())
+        png += chunk("tRNS", m_transparency);
+    const qsizetype length = png.size();
+    const qsizetype type = length + qsizetype(sizeof(quint32));
+    png += bigEndian(0) + first.type;
+    const qsizetype pixels = png.size();
     {
-        PixelStream stream(*this, first, &packed);
+        PixelStream stream(*this, first, &png);
         QByteArray row;
         for (const QSize pass : passes()) {
             row.resize(bytesPerRow(pass.width()) + 1);
@@ -360,13 +401,8 @@ QImage PngReader::readOther(const Chunk &first)
         if (!stream.finish())
             return {};
     }
-    QByteArray png = Signature.toByteArray() + chunk("IHDR", m_head);
-    if (!m_colours.isEmpty())
-        png += chunk("PLTE", m_colours);
-    if (!m_transparency.isEmpty())
-        png += chunk("tRNS", m_transparency);
-    png += chunk("IDAT", packed) + chunk("IEND", {});
-    packed.clear();
+    qToBigEndian(quint32(png.size() - pixels), png.data() + length);
+    png += bigEndian(checksum(QByteArrayView(png).sliced(type), 0)) + chunk("IEND", {});
     QBuffer buffer(&png);
     QImageReader reader(&buffer, "png");
     reader.setAutoDetectImageFormat(false);

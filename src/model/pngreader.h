@@ -10,8 +10,8 @@ class QIODevice;
 /// Reads a PNG from a device, which may be sequential and may hold anything, as far as its pixels go.
 ///
 /// libpng prints what it finds wrong on the standard error output, past the log. So nothing reaches it that was not
-/// checked here before, chunk by chunk down to the packed pixels, and the 8-bit pictures that this program writes
-/// itself are read here altogether.
+/// checked here before, chunk by chunk down to the packed pixels; and the usual pictures, of eight bits a sample, are
+/// read here altogether, a few rows at a time.
 class PngReader
 {
 public:
@@ -45,7 +45,7 @@ private:
     [[nodiscard]] qint64 bytesPerRow(int width) const;
     /// The sizes of the pictures that an interlaced one is made of; else its own.
     [[nodiscard]] QList<QSize> passes() const;
-    /// Whether the pixels are bytes as they stand, without a colour that is transparent among greys.
+    /// Whether the pixels are rows of whole bytes, which are read here.
     [[nodiscard]] bool isPlain() const;
 
     [[nodiscard]] QByteArray take(qint64 count);
@@ -56,10 +56,14 @@ private:
     /// Goes to the first pixels, keeping the colours that precede them.
     [[nodiscard]] bool findPixels(Chunk &chunk);
     [[nodiscard]] QImage readPlain(const Chunk &first);
+    [[nodiscard]] QList<QRgb> colourTable() const;
     /// Checks the pixels, and lets Qt decode what it needs for them.
     [[nodiscard]] QImage readOther(const Chunk &first);
 
     class PixelStream;
+
+    template <int PixelSize>
+    [[nodiscard]] bool readRows(PixelStream &stream, QImage &image) const;
 
     QIODevice &m_device;
     qint64 m_allowance; ///< bytes that may still be read: no more than a picture of this size can need
