@@ -3,7 +3,6 @@
 #include "model/nximage.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace {
 
@@ -12,17 +11,6 @@ constexpr QRgb Black = 0xff000000;
 QSize cellsOf(const QImage &picture, int side)
 {
     return side > 0 ? QSize(picture.width() / side, picture.height() / side) : QSize(0, 0);
-}
-
-/// Copies the square at (x, y) out of an 8-bit picture; what lies outside of it is 0.
-void cut(const QImage &picture, int x, int y, int side, uchar *pixels)
-{
-    const int width = std::clamp(picture.width() - x, 0, side);
-    const int height = width > 0 ? std::clamp(picture.height() - y, 0, side) : 0;
-    if (width < side || height < side)
-        std::memset(pixels, 0, size_t(side) * size_t(side));
-    for (int row = 0; row < height; ++row)
-        std::memcpy(pixels + row * side, picture.constScanLine(y + row) + x, size_t(width));
 }
 
 /// A square picture whose pixels are the values of these pixels in a map.
@@ -66,68 +54,58 @@ ImageSlicer::ImageSlicer(const QImage &source, QObject *parent)
 
 int ImageSlicer::sliceTiles()
 {
-    const NxImage snapped(m_source);
-    const QImage indexed = snapped.toIndexed();
-    slice(indexed, TileSide, cellsOf(m_source, TileSide));
-    if (snapped.colours().size() > indexed.colorCount())
-        findReducedPieces(snapped.image(), indexed);
+    slice(PictureIndices(m_source), TileSide, cellsOf(m_source, TileSide));
     assignBanks();
     return m_pieces.count();
 }
 
 int ImageSlicer::sliceSprites(int size)
 {
-    sliceSpritesOf(NxImage(m_source).toIndexed(), size);
+    sliceSpritesOf(PictureIndices(m_source), size);
     return m_pieces.count();
 }
 
 int ImageSlicer::sliceIndexedSprites()
 {
-    Q_ASSERT(m_source.isNull() || m_source.format() == QImage::Format_Indexed8);
-    sliceSpritesOf(m_source, SpriteSide);
+    sliceSpritesOf(PictureIndices::ofIndexed(m_source), SpriteSide);
     return m_pieces.count();
 }
 
-void ImageSlicer::sliceSpritesOf(const QImage &picture, int size)
+void ImageSlicer::sliceSpritesOf(const PictureIndices &picture, int size)
 {
-    slice(picture, SpriteSide, cellsOf(picture, size));
+    slice(picture, SpriteSide, cellsOf(m_source, size));
     for (auto &[piece, orientation] : m_placements)
         orientation = 0;
 }
 
-void ImageSlicer::slice(const QImage &picture, int side, const QSize &cells)
+void ImageSlicer::slice(const PictureIndices &picture, int side, const QSize &cells)
 {
+    m_picture = picture;
     m_cells = picture.isNull() ? QSize(0, 0) : cells;
-    m_colours = picture.colorTable();
-    m_pieces = PieceTable(side);
+    m_pieces = PieceTable(side, [this](int cell, uchar *pixels) { readCell(cell, pixels); });
     m_placements.clear();
     m_placements.reserve(cellCount());
     m_reduced.clear();
     m_banks.fill(Bank());
     m_assignments.clear();
 
-    std::array<uchar, PieceTable::MaxSide * PieceTable::MaxSide> pixels;
-    for (int row = 0; row < m_cells.height(); ++row) {
-        for (int column = 0; column < m_cells.width(); ++column) {
-            cut(picture, column * side, row * side, side, pixels.data());
-            m_placements.append(m_pieces.add(pixels.data()));
-            emit processed(int(m_placements.size()) - 1);
+    PieceTable::Pixels pixels;
+    for (int cell = 0; cell < cellCount(); ++cell) {
+        const bool exact = readCell(cell, pixels.data());
+        const Placement placement = m_pieces.add(pixels.data(), cell);
+        m_placements.append(placement);
+        if (!exact) {
+            m_reduced.resize(m_pieces.count());
+            m_reduced[placement.first] = true;
         }
+        emit processed(cell);
     }
 }
 
-/// Marks the pieces of all cells in which a pixel does not show its colour.
-void ImageSlicer::findReducedPieces(const QImage &picture, const QImage &indexed)
+bool ImageSlicer::readCell(int cell, uchar *pixels) const
 {
-    m_reduced.resize(m_pieces.count());
-    for (int y = 0; y < m_cells.height() * TileSide; ++y) {
-        const auto *colours = reinterpret_cast<const QRgb *>(picture.constScanLine(y));
-        const uchar *indices = indexed.constScanLine(y);
-        for (int x = 0; x < m_cells.width() * TileSide; ++x) {
-            if (m_colours.at(indices[x]) != colours[x])
-                m_reduced[m_placements.at(y / TileSide * m_cells.width() + x / TileSide).first] = true;
-        }
-    }
+    const int side = m_pieces.side();
+    return m_picture.read(cell % m_cells.width() * side, cell / m_cells.width() * side, side, pixels);
 }
 
 int ImageSlicer::lossyTileCount() const
@@ -157,7 +135,8 @@ ImageSlicer::TileColours ImageSlicer::coloursOf(int index) const
 {
     TileColours colours;
     std::array<bool, 256> seen{};
-    const uchar *pixels = m_pieces.pixels(index);
+    PieceTable::Pixels buffer;
+    const uchar *pixels = m_pieces.pixels(index, buffer);
     for (int i = 0; i < TileSide * TileSide; ++i) {
         if (!std::exchange(seen[pixels[i]], true))
             colours.append(pixels[i]);
@@ -174,18 +153,20 @@ QImage ImageSlicer::piece(int index) const
 
 QImage ImageSlicer::sprite(int index) const
 {
+    PieceTable::Pixels buffer;
     return mapped(
-        m_pieces.pixels(index), SpriteSide, [](uchar colour) { return colour; }, m_colours);
+        m_pieces.pixels(index, buffer), SpriteSide, [](uchar colour) { return colour; }, colours());
 }
 
 QImage ImageSlicer::tile(int index) const
 {
-    const uchar *pixels = m_pieces.pixels(index);
+    PieceTable::Pixels buffer;
+    const uchar *pixels = m_pieces.pixels(index, buffer);
     if (index >= m_assignments.size()) {
         const TileColours colours = coloursOf(index);
         QList<QRgb> table;
         for (const uchar colour : colours)
-            table.append(m_colours.at(colour));
+            table.append(m_picture.colourTable().at(colour));
         return mapped(
             pixels, TileSide, [&](uchar colour) { return colours.indexOf(colour); }, table);
     }
@@ -232,8 +213,8 @@ QList<QRgb> ImageSlicer::bankColours() const
 /// The colours of a bank's first used slots, the others black.
 QList<QRgb> ImageSlicer::slotColours(const Bank &bank, int used) const
 {
-    QList<QRgb> colours(BankSize, Black);
+    QList<QRgb> ofBank(BankSize, Black);
     for (int slot = 0; slot < used; ++slot)
-        colours[slot] = m_colours.at(bank.colourAt(slot));
-    return colours;
+        ofBank[slot] = colours().at(bank.colourAt(slot));
+    return ofBank;
 }

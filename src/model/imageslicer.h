@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/pictureindices.h"
 #include "model/piecetable.h"
 
 #include <QImage>
@@ -16,7 +17,8 @@
 ///
 /// For tiles it also records the orientation of every cell, and packs the colours of the pieces into
 /// 16 banks of 16, so that each piece can be shown as a 4-bit tile with a palette offset. A partial
-/// column or row at the right or bottom is dropped. A picture that NxImage does not accept has no cells.
+/// column or row at the right or bottom is dropped. A picture that NxImage does not accept has no cells. Besides
+/// the picture, which it shares, it takes a few bytes a cell.
 class ImageSlicer : public QObject
 {
     Q_OBJECT
@@ -64,7 +66,7 @@ public:
     /// One entry a cell, row by row.
     [[nodiscard]] QList<Placement> placements() const { return m_placements; }
     /// The snapped colours of the whole picture, 256 entries.
-    [[nodiscard]] QList<QRgb> colours() const { return m_colours; }
+    [[nodiscard]] QList<QRgb> colours() const { return m_picture.colourTable(); }
     /// The colours of the 16 banks one after another, 256 entries; unused slots are opaque black.
     [[nodiscard]] QList<QRgb> bankColours() const;
 
@@ -76,10 +78,10 @@ private:
     static constexpr int BankCount = 16;
     static constexpr int BankSize = 16;
 
-    /// Distinct indices of m_colours, in order of first appearance in a tile.
+    /// Distinct indices of colours(), in order of first appearance in a tile.
     using TileColours = QVarLengthArray<uchar, TileSide * TileSide>;
 
-    /// A bank's slots, filled one after another with indices of m_colours.
+    /// A bank's slots, filled one after another with indices of colours().
     class Bank
     {
     public:
@@ -104,9 +106,10 @@ private:
         quint8 used = 0;
     };
 
-    void slice(const QImage &picture, int side, const QSize &cells);
-    void sliceSpritesOf(const QImage &picture, int size);
-    void findReducedPieces(const QImage &picture, const QImage &indexed);
+    void slice(const PictureIndices &picture, int side, const QSize &cells);
+    void sliceSpritesOf(const PictureIndices &picture, int size);
+    /// Reads the pixels of a cell; false when they do not show all their colours.
+    bool readCell(int cell, uchar *pixels) const;
     void assignBanks();
     [[nodiscard]] TileColours coloursOf(int index) const;
     [[nodiscard]] QImage sprite(int index) const;
@@ -115,10 +118,10 @@ private:
 
     QImage m_source;
     QSize m_cells;
-    PieceTable m_pieces{TileSide};
+    PictureIndices m_picture; ///< what was cut
+    PieceTable m_pieces{TileSide, {}};
     QList<Placement> m_placements;
     QList<bool> m_reduced; ///< by piece; empty where no piece lost a colour beyond the 256th
-    QList<QRgb> m_colours;
     std::array<Bank, BankCount> m_banks;
     QList<Assignment> m_assignments; ///< of the first tiles, up to one that found no bank
 };

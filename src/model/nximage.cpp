@@ -1,8 +1,8 @@
 #include "model/nximage.h"
 
-#include "model/nextcolour.h"
 #include "model/palette.h"
 #include "model/picturefile.h"
+#include "model/storedindices.h"
 
 #include <algorithm>
 #include <array>
@@ -10,48 +10,15 @@
 
 namespace {
 
-constexpr size_t Steps = NextColour::SnapSteps;
-constexpr size_t GridSize = Steps * Steps * Steps;
+using SnapGrid::Table;
+
 constexpr qsizetype TableSize = 256;
 constexpr QRgb Clear = 0; // no snapped colour: these are opaque
 constexpr int LeastAlpha = 128; ///< of a pixel that is not clear
 
-/// One value for each colour of the snap grid, by gridIndex().
-template <typename Value>
-using Grid = std::array<Value, GridSize>;
-
-constexpr auto StepOf = [] {
-    std::array<quint8, 256> steps{};
-    for (int component = 0; component < 256; ++component)
-        steps[size_t(component)] = quint8(NextColour::snapStep(component));
-    return steps;
-}();
-
-/// The place of a colour's snapped form in a Grid.
-size_t gridIndex(QRgb colour)
-{
-    return (size_t(StepOf[size_t(qRed(colour))]) * Steps + StepOf[size_t(qGreen(colour))]) * Steps
-        + StepOf[size_t(qBlue(colour))];
-}
-
-QRgb snapped(QRgb colour)
-{
-    return qRgb(NextColour::snappedComponent(StepOf[size_t(qRed(colour))]),
-                NextColour::snappedComponent(StepOf[size_t(qGreen(colour))]),
-                NextColour::snappedComponent(StepOf[size_t(qBlue(colour))]));
-}
-
-/// The first colour of a list at the least distance.
-qsizetype nearest(const QList<QRgb> &colours, QRgb colour)
-{
-    const auto closer = [colour](QRgb a, QRgb b) {
-        return NextColour::squaredDistance(a, colour) < NextColour::squaredDistance(b, colour);
-    };
-    return std::min_element(colours.cbegin(), colours.cend(), closer) - colours.cbegin();
-}
-
-/// A snapped picture as 8-bit indices; indexOf holds the index of each of its colours.
-QImage mapped(const QImage &picture, const Grid<quint8> &indexOf, const QList<QRgb> &colourTable, quint8 clear = 0)
+/// A picture of the same size whose pixels are indexOf() of those of a picture.
+template <typename Pixel, typename IndexOf>
+QImage mapped(const QImage &picture, const QList<QRgb> &colourTable, const IndexOf &indexOf)
 {
     QImage result(picture.size(), QImage::Format_Indexed8);
     if (result.isNull())
@@ -59,21 +26,12 @@ QImage mapped(const QImage &picture, const Grid<quint8> &indexOf, const QList<QR
     result.setColorTable(colourTable);
     const int width = picture.width();
     for (int y = 0; y < picture.height(); ++y) {
-        const auto *from = reinterpret_cast<const QRgb *>(picture.constScanLine(y));
+        const auto *from = reinterpret_cast<const Pixel *>(picture.constScanLine(y));
         uchar *to = result.scanLine(y);
         for (int x = 0; x < width; ++x)
-            to[x] = from[x] == Clear ? clear : indexOf[gridIndex(from[x])];
+            to[x] = indexOf(from[x]);
     }
     return result;
-}
-
-/// The colours whose indices are stored as levels of grey.
-QList<QRgb> greyRamp()
-{
-    QList<QRgb> colours;
-    for (int level = 0; level < TableSize; ++level)
-        colours.append(qRgb(level, level, level));
-    return colours;
 }
 
 } // namespace
@@ -92,97 +50,134 @@ bool NxImage::accepts(const QSize &size)
 
 bool NxImage::setImage(QImage image)
 {
-    m_image =
-        accepts(image.size()) ? std::move(image).convertToFormat(QImage::Format_RGB32, Qt::AvoidDither) : QImage();
-    snap();
+    take(std::move(image), QImage::Format_RGB32);
     return true;
 }
 
 void NxImage::setTranslucent(QImage image)
 {
-    m_image =
-        accepts(image.size()) ? std::move(image).convertToFormat(QImage::Format_ARGB32, Qt::AvoidDither) : QImage();
-    snap();
+    take(std::move(image), QImage::Format_ARGB32);
 }
 
-/// Snaps the pixels, and lists their colours. Without an alpha channel whatever stands for alpha means nothing.
-void NxImage::snap()
+/// Takes the picture as indices where it has such, which need no pixel to be changed.
+void NxImage::take(QImage image, QImage::Format format)
 {
+    m_format = format;
     m_colours.clear();
     m_hasClearPixels = false;
-    const int leastAlpha = m_image.hasAlphaChannel() ? LeastAlpha : 0;
-    Grid<bool> seen{};
-    const int width = m_image.width();
-    for (int y = 0; y < m_image.height(); ++y) {
-        auto *line = reinterpret_cast<QRgb *>(m_image.scanLine(y));
+    m_shownColours.clear();
+    if (!accepts(image.size()))
+        image = {};
+    if (StoredIndices::areIn(image)) {
+        m_pixels = StoredIndices::of(std::move(image));
+        snapIndices();
+    } else {
+        m_pixels = std::move(image).convertToFormat(format, Qt::AvoidDither);
+        snapPixels();
+    }
+}
+
+/// The snapped form of a pixel, which is listed when it is new. Without an alpha channel whatever stands for alpha
+/// means nothing.
+QRgb NxImage::snapped(QRgb colour, Table<bool> &seen)
+{
+    if (m_format == QImage::Format_ARGB32 && qAlpha(colour) < LeastAlpha) {
+        m_hasClearPixels = true;
+        return Clear;
+    }
+    bool &known = seen[SnapGrid::indexOf(colour)];
+    const QRgb result = SnapGrid::snapped(colour);
+    if (!known) {
+        known = true;
+        m_colours.append(result);
+    }
+    return result;
+}
+
+void NxImage::snapIndices()
+{
+    Table<bool> seen{};
+    std::array<bool, TableSize> met{};
+    m_shownColours = StoredIndices::shownColours(m_pixels, m_format);
+    const int width = m_pixels.width();
+    for (int y = 0; y < m_pixels.height(); ++y) {
+        const uchar *line = m_pixels.constScanLine(y);
         for (int x = 0; x < width; ++x) {
-            if (qAlpha(line[x]) < leastAlpha) {
-                line[x] = Clear;
-                m_hasClearPixels = true;
+            if (met[line[x]])
                 continue;
-            }
-            bool &known = seen[gridIndex(line[x])];
-            line[x] = snapped(line[x]);
-            if (!known) {
-                known = true;
-                m_colours.append(line[x]);
-            }
+            met[line[x]] = true;
+            m_shownColours[line[x]] = snapped(m_shownColours.at(line[x]), seen);
         }
     }
+}
+
+void NxImage::snapPixels()
+{
+    Table<bool> seen{};
+    const int width = m_pixels.width();
+    for (int y = 0; y < m_pixels.height(); ++y) {
+        auto *line = reinterpret_cast<QRgb *>(m_pixels.scanLine(y));
+        for (int x = 0; x < width; ++x)
+            line[x] = snapped(line[x], seen);
+    }
+}
+
+QImage NxImage::image() const
+{
+    if (m_shownColours.isEmpty())
+        return m_pixels;
+    QImage shown = m_pixels;
+    shown.setColorTable(m_shownColours);
+    return std::move(shown).convertToFormat(m_format, Qt::AvoidDither);
+}
+
+QImage NxImage::withIndices(const Table<quint8> &indexOf, int clear, const QList<QRgb> &colourTable) const
+{
+    const auto index = [&indexOf, clear](QRgb colour) {
+        return colour == Clear ? quint8(clear) : indexOf[SnapGrid::indexOf(colour)];
+    };
+    if (m_shownColours.isEmpty())
+        return mapped<QRgb>(m_pixels, colourTable, index);
+    std::array<quint8, TableSize> indices;
+    std::transform(m_shownColours.cbegin(), m_shownColours.cend(), indices.begin(), index);
+    return mapped<uchar>(m_pixels, colourTable, [&indices](uchar stored) { return indices[stored]; });
 }
 
 bool NxImage::load(const QString &fileName)
 {
     setImage(PictureFile::read(fileName).image);
-    return !m_image.isNull();
+    return !m_pixels.isNull();
 }
 
 QImage NxImage::remap(const QPointer<Palette> &palette) const
 {
     if (!palette)
         return {};
-    Grid<quint8> indexOf{};
+    Table<quint8> indexOf{};
     for (const QRgb colour : m_colours)
-        indexOf[gridIndex(colour)] = quint8(palette->nearestIndex(QColor::fromRgb(colour)));
-    return mapped(m_image, indexOf, palette->colourTable());
+        indexOf[SnapGrid::indexOf(colour)] = quint8(palette->nearestIndex(QColor::fromRgb(colour)));
+    return withIndices(indexOf, 0, palette->colourTable());
 }
 
 QImage NxImage::toIndexed() const
 {
-    QList<QRgb> table = m_colours.first(qMin(m_colours.size(), TableSize));
-    Grid<quint8> indexOf{};
-    for (qsizetype i = 0; i < m_colours.size(); ++i)
-        indexOf[gridIndex(m_colours[i])] = quint8(i < TableSize ? i : nearest(table, m_colours[i]));
+    QList<QRgb> table = m_colours;
     table.resize(TableSize);
-    return mapped(m_image, indexOf, table);
+    return withIndices(SnapGrid::indicesOf(m_colours), 0, table);
 }
 
 QImage NxImage::withIndices(const QList<int> &indices, int clear, const QList<QRgb> &colourTable) const
 {
     Q_ASSERT(indices.size() == m_colours.size());
-    Grid<quint8> indexOf{};
+    Table<quint8> indexOf{};
     for (qsizetype i = 0; i < indices.size(); ++i)
-        indexOf[gridIndex(m_colours[i])] = quint8(indices[i]);
-    return mapped(m_image, indexOf, colourTable, quint8(clear));
+        indexOf[SnapGrid::indexOf(m_colours[i])] = quint8(indices[i]);
+    return withIndices(indexOf, clear, colourTable);
 }
 
 QImage NxImage::indexed(const QImage &picture, const QPointer<Palette> &palette)
 {
-    switch (picture.format()) {
-    case QImage::Format_Invalid:
-    case QImage::Format_Indexed8:
-        return picture;
-    case QImage::Format_Grayscale8: {
-        QImage indices = picture;
-        if (!indices.reinterpretAsFormat(QImage::Format_Indexed8))
-            return {};
-        indices.setColorTable(greyRamp());
-        return indices;
-    }
-    case QImage::Format_Mono:
-    case QImage::Format_MonoLSB:
-        return picture.convertToFormat(QImage::Format_Indexed8);
-    default:
-        return palette ? NxImage(picture).remap(palette) : NxImage(picture).toIndexed();
-    }
+    if (picture.isNull() || StoredIndices::areIn(picture))
+        return StoredIndices::of(picture);
+    return palette ? NxImage(picture).remap(palette) : NxImage(picture).toIndexed();
 }

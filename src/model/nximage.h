@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/snapgrid.h"
+
 #include <QImage>
 #include <QList>
 #include <QObject>
@@ -36,8 +38,10 @@ public:
     /// Reads a file as PictureFile does; false, and an empty picture, when it is unreadable.
     [[nodiscard]] bool load(const QString &fileName);
 
-    /// The snapped picture, in the 32-bit RGB format.
-    [[nodiscard]] QImage image() const { return m_image; }
+    /// The snapped picture, in the 32-bit RGB format. It is made on demand of a picture of indices, which is held as it
+    /// came.
+    [[nodiscard]] QImage image() const;
+    [[nodiscard]] QSize size() const { return m_pixels.size(); }
     /// The distinct colours in order of first appearance, row by row.
     [[nodiscard]] QList<QRgb> colours() const { return m_colours; }
     [[nodiscard]] bool hasClearPixels() const { return m_hasClearPixels; }
@@ -57,9 +61,16 @@ public:
     [[nodiscard]] static QImage indexed(const QImage &picture, const QPointer<Palette> &palette);
 
 private:
-    void snap();
+    void take(QImage image, QImage::Format format);
+    [[nodiscard]] QRgb snapped(QRgb colour, SnapGrid::Table<bool> &seen);
+    void snapIndices();
+    void snapPixels();
+    [[nodiscard]] QImage withIndices(const SnapGrid::Table<quint8> &indexOf, int clear,
+                                     const QList<QRgb> &colourTable) const;
 
-    QImage m_image;
+    QImage m_pixels; ///< snapped 32-bit colours, or 8-bit indices
+    QList<QRgb> m_shownColours; ///< the snapped colours of the indices; empty for colours
+    QImage::Format m_format = QImage::Format_RGB32; ///< of image()
     QList<QRgb> m_colours;
     bool m_hasClearPixels = false;
 };

@@ -8,7 +8,11 @@ constexpr size_t FirstCapacity = 4096;
 
 } // namespace
 
-PieceTable::PieceTable(int side) : m_side(side), m_area(size_t(side) * size_t(side)), m_slots(FirstCapacity)
+PieceTable::PieceTable(int side, Reader reader)
+    : m_side(side)
+    , m_area(size_t(side) * size_t(side))
+    , m_read(std::move(reader))
+    , m_slots(FirstCapacity)
 {
     Q_ASSERT(side > 0 && side <= MaxSide);
     const int last = side - 1;
@@ -23,7 +27,7 @@ PieceTable::PieceTable(int side) : m_side(side), m_area(size_t(side) * size_t(si
     }
 }
 
-std::pair<int, int> PieceTable::add(const uchar *pixels)
+std::pair<int, int> PieceTable::add(const uchar *pixels, int place)
 {
     const quint32 hash = hashOf(pixels);
     const size_t mask = m_slots.size() - 1;
@@ -37,10 +41,21 @@ std::pair<int, int> PieceTable::add(const uchar *pixels)
 
     const int piece = count();
     m_slots[i] = {hash, piece};
-    m_pixels.insert(m_pixels.end(), pixels, pixels + m_area);
+    m_places.push_back(place);
+    if (m_pixels.size() < KeptBytes)
+        m_pixels.insert(m_pixels.end(), pixels, pixels + m_area);
     if (2 * size_t(count()) > m_slots.size())
         grow();
     return {piece, 0};
+}
+
+const uchar *PieceTable::pixels(int piece, Pixels &buffer) const
+{
+    const size_t offset = size_t(piece) * m_area;
+    if (offset < m_pixels.size())
+        return m_pixels.data() + offset;
+    m_read(m_places[size_t(piece)], buffer.data());
+    return buffer.data();
 }
 
 /// A hash that is the same for all orientations of a piece.
@@ -65,7 +80,8 @@ quint32 PieceTable::hashOf(const uchar *pixels) const
 /// The greatest orientation that turns a piece into these pixels, or -1.
 int PieceTable::orientationOf(int piece, const uchar *pixels) const
 {
-    const uchar *own = this->pixels(piece);
+    Pixels buffer;
+    const uchar *own = this->pixels(piece, buffer);
     for (int orientation = Orientations - 1; orientation >= 0; --orientation) {
         const Pixels &origins = m_origins[size_t(orientation)];
         size_t i = 0;

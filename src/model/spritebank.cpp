@@ -2,6 +2,7 @@
 
 #include "model/imageslicer.h"
 #include "model/nximage.h"
+#include "model/picturefile.h"
 #include "model/rawfile.h"
 #include "model/spriteanim.h"
 #include "model/transform.h"
@@ -248,12 +249,12 @@ int SpriteBank::appendPieces(const QImage &indexed)
 
 int SpriteBank::importSlicedImage(const QString &fileName)
 {
-    NxImage picture;
-    if (!picture.load(fileName)) {
+    const QImage picture = PictureFile::read(fileName).image;
+    if (picture.isNull()) {
         qInfo("Failed to load image");
         return -1;
     }
-    ImageSlicer slicer(picture.image());
+    ImageSlicer slicer(picture);
     slicer.sliceSprites(SpriteSize);
     return importPieces(slicer);
 }

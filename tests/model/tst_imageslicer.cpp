@@ -1,9 +1,13 @@
 #include "model/imageslicer.h"
 #include "model/nximage.h"
+#include "model/picturefile.h"
+#include "model/pictureindices.h"
 #include "model/transform.h"
 #include "support/modeltools.h"
+#include "support/peakmemory.h"
 #include "support/testmain.h"
 
+#include <QBuffer>
 #include <QPainter>
 #include <QRandomGenerator>
 #include <QTest>
@@ -161,6 +165,118 @@ private slots:
         ImageSlicer slicer(sprites);
         QVERIFY(slicer.sliceIndexedSprites() == 2 && slicer.colours() == sprites.colorTable());
         QCOMPARE(indices(slicer.piece(1)), QByteArray(256, char(200)));
+    }
+
+    /// A picture of any format gives the indices and colours that it has as one of 32-bit colours.
+    void readsEveryFormat_data()
+    {
+        QTest::addColumn<QImage>("picture");
+        QRandomGenerator random(8);
+        const QImage noise =
+            pictureOf({40, 40}, QImage::Format_ARGB32, [&random](int) { return random.generate() | 0x80000000; });
+        QImage indices = pictureOf({40, 40}, QImage::Format_Indexed8, [&random](int) { return random.bounded(256); });
+        QTest::newRow("one colour") << indices; // in 256 entries
+        indices.setColorTable(
+            {qRgba(1, 2, 3, 0), qRgb(3, 2, 1), qRgb(100, 0, 0), qRgb(101, 0, 0), qRgba(9, 99, 9, 77)});
+        QTest::newRow("indices beyond the colours") << indices;
+        for (const auto &[name, format] : {std::pair("bits", QImage::Format_Mono),
+                                           {"greys", QImage::Format_Grayscale8},
+                                           {"RGB32", QImage::Format_RGB32},
+                                           {"ARGB32", QImage::Format_ARGB32},
+                                           {"RGB16", QImage::Format_RGB16},
+                                           {"premultiplied", QImage::Format_ARGB32_Premultiplied},
+                                           {"64 bits", QImage::Format_RGBA64}})
+            QTest::newRow(name) << noise.convertToFormat(format);
+    }
+
+    void readsEveryFormat()
+    {
+        QFETCH(const QImage, picture);
+        for (const QImage::Format format : {QImage::Format_RGB32, QImage::Format_ARGB32}) {
+            const auto take = [format](NxImage &image, const QImage &source) {
+                if (format == QImage::Format_RGB32)
+                    image.setImage(source);
+                else
+                    image.setTranslucent(source);
+            };
+            NxImage stored;
+            NxImage colours;
+            take(stored, picture);
+            take(colours, picture.convertToFormat(format, Qt::AvoidDither));
+            QCOMPARE(stored.size(), picture.size());
+            QCOMPARE(stored.image(), colours.image());
+            QCOMPARE(stored.image().format(), format);
+            QCOMPARE(stored.colours(), colours.colours());
+            QCOMPARE(stored.hasClearPixels(), colours.hasClearPixels());
+            QCOMPARE(indices(stored.toIndexed()), indices(colours.toIndexed()));
+        }
+        const QImage expected = NxImage(picture).toIndexed();
+        const PictureIndices read(picture);
+        QCOMPARE(read.colourTable(), expected.colorTable());
+        QByteArray pixels(40 * 40, 'x');
+        const bool exact = read.read(0, 0, 40, reinterpret_cast<uchar *>(pixels.data()));
+        QCOMPARE(pixels, indices(expected));
+        QCOMPARE(exact, NxImage(picture).colours().size() <= 256);
+        QByteArray edge(16, 'x');
+        read.read(38, 37, 4, reinterpret_cast<uchar *>(edge.data()));
+        for (int y = 0; y < 4; ++y)
+            QCOMPARE(edge.mid(y * 4, 4),
+                     y < 3 ? pixels.mid((37 + y) * 40 + 38, 2) + QByteArray(2, 0) : QByteArray(4, 0));
+    }
+
+    /// Neither reading it, whatever it is packed to, nor cutting it.
+    void takesLittleMoreMemoryThanThePicture_data()
+    {
+        QTest::addColumn<bool>("colours"); // of 32 bits, or indices
+        QTest::newRow("indices") << false;
+        QTest::newRow("colours") << true;
+    }
+
+    void takesLittleMoreMemoryThanThePicture()
+    {
+        QFETCH(const bool, colours);
+        const int side = colours ? 2048 : 4096;
+        constexpr qint64 Allowed = qint64(10) << 20;
+        QBuffer file;
+        {
+            QRandomGenerator random(9);
+            QImage picture(side, side, colours ? QImage::Format_RGB32 : QImage::Format_Indexed8);
+            picture.setColorTable(colours ? QList<QRgb>() : QList<QRgb>(256, 0xff000000));
+            random.fillRange(reinterpret_cast<quint32 *>(picture.bits()), picture.sizeInBytes() / 4);
+            QVERIFY(file.open(QIODevice::ReadWrite) && picture.save(&file, "png", 100)); // stored
+        }
+        file.seek(0);
+        const PeakMemory memory;
+        if (!memory.isKnown())
+            QSKIP("the system does not tell");
+        const QImage picture = PictureFile::read(file).image;
+        const qint64 pixels = picture.sizeInBytes();
+        QCOMPARE(pixels, qint64(16) << 20);
+        QVERIFY2(memory.grown() < pixels + Allowed, qPrintable(QString::number(memory.grown() >> 20)));
+        if (colours)
+            QTest::ignoreMessage(QtWarningMsg, "Palette full!");
+        ImageSlicer slicer(picture);
+        QCOMPARE(slicer.sliceTiles(), colours ? side * side / 64 : 1);
+        QVERIFY2(memory.grown() < pixels + Allowed, qPrintable(QString::number(memory.grown() >> 20)));
+    }
+
+    /// More pieces than are kept: a band of distinct tiles, and the same mirrored.
+    void readsAgainWhatIsNotKept()
+    {
+        const QImage top = randomPicture({2400, 2400}, 200, 1, 10);
+        QImage source(2400, 4800, QImage::Format_RGB32);
+        QPainter(&source).drawImage(0, 0, top);
+        QPainter(&source).drawImage(0, 2400, turned(top, 2));
+        QTest::ignoreMessage(QtWarningMsg, "Palette full!");
+        ImageSlicer slicer(source);
+        constexpr int Columns = 300;
+        constexpr int Tiles = Columns * Columns;
+        QCOMPARE(slicer.sliceTiles(), Tiles);
+        for (int cell = 0; cell < Tiles; ++cell) {
+            const int mirrored = Tiles + cell / Columns * Columns + Columns - 1 - cell % Columns;
+            QCOMPARE(slicer.placements().at(mirrored), ImageSlicer::Placement(cell, 2));
+        }
+        QCOMPARE(slicer.piece(Tiles - 1).convertToFormat(QImage::Format_RGB32), top.copy(2392, 2392, 8, 8));
     }
 
     void mergesSpritesWithoutOrientation()
