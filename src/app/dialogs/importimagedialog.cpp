@@ -62,8 +62,12 @@ void ImportImageDialog::show(const Project &project, const QString &file)
         const Busy busy(parentWidget(), tr("Reading %1…").arg(QFileInfo(file).fileName()));
         auto [image, refusal] = PictureFile::read(file);
         m_refusal = refusal;
-        m_picture.setTranslucent(std::move(image));
-        m_thumbnail.setTranslucent(thumbnailOf(m_picture.image()));
+        m_size = image.size();
+        m_thumbnail.setTranslucent(thumbnailOf(image));
+        NxImage picture; // which may be large, and is read again when it is imported
+        picture.setTranslucent(std::move(image));
+        m_colours = picture.colours();
+        m_hasClearPixels = picture.hasClearPixels();
     }
     m_palette->offerPalettes(project);
     const bool hasPalettes = m_palette->count() > 0;
@@ -75,8 +79,7 @@ void ImportImageDialog::show(const Project &project, const QString &file)
 
 QSize ImportImageDialog::pieces() const
 {
-    const QSize size = m_picture.image().size();
-    return {size.width() / SpriteBank::SpriteSize, size.height() / SpriteBank::SpriteSize};
+    return {m_size.width() / SpriteBank::SpriteSize, m_size.height() / SpriteBank::SpriteSize};
 }
 
 Palette *ImportImageDialog::chosenPalette() const
@@ -89,17 +92,17 @@ SpriteTransparency ImportImageDialog::transparency() const
     return {m_depth->depth()};
 }
 
-SpriteColours ImportImageDialog::coloursOf(const NxImage &picture) const
+SpriteColours ImportImageDialog::placesOf(const QList<QRgb> &colours) const
 {
     const Palette *palette = chosenPalette();
-    return palette ? SpriteColours::nearest(picture, *palette, transparency())
-                   : SpriteColours::own(picture, transparency());
+    return palette ? SpriteColours::nearest(colours, *palette, transparency())
+                   : SpriteColours::own(colours, transparency());
 }
 
 void ImportImageDialog::refresh()
 {
     m_palette->setEnabled(m_remap->isChecked());
-    const SpriteColours colours = coloursOf(m_thumbnail);
+    const SpriteColours colours = placesOf(m_thumbnail.colours());
     Palette shownColours; // as the Next has them
     for (qsizetype i = 0; i < colours.table().size(); ++i)
         shownColours.setColour(int(i), QColor::fromRgb(colours.table()[i]), false);
@@ -115,11 +118,11 @@ void ImportImageDialog::refresh()
 
 QString ImportImageDialog::summary() const
 {
-    if (m_picture.image().isNull())
+    if (m_size.isEmpty())
         return tr("No picture");
-    const QString text = m_picture.hasClearPixels() ? tr("%1 × %2 sprites, colours: %3, and transparent pixels")
-                                                    : tr("%1 × %2 sprites, colours: %3");
-    return text.arg(pieces().width()).arg(pieces().height()).arg(m_picture.colours().size());
+    const QString text = m_hasClearPixels ? tr("%1 × %2 sprites, colours: %3, and transparent pixels")
+                                          : tr("%1 × %2 sprites, colours: %3");
+    return text.arg(pieces().width()).arg(pieces().height()).arg(m_colours.size());
 }
 
 QString ImportImageDialog::problem() const
@@ -127,7 +130,7 @@ QString ImportImageDialog::problem() const
     const QString found = CreationDialog::problem();
     if (!found.isEmpty())
         return found;
-    if (m_picture.image().isNull())
+    if (m_size.isEmpty())
         return m_refusal.isEmpty() ? tr("The file is not a picture that can be read") : m_refusal;
     const qint64 count = qint64(pieces().width()) * pieces().height();
     if (count == 0)
@@ -144,12 +147,11 @@ QString ImportImageDialog::problem() const
 QString ImportImageDialog::depthProblem() const
 {
     if (!chosenPalette()) {
-        return m_picture.colours().size() >= FourBitColours
-            ? tr("The picture has %1 colours; 4-bit sprites show 15 beside the transparent one")
-                  .arg(m_picture.colours().size())
+        return m_colours.size() >= FourBitColours
+            ? tr("The picture has %1 colours; 4-bit sprites show 15 beside the transparent one").arg(m_colours.size())
             : QString();
     }
-    const QList<int> indices = coloursOf(m_picture).indices();
+    const QList<int> indices = placesOf(m_colours).indices();
     const bool oneGroup = std::all_of(indices.cbegin(), indices.cend(), [&indices](int index) {
         return index / FourBitColours == indices.constFirst() / FourBitColours;
     });

@@ -41,8 +41,8 @@ private:
     void refresh();
     [[nodiscard]] Palette *chosenPalette() const;
     [[nodiscard]] SpriteTransparency transparency() const;
-    /// What the picture's colours become, as far as the choices go.
-    [[nodiscard]] SpriteColours coloursOf(const NxImage &picture) const;
+    /// Where colours go, as far as the choices go.
+    [[nodiscard]] SpriteColours placesOf(const QList<QRgb> &colours) const;
     [[nodiscard]] QString depthProblem() const;
     [[nodiscard]] QString summary() const;
     /// Pieces of 16×16 across and down.
@@ -50,8 +50,10 @@ private:
 
     QPointer<const Project> m_project;
     QString m_file;
-    NxImage m_picture; ///< empty when the file cannot be read
+    QSize m_size; ///< of the picture; empty when the file cannot be read
     QString m_refusal; ///< why
+    QList<QRgb> m_colours; ///< of the picture
+    bool m_hasClearPixels = false;
     NxImage m_thumbnail;
     QRadioButton *m_remap;
     QRadioButton *m_slice;

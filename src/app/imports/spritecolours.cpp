@@ -33,25 +33,24 @@ QList<int> drawnIndices(int end, const SpriteTransparency &transparency)
 
 } // namespace
 
-SpriteColours SpriteColours::nearest(const NxImage &picture, const Palette &palette,
+SpriteColours SpriteColours::nearest(const QList<QRgb> &colours, const Palette &palette,
                                      const SpriteTransparency &transparency)
 {
     SpriteColours result;
     result.m_clear = transparency.pixel();
     result.m_table = palette.colourTable();
     const QList<int> drawn = drawnIndices(Palette::Size, transparency);
-    for (const QRgb colour : picture.colours())
+    for (const QRgb colour : colours)
         result.m_indices.append(nearestOf(drawn, result.m_table, colour));
     return result;
 }
 
-SpriteColours SpriteColours::own(const NxImage &picture, const SpriteTransparency &transparency)
+SpriteColours SpriteColours::own(const QList<QRgb> &colours, const SpriteTransparency &transparency)
 {
     SpriteColours result;
     result.m_clear = transparency.pixel();
     result.m_table = QList<QRgb>(Palette::Size, Black);
     result.m_table[result.m_clear] = Magenta;
-    const QList<QRgb> colours = picture.colours();
     QList<int> drawn = drawnIndices(transparency.pixelCount(), transparency);
     drawn.resize(std::min(drawn.size(), colours.size()));
     for (qsizetype i = 0; i < drawn.size(); ++i)

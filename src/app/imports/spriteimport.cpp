@@ -28,10 +28,11 @@ QString importing(const SpriteImport &import)
     return QCoreApplication::translate("SpriteImport", "Importing %1…").arg(QFileInfo(import.file).fileName());
 }
 
-SpriteBank *importSliced(Project &project, const SpriteImport &import, const NxImage &picture, QWidget *parent)
+/// Makes a bank of the distinct pieces of a picture whose indices and colours are those of the bank.
+SpriteBank *importSliced(Project &project, const SpriteImport &import, const QImage &picture, QWidget *parent)
 {
     const QPointer<Project> guarded = &project; // events are handled while the picture is cut
-    ImageSlicer slicer(SpriteColours::own(picture, {import.depth}).pixels(picture));
+    ImageSlicer slicer(picture);
     {
         SlicingProgress progress(slicer, parent);
         slicer.sliceIndexedSprites();
@@ -50,15 +51,18 @@ SpriteBank *importSpritePicture(Project &project, const SpriteImport &import, QW
     const Busy busy(parent, importing(import));
     NxImage picture;
     picture.setTranslucent(PictureFile::read(import.file).image);
-    if (import.paletteId.isNull())
-        return importSliced(project, import, picture, parent);
-    const QSize size = picture.image().size();
+    if (import.paletteId.isNull()) {
+        const QImage pixels = SpriteColours::own(picture.colours(), {import.depth}).pixels(picture);
+        picture.setImage({}); // two of a large one are enough
+        return importSliced(project, import, pixels, parent);
+    }
+    const QSize size = picture.size();
     const bool usable = fits(qint64(size.width() / SpriteBank::SpriteSize) * (size.height() / SpriteBank::SpriteSize));
     const QPointer<Palette> palette = project.palette(import.paletteId);
     if (!usable || !palette)
         return nullptr;
     SpriteBank *bank = project.createSpriteBank(import.depth, import.name, import.paletteId);
-    const SpriteColours colours = SpriteColours::nearest(picture, *palette, bank->clearPixels());
+    const SpriteColours colours = SpriteColours::nearest(picture.colours(), *palette, bank->clearPixels());
     return bank->appendPieces(colours.pixels(picture)) > 1 ? bank : nullptr;
 }
 
