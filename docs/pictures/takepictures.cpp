@@ -8,6 +8,11 @@
 #include "app/documentcontroller.h"
 #include "app/documenttabview.h"
 #include "app/documentviews.h"
+#include "app/exportproject/addoutputsdialog.h"
+#include "app/exportproject/exportprojectdialog.h"
+#include "app/exportproject/outputdialog.h"
+#include "app/exportproject/projectexport.h"
+#include "app/exportproject/recipetable.h"
 #include "app/mainwindow.h"
 #include "app/menus/menubar.h"
 #include "app/projectcontroller.h"
@@ -42,6 +47,7 @@
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QTableView>
 #include <QTemporaryDir>
 
 namespace {
@@ -113,6 +119,7 @@ private:
     void takeMap();
     void takePixels();
     void takeAnimations();
+    void takeExport();
 
     MainWindow &m_window;
     const DocumentViews &m_views;
@@ -130,6 +137,7 @@ void PictureTaker::takeAll(const QString &sample)
     takeAnimations();
     takeMenus();
     takeDialogs();
+    takeExport();
 }
 
 void PictureTaker::takeMap()
@@ -259,6 +267,39 @@ void PictureTaker::takeDialogs()
     m_window.menus()->setFileChooser([](const FileRequest &, QWidget *) { return QString(); });
     for (QAction *title : m_window.menus()->actions())
         takeFrom(title->menu(), takeFrom);
+}
+
+void PictureTaker::takeExport()
+{
+    m_window.projectExport()->exportProject();
+    ExportProjectDialog &dialog = *m_window.projectExport()->dialog();
+    if (dialog.table()->rowCount() == 0)
+        save(dialog.grab(), QStringLiteral("export-empty"));
+    dialog.resize(920, 560);
+    dialog.addOutputs();
+    auto *add = dialog.findChild<AddOutputsDialog *>();
+    settle();
+    save(add->grab(), QStringLiteral("export-add"));
+    add->accept();
+    dialog.exportAll();
+
+    // since then something has been done
+    const QDir folder = QFileInfo(m_window.projectController()->filePath()).dir();
+    project().tileSets().constFirst()->setTileOffset(0, 1);
+    project().maps().constFirst()->setTile({3, 3}, {5});
+    QFile::remove(folder.filePath(QStringLiteral("Title.nxi")));
+    dialog.table()->lookAgain();
+    while (dialog.table()->isLooking())
+        settle();
+    auto *view = dialog.findChild<QTableView *>();
+    view->selectRow(dialog.table()->rowOf(QStringLiteral("Lantern_Hill.map")));
+    settle();
+    save(dialog.grab(), QStringLiteral("export-project"));
+    dialog.editOutput();
+    settle();
+    save(dialog.findChild<OutputDialog *>()->grab(), QStringLiteral("export-edit"));
+    dialog.findChild<OutputDialog *>()->reject();
+    dialog.reject();
 }
 
 } // namespace

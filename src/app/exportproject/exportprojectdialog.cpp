@@ -249,6 +249,13 @@ QList<int> ExportProjectDialog::selectedRows() const
     return rows;
 }
 
+int ExportProjectDialog::shownRow() const
+{
+    const QList<int> rows = selectedRows();
+    const int current = m_view->currentIndex().row();
+    return rows.contains(current) ? current : rows.value(0, -1);
+}
+
 void ExportProjectDialog::select(const QStringList &files)
 {
     QItemSelection selection;
@@ -284,15 +291,15 @@ void ExportProjectDialog::addOutputs()
 
 void ExportProjectDialog::editOutput()
 {
-    const QList<int> rows = selectedRows();
-    if (rows.size() != 1 || !m_project)
+    const int row = shownRow();
+    if (row < 0 || !m_project)
         return;
     if (!m_outputDialog) {
         m_outputDialog = new OutputDialog(this);
         connect(m_outputDialog, &OutputDialog::accepted, this, &ExportProjectDialog::replaceOutput);
     }
     QList<RecipeOutput> others = m_table->recipe().outputs();
-    const RecipeOutput edited = others.takeAt(rows.first());
+    const RecipeOutput edited = others.takeAt(row);
     m_edited = edited.file;
     m_outputDialog->show(*m_project, edited, TakenFiles(others));
 }
@@ -346,7 +353,14 @@ void ExportProjectDialog::exportAll()
     if (!m_project || !saveRecipe())
         return;
     ExportProgress progress(this);
-    const ExportReport report(m_table->recipe(), m_table->run(std::ref(progress)), QFileInfo(m_projectFile).path());
+    const QList<RecipeRun::Outcome> outcomes = m_table->run(std::ref(progress));
+    QStringList failed;
+    for (int row = 0; row < outcomes.size(); ++row) {
+        if (outcomes[row].state == RecipeRun::State::Impossible)
+            failed.append(m_table->output(row).file);
+    }
+    select(failed);
+    const ExportReport report(m_table->recipe(), outcomes, QFileInfo(m_projectFile).path());
     m_result = report.text();
     showSum();
     emit exported(report);
@@ -362,7 +376,7 @@ void ExportProjectDialog::follow()
     m_tools->setVisible(!isEmpty);
     m_previewPart->setVisible(!isEmpty);
     (isEmpty ? m_firstStep : m_exportButton)->setDefault(true);
-    m_edit->setEnabled(rows.size() == 1);
+    m_edit->setEnabled(!rows.isEmpty());
     m_duplicate->setEnabled(!rows.isEmpty());
     m_remove->setEnabled(!rows.isEmpty());
     m_exportButton->setEnabled(m_table->rowCount() > 0);
@@ -399,9 +413,7 @@ void ExportProjectDialog::showSum()
 
 void ExportProjectDialog::showPreview()
 {
-    const QModelIndex current = m_view->currentIndex();
-    const QList<int> rows = selectedRows();
-    const int row = rows.contains(current.row()) ? current.row() : rows.value(0, -1);
+    const int row = shownRow();
     // before its turn it would take all the labels of source text in front of it
     if (row < 0 || !m_table->outcome(row)) {
         m_previewTitle->setText(tr("Preview"));

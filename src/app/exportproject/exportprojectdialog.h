@@ -65,6 +65,8 @@ private:
     [[nodiscard]] QWidget *buildFirstStep();
     [[nodiscard]] QWidget *buildButtons();
     [[nodiscard]] QList<int> selectedRows() const;
+    /// The one of them that is previewed and edited; -1 for none.
+    [[nodiscard]] int shownRow() const;
     void select(const QStringList &files);
     void replaceOutput(const NextData::RecipeOutput &output);
     /// Enables what can be done, and says what there is.

@@ -49,16 +49,20 @@ ExportReport::ExportReport(const Recipe &recipe, const QList<RecipeRun::Outcome>
 
 QString ExportReport::text() const
 {
-    QString text =
-        m_written > 0 ? counted(m_written, tr("Exported 1 file"), tr("Exported %1 files")) : tr("Exported nothing");
-    if (m_written > 0)
-        text += tr(" (%1)").arg(counted(m_bytes, tr("1 byte"), tr("%1 bytes")));
+    const QString folder = QDir::toNativeSeparators(m_folder);
+    if (m_written == 0 && m_failures.isEmpty() && !m_stopped)
+        return tr("Nothing to export: %1 in %2")
+            .arg(counted(m_unchanged, tr("1 file is unchanged"), tr("%1 files are unchanged")), folder);
+    QString text = m_written > 0
+        ? tr("Exported %1 (%2)")
+              .arg(counted(m_written, tr("1 file"), tr("%1 files")), counted(m_bytes, tr("1 byte"), tr("%1 bytes")))
+        : tr("Exported nothing");
+    const bool isAll = m_unchanged == 0 && m_failures.isEmpty();
     if (m_unchanged > 0)
         text += tr(", %1 unchanged").arg(number(m_unchanged));
     if (!m_failures.isEmpty())
         text += tr(", %1 failed").arg(number(m_failures.size()));
-    text += (m_unchanged > 0 || !m_failures.isEmpty() ? tr(", to %1") : tr(" to %1"))
-                .arg(QDir::toNativeSeparators(m_folder));
+    text += (isAll ? tr(" to %1") : tr(", to %1")).arg(folder);
     return m_stopped ? tr("Stopped: %1").arg(text) : text;
 }
 

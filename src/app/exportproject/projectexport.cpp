@@ -38,13 +38,16 @@ QString textOf(const Recipe::Problem &problem)
     return problem.line > 0 ? ProjectExport::tr("Line %1: %2").arg(problem.line).arg(problem.reason) : problem.reason;
 }
 
-/// A question over a window, with a button that does it and one that does not; the first is proposed.
+/// A question over a window, with a button that does it, which a warning does not propose, and one that does not.
 bool ask(QWidget *parent, QMessageBox::Icon icon, const QString &title, const QString &text, const QString &details,
          const QString &yes)
 {
     // not on the stack: it goes with its parent
     const QPointer<QMessageBox> box = new QMessageBox(icon, title, text, QMessageBox::Cancel, parent);
-    const QPushButton *button = box->addButton(yes, QMessageBox::AcceptRole);
+    box->setDefaultButton(QMessageBox::Cancel);
+    QPushButton *button = box->addButton(yes, QMessageBox::AcceptRole);
+    if (icon != QMessageBox::Warning)
+        box->setDefaultButton(button);
     box->setTextFormat(Qt::PlainText);
     box->setInformativeText(plainText(details)); // whose format is always guessed
     widenForTitle(*box);

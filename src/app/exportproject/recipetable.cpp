@@ -9,6 +9,7 @@
 
 #include <QElapsedTimer>
 #include <QFileInfo>
+#include <QFont>
 #include <QLocale>
 
 #include <algorithm>
@@ -366,6 +367,14 @@ QVariant RecipeTable::data(const QModelIndex &index, int role) const
         return column == StateColumn ? QVariant(iconOf(outcome(index.row()))) : QVariant();
     case Qt::TextAlignmentRole:
         return alignmentOf(column);
+    case Qt::FontRole: // what is to be seen at a glance
+        if (const auto &known = outcome(index.row());
+            column == StateColumn && known && known->state != State::Unchanged) {
+            QFont bold;
+            bold.setBold(true);
+            return bold;
+        }
+        return {};
     default:
         return {};
     }
