@@ -282,13 +282,14 @@ void PictureTaker::takeExport()
     save(add->grab(), QStringLiteral("export-add"));
     add->accept();
     dialog.exportAll();
+    dialog.reject();
 
     // since then something has been done
     const QDir folder = QFileInfo(m_window.projectController()->filePath()).dir();
     project().tileSets().constFirst()->setTileOffset(0, 1);
     project().maps().constFirst()->setTile({3, 3}, {5});
     QFile::remove(folder.filePath(QStringLiteral("Title.nxi")));
-    dialog.table()->lookAgain();
+    m_window.projectExport()->exportProject();
     while (dialog.table()->isLooking())
         settle();
     auto *view = dialog.findChild<QTableView *>();

@@ -1,6 +1,11 @@
 #include "app/exportproject/exportprogress.h"
 
+#include "app/exportproject/recipetable.h"
+#include "model/project.h"
+
 #include <QCoreApplication>
+
+#include <algorithm>
 
 namespace {
 
@@ -13,9 +18,28 @@ QString tr(const char *text)
     return QCoreApplication::translate("ExportProgress", text);
 }
 
+/// The main window, where a dialog stands over it.
+QWidget *outermost(QWidget *widget)
+{
+    while (widget && widget->parentWidget())
+        widget = widget->parentWidget();
+    return widget;
+}
+
+/// What is not divided by a look at the person.
+qint64 largestOutput(const Project &project, const NextData::Recipe &recipe)
+{
+    qint64 largest = 0;
+    for (const NextData::RecipeOutput &output : recipe.outputs())
+        largest = std::max(largest, RecipeTable::bytesOf(project, output));
+    return largest;
+}
+
 } // namespace
 
-ExportProgress::ExportProgress(QWidget *parent) : m_dialog(tr("Exporting the project…"), tr("&Stop"), 0, 1, parent)
+ExportProgress::ExportProgress(QWidget *parent, const Project &project, const NextData::Recipe &recipe)
+    : m_busy(outermost(parent), tr("Exporting %1…").arg(project.name()), largestOutput(project, recipe))
+    , m_dialog(tr("Exporting the project…"), tr("&Stop"), 0, 1, parent)
 {
     m_dialog.setWindowTitle(tr("Export Project"));
     m_dialog.setWindowModality(Qt::WindowModal);

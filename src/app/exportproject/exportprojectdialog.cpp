@@ -22,7 +22,6 @@
 #include <QLocale>
 #include <QPushButton>
 #include <QScreen>
-#include <QShowEvent>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QTableView>
@@ -39,8 +38,8 @@ using namespace NextData;
 namespace {
 
 constexpr QSize UsualSize(920, 600);
-constexpr int NumberWidth = 80;
-constexpr int StateWidth = 150; ///< at least
+constexpr int ColumnWidths[RecipeTable::ColumnCount] = {150, 215, 215, 80, 80, 120}; // the last one stretches
+constexpr int NarrowestColumn = 60;
 
 } // namespace
 
@@ -79,7 +78,8 @@ ExportProjectDialog::ExportProjectDialog(QWidget *parent)
     connect(&m_previewDelay, &QTimer::timeout, this, &ExportProjectDialog::showPreview);
     connect(m_table, &RecipeTable::looked, this, [this] {
         showSum();
-        m_previewDelay.start();
+        if (m_awaitsPreview || !m_table->isLooking())
+            m_previewDelay.start();
     });
     connect(m_table, &RecipeTable::modelReset, this, [this] {
         m_result.clear();
@@ -135,6 +135,9 @@ QWidget *ExportProjectDialog::buildTable()
     m_view->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
     m_view->horizontalHeader()->setHighlightSections(false);
     m_view->horizontalHeader()->setStretchLastSection(true);
+    for (int column = 0; column < RecipeTable::ColumnCount; ++column)
+        m_view->setColumnWidth(column, ColumnWidths[column]);
+    m_width = UsualSize.width();
     connect(m_view, &QTableView::doubleClicked, this, &ExportProjectDialog::editOutput);
 
     m_pages->addWidget(m_view);
@@ -215,19 +218,14 @@ void ExportProjectDialog::done(int result)
     m_project.clear();
 }
 
-void ExportProjectDialog::showEvent(QShowEvent *event)
+void ExportProjectDialog::resizeEvent(QResizeEvent *event)
 {
-    QDialog::showEvent(event);
-    if (event->spontaneous() || m_hasWidths)
-        return;
-    // what is said in words shares what the numbers and the state leave
-    m_hasWidths = true;
-    const int words = width() - 2 * NumberWidth - StateWidth - 2 * layout()->contentsMargins().left();
+    QDialog::resizeEvent(event);
+    // the columns of words share what there is more or less than before
+    const int more = width() - std::exchange(m_width, width());
     for (const auto &[column, share] :
          {std::pair(RecipeTable::AssetColumn, 26), {RecipeTable::FormColumn, 37}, {RecipeTable::FileColumn, 37}})
-        m_view->setColumnWidth(column, words * share / 100);
-    for (const int column : {RecipeTable::SizeColumn, RecipeTable::BanksColumn})
-        m_view->setColumnWidth(column, NumberWidth);
+        m_view->setColumnWidth(column, std::max(m_view->columnWidth(column) + more * share / 100, NarrowestColumn));
 }
 
 bool ExportProjectDialog::event(QEvent *event)
@@ -352,8 +350,11 @@ void ExportProjectDialog::exportAll()
 {
     if (!m_project || !saveRecipe())
         return;
-    ExportProgress progress(this);
-    const QList<RecipeRun::Outcome> outcomes = m_table->run(std::ref(progress));
+    QList<RecipeRun::Outcome> outcomes;
+    {
+        ExportProgress progress(this, *m_project, m_table->recipe());
+        outcomes = m_table->run(std::ref(progress));
+    }
     QStringList failed;
     for (int row = 0; row < outcomes.size(); ++row) {
         if (outcomes[row].state == RecipeRun::State::Impossible)
@@ -415,13 +416,16 @@ void ExportProjectDialog::showPreview()
 {
     const int row = shownRow();
     // before its turn it would take all the labels of source text in front of it
-    if (row < 0 || !m_table->outcome(row)) {
+    m_awaitsPreview = row >= 0 && !m_table->outcome(row);
+    if (row < 0 || m_awaitsPreview) {
         m_previewTitle->setText(tr("Preview"));
         m_preview->clear();
         return;
     }
     const RecipeOutput &output = m_table->output(row);
     m_previewTitle->setText(tr("Preview of %1").arg(output.file));
+    if (const RecipeRun::Outcome &outcome = *m_table->outcome(row); outcome.state == RecipeRun::State::Impossible)
+        return m_preview->setPlainText(outcome.reason);
     const Result<QList<OutputFile>> files = m_table->make(row);
     if (files)
         m_preview->showFiles(*files, output.options.contains(QStringLiteral("text")));

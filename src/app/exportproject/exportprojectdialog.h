@@ -56,7 +56,7 @@ signals:
     void exported(const ExportReport &report);
 
 protected:
-    void showEvent(QShowEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
     bool event(QEvent *event) override;
 
 private:
@@ -79,7 +79,7 @@ private:
     QPointer<const Project> m_project;
     QString m_projectFile;
     bool m_isNew = false;
-    bool m_hasWidths = false; ///< the table's columns, which are the person's then
+    int m_width; ///< for which the table's columns are made
     RecipeTable *m_table;
     QTableView *m_view;
     QStackedWidget *m_pages; ///< the table, or what to begin with
@@ -97,6 +97,7 @@ private:
     QPushButton *m_closeButton;
     QPushButton *m_exportButton;
     QTimer m_previewDelay;
+    bool m_awaitsPreview = false; ///< of an output that is not looked at yet
     QString m_result; ///< of exporting what is shown
     QString m_edited; ///< the file of the output that is being edited
     QPointer<AddOutputsDialog> m_addDialog;

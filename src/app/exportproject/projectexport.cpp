@@ -97,9 +97,13 @@ void ProjectExport::exportAgain()
         return showDialog();
     const QString file = m_controller->filePath();
     const QString folder = QFileInfo(file).path();
-    ExportProgress progress(m_dialogParent);
     RecipeRun run(*m_controller->project(), m_recipe, folder, {file, Recipe::pathFor(file)});
-    report({m_recipe, run.runAll(RecipeRun::Mode::Write, std::ref(progress)), folder});
+    QList<RecipeRun::Outcome> outcomes;
+    {
+        ExportProgress progress(m_dialogParent, *m_controller->project(), m_recipe);
+        outcomes = run.runAll(RecipeRun::Mode::Write, std::ref(progress));
+    }
+    report({m_recipe, outcomes, folder});
 }
 
 void ProjectExport::showDialog()

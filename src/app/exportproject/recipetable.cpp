@@ -105,6 +105,7 @@ void RecipeTable::close()
     beginResetModel();
     m_idle.stop();
     m_run.reset();
+    m_previewRun.reset();
     m_project.clear();
     m_recipe = {};
     m_saved = {};
@@ -191,6 +192,7 @@ void RecipeTable::lookAgain()
     if (!m_project)
         return;
     m_run.emplace(newRun());
+    m_previewRun.reset();
     m_next = 0;
     m_idle.start();
     emit looked();
@@ -237,9 +239,11 @@ RecipeTable::Sum RecipeTable::sum() const
 
 Result<QList<OutputFile>> RecipeTable::make(int row)
 {
-    if (!m_project || !m_run)
+    if (!m_project)
         return Failure{{}};
-    return m_run->make(row);
+    if (!m_previewRun)
+        m_previewRun.emplace(newRun());
+    return m_previewRun->make(row);
 }
 
 QList<RecipeRun::Outcome> RecipeTable::run(const RecipeRun::Progress &progress)
@@ -250,20 +254,23 @@ QList<RecipeRun::Outcome> RecipeTable::run(const RecipeRun::Progress &progress)
     return outcomes;
 }
 
+qint64 RecipeTable::bytesOf(const Project &project, const RecipeOutput &output)
+{
+    const Form *form = findForm(output.form);
+    const auto source = Source::find(project, output.id);
+    if (!form || !source)
+        return -1;
+    const Result<OptionValues> values = OptionValues::parse(form->options, output.options);
+    const Result<qint64> size = values ? sizeOf(*form, *source, *values) : values.failure();
+    return size ? *size : -1;
+}
+
 qint64 RecipeTable::bytesOf(int row) const
 {
     std::optional<qint64> &bytes = m_rows.at(row).bytes;
-    if (!bytes && m_project) {
-        bytes = -1;
-        const Form *form = findForm(output(row).form);
-        const auto source = Source::find(*m_project, output(row).id);
-        const Result<OptionValues> values = form ? OptionValues::parse(form->options, output(row).options) : Failure{};
-        if (form && source && values) {
-            const Result<qint64> size = sizeOf(*form, *source, *values);
-            bytes = size ? *size : -1;
-        }
-    }
-    return bytes.value_or(-1);
+    if (!bytes)
+        bytes = m_project ? bytesOf(*m_project, output(row)) : -1;
+    return *bytes;
 }
 
 // What is shown

@@ -66,6 +66,8 @@ public:
     /// Does the recipe; see RecipeRun::runAll().
     [[nodiscard]] QList<NextData::RecipeRun::Outcome> run(const NextData::RecipeRun::Progress &progress);
 
+    /// The size of an output in the game; -1 when it has none.
+    [[nodiscard]] static qint64 bytesOf(const Project &project, const NextData::RecipeOutput &output);
     /// "6 pages of 8 KiB, 3 banks of 16 KiB"
     [[nodiscard]] static QString banksText(qint64 bytes);
 
@@ -99,7 +101,8 @@ private:
     NextData::Recipe m_recipe;
     NextData::Recipe m_saved;
     QList<Row> m_rows;
-    std::optional<NextData::RecipeRun> m_run; ///< that looks
+    std::optional<NextData::RecipeRun> m_run; ///< that looks, output by output
+    std::optional<NextData::RecipeRun> m_previewRun; ///< that makes one here and one there
     int m_next = 0; ///< the row to be looked at
     QTimer m_idle;
 };
