@@ -187,6 +187,43 @@ private slots:
         QCOMPARE(all.mid(offset, bytes.size()).toHex(' '), bytes.toHex(' '));
     }
 
+    void sourceText_data()
+    {
+        QTest::addColumn<QStringList>("texts"); // of each file
+        const QString title = "Cave: Tile map, two bytes a cell";
+        const QString assembler = "; " + title
+            + "\n\nCAVE_WIDTH:\tequ 2\nCAVE_HEIGHT:\tequ 2\nCAVE_SCREEN_WIDTH:\tequ 2\nCAVE_SCREEN_HEIGHT:\tequ 2\n"
+              "CAVE_SCREENS_ACROSS:\tequ 1\nCAVE_SCREENS_DOWN:\tequ 1\nCAVE_SIZE:\tequ 8\n\n"
+              "cave:\n\tdb $01,$39,$05,$02\n\tdb $02,$f4,$ff,$af\n";
+        QTest::newRow("sjasmplus") << QStringList{assembler};
+        QTest::newRow("z80asm") << QStringList{QString(assembler).replace("\tdb ", "\tdefb ")};
+        QTest::newRow("gas") << QStringList{
+            "; " + title
+            + "\n\n\t.equ CAVE_WIDTH, 2\n\t.equ CAVE_HEIGHT, 2\n\t.equ CAVE_SCREEN_WIDTH, 2\n"
+              "\t.equ CAVE_SCREEN_HEIGHT, 2\n\t.equ CAVE_SCREENS_ACROSS, 1\n\t.equ CAVE_SCREENS_DOWN, 1\n"
+              "\t.equ CAVE_SIZE, 8\n\n"
+              "\t.global cave\ncave:\n\t.byte 0x01,0x39,0x05,0x02\n\t.byte 0x02,0xf4,0xff,0xaf\n"};
+        QTest::newRow("c") << QStringList{
+            "/* " + title
+                + " */\n\n#include \"cave.h\"\n\nconst unsigned char cave[8] = {\n"
+                  "\t0x01,0x39,0x05,0x02,\n\t0x02,0xf4,0xff,0xaf,\n};\n",
+            "/* " + title
+                + " */\n\n#ifndef CAVE_INCLUDED\n#define CAVE_INCLUDED\n\n"
+                  "#define CAVE_WIDTH 2\n#define CAVE_HEIGHT 2\n#define CAVE_SCREEN_WIDTH 2\n"
+                  "#define CAVE_SCREEN_HEIGHT 2\n#define CAVE_SCREENS_ACROSS 1\n#define CAVE_SCREENS_DOWN 1\n"
+                  "#define CAVE_SIZE 8\n\nextern const unsigned char cave[8];\n\n#endif\n"};
+    }
+
+    void sourceText()
+    {
+        QFETCH(QStringList, texts);
+        const Options options{{"text", QTest::currentDataTag()}};
+        QStringList found;
+        for (const OutputFile &file : *written("map-2byte", asset("Cave"), options, "cave.c"))
+            found.append(QString::fromUtf8(file.bytes));
+        QCOMPARE(found, texts);
+    }
+
     void refusal_data()
     {
         const auto mapWith = [this](const char *name, QPoint at, const TileMap::TileData &cell) {
