@@ -2,17 +2,22 @@
 // the parts that libraries do (archive, PNG, SHA-1), so that what is ours can be told apart.
 
 #include "largeproject.h"
+#include "level.h"
 #include "model/tilemap.h"
+#include "store/packedmember.h"
 #include "store/pngmember.h"
 #include "store/projectdocument.h"
 #include "store/projectstore.h"
 #include "store/zipfile.h"
 
 #include <QCryptographicHash>
+#include <QElapsedTimer>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
+#include <zlib.h>
 
 namespace {
 
@@ -147,6 +152,137 @@ void readTileLayer(benchmark::State &state)
     state.SetBytesProcessed(qint64(state.iterations()) * data.size());
 }
 
+/// A project with a level of so many cells along each side. QUENMORA_BENCH_FILE keeps its file.
+class LevelProject
+{
+public:
+    explicit LevelProject(int side)
+    {
+        Project *project = store.newProject("Level");
+        const QUuid palette = project->createPalette(CreateAction::DefaultNext, "Palette")->id();
+        const auto tiles = project->createTileSet("Tiles", palette, LargeProject::TileCount);
+        for (int index = 0; index < tiles->count(); ++index)
+            tiles->setTileImage(index, LargeProject::picture({8, 8}, uint(index)));
+        map = project->createMap("Map", tiles->id(), {side, side});
+        map->tileLayer()->restore(structures({side, side}));
+        const QString kept = qEnvironmentVariable("QUENMORA_BENCH_FILE");
+        store.setFileName(kept.isEmpty() ? folder.filePath("level.quenmora") : kept);
+    }
+    /// Paints some cells, other ones each time.
+    void stroke()
+    {
+        const QSize size = map->size();
+        for (int i = 0; i < 20; ++i)
+            map->setTile({(m_strokes * 37 + i) % size.width(), (m_strokes * 101) % size.height()},
+                         {.index = m_strokes % 512, .flip = true, .used = true});
+        ++m_strokes;
+    }
+
+    QTemporaryDir folder;
+    ProjectStore store;
+    QPointer<Map> map;
+
+private:
+    int m_strokes = 1;
+};
+
+/// The size of the file beside what zlib makes of its large member, and the memory of what is kept beside the file.
+void saveLevelFirst(benchmark::State &state)
+{
+    LevelProject level(int(state.range(0)));
+    for ([[maybe_unused]] const auto iteration : state) {
+        level.store.keptBlocks().clear();
+        benchmark::DoNotOptimize(level.store.save(false));
+    }
+    const auto file = double(QFileInfo(level.store.fileName()).size());
+    const QByteArray cells = level.map->tileLayer()->serialise(level.map->tileLayer()->bounds());
+    QByteArray deflated(qsizetype(compressBound(uLong(cells.size()))), Qt::Uninitialized);
+    auto size = uLongf(deflated.size());
+    compress2(reinterpret_cast<Bytef *>(deflated.data()), &size, reinterpret_cast<const Bytef *>(cells.constData()),
+              uLong(cells.size()), Z_BEST_COMPRESSION);
+    state.counters["bytes"] = file;
+    state.counters["to_zlib"] = file / double(size);
+    state.counters["kept_to_file"] = double(level.store.keptBlocks().memory()) / file;
+}
+
+/// What saving took until now: zlib over the large member alone.
+void zlibAlone(benchmark::State &state)
+{
+    const LevelProject level(int(state.range(0)));
+    const QByteArray cells = level.map->tileLayer()->serialise(level.map->tileLayer()->bounds());
+    QByteArray deflated(qsizetype(compressBound(uLong(cells.size()))), Qt::Uninitialized);
+    for ([[maybe_unused]] const auto iteration : state) {
+        auto size = uLongf(deflated.size());
+        compress2(reinterpret_cast<Bytef *>(deflated.data()), &size, reinterpret_cast<const Bytef *>(cells.constData()),
+                  uLong(cells.size()), Z_BEST_COMPRESSION);
+    }
+}
+
+void saveLevelAfterStroke(benchmark::State &state)
+{
+    LevelProject level(int(state.range(0)));
+    benchmark::DoNotOptimize(level.store.save(false));
+    for ([[maybe_unused]] const auto iteration : state) {
+        level.stroke();
+        benchmark::DoNotOptimize(level.store.save(false));
+    }
+}
+
+void loadLevel(benchmark::State &state)
+{
+    LevelProject level(int(state.range(0)));
+    benchmark::DoNotOptimize(level.store.save(false));
+    ProjectStore store;
+    for ([[maybe_unused]] const auto iteration : state) {
+        store.newProject("loading...");
+        benchmark::DoNotOptimize(store.load(level.store.fileName()));
+    }
+}
+
+void fingerprintLevel(benchmark::State &state)
+{
+    const LevelProject level(int(state.range(0)));
+    for ([[maybe_unused]] const auto iteration : state)
+        benchmark::DoNotOptimize(level.store.fingerprint());
+    state.counters["peak_MiB"] = memory("VmHWM:");
+}
+
+void snapshotLevel(benchmark::State &state)
+{
+    const LevelProject level(int(state.range(0)));
+    for ([[maybe_unused]] const auto iteration : state)
+        benchmark::DoNotOptimize(snapshotOf(*level.store.project(), true));
+}
+
+/// The steps in which a copy is packed while somebody paints, one after the other: the longest of all in milliseconds.
+void packLevelInSteps(benchmark::State &state)
+{
+    LevelProject level(int(state.range(0)));
+    double longest = 0;
+    qint64 steps = 0;
+    for ([[maybe_unused]] const auto iteration : state) {
+        level.store.keptBlocks().clear();
+        const ProjectSnapshot snapshot = snapshotOf(*level.store.project(), true);
+        for (const ProjectMember &member : snapshot) {
+            for (MemberPacker packer(member, level.store.keptBlocks()); !packer.atEnd(); ++steps) {
+                QElapsedTimer timer;
+                timer.start();
+                packer.step();
+                longest = std::max(longest, double(timer.nsecsElapsed()) / 1e6);
+            }
+        }
+    }
+    state.counters["steps"] = double(steps);
+    state.counters["longest_ms"] = longest;
+}
+
+BENCHMARK(zlibAlone)->Arg(2000)->Unit(benchmark::kMillisecond);
+BENCHMARK(saveLevelFirst)->Arg(1000)->Arg(2000)->Unit(benchmark::kMillisecond);
+BENCHMARK(saveLevelAfterStroke)->Arg(1000)->Arg(2000)->Unit(benchmark::kMillisecond);
+BENCHMARK(loadLevel)->Arg(2000)->Unit(benchmark::kMillisecond);
+BENCHMARK(fingerprintLevel)->Arg(2000)->Unit(benchmark::kMillisecond);
+BENCHMARK(snapshotLevel)->Arg(2000)->Unit(benchmark::kMillisecond);
+BENCHMARK(packLevelInSteps)->Arg(2000)->Unit(benchmark::kMillisecond);
 BENCHMARK(saveProject)->Unit(benchmark::kMillisecond);
 BENCHMARK(writeArchiveOnly)->Unit(benchmark::kMillisecond);
 BENCHMARK(serializeMembers)->Unit(benchmark::kMillisecond);

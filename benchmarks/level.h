@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <random>
+#include <vector>
 
 constexpr QSize Screen(1920, 1080);
 
@@ -28,6 +29,30 @@ inline double memory(const char *name)
             return line.mid(qsizetype(qstrlen(name)) + 1).simplified().split(' ').first().toDouble() / 1024;
     }
     return 0;
+}
+
+/// Cells as levels have them: structures of 16 × 8 cells, each of four tiles in a palette offset of its own, with one
+/// noisy cell in sixteen.
+inline TileMap::Rows structures(QSize size)
+{
+    constexpr unsigned TileCount = 512;
+    std::minstd_rand random;
+    TileMap::Rows rows(size.height(), TileMap::Row(size.width()));
+    std::vector<unsigned> kinds(size_t(size.width()) / 16 + 1);
+    for (int y = 0; y < size.height(); ++y) {
+        if (y % 8 == 0)
+            std::generate(kinds.begin(), kinds.end(), [&random] { return unsigned(random() >> 8); });
+        for (int x = 0; x < size.width(); ++x) {
+            const unsigned kind = kinds[size_t(x) / 16];
+            TileMap::TileData &cell = rows[y][x];
+            cell = {.index = int((kind + unsigned(x + y) % 4) % TileCount), .offset = int(kind % 16), .used = true};
+            if (const auto noise = unsigned(random() >> 4); noise % 16 == 0) {
+                cell.index = int(noise / 16 % TileCount);
+                cell.mirror = noise >> 14 & 1;
+            }
+        }
+    }
+    return rows;
 }
 
 /// A map with both layers, bound to 512 random tiles in the standard palette.

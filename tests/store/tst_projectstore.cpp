@@ -1,11 +1,14 @@
 #include "store/projectstore.h"
 
+#include "store/projectdocument.h"
+
 #include "support/archivetools.h"
 #include "support/filesizelimit.h"
 #include "support/modeltools.h"
 #include "support/sampleproject.h"
 #include "support/testmain.h"
 
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFileInfo>
 #include <QTemporaryDir>
@@ -64,6 +67,43 @@ private slots:
         QCOMPARE(fileDuringLoad, "");
         QCOMPARE(m_store->fileName(), file);
         QCOMPARE(m_store->project()->openDocuments(), (QStringList{"first", "second"}));
+    }
+
+    void equalProjectsMakeEqualFiles()
+    {
+        Project *project = m_store->newProject("new");
+        SampleProject::fill(*project);
+        const auto map = project->createMap("Large", project->tileSets().first()->id(), {900, 100});
+        const auto saved = [this](const char *name) {
+            const QString file = path(name);
+            return m_store->saveAs(file) ? readFile(file) : QByteArray();
+        };
+        const QByteArray first = saved("first");
+        QVERIFY(!first.isEmpty());
+        for (qsizetype record = first.indexOf("PK\1\2"); record >= 0; record = first.indexOf("PK\1\2", record + 1))
+            QCOMPARE(first.mid(record + 12, 4).toHex(), "00002100"); // midnight on the first day that there is
+        QCOMPARE(saved("second"), first);
+        const auto unused = project->createPalette(CreateAction::DefaultNext, "of no picture");
+        QVERIFY(!saved("before").isEmpty());
+        unused->setRawColour(9, 77);
+        QVERIFY(!saved("after").isEmpty());
+        QCOMPARE(differingMembers("before", "after"), QStringList("project.json"));
+
+        // what is kept makes the file that everything anew makes
+        QRandomGenerator random(1);
+        for (int round = 0; round < 20; ++round) {
+            for (int stroke = random.bounded(4); stroke >= 0; --stroke)
+                map->setTile({random.bounded(900), random.bounded(100)}, {.index = random.bounded(99), .used = true});
+            project->spriteBanks().first()->setImage(0, SampleProject::gradient({16, random.bounded(1, 16)}));
+            const QByteArray kept = saved("kept");
+            QVERIFY(m_store->keptBlocks().memory() <= kept.size());
+            m_store->keptBlocks().clear();
+            QVERIFY(saved("anew") == kept);
+        }
+        project->deleteMap(map->id());
+        QVERIFY(m_store->save(false) && m_store->keptBlocks().memory() < QFileInfo(path("anew")).size());
+        m_store->close();
+        QCOMPARE(m_store->keptBlocks().memory(), 0);
     }
 
     void backsUpThePreviousVersion()
@@ -224,7 +264,18 @@ private slots:
         Project *project = m_store->newProject("new");
         SampleProject::fill(*project);
         QByteArray last = m_store->fingerprint();
-        QCOMPARE(last.size(), 20);
+        const auto digest = [project] {
+            QCryptographicHash hash(QCryptographicHash::Sha1);
+            const ProjectMembers members = serializeProject(*project, false);
+            for (auto member = members.cbegin(); member != members.cend(); ++member) {
+                hash.addData(member.key().toUtf8());
+                hash.addData(member.value());
+            }
+            return hash.result();
+        };
+        QCOMPARE(last, digest());
+        QVERIFY(m_store->saveAs(path("a.quenmora"))); // from now on pictures come from what is kept
+        QCOMPARE(m_store->fingerprint(), last);
         project->setOpenDocuments({"another"});
         QCOMPARE(m_store->fingerprint(), last);
 
@@ -249,6 +300,7 @@ private slots:
             edit();
             QVERIFY2(m_store->fingerprint() != last, qPrintable(QString::number(&edit - edits)));
             last = m_store->fingerprint();
+            QCOMPARE(last, digest());
         }
     }
 
@@ -286,6 +338,21 @@ private:
     [[nodiscard]] QStringList entries() const
     {
         return QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
+    }
+
+    /// The members of two archives that differ or are in one of them alone.
+    [[nodiscard]] QStringList differingMembers(const QString &one, const QString &other) const
+    {
+        ZipFile first;
+        ZipFile second;
+        if (!first.openForReading(path(one)) || !second.openForReading(path(other)))
+            return {"unreadable"};
+        QStringList names;
+        const QStringList all = serializeProject(*m_store->project(), true).keys();
+        std::copy_if(all.cbegin(), all.cend(), std::back_inserter(names), [&](const QString &name) {
+            return first.read(name) != second.read(name) || !first.contains(name);
+        });
+        return names;
     }
 
     std::unique_ptr<QTemporaryDir> m_folder;
