@@ -10,7 +10,9 @@
 
 namespace {
 
-constexpr int BestCompression = 9;
+/// Of libdeflate's levels, which reach to 12. On a level of 2000 × 2000 cells this one makes what zlib makes at its
+/// best in three tenths of the time; the next one saves another half of a hundredth and takes half as long again.
+constexpr int CompressionLevel = 8;
 
 struct Free
 {
@@ -21,7 +23,7 @@ struct Free
 /// The compressor with its tables, which are costly to make: there is one thread.
 libdeflate_compressor *compressor()
 {
-    static const std::unique_ptr<libdeflate_compressor, Free> instance(libdeflate_alloc_compressor(BestCompression));
+    static const std::unique_ptr<libdeflate_compressor, Free> instance(libdeflate_alloc_compressor(CompressionLevel));
     return instance.get();
 }
 
@@ -70,7 +72,7 @@ ContentKey PackedBlock::keyOf(QByteArrayView historyAndContent, qsizetype histor
 PackedBlock PackedBlock::pack(QByteArrayView historyAndContent, qsizetype historySize)
 {
     // libdeflate knows neither of a history nor of streams that go on. So the history is deflated as well; then what
-    // the stream says, which names no positions, is written again without it and without an end. That takes a thirtieth
+    // the stream says, which names no positions, is written again without it and without an end. That takes a twentieth
     // of the time of deflating.
     const QByteArrayView content = historyAndContent.sliced(historySize);
     const QByteArray stream = deflate(historyAndContent);
