@@ -181,8 +181,8 @@ void ProjectActions::importMap(const QString &filePath)
     Project *project = m_project();
     if (!project)
         return;
-    const auto [map, failure] =
-        isNextData(filePath) ? importNextData(*project, filePath, m_dialogParent) : importPicture(*project, filePath, m_dialogParent);
+    const auto [map, failure] = isNextData(filePath) ? importNextData(*project, filePath, m_dialogParent)
+                                                     : importPicture(*project, filePath, m_dialogParent);
     if (map)
         emit mapReady(map->id());
     if (!failure.isEmpty())

@@ -325,6 +325,7 @@ bool ProjectController::settleForeignChange()
 void ProjectController::reload()
 {
     const QString file = filePath();
+    const Busy busy(m_parentWidget, opening(file));
     // A file that cannot be read must not cost the project that is here.
     ProjectStore trial;
     trial.newProject({});
