@@ -181,6 +181,8 @@ int ExportCommand::listAssets(const Project &project)
 int ExportCommand::doRecipe(const Project &project)
 {
     const QString file = m_request.recipe.isEmpty() ? Recipe::pathFor(m_request.project) : m_request.recipe;
+    if (m_request.recipe.isEmpty() && !QFileInfo::exists(file))
+        return fail(file, tr("The project has no recipe; File > Export Project in the editor makes one"));
     Recipe recipe;
     const QList<Recipe::Problem> problems = recipe.load(file);
     for (const Recipe::Problem &problem : problems)

@@ -52,7 +52,7 @@ void describe(QCommandLineParser &parser)
 {
     parser.setApplicationDescription(
         tr("Writes the graphics of a Quenmora project in the forms that a game takes, as its recipe says, the file\n"
-           "game.quenmora-export.json beside game.quenmora.\n"
+           "game.quenmora-export.json beside game.quenmora, which File > Export Project in the editor makes.\n"
            "Files whose bytes stay the same are not touched."));
 }
 

@@ -96,6 +96,8 @@ private slots:
         };
         row("project", {"none.quenmora"}, "none.quenmora: There is no such file");
         row("damaged", {"bad.json"}, "bad.json: Invalid project file");
+        row("no recipe", {"other.quenmora"},
+            "other.quenmora-export.json: The project has no recipe; File > Export Project in the editor makes one");
         row("recipe", {"game.quenmora", "--recipe", "none"}, "none: There is no such file");
         row("bad recipe", {"game.quenmora", "--recipe", "bad.json"},
             "bad.json:2: “kind” is missing|bad.json:2: “id” is missing|bad.json:2: “name” is missing|"
@@ -125,6 +127,7 @@ private slots:
         QFETCH(QString, message);
         QVERIFY(writeFile("bad.json", "{\"formatVersion\": 1, \"outputs\": [\n{},\n\n7]}"));
         const QByteArray project = readFile("game.quenmora");
+        QVERIFY(writeFile("other.quenmora", project));
         QCOMPARE(run(words + QStringList("--quiet")), 1);
         QVERIFY(m_out.isEmpty());
         message.replace("PATH", QDir::currentPath()).replace("(ID", '(' + m_twins.toString(QUuid::WithoutBraces));
