@@ -49,6 +49,12 @@ QString pathIn(const QString &folder, const QString &file)
     return folder == QStringLiteral(".") ? file : QDir::cleanPath(folder + u'/' + file);
 }
 
+/// A line of a file, as compilers name it.
+QString placeIn(const QString &file, int line)
+{
+    return line > 0 ? file + u':' + QString::number(line) : file;
+}
+
 /// The values that an option takes.
 QString valuesOf(const Option &option)
 {
@@ -186,7 +192,7 @@ int ExportCommand::doRecipe(const Project &project)
     Recipe recipe;
     const QList<Recipe::Problem> problems = recipe.load(file);
     for (const Recipe::Problem &problem : problems)
-        fail(problem.line > 0 ? file + u':' + QString::number(problem.line) : file, problem.reason);
+        fail(placeIn(file, problem.line), problem.reason);
     if (!problems.isEmpty())
         return Failed;
 
@@ -197,7 +203,8 @@ int ExportCommand::doRecipe(const Project &project)
     QStringList targets;
     bool hasFailed = outcomes.size() < recipe.outputs().size();
     for (qsizetype i = 0; i < outcomes.size(); ++i) {
-        report(outcomes[i], folder, recipe.outputs()[i].file);
+        const RecipeOutput &output = recipe.outputs()[i];
+        report(outcomes[i], folder, placeIn(file, recipe.lineOf(output)) + QStringLiteral(": ") + output.file);
         hasFailed = hasFailed || outcomes[i].state == State::Impossible;
         for (const RecipeRun::File &written : outcomes[i].files)
             targets.append(pathIn(folder, written.name));
@@ -237,10 +244,10 @@ RecipeRun::Mode ExportCommand::mode() const
     return m_request.isDryRun ? RecipeRun::Mode::Look : RecipeRun::Mode::Write;
 }
 
-void ExportCommand::report(const RecipeRun::Outcome &outcome, const QString &folder, const QString &target)
+void ExportCommand::report(const RecipeRun::Outcome &outcome, const QString &folder, const QString &place)
 {
     if (outcome.state == State::Impossible)
-        fail(target, outcome.reason);
+        fail(place, outcome.reason);
     for (const RecipeRun::File &file : outcome.files) {
         if (!m_request.isQuiet && (file.state != State::Unchanged || m_request.isDryRun))
             m_out << wordOf(file.state).leftJustified(StateWidth) << pathIn(folder, file.name) << '\n';

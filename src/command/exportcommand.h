@@ -32,8 +32,8 @@ private:
     [[nodiscard]] int doRecipe(const Project &project);
     [[nodiscard]] int doSingle(const Project &project);
 
-    /// Says how an output went; its folder is in front of the names of its files.
-    void report(const NextData::RecipeRun::Outcome &outcome, const QString &folder, const QString &target);
+    /// Says how an output went: its files, which are in a folder, or why it failed, and where it is asked for.
+    void report(const NextData::RecipeRun::Outcome &outcome, const QString &folder, const QString &place);
     void sum(const QList<NextData::RecipeRun::Outcome> &outcomes);
     [[nodiscard]] bool writeDepfile(const QStringList &targets, const QStringList &prerequisites);
     [[nodiscard]] NextData::RecipeRun::Mode mode() const;

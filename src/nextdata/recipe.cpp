@@ -31,6 +31,7 @@ QString Recipe::pathFor(const QString &projectFile)
 
 void Recipe::setOutputs(const QList<RecipeOutput> &outputs)
 {
+    m_lineOfFile.clear();
     m_outputs = outputs;
     std::stable_sort(m_outputs.begin(), m_outputs.end(),
                      [](const RecipeOutput &a, const RecipeOutput &b) { return a.file < b.file; });

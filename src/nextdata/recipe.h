@@ -3,6 +3,7 @@
 #include "nextdata/source.h"
 
 #include <QByteArray>
+#include <QHash>
 #include <QList>
 #include <QMap>
 #include <QString>
@@ -57,6 +58,8 @@ public:
     /// Sorted by file.
     [[nodiscard]] const QList<RecipeOutput> &outputs() const { return m_outputs; }
     void setOutputs(const QList<RecipeOutput> &outputs);
+    /// The line on which an output stands in the text that was read; 0 for one that was not.
+    [[nodiscard]] int lineOf(const RecipeOutput &output) const { return m_lineOfFile.value(output.file); }
 
     /// Why an output cannot be in a recipe, whatever the project holds: its form, options or file. Empty when it can.
     [[nodiscard]] static QString problemOf(const RecipeOutput &output);
@@ -72,10 +75,12 @@ public:
     /// The reason why not, or empty.
     [[nodiscard]] QString save(const QString &path) const;
 
-    bool operator==(const Recipe &) const = default;
+    /// Whether the outputs are equal, wherever they were read.
+    bool operator==(const Recipe &other) const { return m_outputs == other.m_outputs; }
 
 private:
     QList<RecipeOutput> m_outputs;
+    QHash<QString, int> m_lineOfFile;
 };
 
 } // namespace NextData

@@ -75,6 +75,7 @@ class Reader
 {
 public:
     QList<RecipeOutput> outputs;
+    QHash<QString, int> lineOfFile;
     QList<Recipe::Problem> problems;
 
     void read(const QByteArray &text)
@@ -114,7 +115,7 @@ private:
             return note(tr("“%1” is there twice").arg(Outputs));
         if (list.size() > Recipe::MaxOutputs)
             return note(tr("There are more than %1 outputs").arg(Recipe::MaxOutputs));
-        QHash<QString, int> lineOfFile;
+        QHash<QString, int> lineOfCase; // some systems take names for one that differ in their case
         for (qsizetype i = 0; i < list.size(); ++i) {
             m_line = lines[i];
             const qsizetype before = problems.size();
@@ -124,10 +125,11 @@ private:
                     note(problem);
             }
             const QString file = output.file.toCaseFolded();
-            if (lineOfFile.contains(file) && !file.isEmpty())
+            if (lineOfCase.contains(file) && !file.isEmpty())
                 note(tr("“%1” is the file of line %2 already")
-                         .arg(output.file, QString::number(lineOfFile.value(file))));
-            lineOfFile.insert(file, m_line);
+                         .arg(output.file, QString::number(lineOfCase.value(file))));
+            lineOfCase.insert(file, m_line);
+            lineOfFile.insert(output.file, m_line);
             outputs.append(output);
         }
     }
@@ -225,7 +227,7 @@ QByteArray optionsText(const RecipeOutput &output)
     return '{' + entries.join(", ") + '}';
 }
 
-QByteArray lineOf(const RecipeOutput &output)
+QByteArray textLine(const RecipeOutput &output)
 {
     const auto entry = [](QLatin1String key, const QString &value) { return quoted(key) + ": " + quoted(value); };
     const QByteArrayList entries{
@@ -241,8 +243,10 @@ QList<Recipe::Problem> Recipe::parse(const QByteArray &text)
 {
     Reader reader;
     reader.read(text);
-    if (reader.problems.isEmpty())
+    if (reader.problems.isEmpty()) {
         setOutputs(reader.outputs);
+        m_lineOfFile = reader.lineOfFile;
+    }
     return reader.problems;
 }
 
@@ -250,7 +254,7 @@ QByteArray Recipe::text() const
 {
     QByteArrayList lines;
     for (const RecipeOutput &output : m_outputs)
-        lines.append(lineOf(output));
+        lines.append(textLine(output));
     const QByteArray indent(Indent, ' ');
     const QByteArray list = lines.isEmpty() ? QByteArray() : '\n' + lines.join(",\n") + '\n' + indent;
     return "{\n" + indent + quoted(Version) + ": " + QByteArray::number(FormatVersion) + ",\n" + indent

@@ -108,8 +108,9 @@ private slots:
         row("depfile over project", {"game.quenmora", "--depfile", "./game.quenmora"},
             "./game.quenmora: This file is exported, or exported from");
         row("output folder", {"game.quenmora", "--output", "bad.json"},
-            "gfx data/palette.pal: The folder PATH/bad.json/gfx data cannot be made|"
-            "hero.c: The folder PATH/bad.json cannot be made|level.map: The folder PATH/bad.json cannot be made");
+            "RECIPE:4: gfx data/palette.pal: The folder PATH/bad.json/gfx data cannot be made|"
+            "RECIPE:5: hero.c: The folder PATH/bad.json cannot be made|"
+            "RECIPE:6: level.map: The folder PATH/bad.json cannot be made");
         single("Main", "nonsense", {"--to", "x"}, "x: There is no form “nonsense”");
         single("Main", "palette", {"--to", "x", "--option", "group=1"},
                "x: There is no option “group”, only text, label, pad, cut");
@@ -130,6 +131,7 @@ private slots:
         QVERIFY(writeFile("other.quenmora", project));
         QCOMPARE(run(words + QStringList("--quiet")), 1);
         QVERIFY(m_out.isEmpty());
+        message.replace("RECIPE", "game.quenmora-export.json");
         message.replace("PATH", QDir::currentPath()).replace("(ID", '(' + m_twins.toString(QUuid::WithoutBraces));
         message.replace("OTHER", m_errors.section(", ", -1).chopped(2));
         QCOMPARE(m_errors.chopped(1).split(u'\n').join(u'|'), message);
@@ -164,9 +166,10 @@ private slots:
     {
         QVERIFY(removeAsset(m_palette));
         QCOMPARE(run({"game.quenmora", "--depfile", "d"}), 1);
-        QCOMPARE(m_errors,
-                 "gfx data/palette.pal: The project no longer has a palette “Main” with the id "
-                     + m_palette.toString(QUuid::WithoutBraces) + '\n');
+        QCOMPARE(
+            m_errors,
+            "game.quenmora-export.json:4: gfx data/palette.pal: The project no longer has a palette “Main” with the id "
+                + m_palette.toString(QUuid::WithoutBraces) + '\n');
         QVERIFY(m_out.endsWith("2 new, 1 failed\n"));
         QVERIFY(QFile::exists("level_0.map") && !QFile::exists("gfx data") && !QFile::exists("d"));
     }
