@@ -24,18 +24,30 @@ const QSet<QString> &reservedWords()
             "rlc rlca rld rr rra rrc rrca rrd rst sbc scf set setae sla sli sll slr sra srl stop sub swap swapnib test "
             "tst xor",
             // directives and operators
-            "abs align assert bank binary block break byte bank code const cont data db dc dd defb defc defd defgroup "
-            "define defl defm defp defs defvars defw device disp display dl dm ds dup dw dword dz edup else elseif end "
-            "endif endm endmod endmodule endp endr ends endt ent eq equ even export exitm extern fpos ge global gt "
-            "high if ifdef ifndef incbin inchob include inctrd insert jnz le list local low lt lua macro mmu mod "
-            "module ne nolist not nul opt org output page phase proc public rept savebin savenex savesna seek section "
-            "shl shr sizeof slot space struct text title undefine unphase while word",
-            // C, with what z88dk adds, and the names that every program has
+            "abs abyte abytec abytez align assert assume binary block byte dc db dd defarray defb defc defd defdevice "
+            "defg defgroup defh define defl defm defp defs defvars defw dephase device dg dh disp display dl dm ds dup "
+            "dw dword dz edup else elseif encoding end endif endlua endm endmod endmodule ends endt endw ent eq equ "
+            "even exitm export extern fpos ge global gt hex high if ifdef ifndef incbin inchob include inctrd insert "
+            "le "
+            "lib line low lt lua macro mmu mod module ne not opt org outend output page phase public rept repeat "
+            "savebin savenex savesna section shl shr size sizeof slot struct tapend tapout textarea undefine unphase "
+            "until weaklabel while word xdef xref",
+            // C and C++, with what z88dk adds
             "alignas alignof auto bool case char complex constexpr continue default do double enum extern false far "
-            "float for fortran goto imaginary inline int interrupt long main near new near naked noreturn nullptr "
-            "register restrict return sfr short signed sizeof static switch true typedef typeof union unsigned using "
-            "void volatile asm class delete friend namespace operator private protected template this throw try "
-            "virtual catch at banked critical nonbanked preserves_regs reentrant shadowregs wparam",
+            "float for fortran goto imaginary inline int interrupt long main near new naked noreturn nullptr register "
+            "restrict return sfr short signed sizeof static switch true typedef typeof union unsigned using void "
+            "volatile asm class delete friend namespace operator private protected template this throw try virtual "
+            "catch at banked critical nonbanked reentrant shadowregs wparam",
+            // its library, functions of which compilers know by themselves
+            "abort abs acos alloca asin atan atexit atof atoi atol bcmp bcopy bsearch bzero calloc ceil clearerr clock "
+            "close cos cosh creat ctime difftime div errno exit exp fabs fclose feof ferror fflush fgetc fgetpos fgets "
+            "floor fmod fopen fprintf fputc fputs fread free freopen frexp fscanf fseek fsetpos ftell fwrite getc "
+            "getchar getenv gets gmtime index isalnum isalpha iscntrl isdigit isgraph islower isprint ispunct isspace "
+            "isupper isxdigit itoa labs ldexp ldiv localtime log longjmp lseek malloc memchr memcmp memcpy memmove "
+            "memset mktime modf open perror pow printf putc putchar puts qsort raise rand read realloc remove rename "
+            "rewind rindex round scanf setbuf setjmp setvbuf signal sin sinh sleep sprintf sqrt srand sscanf stderr "
+            "stdin stdout strcat strchr strcmp strcpy strlen strncat strncmp strncpy strstr strtok system tan tanh "
+            "time tolower toupper trunc ungetc unlink vprintf write",
         };
         QSet<QString> all;
         for (const char *list : lists) {

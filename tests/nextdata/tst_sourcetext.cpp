@@ -22,6 +22,7 @@ const QStringList &awkwardNames()
         "ld",
         "HL",
         "int",
+        "floor",
         "1st",
         "",
         "..",
@@ -239,10 +240,11 @@ private slots:
         for (const QString &name : awkwardNames())
             labels.append(names.claim(name, "map", {"width"}));
         QCOMPARE(labels,
-                 (QStringList{"level", "level_2", "level_2_2", "ld_data", "hl_data", "int_data", "map_1st", "map",
-                              "map_2", "up", "con_map", "grosse_x_y", "map_3", "error", "a_db_1_b", "label",
-                              QString(40, 'x'), QString(40, 'x') + "_2"}));
+                 (QStringList{"level", "level_2", "level_2_2", "ld_data", "hl_data", "int_data", "floor_data",
+                              "map_1st", "map", "map_2", "up", "con_map", "grosse_x_y", "map_3", "error", "a_db_1_b",
+                              "label", QString(40, 'x'), QString(40, 'x') + "_2"}));
         QCOMPARE(names.claim("Level width", "map"), "level_width_2"); // LEVEL_WIDTH is there
+        QCOMPARE(names.claim("Title", "image"), "title");
         QCOMPARE(names.claim("Up", "map", {"of"}), "up_2");
         QVERIFY(names.claimExactly("Tower") && !names.claimExactly("tower") && !names.claimExactly("level"));
     }
