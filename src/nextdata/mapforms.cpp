@@ -101,7 +101,8 @@ Data writeScreens(const Map &map, const OptionValues &values, int cellBytes, Enc
             const QRect area({across * screen.width(), down * screen.height()}, screen);
             data.blocks.append({.bytes = screenBytes(rows, area, byColumns, cellBytes, encode),
                                 .comment = isWhole ? QString() : tr("screen %1, %2").arg(across).arg(down),
-                                .bytesPerLine = bytesPerLine});
+                                .bytesPerLine = bytesPerLine,
+                                .startsFile = values.flag("screen-files")});
         }
     }
     return data;
@@ -202,6 +203,8 @@ QList<Form> mapForms()
                        tr("Cells across a screen into which the map is cut; 0 is the whole width"), 0, MostSide, 0),
         Option::number(QStringLiteral("screen-height"), tr("Screen height"),
                        tr("Cells down a screen into which the map is cut; 0 is the whole height"), 0, MostSide, 0),
+        Option::flag(QStringLiteral("screen-files"), tr("A file for each screen"),
+                     tr("Writes the screens into numbered files of their own")),
     };
     return {
         {.id = QStringLiteral("map-2byte"),

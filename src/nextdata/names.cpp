@@ -28,10 +28,9 @@ const QSet<QString> &reservedWords()
             "defg defgroup defh define defl defm defp defs defvars defw dephase device dg dh disp display dl dm ds dup "
             "dw dword dz edup else elseif encoding end endif endlua endm endmod endmodule ends endt endw ent eq equ "
             "even exitm export extern fpos ge global gt hex high if ifdef ifndef incbin inchob include inctrd insert "
-            "le "
-            "lib line low lt lua macro mmu mod module ne not opt org outend output page phase public rept repeat "
-            "savebin savenex savesna section shl shr size sizeof slot struct tapend tapout textarea undefine unphase "
-            "until weaklabel while word xdef xref",
+            "le lib line low lt lua macro mmu mod module ne not opt org outend output page phase public rept "
+            "repeat savebin savenex savesna section shl shr size sizeof slot struct tapend tapout textarea undefine "
+            "unphase until weaklabel while word xdef xref",
             // C and C++, with what z88dk adds
             "alignas alignof auto bool case char complex constexpr continue default do double enum extern false far "
             "float for fortran goto imaginary inline int interrupt long main near new naked noreturn nullptr register "

@@ -90,14 +90,14 @@ QByteArray joined(const Blocks &blocks)
 }
 
 /// What is added to the name of each file: nothing to that of the only one, unless more may come when the asset grows.
-QStringList partNames(qsizetype files, const OptionValues &values)
+QStringList partNames(const QList<Blocks> &files, const OptionValues &values)
 {
-    if (files == 1 && values.is("cut", "none"))
+    if (files.size() == 1 && values.is("cut", "none") && !files.first().first().startsFile)
         return {QString()};
-    QStringList parts;
-    for (qsizetype i = 0; i < files; ++i)
-        parts.append(u'_' + QString::number(i));
-    return parts;
+    QStringList names;
+    for (qsizetype i = 0; i < files.size(); ++i)
+        names.append(u'_' + QString::number(i));
+    return names;
 }
 
 /// Makes the names of blocks parts of labels, each another one, and defines their numbers.
@@ -192,7 +192,7 @@ Result<Parts> partsOf(const Form &form, const Source &source, const OptionValues
     data.constants.append({QStringLiteral("size"), size});
     nameBlocks(data);
     const QList<Blocks> files = filesOf(data.blocks, fileSize(values));
-    return Parts{data, files, partNames(files.size(), values)};
+    return Parts{data, files, partNames(files, values)};
 }
 
 } // namespace

@@ -222,6 +222,21 @@ private slots:
                  (QStringList{"a.b_0.bin 6144", "a.b_1.bin 8192", "a.b_2.bin 2048"}));
     }
 
+    void screensAreFiles()
+    {
+        Project project;
+        const auto map = project.createMap("Cave", {}, {5, 3});
+        for (const auto &[width, count, size] : {std::tuple{"2", 6, 8}, {"5", 2, 20}}) {
+            const Options options{{"screen-width", width}, {"screen-height", "2"}, {"screen-files", "true"}};
+            const auto files = written("map-2byte", sourceOf(project, map), options, "cave.map");
+            QCOMPARE(files->size(), count);
+            for (int i = 0; i < count; ++i)
+                QCOMPARE((*files)[i], (OutputFile{QString("cave_%1.map").arg(i), QByteArray(size, 0)}));
+        }
+        const auto whole = written("map-1byte", sourceOf(project, map), {{"screen-files", "true"}}, "cave.map");
+        QCOMPARE(whole->first().name, "cave_0.map"); // as it is called when the map has grown
+    }
+
     void labels()
     {
         // what is written of the two assets that are called "Level" tells their labels apart
