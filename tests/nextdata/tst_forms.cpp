@@ -91,11 +91,10 @@ private slots:
         setCell(*lift, 0, 1, {5, 3});
         setCell(*lift, 0, 2, {5, 3, false, true});
 
-        const QUuid still = m_blocks->createBoundTileAnimation("Still")->id();
+        m_blocks->createBoundTileAnimation("Still");
         const QUuid moving = m_blocks->createBoundTileAnimation("Moving")->id();
         m_blocks->animation(moving)->setMapObjectType(MapObjectType::HorizontalPlatform);
         m_cave->animatedBlocks()->append(new AnimationProperties({moving, {31, 6, 3, 1}, 0, 10, 0}));
-        Q_UNUSED(still)
 
         const auto bats = m_project.createSpriteBank(Quenmora::FourBit, "Bats", m_palette->id());
         bats->newAnimation();
