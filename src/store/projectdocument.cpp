@@ -11,6 +11,7 @@
 #include "store/blocksetdocument.h"
 #include "store/documentreader.h"
 #include "store/imagedocument.h"
+#include "store/keptblocks.h"
 #include "store/mapdocument.h"
 #include "store/palettedocument.h"
 #include "store/pngmember.h"
@@ -233,6 +234,26 @@ private:
     ReadingBudget m_budget;
 };
 
+bool isSame(const QJsonObject &a, const QJsonObject &b)
+{
+    const auto content = [](QJsonObject document) {
+        document.remove(OpenDocuments);
+        return document;
+    };
+    return content(a) == content(b);
+}
+
+bool isSame(const ProjectMember::Cells &a, const ProjectMember::Cells &b)
+{
+    return a.size == b.size && a.tileSetId == b.tileSetId && a.rows == b.rows;
+}
+
+/// What is stored of them: QImage itself compares the colours that pixels have, not the indices.
+bool isSame(const QImage &a, const QImage &b)
+{
+    return a.cacheKey() == b.cacheKey() || KeptBlocks::pictureKey(a) == KeptBlocks::pictureKey(b);
+}
+
 QString invalidProject()
 {
     return QCoreApplication::translate("ProjectDocument", "Invalid project file");
@@ -260,6 +281,21 @@ ProjectSnapshot snapshotOf(const Project &project, bool includeOpenDocuments)
     std::sort(members.begin(), members.end(),
               [](const ProjectMember &a, const ProjectMember &b) { return a.name < b.name; });
     return members;
+}
+
+bool haveSameContent(const ProjectSnapshot &a, const ProjectSnapshot &b)
+{
+    return std::equal(a.cbegin(), a.cend(), b.cbegin(), b.cend(), [](const ProjectMember &x, const ProjectMember &y) {
+        return x.name == y.name
+            && std::visit(
+                   [](const auto &c, const auto &d) {
+                       if constexpr (std::is_same_v<decltype(c), decltype(d)>)
+                           return isSame(c, d);
+                       else
+                           return false;
+                   },
+                   x.content, y.content);
+    });
 }
 
 ProjectMembers serializeProject(const Project &project, bool includeOpenDocuments)

@@ -29,7 +29,10 @@ using MemberOpener = std::function<std::unique_ptr<QIODevice>(const QString &mem
 /// The list of open documents, which is no part of the project's content, is left out on request.
 [[nodiscard]] ProjectSnapshot snapshotOf(const Project &project, bool includeOpenDocuments);
 
-/// The same as bytes by name, all of them in memory.
+/// Whether two snapshots hold the same content, whatever documents are open. Costs what they do not share.
+[[nodiscard]] bool haveSameContent(const ProjectSnapshot &a, const ProjectSnapshot &b);
+
+/// A snapshot as bytes by name, all of them in memory.
 [[nodiscard]] ProjectMembers serializeProject(const Project &project, bool includeOpenDocuments);
 
 /// The name of a member that could not be read again, or none: no PNG can hold some pictures, and readers refuse what

@@ -1,0 +1,124 @@
+#include "recovery/projectpicture.h"
+
+#include "model/image.h"
+#include "model/map.h"
+#include "model/project.h"
+#include "model/spritebank.h"
+#include "model/tileset.h"
+
+#include <QPainter>
+#include <QSet>
+
+#include <algorithm>
+
+namespace {
+
+/// How many parts of a map are looked at in each direction, and how many cells of each.
+constexpr int PartsAcross = 16;
+constexpr int CellsLookedAt = 6;
+
+/// How much there is to see in a part of a map: the number of different tiles among some of its cells.
+qsizetype variety(const TileMap &tiles, const QRect &part)
+{
+    QSet<int> seen;
+    for (int y = 0; y < CellsLookedAt; ++y) {
+        for (int x = 0; x < CellsLookedAt; ++x) {
+            const TileMap::TileData cell = tiles.cellAt(
+                part.topLeft() + QPoint(part.width() * x / CellsLookedAt, part.height() * y / CellsLookedAt));
+            if (cell.used)
+                seen.insert(cell.index);
+        }
+    }
+    return seen.size();
+}
+
+/// The part of a map, as large as the picture can be, in which most is to see.
+QRect partToShow(const TileMap &tiles)
+{
+    const QSize size = (ProjectPictureSize / TileMap::TileSize).boundedTo(tiles.size());
+    const QSize room = tiles.size() - size;
+    QRect best({0, 0}, size);
+    qsizetype most = 0;
+    for (int y = 0; y < PartsAcross; ++y) {
+        for (int x = 0; x < PartsAcross; ++x) {
+            const QPoint at(room.width() * x / (PartsAcross - 1), room.height() * y / (PartsAcross - 1));
+            if (const qsizetype found = variety(tiles, {at, size}); found > most) {
+                most = found;
+                best.moveTopLeft(at);
+            }
+        }
+    }
+    return most > 0 ? best : QRect();
+}
+
+QImage pictureOf(const Map &map)
+{
+    const QPointer<TileMap> tiles = map.tileLayer();
+    const QRect part = tiles ? partToShow(*tiles) : QRect();
+    return part.isEmpty() ? QImage() : tiles->toImage(part);
+}
+
+QImage pictureOf(const Image &image)
+{
+    const QImage picture = image.image().convertToFormat(QImage::Format_RGB32);
+    if (picture.width() <= ProjectPictureSize.width() && picture.height() <= ProjectPictureSize.height())
+        return picture;
+    return picture.scaled(ProjectPictureSize, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+}
+
+/// The first pieces of an asset, row by row.
+template <typename PieceAt>
+QImage mosaic(int count, int side, PieceAt pieceAt)
+{
+    const QSize most = ProjectPictureSize / side;
+    const int columns = std::min(count, most.width());
+    if (columns == 0)
+        return {};
+    const int rows = std::min((count + columns - 1) / columns, most.height());
+    QImage picture(columns * side, rows * side, QImage::Format_RGB32);
+    picture.fill(Qt::black);
+    QPainter painter(&picture);
+    for (int index = 0; index < std::min(count, columns * rows); ++index)
+        painter.drawImage(index % columns * side, index / columns * side, pieceAt(index));
+    return picture;
+}
+
+QImage pictureOf(const SpriteBank &bank)
+{
+    return mosaic(bank.count(), SpriteBank::SpriteSize,
+                  [&bank](int index) { return bank.renderSprite(index, 0, false, false, false); });
+}
+
+QImage pictureOf(const TileSet &tiles)
+{
+    return mosaic(tiles.count(), Tile::Size,
+                  [&tiles](int index) { return tiles.tileImage(index, false, false, false, tiles.tileOffset(index)); });
+}
+
+/// The first picture that can be made of assets of a kind, that in front before the others.
+template <typename Asset>
+QImage pictureOfOne(QList<QPointer<Asset>> assets, const QUuid &front)
+{
+    std::stable_partition(assets.begin(), assets.end(), [&front](const auto &asset) { return asset->id() == front; });
+    for (const QPointer<Asset> &asset : std::as_const(assets)) {
+        if (const QImage picture = pictureOf(*asset); !picture.isNull())
+            return picture;
+    }
+    return {};
+}
+
+} // namespace
+
+QImage projectPicture(const Project &project, const QUuid &front)
+{
+    const auto image = project.image(front);
+    const auto bank = project.spriteBank(front);
+    QImage picture = image ? pictureOf(*image) : bank ? pictureOf(*bank) : QImage();
+    if (picture.isNull())
+        picture = pictureOfOne(project.maps(), front);
+    if (picture.isNull())
+        picture = pictureOfOne(project.images(), front);
+    if (picture.isNull())
+        picture = pictureOfOne(project.spriteBanks(), front);
+    return picture.isNull() ? pictureOfOne(project.tileSets(), front) : picture;
+}
