@@ -60,6 +60,11 @@ AppState::AppState(QObject *parent) : QObject(parent), m_folder(QDir::home().can
     m_folder.cd(ConfigurationFolder);
 }
 
+QString AppState::recoveryFolder()
+{
+    return QDir::home().filePath(ConfigurationFolder + QStringLiteral("/recovery"));
+}
+
 bool AppState::loadState()
 {
     const auto document = readJson(m_folder.filePath(StateFile), StateWarning);

@@ -38,6 +38,9 @@ public:
     [[nodiscard]] int tileZoom() const { return m_tileZoom; }
     void setTileZoom(int zoom) { m_tileZoom = zoom; }
 
+    /// The folder for copies of projects, for the time after a crash.
+    [[nodiscard]] static QString recoveryFolder();
+
     /// Full paths of recent projects, the latest first.
     [[nodiscard]] QStringList recentFiles() const { return m_recentFiles; }
     void setRecentFiles(const QStringList &paths) { m_recentFiles = paths; }

@@ -9,6 +9,7 @@
 #include "app/menus/tilemenu.h"
 #include "app/menus/viewmenu.h"
 #include "app/nextsteps.h"
+#include "app/recoverylist.h"
 #include "app/returnwatch.h"
 #include "app/startpage.h"
 #include "app/version.h"
@@ -49,6 +50,8 @@ MainWindow::MainWindow(QWidget *parent)
     : QMainWindow(parent)
     , m_startPage(new StartPage(m_menuBar.fileMenu(), &m_tabs))
     , m_projectController(this, m_menuBar.fileMenu())
+    , m_recoveryKeeper(&m_projectController, AppState::recoveryFolder())
+    , m_recoveryOffers(&m_projectController, &m_recoveryKeeper, AppState::recoveryFolder())
     , m_askBeforeDeletion([this](const DeletionQuestion &question) {
         return askYesOrNo(this, question.title, question.text, question.consequences);
     })
@@ -85,6 +88,7 @@ MainWindow::MainWindow(QWidget *parent)
     connectMenus();
     connectActions();
     connectDocks();
+    connectRecovery();
     m_menuBar.viewMenu()->setChecked(ViewMenu::CheckableItem::ScratchEditor, false);
     show();
     statusBar()->showMessage(windowTitle());
@@ -190,6 +194,18 @@ void MainWindow::connectDocks()
             [this](const QUuid &id) { m_actions.copyItem(ProjectTree::PaletteNode, id); });
 }
 
+void MainWindow::connectRecovery()
+{
+    constexpr int MessageTime = 10'000;
+    m_recoveryKeeper.setShownCallback([this] {
+        return RecoveryKeeper::Shown{m_tabs.openDocumentIds(), DocumentTabView::documentId(m_tabs.currentWidget())};
+    });
+    connect(m_documents.undoGroup(), &QUndoGroup::indexChanged, &m_recoveryKeeper, &RecoveryKeeper::lookSoon);
+    connect(&m_recoveryKeeper, &RecoveryKeeper::failed, statusBar(),
+            [this](const QString &message) { statusBar()->showMessage(message, MessageTime); });
+    m_startPage->setRecoveryList(new RecoveryList(&m_recoveryOffers));
+}
+
 void MainWindow::deleteItem(ProjectTree::ProjectNode node, const QUuid &id)
 {
     const QPointer<Project> project = m_projectController.project();
@@ -215,6 +231,7 @@ void MainWindow::showEvent(QShowEvent *event)
     loadState();
     m_firstShow = false;
     m_menuBar.viewMenu()->setChecked(ViewMenu::CheckableItem::StatusBar, !statusBar()->isHidden());
+    m_recoveryOffers.refresh();
     m_updateController.checkOnStartup();
 }
 

@@ -10,6 +10,8 @@
 #include "app/projectactions.h"
 #include "app/projectcontroller.h"
 #include "app/projecttree/projectwindow.h"
+#include "app/recoverykeeper.h"
+#include "app/recoveryoffers.h"
 #include "app/updatepresenter.h"
 #include "editors/canvas/spritewindow.h"
 #include "editors/canvas/tilepickertool.h"
@@ -60,6 +62,8 @@ public:
     [[nodiscard]] ProjectActions *projectActions() { return &m_actions; }
     [[nodiscard]] ProjectExport *projectExport() { return m_projectExport; }
     [[nodiscard]] const DocumentViews &views() const { return m_views; }
+    [[nodiscard]] RecoveryKeeper *recoveryKeeper() { return &m_recoveryKeeper; }
+    [[nodiscard]] RecoveryOffers *recoveryOffers() { return &m_recoveryOffers; }
     [[nodiscard]] MenuBar *menus() { return &m_menuBar; }
     /// The dialog that shows errors, made when it is first needed.
     [[nodiscard]] MessageDialog *messageDialog();
@@ -89,6 +93,7 @@ private:
     void connectMenus();
     void connectActions();
     void connectDocks();
+    void connectRecovery();
     /// Deletes an asset that may be deleted when the person, who is asked, wants that.
     void deleteItem(ProjectTree::ProjectNode node, const QUuid &id);
 
@@ -121,6 +126,8 @@ private:
     StartPage *m_startPage;
     ProjectController m_projectController;
     AppState m_state;
+    RecoveryKeeper m_recoveryKeeper;
+    RecoveryOffers m_recoveryOffers;
     bool m_firstShow = true;
     DeletionAnswer m_askBeforeDeletion;
     PreferencesDialog m_preferences;

@@ -72,6 +72,7 @@ ProjectController::ProjectController(QWidget *parentWidget, FileMenu *fileMenu)
     , m_backup([] { return false; })
     , m_isClean([] { return true; })
     , m_markClean([] {})
+    , m_unmodified([] {})
     , m_ask([this](const QString &projectName) { return askAboutChanges(projectName); })
     , m_askAboutForeignChange(
           [this](const ForeignChange &change) { return ::askAboutForeignChange(m_parentWidget, change); })
@@ -102,6 +103,11 @@ void ProjectController::setCleanCallbacks(std::function<bool()> isClean, std::fu
 {
     m_isClean = std::move(isClean);
     m_markClean = std::move(markClean);
+}
+
+void ProjectController::setUnmodifiedCallback(std::function<void()> unmodified)
+{
+    m_unmodified = std::move(unmodified);
 }
 
 void ProjectController::setUnsavedAnswerCallback(std::function<UnsavedAnswer(const QString &)> ask)
@@ -188,11 +194,34 @@ bool ProjectController::openCopy(const QString &copy, const QString &filePath)
     if (!load(copy))
         return false;
     m_store.setFileName(filePath);
-    follow(FileState(filePath));
+    showModified();
+    return true;
+}
+
+bool ProjectController::openRecovered(const MemberReader &members, const QString &filePath, bool isFileChanged)
+{
+    close();
+    const Busy busy(m_parentWidget, tr("Recovering the project…"));
+    const Suspension suspension(m_parentWidget);
+    m_project = m_store.newProject(tr("loading..."));
+    if (QString problem; !readProject(*m_project, members, problem)) {
+        m_store.close();
+        m_project.clear();
+        return false;
+    }
+    m_store.setFileName(filePath);
+    showModified();
+    if (isFileChanged)
+        m_file = FileState(); // saving asks
+    return true;
+}
+
+void ProjectController::showModified()
+{
+    follow(FileState(filePath()));
     emit projectOpened(m_project);
     m_savedFingerprint.clear();
     m_markClean();
-    return true;
 }
 
 void ProjectController::openBackup(const QString &filePath)
@@ -269,6 +298,7 @@ void ProjectController::markSaved()
     m_savedFingerprint = m_store.fingerprint();
     m_proposedFile.clear();
     m_markClean();
+    m_unmodified();
 }
 
 // What other programs do to the file

@@ -3,6 +3,7 @@
 #include "app/filestate.h"
 #include "app/foreignchange.h"
 #include "model/project.h"
+#include "store/projectdocument.h"
 #include "store/projectstore.h"
 
 #include <QByteArray>
@@ -51,11 +52,17 @@ public:
     /// Opens a copy of a project as the modified project that belongs to a file, or to none for an empty path. False
     /// when the open project was not to be closed, or the copy cannot be read.
     bool openCopy(const QString &copy, const QString &filePath);
+    /// Opens a project that was not saved when the program crashed, as the modified one that it was, in place of the
+    /// open one; saving asks before it replaces a file that another program changed since. False, and none is open,
+    /// when the members cannot be read.
+    bool openRecovered(const MemberReader &members, const QString &filePath, bool isFileChanged);
 
     /// Whether the previous version of the file is kept when saving.
     void setBackupCallback(std::function<bool()> backup);
     /// Whether every undo stack is clean, and marking all of them clean.
     void setCleanCallbacks(std::function<bool()> isClean, std::function<void()> markClean);
+    /// Hears when the project is new, or as its file from now on.
+    void setUnmodifiedCallback(std::function<void()> unmodified);
     /// Asks what becomes of the unsaved changes of the project of that name, in place of a message box.
     void setUnsavedAnswerCallback(std::function<UnsavedAnswer(const QString &)> ask);
     /// Asks what is to be done about a file that another program changed, in place of a message box.
@@ -93,6 +100,8 @@ private:
     /// Replaces the open project by the one of a file; without one when it cannot be read.
     [[nodiscard]] bool load(const QString &filePath);
     void open(const QString &filePath);
+    /// Shows the project that was read, which is in no file as it is.
+    void showModified();
     [[nodiscard]] bool hasUnsavedChanges() const;
     /// Takes the file as it is now for the project's own.
     void follow(const FileState &file);
@@ -124,6 +133,7 @@ private:
     std::function<bool()> m_backup;
     std::function<bool()> m_isClean;
     std::function<void()> m_markClean;
+    std::function<void()> m_unmodified;
     std::function<UnsavedAnswer(const QString &)> m_ask;
     std::function<ForeignChange::Answer(const ForeignChange &)> m_askAboutForeignChange;
     std::function<QString()> m_chooseFile;

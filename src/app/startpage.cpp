@@ -70,6 +70,11 @@ void StartPage::setProjectOpen(bool open)
     m_hint->setVisible(open);
 }
 
+void StartPage::setRecoveryList(QWidget *list)
+{
+    static_cast<QVBoxLayout *>(m_beginnings->layout())->insertWidget(0, list);
+}
+
 void StartPage::listRecentProjects()
 {
     while (QLayoutItem *entry = m_recentEntries->takeAt(0)) {

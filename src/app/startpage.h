@@ -20,6 +20,8 @@ public:
     explicit StartPage(const FileMenu *menu, QWidget *parent = nullptr);
 
     void setProjectOpen(bool open);
+    /// Takes the list of what can be recovered, which comes before all else.
+    void setRecoveryList(QWidget *list);
 
 private:
     void listRecentProjects();

@@ -1,0 +1,249 @@
+#include "app/mainwindow.h"
+#include "app/recoverylist.h"
+#include "store/projectdocument.h"
+#include "support/modeltools.h"
+#include "support/testmain.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QStatusBar>
+#include <QTest>
+
+#include <optional>
+
+/// A window in which somebody works until the program crashes, and the one that is opened then.
+class TestRecoveryScene : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { Update::UpdateChecker::setFeedAddress({}); }
+    void init()
+    {
+        QDir(AppState::recoveryFolder()).removeRecursively();
+        QFile::remove(AppState::recoveryFolder());
+        QFile::remove(gameFile());
+        m_first.emplace();
+        m_first->recoveryKeeper()->setInterval(1);
+        m_first->projectController()->setFileNameCallback([this] { return gameFile(); });
+        m_first->projectController()->setUnsavedAnswerCallback(
+            [](const QString &) { return ProjectController::Discard; });
+        m_first->projectController()->newProject(Name);
+    }
+    void cleanup()
+    {
+        m_second.reset();
+        m_first.reset();
+        QCOMPARE(foldersLeft(), 0);
+    }
+
+    void opensWhatACrashLeft_data()
+    {
+        QTest::addColumn<bool>("saved");
+        QTest::newRow("saved before") << true;
+        QTest::newRow("never saved") << false;
+    }
+    void opensWhatACrashLeft()
+    {
+        QFETCH(bool, saved);
+        if (saved)
+            m_first->projectController()->save();
+        const QByteArray file = readFile(gameFile());
+        work();
+        QVERIFY(copyIsMade());
+        QCOMPARE(readFile(gameFile()), file);
+        QVERIFY(m_first->projectController()->isModified());
+
+        crash();
+        open();
+        QVERIFY(list()->isVisible());
+        QStringList texts;
+        for (const QLabel *label : list()->findChildren<QLabel *>()) {
+            texts.append(label->text());
+            QVERIFY(label->textFormat() == Qt::PlainText || !label->text().contains('<'));
+        }
+        QVERIFY(texts.contains(Name + "!"));
+        QVERIFY(texts.filter("Never saved").isEmpty() == saved);
+        click("Recover");
+        ProjectController *controller = m_second->projectController();
+        QVERIFY(controller->project() && !list()->isVisible());
+        QCOMPARE(controller->filePath(), saved ? gameFile() : QString());
+        QVERIFY(controller->isModified());
+        QVERIFY(m_second->windowTitle().endsWith(Name + "!"));
+        const ProjectMembers was = serializeProject(*m_first->projectController()->project(), true);
+        QVERIFY(serializeProject(*controller->project(), true) == was);
+
+        QCOMPARE(foldersLeft(), 2); // one is its own now
+        controller->setFileNameCallback([this] { return gameFile(); });
+        controller->save();
+        QVERIFY(!controller->isModified() && readFile(gameFile()) != file);
+        QCOMPARE(foldersLeft(), 1);
+        ProjectStore store;
+        QVERIFY(store.load(gameFile()));
+        QVERIFY(serializeProject(*store.project(), true) == was);
+    }
+
+    void copiesGoWithWhatTheyAreFor_data()
+    {
+        QTest::addColumn<int>("end");
+        QTest::newRow("saved") << 0;
+        QTest::newRow("closed, discarding the changes") << 1;
+        QTest::newRow("closed with the window") << 2;
+        QTest::newRow("changes taken back") << 3;
+    }
+    void copiesGoWithWhatTheyAreFor()
+    {
+        QFETCH(int, end);
+        m_first->projectController()->save();
+        work();
+        QVERIFY(copyIsMade());
+        QCOMPARE(foldersLeft(), 1);
+        if (end == 0) {
+            m_first->projectController()->save();
+        } else if (end == 1) {
+            m_first->projectController()->newProject("Other");
+        } else if (end == 2) {
+            QVERIFY(m_first->close());
+            m_first.reset();
+        } else {
+            m_first->projectController()->project()->setName(Name);
+            m_first->recoveryKeeper()->lookSoon();
+        }
+        QTRY_COMPARE(foldersLeft(), 0);
+    }
+
+    void discardsWhenItIsWanted()
+    {
+        work();
+        QVERIFY(copyIsMade());
+        crash();
+        open();
+        for (const bool answer : {false, true}) {
+            list()->setDiscardCallback([answer](const QString &) { return answer; });
+            click("Discard…");
+            QCOMPARE(list()->isVisible(), !answer);
+            QCOMPARE(foldersLeft(), answer ? 1 : 2);
+        }
+    }
+
+    void keepsADamagedCopyAside()
+    {
+        work();
+        QVERIFY(copyIsMade());
+        const QString left = crash();
+        QVERIFY(writeFile(left + "/manifest-1", "damaged"));
+        for (const bool told : {true, false}) { // the next window has nothing new to tell
+            open();
+            QCOMPARE(list()->isVisible(), told);
+            QVERIFY(m_second->recoveryOffers()->copies().empty());
+            QCOMPARE(list()->findChildren<QPushButton *>().size(), 0);
+            QVERIFY(!QFile::exists(left));
+        }
+        const QStringList aside =
+            QDir(AppState::recoveryFolder()).entryList({"damaged-*"}, QDir::Dirs | QDir::NoDotAndDotDot);
+        QCOMPARE(aside.size(), 1);
+        QVERIFY(QDir(AppState::recoveryFolder() + '/' + aside.first()).removeRecursively());
+    }
+
+    void waitsForAPause()
+    {
+        work();
+        QSignalSpy begun(m_first->recoveryKeeper(), &RecoveryKeeper::copyBegun);
+        QTest::mousePress(m_first->statusBar(), Qt::LeftButton);
+        m_first->recoveryKeeper()->lookSoon();
+        QVERIFY(!begun.wait(3 * PauseWatch::Rest));
+        QTest::mouseRelease(m_first->statusBar(), Qt::LeftButton);
+        QVERIFY(begun.wait());
+    }
+
+    void saysOnceThatNoCopyCanBeKept()
+    {
+        QVERIFY(writeFile(AppState::recoveryFolder(), "in the way"));
+        QSignalSpy failed(m_first->recoveryKeeper(), &RecoveryKeeper::failed);
+        work();
+        m_first->recoveryKeeper()->lookSoon();
+        QVERIFY(failed.wait());
+        QCOMPARE(m_first->statusBar()->currentMessage(), failed.first().first().toString());
+        QVERIFY(QFile::remove(AppState::recoveryFolder()));
+        QVERIFY(copyIsMade()); // it went on trying
+        QVERIFY(QDir(AppState::recoveryFolder()).removeRecursively());
+        m_first->projectController()->project()->setName("Vanished");
+        QVERIFY(copyIsMade()); // the whole of it again
+        crash();
+        open();
+        QCOMPARE(m_second->recoveryOffers()->copies().size(), 1U);
+        QCOMPARE(failed.size(), 1);
+        m_second->recoveryOffers()->discard(0);
+    }
+
+    void isCompleteBeforeTheFileIsWritten()
+    {
+        m_first->projectController()->save();
+        const QByteArray before = readFile(gameFile());
+        QByteArray whenCopied;
+        connect(m_first->recoveryKeeper(), &RecoveryKeeper::copyCompleted, this,
+                [&] { whenCopied = readFile(gameFile()); });
+        work();
+        connect(m_first->projectController(), &ProjectController::aboutToSave, this, [this] {
+            QFile::remove(gameFile());
+            QDir().mkpath(gameFile()); // so that it fails
+        });
+        m_first->projectController()->save();
+        QCOMPARE(whenCopied, before);
+        QCOMPARE(foldersLeft(), 1);
+        QVERIFY(QDir().rmdir(gameFile()));
+    }
+
+private:
+    QString gameFile() const { return m_folder("game.quenmora"); }
+    static int foldersLeft()
+    {
+        return int(QDir(AppState::recoveryFolder()).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size());
+    }
+
+    /// Changes something.
+    void work() { m_first->projectController()->project()->setName(Name + "!"); }
+    bool copyIsMade()
+    {
+        QSignalSpy completed(m_first->recoveryKeeper(), &RecoveryKeeper::copyCompleted);
+        m_first->recoveryKeeper()->lookSoon();
+        return completed.wait();
+    }
+    /// Leaves what the first window has copied as if its program had ended, and keeps on running.
+    static QString crash()
+    {
+        const QDir common(AppState::recoveryFolder());
+        const QDir running(common.filePath(common.entryList(QDir::Dirs | QDir::NoDotAndDotDot).value(0)));
+        const QString left = common.filePath(QUuid::createUuid().toString(QUuid::WithoutBraces));
+        QDir().mkpath(left);
+        for (const QString &file : running.entryList(QDir::Files))
+            QFile::copy(running.filePath(file), left + '/' + file);
+        return left;
+    }
+    /// Opens the window of another program.
+    void open()
+    {
+        m_second.reset();
+        m_second.emplace();
+        m_second->projectController()->setUnsavedAnswerCallback(
+            [](const QString &) { return ProjectController::Discard; });
+    }
+    RecoveryList *list() { return m_second->findChild<RecoveryList *>(); }
+    void click(const QString &text)
+    {
+        for (QPushButton *button : list()->findChildren<QPushButton *>()) {
+            if (button->text() == text && button->isVisible())
+                return button->click();
+        }
+        qFatal("no button %s", qPrintable(text));
+    }
+
+    const QString Name = QStringLiteral("Game <b>1</b>");
+    TemporaryFolder m_folder;
+    std::optional<MainWindow> m_first;
+    std::optional<MainWindow> m_second;
+};
+
+QUENMORA_TEST_MAIN(TestRecoveryScene)
+#include "tst_recoveryscene.moc"
