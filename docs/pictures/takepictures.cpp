@@ -37,6 +37,10 @@
 #include "model/spritebank.h"
 #include "model/tileset.h"
 #include "preferences/preferencesdialog.h"
+#include "recovery/projectpicture.h"
+#include "recovery/recoverycopier.h"
+#include "store/keptblocks.h"
+#include "store/projectdocument.h"
 #include "update/updatechecker.h"
 
 #include <QApplication>
@@ -114,6 +118,7 @@ private:
         send(QEvent::MouseButtonRelease, to, Qt::LeftButton, Qt::NoButton);
     }
 
+    void takeRecovery(const QString &sample);
     void takeMenus();
     void takeDialogs();
     void takeMap();
@@ -131,6 +136,7 @@ private:
 void PictureTaker::takeAll(const QString &sample)
 {
     shoot(QStringLiteral("start"));
+    takeRecovery(sample);
     m_window.projectController()->openProject(sample);
     takeMap();
     takePixels();
@@ -138,6 +144,29 @@ void PictureTaker::takeAll(const QString &sample)
     takeMenus();
     takeDialogs();
     takeExport();
+}
+
+void PictureTaker::takeRecovery(const QString &sample)
+{
+    ProjectStore store;
+    auto folder = RecoveryFolder::create(AppState::recoveryFolder());
+    if (!store.load(sample) || !folder)
+        return;
+    {
+        RecoveryManifest manifest;
+        manifest.projectName = store.project()->name();
+        manifest.projectFile = sample;
+        manifest.time = QDateTime(QDate::currentDate(), QTime(14, 32));
+        RecoveryWriter writer(std::move(*folder));
+        KeptBlocks kept;
+        RecoveryCopier copier(writer, kept, snapshotOf(*store.project(), true), manifest,
+                              projectPicture(*store.project(), {}));
+        if (copier.run() != RecoveryCopier::Done)
+            return;
+    } // and nobody has it any more, as after a crash
+    m_window.recoveryOffers()->refresh();
+    shoot(QStringLiteral("recovery"));
+    m_window.recoveryOffers()->discard(0);
 }
 
 void PictureTaker::takeMap()

@@ -1,0 +1,268 @@
+// What killrecovery.py runs and kills: somebody who works, rests and saves in the real window, and somebody who looks
+// at what is left. What they see goes to the standard output, a JSON object a line.
+
+#include "app/recoverykeeper.h"
+#include "app/recoveryoffers.h"
+#include "model/image.h"
+#include "model/map.h"
+#include "model/spritebank.h"
+#include "model/tileset.h"
+#include "preferences/generalpage.h"
+#include "recovery/recoverycopy.h"
+#include "store/contentdigest.h"
+#include "store/zipfile.h"
+#include "support/randomuser.h"
+#include "ui/messagedialog.h"
+
+#include <QApplication>
+#include <QDateTime>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTimer>
+
+#include <algorithm>
+#include <cstdio>
+#include <ctime>
+#include <vector>
+
+namespace {
+
+constexpr int MapSide = 2000;
+constexpr int TileCount = 512;
+
+uint hashed(uint x, uint y)
+{
+    uint h = x * 374761393U + y * 668265263U;
+    h = (h ^ h >> 13) * 1274126177U;
+    return h ^ h >> 16;
+}
+
+void say(QJsonObject event)
+{
+    event.insert("time", QDateTime::currentMSecsSinceEpoch());
+    const QByteArray line = QJsonDocument(event).toJson(QJsonDocument::Compact) + '\n';
+    std::fwrite(line.constData(), 1, size_t(line.size()), stdout);
+    std::fflush(stdout);
+}
+
+QString checksum(const QByteArray &bytes)
+{
+    const ContentKey key = ContentDigest::keyOf(bytes);
+    return QStringLiteral("%1-%2-%3").arg(key.high, 0, 16).arg(key.low, 0, 16).arg(key.size);
+}
+
+QJsonObject checksums(const ProjectMembers &members)
+{
+    QJsonObject all;
+    for (auto member = members.cbegin(); member != members.cend(); ++member)
+        all.insert(member.key(), checksum(member.value()));
+    return all;
+}
+
+/// A level as games have them: structures of 16 × 8 cells, and one cell in sixteen at random.
+void drawLevel(Map &map)
+{
+    for (int y = 0; y < MapSide; ++y) {
+        for (int x = 0; x < MapSide; ++x) {
+            const uint noise = hashed(uint(x), uint(y));
+            const uint structure = hashed(uint(x / 16), uint(y / 8)) % 24;
+            const uint index = noise % 16 == 0 ? noise >> 8 : structure * 16 + uint(y % 8) * 2 + uint(x % 2);
+            map.setTile({x, y}, {int(index % TileCount), false, false, noise % 64 == 0, int(structure % 16), true});
+        }
+    }
+}
+
+int make(const QString &fileName)
+{
+    ProjectStore store;
+    Project &project = *store.newProject("Level");
+    const QUuid palette = project.createPalette(CreateAction::DefaultNext, "Colours")->id();
+    const auto tiles = project.createTileSet("Tiles", palette, TileCount, false);
+    for (int i = 0; i < TileCount; ++i) {
+        QImage tile = tiles->image(i);
+        for (int y = 0; y < tile.height(); ++y)
+            std::generate_n(tile.scanLine(y), tile.width(),
+                            [&, x = 0U]() mutable { return hashed(x++ / 3, uint(i)) & 15; });
+        tiles->setTileImage(i, tile);
+    }
+    drawLevel(*project.createMap("Level", tiles->id(), {MapSide, MapSide}));
+    project.createSpriteBank(Quenmora::EightBit, "Sprites", palette);
+    project.createImage(Quenmora::Layer2_320x256, "Title", palette);
+    project.setOpenDocuments({project.maps().first()->id().toString()});
+    return store.saveAs(fileName) ? 0 : 1;
+}
+
+/// Works at random until it is killed: a few actions, a rest, and every now and then a save.
+class Worker : public QObject
+{
+public:
+    Worker(const QString &fileName, quint32 seed, int interval, bool tells) : m_user(m_window, seed), m_tells(tells)
+    {
+        ProjectController *controller = m_controller;
+        controller->setUnsavedAnswerCallback([](const QString &) { return ProjectController::Discard; });
+        RecoveryKeeper *keeper = m_window.recoveryKeeper();
+        keeper->setProperty("interval", interval);
+        connect(keeper, &RecoveryKeeper::copyBegun, this, &Worker::sayContent);
+        connect(keeper, &RecoveryKeeper::copyCompleted, this, [this] { say({{"event", "copied"}}); });
+        connect(keeper, &RecoveryKeeper::failed, this, [this](const QString &text) { say({{"event", text}}); });
+        if (m_window.recoveryOffers()->copies().empty())
+            controller->openProject(fileName);
+        else
+            m_window.recoveryOffers()->recover(0);
+        if (!controller->project())
+            qFatal("no project");
+        say({{"event", "ready"}, {"file", controller->filePath()}, {"modified", controller->isModified()}});
+        connect(&m_timer, &QTimer::timeout, this, &Worker::act);
+        m_timer.start(5);
+    }
+
+    [[nodiscard]] const RecoveryKeeper *keeper() { return m_window.recoveryKeeper(); }
+
+private:
+    void act()
+    {
+        m_window.messageDialog()->accept();
+        if (m_rest-- > 0)
+            return;
+        m_user.act();
+        say({{"event", "act"}, {"action", m_user.lastAction()}});
+        if (m_user.number(6) == 0)
+            m_rest = m_user.number(200); // a second at most
+        if (m_user.number(30) == 0) {
+            m_window.menus()->setEnabled(true);
+            say({{"event", "save"}});
+            m_controller->save();
+            say({{"event", "savedone"}});
+        }
+    }
+    void say(const QJsonObject &event) const
+    {
+        if (m_tells)
+            ::say(event);
+    }
+    void sayContent() const
+    {
+        if (!m_tells)
+            return; // it takes longer than any slice
+        say({{"event", "copy"}, {"members", checksums(serializeProject(*m_controller->project(), true))}});
+    }
+
+    MainWindow m_window;
+    ProjectController *m_controller = m_window.projectController();
+    RandomUser m_user;
+    bool m_tells;
+    QTimer m_timer;
+    int m_rest = 0;
+};
+
+/// What a project is made of when it can be opened; else nothing.
+QJsonObject opened(const MemberReader &read, const QStringList &names)
+{
+    Project project;
+    QString problem;
+    if (!readProject(project, read, problem))
+        return {};
+    ProjectMembers members;
+    for (const QString &name : names)
+        members.insert(name, read(name));
+    return checksums(members);
+}
+
+QJsonObject openedFile(const QString &fileName)
+{
+    ZipFile archive;
+    Project project;
+    QString problem;
+    if (!archive.openForReading(fileName)
+        || !readProject(
+            project, [&archive](const QString &name) { return archive.read(name); }, problem))
+        return {};
+    return opened([&archive](const QString &name) { return archive.read(name); },
+                  serializeProject(project, true).keys());
+}
+
+qint64 cpuMicroseconds()
+{
+    timespec now{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+    return qint64(now.tv_sec) * 1'000'000 + now.tv_nsec / 1000;
+}
+
+/// Notes how much work each slice of the keeper's is: on a busy machine the time that passes is that of others, too.
+class SliceWatch : public QApplication
+{
+public:
+    using QApplication::QApplication;
+
+    void watch(const RecoveryKeeper *keeper) { m_keeper = keeper; }
+    [[nodiscard]] const std::vector<qint64> &microseconds() const { return m_microseconds; }
+
+    bool notify(QObject *receiver, QEvent *event) override
+    {
+        if (!m_keeper || event->type() != QEvent::Timer || receiver->parent() != m_keeper)
+            return QApplication::notify(receiver, event);
+        const qint64 start = cpuMicroseconds();
+        const bool done = QApplication::notify(receiver, event);
+        m_microseconds.push_back(cpuMicroseconds() - start);
+        return done;
+    }
+
+private:
+    const RecoveryKeeper *m_keeper = nullptr;
+    std::vector<qint64> m_microseconds;
+};
+
+/// Works at random for some seconds, and tells how long the slices were.
+int measure(SliceWatch &application, const QString &fileName, quint32 seed, int seconds)
+{
+    Worker worker(fileName, seed, 1000, false);
+    application.watch(worker.keeper());
+    QTimer::singleShot(seconds * 1000, &application, &QApplication::quit);
+    QApplication::exec();
+    std::vector<qint64> slices = application.microseconds();
+    std::sort(slices.begin(), slices.end());
+    const auto part = [&slices](double share) { return slices[size_t(share * double(slices.size() - 1))]; };
+    std::printf("%zu slices: median %lld us, 99 %% %lld us, 99.9 %% %lld us, longest %lld us\n", slices.size(),
+                part(0.5), part(0.99), part(0.999), slices.back());
+    return 0;
+}
+
+/// Tells what is left of a project after its program was killed.
+int look(const QString &fileName)
+{
+    say({{"event", "file"}, {"members", openedFile(fileName)}});
+    say({{"event", "backup"}, {"members", openedFile(fileName + ".bak")}});
+    for (RecoveryFolder &folder : RecoveryFolder::takeAbandoned(AppState::recoveryFolder())) {
+        const RecoveryCopy copy(std::move(folder));
+        QStringList names;
+        for (const RecoveryManifest::Member &member : copy.manifest().members)
+            names.append(member.name);
+        const auto read = [&copy](const QString &name) { return copy.read(name); };
+        say({{"event", "recovery"},
+             {"state", copy.state()},
+             {"begun", copy.manifest().time.toMSecsSinceEpoch()},
+             {"members", copy.state() == RecoveryCopy::Whole ? opened(read, names) : QJsonObject()}});
+    }
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    SliceWatch application(argc, argv);
+    const QStringList arguments = QApplication::arguments();
+    const QString task = arguments.value(1);
+    const QString file = arguments.value(2);
+    if (task == "make")
+        return make(file);
+    if (task == "look")
+        return look(file);
+    Update::UpdateChecker::setFeedAddress({});
+    const quint32 seed = arguments.value(3).toUInt();
+    if (task == "measure")
+        return measure(application, file, seed, arguments.value(4).toInt());
+    const Worker worker(file, seed, arguments.value(4).toInt(), true);
+    return QApplication::exec();
+}
