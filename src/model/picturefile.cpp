@@ -91,6 +91,24 @@ PictureFile decoded(Reader &reader)
     return NxImage::accepts(image.size()) ? PictureFile{std::move(image), {}} : refused();
 }
 
+/// What comes of the reader for a picture, told by its content, when that has a head; else nothing.
+template <class Result, class Use>
+Result withReader(QIODevice &device, const Use &use)
+{
+    const QByteArray start = device.peek(LongestSignature);
+    const auto signature = std::find_if(std::begin(Signatures), std::end(Signatures),
+                                        [&start](const Signature &known) { return start.startsWith(known.bytes); });
+    if (signature == std::end(Signatures))
+        return {};
+    if (qstrcmp(signature->format, "png") == 0) {
+        PngReader reader(device);
+        return reader.readHead() ? use(reader) : Result();
+    }
+    QImageReader reader(&device, signature->format);
+    reader.setAutoDetectImageFormat(false); // no other decoder is asked
+    return reader.canRead() ? use(reader) : Result();
+}
+
 } // namespace
 
 QString PictureFile::failure() const
@@ -112,18 +130,16 @@ PictureFile PictureFile::read(const QString &fileName)
 
 PictureFile PictureFile::read(QIODevice &device)
 {
-    const QByteArray start = device.peek(LongestSignature);
-    const auto signature = std::find_if(std::begin(Signatures), std::end(Signatures),
-                                        [&start](const Signature &known) { return start.startsWith(known.bytes); });
-    if (signature == std::end(Signatures))
-        return refused();
-    if (qstrcmp(signature->format, "png") == 0) {
-        PngReader reader(device);
-        return reader.readHead() ? decoded(reader) : refused();
-    }
-    QImageReader reader(&device, signature->format);
-    reader.setAutoDetectImageFormat(false); // no other decoder is asked
-    return reader.canRead() ? decoded(reader) : refused();
+    return withReader<PictureFile>(device, [](auto &reader) { return decoded(reader); });
+}
+
+qint64 PictureFile::pixelCount(const QString &fileName)
+{
+    QFile file(fileName);
+    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly))
+        return 0;
+    const QSize size = withReader<QSize>(file, [](auto &reader) { return reader.size(); });
+    return size.isEmpty() ? 0 : qint64(size.width()) * size.height();
 }
 
 QImage PictureFile::of(const QMimeData *mimeData)

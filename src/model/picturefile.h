@@ -22,6 +22,8 @@ struct PictureFile
     /// What people are told when there is none: that the file could not be read and, in a second line, why.
     [[nodiscard]] QString failure() const;
 
+    /// The pixels that a file holds, as its head says; 0 where there is none.
+    [[nodiscard]] static qint64 pixelCount(const QString &fileName);
     /// Reads a regular file; a pipe or a device is refused without being opened.
     [[nodiscard]] static PictureFile read(const QString &fileName);
     [[nodiscard]] static PictureFile read(QIODevice &device);

@@ -59,7 +59,8 @@ void ImportImageDialog::show(const Project &project, const QString &file)
     m_project = &project;
     m_file = file;
     {
-        const Busy busy(parentWidget(), tr("Reading %1…").arg(QFileInfo(file).fileName()));
+        const Busy busy(parentWidget(), tr("Reading %1…").arg(QFileInfo(file).fileName()),
+                        PictureFile::pixelCount(file));
         auto [image, refusal] = PictureFile::read(file);
         m_refusal = refusal;
         m_size = image.size();

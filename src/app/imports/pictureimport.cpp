@@ -75,7 +75,7 @@ QString lossOf(const ImageSlicer &slicer)
 MapImport importPicture(Project &project, const QString &filePath, QWidget *parent)
 {
     const QPointer<Project> guarded = &project; // events are handled while the picture is cut
-    const Busy busy(parent, tr("Importing %1…").arg(QFileInfo(filePath).fileName()));
+    const Busy busy(parent, tr("Importing %1…").arg(QFileInfo(filePath).fileName()), PictureFile::pixelCount(filePath));
     const PictureFile picture = PictureFile::read(filePath);
     if (picture.image.isNull())
         return {nullptr, picture.failure()};

@@ -48,7 +48,7 @@ SpriteBank *importSliced(Project &project, const SpriteImport &import, const QIm
 
 SpriteBank *importSpritePicture(Project &project, const SpriteImport &import, QWidget *parent)
 {
-    const Busy busy(parent, importing(import));
+    const Busy busy(parent, importing(import), PictureFile::pixelCount(import.file));
     NxImage picture;
     picture.setTranslucent(PictureFile::read(import.file).image);
     if (import.paletteId.isNull()) {
