@@ -171,8 +171,8 @@ void DeflateWriter::write(uint32_t bits, int count)
 template <class Codes>
 void DeflateWriter::write(const Codes &codes, const Symbol &symbol)
 {
-    write(codes.code(symbol.code), codes.length(symbol.code));
-    write(symbol.extra, symbol.extraBits);
+    const int length = codes.length(symbol.code);
+    write(codes.code(symbol.code) | symbol.extra << length, length + symbol.extraBits);
 }
 
 template <class Codes>
