@@ -10,6 +10,7 @@
 #include "app/exportproject/recipetable.h"
 #include "app/mainwindow.h"
 #include "app/menus/filemenu.h"
+#include "exportprogram.h" // made by the build: where the command and the examples are
 #include "nextdata/usual.h"
 #include "support/modeltools.h"
 #include "support/sampleproject.h"
@@ -20,7 +21,9 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
+#include <QDirIterator>
 #include <QLineEdit>
+#include <QProcess>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QSpinBox>
@@ -35,18 +38,6 @@ using namespace NextData;
 using State = RecipeRun::State;
 
 namespace {
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void write(const QString &path, const QByteArray &content)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-}
 
 /// All assets of a project in their usual forms, as far as those can be.
 Recipe usualRecipe(const Project &project)
@@ -122,7 +113,7 @@ private slots:
             m_project->maps().first()->setTile({1, 1}, {7});
         });
         add("a file is gone", "Tiles.nxt", "New", [this] { QVERIFY(QFile::remove(path("Tiles.nxt"))); });
-        add("a file is another's", "Main.pal", "Changed", [this] { write(path("Main.pal"), "x"); });
+        add("a file is another's", "Main.pal", "Changed", [this] { QVERIFY(writeFile(path("Main.pal"), "x")); });
         add("a folder in its place", "Main.pal", "Cannot be: “Main.pal” cannot be written: it is a folder",
             [this] { QVERIFY(QFile::remove(path("Main.pal")) && QDir().mkdir(path("Main.pal"))); });
         add("an asset is gone", "Level.map", "Cannot be: The project no longer has a map “Level” with the id",
@@ -343,7 +334,10 @@ private slots:
         // a project without a file
         bool mayBeSaved = false;
         int questions = 0;
-        exporter.setSaveCallback([&] { return ++questions, mayBeSaved; });
+        exporter.setAnswerCallback([&](const ExportQuestion &question) {
+            questions += question.kind == ExportQuestion::Kind::SaveProject;
+            return mayBeSaved;
+        });
         window.projectController()->setFileNameCallback([this] { return path("game.quenmora"); });
         project->trigger();
         QVERIFY(!exporter.dialog()->isVisible() && !QFile::exists(path("game.quenmora")));
@@ -369,13 +363,13 @@ private slots:
                  QString("Exported %1 (%2 bytes) to %3")
                      .arg(count == 1 ? QString("1 file") : QString("%1 files").arg(count))
                      .arg(QLocale().toString(512 * count), folder));
-        QCOMPARE(contentOf(path("Main.pal")).size(), 512);
+        QCOMPARE(readFile(path("Main.pal")).size(), 512);
         exporter.dialog()->reject();
 
         palette->setRawColour(0, 0x0101);
         again->trigger();
         QVERIFY(!exporter.dialog()->isVisible());
-        QCOMPARE(contentOf(path("Main.pal")).left(2).toHex(), QByteArray("0101"));
+        QCOMPARE(readFile(path("Main.pal")).left(2).toHex(), QByteArray("0101"));
         const QString unchanged = count > 1 ? QString(", %1 unchanged,").arg(count - 1) : QString();
         QCOMPARE(window.statusBar()->currentMessage(), "Exported 1 file (512 bytes)" + unchanged + " to " + folder);
 
@@ -387,37 +381,78 @@ private slots:
         window.messageDialog()->accept();
     }
 
-    void neverReplacesADamagedRecipeUnasked()
+    void neverReplacesARecipeUnasked()
     {
+        using Kind = ExportQuestion::Kind;
         MainWindow window;
         ProjectExport &exporter = *window.projectExport();
         emit window.menus()->fileMenu()->newProject("Game");
         window.projectController()->project()->createPalette(CreateAction::DefaultNext, "Main");
         window.projectController()->setFileNameCallback([this] { return path("game.quenmora"); });
         emit window.menus()->fileMenu()->saveProject();
-        const QByteArray damaged = "{\n    \"formatVersion\": 1,\n    \"outputs\": [\n        {}\n    ]\n}\n";
-        write(recipePath(), damaged);
-
-        bool startsAnew = false;
-        QList<int> lines;
-        exporter.setStartAnewCallback([&](const QString &, const ProjectExport::Problems &problems) {
-            for (const Recipe::Problem &problem : problems)
-                lines.append(problem.line);
-            return startsAnew;
+        std::optional<Kind> asked;
+        QString problems;
+        bool answer = false;
+        exporter.setAnswerCallback([&](const ExportQuestion &question) {
+            asked = question.kind;
+            problems = question.problems;
+            return answer;
         });
-        action(window, "Export Again")->trigger();
-        QVERIFY(!exporter.dialog()->isVisible() && lines.contains(4));
 
-        startsAnew = true;
+        // a damaged one
+        const QByteArray damaged = "{\n    \"formatVersion\": 1,\n    \"outputs\": [\n        {}\n    ]\n}\n";
+        QVERIFY(writeFile(recipePath(), damaged));
+        action(window, "Export Again")->trigger();
+        QVERIFY(!exporter.dialog()->isVisible() && asked == Kind::StartAnew);
+        QVERIFY2(problems.startsWith("Line 4: "), qPrintable(problems));
+        answer = true;
         for (const bool isSaved : {false, true, true}) {
-            write(recipePath(), damaged);
+            QVERIFY(writeFile(recipePath(), damaged));
             action(window, "Export Project…")->trigger();
             QVERIFY(exporter.dialog()->isVisible());
             isSaved ? exporter.dialog()->save() : exporter.dialog()->reject();
-            QCOMPARE(contentOf(recipePath()) == damaged, !isSaved);
+            QCOMPARE(readFile(recipePath()) == damaged, !isSaved);
         }
-        QCOMPARE(contentOf(recipePath() + ".bad"), damaged);
-        QCOMPARE(contentOf(recipePath() + ".bad2"), damaged);
+        QCOMPARE(readFile(recipePath() + ".bad"), damaged);
+        QCOMPARE(readFile(recipePath() + ".bad2"), damaged);
+
+        // one that another program changes while it is shown
+        asked.reset();
+        for (const bool mayReplace : {false, true}) {
+            answer = mayReplace;
+            action(window, "Export Project…")->trigger();
+            exporter.dialog()->addOutputs();
+            exporter.dialog()->findChild<AddOutputsDialog *>()->accept();
+            QVERIFY(!asked && writeFile(recipePath(), damaged));
+            exporter.dialog()->exportAll();
+            QVERIFY(asked == Kind::ReplaceRecipe);
+            asked.reset();
+            QCOMPARE(readFile(recipePath()) == damaged, !mayReplace);
+            QCOMPARE(QFile::exists(path("Main.pal")), mayReplace);
+            exporter.dialog()->reject();
+            QVERIFY(mayReplace || QFile::remove(recipePath()));
+        }
+    }
+
+    void writesWhatTheCommandWrites()
+    {
+        for (const char *file : {"sample.quenmora", "sample.quenmora-export.json"})
+            QVERIFY(QFile::copy(QDir(EXAMPLES_FOLDER).filePath(file), path(file)));
+        QProcess command;
+        command.start(EXPORT_PROGRAM, {"--quiet", "--output", path("command"), path("sample.quenmora")});
+        QVERIFY(command.waitForFinished(-1) && command.exitCode() == 0);
+        MainWindow window;
+        emit window.menus()->fileMenu()->openProject(path("sample.quenmora"));
+        action(window, "Export Again")->trigger();
+        int compared = 0;
+        QDirIterator files(path("command"), QDir::Files, QDirIterator::Subdirectories);
+        for (; files.hasNext(); ++compared) {
+            const QString file = files.next();
+            const QString here = path(QDir(path("command")).relativeFilePath(file));
+            QVERIFY2(readFile(here) == readFile(file), qPrintable(here));
+        }
+        QVERIFY(compared >= 24); // forms that the sample's recipe uses
+        QVERIFY(window.statusBar()->currentMessage().startsWith(QString("Exported %1 files (").arg(compared)));
     }
 
 private:

@@ -4,14 +4,9 @@
 #include "app/exportproject/exportprojectdialog.h"
 #include "app/exportproject/exportreport.h"
 #include "app/projectcontroller.h"
-#include "ui/plaintext.h"
-#include "ui/titlewidth.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QMessageBox>
-#include <QPushButton>
 
 #include <algorithm>
 #include <functional>
@@ -33,29 +28,14 @@ QString keepAside(const QString &path)
     return file.rename(aside) ? QString() : file.errorString();
 }
 
-QString textOf(const Recipe::Problem &problem)
+QString textOf(const QList<Recipe::Problem> &problems)
 {
-    return problem.line > 0 ? ProjectExport::tr("Line %1: %2").arg(problem.line).arg(problem.reason) : problem.reason;
-}
-
-/// A question over a window, with a button that does it, which a warning does not propose, and one that does not.
-bool ask(QWidget *parent, QMessageBox::Icon icon, const QString &title, const QString &text, const QString &details,
-         const QString &yes)
-{
-    // not on the stack: it goes with its parent
-    const QPointer<QMessageBox> box = new QMessageBox(icon, title, text, QMessageBox::Cancel, parent);
-    box->setDefaultButton(QMessageBox::Cancel);
-    QPushButton *button = box->addButton(yes, QMessageBox::AcceptRole);
-    if (icon != QMessageBox::Warning)
-        box->setDefaultButton(button);
-    box->setTextFormat(Qt::PlainText);
-    box->setInformativeText(plainText(details)); // whose format is always guessed
-    widenForTitle(*box);
-    box->exec();
-    const bool accepted = box && box->clickedButton() == button;
-    if (box)
-        box->deleteLater();
-    return accepted;
+    QStringList lines;
+    for (const auto &[line, reason] : problems.first(std::min<qsizetype>(problems.size(), MostProblems)))
+        lines.append(line > 0 ? ProjectExport::tr("Line %1: %2").arg(QString::number(line), reason) : reason);
+    if (problems.size() > MostProblems)
+        lines.append(ProjectExport::tr("… and %1 more").arg(problems.size() - MostProblems));
+    return lines.join(u'\n');
 }
 
 } // namespace
@@ -64,8 +44,7 @@ ProjectExport::ProjectExport(ProjectController *controller, QWidget *dialogParen
     : QObject(dialogParent)
     , m_controller(controller)
     , m_dialogParent(dialogParent)
-    , m_mayBeSaved([this] { return askToSave(); })
-    , m_startsAnew([this](const QString &path, const Problems &problems) { return askToStartAnew(path, problems); })
+    , m_ask([this](const ExportQuestion &question) { return askAboutExport(m_dialogParent, question); })
 {
     connect(controller, &ProjectController::projectClosing, this, [this] {
         if (m_dialog)
@@ -119,17 +98,10 @@ bool ProjectExport::hasFile()
         return false;
     if (!m_controller->filePath().isEmpty())
         return true;
-    if (!m_mayBeSaved())
+    if (!m_ask({ExportQuestion::Kind::SaveProject}))
         return false;
     m_controller->save();
     return m_controller->project() && !m_controller->filePath().isEmpty();
-}
-
-bool ProjectExport::askToSave() const
-{
-    return ask(m_dialogParent, QMessageBox::Question, tr("Export Project"), tr("Save the project first?"),
-               tr("The files for the game are written beside the project's file, and it has none yet."),
-               tr("&Save Project…"));
 }
 
 // The recipe
@@ -138,35 +110,25 @@ bool ProjectExport::load()
 {
     const QString path = Recipe::pathFor(m_controller->filePath());
     m_recipe = {};
+    m_recipeFile = FileState(path); // before it is read: what happens to it meanwhile is noticed then
     m_isDamaged = false;
     if (!QFileInfo::exists(path))
         return true;
-    const Problems problems = m_recipe.load(path);
+    const QList<Recipe::Problem> problems = m_recipe.load(path);
     m_isDamaged = !problems.isEmpty();
-    return !m_isDamaged || m_startsAnew(path, problems);
-}
-
-bool ProjectExport::askToStartAnew(const QString &path, const Problems &problems) const
-{
-    QStringList lines;
-    for (const Recipe::Problem &problem : problems.first(std::min<qsizetype>(problems.size(), MostProblems)))
-        lines.append(textOf(problem));
-    if (problems.size() > MostProblems)
-        lines.append(tr("… and %1 more").arg(problems.size() - MostProblems));
-    lines.append({QString(),
-                  tr("Mend the file, or start with an empty recipe: the file is then kept as %1.")
-                      .arg(QFileInfo(path).fileName() + QStringLiteral(".bad"))});
-    return ask(m_dialogParent, QMessageBox::Warning, tr("Export Project"),
-               tr("The recipe of this project cannot be used:\n%1").arg(QDir::toNativeSeparators(path)),
-               lines.join(u'\n'), tr("&Start Anew"));
+    return !m_isDamaged || m_ask({ExportQuestion::Kind::StartAnew, path, textOf(problems)});
 }
 
 bool ProjectExport::save(const Recipe &recipe)
 {
     const QString path = Recipe::pathFor(m_controller->filePath());
+    if (!m_isDamaged && !FileState(path).hasContentOf(m_recipeFile)
+        && !m_ask({ExportQuestion::Kind::ReplaceRecipe, path}))
+        return false;
     QString problem = m_isDamaged && QFileInfo::exists(path) ? keepAside(path) : QString();
     if (problem.isEmpty())
         problem = recipe.save(path);
+    m_recipeFile = FileState(path);
     if (!problem.isEmpty()) {
         emit failed(tr("The recipe could not be saved"), tr("Save Error"), problem);
         return false;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/exportproject/exportquestion.h"
+#include "app/filestate.h"
 #include "nextdata/recipe.h"
 
 #include <QObject>
@@ -21,14 +23,8 @@ public:
     /// dialogParent is the window over which dialogs and progress are shown.
     ProjectExport(ProjectController *controller, QWidget *dialogParent);
 
-    using Problems = QList<NextData::Recipe::Problem>;
-    /// Whether a project that has no file is to be saved first; asked with a message box otherwise.
-    void setSaveCallback(const std::function<bool()> &mayBeSaved) { m_mayBeSaved = mayBeSaved; }
-    /// Whether to start anew in place of a recipe that cannot be read.
-    void setStartAnewCallback(const std::function<bool(const QString &path, const Problems &)> &startsAnew)
-    {
-        m_startsAnew = startsAnew;
-    }
+    /// Answers what is asked, in place of a message box.
+    void setAnswerCallback(const std::function<bool(const ExportQuestion &)> &ask) { m_ask = ask; }
 
     [[nodiscard]] ExportProjectDialog *dialog();
 
@@ -47,8 +43,6 @@ signals:
 private:
     /// Whether the project has a file now.
     [[nodiscard]] bool hasFile();
-    [[nodiscard]] bool askToSave() const;
-    [[nodiscard]] bool askToStartAnew(const QString &path, const Problems &problems) const;
     /// Reads the recipe, where there is one; false when it is damaged and is to stay.
     [[nodiscard]] bool load();
     void showDialog();
@@ -58,9 +52,9 @@ private:
     QPointer<ProjectController> m_controller;
     QPointer<QWidget> m_dialogParent;
     QPointer<ExportProjectDialog> m_dialog;
-    std::function<bool()> m_mayBeSaved;
-    std::function<bool(const QString &, const Problems &)> m_startsAnew;
+    std::function<bool(const ExportQuestion &)> m_ask;
 
     NextData::Recipe m_recipe; ///< that was read
+    FileState m_recipeFile; ///< as it was then, or when it was saved
     bool m_isDamaged = false; ///< the file, which is kept aside when another recipe takes its place
 };

@@ -1,0 +1,67 @@
+#include "app/exportproject/exportquestion.h"
+
+#include "ui/plaintext.h"
+#include "ui/titlewidth.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QPointer>
+#include <QPushButton>
+
+namespace {
+
+struct Words
+{
+    QString text;
+    QString details;
+    QString yes;
+    bool isProposed;
+};
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("ExportQuestion", text);
+}
+
+Words wordsOf(const ExportQuestion &question)
+{
+    const QString path = QDir::toNativeSeparators(question.recipe);
+    switch (question.kind) {
+    case ExportQuestion::Kind::SaveProject:
+        return {tr("Save the project first?"),
+                tr("The files for the game are written beside the project's file, and it has none yet."),
+                tr("&Save Project…"), true};
+    case ExportQuestion::Kind::StartAnew:
+        return {tr("The recipe of this project cannot be used:\n%1").arg(path),
+                question.problems + QStringLiteral("\n\n")
+                    + tr("Mend the file, or start with an empty recipe: the file is then kept as %1.")
+                          .arg(QFileInfo(question.recipe).fileName() + QStringLiteral(".bad")),
+                tr("&Start Anew"), false};
+    case ExportQuestion::Kind::ReplaceRecipe:
+        break;
+    }
+    return {tr("Another program changed the recipe of this project:\n%1").arg(path),
+            tr("Saving it from here loses that change."), tr("&Replace"), false};
+}
+
+} // namespace
+
+bool askAboutExport(QWidget *parent, const ExportQuestion &question)
+{
+    const Words words = wordsOf(question);
+    // not on the stack: it goes with its parent
+    const QPointer<QMessageBox> box = new QMessageBox(words.isProposed ? QMessageBox::Question : QMessageBox::Warning,
+                                                      tr("Export Project"), words.text, QMessageBox::Cancel, parent);
+    QPushButton *yes = box->addButton(words.yes, QMessageBox::AcceptRole);
+    box->setDefaultButton(words.isProposed ? yes : qobject_cast<QPushButton *>(box->button(QMessageBox::Cancel)));
+    box->setTextFormat(Qt::PlainText);
+    box->setInformativeText(plainText(words.details)); // whose format is always guessed
+    widenForTitle(*box);
+    box->exec();
+    const bool isAccepted = box && box->clickedButton() == yes;
+    if (box)
+        box->deleteLater();
+    return isAccepted;
+}
