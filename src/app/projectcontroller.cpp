@@ -277,6 +277,8 @@ void ProjectController::saveAs()
     save();
     if (filePath().isEmpty())
         m_store.setFileName(previous);
+    else if (!previous.isEmpty() && filePath() != previous)
+        emit savedAs(previous, filePath());
 }
 
 void ProjectController::close()

@@ -89,6 +89,8 @@ signals:
     void aboutToSave();
     /// Follows every aboutToSave(), whether or not anything was saved.
     void saveFinished();
+    /// The project, which has a file, was saved to another one.
+    void savedAs(const QString &previousFile, const QString &file);
     void projectOpened(Project *project);
     /// The project is about to be destroyed.
     void projectClosing();

@@ -379,6 +379,19 @@ private slots:
         QCOMPARE(window.messageDialog()->text(), "There was a problem exporting data");
         QCOMPARE(window.messageDialog()->detail(), "Main.pal: “Main.pal” cannot be written: it is a folder");
         window.messageDialog()->accept();
+
+        // the recipe goes with the project, and never replaces it
+        window.projectController()->setFileNameCallback([this] { return path("other.quenmora"); });
+        emit window.menus()->fileMenu()->saveProjectAs();
+        QCOMPARE(readFile(path("other.quenmora-export.json")), readFile(recipePath()));
+        const QByteArray saved = readFile(path("other.quenmora"));
+        project->trigger();
+        RecipeOutput own = exporter.dialog()->table()->output(0);
+        own.file = "other.quenmora";
+        exporter.dialog()->table()->replace(0, own);
+        exporter.dialog()->exportAll();
+        QVERIFY(window.messageDialog()->detail().contains("is the project or its recipe"));
+        QCOMPARE(readFile(path("other.quenmora")), saved);
     }
 
     void neverReplacesARecipeUnasked()

@@ -3,8 +3,10 @@
 #include "app/exportproject/exportprogress.h"
 #include "app/exportproject/exportprojectdialog.h"
 #include "app/exportproject/exportreport.h"
+#include "app/exportproject/recipetable.h"
 #include "app/projectcontroller.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -46,10 +48,23 @@ ProjectExport::ProjectExport(ProjectController *controller, QWidget *dialogParen
     , m_dialogParent(dialogParent)
     , m_ask([this](const ExportQuestion &question) { return askAboutExport(m_dialogParent, question); })
 {
+    connect(controller, &ProjectController::savedAs, this, &ProjectExport::takeRecipeAlong);
     connect(controller, &ProjectController::projectClosing, this, [this] {
         if (m_dialog)
             m_dialog->reject();
     });
+}
+
+void ProjectExport::takeRecipeAlong(const QString &previousFile, const QString &file)
+{
+    const QString recipe = Recipe::pathFor(previousFile);
+    const QString copy = Recipe::pathFor(file);
+    if (!QFileInfo::exists(recipe) || QFileInfo::exists(copy)) // one that is there belongs to the replaced project
+        return;
+    QFile original(recipe);
+    if (!original.copy(copy))
+        emit failed(tr("The recipe could not be saved"), tr("Save Error"),
+                    QStringLiteral("%1: %2").arg(QDir::toNativeSeparators(copy), original.errorString()));
 }
 
 ExportProjectDialog *ProjectExport::dialog()
@@ -74,15 +89,14 @@ void ProjectExport::exportAgain()
         return;
     if (m_recipe.outputs().isEmpty())
         return showDialog();
-    const QString file = m_controller->filePath();
-    const QString folder = QFileInfo(file).path();
-    RecipeRun run(*m_controller->project(), m_recipe, folder, {file, Recipe::pathFor(file)});
+    const Project &project = *m_controller->project();
     QList<RecipeRun::Outcome> outcomes;
     {
-        ExportProgress progress(m_dialogParent, *m_controller->project(), m_recipe);
+        ExportProgress progress(m_dialogParent, project, m_recipe);
+        RecipeRun run = RecipeTable::runOf(project, m_controller->filePath(), m_recipe);
         outcomes = run.runAll(RecipeRun::Mode::Write, std::ref(progress));
     }
-    report({m_recipe, outcomes, folder});
+    report({m_recipe, outcomes, QFileInfo(m_controller->filePath()).path()});
 }
 
 void ProjectExport::showDialog()

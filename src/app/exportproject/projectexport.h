@@ -46,6 +46,8 @@ private:
     /// Reads the recipe, where there is one; false when it is damaged and is to stay.
     [[nodiscard]] bool load();
     void showDialog();
+    /// A recipe belongs to its project wherever that is saved to.
+    void takeRecipeAlong(const QString &previousFile, const QString &file);
     [[nodiscard]] bool save(const NextData::Recipe &recipe);
     void report(const ExportReport &report);
 

@@ -182,16 +182,16 @@ void RecipeTable::setOutputs(const QList<RecipeOutput> &outputs)
 
 // What exporting it would do
 
-RecipeRun RecipeTable::newRun() const
+RecipeRun RecipeTable::runOf(const Project &project, const QString &projectFile, const Recipe &recipe)
 {
-    return {*m_project, m_recipe, QFileInfo(m_projectFile).path(), {m_projectFile, Recipe::pathFor(m_projectFile)}};
+    return {project, recipe, QFileInfo(projectFile).path(), {projectFile, Recipe::pathFor(projectFile)}};
 }
 
 void RecipeTable::lookAgain()
 {
     if (!m_project)
         return;
-    m_run.emplace(newRun());
+    m_run.emplace(runOf(*m_project, m_projectFile, m_recipe));
     m_previewRun.reset();
     m_next = 0;
     m_idle.start();
@@ -242,14 +242,15 @@ Result<QList<OutputFile>> RecipeTable::make(int row)
     if (!m_project)
         return Failure{{}};
     if (!m_previewRun)
-        m_previewRun.emplace(newRun());
+        m_previewRun.emplace(runOf(*m_project, m_projectFile, m_recipe));
     return m_previewRun->make(row);
 }
 
 QList<RecipeRun::Outcome> RecipeTable::run(const RecipeRun::Progress &progress)
 {
     m_idle.stop(); // files are not looked at while they are written
-    const QList<RecipeRun::Outcome> outcomes = newRun().runAll(RecipeRun::Mode::Write, progress);
+    const QList<RecipeRun::Outcome> outcomes =
+        runOf(*m_project, m_projectFile, m_recipe).runAll(RecipeRun::Mode::Write, progress);
     lookAgain();
     return outcomes;
 }

@@ -66,6 +66,9 @@ public:
     /// Does the recipe; see RecipeRun::runAll().
     [[nodiscard]] QList<NextData::RecipeRun::Outcome> run(const NextData::RecipeRun::Progress &progress);
 
+    /// The run of a recipe that lies beside its project, whose files it spares.
+    [[nodiscard]] static NextData::RecipeRun runOf(const Project &project, const QString &projectFile,
+                                                   const NextData::Recipe &recipe);
     /// The size of an output in the game; -1 when it has none.
     [[nodiscard]] static qint64 bytesOf(const Project &project, const NextData::RecipeOutput &output);
     /// "6 pages of 8 KiB, 3 banks of 16 KiB"
@@ -88,7 +91,6 @@ private:
         mutable std::optional<qint64> bytes; ///< -1 when there are none
     };
 
-    [[nodiscard]] NextData::RecipeRun newRun() const;
     void setOutputs(const QList<NextData::RecipeOutput> &outputs);
     void lookOn();
     [[nodiscard]] qint64 bytesOf(int row) const;
