@@ -165,7 +165,8 @@ void PictureTaker::takeRecovery(const QString &sample)
             return;
     } // and nobody has it any more, as after a crash
     m_window.recoveryOffers()->refresh();
-    shoot(QStringLiteral("recovery"));
+    settle();
+    save(m_window.centralWidget()->grab(), QStringLiteral("recovery"));
     m_window.recoveryOffers()->discard(0);
 }
 

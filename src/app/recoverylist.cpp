@@ -77,7 +77,8 @@ QString whereSaved(const QString &file)
 QString whenCopied(const QDateTime &time)
 {
     const QDateTime local = time.toLocalTime();
-    const QString clock = QLocale().toString(local.time(), QLocale::ShortFormat);
+    const QString format = QLocale().timeFormat(QLocale::ShortFormat).remove(QStringLiteral(":ss"));
+    const QString clock = QLocale().toString(local.time(), format);
     const qint64 days = local.date().daysTo(QDate::currentDate());
     if (days == 0)
         return RecoveryList::tr("As it was today at %1").arg(clock);
