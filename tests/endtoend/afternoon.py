@@ -370,6 +370,7 @@ def require(holds, text):
 def check_project(project):
     with zipfile.ZipFile(project) as archive:
         require(archive.testzip() is None, "the project is a whole archive")
+        require({info.date_time for info in archive.infolist()} == {(1980, 1, 1, 0, 0, 0)}, "nothing in it tells when")
         document = json.loads(archive.read("project.json"))
         strips = {name: read_png(archive.read(name)) for name in archive.namelist() if name.endswith(".png")}
     require(document["name"] == "Afternoon", "the project has its name")
