@@ -1,10 +1,12 @@
 #include "store/projectdocument.h"
 
+#include "support/endlessdevice.h"
 #include "support/modeltools.h"
 #include "support/projectmembers.h"
 #include "support/sampleproject.h"
 #include "support/testmain.h"
 
+#include <QBuffer>
 #include <QTest>
 
 using namespace ProjectFile;
@@ -232,6 +234,49 @@ private slots:
         QCOMPARE(documentOf(rewritten(members)).value("opendocuments"), json("['<1>', 'x', '<2>']"));
     }
 
+    /// A tail of a gigabyte behind a member is left alone; in front of the document's end it is no tail.
+    void readsNoFartherThanItMust()
+    {
+        ProjectMembers members = leastMembers();
+        members.insert("scratch.png", png(gradient({256, 192})));
+        for (auto member = members.cbegin(); member != members.cend(); ++member) {
+            const bool isDocument = member.key() == "project.json";
+            qint64 taken = 0;
+            const MemberOpener opener = [&](const QString &name) -> std::unique_ptr<QIODevice> {
+                if (name == member.key())
+                    return std::make_unique<EndlessDevice>(*member, taken);
+                auto other = std::make_unique<QBuffer>();
+                other->setData(members.value(name));
+                other->open(QIODevice::ReadOnly);
+                return other;
+            };
+            Project project;
+            QString error;
+            QCOMPARE(readProject(project, opener, error), !isDocument);
+            QCOMPARE(error, isDocument ? "Invalid project file" : "");
+            QVERIFY2(taken <= (isDocument ? 0 : member->size() + (10 << 20)), qPrintable(member.key()));
+        }
+    }
+
+    void laterOneTakesThePlaceOfAnEarlierOne()
+    {
+        ProjectMembers members = leastMembers();
+        for (const char *kind : {"palettes", "tilesets", "maps", "sprites", "mapObjects", "images"}) {
+            QJsonArray assets = documentOf(members).value(kind).toArray();
+            assets.append(assets.first());
+            replace(members, {kind}, assets);
+        }
+        Project project;
+        read(project, members);
+        QCOMPARE(project.findChildren<Palette *>().size(), 1);
+        QCOMPARE(project.findChildren<TileSet *>().size(), 1);
+        QCOMPARE(project.findChildren<Map *>().size(), 1);
+        QCOMPARE(project.findChildren<TileMap *>().size(), 2); // its layers
+        QCOMPARE(project.findChildren<SpriteBank *>().size(), 1);
+        QCOMPARE(project.findChildren<MapObjects *>().size(), 1);
+        QCOMPARE(project.findChildren<Image *>().size(), 1);
+    }
+
     void refusesWhatNoDefaultCanReplace()
     {
         const QString newer = "Project file is from a newer version of Quenmora";
@@ -285,15 +330,14 @@ private slots:
     void takesAScratchImageThatFits()
     {
         const QImage whole = gradient({256, 192});
-        for (const auto &[scratch, loads] : {std::pair{png(whole), true},
-                                             {QByteArray("GIF89a"), false},
-                                             {png(gradient({255, 192})), false},
-                                             {png(whole.convertToFormat(QImage::Format_RGB32)), false}}) {
+        for (const QByteArray &scratch : {png(whole), QByteArray("GIF89a"), png(gradient({255, 192})),
+                                          png(whole.convertToFormat(QImage::Format_RGB32))}) {
             ProjectMembers members = leastMembers();
             members.insert("scratch.png", scratch);
             Project project;
             read(project, members);
-            QCOMPARE(indices(project.scratchImage()), loads ? indices(whole) : QByteArray(256 * 192, 0));
+            const bool fits = scratch == png(whole);
+            QCOMPARE(indices(project.scratchImage()), fits ? indices(whole) : QByteArray(256 * 192, 0));
         }
     }
 
@@ -302,22 +346,19 @@ private slots:
         QList<QRgb> greys;
         for (int level = 0; level < 256; ++level)
             greys.append(qRgb(level, level, level));
-        QImage pixels = gradient({16, 16}); // which a PNG then holds as levels of grey
+        QImage pixels = gradient({256, 192}); // which a PNG then holds as levels of grey
         pixels.setColorTable(greys);
-        QImage scratch = gradient({256, 192});
-        scratch.setColorTable(greys);
         Project project;
         project.createImage(Quenmora::Layer2_256x192, "image", {})->setImage(pixels);
-        project.createSpriteBank(Quenmora::EightBit, "bank", {})->setWholeImage(pixels);
-        project.setScratchImage(scratch);
+        project.createSpriteBank(Quenmora::EightBit, "bank", {})->setWholeImage(pixels.copy(0, 0, 16, 16));
+        project.setScratchImage(pixels);
         Project again;
         read(again, serializeProject(project, true));
-        for (const auto &[image, before] : {std::pair{again.images().first()->image(), pixels},
-                                            {again.spriteBanks().first()->image(), pixels},
-                                            {again.scratchImage(), scratch}}) {
+        for (const QImage &image :
+             {again.images().first()->image(), again.spriteBanks().first()->image(), again.scratchImage()}) {
             QCOMPARE(image.format(), QImage::Format_Indexed8);
             QCOMPARE(image.colorTable(), greys);
-            QCOMPARE(indices(image), indices(before));
+            QCOMPARE(indices(image), indices(pixels.copy(image.rect())));
         }
     }
 
