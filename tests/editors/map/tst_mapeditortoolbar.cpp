@@ -60,6 +60,16 @@ private slots:
         first.stack.undo();
         QCOMPARE(toolBar.sizeText(), "20x15 (600 bytes)");
     }
+
+    void numbersHaveTheirRanges()
+    {
+        const ToolBar toolBar;
+        QStringList found;
+        for (const QSpinBox *box : toolBar.findChildren<QSpinBox *>())
+            found += QString("%1 to %2: %3")
+                         .arg(QString::number(box->minimum()), QString::number(box->maximum()), box->text());
+        QCOMPARE(found.join(", "), "1 to 1000: 40, 1 to 1000: 32, -1 to 1024: None, -1 to 15: Off, 1 to 16: Off");
+    }
 };
 
 QUENMORA_TEST_MAIN(TestMapEditorToolBar)
