@@ -8,6 +8,9 @@
 #include "nextdata/filenames.h"
 #include "nextdata/output.h"
 
+#include <QFileInfo>
+#include <QStringList>
+
 namespace NextData {
 namespace {
 
@@ -53,6 +56,14 @@ QStringList idsOfForms(const Source &source)
     return ofMode.isEmpty() ? QStringList() : QStringList{ofMode.first()->id};
 }
 
+/// Empty when its form or options are none.
+QString usualFileOf(const RecipeOutput &output)
+{
+    const Form *form = findForm(output.form);
+    const Result<OptionValues> values = form ? OptionValues::parse(form->options, output.options) : Failure{};
+    return values ? usualFile(output.name, *form, *values) : QString();
+}
+
 } // namespace
 
 QList<const Form *> usualForms(const Source &source)
@@ -78,6 +89,24 @@ QString usualFile(const QString &assetName, const Form &form, const OptionValues
     if (!what.isEmpty())
         name += u'_' + what;
     return name.replace(u' ', u'_') + u'.' + suffix;
+}
+
+QString fileAfterChange(const RecipeOutput &before, const RecipeOutput &after, const TakenFiles &taken)
+{
+    const QString file = before.file;
+    const QString usualBefore = usualFileOf(before);
+    const QString usual = usualFileOf(after);
+    if (usual == usualBefore || usual.isEmpty())
+        return file;
+    const qsizetype slash = file.lastIndexOf(u'/') + 1;
+    const QString name = file.sliced(slash);
+    const QString suffix = QFileInfo(usual).suffix();
+    TakenFiles others = taken;
+    if (name == usualBefore)
+        return others.claim(file.first(slash) + usual);
+    if (QFileInfo(name).suffix() == QFileInfo(usualBefore).suffix() && QFileInfo(name).suffix() != suffix)
+        return others.claim(file.first(slash) + FileNames::withSuffix(name, suffix));
+    return file;
 }
 
 } // namespace NextData

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "nextdata/form.h"
+#include "nextdata/takenfiles.h"
 
 #include <QString>
 
@@ -13,5 +14,9 @@ namespace NextData {
 /// The file that an output is usually written to: the asset's name, what the form makes of it where the suffix does
 /// not tell, and the suffix. It has no spaces, which build tools take for the end of a name.
 [[nodiscard]] QString usualFile(const QString &assetName, const Form &form, const OptionValues &values);
+
+/// The file of an output whose form or options become others: the usual one stays the usual one, and a suffix that was
+/// the usual one follows. It is none of those that are taken.
+[[nodiscard]] QString fileAfterChange(const RecipeOutput &before, const RecipeOutput &after, const TakenFiles &taken);
 
 } // namespace NextData

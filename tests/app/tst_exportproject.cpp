@@ -8,6 +8,7 @@
 #include "app/exportproject/outputpreview.h"
 #include "app/exportproject/projectexport.h"
 #include "app/exportproject/recipetable.h"
+#include "app/exportproject/severaloutputsdialog.h"
 #include "app/mainwindow.h"
 #include "app/menus/filemenu.h"
 #include "exportprogram.h" // made by the build: where the command and the examples are
@@ -304,6 +305,33 @@ private slots:
         output.options = {{"label", "placed"}, {"pad", "256"}, {"text", "c"}};
         output.file = "placed.c";
         QCOMPARE(edited.value(0).value(0).value<RecipeOutput>(), output);
+    }
+
+    void severalOutputsGetOptionsAlike()
+    {
+        SampleProject::fill(*m_project);
+        RecipeTable table;
+        table.open(*m_project, path("game.quenmora"), usualRecipe(*m_project));
+        const int level = table.rowOf("Level.map");
+        RecipeOutput own = table.output(level);
+        own.options = {{"order", "columns"}, {"pad", "256"}};
+        own.file = "own.name";
+        table.replace(level, own);
+        SeveralOutputsDialog dialog;
+        QSignalSpy chosen(&dialog, &SeveralOutputsDialog::accepted);
+        dialog.show(2);
+        dialog.accept();
+        QVERIFY(dialog.isVisible() && chosen.isEmpty());
+        dialog.findChild<QComboBox *>("text")->setCurrentIndex(dialog.findChild<QComboBox *>("text")->findData("c"));
+        dialog.findChild<QSpinBox *>("pad")->setValue(0);
+        dialog.accept();
+        const auto options = chosen.value(0).value(0).value<QMap<QString, QString>>();
+        QCOMPARE(options, (QMap<QString, QString>{{"text", "c"}, {"pad", "0"}}));
+        QCOMPARE(table.setOptions({table.rowOf("Main.pal"), table.rowOf("own.name")}, options),
+                 (QStringList{"Main_palette.c", "own.name"}));
+        QCOMPARE(table.output(table.rowOf("Main_palette.c")).options, (QMap<QString, QString>{{"text", "c"}}));
+        own.options = {{"order", "columns"}, {"text", "c"}};
+        QCOMPARE(table.output(table.rowOf("own.name")), own);
     }
 
     void previewsBeginnings()

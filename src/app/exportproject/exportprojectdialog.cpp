@@ -6,6 +6,7 @@
 #include "app/exportproject/outputdialog.h"
 #include "app/exportproject/outputpreview.h"
 #include "app/exportproject/recipetable.h"
+#include "app/exportproject/severaloutputsdialog.h"
 #include "model/project.h"
 #include "ui/assettitle.h"
 #include "ui/sectionheader.h"
@@ -292,6 +293,8 @@ void ExportProjectDialog::editOutput()
     const int row = shownRow();
     if (row < 0 || !m_project)
         return;
+    if (selectedRows().size() > 1)
+        return editSeveral();
     if (!m_outputDialog) {
         m_outputDialog = new OutputDialog(this);
         connect(m_outputDialog, &OutputDialog::accepted, this, &ExportProjectDialog::replaceOutput);
@@ -300,6 +303,17 @@ void ExportProjectDialog::editOutput()
     const RecipeOutput edited = others.takeAt(row);
     m_edited = edited.file;
     m_outputDialog->show(*m_project, edited, TakenFiles(others));
+}
+
+void ExportProjectDialog::editSeveral()
+{
+    if (!m_severalDialog) {
+        m_severalDialog = new SeveralOutputsDialog(this);
+        connect(m_severalDialog, &SeveralOutputsDialog::accepted, this, [this](const QMap<QString, QString> &options) {
+            select(m_table->setOptions(selectedRows(), options));
+        });
+    }
+    m_severalDialog->show(int(selectedRows().size()));
 }
 
 void ExportProjectDialog::replaceOutput(const RecipeOutput &output)

@@ -20,6 +20,7 @@ class QTableView;
 class QToolBar;
 class RecipeTable;
 class SectionHeader;
+class SeveralOutputsDialog;
 
 /// Shows what a game takes of a project: the outputs of its recipe in a table, with what exporting them would do. They
 /// are added, edited and removed here, and exported.
@@ -44,6 +45,7 @@ public:
 
 public slots:
     void addOutputs();
+    /// Asks for all of the selected output, or for what several ones are to have alike.
     void editOutput();
     void duplicateOutputs();
     void removeOutputs();
@@ -68,6 +70,7 @@ private:
     /// The one of them that is previewed and edited; -1 for none.
     [[nodiscard]] int shownRow() const;
     void select(const QStringList &files);
+    void editSeveral();
     void replaceOutput(const NextData::RecipeOutput &output);
     /// Enables what can be done, and says what there is.
     void follow();
@@ -102,4 +105,5 @@ private:
     QString m_edited; ///< the file of the output that is being edited
     QPointer<AddOutputsDialog> m_addDialog;
     QPointer<OutputDialog> m_outputDialog;
+    QPointer<SeveralOutputsDialog> m_severalDialog;
 };

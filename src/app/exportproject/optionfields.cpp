@@ -12,6 +12,18 @@ OptionFields::OptionFields(QFormLayout *layout, QObject *parent) : QObject(paren
 
 void OptionFields::show(const QList<Option> &options, const QMap<QString, QString> &given)
 {
+    m_isUndecided = false;
+    replaceRows(options, given);
+}
+
+void OptionFields::showUndecided(const QList<Option> &options)
+{
+    m_isUndecided = true;
+    replaceRows(options, {});
+}
+
+void OptionFields::replaceRows(const QList<Option> &options, const QMap<QString, QString> &given)
+{
     for (const Field &field : std::as_const(m_fields))
         m_layout->removeRow(field.widget);
     m_fields.clear();
@@ -37,16 +49,22 @@ OptionFields::Field OptionFields::fieldFor(const Option &option, const QString &
     }
     case Option::Kind::Number: {
         auto *box = new QSpinBox(parent);
-        box->setRange(option.least, option.most);
-        box->setValue(value.toInt());
+        box->setRange(m_isUndecided ? option.least - 1 : option.least, option.most);
+        if (m_isUndecided)
+            box->setSpecialValueText(tr("As it is"));
+        box->setValue(m_isUndecided ? box->minimum() : value.toInt());
         connect(box, &QSpinBox::valueChanged, this, &OptionFields::changed);
-        return {option, box, [box] { return QString::number(box->value()); }};
+        return {option, box, [box, least = option.least] {
+                    return box->value() < least ? QString() : QString::number(box->value());
+                }};
     }
     case Option::Kind::Choice: {
         auto *box = new QComboBox(parent);
         for (const Option::Choice &choice : option.choices)
             box->addItem(choice.title, choice.id);
-        box->setCurrentIndex(box->findData(value));
+        if (m_isUndecided)
+            box->insertItem(0, tr("As it is"));
+        box->setCurrentIndex(m_isUndecided ? 0 : box->findData(value));
         connect(box, &QComboBox::currentIndexChanged, this, [this] {
             updateLabel();
             emit changed();
@@ -78,7 +96,8 @@ QMap<QString, QString> OptionFields::values() const
 {
     QMap<QString, QString> values;
     for (const Field &field : m_fields) {
-        if (const QString value = field.value(); value != field.option.standard)
+        const QString value = field.value();
+        if (m_isUndecided ? !value.isNull() : value != field.option.standard)
             values.insert(field.option.id, value);
     }
     return values;

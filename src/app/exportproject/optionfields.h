@@ -21,7 +21,10 @@ public:
     /// Replaces the rows. What is not given has its default.
     void show(const QList<NextData::Option> &options, const QMap<QString, QString> &given);
 
-    /// The values that are not the default, by the options' ids.
+    /// Replaces the rows by some that leave each option as it is until something is chosen.
+    void showUndecided(const QList<NextData::Option> &options);
+
+    /// The values that are not the default, by the options' ids; of undecided ones, all that were chosen.
     [[nodiscard]] QMap<QString, QString> values() const;
 
 signals:
@@ -35,9 +38,11 @@ private:
         std::function<QString()> value;
     };
 
+    void replaceRows(const QList<NextData::Option> &options, const QMap<QString, QString> &given);
     [[nodiscard]] Field fieldFor(const NextData::Option &option, const QString &value);
     void updateLabel();
 
     QFormLayout *m_layout;
     QList<Field> m_fields;
+    bool m_isUndecided = false; ///< a null value is then one that was not chosen
 };

@@ -4,11 +4,9 @@
 #include "app/exportproject/optionfields.h"
 #include "app/exportproject/recipetable.h"
 #include "model/project.h"
-#include "nextdata/filenames.h"
 #include "nextdata/usual.h"
 
 #include <QComboBox>
-#include <QFileInfo>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -66,7 +64,7 @@ void OutputDialog::show(const Project &project, const RecipeOutput &output, cons
     const Form *form = findForm(output.form);
     m_options->show(form ? form->options : QList<Option>(), output.options);
     m_file->setText(output.file);
-    m_usual = usualFile();
+    m_shown = output;
     m_size->setText(sizeText());
     open();
 }
@@ -97,21 +95,12 @@ void OutputDialog::changeForm()
     follow();
 }
 
-/// A file that was proposed stays the proposed one, and one with the usual suffix keeps that.
 void OutputDialog::follow()
 {
-    const QString usual = usualFile();
-    const QString suffix = QFileInfo(usual).suffix();
-    const QString file = m_file->text();
-    const qsizetype slash = file.lastIndexOf(u'/') + 1;
-    if (usual != m_usual) {
-        TakenFiles taken = m_others;
-        if (file.sliced(slash) == m_usual)
-            m_file->setText(taken.claim(file.first(slash) + usual));
-        else if (QFileInfo(file).suffix() == QFileInfo(m_usual).suffix() && QFileInfo(file).suffix() != suffix)
-            m_file->setText(taken.claim(file.first(slash) + FileNames::withSuffix(file.sliced(slash), suffix)));
-    }
-    m_usual = usual;
+    RecipeOutput before = m_shown;
+    before.file = m_file->text().trimmed(); // which the person may have changed
+    m_shown = output();
+    m_file->setText(fileAfterChange(before, m_shown, m_others));
     m_size->setText(sizeText());
     revalidate();
 }
@@ -123,13 +112,6 @@ RecipeOutput OutputDialog::output() const
     changed.options = m_options->values();
     changed.file = m_file->text().trimmed();
     return changed;
-}
-
-QString OutputDialog::usualFile() const
-{
-    const Form *form = findForm(m_form->currentData().toString());
-    const Result<OptionValues> values = form ? OptionValues::parse(form->options, m_options->values()) : Failure{};
-    return values ? NextData::usualFile(m_output.name, *form, *values) : QString();
 }
 
 QString OutputDialog::sizeText() const

@@ -35,13 +35,12 @@ private:
     void changeForm();
     void follow();
     [[nodiscard]] NextData::RecipeOutput output() const;
-    [[nodiscard]] QString usualFile() const;
     [[nodiscard]] QString sizeText() const;
 
     QPointer<const Project> m_project;
     NextData::RecipeOutput m_output; ///< as it was
     NextData::TakenFiles m_others;
-    QString m_usual; ///< the file that goes with form and options
+    NextData::RecipeOutput m_shown; ///< as it is now
     QLabel *m_assetIcon;
     QLabel *m_asset;
     QComboBox *m_form;

@@ -4,6 +4,7 @@
 #include "model/project.h"
 #include "nextdata/form.h"
 #include "nextdata/takenfiles.h"
+#include "nextdata/usual.h"
 #include "ui/plaintext.h"
 #include "ui/svgiconengine.h"
 
@@ -134,6 +135,26 @@ void RecipeTable::replace(int row, const RecipeOutput &output)
     QList<RecipeOutput> outputs = m_recipe.outputs();
     outputs[row] = output;
     setOutputs(outputs);
+}
+
+QStringList RecipeTable::setOptions(const QList<int> &rows, const QMap<QString, QString> &options)
+{
+    QList<RecipeOutput> outputs = m_recipe.outputs();
+    TakenFiles taken(outputs);
+    QStringList files;
+    for (const int row : rows) {
+        const RecipeOutput before = outputs[row];
+        const Form *form = findForm(before.form);
+        QMap<QString, QString> changed = before.options;
+        changed.insert(options);
+        if (const Result<OptionValues> values = form ? OptionValues::parse(form->options, changed) : Failure{})
+            outputs[row].options = values->changed();
+        outputs[row].file = fileAfterChange(before, outputs[row], taken);
+        taken.add(outputs[row].file);
+        files.append(outputs[row].file);
+    }
+    setOutputs(outputs);
+    return files;
 }
 
 void RecipeTable::remove(const QList<int> &rows)

@@ -50,6 +50,8 @@ public:
     // Each resets the model: outputs are sorted by file. Outputs must be such that a recipe can hold them, together.
     void add(const QList<NextData::RecipeOutput> &outputs);
     void replace(int row, const NextData::RecipeOutput &output);
+    /// Gives outputs other values of some options, and the files that go with them, which are returned.
+    QStringList setOptions(const QList<int> &rows, const QMap<QString, QString> &options);
     void remove(const QList<int> &rows);
     /// The files of the copies, for rows in any order.
     QStringList duplicate(const QList<int> &rows);
