@@ -90,7 +90,11 @@ class TestExportProject : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { Update::UpdateChecker::setFeedAddress({}); }
+    void initTestCase()
+    {
+        Update::UpdateChecker::setFeedAddress({});
+        QLocale::setDefault(QLocale::c());
+    }
 
     void init()
     {
@@ -342,8 +346,8 @@ private slots:
                  "0000  0F 0F 0F 0F 0F 0F 0F 0F  0F 0F 0F 0F 0F 0F 0F 0F\n0010  AB 0F 0F 0F");
         QCOMPARE(OutputPreview::textOf({{"a.c", "é\nb"}, {"a.h", "\n"}}, true),
                  "a.c (4 bytes)\né\nb\n\na.h (1 bytes)\n");
-        const QString long_ = OutputPreview::textOf({{"a.bin", QByteArray(100000, 'x')}}, false);
-        QVERIFY(long_.size() < 10000 && long_.endsWith("…"));
+        const QString many = OutputPreview::textOf({{"a.bin", QByteArray(100000, 'x')}}, false);
+        QVERIFY(many.size() < 10000 && many.endsWith("…"));
     }
 
     // The window

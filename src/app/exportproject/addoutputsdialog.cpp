@@ -85,6 +85,7 @@ void AddOutputsDialog::show(const Project &project, const Recipe &recipe)
         m_assets->clear();
         for (int kind = 0; kind <= int(AssetKind::Image); ++kind)
             addKind(AssetKind(kind), m_sources);
+        orderFocus();
         m_assets->expandAll();
         m_assets->setCurrentItem(m_assets->topLevelItem(0));
     }
@@ -120,6 +121,19 @@ void AddOutputsDialog::addKind(AssetKind kind, const QList<Source> &sources)
     item->setText(AssetColumn, tr("%1 (%2)").arg(AssetKinds::pluralOf(kind)).arg(ofKind.size()));
     m_assets->addTopLevelItem(item);
     m_assets->setItemWidget(item, FormColumn, formChooser(ofKind, AssetKinds::pluralOf(kind)));
+}
+
+/// The choosers in the list come after the list, in their order.
+void AddOutputsDialog::orderFocus()
+{
+    QWidget *previous = m_assets;
+    for (int i = 0; i < m_assets->topLevelItemCount(); ++i) {
+        QWidget *chooser = m_assets->itemWidget(m_assets->topLevelItem(i), FormColumn);
+        setTabOrder(previous, chooser);
+        previous = chooser;
+    }
+    setTabOrder(previous, m_text);
+    setTabOrder(m_text, m_folder);
 }
 
 QComboBox *AddOutputsDialog::formChooser(const QList<Source> &sources, const QString &kind) const

@@ -33,6 +33,7 @@ protected:
 
 private:
     void addKind(NextData::AssetKind kind, const QList<NextData::Source> &sources);
+    void orderFocus();
     [[nodiscard]] QComboBox *formChooser(const QList<NextData::Source> &sources, const QString &kind) const;
     /// The forms of an asset's item: the one that is chosen for its kind, or the usual ones.
     [[nodiscard]] QList<const NextData::Form *> formsOf(QTreeWidgetItem &item) const;

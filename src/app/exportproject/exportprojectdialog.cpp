@@ -90,11 +90,6 @@ ExportProjectDialog::ExportProjectDialog(QWidget *parent)
     resize(UsualSize.boundedTo(screen()->availableSize() - QSize(40, 60)));
 }
 
-ExportProjectDialog::~ExportProjectDialog()
-{
-    m_table->disconnect(this); // which tells of its end
-}
-
 // How it is built
 
 void ExportProjectDialog::buildActions()
@@ -338,6 +333,8 @@ void ExportProjectDialog::removeOutputs()
     m_table->remove(rows);
     if (m_table->rowCount() > 0)
         select({m_table->output(std::min(rows.first(), m_table->rowCount() - 1)).file});
+    else
+        m_firstStep->setFocus();
 }
 
 // What is done with all of them

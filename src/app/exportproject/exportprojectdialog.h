@@ -32,7 +32,6 @@ class ExportProjectDialog : public QDialog
 
 public:
     explicit ExportProjectDialog(QWidget *parent = nullptr);
-    ~ExportProjectDialog() override;
 
     /// Keeps a recipe; false when it could not, which has been told.
     using Save = std::function<bool(const NextData::Recipe &recipe)>;

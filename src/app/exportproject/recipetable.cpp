@@ -74,7 +74,7 @@ QVariant alignmentOf(RecipeTable::Column column)
     const Qt::Alignment horizontal = column == RecipeTable::SizeColumn ? Qt::AlignRight
         : column == RecipeTable::BanksColumn                           ? Qt::AlignHCenter
                                                                        : Qt::AlignLeft;
-    return QVariant(horizontal | Qt::AlignVCenter);
+    return (horizontal | Qt::AlignVCenter).toInt();
 }
 
 } // namespace
@@ -389,7 +389,8 @@ QVariant RecipeTable::data(const QModelIndex &index, int role) const
     case Qt::ToolTipRole:
         return plainText(toolTip(index.row(), column));
     case Qt::AccessibleTextRole:
-        return column == BanksColumn ? toolTip(index.row(), column) : text(index.row(), column);
+        return column == AssetColumn || column == BanksColumn ? toolTip(index.row(), column)
+                                                              : text(index.row(), column);
     case Qt::DecorationRole:
         if (column == AssetColumn)
             return AssetKinds::iconOf(output(index.row()).kind);

@@ -16,6 +16,7 @@ FileMenu::FileMenu(QWidget *parent) : ProjectMenu(tr("&File"), parent)
     m_saveAs = addCommand(this, tr("Save &As"), &FileMenu::saveProjectAs, {}, QStringLiteral(":/tb-save-file-as"));
     m_close = addCommand(this, tr("&Close"), &FileMenu::closeProject, {}, QStringLiteral(":/tb-close-document"));
     addSeparator();
+    setToolTipsVisible(true);
     m_export = addCommand(this, tr("&Export Project…"), &FileMenu::exportProject, {}, QStringLiteral(":/Export"));
     m_exportAgain =
         addCommand(this, tr("Export A&gain"), &FileMenu::exportAgain, Qt::Key_F9, QStringLiteral(":/Update"));
