@@ -93,7 +93,7 @@ private slots:
     void initTestCase()
     {
         Update::UpdateChecker::setFeedAddress({});
-        QLocale::setDefault(QLocale::c());
+        QLocale::setDefault(QLocale::English); // which groups digits by commas
     }
 
     void init()
@@ -424,6 +424,44 @@ private slots:
         exporter.dialog()->exportAll();
         QVERIFY(window.messageDialog()->detail().contains("is the project or its recipe"));
         QCOMPARE(readFile(path("other.quenmora")), saved);
+    }
+
+    void worksWithTheKeyboardAlone()
+    {
+        SampleProject::fill(*m_project);
+        ExportProjectDialog dialog;
+        bool isSaved = false;
+        dialog.setSaveCallback([&](const Recipe &) { return isSaved = true; });
+        dialog.show(*m_project, path("game.quenmora"), usualRecipe(*m_project), false);
+        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        auto *view = dialog.findChild<QTableView *>();
+        QVERIFY(view->hasFocus() && view->currentIndex().row() == 0);
+        const int count = dialog.table()->rowCount();
+        const auto opened = [&dialog](const char *type) {
+            QWidget *top = QApplication::activeModalWidget();
+            return top != &dialog && top && QLatin1String(top->metaObject()->className()) == QLatin1String(type);
+        };
+        const auto press = [&](int key, const char *opens) {
+            QTest::keyClick(&dialog, Qt::Key(key));
+            const bool isOpen = opened(opens);
+            if (isOpen)
+                static_cast<QDialog *>(QApplication::activeModalWidget())->reject();
+            return isOpen && QTest::qWaitForWindowActive(&dialog);
+        };
+        QVERIFY(press(Qt::Key_Return, "OutputDialog") && press(Qt::Key_Insert, "AddOutputsDialog"));
+        QTest::keyClick(view, Qt::Key_Down);
+        QTest::keyClick(view, Qt::Key_Down, Qt::ShiftModifier);
+        QVERIFY(press(Qt::Key_Enter, "SeveralOutputsDialog"));
+        QTest::keyClick(view, Qt::Key_D, Qt::ControlModifier);
+        QCOMPARE(dialog.table()->rowCount(), count + 2);
+        QTest::keyClick(view, Qt::Key_Delete); // the copies, which are selected then
+        QCOMPARE(dialog.table()->recipe(), usualRecipe(*m_project));
+        QTest::keyClick(view, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClick(view, Qt::Key_Delete);
+        QVERIFY(dialog.table()->rowCount() == 0 && !view->isVisible());
+        QVERIFY(press(Qt::Key_Return, "AddOutputsDialog")); // what to begin with
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+        QVERIFY(!dialog.isVisible() && !isSaved && !QFile::exists(path("Main.pal")));
     }
 
     void neverReplacesARecipeUnasked()
