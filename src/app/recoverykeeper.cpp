@@ -10,8 +10,10 @@
 
 namespace {
 
+/// Nanoseconds of a slice after which no further part of the work begins: one part may take milliseconds.
+constexpr qint64 SliceTime = 300'000;
+
 // In milliseconds
-constexpr int SliceTime = 1; ///< after which no further part of the work begins; one part may take a few
 constexpr int SliceDistance = 8; ///< from the beginning of a slice to that of the next
 constexpr int Patience = 2000; ///< with somebody who never pauses: then free hands are enough
 
@@ -175,7 +177,7 @@ void RecoveryKeeper::workOn()
         }
         if (m_copier)
             finish(m_copier->step());
-    } while (m_slices.isActive() && !time.hasExpired(SliceTime));
+    } while (m_slices.isActive() && time.nsecsElapsed() < SliceTime);
 }
 
 void RecoveryKeeper::finish(RecoveryCopier::Progress progress)

@@ -93,9 +93,18 @@ QStringList RecoveryFolder::files() const
 QString RecoveryFolder::write(const QString &name, const QByteArray &bytes) const
 {
     QFile file(filePath(name));
-    if (file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && file.write(bytes) == bytes.size()) {
-        startWriting(file);
-        return {};
+    if (file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
+        qint64 done = 0;
+        while (done < bytes.size()) { // a full disk takes what fits, and says why with the next bytes
+            const qint64 count = file.write(bytes.constData() + done, bytes.size() - done);
+            if (count <= 0)
+                break;
+            done += count;
+        }
+        if (done == bytes.size()) {
+            startWriting(file);
+            return {};
+        }
     }
     const QString problem = file.errorString();
     file.remove();

@@ -5,6 +5,7 @@
 #include <zlib.h>
 
 #include <numeric>
+#include <utility>
 
 qint64 PackedMember::size() const
 {
@@ -59,7 +60,11 @@ void MemberPacker::step()
 {
     if (m_atEnd)
         return;
-    m_packed.blocks.append(m_kept.packed(m_blocks.next()));
+    if (!m_next) {
+        m_next = m_blocks.next();
+        return;
+    }
+    m_packed.blocks.append(m_kept.packed(*std::exchange(m_next, {})));
     m_atEnd = m_blocks.atEnd();
     if (m_atEnd && m_packed.picture)
         m_kept.addPicture(*m_packed.picture, m_packed.blocks);

@@ -43,7 +43,7 @@ public:
     MemberPacker(const ProjectMember &member, KeptBlocks &kept);
 
     [[nodiscard]] bool atEnd() const { return m_atEnd; }
-    /// Packs the next block.
+    /// Makes the next block, or packs the one that was made: each takes its time.
     void step();
     /// The member, whole once the packer is at its end.
     [[nodiscard]] const PackedMember &packed() const { return m_packed; }
@@ -51,6 +51,7 @@ public:
 private:
     KeptBlocks &m_kept;
     MemberBlocks m_blocks;
+    std::optional<MemberBlock> m_next; ///< made and not packed yet
     PackedMember m_packed;
     bool m_atEnd = false;
 };
