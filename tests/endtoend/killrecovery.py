@@ -25,8 +25,8 @@ class Round:
         project = os.path.join(folder, "work.quenmora")
         self.told = os.path.join(folder, "told.jsonl")
         in_save = rng.random() < 0.5  # half of them die while they save, the others whenever it is
-        wait = rng.uniform(0.0, 12.0)
-        moment = rng.uniform(0.0, 0.6)
+        wait = rng.uniform(0.0, 8.0)
+        moment = rng.uniform(0.0, 1.5)
         with open(self.told, "wb") as told, open(os.path.join(folder, "driver.log"), "ab") as log:
             process = subprocess.Popen([driver, "work", project, str(rng.randrange(1 << 30)), str(INTERVAL)],
                                        stdout=told, stderr=log)
