@@ -218,10 +218,12 @@ void ExportProjectDialog::resizeEvent(QResizeEvent *event)
 {
     QDialog::resizeEvent(event);
     // the columns of words share what there is more or less than before
-    const int more = width() - std::exchange(m_width, width());
-    for (const auto &[column, share] :
-         {std::pair(RecipeTable::AssetColumn, 26), {RecipeTable::FormColumn, 37}, {RecipeTable::FileColumn, 37}})
-        m_view->setColumnWidth(column, std::max(m_view->columnWidth(column) + more * share / 100, NarrowestColumn));
+    const int before = std::exchange(m_width, width());
+    for (const auto &[column, percent] :
+         {std::pair(RecipeTable::AssetColumn, 26), {RecipeTable::FormColumn, 37}, {RecipeTable::FileColumn, 37}}) {
+        const int more = width() * percent / 100 - before * percent / 100; // which add up, however small the steps
+        m_view->setColumnWidth(column, std::max(m_view->columnWidth(column) + more, NarrowestColumn));
+    }
 }
 
 bool ExportProjectDialog::event(QEvent *event)
