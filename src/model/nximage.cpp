@@ -14,7 +14,6 @@ using SnapGrid::Table;
 
 constexpr qsizetype TableSize = 256;
 constexpr QRgb Clear = 0; // no snapped colour: these are opaque
-constexpr int LeastAlpha = 128; ///< of a pixel that is not clear
 
 /// A picture of the same size whose pixels are indexOf() of those of a picture.
 template <typename Pixel, typename IndexOf>

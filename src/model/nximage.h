@@ -22,6 +22,8 @@ public:
     /// The largest picture that is taken, 256 MiB of pixels; larger ones count as unreadable, however
     /// small their file is.
     static constexpr qint64 MaxPixels = 8192 * 8192;
+    /// The alpha from which on a pixel is not clear.
+    static constexpr int LeastAlpha = 128;
 
     explicit NxImage(QObject *parent = nullptr);
     explicit NxImage(const QImage &image, QObject *parent = nullptr);

@@ -183,6 +183,19 @@ private slots:
         QCOMPARE(field<PicturePreview>(dialog)->picture().pixel(0, 0), qRgb(255, 0, 0));
         field<DepthChooser>(dialog)->setCurrentIndex(1);
         QCOMPARE(confirm(dialog, "Villain"), QString());
+        // the machine's own colours are kept, unless a person wants them quantised
+        picture.fill(qRgb(219, 36, 0));
+        QVERIFY(picture.save(m_folder("level6.png")));
+        auto *keep = field<QCheckBox>(dialog);
+        QVERIFY(!keep->isEnabled() && !keep->isChecked());
+        dialog.show(*m_project, m_folder("level6.png"));
+        field<QRadioButton>(dialog, 1)->setChecked(true);
+        QVERIFY(keep->isEnabled() && keep->isChecked());
+        QCOMPARE(field<PicturePreview>(dialog)->picture().pixel(0, 0), qRgb(219, 37, 0));
+        QCOMPARE(confirm(dialog), QString());
+        QVERIFY(accepted[2][0].value<SpriteImport>().keepColours);
+        keep->setChecked(false);
+        QCOMPARE(field<PicturePreview>(dialog)->picture().pixel(0, 0), qRgb(255, 37, 0));
         QCOMPARE(accepted[0][0].value<SpriteImport>(), (SpriteImport{file, "hero", Quenmora::EightBit, black}));
         QCOMPARE(accepted[1][0].value<SpriteImport>(), (SpriteImport{file, "Villain", Quenmora::FourBit, QUuid()}));
     }

@@ -18,6 +18,7 @@
 #include <QTest>
 #include <QUndoStack>
 
+#include <array>
 #include <memory>
 
 namespace {
@@ -266,6 +267,45 @@ private slots:
             QCOMPARE(palette->rawColour(1), 0xC000);
             QCOMPARE(palette->rawColour(2), third);
         }
+    }
+
+    void keepsTheMachinesLevels_data()
+    {
+        QTest::addColumn<bool>("keep");
+        QTest::addColumn<int>("sixth"); // the level that 219 becomes
+        QTest::newRow("kept") << true << 6;
+        QTest::newRow("quantised") << false << 7;
+    }
+
+    void keepsTheMachinesLevels()
+    {
+        QFETCH(bool, keep);
+        QFETCH(int, sixth);
+        QImage picture(16, 16, QImage::Format_RGB32); // greys, as converters show them
+        for (int x = 0; x < 16; ++x) {
+            const int grey = std::array{0, 36, 73, 109, 146, 182, 219, 255}[size_t(x / 2)];
+            for (int y = 0; y < 16; ++y)
+                picture.setPixel(x, y, qRgb(grey, grey, grey));
+        }
+        QVERIFY(picture.save(m_folder("greys.png")));
+        const auto greyOf = [](int level) { return quint16(level * 0x2400 | level >> 1 << 8 | (level & 1)); };
+        m_actions->importSpritePicture({m_folder("greys.png"), "Greys", Quenmora::EightBit, {}, keep});
+        const QPointer<SpriteBank> bank = m_project->spriteBank(m_ready);
+        const QImage sprite = bank->spriteImage(bank->count() - 1, false, false, false);
+        for (int level = 0; level < 8; ++level) {
+            const QRgb shown = sprite.pixel(2 * level, 0);
+            QCOMPARE(bank->palette()->rawColour(int(bank->palette()->colourTable().indexOf(shown))),
+                     greyOf(level == 6 ? sixth : level));
+        }
+        m_actions->importPalette({}, m_folder("greys.png"));
+        const QPointer<Palette> palette = m_project->palette(m_ready);
+        for (int level = 0; level < 8; ++level)
+            QCOMPARE(palette->rawColour(level), greyOf(level));
+        // in the colours of that palette, each has its own entry, of which 18 are black
+        m_actions->importSpritePicture({m_folder("greys.png"), "Same", Quenmora::EightBit, palette->id(), keep});
+        const QPointer<SpriteBank> same = m_project->spriteBank(m_ready);
+        for (int level = 0; level < 8; ++level)
+            QCOMPARE(same->spriteImage(1, false, false, false).pixelIndex(2 * level, 0), level);
     }
 
     void importsANewPalette()

@@ -5,8 +5,10 @@
 #include "app/dialogs/picturepreview.h"
 #include "model/picturefile.h"
 #include "model/spritebank.h"
+#include "pictures/machinecolours.h"
 #include "ui/busy.h"
 
+#include <QCheckBox>
 #include <QFileInfo>
 #include <QFormLayout>
 #include <QLabel>
@@ -14,6 +16,7 @@
 #include <QRadioButton>
 
 #include <algorithm>
+#include <utility>
 
 namespace SpriteEditor {
 
@@ -38,6 +41,7 @@ ImportImageDialog::ImportImageDialog(QWidget *parent)
     , m_remap(new QRadioButton(tr("Nearest colours of a &palette"), this))
     , m_slice(new QRadioButton(tr("N&ew palette, and every sprite once"), this))
     , m_palette(new AssetChooser(this))
+    , m_keepColours(new QCheckBox(tr("&Keep the machine's colours"), this))
     , m_depth(new DepthChooser(this))
     , m_preview(new PicturePreview(this))
     , m_summary(new QLabel(this))
@@ -46,10 +50,14 @@ ImportImageDialog::ImportImageDialog(QWidget *parent)
     form()->addRow(tr("Colours"), m_remap);
     form()->addRow(QString(), m_palette);
     form()->addRow(QString(), m_slice);
+    m_keepColours->setToolTip(tr("Every colour of the picture is one that the Next has, and stays exactly that"));
+    form()->addRow(QString(), m_keepColours);
     form()->addRow(tr("&Depth"), m_depth);
     body()->addWidget(m_preview, 1);
     body()->addWidget(m_summary);
-    connect(m_slice, &QRadioButton::toggled, this, &ImportImageDialog::refresh);
+    for (const QAbstractButton *button :
+         {static_cast<QAbstractButton *>(m_slice), static_cast<QAbstractButton *>(m_keepColours)})
+        connect(button, &QAbstractButton::toggled, this, &ImportImageDialog::refresh);
     for (const QComboBox *box : {static_cast<QComboBox *>(m_palette), static_cast<QComboBox *>(m_depth)})
         connect(box, &QComboBox::currentIndexChanged, this, &ImportImageDialog::refresh);
 }
@@ -64,11 +72,11 @@ void ImportImageDialog::show(const Project &project, const QString &file)
         auto [image, refusal] = PictureFile::read(file);
         m_refusal = refusal;
         m_size = image.size();
-        m_thumbnail.setTranslucent(thumbnailOf(image));
-        NxImage picture; // which may be large, and is read again when it is imported
-        picture.setTranslucent(std::move(image));
-        m_colours = picture.colours();
-        m_hasClearPixels = picture.hasClearPixels();
+        const bool canKeep = MachineColours::areIn(image);
+        take(m_kept, canKeep ? MachineColours::kept(image) : QImage());
+        take(m_quantised, std::move(image));
+        m_keepColours->setEnabled(canKeep);
+        m_keepColours->setChecked(canKeep);
     }
     m_palette->offerPalettes(project);
     const bool hasPalettes = m_palette->count() > 0;
@@ -76,6 +84,21 @@ void ImportImageDialog::show(const Project &project, const QString &file)
     (hasPalettes ? m_remap : m_slice)->setChecked(true);
     refresh();
     openWithName(QFileInfo(file).completeBaseName());
+}
+
+/// Takes the colours and a small picture: the large one is read again when it is imported.
+void ImportImageDialog::take(Look &look, QImage image)
+{
+    look.thumbnail.setTranslucent(thumbnailOf(image));
+    NxImage picture;
+    picture.setTranslucent(std::move(image));
+    look.colours = picture.colours();
+    m_hasClearPixels = picture.hasClearPixels();
+}
+
+const ImportImageDialog::Look &ImportImageDialog::look() const
+{
+    return m_keepColours->isChecked() ? m_kept : m_quantised;
 }
 
 QSize ImportImageDialog::pieces() const
@@ -96,18 +119,26 @@ SpriteTransparency ImportImageDialog::transparency() const
 SpriteColours ImportImageDialog::placesOf(const QList<QRgb> &colours) const
 {
     const Palette *palette = chosenPalette();
-    return palette ? SpriteColours::nearest(colours, *palette, transparency())
-                   : SpriteColours::own(colours, transparency());
+    if (!palette)
+        return SpriteColours::own(colours, transparency());
+    QList<QRgb> wanted = colours;
+    if (m_keepColours->isChecked())
+        std::transform(wanted.cbegin(), wanted.cend(), wanted.begin(), MachineColours::shown);
+    return SpriteColours::nearest(wanted, *palette, transparency());
 }
 
 void ImportImageDialog::refresh()
 {
     m_palette->setEnabled(m_remap->isChecked());
-    const SpriteColours colours = placesOf(m_thumbnail.colours());
+    const SpriteColours colours = placesOf(look().thumbnail.colours());
     Palette shownColours; // as the Next has them
-    for (qsizetype i = 0; i < colours.table().size(); ++i)
-        shownColours.setColour(int(i), QColor::fromRgb(colours.table()[i]), false);
-    QImage shown = colours.pixels(m_thumbnail);
+    if (const Palette *palette = chosenPalette()) {
+        shownColours.copyColours(*palette);
+    } else {
+        for (qsizetype i = 0; i < colours.table().size(); ++i)
+            shownColours.setColour(int(i), QColor::fromRgb(colours.table()[i]), false);
+    }
+    QImage shown = colours.pixels(look().thumbnail);
     if (!shown.isNull()) {
         shown.setColorTable(shownColours.colourTable());
         shown.setColor(transparency().pixel(), qRgba(0, 0, 0, 0));
@@ -123,7 +154,7 @@ QString ImportImageDialog::summary() const
         return tr("No picture");
     const QString text = m_hasClearPixels ? tr("%1 × %2 sprites, colours: %3, and transparent pixels")
                                           : tr("%1 × %2 sprites, colours: %3");
-    return text.arg(pieces().width()).arg(pieces().height()).arg(m_colours.size());
+    return text.arg(pieces().width()).arg(pieces().height()).arg(look().colours.size());
 }
 
 QString ImportImageDialog::problem() const
@@ -148,11 +179,12 @@ QString ImportImageDialog::problem() const
 QString ImportImageDialog::depthProblem() const
 {
     if (!chosenPalette()) {
-        return m_colours.size() >= FourBitColours
-            ? tr("The picture has %1 colours; 4-bit sprites show 15 beside the transparent one").arg(m_colours.size())
+        return look().colours.size() >= FourBitColours
+            ? tr("The picture has %1 colours; 4-bit sprites show 15 beside the transparent one")
+                  .arg(look().colours.size())
             : QString();
     }
-    const QList<int> indices = placesOf(m_colours).indices();
+    const QList<int> indices = placesOf(look().colours).indices();
     const bool oneGroup = std::all_of(indices.cbegin(), indices.cend(), [&indices](int index) {
         return index / FourBitColours == indices.constFirst() / FourBitColours;
     });
@@ -162,7 +194,8 @@ QString ImportImageDialog::depthProblem() const
 
 void ImportImageDialog::submit()
 {
-    emit accepted({m_file, name(), m_depth->depth(), m_remap->isChecked() ? m_palette->id() : QUuid()});
+    emit accepted({m_file, name(), m_depth->depth(), m_remap->isChecked() ? m_palette->id() : QUuid(),
+                   m_keepColours->isChecked()});
 }
 
 } // namespace SpriteEditor

@@ -12,6 +12,7 @@
 class AssetChooser;
 class DepthChooser;
 class PicturePreview;
+class QCheckBox;
 class QLabel;
 class QRadioButton;
 
@@ -38,6 +39,15 @@ protected:
     void submit() override;
 
 private:
+    /// The picture's colours as they come in.
+    struct Look
+    {
+        NxImage thumbnail;
+        QList<QRgb> colours; ///< of the picture
+    };
+
+    void take(Look &look, QImage image);
+    [[nodiscard]] const Look &look() const;
     void refresh();
     [[nodiscard]] Palette *chosenPalette() const;
     [[nodiscard]] SpriteTransparency transparency() const;
@@ -52,12 +62,13 @@ private:
     QString m_file;
     QSize m_size; ///< of the picture; empty when the file cannot be read
     QString m_refusal; ///< why
-    QList<QRgb> m_colours; ///< of the picture
+    Look m_quantised;
+    Look m_kept; ///< empty for a picture that has other colours than the machine's
     bool m_hasClearPixels = false;
-    NxImage m_thumbnail;
     QRadioButton *m_remap;
     QRadioButton *m_slice;
     AssetChooser *m_palette;
+    QCheckBox *m_keepColours;
     DepthChooser *m_depth;
     PicturePreview *m_preview;
     QLabel *m_summary;

@@ -3,6 +3,7 @@
 #include "model/nextcolour.h"
 #include "model/picturefile.h"
 #include "model/project.h"
+#include "pictures/machinecolours.h"
 #include "undo/snapshotcommand.h"
 
 #include <QCoreApplication>
@@ -11,8 +12,8 @@
 #include <QStringList>
 #include <QUndoStack>
 
+#include <algorithm>
 #include <bitset>
-#include <memory>
 
 namespace {
 
@@ -49,20 +50,32 @@ int levelOf(int component)
     return component == NextColour::componentOf(Level) ? Level : NextColour::levelOf(component);
 }
 
-quint16 wordOf(QRgb colour)
+quint16 quantised(QRgb colour)
 {
     return NextColour::compose(levelOf(qRed(colour)), levelOf(qGreen(colour)), levelOf(qBlue(colour)), false);
+}
+
+/// The words of a colour table: those of the machine's own colours when it has no others.
+Words wordsOfTable(const QList<QRgb> &colours)
+{
+    const bool keepColours =
+        std::all_of(colours.cbegin(), colours.cend(), [](QRgb colour) { return MachineColours::wordOf(colour); });
+    Words words;
+    for (const QRgb colour : colours.first(qMin(colours.size(), qsizetype(Palette::Size))))
+        words.append(keepColours ? *MachineColours::wordOf(colour) : quantised(colour));
+    return words;
 }
 
 /// The first distinct words of a picture's pixels, row by row.
 Words distinctWords(const QImage &picture)
 {
+    const bool keepColours = MachineColours::areIn(picture);
     std::bitset<0x10000> seen;
     Words words;
     for (int y = 0; y < picture.height() && words.size() < Palette::Size; ++y) {
         const auto *line = reinterpret_cast<const QRgb *>(picture.constScanLine(y));
         for (int x = 0; x < picture.width() && words.size() < Palette::Size; ++x) {
-            const quint16 word = wordOf(line[x]);
+            const quint16 word = keepColours ? *MachineColours::wordOf(line[x]) : quantised(line[x]);
             if (!seen.test(word)) {
                 seen.set(word);
                 words.append(word);
@@ -76,12 +89,8 @@ Words distinctWords(const QImage &picture)
 Words wordsOfPicture(const QString &fileName)
 {
     const QImage picture = PictureFile::read(fileName).image;
-    if (picture.colorTable().isEmpty())
-        return distinctWords(picture.convertToFormat(QImage::Format_RGB32));
-    Words words;
-    for (const QRgb colour : picture.colorTable().first(qMin(picture.colorTable().size(), qsizetype(Palette::Size))))
-        words.append(wordOf(colour));
-    return words;
+    return picture.colorTable().isEmpty() ? distinctWords(picture.convertToFormat(QImage::Format_RGB32))
+                                          : wordsOfTable(picture.colorTable());
 }
 
 } // namespace

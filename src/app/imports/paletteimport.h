@@ -10,8 +10,8 @@ class Project;
 class QUndoStack;
 
 /// Reads the words of a palette file, or of a picture: its colour table, or else the first distinct colours
-/// of its pixels, row by row, as colours of the Next, at most 256; entries beyond them stay as they are. False, and
-/// nothing changes, when the file is neither.
+/// of its pixels, row by row, as colours of the Next, at most 256; entries beyond them stay as they are. Colours that
+/// are all the machine's keep their levels. False, and nothing changes, when the file is neither.
 [[nodiscard]] bool readPaletteFile(const QString &fileName, Palette &words);
 
 /// Gives a palette the words of another, as one undo step on its stack; without a stack it cannot be undone.

@@ -8,10 +8,14 @@
 #include "model/picturefile.h"
 #include "model/project.h"
 #include "model/spritebank.h"
+#include "pictures/machinecolours.h"
 #include "ui/busy.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
+
+#include <algorithm>
+#include <utility>
 
 // What can fail is looked at first: creating an asset is announced, and cannot be taken back unseen.
 
@@ -50,7 +54,8 @@ SpriteBank *importSpritePicture(Project &project, const SpriteImport &import, QW
 {
     const Busy busy(parent, importing(import), PictureFile::pixelCount(import.file));
     NxImage picture;
-    picture.setTranslucent(PictureFile::read(import.file).image);
+    QImage image = PictureFile::read(import.file).image;
+    picture.setTranslucent(import.keepColours ? MachineColours::kept(std::move(image)) : std::move(image));
     if (import.paletteId.isNull()) {
         const QImage pixels = SpriteColours::own(picture.colours(), {import.depth}).pixels(picture);
         picture.setImage({}); // two of a large one are enough
@@ -62,7 +67,10 @@ SpriteBank *importSpritePicture(Project &project, const SpriteImport &import, QW
     if (!usable || !palette)
         return nullptr;
     SpriteBank *bank = project.createSpriteBank(import.depth, import.name, import.paletteId);
-    const SpriteColours colours = SpriteColours::nearest(picture.colours(), *palette, bank->clearPixels());
+    QList<QRgb> wanted = picture.colours();
+    if (import.keepColours)
+        std::transform(wanted.cbegin(), wanted.cend(), wanted.begin(), MachineColours::shown);
+    const SpriteColours colours = SpriteColours::nearest(wanted, *palette, bank->clearPixels());
     return bank->appendPieces(colours.pixels(picture)) > 1 ? bank : nullptr;
 }
 

@@ -16,6 +16,7 @@ struct SpriteImport
     QString name; ///< of the bank, and of a new palette
     Quenmora::Sprite depth = Quenmora::EightBit;
     QUuid paletteId; ///< a palette of the project, or null for a new one
+    bool keepColours = false; ///< of a picture whose colours are the machine's: their levels stay what they are
 
     bool operator==(const SpriteImport &) const = default;
 };

@@ -1,6 +1,7 @@
 #include "editors/canvas/imageimportdialog.h"
 
 #include "editors/canvas/pictureimport.h"
+#include "pictures/machinecolours.h"
 
 #include <QCheckBox>
 #include <QLabel>
@@ -19,6 +20,7 @@ ImportDialog::ImportDialog(QWidget *parent)
     , m_preview(new QLabel(this))
     , m_size(new QLabel(this))
     , m_scale(new QCheckBox(tr("Scale to fill the image"), this))
+    , m_keepColours(new QCheckBox(tr("Keep the machine's colours"), this))
 {
     setHeader(tr("Import a picture"));
     m_preview->setFixedSize(PreviewSize);
@@ -28,7 +30,12 @@ ImportDialog::ImportDialog(QWidget *parent)
     body()->addWidget(m_preview, 0, Qt::AlignHCenter);
     body()->addWidget(m_size, 0, Qt::AlignHCenter);
     body()->addWidget(m_scale);
+    m_keepColours->setToolTip(
+        tr("Every colour of the picture is one that the Next has: those that the palette has stay "
+           "exactly that, and scaling mixes no new ones"));
+    body()->addWidget(m_keepColours);
     connect(m_scale, &QCheckBox::toggled, this, &ImportDialog::updatePreview);
+    connect(m_keepColours, &QCheckBox::toggled, this, &ImportDialog::updatePreview);
     connect(this, &QDialog::accepted, this, [this] { emit imported(m_pixels); });
 }
 
@@ -45,6 +52,9 @@ void ImportDialog::show(const QImage &picture, const QPointer<Palette> &palette,
                         .arg(imageSize.height()));
     m_scale->setChecked(false);
     m_scale->setEnabled(picture.size() != imageSize);
+    const bool canKeep = MachineColours::areIn(picture);
+    m_keepColours->setEnabled(canKeep);
+    m_keepColours->setChecked(canKeep);
     updatePreview();
     DialogBase::open();
 }
@@ -59,8 +69,10 @@ void ImportDialog::updatePreview()
     // Only what lies inside the image is converted.
     const bool scale = m_scale->isChecked();
     const QImage part = scale ? m_picture : m_picture.copy(QRect(QPoint(), m_imageSize) & m_picture.rect());
-    m_pixels = m_palette ? PictureImport::indexed(part, *m_palette, 0, m_colourCount, scale ? m_imageSize : QSize())
-                         : QImage();
+    const auto levels = m_keepColours->isChecked() ? PictureImport::Levels::Kept : PictureImport::Levels::Quantised;
+    m_pixels = m_palette
+        ? PictureImport::indexed(part, *m_palette, 0, m_colourCount, scale ? m_imageSize : QSize(), levels)
+        : QImage();
     const QImage shown = m_pixels.convertToFormat(QImage::Format_RGB32);
     m_preview->setPixmap(QPixmap::fromImage(shown.scaled(PreviewSize, Qt::KeepAspectRatio)));
 }

@@ -40,6 +40,7 @@ private:
     QLabel *m_preview;
     QLabel *m_size;
     QCheckBox *m_scale;
+    QCheckBox *m_keepColours;
 };
 
 } // namespace ImageEditor

@@ -9,8 +9,14 @@ class Palette;
 /// Turns an ordinary picture into pixels of an image asset.
 namespace PictureImport {
 
+enum class Levels {
+    Quantised,
+    Kept, ///< of a picture whose colours are all the machine's; scaling it makes no new ones
+};
+
 /// The picture as indices of the count (16 or 256) entries of the palette from first on, every colour the
 /// nearest of them; when asked to, scaled to exactly the size. Null when the picture is null.
-[[nodiscard]] QImage indexed(const QImage &picture, const Palette &palette, int first, int count, QSize scaledTo = {});
+[[nodiscard]] QImage indexed(const QImage &picture, const Palette &palette, int first, int count, QSize scaledTo = {},
+                             Levels levels = Levels::Quantised);
 
 } // namespace PictureImport

@@ -514,6 +514,33 @@ private slots:
             QCOMPARE(scene.at(0, 0), 5);
         }
     }
+
+    void imageImportKeepsTheMachinesColours()
+    {
+        ImageScene scene(Quenmora::LoRes_128x96);
+        scene.show(0);
+        QImage picture = plainPicture({2, 1}, Qt::black);
+        picture.setPixel(1, 0, qRgb(255, 255, 255));
+        QVERIFY(picture.save(scene.file("in.png")));
+        for (const bool keep : {true, false}) {
+            scene.choose(Open, "in.png");
+            auto *dialog = scene.view->findChild<ImageEditor::ImportDialog *>();
+            const QList<QCheckBox *> boxes = dialog->findChildren<QCheckBox *>();
+            boxes[0]->setChecked(true); // scaled
+            QVERIFY(boxes[1]->isChecked()); // by itself
+            boxes[1]->setChecked(keep);
+            dialog->accept();
+            QSet<int> entries;
+            for (int x = 0; x < 128; ++x)
+                entries.insert(scene.at(x, 0));
+            QCOMPARE(entries.size() == 2, keep); // or shades of grey between them
+        }
+        QVERIFY(plainPicture({2, 1}, qRgb(50, 0, 0)).save(scene.file("in.png")));
+        scene.choose(Open, "in.png");
+        const QList<QCheckBox *> boxes =
+            scene.view->findChild<ImageEditor::ImportDialog *>()->findChildren<QCheckBox *>();
+        QVERIFY(!boxes[1]->isEnabled() && !boxes[1]->isChecked());
+    }
 };
 
 QUENMORA_TEST_MAIN(TestPixelEditor)
