@@ -14,7 +14,7 @@ using Update::UpdateChecker;
 namespace {
 
 /// A web server on the loopback address, from which update checkers that are made after it fetch their feed. It
-/// answers every request (short enough to arrive at once) with the response set last, as it stands, and then
+/// answers every request, once it is there to its empty line, with the response set last, as it stands, and then
 /// closes the connection. An empty response leaves the client waiting.
 class FeedServer : public QTcpServer
 {
@@ -26,6 +26,8 @@ public:
         connect(this, &QTcpServer::newConnection, this, [this] {
             QTcpSocket *socket = nextPendingConnection();
             connect(socket, &QTcpSocket::readyRead, this, [this, socket] {
+                if (!socket->peek(MaxRequest).endsWith("\r\n\r\n"))
+                    return;
                 requests.append(socket->readAll());
                 if (response.isEmpty())
                     return;
@@ -37,6 +39,9 @@ public:
 
     QByteArrayList requests;
     QByteArray response;
+
+private:
+    static constexpr qint64 MaxRequest = 4096;
 };
 
 } // namespace
