@@ -2,6 +2,8 @@
 
 #include "nextdata/filenames.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 
 namespace NextData {
@@ -14,11 +16,16 @@ TakenFiles::TakenFiles(const QList<RecipeOutput> &outputs)
 
 QString TakenFiles::claim(const QString &file)
 {
-    const qsizetype slash = file.lastIndexOf(u'/') + 1;
     QString free = file;
-    for (int &number = m_lastNumber[file.toCaseFolded()]; contains(free);) {
-        number = std::max(number + 1, 2);
-        free = file.first(slash) + FileNames::withPart(file.sliced(slash), u'_' + QString::number(number));
+    if (contains(free)) {
+        static const QRegularExpression numbered(QStringLiteral("_([0-9]{1,6})(\\.[^./]*)?$"));
+        const QRegularExpressionMatch match = numbered.match(file);
+        const QString plain = match.hasMatch() ? file.first(match.capturedStart()) + match.captured(2) : file;
+        const qsizetype slash = plain.lastIndexOf(u'/') + 1;
+        int &number = m_lastNumber[plain.toCaseFolded()];
+        number = std::max({number, match.captured(1).toInt(), 1});
+        while (contains(free))
+            free = plain.first(slash) + FileNames::withPart(plain.sliced(slash), u'_' + QString::number(++number));
     }
     add(free);
     return free;

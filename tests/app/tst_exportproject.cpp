@@ -136,6 +136,7 @@ private slots:
         lookAtAll(table);
         QCOMPARE(cell(table, file, RecipeTable::StateColumn), "New");
         QCOMPARE(table.run({}).size(), table.rowCount());
+        QCOMPARE(cell(table, file, RecipeTable::StateColumn), "Unchanged"); // at once
         lookAtAll(table);
         QCOMPARE(cell(table, file, RecipeTable::StateColumn), "Unchanged");
 
@@ -183,7 +184,8 @@ private slots:
         QCOMPARE(table.duplicate({level, title}), (QStringList{"Level_2.map", "Title_2.nxi"}));
         QCOMPARE(table.rowCount(), before.outputs().size() + 2);
         QCOMPARE(table.output(table.rowOf("Level_2.map")).id, table.output(table.rowOf("Level.map")).id);
-        table.remove({table.rowOf("Level_2.map"), table.rowOf("Title_2.nxi")});
+        QCOMPARE(table.duplicate({table.rowOf("Level_2.map")}), QStringList{"Level_3.map"});
+        table.remove({table.rowOf("Level_2.map"), table.rowOf("Title_2.nxi"), table.rowOf("Level_3.map")});
         QCOMPARE(table.recipe(), before);
         QVERIFY(!table.isModified());
     }

@@ -2,6 +2,7 @@
 
 #include "app/exportproject/recipetable.h"
 #include "model/project.h"
+#include "ui/titlewidth.h"
 
 #include <QCoreApplication>
 
@@ -42,6 +43,7 @@ ExportProgress::ExportProgress(QWidget *parent, const Project &project, const Ne
     , m_dialog(tr("Exporting the project…"), tr("&Stop"), 0, 1, parent)
 {
     m_dialog.setWindowTitle(tr("Export Project"));
+    m_dialog.setMinimumWidth(titleWidth(m_dialog.windowTitle()));
     m_dialog.setWindowModality(Qt::WindowModal);
     m_dialog.setMinimumDuration(Patience);
     m_dialog.setValue(0);

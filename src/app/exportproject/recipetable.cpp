@@ -12,6 +12,7 @@
 #include <QFileInfo>
 #include <QFont>
 #include <QLocale>
+#include <QScopedValueRollback>
 
 #include <algorithm>
 
@@ -210,7 +211,7 @@ RecipeRun RecipeTable::runOf(const Project &project, const QString &projectFile,
 
 void RecipeTable::lookAgain()
 {
-    if (!m_project)
+    if (!m_project || m_isRunning)
         return;
     m_run.emplace(runOf(*m_project, m_projectFile, m_recipe));
     m_previewRun.reset();
@@ -269,9 +270,20 @@ Result<QList<OutputFile>> RecipeTable::make(int row)
 
 QList<RecipeRun::Outcome> RecipeTable::run(const RecipeRun::Progress &progress)
 {
-    m_idle.stop(); // files are not looked at while they are written
-    const QList<RecipeRun::Outcome> outcomes =
-        runOf(*m_project, m_projectFile, m_recipe).runAll(RecipeRun::Mode::Write, progress);
+    QList<RecipeRun::Outcome> outcomes;
+    {
+        const QScopedValueRollback running(m_isRunning, true); // files are not looked at while they are written
+        m_idle.stop();
+        outcomes = runOf(*m_project, m_projectFile, m_recipe).runAll(RecipeRun::Mode::Write, progress);
+    }
+    for (int row = 0; row < std::min(int(outcomes.size()), rowCount()); ++row) {
+        RecipeRun::Outcome now = outcomes[row];
+        if (now.state != State::Impossible)
+            now.state = State::Unchanged;
+        m_rows[row].outcome = now;
+    }
+    if (rowCount() > 0)
+        emit dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
     lookAgain();
     return outcomes;
 }

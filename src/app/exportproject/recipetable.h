@@ -108,5 +108,6 @@ private:
     std::optional<NextData::RecipeRun> m_run; ///< that looks, output by output
     std::optional<NextData::RecipeRun> m_previewRun; ///< that makes one here and one there
     int m_next = 0; ///< the row to be looked at
+    bool m_isRunning = false;
     QTimer m_idle;
 };
