@@ -41,21 +41,36 @@ private slots:
     void opensWhatACrashLeft_data()
     {
         QTest::addColumn<bool>("saved");
-        QTest::newRow("saved before") << true;
-        QTest::newRow("never saved") << false;
+        QTest::addColumn<bool>("killedSaving");
+        QTest::addColumn<bool>("changedByOthers");
+        QTest::newRow("saved before") << true << false << false;
+        QTest::newRow("never saved") << false << false << false;
+        QTest::newRow("killed while saving") << true << true << false;
+        QTest::newRow("file changed since") << true << false << true;
     }
     void opensWhatACrashLeft()
     {
         QFETCH(bool, saved);
+        QFETCH(bool, killedSaving);
+        QFETCH(bool, changedByOthers);
         if (saved)
             m_first->projectController()->save();
-        const QByteArray file = readFile(gameFile());
+        QByteArray file = readFile(gameFile());
         work();
-        QVERIFY(copyIsMade());
-        QCOMPARE(readFile(gameFile()), file);
-        QVERIFY(m_first->projectController()->isModified());
+        if (killedSaving) {
+            connect(m_first->projectController(), &ProjectController::aboutToSave, this, &TestRecoveryScene::crash);
+            m_first->projectController()->save();
+            QVERIFY(writeFile(gameFile(), file = "cut off"));
+        } else {
+            QVERIFY(copyIsMade());
+            QCOMPARE(readFile(gameFile()), file);
+            QVERIFY(m_first->projectController()->isModified());
+            crash();
+        }
+        if (changedByOthers)
+            QVERIFY(writeFile(gameFile(), file += "changed"));
+        const int running = foldersLeft() - 1;
 
-        crash();
         open();
         QVERIFY(list()->isVisible());
         QStringList texts;
@@ -74,11 +89,17 @@ private slots:
         const ProjectMembers was = serializeProject(*m_first->projectController()->project(), true);
         QVERIFY(serializeProject(*controller->project(), true) == was);
 
-        QCOMPARE(foldersLeft(), 2); // one is its own now
+        QCOMPARE(foldersLeft(), running + 1); // it is its own now
         controller->setFileNameCallback([this] { return gameFile(); });
+        int asked = 0;
+        controller->setForeignChangeCallback([&asked](const ForeignChange &) {
+            ++asked;
+            return ForeignChange::Keep;
+        });
         controller->save();
+        QCOMPARE(asked, changedByOthers ? 1 : 0);
         QVERIFY(!controller->isModified() && readFile(gameFile()) != file);
-        QCOMPARE(foldersLeft(), 1);
+        QCOMPARE(foldersLeft(), running);
         ProjectStore store;
         QVERIFY(store.load(gameFile()));
         QVERIFY(serializeProject(*store.project(), true) == was);
@@ -165,6 +186,7 @@ private slots:
         m_first->recoveryKeeper()->lookSoon();
         QVERIFY(failed.wait());
         QCOMPARE(m_first->statusBar()->currentMessage(), failed.first().first().toString());
+        QVERIFY(!failed.wait(PauseWatch::Rest)); // though it tries again
         QVERIFY(QFile::remove(AppState::recoveryFolder()));
         QVERIFY(copyIsMade()); // it went on trying
         QVERIFY(QDir(AppState::recoveryFolder()).removeRecursively());
