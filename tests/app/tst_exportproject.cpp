@@ -274,6 +274,8 @@ private slots:
         dialog.accept();
         QVERIFY(dialog.isVisible());
         QCOMPARE(dialog.error(), "Please tick what is to be exported");
+        const auto found = dialog.findChild<QTreeWidget *>()->findItems("Hero", Qt::MatchExactly | Qt::MatchRecursive);
+        QCOMPARE(found.value(0)->text(2), "Exported: Hero.spr, Hero_animations.bin");
     }
 
     void outputsAreEditedByTheKindOfTheirOptions()

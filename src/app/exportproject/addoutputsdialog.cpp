@@ -10,6 +10,7 @@
 #include <QFormLayout>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QLocale>
 #include <QPushButton>
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
@@ -79,6 +80,9 @@ AddOutputsDialog::AddOutputsDialog(QWidget *parent)
 void AddOutputsDialog::show(const Project &project, const Recipe &recipe)
 {
     m_recipe = recipe;
+    m_filesOf.clear();
+    for (const RecipeOutput &output : recipe.outputs())
+        m_filesOf[output.id].append(output.file);
     m_sources = Source::all(project);
     {
         const QSignalBlocker untilComplete(m_assets);
@@ -206,14 +210,25 @@ void AddOutputsDialog::follow()
             for (const RecipeOutput &output : outputs)
                 files.append(output.file);
             showForms(item);
-            item.setText(FileColumn, files.join(tr(", ")));
-            item.setToolTip(FileColumn, plainText(files.join(u'\n')));
+            showFiles(item, files);
             count += outputs.size();
         }
     }
     m_assets->viewport()->update();
-    okButton()->setText(count == 1 ? tr("&Add 1 Output") : tr("&Add %1 Outputs").arg(count));
+    okButton()->setText(count == 0       ? tr("&Add")
+                            : count == 1 ? tr("&Add 1 Output")
+                                         : tr("&Add %1 Outputs").arg(QLocale().toString(count)));
     revalidate();
+}
+
+void AddOutputsDialog::showFiles(QTreeWidgetItem &item, const QStringList &files) const
+{
+    const Source &source = m_sources.at(item.data(AssetColumn, SourceRole).toInt());
+    const QStringList exported = m_filesOf.value(source.id());
+    const bool isKnown = files.isEmpty() && !exported.isEmpty();
+    const QStringList &shown = isKnown ? exported : files;
+    item.setText(FileColumn, isKnown ? tr("Exported: %1").arg(shown.join(tr(", "))) : shown.join(tr(", ")));
+    item.setToolTip(FileColumn, plainText(shown.join(u'\n')));
 }
 
 void AddOutputsDialog::showForms(QTreeWidgetItem &item) const

@@ -5,7 +5,10 @@
 #include "nextdata/takenfiles.h"
 #include "ui/dialogbase.h"
 
+#include <QHash>
 #include <QList>
+#include <QStringList>
+#include <QUuid>
 
 class Project;
 class QComboBox;
@@ -42,9 +45,12 @@ private:
     /// Shows forms and files as they would be.
     void follow();
     void showForms(QTreeWidgetItem &item) const;
+    /// The files that it would get, or has already.
+    void showFiles(QTreeWidgetItem &item, const QStringList &files) const;
     [[nodiscard]] QString folder() const;
 
     NextData::Recipe m_recipe;
+    QHash<QUuid, QStringList> m_filesOf; ///< of assets that are exported already
     QList<NextData::Source> m_sources; ///< as long as the dialog is open
     QTreeWidget *m_assets;
     QComboBox *m_text;
