@@ -42,6 +42,7 @@ RecoveryKeeper::RecoveryKeeper(ProjectController *controller, const QString &fol
 
 void RecoveryKeeper::onProjectOpened()
 {
+    m_file = m_controller->filePath();
     m_saved.clear();
     m_copied.clear();
     m_sinceBegin.invalidate();
@@ -65,6 +66,7 @@ void RecoveryKeeper::onProjectClosed()
 void RecoveryKeeper::onUnmodified()
 {
     removeCopies();
+    m_file = m_controller->filePath();
     m_saved = contentNow();
 }
 
@@ -153,7 +155,7 @@ bool RecoveryKeeper::begin(const ProjectSnapshot &content)
     const Project *project = m_controller->project();
     RecoveryManifest manifest;
     manifest.projectName = project->name();
-    manifest.projectFile = m_controller->filePath();
+    manifest.projectFile = m_controller->filePath().isEmpty() ? m_file : m_controller->filePath();
     if (!m_saving)
         manifest.fileStamp = RecoveryManifest::stampOf(manifest.projectFile);
     manifest.time = QDateTime::currentDateTimeUtc();

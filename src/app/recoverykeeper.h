@@ -88,6 +88,7 @@ private:
     int m_failures = 0; ///< one after the other
     bool m_told = false;
     bool m_saving = false;
+    QString m_file; ///< of the project when it was opened or saved last: saving under another name forgets it
 
     std::optional<RecoveryWriter> m_writer; ///< once there is something to write
     std::unique_ptr<RecoveryCopier> m_copier; ///< while a copy is written

@@ -148,6 +148,34 @@ private slots:
         }
     }
 
+    void leavesTheOthersToOthers()
+    {
+        work();
+        QVERIFY(copyIsMade());
+        crash();
+        crash();
+        open();
+        QCOMPARE(m_second->recoveryOffers()->copies().size(), 2U);
+        m_second->recoveryOffers()->recover(0);
+        QVERIFY(m_second->recoveryOffers()->copies().empty());
+        QCOMPARE(RecoveryFolder::takeAbandoned(AppState::recoveryFolder()).size(), 1U);
+        m_second->projectController()->close();
+        QCOMPARE(m_second->recoveryOffers()->copies().size(), 1U);
+        m_second->recoveryOffers()->discard(0);
+    }
+
+    void belongsToItsFileWhenNoOtherIsChosen()
+    {
+        m_first->projectController()->save();
+        work();
+        m_first->projectController()->setFileNameCallback([] { return QString(); });
+        m_first->projectController()->saveAs();
+        crash();
+        open();
+        QCOMPARE(m_second->recoveryOffers()->copies().front().manifest().projectFile, gameFile());
+        m_second->recoveryOffers()->discard(0);
+    }
+
     void keepsADamagedCopyAside()
     {
         work();

@@ -47,7 +47,7 @@ RecoveryManifest put(RecoveryWriter &writer, const Contents &contents, Step step
     RecoveryManifest manifest;
     manifest.projectName = QStringLiteral("Game");
     manifest.projectFile = QStringLiteral("/home/somebody/game.quenmora");
-    manifest.time = QDateTime::fromMSecsSinceEpoch(1'700'000'000'123, Qt::UTC);
+    manifest.time = QDateTime::fromMSecsSinceEpoch(1'700'000'000'123).toUTC();
     for (auto content = contents.cbegin(); content != contents.cend(); ++content) {
         const PackedMember packed = PackedMember::pack(content.key(), content.value());
         RecoveryManifest::Member member{packed.name, packed.size(), packed.checksum(), {}};
@@ -326,7 +326,7 @@ private slots:
         KeptBlocks kept;
         RecoveryManifest manifest;
         manifest.projectName = project.name();
-        manifest.time = QDateTime::fromMSecsSinceEpoch(1'700'000'000'123, Qt::UTC);
+        manifest.time = QDateTime::fromMSecsSinceEpoch(1'700'000'000'123).toUTC();
         {
             RecoveryWriter writer(std::move(*RecoveryFolder::create(common())));
             RecoveryCopier copier(writer, kept, snapshotOf(project, true), manifest, plainImage({4, 3}, 1));
