@@ -1,9 +1,7 @@
-// What a game takes of a project: the table of a recipe, the dialogs that fill it, and both ways to export in the real
-// window.
+// What a game takes of a project: the dialogs that fill its recipe, and both ways to export in the real window.
 
 #include "app/exportproject/addoutputsdialog.h"
 #include "app/exportproject/exportprojectdialog.h"
-#include "app/exportproject/exportreport.h"
 #include "app/exportproject/outputdialog.h"
 #include "app/exportproject/outputpreview.h"
 #include "app/exportproject/projectexport.h"
@@ -12,13 +10,12 @@
 #include "app/mainwindow.h"
 #include "app/menus/filemenu.h"
 #include "exportprogram.h" // made by the build: where the command and the examples are
-#include "nextdata/usual.h"
 #include "support/modeltools.h"
 #include "support/sampleproject.h"
 #include "support/testmain.h"
+#include "support/usualrecipe.h"
 #include "ui/messagedialog.h"
 
-#include <QAbstractItemModelTester>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
@@ -39,38 +36,6 @@ using namespace NextData;
 using State = RecipeRun::State;
 
 namespace {
-
-/// All assets of a project in their usual forms, as far as those can be.
-Recipe usualRecipe(const Project &project)
-{
-    TakenFiles taken;
-    QList<RecipeOutput> outputs;
-    for (const Source &source : Source::all(project)) {
-        for (const Form *form : usualForms(source)) {
-            const auto values = *OptionValues::parse(form->options, {});
-            outputs.append({source.kind(),
-                            source.id(),
-                            source.name(),
-                            form->id,
-                            {},
-                            taken.claim(usualFile(source.name(), *form, values))});
-        }
-    }
-    Recipe recipe;
-    recipe.setOutputs(outputs);
-    return recipe;
-}
-
-void lookAtAll(RecipeTable &table)
-{
-    while (table.isLooking())
-        QCoreApplication::processEvents();
-}
-
-QString cell(const RecipeTable &table, const QString &file, RecipeTable::Column column)
-{
-    return table.index(table.rowOf(file), column).data().toString();
-}
 
 /// The outputs that a dialog for adding some would add to a recipe, whatever it ticks by itself.
 QList<RecipeOutput> addedBy(AddOutputsDialog &dialog)
@@ -100,105 +65,6 @@ private slots:
     {
         m_folder = std::make_unique<TemporaryFolder>();
         m_project = std::make_unique<Project>();
-    }
-
-    // The table
-
-    void rowsTellWhatExportingWouldDo_data()
-    {
-        QTest::addColumn<std::function<void()>>("change");
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<QString>("state");
-        const auto add = [](const char *name, const char *file, const char *state, std::function<void()> change) {
-            QTest::newRow(name) << std::move(change) << file << state;
-        };
-        add("nothing", "Level.map", "Unchanged", [] {});
-        add("a cell", "Level.map", "Changed", [this] { m_project->maps().first()->setTile({1, 1}, {7}); });
-        add("a cell, and its tiles", "Tiles.nxt", "Unchanged", [this] {
-            m_project->maps().first()->setTile({1, 1}, {7});
-        });
-        add("a file is gone", "Tiles.nxt", "New", [this] { QVERIFY(QFile::remove(path("Tiles.nxt"))); });
-        add("a file is another's", "Main.pal", "Changed", [this] { QVERIFY(writeFile(path("Main.pal"), "x")); });
-        add("a folder in its place", "Main.pal", "Cannot be: “Main.pal” cannot be written: it is a folder",
-            [this] { QVERIFY(QFile::remove(path("Main.pal")) && QDir().mkdir(path("Main.pal"))); });
-        add("an asset is gone", "Level.map", "Cannot be: The project no longer has a map “Level” with the id",
-            [this] { m_project->deleteMap(m_project->maps().first()->id()); });
-    }
-    void rowsTellWhatExportingWouldDo()
-    {
-        QFETCH(const std::function<void()>, change);
-        QFETCH(const QString, file);
-        QFETCH(const QString, state);
-        SampleProject::fill(*m_project);
-        RecipeTable table;
-        const QAbstractItemModelTester tester(&table, QAbstractItemModelTester::FailureReportingMode::QtTest);
-        table.open(*m_project, path("game.quenmora"), usualRecipe(*m_project));
-        lookAtAll(table);
-        QCOMPARE(cell(table, file, RecipeTable::StateColumn), "New");
-        QCOMPARE(table.run({}).size(), table.rowCount());
-        QCOMPARE(cell(table, file, RecipeTable::StateColumn), "Unchanged"); // at once
-        lookAtAll(table);
-        QCOMPARE(cell(table, file, RecipeTable::StateColumn), "Unchanged");
-
-        change();
-        table.lookAgain();
-        lookAtAll(table);
-        const QString told = cell(table, file, RecipeTable::StateColumn);
-        QVERIFY2(told.startsWith(state) && (told == state || state.startsWith("Cannot")), qPrintable(told));
-    }
-
-    void rowsTellSizesAndBanks()
-    {
-        SampleProject::fill(*m_project);
-        RecipeTable table;
-        table.open(*m_project, path("game.quenmora"), usualRecipe(*m_project));
-        QCOMPARE(cell(table, "Title.nxi", RecipeTable::SizeColumn), "49,152");
-        QCOMPARE(cell(table, "Title.nxi", RecipeTable::BanksColumn), "6 / 3");
-        QCOMPARE(cell(table, "Level.map", RecipeTable::SizeColumn), "48");
-        QCOMPARE(cell(table, "Level.map", RecipeTable::BanksColumn), "1 / 1");
-        QCOMPARE(RecipeTable::banksText(8193), "2 pages of 8 KiB, 1 bank of 16 KiB");
-    }
-
-    void renamedAssetsGetTheirNames()
-    {
-        SampleProject::fill(*m_project);
-        const Recipe recipe = usualRecipe(*m_project);
-        m_project->maps().first()->setName("Cellar");
-        RecipeTable table;
-        table.open(*m_project, path("game.quenmora"), recipe);
-        QVERIFY(table.isModified());
-        QCOMPARE(cell(table, "Level.map", RecipeTable::AssetColumn), "Cellar");
-        table.setSaved();
-        table.open(*m_project, path("game.quenmora"), table.recipe());
-        QVERIFY(!table.isModified());
-    }
-
-    void copiesAndRemovalsKeepTheRest()
-    {
-        SampleProject::fill(*m_project);
-        RecipeTable table;
-        table.open(*m_project, path("game.quenmora"), usualRecipe(*m_project));
-        const Recipe before = table.recipe();
-        const int level = table.rowOf("Level.map");
-        const int title = table.rowOf("Title.nxi");
-        QCOMPARE(table.duplicate({level, title}), (QStringList{"Level_2.map", "Title_2.nxi"}));
-        QCOMPARE(table.rowCount(), before.outputs().size() + 2);
-        QCOMPARE(table.output(table.rowOf("Level_2.map")).id, table.output(table.rowOf("Level.map")).id);
-        QCOMPARE(table.duplicate({table.rowOf("Level_2.map")}), QStringList{"Level_3.map"});
-        table.remove({table.rowOf("Level_2.map"), table.rowOf("Title_2.nxi"), table.rowOf("Level_3.map")});
-        QCOMPARE(table.recipe(), before);
-        QVERIFY(!table.isModified());
-    }
-
-    void stopsBetweenOutputs()
-    {
-        SampleProject::fill(*m_project);
-        RecipeTable table;
-        table.open(*m_project, path("game.quenmora"), usualRecipe(*m_project));
-        const auto outcomes = table.run([](int done, int) { return done < 2; });
-        QCOMPARE(outcomes.size(), 2);
-        const ExportReport report(table.recipe(), outcomes, path("."));
-        QVERIFY2(report.text().startsWith("Stopped: Exported 2 files ("), qPrintable(report.text()));
     }
 
     // The dialogs
