@@ -124,7 +124,9 @@ bool ProjectExport::load()
 {
     const QString path = Recipe::pathFor(m_controller->filePath());
     m_recipe = {};
-    m_recipeFile = FileState(path); // before it is read: what happens to it meanwhile is noticed then
+    // before it is read: what happens to it meanwhile is noticed then; what is too large for a recipe is not read at
+    // all
+    m_recipeFile = QFileInfo(path).size() <= Recipe::MaxBytes ? FileState(path) : FileState();
     m_isDamaged = false;
     if (!QFileInfo::exists(path))
         return true;
