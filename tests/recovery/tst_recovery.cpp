@@ -46,7 +46,7 @@ RecoveryManifest put(RecoveryWriter &writer, const Contents &contents, Step step
 {
     RecoveryManifest manifest;
     manifest.projectName = QStringLiteral("Game");
-    manifest.projectFile = QStringLiteral("/home/somebody/game.quenmora");
+    manifest.projectFile = QStringLiteral("/games/game.quenmora");
     manifest.time = QDateTime::fromMSecsSinceEpoch(1'700'000'000'123).toUTC();
     for (auto content = contents.cbegin(); content != contents.cend(); ++content) {
         const PackedMember packed = PackedMember::pack(content.key(), content.value());
