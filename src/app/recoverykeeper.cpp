@@ -107,22 +107,25 @@ void RecoveryKeeper::lookSoon()
 
 bool RecoveryKeeper::isGoodMoment()
 {
-    const bool isLate = m_sinceRefusal.isValid() && m_sinceRefusal.hasExpired(Patience);
-    const bool isGood = !m_saving && (isLate ? PauseWatch::isFree() : m_pause.isPaused());
-    if (!isGood && !m_sinceRefusal.isValid())
-        m_sinceRefusal.start();
-    return isGood;
+    if (m_saving)
+        return false;
+    if (m_pause.isPaused()) {
+        m_sincePause.invalidate();
+        return true;
+    }
+    if (!m_sincePause.isValid())
+        m_sincePause.start();
+    return m_sincePause.hasExpired(Patience) && PauseWatch::isFree();
 }
 
 void RecoveryKeeper::look()
 {
-    if (m_copier)
+    if (m_copier || !m_controller->project())
         return;
     if (!isGoodMoment()) {
         m_nextLook.start(PauseWatch::Rest);
         return;
     }
-    m_sinceRefusal.invalidate();
     m_nextLook.start(m_interval << m_failures);
     const ProjectSnapshot content = contentNow();
     if (haveSameContent(content, m_saved))
@@ -173,7 +176,7 @@ void RecoveryKeeper::workOn()
     QElapsedTimer time;
     time.start();
     do {
-        if (!m_copier && !m_writer->tidy()) {
+        if (!m_copier && !(m_writer && m_writer->tidy())) {
             m_slices.stop();
             return;
         }

@@ -84,7 +84,7 @@ private:
     QTimer m_nextLook{this};
     QTimer m_slices{this}; ///< runs while there is something to write or remove
     QElapsedTimer m_sinceBegin; ///< of the last copy
-    QElapsedTimer m_sinceRefusal; ///< the first moment that was not good, since the last good one
+    QElapsedTimer m_sincePause; ///< since there was something to do and no pause to do it in
     int m_failures = 0; ///< one after the other
     bool m_told = false;
     bool m_saving = false;

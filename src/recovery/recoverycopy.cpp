@@ -12,7 +12,7 @@
 
 namespace {
 
-/// A file that is larger is none of ours: those of pieces hold what a megabyte was packed to.
+/// A file that is larger is none of ours: a piece is one packed block.
 constexpr qint64 MostBytes = qint64(64) << 20;
 
 /// Deflate cannot pack more bytes into one.
