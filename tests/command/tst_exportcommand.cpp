@@ -6,9 +6,10 @@
 #include "support/testmain.h"
 
 #include <QDir>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QTextStream>
+
+#include <optional>
 
 using namespace NextData;
 
@@ -21,8 +22,8 @@ class TestExportCommand : public QObject
 private slots:
     void init()
     {
-        m_folder = std::make_unique<QTemporaryDir>();
-        QVERIFY(QDir::setCurrent(m_folder->path()));
+        m_folder.emplace();
+        QVERIFY(QDir::setCurrent((*m_folder)()));
         ProjectStore store;
         Project &project = *store.newProject({});
         SampleProject::fill(project);
@@ -57,7 +58,6 @@ private slots:
                                  << QString::fromUtf8(reason);
         };
         row("", "A project file is missing");
-        row("--list", "A project file is missing");
         row("a b", "“b” is one argument too many");
         row("--formats a", "“a” is one argument too many");
         row("--nonsense a", "Unknown option 'nonsense'.");
@@ -65,10 +65,8 @@ private slots:
         row("a --output=", "--output needs a value");
         row("a --recipe b --recipe c", "--recipe is there twice");
         row("a --list --describe", "--list and --describe do not go together");
-        row("a --describe --asset b", "--describe and --asset do not go together");
         row("a --list --dry-run", "--dry-run means nothing here");
         row("a --to b", "--to means nothing here");
-        row("a --asset b --to c", "--asset needs --format");
         row("a --asset b --format c", "--asset needs --to");
         row("a --asset b --format c --to d --output e", "--output means nothing here");
         row("a --asset b --format c --to d --option text", "--option takes KEY=VALUE, not “text”");
@@ -100,8 +98,7 @@ private slots:
             "other.quenmora-export.json: The project has no recipe; File > Export Project in the editor makes one");
         row("recipe", {"game.quenmora", "--recipe", "none"}, "none: There is no such file");
         row("bad recipe", {"game.quenmora", "--recipe", "bad.json"},
-            "bad.json:2: “kind” is missing|bad.json:2: “id” is missing|bad.json:2: “name” is missing|"
-            "bad.json:2: “form” is missing|bad.json:2: “file” is missing|bad.json:4: An output must be an object");
+            "bad.json:2: An output must be an object|bad.json:4: An output must be an object");
         row("depfile", {"game.quenmora", "--output", "a;b", "--depfile", "d"},
             "d: make cannot be told of “a;b/gfx data/palette.pal”: its name has characters that end names");
         row("depfile's place", {"game.quenmora", "--depfile", "."}, ".: . is a folder");
@@ -115,8 +112,6 @@ private slots:
         single("Main", "palette", {"--to", "x", "--option", "group=1"},
                "x: There is no option “group”, only text, label, pad, cut");
         single("Nobody", "palette", {"--to", "x"}, "game.quenmora: There is no asset “Nobody”");
-        single("Main", "map-2byte", {"--to", "x"},
-               "game.quenmora: “Main” is a palette, and the form map-2byte is for a map");
         single("Twin", "palette", {"--to", "x"},
                "game.quenmora: “Twin” is the name of several assets: use an id (ID, OTHER)");
         single("Main", "palette", {"--to", "./game.quenmora"}, "./game.quenmora: This is the project itself");
@@ -126,7 +121,7 @@ private slots:
     {
         QFETCH(const QStringList, words);
         QFETCH(QString, message);
-        QVERIFY(writeFile("bad.json", "{\"formatVersion\": 1, \"outputs\": [\n{},\n\n7]}"));
+        QVERIFY(writeFile("bad.json", "{\"formatVersion\": 1, \"outputs\": [\n6,\n\n7]}"));
         const QByteArray project = readFile("game.quenmora");
         QVERIFY(writeFile("other.quenmora", project));
         QCOMPARE(run(words + QStringList("--quiet")), 1);
@@ -249,7 +244,7 @@ private:
         return isLoaded && store.save(false);
     }
 
-    std::unique_ptr<QTemporaryDir> m_folder;
+    std::optional<TemporaryFolder> m_folder;
     QUuid m_palette;
     QUuid m_twins;
     QString m_out;

@@ -137,18 +137,14 @@ private slots:
         };
         add("palette", "Sunset", {}, "E3 81 56 00 EC 01 00 00", 512);
         add("palette-513", "Sunset", {}, "EC", 513, 512);
-        add("palette-513", "Sunset", {{"transparency", "index"}}, "02", 513, 512);
         add("palette-8bit", "Sunset", {}, "E3 56 EC 00", 256);
         add("palette-group", "Sunset", {{"group", "0"}}, "E3 81 56 00 EC 01 00 00", 32);
         add("tiles-4bit", "Rocks", {}, "00 01 10 00 00 12 21 00 01 23 32 10 12 34 53 21 F0 00 00 00 0F 00 00 00 77",
             96);
-        add("tiles-8bit", "Rocks", {{"count", "1"}}, "20 20 20 21 21 20 20 20", 64);
-        add("tiles-8bit", "Rocks", {{"order", "columns"}, {"count", "1"}}, "20 20 20 21 2F 20 27 20", 64);
         add("tiles-1bit", "Rocks", {{"ink", "1"}}, "18 24 42 81 00 00 00 00 00", 24);
         add("tile-attributes", "Rocks", {}, "00 0F 41", 3);
         add("tile-values", "Rocks", {}, "00 05 FF", 3);
         add("tile-values", "Rocks", {{"width", "word"}}, "00 00 05 00 FF FF", 6);
-        add("map-2byte", "Cave", {}, "01 39 05 02 02 F4 FF AF", 8);
         add("map-2byte", "Cave", {{"order", "columns"}}, "01 39 02 F4 05 02 FF AF", 8);
         add("map-2byte", "Cave", {{"screen-height", "1"}, {"pad", "5"}}, "01 39 05 02 02 F4 FF AF 00 00", 10);
         add("map-1byte", "Hall", {}, "01 02 03 04 05 06", 6);
@@ -165,7 +161,6 @@ private slots:
         add("sprites-packed", "Hero", {}, "01 23 45 67 89 AB CD EF 00", 512);
         add("layer2-256", "256", {}, "01 02 00", 49152);
         add("layer2-256", "256", {}, "03 00", 49152, 256);
-        add("layer2-256", "256", {{"palette", "true"}}, "00 01 02", 49664, 511);
         add("layer2-320", "320", {}, "01 03 00", 81920);
         add("layer2-320", "320", {}, "02 00", 81920, 256);
         add("layer2-640", "640", {}, "12 30 00", 81920);
@@ -253,7 +248,6 @@ private slots:
         m_project.images().at(4)->setImage(mixed);
         const auto valued = m_project.createTileSet("Valued", m_palette->id(), 2);
         valued->tile(1)->setValue(256);
-        m_project.createTileSet("Tileless", m_palette->id(), 0);
 
         QTest::addColumn<QString>("form");
         QTest::addColumn<QString>("name");
@@ -271,7 +265,6 @@ private slots:
             "Options first and count: there are 3, and 1 from number 3 on are not");
         add("tiles-4bit", "Rocks", {{"first", "1"}, {"count", "3"}},
             "Options first and count: there are 3, and 3 from number 1 on are not");
-        add("tiles-4bit", "Tileless", {}, "Options first and count: there are 0, and 1 from number 0 on are not");
         add("tile-values", "Valued", {}, "“Valued”: tile 1 (counted from 0) has the value 256, and -128 to 255 fit");
         add("map-1byte", "Cave", {},
             "“Cave”: the cell in column 0, row 0 (counted from 0) shows tile 257, and 255 is the last one that fits");
@@ -296,7 +289,6 @@ private slots:
         add("map-2byte", "Cave", {{"order", "diagonals"}}, "Option order: “diagonals” is not one of rows, columns");
         add("map-2byte", "Cave", {{"screen-width", " 4"}},
             "Option screen-width: “ 4” is not a whole number from 0 to 9999");
-        add("map-2byte", "Cave", {{"pad", "65537"}}, "Option pad: “65537” is not a whole number from 0 to 65536");
         add("lores", "128", {{"halves", "yes"}}, "Option halves: “yes” is not true or false");
         add("lores", "128", {{"half", "true"}},
             "There is no option “half”, only palette, halves, text, label, pad, cut");
