@@ -54,6 +54,7 @@ void ProjectActions::serve(const MenuBar &menus)
     connect(menus.tileMenu(), &TileMenu::createBlocks, this, &ProjectActions::createBlocks);
     connect(menus.mapMenu(), &MapMenu::create, this, &ProjectActions::createMap);
     connect(menus.mapMenu(), &MapMenu::importRequested, this, &ProjectActions::importMap);
+    connect(menus.mapMenu(), &MapMenu::importReductionRequested, this, &ProjectActions::importReduction);
     SpriteMenu *sprites = menus.spriteMenu();
     connect(this, &ProjectActions::aboutToDeleteSprites, sprites, [sprites](const QUuid &id) {
         if (sprites->spriteBank() && sprites->spriteBank()->id() == id)
@@ -187,6 +188,16 @@ void ProjectActions::importMap(const QString &filePath)
         emit mapReady(map->id());
     if (!failure.isEmpty())
         reportIncompleteImport(failure);
+}
+
+void ProjectActions::importReduction(const QString &filePath, const TileReduction &reduction)
+{
+    Project *project = m_project();
+    if (!project)
+        return;
+    const QString name = QFileInfo(filePath).completeBaseName();
+    if (const QPointer<Map> map = ::importReduction(*project, name, reduction).map)
+        emit mapReady(map->id());
 }
 
 void ProjectActions::importPalette(const QUuid &paletteId, const QString &filePath)

@@ -16,6 +16,7 @@
 
 class MenuBar;
 class QMessageBox;
+struct TileReduction;
 
 /// Creates, copies, deletes and imports whole assets of the open project.
 ///
@@ -59,6 +60,8 @@ public slots:
 
     /// Makes a palette, a tile set and a map of a set of Next data files or of a picture.
     void importMap(const QString &filePath);
+    /// Makes them of the tiles that were found for a picture file.
+    void importReduction(const QString &filePath, const TileReduction &reduction);
     /// Reads a palette file, or the colours of a picture, into a palette; into a new one for a null id.
     void importPalette(const QUuid &paletteId, const QString &filePath);
     void importSpritePicture(const SpriteImport &import);

@@ -49,7 +49,9 @@ QImage withColours(QImage picture)
                                               Qt::AvoidDither);
 }
 
-bool areInIndices(const QImage &indexed)
+/// Whether something holds for all colours in a picture of indices, but clear ones.
+template <typename Predicate>
+bool holdsForIndices(const QImage &indexed, const Predicate &holds)
 {
     std::bitset<256> used;
     for (int y = 0; y < indexed.height(); ++y) {
@@ -59,7 +61,27 @@ bool areInIndices(const QImage &indexed)
     }
     const QList<QRgb> colours = StoredIndices::shownColours(indexed, QImage::Format_ARGB32);
     for (qsizetype i = 0; i < colours.size(); ++i) {
-        if (used.test(size_t(i)) && !isClear(colours[i]) && !isMachineColour(colours[i]))
+        if (used.test(size_t(i)) && !isClear(colours[i]) && !holds(colours[i]))
+            return false;
+    }
+    return true;
+}
+
+template <typename Predicate>
+bool holdsForAll(const QImage &picture, const Predicate &holds)
+{
+    if (picture.isNull() || !NxImage::accepts(picture.size()))
+        return false;
+    if (StoredIndices::areIn(picture))
+        return holdsForIndices(StoredIndices::of(picture), holds);
+    const QImage colours = withColours(picture);
+    const bool translucent = colours.hasAlphaChannel();
+    for (int y = 0; y < colours.height(); ++y) {
+        const auto *line = reinterpret_cast<const QRgb *>(colours.constScanLine(y));
+        const bool whole = std::all_of(line, line + colours.width(), [&holds, translucent](QRgb colour) {
+            return holds(colour) || (translucent && isClear(colour));
+        });
+        if (!whole)
             return false;
     }
     return true;
@@ -77,21 +99,17 @@ std::optional<quint16> MachineColours::wordOf(QRgb colour)
 
 bool MachineColours::areIn(const QImage &picture)
 {
-    if (picture.isNull() || !NxImage::accepts(picture.size()))
-        return false;
-    if (StoredIndices::areIn(picture))
-        return areInIndices(StoredIndices::of(picture));
-    const QImage colours = withColours(picture);
-    const bool translucent = colours.hasAlphaChannel();
-    for (int y = 0; y < colours.height(); ++y) {
-        const auto *line = reinterpret_cast<const QRgb *>(colours.constScanLine(y));
-        const bool whole = std::all_of(line, line + colours.width(), [translucent](QRgb colour) {
-            return isMachineColour(colour) || (translucent && isClear(colour));
-        });
-        if (!whole)
-            return false;
-    }
-    return true;
+    return holdsForAll(picture, isMachineColour);
+}
+
+bool MachineColours::surviveQuantising(const QImage &picture)
+{
+    return holdsForAll(picture, [](QRgb colour) {
+        const auto survives = [](int component) {
+            return NextColour::levelOf(component) == LevelOf[size_t(component)];
+        };
+        return survives(qRed(colour)) && survives(qGreen(colour)) && survives(qBlue(colour));
+    });
 }
 
 QImage MachineColours::kept(QImage picture)

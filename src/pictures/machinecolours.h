@@ -36,6 +36,9 @@ constexpr int levelOf(int component)
 /// Whether all colours of a picture, but those of clear pixels, are the machine's.
 [[nodiscard]] bool areIn(const QImage &picture);
 
+/// Whether quantising gives each colour of a picture, but those of clear pixels, the levels that it names.
+[[nodiscard]] bool surviveQuantising(const QImage &picture);
+
 /// The picture with every level as the component that quantises to it, so that whatever the model makes of the picture
 /// keeps its levels. Equal levels become equal colours.
 [[nodiscard]] QImage kept(QImage picture);

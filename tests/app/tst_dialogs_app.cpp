@@ -4,6 +4,7 @@
 #include "app/dialogs/imagedialog.h"
 #include "app/dialogs/importbinarydialog.h"
 #include "app/dialogs/importimagedialog.h"
+#include "app/dialogs/importpicturedialog.h"
 #include "app/dialogs/importzxfontdialog.h"
 #include "app/dialogs/mapdialog.h"
 #include "app/dialogs/paletteselectordialog.h"
@@ -238,6 +239,69 @@ private slots:
         field<QRadioButton>(dialog, slice ? 1 : 0)->setChecked(true);
         field<DepthChooser>(dialog)->setCurrentIndex(fourBit ? 1 : 0);
         QTEST(confirm(dialog, name), "problem");
+    }
+
+    void mapOfAPicture_data()
+    {
+        QTest::addColumn<QByteArray>("kind");
+        QTest::addColumn<QList<bool>>("ticks"); // colours, clear pixels, whole picture; none: nothing is asked
+        QTest::addColumn<Dithering>("dithering");
+        QTest::addColumn<QString>("told");
+        const auto add = [](const char *kind, const QList<bool> &ticks, Dithering dithering, const char *told) {
+            QTest::newRow(kind) << QByteArray(kind) << ticks << dithering << QString(told);
+        };
+        add("plain", {}, Dithering::None, "");
+        add("levels", {true, false, false}, Dithering::None, "Nothing is lost");
+        add("holes", {true, true, false}, Dithering::None, "Nothing is lost");
+        add("shades", {false, false, true}, Dithering::Ordered, "Of 600 cells, ");
+    }
+
+    void mapOfAPicture()
+    {
+        QFETCH(QByteArray, kind);
+        QFETCH(QList<bool>, ticks);
+        QFETCH(Dithering, dithering);
+        QFETCH(QString, told);
+        QImage picture(kind == "shades" ? QSize(240, 160) : QSize(16, 16), QImage::Format_ARGB32);
+        picture.fill(kind == "plain" ? qRgb(255, 36, 0) : qRgb(219, 36, 0));
+        if (kind == "holes")
+            picture.setPixel(3, 3, 0);
+        for (int i = 0; kind == "shades" && i < 240 * 160; ++i)
+            picture.setPixel(i % 240, i / 240, qRgb(i * 37 % 256, i * (i % 101) / 7 % 256, i * 7 % 256));
+        const QString file = m_folder(kind + ".png");
+        QVERIFY(picture.save(file));
+        const PictureLoss loss = PictureLoss::of(file, nullptr);
+        QCOMPARE(loss.any(), !ticks.isEmpty());
+        if (ticks.isEmpty())
+            return;
+        ImportPictureDialog dialog;
+        QSignalSpy accepted(&dialog, &ImportPictureDialog::accepted);
+        QSignalSpy unreduced(&dialog, &ImportPictureDialog::unreduced);
+        dialog.show(file, loss);
+        const QList<QCheckBox *> boxes = dialog.findChildren<QCheckBox *>();
+        for (int i = 0; i < 3; ++i)
+            QCOMPARE(boxes[i]->isChecked(), ticks[i]);
+        QCOMPARE(Dithering(field<QComboBox>(dialog)->currentData().toInt()), dithering);
+        const auto tells = [&dialog](const QString &text) {
+            const QList<QLabel *> labels = dialog.findChildren<QLabel *>();
+            return std::any_of(labels.cbegin(), labels.cend(),
+                               [&](const QLabel *label) { return label->text().contains(text); });
+        };
+        QVERIFY(tells(told));
+        const QRgb after = dialog.findChildren<PicturePreview *>()[1]->picture().pixel(0, 0);
+        QCOMPARE(after == qRgb(219, 37, 0), kind != "shades");
+        dialog.accept();
+        const auto reduction = accepted.at(0).at(1).value<TileReduction>();
+        QCOMPARE(reduction.shown().pixel(0, 0), after);
+        QVERIFY(reduction.tiles.size() <= 512);
+        // without any tick it is cut as it is, if it can be
+        dialog.show(file, loss);
+        for (QCheckBox *box : {boxes[2], boxes[1], boxes[0]})
+            box->setChecked(false);
+        dialog.accept();
+        QCOMPARE(unreduced.size(), kind == "shades" ? 0 : 1);
+        QCOMPARE(dialog.error(),
+                 kind == "shades" ? "The picture has 600 different tiles, and a tile set has room for 512" : "");
     }
 
     void spritesOfData()

@@ -7,6 +7,7 @@
 #include "model/palette.h"
 #include "model/spritebank.h"
 #include "model/tileset.h"
+#include "pictures/tilereduction.h"
 #include "support/modeltools.h"
 #include "support/sampleproject.h"
 #include "support/testmain.h"
@@ -223,6 +224,25 @@ private slots:
         m_actions->importMap(m_folder("level.png"));
         QVERIFY(!m_ready.isNull() && assetCount() == 3); // what can be shown is there
         QVERIFY2(shownFailure().startsWith("Tiles that lost colours: 1 of 2.\n"), qPrintable(shownFailure()));
+    }
+
+    void importsTilesFoundForAPicture()
+    {
+        QImage picture(24, 8, QImage::Format_ARGB32); // turned tiles, of a level that quantising changes, with a hole
+        picture.fill(qRgb(219, 73, 0));
+        for (const QPoint at : {QPoint(1, 0), QPoint(8 + 7, 1), QPoint(16 + 6, 0)})
+            picture.setPixel(at, 0);
+        m_actions->importReduction(m_folder("level.one.png"), TileReduction::of(picture, {}));
+        const QPointer<Map> map = m_project->map(m_ready);
+        QVERIFY(map && map->name() == "level.one" && map->tileSet()->count() == 512);
+        QCOMPARE(map->tileTransparencyIndex(), 15);
+        QCOMPARE(map->tileSet()->palette()->transparencyIndex(), 15);
+        QCOMPARE(map->tileSet()->palette()->rawColour(0), 0xC800);
+        for (const TileMap::TileData &cell : map->tileLayer()->rows().first())
+            QCOMPARE(cell.index, 0);
+        const QImage shown = map->tileLayer()->render({0, 0, 3, 1}, 1, 15);
+        QCOMPARE(shown.convertToFormat(QImage::Format_ARGB32_Premultiplied),
+                 picture.convertToFormat(QImage::Format_ARGB32_Premultiplied));
     }
 
     void importedPaletteIsOneUndoStep()

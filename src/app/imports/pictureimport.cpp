@@ -7,22 +7,37 @@
 #include "model/picturefile.h"
 #include "model/project.h"
 #include "model/tileset.h"
+#include "model/transform.h"
+#include "pictures/machinecolours.h"
+#include "pictures/pixeltile.h"
+#include "pictures/tilereduction.h"
 #include "ui/busy.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QPainter>
+
+#include <algorithm>
 
 namespace {
 
-constexpr int MostTiles = 512;
-// bits of ImageSlicer::Placement's orientation
-constexpr int RotateBit = 4;
-constexpr int MirrorBit = 2;
-constexpr int FlipBit = 1;
+using namespace TileOrientation; // which ImageSlicer's placements have as well
+
+constexpr int MostTiles = TileReduction::MostTiles;
 
 QString tr(const char *text)
 {
     return QCoreApplication::translate("PictureImport", text);
+}
+
+TileMap::TileData cellOf(int tile, int orientation, int group)
+{
+    return {.index = tile,
+            .rotate = (orientation & RotateBit) != 0,
+            .flip = (orientation & FlipBit) != 0,
+            .mirror = (orientation & MirrorBit) != 0,
+            .offset = group,
+            .used = true};
 }
 
 QPointer<TileSet> createTileSet(Project &project, const QString &name, const QUuid &paletteId,
@@ -46,13 +61,7 @@ QPointer<Map> createMap(Project &project, const QString &name, const QUuid &tile
     const QList<ImageSlicer::Placement> placements = slicer.placements();
     for (int cell = 0; cell < placements.size(); ++cell) {
         const auto [tile, orientation] = placements[cell];
-        map->setTile({cell % columns, cell / columns},
-                     {.index = tile,
-                      .rotate = (orientation & RotateBit) != 0,
-                      .flip = (orientation & FlipBit) != 0,
-                      .mirror = (orientation & MirrorBit) != 0,
-                      .offset = slicer.bank(tile),
-                      .used = true});
+        map->setTile({cell % columns, cell / columns}, cellOf(tile, orientation, slicer.bank(tile)));
     }
     return map;
 }
@@ -68,6 +77,26 @@ QString lossOf(const ImageSlicer &slicer)
               "picture, to 16 in each tile of 8 × 8 pixels and to fewer in all, and import it again.")
         .arg(lossy)
         .arg(slicer.pieceCount());
+}
+
+/// The picture that the tiles of a slicer make, in the colours of the Next.
+QImage shownOf(const ImageSlicer &slicer)
+{
+    Palette words;
+    const QList<QRgb> colours = slicer.bankColours();
+    for (int i = 0; i < Palette::Size; ++i)
+        words.setColour(i, QColor::fromRgb(colours[i]), false);
+    QImage shown(slicer.size() * ImageSlicer::TileSide, QImage::Format_RGB32);
+    QPainter painter(&shown);
+    const QList<ImageSlicer::Placement> placements = slicer.placements();
+    for (int cell = 0; cell < placements.size(); ++cell) {
+        const auto [tile, orientation] = placements[cell];
+        QImage piece = slicer.pieceWithOffset(tile);
+        piece.setColorTable(words.colourTable());
+        painter.drawImage(QPoint(cell % slicer.size().width(), cell / slicer.size().width()) * ImageSlicer::TileSide,
+                          oriented(piece, orientation & RotateBit, orientation & FlipBit, orientation & MirrorBit));
+    }
+    return shown;
 }
 
 } // namespace
@@ -98,4 +127,63 @@ MapImport importPicture(Project &project, const QString &filePath, QWidget *pare
     const QUuid palette = createPaletteOf(project, name, slicer.bankColours())->id();
     const QPointer<TileSet> tileSet = createTileSet(project, name, palette, slicer, tiles);
     return {createMap(project, name, tileSet->id(), slicer), lossOf(slicer)};
+}
+
+bool PictureLoss::any() const
+{
+    return !picture.isNull() && (changesLevels || losesClearPixels || lossyTiles > 0 || tiles > MostTiles);
+}
+
+PictureLoss PictureLoss::of(const QString &filePath, QWidget *parent)
+{
+    const Busy busy(parent, tr("Reading %1…").arg(QFileInfo(filePath).fileName()));
+    PictureLoss loss;
+    loss.picture = PictureFile::read(filePath).image;
+    if (loss.picture.width() < ImageSlicer::TileSide || loss.picture.height() < ImageSlicer::TileSide)
+        return {};
+    loss.isMachines = MachineColours::areIn(loss.picture);
+    loss.changesLevels = loss.isMachines && !MachineColours::surviveQuantising(loss.picture);
+    if (loss.picture.hasAlphaChannel()) {
+        NxImage translucent;
+        translucent.setTranslucent(loss.picture);
+        loss.losesClearPixels = translucent.hasClearPixels();
+    }
+    ImageSlicer slicer(loss.picture);
+    {
+        SlicingProgress progress(slicer, parent);
+        loss.tiles = slicer.sliceTiles();
+    }
+    loss.lossyTiles = slicer.lossyTileCount();
+    if (loss.any() && loss.tiles <= MostTiles)
+        loss.shown = shownOf(slicer);
+    return loss;
+}
+
+MapImport importReduction(Project &project, const QString &name, const TileReduction &reduction)
+{
+    const QPointer<Palette> palette = project.createPalette(CreateAction::Blank, name);
+    for (int i = 0; i < Palette::Size; ++i)
+        palette->setRawColour(i, reduction.words[i]);
+    if (reduction.hasClearPixels)
+        palette->setTransparencyIndex(TileReduction::ClearPixel);
+
+    const QPointer<TileSet> tileSet = project.createTileSet(name, palette->id(), MostTiles, false);
+    QImage tile(TileReduction::Side, TileReduction::Side, QImage::Format_Indexed8);
+    tile.setColorTable(palette->colourTable());
+    for (size_t i = 0; i < reduction.tiles.size(); ++i) {
+        for (int y = 0; y < TileReduction::Side; ++y)
+            std::copy_n(reduction.tiles[i].cbegin() + y * TileReduction::Side, TileReduction::Side, tile.scanLine(y));
+        tileSet->setTileOffset(int(i), reduction.groups[i]);
+        tileSet->setTileImage(int(i), tile);
+    }
+
+    const QPointer<Map> map = project.createMap(name, tileSet->id(), reduction.size);
+    for (size_t cell = 0; cell < reduction.cells.size(); ++cell) {
+        const auto [number, orientation] = reduction.cells[cell];
+        map->setTile({int(cell) % reduction.size.width(), int(cell) / reduction.size.width()},
+                     cellOf(number, orientation, reduction.groups[size_t(number)]));
+    }
+    if (reduction.hasClearPixels)
+        map->setTileTransparencyIndex(TileReduction::ClearPixel);
+    return {map, {}};
 }

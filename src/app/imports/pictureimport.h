@@ -2,8 +2,31 @@
 
 #include "app/imports/mapimport.h"
 
+#include <QImage>
+
 class Project;
 class QWidget;
+struct TileReduction;
+
+/// What importPicture() would take away from a picture.
+struct PictureLoss
+{
+    QImage picture; ///< null when there is none that can be read
+    bool isMachines = false; ///< all its colours are the machine's
+    bool changesLevels = false; ///< of these colours
+    bool losesClearPixels = false;
+    int tiles = 0;
+    int lossyTiles = 0; ///< that do not show all their colours
+    QImage shown; ///< what would become of it; null when it has too many tiles
+
+    [[nodiscard]] bool any() const;
+
+    /// The window in front shows the progress.
+    [[nodiscard]] static PictureLoss of(const QString &filePath, QWidget *parent);
+};
+
+/// Makes a palette, a tile set and a map, all of one name, of tiles that were found for a picture.
+[[nodiscard]] MapImport importReduction(Project &project, const QString &name, const TileReduction &reduction);
 
 /// Makes a palette, a tile set and a map of a picture, cut into tiles that are stored once. The window in
 /// front shows the progress. Nothing is made of a picture that cannot be used; one with more colours than tiles can

@@ -1,5 +1,6 @@
 #include "app/menus/mapmenu.h"
 
+#include "app/dialogs/importpicturedialog.h"
 #include "app/dialogs/mapdialog.h"
 #include "ui/busy.h"
 
@@ -53,8 +54,18 @@ void MapMenu::askForImport(const QStringList &nameFilters)
     if (!project())
         return;
     const QString file = fileToOpen(tr("Import Map Data"), nameFilters);
-    if (!file.isEmpty())
+    if (file.isEmpty() || !project())
+        return;
+    const PictureLoss loss = PictureLoss::of(file, dialogParent());
+    if (!loss.any()) {
         emit importRequested(file);
+        return;
+    }
+    if (!m_pictureDialog) {
+        auto *dialog = lazily(m_pictureDialog, this, &MapMenu::importReductionRequested);
+        connect(dialog, &ImportPictureDialog::unreduced, this, &MapMenu::importRequested);
+    }
+    m_pictureDialog->show(file, loss);
 }
 
 void MapMenu::showExportDialog()

@@ -6,7 +6,9 @@
 #include <QSize>
 #include <QUuid>
 
+class ImportPictureDialog;
 class MapDialog;
+struct TileReduction;
 
 /// The "Map" menu: new and imported maps, and the file of the active one.
 class MapMenu : public ProjectMenu
@@ -30,6 +32,8 @@ public slots:
 signals:
     void create(const QString &name, const QUuid &tileSetId, const QSize &size);
     void importRequested(const QString &filePath);
+    /// A picture is to be imported as the tiles that were found for it.
+    void importReductionRequested(const QString &filePath, const TileReduction &reduction);
 
 protected:
     void updateActions() override;
@@ -42,4 +46,5 @@ private:
     QPointer<Map> m_map;
     QAction *m_export;
     QPointer<MapDialog> m_dialog;
+    QPointer<ImportPictureDialog> m_pictureDialog;
 };

@@ -1,0 +1,159 @@
+#include "pictures/dithering.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+
+namespace {
+
+using Colours = std::vector<quint16>;
+
+/// A colour in 1/16 of a level, and what is wrong with one.
+struct Fine
+{
+    int red = 0;
+    int green = 0;
+    int blue = 0;
+
+    Fine operator+(const Fine &other) const { return {red + other.red, green + other.green, blue + other.blue}; }
+    Fine operator-(const Fine &other) const { return {red - other.red, green - other.green, blue - other.blue}; }
+    [[nodiscard]] Fine times(int numerator, int denominator) const
+    {
+        return {red * numerator / denominator, green * numerator / denominator, blue * numerator / denominator};
+    }
+    [[nodiscard]] int square() const { return red * red + green * green + blue * blue; }
+};
+
+constexpr int Part = 16;
+
+/// The colour of a pixel. One that is shown just as it is on the machine is that: no rounding is put right elsewhere.
+Fine fineOf(QRgb colour)
+{
+    const auto part = [](int component) {
+        constexpr int Near = 2;
+        const int level = NineBitColour::levelOf(component);
+        const int away = component - NextColour::componentOf(level);
+        return away >= -Near - 1 && away <= Near ? level * Part : (component * 7 * Part + 127) / 255;
+    };
+    return {part(qRed(colour)), part(qGreen(colour)), part(qBlue(colour))};
+}
+
+Fine fineOf(quint16 number)
+{
+    return {NineBitColour::red(number) * Part, NineBitColour::green(number) * Part, NineBitColour::blue(number) * Part};
+}
+
+uchar nearest(const Colours &colours, const Fine &wanted)
+{
+    size_t found = 0;
+    int least = std::numeric_limits<int>::max();
+    for (size_t i = 0; i < colours.size(); ++i) {
+        const int distance = (fineOf(colours[i]) - wanted).square();
+        if (distance < least) {
+            least = distance;
+            found = i;
+        }
+    }
+    return uchar(found);
+}
+
+/// Thresholds 0–63, each as far as possible from those near it.
+constexpr auto Bayer = [] {
+    std::array<std::array<int, 8>, 8> thresholds{};
+    for (int y = 0; y < 8; ++y) {
+        for (int x = 0; x < 8; ++x) {
+            int value = 0;
+            for (int bit = 0; bit < 3; ++bit) {
+                const int across = x >> bit & 1;
+                const int down = y >> bit & 1;
+                value |= ((across ^ down) << 1 | down) << (2 * (2 - bit));
+            }
+            thresholds[size_t(y)][size_t(x)] = value;
+        }
+    }
+    return thresholds;
+}();
+
+/// The mix of colours that looks most like the wanted one, of which the threshold takes one, dark to light.
+uchar mixed(const Colours &colours, const Fine &wanted, int threshold)
+{
+    constexpr size_t Mix = 16;
+    std::array<uchar, Mix> candidates{};
+    Fine error;
+    for (uchar &candidate : candidates) {
+        // three quarters of the error: all of it mixes in colours that are seen as dots
+        candidate = nearest(colours, wanted + error.times(3, 4));
+        error = error + wanted - fineOf(colours[candidate]);
+    }
+    const auto luminance = [&colours](uchar index) {
+        const int number = colours[index];
+        return 3 * NineBitColour::red(number) + 6 * NineBitColour::green(number) + NineBitColour::blue(number);
+    };
+    std::sort(candidates.begin(), candidates.end(),
+              [&](uchar a, uchar b) { return std::pair(luminance(a), a) < std::pair(luminance(b), b); });
+    return candidates[size_t(threshold) * Mix / 64];
+}
+
+/// Floyd and Steinberg's weights, every second row from right to left. What is wrong is bounded, so that a colour far
+/// from all that may be taken does not bleed over its whole surroundings.
+std::vector<uchar> diffused(const std::vector<QRgb> &pixels, const QSize &size, const Dither::ColoursAt &coloursAt)
+{
+    constexpr int Most = 2 * Part;
+    const int width = size.width();
+    std::vector<uchar> result(pixels.size());
+    std::vector<Fine> here(size_t(width) + 2);
+    std::vector<Fine> below(size_t(width) + 2); // sixteenths, as are those here
+    for (int y = 0; y < size.height(); ++y) {
+        const int step = y % 2 == 0 ? 1 : -1;
+        for (int i = 0, x = step > 0 ? 0 : width - 1; i < width; ++i, x += step) {
+            const Colours *colours = coloursAt(x, y);
+            if (!colours)
+                continue;
+            const size_t at = size_t(y) * size_t(width) + size_t(x);
+            const size_t column = size_t(x) + 1;
+            const Fine wanted = fineOf(pixels[at]) + here[column].times(1, 16);
+            result[at] = nearest(*colours, wanted);
+            Fine error = wanted - fineOf((*colours)[result[at]]);
+            for (int *part : {&error.red, &error.green, &error.blue})
+                *part = std::clamp(*part, -Most, Most);
+            here[size_t(int(column) + step)] = here[size_t(int(column) + step)] + error.times(7, 1);
+            below[size_t(int(column) - step)] = below[size_t(int(column) - step)] + error.times(3, 1);
+            below[column] = below[column] + error.times(5, 1);
+            below[size_t(int(column) + step)] = below[size_t(int(column) + step)] + error;
+        }
+        std::swap(here, below);
+        std::fill(below.begin(), below.end(), Fine());
+    }
+    return result;
+}
+
+} // namespace
+
+std::vector<uchar> Dither::apply(Dithering dithering, const std::vector<QRgb> &pixels, const QSize &size,
+                                 const ColoursAt &coloursAt)
+{
+    if (dithering == Dithering::Diffusion)
+        return diffused(pixels, size, coloursAt);
+    std::vector<uchar> result(pixels.size());
+    for (int y = 0; y < size.height(); ++y) {
+        for (int x = 0; x < size.width(); ++x) {
+            const size_t at = size_t(y) * size_t(size.width()) + size_t(x);
+            const Colours *colours = coloursAt(x, y);
+            if (!colours)
+                continue;
+            const Fine wanted = fineOf(pixels[at]);
+            result[at] = dithering == Dithering::Ordered
+                ? mixed(*colours, wanted, Bayer[size_t(y % 8)][size_t(x % 8)])
+                : nearest(*colours, fineOf(quint16(NineBitColour::nearest(pixels[at]))));
+        }
+    }
+    return result;
+}
+
+int Dither::patternColour(QRgb pixel, int x, int y)
+{
+    const Fine fine = fineOf(pixel);
+    const int threshold = Bayer[size_t(y % 8)][size_t(x % 8)];
+    const auto level = [threshold](int part) { return (part * 64 / Part + threshold) / 64; };
+    return NineBitColour::compose(level(fine.red), level(fine.green), level(fine.blue));
+}

@@ -1,0 +1,254 @@
+#include "support/testmain.h"
+
+#include "pictures/colourgroups.h"
+#include "pictures/tilereduction.h"
+
+#include <cmath>
+#include <map>
+#include <random>
+#include <set>
+
+namespace {
+
+enum class Content { Photo, Noise, Gradient, Panels, Stripes };
+
+/// A picture made of nothing but sums: a photograph has soft shapes, shades and grain.
+QImage picture(Content content, int side)
+{
+    std::minstd_rand random;
+    QImage image(side, side, QImage::Format_RGB32);
+    const auto component = [](double value) { return int(std::clamp(value, 0.0, 255.0)); };
+    for (int y = 0; y < side; ++y) {
+        for (int x = 0; x < side; ++x) {
+            const double u = double(x) / side;
+            const double v = double(y) / side;
+            const auto grain = [&random] { return double(random() % 33) - 16; };
+            QRgb colour = 0;
+            switch (content) {
+            case Content::Photo: {
+                const double hill = 0.55 + 0.15 * std::sin(7 * u) + 0.05 * std::sin(31 * u);
+                const double sun = std::exp(-40 * ((u - 0.7) * (u - 0.7) + (v - 0.25) * (v - 0.25)));
+                colour = v < hill
+                    ? qRgb(component(90 + 120 * v + 160 * sun + grain()), component(150 + 60 * v + 90 * sun + grain()),
+                           component(230 - 90 * v + grain()))
+                    : qRgb(component(120 - 90 * v + 40 * std::sin(60 * u * v) + grain()),
+                           component(160 - 100 * v + 30 * std::sin(45 * u) + grain()),
+                           component(60 + 30 * std::sin(20 * v) + grain()));
+                break;
+            }
+            case Content::Noise:
+                colour = qRgb(int(random() % 256), int(random() % 256), int(random() % 256));
+                break;
+            case Content::Gradient:
+                colour = qRgb(component(255 * u), component(255 * v), component(255 * (1 - u)));
+                break;
+            case Content::Panels: // every tile has few colours, and all of them have many
+                colour = NineBitColour::shown((x / 8 * 37 + y / 8 * 101 + int(random() % 5) * 3) % 512);
+                break;
+            case Content::Stripes: // fits: 16 times 16 colours
+                colour = NineBitColour::shown((y / 8 % 16) * 16 + (x + y) % 16);
+                break;
+            }
+            image.setPixel(x, y, colour);
+        }
+    }
+    return image;
+}
+
+using Colours = std::vector<int>;
+
+int squared(int a, int b)
+{
+    const auto level = [](int number, int shift) { return number >> shift & 7; };
+    int sum = 0;
+    for (const int shift : {0, 3, 6})
+        sum += (level(a, shift) - level(b, shift)) * (level(a, shift) - level(b, shift));
+    return sum;
+}
+
+/// What the tiles have wrong when each takes the first group with room for its colours, and else the nearest colours of
+/// the best group: a mean of squared levels.
+double firstComeError(const QImage &image)
+{
+    std::vector<std::map<int, int>> tiles;
+    for (int y = 0; y + 8 <= image.height(); y += 8) {
+        for (int x = 0; x + 8 <= image.width(); x += 8) {
+            std::map<int, int> tile;
+            for (int i = 0; i < 64; ++i) {
+                const QRgb pixel = image.pixel(x + i % 8, y + i / 8);
+                const auto level = [](int c) { return int(std::lround(c * 7 / 255.0)); };
+                ++tile[level(qRed(pixel)) << 6 | level(qGreen(pixel)) << 3 | level(qBlue(pixel))];
+            }
+            tiles.push_back(tile);
+        }
+    }
+    std::vector<std::set<int>> groups(16);
+    for (const auto &tile : tiles) {
+        for (std::set<int> &group : groups) {
+            std::set<int> both = group;
+            for (const auto &[colour, count] : tile)
+                both.insert(colour);
+            if (both.size() <= 16) {
+                group = both;
+                break;
+            }
+        }
+    }
+    double sum = 0;
+    for (const auto &tile : tiles) {
+        double best = 1e9;
+        for (const std::set<int> &group : groups) {
+            double error = 0;
+            for (const auto &[colour, count] : tile) {
+                int least = 147;
+                for (const int other : group)
+                    least = std::min(least, squared(colour, other));
+                error += count * least;
+            }
+            best = std::min(best, error);
+        }
+        sum += best;
+    }
+    return sum / (64.0 * double(tiles.size()));
+}
+
+QByteArray nameOf(Content content)
+{
+    return std::array{"photograph", "noise", "gradient", "panels", "stripes"}[size_t(content)];
+}
+
+} // namespace
+
+class TestTileReduction : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void isNeverWorseThanFirstComeFirstServed_data()
+    {
+        QTest::addColumn<Content>("content");
+        for (const Content content :
+             {Content::Photo, Content::Noise, Content::Gradient, Content::Panels, Content::Stripes})
+            QTest::newRow(nameOf(content)) << content;
+    }
+
+    void isNeverWorseThanFirstComeFirstServed()
+    {
+        QFETCH(Content, content);
+        const QImage image = picture(content, 176); // 484 tiles
+        const TileReduction reduction = TileReduction::of(image, {});
+        const double before = firstComeError(image);
+        qInfo("error %.4f, first come first served %.4f", reduction.error, std::sqrt(before));
+        QVERIFY(reduction.error <= std::sqrt(before) + 1e-9);
+        QCOMPARE(reduction.mergedCells, 0);
+        if (content == Content::Stripes) {
+            QCOMPARE(reduction.error, 0.0);
+            QCOMPARE(reduction.lossyCells, 0);
+            QCOMPARE(reduction.shown(), image.convertToFormat(QImage::Format_RGB32));
+            QCOMPARE(reduction.colours, 256);
+        } else if (content == Content::Photo) {
+            QVERIFY(reduction.error < 0.6 * std::sqrt(before));
+        }
+    }
+
+    void ditheringKeepsTheMeanColour_data()
+    {
+        QTest::addColumn<Dithering>("dithering");
+        QTest::newRow("ordered") << Dithering::Ordered;
+        QTest::newRow("diffusion") << Dithering::Diffusion;
+    }
+
+    /// Squares of 8 × 8 pixels are as bright as they were, which without dithering they are not.
+    void ditheringKeepsTheMeanColour()
+    {
+        QFETCH(Dithering, dithering);
+        const QImage image = picture(Content::Gradient, 128);
+        const auto meanError = [&image](Dithering by) {
+            const QImage shown = TileReduction::of(image, {by}).shown();
+            double sum = 0;
+            for (int y = 0; y < 128; y += 8) {
+                for (int x = 0; x < 128; x += 8) {
+                    double red = 0;
+                    for (int i = 0; i < 64; ++i)
+                        red += qRed(image.pixel(x + i % 8, y + i / 8)) - qRed(shown.pixel(x + i % 8, y + i / 8));
+                    sum += std::abs(red / 64);
+                }
+            }
+            return sum / 256;
+        };
+        const double with = meanError(dithering);
+        const double without = meanError(Dithering::None);
+        qInfo("%.2f with, %.2f without", with, without);
+        QVERIFY(with < 0.6 * without);
+    }
+
+    void fitsWhateverComes_data()
+    {
+        QTest::addColumn<Content>("content");
+        QTest::addColumn<Dithering>("dithering");
+        QTest::addColumn<bool>("holes");
+        for (const Content content : {Content::Photo, Content::Panels}) {
+            for (const Dithering dithering : {Dithering::None, Dithering::Ordered, Dithering::Diffusion}) {
+                for (const bool holes : {false, true})
+                    QTest::addRow("%s %d%s", nameOf(content).constData(), int(dithering), holes ? " with holes" : "")
+                        << content << dithering << holes;
+            }
+        }
+    }
+
+    /// Few enough tiles, each in one group, no colour where nothing is drawn, and what is told is what is there.
+    void fitsWhateverComes()
+    {
+        QFETCH(Content, content);
+        QFETCH(Dithering, dithering);
+        QFETCH(bool, holes);
+        QImage image = picture(content, 131).convertToFormat(QImage::Format_ARGB32); // a part of a tile is left out
+        for (int i = 0; holes && i < 131 * 60; ++i)
+            image.setPixel(i % 131, i / 131, qRgba(255, 255, 255, i % 3 == 0 ? 127 : 255));
+        const TileReduction reduction = TileReduction::of(image, {.dithering = dithering, .mostTiles = 100});
+        QCOMPARE(reduction.size, QSize(16, 16));
+        QVERIFY(reduction.tiles.size() <= 100 && reduction.mergedCells > 0);
+        QCOMPARE(reduction.hasClearPixels, holes);
+        std::set<quint16> words;
+        std::set<int> groups;
+        for (size_t i = 0; i < reduction.tiles.size(); ++i) {
+            groups.insert(reduction.groups[i]);
+            for (const uchar pixel : reduction.tiles[i]) {
+                QCOMPARE(pixel / 16, reduction.groups[i]);
+                if (!holes || pixel % 16 != 15)
+                    words.insert(reduction.words[pixel]);
+            }
+        }
+        QCOMPARE(reduction.colours, int(words.size()));
+        QCOMPARE(reduction.groupCount, int(groups.size()));
+        // with room for all tiles, holes are where they were, and nowhere else
+        const QImage shown = TileReduction::of(image, {.dithering = dithering}).shown();
+        for (int i = 0; i < 128 * 128; ++i) {
+            const QPoint at(i % 128, i / 128);
+            QCOMPARE(qAlpha(shown.pixel(at)), qAlpha(image.pixel(at)) < 128 ? 0 : 255);
+        }
+        const QImage opaque = TileReduction::of(image, {.dithering = dithering, .keepClearPixels = false}).shown();
+        QVERIFY(!opaque.hasAlphaChannel());
+    }
+
+    void turnedTilesAreOne()
+    {
+        QImage image(24, 8, QImage::Format_RGB32);
+        image.fill(Qt::black);
+        image.setPixel(1, 0, qRgb(219, 0, 0));
+        image.setPixel(8 + 7, 1, qRgb(219, 0, 0)); // rotated
+        image.setPixel(16 + 6, 0, qRgb(219, 0, 0)); // mirrored
+        const TileReduction reduction = TileReduction::of(image, {});
+        QCOMPARE(reduction.tiles.size(), size_t(1));
+        QCOMPARE(reduction.shown(), image);
+        QCOMPARE(reduction.words[1], 0xC000);
+        QVERIFY(TileReduction::of(QImage(7, 8, QImage::Format_RGB32), {}).size.isEmpty());
+        // a picture that is clear all over
+        image = QImage(16, 8, QImage::Format_ARGB32);
+        image.fill(Qt::transparent);
+        QCOMPARE(TileReduction::of(image, {.dithering = Dithering::Diffusion}).shown().pixel(3, 3), 0u);
+    }
+};
+
+QUENMORA_TEST_MAIN(TestTileReduction)
+#include "tst_tilereduction.moc"
