@@ -33,8 +33,15 @@ class Round:
         self.wait_for("ready", 1, process, 120)
         time.sleep(wait)
         if in_save:
+            before = os.path.getsize(project)
             self.wait_for("save", self.count("save") + 1, process, 20)
-            time.sleep(moment)
+            if rng.random() < 0.5:
+                time.sleep(moment)
+            else:  # while the file itself is written
+                end = time.monotonic() + 3
+                while os.path.exists(project) and os.path.getsize(project) == before and time.monotonic() < end:
+                    pass
+                time.sleep(rng.uniform(0.0, 0.006))
         if process.poll() is not None:
             raise SystemExit(f"the driver ended by itself with {process.returncode}")
         process.send_signal(signal.SIGKILL)
@@ -95,6 +102,8 @@ def main():
                             "recovery copy damaged", "newest is the file", "newest is the backup",
                             "newest is the copy", "only the copy is left", "continued from a copy"], 0)
     known = {}  # what the project was, by its members, and when
+    shutil.copy(os.path.join(folder, "level.quenmora"), project)
+    level = json.dumps(look(driver, folder)[0]["members"], sort_keys=True)
     lost = []
     failures = []
     for number in range(1, times + 1):
@@ -105,6 +114,8 @@ def main():
             json.dump({"General": {"backupOnSave": rng.random() < 0.5}}, preferences)
         run = Round(driver, folder, rng)
         counts["continued from a copy"] += recovering
+        if not recovering:
+            known[level] = run.events[0]["time"]
         for event in run.events:
             if event["event"] == "copy":
                 known[json.dumps(event["members"], sort_keys=True)] = event["time"]
@@ -139,6 +150,7 @@ def main():
         lost.append(later[-1] - later[0] if later else 0)
         if lost[-1] > INTERVAL + PATIENCE + run.longest_copy():
             failures.append(f"round {number}: {lost[-1]} ms of work are lost")
+            shutil.copy(run.told, os.path.join(folder, f"told-{number}.jsonl"))
         print(f"{number}: {len(actions)} actions, newest {best[1] if best else 'untouched'}, {lost[-1]} ms lost, "
               f"left: {', '.join(kind for kind, is_whole in whole.items() if is_whole)}", flush=True)
 

@@ -18,6 +18,7 @@
 #include <QDateTime>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QTest>
 #include <QTimer>
 
 #include <algorithm>
@@ -125,6 +126,8 @@ private:
         if (m_rest-- > 0)
             return;
         m_user.act();
+        if (!PauseWatch::isFree()) // something was dropped, and the drag has taken the release
+            QTest::mouseRelease(&m_window, Qt::LeftButton);
         say({{"event", "act"}, {"action", m_user.lastAction()}});
         if (m_user.number(6) == 0)
             m_rest = m_user.number(200); // a second at most
