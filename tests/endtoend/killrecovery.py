@@ -18,6 +18,13 @@ INTERVAL = 1000  # milliseconds between the beginnings of two copies, twenty tim
 PATIENCE = 2500  # how long a copy waits for a pause, at most
 
 
+def size_of(path):
+    try:
+        return os.path.getsize(path)
+    except FileNotFoundError:  # it is the backup now
+        return -1
+
+
 class Round:
     """One life of the driver, from its start to its death."""
 
@@ -33,13 +40,13 @@ class Round:
         self.wait_for("ready", 1, process, 120)
         time.sleep(wait)
         if in_save:
-            before = os.path.getsize(project)
+            before = size_of(project)
             self.wait_for("save", self.count("save") + 1, process, 20)
             if rng.random() < 0.5:
                 time.sleep(moment)
             else:  # while the file itself is written
                 end = time.monotonic() + 3
-                while os.path.exists(project) and os.path.getsize(project) == before and time.monotonic() < end:
+                while size_of(project) == before and time.monotonic() < end:
                     pass
                 time.sleep(rng.uniform(0.0, 0.006))
         if process.poll() is not None:
