@@ -33,7 +33,8 @@ QString importing(const SpriteImport &import)
 }
 
 /// Makes a bank of the distinct pieces of a picture whose indices and colours are those of the bank.
-SpriteBank *importSliced(Project &project, const SpriteImport &import, const QImage &picture, QWidget *parent)
+SpriteBank *importSliced(Project &project, const SpriteImport &import, const QImage &picture, bool hasClearPixels,
+                         QWidget *parent)
 {
     const QPointer<Project> guarded = &project; // events are handled while the picture is cut
     ImageSlicer slicer(picture);
@@ -43,8 +44,10 @@ SpriteBank *importSliced(Project &project, const SpriteImport &import, const QIm
     }
     if (!guarded || !fits(slicer.pieceCount()))
         return nullptr;
-    const QUuid palette = createPaletteOf(project, import.name, slicer.colours())->id();
-    SpriteBank *bank = project.createSpriteBank(import.depth, import.name, palette);
+    const QPointer<Palette> palette = createPaletteOf(project, import.name, slicer.colours());
+    SpriteBank *bank = project.createSpriteBank(import.depth, import.name, palette->id());
+    if (hasClearPixels)
+        palette->setTransparencyIndex(bank->clearPixels().pixel());
     return bank->importPieces(slicer) > 0 ? bank : nullptr;
 }
 
@@ -58,8 +61,9 @@ SpriteBank *importSpritePicture(Project &project, const SpriteImport &import, QW
     picture.setTranslucent(import.keepColours ? MachineColours::kept(std::move(image)) : std::move(image));
     if (import.paletteId.isNull()) {
         const QImage pixels = SpriteColours::own(picture.colours(), {import.depth}).pixels(picture);
+        const bool hasClearPixels = picture.hasClearPixels();
         picture.setImage({}); // two of a large one are enough
-        return importSliced(project, import, pixels, parent);
+        return importSliced(project, import, pixels, hasClearPixels, parent);
     }
     const QSize size = picture.size();
     const bool usable = fits(qint64(size.width() / SpriteBank::SpriteSize) * (size.height() / SpriteBank::SpriteSize));

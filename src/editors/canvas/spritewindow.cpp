@@ -176,6 +176,7 @@ void SpriteWindow::showTransparency()
     m_transparency->setSpecialValueText(none ? tr("None") : QString());
     m_transparency->setRange(none ? -1 : 0, clear.pixelCount() - 1);
     m_transparency->setValue(clear.pixel());
+    m_colours->setClearIndex(clear.pixel());
 }
 
 // ---- Edits ----------------------------------------------------------------------------------

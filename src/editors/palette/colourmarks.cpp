@@ -29,3 +29,12 @@ void ColourMarks::paintBack(QPainter &painter, const QRect &cell)
 {
     paintOutline(painter, cell.adjusted(-2, -2, 2, 2), 3);
 }
+
+void ColourMarks::paintClear(QPainter &painter, const QRect &cell)
+{
+    const QLine stroke(cell.bottomLeft() + QPoint(2, -2), cell.topRight() + QPoint(-2, 2));
+    for (const auto &[width, colour] : {std::pair(3, Qt::black), {1, Qt::white}}) {
+        painter.setPen(QPen(colour, width));
+        painter.drawLine(stroke);
+    }
+}

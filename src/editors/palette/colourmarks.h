@@ -15,4 +15,7 @@ void paintSwatches(QPainter &painter, const QRect &area, const QColor &fore, con
 void paintFore(QPainter &painter, const QRect &cell);
 void paintBack(QPainter &painter, const QRect &cell);
 
+/// A stroke through the cell of a colour that is not drawn, seen on any colour.
+void paintClear(QPainter &painter, const QRect &cell);
+
 } // namespace ColourMarks

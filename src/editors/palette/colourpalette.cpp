@@ -140,6 +140,12 @@ void ColourPalette::setSecondaryIndex(int index)
     update();
 }
 
+void ColourPalette::setClearIndex(int index)
+{
+    m_clear = index;
+    update();
+}
+
 QColor ColourPalette::colour(int index) const
 {
     QColor colour = m_palette && index >= 0 && index < Palette::Size ? m_palette->colour(index) : QColor(Qt::black);
@@ -203,7 +209,8 @@ bool ColourPalette::event(QEvent *event)
     const auto *help = static_cast<QHelpEvent *>(event);
     const int index = indexAt(help->pos());
     if (index >= 0)
-        QToolTip::showText(help->globalPos(), tr("Index: %1").arg(index), this);
+        QToolTip::showText(help->globalPos(),
+                           (index == m_clear ? tr("Index: %1\nTransparent") : tr("Index: %1")).arg(index), this);
     else
         QToolTip::hideText();
     return true;
@@ -219,6 +226,8 @@ void ColourPalette::paintEvent(QPaintEvent *)
     for (int index = m_offset; index < m_offset + m_count; ++index)
         painter.fillRect(cellRect(index).adjusted(0, 0, -1, -1), colour(index));
     const auto marked = [this](int index) { return index >= m_offset && index < m_offset + m_count; };
+    if (marked(m_clear))
+        ColourMarks::paintClear(painter, cellRect(m_clear).adjusted(0, 0, -1, -1));
     if (marked(m_primary))
         ColourMarks::paintFore(painter, cellRect(m_primary).adjusted(0, 0, -1, -1));
     if (marked(m_secondary))

@@ -30,6 +30,8 @@ public slots:
     void setRange(int offset, int count);
     void setPrimaryIndex(int index);
     void setSecondaryIndex(int index);
+    /// Marks the colour whose pixels are not drawn; -1 for none.
+    void setClearIndex(int index);
 
 signals:
     void primaryIndexChanged(int index);
@@ -62,4 +64,5 @@ private:
     int m_count = Palette::Size;
     int m_primary = 1;
     int m_secondary = 0;
+    int m_clear = -1;
 };

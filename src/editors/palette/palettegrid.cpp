@@ -1,5 +1,7 @@
 #include "editors/palette/palettegrid.h"
 
+#include "editors/palette/colourmarks.h"
+
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -95,6 +97,8 @@ void PaletteGrid::paintEvent(QPaintEvent *)
             shown.setAlpha(255);
         painter.setBrush(shown);
         painter.drawRect(QRect(corner, QSize(Cell - 1, Cell - 1)));
+        if (m_palette && index == m_palette->transparencyIndex())
+            ColourMarks::paintClear(painter, QRect(corner, QSize(Cell - 1, Cell - 1)));
     }
 }
 

@@ -7,6 +7,7 @@
 #include "editors/canvas/spritewindow.h"
 #include "editors/canvas/tilewindow.h"
 #include "editors/common/dragdata.h"
+#include "editors/palette/colourpalette.h"
 #include "ui/numberstepper.h"
 #include "ui/toolpalette.h"
 
@@ -398,7 +399,10 @@ private slots:
             auto *index = scene.window.findChild<QSpinBox *>();
             QCOMPARE(index->text(), shown);
             QSignalSpy repainted(&bank, &SpriteBank::coloursChanged); // what maps paint anew for
+            auto *colours = scene.window.findChild<ColourPalette *>();
+            const QImage marked = colours->grab().toImage(); // the entry in the palette
             index->setValue(chosen);
+            QVERIFY(colours->grab().toImage() != marked);
             for (const int pixel : {3, 5, 21}) {
                 bank.setImage(0, plainImage({16, 16}, pixel));
                 const int alpha = qAlpha(bank.renderSprite(0, 0, false, false, false).pixel(0, 0));
@@ -532,7 +536,7 @@ private slots:
             dialog->accept();
             QSet<int> entries;
             for (int x = 0; x < 128; ++x)
-                entries.insert(scene.at(x, 0));
+                entries.insert(scene.stored(0).pixelIndex(x, 0));
             QCOMPARE(entries.size() == 2, keep); // or shades of grey between them
         }
         QVERIFY(plainPicture({2, 1}, qRgb(50, 0, 0)).save(scene.file("in.png")));

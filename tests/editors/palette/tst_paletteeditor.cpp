@@ -71,6 +71,18 @@ private slots:
         QCOMPARE(selections, (QList<QVariantList>{{5, 5}, {3, 20}, {15, 17}, {250, 255}}));
     }
 
+    void theTransparentEntryIsMarked()
+    {
+        Fixture f;
+        const QImage before = f.grid.grab().toImage();
+        f.palette.setTransparencyIndex(35);
+        const QImage after = f.grid.grab().toImage();
+        for (const int index : {34, 35, 36}) {
+            const QRect cell(index % 16 * 16, index / 16 * 16, 16, 16);
+            QCOMPARE(before.copy(cell) != after.copy(cell), index == 35);
+        }
+    }
+
     void okAppliesToTheWholeSelection()
     {
         Fixture f;
