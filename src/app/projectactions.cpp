@@ -209,10 +209,16 @@ void ProjectActions::importPalette(const QUuid &paletteId, const QString &filePa
     const QPointer<Palette> palette = project->palette(paletteId);
     if (palette)
         words.copyColours(*palette);
-    if (!readPaletteFile(filePath, words)) {
+    const std::optional<int> leftOut = readPaletteFile(filePath, words);
+    if (!leftOut) {
         qWarning("Read error");
         reportIncompleteImport(tr("The file is neither a palette nor a picture that can be read"));
         return;
+    }
+    if (*leftOut > 0) {
+        reportIncompleteImport(tr("The picture has %1 colours; the palette takes the first %2 of them")
+                                   .arg(Palette::Size + *leftOut)
+                                   .arg(Palette::Size));
     }
     if (palette) {
         replaceWords(*palette, words, m_undoStackFor ? m_undoStackFor(paletteId) : nullptr);

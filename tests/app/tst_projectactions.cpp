@@ -277,6 +277,8 @@ private slots:
         QImage picture(2, 2, QImage::Format_RGB32); // its distinct colours in reading order
         picture.fill(qRgb(0, 0, 255));
         picture.setPixel(1, 0, qRgb(219, 0, 0)); // as the hardware shows level 6
+        picture = picture.convertToFormat(QImage::Format_ARGB32);
+        picture.setPixel(0, 1, qRgba(9, 99, 9, 0)); // clear: no colour
         QImage indexed(2, 2, QImage::Format_Indexed8); // its colour table
         indexed.setColorTable({qRgb(0, 0, 255), qRgb(219, 0, 0), qRgb(0, 255, 0)});
         indexed.fill(2);
@@ -286,7 +288,16 @@ private slots:
             QCOMPARE(palette->rawColour(0), 0x0301);
             QCOMPARE(palette->rawColour(1), 0xC000);
             QCOMPARE(palette->rawColour(2), third);
+            QVERIFY(shownFailure().isEmpty());
         }
+        QImage all(512, 1, QImage::Format_RGB32);
+        for (int i = 0; i < 512; ++i)
+            all.setPixel(i, 0, NineBitColour::shown(i));
+        QVERIFY(all.save(m_folder("colours.png")));
+        m_actions->importPalette(palette->id(), m_folder("colours.png"));
+        for (int i = 0; i < 256; ++i)
+            QCOMPARE(palette->rawColour(i), i >> 1 << 8 | (i & 1));
+        QCOMPARE(shownFailure(), "The picture has 512 colours; the palette takes the first 256 of them");
     }
 
     void keepsTheMachinesLevels_data()
@@ -418,6 +429,7 @@ private slots:
         m_actions->importSpritePicture({m_folder("hero.png"), "Hero", depth, newPalette ? QUuid() : standard});
         const QPointer<SpriteBank> bank = m_project->spriteBank(m_ready);
         QVERIFY(bank && bank->count() == (newPalette ? 2 : 3));
+        QCOMPARE(bank->palette()->transparencyIndex(), newPalette ? bank->clearPixels().pixel() : -1);
         for (int i = 0; i < 512; ++i) {
             const int sprite = bank->count() - 2 + i / 256;
             const QRgb shown = bank->renderSprite(sprite, 0, false, false, false).pixel(i % 16, i / 16 % 16);

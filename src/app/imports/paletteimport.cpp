@@ -1,6 +1,7 @@
 #include "app/imports/paletteimport.h"
 
 #include "model/nextcolour.h"
+#include "model/nximage.h"
 #include "model/picturefile.h"
 #include "model/project.h"
 #include "pictures/machinecolours.h"
@@ -61,20 +62,22 @@ Words wordsOfTable(const QList<QRgb> &colours)
     const bool keepColours =
         std::all_of(colours.cbegin(), colours.cend(), [](QRgb colour) { return MachineColours::wordOf(colour); });
     Words words;
-    for (const QRgb colour : colours.first(qMin(colours.size(), qsizetype(Palette::Size))))
+    for (const QRgb colour : colours)
         words.append(keepColours ? *MachineColours::wordOf(colour) : quantised(colour));
     return words;
 }
 
-/// The first distinct words of a picture's pixels, row by row.
+/// The distinct words of a picture's pixels, row by row. Clear pixels have none.
 Words distinctWords(const QImage &picture)
 {
     const bool keepColours = MachineColours::areIn(picture);
     std::bitset<0x10000> seen;
     Words words;
-    for (int y = 0; y < picture.height() && words.size() < Palette::Size; ++y) {
+    for (int y = 0; y < picture.height() && words.size() < MachineColours::Count; ++y) {
         const auto *line = reinterpret_cast<const QRgb *>(picture.constScanLine(y));
-        for (int x = 0; x < picture.width() && words.size() < Palette::Size; ++x) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if (qAlpha(line[x]) < NxImage::LeastAlpha)
+                continue;
             const quint16 word = keepColours ? *MachineColours::wordOf(line[x]) : quantised(line[x]);
             if (!seen.test(word)) {
                 seen.set(word);
@@ -85,25 +88,26 @@ Words distinctWords(const QImage &picture)
     return words;
 }
 
-/// The words that a picture file brings, at most 256; none when it is no picture.
+/// The words that a picture file brings; none when it is no picture.
 Words wordsOfPicture(const QString &fileName)
 {
     const QImage picture = PictureFile::read(fileName).image;
-    return picture.colorTable().isEmpty() ? distinctWords(picture.convertToFormat(QImage::Format_RGB32))
+    return picture.colorTable().isEmpty() ? distinctWords(picture.convertToFormat(QImage::Format_ARGB32))
                                           : wordsOfTable(picture.colorTable());
 }
 
 } // namespace
 
-bool readPaletteFile(const QString &fileName, Palette &words)
+std::optional<int> readPaletteFile(const QString &fileName, Palette &words)
 {
     // a small picture may be just as long as a palette file
     const Words fromPicture = hasPaletteSuffix(fileName) ? Words() : wordsOfPicture(fileName);
     if (fromPicture.isEmpty())
-        return words.importData(fileName);
-    for (int i = 0; i < fromPicture.size(); ++i)
+        return words.importData(fileName) ? std::optional(0) : std::nullopt;
+    const int taken = qMin(int(fromPicture.size()), Palette::Size);
+    for (int i = 0; i < taken; ++i)
         words.storeRawColour(i, fromPicture[i]);
-    return true;
+    return int(fromPicture.size()) - taken;
 }
 
 void replaceWords(Palette &palette, const Palette &words, QUndoStack *stack)
