@@ -5,6 +5,7 @@
 //
 // With names it saves only those pictures.
 
+#include "app/dialogs/importpicturedialog.h"
 #include "app/documentcontroller.h"
 #include "app/documenttabview.h"
 #include "app/documentviews.h"
@@ -53,6 +54,8 @@
 #include <QPainter>
 #include <QTableView>
 #include <QTemporaryDir>
+
+#include <cmath>
 
 namespace {
 
@@ -121,6 +124,7 @@ private:
     void takeRecovery(const QString &sample);
     void takeMenus();
     void takeDialogs();
+    void takePictureImport();
     void takeMap();
     void takePixels();
     void takeAnimations();
@@ -143,6 +147,7 @@ void PictureTaker::takeAll(const QString &sample)
     takeAnimations();
     takeMenus();
     takeDialogs();
+    takePictureImport();
     takeExport();
 }
 
@@ -297,6 +302,33 @@ void PictureTaker::takeDialogs()
     m_window.menus()->setFileChooser([](const FileRequest &, QWidget *) { return QString(); });
     for (QAction *title : m_window.menus()->actions())
         takeFrom(title->menu(), takeFrom);
+}
+
+/// A picture of more shades than the machine has, with a hole.
+void PictureTaker::takePictureImport()
+{
+    QImage dusk(320, 192, QImage::Format_ARGB32);
+    for (int y = 0; y < dusk.height(); ++y) {
+        for (int x = 0; x < dusk.width(); ++x) {
+            const double sun = std::exp(-std::hypot(x - 220, y - 90) / 40);
+            dusk.setPixel(x, y, qRgb(60 + y / 2 + int(90 * sun), 40 + y / 4 + int(120 * sun), 120 - y / 3));
+        }
+    }
+    for (int y = 120; y < dusk.height(); ++y) {
+        for (int x = 0; x < dusk.width(); ++x) {
+            if (y > 160 + 24 * std::sin(x / 30.0))
+                dusk.setPixel(x, y, 0);
+        }
+    }
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("dusk.png"));
+    if (!dusk.save(file))
+        return;
+    ImportPictureDialog dialog(&m_window);
+    dialog.show(file, PictureLoss::of(file, &m_window));
+    settle();
+    save(dialog.grab(), QStringLiteral("import-picture"));
+    dialog.reject();
 }
 
 void PictureTaker::takeExport()
