@@ -254,6 +254,7 @@ private slots:
         add("levels", {true, false, false}, Dithering::None, "Nothing is lost");
         add("holes", {true, true, false}, Dithering::None, "Nothing is lost");
         add("shades", {false, false, true}, Dithering::Ordered, "Of 600 cells, ");
+        add("ramp", {false, false, true}, Dithering::Ordered, "lost but shades between");
     }
 
     void mapOfAPicture()
@@ -268,6 +269,11 @@ private slots:
             picture.setPixel(3, 3, 0);
         for (int i = 0; kind == "shades" && i < 240 * 160; ++i)
             picture.setPixel(i % 240, i / 240, qRgb(i * 37 % 256, i * (i % 101) / 7 % 256, i * 7 % 256));
+        if (kind == "ramp") { // few tiles, whose colours all find room
+            picture = QImage(64, 64, QImage::Format_RGB32);
+            for (int i = 0; i < 64 * 64; ++i)
+                picture.setPixel(i % 64, i / 64, qRgb(100 + i % 64, 100, 20 + i / 64));
+        }
         const QString file = m_folder(kind + ".png");
         QVERIFY(picture.save(file));
         const PictureLoss loss = PictureLoss::of(file, nullptr);
@@ -289,7 +295,7 @@ private slots:
         };
         QVERIFY(tells(told));
         const QRgb after = dialog.findChildren<PicturePreview *>()[1]->picture().pixel(0, 0);
-        QCOMPARE(after == qRgb(219, 37, 0), kind != "shades");
+        QCOMPARE(after == qRgb(219, 37, 0), kind == "levels" || kind == "holes");
         dialog.accept();
         const auto reduction = accepted.at(0).at(1).value<TileReduction>();
         QCOMPARE(reduction.shown().pixel(0, 0), after);

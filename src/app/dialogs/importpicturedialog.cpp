@@ -59,7 +59,7 @@ ImportPictureDialog::ImportPictureDialog(QWidget *parent)
         column->addWidget(new QLabel(text));
         column->addWidget(picture, 1);
         picture->setAccessibleName(text);
-        picture->setMinimumSize(320, 256);
+        picture->setMinimumSize(240, 192);
         pictures->addLayout(column, 1);
     }
     body()->addLayout(pictures, 1);
@@ -71,7 +71,7 @@ void ImportPictureDialog::show(const QString &file, const PictureLoss &loss)
 {
     m_file = file;
     m_loss = loss;
-    const bool lossy = loss.lossyTiles > 0 || loss.tiles > TileReduction::MostTiles;
+    const bool lossy = loss.lossyTiles > 0 || loss.tiles > TileReduction::MostTiles || loss.hasManyColours;
     {
         const QSignalBlocker blockers[] = {QSignalBlocker(m_keepColours), QSignalBlocker(m_keepClearPixels),
                                            QSignalBlocker(m_together), QSignalBlocker(m_dithering)};
@@ -127,12 +127,15 @@ QString ImportPictureDialog::summary() const
             + u'\n';
     }
     const TileReduction &reduction = *m_reduction;
-    QString text = tr("Tiles: %1 for %2 that differ\nColours: %3 in %4 groups, for %5 in the picture")
+    QString text = tr("Tiles: %1, for %2 different ones\nColours: %3, for %4 of the picture; groups: %5")
                        .arg(number(qint64(reduction.tiles.size())), number(reduction.tilesBefore),
-                            number(reduction.colours), number(reduction.groupCount), number(reduction.coloursBefore))
+                            number(reduction.colours), number(reduction.coloursBefore), number(reduction.groupCount))
         + u'\n';
-    if (reduction.mergedCells == 0 && reduction.lossyCells == 0)
-        return text + tr("Nothing is lost");
+    if (reduction.mergedCells == 0 && reduction.lossyCells == 0) {
+        return text
+            + (m_loss.isMachines ? tr("Nothing is lost")
+                                 : tr("Nothing is lost but shades between the colours that the machine has"));
+    }
     text +=
         tr("Of %1 cells, %2 lose colours and %3 show a tile that is like theirs")
             .arg(number(qint64(reduction.cells.size())), number(reduction.lossyCells), number(reduction.mergedCells));

@@ -16,6 +16,7 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QPainter>
+#include <QSet>
 
 #include <algorithm>
 
@@ -129,9 +130,32 @@ MapImport importPicture(Project &project, const QString &filePath, QWidget *pare
     return {createMap(project, name, tileSet->id(), slicer), lossOf(slicer)};
 }
 
+namespace {
+
+/// Whether a picture has more than the 256 colours that the slicer tells apart, before they are snapped.
+bool hasManyColours(const QImage &picture)
+{
+    constexpr int Many = 256;
+    if (!picture.colorTable().isEmpty())
+        return false;
+    QSet<QRgb> colours;
+    for (int y = 0; y < picture.height(); ++y) {
+        const QImage line = picture.copy(0, y, picture.width(), 1).convertToFormat(QImage::Format_RGB32);
+        const auto *pixels = reinterpret_cast<const QRgb *>(line.constScanLine(0));
+        for (int x = 0; x < line.width(); ++x)
+            colours.insert(pixels[x]);
+        if (colours.size() > Many)
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
 bool PictureLoss::any() const
 {
-    return !picture.isNull() && (changesLevels || losesClearPixels || lossyTiles > 0 || tiles > MostTiles);
+    return !picture.isNull()
+        && (changesLevels || hasManyColours || losesClearPixels || lossyTiles > 0 || tiles > MostTiles);
 }
 
 PictureLoss PictureLoss::of(const QString &filePath, QWidget *parent)
@@ -143,6 +167,7 @@ PictureLoss PictureLoss::of(const QString &filePath, QWidget *parent)
         return {};
     loss.isMachines = MachineColours::areIn(loss.picture);
     loss.changesLevels = loss.isMachines && !MachineColours::surviveQuantising(loss.picture);
+    loss.hasManyColours = !loss.isMachines && ::hasManyColours(loss.picture);
     if (loss.picture.hasAlphaChannel()) {
         NxImage translucent;
         translucent.setTranslucent(loss.picture);

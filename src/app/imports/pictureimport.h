@@ -14,6 +14,7 @@ struct PictureLoss
     QImage picture; ///< null when there is none that can be read
     bool isMachines = false; ///< all its colours are the machine's
     bool changesLevels = false; ///< of these colours
+    bool hasManyColours = false; ///< more than are told apart, and not the machine's: shades become bands
     bool losesClearPixels = false;
     int tiles = 0;
     int lossyTiles = 0; ///< that do not show all their colours
