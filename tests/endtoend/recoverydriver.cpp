@@ -3,10 +3,8 @@
 
 #include "app/recoverykeeper.h"
 #include "app/recoveryoffers.h"
-#include "model/image.h"
-#include "model/map.h"
-#include "model/spritebank.h"
-#include "model/tileset.h"
+#include "benchmarks/largeproject.h"
+#include "benchmarks/level.h"
 #include "preferences/generalpage.h"
 #include "recovery/recoverycopy.h"
 #include "store/contentdigest.h"
@@ -28,15 +26,7 @@
 
 namespace {
 
-constexpr int MapSide = 2000;
-constexpr int TileCount = 512;
-
-uint hashed(uint x, uint y)
-{
-    uint h = x * 374761393U + y * 668265263U;
-    h = (h ^ h >> 13) * 1274126177U;
-    return h ^ h >> 16;
-}
+constexpr QSize MapSize(2000, 2000);
 
 void say(QJsonObject event)
 {
@@ -46,50 +36,25 @@ void say(QJsonObject event)
     std::fflush(stdout);
 }
 
-QString checksum(const QByteArray &bytes)
-{
-    const ContentKey key = ContentDigest::keyOf(bytes);
-    return QStringLiteral("%1-%2-%3").arg(key.high, 0, 16).arg(key.low, 0, 16).arg(key.size);
-}
-
 QJsonObject checksums(const ProjectMembers &members)
 {
     QJsonObject all;
-    for (auto member = members.cbegin(); member != members.cend(); ++member)
-        all.insert(member.key(), checksum(member.value()));
-    return all;
-}
-
-/// A level as games have them: structures of 16 × 8 cells, and one cell in sixteen at random.
-void drawLevel(Map &map)
-{
-    for (int y = 0; y < MapSide; ++y) {
-        for (int x = 0; x < MapSide; ++x) {
-            const uint noise = hashed(uint(x), uint(y));
-            const uint structure = hashed(uint(x / 16), uint(y / 8)) % 24;
-            const uint index = noise % 16 == 0 ? noise >> 8 : structure * 16 + uint(y % 8) * 2 + uint(x % 2);
-            map.setTile({x, y}, {int(index % TileCount), false, false, noise % 64 == 0, int(structure % 16), true});
-        }
+    for (auto member = members.cbegin(); member != members.cend(); ++member) {
+        const ContentKey key = ContentDigest::keyOf(member.value());
+        all.insert(member.key(), QStringLiteral("%1-%2-%3").arg(key.high, 0, 16).arg(key.low, 0, 16).arg(key.size));
     }
+    return all;
 }
 
 int make(const QString &fileName)
 {
     ProjectStore store;
-    Project &project = *store.newProject("Level");
-    const QUuid palette = project.createPalette(CreateAction::DefaultNext, "Colours")->id();
-    const auto tiles = project.createTileSet("Tiles", palette, TileCount, false);
-    for (int i = 0; i < TileCount; ++i) {
-        QImage tile = tiles->image(i);
-        for (int y = 0; y < tile.height(); ++y)
-            std::generate_n(tile.scanLine(y), tile.width(),
-                            [&, x = 0U]() mutable { return hashed(x++ / 3, uint(i)) & 15; });
-        tiles->setTileImage(i, tile);
-    }
-    drawLevel(*project.createMap("Level", tiles->id(), {MapSide, MapSide}));
-    project.createSpriteBank(Quenmora::EightBit, "Sprites", palette);
-    project.createImage(Quenmora::Layer2_320x256, "Title", palette);
-    project.setOpenDocuments({project.maps().first()->id().toString()});
+    Project &project = *store.newProject({});
+    LargeProject::fill(project);
+    project.deleteMap(project.maps().first()->id());
+    const auto map = project.createMap("Level", project.tileSets().first()->id(), MapSize);
+    map->tileLayer()->restore(structures(MapSize));
+    project.setOpenDocuments({map->id().toString()});
     return store.saveAs(fileName) ? 0 : 1;
 }
 
@@ -159,14 +124,14 @@ private:
 };
 
 /// What a project is made of when it can be opened; else nothing.
-QJsonObject opened(const MemberReader &read, const QStringList &names)
+QJsonObject opened(const MemberReader &read)
 {
     Project project;
     QString problem;
     if (!readProject(project, read, problem))
         return {};
     ProjectMembers members;
-    for (const QString &name : names)
+    for (const QString &name : serializeProject(project, true).keys())
         members.insert(name, read(name));
     return checksums(members);
 }
@@ -174,14 +139,9 @@ QJsonObject opened(const MemberReader &read, const QStringList &names)
 QJsonObject openedFile(const QString &fileName)
 {
     ZipFile archive;
-    Project project;
-    QString problem;
-    if (!archive.openForReading(fileName)
-        || !readProject(
-            project, [&archive](const QString &name) { return archive.read(name); }, problem))
+    if (!archive.openForReading(fileName))
         return {};
-    return opened([&archive](const QString &name) { return archive.read(name); },
-                  serializeProject(project, true).keys());
+    return opened([&archive](const QString &name) { return archive.read(name); });
 }
 
 qint64 cpuMicroseconds()
@@ -237,14 +197,11 @@ int look(const QString &fileName)
     say({{"event", "backup"}, {"members", openedFile(fileName + ".bak")}});
     for (RecoveryFolder &folder : RecoveryFolder::takeAbandoned(AppState::recoveryFolder())) {
         const RecoveryCopy copy(std::move(folder));
-        QStringList names;
-        for (const RecoveryManifest::Member &member : copy.manifest().members)
-            names.append(member.name);
         const auto read = [&copy](const QString &name) { return copy.read(name); };
         say({{"event", "recovery"},
              {"state", copy.state()},
              {"begun", copy.manifest().time.toMSecsSinceEpoch()},
-             {"members", copy.state() == RecoveryCopy::Whole ? opened(read, names) : QJsonObject()}});
+             {"members", copy.state() == RecoveryCopy::Whole ? opened(read) : QJsonObject()}});
     }
     return 0;
 }
