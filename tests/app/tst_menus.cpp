@@ -11,6 +11,7 @@
 #include "app/projectactions.h"
 #include "model/image.h"
 #include "model/mapobjects.h"
+#include "support/editorinput.h"
 #include "support/testmain.h"
 
 #include <QCheckBox>
@@ -22,20 +23,13 @@
 #include <QTest>
 #include <QToolBar>
 
+using EditorInput::entry;
+
 namespace {
 
 QString plain(const QAction *action)
 {
     return QString(action->text()).remove(u'&');
-}
-
-QAction *entry(const QMenu *menu, const QString &text)
-{
-    for (QAction *action : menu->actions()) {
-        if (plain(action) == text)
-            return action;
-    }
-    return nullptr;
 }
 
 /// Entries in a row: "-" for a separator, ">" after a submenu, the first shortcut in brackets.
@@ -169,7 +163,7 @@ private slots:
               {5, "New, Import", ", Swap Palette, Export Data"},
               {6, "New Image", ""}}) {
             Shell shell;
-            const QAction *name = entry(shell.bar.paletteMenu(), "No Palette");
+            const QAction *name = entry(*shell.bar.paletteMenu(), "No Palette");
             QCOMPARE(shell.enabled(menu), withProject);
             shell.activate();
             QCOMPARE(shell.enabled(menu), withProject + withAsset);
@@ -217,7 +211,7 @@ private slots:
         // without a remembered folder, or with one that is gone, it starts where the program did
         for (const QString &remembered : {QString(""), folder.filePath("gone"), QString("~"), folder.path()}) {
             menu.setOpenFolder(remembered);
-            entry(&menu, "Open")->trigger(); // and given up
+            entry(menu, "Open")->trigger(); // and given up
             QCOMPARE(asked, remembered == folder.path() ? folder.path() : QDir::currentPath());
         }
         answer = folder.filePath("sub/game.quenmora");
@@ -244,7 +238,7 @@ private slots:
             QSignalSpy asked(&menu, command);
             for (const bool enabled : {false, true}) {
                 menu.setClipboardEnabled(enabled);
-                entry(&menu, text)->trigger();
+                entry(menu, text)->trigger();
                 QCOMPARE(asked.size(), int(enabled));
             }
         }
@@ -258,7 +252,7 @@ private slots:
         QVERIFY(dialogs().isEmpty()); // they are built when they are first used
         const auto enter = [&](int menu, const char *text, const char *name, const QStringList &choices,
                                bool checked = false) {
-            entry(shell.menu(menu), text)->trigger();
+            entry(*shell.menu(menu), text)->trigger();
             for (QDialog *dialog : dialogs()) {
                 if (!dialog->isVisible())
                     continue;

@@ -4,6 +4,7 @@
 #include "app/menus/mapmenu.h"
 #include "app/returnwatch.h"
 #include "editors/map/exportdialog.h"
+#include "support/editorinput.h"
 #include "support/filesizelimit.h"
 #include "support/modeltools.h"
 #include "support/sampleproject.h"
@@ -317,12 +318,7 @@ private slots:
         const QString picture = (*m_folder)("picture.png");
         QVERIFY(plainImage(large ? QSize(1600, 1600) : QSize(64, 64), 1).save(picture));
         const QString torn = (*m_folder)("torn.png", readFile(picture).first(100));
-        const auto exportMap = [this] {
-            for (QAction *entry : m_window->menus()->mapMenu()->actions()) {
-                if (entry->text() == "&Export")
-                    entry->trigger();
-            }
-        };
+        const auto exportMap = [this] { EditorInput::trigger(*m_window->menus()->mapMenu(), "Export"); };
         const auto exportToFolder = [this, tab] {
             QMetaObject::invokeMethod(tab, "toolPaletteClicked", Q_ARG(Quenmora::Ui::ToolButton, Quenmora::Ui::Save));
             emit tab->findChild<QFileDialog *>()->fileSelected((*m_folder)());
@@ -363,28 +359,24 @@ private slots:
 
     void proposesWhatLosesNothing()
     {
-        for (const bool unsaved : {false, true}) {
+        const std::tuple<bool, QString, ForeignChange::Answer> cases[] = {{false, {}, ForeignChange::Cancel},
+                                                                          {true, {}, ForeignChange::Cancel},
+                                                                          {true, "&Load File", ForeignChange::Load},
+                                                                          {true, "&Keep Mine", ForeignChange::Keep}};
+        for (const auto &[unsaved, button, answer] : cases) {
             QStringList seen;
-            QTimer::singleShot(0, this, [&seen] {
+            QTimer::singleShot(0, this, [&seen, pressed = button] {
                 auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
                 seen = QStringList{box->text(), box->informativeText(), box->defaultButton()->text()};
-                QTest::keyClick(box, Qt::Key_Escape);
+                if (pressed.isEmpty())
+                    QTest::keyClick(box, Qt::Key_Escape);
+                else
+                    EditorInput::button(*box, pressed)->click();
             });
-            QCOMPARE(askAboutForeignChange(&*m_window, {"/a/game.quenmora", unsaved}), ForeignChange::Cancel);
+            QCOMPARE(askAboutForeignChange(&*m_window, {"/a/game.quenmora", unsaved}), answer);
             QVERIFY(seen.at(0).contains("/a/game.quenmora"));
             QCOMPARE(seen.at(1).contains("unsaved"), unsaved);
             QVERIFY2(seen.at(2).contains(unsaved ? "Cancel" : "Load"), qPrintable(seen.at(2)));
-        }
-        for (const auto &[text, answer] :
-             {std::pair("&Load File", ForeignChange::Load), {"&Keep Mine", ForeignChange::Keep}}) {
-            QTimer::singleShot(0, this, [wanted = text] {
-                const auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-                for (QAbstractButton *button : box->buttons()) {
-                    if (button->text() == wanted)
-                        button->click();
-                }
-            });
-            QCOMPARE(askAboutForeignChange(&*m_window, {"/a/game.quenmora", true}), answer);
         }
     }
 

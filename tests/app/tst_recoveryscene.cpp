@@ -1,6 +1,7 @@
 #include "app/mainwindow.h"
 #include "app/recoverylist.h"
 #include "store/projectdocument.h"
+#include "support/editorinput.h"
 #include "support/modeltools.h"
 #include "support/testmain.h"
 
@@ -10,6 +11,7 @@
 #include <QStatusBar>
 #include <QTest>
 
+#include <functional>
 #include <optional>
 
 /// A window in which somebody works until the program crashes, and the one that is opened then.
@@ -107,30 +109,25 @@ private slots:
 
     void copiesGoWithWhatTheyAreFor_data()
     {
-        QTest::addColumn<int>("end");
-        QTest::newRow("saved") << 0;
-        QTest::newRow("closed, discarding the changes") << 1;
-        QTest::newRow("closed with the window") << 2;
-        QTest::newRow("changes taken back") << 3;
+        using End = std::function<void()>;
+        QTest::addColumn<End>("end");
+        QTest::newRow("saved") << End([this] { m_first->projectController()->save(); });
+        QTest::newRow("closed, discarding the changes")
+            << End([this] { m_first->projectController()->newProject("Other"); });
+        QTest::newRow("closed with the window") << End([this] { m_first->close() ? m_first.reset() : void(); });
+        QTest::newRow("changes taken back") << End([this] {
+            m_first->projectController()->project()->setName(Name);
+            m_first->recoveryKeeper()->lookSoon();
+        });
     }
     void copiesGoWithWhatTheyAreFor()
     {
-        QFETCH(int, end);
+        QFETCH(const std::function<void()>, end);
         m_first->projectController()->save();
         work();
         QVERIFY(copyIsMade());
         QCOMPARE(foldersLeft(), 1);
-        if (end == 0) {
-            m_first->projectController()->save();
-        } else if (end == 1) {
-            m_first->projectController()->newProject("Other");
-        } else if (end == 2) {
-            QVERIFY(m_first->close());
-            m_first.reset();
-        } else {
-            m_first->projectController()->project()->setName(Name);
-            m_first->recoveryKeeper()->lookSoon();
-        }
+        end();
         QTRY_COMPARE(foldersLeft(), 0);
     }
 
@@ -280,14 +277,7 @@ private:
             [](const QString &) { return ProjectController::Discard; });
     }
     RecoveryList *list() { return m_second->findChild<RecoveryList *>(); }
-    void click(const QString &text)
-    {
-        for (QPushButton *button : list()->findChildren<QPushButton *>()) {
-            if (button->text() == text && button->isVisible())
-                return button->click();
-        }
-        qFatal("no button %s", qPrintable(text));
-    }
+    void click(const QString &text) { EditorInput::button(*list(), text)->click(); }
 
     const QString Name = QStringLiteral("Game <b>1</b>");
     TemporaryFolder m_folder;

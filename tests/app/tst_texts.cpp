@@ -12,6 +12,7 @@
 #include "editors/canvas/imageeditorview.h"
 #include "editors/map/exportdialog.h"
 #include "model/assetname.h"
+#include "support/editorinput.h"
 #include "support/sampleproject.h"
 #include "support/testmain.h"
 #include "ui/messagedialog.h"
@@ -87,15 +88,6 @@ QStringList listedTexts()
             add(view->model(), {}, add);
     }
     return texts;
-}
-
-QAction *entry(const QMenu *menu, const QString &text)
-{
-    for (QAction *action : menu->actions()) {
-        if (action->text().remove(u'&') == text)
-            return action;
-    }
-    return nullptr;
 }
 
 } // namespace
@@ -181,7 +173,7 @@ private slots:
         menus.imageMenu()->showNewDialog();
         ProjectTree *tree = m_window->views().project->tree();
         tree->editItem(tree->itemOf(project().maps().first()->id()));
-        entry(m_window->views().palette->findChild<QMenu *>(), "Rename")->trigger();
+        EditorInput::trigger(*m_window->views().palette->findChild<QMenu *>(), "Rename");
         int fields = 0;
         for (const QLineEdit *field : m_window->findChildren<QLineEdit *>()) {
             if (qobject_cast<QAbstractSpinBox *>(field->parentWidget()))
@@ -226,7 +218,7 @@ private slots:
             return answer;
         });
         const auto exportNow = [&] {
-            entry(m_window->menus()->actions().at(menu)->menu(), text)->trigger();
+            EditorInput::trigger(*m_window->menus()->actions().at(menu)->menu(), text);
             if (auto *dialog = m_window->findChild<TileEditor::ExportDialog *>()) { // asks which tiles
                 QCOMPARE(dialog->windowTitle(), "Export Tiles: Tiles");
                 dialog->accept();

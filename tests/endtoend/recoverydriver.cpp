@@ -49,11 +49,15 @@ QJsonObject checksums(const ProjectMembers &members)
 int make(const QString &fileName)
 {
     ProjectStore store;
-    Project &project = *store.newProject({});
-    LargeProject::fill(project);
-    project.deleteMap(project.maps().first()->id());
-    const auto map = project.createMap("Level", project.tileSets().first()->id(), MapSize);
+    Project &project = *store.newProject("Level");
+    const QUuid palette = project.createPalette(CreateAction::DefaultNext, "Colours")->id();
+    const auto tiles = project.createTileSet("Tiles", palette, LargeProject::TileCount, false);
+    for (int i = 0; i < tiles->count(); ++i)
+        tiles->setTileImage(i, LargeProject::picture({8, 8}, uint(i)));
+    const auto map = project.createMap("Level", tiles->id(), MapSize);
     map->tileLayer()->restore(structures(MapSize));
+    project.createSpriteBank(Quenmora::EightBit, "Sprites", palette);
+    project.createImage(Quenmora::Layer2_320x256, "Title", palette);
     project.setOpenDocuments({map->id().toString()});
     return store.saveAs(fileName) ? 0 : 1;
 }

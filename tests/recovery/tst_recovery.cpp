@@ -28,16 +28,6 @@
 
 namespace {
 
-/// Bytes that deflate cannot make much smaller.
-QByteArray noise(int size, int seed)
-{
-    QByteArray bytes(size, '\0');
-    quint32 state = quint32(seed) * 2654435761U + 1;
-    for (char &byte : bytes)
-        byte = char((state = state * 1664525 + 1013904223) >> 24);
-    return bytes;
-}
-
 using Contents = QMap<QString, QByteArray>;
 
 /// Puts the members into the next copy, calling back after every step; the manifest for it.

@@ -174,11 +174,6 @@ private slots:
                                  {"sprites", "0", "animations"},
                                  {"mapObjects", "0", "animations", "0", "frames"}})
             stored(path, many(40'000), Refused);
-        for (const char *kind : {"palettes", "tilesets", "maps", "mapObjects", "sprites", "images"}) {
-            QJsonArray twice = documentOf(m_members).value(kind).toArray();
-            twice.append(twice.first());
-            stored({kind}, twice, Loads);
-        }
     }
 
     void wrongPictures()

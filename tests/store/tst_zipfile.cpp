@@ -4,23 +4,10 @@
 #include "support/testmain.h"
 
 #include <QFileInfo>
-#include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QTest>
 
 using namespace ArchiveTools;
-
-namespace {
-
-QByteArray noise(int size)
-{
-    QByteArray bytes(size, Qt::Uninitialized);
-    QRandomGenerator random(1);
-    std::generate(bytes.begin(), bytes.end(), [&random] { return char(random.bounded(256)); });
-    return bytes;
-}
-
-} // namespace
 
 class TestZipFile : public QObject
 {

@@ -28,13 +28,21 @@ inline QAbstractButton *button(const QWidget &widget, const QString &name)
     return nullptr;
 }
 
-inline void trigger(const QMenu &menu, const QString &text)
+/// The entry of this text, its & left out; null when there is none.
+inline QAction *entry(const QMenu &menu, const QString &text)
 {
     for (QAction *action : menu.actions()) {
-        if (action->text() == text)
-            return action->trigger();
+        if (action->text().remove(u'&') == text)
+            return action;
     }
-    QFAIL(qPrintable(QStringLiteral("no action ") + text));
+    return nullptr;
+}
+
+inline void trigger(const QMenu &menu, const QString &text)
+{
+    QAction *found = entry(menu, text);
+    QVERIFY2(found, qPrintable("no entry " + text));
+    found->trigger();
 }
 
 /// A drag that another program brings to a point of a widget, as the window system reports it. Calls over before the

@@ -5,12 +5,14 @@
 #include <QHash>
 #include <QImage>
 #include <QMetaMethod>
+#include <QRandomGenerator>
 #include <QSize>
 #include <QStringList>
 #include <QTemporaryDir>
 #include <QUuid>
 #include <QVariant>
 
+#include <algorithm>
 #include <functional>
 #include <utility>
 
@@ -43,6 +45,15 @@ private:
 {
     QFile file(name);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
+}
+
+/// Bytes that deflate cannot make much smaller.
+[[nodiscard]] inline QByteArray noise(int size, quint32 seed = 1)
+{
+    QByteArray bytes(size, '\0');
+    QRandomGenerator random(seed);
+    std::generate(bytes.begin(), bytes.end(), [&random] { return char(random.bounded(256)); });
+    return bytes;
 }
 
 /// An indexed picture of one value, in 256 opaque black colours.
