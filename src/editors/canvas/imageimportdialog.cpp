@@ -1,6 +1,7 @@
 #include "editors/canvas/imageimportdialog.h"
 
 #include "editors/canvas/pictureimport.h"
+#include "model/nximage.h"
 #include "pictures/machinecolours.h"
 
 #include <QCheckBox>
@@ -21,6 +22,7 @@ ImportDialog::ImportDialog(QWidget *parent)
     , m_size(new QLabel(this))
     , m_scale(new QCheckBox(tr("Scale to fill the image"), this))
     , m_keepColours(new QCheckBox(tr("Keep the machine's colours"), this))
+    , m_keepClearPixels(new QCheckBox(tr("Keep transparent pixels"), this))
 {
     setHeader(tr("Import a picture"));
     m_preview->setFixedSize(PreviewSize);
@@ -34,6 +36,9 @@ ImportDialog::ImportDialog(QWidget *parent)
         tr("Every colour of the picture is one that the Next has: those that the palette has stay "
            "exactly that, and scaling mixes no new ones"));
     body()->addWidget(m_keepColours);
+    m_keepClearPixels->setToolTip(tr("They get the transparent entry of the palette, and no colour does"));
+    body()->addWidget(m_keepClearPixels);
+    connect(m_keepClearPixels, &QCheckBox::toggled, this, &ImportDialog::updatePreview);
     connect(m_scale, &QCheckBox::toggled, this, &ImportDialog::updatePreview);
     connect(m_keepColours, &QCheckBox::toggled, this, &ImportDialog::updatePreview);
     connect(this, &QDialog::accepted, this, [this] { emit imported(m_pixels); });
@@ -55,6 +60,12 @@ void ImportDialog::show(const QImage &picture, const QPointer<Palette> &palette,
     const bool canKeep = MachineColours::areIn(picture);
     m_keepColours->setEnabled(canKeep);
     m_keepColours->setChecked(canKeep);
+    NxImage translucent;
+    translucent.setTranslucent(picture);
+    const int transparent = palette ? palette->transparencyIndex() : -1;
+    const bool canBeClear = translucent.hasClearPixels() && transparent >= 0 && transparent < colourCount;
+    m_keepClearPixels->setEnabled(canBeClear);
+    m_keepClearPixels->setChecked(canBeClear);
     updatePreview();
     DialogBase::open();
 }
@@ -70,8 +81,10 @@ void ImportDialog::updatePreview()
     const bool scale = m_scale->isChecked();
     const QImage part = scale ? m_picture : m_picture.copy(QRect(QPoint(), m_imageSize) & m_picture.rect());
     const auto levels = m_keepColours->isChecked() ? PictureImport::Levels::Kept : PictureImport::Levels::Quantised;
+    const auto clear =
+        m_keepClearPixels->isChecked() ? PictureImport::ClearPixels::Kept : PictureImport::ClearPixels::Dropped;
     m_pixels = m_palette
-        ? PictureImport::indexed(part, *m_palette, 0, m_colourCount, scale ? m_imageSize : QSize(), levels)
+        ? PictureImport::indexed(part, *m_palette, 0, m_colourCount, scale ? m_imageSize : QSize(), levels, clear)
         : QImage();
     const QImage shown = m_pixels.convertToFormat(QImage::Format_RGB32);
     m_preview->setPixmap(QPixmap::fromImage(shown.scaled(PreviewSize, Qt::KeepAspectRatio)));

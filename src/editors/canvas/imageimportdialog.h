@@ -41,6 +41,7 @@ private:
     QLabel *m_size;
     QCheckBox *m_scale;
     QCheckBox *m_keepColours;
+    QCheckBox *m_keepClearPixels;
 };
 
 } // namespace ImageEditor

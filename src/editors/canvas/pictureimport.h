@@ -14,9 +14,13 @@ enum class Levels {
     Kept, ///< of a picture whose colours are all the machine's; scaling it makes no new ones
 };
 
+/// Whether clear pixels, those less than half opaque, get the palette's transparent entry.
+enum class ClearPixels { Dropped, Kept };
+
 /// The picture as indices of the count (16 or 256) entries of the palette from first on, every colour the
-/// nearest of them; when asked to, scaled to exactly the size. Null when the picture is null.
+/// nearest of them; when asked to, scaled to exactly the size. What is kept leaves the transparent entry to clear
+/// pixels. Null when the picture is null.
 [[nodiscard]] QImage indexed(const QImage &picture, const Palette &palette, int first, int count, QSize scaledTo = {},
-                             Levels levels = Levels::Quantised);
+                             Levels levels = Levels::Quantised, ClearPixels clear = ClearPixels::Dropped);
 
 } // namespace PictureImport

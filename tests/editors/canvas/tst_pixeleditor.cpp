@@ -539,6 +539,23 @@ private slots:
                 entries.insert(scene.stored(0).pixelIndex(x, 0));
             QCOMPARE(entries.size() == 2, keep); // or shades of grey between them
         }
+        // clear pixels get the palette's transparent entry, which is the nearest of an opaque one
+        scene.palette.setTransparencyIndex(0);
+        picture = plainPicture({2, 1}, Qt::black).convertToFormat(QImage::Format_ARGB32);
+        picture.setPixel(1, 0, 0);
+        for (const bool keep : {true, false}) {
+            QVERIFY(picture.save(scene.file("in.png")));
+            scene.images[0]->setImage(plainImage({128, 96}, 5));
+            scene.show(0);
+            scene.choose(Open, "in.png");
+            auto *dialog = scene.view->findChild<ImageEditor::ImportDialog *>();
+            QVERIFY(dialog->findChildren<QCheckBox *>()[2]->isChecked());
+            for (QCheckBox *box : dialog->findChildren<QCheckBox *>())
+                box->setChecked(keep && box->text() != "Scale to fill the image");
+            dialog->accept();
+            QCOMPARE(scene.stored(0).pixelIndex(0, 0) != 0, keep);
+            QCOMPARE(scene.stored(0).pixelIndex(1, 0), 0);
+        }
         QVERIFY(plainPicture({2, 1}, qRgb(50, 0, 0)).save(scene.file("in.png")));
         scene.choose(Open, "in.png");
         const QList<QCheckBox *> boxes =
