@@ -82,7 +82,6 @@ Box boxOf(std::vector<quint16> colours, const Counts &counts)
     const double whole = box.moments.error();
     for (int axis = 0; axis < Axes; ++axis) {
         Moments above = box.moments;
-        double below = 0;
         Moments lower;
         for (int level = 0; level < 7; ++level) {
             const Moments &slice = slices[size_t(axis)][size_t(level)];
@@ -91,8 +90,7 @@ Box boxOf(std::vector<quint16> colours, const Counts &counts)
             lower.squares += slice.squares;
             for (size_t i = 0; i < Axes; ++i)
                 lower.sums[i] += slice.sums[i];
-            below = lower.error();
-            const double gain = whole - below - above.error();
+            const double gain = whole - lower.error() - above.error();
             if (lower.count > 0 && above.count > 0 && gain > box.gain) {
                 box.gain = gain;
                 box.axis = axis;

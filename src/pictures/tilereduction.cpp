@@ -302,7 +302,6 @@ TileReduction TileReduction::of(const QImage &picture, const Choices &choices)
     reduction.coloursBefore = int(distinct.colours.count());
     reduction.hasClearPixels = distinct.hasClearPixels;
 
-    // a book of the whole picture keeps the tile of each cell as its own
     const TileCodebook book = TileCodebook::find(distinct.tiles, distinct.weights, choices.mostTiles);
     std::vector<qint64> weights(book.tiles.size());
     for (size_t i = 0; i < distinct.tiles.size(); ++i)
