@@ -19,6 +19,7 @@
 #include "model/map.h"
 #include "model/mapobjects.h"
 #include "model/tileanimation.h"
+#include "support/editorinput.h"
 #include "support/testmain.h"
 
 #include <QListView>
@@ -179,10 +180,7 @@ private slots:
         MapEditor::MapGrid *grid = open(m_assets->map);
         grid->setMode(Quenmora::Ui::Select);
         drag(grid, {2, 1}, {4, 3});
-        for (QAction *action : grid->findChild<QMenu *>()->actions()) {
-            if (action->text() == "Copy to new map")
-                action->trigger();
-        }
+        EditorInput::trigger(*grid->findChild<QMenu *>(), "Copy to new map");
         const QPointer<Map> made = project()->maps().last();
         QCOMPARE(tabs()->indexOfDocument(made->id()), tabs()->currentIndex());
         QVERIFY(made->size() == QSize(3, 3) && made->tileSet() == m_assets->tiles);

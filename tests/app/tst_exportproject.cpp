@@ -10,6 +10,7 @@
 #include "app/mainwindow.h"
 #include "app/menus/filemenu.h"
 #include "exportprogram.h" // made by the build: where the command and the examples are
+#include "support/editorinput.h"
 #include "support/modeltools.h"
 #include "support/sampleproject.h"
 #include "support/testmain.h"
@@ -69,46 +70,30 @@ private slots:
 
     // The dialogs
 
-    void addedOutputsHaveFilesOfTheirOwn_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::newRow("bytes") << "none";
-        QTest::newRow("source text") << "sjasmplus";
-        QTest::newRow("C") << "c";
-    }
     void addedOutputsHaveFilesOfTheirOwn()
     {
-        QFETCH(const QString, text);
         SampleProject::fill(*m_project);
-        const QStringList names{"Level",
-                                "level",
-                                "Level_2",
-                                "",
-                                "a/b",
-                                "a\\b",
-                                "CON",
-                                "../x",
-                                "ü \"x\"",
-                                "1st.",
-                                QString(10000, 'y'),
-                                QString(10000, 'y')};
+        const QStringList names{
+            "Level",   "level", "Level_2",
+            "Level_4", // which is free until now
+            "LEVEL",   "",      "a/b",     "a\\b", "CON", "../x", QString(10000, 'y'), QString(10000, 'y')};
         for (const QString &name : names) {
             m_project->createPalette(CreateAction::DefaultNext, name);
             m_project->createMap(name, m_project->tileSets().first()->id(), {2, 2});
         }
         AddOutputsDialog dialog;
-        QList<RecipeOutput> outputs;
         RecipeTable table;
         table.open(*m_project, path("game.quenmora"), {});
-        for (const QString folder : {"", "data/gfx"}) {
+        for (const auto &[folder, text] :
+             {std::pair("", "none"), {"", "c"}, {"data/gfx", "none"}, {"data/gfx", "sjasmplus"}}) {
             dialog.show(*m_project, table.recipe());
-            dialog.findChild<QComboBox *>("text")->setCurrentIndex(
-                dialog.findChild<QComboBox *>("text")->findData(text));
+            auto *texts = dialog.findChild<QComboBox *>("text");
+            texts->setCurrentIndex(texts->findData(text));
             dialog.findChild<QLineEdit *>("folder")->setText(folder);
             const QList<RecipeOutput> added = addedBy(dialog);
             QVERIFY(added.size() > 2 * names.size());
             for (const RecipeOutput &output : added)
-                QCOMPARE(output.file.startsWith("data/gfx/"), !folder.isEmpty());
+                QCOMPARE(output.file.startsWith("data/gfx/"), *folder != 0);
             table.add(added);
         }
         Recipe read;
@@ -413,11 +398,7 @@ private:
     [[nodiscard]] QString recipePath() const { return path("game.quenmora-export.json"); }
     static QAction *action(MainWindow &window, const QString &text)
     {
-        for (QAction *each : window.menus()->fileMenu()->actions()) {
-            if (QString(each->text()).remove('&') == text)
-                return each;
-        }
-        return nullptr;
+        return EditorInput::entry(*window.menus()->fileMenu(), text);
     }
 
     std::unique_ptr<TemporaryFolder> m_folder;

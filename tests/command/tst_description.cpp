@@ -64,21 +64,29 @@ private slots:
         const auto row = [](const char *name, const Edit &edit, const QStringList &changes) {
             QTest::newRow(name) << edit << changes;
         };
-        row("nothing", [](Project &) {}, {});
         row("open documents", [](Project &p) { p.setOpenDocuments({"other"}); }, {});
-        row("project", [](Project &p) { p.setName("A\nB"); }, {R"(-project "Sample")", R"(+project "A\nB")"});
-        row("screen", [](Project &p) { p.setScreenSize({1, 2}); }, {"-screen 256 192", "+screen 1 2"});
-        row("colour", [](Project &p) { p.palettes()[0]->setRawColour(9, 0x2681); },
-            {"-colour 9 $0901 levels 0 2 3", "+colour 9 $2681 levels 1 1 5 priority"});
-        row("transparency", [](Project &p) { p.palettes()[1]->setTransparencyIndex(0); },
-            {"-transparency none", "+transparency 0"});
-        row("pixel of a tile",
+        row("project",
             [](Project &p) {
-                setPixel(*p.tileSets()[0], 1, {3, 2}, 15);
+                p.setName("A\nB");
+                p.setScreenSize({1, 2});
             },
-            {"-01234567", "+012f4567"});
-        row("tile", [](Project &p) { p.tileSets()[0]->tile(3)->setValue(-4); },
-            {"-tile 3 offset 15 attributes $FF value 0", "+tile 3 offset 15 attributes $FF value -4"});
+            {R"(-project "Sample")", "-screen 256 192", R"(+project "A\nB")", "+screen 1 2"});
+        row("palettes",
+            [](Project &p) {
+                p.palettes()[0]->setRawColour(9, 0x2681);
+                p.palettes()[1]->setTransparencyIndex(0);
+            },
+            {"-colour 9 $0901 levels 0 2 3", "-transparency none", "+colour 9 $2681 levels 1 1 5 priority",
+             "+transparency 0"});
+        row("tiles",
+            [](Project &p) {
+                QImage image = p.tileSets()[0]->image(1);
+                image.setPixel(3, 2, 15);
+                p.tileSets()[0]->setTileImage(1, image);
+                p.tileSets()[0]->tile(3)->setValue(-4);
+            },
+            {"-tile 3 offset 15 attributes $FF value 0", "-01234567", "+012f4567",
+             "+tile 3 offset 15 attributes $FF value -4"});
         row("cell",
             [](Project &p) {
                 p.maps()[0]->setTile({2, 3}, {7, true, true, true, 12, true});
@@ -152,13 +160,6 @@ private slots:
     }
 
 private:
-    static void setPixel(TileSet &tiles, int index, QPoint at, uint value)
-    {
-        QImage image = tiles.image(index);
-        image.setPixel(at, value);
-        tiles.setTileImage(index, image);
-    }
-
     std::unique_ptr<Project> m_project;
 };
 
