@@ -4,7 +4,6 @@
 #include "support/testmain.h"
 
 #include <QFileInfo>
-#include <QTemporaryDir>
 #include <QTest>
 
 using namespace ArchiveTools;
@@ -79,9 +78,7 @@ private slots:
     }
 
 private:
-    [[nodiscard]] QString path(const QString &name) const { return m_folder.filePath(name); }
-
-    QTemporaryDir m_folder;
+    const TemporaryFolder path;
 };
 
 QUENMORA_TEST_MAIN(TestZipFile)
