@@ -24,8 +24,14 @@ public:
     }
 
     /// Whether the system tells.
-    [[nodiscard]] bool isKnown() const { return m_known && m_before > 0; }
-    [[nodiscard]] qint64 grown() const { return bytes("VmHWM:") - m_before; }
+    [[nodiscard]] bool isKnown() const
+    {
+        return m_known && m_before > 0;
+    }
+    [[nodiscard]] qint64 grown() const
+    {
+        return bytes("VmHWM:") - m_before;
+    }
 
 private:
     [[nodiscard]] static qint64 bytes(const char *name)
