@@ -179,7 +179,8 @@ private slots:
         QVERIFY(map && map->name() == "level" && map->tileSet()->name() == "level");
         QCOMPARE(map->size(), QSize(3, 1));
         QCOMPARE(map->tileSet()->count(), 512);
-        for (const TileMap::TileData &cell : map->tileLayer()->rows().first())
+        const TileMap::Rows rows = map->tileLayer()->rows();
+        for (const TileMap::TileData &cell : rows.first())
             QCOMPARE(cell.index, 0);
         QCOMPARE(map->tileLayer()->toImage({0, 0, 3, 1}).convertToFormat(QImage::Format_RGB32),
                  picture.copy(0, 0, 24, 8));

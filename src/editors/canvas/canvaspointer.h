@@ -38,8 +38,9 @@ struct CanvasPointer
     /// The rectangle that the drag spans, both corners included.
     QRect dragged() const
     {
-        const auto [left, right] = std::minmax(pressed.x(), current.x());
-        const auto [top, bottom] = std::minmax(pressed.y(), current.y());
+        // of lists, for minmax() of two numbers gives references to them
+        const auto [left, right] = std::minmax({pressed.x(), current.x()});
+        const auto [top, bottom] = std::minmax({pressed.y(), current.y()});
         return {QPoint(left, top), QPoint(right, bottom)};
     }
 };
