@@ -239,7 +239,8 @@ private slots:
         QCOMPARE(map->tileTransparencyIndex(), 15);
         QCOMPARE(map->tileSet()->palette()->transparencyIndex(), 15);
         QCOMPARE(map->tileSet()->palette()->rawColour(0), 0xC800);
-        for (const TileMap::TileData &cell : map->tileLayer()->rows().first())
+        const TileMap::Rows rows = map->tileLayer()->rows();
+        for (const TileMap::TileData &cell : rows.first())
             QCOMPARE(cell.index, 0);
         const QImage shown = map->tileLayer()->render({0, 0, 3, 1}, 1, 15);
         QCOMPARE(shown.convertToFormat(QImage::Format_ARGB32_Premultiplied),

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "model/tileset.h"
 #include "ui/dialogbase.h"
 
 class QCheckBox;
 class QSpinBox;
-class TileSet;
 
 namespace TileEditor {
 
