@@ -1,6 +1,7 @@
 #pragma once
 
 #include "nextdata/form.h"
+#include "nextdata/reader.h"
 
 /// The forms of each kind of asset, with their own options alone: what forms() puts together.
 namespace NextData {
@@ -13,5 +14,12 @@ namespace NextData {
 [[nodiscard]] QList<Form> spriteForms();
 [[nodiscard]] QList<Form> spriteAnimationForms();
 [[nodiscard]] QList<Form> imageForms();
+
+// What readers() puts together
+[[nodiscard]] QList<Reader> paletteReaders();
+[[nodiscard]] QList<Reader> tileReaders();
+[[nodiscard]] QList<Reader> mapReaders();
+[[nodiscard]] QList<Reader> spriteReaders();
+[[nodiscard]] QList<Reader> imageReaders();
 
 } // namespace NextData

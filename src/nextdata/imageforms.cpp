@@ -5,7 +5,8 @@
 //   layer2-640   81,920 bytes: 640 × 256 pixels by columns of pairs; the left one in the high nibble of a byte
 //   lores        12,288 bytes: 128 × 96 pixels by rows; on request in two files of 48 rows, for $4000 and $6000
 //
-// Each may have the 512 bytes of its palette (form "palette") in front.
+// Each may have the 512 bytes of its palette (form "palette") in front. Files are read in the other order as well, and
+// with a palette of a byte an entry; the size of a file tells whether it has one.
 
 #include "model/image.h"
 #include "model/palette.h"
@@ -13,6 +14,8 @@
 #include "nextdata/palettewords.h"
 #include "nextdata/pixels.h"
 #include "nextdata/tr.h"
+
+#include <algorithm>
 
 namespace NextData {
 namespace {
@@ -134,6 +137,92 @@ Form form(const char *id, const QString &title, const char *suffix, const QList<
             .refusal = refusal<Mode>};
 }
 
+// Reading
+
+template <ImageMode Mode>
+constexpr qint64 pixelBytes()
+{
+    switch (Mode) {
+    case Quenmora::Layer2_256x192:
+        return 256 * 192;
+    case Quenmora::Layer2_320x256:
+        return 320 * 256;
+    case Quenmora::Layer2_640x256:
+        return 640 * 256 / 2;
+    case Quenmora::LoRes_128x96:
+        return 128 * 96;
+    }
+    return 0;
+}
+
+template <ImageMode Mode>
+Reader::Fit fits(qint64 size)
+{
+    const qint64 palette = size - pixelBytes<Mode>();
+    if (palette == 0 || palette == PaletteBytes || palette == Palette::Size)
+        return Reader::Fit::Exact;
+    const bool isHalf = Mode == Quenmora::LoRes_128x96
+        && (size == pixelBytes<Mode>() / 2 || size == pixelBytes<Mode>() / 2 + PaletteBytes);
+    return isHalf ? Reader::Fit::Possible : Reader::Fit::None;
+}
+
+template <ImageMode Mode>
+Result<Reading> readImage(const QByteArray &bytes, const OptionValues &values)
+{
+    constexpr qint64 wanted = pixelBytes<Mode>();
+    if (fits<Mode>(bytes.size()) == Reader::Fit::None) {
+        return Failure{tr("The file has %1 bytes, and such a picture %2, or %3 or %4 with its palette")
+                           .arg(QString::number(bytes.size()), QString::number(wanted),
+                                QString::number(wanted + PaletteBytes), QString::number(wanted + Palette::Size))};
+    }
+    const bool isHalf = bytes.size() < wanted;
+    QByteArray pixels = bytes.last(isHalf ? wanted / 2 : wanted);
+    const QByteArray palette = bytes.first(bytes.size() - pixels.size());
+    pixels.append(wanted - pixels.size(), '\0');
+
+    // bytes by rows: the pixels, or pairs of them
+    const bool isPacked = Mode == Quenmora::Layer2_640x256;
+    const int width = Image::sizeOf(Mode).width() / (isPacked ? 2 : 1);
+    const int height = Image::sizeOf(Mode).height();
+    if (values.is("order", "columns"))
+        pixels = columnsOf(pixels, height); // turns rows and columns back as well
+    Q_ASSERT(pixels.size() == qsizetype(width) * height);
+    if (isPacked) {
+        const int group = values.number("group") << 4;
+        pixels = unpackedPairs(pixels);
+        std::transform(pixels.cbegin(), pixels.cend(), pixels.begin(),
+                       [group](char pixel) { return char(pixel | group); });
+    }
+    Reading reading{
+        ImageContent{Mode, pixels, palette.size() == PaletteBytes ? wordsOf(palette) : wordsOfColourBytes(palette)},
+        {}};
+    if (isHalf)
+        reading.remarks.append(tr("The file has one half of the picture, which becomes the upper one"));
+    return reading;
+}
+
+template <ImageMode Mode>
+Reader reader(const char *id, const QString &title, const QStringList &suffixes)
+{
+    const Option::Choice byRows{QStringLiteral("rows"), tr("By rows")};
+    const Option::Choice byColumns{QStringLiteral("columns"), tr("By columns")};
+    const bool isUsuallyByRows = Mode == Quenmora::Layer2_256x192 || Mode == Quenmora::LoRes_128x96;
+    QList<Option> options{Option::choice(QStringLiteral("order"), tr("Order"),
+                                         tr("In which order the pixels follow each other"),
+                                         isUsuallyByRows ? QList{byRows, byColumns} : QList{byColumns, byRows})};
+    if (Mode == Quenmora::Layer2_640x256)
+        options.append(Option::number(QStringLiteral("group"), tr("Palette offset"),
+                                      tr("The group of sixteen colours of all pixels, which comes from a register"), 0,
+                                      15, 0));
+    return {.id = QString::fromLatin1(id),
+            .kind = AssetKind::Image,
+            .title = title,
+            .suffixes = suffixes,
+            .options = options,
+            .fit = fits<Mode>,
+            .read = readImage<Mode>};
+}
+
 } // namespace
 
 QList<Form> imageForms()
@@ -148,6 +237,19 @@ QList<Form> imageForms()
         form<Quenmora::Layer2_640x256>("layer2-640", tr("Layer 2, 640 × 256, by columns, two pixels a byte"), "nxi",
                                        {palette}, write640),
         form<Quenmora::LoRes_128x96>("lores", tr("LoRes, 128 × 96, by rows"), "slr", {palette, halves}, writeLoRes),
+    };
+}
+
+QList<Reader> imageReaders()
+{
+    const QStringList layer2{QStringLiteral("nxi"), QStringLiteral("sl2"), QStringLiteral("nl2"),
+                             QStringLiteral("bin")};
+    const QStringList lores{QStringLiteral("slr"), QStringLiteral("nxi"), QStringLiteral("bin")};
+    return {
+        reader<Quenmora::Layer2_256x192>("layer2-256", tr("Layer 2, 256 × 192"), layer2),
+        reader<Quenmora::Layer2_320x256>("layer2-320", tr("Layer 2, 320 × 256"), layer2),
+        reader<Quenmora::Layer2_640x256>("layer2-640", tr("Layer 2, 640 × 256, two pixels a byte"), layer2),
+        reader<Quenmora::LoRes_128x96>("lores", tr("LoRes, 128 × 96"), lores),
     };
 }
 

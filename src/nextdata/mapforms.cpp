@@ -4,7 +4,7 @@
 //   map-1byte    the index alone; what else the hardware needs comes from a register, so it is the same for all cells
 //
 // Screens follow each other from left to right, then from top to bottom. Where one reaches beyond the map, blank cells
-// fill it.
+// fill it. A file does not tell the size of its map.
 
 #include "model/map.h"
 #include "model/tilemapformat.h"
@@ -191,14 +191,146 @@ Result<Data> writeOneByte(const Source &source, const OptionValues &values)
     return data;
 }
 
+// Reading
+
+constexpr qint64 MostCells = 8'000'000;
+
+template <int CellBytes>
+Reader::Fit fits(qint64 size)
+{
+    if (size == 0 || size % CellBytes != 0)
+        return Reader::Fit::None;
+    const qint64 cells = size / CellBytes;
+    const bool isScreen = cells == 40 * 32 || cells == 80 * 32 || cells == 32 * 24;
+    return isScreen ? Reader::Fit::Exact : Reader::Fit::Possible;
+}
+
+/// The width of most maps of so many cells.
+int usualWidth(qint64 cells)
+{
+    if (cells == 80 * 32)
+        return 80;
+    for (const int width : {40, 32, 80, 64, 128, 20, 16}) {
+        if (cells % width == 0)
+            return width;
+    }
+    return int(std::min<qint64>(cells, 40));
+}
+
+template <int CellBytes>
+QMap<QString, QString> suggested(qint64 size)
+{
+    return {{QStringLiteral("width"), QString::number(usualWidth(size / CellBytes))}};
+}
+
+/// How the cells of a file lie in a map.
+struct Layout
+{
+    QSize map;
+    QSize screen;
+    bool byColumns;
+
+    [[nodiscard]] static Result<Layout> of(qint64 cells, const OptionValues &values)
+    {
+        const int width = values.number("width") > 0 ? values.number("width") : usualWidth(cells);
+        const int screenWidth = values.number("screen-width") > 0 ? values.number("screen-width") : width;
+        const qint64 across = (width + screenWidth - 1) / screenWidth;
+        const qint64 lineCells = across * screenWidth; // of all screens side by side
+        const qint64 rows = (cells + lineCells - 1) / lineCells;
+        const qint64 screenHeight = values.number("screen-height") > 0 ? values.number("screen-height") : rows;
+        const qint64 down = (rows + screenHeight - 1) / screenHeight;
+        const qint64 height = values.number("height") > 0 ? values.number("height") : down * screenHeight;
+        if (height > MostSide || qint64(width) * height > MostCells) {
+            return Failure{tr("That makes a map of %1 × %2 cells; %3 along a side and %4 in all are the most")
+                               .arg(QString::number(width), QString::number(height), QString::number(MostSide),
+                                    QString::number(MostCells))};
+        }
+        return Layout{{width, int(height)}, {screenWidth, int(screenHeight)}, values.is("order", "columns")};
+    }
+
+    /// Where a cell of the file is in the map, which may be outside.
+    [[nodiscard]] QPoint positionOf(qint64 number) const
+    {
+        const int across = (map.width() + screen.width() - 1) / screen.width();
+        const qint64 size = qint64(screen.width()) * screen.height();
+        const qint64 inScreen = number % size;
+        const QPoint corner(int(number / size % across) * screen.width(),
+                            int(number / size / across) * screen.height());
+        return corner
+            + (byColumns ? QPoint(int(inScreen / screen.height()), int(inScreen % screen.height()))
+                         : QPoint(int(inScreen % screen.width()), int(inScreen / screen.width())));
+    }
+};
+
+/// A map of the cells that cellOf() makes of the bytes of each.
+template <int CellBytes, typename CellOf>
+Result<Reading> readCells(const QByteArray &bytes, const OptionValues &values, CellOf cellOf)
+{
+    const qint64 cells = bytes.size() / CellBytes;
+    if (cells == 0)
+        return Failure{tr("The file has %1 bytes, and a cell takes %2").arg(bytes.size()).arg(CellBytes)};
+    const Result<Layout> layout = Layout::of(cells, values);
+    if (!layout)
+        return layout.failure();
+    const Row blank(layout->map.width());
+    Rows rows(layout->map.height(), blank);
+    const QRect bounds({0, 0}, layout->map);
+    const auto *data = reinterpret_cast<const uchar *>(bytes.constData());
+    qint64 outside = 0;
+    for (qint64 i = 0; i < cells; ++i) {
+        const QPoint at = layout->positionOf(i);
+        const TileData cell = cellOf(data + i * CellBytes);
+        if (bounds.contains(at))
+            rows[at.y()][at.x()] = cell;
+        else if (cell.index != 0)
+            ++outside;
+    }
+    Reading reading{MapContent{rows}, {}};
+    if (outside > 0)
+        reading.remarks.append(tr("Cells of the file that are outside the map: %1").arg(outside));
+    const qint64 missing = qint64(layout->map.width()) * layout->map.height() - cells;
+    if (missing > 0)
+        reading.remarks.append(
+            tr("Cells of the map that the file does not have, and that stay blank: %1").arg(missing));
+    if (bytes.size() % CellBytes != 0)
+        reading.remarks.append(tr("Half a cell at the end is left out"));
+    return reading;
+}
+
+Result<Reading> readTwoBytes(const QByteArray &bytes, const OptionValues &values)
+{
+    const bool hasNinthBit = values.is("bit-0", "tile");
+    return readCells<2>(bytes, values, [hasNinthBit](const uchar *cell) {
+        return TileData{.index = cell[0] | (hasNinthBit ? (cell[1] & 1) << 8 : 0),
+                        .rotate = (cell[1] & 2) != 0,
+                        .flip = (cell[1] & 4) != 0,
+                        .mirror = (cell[1] & 8) != 0,
+                        .offset = cell[1] >> 4,
+                        .used = true};
+    });
+}
+
+Result<Reading> readOneByte(const QByteArray &bytes, const OptionValues &values)
+{
+    const int offset = values.number("offset");
+    return readCells<1>(bytes, values, [offset](const uchar *cell) {
+        return TileData{.index = *cell, .offset = offset, .used = true};
+    });
+}
+
+Option cellOrder()
+{
+    return Option::choice(QStringLiteral("order"), tr("Order"),
+                          tr("In which order the cells of a screen follow each other"),
+                          {{QStringLiteral("rows"), tr("By rows")}, {QStringLiteral("columns"), tr("By columns")}});
+}
+
 } // namespace
 
 QList<Form> mapForms()
 {
     const QList<Option> options{
-        Option::choice(QStringLiteral("order"), tr("Order"),
-                       tr("In which order the cells of a screen follow each other"),
-                       {{QStringLiteral("rows"), tr("By rows")}, {QStringLiteral("columns"), tr("By columns")}}),
+        cellOrder(),
         Option::number(QStringLiteral("screen-width"), tr("Screen width"),
                        tr("Cells across a screen into which the map is cut; 0 is the whole width"), 0, MostSide, 0),
         Option::number(QStringLiteral("screen-height"), tr("Screen height"),
@@ -221,6 +353,48 @@ QList<Form> mapForms()
          .options = options,
          .size = size<1>,
          .write = writeOneByte},
+    };
+}
+
+QList<Reader> mapReaders()
+{
+    const Option width =
+        Option::number(QStringLiteral("width"), tr("Width"),
+                       tr("Cells across the map; 0 is what most maps of so many cells have"), 0, MostSide, 0);
+    const QList<Option> layout{
+        cellOrder(),
+        Option::number(QStringLiteral("height"), tr("Height"), tr("Cells down the map; 0 is as far as the file goes"),
+                       0, MostSide, 0),
+        Option::number(QStringLiteral("screen-width"), tr("Screen width"),
+                       tr("Cells across the screens into which the map was cut; 0 is the whole width"), 0, MostSide, 0),
+        Option::number(QStringLiteral("screen-height"), tr("Screen height"),
+                       tr("Cells down the screens into which the map was cut; 0 is the whole height"), 0, MostSide, 0),
+    };
+    const Option bit =
+        Option::choice(QStringLiteral("bit-0"), tr("Bit 0"), tr("What the lowest bit of a cell's second byte says"),
+                       {{QStringLiteral("tile"), tr("Tiles from 256 on")},
+                        {QStringLiteral("ula"), tr("The ULA's picture is in front: left out")}});
+    const Option offset = Option::number(QStringLiteral("offset"), tr("Palette offset"),
+                                         tr("The palette offset of all cells, which comes from a register"), 0, 15, 0);
+    const QStringList suffixes{QStringLiteral("map"), QStringLiteral("nxm"), QStringLiteral("nxb"),
+                               QStringLiteral("bin")};
+    return {
+        {.id = QStringLiteral("map-2byte"),
+         .kind = AssetKind::Map,
+         .title = tr("Tile map, two bytes a cell"),
+         .suffixes = suffixes,
+         .options = QList{width} + layout + QList{bit},
+         .fit = fits<2>,
+         .read = readTwoBytes,
+         .suggested = suggested<2>},
+        {.id = QStringLiteral("map-1byte"),
+         .kind = AssetKind::Map,
+         .title = tr("Tile map, one byte a cell"),
+         .suffixes = suffixes,
+         .options = QList{width} + layout + QList{offset},
+         .fit = fits<1>,
+         .read = readOneByte,
+         .suggested = suggested<1>},
     };
 }
 

@@ -4,11 +4,15 @@
 //   palette-513     the same, and the transparency in a byte more
 //   palette-8bit    256 bytes: RRRGGGBB alone
 //   palette-group   32 bytes: the words of the sixteen entries of one palette offset
+//
+// Files with fewer words than these are read as well; the entries that they lack stay as they are.
 
 #include "model/palette.h"
 #include "nextdata/families.h"
 #include "nextdata/palettewords.h"
 #include "nextdata/tr.h"
+
+#include <algorithm>
 
 namespace NextData {
 namespace {
@@ -69,6 +73,70 @@ Result<Data> writeGroup(const Source &source, const OptionValues &values)
                 {{.bytes = paletteWords(source.as<Palette>(), group * GroupSize, GroupSize)}}};
 }
 
+// Reading
+
+template <qint64 Bytes>
+Reader::Fit fitsWords(qint64 size)
+{
+    if (size == Bytes)
+        return Reader::Fit::Exact;
+    return size > 0 && size < Bytes && size % 2 == 0 ? Reader::Fit::Possible : Reader::Fit::None;
+}
+
+template <qint64 Bytes>
+Reader::Fit fitsExactly(qint64 size)
+{
+    return size == Bytes ? Reader::Fit::Exact : Reader::Fit::None;
+}
+
+Failure wrongSize(const QByteArray &bytes, const QString &wanted)
+{
+    return {tr("The file has %1 bytes, and such a palette %2").arg(QString::number(bytes.size()), wanted)};
+}
+
+Result<Reading> readEntries(const QByteArray &bytes, int first, int most)
+{
+    if (bytes.size() % 2 != 0 || bytes.size() > 2 * most)
+        return wrongSize(bytes, tr("2 an entry, %1 in all").arg(2 * most));
+    Reading reading{PaletteContent{first, wordsOf(bytes)}};
+    if (bytes.size() < 2 * most)
+        reading.remarks.append(tr("The file has %1 entries; the others stay as they are").arg(bytes.size() / 2));
+    return reading;
+}
+
+Result<Reading> readWords(const QByteArray &bytes, const OptionValues &)
+{
+    return readEntries(bytes, 0, Palette::Size);
+}
+
+Result<Reading> readGroup(const QByteArray &bytes, const OptionValues &values)
+{
+    return readEntries(bytes, values.number("group") * GroupSize, GroupSize);
+}
+
+Result<Reading> readWithTransparency(const QByteArray &bytes, const OptionValues &values)
+{
+    constexpr int Size = 2 * Palette::Size + 1;
+    if (bytes.size() != Size)
+        return wrongSize(bytes, QString::number(Size));
+    PaletteContent palette{0, wordsOf(bytes.first(Size - 1))};
+    const int last = uchar(bytes.back());
+    const auto hasColour = [last](quint16 word) { return word >> 8 == last; };
+    const auto entry = std::find_if(palette.words.cbegin(), palette.words.cend(), hasColour);
+    if (values.is("transparency", "index"))
+        palette.transparency = last;
+    else if (values.is("transparency", "colour"))
+        palette.transparency = entry != palette.words.cend() ? int(entry - palette.words.cbegin()) : -1;
+    return Reading{palette};
+}
+
+Result<Reading> readBytes(const QByteArray &bytes, const OptionValues &)
+{
+    if (bytes.size() != Palette::Size)
+        return wrongSize(bytes, QString::number(Palette::Size));
+    return Reading{PaletteContent{0, wordsOfColourBytes(bytes)}};
+}
+
 } // namespace
 
 QByteArray paletteWords(const Palette &palette, int first, int count)
@@ -80,6 +148,22 @@ QByteArray paletteWords(const Palette &palette, int first, int count)
         bytes += char(word & 0xFF);
     }
     return bytes;
+}
+
+QList<quint16> wordsOf(const QByteArray &bytes)
+{
+    QList<quint16> words;
+    for (qsizetype at = 0; at + 1 < bytes.size(); at += 2)
+        words.append(quint16(uchar(bytes[at]) << 8 | uchar(bytes[at + 1])));
+    return words;
+}
+
+QList<quint16> wordsOfColourBytes(const QByteArray &bytes)
+{
+    QList<quint16> words;
+    for (const char byte : bytes)
+        words.append(quint16(uchar(byte) << 8 | ((byte & 3) != 0 ? 1 : 0)));
+    return words;
 }
 
 QList<Form> paletteForms()
@@ -124,6 +208,50 @@ QList<Form> paletteForms()
          .options = {group},
          .size = sizeOfGroup,
          .write = writeGroup},
+    };
+}
+
+QList<Reader> paletteReaders()
+{
+    const Option transparency = Option::choice(QStringLiteral("transparency"), tr("Transparency"),
+                                               tr("What the last byte says of the transparent entry"),
+                                               {{QStringLiteral("colour"), tr("Its colour RRRGGGBB, for layers")},
+                                                {QStringLiteral("index"), tr("Its index, for sprites")},
+                                                {QStringLiteral("none"), tr("Nothing")}});
+    const Option group =
+        Option::number(QStringLiteral("group"), tr("Palette offset"),
+                       tr("Which of the sixteen groups of sixteen entries the colours become"), 0, 15, 0);
+    const QStringList suffixes{QStringLiteral("pal"), QStringLiteral("nxp"), QStringLiteral("npl"),
+                               QStringLiteral("bin")};
+    return {
+        {.id = QStringLiteral("palette"),
+         .kind = AssetKind::Palette,
+         .title = tr("Palette, 9 bits a colour"),
+         .suffixes = suffixes,
+         .options = {},
+         .fit = fitsWords<2 * Palette::Size>,
+         .read = readWords},
+        {.id = QStringLiteral("palette-513"),
+         .kind = AssetKind::Palette,
+         .title = tr("Palette, 9 bits a colour, and the transparency"),
+         .suffixes = suffixes,
+         .options = {transparency},
+         .fit = fitsExactly<2 * Palette::Size + 1>,
+         .read = readWithTransparency},
+        {.id = QStringLiteral("palette-8bit"),
+         .kind = AssetKind::Palette,
+         .title = tr("Palette, 8 bits a colour"),
+         .suffixes = suffixes,
+         .options = {},
+         .fit = fitsExactly<Palette::Size>,
+         .read = readBytes},
+        {.id = QStringLiteral("palette-group"),
+         .kind = AssetKind::Palette,
+         .title = tr("Sixteen colours of a palette, 9 bits each"),
+         .suffixes = suffixes,
+         .options = {group},
+         .fit = fitsWords<2 * GroupSize>,
+         .read = readGroup},
     };
 }
 

@@ -32,4 +32,14 @@ QByteArray packedPairs(const QByteArray &pixels)
     return pairs;
 }
 
+QByteArray unpackedPairs(const QByteArray &pairs)
+{
+    QByteArray pixels(2 * pairs.size(), Qt::Uninitialized);
+    for (qsizetype i = 0; i < pairs.size(); ++i) {
+        pixels[2 * i] = char(uchar(pairs[i]) >> 4);
+        pixels[2 * i + 1] = char(pairs[i] & 15);
+    }
+    return pixels;
+}
+
 } // namespace NextData

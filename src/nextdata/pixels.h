@@ -15,4 +15,7 @@ namespace NextData {
 /// A byte for two neighbouring pixels, the low nibble of the first in its high nibble.
 [[nodiscard]] QByteArray packedPairs(const QByteArray &pixels);
 
+/// The two pixels of each such byte, 0–15.
+[[nodiscard]] QByteArray unpackedPairs(const QByteArray &pairs);
+
 } // namespace NextData

@@ -65,6 +65,39 @@ Result<Data> writePacked(const Source &source, const OptionValues &values)
     return dataOf(*range, packedPairs(pixels), SpriteBank::SpriteSize / 2);
 }
 
+// Reading
+
+constexpr qint64 SpriteMemory = 16384; ///< of the machine
+
+template <int SpriteBytes>
+Reader::Fit fits(qint64 size)
+{
+    if (size == 0 || size % SpriteBytes != 0)
+        return Reader::Fit::None;
+    return size == SpriteMemory ? Reader::Fit::Exact : Reader::Fit::Possible;
+}
+
+Result<Reading> readEightBits(const QByteArray &bytes, const OptionValues &values)
+{
+    constexpr int size = SpriteBank::SpriteBytes;
+    const auto range = Range::inFile(values, bytes, size, SpriteBank::MaxCount);
+    if (!range)
+        return range.failure();
+    const auto depth = values.is("depth", "4") ? Quenmora::FourBit : Quenmora::EightBit;
+    return Reading{SpritesContent{depth, bytes.mid(qsizetype(range->first) * size, qsizetype(range->count) * size)},
+                   Range::remarksOn(bytes, size)};
+}
+
+Result<Reading> readPacked(const QByteArray &bytes, const OptionValues &values)
+{
+    constexpr int size = SpriteBank::SpriteBytes / 2;
+    const auto range = Range::inFile(values, bytes, size, SpriteBank::MaxCount);
+    if (!range)
+        return range.failure();
+    const QByteArray pairs = bytes.mid(qsizetype(range->first) * size, qsizetype(range->count) * size);
+    return Reading{SpritesContent{Quenmora::FourBit, unpackedPairs(pairs)}, Range::remarksOn(bytes, size)};
+}
+
 } // namespace
 
 QList<Form> spriteForms()
@@ -84,6 +117,30 @@ QList<Form> spriteForms()
          .options = Range::options(),
          .size = size<SpriteBank::SpriteBytes / 2>,
          .write = writePacked},
+    };
+}
+
+QList<Reader> spriteReaders()
+{
+    const Option depth = Option::choice(
+        QStringLiteral("depth"), tr("Depth"), tr("How many bits of a pixel count"),
+        {{QStringLiteral("8"), tr("8-bit, 256 colours")}, {QStringLiteral("4"), tr("4-bit, 16 colours")}});
+    const QStringList suffixes{QStringLiteral("spr"), QStringLiteral("nxs"), QStringLiteral("bin")};
+    return {
+        {.id = QStringLiteral("sprites-8bit"),
+         .kind = AssetKind::SpriteBank,
+         .title = tr("Sprites, 8 bits a pixel"),
+         .suffixes = suffixes,
+         .options = QList{depth} + Range::readingOptions(),
+         .fit = fits<SpriteBank::SpriteBytes>,
+         .read = readEightBits},
+        {.id = QStringLiteral("sprites-packed"),
+         .kind = AssetKind::SpriteBank,
+         .title = tr("Sprites, 4 bits a pixel, packed"),
+         .suffixes = suffixes,
+         .options = Range::readingOptions(),
+         .fit = fits<SpriteBank::SpriteBytes / 2>,
+         .read = readPacked},
     };
 }
 
