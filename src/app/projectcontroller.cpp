@@ -2,6 +2,7 @@
 
 #include "app/menus/filemenu.h"
 #include "model/map.h"
+#include "model/projectextras.h"
 #include "ui/busy.h"
 #include "ui/replacing.h"
 #include "ui/titlewidth.h"
@@ -137,8 +138,10 @@ bool ProjectController::hasUnsavedChanges() const
 
 bool ProjectController::confirmClose()
 {
-    if (!isModified())
+    if (!isModified()) {
+        saveExtras(); // they do not modify the project, and are not to be lost for that
         return true;
+    }
     const QPointer<Project> asked = m_project;
     switch (m_ask(m_project->name())) {
     case Save:
@@ -180,6 +183,7 @@ void ProjectController::open(const QString &filePath)
     if (!load(filePath))
         return;
     follow(file);
+    loadExtras(filePath);
     emit projectOpened(m_project);
     addToRecentProjects(filePath);
     markSaved();
@@ -219,6 +223,7 @@ bool ProjectController::openRecovered(const MemberReader &members, const QString
 void ProjectController::showModified()
 {
     follow(FileState(filePath()));
+    loadExtras(filePath());
     emit projectOpened(m_project);
     m_savedFingerprint.clear();
     m_markClean();
@@ -226,8 +231,10 @@ void ProjectController::showModified()
 
 void ProjectController::openBackup(const QString &filePath)
 {
-    if (openCopy(ProjectStore::backupOf(filePath), {}))
+    if (openCopy(ProjectStore::backupOf(filePath), {})) {
         m_proposedFile = filePath;
+        loadExtras(filePath);
+    }
 }
 
 bool ProjectController::load(const QString &filePath)
@@ -249,8 +256,10 @@ void ProjectController::save()
     const QString file = filePath().isEmpty() ? m_chooseFile() : filePath();
     if (!file.isEmpty()) {
         const Busy busy(m_parentWidget, tr("Saving %1…").arg(m_project->name()), bytesOf(*m_project));
-        if (write(file))
+        if (write(file)) {
+            saveExtras();
             markSaved();
+        }
     }
     emit saveFinished();
 }
@@ -291,6 +300,7 @@ void ProjectController::close()
     m_store.close();
     m_project.clear();
     m_proposedFile.clear();
+    m_extrasFile = {};
     follow({});
     emit projectClosed();
 }
@@ -301,6 +311,26 @@ void ProjectController::markSaved()
     m_proposedFile.clear();
     m_markClean();
     m_unmodified();
+}
+
+// What is kept beside the file
+
+void ProjectController::loadExtras(const QString &file)
+{
+    const QString problem = file.isEmpty() ? QString() : m_extrasFile.load(*m_project->extras(), file);
+    if (!problem.isEmpty())
+        emit error(tr("What is kept beside the project cannot be read: %1\nThe project itself is whole.\n%2")
+                       .arg(problem, QDir::toNativeSeparators(ExtrasFile::pathFor(file))));
+}
+
+void ProjectController::saveExtras()
+{
+    if (!m_project || filePath().isEmpty())
+        return;
+    const QString problem = m_extrasFile.save(*m_project->extras(), filePath());
+    if (!problem.isEmpty())
+        emit error(tr("What is kept beside the project cannot be written: %1\n%2")
+                       .arg(problem, QDir::toNativeSeparators(ExtrasFile::pathFor(filePath()))));
 }
 
 // What other programs do to the file

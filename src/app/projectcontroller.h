@@ -3,6 +3,7 @@
 #include "app/filestate.h"
 #include "app/foreignchange.h"
 #include "model/project.h"
+#include "store/extrasfile.h"
 #include "store/projectdocument.h"
 #include "store/projectstore.h"
 
@@ -116,6 +117,9 @@ private:
     void reload();
     void addToRecentProjects(const QString &filePath);
     void markSaved();
+    // What is kept beside a project file.
+    void loadExtras(const QString &file);
+    void saveExtras();
     [[nodiscard]] bool write(const QString &file);
     [[nodiscard]] UnsavedAnswer askAboutChanges(const QString &projectName);
     [[nodiscard]] QString runSaveDialog();
@@ -124,6 +128,7 @@ private:
     QPointer<FileMenu> m_fileMenu;
     ProjectStore m_store;
     QPointer<Project> m_project;
+    ExtrasFile m_extrasFile;
     /// The store's fingerprint when the project was last created, opened or saved.
     QByteArray m_savedFingerprint;
     FileState m_file; ///< as it was when the project was last opened or saved

@@ -4,6 +4,7 @@
 #include "model/map.h"
 #include "model/mapobjects.h"
 #include "model/palette.h"
+#include "model/projectextras.h"
 #include "model/spriteanim.h"
 #include "model/spritebank.h"
 #include "model/tileanimation.h"
@@ -52,7 +53,10 @@ QString copyName(const QString &name)
 
 } // namespace
 
-Project::Project(QObject *parent) : QObject(parent), m_scratchImage(256, 192, QImage::Format_Indexed8)
+Project::Project(QObject *parent)
+    : QObject(parent)
+    , m_scratchImage(256, 192, QImage::Format_Indexed8)
+    , m_extras(new ProjectExtras(this))
 {
     [[maybe_unused]] static const bool registered = (registerMetaTypes(), true);
     m_scratchImage.fill(0);

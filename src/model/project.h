@@ -18,6 +18,7 @@ class Image;
 class Map;
 class MapObjects;
 class Palette;
+class ProjectExtras;
 class SpriteBank;
 class TileSet;
 
@@ -73,6 +74,9 @@ public:
     /// The documents that were open in tabs when the project was saved, in tab order.
     [[nodiscard]] QStringList openDocuments() const { return m_openDocuments; }
     void setOpenDocuments(const QStringList &documents) { m_openDocuments = documents; }
+
+    /// What is kept beside the project's file.
+    [[nodiscard]] ProjectExtras *extras() const { return m_extras; }
 
     // Look-ups by id: null for an unknown id.
     [[nodiscard]] QPointer<Palette> palette(const QUuid &id) const { return m_palettes.find(id); }
@@ -178,4 +182,5 @@ private:
     QImage m_scratchImage;
     QUuid m_scratchPaletteId;
     QStringList m_openDocuments;
+    ProjectExtras *m_extras;
 };

@@ -1,6 +1,7 @@
 #include "nextdata/recipe.h"
 
 #include "model/rawfile.h"
+#include "model/sidefile.h"
 #include "nextdata/filenames.h"
 #include "nextdata/form.h"
 #include "nextdata/tr.h"
@@ -24,9 +25,7 @@ bool isSameFile(const QString &a, const QString &b)
 
 QString Recipe::pathFor(const QString &projectFile)
 {
-    const QString suffix = QStringLiteral(".quenmora");
-    const bool isUsual = projectFile.endsWith(suffix, Qt::CaseInsensitive);
-    return (isUsual ? projectFile.chopped(suffix.size()) : projectFile) + QStringLiteral(".quenmora-export.json");
+    return SideFile::pathFor(projectFile, QStringLiteral("export"));
 }
 
 void Recipe::setOutputs(const QList<RecipeOutput> &outputs)

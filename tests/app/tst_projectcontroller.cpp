@@ -2,6 +2,7 @@
 
 #include "app/menus/filemenu.h"
 #include "model/palette.h"
+#include "model/projectextras.h"
 #include "support/archivetools.h"
 #include "support/filesizelimit.h"
 #include "support/modeltools.h"
@@ -146,6 +147,37 @@ private slots:
         m_chosenFile = path("game.quenmora");
         m_controller->save();
         QVERIFY(clean && !m_controller->isModified());
+    }
+
+    void keepsTheExtrasBesideTheProject()
+    {
+        const auto extra = [this] { return m_controller->project()->extras()->section("note").toString(); };
+        const auto setExtra = [this](const QString &text) {
+            m_controller->project()->extras()->setSection("note", text);
+        };
+        m_controller->newProject("Game");
+        setExtra("saved");
+        m_chosenFile = path("game.quenmora");
+        m_controller->save();
+        setExtra("closed");
+        QVERIFY2(!m_controller->isModified(), "extras do not modify a project");
+        m_controller->openProject(path("other.quenmora"));
+        QCOMPARE(extra(), "");
+        m_controller->openProject(path("game.quenmora"));
+        QCOMPARE(extra(), "closed");
+        m_chosenFile = path("copy.quenmora");
+        m_controller->saveAs();
+        setExtra("discarded");
+        change();
+        m_answer = Answer::Discard;
+        m_controller->openProject(path("copy.quenmora"));
+        QCOMPARE(extra(), "closed");
+        QFile(path("copy.quenmora-extras.json")).resize(3);
+        m_log->take();
+        m_controller->openProject(path("copy.quenmora"));
+        QVERIFY2(m_controller->project(), "damaged extras cost only what they held");
+        const QString told = m_log->take().join(u' ');
+        QVERIFY2(told.contains("copy.quenmora-extras.json"), qPrintable(told));
     }
 
     void announcesEveryStep()

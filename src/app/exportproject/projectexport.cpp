@@ -5,6 +5,7 @@
 #include "app/exportproject/exportreport.h"
 #include "app/exportproject/recipetable.h"
 #include "app/projectcontroller.h"
+#include "model/sidefile.h"
 
 #include <QDir>
 #include <QFile>
@@ -19,16 +20,6 @@ using NextData::RecipeRun;
 namespace {
 
 constexpr int MostProblems = 8; // that a message box shows
-
-/// Keeps a file under another name, which no other has; the reason why not, or empty.
-QString keepAside(const QString &path)
-{
-    QString aside = path + QStringLiteral(".bad");
-    for (int number = 2; QFileInfo::exists(aside); ++number)
-        aside = QStringLiteral("%1.bad%2").arg(path).arg(number);
-    QFile file(path);
-    return file.rename(aside) ? QString() : file.errorString();
-}
 
 QString textOf(const QList<Recipe::Problem> &problems)
 {
@@ -141,7 +132,7 @@ bool ProjectExport::save(const Recipe &recipe)
     if (!m_isDamaged && !FileState(path).hasContentOf(m_recipeFile)
         && !m_ask({ExportQuestion::Kind::ReplaceRecipe, path}))
         return false;
-    QString problem = m_isDamaged && QFileInfo::exists(path) ? keepAside(path) : QString();
+    QString problem = m_isDamaged && QFileInfo::exists(path) ? SideFile::keepAside(path) : QString();
     if (problem.isEmpty())
         problem = recipe.save(path);
     m_recipeFile = FileState(path);
