@@ -121,7 +121,7 @@ private slots:
         }
     }
 
-    void everyFormIsReadAgain() { FormReaders(*m_store.project(), 1).readAll(); }
+    void everyFormIsReadAgain() { FormReaders(*m_store.project()).readAll(); }
 
     void unusablePicturesAreRefused()
     {

@@ -120,7 +120,7 @@ private slots:
     void readsTheSame()
     {
         QFETCH(quint32, seed);
-        FormReaders(RandomProject(seed).project, seed).readAll();
+        FormReaders(RandomProject(seed).project).readAll();
     }
 
     void example_data()

@@ -111,6 +111,8 @@ class TestReaders : public QObject
         shown.tiles = {shown.tiles.last()};
         const Options last{{"first", QString::number(tiles->count() - 1)}, {"count", "1"}, {"offset", "7"}};
         QCOMPARE(roundTrip<TilesContent>("tiles-4bit", project, tiles, {}, last), shown);
+        const Options lastAlone{{"first", last["first"]}, {"count", "1"}};
+        QCOMPARE(roundTrip<TilesContent>("tiles-4bit", project, tiles, lastAlone, {{"offset", "7"}}), shown);
         QCOMPARE(roundTrip<TileNumbersContent>("tile-attributes", project, tiles), attributes);
         QCOMPARE(roundTrip<TileNumbersContent>("tile-values", project, tiles), values);
         QCOMPARE(roundTrip<TileNumbersContent>("tile-values", project, tiles, {{"width", "word"}}, {{"width", "word"}}),
@@ -120,6 +122,7 @@ class TestReaders : public QObject
     static void compareMap(RandomProject &random, const QPointer<Map> &map)
     {
         const QString form = map->name() == QStringLiteral("Plain") ? "map-1byte" : "map-2byte";
+        QCOMPARE(writtenBytes("map-2byte", sourceOf(random.project, map)), map->tileLayer()->toNextData());
         MapContent expected{map->tileLayer()->rows()};
         int offset = 0; // of the cells that were drawn; it comes from a register
         for (TileMap::Row &row : expected.rows) {
@@ -170,6 +173,13 @@ class TestReaders : public QObject
         for (int i = 0; i < Palette::Size; ++i)
             expected.palette.append(image->palette()->rawColour(i));
         QCOMPARE(roundTrip<ImageContent>(ids[image->mode()], project, image, {{"palette", "true"}}, read), expected);
+        if (image->mode() == Quenmora::LoRes_128x96) {
+            const auto halves = written("lores", sourceOf(project, image), {{"halves", "true"}});
+            const QByteArray whole = writtenBytes("lores", sourceOf(project, image));
+            QVERIFY(halves && halves->size() == 2);
+            QCOMPARE(halves->first(), (OutputFile{"level_0.bin", whole.first(6144)}));
+            QCOMPARE(halves->last(), (OutputFile{"level_1.bin", whole.last(6144)}));
+        }
     }
 
 private slots:

@@ -26,7 +26,7 @@ written(const QString &form, const NextData::Source &source, const Options &opti
     return NextData::write(*found, source, *values, fileName, names ? *names : own);
 }
 
-/// The bytes of all files of an output; the reason where there are none.
+/// The bytes of all files of an output, whose size is told without making them; the reason where there are none.
 [[nodiscard]] inline QByteArray writtenBytes(const QString &form, const NextData::Source &source,
                                              const Options &options = {})
 {
@@ -36,5 +36,8 @@ written(const QString &form, const NextData::Source &source, const Options &opti
     QByteArray bytes;
     for (const NextData::OutputFile &file : *files)
         bytes += file.bytes;
+    const NextData::Form &found = *NextData::findForm(form);
+    if (*sizeOf(found, source, *NextData::OptionValues::parse(found.options, options)) != bytes.size())
+        qFatal("another size was told of %s", qPrintable(form));
     return bytes;
 }
