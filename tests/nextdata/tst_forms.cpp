@@ -141,6 +141,8 @@ private slots:
         add("palette-group", "Sunset", {{"group", "0"}}, "E3 81 56 00 EC 01 00 00", 32);
         add("tiles-4bit", "Rocks", {}, "00 01 10 00 00 12 21 00 01 23 32 10 12 34 53 21 F0 00 00 00 0F 00 00 00 77",
             96);
+        add("tiles-8bit", "Rocks", {}, "20 20 20 21 21 20 20 20 20", 192);
+        add("tiles-8bit", "Rocks", {{"order", "columns"}}, "20 20 20 21 2F 20 27 20 20", 192);
         add("tiles-1bit", "Rocks", {{"ink", "1"}}, "18 24 42 81 00 00 00 00 00", 24);
         add("tile-attributes", "Rocks", {}, "00 0F 41", 3);
         add("tile-values", "Rocks", {}, "00 05 FF", 3);
