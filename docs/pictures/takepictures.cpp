@@ -5,6 +5,7 @@
 //
 // With names it saves only those pictures.
 
+#include "app/dialogs/importimagedialog.h"
 #include "app/dialogs/importpicturedialog.h"
 #include "app/documentcontroller.h"
 #include "app/documenttabview.h"
@@ -20,6 +21,8 @@
 #include "app/version.h"
 #include "editors/canvas/canvas.h"
 #include "editors/canvas/imageeditorview.h"
+#include "editors/canvas/imageimportdialog.h"
+#include "editors/canvas/reductionbox.h"
 #include "editors/canvas/spritewindow.h"
 #include "editors/canvas/tilepickertool.h"
 #include "editors/canvas/tilewindow.h"
@@ -52,6 +55,7 @@
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QRadioButton>
 #include <QTableView>
 #include <QTemporaryDir>
 
@@ -329,6 +333,22 @@ void PictureTaker::takePictureImport()
     settle();
     save(dialog.grab(), QStringLiteral("import-picture"));
     dialog.reject();
+
+    SpriteEditor::ImportImageDialog sprites(&m_window);
+    sprites.show(project(), file);
+    sprites.findChildren<QRadioButton *>().constLast()->setChecked(true);
+    sprites.findChild<ReductionBox *>()->setReduction(Dithering::Ordered);
+    settle();
+    save(sprites.grab(), QStringLiteral("import-sprites"));
+    sprites.reject();
+
+    ImageEditor::ImportDialog image(&m_window);
+    image.setOffersNewPalette(true);
+    image.show(dusk, project().palettes().constFirst(), {256, 192}, Palette::Size);
+    image.findChild<ReductionBox *>()->setReduction(Dithering::Diffusion);
+    settle();
+    save(image.grab(), QStringLiteral("import-image"));
+    image.reject();
 }
 
 void PictureTaker::takeExport()

@@ -22,7 +22,9 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QMessageBox>
+#include <QPushButton>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -209,16 +211,17 @@ void ProjectActions::importPalette(const QUuid &paletteId, const QString &filePa
     const QPointer<Palette> palette = project->palette(paletteId);
     if (palette)
         words.copyColours(*palette);
-    const std::optional<int> leftOut = readPaletteFile(filePath, words);
+    const std::optional<QList<quint16>> leftOut = readPaletteFile(filePath, words);
     if (!leftOut) {
         qWarning("Read error");
         reportIncompleteImport(tr("The file is neither a palette nor a picture that can be read"));
         return;
     }
-    if (*leftOut > 0) {
+    if (!leftOut->isEmpty()) {
         reportIncompleteImport(tr("The picture has %1 colours; the palette takes the first %2 of them")
-                                   .arg(Palette::Size + *leftOut)
+                                   .arg(Palette::Size + leftOut->size())
                                    .arg(Palette::Size));
+        offerPaletteOf(*leftOut, QFileInfo(filePath).completeBaseName());
     }
     if (palette) {
         replaceWords(*palette, words, m_undoStackFor ? m_undoStackFor(paletteId) : nullptr);
@@ -227,6 +230,26 @@ void ProjectActions::importPalette(const QUuid &paletteId, const QString &filePa
     const QPointer<Palette> made = project->createPalette(CreateAction::Blank, QFileInfo(filePath).completeBaseName());
     made->copyColours(words);
     emit paletteReady(made->id());
+}
+
+void ProjectActions::offerPaletteOf(const QList<quint16> &words, const QString &name)
+{
+    QPushButton *button = m_importBox->addButton(tr("New Palette for the Others"), QMessageBox::AcceptRole);
+    connect(button, &QPushButton::clicked, this, [this, words, name] {
+        Project *project = m_project();
+        if (!project)
+            return;
+        Palette others;
+        for (qsizetype i = 0; i < std::min(words.size(), qsizetype(Palette::Size)); ++i)
+            others.storeRawColour(int(i), words[i]);
+        const QPointer<Palette> made = project->createPalette(CreateAction::Blank, tr("%1, more").arg(name));
+        made->copyColours(others);
+        emit paletteReady(made->id());
+    });
+    connect(m_importBox, &QDialog::finished, button, [box = m_importBox, button] {
+        box->removeButton(button);
+        button->deleteLater();
+    });
 }
 
 void ProjectActions::importSpritePicture(const SpriteImport &import)

@@ -7,6 +7,7 @@
 #include "model/project.h"
 #include "undo/editrecorder.h"
 
+#include <QList>
 #include <QObject>
 #include <QPointer>
 #include <QSize>
@@ -87,6 +88,8 @@ private:
     [[nodiscard]] bool remove(Project &project, ProjectTree::ProjectNode node, const QUuid &id);
     /// The message box for imports, with a text that names the failure.
     void reportIncompleteImport(const QString &failure);
+    /// A button in this box that makes a palette of colours for which another one had no room.
+    void offerPaletteOf(const QList<quint16> &words, const QString &name);
 
     ProjectProvider m_project;
     QPointer<QWidget> m_dialogParent;

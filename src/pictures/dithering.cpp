@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <limits>
+#include <optional>
 
 namespace {
 
@@ -57,6 +59,81 @@ uchar nearest(const Colours &colours, const Fine &wanted)
     return uchar(found);
 }
 
+/// Finds the nearest of many colours, which are too many to look at all of them for every pixel: for each of the
+/// machine's colours it knows which can be the nearest of anything that lies around it.
+class NearestOfMany
+{
+public:
+    explicit NearestOfMany(const Colours &colours) : m_colours(colours)
+    {
+        for (int cell = 0; cell < NineBitColour::Count; ++cell) {
+            int reach = std::numeric_limits<int>::max(); // how far the nearest is at most, from anywhere in the cell
+            for (const quint16 colour : colours)
+                reach = std::min(reach, distance(colour, cell, Part / 2));
+            for (size_t i = 0; i < colours.size(); ++i) {
+                if (distance(colours[i], cell, -Part / 2) <= reach)
+                    m_near[size_t(cell)].push_back(uchar(i));
+            }
+        }
+    }
+
+    /// What lies outside of all colours counts as being at their edge.
+    [[nodiscard]] uchar of(const Fine &wanted) const
+    {
+        const auto inside = [](int part) { return std::clamp(part, -Part / 2, 7 * Part + Part / 2 - 1); };
+        const Fine edge{inside(wanted.red), inside(wanted.green), inside(wanted.blue)};
+        const auto level = [](int part) { return (part + Part / 2) / Part; };
+        const int cell = NineBitColour::compose(level(edge.red), level(edge.green), level(edge.blue));
+        uchar found = 0;
+        int least = std::numeric_limits<int>::max();
+        for (const uchar i : m_near[size_t(cell)]) {
+            const int distance = (fineOf(m_colours[i]) - edge).square();
+            if (distance < least) {
+                least = distance;
+                found = i;
+            }
+        }
+        return found;
+    }
+
+private:
+    /// The squared distance of a colour to the middle of a cell, each part of it so much more or less.
+    static int distance(int colour, int cell, int more)
+    {
+        const auto square = [more](int a, int b) {
+            const int part = std::max(std::abs(a - b) * Part + more, 0);
+            return part * part;
+        };
+        return square(NineBitColour::red(colour), NineBitColour::red(cell))
+            + square(NineBitColour::green(colour), NineBitColour::green(cell))
+            + square(NineBitColour::blue(colour), NineBitColour::blue(cell));
+    }
+
+    const Colours &m_colours;
+    std::array<std::vector<uchar>, NineBitColour::Count> m_near;
+};
+
+/// The nearest of the colours that a pixel may take, however many they are.
+class Nearest
+{
+public:
+    uchar operator()(const Colours &colours, const Fine &wanted)
+    {
+        constexpr size_t Few = 16;
+        if (colours.size() <= Few)
+            return nearest(colours, wanted);
+        if (m_of != &colours) {
+            m_of = &colours;
+            m_many.emplace(colours);
+        }
+        return m_many->of(wanted);
+    }
+
+private:
+    const Colours *m_of = nullptr;
+    std::optional<NearestOfMany> m_many;
+};
+
 /// Thresholds 0–63, each as far as possible from those near it.
 constexpr auto Bayer = [] {
     std::array<std::array<int, 8>, 8> thresholds{};
@@ -75,14 +152,14 @@ constexpr auto Bayer = [] {
 }();
 
 /// The mix of colours that looks most like the wanted one, of which the threshold takes one, dark to light.
-uchar mixed(const Colours &colours, const Fine &wanted, int threshold)
+uchar mixed(Nearest &search, const Colours &colours, const Fine &wanted, int threshold)
 {
     constexpr size_t Mix = 16;
     std::array<uchar, Mix> candidates{};
     Fine error;
     for (uchar &candidate : candidates) {
         // three quarters of the error: all of it mixes in colours that are seen as dots
-        candidate = nearest(colours, wanted + error.times(3, 4));
+        candidate = search(colours, wanted + error.times(3, 4));
         error = error + wanted - fineOf(colours[candidate]);
     }
     const auto luminance = [&colours](uchar index) {
@@ -100,6 +177,7 @@ std::vector<uchar> diffused(const std::vector<QRgb> &pixels, const QSize &size, 
 {
     constexpr int Most = 2 * Part;
     const int width = size.width();
+    Nearest search;
     std::vector<uchar> result(pixels.size());
     std::vector<Fine> here(size_t(width) + 2);
     std::vector<Fine> below(size_t(width) + 2); // sixteenths, as are those here
@@ -112,7 +190,7 @@ std::vector<uchar> diffused(const std::vector<QRgb> &pixels, const QSize &size, 
             const size_t at = size_t(y) * size_t(width) + size_t(x);
             const size_t column = size_t(x) + 1;
             const Fine wanted = fineOf(pixels[at]) + here[column].times(1, 16);
-            result[at] = nearest(*colours, wanted);
+            result[at] = search(*colours, wanted);
             Fine error = wanted - fineOf((*colours)[result[at]]);
             for (int *part : {&error.red, &error.green, &error.blue})
                 *part = std::clamp(*part, -Most, Most);
@@ -134,6 +212,7 @@ std::vector<uchar> Dither::apply(Dithering dithering, const std::vector<QRgb> &p
 {
     if (dithering == Dithering::Diffusion)
         return diffused(pixels, size, coloursAt);
+    Nearest search;
     std::vector<uchar> result(pixels.size());
     for (int y = 0; y < size.height(); ++y) {
         for (int x = 0; x < size.width(); ++x) {
@@ -143,8 +222,8 @@ std::vector<uchar> Dither::apply(Dithering dithering, const std::vector<QRgb> &p
                 continue;
             const Fine wanted = fineOf(pixels[at]);
             result[at] = dithering == Dithering::Ordered
-                ? mixed(*colours, wanted, Bayer[size_t(y % 8)][size_t(x % 8)])
-                : nearest(*colours, fineOf(quint16(NineBitColour::nearest(pixels[at]))));
+                ? mixed(search, *colours, wanted, Bayer[size_t(y % 8)][size_t(x % 8)])
+                : search(*colours, fineOf(quint16(NineBitColour::nearest(pixels[at]))));
         }
     }
     return result;

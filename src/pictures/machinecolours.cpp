@@ -2,6 +2,7 @@
 
 #include "model/nximage.h"
 #include "model/storedindices.h"
+#include "pictures/ninebitcolour.h"
 
 #include <algorithm>
 #include <array>
@@ -127,6 +128,12 @@ QImage MachineColours::kept(QImage picture)
         std::transform(line, line + colours.width(), line, keptColour);
     }
     return colours;
+}
+
+QRgb MachineColours::keptOf(int number)
+{
+    return qRgb(keptComponent(NineBitColour::red(number)), keptComponent(NineBitColour::green(number)),
+                keptComponent(NineBitColour::blue(number)));
 }
 
 QRgb MachineColours::shown(QRgb keptColour)

@@ -43,6 +43,9 @@ constexpr int levelOf(int component)
 /// keeps its levels. Equal levels become equal colours.
 [[nodiscard]] QImage kept(QImage picture);
 
+/// The colour that kept() gives one of the machine's, by its number (NineBitColour).
+[[nodiscard]] QRgb keptOf(int number);
+
 /// The colour that the machine shows for a colour of a picture that was made by kept().
 [[nodiscard]] QRgb shown(QRgb keptColour);
 

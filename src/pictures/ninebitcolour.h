@@ -44,6 +44,11 @@ constexpr quint16 wordOf(int number)
     return NextColour::compose(red(number), green(number), blue(number), false);
 }
 
+constexpr quint16 numberOf(quint16 word)
+{
+    return quint16(compose(NextColour::red(word), NextColour::green(word), NextColour::blue(word)));
+}
+
 constexpr QRgb shown(int number)
 {
     return qRgb(NextColour::componentOf(red(number)), NextColour::componentOf(green(number)),

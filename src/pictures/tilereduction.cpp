@@ -264,11 +264,6 @@ void setWords(TileReduction &reduction, const ColourGroups &groups)
     reduction.colours = int(colours.count());
 }
 
-int numberOfWord(quint16 word)
-{
-    return NineBitColour::compose(NextColour::red(word), NextColour::green(word), NextColour::blue(word));
-}
-
 /// How far the tiles are from the picture, as the machine would show it with all its colours.
 double errorOf(const TileReduction &reduction, Cells &cells)
 {
@@ -282,7 +277,7 @@ double errorOf(const TileReduction &reduction, Cells &cells)
             if (isClear(wanted[i]))
                 continue;
             ++pixels;
-            sum += NineBitColour::distance(numberOf(wanted[i]), numberOfWord(reduction.words[shown[i]]));
+            sum += NineBitColour::distance(numberOf(wanted[i]), NineBitColour::numberOf(reduction.words[shown[i]]));
         }
     }
     return pixels == 0 ? 0 : std::sqrt(double(sum) / double(pixels));
@@ -352,7 +347,7 @@ QImage TileReduction::shown() const
     for (size_t entry = 0; entry < table.size(); ++entry)
         table[entry] = hasClearPixels && entry % GroupColours == ClearPixel
             ? 0
-            : NineBitColour::shown(numberOfWord(words[qsizetype(entry)]));
+            : NineBitColour::shown(NineBitColour::numberOf(words[qsizetype(entry)]));
     for (int row = 0; row < picture.height(); ++row) {
         auto *line = reinterpret_cast<QRgb *>(picture.scanLine(row));
         for (int column = 0; column < size.width(); ++column) {

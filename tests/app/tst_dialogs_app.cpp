@@ -8,11 +8,13 @@
 #include "app/dialogs/importzxfontdialog.h"
 #include "app/dialogs/mapdialog.h"
 #include "app/dialogs/paletteselectordialog.h"
-#include "app/dialogs/picturepreview.h"
 #include "app/dialogs/tilesetdialog.h"
+#include "editors/canvas/reductionbox.h"
 #include "model/palette.h"
+#include "pictures/ninebitcolour.h"
 #include "support/modeltools.h"
 #include "support/testmain.h"
+#include "ui/picturepreview.h"
 
 #include <QCheckBox>
 #include <QLabel>
@@ -239,6 +241,36 @@ private slots:
         field<QRadioButton>(dialog, slice ? 1 : 0)->setChecked(true);
         field<DepthChooser>(dialog)->setCurrentIndex(fourBit ? 1 : 0);
         QTEST(confirm(dialog, name), "problem");
+    }
+
+    void spritesOfAPictureWithManyColours()
+    {
+        QImage picture(64, 64, QImage::Format_RGB32);
+        for (int i = 0; i < 64 * 64; ++i)
+            picture.setPixel(i % 64, i / 64, NineBitColour::shown(i % 512));
+        const QString file = m_folder("photo.png");
+        QVERIFY(picture.save(file));
+        SpriteEditor::ImportImageDialog dialog;
+        QSignalSpy accepted(&dialog, &SpriteEditor::ImportImageDialog::accepted);
+        dialog.show(*m_project, file);
+        const auto tells = [&dialog](const QString &text) {
+            const QList<QLabel *> labels = dialog.findChildren<QLabel *>();
+            return std::any_of(labels.cbegin(), labels.cend(),
+                               [&](const QLabel *label) { return label->text().contains(text); });
+        };
+        field<QRadioButton>(dialog, 1)->setChecked(true);
+        QVERIFY(tells("There is room for 255; the others take the nearest of these"));
+        auto *reduction = field<ReductionBox>(dialog);
+        QVERIFY(!reduction->reduction()); // nobody has asked for it
+        reduction->setReduction(Dithering::None);
+        QVERIFY(tells("Colours of the machine: 512 before, 255 after; mean error: 0.7"));
+        field<DepthChooser>(dialog)->setCurrentIndex(1); // which refuses the picture as it is
+        QVERIFY(tells("Colours of the machine: 512 before, 15 after; mean error: "));
+        const QImage after = dialog.findChildren<PicturePreview *>()[0]->picture();
+        QVERIFY(after.convertToFormat(QImage::Format_RGB32) != picture);
+        QCOMPARE(dialog.findChildren<PicturePreview *>()[1]->picture(), picture);
+        QCOMPARE(confirm(dialog), QString());
+        QCOMPARE(accepted[0][0].value<SpriteImport>().reduction, std::optional(Dithering::None));
     }
 
     void mapOfAPicture_data()

@@ -300,6 +300,15 @@ private slots:
         for (int i = 0; i < 256; ++i)
             QCOMPARE(palette->rawColour(i), i >> 1 << 8 | (i & 1));
         QCOMPARE(shownFailure(), "The picture has 512 colours; the palette takes the first 256 of them");
+        // a second one takes what is left
+        const auto *box = m_window->findChild<QMessageBox *>();
+        QCOMPARE(box->buttons().size(), 2);
+        box->buttons().constLast()->click();
+        const QPointer<Palette> second = m_project->palette(m_ready);
+        QVERIFY(second && second->name() == "colours, more" && shownFailure().isEmpty());
+        for (int i = 0; i < 256; ++i)
+            QCOMPARE(second->rawColour(i), NineBitColour::wordOf(256 + i));
+        QCOMPARE(box->buttons().size(), 1);
     }
 
     void keepsTheMachinesLevels_data()
@@ -443,6 +452,52 @@ private slots:
                 QCOMPARE(shown, hardware.colour(0).rgb());
             }
         }
+    }
+
+    void reducedSpritesShowTheWholePicture_data()
+    {
+        QTest::addColumn<Quenmora::Sprite>("depth");
+        QTest::addColumn<bool>("newPalette");
+        for (const bool newPalette : {false, true}) {
+            QTest::addRow("8 bits %d", newPalette) << Quenmora::EightBit << newPalette;
+            QTest::addRow("4 bits %d", newPalette) << Quenmora::FourBit << newPalette;
+        }
+    }
+
+    /// In colours that are near, with the holes where they were, and without telling the recorder of an edit.
+    void reducedSpritesShowTheWholePicture()
+    {
+        QFETCH(Quenmora::Sprite, depth);
+        QFETCH(bool, newPalette);
+        const QUuid standard = makePalette();
+        QImage picture(64, 32, QImage::Format_ARGB32);
+        for (int i = 0; i < 64 * 32; ++i)
+            picture.setPixel(i % 64, i / 64, qRgba(i % 64 * 4, i / 64 * 8, 128, i % 5 == 0 ? 0 : 255));
+        QVERIFY(picture.save(m_folder("hero.png")));
+        m_actions->importSpritePicture({.file = m_folder("hero.png"),
+                                        .name = "Hero",
+                                        .depth = depth,
+                                        .paletteId = newPalette ? QUuid() : standard,
+                                        .reduction = Dithering::Diffusion});
+        const QPointer<SpriteBank> bank = m_project->spriteBank(m_ready);
+        QVERIFY(bank && bank->count() >= 8);
+        QSet<int> shownPixels;
+        double error = 0;
+        for (int i = 0; i < 64 * 32; ++i) {
+            const int sprite = bank->count() - 8 + i % 64 / 16 + i / 64 / 16 * 4;
+            const int x = i % 16;
+            const int y = i / 64 % 16;
+            const int stored = bank->spriteImage(sprite, false, false, false).pixelIndex(x, y);
+            const QColor shown = bank->renderSprite(sprite, stored / 16, false, false, false).pixelColor(x, y);
+            QCOMPARE(shown.alpha(), i % 5 == 0 ? 0 : 255);
+            if (shown.alpha() == 0)
+                continue;
+            shownPixels.insert(stored);
+            error += std::abs(qRed(picture.pixel(i % 64, i / 64)) - shown.red());
+        }
+        QVERIFY(depth == Quenmora::EightBit ? shownPixels.size() > 32 : shownPixels.size() <= 15);
+        if (newPalette) // the standard palette has no group of 16 for such a picture
+            QVERIFY(error / (64 * 32) < (depth == Quenmora::EightBit ? 16 : 40));
     }
 
     void spriteFailureLeavesNothing()

@@ -1,6 +1,8 @@
 #include "support/testmain.h"
 
+#include "model/palette.h"
 #include "pictures/colourgroups.h"
+#include "pictures/reducedpixels.h"
 #include "pictures/tilereduction.h"
 
 #include <cmath>
@@ -229,6 +231,93 @@ private slots:
         }
         const QImage opaque = TileReduction::of(image, {.dithering = dithering, .keepClearPixels = false}).shown();
         QVERIFY(!opaque.hasAlphaChannel());
+    }
+
+    void wholePicturesTakeFewColours_data()
+    {
+        QTest::addColumn<Content>("content");
+        QTest::addColumn<int>("colours");
+        QTest::addColumn<Dithering>("dithering");
+        for (const Content content : {Content::Photo, Content::Noise, Content::Stripes}) {
+            for (const int colours : {16, 256}) {
+                for (const Dithering dithering : {Dithering::None, Dithering::Ordered, Dithering::Diffusion})
+                    QTest::addRow("%s %d %d", nameOf(content).constData(), colours, int(dithering))
+                        << content << colours << dithering;
+            }
+        }
+    }
+
+    void wholePicturesTakeFewColours()
+    {
+        QFETCH(Content, content);
+        QFETCH(int, colours);
+        QFETCH(Dithering, dithering);
+        constexpr int Side = 80;
+        const QImage image = picture(content, Side);
+        const auto numberAt = [&image](int i) { return NineBitColour::nearest(image.pixel(i % Side, i / Side)); };
+        const ReducedPixels reduced =
+            ReducedPixels::of(image, {.dithering = dithering, .colourCount = colours, .clear = 3});
+        Palette words; // as the importers make one
+        for (int i = 0; i < 256; ++i)
+            words.setColour(i, QColor::fromRgb(reduced.pixels.color(i)), false);
+        std::set<int> used;
+        std::map<int, int> firstCome; // colours that come first, and their indices
+        std::vector<int> taken;
+        qint64 sum = 0;
+        qint64 firstComeSum = 0;
+        for (int i = 0; i < Side * Side; ++i) {
+            if (int(firstCome.size()) < colours - 1)
+                firstCome.emplace(numberAt(i), 0);
+            used.insert(reduced.pixels.pixelIndex(i % Side, i / Side));
+        }
+        for (const int index : used) {
+            QVERIFY(index < colours && index != 3);
+            taken.push_back(NineBitColour::numberOf(words.rawColour(index)));
+        }
+        QCOMPARE(reduced.reduction.coloursUsed, int(used.size()));
+        for (int i = 0; i < Side * Side; ++i) {
+            const int wanted = numberAt(i);
+            const int index = reduced.pixels.pixelIndex(i % Side, i / Side);
+            const int distance = squared(wanted, NineBitColour::numberOf(words.rawColour(index)));
+            sum += distance;
+            int nearest = 1000;
+            for (const int colour : taken)
+                nearest = std::min(nearest, squared(wanted, colour));
+            if (dithering == Dithering::None)
+                QCOMPARE(distance, nearest);
+            nearest = 1000;
+            for (const auto &[colour, unused] : firstCome)
+                nearest = std::min(nearest, squared(wanted, colour));
+            firstComeSum += nearest;
+        }
+        QVERIFY(std::abs(reduced.reduction.error - std::sqrt(double(sum) / (Side * Side))) < 1e-9);
+        qInfo("error %.3f, first come first served %.3f", reduced.reduction.error,
+              std::sqrt(double(firstComeSum) / (Side * Side)));
+        if (dithering == Dithering::None)
+            QVERIFY(sum <= firstComeSum);
+        // what fits stays exact, however it is dithered
+        const ReducedPixels exact = ReducedPixels::of(picture(Content::Stripes, 112), {.dithering = dithering});
+        QCOMPARE(exact.reduction.error, 0.0);
+    }
+
+    void aPaletteIsUsedAsItIs()
+    {
+        Palette palette;
+        for (int i = 0; i < 256; ++i) // the red ones are those of group 5
+            palette.storeRawColour(i, i / 16 == 5 ? NineBitColour::wordOf((i % 8) << 6) : 0);
+        QImage image(16, 1, QImage::Format_ARGB32);
+        for (int x = 0; x < 16; ++x)
+            image.setPixel(x, 0, x < 8 ? NineBitColour::shown(x << 6) : qRgba(0, 0, 0, 100));
+        const ReducedPixels four = ReducedPixels::of(image, {.colourCount = 16, .clear = 6, .palette = &palette});
+        for (int x = 0; x < 16; ++x)
+            QCOMPARE(four.pixels.pixelIndex(x, 0), x == 6 ? 5 * 16 + 14 : x < 8 ? 5 * 16 + x : 5 * 16 + 6);
+        const ReducedPixels first =
+            ReducedPixels::of(image, {.colourCount = 16, .clear = 6, .palette = &palette, .anyGroup = false});
+        QCOMPARE(first.pixels.pixelIndex(7, 0), 0);
+        QCOMPARE(first.pixels.pixelIndex(8, 0), 6);
+        const ReducedPixels opaque = ReducedPixels::of(image, {.palette = &palette, .keepClearPixels = false});
+        QCOMPARE(opaque.pixels.pixelIndex(9, 0), 0);
+        QVERIFY(ReducedPixels::of({}, {}).pixels.isNull());
     }
 
     void turnedTilesAreOne()

@@ -2,15 +2,17 @@
 
 #include "app/dialogs/assetchooser.h"
 #include "app/dialogs/depthchooser.h"
-#include "app/dialogs/picturepreview.h"
+#include "editors/canvas/reductionbox.h"
 #include "model/picturefile.h"
 #include "model/spritebank.h"
 #include "pictures/machinecolours.h"
 #include "ui/busy.h"
+#include "ui/picturepreview.h"
 
 #include <QCheckBox>
 #include <QFileInfo>
 #include <QFormLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
@@ -43,7 +45,9 @@ ImportImageDialog::ImportImageDialog(QWidget *parent)
     , m_palette(new AssetChooser(this))
     , m_keepColours(new QCheckBox(tr("&Keep the machine's colours"), this))
     , m_depth(new DepthChooser(this))
-    , m_preview(new PicturePreview(this))
+    , m_reduction(new ReductionBox(this))
+    , m_after(new PicturePreview(this))
+    , m_before(new PicturePreview(this))
     , m_summary(new QLabel(this))
 {
     m_palette->setAccessibleName(tr("Palette"));
@@ -53,13 +57,28 @@ ImportImageDialog::ImportImageDialog(QWidget *parent)
     m_keepColours->setToolTip(tr("Every colour of the picture is one that the Next has, and stays exactly that"));
     form()->addRow(QString(), m_keepColours);
     form()->addRow(tr("&Depth"), m_depth);
-    body()->addWidget(m_preview, 1);
+    form()->addRow(tr("&Fewer colours"), m_reduction);
+    auto *pictures = new QHBoxLayout;
+    for (const auto &[text, picture] : {std::pair(tr("Before"), m_before), {tr("After"), m_after}}) {
+        auto *column = new QVBoxLayout;
+        column->addWidget(new QLabel(text));
+        column->addWidget(picture, 1);
+        picture->setAccessibleName(text);
+        pictures->addLayout(column, 1);
+    }
+    body()->addLayout(pictures, 1);
+    m_summary->setTextFormat(Qt::PlainText);
     body()->addWidget(m_summary);
     for (const QAbstractButton *button :
          {static_cast<QAbstractButton *>(m_slice), static_cast<QAbstractButton *>(m_keepColours)})
         connect(button, &QAbstractButton::toggled, this, &ImportImageDialog::refresh);
-    for (const QComboBox *box : {static_cast<QComboBox *>(m_palette), static_cast<QComboBox *>(m_depth)})
+    for (const QComboBox *box : {static_cast<QComboBox *>(m_palette), static_cast<QComboBox *>(m_depth),
+                                 static_cast<QComboBox *>(m_reduction)})
         connect(box, &QComboBox::currentIndexChanged, this, &ImportImageDialog::refresh);
+    connect(this, &QDialog::finished, this, [this] {
+        m_picture = {};
+        m_reduced.reset();
+    });
 }
 
 void ImportImageDialog::show(const Project &project, const QString &file)
@@ -71,12 +90,16 @@ void ImportImageDialog::show(const Project &project, const QString &file)
                         PictureFile::pixelCount(file));
         auto [image, refusal] = PictureFile::read(file);
         m_refusal = refusal;
+        m_picture = {}; // until all else is set
         m_size = image.size();
         const bool canKeep = MachineColours::areIn(image);
         take(m_kept, canKeep ? MachineColours::kept(image) : QImage());
-        take(m_quantised, std::move(image));
+        take(m_quantised, image);
         m_keepColours->setEnabled(canKeep);
         m_keepColours->setChecked(canKeep);
+        m_reduction->setReduction({});
+        m_picture = std::move(image);
+        m_before->setPicture(m_picture);
     }
     m_palette->offerPalettes(project);
     const bool hasPalettes = m_palette->count() > 0;
@@ -127,34 +150,60 @@ SpriteColours ImportImageDialog::placesOf(const QList<QRgb> &colours) const
     return SpriteColours::nearest(wanted, *palette, transparency());
 }
 
+QImage ImportImageDialog::indexed()
+{
+    m_reduced.reset();
+    const std::optional<Dithering> dithering = m_reduction->reduction();
+    if (!dithering || m_picture.isNull())
+        return placesOf(look().thumbnail.colours()).pixels(look().thumbnail);
+    const Busy busy(parentWidget(), tr("Reducing %1…").arg(QFileInfo(m_file).fileName()),
+                    qint64(m_size.width()) * m_size.height());
+    m_reduced = ReducedPixels::of(m_picture,
+                                  {.dithering = *dithering,
+                                   .colourCount = transparency().pixelCount(),
+                                   .clear = transparency().pixel(),
+                                   .palette = chosenPalette()});
+    return m_reduced->pixels;
+}
+
 void ImportImageDialog::refresh()
 {
     m_palette->setEnabled(m_remap->isChecked());
-    const SpriteColours colours = placesOf(look().thumbnail.colours());
+    m_keepColours->setEnabled(!m_kept.colours.isEmpty() && !m_reduction->reduction());
+    QImage shown = indexed();
     Palette shownColours; // as the Next has them
     if (const Palette *palette = chosenPalette()) {
         shownColours.copyColours(*palette);
     } else {
-        for (qsizetype i = 0; i < colours.table().size(); ++i)
-            shownColours.setColour(int(i), QColor::fromRgb(colours.table()[i]), false);
+        const QList<QRgb> colours = shown.colorTable();
+        for (qsizetype i = 0; i < colours.size(); ++i)
+            shownColours.setColour(int(i), QColor::fromRgb(colours[i]), false);
     }
-    QImage shown = colours.pixels(look().thumbnail);
     if (!shown.isNull()) {
         shown.setColorTable(shownColours.colourTable());
-        shown.setColor(transparency().pixel(), qRgba(0, 0, 0, 0));
+        for (int index = transparency().pixel(); index < Palette::Size; index += transparency().pixelCount())
+            shown.setColor(index, qRgba(0, 0, 0, 0));
     }
-    m_preview->setPicture(shown);
+    m_after->setPicture(shown);
     m_summary->setText(summary());
     revalidate();
 }
 
+/// What there is, and what is lost of it.
 QString ImportImageDialog::summary() const
 {
     if (m_size.isEmpty())
         return tr("No picture");
-    const QString text = m_hasClearPixels ? tr("%1 × %2 sprites, colours: %3, and transparent pixels")
-                                          : tr("%1 × %2 sprites, colours: %3");
-    return text.arg(pieces().width()).arg(pieces().height()).arg(look().colours.size());
+    const qsizetype colours = look().colours.size();
+    QString text = m_hasClearPixels ? tr("%1 × %2 sprites, colours: %3, and transparent pixels")
+                                    : tr("%1 × %2 sprites, colours: %3");
+    text = text.arg(pieces().width()).arg(pieces().height()).arg(colours) + u'\n';
+    if (m_reduced)
+        return text + ReductionBox::told(m_reduced->reduction);
+    const int room = transparency().pixelCount() - 1;
+    if (!chosenPalette() && colours > room)
+        return text + tr("There is room for %1; the others take the nearest of these").arg(room);
+    return text;
 }
 
 QString ImportImageDialog::problem() const
@@ -171,7 +220,7 @@ QString ImportImageDialog::problem() const
         return tr("The picture holds more sprites than fit into a bank");
     if (m_slice->isChecked() && m_project && m_project->paletteNames().contains(name()))
         return tr("There is a palette of this name already; please choose another name");
-    return m_depth->depth() == Quenmora::FourBit ? depthProblem() : QString();
+    return m_depth->depth() == Quenmora::FourBit && !m_reduced ? depthProblem() : QString();
 }
 
 /// What keeps the picture from being shown by 4-bit sprites: they use one group of 16 colours, one of which is
@@ -195,7 +244,7 @@ QString ImportImageDialog::depthProblem() const
 void ImportImageDialog::submit()
 {
     emit accepted({m_file, name(), m_depth->depth(), m_remap->isChecked() ? m_palette->id() : QUuid(),
-                   m_keepColours->isChecked()});
+                   m_keepColours->isChecked(), m_reduction->reduction()});
 }
 
 } // namespace SpriteEditor

@@ -1,7 +1,7 @@
 #include "app/dialogs/importpicturedialog.h"
 
-#include "app/dialogs/picturepreview.h"
 #include "ui/busy.h"
+#include "ui/picturepreview.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -11,20 +11,6 @@
 #include <QLabel>
 #include <QLocale>
 #include <QSignalBlocker>
-
-namespace {
-
-/// Pixels along the longer side of the pictures that are shown.
-constexpr int PreviewSide = 1024;
-
-QImage preview(const QImage &picture)
-{
-    return std::max(picture.width(), picture.height()) <= PreviewSide
-        ? picture
-        : picture.scaled(PreviewSide, PreviewSide, Qt::KeepAspectRatio, Qt::SmoothTransformation);
-}
-
-} // namespace
 
 ImportPictureDialog::ImportPictureDialog(QWidget *parent)
     : DialogBase(tr("Import Picture"), parent)
@@ -85,7 +71,7 @@ void ImportPictureDialog::show(const QString &file, const PictureLoss &loss)
         const Dithering usual = lossy && !loss.isMachines ? Dithering::Ordered : Dithering::None;
         m_dithering->setCurrentIndex(m_dithering->findData(int(usual)));
     }
-    m_before->setPicture(preview(loss.picture));
+    m_before->setPicture(loss.picture);
     refresh();
     open();
 }
@@ -113,7 +99,7 @@ void ImportPictureDialog::refresh()
                                         {.dithering = m_together->isChecked() ? dithering : Dithering::None,
                                          .keepClearPixels = m_keepClearPixels->isChecked()});
     }
-    m_after->setPicture(preview(m_reduction ? m_reduction->shown() : m_loss.shown));
+    m_after->setPicture(m_reduction ? m_reduction->shown() : m_loss.shown);
     m_summary->setText(summary());
     revalidate();
 }

@@ -1,9 +1,9 @@
 #include "app/dialogs/importzxfontdialog.h"
 
-#include "app/dialogs/picturepreview.h"
 #include "model/palette.h"
 #include "model/rawfile.h"
 #include "ui/indexsuffix.h"
+#include "ui/picturepreview.h"
 
 #include <QComboBox>
 #include <QFile>

@@ -98,16 +98,16 @@ Words wordsOfPicture(const QString &fileName)
 
 } // namespace
 
-std::optional<int> readPaletteFile(const QString &fileName, Palette &words)
+std::optional<Words> readPaletteFile(const QString &fileName, Palette &words)
 {
     // a small picture may be just as long as a palette file
     const Words fromPicture = hasPaletteSuffix(fileName) ? Words() : wordsOfPicture(fileName);
     if (fromPicture.isEmpty())
-        return words.importData(fileName) ? std::optional(0) : std::nullopt;
+        return words.importData(fileName) ? std::optional(Words()) : std::nullopt;
     const int taken = qMin(int(fromPicture.size()), Palette::Size);
     for (int i = 0; i < taken; ++i)
         words.storeRawColour(i, fromPicture[i]);
-    return int(fromPicture.size()) - taken;
+    return fromPicture.mid(taken);
 }
 
 void replaceWords(Palette &palette, const Palette &words, QUndoStack *stack)

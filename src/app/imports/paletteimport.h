@@ -13,9 +13,9 @@ class QUndoStack;
 
 /// Reads the words of a palette file, or of a picture: its colour table, or else the first distinct colours
 /// of its pixels, row by row, as colours of the Next, at most 256; entries beyond them stay as they are. Colours that
-/// are all the machine's keep their levels. Gives the number of colours for which there was no room; none, and nothing
-/// changes, when the file is neither.
-[[nodiscard]] std::optional<int> readPaletteFile(const QString &fileName, Palette &words);
+/// are all the machine's keep their levels. Gives the words for which there was no room; no list, and nothing changes,
+/// when the file is neither.
+[[nodiscard]] std::optional<QList<quint16>> readPaletteFile(const QString &fileName, Palette &words);
 
 /// Gives a palette the words of another, as one undo step on its stack; without a stack it cannot be undone.
 void replaceWords(Palette &palette, const Palette &words, QUndoStack *stack);

@@ -9,6 +9,7 @@
 #include "model/project.h"
 #include "model/spritebank.h"
 #include "pictures/machinecolours.h"
+#include "pictures/reducedpixels.h"
 #include "ui/busy.h"
 
 #include <QCoreApplication>
@@ -51,31 +52,52 @@ SpriteBank *importSliced(Project &project, const SpriteImport &import, const QIm
     return bank->importPieces(slicer) > 0 ? bank : nullptr;
 }
 
+/// A picture whose indices and colours are those of a new bank.
+struct IndexedSprites
+{
+    QImage pixels;
+    bool hasClearPixels = false;
+};
+
+/// In the colours of a palette, or in its own.
+IndexedSprites spritesOf(QImage image, const SpriteImport &import, const Palette *palette)
+{
+    const SpriteTransparency transparency{import.depth};
+    if (import.reduction) {
+        const ReducedPixels reduced = ReducedPixels::of(image,
+                                                        {.dithering = *import.reduction,
+                                                         .colourCount = transparency.pixelCount(),
+                                                         .clear = transparency.pixel(),
+                                                         .palette = palette});
+        return {reduced.pixels, reduced.reduction.hasClearPixels};
+    }
+    NxImage picture;
+    picture.setTranslucent(import.keepColours ? MachineColours::kept(std::move(image)) : std::move(image));
+    if (!palette)
+        return {SpriteColours::own(picture.colours(), transparency).pixels(picture), picture.hasClearPixels()};
+    QList<QRgb> wanted = picture.colours();
+    if (import.keepColours)
+        std::transform(wanted.cbegin(), wanted.cend(), wanted.begin(), MachineColours::shown);
+    return {SpriteColours::nearest(wanted, *palette, transparency).pixels(picture), picture.hasClearPixels()};
+}
+
 } // namespace
 
 SpriteBank *importSpritePicture(Project &project, const SpriteImport &import, QWidget *parent)
 {
     const Busy busy(parent, importing(import), PictureFile::pixelCount(import.file));
-    NxImage picture;
-    QImage image = PictureFile::read(import.file).image;
-    picture.setTranslucent(import.keepColours ? MachineColours::kept(std::move(image)) : std::move(image));
-    if (import.paletteId.isNull()) {
-        const QImage pixels = SpriteColours::own(picture.colours(), {import.depth}).pixels(picture);
-        const bool hasClearPixels = picture.hasClearPixels();
-        picture.setImage({}); // two of a large one are enough
-        return importSliced(project, import, pixels, hasClearPixels, parent);
-    }
+    QImage picture = PictureFile::read(import.file).image;
     const QSize size = picture.size();
+    if (import.paletteId.isNull()) {
+        const IndexedSprites sprites = spritesOf(std::move(picture), import, nullptr);
+        return importSliced(project, import, sprites.pixels, sprites.hasClearPixels, parent);
+    }
     const bool usable = fits(qint64(size.width() / SpriteBank::SpriteSize) * (size.height() / SpriteBank::SpriteSize));
     const QPointer<Palette> palette = project.palette(import.paletteId);
     if (!usable || !palette)
         return nullptr;
     SpriteBank *bank = project.createSpriteBank(import.depth, import.name, import.paletteId);
-    QList<QRgb> wanted = picture.colours();
-    if (import.keepColours)
-        std::transform(wanted.cbegin(), wanted.cend(), wanted.begin(), MachineColours::shown);
-    const SpriteColours colours = SpriteColours::nearest(wanted, *palette, bank->clearPixels());
-    return bank->appendPieces(colours.pixels(picture)) > 1 ? bank : nullptr;
+    return bank->appendPieces(spritesOf(std::move(picture), import, palette).pixels) > 1 ? bank : nullptr;
 }
 
 SpriteBank *importSpriteData(Project &project, const SpriteImport &import, QWidget *parent)

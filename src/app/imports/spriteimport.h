@@ -1,9 +1,12 @@
 #pragma once
 
 #include "model/enums.h"
+#include "pictures/dithering.h"
 
 #include <QString>
 #include <QUuid>
+
+#include <optional>
 
 class Project;
 class QWidget;
@@ -18,13 +21,15 @@ struct SpriteImport
     QUuid paletteId; ///< a palette of the project, or null for a new one
     bool keepColours = false; ///< of a picture whose colours are the machine's: their levels stay what they are
 
+    std::optional<Dithering> reduction{}; ///< to the colours that there is room for, which keeps levels as well
+
     bool operator==(const SpriteImport &) const = default;
 };
 
 /// Makes a bank of the 16×16 pieces of a picture: all of them in the nearest colours of a palette of the
-/// project, or the distinct ones in colours of their own, with a new palette of these. What is clear in the picture
-/// is so in the sprites, and nothing else. The window in front shows the progress. Null, and the project is as it was,
-/// when the picture cannot be used.
+/// project, or the distinct ones in colours of their own, with a new palette of these, reduced if that is wanted. What
+/// is clear in the picture is so in the sprites, and nothing else. The window in front shows the progress. Null, and
+/// the project is as it was, when the picture cannot be used.
 [[nodiscard]] SpriteBank *importSpritePicture(Project &project, const SpriteImport &import, QWidget *parent);
 
 /// Makes a bank of raw sprite data; a new palette is the standard one. Null, and the project is as it was,

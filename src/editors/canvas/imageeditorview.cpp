@@ -6,6 +6,7 @@
 #include "editors/canvas/scrollcanvas.h"
 #include "editors/palette/colourpalette.h"
 #include "model/picturefile.h"
+#include "model/project.h"
 #include "model/rawfile.h"
 #include "model/writeproblem.h"
 #include "ui/assettitle.h"
@@ -26,6 +27,15 @@ namespace {
 
 constexpr int UsualZoom = 3;
 constexpr int FewColours = 16;
+
+/// The name, with a number where there is one like it.
+QString freeName(const QString &name, const QStringList &taken)
+{
+    QString free = name;
+    for (int number = 2; taken.contains(free); ++number)
+        free = QStringLiteral("%1 %2").arg(name).arg(number);
+    return free;
+}
 
 } // namespace
 
@@ -217,7 +227,10 @@ void View::importPicture(const QString &fileName)
     if (!m_importDialog) {
         m_importDialog = new ImportDialog(this);
         connect(m_importDialog, &ImportDialog::imported, this, &View::place);
+        connect(m_importDialog, &ImportDialog::importedWithPalette, this, &View::placeWithPalette);
     }
+    m_importedName = QFileInfo(fileName).completeBaseName();
+    m_importDialog->setOffersNewPalette(project());
     m_importDialog->show(picture.image, canvas()->palette(), canvas()->image().size(), colourCount());
 }
 
@@ -225,6 +238,31 @@ void View::place(const QImage &pixels)
 {
     canvas()->applyEdit(tr("Import Image"), PixelEditCommand::None,
                         [&pixels](Layer2Image &layer) { layer.paste(pixels, QPoint()); });
+}
+
+void View::placeWithPalette(const QImage &pixels, int transparent)
+{
+    Project *project = this->project();
+    if (!project)
+        return;
+    Palette words;
+    for (int i = 0; i < Palette::Size; ++i)
+        words.setColour(i, QColor::fromRgb(pixels.color(i)), false);
+    const QPointer<Palette> palette =
+        project->createPalette(CreateAction::Blank, freeName(m_importedName, project->paletteNames()));
+    palette->copyColours(words);
+    palette->setTransparencyIndex(transparent);
+    if (m_undoStack)
+        m_undoStack->beginMacro(tr("Import Image"));
+    swapPalette(palette);
+    place(pixels);
+    if (m_undoStack)
+        m_undoStack->endMacro();
+}
+
+Project *View::project() const
+{
+    return m_image ? qobject_cast<Project *>(m_image->parent()) : nullptr;
 }
 
 void View::openExportFile()

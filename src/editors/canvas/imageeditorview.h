@@ -10,6 +10,7 @@
 #include <QWidget>
 
 class ColourPalette;
+class Project;
 class QFileDialog;
 
 namespace ImageEditor {
@@ -65,6 +66,10 @@ private:
     QString name() const;
     void importPicture(const QString &fileName);
     void place(const QImage &pixels);
+    /// With a new palette of the colours of its table.
+    void placeWithPalette(const QImage &pixels, int transparent);
+    /// That of the image; null for a picture that is no asset.
+    [[nodiscard]] Project *project() const;
     void pushEdit(const QString &text, const QImage &before, const QImage &after, PixelEditCommand::Kind kind);
 
     QPointer<Image> m_image;
@@ -73,6 +78,7 @@ private:
     QFileDialog *m_importFile = nullptr;
     QFileDialog *m_exportFile = nullptr;
     ImportDialog *m_importDialog = nullptr;
+    QString m_importedName; ///< of the file for which the dialog is open
 };
 
 } // namespace ImageEditor

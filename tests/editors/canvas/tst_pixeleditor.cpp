@@ -3,11 +3,14 @@
 #include "editors/canvas/canvasclipboard.h"
 #include "editors/canvas/imageeditorview.h"
 #include "editors/canvas/imageimportdialog.h"
+#include "editors/canvas/reductionbox.h"
 #include "editors/canvas/spritelist.h"
 #include "editors/canvas/spritewindow.h"
 #include "editors/canvas/tilewindow.h"
 #include "editors/common/dragdata.h"
 #include "editors/palette/colourpalette.h"
+#include "model/project.h"
+#include "pictures/ninebitcolour.h"
 #include "ui/numberstepper.h"
 #include "ui/toolpalette.h"
 
@@ -561,6 +564,57 @@ private slots:
         const QList<QCheckBox *> boxes =
             scene.view->findChild<ImageEditor::ImportDialog *>()->findChildren<QCheckBox *>();
         QVERIFY(!boxes[1]->isEnabled() && !boxes[1]->isChecked());
+    }
+
+    void imageImportsMayBringTheirPalette_data()
+    {
+        QTest::addColumn<Quenmora::ImageMode>("mode");
+        QTest::addColumn<int>("colours");
+        QTest::newRow("256 colours") << Quenmora::Layer2_256x192 << 255;
+        QTest::newRow("16 colours") << Quenmora::Layer2_640x256 << 15;
+    }
+
+    void imageImportsMayBringTheirPalette()
+    {
+        QFETCH(Quenmora::ImageMode, mode);
+        QFETCH(int, colours);
+        ImageScene scene(mode);
+        Project project;
+        const QPointer<Palette> blank = project.createPalette(CreateAction::Blank, "in");
+        const QPointer<Image> image = project.createImage(mode, "Title", blank->id());
+        image->setImage(plainImage(Image::sizeOf(mode), 5));
+        scene.view->setImage(image);
+        QImage picture(64, 64, QImage::Format_ARGB32);
+        for (int i = 0; i < 64 * 64; ++i)
+            picture.setPixel(i % 64, i / 64, i < 64 ? 0 : NineBitColour::shown(i % 512));
+        QVERIFY(picture.save(scene.file("in.png")));
+        scene.choose(Open, "in.png");
+        auto *dialog = scene.view->findChild<ImageEditor::ImportDialog *>();
+        dialog->findChildren<QCheckBox *>()[3]->setChecked(true);
+        dialog->accept();
+        const QPointer<Palette> made = image->palette();
+        QVERIFY(made && made != blank && made->name() == "in 2");
+        QSet<int> used;
+        for (int i = 0; i < 64 * 64; ++i) {
+            const int index = image->image().pixelIndex(i % 64, i / 64);
+            QCOMPARE(index == made->transparencyIndex(), i < 64);
+            if (i >= 64)
+                used.insert(made->rawColour(index));
+        }
+        QCOMPARE(used.size(), colours);
+        QCOMPARE(image->image().pixelIndex(64, 64), 5);
+        QCOMPARE(scene.stack.count(), 1);
+        scene.stack.undo();
+        QVERIFY(image->palette() == blank && image->image().pixelIndex(3, 3) == 5);
+        scene.stack.redo();
+        QVERIFY(image->palette() == made && image->image().pixelIndex(3, 3) != 5);
+        // fewer colours of the palette that is there
+        QSignalSpy swapped(scene.view.get(), &View::paletteSwapped);
+        scene.choose(Open, "in.png");
+        dialog->findChild<ReductionBox *>()->setReduction(Dithering::Ordered);
+        dialog->accept();
+        QCOMPARE(scene.stack.count(), 2);
+        QCOMPARE(swapped.size(), 0);
     }
 };
 

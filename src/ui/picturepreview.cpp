@@ -1,10 +1,14 @@
-#include "app/dialogs/picturepreview.h"
+#include "ui/picturepreview.h"
 
 #include <QPainter>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
+
+/// Pixels along the longer side that are kept: more are not seen, and cost time whenever they are painted.
+constexpr int MostPixels = 1024;
 
 /// A checker board of two colours of the theme.
 QBrush checkers(const QPalette &theme)
@@ -29,7 +33,9 @@ PicturePreview::PicturePreview(QWidget *parent) : QFrame(parent)
 
 void PicturePreview::setPicture(const QImage &picture)
 {
-    m_picture = picture;
+    m_picture = std::max(picture.width(), picture.height()) <= MostPixels
+        ? picture
+        : picture.scaled(MostPixels, MostPixels, Qt::KeepAspectRatio, Qt::SmoothTransformation);
     update();
 }
 
