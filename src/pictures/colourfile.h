@@ -24,9 +24,9 @@ struct ColourFile
     int transparentIndex = -1; ///< of a colour, or -1
     QString name; ///< of the palette, where the file says one
 
-    /// Whether bytes are text in one of the forms above, or as many as an .act file has. Such a file may still be
-    /// damaged.
-    [[nodiscard]] static bool recognises(const QByteArray &bytes);
+    /// Whether a file begins as the forms of text do. It may still be damaged. An .act file says nothing of itself:
+    /// ZX Spectrum fonts have as many bytes.
+    [[nodiscard]] static bool recognises(const QByteArray &start);
 
     [[nodiscard]] static Result<ColourFile> read(const QString &fileName);
     [[nodiscard]] static Result<ColourFile> read(const QByteArray &bytes);

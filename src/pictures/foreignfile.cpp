@@ -1,0 +1,31 @@
+#include "pictures/foreignfile.h"
+
+#include "model/rawfile.h"
+
+QString ForeignFile::sizeText(qint64 bytes)
+{
+    constexpr qint64 Mebibyte = 1 << 20;
+    return bytes < Mebibyte ? tr("%1 bytes").arg(bytes) : tr("%1 MiB").arg((bytes + Mebibyte - 1) / Mebibyte);
+}
+
+void ForeignFile::Remarks::add(const QString &remark)
+{
+    constexpr qsizetype Most = 30;
+    if (m_texts.size() > Most || m_texts.contains(remark))
+        return;
+    m_texts.append(m_texts.size() < Most ? remark : tr("There is more of this kind"));
+}
+
+Result<QByteArray> ForeignFile::readAll(const QString &fileName, qint64 maxBytes)
+{
+    QFile file(fileName);
+    if (!RawFile::openForReading(file))
+        return Failure{tr("It is not there, or may not be read")};
+    if (file.size() > maxBytes)
+        return Failure{tr("It has %1; at most %2 can be read").arg(sizeText(file.size()), sizeText(maxBytes))};
+    // it may grow while it is read
+    QByteArray bytes = file.read(maxBytes);
+    if (file.error() != QFile::NoError)
+        return Failure{tr("It could not be read: %1").arg(file.errorString())};
+    return bytes;
+}
