@@ -1,31 +1,21 @@
 #include "pictures/asepritefile.h"
 
-struct AsepriteFile::Content
-{
-    QSize size;
-    bool isIndexed = false;
-    QList<QRgb> palette;
-    int transparentIndex = -1;
-    QRect grid;
-    QList<int> durations;
-    QList<Tag> tags;
-    QList<TileSet> tileSets;
-    QStringList remarks;
-};
+#include "pictures/asepritereader.h"
 
-bool AsepriteFile::recognises(const QByteArray &)
+using ForeignFile::tr;
+
+Result<AsepriteFile> AsepriteFile::read(const QString &fileName)
 {
-    return false;
+    const auto bytes = ForeignFile::readAll(fileName, MaxBytes);
+    return bytes ? read(*bytes) : bytes.failure();
 }
 
-Result<AsepriteFile> AsepriteFile::read(const QString &)
+Result<AsepriteFile> AsepriteFile::read(const QByteArray &bytes)
 {
-    return Failure{QStringLiteral("not read yet")};
-}
-
-Result<AsepriteFile> AsepriteFile::read(const QByteArray &)
-{
-    return Failure{QStringLiteral("not read yet")};
+    auto content = AsepriteReader(bytes).read();
+    if (!content)
+        return content.failure();
+    return AsepriteFile(*std::move(content));
 }
 
 QSize AsepriteFile::size() const
@@ -45,7 +35,7 @@ QList<QRgb> AsepriteFile::palette() const
 
 int AsepriteFile::transparentIndex() const
 {
-    return m_content->transparentIndex;
+    return m_content->isIndexed && !m_content->hasBackground ? m_content->clearIndex : -1;
 }
 
 QRect AsepriteFile::grid() const
@@ -55,17 +45,17 @@ QRect AsepriteFile::grid() const
 
 int AsepriteFile::frameCount() const
 {
-    return int(m_content->durations.size());
+    return int(m_content->frames.size());
 }
 
 int AsepriteFile::duration(int frame) const
 {
-    return m_content->durations.at(frame);
+    return m_content->frames[size_t(frame)].duration;
 }
 
-QImage AsepriteFile::frame(int) const
+QImage AsepriteFile::frame(int frame) const
 {
-    return {};
+    return m_content->draw(m_content->frames[size_t(frame)]);
 }
 
 QList<AsepriteFile::Tag> AsepriteFile::tags() const
