@@ -14,8 +14,9 @@ namespace {
 constexpr qint64 SliceTime = 300'000;
 
 // In milliseconds
-constexpr int SliceDistance = 8; ///< from the beginning of a slice to that of the next
-constexpr int Patience = 2000; ///< with somebody who never pauses: then free hands are enough
+constexpr int SliceDistance = 1; ///< in which everything else has its turn
+constexpr int WaitingTime = 20; ///< until the next look for a good moment
+constexpr int Patience = 1000; ///< with somebody who does not rest: what is as late as that takes any free moment
 
 /// Failures after which the time between two attempts no longer doubles.
 constexpr int MostDoublings = 4;
@@ -28,7 +29,6 @@ RecoveryKeeper::RecoveryKeeper(ProjectController *controller, const QString &fol
     , m_folder(folder)
 {
     m_nextLook.setSingleShot(true);
-    m_slices.setInterval(SliceDistance);
     connect(&m_nextLook, &QTimer::timeout, this, &RecoveryKeeper::look);
     connect(&m_slices, &QTimer::timeout, this, &RecoveryKeeper::workOn);
     connect(controller, &ProjectController::projectOpened, this, &RecoveryKeeper::onProjectOpened);
@@ -46,6 +46,7 @@ void RecoveryKeeper::onProjectOpened()
     m_saved.clear();
     m_copied.clear();
     m_sinceBegin.invalidate();
+    m_sinceDue.invalidate();
     m_failures = 0;
     m_told = false;
     m_nextLook.start(m_interval);
@@ -91,6 +92,7 @@ void RecoveryKeeper::removeCopies()
         m_writer->remove();
     m_writer.reset();
     m_copied.clear();
+    m_sinceDue.invalidate();
 }
 
 // Copying
@@ -105,33 +107,33 @@ void RecoveryKeeper::lookSoon()
         m_nextLook.start(soon);
 }
 
-bool RecoveryKeeper::isGoodMoment()
+bool RecoveryKeeper::isGoodMoment() const
 {
-    if (m_saving)
-        return false;
-    if (m_pause.isPaused()) {
-        m_sincePause.invalidate();
-        return true;
-    }
-    if (!m_sincePause.isValid())
-        m_sincePause.start();
-    return m_sincePause.hasExpired(Patience) && PauseWatch::isFree();
+    const bool isLate = m_sinceDue.isValid() && m_sinceDue.hasExpired(Patience);
+    return !m_saving && (isLate ? PauseWatch::isFree() : m_pause.isPaused());
 }
 
 void RecoveryKeeper::look()
 {
-    if (m_copier || !m_controller->project())
+    if (!m_controller->project())
         return;
-    if (!isGoodMoment()) {
-        m_nextLook.start(PauseWatch::Rest);
+    if (!m_sinceDue.isValid())
+        m_sinceDue.start();
+    if (m_copier || !isGoodMoment()) {
+        m_nextLook.start(WaitingTime);
         return;
     }
     m_nextLook.start(m_interval << m_failures);
     const ProjectSnapshot content = contentNow();
-    if (haveSameContent(content, m_saved))
-        removeCopies(); // what was changed was taken back
-    else if (!haveSameContent(content, m_copied) && begin(content))
-        m_slices.start();
+    if (haveSameContent(content, m_saved)) { // what was changed was taken back
+        if (m_writer)
+            m_writer->giveUpAll();
+        m_copied.clear();
+    } else if (!haveSameContent(content, m_copied) && !begin(content)) {
+        return;
+    }
+    if (!m_slices.isActive())
+        m_slices.start(SliceDistance);
 }
 
 ProjectSnapshot RecoveryKeeper::contentNow()
@@ -171,18 +173,27 @@ bool RecoveryKeeper::begin(const ProjectSnapshot &content)
 
 void RecoveryKeeper::workOn()
 {
-    if (!isGoodMoment())
+    const bool isGood = isGoodMoment();
+    if (const int distance = isGood ? SliceDistance : WaitingTime; m_slices.interval() != distance)
+        m_slices.setInterval(distance);
+    if (!isGood)
         return;
     QElapsedTimer time;
     time.start();
     do {
-        if (!m_copier && !(m_writer && m_writer->tidy())) {
-            m_slices.stop();
-            return;
-        }
         if (m_copier)
             finish(m_copier->step());
+        else if (!m_writer || !m_writer->tidy())
+            rest();
     } while (m_slices.isActive() && time.nsecsElapsed() < SliceTime);
+}
+
+void RecoveryKeeper::rest()
+{
+    if (m_writer && !m_writer->hasCopies())
+        removeCopies();
+    m_slices.stop();
+    m_sinceDue.invalidate();
 }
 
 void RecoveryKeeper::finish(RecoveryCopier::Progress progress)
@@ -190,8 +201,8 @@ void RecoveryKeeper::finish(RecoveryCopier::Progress progress)
     if (progress == RecoveryCopier::Working)
         return;
     m_copier.reset();
+    m_slices.start(); // to clear away what is not needed any more
     if (progress == RecoveryCopier::Failed) {
-        m_slices.stop();
         m_writer->giveUp();
         fail(m_writer->problem());
         return;
@@ -205,6 +216,7 @@ void RecoveryKeeper::fail(const QString &reason)
 {
     m_failures = std::min(m_failures + 1, MostDoublings);
     m_nextLook.start(m_interval << m_failures);
+    m_sinceDue.invalidate();
     if (!std::exchange(m_told, true))
         emit failed(tr("No copy for the time after a crash could be written: %1").arg(reason));
 }

@@ -19,8 +19,9 @@ class ProjectController;
 /// Keeps a copy of the open project while that has changes which its file has not, for the time after a crash.
 ///
 /// A copy begins when something changed since the last one, that one is old enough and the person pauses, and it is
-/// written in slices of a few milliseconds. Copies go when the project is saved or closed. Saving writes over the file
-/// at once, so a copy is completed before it does: whenever the program is killed, file or copy is whole.
+/// written in slices of a few milliseconds while the pause lasts. With somebody who does not pause it becomes urgent:
+/// then every moment is good in which no button is held. Copies go when the project is saved or closed. Saving writes
+/// over the file at once, so a copy is completed before it does: whenever the program is killed, file or copy is whole.
 class RecoveryKeeper : public QObject
 {
     Q_OBJECT
@@ -69,7 +70,9 @@ private:
     void look();
     /// Writes some of the copy, or removes some of what is left of earlier ones.
     void workOn();
-    [[nodiscard]] bool isGoodMoment();
+    /// Nothing is left to do.
+    void rest();
+    [[nodiscard]] bool isGoodMoment() const;
     [[nodiscard]] ProjectSnapshot contentNow();
     [[nodiscard]] bool begin(const ProjectSnapshot &content);
     void finish(RecoveryCopier::Progress progress);
@@ -84,7 +87,7 @@ private:
     QTimer m_nextLook{this};
     QTimer m_slices{this}; ///< runs while there is something to write or remove
     QElapsedTimer m_sinceBegin; ///< of the last copy
-    QElapsedTimer m_sincePause; ///< since there was something to do and no pause to do it in
+    QElapsedTimer m_sinceDue; ///< since there is something to do, or to look for
     int m_failures = 0; ///< one after the other
     bool m_told = false;
     bool m_saving = false;

@@ -54,7 +54,16 @@ void RecoveryWriter::giveUp()
 {
     m_unneeded.unite(m_begun).subtract(m_last).subtract(m_previous);
     m_begun.clear();
-    while (tidy()) { }
+}
+
+void RecoveryWriter::giveUpAll()
+{
+    giveUp();
+    m_unneeded.unite(m_last).unite(m_previous);
+    m_last.clear();
+    m_previous.clear();
+    for (const qint64 number : {m_number - 1, m_number}) // a copy that lacks a piece would be a damaged one
+        QFile::remove(m_folder.filePath(RecoveryCopy::manifestName(number)));
 }
 
 bool RecoveryWriter::tidy()

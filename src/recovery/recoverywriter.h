@@ -27,8 +27,11 @@ public:
     [[nodiscard]] QString put(const QByteArray &bytes);
     /// Completes the copy with everything that its manifest names; false when that could not be written.
     [[nodiscard]] bool finish(const RecoveryManifest &manifest);
-    /// Gives up the copy that was begun, and the room that it took.
+    /// Gives up the copy that was begun: no copy needs what was put into it.
     void giveUp();
+    /// Gives up all copies, none of which can be found from now on.
+    void giveUpAll();
+    [[nodiscard]] bool hasCopies() const { return !m_last.isEmpty(); }
 
     /// Removes a file that no copy needs any more; false when there is none.
     bool tidy();

@@ -10,6 +10,7 @@
 #include <QSignalSpy>
 #include <QStatusBar>
 #include <QTest>
+#include <QTimer>
 
 #include <functional>
 #include <optional>
@@ -192,15 +193,23 @@ private slots:
         QVERIFY(QDir(AppState::recoveryFolder() + '/' + aside.first()).removeRecursively());
     }
 
-    void waitsForAPause()
+    void waitsForAPauseButNotForEver()
     {
         work();
         QSignalSpy begun(m_first->recoveryKeeper(), &RecoveryKeeper::copyBegun);
+        QSignalSpy completed(m_first->recoveryKeeper(), &RecoveryKeeper::copyCompleted);
         QTest::mousePress(m_first->statusBar(), Qt::LeftButton);
         m_first->recoveryKeeper()->lookSoon();
         QVERIFY(!begun.wait(3 * PauseWatch::Rest));
         QTest::mouseRelease(m_first->statusBar(), Qt::LeftButton);
-        QVERIFY(begun.wait());
+        QVERIFY(completed.wait());
+        QTimer hands; // that never rest
+        connect(&hands, &QTimer::timeout, this, [this] { QTest::keyClick(m_first->statusBar(), Qt::Key_Shift); });
+        hands.start(PauseWatch::Rest / 5);
+        QTest::keyClick(m_first->statusBar(), Qt::Key_Shift);
+        m_first->projectController()->project()->setName("Later"); // which tells nobody to look
+        QVERIFY(!begun.wait(2 * PauseWatch::Rest));
+        QVERIFY(completed.wait());
     }
 
     void saysOnceThatNoCopyCanBeKept()
