@@ -14,26 +14,39 @@
 
 #include <QApplication>
 #include <QDateTime>
+#include <QElapsedTimer>
+#include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTest>
 #include <QTimer>
 
 #include <algorithm>
+#include <csignal>
 #include <cstdio>
 #include <ctime>
+#include <unistd.h>
 #include <vector>
 
 namespace {
 
 constexpr QSize MapSize(2000, 2000);
 
+/// Milliseconds in which this program could have gone on and others had the processors.
+qint64 waited()
+{
+    QFile statistics("/proc/self/schedstat"); // nanoseconds running and waiting
+    return statistics.open(QIODevice::ReadOnly) ? statistics.readAll().split(' ').value(1).toLongLong() / 1'000'000 : 0;
+}
+
 void say(QJsonObject event)
 {
     event.insert("time", QDateTime::currentMSecsSinceEpoch());
+    event.insert("waited", waited());
     const QByteArray line = QJsonDocument(event).toJson(QJsonDocument::Compact) + '\n';
-    std::fwrite(line.constData(), 1, size_t(line.size()), stdout);
-    std::fflush(stdout);
+    if (::write(STDOUT_FILENO, line.constData(), size_t(line.size()))
+        != line.size()) // whole: there are several writers
+        qFatal("cannot write");
 }
 
 QJsonObject checksums(const ProjectMembers &members)
@@ -94,10 +107,12 @@ private:
         m_window.messageDialog()->accept();
         if (m_rest-- > 0)
             return;
+        QElapsedTimer time;
+        time.start();
         m_user.act();
         if (!PauseWatch::isFree()) // something was dropped, and the drag has taken the release
             QTest::mouseRelease(&m_window, Qt::LeftButton);
-        say({{"event", "act"}, {"action", m_user.lastAction()}});
+        say({{"event", "act"}, {"action", m_user.lastAction()}, {"took", time.elapsed()}});
         if (m_user.number(6) == 0)
             m_rest = m_user.number(200); // a second at most
         if (m_user.number(30) == 0) {
@@ -112,11 +127,19 @@ private:
         if (m_tells)
             ::say(event);
     }
-    void sayContent() const
+    /// A child says what is copied, for that takes longer than any slice: it has the project as it is now, and goes on
+    /// when this program is killed.
+    void sayContent()
     {
         if (!m_tells)
-            return; // it takes longer than any slice
-        say({{"event", "copy"}, {"members", checksums(serializeProject(*m_controller->project(), true))}});
+            return;
+        ::say({{"event", "copy"}, {"number", ++m_copies}});
+        if (fork() == 0) {
+            ::say({{"event", "content"},
+                   {"number", m_copies},
+                   {"members", checksums(serializeProject(*m_controller->project(), true))}});
+            _exit(0);
+        }
     }
 
     MainWindow m_window;
@@ -125,6 +148,7 @@ private:
     bool m_tells;
     QTimer m_timer;
     int m_rest = 0;
+    int m_copies = 0;
 };
 
 /// What a project is made of when it can be opened; else nothing.
@@ -227,6 +251,7 @@ int main(int argc, char **argv)
     const quint32 seed = arguments.value(3).toUInt();
     if (task == "measure")
         return measure(application, file, seed, arguments.value(4).toInt());
+    std::signal(SIGCHLD, SIG_IGN); // the children end by themselves
     const Worker worker(file, seed, arguments.value(4).toInt(), true);
     return QApplication::exec();
 }
