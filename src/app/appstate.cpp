@@ -11,8 +11,10 @@ namespace {
 
 const QString StateFile = QStringLiteral("state.json");
 const QString PreferencesFile = QStringLiteral("preferences.json");
+const QString PaintingFile = QStringLiteral("painting.json");
 const QString ConfigurationFolder = QStringLiteral(".config/quenmora");
 constexpr const char *StateWarning = "Open state.json failed";
+constexpr const char *PaintingWarning = "Open painting.json failed";
 constexpr const char *PreferencesWarning = "Failed to open settings json file";
 
 /// The file as JSON, a null document when it is something else; nothing when it cannot be opened.
@@ -101,4 +103,15 @@ QJsonDocument AppState::loadPreferences() const
 bool AppState::savePreferences(const QJsonDocument &preferences) const
 {
     return writeJson(m_folder.filePath(PreferencesFile), preferences, PreferencesWarning);
+}
+
+QJsonDocument AppState::loadPainting() const
+{
+    const QString path = m_folder.filePath(PaintingFile);
+    return QFile::exists(path) ? readJson(path, PaintingWarning).value_or(QJsonDocument()) : QJsonDocument();
+}
+
+bool AppState::savePainting(const QJsonDocument &painting) const
+{
+    return writeJson(m_folder.filePath(PaintingFile), painting, PaintingWarning);
 }

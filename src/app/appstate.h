@@ -7,8 +7,8 @@
 #include <QStringList>
 
 /// What outlives a run of the program: the layout of the window, recent projects and a few remembered
-/// values in "state.json", and the preferences in "preferences.json", both in the folder
-/// ".config/quenmora" below the home folder.
+/// values in "state.json", the preferences in "preferences.json", and how people paint in "painting.json", all in
+/// the folder ".config/quenmora" below the home folder.
 ///
 /// Nothing is read before loadState(). Failures are logged and told by the results.
 class AppState : public QObject
@@ -26,6 +26,10 @@ public:
     /// The content of "preferences.json", null when it cannot be read.
     [[nodiscard]] QJsonDocument loadPreferences() const;
     bool savePreferences(const QJsonDocument &preferences) const;
+
+    /// The content of "painting.json", null when it cannot be read. The file is made when something is chosen.
+    [[nodiscard]] QJsonDocument loadPainting() const;
+    bool savePainting(const QJsonDocument &painting) const;
 
     /// The docks and toolbars, as QMainWindow::saveState() gives them.
     [[nodiscard]] QByteArray windowState() const { return m_windowState; }

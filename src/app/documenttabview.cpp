@@ -67,6 +67,12 @@ DocumentTabView::DocumentTabView(QWidget *parent) : QTabWidget(parent), m_scratc
     connect(this, &QTabWidget::currentChanged, this, &DocumentTabView::currentIndexChanged);
 }
 
+void DocumentTabView::setPaintSettings(PaintSettings *settings)
+{
+    m_paintSettings = settings;
+    m_scratchEditor->setPaintSettings(settings);
+}
+
 void DocumentTabView::buildTabBar()
 {
     setTabsClosable(true);
@@ -174,6 +180,8 @@ MapEditor::View *DocumentTabView::openMapEditor(const QPointer<Map> &map)
 ImageEditor::View *DocumentTabView::openImageEditor(const QPointer<Image> &image)
 {
     auto *page = new ImageEditor::View(this);
+    if (m_paintSettings)
+        page->setPaintSettings(m_paintSettings);
     page->setImage(image);
     open(page, ImageDocument, image->id(), image->name());
     return page;

@@ -9,6 +9,7 @@
 class Image;
 class Map;
 class MapObjects;
+class PaintSettings;
 class SpriteBank;
 
 namespace BlockEditor {
@@ -49,6 +50,8 @@ public:
     void setEmptyPage(QWidget *page);
 
     [[nodiscard]] ImageEditor::View *scratchEditor() const { return m_scratchEditor; }
+    /// How the image editors paint, those that are opened later as well.
+    void setPaintSettings(PaintSettings *settings);
 
     /// The tab of a document, −1 when none shows it.
     [[nodiscard]] int indexOfDocument(const QUuid &id) const;
@@ -107,6 +110,7 @@ private:
     void closePages(const QList<QPointer<QWidget>> &pages);
 
     ImageEditor::View *m_scratchEditor;
+    PaintSettings *m_paintSettings = nullptr;
     QWidget *m_emptyPage = nullptr;
     /// A page that comes to the front because those after it are closed is not activated.
     bool m_closingAll = false;

@@ -25,8 +25,10 @@
 #include <QDir>
 #include <QDragEnterEvent>
 #include <QFileInfo>
+#include <QJsonObject>
 #include <QLocale>
 #include <QMimeData>
+#include <QSignalBlocker>
 #include <QStatusBar>
 #include <QToolBar>
 
@@ -88,6 +90,7 @@ MainWindow::MainWindow(QWidget *parent)
     connectMenus();
     connectActions();
     connectDocks();
+    connectPainting();
     connectRecovery();
     m_menuBar.viewMenu()->setChecked(ViewMenu::CheckableItem::ScratchEditor, false);
     show();
@@ -194,6 +197,16 @@ void MainWindow::connectDocks()
             [this](const QUuid &id) { m_actions.copyItem(ProjectTree::PaletteNode, id); });
 }
 
+void MainWindow::connectPainting()
+{
+    m_tileEditor.setPaintSettings(&m_painting);
+    m_spriteEditor.setPaintSettings(&m_painting);
+    m_tabs.setPaintSettings(&m_painting);
+    m_menuBar.editMenu()->addChoice(m_painting.action(PaintSettings::Connect));
+    connect(&m_painting, &PaintSettings::habitChanged, this,
+            [this] { m_state.savePainting(QJsonDocument(m_painting.toJson())); });
+}
+
 void MainWindow::connectRecovery()
 {
     constexpr int MessageTime = 10'000;
@@ -239,6 +252,11 @@ void MainWindow::loadState()
 {
     m_state.loadState();
     m_preferences.fromJson(m_state.loadPreferences());
+    {
+        const QSignalBlocker known(m_painting); // what is read need not be written
+        m_painting.fromJson(m_state.loadPainting().object());
+    }
+    emit m_painting.changed();
     m_layout.restoreLayout(m_state);
     m_menuBar.fileMenu()->setRecentFiles(m_state.recentFiles());
     m_tilePicker.setMagnification(m_state.tileZoom());

@@ -13,6 +13,7 @@
 #include "app/recoverykeeper.h"
 #include "app/recoveryoffers.h"
 #include "app/updatepresenter.h"
+#include "editors/canvas/paintsettings.h"
 #include "editors/canvas/spritewindow.h"
 #include "editors/canvas/tilepickertool.h"
 #include "editors/canvas/tilewindow.h"
@@ -93,6 +94,7 @@ private:
     void connectMenus();
     void connectActions();
     void connectDocks();
+    void connectPainting();
     void connectRecovery();
     /// Deletes an asset that may be deleted when the person, who is asked, wants that.
     void deleteItem(ProjectTree::ProjectNode node, const QUuid &id);
@@ -113,6 +115,7 @@ private:
     /// Shows a tile in the tile editor and the tile picker, the first or the last one for an index beyond.
     void showTile(int index);
 
+    PaintSettings m_painting;
     ProjectWindow m_projectDock;
     PaletteWindow m_paletteDock;
     TileWindow m_tileEditor;

@@ -23,12 +23,12 @@ QImage stripes()
 
 } // namespace
 
-void paintOutline(QPainter &painter, const QRect &area, int width)
+void paintOutline(QPainter &painter, const QRect &area, int width, int march)
 {
     static const QImage pattern = stripes();
     const QBrush brush(pattern);
     const QPoint origin = painter.brushOrigin();
-    painter.setBrushOrigin(area.topLeft());
+    painter.setBrushOrigin(area.topLeft() + QPoint(march, 0));
     const int across = std::min(width, area.width());
     const int down = std::min(width, area.height());
     painter.fillRect(area.x(), area.y(), area.width(), down, brush);

@@ -17,6 +17,8 @@ public:
     enum Kind : int {
         None = -1, ///< a stroke, shape or paste: a step of its own
         Scroll = 1, ///< moved by a pixel, with wrap-around
+        Nudge = 2, ///< a selection was moved by a key
+        NextNudge = 3, ///< the same: moves of one selection and of the next have the two kinds by turns
     };
 
     /// Writes an image back into the edited asset; does nothing when the asset is gone.

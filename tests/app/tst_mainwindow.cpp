@@ -1,8 +1,10 @@
 #include "app/mainwindow.h"
 
+#include "app/menus/editmenu.h"
 #include "app/menus/filemenu.h"
 #include "app/menus/viewmenu.h"
 #include "app/startpage.h"
+#include "editors/canvas/canvas.h"
 #include "editors/canvas/imageeditorview.h"
 #include "editors/canvas/tilepickergrid.h"
 #include "model/image.h"
@@ -41,6 +43,7 @@ private slots:
     {
         QFile::remove(statePath("state.json"));
         QFile::remove(statePath("preferences.json"));
+        QFile::remove(statePath("painting.json"));
         m_window.emplace();
     }
 
@@ -97,6 +100,29 @@ private slots:
         AppState state;
         QVERIFY(state.loadState());
         QCOMPARE(state.lastPath(), QDir::currentPath());
+    }
+
+    void remembersHowPeoplePaint()
+    {
+        const auto choice = [this] { return EditorInput::entry(*m_window->menus()->editMenu(), "Connect Strokes"); };
+        const auto connects = [this] {
+            m_window->views().tabs->setScratchEditorVisible(true);
+            QList<bool> found;
+            for (PixelEditor *editor :
+                 std::initializer_list<PixelEditor *>{m_window->views().tileEditor, m_window->views().spriteEditor,
+                                                      m_window->views().tabs->scratchEditor()})
+                found += editor->canvas()->paintOptions().connect;
+            return found;
+        };
+        QVERIFY(m_window->close());
+        QVERIFY(!QFile::exists(statePath("painting.json"))); // nothing was chosen
+        QCOMPARE(connects(), (QList{true, true, true}));
+        choice()->trigger();
+        QCOMPARE(connects(), (QList{false, false, false}));
+        m_window.reset();
+        m_window.emplace();
+        QVERIFY(!choice()->isChecked());
+        QCOMPARE(connects(), (QList{false, false, false}));
     }
 
     void keepsStateBetweenRuns()

@@ -13,6 +13,7 @@ namespace EditorInput {
 struct Mouse
 {
     Canvas &canvas;
+    Qt::KeyboardModifiers keys{};
 
     QPoint centreOf(QPoint pixel) const
     {
@@ -22,7 +23,7 @@ struct Mouse
     void send(QEvent::Type type, QPoint pixel, Qt::MouseButtons held, Qt::MouseButton button) const
     {
         const QPoint point = centreOf(pixel);
-        QMouseEvent event(type, point, canvas.mapToGlobal(point), button, held, Qt::NoModifier);
+        QMouseEvent event(type, point, canvas.mapToGlobal(point), button, held, keys);
         QApplication::sendEvent(&canvas, &event);
     }
     void press(QPoint pixel, Qt::MouseButton button = Qt::LeftButton, Qt::MouseButtons others = {}) const

@@ -36,6 +36,14 @@ void EditMenu::setUndoActions(QAction *undo, QAction *redo)
     insertSeparator(first);
 }
 
+void EditMenu::addChoice(QAction *choice)
+{
+    if (!m_hasChoices)
+        addSeparator();
+    m_hasChoices = true;
+    addAction(choice);
+}
+
 void EditMenu::setClipboardEnabled(bool enabled)
 {
     for (QAction *action : m_clipboardActions)

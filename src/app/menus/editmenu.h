@@ -15,6 +15,9 @@ public:
     /// Puts the actions of the undo group on top, with the standard keys. Called once.
     void setUndoActions(QAction *undo, QAction *redo);
 
+    /// Adds something that can be chosen or not, after all entries.
+    void addChoice(QAction *choice);
+
 public slots:
     /// Enables the clipboard entries, which an editor in front must be able to answer; off at first.
     void setClipboardEnabled(bool enabled);
@@ -31,4 +34,5 @@ private:
                              void (EditMenu::*chosen)());
 
     QList<QAction *> m_clipboardActions;
+    bool m_hasChoices = false;
 };

@@ -4,6 +4,7 @@
 #include "editors/canvas/layeraction.h"
 #include "ui/outlineband.h"
 
+#include <QKeyEvent>
 #include <QMenu>
 #include <QMetaEnum>
 
@@ -91,6 +92,26 @@ void Canvas::setImageType(ImageType type)
     update();
 }
 
+void Canvas::setExtended(bool extended)
+{
+    m_extended = extended;
+    m_band->setMarching(extended);
+    if (extended)
+        m_tools.addFilledCircle(this);
+}
+
+void Canvas::setPaintOptions(const PaintOptions &options)
+{
+    m_options = options;
+    update();
+}
+
+PixelPen Canvas::pen(Layer2Image &layer, PixelPen::Colour colour) const
+{
+    const QImage before = isEditing() ? m_edit.before() : image();
+    return {layer, m_options, colour, before, m_colours.imageType == Offset16};
+}
+
 void Canvas::setTallPixels(bool tall)
 {
     if (tall == m_geometry.tallPixels)
@@ -173,6 +194,7 @@ void Canvas::setImage(const QImage &image)
 {
     // What was drawn into the image before belongs to another tile, sprite or moment.
     m_edit.giveUp();
+    m_grab.reset();
     m_layer.setImage(image);
     m_layer.reloadColourTable();
     m_selection.clipTo(m_layer.rect());
@@ -219,15 +241,21 @@ void Canvas::pickPaper(int index)
 void Canvas::beginEdit()
 {
     finishStroke();
-    m_edit.begin(image());
+    m_edit.begin(image(), tr("Draw"));
+}
+
+void Canvas::startOver()
+{
+    m_layer.paste(m_edit.before(), QPoint());
 }
 
 void Canvas::finishStroke()
 {
     if (!isEditing())
         return;
+    m_grab.reset();
     emit imageChanged();
-    finishEdit(tr("Draw"), PixelEditCommand::None);
+    finishEdit(m_edit.text(), PixelEditCommand::None);
 }
 
 void Canvas::finishEdit(const QString &text, PixelEditCommand::Kind kind)
@@ -321,6 +349,10 @@ QRect Canvas::selection() const
 
 void Canvas::selectAll()
 {
+    if (m_extended) {
+        select(m_layer.rect());
+        return;
+    }
     m_selection.setAnchor(m_geometry.imageRect.topLeft());
     extendSelection(m_geometry.imageRect.bottomRight() + QPoint(1, 1));
 }
@@ -337,8 +369,44 @@ void Canvas::hideSelection()
     m_band->hide();
 }
 
+void Canvas::select(const QRect &pixels)
+{
+    m_selection.select(pixels);
+    placeBand();
+    m_band->setVisible(hasSelection());
+}
+
+bool Canvas::isMovable(QPoint pixel) const
+{
+    return m_extended && selection().contains(pixel);
+}
+
+bool Canvas::takeUpSelection()
+{
+    const bool copies = m_pointer.keys & Qt::ControlModifier;
+    if (!copies && m_floating.areOn(image(), selection()))
+        return true;
+    m_floating.takeUp(image(), selection(), copies ? -1 : m_colours.paper);
+    return false;
+}
+
+void Canvas::moveSelection(QPoint corner)
+{
+    m_floating.moveTo(m_layer, corner);
+    select(m_floating.area() & m_layer.rect());
+    update();
+}
+
 void Canvas::beginSelection(QPoint point)
 {
+    const QPoint pixel = m_geometry.pixelAt(point);
+    if (m_pointer.buttons == Qt::LeftButton && isMovable(pixel)) {
+        finishStroke();
+        takeUpSelection();
+        m_edit.begin(image(), tr("Move"));
+        m_grab = pixel - m_floating.area().topLeft();
+        return;
+    }
     m_selection.setAnchor(point);
     if (m_pointer.buttons & Qt::LeftButton)
         extendSelection(point);
@@ -346,6 +414,8 @@ void Canvas::beginSelection(QPoint point)
 
 void Canvas::extendSelection(QPoint point)
 {
+    if (m_grab)
+        return moveSelection(m_geometry.pixelAt(point) - *m_grab);
     if (!m_selection.hasAnchor())
         return;
     m_band->setGeometry(m_selection.extendTo(point, m_geometry, m_layer.rect()));
@@ -354,6 +424,7 @@ void Canvas::extendSelection(QPoint point)
 
 void Canvas::endSelection()
 {
+    finishStroke();
     m_selection.clearAnchor();
     const bool drawn = m_pointer.buttons & Qt::LeftButton;
     if (m_clickDeselects && drawn && (!hasSelection() || m_pointer.pressed == m_pointer.current))
@@ -362,8 +433,12 @@ void Canvas::endSelection()
 
 void Canvas::placeBand()
 {
-    if (!selection().isEmpty())
-        m_band->setGeometry(m_geometry.rectOf(selection()));
+    if (selection().isEmpty())
+        return;
+    const QRect selected = m_geometry.rectOf(selection());
+    // none of its edges would be seen
+    const bool allAround = m_extended && selected.contains(m_geometry.imageRect);
+    m_band->setGeometry(allAround ? m_geometry.imageRect : selected);
 }
 
 void Canvas::openContextMenu(QPoint globalPosition)

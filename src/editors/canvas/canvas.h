@@ -7,15 +7,20 @@
 #include "editors/canvas/canvasselection.h"
 #include "editors/canvas/canvassurface.h"
 #include "editors/canvas/canvastoolbox.h"
+#include "editors/canvas/floatingpixels.h"
 #include "editors/canvas/layer2image.h"
+#include "editors/canvas/paintoptions.h"
 #include "editors/canvas/pendingedit.h"
+#include "editors/canvas/strokepath.h"
 
 #include <QUuid>
 #include <QWidget>
 
+#include <optional>
+
 class CanvasClipboard;
+class OutlineBand;
 class QMenu;
-class QRubberBand;
 
 /// The zoomable paint area of the tile, sprite and image editors.
 ///
@@ -62,6 +67,13 @@ public:
     /// Lets a click with the select tool, and a drag that encloses no pixel, end the selection. A canvas that has
     /// not been told keeps what the press began: nothing that can be copied or filled, but at zoom 1 the pixel.
     void setClickDeselects(bool deselects) { m_clickDeselects = deselects; }
+    /// Gives a canvas what people have in editors beyond what it does by itself: filled circles, straight lines and
+    /// squares with Shift, and a selection that is moved by dragging and by the arrow keys, whose outline marches, and
+    /// which is all of the image when all is selected.
+    void setExtended(bool extended);
+    /// How the tools paint from now on.
+    void setPaintOptions(const PaintOptions &options);
+
     /// Whether at least one pixel is selected.
     bool hasSelection() const { return !selection().isEmpty(); }
     /// The selection in image pixels, clipped to the image; empty when there is none.
@@ -79,10 +91,14 @@ public:
     Layer2Image &layer() override { return m_layer; }
     const CanvasGeometry &geometryInWidget() const override { return m_geometry; }
     const CanvasPointer &pointer() const override { return m_pointer; }
+    const PaintOptions &paintOptions() const override { return m_options; }
+    PixelPen pen(Layer2Image &layer, PixelPen::Colour colour) const override;
+    StrokePath &stroke() override { return m_stroke; }
     void beginEdit() override;
     bool isEditing() const override { return m_edit.isOpen(); }
     /// Ends the edit, and announces it when it changed a pixel.
     void finishEdit(const QString &text, PixelEditCommand::Kind kind);
+    void startOver() override;
     void finishStroke() override;
     void applyEdit(const QString &text, PixelEditCommand::Kind kind,
                    const std::function<void(Layer2Image &)> &operation) override;
@@ -131,6 +147,7 @@ protected:
     void leaveEvent(QEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
 
 private slots:
@@ -149,6 +166,7 @@ private:
     void beginSelection(QPoint point) override;
     void extendSelection(QPoint point) override;
     void endSelection() override;
+    bool isMovable(QPoint pixel) const override;
     void openContextMenu(QPoint globalPosition) override;
 
     /// Changes the geometry, if asked to, and fits the image; the selection stays on its pixels.
@@ -157,6 +175,14 @@ private:
     void scrollTo(QPoint position);
     void scrollBy(QPoint delta);
     void placeBand();
+    void select(const QRect &pixels);
+    /// Lets the selected pixels float, or float on. True when they did before.
+    bool takeUpSelection();
+    void moveSelection(QPoint corner);
+    /// Moves the selected pixels for an arrow key, as a step of its own.
+    bool nudgeByKey(const QKeyEvent *event);
+    /// Takes notice of the keys held with the mouse; repaints when that changes the shape being dragged.
+    void holdKeys(Qt::KeyboardModifiers keys);
     void hideSelection();
     void eraseSelection();
     void fillSelection(const QString &text, int index);
@@ -174,7 +200,13 @@ private:
     CanvasSelection m_selection;
     CanvasToolBox m_tools;
     QMenu *m_contextMenu;
-    QRubberBand *m_band; ///< shows the selection
+    OutlineBand *m_band; ///< shows the selection
+    PaintOptions m_options;
+    StrokePath m_stroke;
+    FloatingPixels m_floating;
+    std::optional<QPoint> m_grab; ///< where the floating pixels are held, as seen from their corner
+    PixelEditCommand::Kind m_nudge = PixelEditCommand::Nudge;
     bool m_clickDeselects = false;
+    bool m_extended = false;
     QPointer<CanvasClipboard> m_clipboard;
 };

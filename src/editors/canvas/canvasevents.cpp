@@ -46,6 +46,7 @@ void Canvas::paintEvent(QPaintEvent *event)
     painter.fillRect(rect(), QWidget::palette().window());
     paintImage(painter);
     m_overlay.paint(painter, m_geometry);
+    CanvasOverlay::paintAxes(painter, m_geometry, image().size(), m_options.symmetry);
     m_tools.tool().paint(painter);
 }
 
@@ -77,6 +78,7 @@ void Canvas::hoverAt(QPoint pixel)
 
 void Canvas::mousePressEvent(QMouseEvent *event)
 {
+    holdKeys(event->modifiers());
     m_pointer.press(m_geometry.pixelAt(event->position().toPoint()), event->buttons());
     m_tools.tool().mousePressed(event);
 }
@@ -84,6 +86,7 @@ void Canvas::mousePressEvent(QMouseEvent *event)
 void Canvas::mouseMoveEvent(QMouseEvent *event)
 {
     const QPoint pixel = m_geometry.pixelAt(event->position().toPoint());
+    holdKeys(event->modifiers());
     if (!m_pointer.moveTo(pixel))
         return;
     if (m_tools.tool().mouseMoved(event))
@@ -94,6 +97,7 @@ void Canvas::mouseMoveEvent(QMouseEvent *event)
 void Canvas::mouseReleaseEvent(QMouseEvent *event)
 {
     const QPoint pixel = m_geometry.pixelAt(event->position().toPoint());
+    holdKeys(event->modifiers());
     m_pointer.current = pixel;
     const QPointer guard(this); // a tool may open a menu, under which anything can happen
     m_tools.tool().mouseReleased(event);
@@ -138,8 +142,46 @@ bool Canvas::scrollByKey(const QKeyEvent *event)
 
 void Canvas::keyPressEvent(QKeyEvent *event)
 {
-    if (!scrollByKey(event))
+    if (event->key() == Qt::Key_Shift)
+        holdKeys(m_pointer.keys | Qt::ShiftModifier);
+    if (!nudgeByKey(event) && !scrollByKey(event))
         QWidget::keyPressEvent(event);
+}
+
+void Canvas::keyReleaseEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Shift)
+        holdKeys(m_pointer.keys & ~Qt::ShiftModifier);
+    QWidget::keyReleaseEvent(event);
+}
+
+void Canvas::holdKeys(Qt::KeyboardModifiers keys)
+{
+    if (!m_extended || keys == m_pointer.keys)
+        return;
+    m_pointer.keys = keys;
+    if (m_tools.tool().hasPreview() && m_pointer.pressed != CanvasPointer::Nowhere)
+        update();
+}
+
+bool Canvas::nudgeByKey(const QKeyEvent *event)
+{
+    constexpr int ManyPixels = 8;
+    const Qt::KeyboardModifiers keys = event->modifiers() & ~Qt::KeypadModifier;
+    const QPoint step = -scrollOf(event->key());
+    const bool many = keys == Qt::ShiftModifier;
+    if (!m_extended || mode() != Quenmora::Ui::Select || !hasSelection() || isEditing() || step.isNull()
+        || (keys && !many))
+        return false;
+    // moves of one selection become one step, but not those of two
+    m_pointer.keys = {};
+    if (!takeUpSelection())
+        m_nudge = m_nudge == PixelEditCommand::Nudge ? PixelEditCommand::NextNudge : PixelEditCommand::Nudge;
+    beginEdit();
+    moveSelection(m_floating.area().topLeft() + step * (many ? ManyPixels : 1));
+    emit imageChanged();
+    finishEdit(tr("Move"), m_nudge);
+    return true;
 }
 
 void Canvas::contextMenuEvent(QContextMenuEvent *event)

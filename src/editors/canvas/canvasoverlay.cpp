@@ -1,6 +1,8 @@
 #include "editors/canvas/canvasoverlay.h"
 
 #include "editors/canvas/canvasgeometry.h"
+#include "editors/canvas/symmetryaxes.h"
+#include "ui/outline.h"
 
 #include <QBrush>
 #include <QPainter>
@@ -52,4 +54,14 @@ void CanvasOverlay::paint(QPainter &painter, const CanvasGeometry &geometry) con
         paintChecker(painter, geometry.imageRect, cell);
     if (gridLines)
         paintGridLines(painter, geometry.imageRect, cell);
+}
+
+void CanvasOverlay::paintAxes(QPainter &painter, const CanvasGeometry &geometry, QSize image, const SymmetryAxes &axes)
+{
+    const QRect shown = geometry.imageRect;
+    const QPoint middle = geometry.rectOf(QRect(QPoint(), image)).center();
+    if (axes.upright && middle.x() > shown.left() && middle.x() < shown.right())
+        paintOutline(painter, {middle.x(), shown.top(), 1, shown.height()}, 1);
+    if (axes.level && middle.y() > shown.top() && middle.y() < shown.bottom())
+        paintOutline(painter, {shown.left(), middle.y(), shown.width(), 1}, 1);
 }

@@ -1,7 +1,9 @@
 #pragma once
 
 class QPainter;
+class QSize;
 struct CanvasGeometry;
+struct SymmetryAxes;
 
 /// What a canvas draws over its image to show where the pixels are.
 struct CanvasOverlay
@@ -11,4 +13,6 @@ struct CanvasOverlay
     bool gridLines = false;
 
     void paint(QPainter &painter, const CanvasGeometry &geometry) const;
+    /// Axes through the middle of an image.
+    static void paintAxes(QPainter &painter, const CanvasGeometry &geometry, QSize image, const SymmetryAxes &axes);
 };

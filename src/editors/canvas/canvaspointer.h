@@ -17,6 +17,8 @@ struct CanvasPointer
     QPoint current = Nowhere;
     /// The buttons held since the last press.
     Qt::MouseButtons buttons = Qt::NoButton;
+    /// The keys held with them, as far as they mean something on this canvas.
+    Qt::KeyboardModifiers keys = Qt::NoModifier;
 
     void press(QPoint pixel, Qt::MouseButtons held)
     {
@@ -33,14 +35,17 @@ struct CanvasPointer
         return true;
     }
 
+    /// Lines are to be straight, and shapes as high as wide.
+    bool isGuided() const { return keys & Qt::ShiftModifier; }
+
     void endDrag() { pressed = current = Nowhere; }
 
-    /// The rectangle that the drag spans, both corners included.
-    QRect dragged() const
+    /// The rectangle that two pixels span, both included.
+    static QRect between(QPoint corner, QPoint opposite)
     {
         // of lists, for minmax() of two numbers gives references to them
-        const auto [left, right] = std::minmax({pressed.x(), current.x()});
-        const auto [top, bottom] = std::minmax({pressed.y(), current.y()});
+        const auto [left, right] = std::minmax({corner.x(), opposite.x()});
+        const auto [top, bottom] = std::minmax({corner.y(), opposite.y()});
         return {QPoint(left, top), QPoint(right, bottom)};
     }
 };

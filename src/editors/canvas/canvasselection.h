@@ -20,6 +20,12 @@ public:
     /// Selects the pixels of an image that lie between the anchor and a point of the widget, and returns the
     /// rectangle in the widget that shows it. Both points snap to the top-left corners of their pixels.
     QRect extendTo(QPoint point, const CanvasGeometry &geometry, const QRect &image);
+    /// Selects pixels of an image; nothing when there are none.
+    void select(const QRect &pixels)
+    {
+        m_pixels = pixels;
+        m_exists = true;
+    }
     /// Follows a change of the image's size.
     void clipTo(const QRect &image) { m_pixels &= image; }
     /// Selects nothing. A drag that is going on can select again.

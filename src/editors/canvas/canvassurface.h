@@ -1,5 +1,6 @@
 #pragma once
 
+#include "editors/canvas/pixelpen.h"
 #include "undo/pixeleditcommand.h"
 
 #include <functional>
@@ -9,6 +10,7 @@ class QCursor;
 class QImage;
 class QPoint;
 class QString;
+class StrokePath;
 struct CanvasGeometry;
 struct CanvasPointer;
 
@@ -23,6 +25,12 @@ public:
     /// What the paste tool pastes; null before something was pasted.
     virtual QImage clipboardImage() const = 0;
 
+    virtual const PaintOptions &paintOptions() const = 0;
+    /// A pen for the canvas's layer, or for a copy of it in which something is previewed.
+    virtual PixelPen pen(Layer2Image &layer, PixelPen::Colour colour) const = 0;
+    /// The freehand stroke that is being drawn, or was drawn last.
+    virtual StrokePath &stroke() = 0;
+
     virtual void showCursor(const QCursor &cursor) = 0;
     virtual void scheduleRepaint() = 0;
     /// Ends the preview of the shape being dragged.
@@ -32,6 +40,8 @@ public:
     virtual void beginEdit() = 0;
     /// True from beginEdit() to the edit's end.
     virtual bool isEditing() const = 0;
+    /// Puts the image back as it was when the edit began, which goes on.
+    virtual void startOver() = 0;
     /// Announces what the draw tool has drawn since the press, if it is drawing.
     virtual void finishStroke() = 0;
     /// Runs an operation on the layer as one edit.
@@ -47,6 +57,8 @@ public:
     virtual void beginSelection(QPoint point) = 0;
     virtual void extendSelection(QPoint point) = 0;
     virtual void endSelection() = 0;
+    /// Whether a drag from a pixel moves what is selected.
+    virtual bool isMovable(QPoint pixel) const = 0;
     virtual void openContextMenu(QPoint globalPosition) = 0;
 
 protected:

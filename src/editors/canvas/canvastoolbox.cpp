@@ -26,6 +26,11 @@ CanvasToolBox::CanvasToolBox(CanvasSurface *surface)
     , m_tool(m_tools.value(m_mode).get())
 { }
 
+void CanvasToolBox::addFilledCircle(CanvasSurface *surface)
+{
+    m_tools.insert(CircleFill, std::make_shared<CircleCanvasTool>(surface, true));
+}
+
 void CanvasToolBox::choose(ToolButton mode)
 {
     m_mode = mode;

@@ -16,6 +16,9 @@ public:
     /// Starts with the draw tool, which is not activated yet.
     explicit CanvasToolBox(CanvasSurface *surface);
 
+    /// The one tool that a canvas does not have by itself.
+    void addFilledCircle(CanvasSurface *surface);
+
     bool has(Quenmora::Ui::ToolButton mode) const { return m_tools.contains(mode); }
     Quenmora::Ui::ToolButton mode() const { return m_mode; }
     CanvasTool &tool() const { return *m_tool; }

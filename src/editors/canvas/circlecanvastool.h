@@ -1,19 +1,30 @@
 #pragma once
 
-#include "editors/canvas/layer2image.h"
+#include "editors/canvas/pixelpen.h"
 #include "editors/canvas/shapecanvastool.h"
 
 #include <QCoreApplication>
 
-/// Draws the outline of the ellipse inscribed in the dragged rectangle.
+/// Draws the ellipse inscribed in the dragged rectangle, as an outline or filled.
 class CircleCanvasTool final : public ShapeCanvasTool
 {
     Q_DECLARE_TR_FUNCTIONS(CircleCanvasTool)
 
 public:
-    using ShapeCanvasTool::ShapeCanvasTool;
+    explicit CircleCanvasTool(CanvasSurface *canvas, bool filled = false)
+        : ShapeCanvasTool(canvas)
+        , m_filled(filled) { }
 
 protected:
-    void draw(Layer2Image &layer) const override { layer.drawEllipse(dragRect()); }
-    QString text() const override { return tr("Circle"); }
+    void draw(PixelPen &pen) const override
+    {
+        if (m_filled)
+            pen.filledEllipse(dragRect());
+        else
+            pen.ellipse(dragRect());
+    }
+    QString text() const override { return m_filled ? tr("Filled Circle") : tr("Circle"); }
+
+private:
+    const bool m_filled;
 };

@@ -12,7 +12,10 @@ public:
     void mousePressed(QMouseEvent *event) override;
     bool mouseMoved(QMouseEvent *event) override;
     void mouseReleased(QMouseEvent *event) override;
+    /// Shows where a brush of more than a pixel would be set down.
+    void paint(QPainter &painter) const override;
 
 private:
-    void plot();
+    /// Paints the stroke from the pixel of that number on.
+    void plot(qsizetype first);
 };

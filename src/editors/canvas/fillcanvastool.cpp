@@ -2,7 +2,6 @@
 
 #include "editors/canvas/canvaspointer.h"
 #include "editors/canvas/canvassurface.h"
-#include "editors/canvas/layer2image.h"
 
 #include <QCursor>
 #include <QPixmap>
@@ -16,8 +15,8 @@ void FillCanvasTool::mouseReleased(QMouseEvent *)
 {
     canvas()->applyEdit(tr("Fill"), PixelEditCommand::None, [this](Layer2Image &layer) {
         if (canvas()->pointer().buttons & Qt::LeftButton)
-            layer.floodFill(canvas()->pointer().cursor, layer.ink());
+            canvas()->pen(layer, PixelPen::Ink).flood(canvas()->pointer().cursor);
         if (canvas()->pointer().buttons & Qt::RightButton)
-            layer.floodFill(canvas()->pointer().cursor, layer.paper());
+            canvas()->pen(layer, PixelPen::Paper).flood(canvas()->pointer().cursor);
     });
 }

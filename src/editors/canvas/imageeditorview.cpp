@@ -3,6 +3,7 @@
 #include "editors/canvas/canvas.h"
 #include "editors/canvas/imageeditortoolbar.h"
 #include "editors/canvas/imageimportdialog.h"
+#include "editors/canvas/paintoptionsbar.h"
 #include "editors/canvas/scrollcanvas.h"
 #include "editors/palette/colourpalette.h"
 #include "model/picturefile.h"
@@ -62,7 +63,10 @@ void View::buildPage()
     parts->addLayout(middle, 1);
     parts->addLayout(side);
     auto *layout = new QVBoxLayout(this);
-    layout->addWidget(new ToolBar(this));
+    auto *top = new QHBoxLayout;
+    top->addWidget(optionsBar(), 1);
+    top->addWidget(new ToolBar(this));
+    layout->addLayout(top);
     layout->addLayout(parts, 1);
     setFocusProxy(canvas());
 }

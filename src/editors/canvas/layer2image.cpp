@@ -1,10 +1,10 @@
 #include "editors/canvas/layer2image.h"
 
+#include "editors/common/raster.h"
 #include "model/qtcompat.h"
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <cstring>
 
 namespace {
@@ -87,35 +87,12 @@ int Layer2Image::pixelIndex(QPoint pixel) const
 
 void Layer2Image::drawLine(QPoint from, QPoint to)
 {
-    const bool steep = std::abs(to.y() - from.y()) > std::abs(to.x() - from.x());
-    if (steep) {
-        from = from.transposed();
-        to = to.transposed();
-    }
-    if (from.x() > to.x())
-        std::swap(from, to);
-
-    const int yStep = from.y() < to.y() ? 1 : -1;
-    const auto dx = float(to.x() - from.x());
-    const auto dy = float(std::abs(to.y() - from.y()));
-    float error = dx * 0.5F;
-    int y = from.y();
-    for (int x = from.x(); x <= to.x(); ++x) {
-        setPixel(steep ? QPoint(y, x) : QPoint(x, y), m_ink);
-        error -= dy;
-        if (error < 0) {
-            y += yStep;
-            error += dx;
-        }
-    }
+    Raster::line(from, to, [this](QPoint pixel) { setPixel(pixel, m_ink); });
 }
 
 void Layer2Image::drawRectangle(QRect rect)
 {
-    drawLine(rect.topLeft(), rect.topRight());
-    drawLine(rect.bottomLeft(), rect.bottomRight());
-    drawLine(rect.topLeft(), rect.bottomLeft());
-    drawLine(rect.topRight(), rect.bottomRight());
+    Raster::rectangle(rect, [this](QPoint pixel) { setPixel(pixel, m_ink); });
 }
 
 void Layer2Image::fillRectangle(QRect rect, int index)
@@ -127,49 +104,7 @@ void Layer2Image::fillRectangle(QRect rect, int index)
 
 void Layer2Image::drawEllipse(QRect rect)
 {
-    qint64 x0 = rect.left();
-    qint64 x1 = rect.right();
-    const qint64 a = x1 - x0;
-    const qint64 b = rect.bottom() - rect.top();
-    const qint64 odd = b & 1;
-    const qint64 a8 = 8 * a * a;
-    const qint64 b8 = 8 * b * b;
-    qint64 dx = 4 * (1 - a) * b * b;
-    qint64 dy = 4 * (odd + 1) * a * a;
-    qint64 error = dx + dy + odd * a * a;
-    qint64 y0 = rect.top() + (b + 1) / 2;
-    qint64 y1 = y0 - odd;
-
-    const auto plot = [this](qint64 x, qint64 y) { setPixel(QPoint(int(x), int(y)), m_ink); };
-    do {
-        plot(x1, y0);
-        plot(x0, y0);
-        plot(x0, y1);
-        plot(x1, y1);
-        const qint64 twice = 2 * error;
-        if (twice <= dy) {
-            ++y0;
-            --y1;
-            dy += a8;
-            error += dy;
-        }
-        if (twice >= dx || 2 * error > dy) {
-            ++x0;
-            --x1;
-            dx += b8;
-            error += dx;
-        }
-    } while (x0 <= x1);
-
-    // The tips of very flat ellipses.
-    while (y0 - y1 <= b) {
-        plot(x0 - 1, y0);
-        plot(x1 + 1, y0);
-        plot(x0 - 1, y1);
-        plot(x1 + 1, y1);
-        ++y0;
-        --y1;
-    }
+    Raster::ellipse(rect, [this](QPoint pixel) { setPixel(pixel, m_ink); });
 }
 
 void Layer2Image::floodFill(QPoint pixel, int index)
@@ -200,6 +135,15 @@ void Layer2Image::floodFill(QPoint pixel, int index)
                 open.append(next);
             }
         }
+    }
+}
+
+void Layer2Image::replaceIndex(const QRect &area, int replaced, int index)
+{
+    const QRect inside = area & m_image.rect();
+    for (int y = inside.top(); y <= inside.bottom(); ++y) {
+        uchar *row = m_image.scanLine(y);
+        std::replace(row + inside.left(), row + inside.right() + 1, uchar(replaced), uchar(index));
     }
 }
 

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "editors/canvas/layer2image.h"
+#include "editors/canvas/pixelpen.h"
 #include "editors/canvas/shapecanvastool.h"
+#include "editors/common/raster.h"
 
 #include <QCoreApplication>
 
@@ -14,6 +15,7 @@ public:
     using ShapeCanvasTool::ShapeCanvasTool;
 
 protected:
-    void draw(Layer2Image &layer) const override { layer.drawLine(pressed(), current()); }
+    void draw(PixelPen &pen) const override { pen.line(pressed(), current()); }
+    QPoint guided(QPoint start, QPoint end) const override { return Raster::straightened(start, end); }
     QString text() const override { return tr("Line"); }
 };

@@ -1,16 +1,20 @@
 #include "editors/canvas/pixeleditor.h"
 
 #include "editors/canvas/canvas.h"
+#include "editors/canvas/paintoptionsbar.h"
 #include "editors/canvas/palettenotice.h"
 #include "model/palette.h"
+#include "ui/svgiconengine.h"
 #include "ui/toolpalette.h"
 
 #include <QAction>
 #include <QCoreApplication>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QScopedValueRollback>
 #include <QStatusTipEvent>
 #include <QUndoStack>
+#include <QVBoxLayout>
 
 using namespace Quenmora::Ui;
 
@@ -35,10 +39,14 @@ void showPixel(QWidget *page, const Palette *palette, QPoint pixel, int index)
 PixelEditor::PixelEditor(QSize imageSize, Qt::Orientation toolPalette, const QList<ToolButton> &more)
     : m_canvas(new Canvas(imageSize))
     , m_tools(new ToolPalette(toolPalette))
+    , m_optionsBar(new PaintOptionsBar)
 {
     new PaletteNotice(m_canvas);
     m_canvas->setClickDeselects(true);
-    for (const ToolButton button : {Draw, Line, Rectangle, RectangleFill, Circle, Fill, Pick, Select})
+    m_canvas->setExtended(true);
+    setPaintSettings(new PaintSettings(m_canvas));
+    addMenuEntries();
+    for (const ToolButton button : {Draw, Line, Rectangle, RectangleFill, Circle, CircleFill, Fill, Pick, Select})
         m_tools->addEntry(button);
     // While something is being pasted, pasting is the tool in use.
     ToolPalette::Entry paste = ToolPalette::entryOf(Paste);
@@ -48,6 +56,15 @@ PixelEditor::PixelEditor(QSize imageSize, Qt::Orientation toolPalette, const QLi
         m_tools->addEntry(button);
     for (const ToolButton button : more)
         m_tools->addEntry(button);
+}
+
+QLayout *PixelEditor::toolRows() const
+{
+    auto *rows = new QVBoxLayout;
+    rows->setSpacing(0);
+    rows->addWidget(m_tools);
+    rows->addWidget(m_optionsBar);
+    return rows;
 }
 
 void PixelEditor::connectCanvas(QWidget *page)
@@ -62,11 +79,68 @@ void PixelEditor::connectCanvas(QWidget *page)
         showPixel(page, canvas->palette(), pixel, index);
     });
 
-    auto *swap = new QAction(QCoreApplication::translate("PixelEditor", "Swap foreground and background"), page);
-    swap->setShortcut(Qt::Key_X);
-    swap->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-    QObject::connect(swap, &QAction::triggered, m_canvas, &Canvas::swapInkAndPaper);
-    page->addAction(swap);
+    const auto add = [this, page](Qt::Key key, const QString &text, const std::function<void()> &run) {
+        auto *action = new QAction(text, page);
+        action->setShortcut(key);
+        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+        QObject::connect(action, &QAction::triggered, m_canvas, run);
+        page->addAction(action);
+    };
+    add(Qt::Key_X, QCoreApplication::translate("PixelEditor", "Swap foreground and background"),
+        [this] { m_canvas->swapInkAndPaper(); });
+    add(Qt::Key_BracketLeft, QCoreApplication::translate("PixelEditor", "Smaller brush"),
+        [this] { m_settings->setBrushSize(m_settings->brushSize() - 1); });
+    add(Qt::Key_BracketRight, QCoreApplication::translate("PixelEditor", "Larger brush"),
+        [this] { m_settings->setBrushSize(m_settings->brushSize() + 1); });
+}
+
+void PixelEditor::setPaintSettings(PaintSettings *settings)
+{
+    if (m_settings)
+        m_settings->disconnect(m_canvas);
+    m_optionsBar->setSettings(settings);
+    if (m_settings && m_settings->parent() == m_canvas)
+        delete m_settings;
+    m_settings = settings;
+    const auto follow = [canvas = m_canvas, settings] { canvas->setPaintOptions(settings->options()); };
+    QObject::connect(settings, &PaintSettings::changed, m_canvas, follow);
+    follow();
+}
+
+void PixelEditor::addMenuEntries()
+{
+    const auto add = [this](const QString &icon, const QString &text, const QString &toolTip,
+                            void (PixelEditor::*run)()) {
+        QAction *action = m_canvas->contextMenu()->addAction(themedIcon(icon), text);
+        action->setToolTip(toolTip);
+        action->setStatusTip(toolTip);
+        QObject::connect(action, &QAction::triggered, m_canvas, [this, run] { (this->*run)(); });
+    };
+    m_canvas->contextMenu()->addSeparator();
+    add(QStringLiteral(":/ReplaceColour"), QCoreApplication::translate("PixelEditor", "Replace Colour"),
+        QCoreApplication::translate(
+            "PixelEditor",
+            "Gives pixels of the background colour the foreground colour, in the selection if there is one"),
+        &PixelEditor::replaceColour);
+    add(QStringLiteral(":/PictureBrush"), QCoreApplication::translate("PixelEditor", "Brush from Selection"),
+        QCoreApplication::translate("PixelEditor",
+                                    "Draws with what is selected, without its pixels of the background colour"),
+        &PixelEditor::takeBrush);
+}
+
+void PixelEditor::replaceColour()
+{
+    const QRect area = m_canvas->hasSelection() ? m_canvas->selection() : m_canvas->image().rect();
+    m_canvas->applyEdit(QCoreApplication::translate("PixelEditor", "Replace Colour"), PixelEditCommand::None,
+                        [area](Layer2Image &layer) { layer.replaceIndex(area, layer.paper(), layer.ink()); });
+}
+
+void PixelEditor::takeBrush()
+{
+    if (!m_canvas->hasSelection())
+        return;
+    m_settings->setBrush(Brush::of(m_canvas->image().copy(m_canvas->selection()), m_canvas->paper()));
+    m_canvas->setMode(Draw);
 }
 
 void PixelEditor::load(const QImage &pixels)

@@ -1,14 +1,18 @@
 #pragma once
 
+#include "editors/canvas/paintsettings.h"
 #include "editors/common/edittarget.h"
 #include "ui/enums.h"
 #include "undo/pixeleditcommand.h"
 
 #include <QList>
+#include <QPointer>
 #include <QUuid>
 
 class Canvas;
+class PaintOptionsBar;
 class QEvent;
+class QLayout;
 class QUndoStack;
 class QWidget;
 class ToolPalette;
@@ -19,6 +23,9 @@ class PixelEditor : public EditTarget
 {
 public:
     Canvas *canvas() const { return m_canvas; }
+    PaintSettings *paintSettings() const { return m_settings; }
+    /// Paints as these settings say, which others may share; until then, as settings of the editor's own say.
+    void setPaintSettings(PaintSettings *settings);
 
     void cut() override;
     void copy() override;
@@ -32,6 +39,9 @@ protected:
     PixelEditor(QSize imageSize, Qt::Orientation toolPalette, const QList<Quenmora::Ui::ToolButton> &more);
 
     ToolPalette *tools() const { return m_tools; }
+    PaintOptionsBar *optionsBar() const { return m_optionsBar; }
+    /// The tools with the bar close below them.
+    QLayout *toolRows() const;
 
     /// Lets the tool palette show the tool in use, X exchange the two colours while the keyboard is in
     /// page, and the window's status line tell the pixel under the pointer.
@@ -52,7 +62,14 @@ protected:
     void scrollByShortcutOverride(QEvent *event);
 
 private:
+    void addMenuEntries();
+    /// Exchanges the background colour for the foreground colour in what is selected, or everywhere.
+    void replaceColour();
+    void takeBrush();
+
     Canvas *const m_canvas;
     ToolPalette *const m_tools;
+    PaintOptionsBar *const m_optionsBar;
+    QPointer<PaintSettings> m_settings;
     bool m_loading = false;
 };

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "editors/canvas/layer2image.h"
+#include "editors/canvas/pixelpen.h"
 #include "editors/canvas/shapecanvastool.h"
 
 #include <QCoreApplication>
@@ -14,12 +14,12 @@ public:
     RectangleCanvasTool(CanvasSurface *canvas, bool filled) : ShapeCanvasTool(canvas), m_filled(filled) { }
 
 protected:
-    void draw(Layer2Image &layer) const override
+    void draw(PixelPen &pen) const override
     {
         if (m_filled)
-            layer.fillRectangle(dragRect(), layer.ink());
+            pen.fill(dragRect());
         else
-            layer.drawRectangle(dragRect());
+            pen.rectangle(dragRect());
     }
     QString text() const override { return m_filled ? tr("Filled Rectangle") : tr("Rectangle"); }
 

@@ -18,8 +18,11 @@ void SelectCanvasTool::mousePressed(QMouseEvent *event)
 
 bool SelectCanvasTool::mouseMoved(QMouseEvent *event)
 {
-    if (canvas()->pointer().buttons & Qt::LeftButton)
+    const CanvasPointer &pointer = canvas()->pointer();
+    if (pointer.buttons & Qt::LeftButton)
         canvas()->extendSelection(event->position().toPoint());
+    else
+        canvas()->showCursor(canvas()->isMovable(pointer.cursor) ? Qt::SizeAllCursor : Qt::ArrowCursor);
     return false;
 }
 

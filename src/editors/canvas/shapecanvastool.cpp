@@ -2,7 +2,7 @@
 
 #include "editors/canvas/canvaspointer.h"
 #include "editors/canvas/canvassurface.h"
-#include "editors/canvas/layer2image.h"
+#include "editors/common/raster.h"
 
 #include <QCursor>
 
@@ -18,14 +18,15 @@ void ShapeCanvasTool::mouseReleased(QMouseEvent *)
     if (canvas()->pointer().buttons == Qt::NoButton)
         return;
     canvas()->applyEdit(text(), PixelEditCommand::None, [this](Layer2Image &layer) {
-        draw(layer);
+        drawPreview(layer);
         canvas()->resetDrag();
     });
 }
 
 void ShapeCanvasTool::drawPreview(Layer2Image &layer) const
 {
-    draw(layer);
+    PixelPen pen = canvas()->pen(layer, PixelPen::Ink);
+    draw(pen);
 }
 
 bool ShapeCanvasTool::hasPreview() const
@@ -40,10 +41,16 @@ QPoint ShapeCanvasTool::pressed() const
 
 QPoint ShapeCanvasTool::current() const
 {
-    return canvas()->pointer().current;
+    const CanvasPointer &pointer = canvas()->pointer();
+    return pointer.isGuided() ? guided(pointer.pressed, pointer.current) : pointer.current;
+}
+
+QPoint ShapeCanvasTool::guided(QPoint start, QPoint end) const
+{
+    return Raster::squared(start, end);
 }
 
 QRect ShapeCanvasTool::dragRect() const
 {
-    return canvas()->pointer().dragged();
+    return CanvasPointer::between(pressed(), current());
 }

@@ -5,6 +5,8 @@
 #include <QRect>
 #include <QString>
 
+class PixelPen;
+
 /// Draws a shape from the press to the release; a shape only says what it draws.
 class ShapeCanvasTool : public CanvasTool
 {
@@ -18,7 +20,9 @@ public:
 
 protected:
     /// Draws the shape of the current drag, for the preview and for the edit alike.
-    virtual void draw(Layer2Image &layer) const = 0;
+    virtual void draw(PixelPen &pen) const = 0;
+    /// Where a drag ends that is to give a regular shape: by itself, one as high as wide.
+    virtual QPoint guided(QPoint start, QPoint end) const;
     /// The text of the undo step.
     virtual QString text() const = 0;
 

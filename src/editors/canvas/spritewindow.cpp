@@ -53,7 +53,7 @@ void SpriteWindow::buildPage()
     auto *editor = new QWidget;
     auto *editorLayout = new QVBoxLayout(editor);
     editorLayout->setContentsMargins(0, 0, 0, 0);
-    editorLayout->addWidget(tools());
+    editorLayout->addLayout(toolRows());
     editorLayout->addWidget(new ScrollCanvas(canvas()), 1);
     editorLayout->addWidget(m_colours);
     m_transparency->setKeyboardTracking(false); // a number is one edit, not one for each digit

@@ -68,7 +68,7 @@ QWidget *TileWindow::buildPage()
 
     auto *page = new QWidget;
     auto *layout = new QVBoxLayout(page);
-    layout->addWidget(tools());
+    layout->addLayout(toolRows());
     layout->addWidget(new ScrollCanvas(canvas()), 1);
     layout->addWidget(m_colours);
     layout->addLayout(form);

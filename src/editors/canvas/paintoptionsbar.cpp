@@ -1,0 +1,72 @@
+#include "editors/canvas/paintoptionsbar.h"
+
+#include "editors/canvas/paintsettings.h"
+#include "ui/flowlayout.h"
+
+#include <QActionGroup>
+#include <QMenu>
+#include <QToolButton>
+
+PaintOptionsBar::PaintOptionsBar(QWidget *parent) : QWidget(parent), m_sizes(new QMenu(this))
+{
+    auto *layout = new FlowLayout(this);
+    layout->setContentsMargins(2, 0, 2, 0);
+    layout->setSpacing(1);
+
+    auto *sizes = new QActionGroup(this);
+    for (int size = 1; size <= Brush::MaximumSize; ++size) {
+        QAction *action = sizes->addAction(m_sizes->addAction(sizeText(size)));
+        action->setCheckable(true);
+        action->setData(size);
+    }
+    connect(sizes, &QActionGroup::triggered, this, [this](const QAction *chosen) {
+        if (m_settings)
+            m_settings->setBrushSize(chosen->data().toInt());
+    });
+    m_size = addButton();
+    m_size->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    m_size->setPopupMode(QToolButton::InstantPopup);
+    m_size->setMenu(m_sizes);
+    m_size->setToolTip(tr("Size of the brush: [ makes it smaller, ] larger"));
+    m_size->setAccessibleName(tr("Size of the brush"));
+}
+
+QString PaintOptionsBar::sizeText(int size)
+{
+    return tr("%1 px").arg(size);
+}
+
+QToolButton *PaintOptionsBar::addButton()
+{
+    auto *button = new QToolButton(this);
+    button->setAutoRaise(true);
+    layout()->addWidget(button);
+    return button;
+}
+
+void PaintOptionsBar::setSettings(PaintSettings *settings)
+{
+    if (m_settings)
+        m_settings->disconnect(this);
+    m_settings = settings;
+    qDeleteAll(m_choices);
+    m_choices.clear();
+    for (const auto choice : {PaintSettings::RoundBrush, PaintSettings::Connect, PaintSettings::PixelPerfect,
+                              PaintSettings::MirrorSides, PaintSettings::MirrorEnds, PaintSettings::Shade}) {
+        QToolButton *button = addButton();
+        button->setDefaultAction(settings->action(choice));
+        button->setAccessibleName(settings->action(choice)->iconText());
+        m_choices.append(button);
+    }
+    connect(settings, &PaintSettings::changed, this, &PaintOptionsBar::showBrush);
+    showBrush();
+}
+
+void PaintOptionsBar::showBrush()
+{
+    const Brush &brush = m_settings->options().brush;
+    const bool picture = brush.shape() == Brush::Picture;
+    m_size->setText(picture ? tr("Picture") : sizeText(brush.size()));
+    for (QAction *action : m_sizes->actions())
+        action->setChecked(!picture && action->data().toInt() == brush.size());
+}
