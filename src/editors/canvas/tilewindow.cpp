@@ -5,6 +5,8 @@
 #include "editors/canvas/tileattributeseditor.h"
 #include "editors/palette/colourselector.h"
 #include "editors/palette/paletteeditor.h"
+#include "model/map.h"
+#include "model/project.h"
 #include "ui/expandablesection.h"
 #include "ui/numberstepper.h"
 #include "ui/toolpalette.h"
@@ -26,6 +28,18 @@ namespace {
 constexpr QSize TileSize(8, 8);
 constexpr int BankCount = 16;
 constexpr int BankSize = 16;
+
+/// The pixel value that the maps of a tile set do not draw: that of the first one which has such a value; -1 for none.
+int clearPixelOf(const TileSet &tileSet)
+{
+    const auto *project = qobject_cast<Project *>(tileSet.parent());
+    const QList<QPointer<Map>> maps = project ? project->maps() : QList<QPointer<Map>>();
+    for (const QPointer<Map> &map : maps) {
+        if (map->tileSetId() == tileSet.id() && map->tileTransparencyIndex() >= 0)
+            return map->tileTransparencyIndex() % BankSize;
+    }
+    return -1;
+}
 
 } // namespace
 
@@ -178,8 +192,16 @@ void TileWindow::showBank(int bank)
     canvas()->setPaper(base + canvas()->paper() % BankSize);
     canvas()->setPictureColours(base, BankSize);
     m_colours->setOffset(bank);
+    showClearColour();
     m_colours->setForeIndex(canvas()->ink());
     m_colours->setBackIndex(canvas()->paper());
+}
+
+/// What is not drawn is a setting of the maps, which keep quiet about it: it is looked at when it may be seen next.
+void TileWindow::showClearColour()
+{
+    const int pixel = m_tileSet ? clearPixelOf(*m_tileSet) : -1;
+    m_colours->setClearIndex(pixel < 0 ? -1 : (m_offset->value() - 1) * BankSize + pixel);
 }
 
 // ---- Edits ----------------------------------------------------------------------------------
@@ -244,6 +266,8 @@ void TileWindow::applyEdit(const QPointer<TileSet> &tileSet, int index, const QI
 
 bool TileWindow::event(QEvent *event)
 {
+    if (event->type() == QEvent::Enter)
+        showClearColour();
     scrollByShortcutOverride(event);
     return DockWidget::event(event);
 }

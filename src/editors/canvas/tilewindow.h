@@ -57,6 +57,7 @@ private:
     void connectParts();
     void loadTile();
     void showBank(int bank);
+    void showClearColour();
     void pushEdit(const QString &text, const QImage &before, const QImage &after, PixelEditCommand::Kind kind);
     void applyEdit(const QPointer<TileSet> &tileSet, int index, const QImage &image);
     void writeTile(const QPointer<TileSet> &tileSet, int index, const QImage &image);

@@ -3,6 +3,7 @@
 #include "editors/palette/colourmarks.h"
 #include "ui/gridkeys.h"
 
+#include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -86,9 +87,24 @@ void ColourSelector::setBackIndex(int index)
     update();
 }
 
+void ColourSelector::setClearIndex(int index)
+{
+    m_clearIndex = index;
+    update();
+}
+
 void ColourSelector::paletteChanged(int, int)
 {
     update();
+}
+
+bool ColourSelector::event(QEvent *event)
+{
+    if (event->type() == QEvent::ToolTip) {
+        const bool clear = m_clearIndex >= 0 && indexAt(static_cast<QHelpEvent *>(event)->pos()) == m_clearIndex;
+        setToolTip(clear ? tr("Transparent on maps") : tr("Left button: foreground, right button: background"));
+    }
+    return QWidget::event(event);
 }
 
 int ColourSelector::along(QSize size) const
@@ -193,6 +209,8 @@ void ColourSelector::paintEvent(QPaintEvent *)
         painter.setPen(Qt::black);
         painter.setBrush(colour(first + cell));
         painter.drawRect(rect);
+        if (first + cell == m_clearIndex)
+            ColourMarks::paintClear(painter, rect);
         const QRect marked = cellRect(cell).adjusted(2, 2, -2, -2);
         if (first + cell == m_foreIndex)
             ColourMarks::paintFore(painter, marked);

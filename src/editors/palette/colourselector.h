@@ -32,6 +32,8 @@ public slots:
     void setForeIndex(int index);
     void setBackIndex(int index);
     void paletteChanged(int first, int last);
+    /// Marks the colour whose pixels are not drawn; -1 for none.
+    void setClearIndex(int index);
 
 signals:
     void foreColourChanged(int index);
@@ -44,6 +46,7 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    bool event(QEvent *event) override;
 
 private:
     int along(QSize size) const;
@@ -60,6 +63,7 @@ private:
     int m_offset = 1;
     int m_foreIndex = 1;
     int m_backIndex = 0;
+    int m_clearIndex = -1;
     int m_cell = 24;
     int m_margin = 49;
 };

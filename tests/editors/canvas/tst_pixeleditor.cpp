@@ -9,6 +9,7 @@
 #include "editors/canvas/tilewindow.h"
 #include "editors/common/dragdata.h"
 #include "editors/palette/colourpalette.h"
+#include "editors/palette/colourselector.h"
 #include "model/project.h"
 #include "pictures/ninebitcolour.h"
 #include "ui/numberstepper.h"
@@ -564,6 +565,26 @@ private slots:
         const QList<QCheckBox *> boxes =
             scene.view->findChild<ImageEditor::ImportDialog *>()->findChildren<QCheckBox *>();
         QVERIFY(!boxes[1]->isEnabled() && !boxes[1]->isChecked());
+    }
+
+    void theClearColourOfMapsIsMarkedAmongThoseOfTiles()
+    {
+        Project project;
+        const QPointer<TileSet> tiles = project.createTileSet("Tiles", {}, 4);
+        const QPointer<Map> map = project.createMap("Level", tiles->id(), {40, 32});
+        TileWindow window;
+        window.setTileSet(tiles);
+        auto *colours = window.findChild<ColourSelector *>();
+        const QImage before = colours->grab().toImage();
+        map->setTileTransparencyIndex(6);
+        QEnterEvent enter({}, {}, {});
+        QApplication::sendEvent(&window, &enter);
+        const QImage after = colours->grab().toImage();
+        const int width = (colours->width() - 49) / 8;
+        for (const int cell : {5, 6, 7}) {
+            const QRect area(colours->width() - (8 - cell) * width + 4, 4, width - 8, 16);
+            QCOMPARE(before.copy(area) != after.copy(area), cell == 6);
+        }
     }
 
     void imageImportsMayBringTheirPalette_data()
