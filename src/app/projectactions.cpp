@@ -55,7 +55,8 @@ void ProjectActions::serve(const MenuBar &menus)
     connect(menus.tileMenu(), &TileMenu::createTiles, this, &ProjectActions::createTileSet);
     connect(menus.tileMenu(), &TileMenu::createBlocks, this, &ProjectActions::createBlocks);
     connect(menus.mapMenu(), &MapMenu::create, this, &ProjectActions::createMap);
-    connect(menus.mapMenu(), &MapMenu::importRequested, this, &ProjectActions::importMap);
+    connect(menus.mapMenu(), &MapMenu::importRequested, this,
+            [this, maps = menus.mapMenu()](const QString &filePath) { importKnown(filePath, maps->picture()); });
     connect(menus.mapMenu(), &MapMenu::importReductionRequested, this, &ProjectActions::importReduction);
     SpriteMenu *sprites = menus.spriteMenu();
     connect(this, &ProjectActions::aboutToDeleteSprites, sprites, [sprites](const QUuid &id) {
@@ -179,13 +180,13 @@ bool ProjectActions::remove(Project &project, ProjectTree::ProjectNode node, con
 
 // Importing
 
-void ProjectActions::importMap(const QString &filePath)
+void ProjectActions::importKnown(const QString &filePath, const PictureLoss *known)
 {
     Project *project = m_project();
     if (!project)
         return;
     const auto [map, failure] = isNextData(filePath) ? importNextData(*project, filePath, m_dialogParent)
-                                                     : importPicture(*project, filePath, m_dialogParent);
+                                                     : importPicture(*project, filePath, m_dialogParent, known);
     if (map)
         emit mapReady(map->id());
     if (!failure.isEmpty())

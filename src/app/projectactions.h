@@ -17,6 +17,7 @@
 
 class MenuBar;
 class QMessageBox;
+struct PictureLoss;
 struct TileReduction;
 
 /// Creates, copies, deletes and imports whole assets of the open project.
@@ -60,7 +61,7 @@ public slots:
     void deleteItem(ProjectTree::ProjectNode node, const QUuid &id);
 
     /// Makes a palette, a tile set and a map of a set of Next data files or of a picture.
-    void importMap(const QString &filePath);
+    void importMap(const QString &filePath) { importKnown(filePath, nullptr); }
     /// Makes them of the tiles that were found for a picture file.
     void importReduction(const QString &filePath, const TileReduction &reduction);
     /// Reads a palette file, or the colours of a picture, into a palette; into a new one for a null id.
@@ -85,6 +86,8 @@ signals:
     void failed(const QString &text, const QString &title);
 
 private:
+    /// Imports a map; what is known of a picture is not read again.
+    void importKnown(const QString &filePath, const PictureLoss *known);
     [[nodiscard]] bool remove(Project &project, ProjectTree::ProjectNode node, const QUuid &id);
     /// The message box for imports, with a text that names the failure.
     void reportIncompleteImport(const QString &failure);

@@ -1,3 +1,4 @@
+#include "app/menus/mapmenu.h"
 #include "app/menus/menubar.h"
 #include "app/menus/spritemenu.h"
 #include "app/projectactions.h"
@@ -309,6 +310,23 @@ private slots:
         for (int i = 0; i < 256; ++i)
             QCOMPARE(second->rawColour(i), NineBitColour::wordOf(256 + i));
         QCOMPARE(box->buttons().size(), 1);
+    }
+
+    void readsAPictureOnce()
+    {
+        QImage picture(16, 16, QImage::Format_RGB32);
+        picture.fill(Qt::black);
+        const QString file = m_folder("level.png");
+        QVERIFY(picture.save(file));
+        MenuBar menus;
+        MapMenu &maps = *menus.mapMenu();
+        maps.setProject(m_project.get());
+        maps.setFileChooser([&file](const FileRequest &, QWidget *) { return file; });
+        connect(&maps, &MapMenu::importRequested, this, [](const QString &path) { QVERIFY(QFile::remove(path)); });
+        m_actions->serve(menus);
+        maps.showImportDialog();
+        QVERIFY(m_project->map(m_ready));
+        QCOMPARE(m_project->map(m_ready)->size(), QSize(2, 2));
     }
 
     void keepsTheMachinesLevels_data()

@@ -49,6 +49,7 @@ ImportPictureDialog::ImportPictureDialog(QWidget *parent)
         pictures->addLayout(column, 1);
     }
     body()->addLayout(pictures, 1);
+    connect(this, &QDialog::rejected, this, &ImportPictureDialog::forget);
     m_summary->setTextFormat(Qt::PlainText);
     body()->addWidget(m_summary);
 }
@@ -139,10 +140,18 @@ QString ImportPictureDialog::problem() const
         .arg(TileReduction::MostTiles);
 }
 
+/// A large picture is not kept while nobody looks at it.
+void ImportPictureDialog::forget()
+{
+    m_loss = {};
+    m_reduction.reset();
+}
+
 void ImportPictureDialog::submit()
 {
     if (m_reduction)
         emit accepted(m_file, *m_reduction);
     else
-        emit unreduced(m_file);
+        emit unreduced(m_file, m_loss);
+    forget();
 }

@@ -28,7 +28,7 @@ public slots:
 signals:
     void accepted(const QString &file, const TileReduction &reduction);
     /// Nothing of it is wanted: the picture is to be cut as it is.
-    void unreduced(const QString &file);
+    void unreduced(const QString &file, const PictureLoss &picture);
 
 protected:
     [[nodiscard]] QString problem() const override;
@@ -36,6 +36,7 @@ protected:
 
 private:
     void refresh();
+    void forget();
     [[nodiscard]] bool reduces() const;
     [[nodiscard]] QString summary() const;
 

@@ -100,34 +100,39 @@ QImage shownOf(const ImageSlicer &slicer)
     return shown;
 }
 
-} // namespace
-
-MapImport importPicture(Project &project, const QString &filePath, QWidget *parent)
+MapImport importCut(Project &project, const QString &filePath, const ImageSlicer &slicer)
 {
-    const QPointer<Project> guarded = &project; // events are handled while the picture is cut
-    const Busy busy(parent, tr("Importing %1…").arg(QFileInfo(filePath).fileName()), PictureFile::pixelCount(filePath));
-    const PictureFile picture = PictureFile::read(filePath);
-    if (picture.image.isNull())
-        return {nullptr, picture.failure()};
-
-    ImageSlicer slicer(picture.image);
-    int tiles = 0;
-    {
-        SlicingProgress progress(slicer, parent);
-        tiles = slicer.sliceTiles();
-    }
+    const int tiles = slicer.pieceCount();
     if (tiles > MostTiles) {
         return {nullptr, tr("Cannot import the image as it would need more than 512 tiles\n%1 required").arg(tiles)};
     }
     if (tiles == 0)
         return {nullptr, tr("The image is smaller than a tile, which has 8 × 8 pixels")};
-    if (!guarded)
-        return {nullptr, tr("The project was closed meanwhile")};
-
     const QString name = QFileInfo(filePath).completeBaseName();
     const QUuid palette = createPaletteOf(project, name, slicer.bankColours())->id();
     const QPointer<TileSet> tileSet = createTileSet(project, name, palette, slicer, tiles);
     return {createMap(project, name, tileSet->id(), slicer), lossOf(slicer)};
+}
+
+} // namespace
+
+MapImport importPicture(Project &project, const QString &filePath, QWidget *parent, const PictureLoss *known)
+{
+    const QPointer<Project> guarded = &project; // events are handled while the picture is cut
+    const Busy busy(parent, tr("Importing %1…").arg(QFileInfo(filePath).fileName()), PictureFile::pixelCount(filePath));
+    if (known && known->cut)
+        return importCut(project, filePath, *known->cut);
+    const PictureFile picture = PictureFile::read(filePath);
+    if (picture.image.isNull())
+        return {nullptr, picture.failure()};
+    ImageSlicer slicer(picture.image);
+    {
+        SlicingProgress progress(slicer, parent);
+        slicer.sliceTiles();
+    }
+    if (!guarded)
+        return {nullptr, tr("The project was closed meanwhile")};
+    return importCut(project, filePath, slicer);
 }
 
 namespace {
@@ -173,14 +178,15 @@ PictureLoss PictureLoss::of(const QString &filePath, QWidget *parent)
         translucent.setTranslucent(loss.picture);
         loss.losesClearPixels = translucent.hasClearPixels();
     }
-    ImageSlicer slicer(loss.picture);
+    const auto slicer = std::make_shared<ImageSlicer>(loss.picture);
     {
-        SlicingProgress progress(slicer, parent);
-        loss.tiles = slicer.sliceTiles();
+        SlicingProgress progress(*slicer, parent);
+        loss.tiles = slicer->sliceTiles();
     }
-    loss.lossyTiles = slicer.lossyTileCount();
+    loss.cut = slicer;
+    loss.lossyTiles = slicer->lossyTileCount();
     if (loss.any() && loss.tiles <= MostTiles)
-        loss.shown = shownOf(slicer);
+        loss.shown = shownOf(*slicer);
     return loss;
 }
 

@@ -4,6 +4,9 @@
 
 #include <QImage>
 
+#include <memory>
+
+class ImageSlicer;
 class Project;
 class QWidget;
 struct TileReduction;
@@ -19,6 +22,7 @@ struct PictureLoss
     int tiles = 0;
     int lossyTiles = 0; ///< that do not show all their colours
     QImage shown; ///< what would become of it; null when it has too many tiles
+    std::shared_ptr<const ImageSlicer> cut; ///< null when it is smaller than a tile
 
     [[nodiscard]] bool any() const;
 
@@ -31,5 +35,7 @@ struct PictureLoss
 
 /// Makes a palette, a tile set and a map of a picture, cut into tiles that are stored once. The window in
 /// front shows the progress. Nothing is made of a picture that cannot be used; one with more colours than tiles can
-/// show is imported as far as they go, and the failure says how many tiles lost some.
-[[nodiscard]] MapImport importPicture(Project &project, const QString &filePath, QWidget *parent);
+/// show is imported as far as they go, and the failure says how many tiles lost some. What has been read of the file
+/// already is not read again.
+[[nodiscard]] MapImport importPicture(Project &project, const QString &filePath, QWidget *parent,
+                                      const PictureLoss *known = nullptr);

@@ -4,6 +4,8 @@
 #include "app/dialogs/mapdialog.h"
 #include "ui/busy.h"
 
+#include <QScopedValueRollback>
+
 MapMenu::MapMenu(QWidget *parent) : ProjectMenu(tr("&Map"), parent)
 {
     addCommand(this, tr("&New Map"), &MapMenu::showNewDialog, Qt::CTRL | Qt::ALT | Qt::Key_M, QStringLiteral(":/Map"));
@@ -58,14 +60,20 @@ void MapMenu::askForImport(const QStringList &nameFilters)
         return;
     const PictureLoss loss = PictureLoss::of(file, dialogParent());
     if (!loss.any()) {
-        emit importRequested(file);
+        requestImport(file, loss);
         return;
     }
     if (!m_pictureDialog) {
         auto *dialog = lazily(m_pictureDialog, this, &MapMenu::importReductionRequested);
-        connect(dialog, &ImportPictureDialog::unreduced, this, &MapMenu::importRequested);
+        connect(dialog, &ImportPictureDialog::unreduced, this, &MapMenu::requestImport);
     }
     m_pictureDialog->show(file, loss);
+}
+
+void MapMenu::requestImport(const QString &filePath, const PictureLoss &picture)
+{
+    const QScopedValueRollback known(m_picture, &picture);
+    emit importRequested(filePath);
 }
 
 void MapMenu::showExportDialog()

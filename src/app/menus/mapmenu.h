@@ -8,6 +8,7 @@
 
 class ImportPictureDialog;
 class MapDialog;
+struct PictureLoss;
 struct TileReduction;
 
 /// The "Map" menu: new and imported maps, and the file of the active one.
@@ -19,6 +20,8 @@ public:
     explicit MapMenu(QWidget *parent = nullptr);
 
     [[nodiscard]] Map *map() const { return m_map; }
+    /// What the menu knows of the picture that it asks to import, while it does; null when it has not looked at it.
+    [[nodiscard]] const PictureLoss *picture() const { return m_picture; }
 
 public slots:
     /// The active map, or null.
@@ -42,8 +45,10 @@ private:
     [[nodiscard]] static QString nextTilesFilter();
     [[nodiscard]] static QString imagesFilter();
     void askForImport(const QStringList &nameFilters);
+    void requestImport(const QString &filePath, const PictureLoss &picture);
 
     QPointer<Map> m_map;
+    const PictureLoss *m_picture = nullptr;
     QAction *m_export;
     QPointer<MapDialog> m_dialog;
     QPointer<ImportPictureDialog> m_pictureDialog;
