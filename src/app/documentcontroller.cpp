@@ -337,6 +337,7 @@ void DocumentController::openMap(const QPointer<Map> &map)
 {
     MapEditor::View *editor = m_views.tabs->openMapEditor(map);
     editor->setUndoStack(undoStackFor(map->id()));
+    editor->setPastesPictures(true);
     editor->setSpriteBanks(project()->spriteBanks());
     editor->applyPreferences(preferencesOf(*m_views.preferences->mapEditorPage()));
     ProjectStore *store = m_projectController->store();

@@ -353,6 +353,11 @@ void TileMap::paste(QPoint at, const QMimeData *mimeData)
     m_picture->contentChanged();
 }
 
+bool TileMap::isIn(const QMimeData *mimeData)
+{
+    return mimeData && mimeData->hasFormat(mimeType());
+}
+
 TileMap::Selection TileMap::readSelection(const QMimeData *mimeData)
 {
     const QByteArray data = mimeData ? mimeData->data(mimeType()) : QByteArray();

@@ -137,6 +137,8 @@ public:
     /// Stores the cells of clipboard data with their top left at a position, dropping those outside the
     /// grid. Missing or damaged data changes nothing.
     void paste(QPoint at, const QMimeData *mimeData);
+    /// Whether clipboard data has this form, damaged or not.
+    [[nodiscard]] static bool isIn(const QMimeData *mimeData);
     /// The selection that clipboard data holds; an empty size when it is missing or damaged.
     [[nodiscard]] static Selection readSelection(const QMimeData *mimeData);
 

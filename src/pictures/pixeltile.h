@@ -2,7 +2,9 @@
 
 #include <QRgb>
 
+#include <algorithm>
 #include <array>
+#include <cstddef>
 
 /// The 64 colours of a tile, row by row; clear pixels are 0, all others opaque.
 using PixelTile = std::array<QRgb, 64>;
@@ -28,5 +30,36 @@ inline constexpr auto Origins = [] {
     }
     return origins;
 }();
+
+/// The pixels of a tile, of whatever kind, in an orientation.
+template <typename Pixels>
+[[nodiscard]] Pixels turned(const Pixels &tile, int orientation)
+{
+    const auto &origins = Origins[size_t(orientation)];
+    Pixels result;
+    for (size_t i = 0; i < origins.size(); ++i)
+        result[i] = tile[origins[i]];
+    return result;
+}
+
+/// The same for all eight orientations of a tile, and no other.
+template <typename Pixels>
+[[nodiscard]] Pixels inFirstOrientation(const Pixels &tile)
+{
+    Pixels first = tile;
+    for (int orientation = 1; orientation < Count; ++orientation)
+        first = std::min(first, turned(tile, orientation));
+    return first;
+}
+
+/// The first orientation in which a tile shows these pixels; none shows others.
+template <typename Pixels>
+[[nodiscard]] int orientationOf(const Pixels &tile, const Pixels &shown)
+{
+    int orientation = 0;
+    while (orientation < Count - 1 && turned(tile, orientation) != shown)
+        ++orientation;
+    return orientation;
+}
 
 } // namespace TileOrientation

@@ -87,16 +87,6 @@ Key keyOf(const PixelTile &tile, Dithering dithering)
     return key;
 }
 
-template <typename Pixels>
-Pixels turned(const Pixels &tile, int orientation)
-{
-    const auto &origins = TileOrientation::Origins[size_t(orientation)];
-    Pixels result;
-    for (size_t i = 0; i < Area; ++i)
-        result[i] = tile[origins[i]];
-    return result;
-}
-
 /// The distinct tiles of a picture, those that are turned or mirrored counted once, and which one a cell shows.
 struct DistinctTiles
 {
@@ -118,9 +108,7 @@ DistinctTiles distinctTiles(Cells &cells, Dithering dithering)
         for (int column = 0; column < size.width(); ++column) {
             const PixelTile tile = cells.at(column, row);
             const Key key = keyOf(tile, dithering);
-            Key first = key;
-            for (int orientation = 1; orientation < TileOrientation::Count; ++orientation)
-                first = std::min(first, turned(key, orientation));
+            const Key first = TileOrientation::inFirstOrientation(key);
             const auto bytes = QByteArray(reinterpret_cast<const char *>(first.data()), qsizetype(sizeof first));
             const int number = known.value(bytes, -1);
             if (number < 0) {
@@ -137,11 +125,8 @@ DistinctTiles distinctTiles(Cells &cells, Dithering dithering)
                 keys.push_back(key);
                 continue;
             }
-            int orientation = 0;
-            while (orientation < TileOrientation::Count - 1 && turned(keys[size_t(number)], orientation) != key)
-                ++orientation;
             ++distinct.weights[size_t(number)];
-            distinct.cells.push_back({number, orientation});
+            distinct.cells.push_back({number, TileOrientation::orientationOf(keys[size_t(number)], key)});
         }
     }
     return distinct;
@@ -271,7 +256,7 @@ double errorOf(const TileReduction &reduction, Cells &cells)
     qint64 pixels = 0;
     for (size_t cell = 0; cell < reduction.cells.size(); ++cell) {
         const auto &[number, orientation] = reduction.cells[cell];
-        const Pixels shown = turned(reduction.tiles[size_t(number)], orientation);
+        const Pixels shown = TileOrientation::turned(reduction.tiles[size_t(number)], orientation);
         const PixelTile wanted = cells.at(int(cell) % reduction.size.width(), int(cell) / reduction.size.width());
         for (size_t i = 0; i < Area; ++i) {
             if (isClear(wanted[i]))
@@ -315,7 +300,7 @@ TileReduction TileReduction::of(const QImage &picture, const Choices &choices)
         if (acrossTiles)
             return shown[size_t(cell)];
         const auto &[tile, orientation] = distinct.cells[size_t(cell)];
-        return turned(shown[size_t(book.standsFor[size_t(tile)])], orientation);
+        return TileOrientation::turned(shown[size_t(book.standsFor[size_t(tile)])], orientation);
     };
     PieceTable pieces(Side, [&](int cell, uchar *to) {
         const Pixels pixels = pixelsOf(cell);

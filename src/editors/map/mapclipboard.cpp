@@ -1,6 +1,7 @@
 #include "editors/map/mapclipboard.h"
 
 #include "model/map.h"
+#include "model/picturefile.h"
 #include "model/tileset.h"
 
 #include <QClipboard>
@@ -55,6 +56,18 @@ QSize sizeFor(const Map *map)
     const TileMap::Selection selection = TileMap::readSelection(QGuiApplication::clipboard()->mimeData());
     const QUuid tiles = map->tileSet() ? map->tileSet()->id() : QUuid();
     return selection.tileSetId == tiles ? selection.size : QSize();
+}
+
+bool mayHoldPicture()
+{
+    const QMimeData *mimeData = QGuiApplication::clipboard()->mimeData();
+    return mimeData && mimeData->hasImage() && !TileMap::isIn(mimeData);
+}
+
+QImage picture()
+{
+    const QMimeData *mimeData = QGuiApplication::clipboard()->mimeData();
+    return TileMap::isIn(mimeData) ? QImage() : PictureFile::of(mimeData);
 }
 
 } // namespace MapClipboard

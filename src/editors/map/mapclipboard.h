@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QImage>
 #include <QRect>
 #include <QSize>
 
@@ -15,5 +16,10 @@ namespace MapClipboard {
 
 /// The size of what the clipboard holds for a map; empty when that is nothing, damaged, or made of other tiles.
 [[nodiscard]] QSize sizeFor(const Map *map);
+
+/// The picture that the clipboard holds; null when that is nothing, or cells of whatever map.
+[[nodiscard]] QImage picture();
+/// Whether it offers one, which need not be one that can be read.
+[[nodiscard]] bool mayHoldPicture();
 
 } // namespace MapClipboard

@@ -77,6 +77,11 @@ void View::setUndoStack(QUndoStack *stack)
     m_grid->setUndoStack(stack);
 }
 
+void View::setPastesPictures(bool pastes)
+{
+    m_grid->setPastesPictures(pastes);
+}
+
 void View::setSpriteBanks(const QList<QPointer<SpriteBank>> &banks)
 {
     m_grid->setSpriteBanks(banks);

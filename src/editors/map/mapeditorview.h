@@ -52,6 +52,8 @@ public:
     /// Where edits are recorded; without one they are not.
     void setUndoStack(QUndoStack *stack);
     /// The banks of which sprites may be placed.
+    /// Lets pictures be pasted, where structural edits of tile sets are recorded.
+    void setPastesPictures(bool pastes);
     void setSpriteBanks(const QList<QPointer<SpriteBank>> &banks);
     void applyPreferences(const Preferences &preferences);
 

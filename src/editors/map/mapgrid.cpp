@@ -10,6 +10,7 @@
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QStatusTipEvent>
 #include <QWheelEvent>
 
 using namespace Quenmora::Ui;
@@ -37,6 +38,12 @@ void MapGrid::buildContextMenu()
     m_contextMenu->addAction(tr("Copy to new map"), this, &MapGrid::mapFromSelection);
     m_contextMenu->addAction(tr("Copy as Image"), this, &MapGrid::copyAsImage);
     m_contextMenu->addAction(tr("Fill"), this, &MapGrid::fillSelection);
+    m_contextMenu->addSeparator();
+    QAction *paste = m_contextMenu->addAction(tr("Paste"), this, [this] { setMode(Paste); });
+    connect(m_contextMenu, &QMenu::aboutToShow, this, [this, paste] {
+        paste->setEnabled(!MapClipboard::sizeFor(map()).isEmpty()
+                          || (m_pastesPictures && MapClipboard::mayHoldPicture()));
+    });
 }
 
 // ---- What is shown ----------------------------------------------------------------------------
@@ -402,6 +409,13 @@ void MapGrid::mapFromSelection()
     const QSize size = selection().size();
     if (copyCells())
         emit createMapFromSelection(map()->id(), size);
+}
+
+/// In the status line of the window around.
+void MapGrid::tell(const QString &text)
+{
+    QStatusTipEvent tip(text);
+    QCoreApplication::sendEvent(this, &tip);
 }
 
 void MapGrid::copyAsImage()

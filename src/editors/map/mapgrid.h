@@ -92,6 +92,11 @@ public:
     /// Changes the selected sprite.
     void setSpriteProperties(const Map::PlacedSprite &sprite) { m_editing.setSprite(sprite); }
 
+    bool pastesPictures() const override { return m_pastesPictures; }
+    /// Lets pictures be pasted, where structural edits of tile sets are recorded.
+    void setPastesPictures(bool pastes) { m_pastesPictures = pastes; }
+    void tell(const QString &text) override;
+
     void beginEdit() override { m_editing.edit().begin(); }
     void endEdit(const QString &text) override { m_editing.edit().end(text); }
     void repaintSoon() override { update(); }
@@ -194,6 +199,7 @@ private:
     MapBrush m_brush;
     MapEditing m_editing{m_content};
     MapToolBox m_tools{this}; ///< which use all of the above
+    bool m_pastesPictures = false;
     OutlineBand *m_rubberBand;
     QMenu *m_contextMenu;
 };

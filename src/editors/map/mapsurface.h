@@ -41,6 +41,11 @@ public:
     virtual QRect pasteArea() const = 0;
     virtual void setPasteArea(const QRect &cells) = 0;
 
+    /// Whether the clipboard's pictures are pasted, which adds tiles to the map's tile set: somebody else records that.
+    virtual bool pastesPictures() const = 0;
+    /// Tells the user something, without asking for an answer.
+    virtual void tell(const QString &text) = 0;
+
     // Edits may be nested; the outermost one becomes the undo step.
     virtual void beginEdit() = 0;
     virtual void endEdit(const QString &text) = 0;

@@ -1,21 +1,36 @@
 #pragma once
 
 #include "editors/map/maptool.h"
+#include "pictures/picturecells.h"
+
+#include <QImage>
 
 namespace MapEditor {
 
-/// Pastes the cells on the clipboard, around the pointer.
+/// Pastes the cells on the clipboard, or a picture as cells, around the pointer.
+///
+/// A picture is cut into the tiles that the map's set has, and others that are added to the set. Both together are a
+/// structural edit of the set, which whoever records such edits makes one undo step. What it will cost is told before.
 class PasteTool final : public MapTool
 {
 public:
     using MapTool::MapTool;
 
     Quenmora::Ui::ToolButton mode() const override { return Quenmora::Ui::Paste; }
-    /// Refuses when the clipboard holds no cells, or cells of another tile set than the map's.
+    /// Refuses when the clipboard holds no cells, or cells of another tile set than the map's, and no picture for which
+    /// there is room.
     bool activate() override;
     void mouseMoved(QMouseEvent *event) override;
     bool mousePressed(QMouseEvent *event) override;
     void paintOver(QPainter &painter) const override;
+
+private:
+    bool takePicture();
+    bool putPictureDown(QPoint at);
+    /// What a picture would become; nothing of it when there is no room, which is told.
+    [[nodiscard]] PictureCells cellsOf(const QImage &picture) const;
+
+    QImage m_picture; ///< that is being pasted; null for cells
 };
 
 } // namespace MapEditor

@@ -1,5 +1,6 @@
 #include "support/mapfixture.h"
 #include "support/testmain.h"
+#include "undo/editrecorder.h"
 
 #include <QtWidgets>
 
@@ -164,6 +165,108 @@ private slots:
             f.click(f.at(10, 10));
             QCOMPARE(f.steps(), own ? "Paste" : "");
         }
+    }
+
+    /// Cut into tiles that are there, turned or not, and others, which take the place of what is blank and unused.
+    void pastesPicturesAsTiles_data()
+    {
+        QTest::addColumn<int>("clear");
+        QTest::newRow("opaque") << -1;
+        QTest::newRow("with holes") << 9;
+    }
+
+    void pastesPicturesAsTiles()
+    {
+        QFETCH(int, clear);
+        F f;
+        const EditRecorder recorder(&f.project, [&f](const QUuid &) { return &f.stack; });
+        const auto entry = [&f](int index) { return f.palette->colour(index).rgb(); };
+        const auto draw = [&f](int tile, int at, int index) {
+            QImage image = f.tiles->image(tile);
+            image.setPixel(at % 8, at / 8, uint(index));
+            f.tiles->setTileImage(tile, image);
+        };
+        draw(7, 0, 1);
+        for (const int blank : {14, 15})
+            f.tiles->setTileImage(blank, plainImage({8, 8}, 0));
+        f.map->setTile({0, 0}, {.index = 14, .used = true}); // which somebody wants to be blank
+        f.map->setTileTransparencyIndex(clear);
+        QImage picture(48, 8, QImage::Format_ARGB32);
+        const auto fill = [&](int cell, int index) {
+            for (int i = 0; i < 64; ++i)
+                picture.setPixel(cell * 8 + i % 8, i / 8, entry(index));
+        };
+        for (const auto &[cell, index] : {std::pair(0, 7), {1, 5}, {2, 20}, {3, 20}, {4, 5}, {5, 35}})
+            fill(cell, index); // tile 7, tile 5, new, new, a colour of another group, tile 3 with its offset
+        picture.setPixel(7, 0, entry(1)); // tile 7 turned
+        picture.setPixel(16, 0, entry(21));
+        picture.setPixel(24 + 7, 7, entry(21)); // the same turned
+        picture.setPixel(32, 1, entry(100));
+        picture.setPixel(40, 0, clear < 0 ? entry(35) : 0);
+        QApplication::clipboard()->setImage(picture);
+
+        f.grid.setMode(Paste);
+        QCOMPARE(f.grid.mode(), Draw); // unless somebody records it
+        f.grid.setPastesPictures(true);
+        f.grid.setMode(Paste);
+        QCOMPARE(f.grid.pasteArea(), QRect(0, 0, 6, 1));
+        const TileSet::Snapshot before = f.tiles->snapshot();
+        const Map::Snapshot mapBefore = f.map->snapshot();
+        f.move(f.at(13, 8));
+        f.click(f.at(13, 8));
+        QCOMPARE(f.steps(), "Paste Picture");
+        QCOMPARE(f.tiles->count(), clear < 0 ? 17 : 18);
+        QCOMPARE(f.tile(10, 8).index, 7); // around the pointer
+        QCOMPARE(f.tile(11, 8).index, 5);
+        QCOMPARE(f.tile(12, 8).index, 15);
+        QCOMPARE(f.tile(13, 8).index, 15);
+        const QImage shown = f.map->tileLayer()->render({10, 8, 6, 1}, 1, clear).convertToFormat(QImage::Format_ARGB32);
+        for (int i = 0; i < 48 * 8; ++i) {
+            const QPoint at(i % 48, i / 48);
+            QCOMPARE(qAlpha(shown.pixel(at)), qAlpha(picture.pixel(at)));
+            if (at != QPoint(32, 1) && qAlpha(shown.pixel(at)) > 0) // the one is lost
+                QCOMPARE(shown.pixel(at), picture.pixel(at));
+        }
+        f.move(f.at(13, 9));
+        f.click(f.at(13, 9)); // the tiles are there by now
+        QCOMPARE(f.tiles->count(), clear < 0 ? 17 : 18);
+        QCOMPARE(f.tile(12, 9), f.tile(12, 8));
+        f.stack.undo();
+        f.stack.undo();
+        QVERIFY(f.map->snapshot() == mapBefore);
+        QCOMPARE(f.tiles->snapshot(), before);
+        f.stack.redo();
+        QCOMPARE(f.map->tileLayer()->render({10, 8, 6, 1}, 1, clear).convertToFormat(QImage::Format_ARGB32), shown);
+
+        // what lies beside the map brings no tiles
+        f.stack.undo();
+        f.move(f.at(19, 8));
+        f.click(f.at(19, 8));
+        QCOMPARE(f.tiles->count(), 16);
+        QCOMPARE(f.tile(19, 8).index, 15);
+    }
+
+    void pastesNoPictureWithoutRoom()
+    {
+        F f;
+        const EditRecorder recorder(&f.project, [&f](const QUuid &) { return &f.stack; });
+        f.grid.setPastesPictures(true);
+        while (f.tiles->count() < 511)
+            f.tiles->insertTile(1);
+        for (int i = 0; i < 511; ++i)
+            f.tiles->setTileImage(i, plainImage({8, 8}, 3));
+        QImage picture(16, 8, QImage::Format_RGB32);
+        picture.fill(f.palette->colour(50).rgb());
+        picture.setPixel(0, 0, f.palette->colour(51).rgb());
+        QApplication::clipboard()->setImage(picture);
+        const int steps = f.stack.count();
+        f.grid.setMode(Paste); // two tiles
+        QCOMPARE(f.grid.mode(), Draw);
+        QApplication::clipboard()->setImage(picture.copy(0, 0, 8, 8));
+        f.grid.setMode(Paste);
+        f.click(f.at(3, 3));
+        QCOMPARE(f.tiles->count(), 512);
+        QCOMPARE(f.stack.count(), steps + 1);
     }
 
     void picksAndReturnsToTheToolBefore()
