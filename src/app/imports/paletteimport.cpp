@@ -1,17 +1,15 @@
 #include "app/imports/paletteimport.h"
 
+#include "importing/paletteedit.h"
 #include "model/nextcolour.h"
 #include "model/nximage.h"
 #include "model/picturefile.h"
 #include "model/project.h"
 #include "pictures/machinecolours.h"
-#include "undo/snapshotcommand.h"
 
-#include <QCoreApplication>
 #include <QFileInfo>
 #include <QPointer>
 #include <QStringList>
-#include <QUndoStack>
 
 #include <algorithm>
 #include <bitset>
@@ -20,21 +18,12 @@ namespace {
 
 using Words = QList<quint16>;
 
-constexpr int NeverMerges = -1;
-constexpr qint64 NoTimeLimit = -1;
-
 Words wordsOf(const Palette &palette)
 {
     Words words(Palette::Size);
     for (int i = 0; i < Palette::Size; ++i)
         words[i] = palette.rawColour(i);
     return words;
-}
-
-void setWords(Palette &palette, const Words &words)
-{
-    for (int i = 0; i < Palette::Size; ++i)
-        palette.setRawColour(i, words[i]);
 }
 
 bool hasPaletteSuffix(const QString &fileName)
@@ -112,21 +101,7 @@ std::optional<Words> readPaletteFile(const QString &fileName, Palette &words)
 
 void replaceWords(Palette &palette, const Palette &words, QUndoStack *stack)
 {
-    const Words before = wordsOf(palette);
-    const Words after = wordsOf(words);
-    if (before == after)
-        return;
-    setWords(palette, after);
-    if (!stack)
-        return;
-    const auto change = [guarded = QPointer<Palette>(&palette)](const Words &from, const Words &to) {
-        for (int i = 0; guarded && i < Palette::Size; ++i) {
-            if (guarded->rawColour(i) == from[i]) // colours that were edited since stay
-                guarded->setRawColour(i, to[i]);
-        }
-    };
-    stack->push(new SnapshotCommand<Words>(QCoreApplication::translate("PaletteImport", "Import Palette"), before,
-                                           after, change, NeverMerges, QVariant(), NoTimeLimit));
+    Importing::replaceEntries(palette, {.words = wordsOf(words)}, stack);
 }
 
 Palette *createPaletteOf(Project &project, const QString &name, const QList<QRgb> &colours)

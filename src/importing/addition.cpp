@@ -1,0 +1,324 @@
+#include "importing/addition.h"
+
+#include "importing/paletteedit.h"
+#include "importing/pixelpictures.h"
+#include "importing/tr.h"
+#include "model/animatedblocks.h"
+#include "model/image.h"
+#include "model/map.h"
+#include "model/mapobjects.h"
+#include "model/palette.h"
+#include "model/project.h"
+#include "model/spriteanim.h"
+#include "model/spritebank.h"
+#include "model/tileset.h"
+#include "undo/mapeditcommand.h"
+
+#include <QUndoStack>
+
+#include <algorithm>
+
+namespace Importing {
+namespace {
+
+using NextData::PaletteContent;
+using NextData::TileNumbersContent;
+
+constexpr int MostTiles = 4096; ///< in a tile set that something is added to
+constexpr int UsualTiles = 512; ///< that a map can show
+
+QList<QRgb> tableOf(const Palette *palette)
+{
+    return palette ? palette->colourTable() : QList<QRgb>(Palette::Size, qRgb(0, 0, 0));
+}
+
+/// Where things that come in begin in an asset that has so many.
+int beginningAt(const ImportChoices &choices, int count)
+{
+    return choices.at == ImportChoices::AtTheEnd ? count : choices.at;
+}
+
+void putNumbers(TileSet &tileSet, const TileNumbersContent &content)
+{
+    TileSet::Snapshot tiles = tileSet.snapshot();
+    const qsizetype end = std::min(tiles.size(), content.first + content.numbers.size());
+    for (qsizetype i = content.first; i < end; ++i) {
+        const int number = content.numbers[i - content.first];
+        if (content.meaning == TileNumbersContent::Meaning::Attributes)
+            tiles[i].attributes = number;
+        else
+            tiles[i].value = number;
+    }
+    tileSet.restore(tiles);
+}
+
+/// Runs a change of an asset's structure as one step, for whoever records these.
+template <typename Asset, typename Change>
+void changeStructure(Asset &asset, const QString &text, const Change &change)
+{
+    emit asset.structureAboutToChange();
+    change();
+    emit asset.structureChanged(text);
+}
+
+/// Gives an animation the frames of one that comes in, whose cells name what begins at a number.
+void fill(Animation &animation, const IncomingAnimation &incoming, int first)
+{
+    animation.setName(incoming.name);
+    Animation::State state{.size = incoming.size, .delay = incoming.delay, .frames = {}};
+    for (AnimationFrame::Cells cells : incoming.frames) {
+        for (auto &row : cells) {
+            for (AnimationFrame::Cell &cell : row)
+                cell.index += first;
+        }
+        state.frames.append({QUuid::createUuid(), cells});
+    }
+    animation.restore(state);
+}
+
+// New assets, each after those that it needs
+
+class NewAssets
+{
+public:
+    NewAssets(Project &project, const IncomingAssets &incoming, const ImportChoices &choices)
+        : m_project(project)
+        , m_incoming(incoming)
+        , m_choices(choices)
+    { }
+
+    AddedAssets make()
+    {
+        if (m_incoming.palette)
+            makePalette();
+        if (m_incoming.tiles)
+            makeTileSet();
+        if (m_incoming.sprites)
+            makeSprites();
+        if (m_incoming.map)
+            makeMap();
+        if (m_incoming.image)
+            makeImage();
+        return m_added;
+    }
+
+private:
+    void makePalette()
+    {
+        Palette words;
+        const PaletteContent &content = *m_incoming.palette;
+        for (qsizetype i = 0; i < content.words.size(); ++i)
+            words.storeRawColour(int(content.first + i), content.words[i]);
+        const QPointer<Palette> palette = m_project.createPalette(CreateAction::Blank, m_choices.name);
+        palette->copyColours(words);
+        palette->setTransparencyIndex(content.transparency.value_or(-1));
+        m_added.palette = palette->id();
+    }
+
+    /// The palette of what is made: that which comes with it, the chosen one, or a new one of the standard colours.
+    QPointer<Palette> palette()
+    {
+        const QUuid id = m_added.palette.isNull() ? m_choices.palette : m_added.palette;
+        if (const QPointer<Palette> palette = m_project.palette(id))
+            return palette;
+        const QPointer<Palette> palette = m_project.createPalette(CreateAction::DefaultNext, m_choices.name);
+        m_added.palette = palette->id();
+        return palette;
+    }
+
+    void makeTileSet()
+    {
+        const int count = int(m_incoming.tiles->tiles.size());
+        const QPointer<TileSet> tileSet = m_project.createTileSet(m_choices.name, palette()->id(), count, false);
+        putTiles(*tileSet, 0, *m_incoming.tiles, tableOf(tileSet->palette()));
+        m_added.tileSet = tileSet->id();
+        if (m_incoming.blocks.isEmpty())
+            return;
+        const QPointer<MapObjects> blocks = m_project.createBlockList(m_choices.name, tileSet->id());
+        for (const IncomingAnimation &incoming : m_incoming.blocks) {
+            const QPointer<TileAnimation> block = blocks->createBoundTileAnimation(incoming.name);
+            fill(*block, incoming, 0);
+            m_blocks.append(block);
+        }
+        m_added.blocks = blocks->id();
+    }
+
+    void makeSprites()
+    {
+        const IncomingSprites &incoming = *m_incoming.sprites;
+        const QPointer<Palette> colours = palette();
+        const QPointer<SpriteBank> bank =
+            m_project.createSpriteBank(incoming.content.depth, m_choices.name, colours->id());
+        bank->setWholeImage(stripOf(incoming.content, tableOf(colours)));
+        if (incoming.transparency >= 0)
+            bank->changeTransparency(incoming.transparency);
+        for (const IncomingAnimation &animation : incoming.animations)
+            fill(*bank->newAnimation(), animation, 0);
+        m_added.sprites = bank->id();
+    }
+
+    void makeMap()
+    {
+        const IncomingMap &incoming = *m_incoming.map;
+        const QSize size(int(incoming.rows.constFirst().size()), int(incoming.rows.size()));
+        const QPointer<Map> map = m_project.createMap(m_choices.name, tileSetForMap(), size);
+        Map::Snapshot content = map->snapshot();
+        content.tiles = incoming.rows;
+        for (Map::PlacedSprite sprite : incoming.sprites) {
+            sprite.bank = m_added.sprites;
+            content.sprites.append(sprite);
+        }
+        map->restore(content);
+        map->setTileTransparencyIndex(incoming.transparency);
+        for (const auto &[animation, at] : incoming.blocks)
+            map->placeAnimation(m_blocks.value(animation), at);
+        m_added.map = map->id();
+    }
+
+    QUuid tileSetForMap()
+    {
+        if (m_added.tileSet.isNull() && !m_project.tileSet(m_choices.tileSet))
+            m_added.tileSet = m_project.createTileSet(m_choices.name, palette()->id(), UsualTiles, false)->id();
+        return m_added.tileSet.isNull() ? m_choices.tileSet : m_added.tileSet;
+    }
+
+    void makeImage()
+    {
+        const NextData::ImageContent &content = *m_incoming.image;
+        const QPointer<Palette> colours = palette();
+        const QPointer<Image> image = new Image(content.mode, &m_project);
+        image->setName(m_choices.name);
+        image->setPalette(colours);
+        image->setImage(pictureOf(content.pixels, Image::sizeOf(content.mode), tableOf(colours)));
+        m_project.addImage(image);
+        emit m_project.imageCreated(image); // whoever opens it shows what it holds then
+        m_added.image = image->id();
+    }
+
+    Project &m_project;
+    const IncomingAssets &m_incoming;
+    const ImportChoices &m_choices;
+    AddedAssets m_added;
+    QList<QPointer<TileAnimation>> m_blocks;
+};
+
+// Assets that are there
+
+void replaceMap(Map &map, const IncomingMap &incoming, QUndoStack *stack)
+{
+    const Map::Snapshot before = map.snapshot();
+    const QSize size(int(incoming.rows.constFirst().size()), int(incoming.rows.size()));
+    if (size != map.size())
+        map.resize(size); // what is placed outside goes
+    Map::Snapshot content = map.snapshot();
+    content.tiles = incoming.rows;
+    map.restore(content);
+    if (stack)
+        stack->push(new MapEditCommand(tr("Import Map"), &map, before, map.snapshot()));
+}
+
+void putSprites(SpriteBank &bank, int first, const NextData::SpritesContent &content)
+{
+    constexpr int side = SpriteBank::SpriteSize;
+    const QImage strip = stripOf(content, tableOf(bank.palette()));
+    const int replaced = std::min(bank.count() - first, strip.height() / side);
+    for (int i = 0; i < replaced; ++i)
+        bank.setImage(first + i, strip.copy(0, i * side, side, side));
+    if (replaced * side < strip.height())
+        (void)bank.appendPieces(strip.copy(0, replaced * side, side, strip.height() - replaced * side));
+}
+
+AddedAssets change(Project &project, const IncomingAssets &incoming, const ImportChoices &choices,
+                   const StackProvider &stackFor)
+{
+    QUndoStack *stack = stackFor ? stackFor(choices.target) : nullptr;
+    if (const QPointer<Palette> palette = project.palette(choices.target)) {
+        replaceEntries(*palette, *incoming.palette, stack);
+        return {.palette = choices.target};
+    }
+    if (const QPointer<TileSet> tileSet = project.tileSet(choices.target)) {
+        changeStructure(*tileSet, tr("Import Tiles"), [&] {
+            if (incoming.tiles)
+                putTiles(*tileSet, beginningAt(choices, tileSet->count()), *incoming.tiles,
+                         tableOf(tileSet->palette()));
+            else
+                putNumbers(*tileSet, *incoming.numbers);
+        });
+        return {.tileSet = choices.target};
+    }
+    if (const QPointer<SpriteBank> bank = project.spriteBank(choices.target)) {
+        changeStructure(*bank, tr("Import Sprites"),
+                        [&] { putSprites(*bank, beginningAt(choices, bank->count()), incoming.sprites->content); });
+        return {.sprites = choices.target};
+    }
+    replaceMap(*project.map(choices.target), *incoming.map, stack);
+    return {.map = choices.target};
+}
+
+// What can go wrong
+
+QString roomProblem(int first, qsizetype count, int available, int most)
+{
+    if (first < 0 || first > available)
+        return tr("There is no number %1; the last one is %2").arg(first).arg(available - 1);
+    if (count > most - first)
+        return tr("There is room for %1, and %2 come in").arg(most - first).arg(count);
+    return {};
+}
+
+QString tilesProblem(const TileSet &tileSet, const IncomingAssets &incoming, const ImportChoices &choices)
+{
+    const int count = tileSet.count();
+    if (incoming.numbers && incoming.numbers->first >= count)
+        return tr("“%1” has %2 tiles, and the first number is for tile %3 (counted from 0)")
+            .arg(tileSet.name(), QString::number(count), QString::number(incoming.numbers->first));
+    if (!incoming.tiles)
+        return {};
+    return roomProblem(beginningAt(choices, count), incoming.tiles->tiles.size(), count, std::max(MostTiles, count));
+}
+
+QString spritesProblem(const SpriteBank &bank, const IncomingAssets &incoming, const ImportChoices &choices)
+{
+    const NextData::SpritesContent &content = incoming.sprites->content;
+    const bool isDeeper = bank.depth() == Quenmora::FourBit && content.depth == Quenmora::EightBit
+        && std::any_of(content.pixels.cbegin(), content.pixels.cend(), [](char pixel) { return uchar(pixel) > 15; });
+    if (isDeeper)
+        return tr("The sprites have indices above 15, and “%1” is a bank of 4 bits").arg(bank.name());
+    return roomProblem(beginningAt(choices, bank.count()), content.pixels.size() / SpriteBank::SpriteBytes,
+                       bank.count(), SpriteBank::MaxCount);
+}
+
+QString targetProblem(const Project &project, const IncomingAssets &incoming, const ImportChoices &choices)
+{
+    const QPointer<TileSet> tileSet = project.tileSet(choices.target);
+    if (tileSet && (incoming.tiles || incoming.numbers))
+        return tilesProblem(*tileSet, incoming, choices);
+    const QPointer<SpriteBank> bank = project.spriteBank(choices.target);
+    if (bank && incoming.sprites)
+        return spritesProblem(*bank, incoming, choices);
+    if ((project.palette(choices.target) && incoming.palette) || (project.map(choices.target) && incoming.map))
+        return {};
+    return tr("The asset into which it goes is not there any more, or is of another kind");
+}
+
+} // namespace
+
+QString problemOf(const Project &project, const IncomingAssets &incoming, const ImportChoices &choices)
+{
+    if (!choices.target.isNull())
+        return targetProblem(project, incoming, choices);
+    if (incoming.numbers)
+        return tr("Choose the tile set whose tiles these are for");
+    return choices.name.trimmed().isEmpty() ? tr("Please enter a name") : QString();
+}
+
+Result<AddedAssets> addTo(Project &project, const IncomingAssets &incoming, const ImportChoices &choices,
+                          const StackProvider &stackFor)
+{
+    if (const QString problem = problemOf(project, incoming, choices); !problem.isEmpty())
+        return Failure{problem};
+    return choices.target.isNull() ? NewAssets(project, incoming, choices).make()
+                                   : change(project, incoming, choices, stackFor);
+}
+
+} // namespace Importing

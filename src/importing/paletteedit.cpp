@@ -1,0 +1,65 @@
+#include "importing/paletteedit.h"
+
+#include "importing/tr.h"
+#include "model/palette.h"
+#include "undo/snapshotcommand.h"
+
+#include <QPointer>
+#include <QUndoStack>
+
+#include <algorithm>
+
+namespace Importing {
+namespace {
+
+constexpr int NeverMerges = -1;
+constexpr qint64 NoTimeLimit = -1;
+
+struct Entries
+{
+    QList<quint16> words; ///< all 256
+    int transparency = -1;
+
+    explicit Entries(const Palette &palette) : words(Palette::Size), transparency(palette.transparencyIndex())
+    {
+        for (int i = 0; i < Palette::Size; ++i)
+            words[i] = palette.rawColour(i);
+    }
+
+    bool operator==(const Entries &) const = default;
+};
+
+/// What was changed since the first state was there stays.
+void change(Palette &palette, const Entries &from, const Entries &to)
+{
+    if (palette.transparencyIndex() == from.transparency)
+        palette.setTransparencyIndex(to.transparency);
+    for (int i = 0; i < Palette::Size; ++i) {
+        if (palette.rawColour(i) == from.words[i])
+            palette.setRawColour(i, to.words[i]);
+    }
+}
+
+} // namespace
+
+void replaceEntries(Palette &palette, const NextData::PaletteContent &content, QUndoStack *stack)
+{
+    const Entries before(palette);
+    Entries after = before;
+    const qsizetype count = std::min<qsizetype>(content.words.size(), Palette::Size - content.first);
+    std::copy_n(content.words.cbegin(), count, after.words.begin() + content.first);
+    after.transparency = content.transparency.value_or(before.transparency);
+    if (after == before)
+        return;
+    change(palette, before, after);
+    if (!stack)
+        return;
+    const auto changeAgain = [guarded = QPointer<Palette>(&palette)](const Entries &from, const Entries &to) {
+        if (guarded)
+            change(*guarded, from, to);
+    };
+    stack->push(new SnapshotCommand<Entries>(tr("Import Palette"), before, after, changeAgain, NeverMerges, QVariant(),
+                                             NoTimeLimit));
+}
+
+} // namespace Importing

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "importing/importchoices.h"
+
+#include <QList>
+#include <QRgb>
+
+class Project;
+
+namespace Importing {
+
+/// The 256 words of the palette with which what is made will be shown: that of the target, the chosen one, or the
+/// standard one, which a new palette holds where the file brings no colours.
+[[nodiscard]] QList<quint16> wordsInUse(const Project &project, const ImportChoices &choices);
+
+/// Such words as colours.
+[[nodiscard]] QList<QRgb> coloursOf(const QList<quint16> &words);
+
+} // namespace Importing

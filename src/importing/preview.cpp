@@ -1,0 +1,210 @@
+#include "importing/preview.h"
+
+#include "importing/paletteinuse.h"
+#include "importing/pixelpictures.h"
+#include "importing/tr.h"
+#include "model/image.h"
+#include "model/map.h"
+#include "model/palette.h"
+#include "model/project.h"
+#include "model/spritebank.h"
+#include "model/tileset.h"
+
+#include <QLocale>
+
+#include <algorithm>
+#include <bitset>
+#include <cstring>
+#include <functional>
+
+namespace Importing {
+namespace {
+
+using NextData::TilesContent;
+
+constexpr int TileColumns = 32;
+constexpr int SpriteColumns = 16;
+constexpr int MostRows = 64; ///< of tiles or sprites that are shown
+constexpr int MostCells = 128; ///< of a map that are shown along a side
+
+/// Squares of pixels side by side, as many as the pixels are.
+QImage sheetOf(qsizetype count, int side, int columns, const QList<QRgb> &colours,
+               const std::function<const uchar *(qsizetype)> &pixelsOf)
+{
+    const int shown = int(std::min<qsizetype>(count, qsizetype(columns) * MostRows));
+    if (shown == 0)
+        return {};
+    QImage sheet(std::min(shown, columns) * side, (shown + columns - 1) / columns * side, QImage::Format_Indexed8);
+    sheet.setColorTable(colours);
+    sheet.fill(0);
+    for (int i = 0; i < shown; ++i) {
+        const uchar *pixels = pixelsOf(i);
+        for (int y = 0; y < side; ++y)
+            std::memcpy(sheet.scanLine(i / columns * side + y) + i % columns * side, pixels + y * side, size_t(side));
+    }
+    return sheet;
+}
+
+/// The colours with one of them clear.
+QList<QRgb> clearAt(QList<QRgb> colours, int index)
+{
+    if (index >= 0 && index < colours.size())
+        colours[index] = 0;
+    return colours;
+}
+
+Tile::Pixels shownPixels(const Tile::Pixels &pixels, int offset)
+{
+    Tile::Pixels shown{};
+    std::transform(pixels.cbegin(), pixels.cend(), shown.begin(),
+                   [offset](uchar pixel) { return uchar((pixel & 15) | offset << 4); });
+    return shown;
+}
+
+QImage tilesPreview(const TilesContent &content, const QList<QRgb> &colours)
+{
+    Tile::Pixels pixels{};
+    return sheetOf(content.tiles.size(), Tile::Size, TileColumns, colours, [&](qsizetype i) {
+        pixels = shownPixels(content.tiles[i].pixels, content.tiles[i].offset);
+        return pixels.data();
+    });
+}
+
+QImage spritesPreview(const IncomingSprites &sprites, const QList<QRgb> &colours)
+{
+    const NextData::SpritesContent &content = sprites.content;
+    QList<QRgb> table = clearAt(colours, sprites.transparency);
+    if (content.depth == Quenmora::FourBit) { // whatever the high nibble is, the first group is shown
+        for (qsizetype i = 16; i < table.size(); ++i)
+            table[i] = table[i % 16];
+    }
+    const auto *pixels = reinterpret_cast<const uchar *>(content.pixels.constData());
+    return sheetOf(content.pixels.size() / SpriteBank::SpriteBytes, SpriteBank::SpriteSize, SpriteColumns, table,
+                   [pixels](qsizetype i) { return pixels + i * SpriteBank::SpriteBytes; });
+}
+
+QImage palettePreview(const NextData::PaletteContent &content, const QList<QRgb> &before)
+{
+    QImage squares(16, 16, QImage::Format_Indexed8);
+    squares.setColorTable(before);
+    for (int i = 0; i < Palette::Size; ++i)
+        squares.scanLine(i / 16)[i % 16] = uchar(i);
+    if (content.transparency)
+        squares.setColorTable(clearAt(squares.colorTable(), *content.transparency));
+    return squares;
+}
+
+/// Tiles for a map that has none yet: a colour a number.
+TilesContent numbersAsTiles()
+{
+    TilesContent content;
+    for (int i = 0; i < Palette::Size; ++i) {
+        TilesContent::Pixels tile{.offset = i / 16};
+        tile.pixels.fill(uchar(i % 16));
+        content.tiles.append(tile);
+    }
+    return content;
+}
+
+QImage mapPreview(const Project &project, const IncomingAssets &incoming, const ImportChoices &choices,
+                  QList<QRgb> colours)
+{
+    const QPointer<Map> target = project.map(choices.target);
+    const QPointer<TileSet> chosen = target ? target->tileSet() : project.tileSet(choices.tileSet);
+    const bool hasTiles = incoming.tiles || chosen;
+    TileSet own(0);
+    if (incoming.tiles || !chosen)
+        putTiles(own, 0, incoming.tiles ? *incoming.tiles : numbersAsTiles(), colours);
+    const TileSet &tileSet = incoming.tiles || !chosen ? own : *chosen;
+
+    for (qsizetype i = incoming.map->transparency; i >= 0 && i < colours.size(); i += 16)
+        colours[i] = 0;
+    const TileMap::Rows &rows = incoming.map->rows;
+    const QSize cells(int(std::min<qsizetype>(rows.constFirst().size(), MostCells)),
+                      int(std::min<qsizetype>(rows.size(), MostCells)));
+    QImage picture(cells * Tile::Size, QImage::Format_Indexed8);
+    picture.setColorTable(colours);
+    for (int y = 0; y < cells.height(); ++y) {
+        uchar *line = picture.scanLine(y * Tile::Size);
+        for (int x = 0; x < cells.width(); ++x) {
+            const TileMap::TileData &cell = rows[y][x];
+            const int index = hasTiles ? cell.index : cell.index % Palette::Size;
+            tileSet.renderTile(index, cell.rotate, cell.flip, cell.mirror,
+                               hasTiles ? cell.offset : tileSet.tileOffset(index), line + x * Tile::Size,
+                               picture.bytesPerLine());
+        }
+    }
+    return picture;
+}
+
+QString number(qsizetype value)
+{
+    return QLocale().toString(value);
+}
+
+/// How many different tiles a map shows.
+qsizetype differentTiles(const TileMap::Rows &rows)
+{
+    std::bitset<0x10000> seen;
+    for (const TileMap::Row &row : rows) {
+        for (const TileMap::TileData &cell : row)
+            seen.set(size_t(cell.index) % seen.size());
+    }
+    return qsizetype(seen.count());
+}
+
+} // namespace
+
+QImage previewOf(const Project &project, const IncomingAssets &incoming, const ImportChoices &choices)
+{
+    QList<quint16> words = wordsInUse(project, choices);
+    if (incoming.palette) {
+        const NextData::PaletteContent &palette = *incoming.palette;
+        if (choices.target.isNull() && palette.words.size() < words.size())
+            words.fill(0); // a new palette is black where it has no colours
+        for (qsizetype i = 0; i < palette.words.size() && palette.first + i < words.size(); ++i)
+            words[palette.first + i] = palette.words[i];
+    }
+    const QList<QRgb> colours = coloursOf(words);
+    if (incoming.map)
+        return mapPreview(project, incoming, choices, colours);
+    if (incoming.sprites)
+        return spritesPreview(*incoming.sprites, colours);
+    if (incoming.tiles)
+        return tilesPreview(*incoming.tiles, colours);
+    if (incoming.image)
+        return pictureOf(incoming.image->pixels, Image::sizeOf(incoming.image->mode), colours);
+    return incoming.palette ? palettePreview(*incoming.palette, colours) : QImage();
+}
+
+QStringList factsOf(const IncomingAssets &incoming)
+{
+    QStringList facts;
+    if (incoming.map) {
+        const TileMap::Rows &rows = incoming.map->rows;
+        facts.append(tr("Cells: %1 × %2, which show %3 different tiles")
+                         .arg(number(rows.constFirst().size()), number(rows.size()), number(differentTiles(rows))));
+        if (!incoming.map->sprites.isEmpty())
+            facts.append(tr("Placed sprites: %1").arg(number(incoming.map->sprites.size())));
+    }
+    if (incoming.tiles)
+        facts.append(tr("Tiles: %1").arg(number(incoming.tiles->tiles.size())));
+    if (!incoming.blocks.isEmpty())
+        facts.append(tr("Animations of tiles: %1").arg(number(incoming.blocks.size())));
+    if (incoming.numbers)
+        facts.append(tr("Numbers: %1").arg(number(incoming.numbers->numbers.size())));
+    if (incoming.sprites) {
+        facts.append(tr("Sprites: %1").arg(number(incoming.sprites->content.pixels.size() / SpriteBank::SpriteBytes)));
+        if (!incoming.sprites->animations.isEmpty())
+            facts.append(tr("Animations: %1").arg(number(incoming.sprites->animations.size())));
+    }
+    if (incoming.image) {
+        const QSize size = Image::sizeOf(incoming.image->mode);
+        facts.append(tr("Pixels: %1 × %2").arg(size.width()).arg(size.height()));
+    }
+    if (incoming.palette)
+        facts.append(tr("Colours: %1").arg(number(incoming.palette->words.size())));
+    return facts;
+}
+
+} // namespace Importing

@@ -1,0 +1,421 @@
+#include "importing/addition.h"
+#include "importing/filekind.h"
+#include "importing/preview.h"
+#include "nextdata/reader.h"
+#include "support/formoutput.h"
+#include "support/modeltools.h"
+#include "support/randomproject.h"
+#include "support/testmain.h"
+#include "undo/editrecorder.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QTest>
+#include <QUndoStack>
+
+#include <functional>
+#include <numeric>
+
+using namespace Importing;
+using NextData::Source;
+
+namespace {
+
+/// What an asset is in a form that holds all that an import can give back.
+QByteArray essenceOf(const Project &project, const QUuid &id)
+{
+    const auto source = Source::find(project, id);
+    if (!source)
+        return "nothing";
+    switch (source->kind()) {
+    case NextData::AssetKind::Palette: {
+        const QPointer<Palette> palette = project.palette(id);
+        return writtenBytes("palette", *source) + QByteArray::number(palette->transparencyIndex());
+    }
+    case NextData::AssetKind::TileSet:
+        return writtenBytes("tiles-8bit", *source) + writtenBytes("tile-attributes", *source)
+            + writtenBytes("tile-values", *source, {{"width", "word"}});
+    case NextData::AssetKind::Map:
+        return QByteArray::number(source->as<Map>().size().width()) + writtenBytes("map-2byte", *source)
+            + writtenBytes("map-sprites", *source);
+    case NextData::AssetKind::SpriteBank:
+        return writtenBytes("sprites-8bit", *source) + writtenBytes("sprite-animations", *source);
+    case NextData::AssetKind::BlockSet:
+        return writtenBytes("block-animations", *source);
+    default:
+        return indices(source->as<Image>().image());
+    }
+}
+
+QUuid idOf(const AddedAssets &added)
+{
+    for (const QUuid &id : {added.map, added.sprites, added.image, added.tileSet, added.palette}) {
+        if (!id.isNull())
+            return id;
+    }
+    return {};
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(ImportChoices)
+
+/// Files on their way to assets: what they are taken for, what is made of them, and what undo leaves of that.
+class TestImporting : public QObject
+{
+    Q_OBJECT
+
+    TemporaryFolder m_path;
+
+    ImportFile file(const QString &name, const QByteArray &bytes)
+    {
+        const auto opened = ImportFile::open(m_path(name, bytes));
+        return opened ? *opened : ImportFile();
+    }
+
+    /// Writes an asset in a form, imports the file with these options, and writes what was made of it once more.
+    template <typename Asset>
+    void goesThrough(RandomProject &random, const QString &form, const QPointer<Asset> &asset,
+                     const Options &written = {}, const Options &read = {})
+    {
+        Project &project = random.project;
+        const QByteArray bytes = writtenBytes(form, sourceOf(project, asset), written);
+        const ImportFile source = file("asset." + NextData::findForm(form)->suffix, bytes);
+        const QList<Guess> guesses = recognise(source);
+        QVERIFY2(
+            std::any_of(guesses.cbegin(), guesses.cend(), [&form](const Guess &guess) { return guess.kind == form; }),
+            qPrintable(form));
+        const ImportChoices choices{.kind = form,
+                                    .options = read,
+                                    .name = "Again",
+                                    .palette = project.palettes().constFirst()->id(),
+                                    .tileSet = random.tiles->id()};
+        const auto incoming = prepare(project, source, choices);
+        QVERIFY2(incoming, qPrintable(form + ": " + incoming.reason()));
+        QVERIFY(!previewOf(project, *incoming, choices).isNull());
+        QVERIFY(!factsOf(*incoming).isEmpty());
+        const auto added = addTo(project, *incoming, choices, {});
+        QVERIFY2(added, qPrintable(form + ": " + added.reason()));
+        const auto made = Source::find(project, idOf(*added));
+        QVERIFY2(made && made->name() == "Again", qPrintable(form));
+        QCOMPARE(writtenBytes(form, *made, written), bytes);
+    }
+
+private slots:
+    void formsComeBack_data()
+    {
+        QTest::addColumn<quint32>("seed");
+        for (quint32 seed = 1; seed <= 10; ++seed)
+            QTest::addRow("seed %u", seed) << seed;
+    }
+
+    void formsComeBack()
+    {
+        QFETCH(quint32, seed);
+        RandomProject random(seed);
+        const QPointer<Palette> palette = random.project.palettes().constFirst();
+        for (const QString form : {"palette", "palette-8bit"})
+            goesThrough(random, form, palette);
+        goesThrough(random, "palette-group", palette, {{"group", "3"}}, {{"group", "3"}});
+        if (palette->transparencyIndex() >= 0)
+            goesThrough(random, "palette-513", palette, {{"transparency", "index"}}, {{"transparency", "index"}});
+        for (const QString form : {"tiles-4bit", "tiles-8bit", "tiles-1bit"})
+            goesThrough(random, form, random.tiles);
+        for (const auto &map : random.project.maps()) {
+            goesThrough(random, map->name() == "Plain" ? "map-1byte" : "map-2byte", map, {{"order", "columns"}},
+                        {{"order", "columns"}, {"width", QString::number(map->size().width())}});
+        }
+        const auto banks = random.project.spriteBanks();
+        goesThrough(random, "sprites-packed", banks[0]);
+        goesThrough(random, "sprites-8bit", banks[0], {}, {{"depth", "4"}});
+        goesThrough(random, "sprites-8bit", banks[1]);
+        const auto images = random.project.images();
+        const QStringList forms{"layer2-256", "layer2-320", "layer2-640", "lores"};
+        for (int i = 0; i < 4; ++i) {
+            Options read;
+            if (i == 2)
+                read.insert("group", QString::number(uchar(indices(images[i]->image()).front()) / 16));
+            goesThrough(random, forms[i], images[i], {{"palette", "true"}}, read);
+        }
+    }
+
+    /// Files that the assets themselves write.
+    void filesOfAssetsComeBack()
+    {
+        RandomProject random(77);
+        Project &project = random.project;
+        const QPointer<Palette> palette = project.palettes().constFirst();
+        palette->setTransparencyIndex(-1);
+        using Write = std::function<bool(const QUuid &, const QString &)>;
+        const Write writePalette = [&](const QUuid &id, const QString &path) {
+            return project.palette(id)->exportData(path);
+        };
+        const Write writeNxt = [&](const QUuid &id, const QString &path) {
+            return project.tileSet(id)->exportNxt(path);
+        };
+        const Write writeBlocks = [&](const QUuid &id, const QString &path) {
+            return project.tileSet(id)->exportBlocks(path, 1, random.tiles->count(), true);
+        };
+        const Write writeMap = [&](const QUuid &id, const QString &path) { return project.map(id)->exportData(path); };
+        const Write writeSpr = [&](const QUuid &id, const QString &path) {
+            return project.spriteBank(id)->exportSpr(path);
+        };
+        const QString width = QString::number(random.map->size().width());
+        struct Case
+        {
+            QString name;
+            Write write;
+            QUuid asset;
+            QString kind;
+            Options options{};
+        };
+        for (const Case &each : {Case{"a.pal", writePalette, palette->id(), "palette"},
+                                 {"a.npl", writePalette, palette->id(), "palette-513", {{"transparency", "none"}}},
+                                 {"a.nxt", writeNxt, random.tiles->id(), "tiles-4bit"},
+                                 {"a.bin", writeBlocks, random.tiles->id(), "tiles-8bit", {{"order", "columns"}}},
+                                 {"a.map", writeMap, random.map->id(), "map-2byte", {{"width", width}}},
+                                 {"a.spr", writeSpr, project.spriteBanks()[1]->id(), "sprites-8bit"}}) {
+            QVERIFY(each.write(each.asset, m_path(each.name)));
+            const auto opened = ImportFile::open(m_path(each.name));
+            QVERIFY(opened);
+            if (!each.name.endsWith(".bin") && !each.name.endsWith(".map")) // which may be anything
+                QCOMPARE(recognise(*opened).constFirst().kind, each.kind);
+            const ImportChoices choices{.kind = each.kind,
+                                        .options = each.options,
+                                        .name = "Again",
+                                        .palette = palette->id(),
+                                        .tileSet = random.tiles->id()};
+            const auto added = addTo(project, *prepare(project, *opened, choices), choices, {});
+            QVERIFY2(added && each.write(idOf(*added), m_path("again" + each.name)), qPrintable(each.name));
+            QVERIFY2(readFile(m_path("again" + each.name)) == readFile(m_path(each.name)), qPrintable(each.name));
+        }
+    }
+
+    void recognises_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("kind");
+        QTest::addColumn<Options>("options");
+        const auto add = [](const char *name, const QByteArray &bytes, const char *kind, const Options &options = {}) {
+            QTest::newRow(name) << bytes << QString(kind) << options;
+        };
+        const auto some = [](int size) { return noise(size); };
+        QByteArray cells = noise(2560);
+        for (int i = 1; i < cells.size(); i += 2)
+            cells[i] = 0x30;
+        add("next.pal", some(512), "palette");
+        add("next.npl", some(513), "palette-513");
+        add("group.nxp", some(32), "palette-group");
+        add("bytes.pal", some(256), "palette-8bit");
+        add("anything.bin", some(512), "palette");
+        add("sixteen.nxt", some(512), "tiles-4bit"); // as many bytes as a palette
+        add("font.ch8", some(768), "tiles-1bit");
+        add("font", some(768), "tiles-1bit");
+        add("level.map", cells, "map-2byte", {{"width", "40"}});
+        add("level.nxm", some(1280), "map-1byte", {{"width", "40"}});
+        add("hero.SPR", some(16384), "sprites-8bit");
+        add("half.spr", some(640), "sprites-packed");
+        add("title.nxi", some(49152 + 512), "layer2-256");
+        add("title.sl2", some(81920), "layer2-320");
+        add("title.slr", some(12288), "lores");
+        add("odd.bin", some(7), "map-1byte", {{"width", "7"}});
+        QByteArray header("PLUS3DOS\x1A\x01\0\x80\2\0\0", 15); // of 640 bytes
+        header.resize(127, '\0');
+        header.append(char(std::accumulate(header.cbegin(), header.cend(), 0)));
+        add("disk.spr", header + some(512), "sprites-8bit");
+        add("disk.bin", header + some(512), "palette");
+    }
+
+    void recognises()
+    {
+        QFETCH(QByteArray, bytes);
+        QFETCH(Options, options);
+        const QList<Guess> guesses = recognise(file(QTest::currentDataTag(), bytes));
+        QTEST(guesses.constFirst().kind, "kind");
+        QCOMPARE(guesses.constFirst().options, options);
+    }
+
+    void choicesComeBack()
+    {
+        const ImportChoices choices{.kind = "map-1byte",
+                                    .options = {{"width", "40"}, {"order", "columns"}},
+                                    .name = QString::fromUtf8("L\xC3\xA4ufer"),
+                                    .target = QUuid::createUuid(),
+                                    .at = 7,
+                                    .palette = QUuid::createUuid(),
+                                    .tileSet = QUuid::createUuid()};
+        for (const ImportChoices &each : {choices, ImportChoices{.kind = "palette"}}) {
+            const QByteArray text = QJsonDocument(each.toJson()).toJson();
+            QCOMPARE(ImportChoices::fromJson(QJsonDocument::fromJson(text).object()), each);
+        }
+        for (const auto &[key, value] : {std::pair<const char *, QJsonValue>("kind", 1),
+                                         {"options", "x"},
+                                         {"options", QJsonObject{{"width", 40}}},
+                                         {"name", QJsonArray()},
+                                         {"target", "none"},
+                                         {"at", -2},
+                                         {"at", 1e300},
+                                         {"palette", true}}) {
+            QJsonObject damaged = choices.toJson();
+            damaged.insert(key, value);
+            QVERIFY2(!ImportChoices::fromJson(damaged), key);
+        }
+        QVERIFY(!ImportChoices::fromJson({}));
+    }
+
+    /// What goes into an asset that is there is one step, which leaves nothing behind.
+    void isOneStep_data()
+    {
+        QTest::addColumn<int>("target"); // the place among all assets
+        QTest::addColumn<QString>("kind");
+        QTest::addColumn<int>("size");
+        QTest::addColumn<Options>("options");
+        QTest::addColumn<int>("at");
+        const auto add = [](const char *what, int target, const char *kind, int size, const Options &options = {},
+                            int at = ImportChoices::AtTheEnd) {
+            QTest::newRow(what) << target << QString(kind) << size << options << at;
+        };
+        add("colours", 0, "palette", 512);
+        add("a group", 0, "palette-group", 32, {{"group", "15"}});
+        add("colours and the transparent one", 0, "palette-513", 513, {{"transparency", "index"}});
+        add("more tiles", 1, "tiles-4bit", 32 * 9);
+        add("other tiles", 1, "tiles-8bit", 64 * 3, {}, 1);
+        add("other and more tiles", 1, "tiles-1bit", 8 * 60, {}, 2);
+        add("attributes", 1, "tile-attributes", 3, {{"first", "1"}});
+        add("values", 1, "tile-values", 100);
+        add("a map", 2, "map-2byte", 40 * 4 * 2, {{"width", "40"}});
+        add("a map of that size", 2, "map-2byte", 200, {{"width", "10"}, {"height", "10"}});
+        add("more sprites", 3, "sprites-packed", 128 * 3);
+        add("other sprites", 3, "sprites-packed", 128, {}, 1);
+        add("other and more sprites", 3, "sprites-8bit", 256 * 12, {{"depth", "4"}}, 1);
+    }
+
+    void isOneStep()
+    {
+        QFETCH(int, target);
+        QFETCH(QString, kind);
+        QFETCH(int, size);
+        QFETCH(Options, options);
+        QFETCH(int, at);
+        RandomProject random(4);
+        Project &project = random.project;
+        while (random.tiles->count() < 4)
+            random.tiles->insertTile(0);
+        QUndoStack stack;
+        const EditRecorder recorder(&project, [&stack](const QUuid &) { return &stack; });
+        const QUuid ids[] = {project.palettes().constFirst()->id(), random.tiles->id(), random.map->id(),
+                             project.spriteBanks().constFirst()->id()};
+        const auto all = [&] {
+            QByteArrayList essences;
+            for (const Source &source : Source::all(project))
+                essences.append(essenceOf(project, source.id()));
+            return essences;
+        };
+        const QByteArrayList before = all();
+        const ImportChoices choices{.kind = kind, .options = options, .target = ids[target], .at = at};
+        const auto incoming = prepare(project, file("more.bin", noise(size, 5)), choices);
+        QVERIFY2(incoming, qPrintable(incoming.reason()));
+        const auto added = addTo(project, *incoming, choices, [&stack](const QUuid &) { return &stack; });
+        QVERIFY2(added, qPrintable(added.reason()));
+        QCOMPARE(idOf(*added), choices.target);
+        const QByteArrayList after = all();
+        QVERIFY(after != before);
+        QCOMPARE(stack.count(), 1);
+        QVERIFY(stack.text(0).startsWith("Import "));
+        stack.undo();
+        QCOMPARE(all(), before);
+        stack.redo();
+        QCOMPARE(all(), after);
+    }
+
+    void refuses_data()
+    {
+        QTest::addColumn<ImportChoices>("choices");
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("reason");
+        const auto add = [](const char *what, const ImportChoices &choices, const QByteArray &bytes,
+                            const char *reason) {
+            QTest::newRow(what) << choices << bytes << QString::fromUtf8(reason);
+        };
+        add("no kind", {.kind = "tape"}, "1", "\xE2\x80\x9Ctape\xE2\x80\x9D is no kind of file that is read here");
+        add("another's option", {.kind = "palette", .options = {{"ink", "1"}}}, "1",
+            "There is no option \xE2\x80\x9Cink\xE2\x80\x9D, only ");
+        add("no name", {.kind = "palette"}, noise(512), "Please enter a name");
+        add("a tile of two groups", {.kind = "tiles-8bit", .options = {{"mixed", "refuse"}}, .name = "T"},
+            QByteArray(64, '\5') + QByteArray(32, '\5') + QByteArray(32, '\x15'),
+            "Tile 1 (counted from 0) has pixels of several palette offsets, and a tile has one");
+        add("numbers for nobody", {.kind = "tile-values", .name = "V"}, "1",
+            "Choose the tile set whose tiles these are for");
+        add("a target that is gone", {.kind = "palette", .target = QUuid::createUuid()}, noise(512),
+            "The asset into which it goes is not there any more, or is of another kind");
+    }
+
+    void refuses()
+    {
+        QFETCH(ImportChoices, choices);
+        QFETCH(QByteArray, bytes);
+        QFETCH(QString, reason);
+        Project project;
+        const auto incoming = prepare(project, file("file.bin", bytes), choices);
+        const QString refusal = incoming ? addTo(project, *incoming, choices, {}).reason() : incoming.reason();
+        QCOMPARE(refusal, reason);
+        QVERIFY(Source::all(project).isEmpty());
+    }
+
+    /// Tiles of several groups take the colours of the one that has the most like theirs, and that is said.
+    void reducesMixedTiles()
+    {
+        Project project;
+        const auto palette = project.createPalette(CreateAction::Blank, "P");
+        palette->setRawColour(0x05, 0xE000); // red
+        palette->setRawColour(0x13, 0xE000); // red as well
+        palette->setRawColour(0x14, 0x1C00); // green
+        const ImportChoices choices{.kind = "tiles-8bit", .name = "T", .palette = palette->id()};
+        const auto exact = prepare(project, file("t.bin", QByteArray(32, '\x05') + QByteArray(32, '\x14')), choices);
+        QCOMPARE(exact->remarks, QStringList());
+        QCOMPARE(exact->tiles->tiles[0].offset, 1);
+        QCOMPARE(int(exact->tiles->tiles[0].pixels[0]), 3);
+        QCOMPARE(int(exact->tiles->tiles[0].pixels[63]), 4);
+        palette->setRawColour(0x13, 0xC000);
+        const auto lossy = prepare(project, file("t.bin", QByteArray(32, '\x05') + QByteArray(32, '\x14')), choices);
+        QCOMPARE(lossy->remarks,
+                 QStringList("Tiles that lose colours, since theirs are of several palette offsets: 1 of 1"));
+    }
+
+    /// Whatever a file holds and whatever is chosen, it becomes assets or a message.
+    void takesAnyFile()
+    {
+        QRandomGenerator random(20);
+        for (int i = 0; i < 3000; ++i) {
+            const auto &kinds = fileKinds();
+            const FileKind &kind = kinds[random.bounded(int(kinds.size()))];
+            ImportChoices choices{.kind = kind.id, .name = "Any"};
+            for (const NextData::Option &option : kind.options) {
+                if (random.bounded(2) == 0)
+                    continue;
+                if (option.kind == NextData::Option::Kind::Choice)
+                    choices.options.insert(option.id, option.choices[random.bounded(int(option.choices.size()))].id);
+                else if (option.kind == NextData::Option::Kind::Number)
+                    choices.options.insert(
+                        option.id,
+                        QString::number(option.least + random.bounded(qMin(option.most - option.least, 99) + 1)));
+            }
+            constexpr int sizes[] = {1, 31, 32, 256, 512, 513, 640, 768, 12288, 49664, 81920};
+            const int size = random.bounded(2) == 0 ? sizes[random.bounded(11)] : 1 + random.bounded(2000);
+            Project project;
+            const ImportFile opened{.path = m_path("none"), .size = size, .bytes = noise(size, random.generate())};
+            QVERIFY(!recognise(opened).isEmpty());
+            const auto incoming = prepare(project, opened, choices);
+            const QString context = kind.id + " " + QString::number(i);
+            QVERIFY2(incoming || !incoming.reason().isEmpty(), qPrintable(context));
+            if (!incoming)
+                continue;
+            QVERIFY2(incoming->numbers || !previewOf(project, *incoming, choices).isNull(), qPrintable(context));
+            const auto added = addTo(project, *incoming, choices, {});
+            QVERIFY2(added ? !idOf(*added).isNull() : Source::all(project).isEmpty(), qPrintable(context));
+        }
+    }
+};
+
+QUENMORA_TEST_MAIN(TestImporting)
+#include "tst_importing.moc"
