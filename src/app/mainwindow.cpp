@@ -2,6 +2,7 @@
 
 #include "app/exportmessages.h"
 #include "app/exportproject/projectexport.h"
+#include "app/importfile/fileimport.h"
 #include "app/menus/editmenu.h"
 #include "app/menus/filemenu.h"
 #include "app/menus/helpmenu.h"
@@ -67,6 +68,7 @@ MainWindow::MainWindow(QWidget *parent)
     , m_layout(this, m_views, m_menuBar.viewMenu())
     , m_exportMessages(new ExportMessages(statusBar()))
     , m_projectExport(new ProjectExport(&m_projectController, this))
+    , m_fileImport(new FileImport([this] { return m_projectController.project(); }, &m_menuBar, &m_actions, this))
 {
     PlainToolTips::enforce();
     m_mapToolBar.setEnabled(false);
@@ -89,6 +91,7 @@ MainWindow::MainWindow(QWidget *parent)
     connect(statusBar(), &QStatusBar::messageChanged, this, &MainWindow::messageChanged);
     connectMenus();
     connectActions();
+    connectImport();
     connectDocks();
     connectPainting();
     connectRecovery();
@@ -184,6 +187,22 @@ void MainWindow::connectActions()
     connect(&m_documents, &DocumentController::exported, m_exportMessages, &ExportMessages::add);
     connect(&m_documents, &DocumentController::createMapFromSelection, &m_actions,
             &ProjectActions::createMapFromSelection);
+}
+
+void MainWindow::connectImport()
+{
+    m_fileImport->setUndoStackProvider([this](const QUuid &id) { return m_documents.recordingStackFor(id); });
+    connect(m_menuBar.fileMenu(), &FileMenu::importFiles, m_fileImport, &FileImport::importFiles);
+    connect(&m_projectController, &ProjectController::projectClosing, m_fileImport, &FileImport::stop);
+    connect(m_fileImport, &FileImport::paletteReady, &m_documents, &DocumentController::openPalette);
+    connect(m_fileImport, &FileImport::tileSetReady, &m_documents, &DocumentController::openTileSet);
+    connect(m_fileImport, &FileImport::mapReady, &m_documents, &DocumentController::setActiveMap);
+    connect(m_fileImport, &FileImport::spritesReady, &m_documents, &DocumentController::openSprites);
+    connect(m_fileImport, &FileImport::message, m_exportMessages, &ExportMessages::show);
+    connect(m_fileImport, &FileImport::failed, this,
+            [this](const QString &text, const QString &title, const QString &reason) {
+                messageDialog()->showMessage(text, title, reason);
+            });
 }
 
 void MainWindow::connectDocks()
@@ -291,20 +310,23 @@ void MainWindow::closeEvent(QCloseEvent *event)
 
 void MainWindow::dragEnterEvent(QDragEnterEvent *event)
 {
-    // a question that is being asked comes first
-    if (!QApplication::activeModalWidget() && !draggedProject(event->mimeData()).isEmpty())
+    const bool isWanted = !draggedProject(event->mimeData()).isEmpty()
+        || (m_projectController.project() && !FileImport::draggedFiles(event->mimeData()).isEmpty());
+    if (!QApplication::activeModalWidget() && isWanted) // a question that is being asked comes first
         event->acceptProposedAction();
 }
 
 void MainWindow::dropEvent(QDropEvent *event)
 {
     const QString file = draggedProject(event->mimeData());
-    if (file.isEmpty())
+    const QStringList files = FileImport::draggedFiles(event->mimeData());
+    if (file.isEmpty() && files.isEmpty())
         return;
     event->acceptProposedAction();
     // not before the program that it comes from has been released: a question may be asked first
     QMetaObject::invokeMethod(
-        &m_projectController, [this, file] { m_projectController.openProject(file); }, Qt::QueuedConnection);
+        this, [=, this] { file.isEmpty() ? m_fileImport->importFiles(files) : m_projectController.openProject(file); },
+        Qt::QueuedConnection);
 }
 
 // The life of a project

@@ -32,6 +32,7 @@
 #include <utility>
 
 class ExportMessages;
+class FileImport;
 class MessageDialog;
 class ProjectExport;
 class StartPage;
@@ -62,6 +63,7 @@ public:
     [[nodiscard]] DocumentController *documentController() { return &m_documents; }
     [[nodiscard]] ProjectActions *projectActions() { return &m_actions; }
     [[nodiscard]] ProjectExport *projectExport() { return m_projectExport; }
+    [[nodiscard]] FileImport *fileImport() { return m_fileImport; }
     [[nodiscard]] const DocumentViews &views() const { return m_views; }
     [[nodiscard]] RecoveryKeeper *recoveryKeeper() { return &m_recoveryKeeper; }
     [[nodiscard]] RecoveryOffers *recoveryOffers() { return &m_recoveryOffers; }
@@ -84,7 +86,7 @@ public slots:
 protected:
     void showEvent(QShowEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
-    // A project file that is dropped on the window opens.
+    // A project file that is dropped on the window opens, and other files are imported.
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
 
@@ -93,6 +95,7 @@ private:
     void connectProjectController();
     void connectMenus();
     void connectActions();
+    void connectImport();
     void connectDocks();
     void connectPainting();
     void connectRecovery();
@@ -143,4 +146,5 @@ private:
     LayoutController m_layout;
     ExportMessages *m_exportMessages;
     ProjectExport *m_projectExport;
+    FileImport *m_fileImport;
 };

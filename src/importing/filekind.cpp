@@ -19,16 +19,20 @@ constexpr qint64 StartBytes = 4096;
 /// Pictures and sets of files, which have imports of their own.
 QList<FileKind> elsewhereKinds()
 {
-    using NextData::Option;
-    const Option become = Option::choice(QStringLiteral("as"), tr("Becomes"), tr("What is made of the picture"),
-                                         {{QStringLiteral("map"), tr("Tiles and a map")},
-                                          {QStringLiteral("sprites"), tr("Sprites")},
-                                          {QStringLiteral("palette"), tr("A palette of its colours")}});
+    using NextData::AssetKind;
     return {
-        {.id = Kinds::Picture, .title = tr("Picture"), .asset = NextData::AssetKind::Map, .options = {become}},
+        {.id = Kinds::PictureMap, .title = tr("Picture, for tiles and a map"), .asset = AssetKind::Map, .options = {}},
+        {.id = Kinds::PictureSprites,
+         .title = tr("Picture, for sprites"),
+         .asset = AssetKind::SpriteBank,
+         .options = {}},
+        {.id = Kinds::PicturePalette,
+         .title = tr("Picture, for its colours"),
+         .asset = AssetKind::Palette,
+         .options = {}},
         {.id = Kinds::DataSet,
          .title = tr("Palette, tiles, blocks and map of one name"),
-         .asset = NextData::AssetKind::Map,
+         .asset = AssetKind::Map,
          .options = {}},
     };
 }

@@ -36,10 +36,11 @@ struct FileKind
     QString title; ///< for people
     NextData::AssetKind asset; ///< the kind of asset that it becomes, or goes into
     QList<NextData::Option> options;
-    /// Whether it can only go into an asset that is there.
-    bool needsTarget = false;
-    /// Whether its pixels need the colours of a palette that does not come with them.
-    bool needsPalette = false;
+    bool takesTarget = false; ///< whether it can go into an asset that is there
+    bool needsTarget = false; ///< whether it can go nowhere else
+    bool needsTileSet = false; ///< a map whose tiles do not come with it
+    bool needsPalette = false; ///< whether it takes the colours of a palette of the project
+    bool bringsColours = false; ///< or as well its own
     /// Makes values of a file; null for what is not made here: pictures and sets of files that have their own imports.
     Result<IncomingAssets> (*prepare)(const Project &project, const ImportFile &file, const ImportChoices &choices,
                                       const NextData::OptionValues &options) = nullptr;

@@ -51,6 +51,7 @@ QList<FileKind> Kinds::foreign()
          .asset = AssetKind::Palette,
          .options = {Option::number(QStringLiteral("first"), tr("First entry"),
                                     tr("The entry that the first colour becomes"), 0, Palette::Size - 1, 0)},
+         .takesTarget = true,
          .prepare = prepareColours},
     };
 }

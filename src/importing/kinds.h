@@ -6,7 +6,9 @@
 /// What fileKinds() puts together, and what these kinds share.
 namespace Importing::Kinds {
 
-inline const QString Picture = QStringLiteral("picture");
+inline const QString PictureMap = QStringLiteral("picture-map");
+inline const QString PictureSprites = QStringLiteral("picture-sprites");
+inline const QString PicturePalette = QStringLiteral("picture-palette");
 inline const QString DataSet = QStringLiteral("data-set");
 inline const QString Colours = QStringLiteral("colours");
 inline const QString Aseprite = QStringLiteral("aseprite");

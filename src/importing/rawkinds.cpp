@@ -147,6 +147,8 @@ QList<FileKind> Kinds::raw()
     for (const NextData::Reader &reader : NextData::readers()) {
         FileKind kind{.id = reader.id, .title = reader.title, .asset = reader.kind, .options = reader.options};
         kind.needsTarget = reader.id == QStringLiteral("tile-attributes") || reader.id == QStringLiteral("tile-values");
+        kind.takesTarget = reader.kind != AssetKind::Image; // an image's undo is that of its editor
+        kind.needsTileSet = reader.kind == AssetKind::Map;
         kind.needsPalette = reader.kind != AssetKind::Palette && !kind.needsTarget;
         kind.prepare = prepareRaw;
         if (reader.id == EightBitTiles) {

@@ -94,7 +94,7 @@ QList<Guess> recognise(const ImportFile &file)
     if (belongsToDataSet(info))
         guesses.insert(suffix == QStringLiteral("nxm") ? 0 : 1, {Kinds::DataSet});
     if (PictureFile::pixelCount(file.path) > 0)
-        guesses.prepend({Kinds::Picture});
+        guesses = QList<Guess>{{Kinds::PictureMap}, {Kinds::PictureSprites}, {Kinds::PicturePalette}} + guesses;
     return guesses;
 }
 

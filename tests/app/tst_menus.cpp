@@ -102,7 +102,7 @@ private slots:
         };
         using Keys = QKeySequence;
         const QStringList expected{
-            QString("New%1, Open%2, Recent>, Save%3, Save As%4, Close%5, -, "
+            QString("New%1, Open%2, Recent>, Save%3, Save As%4, Close%5, -, Import\u2026, -, "
                     "Export Project\u2026, Export Again [F9], -, Preferences, -, Quit")
                 .arg(key(Keys::New), key(Keys::Open), key(Keys::Save), key(Keys::SaveAs), key(Keys::Close)),
             QString("Cut%1, Copy%2, Paste%3, -, Select All%4, Clear Selection%5")
@@ -153,7 +153,7 @@ private slots:
              {std::tuple(
                   0,
                   QString(
-                      "New, Open, Recent, Save, Save As, Close, Export Project\u2026, Export Again, Preferences, Quit"),
+                      "New, Open, Recent, Save, Save As, Close, Import\u2026, Export Project\u2026, Export Again, Preferences, Quit"),
                   QString()),
               {2, "New Palette, Import", ", Export"},
               {3, "New Tile Set",

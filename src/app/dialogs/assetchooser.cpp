@@ -2,7 +2,6 @@
 
 #include "model/palette.h"
 #include "model/project.h"
-#include "model/tileset.h"
 
 #include <QImage>
 #include <QPixmap>
@@ -51,13 +50,28 @@ void AssetChooser::offerPalettes(const Project &project, const QString &newPalet
     choose(chosen);
 }
 
-void AssetChooser::offerTileSets(const Project &project)
+void AssetChooser::offerTileSets(const Project &project, const QString &newTileSet)
 {
+    offerAssets(project, NextData::AssetKind::TileSet, newTileSet);
+    setPlaceholderText(tr("No tile sets"));
+}
+
+void AssetChooser::offerAssets(const Project &project, NextData::AssetKind kind, const QString &newAsset)
+{
+    if (kind == NextData::AssetKind::Palette)
+        return offerPalettes(project, newAsset);
     const QUuid chosen = id();
     clear();
-    setPlaceholderText(tr("No tile sets"));
-    for (const QPointer<TileSet> &tileSet : byName(project.tileSets()))
-        addItem(tileSet->name(), tileSet->id());
+    setPlaceholderText(tr("None"));
+    if (!newAsset.isEmpty())
+        addItem(newAsset, QUuid());
+    QList<NextData::Source> sources = NextData::Source::all(project);
+    sources.removeIf([kind](const NextData::Source &source) { return source.kind() != kind; });
+    std::stable_sort(sources.begin(), sources.end(), [](const NextData::Source &a, const NextData::Source &b) {
+        return a.name().localeAwareCompare(b.name()) < 0;
+    });
+    for (const NextData::Source &source : std::as_const(sources))
+        addItem(source.name(), source.id());
     choose(chosen);
 }
 

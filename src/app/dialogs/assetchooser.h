@@ -1,5 +1,7 @@
 #pragma once
 
+#include "nextdata/source.h"
+
 #include <QComboBox>
 #include <QString>
 #include <QUuid>
@@ -18,7 +20,9 @@ public:
     /// top. The asset chosen before stays chosen if it is still there.
     void offerPalettes(const Project &project, const QString &newPalette = {});
     /// Offers the tile sets, as offerPalettes() does.
-    void offerTileSets(const Project &project);
+    void offerTileSets(const Project &project, const QString &newTileSet = {});
+    /// Offers all assets of a kind, with a text for a new one on top if there is one.
+    void offerAssets(const Project &project, NextData::AssetKind kind, const QString &newAsset = {});
 
     /// The id of the chosen asset; null for a new one and when there is none.
     [[nodiscard]] QUuid id() const { return currentData().toUuid(); }

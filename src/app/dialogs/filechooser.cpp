@@ -36,3 +36,11 @@ QString runFileDialog(const FileRequest &request, QWidget *parent)
     }
     return {};
 }
+
+QStringList runFilesDialog(const FileRequest &request, QWidget *parent)
+{
+    QFileDialog dialog(parent, request.title, request.folder);
+    dialog.setFileMode(QFileDialog::ExistingFiles);
+    dialog.setNameFilters(request.nameFilters);
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles() : QStringList();
+}

@@ -26,3 +26,7 @@ using FileChooser = std::function<QString(const FileRequest &request, QWidget *p
 
 /// The answer of a person: runs a QFileDialog.
 [[nodiscard]] QString runFileDialog(const FileRequest &request, QWidget *parent);
+
+/// The same for a request to open, which may be answered with several files.
+using FilesChooser = std::function<QStringList(const FileRequest &request, QWidget *parent)>;
+[[nodiscard]] QStringList runFilesDialog(const FileRequest &request, QWidget *parent);

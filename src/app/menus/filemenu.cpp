@@ -17,6 +17,9 @@ FileMenu::FileMenu(QWidget *parent) : ProjectMenu(tr("&File"), parent)
     m_close = addCommand(this, tr("&Close"), &FileMenu::closeProject, {}, QStringLiteral(":/tb-close-document"));
     addSeparator();
     setToolTipsVisible(true);
+    m_import = addCommand(this, tr("&Import…"), &FileMenu::showImportDialog, {}, QStringLiteral(":/Import"));
+    m_import->setToolTip(tr("Looks at files of any kind, shows what they are, and makes assets of them"));
+    addSeparator();
     m_export = addCommand(this, tr("&Export Project…"), &FileMenu::exportProject, {}, QStringLiteral(":/Export"));
     m_exportAgain =
         addCommand(this, tr("Export A&gain"), &FileMenu::exportAgain, Qt::Key_F9, QStringLiteral(":/Update"));
@@ -50,7 +53,7 @@ QToolBar *FileMenu::createToolBar(QWidget *parent) const
 
 void FileMenu::updateActions()
 {
-    for (QAction *action : {m_save, m_saveAs, m_close, m_export, m_exportAgain})
+    for (QAction *action : {m_save, m_saveAs, m_close, m_import, m_export, m_exportAgain})
         action->setEnabled(project());
 }
 
@@ -71,6 +74,23 @@ void FileMenu::showOpenDialog()
         return;
     m_openFolder = QFileInfo(file).absoluteDir();
     emit openProject(file);
+}
+
+void FileMenu::showImportDialog()
+{
+    if (!project())
+        return;
+    const QStringList files =
+        m_filesChooser({.title = tr("Import"),
+                        .nameFilters = {tr("All files (*)"),
+                                        tr("Files of the Next (*.pal *.npl *.nxp *.nxt *.til *.ch8 *.map *.nxm *.nxb "
+                                           "*.spr *.nxi *.sl2 *.slr *.bin)"),
+                                        tr("Maps of Tiled (*.tmx *.tmj)"), tr("Sprites of Aseprite (*.aseprite *.ase)"),
+                                        tr("Palettes (*.gpl *.pal *.act *.hex)"),
+                                        tr("Pictures (*.png *.bmp *.gif *.jpg *.jpeg *.pbm *.pgm *.ppm *.xbm *.xpm)")}},
+                       dialogParent());
+    if (!files.isEmpty())
+        emit importFiles(files);
 }
 
 // Recent projects

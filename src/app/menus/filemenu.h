@@ -27,6 +27,8 @@ public:
     void setRecentFiles(const QStringList &paths);
     /// Puts a project that was opened or saved in front.
     void addRecentFile(const QString &path);
+    /// Who answers the question for files to import; runFilesDialog() at first.
+    void setFilesChooser(const FilesChooser &chooser) { m_filesChooser = chooser; }
     [[nodiscard]] QMenu *recentMenu() const { return m_recentMenu; }
 
     // For whoever offers the same elsewhere.
@@ -43,6 +45,7 @@ public:
 public slots:
     void showNewDialog();
     void showOpenDialog();
+    void showImportDialog();
     void clearRecentFiles();
 
 signals:
@@ -51,6 +54,7 @@ signals:
     void saveProject();
     void saveProjectAs();
     void closeProject();
+    void importFiles(const QStringList &filePaths);
     void exportProject();
     void exportAgain();
     void displayPreferences();
@@ -65,6 +69,7 @@ private:
 
     RecentFiles m_recentFiles;
     QDir m_openFolder{QString()};
+    FilesChooser m_filesChooser = runFilesDialog;
     QMenu *m_recentMenu;
     QList<QAction *> m_recentProjects;
     QAction *m_new;
@@ -72,6 +77,7 @@ private:
     QAction *m_save;
     QAction *m_saveAs;
     QAction *m_close;
+    QAction *m_import;
     QAction *m_export;
     QAction *m_exportAgain;
     QAction *m_quit;

@@ -56,7 +56,13 @@ void MapMenu::askForImport(const QStringList &nameFilters)
     if (!project())
         return;
     const QString file = fileToOpen(tr("Import Map Data"), nameFilters);
-    if (file.isEmpty() || !project())
+    if (!file.isEmpty())
+        importFile(file);
+}
+
+void MapMenu::importFile(const QString &file)
+{
+    if (!project())
         return;
     const PictureLoss loss = PictureLoss::of(file, dialogParent());
     if (!loss.any()) {

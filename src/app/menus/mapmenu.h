@@ -28,6 +28,8 @@ public slots:
     void setMap(const QPointer<Map> &map);
     void showNewDialog();
     void showImportDialog();
+    /// Imports a file, and asks how if that is a question.
+    void importFile(const QString &filePath);
     /// The same dialog, which lists pictures first.
     void showPictureDialog();
     void showExportDialog();

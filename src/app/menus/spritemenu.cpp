@@ -40,12 +40,18 @@ void SpriteMenu::showImportDialog()
         return;
     const QString file =
         fileToOpen(tr("Select a file to import"), {tr("Images (*.png *.bmp)"), tr("Next sprites (*.spr)")});
-    if (file.isEmpty() || !project())
+    if (!file.isEmpty())
+        importFile(file);
+}
+
+void SpriteMenu::importFile(const QString &filePath)
+{
+    if (!project())
         return;
-    if (file.endsWith(QLatin1String(".spr"), Qt::CaseInsensitive))
-        lazily(m_dataDialog, this, &SpriteMenu::importDataRequested)->show(*project(), file);
+    if (filePath.endsWith(QLatin1String(".spr"), Qt::CaseInsensitive))
+        lazily(m_dataDialog, this, &SpriteMenu::importDataRequested)->show(*project(), filePath);
     else
-        lazily(m_pictureDialog, this, &SpriteMenu::importPictureRequested)->show(*project(), file);
+        lazily(m_pictureDialog, this, &SpriteMenu::importPictureRequested)->show(*project(), filePath);
 }
 
 void SpriteMenu::showSwapPaletteDialog()

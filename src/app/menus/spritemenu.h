@@ -29,6 +29,8 @@ public slots:
     void setSpriteBank(const QPointer<SpriteBank> &bank);
     void showNewDialog();
     void showImportDialog();
+    /// Opens the dialog for a file of sprite data or a picture.
+    void importFile(const QString &filePath);
     void showSwapPaletteDialog();
     void showExportDialog();
 
