@@ -90,7 +90,7 @@ public:
     AddedAssets make()
     {
         if (m_incoming.palette)
-            makePalette();
+            m_added.palette = makePalette(*m_incoming.palette, m_choices.name)->id();
         if (m_incoming.tiles)
             makeTileSet();
         if (m_incoming.sprites)
@@ -103,16 +103,15 @@ public:
     }
 
 private:
-    void makePalette()
+    QPointer<Palette> makePalette(const PaletteContent &content, const QString &name)
     {
         Palette words;
-        const PaletteContent &content = *m_incoming.palette;
         for (qsizetype i = 0; i < content.words.size(); ++i)
             words.storeRawColour(int(content.first + i), content.words[i]);
-        const QPointer<Palette> palette = m_project.createPalette(CreateAction::Blank, m_choices.name);
+        const QPointer<Palette> palette = m_project.createPalette(CreateAction::Blank, name);
         palette->copyColours(words);
         palette->setTransparencyIndex(content.transparency.value_or(-1));
-        m_added.palette = palette->id();
+        return palette;
     }
 
     /// The palette of what is made: that which comes with it, the chosen one, or a new one of the standard colours.
@@ -146,7 +145,8 @@ private:
     void makeSprites()
     {
         const IncomingSprites &incoming = *m_incoming.sprites;
-        const QPointer<Palette> colours = palette();
+        const QPointer<Palette> colours =
+            incoming.palette ? makePalette(*incoming.palette, tr("%1 (sprites)").arg(m_choices.name)) : palette();
         const QPointer<SpriteBank> bank =
             m_project.createSpriteBank(incoming.content.depth, m_choices.name, colours->id());
         bank->setWholeImage(stripOf(incoming.content, tableOf(colours)));

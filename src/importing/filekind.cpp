@@ -16,27 +16,6 @@ namespace {
 constexpr qint64 MostWhole = qint64(32) << 20;
 constexpr qint64 StartBytes = 4096;
 
-/// Pictures and sets of files, which have imports of their own.
-QList<FileKind> elsewhereKinds()
-{
-    using NextData::AssetKind;
-    return {
-        {.id = Kinds::PictureMap, .title = tr("Picture, for tiles and a map"), .asset = AssetKind::Map, .options = {}},
-        {.id = Kinds::PictureSprites,
-         .title = tr("Picture, for sprites"),
-         .asset = AssetKind::SpriteBank,
-         .options = {}},
-        {.id = Kinds::PicturePalette,
-         .title = tr("Picture, for its colours"),
-         .asset = AssetKind::Palette,
-         .options = {}},
-        {.id = Kinds::DataSet,
-         .title = tr("Palette, tiles, blocks and map of one name"),
-         .asset = AssetKind::Map,
-         .options = {}},
-    };
-}
-
 } // namespace
 
 Result<ImportFile> ImportFile::open(const QString &path)
@@ -59,7 +38,8 @@ Result<ImportFile> ImportFile::open(const QString &path)
 
 const QList<FileKind> &fileKinds()
 {
-    static const QList<FileKind> all = Kinds::raw() + Kinds::foreign() + elsewhereKinds();
+    static const QList<FileKind> all =
+        Kinds::raw() + Kinds::colours() + Kinds::aseprite() + Kinds::tiled() + Kinds::pictures();
     return all;
 }
 

@@ -29,11 +29,12 @@ struct IncomingSprites
     NextData::SpritesContent content;
     int transparency = -1; ///< the pixel value that is not drawn; -1 for the usual one
     QList<IncomingAnimation> animations{};
+    std::optional<NextData::PaletteContent> palette{}; ///< of their own, beside that of what else comes in
 };
 
 struct IncomingMap
 {
-    TileMap::Rows rows;
+    TileMap::Rows rows{};
     int transparency = -1; ///< the pixel value (0–15) that is not drawn
     QList<Map::PlacedSprite> sprites{}; ///< their banks are null: the sprites that come with the map
     /// An animation that comes with the tiles, and the cell in which it is placed.

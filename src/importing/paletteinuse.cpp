@@ -6,6 +6,7 @@
 #include "model/palette.h"
 #include "model/project.h"
 #include "model/spritebank.h"
+#include "model/spritetransparency.h"
 #include "model/tileset.h"
 
 namespace Importing {
@@ -38,6 +39,20 @@ QList<quint16> wordsInUse(const Project &project, const ImportChoices &choices)
     for (int i = 0; i < Palette::Size; ++i)
         words[i] = shown.rawColour(i);
     return words;
+}
+
+bool isPaletteGiven(const Project &project, const ImportChoices &choices)
+{
+    return !paletteInUse(project, choices).isNull();
+}
+
+int clearInUse(const Project &project, const ImportChoices &choices)
+{
+    if (const auto bank = project.spriteBank(choices.target))
+        return bank->transparency();
+    const QPointer<Palette> palette = paletteInUse(project, choices);
+    return palette && palette->transparencyIndex() >= 0 ? palette->transparencyIndex()
+                                                        : SpriteTransparency::DefaultIndex;
 }
 
 QList<QRgb> coloursOf(const QList<quint16> &words)

@@ -80,7 +80,7 @@ QList<Guess> recognise(const ImportFile &file)
 {
     // what says of itself what it is
     if (AsepriteFile::recognises(file.bytes))
-        return {{Kinds::Aseprite}};
+        return {{Kinds::AsepriteSprites}, {Kinds::AsepriteTiles}, {Kinds::AsepriteImage}};
     if (TiledMap::recognises(file.bytes))
         return {{Kinds::Tiled}};
     if (ColourFile::recognises(file.bytes))
@@ -94,7 +94,9 @@ QList<Guess> recognise(const ImportFile &file)
     if (belongsToDataSet(info))
         guesses.insert(suffix == QStringLiteral("nxm") ? 0 : 1, {Kinds::DataSet});
     if (PictureFile::pixelCount(file.path) > 0)
-        guesses = QList<Guess>{{Kinds::PictureMap}, {Kinds::PictureSprites}, {Kinds::PicturePalette}} + guesses;
+        guesses =
+            QList<Guess>{{Kinds::PictureMap}, {Kinds::PictureSprites}, {Kinds::PictureImage}, {Kinds::PicturePalette}}
+            + guesses;
     return guesses;
 }
 

@@ -1,0 +1,62 @@
+#include "importing/imagecontent.h"
+
+#include "importing/tr.h"
+#include "model/image.h"
+
+#include <algorithm>
+
+namespace Importing {
+namespace {
+
+struct Mode
+{
+    Quenmora::ImageMode mode;
+    const char *id;
+};
+constexpr Mode Modes[] = {{Quenmora::LoRes_128x96, "lores"},
+                          {Quenmora::Layer2_256x192, "layer2-256"},
+                          {Quenmora::Layer2_320x256, "layer2-320"},
+                          {Quenmora::Layer2_640x256, "layer2-640"}};
+
+} // namespace
+
+NextData::Option modeOption()
+{
+    QList<NextData::Option::Choice> choices{{QStringLiteral("fitting"), tr("The smallest that holds the picture")}};
+    for (const Mode &mode : Modes) {
+        const QSize size = Image::sizeOf(mode.mode);
+        choices.append({QString::fromLatin1(mode.id), tr("%1 × %2").arg(size.width()).arg(size.height())});
+    }
+    return NextData::Option::choice(QStringLiteral("mode"), tr("Size"), tr("The mode of the image"), choices);
+}
+
+Quenmora::ImageMode imageMode(const QString &choice, QSize picture)
+{
+    for (const Mode &mode : Modes) {
+        const QSize size = Image::sizeOf(mode.mode);
+        const bool holds = picture.width() <= size.width() && picture.height() <= size.height();
+        if (choice == QLatin1String(mode.id) || (choice == QStringLiteral("fitting") && holds))
+            return mode.mode;
+    }
+    return Quenmora::Layer2_320x256; // the largest of 256 colours
+}
+
+NextData::ImageContent imageOf(const QImage &picture, Quenmora::ImageMode mode, int around, QStringList &remarks)
+{
+    const QSize size = Image::sizeOf(mode);
+    NextData::ImageContent content{mode,
+                                   QByteArray(qsizetype(size.width()) * size.height(), char(std::max(around, 0)))};
+    const QPoint shift((size.width() - picture.width()) / 2, (size.height() - picture.height()) / 2);
+    const QRect area = QRect(shift, picture.size()) & QRect({0, 0}, size);
+    for (int y = area.top(); y <= area.bottom(); ++y)
+        std::copy_n(picture.constScanLine(y - shift.y()) + area.left() - shift.x(), area.width(),
+                    content.pixels.begin() + qsizetype(y) * size.width() + area.left());
+    if (area.size() != picture.size()) {
+        remarks.append(tr("The picture has %1 × %2 pixels, and what does not fit is cut off")
+                           .arg(picture.width())
+                           .arg(picture.height()));
+    }
+    return content;
+}
+
+} // namespace Importing
