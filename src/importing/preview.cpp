@@ -22,7 +22,7 @@ namespace {
 
 using NextData::TilesContent;
 
-constexpr int TileColumns = 32;
+constexpr int TileColumns = 16;
 constexpr int SpriteColumns = 16;
 constexpr int MostRows = 64; ///< of tiles or sprites that are shown
 constexpr int MostCells = 128; ///< of a map that are shown along a side
@@ -73,7 +73,8 @@ QImage tilesPreview(const TilesContent &content, const QList<QRgb> &colours)
 QImage spritesPreview(const IncomingSprites &sprites, const QList<QRgb> &colours)
 {
     const NextData::SpritesContent &content = sprites.content;
-    QList<QRgb> table = clearAt(colours, sprites.transparency);
+    const int transparency = sprites.transparency >= 0 ? sprites.transparency : SpriteTransparency::DefaultIndex;
+    QList<QRgb> table = clearAt(colours, SpriteTransparency{content.depth, transparency}.pixel());
     if (content.depth == Quenmora::FourBit) { // whatever the high nibble is, the first group is shown
         for (qsizetype i = 16; i < table.size(); ++i)
             table[i] = table[i % 16];

@@ -202,9 +202,10 @@ std::optional<SharedColours> SharedColours::keptIndices(const Source &source, in
     std::transform(source.palette.cbegin(), source.palette.cend(), std::back_inserter(palette.words), wordOf);
     palette.transparency = shared.clear;
     shared.palette = palette;
-    const bool areExact = std::all_of(source.palette.cbegin(), source.palette.cend(), [](QRgb colour) {
-        return qAlpha(colour) == 0 || MachineColours::wordOf(colour);
-    });
+    bool areExact = true;
+    for (qsizetype i = 0; i < source.palette.size(); ++i)
+        areExact =
+            areExact && (i == shared.clear || !used.test(size_t(i)) || MachineColours::wordOf(source.palette[i]));
     if (!areExact)
         shared.remarks.append(tr("Colours that the Next does not have become the nearest ones"));
     return shared;

@@ -80,6 +80,7 @@ void FileMenu::showImportDialog()
 {
     if (!project())
         return;
+    const bool isKnown = !m_importFolder.isEmpty() && QDir(m_importFolder).exists();
     const QStringList files =
         m_filesChooser({.title = tr("Import"),
                         .nameFilters = {tr("All files (*)"),
@@ -87,10 +88,13 @@ void FileMenu::showImportDialog()
                                            "*.spr *.nxi *.sl2 *.slr *.bin)"),
                                         tr("Maps of Tiled (*.tmx *.tmj)"), tr("Sprites of Aseprite (*.aseprite *.ase)"),
                                         tr("Palettes (*.gpl *.pal *.act *.hex)"),
-                                        tr("Pictures (*.png *.bmp *.gif *.jpg *.jpeg *.pbm *.pgm *.ppm *.xbm *.xpm)")}},
+                                        tr("Pictures (*.png *.bmp *.gif *.jpg *.jpeg *.pbm *.pgm *.ppm *.xbm *.xpm)")},
+                        .folder = isKnown ? m_importFolder : openFolder()},
                        dialogParent());
-    if (!files.isEmpty())
-        emit importFiles(files);
+    if (files.isEmpty())
+        return;
+    m_importFolder = QFileInfo(files.constFirst()).absolutePath();
+    emit importFiles(files);
 }
 
 // Recent projects

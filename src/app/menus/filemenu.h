@@ -69,6 +69,7 @@ private:
 
     RecentFiles m_recentFiles;
     QDir m_openFolder{QString()};
+    QString m_importFolder; ///< of the files that were imported last
     FilesChooser m_filesChooser = runFilesDialog;
     QMenu *m_recentMenu;
     QList<QAction *> m_recentProjects;
