@@ -36,6 +36,7 @@ struct FileKind
     QString title; ///< for people
     NextData::AssetKind asset; ///< the kind of asset that it becomes, or goes into
     QList<NextData::Option> options;
+    QStringList rareOptions{}; ///< the ids of those that few files need
     bool takesTarget = false; ///< whether it can go into an asset that is there
     bool needsTarget = false; ///< whether it can go nowhere else
     bool needsTileSet = false; ///< a map whose tiles do not come with it

@@ -147,6 +147,11 @@ QList<FileKind> Kinds::raw()
     for (const NextData::Reader &reader : NextData::readers()) {
         FileKind kind{.id = reader.id, .title = reader.title, .asset = reader.kind, .options = reader.options};
         kind.needsTarget = reader.id == QStringLiteral("tile-attributes") || reader.id == QStringLiteral("tile-values");
+        kind.rareOptions =
+            QStringList{QStringLiteral("count"), QStringLiteral("height"), QStringLiteral("screen-width"),
+                        QStringLiteral("screen-height"), QStringLiteral("bit-0")};
+        if (!kind.needsTarget)
+            kind.rareOptions.append(QStringLiteral("first"));
         kind.takesTarget = reader.kind != AssetKind::Image; // an image's undo is that of its editor
         kind.needsTileSet = reader.kind == AssetKind::Map;
         kind.needsPalette = reader.kind != AssetKind::Palette && !kind.needsTarget;

@@ -10,6 +10,7 @@
 #include "model/spritebank.h"
 #include "model/tileset.h"
 #include "ui/busy.h"
+#include "ui/expandablesection.h"
 #include "ui/picturepreview.h"
 
 #include <QComboBox>
@@ -70,6 +71,7 @@ ImportFileDialog::ImportFileDialog(QWidget *parent)
     , m_name(new QLineEdit(this))
     , m_tileSet(new AssetChooser(this))
     , m_palette(new AssetChooser(this))
+    , m_more(new ExpandableSection(tr("More"), this))
     , m_preview(new PicturePreview(this))
     , m_facts(new QLabel(this))
     , m_remarks(new QLabel(this))
@@ -88,7 +90,8 @@ ImportFileDialog::ImportFileDialog(QWidget *parent)
             refreshSoon();
         });
     }
-    connect(m_options, &OptionFields::changed, this, &ImportFileDialog::refreshSoon);
+    for (const OptionFields *options : {m_options, m_rareOptions})
+        connect(options, &OptionFields::changed, this, &ImportFileDialog::refreshSoon);
 }
 
 void ImportFileDialog::buildForm()
@@ -115,6 +118,12 @@ void ImportFileDialog::buildForm()
     options->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     body()->addLayout(options);
     m_options = new OptionFields(options, this);
+    auto *rare = new QWidget;
+    auto *rareOptions = new QFormLayout(rare);
+    rareOptions->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    m_rareOptions = new OptionFields(rareOptions, this);
+    m_more->setContent(rare);
+    body()->addWidget(m_more);
     m_preview->setMinimumHeight(200);
     body()->addWidget(m_preview, 1);
     m_facts->setTextFormat(Qt::PlainText);
@@ -177,7 +186,14 @@ void ImportFileDialog::changeKind()
             m_tileSet->choose(m_inFront.tileSet);
         m_palette->choose(chosen.bringsColours ? QUuid() : m_inFront.palette);
     }
-    m_options->show(chosen.options, m_guesses.at(m_kind->currentIndex()).options);
+    QList<NextData::Option> usual;
+    QList<NextData::Option> rare;
+    for (const NextData::Option &option : chosen.options)
+        (chosen.rareOptions.contains(option.id) ? rare : usual).append(option);
+    m_options->show(usual, m_guesses.at(m_kind->currentIndex()).options);
+    m_rareOptions->show(rare, {});
+    m_more->setVisible(!rare.isEmpty());
+    m_more->setExpanded(false);
     okButton()->setText(chosen.prepare ? tr("&Import") : tr("C&ontinue…"));
     changeTarget();
 }
@@ -217,6 +233,7 @@ ImportChoices ImportFileDialog::choices() const
 {
     const FileKind &chosen = kind();
     ImportChoices choices{.kind = chosen.id, .options = m_options->values()};
+    choices.options.insert(m_rareOptions->values());
     const auto isShown = [this](QWidget *field) { return form()->isRowVisible(field); };
     if (isShown(m_target))
         choices.target = m_target->id();

@@ -9,6 +9,7 @@
 #include <QTimer>
 
 class AssetChooser;
+class ExpandableSection;
 class OptionFields;
 class PicturePreview;
 class QComboBox;
@@ -75,6 +76,8 @@ private:
     AssetChooser *m_tileSet;
     AssetChooser *m_palette;
     OptionFields *m_options;
+    ExpandableSection *m_more;
+    OptionFields *m_rareOptions;
     PicturePreview *m_preview;
     QLabel *m_facts;
     QLabel *m_remarks;

@@ -1,0 +1,188 @@
+// Files of any kind on their way into the open project, in the real window.
+
+#include "app/importfile/fileimport.h"
+#include "app/importfile/importfiledialog.h"
+#include "app/mainwindow.h"
+#include "app/menus/filemenu.h"
+#include "model/map.h"
+#include "model/palette.h"
+#include "model/spritebank.h"
+#include "model/tileset.h"
+#include "support/editorinput.h"
+#include "ui/messagedialog.h"
+#include "ui/picturepreview.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QStatusBar>
+#include <QUndoGroup>
+
+#include <optional>
+
+class TestImportFile : public QObject
+{
+    Q_OBJECT
+
+    TemporaryFolder m_path;
+    std::optional<MainWindow> m_window;
+
+    [[nodiscard]] Project &project() { return *m_window->projectController()->project(); }
+    [[nodiscard]] ImportFileDialog &dialog() { return *m_window->fileImport()->dialog(); }
+    template <typename Field>
+    [[nodiscard]] Field &field(const char *name)
+    {
+        auto *found = dialog().findChild<Field *>(name);
+        if (!found)
+            qFatal("there is no %s", name);
+        return *found;
+    }
+    void choose(const char *name, const QVariant &data)
+    {
+        field<QComboBox>(name).setCurrentIndex(field<QComboBox>(name).findData(data));
+    }
+    [[nodiscard]] QString facts() { return field<QLabel>("facts").text(); }
+
+private slots:
+    void init()
+    {
+        m_window.emplace();
+        m_window->projectController()->setUnsavedAnswerCallback(
+            [](const QString &) { return ProjectController::Discard; });
+        emit m_window->menus()->fileMenu()->newProject("Game");
+    }
+    void cleanup() { m_window.reset(); }
+
+    void importsOneAfterTheOther()
+    {
+        FileMenu &menu = *m_window->menus()->fileMenu();
+        QList<FileRequest> requests;
+        const QStringList files{m_path("warm.pal", QByteArray("\xE0\x00", 2).repeated(256)), m_path("gone.nxt"),
+                                m_path("rocks.nxt", noise(32 * 5)), m_path("unwanted.spr", noise(256)),
+                                m_path("cave.map", QByteArray("\x01\x00", 2).repeated(48))};
+        menu.setFilesChooser([&](const FileRequest &request, QWidget *) {
+            requests.append(request);
+            return requests.size() == 1 ? files : QStringList();
+        });
+        EditorInput::trigger(menu, QString::fromUtf8("Import…"));
+
+        QVERIFY(dialog().isVisible() && !field<PicturePreview>("").picture().isNull());
+        QVERIFY(dialog().windowTitle().startsWith("Import (1 of 5)"));
+        QCOMPARE(facts(), "Colours: 256");
+        QCOMPARE(dialog().okButton()->text(), "&Import");
+        field<QLineEdit>("name").setText(" ");
+        dialog().accept();
+        QCOMPARE(dialog().error(), "Please enter a name");
+        field<QLineEdit>("name").setText("Warm");
+        dialog().accept();
+        const QPointer<Palette> palette = project().palettes().constFirst();
+        QCOMPARE(palette->name(), "Warm");
+        QCOMPARE(palette->rawColour(255), 0xE000);
+        QCOMPARE(m_window->statusBar()->currentMessage(), "Imported warm.pal: Colours: 256");
+        QVERIFY(m_window->messageDialog()->isVisible()); // of the file that is gone
+        m_window->messageDialog()->accept();
+
+        QVERIFY(dialog().windowTitle().startsWith("Import (3 of 5)"));
+        QCOMPARE(field<QComboBox>("palette").currentData().toUuid(), palette->id()); // that is in front
+        dialog().accept();
+        const QPointer<TileSet> tiles = project().tileSets().constFirst();
+        QCOMPARE(tiles->name(), "rocks");
+        QCOMPARE(tiles->count(), 5);
+        QCOMPARE(tiles->palette(), palette);
+
+        dialog().reject(); // no sprites
+        QVERIFY(dialog().isVisible() && dialog().windowTitle().startsWith("Import (5 of 5)"));
+        QCOMPARE(field<QComboBox>("tileSet").currentData().toUuid(), tiles->id());
+        QVERIFY(!field<QComboBox>("palette").isVisible()); // the tile set has one
+        choose("order", "columns");
+        field<QSpinBox>("width").setValue(8);
+        dialog().accept(); // what was chosen last counts, though nobody has looked at it yet
+        const QPointer<Map> map = project().maps().constFirst();
+        QCOMPARE(map->size(), QSize(8, 6));
+        QCOMPARE(map->tileSet(), tiles);
+        QVERIFY(!dialog().isVisible() && project().spriteBanks().isEmpty());
+
+        // the next time the dialog begins where these were
+        EditorInput::trigger(menu, QString::fromUtf8("Import…"));
+        QCOMPARE(requests.value(1).folder, m_path());
+    }
+
+    void putsTilesIntoASetAsOneStep()
+    {
+        const auto tiles = project().createTileSet("Rocks", {}, 3, false);
+        m_window->documentController()->openTileSet(tiles->id());
+        const TileSet::Snapshot before = tiles->snapshot();
+        m_window->fileImport()->importFiles({m_path("more.nxt", noise(32 * 4))});
+        QVERIFY(!field<QSpinBox>("at").isVisible());
+        choose("target", tiles->id());
+        QVERIFY(field<QSpinBox>("at").isVisible() && !field<QLineEdit>("name").isVisible());
+        field<QSpinBox>("at").setValue(2);
+        dialog().accept();
+        QCOMPARE(tiles->count(), 6);
+        m_window->documentController()->undoGroup()->undo();
+        QVERIFY(tiles->snapshot() == before);
+    }
+
+    void saysWhatCannotBe()
+    {
+        m_window->fileImport()->importFiles({m_path("half.spr", noise(128))});
+        QCOMPARE(field<QComboBox>("kind").currentData().toString(), "sprites-packed");
+        choose("kind", "tile-attributes");
+        QVERIFY(!field<QLineEdit>("name").isVisible());
+        dialog().accept();
+        QCOMPARE(dialog().error(), "There is no tile set whose tiles these could be for");
+        choose("kind", "map-2byte");
+        field<QSpinBox>("height").setValue(9999);
+        field<QSpinBox>("width").setValue(9999);
+        dialog().refresh();
+        const QString reason =
+            "That makes a map of 9999 × 9999 cells; 9999 along a side and 8000000 in all are the most";
+        QCOMPARE(field<QLabel>("remarks").text(), reason);
+        QVERIFY(field<PicturePreview>("").picture().isNull());
+        dialog().accept();
+        QCOMPARE(dialog().error(), reason);
+        m_window->projectController()->close();
+        QVERIFY(!dialog().isVisible());
+    }
+
+    /// Pictures go to the dialogs for them, and the next file waits until these are closed.
+    void takesFilesThatAreDropped()
+    {
+        QImage picture(16, 8, QImage::Format_RGB32);
+        picture.fill(0xFFFF0000);
+        picture.setPixel(0, 0, 0xFF00FF00);
+        QVERIFY(picture.save(m_path("level.png")));
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(m_path("level.png")), QUrl::fromLocalFile(m_path("level.png")),
+                      QUrl::fromLocalFile(m_path("a.pal", noise(512))), QUrl("https://example.com/b.pal")});
+        QVERIFY(EditorInput::dropFromElsewhere(*m_window, {50, 50}, data));
+        QCoreApplication::processEvents();
+        QVERIFY(dialog().windowTitle().startsWith("Import (1 of 3)"));
+        QCOMPARE(field<QComboBox>("kind").currentData().toString(), "picture-map");
+        QCOMPARE(dialog().okButton()->text(), QString::fromUtf8("C&ontinue…"));
+        dialog().accept();
+        QCOMPARE(project().maps().size(), 1); // nothing is to be asked about this one
+        QCOMPARE(project().maps().constFirst()->size(), QSize(2, 1));
+        QCoreApplication::processEvents();
+
+        QVERIFY(dialog().windowTitle().startsWith("Import (2 of 3)"));
+        choose("kind", "picture-sprites");
+        dialog().accept();
+        auto *sprites = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+        QVERIFY(sprites && sprites != &dialog() && !dialog().isVisible());
+        sprites->reject();
+        QCoreApplication::processEvents();
+        QVERIFY(dialog().isVisible() && dialog().windowTitle().startsWith("Import (3 of 3)"));
+        dialog().accept();
+        QCOMPARE(project().palettes().size(), 2);
+
+        // there is nothing into which they could go
+        m_window->projectController()->close();
+        QVERIFY(!EditorInput::dropFromElsewhere(*m_window, {50, 50}, data));
+    }
+};
+
+QUENMORA_TEST_MAIN(TestImportFile)
+#include "tst_importfile.moc"
