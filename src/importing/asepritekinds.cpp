@@ -6,6 +6,7 @@
 #include "importing/sharedcolours.h"
 #include "importing/tr.h"
 #include "model/image.h"
+#include "model/project.h"
 #include "model/spritebank.h"
 #include "model/spritetransparency.h"
 #include "pictures/asepritefile.h"
@@ -147,7 +148,9 @@ Result<IncomingAssets> prepareSprites(const Project &project, const ImportFile &
         || cells * read->frameCount() > SpriteBank::MaxCount)
         return Failure{
             tr("The frames make %1 sprites, which is more than there is room for").arg(cells * read->frameCount())};
-    const auto depth = options.is("depth", "4") ? Quenmora::FourBit : Quenmora::EightBit;
+    const QPointer<SpriteBank> bank = project.spriteBank(choices.target);
+    const auto chosen = options.is("depth", "4") ? Quenmora::FourBit : Quenmora::EightBit;
+    const auto depth = bank ? bank->depth() : chosen;
     const bool isGiven = isPaletteGiven(project, choices);
     const SharedColours shared =
         coloursOf(*read, read->frameCount(), isGiven ? wordsInUse(project, choices) : QList<quint16>(),
@@ -159,8 +162,10 @@ Result<IncomingAssets> prepareSprites(const Project &project, const ImportFile &
     for (const QImage &frame : shared.pictures)
         frames.append(pieces.cut(frame));
     incoming.sprites = IncomingSprites{.content = {depth, pieces.pixels()}, .transparency = shared.clear};
-    incoming.sprites->animations =
-        animationsOf(*read, frames, choices.name.isEmpty() ? tr("Animation") : choices.name, incoming.remarks);
+    if (!bank)
+        incoming.sprites->animations = animationsOf(*read, frames, choices.name, incoming.remarks);
+    else if (!read->tags().isEmpty())
+        incoming.remarks.append(tr("Sprites alone go into a bank that is there; the animations are left out"));
     return incoming;
 }
 
@@ -231,6 +236,7 @@ QList<FileKind> Kinds::aseprite()
          .title = tr("Aseprite file, for sprites with animations"),
          .asset = AssetKind::SpriteBank,
          .options = {depth, ditheringOption()},
+         .takesTarget = true,
          .needsPalette = true,
          .bringsColours = true,
          .prepare = prepareSprites},

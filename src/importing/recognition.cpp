@@ -97,6 +97,8 @@ QList<Guess> recognise(const ImportFile &file)
         guesses =
             QList<Guess>{{Kinds::PictureMap}, {Kinds::PictureSprites}, {Kinds::PictureImage}, {Kinds::PicturePalette}}
             + guesses;
+    if (guesses.isEmpty()) // too large for anything: reading it says so
+        guesses.append({QStringLiteral("map-1byte")});
     return guesses;
 }
 

@@ -185,7 +185,7 @@ Result<Reading> readOneBit(const QByteArray &bytes, const OptionValues &values)
 
 Reader::Fit fitsNumbers(qint64 size)
 {
-    return size <= 2 * MostTiles ? Reader::Fit::Possible : Reader::Fit::None;
+    return size > 0 && size <= 2 * MostTiles ? Reader::Fit::Possible : Reader::Fit::None;
 }
 
 Result<Reading> readNumbers(const QByteArray &bytes, TileNumbersContent::Meaning meaning, int first, int numberBytes)

@@ -92,12 +92,13 @@ private slots:
         QCOMPARE(tiles->count(), 5);
         QCOMPARE(tiles->palette(), palette);
 
-        dialog().reject(); // no sprites
+        EditorInput::button(dialog(), "&Skip")->click(); // no sprites
         QVERIFY(dialog().isVisible() && dialog().windowTitle().startsWith("Import (5 of 5)"));
         QCOMPARE(field<QComboBox>("tileSet").currentData().toUuid(), tiles->id());
         QVERIFY(!field<QComboBox>("palette").isVisible()); // the tile set has one
         choose("order", "columns");
         field<QSpinBox>("width").setValue(8);
+        QVERIFY(!EditorInput::button(dialog(), "&Skip")->isVisible()); // there is none after it
         dialog().accept(); // what was chosen last counts, though nobody has looked at it yet
         const QPointer<Map> map = project().maps().constFirst();
         QCOMPARE(map->size(), QSize(8, 6));
@@ -177,6 +178,11 @@ private slots:
         QVERIFY(dialog().isVisible() && dialog().windowTitle().startsWith("Import (3 of 3)"));
         dialog().accept();
         QCOMPARE(project().palettes().size(), 2);
+
+        QVERIFY(EditorInput::dropFromElsewhere(*m_window, {50, 50}, data));
+        QCoreApplication::processEvents();
+        dialog().reject(); // all of them
+        QVERIFY(!dialog().isVisible());
 
         // there is nothing into which they could go
         m_window->projectController()->close();

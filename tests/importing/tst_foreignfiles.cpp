@@ -1,5 +1,6 @@
 #include "importing/addition.h"
 #include "importing/filekind.h"
+#include "importing/preview.h"
 #include "model/image.h"
 #include "model/nextcolour.h"
 #include "model/palette.h"
@@ -8,6 +9,7 @@
 #include "model/spritebank.h"
 #include "model/tileset.h"
 #include "support/asepritebuilder.h"
+#include "support/damage.h"
 #include "support/modeltools.h"
 #include "support/testmain.h"
 
@@ -221,6 +223,25 @@ private slots:
         QCOMPARE(project.palettes().size(), isGiven ? 1 : 2);
     }
 
+    void joinsABank()
+    {
+        Project project;
+        const auto palette = project.createPalette(CreateAction::Blank, "Own");
+        palette->setRawColour(5, RedWord);
+        const auto bank = project.createSpriteBank(Quenmora::FourBit, "Bank", palette->id());
+        bank->changeTransparency(7);
+        const ImportChoices choices{.kind = "aseprite-sprites", .target = bank->id()};
+        const auto file = ImportFile::open(m_path("walk.ase", walk(8).bytes()));
+        const auto incoming = prepare(project, *file, choices);
+        QVERIFY(incoming && !incoming->remarks.filter("animations are left out").isEmpty());
+        QVERIFY(addTo(project, *incoming, choices, {}));
+        QCOMPARE(bank->count(), 1 + 3);
+        QCOMPARE(bank->spriteImage(1, false, false, false).pixelIndex(0, 0), 7); // clear
+        QCOMPARE(bank->spriteImage(1, false, false, false).pixelIndex(8, 0), 5);
+        QCOMPARE(project.palettes().size(), 1);
+        QVERIFY(bank->animations().isEmpty());
+    }
+
     void becomesTilesOrAnImage()
     {
         Project project;
@@ -278,6 +299,37 @@ private slots:
         QCOMPARE(prepared(project, "title.png", bytes, "picture-image", {{"mode", "lores"}, {"scale", "true"}})
                      .remarks.size(),
                  1);
+    }
+
+    /// A damaged file becomes assets, or a message.
+    void takesDamagedFiles_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::newRow("indices") << "walk.ase" << walk(8).bytes();
+        QTest::newRow("colours") << "walk.ase" << walk(32).bytes();
+    }
+
+    void takesDamagedFiles()
+    {
+        QFETCH(QString, name);
+        QFETCH(QByteArray, bytes);
+        std::minstd_rand random(7);
+        for (int i = 0; i < 500; ++i) {
+            const auto file = ImportFile::open(m_path(name, damaged(bytes, random)));
+            if (!file)
+                continue; // empty
+            for (const Guess &guess : recognise(*file)) {
+                const ImportChoices choices{.kind = guess.kind, .options = guess.options, .name = "Name"};
+                Project project;
+                const auto incoming = prepare(project, *file, choices);
+                QVERIFY2(incoming || !incoming.reason().isEmpty(), qPrintable(guess.kind));
+                if (!incoming)
+                    continue;
+                (void)previewOf(project, *incoming, choices);
+                QVERIFY(addTo(project, *incoming, choices, {}) || incoming->numbers);
+            }
+        }
     }
 };
 

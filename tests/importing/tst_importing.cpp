@@ -8,6 +8,7 @@
 #include "support/testmain.h"
 #include "undo/editrecorder.h"
 
+#include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QTest>
@@ -360,6 +361,21 @@ private slots:
         const QString refusal = incoming ? addTo(project, *incoming, choices, {}).reason() : incoming.reason();
         QCOMPARE(refusal, reason);
         QVERIFY(Source::all(project).isEmpty());
+    }
+
+    void refusesWhatIsTooLarge()
+    {
+        QFile large(m_path("large.bin"));
+        QVERIFY(large.open(QIODevice::WriteOnly) && large.resize(qint64(40) << 20));
+        large.close();
+        const auto opened = ImportFile::open(large.fileName());
+        QVERIFY(opened && opened->bytes.size() < 1 << 20); // which is enough to see what it is
+        const QString kind = recognise(*opened).constFirst().kind;
+        QCOMPARE(prepare(Project(), *opened, {.kind = kind}).reason(),
+                 "The file has 41,943,040 bytes, which is too much for this");
+        QCOMPARE(ImportFile::open(m_path("empty.bin", {})).reason(),
+                 QDir::toNativeSeparators(m_path("empty.bin")) + " is empty");
+        QVERIFY(ImportFile::open(m_path()).reason().endsWith("it is no file"));
     }
 
     /// Tiles of several groups take the colours of the one that has the most like theirs, and that is said.

@@ -33,7 +33,8 @@ ImportFileDialog *FileImport::dialog()
         m_dialog = new ImportFileDialog(m_dialogParent);
         connect(m_dialog, &ImportFileDialog::accepted, this, &FileImport::add);
         connect(m_dialog, &ImportFileDialog::handedOver, this, &FileImport::handOver);
-        connect(m_dialog, &QDialog::rejected, this, &FileImport::next);
+        connect(m_dialog, &ImportFileDialog::skipped, this, &FileImport::next);
+        connect(m_dialog, &QDialog::rejected, this, [this] { m_files.clear(); });
     }
     return m_dialog;
 }

@@ -14,6 +14,7 @@
 #include "ui/picturepreview.h"
 
 #include <QComboBox>
+#include <QDialogButtonBox>
 #include <QFileInfo>
 #include <QFormLayout>
 #include <QHBoxLayout>
@@ -50,6 +51,28 @@ QString newText(AssetKind kind)
         return tr("New image");
     }
     return {};
+}
+
+/// A picture that is not larger than what is shown of it.
+QImage thumbnail(const QImage &picture)
+{
+    constexpr int Side = 1024;
+    return std::max(picture.width(), picture.height()) <= Side
+        ? picture
+        : picture.scaled(Side, Side, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+}
+
+/// The first of the remarks, each cut where it is too long to be read.
+QString textOf(const QStringList &remarks)
+{
+    constexpr qsizetype Most = 6;
+    constexpr int Longest = 240;
+    QStringList lines;
+    for (const QString &remark : remarks.first(std::min(Most, remarks.size())))
+        lines.append(remark.size() > Longest ? remark.left(Longest) + u'…' : remark);
+    if (remarks.size() > Most)
+        lines.append(ImportFileDialog::tr("… and %1 more").arg(remarks.size() - Most));
+    return lines.join(u'\n');
 }
 
 /// How many numbered things an asset has.
@@ -133,6 +156,12 @@ void ImportFileDialog::buildForm()
     m_facts->setObjectName(QStringLiteral("facts"));
     body()->addWidget(m_facts);
     body()->addWidget(m_remarks);
+    m_skip = buttons()->addButton(tr("&Skip"), QDialogButtonBox::ActionRole);
+    m_skip->setToolTip(tr("Leaves this file out and goes on with the next one"));
+    connect(m_skip, &QPushButton::clicked, this, [this] {
+        hide();
+        emit skipped();
+    });
 }
 
 void ImportFileDialog::show(const Project &project, const ImportFile &file, const InFront &inFront, int number,
@@ -144,6 +173,7 @@ void ImportFileDialog::show(const Project &project, const ImportFile &file, cons
     m_guesses = recognise(file);
     const QFileInfo info(file.path);
     setWindowTitle(count > 1 ? tr("Import (%1 of %2)").arg(number).arg(count) : tr("Import"));
+    m_skip->setVisible(number < count);
     setHeader(tr("%1, %2 bytes").arg(info.fileName(), QLocale().toString(file.size)));
     m_name->setText(AssetName::cut(info.completeBaseName()));
     offerKinds();
@@ -256,7 +286,7 @@ void ImportFileDialog::refresh()
     const QString path = m_file.path;
     if (!kind().prepare) {
         m_incoming = Failure{};
-        m_preview->setPicture(PictureFile::read(path).image);
+        m_preview->setPicture(thumbnail(PictureFile::read(path).image));
         m_facts->setText(tr("What is asked next depends on the picture"));
         m_remarks->clear();
     } else {
@@ -264,7 +294,7 @@ void ImportFileDialog::refresh()
         m_incoming = prepare(*m_project, m_file, choices());
         m_preview->setPicture(m_incoming ? previewOf(*m_project, *m_incoming, choices()) : QImage());
         m_facts->setText(m_incoming ? factsOf(*m_incoming).join(QStringLiteral("; ")) : QString());
-        m_remarks->setText(m_incoming ? m_incoming->remarks.join(u'\n') : m_incoming.reason());
+        m_remarks->setText(m_incoming ? textOf(m_incoming->remarks) : m_incoming.reason());
     }
     m_remarks->setVisible(!m_remarks->text().isEmpty());
     showRows();

@@ -15,6 +15,7 @@ class PicturePreview;
 class QComboBox;
 class QLabel;
 class QLineEdit;
+class QPushButton;
 class QSpinBox;
 
 /// Says what a file is, asks what it does not tell, and shows what will become of it.
@@ -45,6 +46,8 @@ public slots:
 
 signals:
     void accepted(const Importing::ImportChoices &choices, const Importing::IncomingAssets &incoming);
+    /// The file is left out, but not those after it.
+    void skipped();
     /// The file is of a kind that has an import of its own.
     void handedOver(const QString &kind, const QString &filePath);
 
@@ -81,4 +84,5 @@ private:
     PicturePreview *m_preview;
     QLabel *m_facts;
     QLabel *m_remarks;
+    QPushButton *m_skip;
 };
