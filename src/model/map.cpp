@@ -184,6 +184,12 @@ bool Map::setTile(QPoint at, const TileMap::TileData &cell)
     return layer && layer->setCell(at, cell);
 }
 
+bool Map::writeTiles(const QList<TileMap::Run> &runs, int period, const TileMap::Writer &write)
+{
+    TileMap *layer = neededTileLayer();
+    return layer && layer->writeRuns(runs, period, write);
+}
+
 void Map::pasteTiles(QPoint at, const QMimeData *mimeData)
 {
     if (TileMap *layer = neededTileLayer())

@@ -115,6 +115,8 @@ public:
     // The tile layer
     void setTiles(const QRect &area, int index, bool rotate, bool flip, bool mirror, bool used);
     bool setTile(QPoint at, const TileMap::TileData &cell);
+    /// TileMap::writeRuns() on the tile layer.
+    bool writeTiles(const QList<TileMap::Run> &runs, int period, const TileMap::Writer &write);
     void pasteTiles(QPoint at, const QMimeData *mimeData);
     /// Gives every cell the palette offset that its tile has now.
     void refreshOffsets();

@@ -13,6 +13,7 @@
 #include <array>
 #include <cstdlib>
 #include <limits>
+#include <vector>
 
 namespace {
 
@@ -143,6 +144,42 @@ void TileMap::fill(const QRect &area, int index, bool rotate, bool flip, bool mi
     else
         changeRows(m_rows, inside.top(), inside.bottom(), filled);
     m_picture->areaChanged(inside);
+}
+
+bool TileMap::writeRuns(const QList<Run> &runs, int period, const Writer &write)
+{
+    struct Written
+    {
+        Row before; // keeps the storage alive that identifies a row
+        QList<Run> runs;
+        Row after;
+    };
+    std::vector<Written> written(size_t(std::clamp(period, 1, 1024)));
+    QRect area;
+    for (auto first = runs.cbegin(); first != runs.cend();) {
+        const int y = first->row;
+        const auto last = std::find_if(first, runs.cend(), [y](const Run &run) { return run.row != y; });
+        const auto sameCells = [](const Run &a, const Run &b) { return a.column == b.column && a.count == b.count; };
+        Written &sample = written[size_t(y) % written.size()];
+        const Row before = std::as_const(m_rows)[y];
+        if (period < 1 || before.constData() != sample.before.constData()
+            || !std::equal(first, last, sample.runs.cbegin(), sample.runs.cend(), sameCells)) {
+            Row after = before;
+            for (auto run = first; run != last; ++run)
+                write({run->column, y}, std::span(after.data() + run->column, size_t(run->count)));
+            sample = {before, QList<Run>(first, last), after == before ? before : after};
+        }
+        if (sample.after.constData() != before.constData()) {
+            m_rows[y] = sample.after;
+            const auto [left, right] = std::minmax_element(
+                first, last, [](const Run &a, const Run &b) { return a.column < b.column; });
+            area |= QRect(left->column, y, right->column + right->count - left->column, 1);
+        }
+        first = last;
+    }
+    if (!area.isEmpty())
+        m_picture->areaChanged(area);
+    return !area.isEmpty();
 }
 
 void TileMap::insertColumn(Quenmora::Position position)
@@ -336,8 +373,13 @@ TileMap *TileMap::fromData(const QByteArray &data, QObject *parent)
 
 QMimeData *TileMap::toMimeData(const QRect &area) const
 {
+    return mimeDataOf(m_rows, area, m_tileSet ? m_tileSet->id() : QUuid());
+}
+
+QMimeData *TileMap::mimeDataOf(const Rows &rows, const QRect &area, const QUuid &tileSetId)
+{
     auto *mimeData = new QMimeData; // the caller owns it
-    mimeData->setData(mimeType(), serialise(area));
+    mimeData->setData(mimeType(), TileMapFormat::serialise(rows, area, tileSetId));
     return mimeData;
 }
 

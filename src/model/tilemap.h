@@ -13,7 +13,9 @@
 #include <QSize>
 #include <QUuid>
 
+#include <functional>
 #include <memory>
+#include <span>
 
 class QMimeData;
 class QPainter;
@@ -46,6 +48,18 @@ public:
     };
     using Row = QList<TileData>;
     using Rows = QList<Row>;
+
+    /// Cells of a row from a column on.
+    struct Run
+    {
+        int row;
+        int column;
+        int count;
+
+        bool operator==(const Run &) const = default;
+    };
+    /// Makes of the cells from a place on what they become.
+    using Writer = std::function<void(QPoint, std::span<TileData>)>;
 
     /// A rectangle of cells on the clipboard: width × height cells in row-major order.
     struct Selection
@@ -86,6 +100,10 @@ public:
     /// Gives every cell of the area this content with the tile set's own palette offset for the tile;
     /// what lies outside the grid is skipped.
     void fill(const QRect &area, int index, bool rotate, bool flip, bool mirror, bool used);
+
+    /// Lets write() change runs of cells, which lie in the grid and come row by row. It does the same to equal cells of
+    /// rows that are period apart: those that share their storage go on sharing it. Whether any cell became another one.
+    bool writeRuns(const QList<Run> &runs, int period, const Writer &write);
 
     void insertColumn(Quenmora::Position position);
     void insertRow(Quenmora::Position position);
@@ -134,6 +152,8 @@ public:
 
     /// Clipboard data that holds the area; the caller owns it.
     [[nodiscard]] QMimeData *toMimeData(const QRect &area) const;
+    /// The same of cells that are no tile map's.
+    [[nodiscard]] static QMimeData *mimeDataOf(const Rows &rows, const QRect &area, const QUuid &tileSetId);
     /// Stores the cells of clipboard data with their top left at a position, dropping those outside the
     /// grid. Missing or damaged data changes nothing.
     void paste(QPoint at, const QMimeData *mimeData);

@@ -1,5 +1,6 @@
 #include "editors/map/drawtool.h"
 
+#include "editors/map/cellpreview.h"
 #include "editors/map/mappainter.h"
 
 #include <QPainter>
@@ -21,12 +22,17 @@ bool DrawTool::isUnavailable() const
 
 void DrawTool::mouseReleased(QMouseEvent *)
 {
+    endStroke();
     surface()->endEdit(tr("Paint"));
 }
 
 void DrawTool::paintUnder(QPainter &painter) const
 {
-    if (pointer().hasCell() && pointer().highlight.isEmpty()) {
+    if (pointer().hasCell() && pointer().highlight.isEmpty() && !brush().isPlain()) {
+        const CellInk ink = inkAt(pointer().cell);
+        if (map())
+            CellPreview::paint(painter, *map(), viewport(), placeOf(ink, pointer().cell), ink);
+    } else if (pointer().hasCell() && pointer().highlight.isEmpty()) {
         const QImage tile = MapPainter::tilePicture(map(), brush().cellFor(map()));
         if (!tile.isNull())
             painter.drawImage(viewport().rectOfCells({pointer().cell, QSize(1, 1)}), tile);

@@ -36,6 +36,24 @@ bool copy(const Map &map, const QRect &cells)
     return true;
 }
 
+bool copy(const Map &map, const CellRuns::Runs &cells)
+{
+    const QRect area = CellRuns::bounds(cells);
+    if (!canBeCopied(map, area.size()))
+        return false;
+    TileMap copied(area.size());
+    copied.setTileSet(map.tileSet());
+    const QPointer<TileMap> layer = map.tileLayer();
+    copied.writeRuns(CellRuns::moved(cells, -area.topLeft()), 0, [&](QPoint first, std::span<TileMap::TileData> row) {
+        for (TileMap::TileData &cell : row) {
+            cell = layer->cellAt(first + area.topLeft());
+            ++first.rx();
+        }
+    });
+    QGuiApplication::clipboard()->setMimeData(copied.toMimeData(copied.bounds()));
+    return true;
+}
+
 bool copyPicture(const Map &map, const QRect &cells, int transparencyIndex)
 {
     if (!canBeCopied(map, cells.size()))

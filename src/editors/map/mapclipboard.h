@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/cellruns.h"
+
 #include <QImage>
 #include <QRect>
 #include <QSize>
@@ -11,6 +13,8 @@ namespace MapClipboard {
 
 // False, and nothing is copied, without cells or with more than the clipboard should hold.
 [[nodiscard]] bool copy(const Map &map, const QRect &cells);
+/// Cells that are no rectangle; the others around them count as never written.
+[[nodiscard]] bool copy(const Map &map, const CellRuns::Runs &cells);
 /// One pixel a pixel, and which palette it is drawn with; pixels of the transparency index are transparent.
 [[nodiscard]] bool copyPicture(const Map &map, const QRect &cells, int transparencyIndex);
 

@@ -1,5 +1,7 @@
 #include "editors/map/mapediting.h"
 
+#include <algorithm>
+
 using Quenmora::Position;
 
 namespace MapEditor {
@@ -49,7 +51,8 @@ void MapEditing::mapRestored()
         selectSprite(-1);
     if (m_content.map()->animatedBlocks()->animationIdAt(m_pointer.highlight).isNull())
         m_pointer.highlight = QRect();
-    select(m_selection.cells);
+    m_selection.keepWithin(m_content.mapSize());
+    emit changed();
     emit mapResized(m_content.mapSize());
 }
 
@@ -59,10 +62,23 @@ void MapEditing::select(const QRect &cells)
     emit changed();
 }
 
-void MapEditing::selectCopied(const QRect &cells)
+void MapEditing::select(const CellRuns::Runs &cells)
 {
-    m_selection.pasteArea = cells;
-    select(cells);
+    m_selection.select(cells, m_content.mapSize());
+    emit changed();
+}
+
+void MapEditing::selectTile(int tile)
+{
+    if (const QPointer<TileMap> layer = m_content.tileLayer())
+        select(CellRuns::ofTile(layer->rows(), tile));
+}
+
+void MapEditing::selectCopied(const MapSelection &cells)
+{
+    m_selection.cells = m_selection.pasteArea = cells.cells;
+    m_selection.runs = cells.runs;
+    emit changed();
 }
 
 void MapEditing::selectSprite(int index)
@@ -80,7 +96,16 @@ void MapEditing::clearCells()
     const QRect cells = m_selection.cells;
     if (cells.isEmpty() || !m_content.tileLayer())
         return;
-    m_edit.run(tr("Clear"), [&cells](Map &map) { map.setTiles(cells, 0, false, false, false, true); });
+    m_edit.run(tr("Clear"), [this, &cells](Map &map) {
+        if (m_selection.runs.isEmpty()) {
+            map.setTiles(cells, 0, false, false, false, true);
+            return;
+        }
+        CellInk blank;
+        const QPointer<TileSet> tiles = map.tileSet();
+        blank.stamp = Stamp({.offset = tiles ? tiles->tileOffset(0) : 0, .used = true});
+        blank.paint(map, m_selection.runs);
+    });
     emit changed();
 }
 
@@ -93,6 +118,46 @@ void MapEditing::fillCells(const TileMap::TileData &tile)
         map.setTiles(cells, tile.index, tile.rotate, tile.flip, tile.mirror, true);
     });
     emit changed();
+}
+
+void MapEditing::fillCells(CellInk ink)
+{
+    if (m_selection.cells.isEmpty() || !m_content.tileLayer())
+        return;
+    ink.origin = m_selection.cells.topLeft();
+    m_edit.run(tr("Fill"), [this, &ink](Map &map) { ink.paint(map, m_selection.selectedRuns()); });
+    emit changed();
+}
+
+bool MapEditing::canMoveCells() const
+{
+    constexpr qint64 MostCells = 1 << 24; // as rows that are not shared they take 256 MiB
+    const QSize size = m_selection.cells.size();
+    return !size.isEmpty() && m_content.tileLayer() && qint64(size.width()) * size.height() <= MostCells;
+}
+
+void MapEditing::moveCells(QPoint by, bool copies)
+{
+    const QPointer<TileMap> layer = m_content.tileLayer();
+    if (!canMoveCells() || by.isNull())
+        return;
+    const TileMap::Rows before = layer->rows();
+    const CellRuns::Runs from = m_selection.selectedRuns();
+    const CellRuns::Runs to = CellRuns::clipped(CellRuns::moved(from, by), layer->bounds());
+    m_edit.run(copies ? tr("Copy Cells") : tr("Move Cells"), [&](Map &map) {
+        if (!copies)
+            map.writeTiles(from, 1, [](QPoint, std::span<TileMap::TileData> cells) {
+                std::ranges::fill(cells, TileMap::TileData());
+            });
+        map.writeTiles(to, 0, [&before, by](QPoint first, std::span<TileMap::TileData> cells) {
+            const QPoint source = first - by;
+            std::copy_n(before[source.y()].cbegin() + source.x(), cells.size(), cells.begin());
+        });
+    });
+    if (m_selection.runs.isEmpty())
+        select(m_selection.cells.translated(by));
+    else
+        select(to);
 }
 
 void MapEditing::setSprite(const Map::PlacedSprite &sprite)
@@ -138,7 +203,8 @@ void MapEditing::resize(const QString &text, const std::function<void(Map &)> &o
     m_edit.run(text, operation);
     m_pointer.clearCell();
     m_pointer.highlight = QRect();
-    select(m_selection.cells);
+    m_selection.keepWithin(m_content.mapSize());
+    emit changed();
     if (map->sprites().size() != sprites)
         forgetSprites();
     emit mapResized(m_content.mapSize());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "editors/map/cellink.h"
 #include "editors/map/mapcontent.h"
 #include "editors/map/mapedit.h"
 #include "editors/map/mappointer.h"
@@ -33,14 +34,24 @@ public:
 
     /// Selects those of the cells that the map has.
     void select(const QRect &cells);
+    /// Selects cells that need not be a rectangle.
+    void select(const CellRuns::Runs &cells);
+    /// Selects the cells that show a tile.
+    void selectTile(int tile);
     /// Selects what was copied, and pastes it there.
-    void selectCopied(const QRect &cells);
+    void selectCopied(const MapSelection &cells);
     void setPasteArea(const QRect &cells) { m_selection.pasteArea = cells; }
     void selectSprite(int index);
 
     void clearCells();
     /// Fills the selected cells with a tile in its orientation, if it is one.
     void fillCells(const TileMap::TileData &tile);
+    /// Fills the selected cells with ink, whose pattern begins at their corner.
+    void fillCells(CellInk ink);
+    /// Whether there are selected cells, but not too many, that can be moved.
+    [[nodiscard]] bool canMoveCells() const;
+    /// Moves what the selected cells hold, or copies it, and the selection with it.
+    void moveCells(QPoint by, bool copies);
     /// Changes the selected sprite.
     void setSprite(const Map::PlacedSprite &sprite);
     // What is under the pointer; false when there is none.

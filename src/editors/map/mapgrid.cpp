@@ -1,6 +1,7 @@
 #include "editors/map/mapgrid.h"
 
 #include "editors/map/mapclipboard.h"
+#include "editors/map/mapnavigator.h"
 #include "editors/map/mappainter.h"
 #include "model/placedsprites.h"
 #include "ui/outlineband.h"
@@ -10,8 +11,11 @@
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QRandomGenerator>
 #include <QStatusTipEvent>
 #include <QWheelEvent>
+
+#include <algorithm>
 
 using namespace Quenmora::Ui;
 
@@ -44,6 +48,13 @@ void MapGrid::buildContextMenu()
         paste->setEnabled(!MapClipboard::sizeFor(map()).isEmpty()
                           || (m_pastesPictures && MapClipboard::mayHoldPicture()));
     });
+}
+
+void MapGrid::offerMore()
+{
+    m_brush.doesMore = true;
+    m_tools.addPaintTools(this);
+    new MapNavigator(this); // which is its child
 }
 
 // ---- What is shown ----------------------------------------------------------------------------
@@ -131,9 +142,12 @@ void MapGrid::paintEvent(QPaintEvent *event)
     if (!pointer().highlight.isEmpty())
         MapPainter::paintOutline(painter, m_viewport.rectOfCells(pointer().highlight));
     m_tools.tool()->paintOver(painter);
+    if (!m_shownCell.isEmpty())
+        MapPainter::paintSelection(painter, m_viewport.rectOfCells(m_shownCell));
 
     painter.setClipRegion(event->region());
     MapPainter::paintStatus(painter, pointer().cell, timer.elapsed());
+    emit painted();
 }
 
 // ---- Where it is shown ------------------------------------------------------------------------
@@ -175,6 +189,19 @@ void MapGrid::zoomBy(int steps)
         relayout();
 }
 
+void MapGrid::zoomAround(QPoint point, int steps)
+{
+    const QPoint cell = m_viewport.cellAt(point);
+    const QPoint before = m_viewport.scroll;
+    if (!m_viewport.setZoom(m_viewport.zoomFactor + steps))
+        return;
+    m_viewport.layout(size(), m_content.mapSize());
+    m_viewport.scroll += cell - m_viewport.cellAt(point);
+    relayout();
+    if (m_viewport.scroll != before)
+        emit scrollPositionChanged(m_viewport.scroll);
+}
+
 void MapGrid::fitTo(bool doEvent)
 {
     m_viewport.fit(size(), m_content.mapSize());
@@ -202,6 +229,24 @@ void MapGrid::setScrollPosition(QPoint position)
         pointer().clearCell();
     m_viewport.scroll = position;
     update();
+}
+
+void MapGrid::scrollTo(QPoint position)
+{
+    const QSize furthest = m_viewport.overflow(m_content.mapSize()).expandedTo({0, 0});
+    const QPoint possible(std::clamp(position.x(), 0, furthest.width()),
+                          std::clamp(position.y(), 0, furthest.height()));
+    if (possible == m_viewport.scroll)
+        return;
+    setScrollPosition(possible);
+    emit scrollPositionChanged(possible);
+}
+
+void MapGrid::showCell(QPoint cell)
+{
+    const QSize shown = m_viewport.visibleSize();
+    scrollTo(cell - QPoint(shown.width() / 2, shown.height() / 2));
+    change(m_shownCell, QRect(cell, QSize(1, 1)) & QRect(QPoint(0, 0), m_content.mapSize()));
 }
 
 void MapGrid::wheelEvent(QWheelEvent *event)
@@ -251,6 +296,12 @@ void MapGrid::refreshCursor()
     showCursor(tool->isUnavailable() ? QCursor(Qt::ForbiddenCursor) : tool->cursor());
 }
 
+void MapGrid::setStamp(const Stamp &stamp)
+{
+    m_brush.chooseStamp(stamp);
+    update();
+}
+
 void MapGrid::setCurrentTileIndex(int index)
 {
     m_brush.chooseTile(index);
@@ -295,6 +346,12 @@ void MapGrid::pickTileAt(QPoint point)
         emit animationPicked(animation);
 }
 
+void MapGrid::pickStamp(const QRect &cells)
+{
+    if (const QPointer<TileMap> layer = m_content.tileLayer())
+        emit stampPicked(Stamp::of(*layer, cells));
+}
+
 void MapGrid::mousePressEvent(QMouseEvent *event)
 {
     pointer().press = event->position().toPoint();
@@ -312,6 +369,7 @@ void MapGrid::mousePressEvent(QMouseEvent *event)
 
 void MapGrid::mouseMoveEvent(QMouseEvent *event)
 {
+    m_shownCell = {};
     if (event->spontaneous() && event->buttons() == Qt::NoButton)
         releaseButtons(); // another window took the release
     if (m_viewport.viewRect.contains(event->position().toPoint())) {
@@ -331,6 +389,12 @@ void MapGrid::mouseReleaseEvent(QMouseEvent *event)
         m_tools.tool()->mouseReleased(event);
     }
     releaseButtons();
+}
+
+void MapGrid::endEdit(const QString &text)
+{
+    m_editing.edit().end(text);
+    m_brush.seed = QRandomGenerator::global()->generate();
 }
 
 void MapGrid::releaseButtons()
@@ -361,6 +425,20 @@ void MapGrid::selectAll()
     setSelection(QRect(QPoint(0, 0), m_content.mapSize()));
 }
 
+void MapGrid::selectCurrentTile()
+{
+    setMode(Select);
+    m_editing.selectTile(m_brush.tile.index);
+}
+
+void MapGrid::fillSelection()
+{
+    if (m_brush.doesMore)
+        m_editing.fillCells(m_brush.ink(map(), {}, Qt::LeftButton, {}));
+    else
+        m_editing.fillCells(m_brush.tile);
+}
+
 void MapGrid::selectNone()
 {
     hideRubberBand();
@@ -386,11 +464,12 @@ void MapGrid::showContextMenu(QPoint globalPosition)
 
 bool MapGrid::copyCells()
 {
-    const QRect cells = selection();
-    if (!map() || !MapClipboard::copy(*map(), cells))
+    const MapSelection copied = selected();
+    const bool whole = copied.runs.isEmpty();
+    if (!map() || !(whole ? MapClipboard::copy(*map(), copied.cells) : MapClipboard::copy(*map(), copied.runs)))
         return false;
     setMode(savedMode());
-    m_editing.selectCopied(cells); // choosing a tool cleared it
+    m_editing.selectCopied(copied); // choosing a tool cleared it
     return true;
 }
 

@@ -44,6 +44,10 @@ public:
     void setBaseSize(int pixels);
     /// A click paints, or places an animation, as a drag does; otherwise a press without a movement does nothing.
     void setPaintsOnPress(bool paints) { m_brush.paintsOnPress = paints; }
+    /// Adds the tools that fill and draw shapes, and what tools do beyond the usual: stamps are picked and painted,
+    /// selections dragged, palette offsets painted with Ctrl; the wheel zooms around the pointer, and the view is
+    /// dragged with Space.
+    void offerMore();
     void applyPreferences(const Preferences &preferences);
     bool isGridVisible() const { return m_display.gridVisible; }
     int transparencyIndex() const { return m_display.transparencyIndex; }
@@ -63,17 +67,30 @@ public:
     /// What the sprite tool places; nothing when no sprite was chosen.
     const std::optional<Map::PlacedSprite> &spriteTemplate() const { return m_brush.sprite; }
 
+    /// Paints with a stamp from now on; one without cells to paint changes nothing.
+    void setStamp(const Stamp &stamp);
+    /// Whether any tile of the stamp is painted in place of all.
+    void setRandom(bool random) { change(m_brush.random, random); }
+    /// The palette offset of what is painted, or -1 for that of the tiles.
+    void setPaletteOffset(int offset) { change(m_brush.offset, offset); }
+
     MapPointer &pointer() override { return m_editing.pointer(); }
     void pickTileAt(QPoint point) override;
+    void pickStamp(const QRect &cells) override;
 
     QRect selection() const override { return m_editing.selection().cells; }
     void setSelection(const QRect &cells) override { m_editing.select(cells); }
+    const MapSelection &selected() const override { return m_editing.selection(); }
+    bool canMoveSelection() const override { return m_editing.canMoveCells(); }
+    void moveSelection(QPoint by, bool copies) override { m_editing.moveCells(by, copies); }
+    /// Selects the cells that show the current tile.
+    void selectCurrentTile();
     QRect pasteArea() const override { return m_editing.selection().pasteArea; }
     void setPasteArea(const QRect &cells) override { m_editing.setPasteArea(cells); }
     void clearSelection() { m_editing.clearCells(); }
     void cutSelection();
     void copySelection() { copyCells(); }
-    void fillSelection() { m_editing.fillCells(m_brush.tile); }
+    void fillSelection();
     void selectAll();
     void selectNone();
     void showRubberBand(const QRect &area) override;
@@ -98,7 +115,7 @@ public:
     void tell(const QString &text) override;
 
     void beginEdit() override { m_editing.edit().begin(); }
-    void endEdit(const QString &text) override { m_editing.edit().end(text); }
+    void endEdit(const QString &text) override;
     void repaintSoon() override { update(); }
     void showCursor(const QCursor &cursor) override;
     void refreshCursor() override;
@@ -115,6 +132,12 @@ public slots:
         m_display.setGridVisible(visible);
         update();
     }
+    /// Scrolls as near as possible to a position.
+    void scrollTo(QPoint position);
+    /// Scrolls so that a cell is in the middle, and outlines it until the pointer moves.
+    void showCell(QPoint cell);
+    /// Zooms by steps of the factor, and leaves the cell under a point there as far as the map reaches.
+    void zoomAround(QPoint point, int steps);
     void zoomIn() { zoomBy(1); }
     void zoomOut() { zoomBy(-1); }
     /// Makes all of the map, or of the viewport, fit into the widget; without doEvent it shows with the next layout.
@@ -161,6 +184,10 @@ signals:
     void createMapFromSelection(QUuid mapId, QSize size);
     /// The animation that is placed where a tile was picked.
     void animationPicked(QUuid animationId);
+    /// Cells of the map are to be painted as a stamp.
+    void stampPicked(const Stamp &stamp);
+    /// What is shown, or where, may be another.
+    void painted();
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -198,6 +225,7 @@ private:
     MapDisplay m_display;
     MapBrush m_brush;
     MapEditing m_editing{m_content};
+    QRect m_shownCell; ///< which was asked for last
     MapToolBox m_tools{this}; ///< which use all of the above
     bool m_pastesPictures = false;
     OutlineBand *m_rubberBand;

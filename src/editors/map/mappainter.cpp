@@ -117,6 +117,30 @@ void MapPainter::paintSelection(QPainter &painter, const QRect &area)
     paintOutline(painter, area, std::min(area.width(), area.height()) < Roomy ? 1 : 2);
 }
 
+void MapPainter::paintRuns(QPainter &painter, const MapViewport &viewport, const CellRuns::Runs &runs)
+{
+    constexpr int Roomy = 4; // in smaller cells outlines would hide what is selected
+    constexpr QColor Veil(255, 255, 255, 72);
+    const QRect shown = viewport.visibleCells();
+    const auto [first, last] = CellRuns::inRows(runs, shown.top(), shown.bottom());
+    QRegion inside;
+    for (auto run = first; run != last; ++run) {
+        const QRect area = viewport.rectOfCells(QRect(run->column, run->row, run->count, 1) & shown);
+        painter.fillRect(area, Veil);
+        if (viewport.cellSize >= Roomy)
+            inside += area;
+    }
+    const QRegion all = inside;
+    for (const auto &[width, colour] : {std::pair(1, LightGrey), {2, DarkGrey}}) {
+        // what is within so many pixels of the edge, on any side
+        const QRegion core =
+            all.translated(width, 0) & all.translated(-width, 0) & all.translated(0, width) & all.translated(0, -width);
+        for (const QRect &edge : inside - core)
+            painter.fillRect(edge, colour);
+        inside &= core;
+    }
+}
+
 void MapPainter::paintStatus(QPainter &painter, QPoint cell, qint64 milliseconds)
 {
     const QString text = QStringLiteral("  [%1:%2] %4ms  ").arg(cell.x()).arg(cell.y()).arg(milliseconds);

@@ -3,6 +3,7 @@
 #include "editors/map/mapcontent.h"
 #include "editors/map/mapdisplay.h"
 #include "editors/map/mapviewport.h"
+#include "model/cellruns.h"
 
 #include <QBrush>
 #include <QImage>
@@ -31,6 +32,8 @@ public:
     static void paintOutline(QPainter &painter, const QRect &area, int thickness = 1);
     /// The same for what is selected or about to be pasted: lines that are found at a glance.
     static void paintSelection(QPainter &painter, const QRect &area);
+    /// The same for selected cells that are no rectangle.
+    static void paintRuns(QPainter &painter, const MapViewport &viewport, const CellRuns::Runs &runs);
     /// Where the pointer is and how long the painting took.
     static void paintStatus(QPainter &painter, QPoint cell, qint64 milliseconds);
 

@@ -15,6 +15,7 @@ namespace MapEditor {
 
 struct MapBrush;
 struct MapPointer;
+struct MapSelection;
 struct MapViewport;
 
 /// What a tool sees of the editor in which it is used, and what it may do there. Areas are in cells of the map,
@@ -35,6 +36,11 @@ public:
 
     virtual QRect selection() const = 0;
     virtual void setSelection(const QRect &cells) = 0;
+    /// The selected cells, which need not be a rectangle.
+    virtual const MapSelection &selected() const = 0;
+    /// Whether they can be moved.
+    virtual bool canMoveSelection() const = 0;
+    virtual void moveSelection(QPoint by, bool copies) = 0;
     /// The placed sprite that is selected, or -1 for none.
     virtual void selectSprite(int index) = 0;
     /// Where the paste tool pastes, or what was copied last.
@@ -55,6 +61,8 @@ public:
     virtual void setMode(Quenmora::Ui::ToolButton mode) = 0;
     /// The cell of the tile layer under a point of the widget is picked; nothing outside the map.
     virtual void pickTileAt(QPoint point) = 0;
+    /// An area of the tile layer becomes what is painted.
+    virtual void pickStamp(const QRect &cells) = 0;
     /// A placed sprite was clicked, not dragged.
     virtual void clickSprite(int index) = 0;
 

@@ -1,6 +1,7 @@
 #include "editors/map/maptool.h"
 
 #include "editors/map/mappainter.h"
+#include "editors/map/mapselection.h"
 
 namespace MapEditor {
 
@@ -34,8 +35,11 @@ void MapTool::mouseReleased(QMouseEvent *) { }
 
 void MapTool::paintSelection(QPainter &painter) const
 {
-    if (const QRect cells = surface()->selection(); !cells.isEmpty())
-        MapPainter::paintSelection(painter, viewport().rectOfCells(cells));
+    const MapSelection &selected = surface()->selected();
+    if (!selected.runs.isEmpty())
+        MapPainter::paintRuns(painter, viewport(), selected.runs);
+    else if (!selected.cells.isEmpty())
+        MapPainter::paintSelection(painter, viewport().rectOfCells(selected.cells));
 }
 
 void MapTool::paintUnder(QPainter &) const { }

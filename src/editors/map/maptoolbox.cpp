@@ -1,11 +1,13 @@
 #include "editors/map/maptoolbox.h"
 
 #include "editors/map/drawtool.h"
+#include "editors/map/filltool.h"
 #include "editors/map/pastetool.h"
 #include "editors/map/picktool.h"
 #include "editors/map/placeanimationtool.h"
 #include "editors/map/placespritetool.h"
 #include "editors/map/selecttool.h"
+#include "editors/map/shapetool.h"
 
 #include <QDebug>
 #include <QMetaEnum>
@@ -27,10 +29,17 @@ MapToolBox::MapToolBox(MapSurface *surface)
     m_tool = m_tools.value(m_mode);
 }
 
-template <typename Tool>
-void MapToolBox::add(MapSurface *surface)
+void MapToolBox::addPaintTools(MapSurface *surface)
 {
-    const auto tool = std::make_shared<Tool>(surface);
+    add<FillTool>(surface);
+    for (const ToolButton shape : {Line, Rectangle, RectangleFill, Circle, CircleFill})
+        add<ShapeTool>(surface, shape);
+}
+
+template <typename Tool, typename... Arguments>
+void MapToolBox::add(MapSurface *surface, Arguments... arguments)
+{
+    const auto tool = std::make_shared<Tool>(surface, arguments...);
     m_tools.insert(tool->mode(), tool);
 }
 

@@ -17,6 +17,9 @@ class MapToolBox
 public:
     explicit MapToolBox(MapSurface *surface);
 
+    /// Adds the tools that not every grid has.
+    void addPaintTools(MapSurface *surface);
+
     [[nodiscard]] MapTool *tool() const { return m_tool.get(); }
     [[nodiscard]] Quenmora::Ui::ToolButton mode() const { return m_mode; }
     [[nodiscard]] Quenmora::Ui::ToolButton savedMode() const { return m_savedMode; }
@@ -28,8 +31,8 @@ public:
     [[nodiscard]] bool activate();
 
 private:
-    template <typename Tool>
-    void add(MapSurface *surface);
+    template <typename Tool, typename... Arguments>
+    void add(MapSurface *surface, Arguments... arguments);
 
     QHash<Quenmora::Ui::ToolButton, std::shared_ptr<MapTool>> m_tools;
     std::shared_ptr<MapTool> m_tool;

@@ -1,7 +1,9 @@
 #include "editors/map/pastetool.h"
 
+#include "editors/map/cellpreview.h"
 #include "editors/map/mapclipboard.h"
 #include "editors/map/mappainter.h"
+#include "model/cellruns.h"
 #include "model/tileset.h"
 
 #include <QApplication>
@@ -17,8 +19,13 @@ bool PasteTool::activate()
     const QSize size = MapClipboard::sizeFor(map());
     surface()->setPasteArea({});
     m_picture = {};
+    m_copied = {};
+    m_first.reset();
     if (size.isEmpty())
         return surface()->pastesPictures() && takePicture();
+    if (brush().doesMore)
+        m_copied = Stamp::fromClipboard(QApplication::clipboard()->mimeData(), map()->tileSetId());
+    m_orientation = brush().tile;
     surface()->setPasteArea({QPoint(0, 0), size});
     surface()->refreshCursor();
     return true;
@@ -91,13 +98,36 @@ bool PasteTool::putPictureDown(QPoint at)
 void PasteTool::mouseMoved(QMouseEvent *event)
 {
     const QPoint cell = viewport().snappedCellAt(event->position().toPoint());
-    const QSize size = surface()->pasteArea().size();
+    const QSize size = m_copied.isEmpty() ? surface()->pasteArea().size() : ink().stamp.size();
+    const QPoint before = pointer().hasCell() ? pointer().cell : cell;
     pointer().cell = cell;
+    if (m_first) {
+        stroke(before, cell);
+        return;
+    }
     surface()->setPasteArea({cell - QPoint(size.width() / 2, size.height() / 2), size});
     surface()->repaintSoon();
 }
 
-bool PasteTool::mousePressed(QMouseEvent *)
+/// What is pasted, turned as far as the brush was turned since.
+CellInk PasteTool::ink() const
+{
+    const TileMap::TileData &now = brush().tile;
+    CellInk ink;
+    ink.part = CellInk::Everything;
+    ink.stamp = m_copied.oriented(now.rotate != m_orientation.rotate, now.flip != m_orientation.flip,
+                                  now.mirror != m_orientation.mirror);
+    return ink;
+}
+
+/// Whether the clipboard still holds what the outline promised.
+bool PasteTool::isOnClipboard() const
+{
+    const QSize copied = MapClipboard::sizeFor(map());
+    return !copied.isEmpty() && copied == (m_copied.isEmpty() ? surface()->pasteArea().size() : m_copied.size());
+}
+
+bool PasteTool::mousePressed(QMouseEvent *event)
 {
     const QPointer<TileMap> layer = map() ? map()->tileLayer() : nullptr;
     const QRect area = surface()->pasteArea();
@@ -105,13 +135,54 @@ bool PasteTool::mousePressed(QMouseEvent *)
         return false;
     if (!m_picture.isNull())
         return putPictureDown(area.topLeft());
-    if (MapClipboard::sizeFor(map()) != area.size()) // it is not what the outline promised
+    if (!isOnClipboard())
         return false;
     surface()->beginEdit();
+    if (!m_copied.isEmpty() && event->buttons() & Qt::LeftButton) {
+        m_first = area.topLeft();
+        stroke(pointer().cell, pointer().cell);
+        return true;
+    }
     map()->pasteTiles(area.topLeft(), QApplication::clipboard()->mimeData());
     surface()->endEdit(tr("Paste"));
     surface()->repaintSoon();
     return true;
+}
+
+/// Pastes into the places of the first one's grid that lie on the way.
+void PasteTool::stroke(QPoint from, QPoint to)
+{
+    CellInk pasted = ink();
+    pasted.origin = *m_first;
+    QRect place = pasted.stamp.slotOf(from, *m_first);
+    pasted.paint(*map(), place);
+    for (const TileMap::Run &run : CellRuns::line(from, to, QRect(QPoint(0, 0), map()->size()))) {
+        for (int x = run.column; x < run.column + run.count; ++x) {
+            if (place.contains(x, run.row))
+                continue;
+            place = pasted.stamp.slotOf({x, run.row}, *m_first);
+            pasted.paint(*map(), place);
+        }
+    }
+    surface()->setPasteArea(pasted.stamp.slotOf(to, *m_first));
+    surface()->repaintSoon();
+}
+
+void PasteTool::mouseReleased(QMouseEvent *)
+{
+    if (!m_first)
+        return;
+    m_first.reset();
+    surface()->endEdit(tr("Paste"));
+}
+
+void PasteTool::paintUnder(QPainter &painter) const
+{
+    if (m_copied.isEmpty() || m_first || !map() || !pointer().hasCell())
+        return;
+    CellInk pasted = ink();
+    pasted.origin = surface()->pasteArea().topLeft();
+    CellPreview::paint(painter, *map(), viewport(), surface()->pasteArea(), pasted);
 }
 
 void PasteTool::paintOver(QPainter &painter) const
