@@ -31,8 +31,9 @@ AnimatedBlocks::State moved(AnimatedBlocks::State placements, QPoint cells)
 
 } // namespace
 
-MapEditCommand::MapEditCommand(const QString &text, Map *map, const Map::Snapshot &before, const Map::Snapshot &after)
-    : QUndoCommand(text)
+MapEditCommand::MapEditCommand(const QString &text, Map *map, const Map::Snapshot &before, const Map::Snapshot &after,
+                               QUndoCommand *parent)
+    : QUndoCommand(text, parent)
     , m_map(map)
     , m_shift(after.origin - before.origin)
     , m_tiles(before.tiles, after.tiles, m_shift)

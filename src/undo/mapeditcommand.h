@@ -21,7 +21,9 @@
 class MapEditCommand final : public QUndoCommand
 {
 public:
-    MapEditCommand(const QString &text, Map *map, const Map::Snapshot &before, const Map::Snapshot &after);
+    /// A part of the parent's step, if it has one.
+    MapEditCommand(const QString &text, Map *map, const Map::Snapshot &before, const Map::Snapshot &after,
+                   QUndoCommand *parent = nullptr);
     ~MapEditCommand() override;
 
     void undo() override;

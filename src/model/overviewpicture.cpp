@@ -1,0 +1,85 @@
+#include "model/overviewpicture.h"
+
+#include "model/map.h"
+#include "model/palette.h"
+#include "model/tileset.h"
+
+#include <QHash>
+#include <QPainter>
+
+#include <algorithm>
+
+namespace {
+
+/// The average colours of tiles, each found when it is first asked for.
+class TileColours
+{
+public:
+    explicit TileColours(const TileSet &tiles) : m_tiles(tiles) { }
+
+    QRgb of(const TileMap::TileData &cell)
+    {
+        if (!cell.used || cell.index < 0 || cell.index >= m_tiles.count())
+            return qRgb(0, 0, 0);
+        const int key = cell.index << 4 | (cell.offset & 15);
+        auto found = m_colours.constFind(key);
+        if (found == m_colours.cend()) {
+            const QImage image =
+                m_tiles.tileImage(cell.index, false, false, false, cell.offset).convertToFormat(QImage::Format_RGB32);
+            found = m_colours.insert(key, average(image));
+        }
+        return *found;
+    }
+
+private:
+    static QRgb average(const QImage &image)
+    {
+        int red = 0;
+        int green = 0;
+        int blue = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            const auto *line = reinterpret_cast<const QRgb *>(image.constScanLine(y));
+            for (int x = 0; x < image.width(); ++x) {
+                red += qRed(line[x]);
+                green += qGreen(line[x]);
+                blue += qBlue(line[x]);
+            }
+        }
+        const int pixels = std::max(image.width() * image.height(), 1);
+        return qRgb(red / pixels, green / pixels, blue / pixels);
+    }
+
+    const TileSet &m_tiles;
+    QHash<int, QRgb> m_colours;
+};
+
+} // namespace
+
+QImage overviewPicture(const Map &map, QSize size)
+{
+    const QPointer<TileMap> layer = map.tileLayer();
+    const QPointer<TileSet> tiles = map.tileSet();
+    const QSize cells = map.size();
+    if (!layer || !tiles || !tiles->palette() || cells.isEmpty() || size.isEmpty())
+        return {};
+    constexpr int FewCells = 64; // of which every pixel is worth looking at
+    if (std::max(cells.width(), cells.height()) <= FewCells) {
+        QImage picture(cells * TileMap::TileSize, QImage::Format_RGB32); // whose parts the map keeps rendered
+        picture.fill(Qt::black);
+        QPainter painter(&picture);
+        layer->paint(painter, {}, layer->bounds(), TileMap::TileSize, -1);
+        painter.end();
+        return picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    }
+    TileColours colours(*tiles);
+    QImage picture(size, QImage::Format_RGB32);
+    for (int y = 0; y < size.height(); ++y) {
+        auto *line = reinterpret_cast<QRgb *>(picture.scanLine(y));
+        const int row = int((2 * qint64(y) + 1) * cells.height() / (2 * size.height()));
+        for (int x = 0; x < size.width(); ++x) {
+            const int column = int((2 * qint64(x) + 1) * cells.width() / (2 * size.width()));
+            line[x] = colours.of(layer->cellAt({column, row}));
+        }
+    }
+    return picture;
+}
