@@ -15,6 +15,7 @@
 #include "editors/canvas/canvas.h"
 #include "editors/canvas/imageeditorview.h"
 #include "editors/canvas/spritewindow.h"
+#include "editors/canvas/tilepickergrid.h"
 #include "editors/canvas/tilepickertool.h"
 #include "editors/canvas/tilewindow.h"
 #include "editors/map/blockselectorwindow.h"
@@ -22,6 +23,7 @@
 #include "editors/map/mapgrid.h"
 #include "editors/map/mappreferences.h"
 #include "editors/map/mapspriteswindow.h"
+#include "editors/map/paintdesk.h"
 #include "editors/palette/palettewindow.h"
 #include "preferences/mapeditorpage.h"
 #include "preferences/preferencesdialog.h"
@@ -93,7 +95,9 @@ void DocumentController::connectTabs()
     connect(m_views.tabs, &DocumentTabView::currentChanged, this, [this] {
         const auto *editor = qobject_cast<ImageEditor::View *>(m_views.tabs->currentWidget());
         m_views.menuBar->imageMenu()->setImage(editor ? editor->image() : nullptr);
+        m_mapCommands.setView(qobject_cast<MapEditor::View *>(m_views.tabs->currentWidget()));
     });
+    m_views.menuBar->mapMenu()->addActions(m_mapCommands.actions());
     connect(m_views.menuBar->imageMenu(), &ImageMenu::swapPalette, this, &DocumentController::changeImagePalette);
     connect(m_views.tabs, &DocumentTabView::showAnimPicker, m_views.mapObjects, &QWidget::raise);
     const ImageEditor::View *scratch = m_views.tabs->scratchEditor();
@@ -161,6 +165,7 @@ void DocumentController::openProject(Project *project)
     m_views.palette->setProject(project);
     m_views.mapSprites->setProject(project);
 
+    m_paintKits.setProject(project);
     openScratchImage();
     m_focus.setProject(project);
 
@@ -215,6 +220,7 @@ void DocumentController::closeProject()
     ImageEditor::View *scratch = m_views.tabs->scratchEditor();
     scratch->setUndoStack(nullptr);
     scratch->setPalette(nullptr);
+    m_paintKits.setProject(nullptr);
     m_recorder.reset();
     m_stacks.clear();
     m_editedSprites.clear();
@@ -336,6 +342,8 @@ void DocumentController::openSprites(const QUuid &id)
 void DocumentController::openMap(const QPointer<Map> &map)
 {
     MapEditor::View *editor = m_views.tabs->openMapEditor(map);
+    editor->offerMore(m_paintKits.kitFor(map->tileSet()));
+    m_mapCommands.setView(editor);
     editor->setUndoStack(undoStackFor(map->id()));
     editor->setPastesPictures(true);
     editor->setSpriteBanks(project()->spriteBanks());
@@ -371,6 +379,8 @@ void DocumentController::connectMapEditor(MapEditor::View *editor)
     m_views.tilePicker->setSelectedIndex(editor->grid()->currentTileIndex());
     m_mapConnections = {
         connect(m_views.tilePicker, &TilePickerTool::selectedTileChanged, editor, &View::setTileIndex),
+        connect(m_views.tilePicker->grid(), &TilePickerGrid::tilesPicked, editor->paintDesk(),
+                &MapEditor::PaintDesk::pickTiles),
         connect(editor, &View::tilePicked, m_views.tilePicker, &TilePickerTool::setSelectedIndex),
         connect(m_views.mapObjects, &BlockSelectorWindow::animationSelected, editor, &View::setMapObject),
         connect(m_views.mapSprites, &MapSpritesWindow::spriteAnimationSelected, editor, &View::setSpriteAnimation),

@@ -5,6 +5,8 @@
 #include "app/keyboardreturn.h"
 #include "app/projecttree/projecttree.h"
 #include "app/undostacks.h"
+#include "editors/map/mapcommands.h"
+#include "editors/map/paintkits.h"
 #include "model/palette.h"
 #include "model/project.h"
 #include "undo/editrecorder.h"
@@ -114,6 +116,8 @@ private:
     EditFocus m_focus;
     KeyboardReturn m_keyboardReturn;
     std::unique_ptr<EditRecorder> m_recorder;
+    MapEditor::PaintKits m_paintKits;
+    MapEditor::MapCommands m_mapCommands;
     /// Of the active map editor to the docks that serve it.
     QList<QMetaObject::Connection> m_mapConnections;
     /// By bank, the sprite that was edited last.

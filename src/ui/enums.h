@@ -45,7 +45,9 @@ enum ToolButton {
     PlaceAnim = 33,
     PlaceSprite = 34,
     ShrinkToFit = 35,
-    ToggleViewport = 36
+    ToggleViewport = 36,
+    PaintTerrain = 37,
+    RandomTiles = 38
 };
 Q_ENUM_NS(ToolButton)
 

@@ -123,6 +123,10 @@ ToolPalette::Entry ToolPalette::entryOf(ToolButton button)
         return entry(":/ShrinkToFit", tr("Shrink to fit"));
     case Quenmora::Ui::ToggleViewport:
         return entry(":/ToggleViewport", tr("Toggle viewport"), Toggle);
+    case Quenmora::Ui::PaintTerrain:
+        return entry(":/Terrain", tr("Paint terrain"), Tool);
+    case Quenmora::Ui::RandomTiles:
+        return entry(":/Random", tr("Random tiles of the stamp"), Toggle);
     case Quenmora::Ui::_end_toggles:
         break;
     }

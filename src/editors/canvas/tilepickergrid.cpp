@@ -95,6 +95,7 @@ void TilePickerGrid::setTileSet(const QPointer<TileSet> &tileSet)
         m_tileSet->disconnect(this);
     m_tileSet = tileSet;
     m_menuTile = m_copySource = -1;
+    m_markedFrom.reset();
     if (m_tileSet) {
         connect(m_tileSet, &TileSet::tileChanged, this, qOverload<>(&QWidget::update));
         connect(m_tileSet, &TileSet::tileSwapped, this, qOverload<>(&QWidget::update));
@@ -168,7 +169,9 @@ void TilePickerGrid::paintMarks(QPainter &painter) const
     } else if (hoveredIndex() >= 0) {
         paintHovered(painter, frameOf(hoveredIndex()));
     }
-    if (selectedIndex() >= 0)
+    if (m_markedFrom)
+        paintDotted(painter, markedRect().adjusted(0, 0, -2, -2), 2);
+    else if (selectedIndex() >= 0)
         paintDotted(painter, frameOf(selectedIndex()).adjusted(0, 0, -1, -1), 2);
 }
 
@@ -191,6 +194,68 @@ void TilePickerGrid::openMenu(int index, QPoint globalPosition)
 {
     m_menuTile = index;
     contextMenu()->popup(globalPosition);
+}
+
+QPoint TilePickerGrid::placeAt(QPoint point) const
+{
+    const int rows = std::max(1, (count() + columns(width()) - 1) / columns(width()));
+    return {std::clamp(point.x() / cell(), 0, columns(width()) - 1), std::clamp(point.y() / cell(), 0, rows - 1)};
+}
+
+QRect TilePickerGrid::markedRect() const
+{
+    const QRect places(
+        QPoint(std::min(m_markedFrom->x(), m_markedTo.x()), std::min(m_markedFrom->y(), m_markedTo.y())),
+        QPoint(std::max(m_markedFrom->x(), m_markedTo.x()), std::max(m_markedFrom->y(), m_markedTo.y())));
+    return {places.topLeft() * cell(), places.size() * cell()};
+}
+
+void TilePickerGrid::mousePressEvent(QMouseEvent *event)
+{
+    const QPoint point = event->position().toPoint();
+    if (event->button() != Qt::LeftButton || event->modifiers() != Qt::ControlModifier || indexAt(point) < 0) {
+        CellGrid::mousePressEvent(event);
+        return;
+    }
+    m_markedFrom = m_markedTo = placeAt(point);
+    update();
+}
+
+void TilePickerGrid::mouseMoveEvent(QMouseEvent *event)
+{
+    if (!m_markedFrom) {
+        CellGrid::mouseMoveEvent(event);
+        return;
+    }
+    m_markedTo = placeAt(event->position().toPoint());
+    update();
+}
+
+void TilePickerGrid::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (!m_markedFrom) {
+        CellGrid::mouseReleaseEvent(event);
+        return;
+    }
+    if (event->button() != Qt::LeftButton)
+        return;
+    const QRect places(markedRect().topLeft() / cell(), markedRect().size() / cell());
+    m_markedFrom.reset();
+    update();
+    if (places.size() == QSize(1, 1)) { // a click
+        clicked(places.y() * columns(width()) + places.x());
+        return;
+    }
+    QList<QList<int>> rows;
+    for (int y = places.top(); y <= places.bottom(); ++y) {
+        QList<int> row;
+        for (int x = places.left(); x <= places.right(); ++x) {
+            const int index = y * columns(width()) + x;
+            row.append(index < count() ? index : -1);
+        }
+        rows.append(row);
+    }
+    emit tilesPicked(rows);
 }
 
 void TilePickerGrid::mouseDoubleClickEvent(QMouseEvent *event)

@@ -7,6 +7,8 @@
 #include <QActionGroup>
 #include <QPointer>
 
+#include <optional>
+
 /// All tiles of a tile set in rows that fill the widget's width: one is selected, tiles are dragged to
 /// other places, and a context menu edits the list.
 class TilePickerGrid : public CellGrid
@@ -36,6 +38,8 @@ signals:
     /// Carries the tile's number, which counts from 1.
     void itemDoubleClicked(int index);
     void magnificationChanged(int magnification);
+    /// Tiles beside each other were marked by dragging with Ctrl: their indices in rows, -1 where there is none.
+    void tilesPicked(const QList<QList<int>> &rows);
 
 protected:
     int count() const override { return m_tileSet ? m_tileSet->count() : 0; }
@@ -49,6 +53,9 @@ protected:
     void copyElement(int source, int target) override { m_tileSet->copyTile(source, target); }
     void moveElement(int source, int target) override { m_tileSet->moveTile(source, target); }
     void paintEvent(QPaintEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
@@ -63,10 +70,15 @@ private:
     void insertTile();
     void deleteTile();
     void paintMarks(QPainter &painter) const;
+    /// Column and row of the place of a tile that is nearest to a point.
+    QPoint placeAt(QPoint point) const;
+    QRect markedRect() const;
 
     QPointer<TileSet> m_tileSet;
     QActionGroup *m_factors;
     int m_magnification = 8;
     int m_menuTile = -1;
     int m_copySource = -1;
+    std::optional<QPoint> m_markedFrom; ///< places of tiles that are being marked
+    QPoint m_markedTo;
 };

@@ -3,6 +3,7 @@
 #include "editors/map/cellink.h"
 #include "model/map.h"
 #include "model/spriteanim.h"
+#include "model/terrain.h"
 #include "model/tileanimation.h"
 
 #include <QPointer>
@@ -22,6 +23,7 @@ struct MapBrush
     quint32 seed = 0; ///< of the choice, until the end of an edit
     QPointer<TileAnimation> animation;
     std::optional<Map::PlacedSprite> sprite; ///< as it will be placed, but for its position
+    Terrain terrain; ///< of the terrain tool
     bool paintsOnPress = false; ///< a tile or animation goes where the button is pressed, not only where it is moved to
     bool doesMore = false; ///< see MapGrid::offerMore()
 

@@ -3,6 +3,7 @@
 #include "undo/mapeditcommand.h"
 
 #include <algorithm>
+#include <memory>
 #include <utility>
 
 namespace MapEditor {
@@ -93,6 +94,13 @@ void MapEdit::abandon()
 {
     m_before = {};
     m_depth = 0;
+}
+
+void MapEdit::push(QUndoCommand *step)
+{
+    std::unique_ptr<QUndoCommand> owned(step);
+    if (step && m_stack)
+        m_stack->push(owned.release());
 }
 
 void MapEdit::run(const QString &text, const std::function<void(Map &)> &operation)

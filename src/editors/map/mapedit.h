@@ -30,6 +30,8 @@ public:
     void endAll(const QString &text);
     /// Forgets the edit, whose map is gone.
     void abandon();
+    /// Records the step of an edit that was made already; takes it, also when nothing is recorded.
+    void push(QUndoCommand *step);
     /// An edit, or a nested one, that is made at once.
     void run(const QString &text, const std::function<void(Map &)> &operation);
 

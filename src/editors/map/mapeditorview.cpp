@@ -6,6 +6,7 @@
 #include "editors/map/mapgrid.h"
 #include "editors/map/mappreferences.h"
 #include "editors/map/maptoolpalette.h"
+#include "editors/map/paintdesk.h"
 #include "editors/map/resizedialog.h"
 #include "editors/map/spritepropertiespopover.h"
 #include "editors/map/viewbuilder.h"
@@ -13,6 +14,7 @@
 #include "ui/scrollbar.h"
 
 #include <QAction>
+#include <QBoxLayout>
 #include <QTabWidget>
 
 #include <algorithm>
@@ -85,6 +87,17 @@ void View::setPastesPictures(bool pastes)
 void View::setSpriteBanks(const QList<QPointer<SpriteBank>> &banks)
 {
     m_grid->setSpriteBanks(banks);
+}
+
+void View::offerMore(const QPointer<PaintKit> &kit)
+{
+    if (m_paintDesk)
+        return;
+    m_grid->offerMore();
+    m_toolPalette->addPaintTools();
+    addActions(m_toolPalette->actions());
+    m_paintDesk = new PaintDesk(this, kit);
+    static_cast<QBoxLayout *>(layout())->insertWidget(0, m_paintDesk->bar());
 }
 
 void View::applyPreferences(const Preferences &preferences)
@@ -207,6 +220,19 @@ void View::toolPaletteClicked(ToolButton action, bool checked)
     case PlaceSprite:
         m_grid->setMode(action);
         break;
+    case Fill:
+    case PaintTerrain:
+    case Line:
+    case Rectangle:
+    case RectangleFill:
+    case Circle:
+    case CircleFill:
+        if (m_paintDesk)
+            m_paintDesk->takeTool(action);
+        break;
+    case RandomTiles:
+        m_grid->setRandom(checked);
+        break;
     case Resize:
         showResizeDialog();
         break;
@@ -280,6 +306,8 @@ void View::cancel()
         m_popover->hide();
         return;
     }
+    if (m_grid->mode() != Draw)
+        m_grid->dropDrag();
     m_grid->setMode(Draw);
     m_grid->hideRubberBand();
 }

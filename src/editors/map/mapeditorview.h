@@ -22,6 +22,8 @@ class MapAnimator;
 class MapExport;
 class MapGrid;
 class MapToolPalette;
+class PaintDesk;
+class PaintKit;
 class ResizeDialog;
 class SpritePropertiesPopover;
 class ToolBar;
@@ -45,6 +47,8 @@ public:
     [[nodiscard]] MapToolPalette *toolPalette() const { return m_toolPalette; }
     [[nodiscard]] MapAnimator *animator() const { return m_animator; }
     [[nodiscard]] SpritePropertiesPopover *popover() const { return m_popover; }
+    /// Null unless the view offers more.
+    [[nodiscard]] PaintDesk *paintDesk() const { return m_paintDesk; }
     [[nodiscard]] ResizeDialog *resizeDialog() const { return m_resizeDialog; }
     /// The size of the map in cells and bytes, as a text.
     [[nodiscard]] QString sizeText() const { return m_sizeText; }
@@ -56,6 +60,9 @@ public:
     void setPastesPictures(bool pastes);
     void setSpriteBanks(const QList<QPointer<SpriteBank>> &banks);
     void applyPreferences(const Preferences &preferences);
+
+    /// Adds what helps to paint maps fast: see MapGrid::offerMore() and PaintDesk.
+    void offerMore(const QPointer<PaintKit> &kit);
 
     /// Lets the tool bar show and change how this map is displayed, until it is detached.
     void attachToolBar(ToolBar *toolBar);
@@ -135,6 +142,7 @@ private:
     MapAnimator *m_animator = nullptr;
     SpritePropertiesPopover *m_popover = nullptr;
     ResizeDialog *m_resizeDialog = nullptr;
+    PaintDesk *m_paintDesk = nullptr;
     MapExport *m_export = nullptr;
     QSize m_viewPortSize; ///< in cells, as last set in the tool bar
     QString m_sizeText;

@@ -302,6 +302,13 @@ void MapGrid::setStamp(const Stamp &stamp)
     update();
 }
 
+void MapGrid::setTerrain(const Terrain &terrain)
+{
+    m_brush.terrain = terrain;
+    refreshCursor();
+    update();
+}
+
 void MapGrid::setCurrentTileIndex(int index)
 {
     m_brush.chooseTile(index);

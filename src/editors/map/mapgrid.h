@@ -12,6 +12,7 @@
 
 class OutlineBand;
 class QMenu;
+class QUndoCommand;
 
 namespace MapEditor {
 
@@ -69,6 +70,8 @@ public:
 
     /// Paints with a stamp from now on; one without cells to paint changes nothing.
     void setStamp(const Stamp &stamp);
+    /// What the terrain tool paints.
+    void setTerrain(const Terrain &terrain);
     /// Whether any tile of the stamp is painted in place of all.
     void setRandom(bool random) { change(m_brush.random, random); }
     /// The palette offset of what is painted, or -1 for that of the tiles.
@@ -93,6 +96,8 @@ public:
     void fillSelection();
     void selectAll();
     void selectNone();
+    /// Forgets what is being dragged; an edit that it made already stays.
+    void dropDrag() { releaseButtons(); }
     void showRubberBand(const QRect &area) override;
     void hideRubberBand() override;
     void showContextMenu(QPoint globalPosition) override;
@@ -116,6 +121,8 @@ public:
 
     void beginEdit() override { m_editing.edit().begin(); }
     void endEdit(const QString &text) override;
+    /// Takes over the step of an edit that was made beside the grid; null for none.
+    void record(QUndoCommand *step) { m_editing.edit().push(step); }
     void repaintSoon() override { update(); }
     void showCursor(const QCursor &cursor) override;
     void refreshCursor() override;

@@ -8,6 +8,7 @@
 #include "editors/map/placespritetool.h"
 #include "editors/map/selecttool.h"
 #include "editors/map/shapetool.h"
+#include "editors/map/terraintool.h"
 
 #include <QDebug>
 #include <QMetaEnum>
@@ -32,6 +33,7 @@ MapToolBox::MapToolBox(MapSurface *surface)
 void MapToolBox::addPaintTools(MapSurface *surface)
 {
     add<FillTool>(surface);
+    add<TerrainTool>(surface);
     for (const ToolButton shape : {Line, Rectangle, RectangleFill, Circle, CircleFill})
         add<ShapeTool>(surface, shape);
 }

@@ -37,4 +37,23 @@ MapToolPalette::MapToolPalette(QWidget *parent) : ToolPalette(Qt::Vertical, pare
     setMode(Draw);
 }
 
+void MapToolPalette::addPaintTools()
+{
+    using namespace Quenmora::Ui;
+    const auto add = [this](ToolButton button, const QString &text, const QKeySequence &shortcut) {
+        Entry entry = entryOf(button);
+        entry.text = text;
+        entry.shortcuts = {shortcut};
+        addEntry(entry);
+    };
+    add(RandomTiles, tr("Random tiles of the stamp"), Qt::Key_X);
+    add(Fill, tr("Bucket fill"), Qt::Key_F);
+    add(Line, tr("Line"), Qt::Key_L);
+    add(Rectangle, tr("Rectangle"), Qt::Key_R);
+    add(RectangleFill, tr("Filled rectangle"), Qt::SHIFT | Qt::Key_R);
+    add(Circle, tr("Ellipse"), Qt::Key_E);
+    add(CircleFill, tr("Filled ellipse"), Qt::SHIFT | Qt::Key_E);
+    add(PaintTerrain, tr("Paint terrain"), Qt::Key_T);
+}
+
 } // namespace MapEditor

@@ -11,6 +11,9 @@ class MapToolPalette : public ToolPalette
 
 public:
     explicit MapToolPalette(QWidget *parent = nullptr);
+
+    /// Adds the tools that not every map editor has.
+    void addPaintTools();
 };
 
 } // namespace MapEditor

@@ -65,9 +65,10 @@ void ViewBuilder::layOut()
     auto *splitter = new QSplitter(Qt::Horizontal);
     splitter->addWidget(page);
     splitter->setStretchFactor(0, 1000);
-    auto *layout = new QHBoxLayout(&m_view);
+    auto *layout = new QVBoxLayout(&m_view);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(splitter);
+    layout->setSpacing(0);
+    layout->addWidget(splitter, 1);
 
     m_view.m_toolPalette->setFocusProxy(m_view.m_grid);
     m_view.setFocusProxy(m_view.m_grid);

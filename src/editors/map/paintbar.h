@@ -1,0 +1,56 @@
+#pragma once
+
+#include "editors/map/mapbrush.h"
+#include "editors/map/paintkit.h"
+
+#include <QPointer>
+#include <QToolBar>
+
+class QComboBox;
+class QSpinBox;
+class QTimer;
+
+namespace MapEditor {
+
+/// The bar over a map that tells and changes what is painted: the palette offset, the terrain, and the stamps that were
+/// used last or have a name.
+class PaintBar : public QToolBar
+{
+    Q_OBJECT
+
+public:
+    explicit PaintBar(QWidget *parent = nullptr);
+
+    /// Null shows no stamps and terrains.
+    void setKit(const QPointer<PaintKit> &kit);
+    [[nodiscard]] const QPointer<PaintKit> &kit() const { return m_kit; }
+    /// The terrain that is chosen; one without tiles when there is none.
+    [[nodiscard]] Terrain terrain() const;
+    /// The picture of a stamp at a size that fits into buttons.
+    [[nodiscard]] static QPixmap pictureOf(const Stamp &stamp, TileSet *tileSet, int extent, qreal ratio);
+
+signals:
+    void stampChosen(const Stamp &stamp);
+    /// Or -1 for that of the tiles.
+    void paletteOffsetChanged(int offset);
+    void terrainChanged(const Terrain &terrain);
+    /// Terrains are to be made or edited.
+    void terrainsRequested();
+
+private:
+    void addTerrainBox();
+    void addOffsetBox();
+    void showStamps();
+    void showTerrains();
+    void showMenu(int index, QPoint globalPosition);
+    void askForName(int index);
+
+    QPointer<PaintKit> m_kit;
+    QSpinBox *m_offset;
+    QComboBox *m_terrains;
+    QAction *m_hint; ///< in place of stamps, while there are none
+    QList<QAction *> m_stamps;
+    QTimer *m_soon; ///< shows the stamps as they are then
+};
+
+} // namespace MapEditor

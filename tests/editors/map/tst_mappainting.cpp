@@ -1,0 +1,403 @@
+#include "editors/map/mapoverview.h"
+#include "editors/map/paintdesk.h"
+#include "editors/map/paintkits.h"
+#include "model/projectextras.h"
+#include "support/mapfixture.h"
+#include "support/testmain.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QtWidgets>
+
+using namespace Quenmora::Ui;
+using Cell = TileMap::TileData;
+using MapEditor::PaintKit;
+using MapEditor::ReplaceTileDialog;
+
+namespace {
+
+Stamp stampOf(QSize size, const QList<int> &tiles)
+{
+    QList<Cell> cells;
+    for (const int tile : tiles)
+        cells.append(tile < 0 ? Cell() : Cell{.index = tile, .used = true});
+    return {size, cells};
+}
+
+/// A grid that does more.
+struct Painting : MapGridFixture
+{
+    Painting()
+    {
+        grid.offerMore();
+        grid.setPaintsOnPress(true);
+    }
+
+    /// The tiles of an area row by row; a dot for a cell that was not written.
+    QStringList tilesIn(const QRect &area) const
+    {
+        QStringList rows;
+        for (int y = area.top(); y <= area.bottom(); ++y) {
+            QString row;
+            for (int x = area.left(); x <= area.right(); ++x)
+                row += tile(x, y).used ? QString::number(tile(x, y).index, 16) : QStringLiteral(".");
+            rows.append(row);
+        }
+        return rows;
+    }
+    void drag(QPoint from, QPoint to, Qt::MouseButton button = Qt::LeftButton, Qt::KeyboardModifiers modifiers = {})
+    {
+        press(from, button, modifiers);
+        move(to);
+        release(to, button);
+    }
+};
+
+} // namespace
+
+class TestMapPainting : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void bareGridKnowsNothingOfIt()
+    {
+        MapGridFixture f;
+        QTest::ignoreMessage(QtInfoMsg, "MapWidget::setMode(Fill)");
+        QTest::ignoreMessage(QtInfoMsg, "Unhandled switch case");
+        f.grid.setMode(Fill);
+        f.grid.setMode(Draw);
+        f.grid.setCurrentTileIndex(3);
+        f.press(f.at(2, 2), Qt::LeftButton, Qt::ControlModifier);
+        f.move(f.at(3, 2));
+        f.release(f.at(3, 2));
+        QVERIFY(f.tile(3, 2).used && f.tile(3, 2).index == 3); // not its palette offset alone
+        f.grid.setMode(Select);
+        f.drag({f.at(1, 1), f.at(4, 4)});
+        f.drag({f.at(2, 2), f.at(6, 6)}); // begins another one
+        QCOMPARE(f.grid.selection(), QRect(2, 2, 5, 5));
+    }
+
+    void stampIsPaintedWithoutOverlappingItself()
+    {
+        Painting f;
+        f.grid.setStamp(stampOf({2, 2}, {1, 2, 3, -1}));
+        f.drag(f.at(4, 3), f.at(9, 3)); // fast, over two more places
+        const QStringList painted{"1212121", "3.3.3.3", "......."};
+        QCOMPARE(f.tilesIn({3, 2, 7, 3}), painted);
+        QCOMPARE(f.steps(), "Paint");
+        f.drag(f.at(4, 3), f.at(4, 4), Qt::RightButton); // the place of the press and the one below
+        QCOMPARE(f.tilesIn({3, 2, 7, 2}), (QStringList{"..12121", "..3.3.3"}));
+        f.stack.undo();
+        f.grid.setRotated(true);
+        f.click(f.at(12, 8));
+        QCOMPARE(f.tilesIn({11, 7, 2, 2}), (QStringList{"31", ".2"}));
+        QVERIFY(f.tile(11, 7).rotate);
+        f.grid.setCurrentTileIndex(9); // in its place
+        f.click(f.at(15, 8));
+        QCOMPARE(f.tilesIn({14, 7, 3, 3}), (QStringList{"...", ".9.", "..."}));
+    }
+
+    void pasteGoesOnWhileTheButtonIsHeld()
+    {
+        Painting f;
+        f.map->setTile({0, 1}, {7, false, false, false, 3, true});
+        QApplication::clipboard()->setMimeData(f.map->tileLayer()->toMimeData({0, 0, 1, 2}));
+        f.map->setTile({0, 1}, {});
+        f.map->setTile({5, 4}, {5, false, false, false, 0, true});
+        f.grid.setMode(Paste);
+        f.move(f.at(5, 5));
+        f.press(f.at(5, 5)); // with the middle row at the pointer: rows 4 and 5
+        f.move(f.at(7, 9));
+        f.release(f.at(7, 9));
+        QCOMPARE(f.tilesIn({5, 4, 3, 6}), (QStringList{"...", "7..", "...", ".7.", "...", "..7"}));
+        QCOMPARE(f.tile(7, 9).offset, 3);
+        f.grid.setFlipped(true); // turned since the tool was taken
+        f.move(f.at(12, 9));
+        f.click(f.at(12, 9));
+        QCOMPARE(f.tilesIn({12, 8, 1, 2}), (QStringList{"7", "."}));
+        QCOMPARE(f.steps(), "Paste|Paste");
+        f.stack.undo();
+        f.stack.undo();
+        QCOMPARE(f.tilesIn({5, 4, 3, 2}), (QStringList{"5..", "..."}));
+    }
+
+    void shapesRepeatTheStamp()
+    {
+        Painting f;
+        f.grid.setStamp(stampOf({2, 1}, {1, 2}));
+        f.grid.setMode(Rectangle);
+        f.drag(f.at(2, 2), f.at(5, 4));
+        QCOMPARE(f.tilesIn({2, 2, 4, 3}), (QStringList{"1212", "1..2", "1212"}));
+        f.grid.setMode(Line);
+        f.press(f.at(2, 8));
+        f.move(f.at(8, 9));
+        QTest::keyPress(&f.grid, Qt::Key_Shift);
+        QMouseEvent event(QEvent::MouseMove, QPointF(f.at(8, 9)), f.grid.mapToGlobal(QPointF(f.at(8, 9))), Qt::NoButton,
+                          Qt::LeftButton, Qt::ShiftModifier);
+        QApplication::sendEvent(&f.grid, &event); // level now
+        QCOMPARE(f.tilesIn({2, 8, 7, 1}), QStringList{"......."}); // not before it is released
+        f.release(f.at(8, 9));
+        QCOMPARE(f.tilesIn({2, 8, 7, 2}), (QStringList{"1212121", "......."}));
+        f.grid.setMode(Fill);
+        f.click(f.at(3, 3));
+        QCOMPARE(f.tilesIn({2, 2, 4, 3}), (QStringList{"1212", "1122", "1212"}).replaceInStrings("1122", "1212"));
+        f.grid.setMode(CircleFill);
+        f.drag(f.at(2, 2), f.at(5, 4), Qt::RightButton);
+        QCOMPARE(f.tilesIn({2, 2, 4, 3}), (QStringList{"1..2", "....", "1..2"}));
+        QCOMPARE(f.steps(), "Rectangle|Line|Bucket Fill|Ellipse");
+        f.grid.setMode(Rectangle);
+        f.press(f.at(0, 0));
+        f.move(f.at(5, 5));
+        f.grid.setMode(Draw); // as Escape does
+        f.release(f.at(5, 5));
+        QCOMPARE(f.stack.count(), 4);
+    }
+
+    void bucketStaysInTheSelection()
+    {
+        Painting f;
+        f.grid.setCurrentTileIndex(4);
+        f.grid.setMode(Fill);
+        f.grid.setSelection({1, 1, 2, 2});
+        f.click(f.at(2, 2));
+        QCOMPARE(f.tilesIn({0, 0, 4, 4}), (QStringList{"....", ".44.", ".44.", "...."}));
+        f.click(f.at(10, 10)); // outside, all the others
+        QCOMPARE(f.tilesIn({0, 0, 20, 16}).join(QString()), QString(320, u'4'));
+        f.stack.undo();
+        f.stack.undo();
+        QVERIFY(!f.tile(1, 1).used);
+    }
+
+    void randomTilesComeAsOftenAsTheyStandInTheStamp()
+    {
+        Painting f;
+        f.grid.setStamp(stampOf({3, 2}, {1, 1, 1, 2, -1, -1}));
+        f.grid.setRandom(true);
+        f.grid.setMode(RectangleFill);
+        f.drag(f.at(0, 0), f.at(19, 15));
+        const QString first = f.tilesIn({0, 0, 20, 16}).join(QString());
+        const auto twos = first.count(u'2');
+        QCOMPARE(first.count(u'1') + twos, 320);
+        QVERIFY2(twos > 40 && twos < 130, qPrintable(QString::number(twos))); // 80 on average
+        f.drag(f.at(0, 0), f.at(19, 15));
+        QVERIFY(f.tilesIn({0, 0, 20, 16}).join(QString()) != first); // another choice
+        f.grid.setMode(Draw);
+        f.grid.setCurrentTileIndex(5);
+        f.click(f.at(3, 3));
+        f.grid.setStamp(stampOf({3, 2}, {6, 6, 6, 6, 6, 6}));
+        f.click(f.at(3, 3)); // one cell
+        QCOMPARE(f.tilesIn({2, 2, 3, 3}).join(QString()).count(u'6'), 1);
+    }
+
+    void controlPaintsPaletteOffsetsAlone()
+    {
+        Painting f;
+        f.map->setTile({2, 2}, {5, true, false, false, 0, true});
+        f.map->setTile({3, 2}, {3, false, false, false, 9, true});
+        f.grid.setCurrentTileIndex(7);
+        f.grid.setPaletteOffset(6);
+        f.drag(f.at(2, 2), f.at(4, 2), Qt::LeftButton, Qt::ControlModifier);
+        QCOMPARE(f.tile(2, 2), (Cell{5, true, false, false, 6, true}));
+        QCOMPARE(f.tile(3, 2).offset, 6);
+        QVERIFY(!f.tile(4, 2).used); // was never written
+        f.drag(f.at(2, 2), f.at(4, 2), Qt::RightButton, Qt::ControlModifier);
+        QCOMPARE(f.tile(2, 2).offset, 0);
+        QCOMPARE(f.tile(3, 2).offset, 2); // that of tile 3
+        f.click(f.at(4, 2));
+        QCOMPARE(f.tile(4, 2), (Cell{7, false, false, false, 6, true}));
+        QCOMPARE(f.steps(), "Paint|Paint|Paint");
+    }
+
+    void selectionIsMovedByDragging()
+    {
+        Painting f;
+        for (const auto &[at, index] : {std::pair(QPoint(1, 1), 1), {{2, 1}, 2}, {{1, 2}, 1}, {{8, 8}, 1}})
+            f.map->setTile(at, {index, false, false, false, 0, true});
+        const Map::Snapshot before = f.map->snapshot();
+        f.grid.setMode(Select);
+        f.grid.setSelection({1, 1, 2, 2});
+        f.drag(f.at(2, 2), f.at(5, 3));
+        QCOMPARE(f.tilesIn({1, 1, 5, 3}), (QStringList{".....", "...12", "...1."}));
+        QCOMPARE(f.grid.selection(), QRect(4, 2, 2, 2));
+        f.stack.undo();
+        QVERIFY(f.map->snapshot() == before);
+
+        f.grid.setCurrentTileIndex(1);
+        f.grid.selectCurrentTile(); // which is no rectangle
+        QCOMPARE(f.grid.selection(), QRect(1, 1, 8, 8));
+        f.press(f.at(1, 1));
+        QMouseEvent event(QEvent::MouseMove, QPointF(f.at(2, 1)), f.grid.mapToGlobal(QPointF(f.at(2, 1))), Qt::NoButton,
+                          Qt::LeftButton, Qt::ControlModifier);
+        QApplication::sendEvent(&f.grid, &event);
+        f.release(f.at(2, 1)); // copied over the other tile
+        QCOMPARE(f.tilesIn({1, 1, 3, 2}), (QStringList{"11.", "11."}));
+        f.grid.setCurrentTileIndex(6);
+        f.grid.fillSelection();
+        QCOMPARE(f.tilesIn({1, 1, 3, 2}), (QStringList{"16.", "16."}));
+        f.grid.copySelection();
+        const TileMap::Selection copied = TileMap::readSelection(QApplication::clipboard()->mimeData());
+        QCOMPARE(copied.size, QSize(8, 8));
+        QCOMPARE(std::ranges::count_if(copied.cells, [](const Cell &cell) { return cell.used; }), 3);
+        QCOMPARE(f.grid.selected().runs.size(), 3);
+        f.grid.clearSelection();
+        QCOMPARE(f.tilesIn({1, 1, 3, 2}), (QStringList{"10.", "10."}));
+        QCOMPARE(f.steps(), "Copy Cells|Fill|Clear");
+        f.stack.setIndex(0);
+        QVERIFY(f.map->snapshot() == before);
+    }
+
+    void deskPicksStampsAndKeepsThem()
+    {
+        MapAssets assets;
+        MapEditor::PaintKits kits;
+        kits.setProject(&assets.project);
+        MapEditor::View view(assets.map);
+        view.setUndoStack(&assets.stack);
+        view.offerMore(kits.kitFor(assets.tiles));
+        view.resize(700, 600);
+        view.show();
+        MapEditor::PaintDesk &desk = *view.paintDesk();
+        desk.pickTiles({{1, 2, 3}, {4, 5, 16}}); // the last one is behind the end
+        const Stamp tiles = view.grid()->brush().stamp;
+        QCOMPARE(tiles.size(), QSize(3, 2));
+        QCOMPARE(tiles.at(2, 0), (Cell{3, false, false, false, 2, true}));
+        QVERIFY(!tiles.at(2, 1).used);
+        QCOMPARE(Stamp::fromClipboard(QApplication::clipboard()->mimeData(), assets.tiles->id()), tiles);
+
+        assets.map->setTile({3, 3}, {9, true, true, false, 5, true});
+        view.toolPaletteClicked(Pick, true);
+        const MapEditor::MapViewport &shown = view.grid()->viewport();
+        const QPoint from = shown.rectOfCells({3, 3, 1, 1}).center();
+        const QPoint to = shown.rectOfCells({4, 4, 1, 1}).center();
+        QTest::mousePress(view.grid(), Qt::LeftButton, {}, from);
+        QTest::mouseMove(view.grid(), to);
+        QTest::mouseRelease(view.grid(), Qt::LeftButton, {}, to);
+        QCOMPARE(view.grid()->brush().stamp.size(), QSize(2, 2));
+        QCOMPARE(view.grid()->brush().stamp.at(0, 0), assets.tile(3, 3));
+        QCOMPARE(view.grid()->mode(), Draw);
+        PaintKit &kit = *kits.kitFor(assets.tiles);
+        QCOMPARE(kit.stamps().size(), 2);
+        kit.nameStamp(1, "Wall");
+        for (int i = 0; i < 2 * PaintKit::MostRecent; ++i)
+            kit.addStamp(stampOf({1, 2}, {i % 16, i / 16}));
+        QCOMPARE(kit.stamps().size(), PaintKit::MostRecent + 1);
+        QCOMPARE(kit.stamps().last().stamp, tiles); // which has a name
+        assets.tiles->insertTile(2);
+        QCoreApplication::processEvents();
+        QCOMPARE(kit.stamps().last().stamp.at(1, 0).index, 3);
+
+        MapEditor::PaintKits others; // as when the project is opened again
+        others.setProject(&assets.project);
+        const PaintKit &read = *others.kitFor(assets.tiles);
+        QCOMPARE(read.stamps().size(), kit.stamps().size());
+        for (int i = 0; i < kit.stamps().size(); ++i)
+            QVERIFY(read.stamps()[i].stamp == kit.stamps()[i].stamp && read.stamps()[i].name == kit.stamps()[i].name);
+    }
+
+    void damagedExtrasCostOnlyThemselves()
+    {
+        MapAssets assets;
+        const QString id = assets.tiles->id().toString(QUuid::WithoutBraces);
+        const auto section = [&id](const QByteArray &json) {
+            return QJsonObject{{id, QJsonDocument::fromJson(json).array()}};
+        };
+        assets.project.extras()->setSection(
+            "stamps",
+            section(R"([{"cells": [[1, 2], [3]]}, 7, {"cells": "no"}, {"cells": [[65541, -1]], "name": "A"}])"));
+        assets.project.extras()->setSection(
+            "terrains",
+            section(R"([{"name": "Grass", "neighbours": 8, "tiles": [[4, 255], [-3, 1], [2, 999], "x"]}, 1])"));
+        MapEditor::PaintKits kits;
+        kits.setProject(&assets.project);
+        const PaintKit &kit = *kits.kitFor(assets.tiles);
+        QCOMPARE(kit.stamps().size(), 1);
+        QCOMPARE(kit.stamps().first().stamp.at(0, 0), (Cell{5, true, false, false, 0, true}));
+        QCOMPARE(kit.terrains().first().tiles, (QList<Terrain::Tile>{{2, 999 & 255}, {4, 255}}));
+        QVERIFY(kit.terrains().first().corners);
+    }
+
+    void tilesAreReplacedInOneStep()
+    {
+        MapAssets assets;
+        const QPointer<Map> other = assets.project.createMap("Cave", assets.tiles->id(), {5, 5});
+        const QPointer<TileSet> foreignTiles = assets.project.createTileSet("Others", assets.palette->id(), 16);
+        const QPointer<Map> foreign = assets.project.createMap("Moon", foreignTiles->id(), {5, 5});
+        const Cell cell{4, true, false, true, 7, true};
+        for (const QPointer<Map> &map : {assets.map, other, foreign}) {
+            map->setTile({1, 1}, cell);
+            map->setTile({3, 3}, cell);
+        }
+        const Cell replaced{3, true, false, true, 2, true};
+        MapEditor::View view(assets.map);
+        view.setUndoStack(&assets.stack);
+        view.offerMore(nullptr);
+        MapEditor::PaintDesk &desk = *view.paintDesk();
+        const auto cells = [&](int x) {
+            QList<Cell> all;
+            for (const QPointer<Map> &map : {assets.map, other, foreign})
+                all.append(map->tileLayer()->cellAt({x, x}));
+            return all;
+        };
+        view.grid()->setSelection({0, 0, 2, 2});
+        desk.replaceTile({4, 3}, ReplaceTileDialog::Selection);
+        QCOMPARE(cells(1), (QList{replaced, cell, cell}));
+        QCOMPARE(cells(3), (QList{cell, cell, cell}));
+        desk.replaceTile({4, 3}, ReplaceTileDialog::ThisMap);
+        QCOMPARE(cells(3), (QList{replaced, cell, cell}));
+        assets.stack.undo();
+        desk.replaceTile({4, 3}, ReplaceTileDialog::AllMaps);
+        QCOMPARE(cells(3), (QList{replaced, replaced, cell}));
+        desk.replaceTile({4, 3}, ReplaceTileDialog::AllMaps); // there are none left
+        QCOMPARE(assets.steps(), "Replace Tile|Replace Tile in All Maps");
+        assets.stack.undo();
+        QCOMPARE(cells(3), (QList{cell, cell, cell}));
+        assets.stack.redo();
+        QCOMPARE(cells(1), (QList{replaced, replaced, cell}));
+    }
+
+    void viewIsMovedByWheelSpaceAndOverview()
+    {
+        Painting f;
+        f.map->resize({100, 80});
+        f.grid.setMap(f.map);
+        QSignalSpy scrolled(&f.grid, &MapEditor::MapGrid::scrollPositionChanged);
+        const auto wheel = [&f](QPoint at, int delta) {
+            QWheelEvent event(at, f.grid.mapToGlobal(at), {}, {0, delta}, Qt::NoButton, Qt::ControlModifier,
+                              Qt::NoScrollPhase, false);
+            QApplication::sendEvent(&f.grid, &event);
+        };
+        f.grid.scrollTo({30, 20});
+        const QPoint at(170, 100);
+        const QPoint cell = f.grid.viewport().cellAt(at);
+        for (const int delta : {120, 120, -120, 120, -120, -120, -120}) {
+            wheel(at, delta);
+            QCOMPARE(f.grid.viewport().cellAt(at), cell);
+        }
+        QCOMPARE(f.grid.viewport().zoomFactor, 3);
+        wheel({0, 0}, 120);
+        QCOMPARE(scrolled.last().first().toPoint(), f.grid.viewport().scroll);
+
+        f.grid.setCurrentTileIndex(3);
+        f.grid.scrollTo({30, 20});
+        f.grid.setFocus();
+        QTest::keyPress(&f.grid, Qt::Key_Space);
+        QCOMPARE(f.grid.cursor().shape(), Qt::OpenHandCursor);
+        f.drag(f.at(10, 5), f.at(7, 9));
+        QCOMPARE(f.grid.viewport().scroll, QPoint(33, 16));
+        QTest::keyRelease(&f.grid, Qt::Key_Space);
+        QCOMPARE(f.grid.cursor().shape(), Qt::ArrowCursor);
+        QCOMPARE(f.stack.count(), 0);
+
+        f.grid.showCell({99, 0});
+        QCOMPARE(f.grid.viewport().visibleCells().topRight(), QPoint(99, 0));
+        MapEditor::MapOverview overview(&f.grid);
+        overview.show();
+        QTest::mouseClick(&overview, Qt::LeftButton, {}, overview.rect().center());
+        QVERIFY((f.grid.viewport().visibleCells().center() - QPoint(50, 40)).manhattanLength() <= 4);
+        QVERIFY((overview.frame().center() - overview.rect().center()).manhattanLength() <= 4);
+    }
+};
+
+QUENMORA_TEST_MAIN(TestMapPainting)
+#include "tst_mappainting.moc"
