@@ -1,0 +1,134 @@
+#include "model/map.h"
+#include "model/overviewpicture.h"
+#include "model/palette.h"
+#include "model/project.h"
+#include "model/terrain.h"
+#include "model/tileset.h"
+#include "support/modeltools.h"
+#include "support/testmain.h"
+
+#include <QRandomGenerator>
+
+#include <bit>
+
+using Cell = TileMap::TileData;
+
+namespace {
+
+constexpr int First = 20; ///< tile of the terrain
+
+/// A terrain that has a tile for every combination of marks that counts, with these marks added to First.
+Terrain complete(bool corners)
+{
+    Terrain terrain;
+    terrain.corners = corners;
+    for (int marks = 0; marks < 256; ++marks) {
+        if (terrain.counted(marks) == marks)
+            terrain.mark(First + marks, marks);
+    }
+    return terrain;
+}
+
+} // namespace
+
+class TestTerrain : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void countsCornersBetweenSides()
+    {
+        QCOMPARE(complete(false).tiles.size(), 16);
+        QCOMPARE(complete(true).tiles.size(), 47); // as everybody who drew them knows
+        const Terrain terrain = complete(true);
+        QCOMPARE(terrain.counted(Terrain::North | Terrain::NorthEast | Terrain::SouthWest), int(Terrain::North));
+        QCOMPARE(terrain.counted(Terrain::North | Terrain::West | Terrain::NorthWest),
+                 Terrain::North | Terrain::West | Terrain::NorthWest);
+    }
+
+    /// After random strokes every tile shows exactly the neighbours that are of the terrain.
+    void paintsMatchingBorders()
+    {
+        for (const bool corners : {false, true}) {
+            const Terrain terrain = complete(corners);
+            const QSize size(9, 7);
+            TileMap grid(size);
+            for (int x = 0; x < 9; ++x)
+                grid.setCell({x, 3}, {.index = 5, .used = true}); // another ground, which stays where it is not painted
+            QList<bool> ground(9 * 7, false);
+            QRandomGenerator random(7);
+            for (int stroke = 0; stroke < 400; ++stroke) {
+                const QPoint at(random.bounded(9), random.bounded(7));
+                const bool on = random.bounded(3) > 0;
+                terrain.paint(grid, at, on, 0);
+                ground[at.y() * 9 + at.x()] = on;
+                for (int i = 0; i < ground.size(); ++i) {
+                    const QPoint cell(i % 9, i / 9);
+                    const auto isGround = [&](QPoint way) {
+                        const QPoint other = cell + way;
+                        return !QRect(QPoint(0, 0), size).contains(other) || ground[other.y() * 9 + other.x()];
+                    };
+                    int marks = 0;
+                    int bit = 1;
+                    for (const QPoint way : {QPoint(0, -1), QPoint(1, -1), QPoint(1, 0), QPoint(1, 1), QPoint(0, 1),
+                                             QPoint(-1, 1), QPoint(-1, 0), QPoint(-1, -1)}) {
+                        const bool side = way.x() == 0 || way.y() == 0;
+                        const bool counts = side || (corners && isGround({way.x(), 0}) && isGround({0, way.y()}));
+                        marks |= counts && isGround(way) ? bit : 0;
+                        bit *= 2;
+                    }
+                    if (ground[i])
+                        QCOMPARE(grid.cellAt(cell).index, First + marks);
+                    else
+                        QVERIFY(!grid.cellAt(cell).used || grid.cellAt(cell).index == 5);
+                }
+            }
+        }
+    }
+
+    void takesTheNearestTileAndVariesEqualOnes()
+    {
+        Terrain terrain;
+        terrain.corners = true;
+        terrain.mark(7, Terrain::All);
+        terrain.mark(3, Terrain::East | Terrain::South | Terrain::SouthEast);
+        terrain.mark(4, Terrain::All);
+        QCOMPARE(terrain.tileFor(Terrain::East | Terrain::South, 0), 3); // a corner too much
+        QCOMPARE(terrain.tileFor(Terrain::All & ~Terrain::NorthEast, 0), 4);
+        QCOMPARE(terrain.tileFor(Terrain::All & ~Terrain::NorthEast, 1), 7);
+        QCOMPARE(Terrain().tileFor(0, 3), -1);
+        TileMap grid(5, 5);
+        for (int i = 0; i < 25; ++i)
+            grid.setCell({i % 5, i / 5}, {.index = i % 2 ? 7 : 4, .used = true});
+        const TileMap::Rows before = grid.rows();
+        QVERIFY(!terrain.paint(grid, {2, 2}, true, 1)); // what fits stays as it was chosen
+        QCOMPARE(grid.rows(), before);
+    }
+
+    void overviewShowsTheMap()
+    {
+        Project project;
+        const QPointer<Palette> palette = project.createPalette(CreateAction::DefaultNext, "Colours");
+        const QPointer<TileSet> tiles = project.createTileSet("Tiles", palette->id(), 4);
+        for (int i = 0; i < 4; ++i) {
+            QImage tile = plainImage({8, 8}, i * 3);
+            tile.setColorTable(palette->colourTable());
+            tiles->setTileImage(i, tile);
+        }
+        const auto colour = [&palette](int tile) { return palette->colourTable().at(tile * 3) | 0xFF000000u; };
+        for (const QSize size : {QSize(20, 10), QSize(4000, 2000)}) { // pixels and cells of the map
+            const QPointer<Map> map = project.createMap("Level", tiles->id(), size);
+            map->setTiles(QRect(QPoint(0, 0), size), 1, false, false, false, true);
+            map->setTiles(QRect(size.width() / 2, 0, size.width() / 2, size.height() / 2), 2, false, false, false,
+                          true);
+            const QImage picture = overviewPicture(*map, {100, 50});
+            QCOMPARE(picture.size(), QSize(100, 50));
+            QCOMPARE(picture.pixel(20, 10), colour(1));
+            QCOMPARE(picture.pixel(80, 10), colour(2));
+            QCOMPARE(picture.pixel(80, 40), colour(1));
+        }
+    }
+};
+
+QUENMORA_TEST_MAIN(TestTerrain)
+#include "tst_terrain.moc"
