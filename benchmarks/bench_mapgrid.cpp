@@ -4,6 +4,7 @@
 #include "editors/map/mapgrid.h"
 #include "editors/map/mappreferences.h"
 #include "level.h"
+#include "model/overviewpicture.h"
 
 #include <benchmark/benchmark.h>
 
@@ -147,6 +148,75 @@ BENCHMARK(BM_StrokeAndUndoShown)
     ->ArgsProduct({{2000, 9999}, {1, 4}})
     ->MeasureProcessCPUTime()
     ->Unit(benchmark::kMillisecond);
+
+/// Side of the map: the bucket over all of it, undo step included. 0: every row of the map is one of its own, filled
+/// with one tile and a stamp in turn; 1: the map is in columns that hang together at the bottom.
+void BM_Bucket(benchmark::State &state)
+{
+    const int side = int(state.range(0));
+    Editor editor(1, side);
+    TileMap::Rows rows;
+    for (int y = 0; y < side; ++y) {
+        TileMap::Row row(side, TileMap::TileData{.index = 5, .used = true});
+        for (int x = 1; x < side && y + 1 < side && state.range(1) == 1; x += 2)
+            row[x].index = 6;
+        rows.append(row);
+    }
+    editor.grid.offerMore();
+    editor.grid.setMode(Quenmora::Ui::Fill);
+    const QPoint at = editor.grid.viewport().viewRect.topLeft() + QPoint(1, 1);
+    QList<TileMap::TileData> cells;
+    for (int i = 0; i < 12; ++i)
+        cells.append({.index = 20 + i, .used = true});
+    bool stamp = false;
+    for (auto _ : state) {
+        state.PauseTiming();
+        editor.stack.clear();
+        editor.level.map.tileLayer()->restore(rows);
+        if ((stamp = !stamp))
+            editor.grid.setStamp({{4, 3}, cells});
+        else
+            editor.grid.setCurrentTileIndex(9);
+        state.ResumeTiming();
+        editor.send(QEvent::MouseButtonPress, at, Qt::LeftButton);
+        editor.send(QEvent::MouseButtonRelease, at, Qt::LeftButton);
+    }
+    state.counters["steps"] = editor.stack.count();
+}
+BENCHMARK(BM_Bucket)->ArgsProduct({{2000}, {0, 1}})->MeasureProcessCPUTime()->Unit(benchmark::kMillisecond);
+
+/// Side of the map, zoom: a move with a stamp of 16 × 16 cells in hand and the button held, and the screen after it; at
+/// every move it comes to another place.
+void BM_StampMove(benchmark::State &state)
+{
+    Editor editor(int(state.range(1)), int(state.range(0)));
+    editor.grid.offerMore();
+    QList<TileMap::TileData> cells;
+    for (int i = 0; i < 256; ++i)
+        cells.append({.index = i, .mirror = i % 3 == 0, .used = true});
+    editor.grid.setStamp({{16, 16}, cells});
+    const QRect shown = editor.grid.viewport().viewRect;
+    const int way = 16 * editor.grid.viewport().cellSize;
+    const QPoint start = shown.center() - QPoint(way, way);
+    editor.send(QEvent::MouseButtonPress, start, Qt::LeftButton);
+    int step = 0;
+    for (auto _ : state) {
+        ++step;
+        editor.send(QEvent::MouseMove, start + QPoint(step & 1 ? way : 0, step & 2 ? way : 0), Qt::LeftButton);
+        editor.paint();
+    }
+    editor.send(QEvent::MouseButtonRelease, start, Qt::LeftButton);
+}
+BENCHMARK(BM_StampMove)->ArgsProduct({{2000, 9999}, {1, 4}})->MeasureProcessCPUTime()->Unit(benchmark::kMillisecond);
+
+/// Side of the map: its overview.
+void BM_Overview(benchmark::State &state)
+{
+    Editor editor(4, int(state.range(0)));
+    for (auto _ : state)
+        benchmark::DoNotOptimize(overviewPicture(editor.level.map, {200, 200}));
+}
+BENCHMARK(BM_Overview)->Arg(40)->Arg(2000)->Arg(9999)->MeasureProcessCPUTime()->Unit(benchmark::kMillisecond);
 
 /// Scrolls by one cell and paints, along the diagonal of a map of that side.
 void BM_Scroll(benchmark::State &state)

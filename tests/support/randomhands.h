@@ -101,10 +101,10 @@ protected:
         }
     }
     void click(QWidget *widget, QPoint at, Qt::MouseButton button = Qt::LeftButton) { drag(widget, at, 0, button); }
-    void drag(QWidget *widget, Qt::MouseButton button = Qt::LeftButton)
+    void drag(QWidget *widget, Qt::MouseButton button = Qt::LeftButton, Qt::KeyboardModifiers modifiers = {})
     {
         const QPoint start(number(std::max(widget->width(), 1)), number(std::max(widget->height(), 1)));
-        drag(widget, start, number(4), button);
+        drag(widget, start, number(4), button, modifiers);
     }
     /// Drags what these data describe from one point of a widget to another.
     static void drop(QWidget &widget, QPoint from, QPoint to, QMimeData *data, Qt::KeyboardModifiers modifiers = {})
@@ -123,20 +123,21 @@ protected:
     std::vector<Action> m_actions;
 
 private:
-    static void mouse(QWidget *widget, QEvent::Type type, QPoint at, Qt::MouseButton button, Qt::MouseButtons buttons)
+    static void mouse(QWidget *widget, QEvent::Type type, QPoint at, Qt::MouseButton button, Qt::MouseButtons buttons,
+                      Qt::KeyboardModifiers modifiers)
     {
-        QMouseEvent event(type, at, widget->mapToGlobal(at), button, buttons, Qt::NoModifier);
+        QMouseEvent event(type, at, widget->mapToGlobal(at), button, buttons, modifiers);
         QApplication::sendEvent(widget, &event);
     }
-    void drag(QWidget *widget, QPoint at, int moves, Qt::MouseButton button)
+    void drag(QWidget *widget, QPoint at, int moves, Qt::MouseButton button, Qt::KeyboardModifiers modifiers = {})
     {
-        mouse(widget, QEvent::MouseMove, at, Qt::NoButton, Qt::NoButton);
-        mouse(widget, QEvent::MouseButtonPress, at, button, button);
+        mouse(widget, QEvent::MouseMove, at, Qt::NoButton, Qt::NoButton, modifiers);
+        mouse(widget, QEvent::MouseButtonPress, at, button, button, modifiers);
         for (; moves > 0; --moves) {
             at = {number(widget->width() + 20) - 10, number(widget->height() + 20) - 10}; // it may leave the widget
-            mouse(widget, QEvent::MouseMove, at, Qt::NoButton, button);
+            mouse(widget, QEvent::MouseMove, at, Qt::NoButton, button, modifiers);
         }
-        mouse(widget, QEvent::MouseButtonRelease, at, button, Qt::NoButton);
+        mouse(widget, QEvent::MouseButtonRelease, at, button, Qt::NoButton, modifiers);
     }
 
     QRandomGenerator m_random;

@@ -76,6 +76,33 @@ private slots:
         QCOMPARE(opened, (QList<QVariantList>{{5}}));
     }
 
+    void controlMarksTilesBesideEachOther()
+    {
+        Fixture f;
+        QSignalSpy picked(&f.grid, &TilePickerGrid::tilesPicked);
+        QSignalSpy chosen(&f.grid, &TilePickerGrid::selectedIndexChanged);
+        const auto mark = [&f](QPoint from, QPoint to) {
+            QTest::mousePress(&f.grid, Qt::LeftButton, Qt::ControlModifier, from);
+            QMouseEvent event(QEvent::MouseMove, QPointF(to), f.grid.mapToGlobal(QPointF(to)), Qt::NoButton,
+                              Qt::LeftButton, Qt::ControlModifier);
+            QApplication::sendEvent(&f.grid, &event);
+            QTest::mouseRelease(&f.grid, Qt::LeftButton, Qt::ControlModifier, to);
+        };
+        mark({20, 40}, {2, 2}); // in three columns, the last row of which has one tile
+        QCOMPARE(picked.size(), 0); // beside the tiles
+        chosen.clear();
+        mark({2, 40}, {28, 20});
+        mark({20, 4}, {300, 300});
+        using Rows = QList<QList<int>>;
+        QCOMPARE(picked.size(), 2);
+        QCOMPARE(picked[0][0].value<Rows>(), (Rows{{3, 4}, {6, -1}}));
+        QCOMPARE(picked[1][0].value<Rows>(), (Rows{{1, 2}, {4, 5}, {-1, -1}}));
+        QCOMPARE(chosen.size(), 0);
+        mark({20, 4}, {22, 6}); // a click
+        QCOMPARE(f.grid.selectedIndex(), 1);
+        QCOMPARE(f.numbers(), QByteArray("\0\1\2\3\4\5\6", 7)); // none was moved
+    }
+
     void magnificationFollowsWheelAndMenu()
     {
         Fixture f;
