@@ -140,7 +140,8 @@ bool PasteTool::mousePressed(QMouseEvent *event)
     surface()->beginEdit();
     if (!m_copied.isEmpty() && event->buttons() & Qt::LeftButton) {
         m_first = area.topLeft();
-        stroke(pointer().cell, pointer().cell);
+        const QPoint cell = pointer().hasCell() ? pointer().cell : *m_first;
+        stroke(cell, cell);
         return true;
     }
     map()->pasteTiles(area.topLeft(), QApplication::clipboard()->mimeData());
