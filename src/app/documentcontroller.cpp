@@ -468,6 +468,10 @@ void DocumentController::setActiveImageEditor(QUuid imageId)
         editor->setUndoStack(undoStackFor(imageId));
         connect(editor, &ImageEditor::View::error, this, &DocumentController::error);
         connect(editor, &ImageEditor::View::exported, this, &DocumentController::exported);
+        connect(editor, &ImageEditor::View::imported, this,
+                [this, imageId](const QString &filePath, const ImageImport &choices) {
+                    emit pictureImported(imageId, filePath, choices);
+                });
         connect(editor, &ImageEditor::View::paletteSwapped, this, [this, editor](const QPointer<Palette> &palette) {
             if (editor == m_views.tabs->currentWidget())
                 showPalette(palette);

@@ -21,6 +21,7 @@
 #include <memory>
 
 class ProjectController;
+struct ImageImport;
 
 /// Decides which editor shows which asset: activating one brings its tab or dock to the front and tells
 /// docks and menus what is active now.
@@ -81,6 +82,8 @@ signals:
     void createMapFromSelection(QUuid mapId, QSize size);
     /// An editor could not read or write a file.
     void error(const QString &message);
+    /// A picture was placed in an image.
+    void pictureImported(const QUuid &imageId, const QString &filePath, const ImageImport &choices);
     /// An editor wrote an asset of that name to a file.
     void exported(const QString &asset, const QString &filePath);
 

@@ -18,6 +18,8 @@ public:
 
     [[nodiscard]] QString fileName() const { return m_fileName; }
     [[nodiscard]] bool exists() const { return m_stamp.size >= 0; }
+    /// Of the content; empty where it cannot be read.
+    [[nodiscard]] QByteArray digest() const { return m_hash; }
     /// Whether the file still has the size and the times that it had. Reads nothing of it.
     [[nodiscard]] bool isCurrent() const { return m_stamp == stampOf(m_fileName); }
     /// Whether both are the same bytes, or both no file at all.

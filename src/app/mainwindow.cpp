@@ -3,6 +3,8 @@
 #include "app/exportmessages.h"
 #include "app/exportproject/projectexport.h"
 #include "app/importfile/fileimport.h"
+#include "app/imports/importkeeper.h"
+#include "app/imports/importnotice.h"
 #include "app/menus/editmenu.h"
 #include "app/menus/filemenu.h"
 #include "app/menus/helpmenu.h"
@@ -69,6 +71,7 @@ MainWindow::MainWindow(QWidget *parent)
     , m_exportMessages(new ExportMessages(statusBar()))
     , m_projectExport(new ProjectExport(&m_projectController, this))
     , m_fileImport(new FileImport([this] { return m_projectController.project(); }, &m_menuBar, &m_actions, this))
+    , m_importKeeper(new ImportKeeper(&m_projectController, &m_documents, this))
 {
     PlainToolTips::enforce();
     m_mapToolBar.setEnabled(false);
@@ -95,6 +98,7 @@ MainWindow::MainWindow(QWidget *parent)
     connectDocks();
     connectPainting();
     connectRecovery();
+    connectImports();
     m_menuBar.viewMenu()->setChecked(ViewMenu::CheckableItem::ScratchEditor, false);
     show();
     statusBar()->showMessage(windowTitle());
@@ -131,7 +135,9 @@ void MainWindow::connectProjectController()
     connect(store, &ProjectStore::showMessage, statusBar(), &QStatusBar::showMessage);
     connect(store, &ProjectStore::exported, m_exportMessages, &ExportMessages::add);
 
-    connect(new ReturnWatch(this), &ReturnWatch::returned, &m_projectController, &ProjectController::checkFile);
+    const auto *watch = new ReturnWatch(this);
+    connect(watch, &ReturnWatch::returned, &m_projectController, &ProjectController::checkFile);
+    connect(watch, &ReturnWatch::returned, m_importKeeper, &ImportKeeper::look);
 
     m_projectController.setBackupCallback([this] { return m_preferences.generalPage()->backupOnSave(); });
     m_projectController.setCleanCallbacks([this] { return m_documents.isClean(); }, [this] { m_documents.setClean(); });
@@ -236,6 +242,19 @@ void MainWindow::connectRecovery()
     connect(&m_recoveryKeeper, &RecoveryKeeper::failed, statusBar(),
             [this](const QString &message) { statusBar()->showMessage(message, MessageTime); });
     m_startPage->setRecoveryList(new RecoveryList(&m_recoveryOffers));
+}
+
+void MainWindow::connectImports()
+{
+    m_importKeeper->follow(m_actions);
+    m_importKeeper->follow(*m_fileImport);
+    m_importKeeper->serve(m_menuBar, *m_projectDock.tree());
+    statusBar()->addPermanentWidget(m_importKeeper->notice());
+    connect(m_importKeeper, &ImportKeeper::message, m_exportMessages, &ExportMessages::show);
+    connect(m_importKeeper, &ImportKeeper::failed, this,
+            [this](const QString &text, const QString &title, const QString &reason) {
+                messageDialog()->showMessage(text, title, reason);
+            });
 }
 
 void MainWindow::deleteItem(ProjectTree::ProjectNode node, const QUuid &id)

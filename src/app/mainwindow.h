@@ -33,6 +33,7 @@
 
 class ExportMessages;
 class FileImport;
+class ImportKeeper;
 class MessageDialog;
 class ProjectExport;
 class StartPage;
@@ -64,6 +65,7 @@ public:
     [[nodiscard]] ProjectActions *projectActions() { return &m_actions; }
     [[nodiscard]] ProjectExport *projectExport() { return m_projectExport; }
     [[nodiscard]] FileImport *fileImport() { return m_fileImport; }
+    [[nodiscard]] ImportKeeper *importKeeper() { return m_importKeeper; }
     [[nodiscard]] const DocumentViews &views() const { return m_views; }
     [[nodiscard]] RecoveryKeeper *recoveryKeeper() { return &m_recoveryKeeper; }
     [[nodiscard]] RecoveryOffers *recoveryOffers() { return &m_recoveryOffers; }
@@ -99,6 +101,7 @@ private:
     void connectDocks();
     void connectPainting();
     void connectRecovery();
+    void connectImports();
     /// Deletes an asset that may be deleted when the person, who is asked, wants that.
     void deleteItem(ProjectTree::ProjectNode node, const QUuid &id);
 
@@ -147,4 +150,5 @@ private:
     ExportMessages *m_exportMessages;
     ProjectExport *m_projectExport;
     FileImport *m_fileImport;
+    ImportKeeper *m_importKeeper;
 };

@@ -3,6 +3,7 @@
 #include "app/imports/nextdataimport.h"
 #include "app/imports/paletteimport.h"
 #include "app/imports/pictureimport.h"
+#include "app/imports/spritesagain.h"
 #include "app/menus/imagemenu.h"
 #include "app/menus/mapmenu.h"
 #include "app/menus/menubar.h"
@@ -187,8 +188,11 @@ void ProjectActions::importKnown(const QString &filePath, const PictureLoss *kno
         return;
     const auto [map, failure] = isNextData(filePath) ? importNextData(*project, filePath, m_dialogParent)
                                                      : importPicture(*project, filePath, m_dialogParent, known);
-    if (map)
+    if (map) {
+        if (!isNextData(filePath))
+            announce(*map, filePath, {});
         emit mapReady(map->id());
+    }
     if (!failure.isEmpty())
         reportIncompleteImport(failure);
 }
@@ -199,8 +203,17 @@ void ProjectActions::importReduction(const QString &filePath, const TileReductio
     if (!project)
         return;
     const QString name = QFileInfo(filePath).completeBaseName();
-    if (const QPointer<Map> map = ::importReduction(*project, name, reduction).map)
+    if (const QPointer<Map> map = ::importReduction(*project, name, reduction).map) {
+        announce(*map, filePath, TiledPicture::choicesOf(reduction));
         emit mapReady(map->id());
+    }
+}
+
+void ProjectActions::announce(const Map &map, const QString &filePath, QJsonObject choices)
+{
+    choices.insert(QStringLiteral("columns"), map.size().width());
+    choices.insert(QStringLiteral("rows"), map.size().height());
+    emit imported(map.id(), ImportRecord::Map, filePath, choices);
 }
 
 void ProjectActions::importPalette(const QUuid &paletteId, const QString &filePath)
@@ -226,10 +239,12 @@ void ProjectActions::importPalette(const QUuid &paletteId, const QString &filePa
     }
     if (palette) {
         replaceWords(*palette, words, m_undoStackFor ? m_undoStackFor(paletteId) : nullptr);
+        emit imported(paletteId, ImportRecord::Palette, filePath, {});
         return;
     }
     const QPointer<Palette> made = project->createPalette(CreateAction::Blank, QFileInfo(filePath).completeBaseName());
     made->copyColours(words);
+    emit imported(made->id(), ImportRecord::Palette, filePath, {});
     emit paletteReady(made->id());
 }
 
@@ -258,10 +273,13 @@ void ProjectActions::importSpritePicture(const SpriteImport &import)
     Project *project = m_project();
     if (!project)
         return;
-    if (const SpriteBank *bank = ::importSpritePicture(*project, import, m_dialogParent))
+    if (const SpriteBank *bank = ::importSpritePicture(*project, import, m_dialogParent)) {
+        const int first = import.paletteId.isNull() ? 0 : 1; // behind the blank one of a new bank
+        emit imported(bank->id(), ImportRecord::Sprites, import.file, choicesOf(import, first, bank->count() - first));
         emit spritesReady(bank->id());
-    else
+    } else {
         reportIncompleteImport(tr("Could not make sprites of the image file"));
+    }
 }
 
 void ProjectActions::importSpriteData(const SpriteImport &import)

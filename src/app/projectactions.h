@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/dialogs/spritedialog.h"
+#include "app/imports/importrecord.h"
 #include "app/imports/spriteimport.h"
 #include "app/projecttree/projecttree.h"
 #include "model/enums.h"
@@ -77,6 +78,9 @@ signals:
     void blocksReady(const QUuid &id);
     void spritesReady(const QUuid &id);
 
+    /// An asset was made of a file, or took over what is in it, with these choices.
+    void imported(const QUuid &id, ImportRecord::Kind kind, const QString &filePath, const QJsonObject &choices);
+
     /// A sprite bank is going to be deleted, and still exists.
     void aboutToDeleteSprites(const QUuid &id);
     /// An asset was deleted: what showed it is to be cleared, and its undo stack dropped.
@@ -89,6 +93,8 @@ private:
     /// Imports a map; what is known of a picture is not read again.
     void importKnown(const QString &filePath, const PictureLoss *known);
     [[nodiscard]] bool remove(Project &project, ProjectTree::ProjectNode node, const QUuid &id);
+    /// Tells of a map that was made of a picture.
+    void announce(const Map &map, const QString &filePath, QJsonObject choices);
     /// The message box for imports, with a text that names the failure.
     void reportIncompleteImport(const QString &failure);
     /// A button in this box that makes a palette of colours for which another one had no room.

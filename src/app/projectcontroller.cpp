@@ -327,6 +327,7 @@ void ProjectController::saveExtras()
 {
     if (!m_project || filePath().isEmpty())
         return;
+    emit savingExtras(filePath());
     const QString problem = m_extrasFile.save(*m_project->extras(), filePath());
     if (!problem.isEmpty())
         emit error(tr("What is kept beside the project cannot be written: %1\n%2")

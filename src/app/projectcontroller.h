@@ -90,6 +90,8 @@ signals:
     void aboutToSave();
     /// Follows every aboutToSave(), whether or not anything was saved.
     void saveFinished();
+    /// What belongs to the project is about to be written beside this file.
+    void savingExtras(const QString &file);
     /// The project, which has a file, was saved to another one.
     void savedAs(const QString &previousFile, const QString &file);
     void projectOpened(Project *project);

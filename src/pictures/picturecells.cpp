@@ -178,11 +178,10 @@ QList<int> PictureCells::blankTiles(const TileSet &tileSet)
     return atEnd + between;
 }
 
-PictureCells PictureCells::of(const QImage &picture, const TileSet &tileSet, int clearPixel,
-                              const QList<int> &freeTiles)
+PictureCells PictureCells::of(const QImage &picture, const TileSet &tileSet, const Choices &choices)
 {
     PictureCells result;
-    const bool keepClearPixels = clearPixel >= 0;
+    const bool keepClearPixels = choices.clearPixel >= 0;
     const int more = keepClearPixels ? Side - 1 : 0;
     result.size = QSize((picture.width() + more) / Side, (picture.height() + more) / Side);
     if (picture.isNull() || !NxImage::accepts(picture.size()))
@@ -190,15 +189,16 @@ PictureCells PictureCells::of(const QImage &picture, const TileSet &tileSet, int
     if (result.size.isEmpty())
         return result;
 
-    const GroupedColours colours(tileSet.palette(), clearPixel);
-    KnownTiles known = tilesOf(tileSet, colours, freeTiles);
+    const GroupedColours colours(choices.palette ? choices.palette : tileSet.palette().data(), choices.clearPixel);
+    KnownTiles known = tilesOf(tileSet, colours, choices.freeTiles);
     for (int row = 0; row < result.size.height(); ++row) {
         const QImage band =
             picture.copy(0, row * Side, picture.width(), std::min(Side, picture.height() - row * Side))
                 .convertToFormat(keepClearPixels ? QImage::Format_ARGB32 : QImage::Format_RGB32, Qt::AvoidDither);
         for (int column = 0; column < result.size.width(); ++column) {
             const Look wanted = lookAt(band, column, 0, keepClearPixels);
-            if (std::all_of(wanted.cbegin(), wanted.cend(), [](quint16 look) { return look == Clear; })) {
+            if (choices.leavesOutClearCells
+                && std::all_of(wanted.cbegin(), wanted.cend(), [](quint16 look) { return look == Clear; })) {
                 result.cells.emplace_back();
                 continue;
             }
@@ -223,7 +223,7 @@ PictureCells PictureCells::of(const QImage &picture, const TileSet &tileSet, int
             result.cells.push_back(cell);
         }
     }
-    result.places = freeTiles;
+    result.places = choices.freeTiles;
     for (int tile = tileSet.count(); tile < MostTiles; ++tile)
         result.places.append(tile);
     result.places = result.places.mid(0, qsizetype(result.additions.size()));

@@ -273,6 +273,7 @@ double errorOf(const TileReduction &reduction, Cells &cells)
 TileReduction TileReduction::of(const QImage &picture, const Choices &choices)
 {
     TileReduction reduction;
+    reduction.choices = choices;
     Cells cells(picture, choices.keepClearPixels);
     reduction.size = cells.size();
     if (reduction.size.isEmpty() || !NxImage::accepts(picture.size()))

@@ -41,6 +41,7 @@ struct TileReduction
 
     using Pixels = std::array<uchar, size_t(Side) * Side>;
 
+    Choices choices; ///< that led to it
     QSize size; ///< in cells; a partial column or row at the right or bottom is dropped
     std::vector<Cell> cells; ///< row by row
     std::vector<Pixels> tiles; ///< pixels are entries of the palette: 16 times the group, and the colour in it

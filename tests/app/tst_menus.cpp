@@ -107,12 +107,12 @@ private slots:
                 .arg(key(Keys::New), key(Keys::Open), key(Keys::Save), key(Keys::SaveAs), key(Keys::Close)),
             QString("Cut%1, Copy%2, Paste%3, -, Select All%4, Clear Selection%5")
                 .arg(key(Keys::Cut), key(Keys::Copy), key(Keys::Paste), key(Keys::SelectAll), key(Keys::Deselect)),
-            "New Palette [Ctrl+Alt+P], Import, -, No Palette, Export",
+            "New Palette [Ctrl+Alt+P], Import, -, No Palette, Export, -, Import Again",
             "New Tile Set [Ctrl+Alt+T], -, Create Animations, Swap Palette, Export, Export Attributes, Import>, -, "
-            "Next Tile [Ctrl+]], Previous Tile [Ctrl+[], Tile List Magnification>",
-            "New Map [Ctrl+Alt+M], -, Import, Export",
-            "New [Ctrl+Shift+B], Import, -, Swap Palette, Export Data",
-            "New Image, -, Swap Palette",
+            "Next Tile [Ctrl+]], Previous Tile [Ctrl+[], Tile List Magnification>, -, Import Again",
+            "New Map [Ctrl+Alt+M], -, Import, Export, -, Import Again",
+            "New [Ctrl+Shift+B], Import, -, Swap Palette, Export Data, -, Import Again",
+            "New Image, -, Swap Palette, -, Import Again",
             "Scratch Image Editor, Status Bar, Reset Layout, Window>",
             QString::fromUtf8("Check for Updates…, About"),
         };
@@ -150,11 +150,10 @@ private slots:
     {
         // the position of a menu in the bar, what can be chosen with a project, and what besides with an active asset
         for (const auto &[menu, withProject, withAsset] :
-             {std::tuple(
-                  0,
-                  QString(
-                      "New, Open, Recent, Save, Save As, Close, Import\u2026, Export Project\u2026, Export Again, Preferences, Quit"),
-                  QString()),
+             {std::tuple(0,
+                         QString("New, Open, Recent, Save, Save As, Close, Import\u2026, Export Project\u2026, Export "
+                                 "Again, Preferences, Quit"),
+                         QString()),
               {2, "New Palette, Import", ", Export"},
               {3, "New Tile Set",
                ", Create Animations, Swap Palette, Export, Export Attributes, Import, Next Tile, Previous Tile, "

@@ -1,10 +1,13 @@
 #include "app/imports/paletteimport.h"
 
 #include "importing/paletteedit.h"
+#include "model/image.h"
 #include "model/nextcolour.h"
 #include "model/nximage.h"
 #include "model/picturefile.h"
 #include "model/project.h"
+#include "model/spritebank.h"
+#include "model/tileset.h"
 #include "pictures/machinecolours.h"
 
 #include <QFileInfo>
@@ -102,6 +105,16 @@ std::optional<Words> readPaletteFile(const QString &fileName, Palette &words)
 void replaceWords(Palette &palette, const Palette &words, QUndoStack *stack)
 {
     Importing::replaceEntries(palette, {.words = wordsOf(words)}, stack);
+}
+
+bool hasOtherUsers(const Project &project, const Palette &palette, const QObject &user)
+{
+    const auto others = [&](const auto &assets) {
+        return std::any_of(assets.begin(), assets.end(), [&](const auto &asset) {
+            return asset->palette() == &palette && static_cast<const QObject *>(asset) != &user;
+        });
+    };
+    return others(project.tileSets()) || others(project.spriteBanks()) || others(project.images());
 }
 
 Palette *createPaletteOf(Project &project, const QString &name, const QList<QRgb> &colours)

@@ -1,5 +1,6 @@
 #include "app/imports/pictureimport.h"
 
+#include "app/imports/importchoice.h"
 #include "app/imports/paletteimport.h"
 #include "app/imports/slicingprogress.h"
 #include "model/imageslicer.h"
@@ -100,17 +101,22 @@ QImage shownOf(const ImageSlicer &slicer)
     return shown;
 }
 
-MapImport importCut(Project &project, const QString &filePath, const ImageSlicer &slicer)
+/// Why no tiles can be made of a picture that was cut; empty when they can.
+QString refusalOf(const ImageSlicer &slicer)
 {
     const int tiles = slicer.pieceCount();
-    if (tiles > MostTiles) {
-        return {nullptr, tr("Cannot import the image as it would need more than 512 tiles\n%1 required").arg(tiles)};
-    }
-    if (tiles == 0)
-        return {nullptr, tr("The image is smaller than a tile, which has 8 × 8 pixels")};
+    if (tiles > MostTiles)
+        return tr("Cannot import the image as it would need more than 512 tiles\n%1 required").arg(tiles);
+    return tiles == 0 ? tr("The image is smaller than a tile, which has 8 × 8 pixels") : QString();
+}
+
+MapImport importCut(Project &project, const QString &filePath, const ImageSlicer &slicer)
+{
+    if (const QString refusal = refusalOf(slicer); !refusal.isEmpty())
+        return {nullptr, refusal};
     const QString name = QFileInfo(filePath).completeBaseName();
     const QUuid palette = createPaletteOf(project, name, slicer.bankColours())->id();
-    const QPointer<TileSet> tileSet = createTileSet(project, name, palette, slicer, tiles);
+    const QPointer<TileSet> tileSet = createTileSet(project, name, palette, slicer, slicer.pieceCount());
     return {createMap(project, name, tileSet->id(), slicer), lossOf(slicer)};
 }
 
@@ -188,6 +194,35 @@ PictureLoss PictureLoss::of(const QString &filePath, QWidget *parent)
     if (loss.any() && loss.tiles <= MostTiles)
         loss.shown = shownOf(*slicer);
     return loss;
+}
+
+QJsonObject TiledPicture::choicesOf(const TileReduction &reduction)
+{
+    return {{QStringLiteral("dithering"), ImportChoice::nameOf(reduction.choices.dithering)},
+            {QStringLiteral("keepClear"), reduction.choices.keepClearPixels},
+            {QStringLiteral("clear"), reduction.hasClearPixels}};
+}
+
+TiledPicture TiledPicture::of(const QString &filePath, const QJsonObject &choices, QWidget *window)
+{
+    const PictureFile picture = PictureFile::read(filePath);
+    if (picture.image.isNull())
+        return {{}, -1, picture.failure()};
+    if (const auto dithering = ImportChoice::ditheringOf(choices[QStringLiteral("dithering")])) {
+        const bool keepClear = choices[QStringLiteral("keepClear")].toBool();
+        const auto reduction =
+            TileReduction::of(picture.image, {.dithering = *dithering, .keepClearPixels = keepClear});
+        const bool clear = reduction.hasClearPixels || choices[QStringLiteral("clear")].toBool();
+        return {reduction.shown(), clear ? TileReduction::ClearPixel : -1,
+                reduction.size.isEmpty() ? tr("The image is smaller than a tile, which has 8 × 8 pixels") : QString()};
+    }
+    ImageSlicer slicer(picture.image);
+    {
+        SlicingProgress progress(slicer, window);
+        slicer.sliceTiles();
+    }
+    const QString failure = refusalOf(slicer);
+    return failure.isEmpty() ? TiledPicture{shownOf(slicer), -1, {}} : TiledPicture{{}, -1, failure};
 }
 
 MapImport importReduction(Project &project, const QString &name, const TileReduction &reduction)

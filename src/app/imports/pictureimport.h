@@ -3,6 +3,7 @@
 #include "app/imports/mapimport.h"
 
 #include <QImage>
+#include <QJsonObject>
 
 #include <memory>
 
@@ -28,6 +29,18 @@ struct PictureLoss
 
     /// The window in front shows the progress.
     [[nodiscard]] static PictureLoss of(const QString &filePath, QWidget *parent);
+};
+
+/// A picture as the tiles show it that an import makes of it, in the machine's colours.
+struct TiledPicture
+{
+    QImage picture; ///< null when it cannot be used
+    int clearPixel = -1; ///< that clear pixels have in the tiles; -1 when there are none
+    QString failure;
+
+    /// What a reduction is to be remembered by; nothing stands for pictures that are cut as they are.
+    [[nodiscard]] static QJsonObject choicesOf(const TileReduction &reduction);
+    [[nodiscard]] static TiledPicture of(const QString &filePath, const QJsonObject &choices, QWidget *window);
 };
 
 /// Makes a palette, a tile set and a map, all of one name, of tiles that were found for a picture.

@@ -52,15 +52,9 @@ SpriteBank *importSliced(Project &project, const SpriteImport &import, const QIm
     return bank->importPieces(slicer) > 0 ? bank : nullptr;
 }
 
-/// A picture whose indices and colours are those of a new bank.
-struct IndexedSprites
-{
-    QImage pixels;
-    bool hasClearPixels = false;
-};
+} // namespace
 
-/// In the colours of a palette, or in its own.
-IndexedSprites spritesOf(QImage image, const SpriteImport &import, const Palette *palette)
+IndexedSprites IndexedSprites::of(QImage image, const SpriteImport &import, const Palette *palette)
 {
     const SpriteTransparency transparency{import.depth};
     if (import.reduction) {
@@ -81,15 +75,13 @@ IndexedSprites spritesOf(QImage image, const SpriteImport &import, const Palette
     return {SpriteColours::nearest(wanted, *palette, transparency).pixels(picture), picture.hasClearPixels()};
 }
 
-} // namespace
-
 SpriteBank *importSpritePicture(Project &project, const SpriteImport &import, QWidget *parent)
 {
     const Busy busy(parent, importing(import), PictureFile::pixelCount(import.file));
     QImage picture = PictureFile::read(import.file).image;
     const QSize size = picture.size();
     if (import.paletteId.isNull()) {
-        const IndexedSprites sprites = spritesOf(std::move(picture), import, nullptr);
+        const IndexedSprites sprites = IndexedSprites::of(std::move(picture), import, nullptr);
         return importSliced(project, import, sprites.pixels, sprites.hasClearPixels, parent);
     }
     const bool usable = fits(qint64(size.width() / SpriteBank::SpriteSize) * (size.height() / SpriteBank::SpriteSize));
@@ -97,7 +89,7 @@ SpriteBank *importSpritePicture(Project &project, const SpriteImport &import, QW
     if (!usable || !palette)
         return nullptr;
     SpriteBank *bank = project.createSpriteBank(import.depth, import.name, import.paletteId);
-    return bank->appendPieces(spritesOf(std::move(picture), import, palette).pixels) > 1 ? bank : nullptr;
+    return bank->appendPieces(IndexedSprites::of(std::move(picture), import, palette).pixels) > 1 ? bank : nullptr;
 }
 
 SpriteBank *importSpriteData(Project &project, const SpriteImport &import, QWidget *parent)

@@ -3,11 +3,13 @@
 #include "model/enums.h"
 #include "pictures/dithering.h"
 
+#include <QImage>
 #include <QString>
 #include <QUuid>
 
 #include <optional>
 
+class Palette;
 class Project;
 class QWidget;
 class SpriteBank;
@@ -24,6 +26,16 @@ struct SpriteImport
     std::optional<Dithering> reduction{}; ///< to the colours that there is room for, which keeps levels as well
 
     bool operator==(const SpriteImport &) const = default;
+};
+
+/// A picture whose indices and colours are those of a new bank.
+struct IndexedSprites
+{
+    QImage pixels;
+    bool hasClearPixels = false;
+
+    /// In the colours of a palette, or in its own for null.
+    [[nodiscard]] static IndexedSprites of(QImage picture, const SpriteImport &import, const Palette *palette);
 };
 
 /// Makes a bank of the 16×16 pieces of a picture: all of them in the nearest colours of a palette of the

@@ -12,6 +12,7 @@ MapMenu::MapMenu(QWidget *parent) : ProjectMenu(tr("&Map"), parent)
     addSeparator();
     addCommand(this, tr("&Import"), &MapMenu::showImportDialog, {}, QStringLiteral(":/Import"));
     m_export = addCommand(this, tr("&Export"), &MapMenu::showExportDialog, {}, QStringLiteral(":/Export"));
+    addImportAgain([this] { return m_map ? m_map->id() : QUuid(); });
 }
 
 void MapMenu::setMap(const QPointer<Map> &map)

@@ -27,6 +27,7 @@ MenuBar::MenuBar(QWidget *parent)
     for (const ProjectMenu *menu : findChildren<ProjectMenu *>(Qt::FindDirectChildrenOnly)) {
         connect(menu, &ProjectMenu::failed, this, &MenuBar::failed);
         connect(menu, &ProjectMenu::exported, this, &MenuBar::exported);
+        connect(menu, &ProjectMenu::importAgainRequested, this, &MenuBar::importAgainRequested);
     }
     m_image->setPaletteProvider([this] { return m_palette->palette(); });
     setProject(nullptr);
@@ -36,6 +37,12 @@ void MenuBar::setFileChooser(const FileChooser &chooser)
 {
     for (ProjectMenu *menu : findChildren<ProjectMenu *>(Qt::FindDirectChildrenOnly))
         menu->setFileChooser(chooser);
+}
+
+void MenuBar::setImportAgainCheck(const std::function<bool(const QUuid &)> &canImport)
+{
+    for (ProjectMenu *menu : findChildren<ProjectMenu *>(Qt::FindDirectChildrenOnly))
+        menu->setImportAgainCheck(canImport);
 }
 
 void MenuBar::setProject(const QPointer<Project> &project)

@@ -37,6 +37,9 @@ public:
     /// Who answers the questions for files of all menus.
     void setFileChooser(const FileChooser &chooser);
 
+    /// Who knows whether an asset can be imported again.
+    void setImportAgainCheck(const std::function<bool(const QUuid &)> &canImport);
+
 public slots:
     /// Hands the open project, or null, to the menus that need it.
     void setProject(const QPointer<Project> &project);
@@ -44,6 +47,8 @@ public slots:
 signals:
     /// A menu could not do what was asked for: a text for the user, its title, and why.
     void failed(const QString &text, const QString &title, const QString &reason);
+    /// An asset is to be brought up to date with the file that it was made of.
+    void importAgainRequested(const QUuid &id);
     /// A menu wrote an asset of that name to a file.
     void exported(const QString &asset, const QString &filePath);
 

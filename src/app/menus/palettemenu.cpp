@@ -12,6 +12,7 @@ PaletteMenu::PaletteMenu(QWidget *parent) : ProjectMenu(tr("&Palette"), parent)
     m_name = addAction(tr("No Palette"));
     m_name->setEnabled(false);
     m_export = addCommand(this, tr("&Export"), &PaletteMenu::showExportDialog, {}, QStringLiteral(":/Export"));
+    addImportAgain([this] { return m_palette ? m_palette->id() : QUuid(); });
 }
 
 void PaletteMenu::setPalette(const QPointer<Palette> &palette)

@@ -20,6 +20,16 @@ QAction *ProjectMenu::newAction(const QString &text, const QKeySequence &shortcu
     return action;
 }
 
+void ProjectMenu::addImportAgain(const std::function<QUuid()> &activeAsset)
+{
+    addSeparator();
+    QAction *again = newAction(tr("Import A&gain"), {}, QStringLiteral(":/Import"));
+    again->setEnabled(false);
+    connect(this, &QMenu::aboutToShow, this,
+            [this, again, activeAsset] { again->setEnabled(m_canImportAgain(activeAsset())); });
+    connect(again, &QAction::triggered, this, [this, activeAsset] { emit importAgainRequested(activeAsset()); });
+}
+
 QString ProjectMenu::fileToOpen(const QString &title, const QStringList &nameFilters) const
 {
     return chooseFile({.title = title, .nameFilters = nameFilters});

@@ -6,6 +6,9 @@
 #include <QKeySequence>
 #include <QMenu>
 #include <QPointer>
+#include <QUuid>
+
+#include <functional>
 
 /// The base of the menus whose commands depend on the open project.
 ///
@@ -22,6 +25,8 @@ public:
 
     /// Who answers the menu's questions for files; runFileDialog() at first.
     void setFileChooser(const FileChooser &chooser) { m_fileChooser = chooser; }
+    /// Who knows whether an asset can be imported again; nobody at first.
+    void setImportAgainCheck(const std::function<bool(const QUuid &)> &canImport) { m_canImportAgain = canImport; }
 
 public slots:
     /// The open project, or null.
@@ -30,6 +35,8 @@ public slots:
 signals:
     /// Something that was asked for could not be done: a text for the user, its title, and why.
     void failed(const QString &text, const QString &title, const QString &reason);
+    /// The active asset is to be brought up to date with the file that it was made of.
+    void importAgainRequested(const QUuid &id);
     /// An asset of that name was written to a file.
     void exported(const QString &asset, const QString &filePath);
 
@@ -46,6 +53,9 @@ protected:
         connect(action, &QAction::triggered, menu, slot);
         return action;
     }
+
+    /// Appends the entry that imports the active asset again, in a group of its own.
+    void addImportAgain(const std::function<QUuid()> &activeAsset);
 
     /// The menu's dialog of a kind, made when it is first asked for; what is accepted in it goes to a slot
     /// or signal of the menu.
@@ -88,4 +98,5 @@ private:
 
     QPointer<Project> m_project;
     FileChooser m_fileChooser = runFileDialog;
+    std::function<bool(const QUuid &)> m_canImportAgain = [](const QUuid &) { return false; };
 };

@@ -14,6 +14,7 @@ SpriteMenu::SpriteMenu(QWidget *parent) : ProjectMenu(tr("&Sprites"), parent)
     addSeparator();
     m_swap = addCommand(this, tr("&Swap Palette"), &SpriteMenu::showSwapPaletteDialog, {}, QStringLiteral(":/Swap"));
     m_export = addCommand(this, tr("&Export Data"), &SpriteMenu::showExportDialog, {}, QStringLiteral(":/Export"));
+    addImportAgain([this] { return m_spriteBank ? m_spriteBank->id() : QUuid(); });
 }
 
 void SpriteMenu::setSpriteBank(const QPointer<SpriteBank> &bank)

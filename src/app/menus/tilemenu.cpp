@@ -28,6 +28,7 @@ TileMenu::TileMenu(QWidget *parent) : ProjectMenu(tr("&Tiles"), parent)
     };
     importMenu->setIcon(themedIcon(QStringLiteral(":/Import")));
     connect(importMenu->addAction(tr("&Spectrum Chars")), &QAction::triggered, this, &TileMenu::showImportFontDialog);
+    addImportAgain([this] { return m_tileSet ? m_tileSet->id() : QUuid(); });
 }
 
 void TileMenu::setMagnificationActions(const QList<QAction *> &actions)

@@ -117,6 +117,8 @@ void ProjectTree::buildMenu()
     };
     add(tr("&Delete"), QStringLiteral(":/Trashcan"), &ProjectTree::deleteItem);
     m_copy = add(tr("&Copy"), QStringLiteral(":/Copy"), &ProjectTree::copyItem);
+    m_menu->addSeparator();
+    m_importAgain = add(tr("Import A&gain"), QStringLiteral(":/Import"), &ProjectTree::importItemAgain);
 }
 
 void ProjectTree::showProject(const QPointer<Project> &project)
@@ -239,6 +241,7 @@ void ProjectTree::openMenu(QTreeWidgetItem *item, const QPoint &globalPos)
         return;
     setCurrentItem(item);
     m_copy->setEnabled(node == PaletteNode || node == TileSetNode || node == MapNode); // there is no copy of others
+    m_importAgain->setEnabled(m_canImportAgain(id));
     m_menu->popup(globalPos);
 }
 

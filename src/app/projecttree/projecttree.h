@@ -6,6 +6,8 @@
 #include <QTreeWidget>
 #include <QUuid>
 
+#include <functional>
+
 class QMenu;
 
 /// The assets of a project by kind, with the block sets below their tile set.
@@ -50,7 +52,9 @@ public:
     [[nodiscard]] QTreeWidgetItem *itemOf(const QUuid &id) const;
     /// The kind and id of an asset's item; false for any other item and null.
     static bool identify(const QTreeWidgetItem *item, ProjectNode &node, QUuid &id);
-    /// "Rename", "Delete" and "Copy" for the current item.
+    /// Who knows whether an asset can be imported again; nobody at first.
+    void setImportAgainCheck(const std::function<bool(const QUuid &)> &canImport) { m_canImportAgain = canImport; }
+    /// "Rename", "Delete" and "Copy" for the current item, and "Import Again".
     [[nodiscard]] QMenu *itemMenu() const { return m_menu; }
 
 public slots:
@@ -64,6 +68,7 @@ signals:
     void itemDoubleClicked(ProjectTree::ProjectNode node, QUuid id);
     void copyItem(ProjectTree::ProjectNode node, QUuid id);
     void deleteItem(ProjectTree::ProjectNode node, QUuid id);
+    void importItemAgain(ProjectTree::ProjectNode node, QUuid id);
 
 protected:
     /// Enter opens the current item, as a double click does, and Delete asks to delete it.
@@ -78,4 +83,6 @@ private:
 
     QMenu *m_menu;
     QAction *m_copy;
+    QAction *m_importAgain;
+    std::function<bool(const QUuid &)> m_canImportAgain = [](const QUuid &) { return false; };
 };

@@ -232,8 +232,10 @@ void View::importPicture(const QString &fileName)
         m_importDialog = new ImportDialog(this);
         connect(m_importDialog, &ImportDialog::imported, this, &View::place);
         connect(m_importDialog, &ImportDialog::importedWithPalette, this, &View::placeWithPalette);
+        connect(m_importDialog, &QDialog::accepted, this,
+                [this] { emit imported(m_importedFile, m_importDialog->choices()); });
     }
-    m_importedName = QFileInfo(fileName).completeBaseName();
+    m_importedFile = fileName;
     m_importDialog->setOffersNewPalette(project());
     m_importDialog->show(picture.image, canvas()->palette(), canvas()->image().size(), colourCount());
 }
@@ -252,8 +254,8 @@ void View::placeWithPalette(const QImage &pixels, int transparent)
     Palette words;
     for (int i = 0; i < Palette::Size; ++i)
         words.setColour(i, QColor::fromRgb(pixels.color(i)), false);
-    const QPointer<Palette> palette =
-        project->createPalette(CreateAction::Blank, freeName(m_importedName, project->paletteNames()));
+    const QPointer<Palette> palette = project->createPalette(
+        CreateAction::Blank, freeName(QFileInfo(m_importedFile).completeBaseName(), project->paletteNames()));
     palette->copyColours(words);
     palette->setTransparencyIndex(transparent);
     if (m_undoStack)

@@ -11,6 +11,7 @@
 
 class ColourPalette;
 class Project;
+struct ImageImport;
 class QFileDialog;
 
 namespace ImageEditor {
@@ -40,6 +41,8 @@ signals:
     void imageChanged(QImage image);
     /// The image was bound to another palette, or to the one before again by undo.
     void paletteSwapped(const QPointer<Palette> &palette);
+    /// A picture was placed in the image.
+    void imported(const QString &filePath, const ImageImport &choices);
     /// A file could not be read or written.
     void error(const QString &message);
     /// The picture was written to a file; asset is its name.
@@ -78,7 +81,7 @@ private:
     QFileDialog *m_importFile = nullptr;
     QFileDialog *m_exportFile = nullptr;
     ImportDialog *m_importDialog = nullptr;
-    QString m_importedName; ///< of the file for which the dialog is open
+    QString m_importedFile; ///< for which the dialog is open
 };
 
 } // namespace ImageEditor

@@ -1,9 +1,7 @@
 #include "editors/canvas/imageimportdialog.h"
 
-#include "editors/canvas/pictureimport.h"
 #include "editors/canvas/reductionbox.h"
 #include "model/nximage.h"
-#include "model/spritetransparency.h"
 #include "pictures/machinecolours.h"
 #include "ui/picturepreview.h"
 
@@ -92,80 +90,51 @@ void ImportDialog::show(const QImage &picture, const QPointer<Palette> &palette,
     DialogBase::open();
 }
 
-/// Of the palette that the image has, or will have; -1 for none among the colours that it shows.
-int ImportDialog::transparentEntry() const
+ImageImport ImportDialog::choices() const
 {
-    if (takesNewPalette())
-        return SpriteTransparency{m_colourCount == Palette::Size ? Quenmora::EightBit : Quenmora::FourBit}.pixel();
-    const int transparent = m_palette ? m_palette->transparencyIndex() : -1;
-    return transparent < m_colourCount ? transparent : -1;
-}
-
-bool ImportDialog::takesNewPalette() const
-{
-    return m_newPalette->isEnabled() && m_newPalette->isChecked();
+    const auto chosen = [](const QCheckBox *box) { return box->isEnabled() && box->isChecked(); };
+    return {.scale = m_scale->isChecked(),
+            .keepColours = m_keepColours->isChecked(),
+            .keepClearPixels = chosen(m_keepClearPixels),
+            .newPalette = chosen(m_newPalette),
+            .reduction = m_reduction->reduction()};
 }
 
 QString ImportDialog::problem() const
 {
-    return m_pixels.isNull() ? tr("The picture cannot be used") : QString();
+    return m_result.pixels.isNull() ? tr("The picture cannot be used") : QString();
 }
 
 void ImportDialog::submit()
 {
-    if (takesNewPalette())
-        emit importedWithPalette(m_pixels, m_reduced->reduction.hasClearPixels ? transparentEntry() : -1);
-    else
-        emit imported(m_pixels);
+    const ImageImport import = choices();
+    if (import.newPalette) {
+        const bool hasClear = m_result.reduced->reduction.hasClearPixels;
+        emit importedWithPalette(m_result.pixels, hasClear ? import.clearEntry(nullptr, m_colourCount) : -1);
+    } else {
+        emit imported(m_result.pixels);
+    }
 }
 
 void ImportDialog::updatePreview()
 {
-    if (const bool can = m_hasClearPixels && transparentEntry() >= 0; can != m_keepClearPixels->isEnabled()) {
+    const int clear = choices().clearEntry(m_palette, m_colourCount);
+    if (const bool can = m_hasClearPixels && clear >= 0; can != m_keepClearPixels->isEnabled()) {
         const QSignalBlocker blocker(m_keepClearPixels);
         m_keepClearPixels->setEnabled(can);
         m_keepClearPixels->setChecked(can);
     }
-    if (takesNewPalette() && !m_reduction->reduction()) {
+    if (choices().newPalette && !m_reduction->reduction()) {
         const QSignalBlocker blocker(m_reduction); // a palette for the picture is one for the whole of it
         m_reduction->setReduction(Dithering::None);
     }
-    convert();
-    QImage shown = m_pixels;
-    if (const int clear = transparentEntry(); m_reduced && m_reduced->reduction.hasClearPixels && clear >= 0)
+    m_result = m_palette ? choices().convert(m_picture, *m_palette, m_imageSize, m_colourCount) : ImageImport::Result();
+    QImage shown = m_result.pixels;
+    const auto &reduced = m_result.reduced;
+    if (reduced && reduced->reduction.hasClearPixels && clear >= 0)
         shown.setColor(clear, qRgba(0, 0, 0, 0));
     m_after->setPicture(shown);
-    m_summary->setText(m_reduced ? ReductionBox::told(m_reduced->reduction) : QString());
-}
-
-void ImportDialog::convert()
-{
-    // Only what lies inside the image is converted.
-    const bool scale = m_scale->isChecked();
-    const QImage part = scale ? m_picture : m_picture.copy(QRect(QPoint(), m_imageSize) & m_picture.rect());
-    const bool keepClear = m_keepClearPixels->isEnabled() && m_keepClearPixels->isChecked();
-    m_pixels = {};
-    m_reduced.reset();
-    if (!m_palette)
-        return;
-    const std::optional<Dithering> dithering = m_reduction->reduction();
-    if (!dithering) {
-        const auto levels = m_keepColours->isChecked() ? PictureImport::Levels::Kept : PictureImport::Levels::Quantised;
-        const auto clear = keepClear ? PictureImport::ClearPixels::Kept : PictureImport::ClearPixels::Dropped;
-        m_pixels =
-            PictureImport::indexed(part, *m_palette, 0, m_colourCount, scale ? m_imageSize : QSize(), levels, clear);
-        return;
-    }
-    const auto mode = m_keepColours->isChecked() ? Qt::FastTransformation : Qt::SmoothTransformation;
-    const QImage scaled = scale ? part.scaled(m_imageSize, Qt::IgnoreAspectRatio, mode) : part;
-    m_reduced = ReducedPixels::of(scaled,
-                                  {.dithering = *dithering,
-                                   .colourCount = m_colourCount,
-                                   .clear = transparentEntry(),
-                                   .palette = takesNewPalette() ? nullptr : m_palette.data(),
-                                   .anyGroup = false,
-                                   .keepClearPixels = keepClear});
-    m_pixels = m_reduced->pixels;
+    m_summary->setText(reduced ? ReductionBox::told(reduced->reduction) : QString());
 }
 
 } // namespace ImageEditor

@@ -1,13 +1,11 @@
 #pragma once
 
+#include "editors/canvas/imageimport.h"
 #include "model/palette.h"
-#include "pictures/reducedpixels.h"
 #include "ui/dialogbase.h"
 
 #include <QImage>
 #include <QPointer>
-
-#include <optional>
 
 class PicturePreview;
 class QCheckBox;
@@ -28,6 +26,8 @@ public:
     /// Opens the dialog for a picture that goes into an image of a size and colourCount (16 or 256) colours.
     void show(const QImage &picture, const QPointer<Palette> &palette, QSize imageSize, int colourCount);
 
+    /// What is chosen.
+    [[nodiscard]] ImageImport choices() const;
     /// Whether there is somebody who makes a palette for the picture.
     void setOffersNewPalette(bool offers) { m_offersNewPalette = offers; }
 
@@ -43,9 +43,6 @@ protected:
 
 private:
     void updatePreview();
-    void convert();
-    [[nodiscard]] int transparentEntry() const;
-    [[nodiscard]] bool takesNewPalette() const;
 
     QImage m_picture;
     QPointer<Palette> m_palette;
@@ -53,8 +50,7 @@ private:
     int m_colourCount = 256;
     bool m_offersNewPalette = false;
     bool m_hasClearPixels = false;
-    QImage m_pixels;
-    std::optional<ReducedPixels> m_reduced; ///< for the choices that are shown
+    ImageImport::Result m_result; ///< of the choices that are shown
     PicturePreview *m_before;
     PicturePreview *m_after;
     QLabel *m_size;

@@ -55,8 +55,9 @@ bool PasteTool::takePicture()
 PictureCells PasteTool::cellsOf(const QImage &picture) const
 {
     const TileSet &tileSet = *map()->tileSet();
-    PictureCells cells =
-        PictureCells::of(picture, tileSet, map()->tileTransparencyIndex(), PictureCells::blankTiles(tileSet));
+    PictureCells cells = PictureCells::of(
+        picture, tileSet,
+        {.clearPixel = map()->tileTransparencyIndex(), .freeTiles = PictureCells::blankTiles(tileSet)});
     if (cells.size.isEmpty()) {
         surface()->tell(tr("The picture is smaller than a tile, which has 8 × 8 pixels"));
     } else if (!cells.hasRoom()) {

@@ -1,0 +1,111 @@
+#include "app/imports/importagain.h"
+
+#include "app/imports/imageagain.h"
+#include "app/imports/mapagain.h"
+#include "app/imports/paletteimport.h"
+#include "app/imports/spritesagain.h"
+#include "importing/filekind.h"
+#include "model/image.h"
+#include "model/map.h"
+#include "model/palette.h"
+#include "model/project.h"
+#include "model/spritebank.h"
+#include "ui/busy.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QUndoStack>
+
+namespace {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("ImportAgain", text);
+}
+
+ImportedAgain paletteAgain(Palette &palette, const ImportRecord &record, QUndoStack *stack)
+{
+    Palette words;
+    words.copyColours(palette);
+    const auto leftOut = readPaletteFile(record.file, words);
+    if (!leftOut)
+        return {tr("The file is neither a palette nor a picture that can be read"), {}, {}};
+    replaceWords(palette, words, stack);
+    return {{}, tr("%1 is up to date").arg(palette.name()), record.choices};
+}
+
+/// Of any other file, which goes into the asset as it did into it, or into a new one, before.
+ImportedAgain fileAgain(Project &project, const QUuid &asset, const ImportRecord &record,
+                        const Importing::StackProvider &stackFor)
+{
+    auto choices = Importing::ImportChoices::fromJson(record.choices);
+    const Importing::FileKind *kind = choices ? Importing::findFileKind(choices->kind) : nullptr;
+    if (!kind || !kind->takesTarget)
+        return {tr("Such a file makes new assets, and cannot go into those that are there"), {}, {}};
+    choices->target = asset;
+    const auto file = Importing::ImportFile::open(record.file);
+    if (!file)
+        return {file.reason(), {}, {}};
+    const auto incoming = Importing::prepare(project, *file, *choices);
+    if (!incoming)
+        return {incoming.reason(), {}, {}};
+    const auto added = Importing::addTo(project, *incoming, *choices, stackFor);
+    if (!added)
+        return {added.reason(), {}, {}};
+    return {{}, tr("%1 was imported again").arg(QFileInfo(record.file).fileName()), record.choices};
+}
+
+ImportedAgain again(Project &project, const QUuid &asset, const ImportRecord &record,
+                    const Importing::StackProvider &stackFor, QWidget *window)
+{
+    QUndoStack *stack = stackFor ? stackFor(asset) : nullptr;
+    switch (record.kind) {
+    case ImportRecord::Map:
+        if (const QPointer<Map> map = project.map(asset))
+            return mapAgain(*map, record, stack, window);
+        break;
+    case ImportRecord::Sprites:
+        if (const QPointer<SpriteBank> bank = project.spriteBank(asset))
+            return spritesAgain(*bank, record, stack, window);
+        break;
+    case ImportRecord::Image:
+        if (const QPointer<Image> image = project.image(asset))
+            return imageAgain(*image, record, stack);
+        break;
+    case ImportRecord::Palette:
+        if (const QPointer<Palette> palette = project.palette(asset))
+            return paletteAgain(*palette, record, stack);
+        break;
+    case ImportRecord::File:
+        return fileAgain(project, asset, record, stackFor);
+    }
+    return {tr("What was made of it is not there any more"), {}, {}};
+}
+
+} // namespace
+
+ImportedAgain ImportedAgain::run(Project &project, const QUuid &asset, const ImportRecord &record,
+                                 const Importing::StackProvider &stackFor, QWidget *window)
+{
+    const QFileInfo file(record.file);
+    if (!file.isFile())
+        return {tr("The file is not there any more:\n%1").arg(QDir::toNativeSeparators(record.file)), {}, {}};
+    const Busy busy(window, tr("Importing %1…").arg(file.fileName()));
+    ImportedAgain done = again(project, asset, record, stackFor, window);
+    if (!done.failure.isEmpty())
+        done.failure += QLatin1Char('\n') + QDir::toNativeSeparators(record.file);
+    return done;
+}
+
+UndoMacro::UndoMacro(QUndoStack *stack, const QString &text) : m_stack(stack)
+{
+    if (m_stack)
+        m_stack->beginMacro(text);
+}
+
+UndoMacro::~UndoMacro()
+{
+    if (m_stack)
+        m_stack->endMacro();
+}
