@@ -1,0 +1,204 @@
+// What the image editor has of its own.
+
+#include "editors/canvas/imageimportdialog.h"
+#include "editors/canvas/reductionbox.h"
+#include "model/project.h"
+#include "pictures/ninebitcolour.h"
+
+#include "support/pixelscenes.h"
+
+#include <QCheckBox>
+#include <sys/stat.h>
+
+using namespace PixelScenes;
+using namespace Quenmora::Ui;
+using ImageEditor::View;
+
+class TestImageEditor : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void imageViewsReopenExportAndTakeTheScratchPicture()
+    {
+        ImageScene scene;
+        scene.draw(0, 5);
+        scene.reopen();
+        QCOMPARE(scene.shown(5), 1);
+        scene.stack.undo();
+        QCOMPARE(scene.shown(5), 0);
+        QSignalSpy errors(scene.view.get(), &View::error);
+        scene.canvas().setInk(0xE0);
+        scene.draw(0, 6);
+        scene.exportAs("early.png"); // no dialog was opened yet
+        QVERIFY(QFile::exists(scene.file("early.png")));
+        scene.choose(Save, "out.png");
+        QCOMPARE(QImage(scene.file("out.png")).pixelColor(6, 6), QColor(Qt::red));
+        QCOMPARE(mkfifo(qPrintable(scene.file("pipe.png")), 0600), 0); // which would wait for its reader
+        for (const char *name : {"no/such/folder/out.png", "out.unknown", "pipe.png"})
+            scene.choose(Save, name);
+        QCOMPARE(errors.count(), 3);
+        QSignalSpy changes(scene.view.get(), &View::imageChanged);
+        scene.view->setImage(nullptr);
+        scene.view->setPixels(plainImage({256, 192}, 3)); // the scratch picture
+        QVERIFY(changes.isEmpty());
+        EditorInput::Mouse{scene.canvas()}.drag({{5, 5}});
+        QCOMPARE(changes.count(), 1);
+        QCOMPARE(changes[0][0].value<QImage>().pixelIndex(5, 5), 0xE0);
+    }
+
+    void imageTakesAnotherPalette()
+    {
+        ImageScene scene;
+        Palette *other = new Palette;
+        other->fill(Qt::red, false);
+        const auto bound = [&scene](Palette *palette) {
+            return scene.images[0]->palette() == palette && scene.canvas().palette() == palette
+                && scene.canvas().image().colorTable() == palette->colourTable();
+        };
+        scene.draw(0, 5);
+        scene.view->swapPalette(&scene.palette);
+        scene.view->swapPalette(other);
+        QVERIFY(bound(other) && scene.stack.count() == 2);
+        scene.reopen();
+        scene.stack.undo();
+        QVERIFY(bound(&scene.palette));
+        QCOMPARE(scene.at(0, 5), 1);
+        scene.stack.redo();
+        QVERIFY(bound(other));
+        scene.stack.undo();
+        delete other;
+        scene.stack.redo();
+        QVERIFY(bound(&scene.palette)); // what was deleted since is not taken
+    }
+
+    void imageImportsMapOntoThePalette()
+    {
+        const struct
+        {
+            Quenmora::ImageMode mode;
+            bool scaled;
+            int corner, farCorner;
+        } cases[] = {
+            {Quenmora::LoRes_128x96, false, 0xE0, 5},
+            {Quenmora::Layer2_640x256, true, 0, 0}, // black comes nearest to red among the first 16 entries
+        };
+        for (const auto &[mode, scaled, corner, farCorner] : cases) {
+            ImageScene scene(mode);
+            QSignalSpy errors(scene.view.get(), &View::error);
+            QVERIFY(writeFile(scene.file("nonsense.png"), "not a picture"));
+            scene.choose(Open, "nonsense.png");
+            QCOMPARE(errors, (QList<QVariantList>{{"Could not read the image file"}}));
+            const QSize size = scene.stored(0).size();
+            scene.images[0]->setImage(plainImage(size, 5));
+            scene.show(0);
+            QVERIFY(plainPicture({40, 30}, Qt::red).save(scene.file("in.png")));
+            scene.choose(Open, "in.png");
+            auto *dialog = scene.view->findChild<ImageEditor::ImportDialog *>();
+            dialog->findChild<QCheckBox *>()->setChecked(scaled);
+            dialog->accept();
+            QCOMPARE(scene.at(0, 0), corner);
+            QCOMPARE(scene.stored(0).pixelIndex(size.width() - 1, size.height() - 1), farCorner);
+            scene.stack.undo();
+            QCOMPARE(scene.at(0, 0), 5);
+        }
+    }
+
+    void imageImportKeepsTheMachinesColours()
+    {
+        ImageScene scene(Quenmora::LoRes_128x96);
+        scene.show(0);
+        QImage picture = plainPicture({2, 1}, Qt::black);
+        picture.setPixel(1, 0, qRgb(255, 255, 255));
+        QVERIFY(picture.save(scene.file("in.png")));
+        for (const bool keep : {true, false}) {
+            scene.choose(Open, "in.png");
+            auto *dialog = scene.view->findChild<ImageEditor::ImportDialog *>();
+            const QList<QCheckBox *> boxes = dialog->findChildren<QCheckBox *>();
+            boxes[0]->setChecked(true); // scaled
+            QVERIFY(boxes[1]->isChecked()); // by itself
+            boxes[1]->setChecked(keep);
+            dialog->accept();
+            QSet<int> entries;
+            for (int x = 0; x < 128; ++x)
+                entries.insert(scene.stored(0).pixelIndex(x, 0));
+            QCOMPARE(entries.size() == 2, keep); // or shades of grey between them
+        }
+        // clear pixels get the palette's transparent entry, which is the nearest of an opaque one
+        scene.palette.setTransparencyIndex(0);
+        picture = plainPicture({2, 1}, Qt::black).convertToFormat(QImage::Format_ARGB32);
+        picture.setPixel(1, 0, 0);
+        for (const bool keep : {true, false}) {
+            QVERIFY(picture.save(scene.file("in.png")));
+            scene.images[0]->setImage(plainImage({128, 96}, 5));
+            scene.show(0);
+            scene.choose(Open, "in.png");
+            auto *dialog = scene.view->findChild<ImageEditor::ImportDialog *>();
+            QVERIFY(dialog->findChildren<QCheckBox *>()[2]->isChecked());
+            for (QCheckBox *box : dialog->findChildren<QCheckBox *>())
+                box->setChecked(keep && box->text() != "Scale to fill the image");
+            dialog->accept();
+            QCOMPARE(scene.stored(0).pixelIndex(0, 0) != 0, keep);
+            QCOMPARE(scene.stored(0).pixelIndex(1, 0), 0);
+        }
+        QVERIFY(plainPicture({2, 1}, qRgb(50, 0, 0)).save(scene.file("in.png")));
+        scene.choose(Open, "in.png");
+        const QList<QCheckBox *> boxes =
+            scene.view->findChild<ImageEditor::ImportDialog *>()->findChildren<QCheckBox *>();
+        QVERIFY(!boxes[1]->isEnabled() && !boxes[1]->isChecked());
+    }
+
+    void imageImportsMayBringTheirPalette_data()
+    {
+        QTest::addColumn<Quenmora::ImageMode>("mode");
+        QTest::addColumn<int>("colours");
+        QTest::newRow("256 colours") << Quenmora::Layer2_256x192 << 255;
+        QTest::newRow("16 colours") << Quenmora::Layer2_640x256 << 15;
+    }
+
+    void imageImportsMayBringTheirPalette()
+    {
+        QFETCH(Quenmora::ImageMode, mode);
+        QFETCH(int, colours);
+        ImageScene scene(mode);
+        Project project;
+        const QPointer<Palette> blank = project.createPalette(CreateAction::Blank, "in");
+        const QPointer<Image> image = project.createImage(mode, "Title", blank->id());
+        image->setImage(plainImage(Image::sizeOf(mode), 5));
+        scene.view->setImage(image);
+        QImage picture(64, 64, QImage::Format_ARGB32);
+        for (int i = 0; i < 64 * 64; ++i)
+            picture.setPixel(i % 64, i / 64, i < 64 ? 0 : NineBitColour::shown(i % 512));
+        QVERIFY(picture.save(scene.file("in.png")));
+        scene.choose(Open, "in.png");
+        auto *dialog = scene.view->findChild<ImageEditor::ImportDialog *>();
+        dialog->findChildren<QCheckBox *>()[3]->setChecked(true);
+        dialog->accept();
+        const QPointer<Palette> made = image->palette();
+        QVERIFY(made && made != blank && made->name() == "in 2");
+        QSet<int> used;
+        for (int i = 0; i < 64 * 64; ++i) {
+            const int index = image->image().pixelIndex(i % 64, i / 64);
+            QCOMPARE(index == made->transparencyIndex(), i < 64);
+            if (i >= 64)
+                used.insert(made->rawColour(index));
+        }
+        QCOMPARE(used.size(), colours);
+        QCOMPARE(image->image().pixelIndex(64, 64), 5);
+        QCOMPARE(scene.stack.count(), 1);
+        scene.stack.undo();
+        QVERIFY(image->palette() == blank && image->image().pixelIndex(3, 3) == 5);
+        scene.stack.redo();
+        QVERIFY(image->palette() == made && image->image().pixelIndex(3, 3) != 5);
+        // fewer colours of the palette that is there
+        QSignalSpy swapped(scene.view.get(), &View::paletteSwapped);
+        scene.choose(Open, "in.png");
+        dialog->findChild<ReductionBox *>()->setReduction(Dithering::Ordered);
+        dialog->accept();
+        QCOMPARE(scene.stack.count(), 2);
+        QCOMPARE(swapped.size(), 0);
+    }
+};
+
+QUENMORA_TEST_MAIN(TestImageEditor)
+#include "tst_imageeditor.moc"

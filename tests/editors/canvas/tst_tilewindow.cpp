@@ -1,0 +1,136 @@
+// What the tile editor has of its own.
+
+#include "editors/palette/colourselector.h"
+#include "model/project.h"
+#include "ui/numberstepper.h"
+
+#include "support/pixelscenes.h"
+
+#include <QCheckBox>
+#include <QSpinBox>
+
+using namespace PixelScenes;
+using namespace Quenmora::Ui;
+
+class TestTileWindow : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void tileOffsetMovesThePixelsIntoItsBank()
+    {
+        TileScene scene;
+        const auto boxes = scene.window.findChildren<QSpinBox *>();
+        QSpinBox *offset = *std::ranges::find(boxes, 16, &QSpinBox::maximum);
+        scene.draw(0, 1);
+        scene.canvas().setImageType(Full256);
+        scene.canvas().remap(3);
+        QCOMPARE(scene.shown(1), 1); // only images of 16 colours have banks
+        scene.canvas().setImageType(Offset16);
+        offset->setValue(3);
+        QCOMPARE(scene.tiles->tileOffset(0), 2);
+        QCOMPARE(scene.stack.count(), 1);
+        scene.draw(0, 2);
+        scene.draw(1, 2);
+        scene.tiles->setTileOffset(2, std::numeric_limits<int>::max()); // as a file may have it
+        scene.draw(2, 1);
+        QCOMPARE(offset->value(), 16);
+        const QList pixels{scene.at(0, 0), scene.at(0, 1), scene.at(0, 2), scene.at(1, 2), scene.at(2, 1)};
+        QCOMPARE(pixels, (QList{0x20, 0x21, 0x21, 1, 0xF1}));
+    }
+
+    void tileStructureReloadsTheTile()
+    {
+        TileScene scene;
+        scene.draw(7, 1);
+        scene.tiles->moveTile(7, 0);
+        QCOMPARE(scene.shown(1), 0);
+        scene.tiles->deleteTile(3);
+        QCOMPARE(scene.window.tileIndex(), 6);
+        const auto *stepper = scene.window.findChild<NumberStepper *>();
+        QCOMPARE(stepper->findChild<QSpinBox *>()->text(), "7 (index 6)");
+        const auto before = scene.tiles->snapshot();
+        scene.stack.undo(); // of the tile, which has another number now
+        QVERIFY(scene.tiles->snapshot() != before);
+        scene.stack.redo();
+        QCOMPARE(scene.tiles->snapshot(), before);
+        scene.show(0);
+        scene.tiles->deleteTile(0);
+        QCOMPARE(scene.shown(1), 0);
+        const auto without = scene.tiles->snapshot();
+        scene.stack.undo(); // of a tile that is no more
+        QCOMPARE(scene.tiles->snapshot(), without);
+        scene.tiles->restore(before);
+        QCOMPARE(scene.shown(1), 1);
+    }
+
+    void tilesOfTheSameColoursGetAnother()
+    {
+        TileScene scene;
+        Project project;
+        const QPointer<TileSet> tiles = project.createTileSet("Tiles", {}, 4);
+        tiles->setPalette(&scene.palette);
+        const EditRecorder recorder(&project, [&scene](const QUuid &) { return &scene.stack; });
+        for (const auto &[tile, offset, pixel] : {std::tuple(0, 2, 0x25), {1, 2, 0x05}, {2, 3, 0x35}, {3, 2, 0x26}}) {
+            tiles->setTileImage(tile, plainImage({8, 8}, pixel));
+            tiles->setTileOffset(tile, offset);
+        }
+        scene.window.setTileSet(tiles);
+        scene.canvas().setPaper(0x25);
+        scene.canvas().setInk(0x27);
+        const auto pixels = [&tiles] {
+            QList<int> found;
+            for (int tile = 0; tile < tiles->count(); ++tile)
+                found += tiles->image(tile).pixelIndex(4, 4);
+            return found;
+        };
+        const QList<int> before = pixels();
+        EditorInput::trigger(*scene.canvas().contextMenu(), "Replace Colour in All Tiles");
+        QCOMPARE(pixels(), (QList{0x27, 0x27, 0x35, 0x26})); // the third has colours of its own
+        QCOMPARE(scene.shown(4), 0x27);
+        QCOMPARE(scene.stack.count(), 1);
+        scene.stack.undo();
+        QCOMPARE(pixels(), before);
+    }
+
+    void tileAttributesAreWritten()
+    {
+        TileScene scene;
+        const auto box = [&scene](const QString &text) {
+            return qobject_cast<QCheckBox *>(EditorInput::button(scene.window, text));
+        };
+        const auto attributes = [&scene](int tile) { return scene.tiles->tile(tile)->attributes(); };
+        scene.show(2);
+        box("Solid on all edges")->click();
+        QCOMPARE(attributes(2), int(Tile::TA_SOLID));
+        box("Solid top")->click();
+        box("Deadly")->click();
+        QCOMPARE(attributes(2), 0x1E);
+        QCOMPARE(box("Solid on all edges")->checkState(), Qt::PartiallyChecked);
+        scene.show(0);
+        QVERIFY(!box("Deadly")->isChecked() && attributes(0) == 0);
+    }
+
+    void theClearColourOfMapsIsMarkedAmongThoseOfTiles()
+    {
+        Project project;
+        const QPointer<TileSet> tiles = project.createTileSet("Tiles", {}, 4);
+        const QPointer<Map> map = project.createMap("Level", tiles->id(), {40, 32});
+        TileWindow window;
+        window.setTileSet(tiles);
+        auto *colours = window.findChild<ColourSelector *>();
+        const QImage before = colours->grab().toImage();
+        map->setTileTransparencyIndex(6);
+        QEnterEvent enter({}, {}, {});
+        QApplication::sendEvent(&window, &enter);
+        const QImage after = colours->grab().toImage();
+        const int width = (colours->width() - 49) / 8;
+        for (const int cell : {5, 6, 7}) {
+            const QRect area(colours->width() - (8 - cell) * width + 4, 4, width - 8, 16);
+            QCOMPARE(before.copy(area) != after.copy(area), cell == 6);
+        }
+    }
+};
+
+QUENMORA_TEST_MAIN(TestTileWindow)
+#include "tst_tilewindow.moc"
