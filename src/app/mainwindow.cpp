@@ -227,6 +227,10 @@ void MainWindow::connectPainting()
     m_tileEditor.setPaintSettings(&m_painting);
     m_spriteEditor.setPaintSettings(&m_painting);
     m_tabs.setPaintSettings(&m_painting);
+    m_tileEditor.setMapInFront([this]() -> Map * {
+        const auto *view = qobject_cast<MapEditor::View *>(m_tabs.currentWidget());
+        return view ? view->map().data() : nullptr;
+    });
     m_menuBar.editMenu()->addChoice(m_painting.action(PaintSettings::Connect));
     connect(&m_painting, &PaintSettings::habitChanged, this,
             [this] { m_state.savePainting(QJsonDocument(m_painting.toJson())); });

@@ -2,6 +2,7 @@
 
 #include "editors/animation/animationtoolbar.h"
 #include "ui/flowlayout.h"
+#include "ui/svgiconengine.h"
 
 #include <QAction>
 #include <QLabel>
@@ -9,6 +10,7 @@
 #include <QSignalBlocker>
 #include <QSpinBox>
 #include <QTimer>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -36,6 +38,7 @@ ToolPalette::Entry toggle(ToolButton button)
 EditorWidget::EditorWidget(AnimationToolBar *toolBar, QWidget *parent)
     : QWidget(parent)
     , m_timer(new QTimer(this))
+    , m_onionSkin(new QAction(themedIcon(QStringLiteral(":/Onion")), tr("Onion Skin"), this))
     , m_toolBar(toolBar)
     , m_tools(new ToolPalette(Qt::Horizontal))
     , m_cellNumbers(new QHBoxLayout)
@@ -49,6 +52,9 @@ EditorWidget::EditorWidget(AnimationToolBar *toolBar, QWidget *parent)
         m_tools->addEntry(toggle(button));
     m_index = addCellNumber(tr("Index:"), tr("The index in the selected cell"), 0);
     m_frameEditor->setZoom(UsualZoom);
+    m_onionSkin->setCheckable(true);
+    m_onionSkin->setToolTip(tr("Show the frame before faintly over this one"));
+    m_onionSkin->setStatusTip(m_onionSkin->toolTip());
     connectParts();
 }
 
@@ -75,7 +81,14 @@ void EditorWidget::buildPage()
     layout->addWidget(m_toolBar);
     layout->addWidget(tools);
     layout->addWidget(m_scroller, 1);
-    layout->addWidget(m_control);
+    auto *onionSkin = new QToolButton;
+    onionSkin->setDefaultAction(m_onionSkin);
+    onionSkin->setAccessibleName(m_onionSkin->text());
+    onionSkin->setAutoRaise(true);
+    auto *below = new QHBoxLayout;
+    below->addWidget(m_control, 1);
+    below->addWidget(onionSkin);
+    layout->addLayout(below);
     setAnimation(nullptr);
 }
 
@@ -99,6 +112,7 @@ void EditorWidget::connectParts()
     connect(m_tools, &ToolPalette::actionActivated, this, &EditorWidget::changeTileState);
     connect(m_control, &AnimationControlWidget::buttonClicked, this, &EditorWidget::mediaControlButtonClicked);
     connect(m_timer, &QTimer::timeout, this, &EditorWidget::animate);
+    connect(m_onionSkin, &QAction::toggled, this, &EditorWidget::showOnionSkin);
     connect(m_index, &QSpinBox::valueChanged, m_frameEditor, &FrameEditorWidget::setIndex);
     connect(m_frameEditor, &FrameEditorWidget::selectedCellChanged, this, [this](QPoint cell) {
         selectionChanged();
@@ -290,16 +304,25 @@ void EditorWidget::play()
     m_timer->setTimerType(Qt::PreciseTimer);
     updateInterval();
     m_timer->start();
+    showOnionSkin();
+}
+
+void EditorWidget::showOnionSkin()
+{
+    // in motion it would only blur what is shown
+    m_frameEditor->setOnionSkin(m_onionSkin->isChecked() && !isPlaying());
 }
 
 void EditorWidget::pause()
 {
     m_timer->stop();
+    showOnionSkin();
 }
 
 void EditorWidget::stop()
 {
     m_timer->stop();
+    showOnionSkin();
     m_control->action(AnimationControlWidget::Pause)->setChecked(false);
 }
 

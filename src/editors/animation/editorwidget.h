@@ -4,6 +4,7 @@
 #include "editors/animation/frameeditorwidget.h"
 #include "ui/toolpalette.h"
 
+class QAction;
 class QHBoxLayout;
 class QScrollArea;
 class QSpinBox;
@@ -34,6 +35,7 @@ public:
     [[nodiscard]] AnimationToolBar *toolBar() const { return m_toolBar; }
     [[nodiscard]] ToolPalette *tools() const { return m_tools; }
     [[nodiscard]] FrameEditorWidget *frameEditor() const { return m_frameEditor; }
+    [[nodiscard]] QAction *onionSkin() const { return m_onionSkin; }
     [[nodiscard]] AnimationControlWidget *control() const { return m_control; }
 
     /// The number of tiles or sprites there are for the cells.
@@ -78,10 +80,13 @@ private:
     void animate();
     void setAnimationDelay(int delay);
     void updateInterval();
+    /// The frame before is not shown in motion.
+    void showOnionSkin();
 
     QPointer<Animation> m_animation;
     int m_current = 0;
     QTimer *m_timer;
+    QAction *m_onionSkin;
     AnimationToolBar *m_toolBar;
     ToolPalette *m_tools;
     QHBoxLayout *m_cellNumbers;

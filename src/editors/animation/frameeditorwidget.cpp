@@ -81,6 +81,12 @@ void FrameEditorWidget::setCurrentFrame(int index)
     emit currentFrameChanged(index);
 }
 
+void FrameEditorWidget::setOnionSkin(bool on)
+{
+    m_onionSkin = on;
+    update();
+}
+
 AnimationFrame *FrameEditorWidget::frame() const
 {
     return m_animation ? m_animation->frame(m_currentFrame).data() : nullptr;
@@ -212,14 +218,25 @@ void FrameEditorWidget::paintEvent(QPaintEvent *event)
     const QPoint first(exposed.left() / cellSize(), exposed.top() / cellSize());
     const QPoint last(exposed.right() / cellSize(), exposed.bottom() / cellSize());
     const QRect cells = QRect(first, last) & QRect(QPoint(), gridSize());
+    paintCells(painter, *shown, cells);
+    if (m_onionSkin && m_currentFrame > 0) {
+        constexpr qreal Faint = 0.35;
+        painter.setOpacity(Faint);
+        paintCells(painter, *m_animation->frame(m_currentFrame - 1), cells);
+        painter.setOpacity(1);
+    }
+    paintMarks(painter);
+}
+
+void FrameEditorWidget::paintCells(QPainter &painter, const AnimationFrame &frame, const QRect &cells) const
+{
     for (int row = cells.top(); m_renderer && row <= cells.bottom(); ++row) {
         for (int column = cells.left(); column <= cells.right(); ++column) {
-            const QImage picture = m_renderer(shown->cell(row, column));
+            const QImage picture = m_renderer(frame.cell(row, column));
             if (!picture.isNull())
                 painter.drawImage(cellRect({column, row}), picture);
         }
     }
-    paintMarks(painter);
 }
 
 void FrameEditorWidget::paintMarks(QPainter &painter) const

@@ -49,6 +49,9 @@ public:
     /// The side of a cell on the screen.
     [[nodiscard]] int cellSize() const;
 
+    /// Shows the frame before faintly over the current one.
+    void setOnionSkin(bool on);
+
     [[nodiscard]] QPoint selectedCell() const { return m_selected; }
     /// Selects a cell; one outside the grid selects none.
     void setSelectedCell(QPoint cell);
@@ -103,6 +106,7 @@ private:
     [[nodiscard]] AnimationFrame *frame() const;
     template <typename Value>
     void change(void (AnimationFrame::*setter)(int row, int column, Value value), Value value);
+    void paintCells(QPainter &painter, const AnimationFrame &frame, const QRect &cells) const;
     void paintMarks(QPainter &painter) const;
     [[nodiscard]] bool accepts(const QMimeData *mimeData) const;
     /// Puts what is dragged into a cell; false when the data does not fit.
@@ -114,6 +118,7 @@ private:
     int m_indexCount = std::numeric_limits<int>::max();
     int m_currentFrame = 0;
     int m_zoom = 4;
+    bool m_onionSkin = false;
     QPoint m_selected = NoCell;
     QPoint m_dropTarget = NoCell;
     QMenu *m_menu;

@@ -106,6 +106,12 @@ void Canvas::setPaintOptions(const PaintOptions &options)
     update();
 }
 
+void Canvas::setGhost(const QImage &ghost)
+{
+    m_ghost = ghost;
+    update();
+}
+
 PixelPen Canvas::pen(Layer2Image &layer, PixelPen::Colour colour) const
 {
     const QImage before = isEditing() ? m_edit.before() : image();

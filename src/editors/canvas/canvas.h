@@ -74,6 +74,9 @@ public:
     /// How the tools paint from now on.
     void setPaintOptions(const PaintOptions &options);
 
+    /// Shows another picture faintly over the image; null for none.
+    void setGhost(const QImage &ghost);
+
     /// Whether at least one pixel is selected.
     bool hasSelection() const { return !selection().isEmpty(); }
     /// The selection in image pixels, clipped to the image; empty when there is none.
@@ -189,6 +192,7 @@ private:
     void chooseTool(Quenmora::Ui::ToolButton mode);
     void hoverAt(QPoint pixel);
     void paintImage(QPainter &painter) const;
+    void paintGhost(QPainter &painter) const;
 
     QPointer<Palette> m_palette;
     Layer2Image m_layer;
@@ -203,6 +207,7 @@ private:
     OutlineBand *m_band; ///< shows the selection
     PaintOptions m_options;
     StrokePath m_stroke;
+    QImage m_ghost;
     FloatingPixels m_floating;
     std::optional<QPoint> m_grab; ///< where the floating pixels are held, as seen from their corner
     PixelEditCommand::Kind m_nudge = PixelEditCommand::Nudge;

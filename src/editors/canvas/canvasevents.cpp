@@ -45,6 +45,7 @@ void Canvas::paintEvent(QPaintEvent *event)
     painter.setClipRegion(event->region());
     painter.fillRect(rect(), QWidget::palette().window());
     paintImage(painter);
+    paintGhost(painter);
     m_overlay.paint(painter, m_geometry);
     CanvasOverlay::paintAxes(painter, m_geometry, image().size(), m_options.symmetry);
     m_tools.tool().paint(painter);
@@ -65,6 +66,17 @@ void Canvas::paintImage(QPainter &painter) const
         return;
     const QImage part = shown.copy(visible).convertToFormat(QImage::Format_RGB32);
     painter.drawImage(QRect(m_geometry.imageRect.topLeft(), m_geometry.scaled(visible.size())), part);
+}
+
+void Canvas::paintGhost(QPainter &painter) const
+{
+    constexpr qreal Faint = 0.35;
+    const QRect visible = m_geometry.visiblePixels() & m_ghost.rect();
+    if (visible.isEmpty())
+        return;
+    painter.setOpacity(Faint);
+    painter.drawImage(QRect(m_geometry.imageRect.topLeft(), m_geometry.scaled(visible.size())), m_ghost, visible);
+    painter.setOpacity(1);
 }
 
 // ---- Mouse and keyboard ---------------------------------------------------------------------

@@ -138,12 +138,13 @@ void Layer2Image::floodFill(QPoint pixel, int index)
     }
 }
 
-void Layer2Image::replaceIndex(const QRect &area, int replaced, int index)
+void Layer2Image::replaceIndex(const QRect &area, int replaced, int index, int mask)
 {
     const QRect inside = area & m_image.rect();
     for (int y = inside.top(); y <= inside.bottom(); ++y) {
-        uchar *row = m_image.scanLine(y);
-        std::replace(row + inside.left(), row + inside.right() + 1, uchar(replaced), uchar(index));
+        uchar *row = m_image.scanLine(y) + inside.left();
+        std::replace_if(
+            row, row + inside.width(), [=](uchar pixel) { return (pixel & mask) == (replaced & mask); }, uchar(index));
     }
 }
 

@@ -55,8 +55,8 @@ public:
     /// Gives index to the four-connected region of equal pixels around pixel.
     void floodFill(QPoint pixel, int index);
 
-    /// Gives index to the pixels of an area that have another one.
-    void replaceIndex(const QRect &area, int replaced, int index);
+    /// Gives index to the pixels of an area that have another one, or as much of it as mask says.
+    void replaceIndex(const QRect &area, int replaced, int index, int mask = 0xFF);
 
     /// Sets every pixel of source, placed with its top-left at position, index 0 included.
     void paste(const QImage &source, QPoint position);

@@ -23,7 +23,7 @@ PaintOptionsBar::PaintOptionsBar(QWidget *parent) : QWidget(parent), m_sizes(new
         if (m_settings)
             m_settings->setBrushSize(chosen->data().toInt());
     });
-    m_size = addButton();
+    m_size = insertButton(0);
     m_size->setToolButtonStyle(Qt::ToolButtonTextOnly);
     m_size->setPopupMode(QToolButton::InstantPopup);
     m_size->setMenu(m_sizes);
@@ -36,11 +36,11 @@ QString PaintOptionsBar::sizeText(int size)
     return tr("%1 px").arg(size);
 }
 
-QToolButton *PaintOptionsBar::addButton()
+QToolButton *PaintOptionsBar::insertButton(int place)
 {
     auto *button = new QToolButton(this);
     button->setAutoRaise(true);
-    layout()->addWidget(button);
+    static_cast<FlowLayout *>(layout())->insertWidget(place, button);
     return button;
 }
 
@@ -53,13 +53,20 @@ void PaintOptionsBar::setSettings(PaintSettings *settings)
     m_choices.clear();
     for (const auto choice : {PaintSettings::RoundBrush, PaintSettings::Connect, PaintSettings::PixelPerfect,
                               PaintSettings::MirrorSides, PaintSettings::MirrorEnds, PaintSettings::Shade}) {
-        QToolButton *button = addButton();
+        QToolButton *button = insertButton(int(m_choices.size()) + 1); // after the size
         button->setDefaultAction(settings->action(choice));
         button->setAccessibleName(settings->action(choice)->iconText());
         m_choices.append(button);
     }
     connect(settings, &PaintSettings::changed, this, &PaintOptionsBar::showBrush);
     showBrush();
+}
+
+void PaintOptionsBar::addButton(QAction *action)
+{
+    QToolButton *button = insertButton(layout()->count());
+    button->setDefaultAction(action);
+    button->setAccessibleName(action->iconText());
 }
 
 void PaintOptionsBar::showBrush()

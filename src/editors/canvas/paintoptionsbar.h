@@ -17,10 +17,12 @@ public:
     explicit PaintOptionsBar(QWidget *parent = nullptr);
 
     void setSettings(PaintSettings *settings);
+    /// Adds a button for something else, after the others.
+    void addButton(QAction *action);
 
 private:
     static QString sizeText(int size);
-    QToolButton *addButton();
+    QToolButton *insertButton(int place);
     void showBrush();
 
     QPointer<PaintSettings> m_settings;

@@ -58,6 +58,34 @@ PixelEditor::PixelEditor(QSize imageSize, Qt::Orientation toolPalette, const QLi
         m_tools->addEntry(button);
 }
 
+QAction *PixelEditor::addOption(QWidget *page, const QString &icon, const QString &text, const QString &toolTip)
+{
+    auto *action = new QAction(themedIcon(icon), text, page);
+    action->setCheckable(true);
+    action->setToolTip(toolTip);
+    action->setStatusTip(toolTip);
+    m_optionsBar->addButton(action);
+    return action;
+}
+
+void PixelEditor::offerPreviews(QWidget *page, const QList<std::pair<QString, PreviewWindow::Source>> &sources)
+{
+    QAction *action =
+        addOption(page, QStringLiteral(":/Preview"), QCoreApplication::translate("PixelEditor", "Preview"),
+                  QCoreApplication::translate("PixelEditor", "Show how the picture will look"));
+    QObject::connect(action, &QAction::toggled, m_canvas,
+                     [this, action, sources, window = QPointer<PreviewWindow>()](bool on) mutable {
+                         if (!window) {
+                             window = new PreviewWindow(m_canvas);
+                             for (const auto &[name, source] : sources)
+                                 window->addSource(name, source);
+                             QObject::connect(window, &PreviewWindow::closed, action,
+                                              [action] { action->setChecked(false); });
+                         }
+                         window->setVisible(on);
+                     });
+}
+
 QLayout *PixelEditor::toolRows() const
 {
     auto *rows = new QVBoxLayout;
@@ -107,32 +135,49 @@ void PixelEditor::setPaintSettings(PaintSettings *settings)
     follow();
 }
 
+void PixelEditor::addMenuEntry(const QString &icon, const QString &text, const QString &toolTip,
+                               const std::function<void()> &run)
+{
+    QAction *action = m_canvas->contextMenu()->addAction(themedIcon(icon), text);
+    action->setToolTip(toolTip);
+    action->setStatusTip(toolTip);
+    QObject::connect(action, &QAction::triggered, m_canvas, run);
+}
+
 void PixelEditor::addMenuEntries()
 {
-    const auto add = [this](const QString &icon, const QString &text, const QString &toolTip,
-                            void (PixelEditor::*run)()) {
-        QAction *action = m_canvas->contextMenu()->addAction(themedIcon(icon), text);
-        action->setToolTip(toolTip);
-        action->setStatusTip(toolTip);
-        QObject::connect(action, &QAction::triggered, m_canvas, [this, run] { (this->*run)(); });
-    };
     m_canvas->contextMenu()->addSeparator();
-    add(QStringLiteral(":/ReplaceColour"), QCoreApplication::translate("PixelEditor", "Replace Colour"),
-        QCoreApplication::translate(
-            "PixelEditor",
-            "Gives pixels of the background colour the foreground colour, in the selection if there is one"),
-        &PixelEditor::replaceColour);
-    add(QStringLiteral(":/PictureBrush"), QCoreApplication::translate("PixelEditor", "Brush from Selection"),
-        QCoreApplication::translate("PixelEditor",
-                                    "Draws with what is selected, without its pixels of the background colour"),
-        &PixelEditor::takeBrush);
+    addMenuEntry(QStringLiteral(":/ReplaceColour"), QCoreApplication::translate("PixelEditor", "Replace Colour"),
+                 QCoreApplication::translate(
+                     "PixelEditor",
+                     "Gives pixels of the background colour the foreground colour, in the selection if there is one"),
+                 [this] { replaceColour(); });
+    addMenuEntry(QStringLiteral(":/PictureBrush"), QCoreApplication::translate("PixelEditor", "Brush from Selection"),
+                 QCoreApplication::translate(
+                     "PixelEditor", "Draws with what is selected, without its pixels of the background colour"),
+                 [this] { takeBrush(); });
 }
 
 void PixelEditor::replaceColour()
 {
     const QRect area = m_canvas->hasSelection() ? m_canvas->selection() : m_canvas->image().rect();
     m_canvas->applyEdit(QCoreApplication::translate("PixelEditor", "Replace Colour"), PixelEditCommand::None,
-                        [area](Layer2Image &layer) { layer.replaceIndex(area, layer.paper(), layer.ink()); });
+                        [this, area](Layer2Image &layer) { replaceColourIn(layer, area); });
+}
+
+void PixelEditor::replaceColourIn(Layer2Image &layer, const QRect &area) const
+{
+    // of 16 colours, only the place in the group counts
+    const int mask = m_canvas->imageType() == Offset16 ? 0x0F : 0xFF;
+    layer.replaceIndex(area, m_canvas->paper(), m_canvas->ink(), mask);
+}
+
+QImage PixelEditor::withColourReplaced(const QImage &picture) const
+{
+    Layer2Image layer(QSize(1, 1));
+    layer.setImage(picture);
+    replaceColourIn(layer, layer.rect());
+    return layer.image();
 }
 
 void PixelEditor::takeBrush()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "editors/canvas/paintsettings.h"
+#include "editors/canvas/previewwindow.h"
 #include "editors/common/edittarget.h"
 #include "ui/enums.h"
 #include "undo/pixeleditcommand.h"
@@ -9,7 +10,10 @@
 #include <QPointer>
 #include <QUuid>
 
+#include <utility>
+
 class Canvas;
+class Layer2Image;
 class PaintOptionsBar;
 class QEvent;
 class QLayout;
@@ -40,6 +44,15 @@ protected:
 
     ToolPalette *tools() const { return m_tools; }
     PaintOptionsBar *optionsBar() const { return m_optionsBar; }
+    /// Adds a button behind those of the bar. The action is checkable, and a child of page.
+    QAction *addOption(QWidget *page, const QString &icon, const QString &text, const QString &toolTip);
+    /// A picture with the foreground colour in place of the background colour.
+    QImage withColourReplaced(const QImage &picture) const;
+    /// Adds an entry to the end of the canvas's menu.
+    void addMenuEntry(const QString &icon, const QString &text, const QString &toolTip,
+                      const std::function<void()> &run);
+    /// Offers a window that shows these pictures of what is being painted.
+    void offerPreviews(QWidget *page, const QList<std::pair<QString, PreviewWindow::Source>> &sources);
     /// The tools with the bar close below them.
     QLayout *toolRows() const;
 
@@ -63,8 +76,8 @@ protected:
 
 private:
     void addMenuEntries();
-    /// Exchanges the background colour for the foreground colour in what is selected, or everywhere.
     void replaceColour();
+    void replaceColourIn(Layer2Image &layer, const QRect &area) const;
     void takeBrush();
 
     Canvas *const m_canvas;

@@ -1,14 +1,17 @@
 #include "editors/canvas/spritewindow.h"
 
 #include "editors/canvas/canvas.h"
+#include "editors/canvas/previews.h"
 #include "editors/canvas/scrollcanvas.h"
 #include "editors/canvas/spritelist.h"
 #include "editors/palette/colourpalette.h"
+#include "model/spriteanim.h"
 #include "ui/sectionheader.h"
 #include "ui/toolpalette.h"
 #include "undo/numbering.h"
 #include "undo/snapshotcommand.h"
 
+#include <QAction>
 #include <QFormLayout>
 #include <QScopedValueRollback>
 #include <QScrollArea>
@@ -39,11 +42,16 @@ SpriteWindow::SpriteWindow(QWidget *parent)
     , m_transparency(new QSpinBox)
     , m_header(new SectionHeader(QString()))
     , m_list(new SpriteEditor::SpriteList)
+    , m_onionSkin(addOption(this, QStringLiteral(":/Onion"), tr("Onion Skin"),
+                            tr("Show the sprite of the frame before faintly over this one")))
 {
     setObjectName(QStringLiteral("SpriteEditor"));
     setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
     buildPage();
     connectParts();
+    addPreviews();
+    addMenuEntry(QStringLiteral(":/ReplaceColour"), tr("Replace Colour in All Sprites"),
+                 tr("Does that in all sprites of the bank"), [this] { replaceColourInAllSprites(); });
     setSprites(nullptr);
 }
 
@@ -165,6 +173,7 @@ void SpriteWindow::changeSprite(int index)
 void SpriteWindow::loadSprite()
 {
     load(m_sprites->spriteImage(m_index, false, false, false));
+    showGhost();
 }
 
 void SpriteWindow::showTransparency()
@@ -177,6 +186,53 @@ void SpriteWindow::showTransparency()
     m_transparency->setRange(none ? -1 : 0, clear.pixelCount() - 1);
     m_transparency->setValue(clear.pixel());
     m_colours->setClearIndex(clear.pixel());
+}
+
+// ---- Previews -------------------------------------------------------------------------------
+
+void SpriteWindow::addPreviews()
+{
+    connect(m_onionSkin, &QAction::toggled, this, &SpriteWindow::showGhost);
+    offerPreviews(this,
+                  {{tr("Animation"), [this](int frame) { return inMotion(frame); }},
+                   {tr("Repeated"), [this](int) {
+                        return PreviewWindow::Picture{Previews::seamless(canvas()->image()), 0, {}};
+                    }}});
+}
+
+QImage SpriteWindow::pictureOf(const AnimationFrame::Cell &cell) const
+{
+    return m_sprites->renderSprite(cell.index, cell.offset, cell.rotate, cell.flip, cell.mirror);
+}
+
+const Animation *SpriteWindow::animation() const
+{
+    QList<Animation *> animations;
+    for (const QPointer<SpriteAnim> &animation : m_sprites->animations())
+        animations.append(animation);
+    return Previews::animationShowing(animations, m_index);
+}
+
+PreviewWindow::Picture SpriteWindow::inMotion(int frame) const
+{
+    const Animation *shown = m_sprites ? animation() : nullptr;
+    if (!shown)
+        return {{}, 0, tr("No animation shows this sprite")};
+    const auto picture = [this](const AnimationFrame::Cell &cell) { return pictureOf(cell); };
+    return {Previews::frame(*shown, frame, picture), Previews::interval(*shown), {}};
+}
+
+void SpriteWindow::showGhost()
+{
+    QImage ghost;
+    if (m_sprites && m_onionSkin->isChecked()) {
+        const auto picture = [this](const AnimationFrame::Cell &cell) { return pictureOf(cell); };
+        if (const Animation *shown = animation())
+            ghost = Previews::before(*shown, m_index, picture);
+        else
+            ghost = picture({.index = m_index - 1});
+    }
+    canvas()->setGhost(ghost);
 }
 
 // ---- Edits ----------------------------------------------------------------------------------
@@ -197,6 +253,18 @@ void SpriteWindow::editStructure(const QString &text, const std::function<void(S
     edit(*m_sprites);
     emit m_sprites->structureChanged(text);
     refresh();
+}
+
+void SpriteWindow::replaceColourInAllSprites()
+{
+    editStructure(tr("Replace Colour"), [this](SpriteBank &bank) {
+        for (int index = 0; index < bank.count(); ++index) {
+            const QImage before = bank.spriteImage(index, false, false, false);
+            const QImage after = withColourReplaced(before);
+            if (!Layer2Image::haveSameIndices(before, after))
+                bank.setImage(index, after);
+        }
+    });
 }
 
 void SpriteWindow::changeTransparency(int pixel)

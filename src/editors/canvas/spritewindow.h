@@ -46,6 +46,14 @@ private:
     void buildPage();
     void connectParts();
     void loadSprite();
+    void addPreviews();
+    QImage pictureOf(const AnimationFrame::Cell &cell) const;
+    /// The first animation that shows the sprite; null when none does.
+    const Animation *animation() const;
+    PreviewWindow::Picture inMotion(int frame) const;
+    void showGhost();
+    /// Exchanges the background colour for the foreground colour in the whole bank.
+    void replaceColourInAllSprites();
     void showTransparency();
     /// Makes a pixel value the one that is not drawn, as one undo step.
     void changeTransparency(int pixel);
@@ -59,6 +67,7 @@ private:
     QSpinBox *m_transparency;
     SectionHeader *m_header;
     SpriteEditor::SpriteList *m_list;
+    QAction *m_onionSkin;
     int m_index = 0;
     EditRecorder::StackProvider m_stackFor;
     bool m_writing = false;

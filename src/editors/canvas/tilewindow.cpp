@@ -6,6 +6,7 @@
 #include "editors/palette/colourselector.h"
 #include "editors/palette/paletteeditor.h"
 #include "model/map.h"
+#include "model/mapobjects.h"
 #include "model/project.h"
 #include "ui/expandablesection.h"
 #include "ui/numberstepper.h"
@@ -66,6 +67,9 @@ TileWindow::TileWindow(QWidget *parent)
     scroller->setWidget(buildPage());
     setContent(scroller);
     connectParts();
+    addPreviews();
+    addMenuEntry(QStringLiteral(":/ReplaceColour"), tr("Replace Colour in All Tiles"),
+                 tr("Does that in all tiles of this palette offset"), [this] { replaceColourInAllTiles(); });
     setTileSet(nullptr);
 }
 
@@ -204,6 +208,52 @@ void TileWindow::showClearColour()
     m_colours->setClearIndex(pixel < 0 ? -1 : (m_offset->value() - 1) * BankSize + pixel);
 }
 
+// ---- Previews -------------------------------------------------------------------------------
+
+void TileWindow::addPreviews()
+{
+    offerPreviews(this,
+                  {{tr("Repeated"), [this](int) { return repeated(); }},
+                   {tr("On the Map"), [this](int) { return onTheMap(); }},
+                   {tr("Animation"), [this](int frame) { return inMotion(frame); }}});
+}
+
+PreviewWindow::Picture TileWindow::repeated() const
+{
+    const QImage picture = Previews::seamless(canvas()->image());
+    return {m_tileSet && m_tileSet->hiRes() ? picture.scaled(picture.width(), picture.height() * 2) : picture, 0, {}};
+}
+
+PreviewWindow::Picture TileWindow::onTheMap()
+{
+    constexpr int Neighbours = 3;
+    const Map *map = m_mapInFront && m_tileSet ? m_mapInFront() : nullptr;
+    if (!map || map->tileSet() != m_tileSet)
+        return {{}, 0, tr("No map of this tile set is in front")};
+    const auto place = m_place.find(*map, tileIndex());
+    if (!place)
+        return {{}, 0, tr("The map in front does not show this tile")};
+    return {Previews::surroundings(*map, *place, Neighbours), 0, {}};
+}
+
+PreviewWindow::Picture TileWindow::inMotion(int frame) const
+{
+    QList<Animation *> animations;
+    for (const QPointer<MapObjects> &blocks :
+         m_tileSet ? m_tileSet->blockSets() : QHash<QUuid, QPointer<MapObjects>>()) {
+        for (const QPointer<TileAnimation> &animation :
+             blocks ? blocks->animations() : QList<QPointer<TileAnimation>>())
+            animations.append(animation);
+    }
+    const Animation *animation = Previews::animationShowing(animations, tileIndex());
+    if (!animation)
+        return {{}, 0, tr("No animation shows this tile")};
+    const auto picture = [this](const AnimationFrame::Cell &cell) {
+        return m_tileSet->tileImage(cell.index, cell.rotate, cell.flip, cell.mirror, cell.offset);
+    };
+    return {Previews::frame(*animation, frame, picture), Previews::interval(*animation), {}};
+}
+
 // ---- Edits ----------------------------------------------------------------------------------
 
 void TileWindow::writeTile(const QPointer<TileSet> &tileSet, int index, const QImage &image)
@@ -229,6 +279,23 @@ void TileWindow::paletteOffsetChanged(int offset)
     canvas()->remap(offset);
     showBank(offset);
     writeTile(m_tileSet, tileIndex(), canvas()->image());
+}
+
+void TileWindow::replaceColourInAllTiles()
+{
+    const Tile *shown = m_tileSet ? m_tileSet->tile(tileIndex()) : nullptr;
+    if (!shown)
+        return;
+    emit m_tileSet->structureAboutToChange();
+    for (int index = 0; index < m_tileSet->count(); ++index) {
+        const QImage before = m_tileSet->image(index);
+        const QImage after = withColourReplaced(before);
+        if (m_tileSet->tileOffset(index) != shown->offset() || Layer2Image::haveSameIndices(before, after))
+            continue;
+        m_tileSet->setTileImage(index, after);
+        m_tileSet->notifyImageChanged(index);
+    }
+    emit m_tileSet->structureChanged(tr("Replace Colour"));
 }
 
 void TileWindow::foreColourChanged(int index)

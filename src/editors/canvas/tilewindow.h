@@ -1,12 +1,14 @@
 #pragma once
 
 #include "editors/canvas/pixeleditor.h"
+#include "editors/canvas/previews.h"
 #include "model/palette.h"
 #include "model/tileset.h"
 #include "ui/dockwidget.h"
 #include "undo/editrecorder.h"
 
 class ColourSelector;
+class Map;
 class NumberStepper;
 class PaletteEditor;
 class QSpinBox;
@@ -24,6 +26,8 @@ public:
     void setUndoStackProvider(const EditRecorder::StackProvider &stackFor) { m_stackFor = stackFor; }
 
     TileSet *tileSet() const { return m_tileSet; }
+    /// Who knows the map in front, for previews; it answers null when there is none.
+    void setMapInFront(const std::function<Map *()> &mapInFront) { m_mapInFront = mapInFront; }
     /// Null shows the placeholder.
     void setTileSet(const QPointer<TileSet> &tileSet);
     /// Draws with a palette, and binds the tile set to it.
@@ -56,6 +60,12 @@ private:
     QWidget *buildPage();
     void connectParts();
     void loadTile();
+    void addPreviews();
+    PreviewWindow::Picture repeated() const;
+    PreviewWindow::Picture onTheMap();
+    PreviewWindow::Picture inMotion(int frame) const;
+    /// Exchanges the background colour for the foreground colour in all tiles that are drawn with the same colours.
+    void replaceColourInAllTiles();
     void showBank(int bank);
     void showClearColour();
     void pushEdit(const QString &text, const QImage &before, const QImage &after, PixelEditCommand::Kind kind);
@@ -68,6 +78,8 @@ private:
     ColourSelector *m_colours;
     TileAttributesEditor *m_attributes;
     PaletteEditor *m_paletteEditor;
+    std::function<Map *()> m_mapInFront;
+    Previews::PlaceOnMap m_place;
     EditRecorder::StackProvider m_stackFor;
     bool m_writing = false;
 };

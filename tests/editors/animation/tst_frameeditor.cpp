@@ -99,6 +99,24 @@ private slots:
         QCOMPARE(f.editor.grab().toImage().pixelColor(5, 5), QColor(Qt::darkGray));
     }
 
+    void onionSkinShowsTheFrameBefore()
+    {
+        Fixture f;
+        f.editor.setCellRenderer([](const Cell &cell) {
+            QImage image(8, 8, QImage::Format_RGB32);
+            image.fill(cell.index == 1 ? Qt::white : Qt::black);
+            return image;
+        });
+        f.block->frame(0)->setIndex(0, 1, 1);
+        const auto shown = [&f] { return f.editor.grab().toImage().pixelColor(f.at(1, 0)).red(); };
+        f.editor.setOnionSkin(true);
+        QCOMPARE(shown(), 255); // there is no frame before
+        f.editor.setCurrentFrame(1);
+        QVERIFY(std::abs(shown() - 89) <= 1); // 35 %
+        f.editor.setOnionSkin(false);
+        QCOMPARE(shown(), 0);
+    }
+
     void sizeFollowsZoomAndAnimation()
     {
         Fixture f;
