@@ -50,7 +50,9 @@ struct TiledMap
     /// What a number of a tile means.
     struct Cell
     {
-        int tileSet = -1; ///< index in tileSets; -1 for an empty cell, or a number that no tile set has
+        /// Index in tileSets; -1 for an empty cell, or a number that no tile set has. A set that could not be read has
+        /// all numbers up to the next one's.
+        int tileSet = -1;
         int tile = 0; ///< in the tile set
         bool rotate = false; ///< turned as oriented() in model/transform.h turns pictures
         bool flip = false;
@@ -84,6 +86,8 @@ struct TiledMap
     /// by reading the map again with TiledReferences::Anywhere.
     [[nodiscard]] QStringList outside() const;
 
+    /// A number of a tile without the bits that turn it; 0 for none.
+    [[nodiscard]] static constexpr quint32 numberOf(quint32 gid) { return gid & 0x0FFFFFFF; }
     [[nodiscard]] Cell cell(quint32 gid) const;
 
     /// The uppermost tile of the visible layers in each cell. Layers are moved by whole cells; what shines through
