@@ -21,7 +21,6 @@
 #include <algorithm>
 #include <array>
 #include <bitset>
-#include <vector>
 
 namespace {
 
@@ -78,13 +77,13 @@ QJsonArray rangesOf(const QList<int> &numbers)
 QList<int> numbersOf(const QJsonValue &ranges, int count)
 {
     QList<int> numbers;
-    std::vector<bool> known(size_t(count)); // a file may name any of them twice
+    QList<bool> known(count); // a file may name any of them twice
     const QJsonArray pairs = ranges.toArray();
     for (const QJsonValue &pair : pairs) {
         const int first = std::clamp(pair[0].toInt(), 0, count);
         const int last = int(std::min<qint64>(qint64(first) + std::max(pair[1].toInt(), 0), count));
-        for (int number = first; number < last && !known[size_t(number)]; ++number) {
-            known[size_t(number)] = true;
+        for (int number = first; number < last && !known[number]; ++number) {
+            known[number] = true;
             numbers.append(number);
         }
     }
