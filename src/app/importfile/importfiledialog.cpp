@@ -137,10 +137,7 @@ void ImportFileDialog::buildForm()
     form()->addRow(tr("&Name"), m_name);
     form()->addRow(tr("Ti&le set"), m_tileSet);
     form()->addRow(tr("&Palette"), m_palette);
-    auto *options = new QFormLayout;
-    options->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-    body()->addLayout(options);
-    m_options = new OptionFields(options, this);
+    m_options = new OptionFields(form(), this); // below these
     auto *rare = new QWidget;
     auto *rareOptions = new QFormLayout(rare);
     rareOptions->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
