@@ -179,9 +179,9 @@ private slots:
         QFETCH(bool, isLossy);
         Project project;
         const auto own = project.createPalette(CreateAction::Blank, "Own");
-        own->setRawColour(0, RedWord);
+        own->setRawColour(0, NextColour::compose(3, 0, 0, false));
         own->setRawColour(9, GreyWord);
-        own->setTransparencyIndex(0); // the one that has red
+        own->setTransparencyIndex(0); // which would be exact
         AsepriteBuilder builder;
         builder.width = 16;
         builder.height = 16;
@@ -280,6 +280,7 @@ private slots:
         picture.fill(0xFFDBDBDB);
         picture.setPixel(3, 0, 0);
         picture.setPixel(4, 0, 0xFFFF0000);
+        picture.setPixel(64 + 5, 48, 0xFFFF0000); // in the middle
         QVERIFY(picture.save(m_path("title.png")));
         const QByteArray bytes = readFile(m_path("title.png"));
         const IncomingAssets own = prepared(project, "title.png", bytes, "picture-image");
@@ -293,6 +294,8 @@ private slots:
         const IncomingAssets small =
             prepared(project, "title.png", bytes, "picture-image", {{"mode", "lores"}}, added->palette);
         QVERIFY(!small.palette);
+        QCOMPARE(small.image->pixels.indexOf(small.image->pixels[5]), 5);
+        QCOMPARE(project.palette(added->palette)->rawColour(uchar(small.image->pixels[5])), RedWord);
         QCOMPARE(small.remarks,
                  QStringList(QString::fromUtf8("The picture has 256 × 192 pixels, and what does not fit "
                                                "is cut off")));

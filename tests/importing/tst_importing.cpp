@@ -214,6 +214,7 @@ private slots:
         add("font", some(768), "tiles-1bit");
         add("level.map", cells, "map-2byte", {{"width", "40"}});
         add("level.nxm", some(1280), "map-1byte", {{"width", "40"}});
+        add("noise.map", some(2000), "map-1byte", {{"width", "40"}}); // second bytes have too many values
         add("hero.SPR", some(16384), "sprites-8bit");
         add("half.spr", some(640), "sprites-packed");
         add("title.nxi", some(49152 + 512), "layer2-256");

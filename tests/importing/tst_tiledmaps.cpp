@@ -1,0 +1,160 @@
+#include "importing/addition.h"
+#include "importing/filekind.h"
+#include "importing/preview.h"
+#include "model/animatedblocks.h"
+#include "model/map.h"
+#include "model/mapobjects.h"
+#include "model/nextcolour.h"
+#include "model/project.h"
+#include "model/spritebank.h"
+#include "model/tileset.h"
+#include "support/damage.h"
+#include "support/modeltools.h"
+#include "support/testmain.h"
+
+#include <QTest>
+
+using namespace Importing;
+
+/// Maps of Tiled become tiles, maps, animations and placed sprites that look the same.
+class TestTiledMaps : public QObject
+{
+    Q_OBJECT
+
+    TemporaryFolder m_path;
+
+    Result<IncomingAssets> prepared(const Project &project, const QByteArray &text)
+    {
+        const auto file = ImportFile::open(m_path("level.tmx", text));
+        return file ? prepare(project, *file, {.kind = recognise(*file).constFirst().kind, .name = "Level"})
+                    : file.failure();
+    }
+
+    /// Three tiles of 16 × 16 pixels: of one colour, of several, of which one piece is another one turned, and one that
+    /// is animated. The map shows the second one in all orientations, nothing, and the third one; and what it has for
+    /// sprites.
+    static std::pair<QImage, QByteArray> tiledMap()
+    {
+        QImage sheet(48, 16, QImage::Format_RGB32);
+        for (int y = 0; y < 16; ++y) {
+            for (int x = 0; x < 48; ++x) {
+                const bool isTurned = x >= 24 && x < 32 && y < 8; // the piece at the left of it, across the diagonal
+                const int fromX = isTurned ? 16 + y : x;
+                const int fromY = isTurned ? x - 24 : y;
+                const int red = x < 16 ? 1 : x < 32 ? (fromX * 5 + fromY * fromY * 3) % 7 : 3;
+                sheet.setPixel(x, y, qRgb(NextColour::componentOf(red), 0, NextColour::componentOf(x < 16 ? 4 : 6)));
+            }
+        }
+        QByteArrayList gids;
+        for (quint32 cell = 0; cell < 8; ++cell)
+            gids.append(QByteArray::number(quint32(2 | (cell & 4) << 29 | (cell & 2) << 29 | (cell & 1) << 29)));
+        gids.append({"0", "3"});
+        for (int cell = 0; cell < 10; ++cell)
+            gids.append("1");
+        const QByteArray text = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+                                "<map version=\"1.10\" orientation=\"orthogonal\" width=\"10\" height=\"2\" "
+                                "tilewidth=\"16\" tileheight=\"16\" infinite=\"0\">\n"
+                                "<tileset firstgid=\"1\" name=\"set\" tilewidth=\"16\" tileheight=\"16\" "
+                                "tilecount=\"3\" columns=\"3\"><image source=\"sheet.png\" width=\"48\" "
+                                "height=\"16\"/><tile id=\"2\"><animation><frame tileid=\"0\" duration=\"100\"/>"
+                                "<frame tileid=\"1\" duration=\"200\"/></animation></tile></tileset>\n"
+                                "<layer id=\"1\" name=\"ground\" width=\"10\" height=\"2\"><data encoding=\"csv\">"
+            + gids.join(',')
+            + "</data></layer>\n<objectgroup id=\"2\" name=\"things\">"
+              "<object id=\"1\" name=\"bat\" gid=\"2147483650\" x=\"40\" y=\"20\" width=\"16\" height=\"16\"/>"
+              "<object id=\"2\" gid=\"2\" x=\"0\" y=\"16\" width=\"16\" height=\"16\"/>"
+              "<object id=\"3\" gid=\"2\" x=\"0\" y=\"16\" width=\"32\" height=\"16\"/>"
+              "<object id=\"4\" x=\"0\" y=\"16\" width=\"32\" height=\"16\"/></objectgroup></map>\n";
+        return {sheet, text};
+    }
+
+private slots:
+    /// Tiles of 16 × 16 pixels in all orientations are seen as they are drawn, and blank cells stay blank.
+    void mapsKeepTheirLook()
+    {
+        Project project;
+        const auto [sheet, text] = tiledMap();
+        QVERIFY(sheet.save(m_path("sheet.png")));
+        const auto incoming = prepared(project, text);
+        QVERIFY2(incoming && incoming->map, qPrintable(incoming.reason()));
+        const auto added = addTo(project, *incoming, {.kind = "tiled", .name = "Level"}, {});
+        QVERIFY(added);
+        const auto map = project.map(added->map);
+        QCOMPARE(map->size(), QSize(20, 4));
+        QVERIFY(project.tileSet(added->tileSet)->count() <= 1 + 3 * 4); // turned ones are not there again
+        const QImage shown =
+            map->tileLayer()->toImage(QRect({0, 0}, map->size())).convertToFormat(QImage::Format_RGB32);
+        for (int cell = 0; cell < 8; ++cell) {
+            for (int y = 0; y < 16; ++y) {
+                for (int x = 0; x < 16; ++x) { // across the diagonal first, then the flips, from bit 31 on
+                    const int fromX = cell & 4 ? 15 - x : x;
+                    const int fromY = cell & 2 ? 15 - y : y;
+                    const QRgb expected = cell & 1 ? sheet.pixel(16 + fromY, fromX) : sheet.pixel(16 + fromX, fromY);
+                    QVERIFY2(shown.pixel(cell * 16 + x, y) == expected,
+                             qPrintable(QStringLiteral("%1: %2, %3").arg(cell).arg(x).arg(y)));
+                }
+            }
+        }
+        QCOMPARE(map->tileLayer()->cellAt({16, 0}), TileMap::TileData()); // empty
+        QCOMPARE(map->tileLayer()->cellAt({18, 0}).index, 0); // below an animation
+        const auto blank = project.tileSet(added->tileSet)->tile(0)->pixels();
+        QVERIFY(std::all_of(blank.cbegin(), blank.cend(),
+                            [&map](uchar pixel) { return pixel == map->tileTransparencyIndex(); }));
+
+        // animations of tiles
+        const auto blocks = project.blocks(added->blocks);
+        QCOMPARE(blocks->animations().size(), 1);
+        const auto animation = blocks->animations().constFirst();
+        QCOMPARE(animation->size(), QSize(2, 2));
+        QCOMPARE(animation->delay(), 5);
+        QCOMPARE(animation->frameCount(), 3); // the second one for twice as long
+        QCOMPARE(animation->frame(1)->cells(), animation->frame(2)->cells());
+        QCOMPARE(map->animatedBlocks()->areas(), (QHash<QRect, QUuid>{{QRect(18, 0, 2, 2), animation->id()}}));
+        const AnimationFrame::Cell corner = animation->frame(1)->cell(0, 0); // of the first tile of the map
+        const TileMap::TileData same = map->tileLayer()->cellAt({0, 0});
+        QCOMPARE((QList{corner.index, corner.offset, int(corner.rotate)}),
+                 (QList{same.index, same.offset, int(same.rotate)}));
+
+        // objects
+        QCOMPARE(map->sprites().size(), 2);
+        const Map::PlacedSprite &bat = map->sprites()[0];
+        QCOMPARE(bat.name, "bat");
+        QCOMPARE(QPoint(bat.x, bat.y), QPoint(40, 4)); // its lower left corner is at 40, 20
+        QVERIFY(bat.mirror && !bat.flip && !bat.rotate && bat.bank == added->sprites);
+        const auto bank = project.spriteBank(added->sprites);
+        QCOMPARE(bank->renderSprite(bat.sprite, 0, false, false, false).pixel(3, 2), sheet.pixel(16 + 3, 2));
+        QCOMPARE(map->sprites()[1].sprite, bat.sprite); // equal ones are there once
+        QVERIFY(incoming->remarks.contains(
+            "Objects that are no sprites, turned, scaled, hidden or too large, and are left out: 2"));
+    }
+
+    void refusesOtherMaps()
+    {
+        Project project;
+        QByteArray text = tiledMap().second;
+        text.replace("tilewidth=\"16\"", "tilewidth=\"12\"");
+        QCOMPARE(prepared(project, text).reason(),
+                 QString::fromUtf8("The cells of the map have 12 × 16 pixels, and tiles of the Next 8 × 8: only "
+                                   "multiples of that can be cut"));
+    }
+
+    /// A damaged map becomes assets, or a message.
+    void takesDamagedMaps()
+    {
+        const auto [sheet, text] = tiledMap();
+        QVERIFY(sheet.save(m_path("sheet.png")));
+        std::minstd_rand random(7);
+        for (int i = 0; i < 500; ++i) {
+            Project project;
+            const auto incoming = prepared(project, damaged(text, random));
+            QVERIFY(incoming || !incoming.reason().isEmpty());
+            if (!incoming || incoming->numbers)
+                continue;
+            (void)previewOf(project, *incoming, {.kind = "tiled"});
+            QVERIFY(addTo(project, *incoming, {.kind = "tiled", .name = "Level"}, {}));
+        }
+    }
+};
+
+QUENMORA_TEST_MAIN(TestTiledMaps)
+#include "tst_tiledmaps.moc"
