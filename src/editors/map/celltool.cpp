@@ -10,7 +10,8 @@ bool CellTool::mousePressed(QMouseEvent *event)
 {
     // the stroke starts here, even where the pointer came without a move
     const QPoint point = event->position().toPoint();
-    if (viewport().viewRect.contains(point))
+    const bool onMap = viewport().viewRect.contains(point);
+    if (onMap)
         pointer().cell = viewport().snappedCellAt(point);
     else
         pointer().clearCell();
@@ -18,7 +19,7 @@ bool CellTool::mousePressed(QMouseEvent *event)
     m_inked = {};
     m_modifiers = event->modifiers();
     surface()->beginEdit();
-    if (brush().paintsOnPress)
+    if (onMap && brush().paintsOnPress)
         mouseMoved(event);
     return false;
 }

@@ -57,6 +57,8 @@ private slots:
         f.grid.setCurrentTileAnimation(f.animation);
         f.click(f.at(3, 2));
         f.click(f.at(3, 2)); // on the one that is there
+        f.grid.resize(f.grid.size() + QSize(0, 100)); // with room around the map
+        f.click(f.at(3, 20));
         QCOMPARE(f.map->animatedBlocks()->list().size(), 1);
         QCOMPARE(f.steps(), "Paint|Paint|Place Animation");
     }
