@@ -196,8 +196,9 @@ void MapGrid::zoomAround(QPoint point, int steps)
     if (!m_viewport.setZoom(m_viewport.zoomFactor + steps))
         return;
     m_viewport.layout(size(), m_content.mapSize());
-    m_viewport.scroll += cell - m_viewport.cellAt(point);
-    relayout();
+    const QPoint wanted = m_viewport.scroll + cell - m_viewport.cellAt(point);
+    relayout(); // which scroll bars answer with positions of theirs
+    scrollTo(wanted);
     if (m_viewport.scroll != before)
         emit scrollPositionChanged(m_viewport.scroll);
 }

@@ -76,7 +76,7 @@ PaintKit::PaintKit(TileSet *tileSet, QObject *parent)
     connect(tileSet, &TileSet::restored, this, &PaintKit::renumber, Qt::QueuedConnection);
 }
 
-void PaintKit::addStamp(const Stamp &stamp)
+void PaintKit::addStamp(Stamp stamp)
 {
     if (stamp.isEmpty())
         return;
@@ -84,7 +84,7 @@ void PaintKit::addStamp(const Stamp &stamp)
     const QString name = same == m_stamps.end() ? QString() : same->name;
     if (same != m_stamps.end())
         m_stamps.erase(same);
-    m_stamps.prepend({stamp, name});
+    m_stamps.prepend({std::move(stamp), name});
     forgetOldest();
     emit stampsChanged();
 }

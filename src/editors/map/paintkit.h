@@ -36,8 +36,8 @@ public:
 
     /// The latest first.
     [[nodiscard]] const QList<KeptStamp> &stamps() const { return m_stamps; }
-    /// Brings a stamp to the front, one that is there or a new one.
-    void addStamp(const Stamp &stamp);
+    /// Brings a stamp to the front, one that is there (of which this is a copy) or a new one.
+    void addStamp(Stamp stamp);
     void nameStamp(int index, const QString &name);
     void removeStamp(int index);
 

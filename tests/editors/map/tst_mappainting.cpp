@@ -283,6 +283,8 @@ private slots:
             kit.addStamp(stampOf({1, 2}, {i % 16, i / 16}));
         QCOMPARE(kit.stamps().size(), PaintKit::MostRecent + 1);
         QCOMPARE(kit.stamps().last().stamp, tiles); // which has a name
+        desk.pickStamp(kit.stamps().at(3).stamp); // one of its own
+        QCOMPARE(kit.stamps().first().stamp, view.grid()->brush().stamp);
         assets.tiles->insertTile(2);
         QCoreApplication::processEvents();
         QCOMPARE(kit.stamps().last().stamp.at(1, 0).index, 3);
