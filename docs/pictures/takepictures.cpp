@@ -15,6 +15,8 @@
 #include "app/exportproject/outputdialog.h"
 #include "app/exportproject/projectexport.h"
 #include "app/exportproject/recipetable.h"
+#include "app/importfile/fileimport.h"
+#include "app/importfile/importfiledialog.h"
 #include "app/mainwindow.h"
 #include "app/menus/menubar.h"
 #include "app/projectcontroller.h"
@@ -56,6 +58,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QRadioButton>
+#include <QSpinBox>
 #include <QTableView>
 #include <QTemporaryDir>
 
@@ -349,6 +352,17 @@ void PictureTaker::takePictureImport()
     settle();
     save(image.grab(), QStringLiteral("import-image"));
     image.reject();
+
+    const QString map = folder.filePath(QStringLiteral("cave.map"));
+    if (!project().maps().constFirst()->exportData(map))
+        return;
+    m_window.fileImport()->importFiles({map});
+    ImportFileDialog &any = *m_window.fileImport()->dialog();
+    any.findChild<QSpinBox *>(QStringLiteral("width"))->setValue(project().maps().constFirst()->size().width());
+    any.refresh();
+    settle();
+    save(any.grab(), QStringLiteral("import-file"));
+    any.reject();
 }
 
 void PictureTaker::takeExport()

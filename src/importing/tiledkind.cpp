@@ -75,8 +75,10 @@ public:
     void reduce(Dithering dithering)
     {
         const QSize size = m_map.tileSize;
-        const int rows = int((m_keys.size() + AtlasColumns) / AtlasColumns);
-        QImage picture(size.width() * AtlasColumns, size.height() * rows, QImage::Format_ARGB32);
+        const int count = int(m_keys.size()) + 1;
+        m_columns = std::min(count, AtlasColumns);
+        const int rows = (count + m_columns - 1) / m_columns;
+        QImage picture(size.width() * m_columns, size.height() * rows, QImage::Format_ARGB32);
         picture.fill(0);
         {
             QPainter painter(&picture);
@@ -129,7 +131,7 @@ public:
 private:
     [[nodiscard]] QPoint place(int number) const
     {
-        return {number % AtlasColumns * m_map.tileSize.width(), number / AtlasColumns * m_map.tileSize.height()};
+        return {number % m_columns * m_map.tileSize.width(), number / m_columns * m_map.tileSize.height()};
     }
 
     const TiledMap &m_map;
@@ -137,6 +139,7 @@ private:
     QStringList &m_remarks;
     QHash<std::pair<int, int>, int> m_numbers; ///< of tile set and tile
     QList<std::pair<int, int>> m_keys;
+    int m_columns = 1; ///< of tiles in the picture that is reduced
     TileReduction m_reduction;
     int m_blank = 0;
 };

@@ -124,7 +124,7 @@ void ImportFileDialog::buildForm()
     m_target->setObjectName(QStringLiteral("target"));
     m_target->setToolTip(tr("A new asset, or one of the project that takes it in, as one undo step"));
     m_at->setObjectName(QStringLiteral("at"));
-    m_at->setToolTip(tr("The number from which on those that are there are replaced"));
+    m_at->setToolTip(tr("The number from which on those that are there are replaced, counted from 0"));
     m_at->setMinimum(ImportChoices::AtTheEnd);
     m_at->setSpecialValueText(tr("Behind those that are there"));
     m_name->setObjectName(QStringLiteral("name"));

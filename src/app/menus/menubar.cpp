@@ -37,6 +37,10 @@ void MenuBar::setFileChooser(const FileChooser &chooser)
 {
     for (ProjectMenu *menu : findChildren<ProjectMenu *>(Qt::FindDirectChildrenOnly))
         menu->setFileChooser(chooser);
+    m_file->setFilesChooser([chooser](const FileRequest &request, QWidget *parent) {
+        const QString file = chooser(request, parent);
+        return file.isEmpty() ? QStringList() : QStringList{file};
+    });
 }
 
 void MenuBar::setImportAgainCheck(const std::function<bool(const QUuid &)> &canImport)
