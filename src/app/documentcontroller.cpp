@@ -70,6 +70,8 @@ DocumentController::DocumentController(const DocumentViews &views, ProjectContro
     const auto stackFor = [this](const QUuid &id) { return undoStackFor(id); };
     m_views.tileEditor->setUndoStackProvider(stackFor);
     m_views.spriteEditor->setUndoStackProvider(stackFor);
+    m_views.palette->setUndoStackProvider([this](const QUuid &id) { return recordingStackFor(id); });
+    connect(m_views.palette, &PaletteWindow::refused, this, &DocumentController::error);
     connectTabs();
     connectDocks();
 }

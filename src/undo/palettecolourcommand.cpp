@@ -9,6 +9,7 @@ PaletteColourCommand::PaletteColourCommand(Palette *palette, int index, quint16 
     , m_palette(palette)
     , m_before{{index, before}}
     , m_after{{index, after}}
+    , m_made(PaletteHistory::of(*palette).order())
 { }
 
 PaletteColourCommand::~PaletteColourCommand() = default;
@@ -30,7 +31,8 @@ void PaletteColourCommand::redo()
 bool PaletteColourCommand::mergeWith(const QUndoCommand *other)
 {
     const auto *newer = dynamic_cast<const PaletteColourCommand *>(other);
-    if (!newer || newer->m_palette != m_palette || newer->m_timestamp - m_timestamp > MergeInterval)
+    if (!newer || newer->m_palette != m_palette || newer->m_timestamp - m_timestamp > MergeInterval
+        || newer->m_made != m_made)
         return false;
     for (auto entry = newer->m_after.cbegin(); entry != newer->m_after.cend(); ++entry) {
         if (!m_before.contains(entry.key()))
@@ -45,6 +47,7 @@ void PaletteColourCommand::apply(const Words &words) const
 {
     if (!m_palette)
         return;
+    const PaletteOrder since = PaletteOrder::since(m_made, PaletteHistory::of(*m_palette).order());
     for (auto entry = words.cbegin(); entry != words.cend(); ++entry)
-        m_palette->setRawColour(entry.key(), entry.value());
+        m_palette->setRawColour(since(entry.key()), entry.value());
 }

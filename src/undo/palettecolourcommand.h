@@ -1,6 +1,7 @@
 #pragma once
 
 #include "undo/editclock.h"
+#include "undo/paletteorder.h"
 
 #include <QMap>
 #include <QPointer>
@@ -38,6 +39,7 @@ private:
     QPointer<Palette> m_palette;
     Words m_before;
     Words m_after;
+    PaletteOrder m_made; ///< when these were the numbers of the entries
     qint64 m_timestamp = EditClock::now();
     bool m_applied = true;
 };

@@ -13,6 +13,7 @@
 #include "ui/assettitle.h"
 #include "ui/replacing.h"
 #include "ui/toolpalette.h"
+#include "undo/paletteorder.h"
 #include "undo/snapshotcommand.h"
 
 #include <QBuffer>
@@ -137,6 +138,12 @@ void View::setPalette(const QPointer<Palette> &palette)
 {
     canvas()->bindPalette(palette);
     m_colours->setPalette(palette);
+    disconnect(m_reordered);
+    if (!palette)
+        return;
+    m_reordered = connect(&PaletteHistory::of(*palette), &PaletteHistory::reordered, this, [this](const auto &order) {
+        load(m_image ? m_image->image() : order.in(canvas()->image()));
+    });
 }
 
 void View::setForeIndex(int index)

@@ -76,6 +76,7 @@ private:
     void pushEdit(const QString &text, const QImage &before, const QImage &after, PixelEditCommand::Kind kind);
 
     QPointer<Image> m_image;
+    QMetaObject::Connection m_reordered; ///< tells that the palette of the picture has another order
     ColourPalette *m_colours;
     QPointer<QUndoStack> m_undoStack;
     QFileDialog *m_importFile = nullptr;

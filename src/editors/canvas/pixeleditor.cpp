@@ -6,6 +6,7 @@
 #include "model/palette.h"
 #include "ui/svgiconengine.h"
 #include "ui/toolpalette.h"
+#include "undo/paletteorder.h"
 
 #include <QAction>
 #include <QCoreApplication>
@@ -195,10 +196,21 @@ void PixelEditor::load(const QImage &pixels)
 }
 
 void PixelEditor::push(QUndoStack *stack, const QString &text, const QImage &before, const QImage &after,
-                       PixelEditCommand::Apply apply, const QVariant &mergeKey, PixelEditCommand::Kind kind)
+                       const PixelEditCommand::Apply &apply, const QVariant &mergeKey,
+                       PixelEditCommand::Kind kind) const
 {
-    if (stack)
-        stack->push(new PixelEditCommand(text, before, after, std::move(apply), mergeKey, kind));
+    if (!stack)
+        return;
+    const QPointer<Palette> palette = m_canvas->palette();
+    const PaletteOrder made = palette ? PaletteHistory::of(*palette).order() : PaletteOrder();
+    // the entries of the palette may have changed places by then
+    const auto applyNow = [apply, palette, made](const QImage &pixels) {
+        const PaletteOrder now = palette ? PaletteHistory::of(*palette).order() : made;
+        apply(PaletteOrder::since(made, now).in(pixels));
+    };
+    // and what was done before that is no part of what is done since
+    const QVariant key = made.changesNothing() ? mergeKey : QVariant(QVariantList{mergeKey, made.asBytes()});
+    stack->push(new PixelEditCommand(text, before, after, applyNow, key, kind));
 }
 
 QString PixelEditor::mergeKey(const QUuid &asset, int index)

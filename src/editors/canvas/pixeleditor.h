@@ -65,8 +65,8 @@ protected:
     bool isLoading() const { return m_loading; }
 
     /// Pushes a finished edit; without a stack it stays applied and is not recorded.
-    static void push(QUndoStack *stack, const QString &text, const QImage &before, const QImage &after,
-                     PixelEditCommand::Apply apply, const QVariant &mergeKey, PixelEditCommand::Kind kind);
+    void push(QUndoStack *stack, const QString &text, const QImage &before, const QImage &after,
+              const PixelEditCommand::Apply &apply, const QVariant &mergeKey, PixelEditCommand::Kind kind) const;
     /// Names an element of an asset for merging: steps of one tile or sprite merge, those of two do not.
     static QString mergeKey(const QUuid &asset, int index);
 

@@ -128,3 +128,19 @@ void PaletteEditor::createGradient()
         m_palette->setColour(m_first + k, colour, m_palette->priority(m_first + k));
     }
 }
+
+void PaletteEditor::createEvenGradient()
+{
+    if (!m_palette)
+        return;
+    const ChannelLevels start = Channel::levelsOf(m_palette->colour(m_first));
+    const ChannelLevels end = Channel::levelsOf(m_palette->colour(m_last));
+    const int steps = m_last - m_first;
+    for (int k = 1; k < steps; ++k) {
+        ChannelLevels levels;
+        for (size_t channel = 0; channel < levels.size(); ++channel)
+            levels[channel] = (start[channel] * (steps - k) * 2 + end[channel] * k * 2 + steps) / (2 * steps);
+        const int entry = m_first + k;
+        m_palette->setColour(entry, Channel::keepingLevels(Channel::colourOf(levels)), m_palette->priority(entry));
+    }
+}

@@ -20,6 +20,7 @@ public:
     explicit PaletteEditor(QWidget *parent = nullptr);
 
     Palette *palette() const { return m_palette; }
+    PaletteGrid *grid() const { return m_grid; }
     int first() const { return m_first; }
     int last() const { return m_last; }
 
@@ -35,6 +36,8 @@ public slots:
     /// Spreads the colours between the two ends of the selection over it; the ends, and every entry's
     /// priority, stay. Nothing happens between equal colours, or with nothing in between.
     void createGradient();
+    /// The same in even steps: every channel takes the nearest of its eight levels.
+    void createEvenGradient();
 
 signals:
     /// Another palette, or none, is shown.

@@ -13,6 +13,7 @@
 namespace {
 
 constexpr int Cell = 16;
+constexpr int Mark = 5;
 constexpr int Columns = 16;
 constexpr int Side = Cell * Columns;
 
@@ -47,10 +48,17 @@ void PaletteGrid::setPalette(const QPointer<Palette> &palette)
         m_palette->disconnect(this);
     m_palette = palette;
     m_dragging = false;
+    m_marks.clear();
     if (m_palette) {
         connect(m_palette, &Palette::colourChanged, this, &PaletteGrid::updateColour);
         connect(m_palette, &QObject::destroyed, this, qOverload<>(&QWidget::update));
     }
+    update();
+}
+
+void PaletteGrid::setMarks(const QSet<int> &entries)
+{
+    m_marks = entries == m_marks ? QSet<int>() : entries;
     update();
 }
 
@@ -99,6 +107,11 @@ void PaletteGrid::paintEvent(QPaintEvent *)
         painter.drawRect(QRect(corner, QSize(Cell - 1, Cell - 1)));
         if (m_palette && index == m_palette->transparencyIndex())
             ColourMarks::paintClear(painter, QRect(corner, QSize(Cell - 1, Cell - 1)));
+        if (m_marks.contains(index)) {
+            painter.setPen(Qt::black);
+            painter.setBrush(Qt::white);
+            painter.drawRect(QRect(corner, QSize(Mark, Mark)).translated(Mark - 1, Mark - 1));
+        }
     }
 }
 
@@ -169,9 +182,10 @@ bool PaletteGrid::event(QEvent *event)
     const auto *help = static_cast<QHelpEvent *>(event);
     if (m_palette && rect().contains(help->pos())) {
         const int index = indexAt(help->pos());
-        QToolTip::showText(help->globalPos(),
-                           tr("Index %1: $%2").arg(index).arg(m_palette->rawColour(index), 4, 16, QLatin1Char('0')),
-                           this);
+        QString text = tr("Index %1: $%2").arg(index).arg(m_palette->rawColour(index), 4, 16, QLatin1Char('0'));
+        if (const QString note = m_notes ? m_notes(index) : QString(); !note.isEmpty())
+            text += u'\n' + note;
+        QToolTip::showText(help->globalPos(), text, this);
     }
     return true;
 }

@@ -3,7 +3,10 @@
 #include "model/palette.h"
 
 #include <QPointer>
+#include <QSet>
 #include <QWidget>
+
+#include <functional>
 
 /// The 256 colours of a palette in 16 rows, of which a run of neighbours in palette order is selected.
 class PaletteGrid : public QWidget
@@ -21,6 +24,12 @@ public:
     int lastSelected() const { return m_last; }
     /// Selects a run without a signal; first must not be behind last.
     void setSelection(int first, int last);
+
+    /// Adds a line to the tool tip of every entry.
+    void setNotes(const std::function<QString(int entry)> &notes) { m_notes = notes; }
+    /// Marks entries until others are marked or another palette is shown; marking the same ones unmarks them.
+    void setMarks(const QSet<int> &entries);
+    [[nodiscard]] const QSet<int> &marks() const { return m_marks; }
 
 public slots:
     void updateColour(int index, const QColor &colour);
@@ -45,4 +54,6 @@ private:
     int m_first = 0;
     int m_last = 0;
     bool m_dragging = false;
+    QSet<int> m_marks;
+    std::function<QString(int)> m_notes;
 };

@@ -1,6 +1,7 @@
 #include "editors/palette/palettewindow.h"
 
 #include "editors/palette/paletteeditor.h"
+#include "editors/palette/palettetools.h"
 #include "model/assetname.h"
 #include "ui/svgiconengine.h"
 
@@ -25,13 +26,15 @@ PaletteWindow::PaletteWindow(QWidget *parent)
     m_chooser->setMinimumContentsLength(8);
     m_chooser->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     buildMenu();
+    m_tools = new PaletteTools(m_editor, m_menu, this);
+    connect(m_tools, &PaletteTools::refused, this, &PaletteWindow::refused);
 
     auto *more = new QToolButton;
     more->setIcon(themedIcon(QStringLiteral(":/More")));
     more->setAutoRaise(true);
     more->setPopupMode(QToolButton::InstantPopup);
     more->setMenu(m_menu);
-    more->setToolTip(tr("Rename, copy or delete the palette"));
+    more->setToolTip(tr("Rename, copy, delete or sort the palette"));
     more->setAccessibleName(more->toolTip());
 
     auto *header = new QHBoxLayout;
@@ -72,8 +75,14 @@ void PaletteWindow::buildMenu()
     add(tr("&Delete"), QStringLiteral(":/Trashcan"), [this] { emit deleteRequested(m_palette->id()); });
 }
 
+void PaletteWindow::setUndoStackProvider(const EditRecorder::StackProvider &stackFor)
+{
+    m_tools->setUndoStackProvider(stackFor);
+}
+
 void PaletteWindow::setProject(const QPointer<Project> &project)
 {
+    m_tools->setProject(project);
     if (m_project)
         m_project->disconnect(this);
     m_project = project;

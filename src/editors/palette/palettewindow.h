@@ -3,8 +3,10 @@
 #include "model/palette.h"
 #include "model/project.h"
 #include "ui/dockwidget.h"
+#include "undo/editrecorder.h"
 
 class PaletteEditor;
+class PaletteTools;
 class QComboBox;
 class QMenu;
 
@@ -19,6 +21,8 @@ class PaletteWindow : public DockWidget
 public:
     explicit PaletteWindow(QWidget *parent = nullptr);
 
+    /// Where steps for a palette go when its entries change places.
+    void setUndoStackProvider(const EditRecorder::StackProvider &stackFor);
     /// Offers the palettes of a project in the chooser; null empties it.
     void setProject(const QPointer<Project> &project);
     Palette *palette() const { return m_palette; }
@@ -42,6 +46,8 @@ signals:
     void paletteChosen(QUuid id);
     void copyRequested(QUuid id);
     void deleteRequested(QUuid id);
+    /// Something could not be done, and why.
+    void refused(const QString &reason);
 
 private:
     void buildMenu();
@@ -55,5 +61,6 @@ private:
     QComboBox *m_chooser;
     QMenu *m_menu;
     PaletteEditor *m_editor;
+    PaletteTools *m_tools;
     bool m_renaming = false;
 };

@@ -1,6 +1,7 @@
 // What the three editors around a canvas have in common.
 
 #include "ui/toolpalette.h"
+#include "undo/paletteorder.h"
 
 #include "support/pixelscenes.h"
 
@@ -120,6 +121,21 @@ private slots:
         EditorInput::trigger(*canvas.contextMenu(), "Brush from Selection");
         QCOMPARE(canvas.paintOptions().brush.shape(), Brush::Picture);
         QCOMPARE(canvas.mode(), Draw);
+    }
+
+    void earlierEditsFollowTheOrderOfThePalette_data() { addScenes(); }
+
+    void earlierEditsFollowTheOrderOfThePalette()
+    {
+        const auto scene = fetchScene();
+        scene->draw(0, 5);
+        scene->canvas().setMode(MoveUp);
+        PaletteHistory::of(scene->palette).add({{1, 2}, {2, 1}}); // on the stack of another document
+        scene->canvas().setMode(MoveUp);
+        QCOMPARE(scene->stack.count(), 3); // which merge no more
+        scene->stack.setIndex(0);
+        scene->stack.redo();
+        QCOMPARE(scene->at(0, 5), 2);
     }
 
     void survivesItsAsset_data() { addScenes(); }

@@ -1,0 +1,129 @@
+#include "editors/palette/palettetools.h"
+
+#include "editors/palette/paletteeditor.h"
+#include "editors/palette/palettegrid.h"
+#include "ui/svgiconengine.h"
+#include "undo/paletteordercommand.h"
+
+#include <QMenu>
+#include <QUndoStack>
+
+#include <algorithm>
+
+PaletteTools::PaletteTools(PaletteEditor *editor, QMenu *menu, QObject *parent) : QObject(parent), m_editor(editor)
+{
+    const auto add = [this, menu](const QString &icon, const QString &text, const QString &toolTip, auto run) {
+        QAction *action = menu->addAction(themedIcon(icon), text);
+        action->setToolTip(toolTip);
+        action->setStatusTip(toolTip);
+        connect(action, &QAction::triggered, this, run);
+    };
+    const auto addOrder = [&](const QString &icon, const QString &text, const QString &toolTip, Order order,
+                              const QString &step) {
+        add(icon, text, toolTip, [this, order, step] { sort(order, step); });
+    };
+    menu->setToolTipsVisible(true);
+    menu->addSeparator();
+    addOrder(QStringLiteral(":/Sort"), tr("Sort by &Hue"),
+             tr("Orders the selected entries from red over green to blue, greys first; pictures keep their look"),
+             ByHue, tr("Sort Palette"));
+    addOrder(QStringLiteral(":/Sort"), tr("Sort by &Brightness"),
+             tr("Orders the selected entries from dark to light; pictures keep their look"), ByBrightness,
+             tr("Sort Palette"));
+    addOrder(QStringLiteral(":/Flip"), tr("Re&verse"),
+             tr("Puts the selected entries into the opposite order; pictures keep their look"), Reversed,
+             tr("Reverse Palette"));
+    addOrder(QStringLiteral(":/Swap"), tr("E&xchange Ends"),
+             tr("Lets the first and the last selected entry change places; pictures keep their look"), EndsExchanged,
+             tr("Exchange Palette Entries"));
+    menu->addSeparator();
+    add(QStringLiteral(":/Gradient"), tr("&Gradient in Machine Steps"),
+        tr("Spreads the selection from its first to its last colour, each channel in the nearest of its eight levels"),
+        [this] { m_editor->createEvenGradient(); });
+    menu->addSeparator();
+    add(QStringLiteral(":/Search"), tr("Mark &Unused Entries"), tr("Marks the entries that no pixel has"),
+        [this] { mark(Unused); });
+    add(QStringLiteral(":/Search"), tr("Mark E&qual Entries"), tr("Marks the entries whose colour others have, too"),
+        [this] { mark(Equal); });
+    m_editor->grid()->setNotes([this](int entry) {
+        if (!m_project || !m_editor->palette())
+            return QString();
+        const qint64 uses = PaletteUsers(*m_project, *m_editor->palette()).counts()[size_t(entry)];
+        return tr("%n pixel(s)", nullptr, int(std::min<qint64>(uses, INT_MAX)));
+    });
+}
+
+QList<int> PaletteTools::ordered(const QList<int> &entries, Order order) const
+{
+    const Palette &palette = *m_editor->palette();
+    QList<int> sorted = entries;
+    const auto by = [&sorted](auto key) { std::ranges::stable_sort(sorted, {}, key); };
+    const auto brightness = [&palette](int entry) { return qGray(palette.colour(entry).rgb()); };
+    switch (order) {
+    case ByHue:
+        by([&](int entry) { return std::pair(palette.colour(entry).hsvHue(), brightness(entry)); }); // -1 of greys
+        break;
+    case ByBrightness:
+        by(brightness);
+        break;
+    case Reversed:
+        std::ranges::reverse(sorted);
+        break;
+    case EndsExchanged:
+        sorted.swapItemsAt(0, sorted.size() - 1);
+        break;
+    }
+    return sorted;
+}
+
+void PaletteTools::sort(Order order, const QString &text)
+{
+    const QPointer<Palette> palette = m_editor->palette();
+    QUndoStack *stack = palette && m_stackFor ? m_stackFor(palette->id()) : nullptr;
+    if (!m_project || !stack)
+        return;
+    const PaletteUsers users(*m_project, *palette);
+    const int first = m_editor->first();
+    const int last = m_editor->last();
+    PaletteOrder moves;
+    bool canMove = false;
+    QList<QList<int>> lists = users.movable(first, last);
+    if (order == EndsExchanged) {
+        // these two or none
+        const bool both = lists.size() == 1 && !users.fixed().test(size_t(first)) && !users.fixed().test(size_t(last));
+        lists = both ? lists : QList<QList<int>>();
+    }
+    for (const QList<int> &entries : lists) {
+        if (entries.size() < 2)
+            continue;
+        canMove = true;
+        moves = moves.then(PaletteOrder(entries, ordered(entries, order)));
+    }
+    if (!canMove) {
+        emit refused(first == last
+                         ? tr("Select the entries that are to change places")
+                         : tr("The entries cannot change places: tiles and 4-bit sprites need theirs in their "
+                              "group of 16, and transparent entries, and those of tiles that are drawn with "
+                              "several palette offsets, must stay where they are"));
+        return;
+    }
+    if (!moves.changesNothing())
+        stack->push(new PaletteOrderCommand(text, m_project, palette, moves));
+}
+
+void PaletteTools::mark(Mark mark)
+{
+    const QPointer<Palette> palette = m_editor->palette();
+    if (!palette || !m_project)
+        return;
+    QSet<int> marked;
+    const auto counts = PaletteUsers(*m_project, *palette).counts();
+    QHash<quint16, int> found;
+    for (int entry = 0; entry < Palette::Size; ++entry)
+        ++found[palette->rawColour(entry)];
+    for (int entry = 0; entry < Palette::Size; ++entry) {
+        if (mark == Unused ? counts[size_t(entry)] == 0 : found.value(palette->rawColour(entry)) > 1)
+            marked.insert(entry);
+    }
+    m_editor->grid()->setMarks(marked);
+}

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "model/project.h"
+#include "undo/editrecorder.h"
+#include "undo/paletteorder.h"
+
+#include <QObject>
+#include <QPointer>
+
+class PaletteEditor;
+class QMenu;
+
+/// What is done with the selected entries of a palette beyond giving them colours: they are put into another order,
+/// which all pictures that use them follow, and it is told which are used, and which are equal.
+class PaletteTools : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Adds entries to the end of a menu, for the selection of an editor.
+    PaletteTools(PaletteEditor *editor, QMenu *menu, QObject *parent);
+
+    void setProject(const QPointer<Project> &project) { m_project = project; }
+    void setUndoStackProvider(const EditRecorder::StackProvider &stackFor) { m_stackFor = stackFor; }
+
+    enum Order { ByHue, ByBrightness, Reversed, EndsExchanged };
+    /// Puts the selected entries into an order, as far as pictures let them move.
+    void sort(Order order, const QString &text);
+
+signals:
+    /// Nothing could be done, and why.
+    void refused(const QString &reason);
+
+private:
+    enum Mark { Unused, Equal };
+
+    void mark(Mark mark);
+    [[nodiscard]] QList<int> ordered(const QList<int> &entries, Order order) const;
+
+    PaletteEditor *m_editor;
+    QPointer<Project> m_project;
+    EditRecorder::StackProvider m_stackFor;
+};

@@ -1,0 +1,157 @@
+// Entries of palettes that change places, and the pictures that follow them.
+
+#include "undo/palettecolourcommand.h"
+#include "undo/paletteordercommand.h"
+
+#include "support/randomproject.h"
+#include "support/testmain.h"
+
+#include <QPainter>
+#include <QTest>
+#include <QUndoStack>
+
+namespace {
+
+PaletteOrder exchanged(int first, int second)
+{
+    return {{first, second}, {second, first}};
+}
+
+QByteArray bytesOf(const QImage &picture)
+{
+    const QImage colours = picture.convertToFormat(QImage::Format_ARGB32);
+    return {reinterpret_cast<const char *>(colours.constBits()), colours.sizeInBytes()};
+}
+
+/// All that can be seen of a project.
+QList<QByteArray> look(const Project &project)
+{
+    QList<QByteArray> seen;
+    for (const auto &tiles : project.tileSets()) {
+        for (int tile = 0; tile < tiles->count(); ++tile) {
+            QByteArray colours;
+            for (const uchar pixel : tiles->tile(tile)->pixels())
+                colours += QByteArray::number(tiles->palette()->rawColour(tiles->tileOffset(tile) * 16 + pixel % 16));
+            seen += colours;
+        }
+    }
+    for (const auto &bank : project.spriteBanks()) {
+        QSet<int> offsets{0};
+        for (const auto &map : project.maps()) {
+            for (const Map::PlacedSprite &sprite : map->sprites()) {
+                if (sprite.bank == bank->id())
+                    offsets += sprite.paletteOffset;
+            }
+        }
+        for (int sprite = 0; sprite < bank->count(); ++sprite) {
+            for (const int offset : offsets)
+                seen += bytesOf(bank->renderSprite(sprite, offset, false, false, false));
+        }
+    }
+    for (const auto &map : project.maps()) {
+        QImage picture(map->size() * 8, QImage::Format_ARGB32_Premultiplied);
+        picture.fill(Qt::transparent);
+        QPainter painter(&picture);
+        map->paintLayers(painter, {}, {QPoint(), map->size()}, 8, map->tileTransparencyIndex());
+        painter.end();
+        seen += bytesOf(picture);
+    }
+    for (const auto &image : project.images())
+        seen += bytesOf(image->image());
+    return seen;
+}
+
+/// The numbers of which pictures are made.
+QList<QByteArray> numbers(const Project &project)
+{
+    QList<QByteArray> found;
+    for (const auto &tiles : project.tileSets()) {
+        for (int tile = 0; tile < tiles->count(); ++tile)
+            found += indices(tiles->image(tile));
+    }
+    for (const auto &bank : project.spriteBanks())
+        found += indices(bank->image());
+    for (const auto &image : project.images())
+        found += indices(image->image());
+    return found << indices(project.scratchImage());
+}
+
+} // namespace
+
+class TestPaletteOrder : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void picturesLookAsBefore()
+    {
+        int moved = 0;
+        for (quint32 seed = 1; seed <= 12; ++seed) {
+            RandomProject random(seed);
+            Project &project = random.project;
+            const QPointer<Palette> palette = project.palettes().first();
+            if (seed % 3 == 0) { // with less that holds entries in their places
+                for (int tile = 0; tile < random.tiles->count(); ++tile)
+                    random.tiles->setTileOffset(tile, 3);
+                for (const auto &map : project.maps())
+                    project.deleteMap(map->id());
+                for (const auto &blocks : project.blockSets())
+                    project.deleteBlocks(blocks->id());
+            }
+            const PaletteUsers users(project, *palette);
+            QVERIFY(users.needGroups());
+            PaletteOrder order;
+            for (const QList<int> &entries : users.movable(0, 255)) {
+                QList<int> shuffled = entries;
+                for (qsizetype i = shuffled.size() - 1; i > 0; --i)
+                    shuffled.swapItemsAt(i, random.number(int(i) + 1));
+                order = order.then(PaletteOrder(entries, shuffled));
+            }
+            moved += !order.changesNothing();
+            const auto before = look(project);
+            const auto numbersBefore = numbers(project);
+            QUndoStack stack;
+            stack.push(new PaletteOrderCommand("Sort", &project, palette, order));
+            QCOMPARE(look(project), before);
+            QCOMPARE(numbers(project) == numbersBefore, order.changesNothing());
+            stack.undo();
+            QCOMPARE(look(project), before);
+            QCOMPARE(numbers(project), numbersBefore);
+        }
+        QVERIFY(moved > 3);
+    }
+
+    void pixelsAreCounted()
+    {
+        Project project;
+        const QPointer<Palette> palette = project.createPalette(CreateAction::DefaultNext, "Colours");
+        project.setScratchPalette(nullptr);
+        const QPointer<TileSet> tiles = project.createTileSet("Tiles", palette->id(), 1);
+        tiles->setTileImage(0, plainImage({8, 8}, 5));
+        tiles->setTileOffset(0, 2);
+        const QPointer<Image> image = project.createImage(Quenmora::LoRes_128x96, "Title", palette->id());
+        image->setImage(plainImage({128, 96}, 0x25));
+        const auto counts = PaletteUsers(project, *palette).counts();
+        QCOMPARE(counts[0x25], 64 + 128 * 96);
+        QVERIFY(counts[5] == 0 && counts[0] == 0);
+    }
+
+    void earlierColoursComeBackToTheirEntries()
+    {
+        Palette palette;
+        QUndoStack stack;
+        palette.setRawColour(5, 0x1234);
+        stack.push(new PaletteColourCommand(&palette, 5, 0x1111, 0x1234));
+        palette.setRawColour(5, 0);
+        palette.setRawColour(9, 0x1234);
+        PaletteHistory::of(palette).add(exchanged(5, 9)); // on the stack of another document
+        stack.undo();
+        QCOMPARE(palette.rawColour(9), 0x1111);
+        QCOMPARE(palette.rawColour(5), 0);
+        stack.redo();
+        QCOMPARE(palette.rawColour(9), 0x1234);
+    }
+};
+
+QUENMORA_TEST_MAIN(TestPaletteOrder)
+#include "tst_paletteorder.moc"
