@@ -20,6 +20,8 @@ QRgb over(QRgb beneath, QRgb colour, int opacity)
     if (alpha == 0)
         return beneath;
     const int below = qAlpha(beneath);
+    if (below == 0)
+        return (colour & RGB_MASK) | QRgb(alpha) << 24;
     const int whole = alpha + below - product(alpha, below);
     const auto mixed = [alpha, whole](int from, int to) { return from + (to - from) * alpha / whole; };
     return qRgba(mixed(qRed(beneath), qRed(colour)), mixed(qGreen(beneath), qGreen(colour)),
@@ -79,26 +81,26 @@ void AsepriteFile::Content::drawTiles(const TileCells &tiles, const Cel &cel, co
     const auto count = quint32(tileSets[tileSet].count);
     const Pixel *pixels = tilePixels[size_t(tileSet)].data<Pixel>();
     const QRect seen = area(cel).translated(-cel.at);
+    // divided once, and not for every pixel
+    std::vector<std::pair<int, int>> columns(size_t(seen.width()));
+    for (int x = seen.left(); x <= seen.right(); ++x)
+        columns[size_t(x - seen.left())] = {x / side.width(), x % side.width()};
     for (int y = seen.top(); y <= seen.bottom(); ++y) {
         const quint32 *row = tiles.cells.data() + qsizetype(y / side.height()) * tiles.size.width();
+        const int line = y % side.height();
         for (int x = seen.left(); x <= seen.right(); ++x) {
-            const quint32 cell = row[x / side.width()];
+            const auto [column, columnInTile] = columns[size_t(x - seen.left())];
+            const quint32 cell = row[column];
             const quint32 tile = cell & tiles.tileMask;
             if (tile < first || tile >= count) // no tile
                 continue;
-            int u = x % side.width();
-            int v = y % side.height();
-            if (cell & tiles.mirrorMask)
-                u = side.width() - 1 - u;
-            if (cell & tiles.flipMask)
-                v = side.height() - 1 - v;
+            int u = cell & tiles.mirrorMask ? side.width() - 1 - columnInTile : columnInTile;
+            int v = cell & tiles.flipMask ? side.height() - 1 - line : line;
             if (cell & tiles.swapMask)
                 std::swap(u, v);
             // of tiles that are not square, what is turned lacks some pixels
-            if (u < side.width() && v < side.height()) {
-                const qsizetype line = qsizetype(tile) * side.height() + v;
-                put(x + cel.at.x(), y + cel.at.y(), pixels[line * side.width() + u]);
-            }
+            if (u < side.width() && v < side.height())
+                put(x + cel.at.x(), y + cel.at.y(), pixels[(qsizetype(tile) * side.height() + v) * side.width() + u]);
         }
     }
 }

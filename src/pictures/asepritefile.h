@@ -22,7 +22,7 @@ public:
     static constexpr qint64 MaxBytes = 32 << 20; ///< of the file
     static constexpr qint64 MaxUnpacked = 64 << 20; ///< memory that its pixels take, those of all cels and tile sets
     static constexpr qint64 MaxPixels = 32 << 20; ///< in all frames together, as they are drawn
-    static constexpr qint64 MaxDrawn = 128 << 20; ///< pixels of cels that are drawn for all frames together
+    static constexpr qint64 MaxDrawn = 48 << 20; ///< pixels of cels that are drawn for all frames together
 
     enum class Direction { Forward, Reverse, PingPong, PingPongReverse };
 

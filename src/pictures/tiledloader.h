@@ -16,7 +16,7 @@ class TiledLoader
 {
 public:
     // More than any map has, and few enough to be kept
-    static constexpr qint64 MaxFileBytes = 24 << 20; ///< of all files together, pictures apart
+    static constexpr qint64 MaxFileBytes = 12 << 20; ///< of all files together, pictures apart
     static constexpr int MaxDepth = 64; ///< of elements in each other
     static constexpr int MaxLayers = 4096;
     static constexpr int MaxTileSets = 256;

@@ -1,0 +1,1 @@
+<?xml version="1.0"?><tileset name="t" tilewidth="8" tileheight="4" spacing="1" margin="2" tilecount="4" columns="2"><image source="t.png" trans="090a03"/><tile id="1"><animation><frame tileid="3" duration="9"/></animation></tile></tileset>
