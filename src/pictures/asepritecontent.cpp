@@ -76,6 +76,8 @@ template <typename Pixel, typename Put>
 void AsepriteFile::Content::drawTiles(const TileCells &tiles, const Cel &cel, const Put &put) const
 {
     const int tileSet = layers[size_t(cel.layer)].tileSet;
+    if (tileSet < 0) // it is in another file
+        return;
     const QSize side = tileSets[tileSet].tileSize;
     const quint32 first = tileSets[tileSet].firstIsEmpty ? 1 : 0;
     const auto count = quint32(tileSets[tileSet].count);

@@ -347,6 +347,8 @@ private slots:
         b.palette(Colours);
         b.layer("mixed", {.blend = 1});
         b.layer("off", {.flags = 0});
+        b.layer("of other tiles", {.type = 2, .tileSet = le32(1)});
+        b.tileMap(2, {0, 0}, {1, 1}, {1});
         b.tileSet(1, 1, 9, {8, 8}, "elsewhere", {});
         b.tileSet(2, 3, 2, {2, 1}, "tiles", indices("0123"));
         b.tags({AsepriteBuilder::tag(0, 1, 3, 2, "p\xc3\xa9"), AsepriteBuilder::tag(1, 2, 0, 0, "beyond")});
@@ -362,6 +364,7 @@ private slots:
         const auto file = AsepriteFile::read(disk.fileName());
         QVERIFY2(file, qPrintable(file.reason()));
         QCOMPARE(file->size(), QSize(4, 2));
+        QCOMPARE(frames(*file), QStringLiteral("....|.... / ....|...."));
         QCOMPARE(file->transparentIndex(), 3);
         QCOMPARE(file->grid(), QRect(-1, 2, 16, 8));
         QCOMPARE(file->duration(0), 120);
