@@ -9,6 +9,7 @@
 #include "support/randomhands.h"
 
 #include <QSpinBox>
+#include <QTest>
 
 /// Paints tiles, sprites and images, changes their lists and colours, at random.
 class RandomPixels : protected virtual RandomHands
@@ -17,6 +18,7 @@ protected:
     RandomPixels()
     {
         addPainting();
+        addPaintOptions();
         addTiles();
         addSprites();
         addColours();
@@ -30,14 +32,19 @@ private:
         addFor<4>(shown, "draw", Undoable, [this](Canvas &canvas) { // what people do most
             // Paste stays as it is, so that a paste ends in a click
             if (canvas.mode() != Paste)
-                canvas.setMode(any(QList{Draw, Line, Rectangle, RectangleFill, Circle, Fill, Pick}));
-            drag(&canvas, chance() ? Qt::LeftButton : Qt::RightButton);
+                canvas.setMode(any(QList{Draw, Line, Rectangle, RectangleFill, Circle, CircleFill, Fill, Pick}));
+            drag(&canvas, chance() ? Qt::LeftButton : Qt::RightButton, anyKeys());
             if (canvas.mode() == Paste)
                 canvas.setMode(Draw);
         });
-        addFor(shown, "select pixels", None, [this](Canvas &canvas) {
-            canvas.setMode(Select);
-            drag(&canvas);
+        addFor(shown, "select pixels", Undoable, [this](Canvas &canvas) { // or move what is selected
+            if (canvas.mode() != Select)
+                canvas.setMode(Select);
+            drag(&canvas, Qt::LeftButton, anyKeys());
+        });
+        addFor(shown, "arrow key", Undoable, [this](Canvas &canvas) {
+            QTest::keyClick(&canvas, any(QList{Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down}),
+                            chance() ? Qt::NoModifier : Qt::ShiftModifier);
         });
         addFor(shown, "pixel action", Undoable, [this](Canvas &canvas) {
             canvas.setMode(any(QList{RotateCW, RotateCCW, Flip, Mirror, MoveUp, MoveDown, MoveLeft, MoveRight, Erase,
@@ -47,6 +54,36 @@ private:
         addFor(shown, "canvas menu", Undoable,
                [this](Canvas &canvas) { any(canvas.contextMenu()->actions())->trigger(); });
     }
+    Qt::KeyboardModifiers anyKeys()
+    {
+        return any(QList<Qt::KeyboardModifier>{Qt::NoModifier, Qt::ShiftModifier, Qt::ControlModifier});
+    }
+
+    void addPaintOptions()
+    {
+        add("paint option", None, [this] {
+            PaintSettings *settings = views().tileEditor->paintSettings();
+            using Choice = PaintSettings::Choice;
+            settings
+                ->action(any(QList{Choice::Connect, Choice::PixelPerfect, Choice::Shade, Choice::RoundBrush,
+                                   Choice::MirrorSides, Choice::MirrorEnds}))
+                ->trigger();
+            if (chance())
+                settings->setBrushSize(1 + number(Brush::MaximumSize));
+            return true;
+        });
+        add("preview or onion skin", None, [this] {
+            QWidget *editor = chance() ? static_cast<QWidget *>(views().tileEditor) : views().spriteEditor;
+            QList<QAction *> options;
+            for (QAction *action : editor->findChildren<QAction *>(QString(), Qt::FindDirectChildrenOnly)) {
+                if (action->isCheckable())
+                    options.append(action);
+            }
+            any(options)->trigger();
+            return true;
+        });
+    }
+
     /// A canvas that is shown; null when there is none.
     Canvas *anyCanvas()
     {
@@ -130,6 +167,13 @@ private:
                     colours.applyColour({number(256), number(256), number(256)}, chance());
                 },
                 [&] { colours.createGradient(); });
+        });
+        addFor<2>(editor, "order colours", Undoable, [this](PaletteEditor &colours) {
+            const int first = number(Palette::Size);
+            colours.setSelection(first, first + number(Palette::Size - first));
+            choose(views().palette->paletteMenu(),
+                   any(QStringList{"Sort by &Hue", "Sort by &Brightness", "Re&verse", "E&xchange Ends",
+                                   "&Gradient in Machine Steps", "Mark &Unused Entries", "Mark E&qual Entries"}));
         });
         add("choose palette", Lasting, [this] { // with the scratch image in front it becomes that one's
             emit views().palette->paletteChosen(anyId(&Project::palettes));

@@ -221,7 +221,8 @@ void TileWindow::addPreviews()
 PreviewWindow::Picture TileWindow::repeated() const
 {
     const QImage picture = Previews::seamless(canvas()->image());
-    return {m_tileSet && m_tileSet->hiRes() ? picture.scaled(picture.width(), picture.height() * 2) : picture, 0, {}};
+    const bool tall = m_tileSet && m_tileSet->hiRes() && !picture.isNull();
+    return {tall ? picture.scaled(picture.width(), picture.height() * 2) : picture, 0, {}};
 }
 
 PreviewWindow::Picture TileWindow::onTheMap()
