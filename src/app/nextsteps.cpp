@@ -1,5 +1,6 @@
 #include "app/nextsteps.h"
 
+#include "app/menus/filemenu.h"
 #include "app/menus/mapmenu.h"
 #include "app/menus/menubar.h"
 #include "app/menus/palettemenu.h"
@@ -30,6 +31,9 @@ NextSteps::NextSteps(const MenuBar &menus, QWidget *parent) : QWidget(parent)
     add(tr("A map from a picture"), QStringLiteral(":/Import"),
         tr("Cuts a picture into tiles and makes a palette, a tile set and a map of it"), menus.mapMenu(),
         &MapMenu::showPictureDialog);
+    add(tr("Files that there are"), QStringLiteral(":/Import"),
+        tr("Looks at files of any kind, shows what they are, and makes assets of them"), menus.fileMenu(),
+        &FileMenu::showImportDialog);
     add(tr("A new palette"), QStringLiteral(":/Palette"), tr("The colours that everything else is drawn with"),
         menus.paletteMenu(), &PaletteMenu::showNewDialog);
     add(tr("A new tile set"), QStringLiteral(":/TileSet"), tr("The tiles that maps are built from"), menus.tileMenu(),
