@@ -32,7 +32,9 @@
 #include "editors/map/mapeditorview.h"
 #include "editors/map/mapgrid.h"
 #include "editors/map/maptoolpalette.h"
+#include "editors/map/paintdesk.h"
 #include "editors/map/spritepropertiespopover.h"
+#include "editors/map/terraindialog.h"
 #include "editors/palette/paletteeditor.h"
 #include "editors/palette/palettegrid.h"
 #include "editors/palette/palettewindow.h"
@@ -129,6 +131,7 @@ private:
     }
 
     void takeRecovery(const QString &sample);
+    void takePainting(MapEditor::View &view);
     void takeMenus();
     void takeDialogs();
     void takePictureImport();
@@ -209,6 +212,48 @@ void PictureTaker::takeMap()
         view->popover()->hide();
     }
     grid.setMode(Quenmora::Ui::Draw);
+    takePainting(*view);
+}
+
+/// Stamps of the level, the hill as a terrain, and the overview.
+void PictureTaker::takePainting(MapEditor::View &view)
+{
+    MapEditor::MapGrid &grid = *view.grid();
+    MapEditor::PaintDesk &desk = *view.paintDesk();
+    const QPointer<TileMap> level = view.map()->tileLayer();
+    for (const QRect &part : {QRect(1, 6, 4, 2), QRect(17, 8, 2, 5), QRect(2, 0, 4, 1), QRect(8, 6, 8, 7)})
+        desk.pickStamp(Stamp::of(*level, part)); // an island, a tree, a cloud and the house
+    constexpr int North = Terrain::North;
+    constexpr int East = Terrain::East;
+    constexpr int South = Terrain::South;
+    constexpr int West = Terrain::West;
+    Terrain hill{QStringLiteral("Hill"), false, {}};
+    for (const int earth : {22, 23})
+        hill.mark(earth, Terrain::Sides);
+    for (const int grass : {29, 30})
+        hill.mark(grass, East | South | West);
+    hill.mark(31, East | South);
+    hill.mark(32, South | West);
+    hill.mark(33, North | East);
+    hill.mark(34, North | East | West);
+    hill.mark(35, North | West);
+    if (desk.bar()->kit())
+        desk.bar()->kit()->setTerrains({hill});
+    desk.setOverviewVisible(true);
+    const QPoint over = grid.viewport().rectOfCells({10, 3, 1, 1}).center();
+    QMouseEvent move(QEvent::MouseMove, over, grid.mapToGlobal(over), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(&grid, &move);
+    while (view.paintDesk()->bar()->isShowingSoon())
+        settle();
+    shoot(QStringLiteral("map-stamps"));
+
+    desk.showTerrainDialog();
+    settle();
+    auto *dialog = view.findChild<MapEditor::TerrainDialog *>();
+    save(dialog->grab(), QStringLiteral("terrains"));
+    dialog->reject();
+    desk.setOverviewVisible(false);
+    grid.setCurrentTileIndex(0);
 }
 
 void PictureTaker::takePixels()

@@ -103,6 +103,11 @@ void PaintBar::setKit(const QPointer<PaintKit> &kit)
     showTerrains();
 }
 
+bool PaintBar::isShowingSoon() const
+{
+    return m_soon->isActive();
+}
+
 Terrain PaintBar::terrain() const
 {
     return m_kit ? m_kit->terrains().value(m_terrains->currentIndex()) : Terrain();

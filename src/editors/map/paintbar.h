@@ -26,6 +26,8 @@ public:
     [[nodiscard]] const QPointer<PaintKit> &kit() const { return m_kit; }
     /// The terrain that is chosen; one without tiles when there is none.
     [[nodiscard]] Terrain terrain() const;
+    /// Whether stamps have changed that are shown in a moment.
+    [[nodiscard]] bool isShowingSoon() const;
     /// The picture of a stamp at a size that fits into buttons.
     [[nodiscard]] static QPixmap pictureOf(const Stamp &stamp, TileSet *tileSet, int extent, qreal ratio);
 
