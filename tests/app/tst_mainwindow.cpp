@@ -2,6 +2,7 @@
 
 #include "app/menus/editmenu.h"
 #include "app/menus/filemenu.h"
+#include "app/menus/mapmenu.h"
 #include "app/menus/viewmenu.h"
 #include "app/startpage.h"
 #include "editors/canvas/canvas.h"
@@ -100,6 +101,19 @@ private slots:
         AppState state;
         QVERIFY(state.loadState());
         QCOMPARE(state.lastPath(), QDir::currentPath());
+    }
+
+    void mapMenuHasACommandForEveryLetter()
+    {
+        QStringList letters;
+        for (const QAction *action : m_window->menus()->mapMenu()->actions()) {
+            if (action->isSeparator())
+                continue;
+            const qsizetype mark = action->text().indexOf('&');
+            letters.append(action->text().mid(mark + 1, 1).toLower());
+            QVERIFY2(mark >= 0 && letters.count(letters.last()) == 1, qPrintable(action->text()));
+        }
+        QVERIFY(letters.size() > 8); // those for the map editor in front among them
     }
 
     void remembersHowPeoplePaint()

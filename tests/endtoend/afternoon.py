@@ -25,11 +25,11 @@ PATIENCE = 20  # seconds to wait for a window or a file
 
 # Where things are in a window of WINDOW pixels at the top left corner of the screen
 WINDOW = (1276, 776)
-MAP_ORIGIN, MAP_CELL = (228, 97), 32
+MAP_ORIGIN, MAP_CELL = (223, 132), 32
 PICKER_ORIGIN, PICKER_CELL = (222, 642), 64
-TILE_CANVAS, TILE_PIXEL = (1057, 306), 16
+TILE_CANVAS, TILE_PIXEL = (1052, 316), 16
 SPRITE_STROKE = (1009, 225), (1089, 225)  # six pixels of one row
-ADD_SPRITE = (1048, 542)
+ADD_SPRITE = (1044, 566)
 ADD_ANIMATION, ADD_FRAME = (235, 583), (648, 579)
 FRAME_CELL, CELL_SPRITE = (672, 370), (616, 162)
 PALETTE_TAB, FIRST_COLOUR, RED, APPLY = (1020, 740), (990, 162), (1240, 421), (1202, 545)

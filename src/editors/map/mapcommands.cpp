@@ -17,10 +17,10 @@ MapCommands::MapCommands(QObject *parent) : QObject(parent)
         tr("Puts one tile in place of another, in the selection, the map or all maps of the tile set"),
         &PaintDesk::showReplaceDialog)
         ->setShortcut(Qt::CTRL | Qt::Key_H);
-    add(QStringLiteral(":/Terrain"), tr("Edit T&errains…"), tr("Marks tiles whose borders match when they are painted"),
+    add(QStringLiteral(":/Terrain"), tr("Edit Terrain&s…"), tr("Marks tiles whose borders match when they are painted"),
         &PaintDesk::showTerrainDialog);
     addSeparator();
-    add(QStringLiteral(":/Crosshair"), tr("&Go to Cell…"), tr("Scrolls the map to a cell"), &PaintDesk::showCellDialog)
+    add(QStringLiteral(":/Crosshair"), tr("Go to &Cell…"), tr("Scrolls the map to a cell"), &PaintDesk::showCellDialog)
         ->setShortcut(Qt::CTRL | Qt::Key_G);
     m_overview = add(QStringLiteral(":/Overview"), tr("&Overview"),
                      tr("Shows the whole map in a corner, with the part that is in view to drag"), nullptr);
