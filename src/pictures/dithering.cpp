@@ -69,25 +69,26 @@ public:
         for (int cell = 0; cell < NineBitColour::Count; ++cell) {
             int reach = std::numeric_limits<int>::max(); // how far the nearest is at most, from anywhere in the cell
             for (const quint16 colour : colours)
-                reach = std::min(reach, distance(colour, cell, Part / 2));
+                reach = std::min(reach, distance(colour, cell, &Range::most));
             for (size_t i = 0; i < colours.size(); ++i) {
-                if (distance(colours[i], cell, -Part / 2) <= reach)
+                if (distance(colours[i], cell, &Range::least) <= reach)
                     m_near[size_t(cell)].push_back(uchar(i));
             }
         }
     }
 
-    /// What lies outside of all colours counts as being at their edge.
     [[nodiscard]] uchar of(const Fine &wanted) const
     {
-        const auto inside = [](int part) { return std::clamp(part, -Part / 2, 7 * Part + Part / 2 - 1); };
-        const Fine edge{inside(wanted.red), inside(wanted.green), inside(wanted.blue)};
-        const auto level = [](int part) { return (part + Part / 2) / Part; };
-        const int cell = NineBitColour::compose(level(edge.red), level(edge.green), level(edge.blue));
+        for (const int part : {wanted.red, wanted.green, wanted.blue}) {
+            if (part < -Beyond || part > 7 * Part + Beyond)
+                return nearest(m_colours, wanted);
+        }
+        const auto level = [](int part) { return std::clamp((part + Part / 2) / Part, 0, 7); };
         uchar found = 0;
         int least = std::numeric_limits<int>::max();
-        for (const uchar i : m_near[size_t(cell)]) {
-            const int distance = (fineOf(m_colours[i]) - edge).square();
+        for (const uchar i :
+             m_near[size_t(NineBitColour::compose(level(wanted.red), level(wanted.green), level(wanted.blue)))]) {
+            const int distance = (fineOf(m_colours[i]) - wanted).square();
             if (distance < least) {
                 least = distance;
                 found = i;
@@ -97,11 +98,28 @@ public:
     }
 
 private:
-    /// The squared distance of a colour to the middle of a cell, each part of it so much more or less.
-    static int distance(int colour, int cell, int more)
+    /// How far what is wrong with pixels may take a wanted colour outside of all that there are.
+    static constexpr int Beyond = 3 * Part;
+
+    /// The parts that round to a level; all that lies outside goes with the first and the last.
+    struct Range
     {
-        const auto square = [more](int a, int b) {
-            const int part = std::max(std::abs(a - b) * Part + more, 0);
+        explicit Range(int level)
+            : first(level == 0 ? -Beyond : level * Part - Part / 2)
+            , last(level == 7 ? 7 * Part + Beyond : level * Part + Part / 2)
+        { }
+        [[nodiscard]] int least(int part) const { return std::max({first - part, part - last, 0}); }
+        [[nodiscard]] int most(int part) const { return std::max(std::abs(part - first), std::abs(part - last)); }
+
+        int first;
+        int last;
+    };
+
+    /// The squared distance of a colour to what is in a cell.
+    static int distance(int colour, int cell, int (Range::*bound)(int) const)
+    {
+        const auto square = [bound](int colourLevel, int cellLevel) {
+            const int part = (Range(cellLevel).*bound)(colourLevel * Part);
             return part * part;
         };
         return square(NineBitColour::red(colour), NineBitColour::red(cell))
@@ -151,25 +169,69 @@ constexpr auto Bayer = [] {
     return thresholds;
 }();
 
-/// The mix of colours that looks most like the wanted one, of which the threshold takes one, dark to light.
-uchar mixed(Nearest &search, const Colours &colours, const Fine &wanted, int threshold)
+constexpr size_t MixSize = 16;
+using Mix = std::array<uchar, MixSize>;
+
+/// The mix of colours that looks most like the wanted one, dark to light.
+Mix mixOf(Nearest &search, const Colours &colours, const Fine &wanted)
 {
-    constexpr size_t Mix = 16;
-    std::array<uchar, Mix> candidates{};
+    Mix mix{};
     Fine error;
-    for (uchar &candidate : candidates) {
+    for (uchar &part : mix) {
         // three quarters of the error: all of it mixes in colours that are seen as dots
-        candidate = search(colours, wanted + error.times(3, 4));
-        error = error + wanted - fineOf(colours[candidate]);
+        part = search(colours, wanted + error.times(3, 4));
+        error = error + wanted - fineOf(colours[part]);
     }
     const auto luminance = [&colours](uchar index) {
         const int number = colours[index];
         return 3 * NineBitColour::red(number) + 6 * NineBitColour::green(number) + NineBitColour::blue(number);
     };
-    std::sort(candidates.begin(), candidates.end(),
+    std::sort(mix.begin(), mix.end(),
               [&](uchar a, uchar b) { return std::pair(luminance(a), a) < std::pair(luminance(b), b); });
-    return candidates[size_t(threshold) * Mix / 64];
+    return mix;
 }
+
+/// Mixes colours for the pixels of an area. In one of many pixels, shades are told apart by eighths of a level, and
+/// each is mixed once.
+class Mixer
+{
+public:
+    explicit Mixer(size_t pixels) : m_remembers(pixels > Many) { }
+
+    /// The one of the mix that the threshold takes.
+    [[nodiscard]] uchar operator()(const Colours &colours, const Fine &wanted, int threshold)
+    {
+        const size_t place = size_t(threshold) * MixSize / 64;
+        return m_remembers ? remembered(colours, wanted)[place] : mixOf(m_search, colours, wanted)[place];
+    }
+
+private:
+    static constexpr size_t Many = 4096;
+    static constexpr int Shade = Part / 8;
+    static constexpr int Shades = 7 * Part / Shade + 1;
+
+    [[nodiscard]] const Mix &remembered(const Colours &colours, const Fine &wanted)
+    {
+        if (m_of != &colours) {
+            m_of = &colours;
+            m_mixes.clear();
+            m_known.assign(size_t(Shades) * Shades * Shades, -1);
+        }
+        const Fine shade{wanted.red / Shade, wanted.green / Shade, wanted.blue / Shade};
+        int &known = m_known[size_t((shade.red * Shades + shade.green) * Shades + shade.blue)];
+        if (known < 0) {
+            known = int(m_mixes.size());
+            m_mixes.push_back(mixOf(m_search, colours, shade.times(Shade, 1)));
+        }
+        return m_mixes[size_t(known)];
+    }
+
+    bool m_remembers;
+    Nearest m_search;
+    const Colours *m_of = nullptr;
+    std::vector<Mix> m_mixes;
+    std::vector<int> m_known; ///< by shade, its mix, or -1
+};
 
 /// Floyd and Steinberg's weights, every second row from right to left. What is wrong is bounded, so that a colour far
 /// from all that may be taken does not bleed over its whole surroundings.
@@ -213,6 +275,7 @@ std::vector<uchar> Dither::apply(Dithering dithering, const std::vector<QRgb> &p
     if (dithering == Dithering::Diffusion)
         return diffused(pixels, size, coloursAt);
     Nearest search;
+    Mixer mixer(pixels.size());
     std::vector<uchar> result(pixels.size());
     for (int y = 0; y < size.height(); ++y) {
         for (int x = 0; x < size.width(); ++x) {
@@ -222,7 +285,7 @@ std::vector<uchar> Dither::apply(Dithering dithering, const std::vector<QRgb> &p
                 continue;
             const Fine wanted = fineOf(pixels[at]);
             result[at] = dithering == Dithering::Ordered
-                ? mixed(search, *colours, wanted, Bayer[size_t(y % 8)][size_t(x % 8)])
+                ? mixer(*colours, wanted, Bayer[size_t(y % 8)][size_t(x % 8)])
                 : search(*colours, fineOf(quint16(NineBitColour::nearest(pixels[at]))));
         }
     }

@@ -300,6 +300,30 @@ private slots:
         QCOMPARE(exact.reduction.error, 0.0);
     }
 
+    /// Many colours are not looked at one by one, and yet the nearest are found: one more that is there already changes
+    /// nothing.
+    void manyColoursAreSearchedAsFewAre()
+    {
+        std::vector<quint16> few{0, 7, 56, 63, 448, 455, 504, 511}; // the corners, so that nothing lies outside
+        std::minstd_rand random;
+        while (few.size() < 16)
+            few.push_back(quint16(random() % 512));
+        std::vector<quint16> many = few;
+        many.push_back(few.back());
+        for (const Content content : {Content::Photo, Content::Noise, Content::Gradient}) {
+            const QImage image = picture(content, 64);
+            std::vector<QRgb> pixels;
+            for (int i = 0; i < 64 * 64; ++i)
+                pixels.push_back(image.pixel(i % 64, i / 64) | 0xff000000);
+            for (const Dithering dithering : {Dithering::None, Dithering::Ordered, Dithering::Diffusion}) {
+                const auto by = [&](const std::vector<quint16> &colours) {
+                    return Dither::apply(dithering, pixels, {64, 64}, [&colours](int, int) { return &colours; });
+                };
+                QVERIFY(by(many) == by(few));
+            }
+        }
+    }
+
     void aPaletteIsUsedAsItIs()
     {
         Palette palette;
