@@ -86,6 +86,7 @@ private slots:
 
         QVERIFY(dialog().windowTitle().startsWith("Import (3 of 5)"));
         QCOMPARE(field<QComboBox>("palette").currentData().toUuid(), palette->id()); // that is in front
+        QCOMPARE(field<PicturePreview>("").picture().pixel(0, 0), 0xFFFF0000);
         dialog().accept();
         const QPointer<TileSet> tiles = project().tileSets().constFirst();
         QCOMPARE(tiles->name(), "rocks");

@@ -403,7 +403,7 @@ private slots:
     void takesAnyFile()
     {
         QRandomGenerator random(20);
-        for (int i = 0; i < 10000; ++i) {
+        for (int i = 0; i < 5000; ++i) {
             const auto &kinds = fileKinds();
             const FileKind &kind = kinds[random.bounded(int(kinds.size()))];
             ImportChoices choices{.kind = kind.id, .name = "Any"};

@@ -198,6 +198,7 @@ void ImportFileDialog::changeKind()
     if (!m_project || m_kind->currentIndex() < 0)
         return;
     const FileKind &chosen = kind();
+    m_incoming = Failure{}; // what was read as something else says nothing
     {
         const QSignalBlocker blockers[] = {QSignalBlocker(m_target), QSignalBlocker(m_tileSet),
                                            QSignalBlocker(m_palette)};
@@ -294,7 +295,10 @@ void ImportFileDialog::refresh()
         m_remarks->setText(m_incoming ? textOf(m_incoming->remarks) : m_incoming.reason());
     }
     m_remarks->setVisible(!m_remarks->text().isEmpty());
+    const ImportChoices read = choices();
     showRows();
+    if (choices() != read) // what the file holds decides whether there is something to choose
+        refreshSoon();
     revalidate();
 }
 
