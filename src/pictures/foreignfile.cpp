@@ -21,10 +21,10 @@ Result<QByteArray> ForeignFile::readAll(const QString &fileName, qint64 maxBytes
     QFile file(fileName);
     if (!RawFile::openForReading(file))
         return Failure{tr("It is not there, or may not be read")};
-    if (file.size() > maxBytes)
-        return Failure{tr("It has %1; at most %2 can be read").arg(sizeText(file.size()), sizeText(maxBytes))};
-    // it may grow while it is read
-    QByteArray bytes = file.read(maxBytes);
+    const qint64 size = file.size();
+    if (size > maxBytes)
+        return Failure{tr("It has %1; at most %2 can be read").arg(sizeText(size), sizeText(maxBytes))};
+    QByteArray bytes = file.read(size); // for which memory is taken at once, and it may grow
     if (file.error() != QFile::NoError)
         return Failure{tr("It could not be read: %1").arg(file.errorString())};
     return bytes;

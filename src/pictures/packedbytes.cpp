@@ -55,6 +55,8 @@ bool PackedBytes::unpack(Form form, QByteArrayView packed, uchar *bytes, qint64 
 {
     if (std::max(qint64(packed.size()), size) > std::numeric_limits<uInt>::max() || !canHold(form, packed.size(), size))
         return false;
+    if (size == 0) // there may be no memory to write to
+        return true;
     switch (form) {
     case Form::Plain:
         std::memcpy(bytes, packed.data(), size_t(size));

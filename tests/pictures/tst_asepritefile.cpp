@@ -130,6 +130,7 @@ private slots:
                 b.frame(50);
                 b.linked(0, {0, 0}, 1);
                 b.frame(50);
+                b.packed(0, {0, 0}, {0, 0}, {}); // which has no pixels
             },
             "23..|21.. / ....|..12 / 123.|321. / ....|....");
         add(
@@ -179,8 +180,11 @@ private slots:
                 b.raw(1, {0, 0}, {2, 1}, indices("32"));
                 b.frame(1); // which does not fill the picture
                 b.raw(0, {0, 0}, {1, 1}, indices("2"));
+                b.frame(1); // with the other layer moved below it
+                b.raw(0, {0, 0}, {4, 2}, indices("12301230"));
+                b.raw(1, {0, 0}, {2, 1}, indices("33"), 255, -2);
             },
-            "3230|1230 / ff00ff00 00000000 00000000 00000000|00000000 00000000 00000000 00000000");
+            "3230|1230 / ff00ff00 00000000 00000000 00000000|00000000 00000000 00000000 00000000 / 1230|1230");
         add(
             "indices that are partly clear become colours",
             [](B &b) {
