@@ -34,9 +34,9 @@ QRect AsepriteFile::Content::area(const Cel &cel) const
 {
     const QRect canvas(QPoint(), size);
     if (cel.pixels)
-        return QRect(cel.at, cel.pixels->size) & canvas;
+        return cel.pixels->size.isEmpty() ? QRect() : QRect(cel.at, cel.pixels->size) & canvas;
     const int tileSet = layers[size_t(cel.layer)].tileSet;
-    if (!cel.tiles || tileSet < 0)
+    if (!cel.tiles || cel.tiles->size.isEmpty() || tileSet < 0)
         return {};
     const QSize tile = tileSets[tileSet].tileSize;
     // what is beyond the canvas does not count: it may be more than fits a number
@@ -66,9 +66,10 @@ void AsepriteFile::Content::drawCel(const Cel &cel, const Put &put) const
     const QRect seen = area(cel);
     const int width = cel.pixels->size.width();
     for (int y = seen.top(); y <= seen.bottom(); ++y) {
-        const Pixel *row = cel.pixels->data<Pixel>() + qsizetype(y - cel.at.y()) * width - cel.at.x();
+        const qsizetype first = qsizetype(y - cel.at.y()) * width + seen.left() - cel.at.x();
+        const Pixel *pixel = cel.pixels->data<Pixel>() + first;
         for (int x = seen.left(); x <= seen.right(); ++x)
-            put(x, y, row[x]);
+            put(x, y, *pixel++);
     }
 }
 

@@ -54,6 +54,8 @@ TiledFolder::TiledFolder(const QString &fileName, TiledReferences references)
 TiledFolder::Place TiledFolder::locate(const QString &folder, const QString &reference) const
 {
     const QString written = QString(reference).replace(QLatin1Char('\\'), QLatin1Char('/'));
+    if (written.contains(QChar::Null)) // of which Qt warns
+        return {{}, false, written};
     const QString path = QDir::cleanPath(QDir(folder).absoluteFilePath(written));
     const Place outside{{}, true, path};
     // what is elsewhere is not even looked at
