@@ -34,7 +34,10 @@ ImportFileDialog *FileImport::dialog()
         connect(m_dialog, &ImportFileDialog::accepted, this, &FileImport::add);
         connect(m_dialog, &ImportFileDialog::handedOver, this, &FileImport::handOver);
         connect(m_dialog, &ImportFileDialog::skipped, this, &FileImport::next);
-        connect(m_dialog, &QDialog::rejected, this, [this] { m_files.clear(); });
+        connect(m_dialog, &QDialog::rejected, this, [this] {
+            m_files.clear();
+            finish();
+        });
     }
     return m_dialog;
 }
@@ -56,6 +59,7 @@ QStringList FileImport::draggedFiles(const QMimeData *data)
 void FileImport::importFiles(const QStringList &filePaths)
 {
     m_files = filePaths;
+    m_failures.clear();
     m_next = 0;
     next();
 }
@@ -63,6 +67,7 @@ void FileImport::importFiles(const QStringList &filePaths)
 void FileImport::stop()
 {
     m_files.clear();
+    m_failures.clear();
     m_next = 0;
     if (m_dialog)
         m_dialog->reject();
@@ -75,7 +80,7 @@ void FileImport::next()
         const QString path = m_files.at(m_next++);
         const Result<ImportFile> file = ImportFile::open(path);
         if (!file) {
-            emit failed(tr("The file could not be imported"), tr("Import"), file.reason());
+            m_failures.append(file.reason());
             continue;
         }
         const Palette *palette = m_menus->paletteMenu()->palette();
@@ -84,6 +89,20 @@ void FileImport::next()
                        int(m_next), int(m_files.size()));
         return;
     }
+    finish();
+}
+
+void FileImport::finish()
+{
+    constexpr qsizetype Most = 8; // that a message shows
+    if (m_failures.isEmpty())
+        return;
+    QStringList reasons = m_failures.first(std::min(Most, m_failures.size()));
+    if (m_failures.size() > Most)
+        reasons.append(tr("… and %1 more").arg(m_failures.size() - Most));
+    m_failures.clear();
+    emit failed(reasons.size() == 1 ? tr("The file could not be imported") : tr("Some files could not be imported"),
+                tr("Import"), reasons.join(u'\n'));
 }
 
 void FileImport::nextAfterDialog()
@@ -108,7 +127,7 @@ void FileImport::add(const ImportChoices &choices, const IncomingAssets &incomin
         emit message(
             tr("Imported %1: %2").arg(QFileInfo(path).fileName(), factsOf(incoming).join(QStringLiteral("; "))));
     } else {
-        emit failed(tr("The file could not be imported"), tr("Import"), added.reason());
+        m_failures.append(added.reason());
     }
     next();
 }

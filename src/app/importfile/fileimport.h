@@ -55,6 +55,8 @@ signals:
 
 private:
     void next();
+    /// Says what could not be imported, when nothing else is asked any more.
+    void finish();
     /// Goes on when the dialog that another import has opened is closed.
     void nextAfterDialog();
     void add(const Importing::ImportChoices &choices, const Importing::IncomingAssets &incoming);
@@ -69,4 +71,5 @@ private:
     Importing::StackProvider m_stackFor;
     QStringList m_files; ///< that were asked for
     qsizetype m_next = 0;
+    QStringList m_failures; ///< why files could not be imported
 };
