@@ -168,7 +168,7 @@ private slots:
             files.put(QStringLiteral("a.tmx"),
                       tmx("<tileset firstgid=\"1\" tilewidth=\"8\" tileheight=\"8\" tilecount=\"3\" "
                           "columns=\"3\"><image source=\"t.png\"/></tileset>"
-                          + layer("1,1,1,0,0,0", "") + "<group visible=\"0\">" + layer("2,2,2,2,2,2", "") + "<group>"
+                          + layer("1,1,1,1,0,0", "") + "<group visible=\"0\">" + layer("2,2,2,2,2,2", "") + "<group>"
                           + layer("2,2,2,2,2,2", "") + "</group></group>"
                           + "<group offsetx=\"8\" opacity=\"0.5\"><group offsety=\"8\">"
                           + layer("2,0,2147483650,0,0,0", "offsetx=\"-8\" opacity=\"0.5\"") + "</group></group>"
