@@ -106,6 +106,11 @@ void ProjectController::setCleanCallbacks(std::function<bool()> isClean, std::fu
     m_markClean = std::move(markClean);
 }
 
+void ProjectController::setSavingExtrasCallback(std::function<void()> saving)
+{
+    m_savingExtras = std::move(saving);
+}
+
 void ProjectController::setUnmodifiedCallback(std::function<void()> unmodified)
 {
     m_unmodified = std::move(unmodified);
@@ -327,7 +332,7 @@ void ProjectController::saveExtras()
 {
     if (!m_project || filePath().isEmpty())
         return;
-    emit savingExtras(filePath());
+    m_savingExtras();
     const QString problem = m_extrasFile.save(*m_project->extras(), filePath());
     if (!problem.isEmpty())
         emit error(tr("What is kept beside the project cannot be written: %1\n%2")

@@ -64,6 +64,8 @@ public:
     void setCleanCallbacks(std::function<bool()> isClean, std::function<void()> markClean);
     /// Hears when the project is new, or as its file from now on.
     void setUnmodifiedCallback(std::function<void()> unmodified);
+    /// Hears when what belongs to the project is about to be written beside its file.
+    void setSavingExtrasCallback(std::function<void()> saving);
     /// Asks what becomes of the unsaved changes of the project of that name, in place of a message box.
     void setUnsavedAnswerCallback(std::function<UnsavedAnswer(const QString &)> ask);
     /// Asks what is to be done about a file that another program changed, in place of a message box.
@@ -90,8 +92,6 @@ signals:
     void aboutToSave();
     /// Follows every aboutToSave(), whether or not anything was saved.
     void saveFinished();
-    /// What belongs to the project is about to be written beside this file.
-    void savingExtras(const QString &file);
     /// The project, which has a file, was saved to another one.
     void savedAs(const QString &previousFile, const QString &file);
     void projectOpened(Project *project);
@@ -143,6 +143,7 @@ private:
     std::function<bool()> m_isClean;
     std::function<void()> m_markClean;
     std::function<void()> m_unmodified;
+    std::function<void()> m_savingExtras = [] {};
     std::function<UnsavedAnswer(const QString &)> m_ask;
     std::function<ForeignChange::Answer(const ForeignChange &)> m_askAboutForeignChange;
     std::function<QString()> m_chooseFile;

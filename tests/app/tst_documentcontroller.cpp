@@ -103,7 +103,9 @@ private slots:
     void tellsDocksAndMenusWhatIsActive()
     {
         const MenuBar *menus = m_window->menus();
-        const auto canSwapImagePalette = [menus] { return menus->imageMenu()->actions().last()->isEnabled(); };
+        const auto canSwapImagePalette = [menus] {
+            return EditorInput::entry(*menus->imageMenu(), "Swap Palette")->isEnabled();
+        };
         QCOMPARE(views().palette->palette(), m_assets->imagePalette);
         QVERIFY(!views().mapToolBar->isEnabled() && canSwapImagePalette());
 
@@ -307,7 +309,9 @@ private slots:
     {
         m_window->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&*m_window));
-        const auto clipboardEnabled = [this] { return m_window->menus()->editMenu()->actions().last()->isEnabled(); };
+        const auto clipboardEnabled = [this] {
+            return EditorInput::entry(*m_window->menus()->editMenu(), "Clear Selection")->isEnabled();
+        };
         const auto active = [this] { return documents()->undoGroup()->activeStack(); };
         QUndoStack *tileSteps = documents()->undoStackFor(m_assets->tiles->id());
         QCOMPARE(active(), documents()->undoStackFor(m_assets->image->id()));

@@ -58,7 +58,7 @@ ImportKeeper::ImportKeeper(ProjectController *projects, DocumentController *docu
         m_memory.setProject(nullptr, {});
         look();
     });
-    connect(projects, &ProjectController::savingExtras, this, [this](const QString &file) { m_memory.moveTo(file); });
+    projects->setSavingExtrasCallback([this] { m_memory.moveTo(m_projects->filePath()); });
     connect(documents, &DocumentController::pictureImported, this,
             [this](const QUuid &image, const QString &file, const ImageImport &choices) {
                 m_memory.remember(image, ImportRecord::Image, file, choicesOf(choices));
