@@ -53,8 +53,8 @@ struct MemberBlock
 class MemberBlocks
 {
 public:
-    /// Bytes of a block, as far as rows of cells allow: as much as is deflated in some milliseconds.
-    static constexpr qsizetype BlockSize = qsizetype(256) << 10;
+    /// Bytes of a block, as far as rows of cells allow: as much as even a slow machine deflates in 8 ms.
+    static constexpr qsizetype BlockSize = qsizetype(160) << 10;
 
     /// With kept blocks, which must live as long, a picture that was packed is unpacked instead of being encoded.
     explicit MemberBlocks(const ProjectMember &member, const KeptBlocks *kept = nullptr)
