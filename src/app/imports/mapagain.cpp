@@ -198,7 +198,7 @@ private:
         }
         for (int group = 0; group < 16 && m_clearPixel >= 0; ++group)
             taken.set(size_t(group * 16 + m_clearPixel));
-        std::vector<std::set<int>> needed;
+        std::set<std::set<int>> needed;
         for (int cell = 0; cell < int(m_kept.size()); ++cell) {
             if (m_kept[size_t(cell)])
                 continue;
@@ -207,9 +207,9 @@ private:
                 if (colour >= 0)
                     colours.insert(colour);
             }
-            needed.push_back(std::move(colours));
+            needed.insert(std::move(colours));
         }
-        const QList<quint16> words = grownPalette(palette, taken, std::move(needed));
+        const QList<quint16> words = grownPalette(palette, taken, {needed.cbegin(), needed.cend()});
         for (int entry = 0; entry < Palette::Size; ++entry)
             m_words.storeRawColour(entry, words[entry]);
     }
