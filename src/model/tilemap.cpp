@@ -171,8 +171,8 @@ bool TileMap::writeRuns(const QList<Run> &runs, int period, const Writer &write)
         }
         if (sample.after.constData() != before.constData()) {
             m_rows[y] = sample.after;
-            const auto [left, right] = std::minmax_element(
-                first, last, [](const Run &a, const Run &b) { return a.column < b.column; });
+            const auto [left, right] =
+                std::minmax_element(first, last, [](const Run &a, const Run &b) { return a.column < b.column; });
             area |= QRect(left->column, y, right->column + right->count - left->column, 1);
         }
         first = last;
