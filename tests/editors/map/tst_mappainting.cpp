@@ -83,8 +83,8 @@ private slots:
         Painting f;
         f.grid.setStamp(stampOf({2, 2}, {1, 2, 3, -1}));
         f.drag(f.at(4, 3), f.at(9, 3)); // fast, over two more places
-        const QStringList painted{"1212121", "3.3.3.3", "......."};
-        QCOMPARE(f.tilesIn({3, 2, 7, 3}), painted);
+        const QStringList painted{"12121212.", "3.3.3.3..", "........."};
+        QCOMPARE(f.tilesIn({3, 2, 9, 3}), painted);
         QCOMPARE(f.steps(), "Paint");
         f.drag(f.at(4, 3), f.at(4, 4), Qt::RightButton); // the place of the press and the one below
         QCOMPARE(f.tilesIn({3, 2, 7, 2}), (QStringList{"..12121", "..3.3.3"}));
@@ -116,7 +116,16 @@ private slots:
         f.move(f.at(12, 9));
         f.click(f.at(12, 9));
         QCOMPARE(f.tilesIn({12, 8, 1, 2}), (QStringList{"7", "."}));
-        QCOMPARE(f.steps(), "Paste|Paste");
+        f.map->setTile({0, 14}, {8, false, false, false, 0, true});
+        f.map->setTile({1, 14}, {9, false, false, false, 0, true});
+        QApplication::clipboard()->setMimeData(f.map->tileLayer()->toMimeData({0, 14, 2, 1}));
+        f.grid.setMode(Draw);
+        f.grid.setMode(Paste);
+        f.move(f.at(15, 14));
+        f.drag(f.at(15, 14), f.at(11, 14)); // to the left, in places that begin with the first
+        QCOMPARE(f.tilesIn({9, 14, 8, 1}), QStringList{".898989."});
+        QCOMPARE(f.steps(), "Paste|Paste|Paste");
+        f.stack.undo();
         f.stack.undo();
         f.stack.undo();
         QCOMPARE(f.tilesIn({5, 4, 3, 2}), (QStringList{"5..", "..."}));

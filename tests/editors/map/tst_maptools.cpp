@@ -58,7 +58,8 @@ private slots:
         f.click(f.at(3, 2));
         f.click(f.at(3, 2)); // on the one that is there
         f.grid.resize(f.grid.size() + QSize(0, 100)); // with room around the map
-        f.click(f.at(3, 20));
+        f.move(f.at(12, 9)); // off the one that is there
+        f.click(f.at(12, 20));
         QCOMPARE(f.map->animatedBlocks()->list().size(), 1);
         QCOMPARE(f.steps(), "Paint|Paint|Place Animation");
     }
