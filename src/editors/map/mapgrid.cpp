@@ -377,7 +377,8 @@ void MapGrid::mousePressEvent(QMouseEvent *event)
 
 void MapGrid::mouseMoveEvent(QMouseEvent *event)
 {
-    m_shownCell = {};
+    if (!m_shownCell.isEmpty())
+        change(m_shownCell, QRect());
     if (event->spontaneous() && event->buttons() == Qt::NoButton)
         releaseButtons(); // another window took the release
     if (m_viewport.viewRect.contains(event->position().toPoint())) {

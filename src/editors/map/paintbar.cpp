@@ -5,6 +5,7 @@
 
 #include <QComboBox>
 #include <QInputDialog>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QPainter>
@@ -62,6 +63,7 @@ void PaintBar::addOffsetBox()
     m_offset->setToolTip(tr("The palette offset of painted cells. Ctrl with a painting tool paints it alone, and with "
                             "the right button brings back that of the tile"));
     addWidget(m_offset);
+    m_offset->installEventFilter(this);
     connect(m_offset, &QSpinBox::valueChanged, this, &PaintBar::paletteOffsetChanged);
 }
 
@@ -76,12 +78,23 @@ void PaintBar::addTerrainBox()
     m_terrains->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     m_terrains->setPlaceholderText(tr("None"));
     addWidget(m_terrains);
+    connect(m_terrains, &QComboBox::activated, this, &PaintBar::finished);
     connect(m_terrains, &QComboBox::currentIndexChanged, this, [this] { emit terrainChanged(terrain()); });
     QAction *edit = addAction(themedIcon(QStringLiteral(":/Rename")), tr("Edit Terrains…"));
     edit->setToolTip(tr("Marks the tiles of terrains"));
     connect(edit, &QAction::triggered, this, &PaintBar::terrainsRequested);
     if (auto *button = qobject_cast<QToolButton *>(widgetForAction(edit)))
         button->setIconSize({16, 16});
+}
+
+bool PaintBar::eventFilter(QObject *, QEvent *event)
+{
+    const int key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent *>(event)->key() : 0;
+    if (key != Qt::Key_Return && key != Qt::Key_Enter)
+        return false;
+    m_offset->interpretText();
+    emit finished();
+    return true;
 }
 
 void PaintBar::setKit(const QPointer<PaintKit> &kit)

@@ -38,6 +38,11 @@ signals:
     void terrainChanged(const Terrain &terrain);
     /// Terrains are to be made or edited.
     void terrainsRequested();
+    /// A value was chosen, and the keyboard is not needed here any more.
+    void finished();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void addTerrainBox();

@@ -27,6 +27,7 @@ PaintDesk::PaintDesk(View *view, const QPointer<PaintKit> &kit)
     connect(m_bar, &PaintBar::stampChosen, this, &PaintDesk::pickStamp);
     connect(m_bar, &PaintBar::paletteOffsetChanged, m_grid, &MapGrid::setPaletteOffset);
     connect(m_bar, &PaintBar::terrainChanged, m_grid, &MapGrid::setTerrain);
+    connect(m_bar, &PaintBar::finished, m_grid, qOverload<>(&QWidget::setFocus));
     connect(m_bar, &PaintBar::terrainsRequested, this, &PaintDesk::showTerrainDialog);
     connect(m_grid, &MapGrid::stampPicked, this, &PaintDesk::pickStamp);
     m_bar->setKit(kit);

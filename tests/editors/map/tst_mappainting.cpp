@@ -285,6 +285,13 @@ private slots:
         QCOMPARE(view.grid()->brush().stamp.size(), QSize(2, 2));
         QCOMPARE(view.grid()->brush().stamp.at(0, 0), assets.tile(3, 3));
         QCOMPARE(view.grid()->mode(), Draw);
+        auto *offset = desk.bar()->findChild<QSpinBox *>();
+        offset->setFocus();
+        offset->selectAll(); // as when it is reached by keys
+        QTest::keyClicks(offset, "7");
+        QTest::keyClick(offset, Qt::Key_Return);
+        QCOMPARE(view.grid()->brush().offset, 7);
+        QCOMPARE(view.focusWidget(), view.grid());
         PaintKit &kit = *kits.kitFor(assets.tiles);
         QCOMPARE(kit.stamps().size(), 2);
         kit.nameStamp(1, "Wall");
