@@ -54,16 +54,20 @@ QImage stripOf(const QList<QByteArray> &sprites, const QImage &like)
 }
 
 /// The order after the way back from a change of it. What another step has brought back since is not there twice,
-/// and an asset that would become too small or too large stays as it is.
-Names orderAfter(const ListChange<int> &change, const Names &now, qsizetype least, qsizetype most)
+/// what another step has deleted since does not come back by being moved back, for only the things that this change
+/// took away are kept, and an asset that would become too small or too large stays as it is.
+template <typename Item>
+Names orderAfter(const ListChange<int> &change, const Names &now, const QHash<int, Item> &kept, qsizetype least,
+                 qsizetype most)
 {
     Names names = now;
     change.apply(EditSide::Before, names);
+    const QSet<int> present(now.cbegin(), now.cend());
     QSet<int> seen;
-    names.removeIf([&seen](int name) {
-        const bool known = seen.contains(name);
+    names.removeIf([&](int name) {
+        const bool isTwice = seen.contains(name);
         seen.insert(name);
-        return known;
+        return isTwice || (!present.contains(name) && !kept.contains(name));
     });
     return names.size() < least || names.size() > most ? now : names;
 }
@@ -188,7 +192,7 @@ TileSetChange::TileSetChange(const TileSetEdit &before, const TileSetEdit &after
 TileSetEdit TileSetChange::undone(const TileSetEdit &now) const
 {
     TileSetEdit result = now;
-    result.names = orderAfter(m_order, now.names, 0, std::numeric_limits<int>::max());
+    result.names = orderAfter(m_order, now.names, m_before, 0, std::numeric_limits<int>::max());
 
     const QHash<int, Tile::State> present = byName(now.names, now.tiles);
     result.tiles.clear();
@@ -242,7 +246,7 @@ SpriteBankChange::SpriteBankChange(const SpriteBankEdit &before, const SpriteBan
 SpriteBankEdit SpriteBankChange::undone(const SpriteBankEdit &now) const
 {
     SpriteBankEdit result = now;
-    result.names = orderAfter(m_order, now.names, 1, SpriteBank::MaxCount);
+    result.names = orderAfter(m_order, now.names, m_before, 1, SpriteBank::MaxCount);
 
     const QHash<int, QByteArray> present = byName(now.names, spritesOf(now.bank));
     QList<QByteArray> sprites;

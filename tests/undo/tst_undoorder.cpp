@@ -194,6 +194,17 @@ private slots:
     {
         EditClock::setSource([this] { return m_now += 1000; }); // so that no edit merges with the one before
     }
+
+    void whatIsDeletedSinceIsNotMovedBack()
+    {
+        const Tile::State tile{plainImage({8, 8}, 1)};
+        const TileSetEdit before{{tile, tile, tile}, {}, {}, {0, 1, 2}};
+        const TileSetEdit moved{{tile, tile, tile}, {}, {}, {1, 2, 0}};
+        const TileSetEdit now{{tile, tile}, {}, {}, {1, 2}};
+        const TileSetEdit undone = TileSetChange(before, moved).undone(now);
+        QCOMPARE(undone.names, (Numbering::Names{1, 2}));
+        QCOMPARE(undone.tiles, now.tiles);
+    }
     void cleanupTestCase() { EditClock::setSource({}); }
 
     /// Undone after another edit, on another stack, an edit leaves what that one would have made alone.
