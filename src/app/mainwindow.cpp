@@ -203,6 +203,7 @@ void MainWindow::connectImport()
     connect(m_fileImport, &FileImport::paletteReady, &m_documents, &DocumentController::openPalette);
     connect(m_fileImport, &FileImport::tileSetReady, &m_documents, &DocumentController::openTileSet);
     connect(m_fileImport, &FileImport::mapReady, &m_documents, &DocumentController::setActiveMap);
+    connect(m_fileImport, &FileImport::blocksReady, &m_documents, &DocumentController::setActiveBlockEditor);
     connect(m_fileImport, &FileImport::spritesReady, &m_documents, &DocumentController::openSprites);
     connect(m_fileImport, &FileImport::message, m_exportMessages, &ExportMessages::show);
     connect(m_fileImport, &FileImport::failed, this,

@@ -1,5 +1,6 @@
 #include "importing/addition.h"
 
+#include "importing/animationsedit.h"
 #include "importing/paletteedit.h"
 #include "importing/pixelpictures.h"
 #include "importing/tr.h"
@@ -99,6 +100,8 @@ public:
             makeMap();
         if (m_incoming.image)
             makeImage();
+        if (m_incoming.animations)
+            makeBlocks();
         return m_added;
     }
 
@@ -182,6 +185,18 @@ private:
         return m_added.tileSet.isNull() ? m_choices.tileSet : m_added.tileSet;
     }
 
+    /// Animations of a tile set that is there.
+    void makeBlocks()
+    {
+        const QPointer<MapObjects> blocks = m_project.createBlockList(m_choices.name, tileSetForMap());
+        for (qsizetype i = 0; i < m_incoming.animations->animations.size(); ++i) {
+            const auto &[kind, state] = m_incoming.animations->animations[i];
+            const QPointer<TileAnimation> block = blocks->createBoundTileAnimation(animationName(i));
+            block->restore({withIds(state), kind});
+        }
+        m_added.blocks = blocks->id();
+    }
+
     void makeImage()
     {
         const NextData::ImageContent &content = *m_incoming.image;
@@ -246,7 +261,12 @@ AddedAssets change(Project &project, const IncomingAssets &incoming, const Impor
         });
         return {.tileSet = choices.target};
     }
-    if (const QPointer<SpriteBank> bank = project.spriteBank(choices.target)) {
+    const QPointer<SpriteBank> bank = project.spriteBank(choices.target);
+    if (bank && incoming.animations) {
+        addAnimations(*bank, *incoming.animations, stack);
+        return {.sprites = choices.target};
+    }
+    if (bank) {
         changeStructure(*bank, tr("Import Sprites"),
                         [&] { putSprites(*bank, beginningAt(choices, bank->count()), incoming.sprites->content); });
         return {.sprites = choices.target};
@@ -296,7 +316,8 @@ QString targetProblem(const Project &project, const IncomingAssets &incoming, co
     const QPointer<SpriteBank> bank = project.spriteBank(choices.target);
     if (bank && incoming.sprites)
         return spritesProblem(*bank, incoming, choices);
-    if ((project.palette(choices.target) && incoming.palette) || (project.map(choices.target) && incoming.map))
+    if ((bank && incoming.animations) || (project.palette(choices.target) && incoming.palette)
+        || (project.map(choices.target) && incoming.map))
         return {};
     return tr("The asset into which it goes is not there any more, or is of another kind");
 }

@@ -56,6 +56,7 @@ struct IncomingAssets
     std::optional<IncomingMap> map{};
     std::optional<IncomingSprites> sprites{};
     std::optional<NextData::ImageContent> image{};
+    std::optional<NextData::AnimationsContent> animations{}; ///< of tiles or sprites that are there
 
     QStringList remarks{}; ///< what is lost or otherwise worth knowing, a sentence each
     QStringList outside{}; ///< files that were not read because they are not below the folder of this one

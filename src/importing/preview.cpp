@@ -203,6 +203,8 @@ QStringList factsOf(const IncomingAssets &incoming)
         const QSize size = Image::sizeOf(incoming.image->mode);
         facts.append(tr("Pixels: %1 × %2").arg(size.width()).arg(size.height()));
     }
+    if (incoming.animations)
+        facts.append(tr("Animations: %1").arg(number(incoming.animations->animations.size())));
     if (incoming.palette)
         facts.append(tr("Colours: %1").arg(number(incoming.palette->words.size())));
     return facts;

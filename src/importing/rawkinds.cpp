@@ -113,6 +113,8 @@ IncomingAssets incomingOf(const NextData::Reading &reading)
         if (!image->palette.isEmpty())
             incoming.palette = NextData::PaletteContent{0, image->palette};
     }
+    if (const auto *animations = std::get_if<NextData::AnimationsContent>(&reading.content))
+        incoming.animations = *animations;
     return incoming;
 }
 
@@ -146,14 +148,16 @@ QList<FileKind> Kinds::raw()
     QList<FileKind> kinds;
     for (const NextData::Reader &reader : NextData::readers()) {
         FileKind kind{.id = reader.id, .title = reader.title, .asset = reader.kind, .options = reader.options};
-        kind.needsTarget = reader.id == QStringLiteral("tile-attributes") || reader.id == QStringLiteral("tile-values");
+        kind.needsTarget = reader.id == QStringLiteral("tile-attributes") || reader.id == QStringLiteral("tile-values")
+            || reader.id == QStringLiteral("sprite-animations");
         kind.rareOptions =
             QStringList{QStringLiteral("count"), QStringLiteral("height"), QStringLiteral("screen-width"),
                         QStringLiteral("screen-height"), QStringLiteral("bit-0")};
         if (!kind.needsTarget)
             kind.rareOptions.append(QStringLiteral("first"));
-        kind.takesTarget = reader.kind != AssetKind::Image; // an image's undo is that of its editor
-        kind.needsTileSet = reader.kind == AssetKind::Map;
+        // an image's undo is that of its editor, and animations of tiles are undone one by one
+        kind.takesTarget = reader.kind != AssetKind::Image && reader.kind != AssetKind::BlockSet;
+        kind.needsTileSet = reader.kind == AssetKind::Map || reader.kind == AssetKind::BlockSet;
         kind.needsPalette = reader.kind != AssetKind::Palette && !kind.needsTarget;
         kind.prepare = prepareRaw;
         if (reader.id == EightBitTiles) {

@@ -42,6 +42,8 @@ int probability(const NextData::Reader &reader, const ImportFile &file, const QS
     const Fit fit = file.isWhole() ? reader.fit(file.bytes.size()) : Fit::None;
     if (fit == Fit::None)
         return 0;
+    if (reader.id.endsWith(QStringLiteral("-animations"))) // whose beginning says where each of them is
+        return reader.read(file.bytes, {}) ? 10 : 0;
     if (findFileKind(reader.id)->needsTarget) // any bytes would do
         return 1;
     // many things are called so

@@ -152,6 +152,76 @@ Result<Data> write(const Source &source, const OptionValues &)
     return data;
 }
 
+// Reading
+
+Reader::Fit fits(qint64 size)
+{
+    return size >= WordBytes ? Reader::Fit::Possible : Reader::Fit::None;
+}
+
+int wordAt(const QByteArray &bytes, qsizetype at)
+{
+    return uchar(bytes[at]) | uchar(bytes[at + 1]) << 8;
+}
+
+AnimationFrame::Cell cellAt(const QByteArray &bytes, qsizetype at)
+{
+    const int attributes = uchar(bytes[at + 1]);
+    return {.index = uchar(bytes[at]) | (attributes & 1) << 8,
+            .offset = attributes >> 4,
+            .flip = (attributes & 4) != 0,
+            .mirror = (attributes & 8) != 0,
+            .rotate = (attributes & 2) != 0};
+}
+
+/// The animation at a place, which moves behind it; nothing when the bytes end before it does.
+std::optional<AnimationsContent::Item> itemAt(const QByteArray &bytes, qsizetype &place)
+{
+    if (place + HeadBytes > bytes.size())
+        return {};
+    const int width = uchar(bytes[place]);
+    const int height = uchar(bytes[place + 1]);
+    const int frames = uchar(bytes[place + 2]);
+    AnimationsContent::Item item{.kind = bytes[place + 3] == 1 ? 1 : 0,
+                                 .state = {.size = {width, height}, .delay = wordAt(bytes, place + 4), .frames = {}}};
+    place += HeadBytes;
+    if (place + qsizetype(frames) * width * height * CellBytes > bytes.size())
+        return {};
+    for (int frame = 0; frame < frames; ++frame) {
+        AnimationFrame::Cells cells(height, QList<AnimationFrame::Cell>(width));
+        for (auto &row : cells) {
+            for (AnimationFrame::Cell &cell : row) {
+                cell = cellAt(bytes, place);
+                place += CellBytes;
+            }
+        }
+        item.state.frames.append({{}, cells});
+    }
+    return item;
+}
+
+Result<Reading> read(const QByteArray &bytes, const OptionValues &)
+{
+    const Failure misfit{tr("The animations do not lie in the file as its beginning says")};
+    const qsizetype count = bytes.size() < WordBytes ? 0 : wordAt(bytes, 0);
+    qsizetype place = WordBytes + WordBytes * count;
+    if (count == 0 || place > bytes.size())
+        return misfit;
+    AnimationsContent content;
+    for (qsizetype i = 0; i < count; ++i) {
+        if (wordAt(bytes, WordBytes + WordBytes * i) != place)
+            return misfit;
+        const auto item = itemAt(bytes, place);
+        if (!item)
+            return misfit;
+        content.animations.append(*item);
+    }
+    Reading reading{content, {}};
+    if (place < bytes.size())
+        reading.remarks.append(tr("Bytes behind the last animation that are left out: %1").arg(bytes.size() - place));
+    return reading;
+}
+
 } // namespace
 
 QList<Form> blockAnimationForms()
@@ -176,6 +246,26 @@ QList<Form> spriteAnimationForms()
              .options = {},
              .size = size<SpriteBank>,
              .write = write<SpriteBank>}};
+}
+
+QList<Reader> animationReaders()
+{
+    return {
+        {.id = QStringLiteral("block-animations"),
+         .kind = AssetKind::BlockSet,
+         .title = tr("Animations of blocks"),
+         .suffixes = {QStringLiteral("bin")},
+         .options = {},
+         .fit = fits,
+         .read = read},
+        {.id = QStringLiteral("sprite-animations"),
+         .kind = AssetKind::SpriteBank,
+         .title = tr("Animations of sprites"),
+         .suffixes = {QStringLiteral("bin")},
+         .options = {},
+         .fit = fits,
+         .read = read},
+    };
 }
 
 } // namespace NextData

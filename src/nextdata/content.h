@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/animation.h"
 #include "model/enums.h"
 #include "model/tilemap.h"
 #include "model/tileset.h"
@@ -78,7 +79,23 @@ struct ImageContent
     bool operator==(const ImageContent &) const = default;
 };
 
-using Content =
-    std::variant<PaletteContent, TilesContent, TileNumbersContent, MapContent, SpritesContent, ImageContent>;
+/// Animations of a sprite bank or a block set, which have no names in a file.
+struct AnimationsContent
+{
+    struct Item
+    {
+        int kind = 0; ///< a MapObjectType
+        Animation::State state; ///< the ids of its frames are null
+
+        bool operator==(const Item &) const = default;
+    };
+
+    QList<Item> animations;
+
+    bool operator==(const AnimationsContent &) const = default;
+};
+
+using Content = std::variant<PaletteContent, TilesContent, TileNumbersContent, MapContent, SpritesContent, ImageContent,
+                             AnimationsContent>;
 
 } // namespace NextData

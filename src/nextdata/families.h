@@ -21,5 +21,6 @@ namespace NextData {
 [[nodiscard]] QList<Reader> mapReaders();
 [[nodiscard]] QList<Reader> spriteReaders();
 [[nodiscard]] QList<Reader> imageReaders();
+[[nodiscard]] QList<Reader> animationReaders(); ///< of block sets and sprite banks
 
 } // namespace NextData

@@ -134,7 +134,7 @@ private slots:
         choose("kind", "tile-attributes");
         QVERIFY(!field<QLineEdit>("name").isVisible());
         dialog().accept();
-        QCOMPARE(dialog().error(), "There is no tile set whose tiles these could be for");
+        QCOMPARE(dialog().error(), "There is nothing in the project into which it could go");
         choose("kind", "map-2byte");
         field<QSpinBox>("height").setValue(9999);
         field<QSpinBox>("width").setValue(9999);

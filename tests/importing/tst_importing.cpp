@@ -50,7 +50,7 @@ QByteArray essenceOf(const Project &project, const QUuid &id)
 
 QUuid idOf(const AddedAssets &added)
 {
-    for (const QUuid &id : {added.map, added.sprites, added.image, added.tileSet, added.palette}) {
+    for (const QUuid &id : {added.map, added.sprites, added.image, added.blocks, added.tileSet, added.palette}) {
         if (!id.isNull())
             return id;
     }
@@ -93,7 +93,7 @@ class TestImporting : public QObject
                                     .tileSet = random.tiles->id()};
         const auto incoming = prepare(project, source, choices);
         QVERIFY2(incoming, qPrintable(form + ": " + incoming.reason()));
-        QVERIFY(!previewOf(project, *incoming, choices).isNull());
+        QVERIFY(incoming->animations || !previewOf(project, *incoming, choices).isNull());
         QVERIFY(!factsOf(*incoming).isEmpty());
         const auto added = addTo(project, *incoming, choices, {});
         QVERIFY2(added, qPrintable(form + ": " + added.reason()));
@@ -130,6 +130,7 @@ private slots:
         goesThrough(random, "sprites-packed", banks[0]);
         goesThrough(random, "sprites-8bit", banks[0], {}, {{"depth", "4"}});
         goesThrough(random, "sprites-8bit", banks[1]);
+        goesThrough(random, "block-animations", random.blocks);
         const auto images = random.project.images();
         const QStringList forms{"layer2-256", "layer2-320", "layer2-640", "lores"};
         for (int i = 0; i < 4; ++i) {
@@ -330,6 +331,38 @@ private slots:
         QCOMPARE(all(), after);
     }
 
+    void animationsJoinABank()
+    {
+        RandomProject random(6);
+        Project &project = random.project;
+        const auto bank = project.spriteBanks()[0];
+        const auto other = project.createSpriteBank(Quenmora::FourBit, "Other", bank->paletteId());
+        QUndoStack stack;
+        const auto stackFor = [&stack](const QUuid &) { return &stack; };
+        const EditRecorder recorder(&project, stackFor);
+        const QByteArray bytes = writtenBytes("sprite-animations", sourceOf(project, bank));
+        const ImportFile source = file("moves.bin", bytes + "rest");
+        const QList<Guess> guesses = recognise(source);
+        QVERIFY(guesses[0].kind == "block-animations" && guesses[1].kind == "sprite-animations");
+        const ImportChoices choices{.kind = "sprite-animations", .target = other->id()};
+        const auto incoming = prepare(project, source, choices);
+        QCOMPARE(incoming->remarks, QStringList("Bytes behind the last animation that are left out: 4"));
+        QVERIFY(addTo(project, *incoming, choices, stackFor));
+        QCoreApplication::processEvents(); // the recorder watches them from now on
+        QCOMPARE(writtenBytes("sprite-animations", sourceOf(project, other)), bytes);
+        QCOMPARE(stack.count(), 1);
+        stack.undo();
+        QVERIFY(other->animations().isEmpty());
+        stack.redo();
+        QCOMPARE(writtenBytes("sprite-animations", sourceOf(project, other)), bytes);
+        QCOMPARE(stack.count(), 1);
+
+        const ImportFile cut = file("moves.bin", bytes.chopped(1));
+        QCOMPARE(prepare(project, cut, choices).reason(),
+                 "The animations do not lie in the file as its beginning says");
+        QVERIFY(recognise(cut)[0].kind != "block-animations");
+    }
+
     void refuses_data()
     {
         QTest::addColumn<ImportChoices>("choices");
@@ -427,7 +460,8 @@ private slots:
             QVERIFY2(incoming || !incoming.reason().isEmpty(), qPrintable(context));
             if (!incoming)
                 continue;
-            QVERIFY2(incoming->numbers || !previewOf(project, *incoming, choices).isNull(), qPrintable(context));
+            QVERIFY2(incoming->numbers || incoming->animations || !previewOf(project, *incoming, choices).isNull(),
+                     qPrintable(context));
             const auto added = addTo(project, *incoming, choices, {});
             QVERIFY2(added ? !idOf(*added).isNull() : Source::all(project).isEmpty(), qPrintable(context));
         }

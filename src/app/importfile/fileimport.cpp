@@ -138,6 +138,8 @@ void FileImport::show(const AddedAssets &added)
         emit mapReady(added.map);
     else if (!added.sprites.isNull())
         emit spritesReady(added.sprites);
+    else if (!added.blocks.isNull())
+        emit blocksReady(added.blocks);
     else if (!added.tileSet.isNull())
         emit tileSetReady(added.tileSet);
     else if (added.image.isNull()) // an image opens by itself

@@ -47,6 +47,7 @@ signals:
     void paletteReady(const QUuid &id);
     void tileSetReady(const QUuid &id);
     void mapReady(const QUuid &id);
+    void blocksReady(const QUuid &id);
     void spritesReady(const QUuid &id);
     /// What was imported, for the status bar.
     void message(const QString &text);

@@ -316,7 +316,7 @@ QString ImportFileDialog::problem() const
     if (!kind().prepare)
         return {};
     if (kind().needsTarget && m_target->id().isNull())
-        return tr("There is no tile set whose tiles these could be for");
+        return tr("There is nothing in the project into which it could go");
     return m_incoming ? problemOf(*m_project, *m_incoming, choices()) : m_incoming.reason();
 }
 
