@@ -1,9 +1,12 @@
 #include "ui/picturepreview.h"
 
+#include <QBoxLayout>
+#include <QLabel>
 #include <QPainter>
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -29,6 +32,20 @@ PicturePreview::PicturePreview(QWidget *parent) : QFrame(parent)
     setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setAccessibleName(tr("Preview"));
+}
+
+QLayout *PicturePreview::sideBySide(PicturePreview *before, PicturePreview *after)
+{
+    auto *pictures = new QHBoxLayout;
+    for (const auto &[text, picture] : {std::pair(tr("Before"), before), {tr("After"), after}}) {
+        auto *column = new QVBoxLayout;
+        column->addWidget(new QLabel(text));
+        column->addWidget(picture, 1);
+        picture->setAccessibleName(text);
+        picture->setMinimumSize(240, 192);
+        pictures->addLayout(column, 1);
+    }
+    return pictures;
 }
 
 void PicturePreview::setPicture(const QImage &picture)

@@ -3,6 +3,8 @@
 #include <QFrame>
 #include <QImage>
 
+class QLayout;
+
 /// Shows a picture as large as it fits, with whole pixels where it is smaller than the room. A checker board shows
 /// through what is transparent.
 class PicturePreview : public QFrame
@@ -11,6 +13,10 @@ class PicturePreview : public QFrame
 
 public:
     explicit PicturePreview(QWidget *parent = nullptr);
+
+    /// A picture before and after what a dialog does to it, side by side under their titles. The caller owns the
+    /// layout.
+    [[nodiscard]] static QLayout *sideBySide(PicturePreview *before, PicturePreview *after);
 
     [[nodiscard]] QImage picture() const { return m_picture; }
     /// A null picture leaves the preview empty.

@@ -12,7 +12,6 @@
 #include <QCheckBox>
 #include <QFileInfo>
 #include <QFormLayout>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
@@ -58,15 +57,7 @@ ImportImageDialog::ImportImageDialog(QWidget *parent)
     form()->addRow(QString(), m_keepColours);
     form()->addRow(tr("&Depth"), m_depth);
     form()->addRow(tr("&Fewer colours"), m_reduction);
-    auto *pictures = new QHBoxLayout;
-    for (const auto &[text, picture] : {std::pair(tr("Before"), m_before), {tr("After"), m_after}}) {
-        auto *column = new QVBoxLayout;
-        column->addWidget(new QLabel(text));
-        column->addWidget(picture, 1);
-        picture->setAccessibleName(text);
-        pictures->addLayout(column, 1);
-    }
-    body()->addLayout(pictures, 1);
+    body()->addLayout(PicturePreview::sideBySide(m_before, m_after), 1);
     m_summary->setTextFormat(Qt::PlainText);
     body()->addWidget(m_summary);
     for (const QAbstractButton *button :

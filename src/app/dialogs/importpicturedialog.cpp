@@ -7,7 +7,6 @@
 #include <QComboBox>
 #include <QFileInfo>
 #include <QFormLayout>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLocale>
 #include <QSignalBlocker>
@@ -39,16 +38,7 @@ ImportPictureDialog::ImportPictureDialog(QWidget *parent)
     }
     form()->addRow(tr("&Dithering"), m_dithering);
     connect(m_dithering, &QComboBox::currentIndexChanged, this, &ImportPictureDialog::refresh);
-    auto *pictures = new QHBoxLayout;
-    for (const auto &[text, picture] : {std::pair(tr("Before"), m_before), {tr("After"), m_after}}) {
-        auto *column = new QVBoxLayout;
-        column->addWidget(new QLabel(text));
-        column->addWidget(picture, 1);
-        picture->setAccessibleName(text);
-        picture->setMinimumSize(240, 192);
-        pictures->addLayout(column, 1);
-    }
-    body()->addLayout(pictures, 1);
+    body()->addLayout(PicturePreview::sideBySide(m_before, m_after), 1);
     connect(this, &QDialog::rejected, this, &ImportPictureDialog::forget);
     m_summary->setTextFormat(Qt::PlainText);
     body()->addWidget(m_summary);

@@ -25,16 +25,7 @@ ImportDialog::ImportDialog(QWidget *parent)
     , m_reduction(new ReductionBox(this))
 {
     setHeader(tr("Import a picture"));
-    auto *pictures = new QHBoxLayout;
-    for (const auto &[text, picture] : {std::pair(tr("Before"), m_before), {tr("After"), m_after}}) {
-        auto *column = new QVBoxLayout;
-        column->addWidget(new QLabel(text));
-        column->addWidget(picture, 1);
-        picture->setAccessibleName(text);
-        picture->setMinimumSize(240, 192);
-        pictures->addLayout(column, 1);
-    }
-    body()->addLayout(pictures, 1);
+    body()->addLayout(PicturePreview::sideBySide(m_before, m_after), 1);
     body()->addWidget(m_size, 0, Qt::AlignHCenter);
     body()->addWidget(m_scale);
     m_keepColours->setToolTip(
