@@ -90,6 +90,8 @@ bool Terrain::paint(TileMap &grid, QPoint place, bool ground, quint32 choice) co
     bool changed = false;
     const auto put = [&](QPoint at, int index) {
         const QPointer<TileSet> set = grid.tileSet();
+        if (set && index >= set->count())
+            return; // of a terrain that does not know yet
         changed |= grid.setCell(at, {.index = index, .offset = set ? set->tileOffset(index) : 0, .used = true});
     };
     const bool isGround = has(grid.cellAt(place));

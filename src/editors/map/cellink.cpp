@@ -28,9 +28,17 @@ const TileMap::TileData &CellInk::chosen(QPoint place) const
     return stamp.cells()[qsizetype(quint64(hash) * quint64(stamp.cells().size()) >> 32)];
 }
 
+void CellInk::useTilesOf(const QPointer<Map> &map)
+{
+    tiles = map ? map->tileSet() : nullptr;
+    tileCount = tiles ? tiles->count() : 0;
+}
+
 TileMap::TileData CellInk::inked(QPoint place, const TileMap::TileData &before) const
 {
     TileMap::TileData cell = chosen(place);
+    if (cell.index >= tileCount)
+        return before;
     switch (part) {
     case Cells:
         return cell.used ? cell : before;

@@ -9,6 +9,7 @@
 #include <QRect>
 #include <QtGlobal>
 
+#include <limits>
 #include <span>
 
 namespace MapEditor {
@@ -31,7 +32,10 @@ struct CellInk
     bool random = false;
     quint32 seed = 0;
     QPointer<TileSet> tiles; ///< whose offsets tiles have
+    int tileCount = std::numeric_limits<int>::max(); ///< cells that show others leave what is there
 
+    /// Knows the tiles of a map's set from now on.
+    void useTilesOf(const QPointer<Map> &map);
     /// What a cell becomes; the stamp must not be empty.
     [[nodiscard]] TileMap::TileData inked(QPoint place, const TileMap::TileData &before) const;
     void write(QPoint first, std::span<TileMap::TileData> cells) const;

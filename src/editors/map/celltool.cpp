@@ -29,6 +29,8 @@ void CellTool::mouseMoved(QMouseEvent *event)
     if (!map())
         return;
     const QPoint cell = viewport().snappedCellAt(event->position().toPoint());
+    if (pointer().held == Qt::NoButton)
+        m_ink.reset(); // another window took the release
     const QPoint before = pointer().cell;
     const QPoint from = pointer().hasCell() ? before : cell; // the pointer may come from outside
     pointer().cell = cell;

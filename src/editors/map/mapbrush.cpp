@@ -85,7 +85,7 @@ CellInk MapBrush::ink(const QPointer<Map> &map, QPoint first, Qt::MouseButtons b
                       Qt::KeyboardModifiers modifiers) const
 {
     CellInk ink;
-    ink.tiles = map ? map->tileSet() : nullptr;
+    ink.useTilesOf(map);
     ink.stamp = pattern(map);
     ink.random = random && !stamp.isEmpty();
     if (ink.random)

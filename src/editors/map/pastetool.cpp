@@ -98,6 +98,8 @@ bool PasteTool::putPictureDown(QPoint at)
 
 void PasteTool::mouseMoved(QMouseEvent *event)
 {
+    if (pointer().held == Qt::NoButton)
+        m_first.reset(); // another window took the release
     const QPoint cell = viewport().snappedCellAt(event->position().toPoint());
     const QSize size = m_copied.isEmpty() ? surface()->pasteArea().size() : ink().stamp.size();
     const QPoint before = pointer().hasCell() ? pointer().cell : cell;
@@ -116,6 +118,7 @@ CellInk PasteTool::ink() const
     const TileMap::TileData &now = brush().tile;
     CellInk ink;
     ink.part = CellInk::Everything;
+    ink.useTilesOf(map());
     ink.stamp = m_copied.oriented(now.rotate != m_orientation.rotate, now.flip != m_orientation.flip,
                                   now.mirror != m_orientation.mirror);
     return ink;

@@ -43,6 +43,8 @@ bool SelectTool::mousePressed(QMouseEvent *event)
 
 void SelectTool::mouseMoved(QMouseEvent *event)
 {
+    if (pointer().held == Qt::NoButton)
+        m_grabbed.reset(); // another window took the release
     const QPoint point = event->position().toPoint();
     if (const QPoint cell = viewport().cellAt(point); cell != pointer().cell) {
         pointer().cell = cell;

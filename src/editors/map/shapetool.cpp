@@ -61,6 +61,8 @@ bool ShapeTool::mousePressed(QMouseEvent *event)
 
 void ShapeTool::mouseMoved(QMouseEvent *event)
 {
+    if (pointer().held == Qt::NoButton)
+        m_ink.reset(); // another window took the release
     const QPoint cell = viewport().snappedCellAt(event->position().toPoint());
     const bool straight = event->modifiers() & Qt::ShiftModifier;
     const QPoint to = straight && m_ink ? straightened(m_from, cell, m_shape == Line) : cell;

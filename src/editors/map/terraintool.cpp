@@ -35,6 +35,8 @@ bool TerrainTool::mousePressed(QMouseEvent *event)
 
 void TerrainTool::mouseMoved(QMouseEvent *event)
 {
+    if (pointer().held == Qt::NoButton)
+        m_painting = false; // another window took the release
     const QPoint cell = viewport().cellAt(event->position().toPoint());
     const QPoint before = pointer().hasCell() ? pointer().cell : cell;
     if (cell == pointer().cell)

@@ -256,6 +256,51 @@ private slots:
         QVERIFY(f.map->snapshot() == before);
     }
 
+    void nothingGoesOnWhenTheReleaseIsLost()
+    {
+        for (const ToolButton tool : {Draw, Paste, PaintTerrain, Rectangle, Select}) {
+            Painting f;
+            f.map->setTile({3, 3}, {9, false, false, false, 0, true});
+            QApplication::clipboard()->setMimeData(f.map->tileLayer()->toMimeData({3, 3, 1, 1}));
+            f.grid.setStamp(stampOf({2, 2}, {1, 2, 3, 4}));
+            f.grid.setTerrain({"Ground", false, {{5, Terrain::All}}});
+            f.grid.setMode(tool);
+            f.grid.setSelection({2, 2, 4, 4});
+            f.move(f.at(3, 3));
+            f.press(f.at(3, 3));
+            f.move(f.at(5, 5));
+            f.grid.hide(); // as when the window goes
+            f.grid.show();
+            const Map::Snapshot before = f.map->snapshot();
+            const int steps = f.stack.count();
+            f.move(f.at(12, 9));
+            f.release(f.at(12, 9));
+            QVERIFY(f.map->snapshot() == before);
+            QCOMPARE(f.stack.count(), steps);
+            f.stack.setIndex(0);
+            QCOMPARE(f.tilesIn({0, 0, 20, 16}).join(QString()).count(u'.'), 319);
+        }
+    }
+
+    void tilesThatAreGoneArePaintedByNobody()
+    {
+        Painting f;
+        f.map->setTile({0, 0}, {15, false, false, false, 0, true});
+        QApplication::clipboard()->setMimeData(f.map->tileLayer()->toMimeData({0, 0, 2, 1}));
+        f.map->setTile({0, 0}, {});
+        f.grid.setStamp(stampOf({2, 1}, {15, 1}));
+        f.grid.setTerrain({"Ground", false, {{15, Terrain::All}}});
+        f.grid.setMode(Paste);
+        f.tiles->deleteTile(3);
+        f.move(f.at(4, 4));
+        f.click(f.at(4, 4));
+        for (const ToolButton tool : {Draw, Fill, PaintTerrain}) {
+            f.grid.setMode(tool);
+            f.click(f.at(9, 9));
+        }
+        QVERIFY(!f.tilesIn({0, 0, 20, 16}).join(QString()).contains(u'f'));
+    }
+
     void deskPicksStampsAndKeepsThem()
     {
         MapAssets assets;
