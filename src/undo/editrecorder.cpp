@@ -227,9 +227,16 @@ std::unique_ptr<QUndoCommand> EditRecorder::command(const QString &text, SpriteB
 template <typename Asset, typename Change>
 std::function<void()> EditRecorder::turner(Asset &asset, const Change &change)
 {
-    return [recorder = QPointer(this), guarded = QPointer(&asset), way = change]() mutable {
+    const QPointer<Palette> palette = asset.palette();
+    const PaletteOrder made = palette ? PaletteHistory::of(*palette).order() : PaletteOrder();
+    return [recorder = QPointer(this), guarded = QPointer(&asset), way = change, palette, order = made]() mutable {
         if (!recorder || !guarded)
             return;
+        if (palette && guarded->palette() == palette) {
+            const PaletteOrder last = std::exchange(order, PaletteHistory::of(*palette).order());
+            if (last != order)
+                way.reorder(PaletteOrder::since(last, order), *guarded);
+        }
         const auto now = recorder->capture(*guarded);
         const auto next = way.undone(now);
         recorder->restore([&] { recorder->put(*guarded, now, next); });

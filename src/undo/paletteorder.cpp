@@ -44,6 +44,19 @@ QImage PaletteOrder::in(const QImage &picture) const
     return moved;
 }
 
+QImage PaletteOrder::inGroup(const QImage &picture, int group) const
+{
+    if (changesNothing() || picture.format() != QImage::Format_Indexed8)
+        return picture;
+    QImage moved = picture;
+    for (int y = 0; y < moved.height(); ++y) {
+        uchar *row = moved.scanLine(y);
+        for (int x = 0; x < moved.width(); ++x)
+            row[x] = inGroup(row[x], group);
+    }
+    return moved;
+}
+
 PaletteHistory &PaletteHistory::of(Palette &palette)
 {
     auto *history = palette.findChild<PaletteHistory *>(QString(), Qt::FindDirectChildrenOnly);

@@ -37,7 +37,8 @@ public:
 
     /// An indexed picture that looks as before when the palette has this order.
     [[nodiscard]] QImage in(const QImage &picture) const;
-    /// The same for a pixel of 4 bits that is shown with a group of 16 entries, within which all of them stay.
+    /// The same for pixels of 4 bits that are shown with a group of 16 entries, within which all of them stay.
+    [[nodiscard]] QImage inGroup(const QImage &picture, int group) const;
     [[nodiscard]] uchar inGroup(uchar pixel, int group) const
     {
         return uchar((pixel & 0xF0) | ((*this)((group * 16 + (pixel & 0x0F)) & 0xFF) & 0x0F));

@@ -201,25 +201,14 @@ void PaletteUsers::reorder(const PaletteOrder &order) const
 {
     for (const QPointer<TileSet> &tiles : m_project->tileSets()) {
         for (int tile = 0; tiles->palette() == m_palette && tile < tiles->count(); ++tile) {
-            QImage picture = tiles->image(tile);
-            for (int y = 0; y < picture.height(); ++y) {
-                uchar *row = picture.scanLine(y);
-                for (int x = 0; x < picture.width(); ++x)
-                    row[x] = order.inGroup(row[x], std::max(tiles->tileOffset(tile), 0));
-            }
-            tiles->setTileImage(tile, picture);
+            tiles->setTileImage(tile, order.inGroup(tiles->image(tile), std::max(tiles->tileOffset(tile), 0)));
         }
     }
     for (const QPointer<SpriteBank> &bank : m_project->spriteBanks()) {
         for (int sprite = 0; bank->palette() == m_palette && sprite < bank->count(); ++sprite) {
-            QImage picture = bank->spriteImage(sprite, false, false, false);
+            const QImage picture = bank->spriteImage(sprite, false, false, false);
             const bool fourBit = bank->depth() == Quenmora::FourBit;
-            for (int y = 0; y < picture.height(); ++y) {
-                uchar *row = picture.scanLine(y);
-                for (int x = 0; x < picture.width(); ++x)
-                    row[x] = fourBit ? order.inGroup(row[x], 0) : uchar(order(row[x]));
-            }
-            bank->setImage(sprite, picture);
+            bank->setImage(sprite, fourBit ? order.inGroup(picture, 0) : order.in(picture));
         }
     }
     for (const QPointer<Image> &image : m_project->images()) {

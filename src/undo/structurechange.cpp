@@ -226,6 +226,14 @@ TileSetEdit TileSetChange::undone(const TileSetEdit &now) const
     return result;
 }
 
+void TileSetChange::reorder(const PaletteOrder &order, const TileSet &)
+{
+    for (auto *states : {&m_before, &m_after}) {
+        for (Tile::State &state : *states)
+            state.image = order.inGroup(state.image, std::max(state.offset, 0));
+    }
+}
+
 SpriteBankChange::SpriteBankChange(const SpriteBankEdit &before, const SpriteBankEdit &after, const QUuid &bankId)
     : m_bankId(bankId)
     , m_order(before.names, after.names)
@@ -241,6 +249,17 @@ SpriteBankChange::SpriteBankChange(const SpriteBankEdit &before, const SpriteBan
             m_lostSprites.insert(map.key(), {lost, left.origin});
     }
     m_frames = FramesChange(before.bank.animations, after.bank.animations, back);
+}
+
+void SpriteBankChange::reorder(const PaletteOrder &order, const SpriteBank &bank)
+{
+    const bool fourBit = bank.depth() == Quenmora::FourBit;
+    for (auto *sprites : {&m_before, &m_after}) {
+        for (QByteArray &pixels : *sprites) {
+            for (char &pixel : pixels)
+                pixel = char(fourBit ? order.inGroup(uchar(pixel), 0) : order(uchar(pixel)));
+        }
+    }
 }
 
 SpriteBankEdit SpriteBankChange::undone(const SpriteBankEdit &now) const

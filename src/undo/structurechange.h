@@ -7,6 +7,7 @@
 #include "undo/gridchange.h"
 #include "undo/listchange.h"
 #include "undo/numbering.h"
+#include "undo/paletteorder.h"
 
 #include <QByteArray>
 #include <QHash>
@@ -78,6 +79,8 @@ public:
     [[nodiscard]] TileSetEdit undone(const TileSetEdit &now) const;
     /// The way forth again, after undone() led from the one to the other.
     [[nodiscard]] TileSetChange turned(const TileSetEdit &now, const TileSetEdit &next) const { return {now, next}; }
+    /// Gives what it keeps the numbers that the entries of the palette have in another order.
+    void reorder(const PaletteOrder &order, const TileSet &tileSet);
 
 private:
     struct Layers
@@ -106,6 +109,8 @@ public:
     {
         return {now, next, m_bankId};
     }
+    /// Gives what it keeps the numbers that the entries of the palette have in another order.
+    void reorder(const PaletteOrder &order, const SpriteBank &bank);
 
 private:
     QUuid m_bankId;

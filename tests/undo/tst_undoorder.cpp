@@ -195,6 +195,29 @@ private slots:
         EditClock::setSource([this] { return m_now += 1000; }); // so that no edit merges with the one before
     }
 
+    void whatComesBackFollowsTheOrderOfThePalette()
+    {
+        Project project;
+        const QPointer<Palette> palette = project.createPalette(CreateAction::DefaultNext, "Colours");
+        const QPointer<TileSet> tiles = project.createTileSet("Tiles", palette->id(), 3);
+        const QPointer<SpriteBank> bank = project.createSpriteBank(Quenmora::EightBit, "Sprites", palette->id());
+        bank->addSprite();
+        tiles->setTileImage(1, plainImage({8, 8}, 0x25));
+        tiles->setTileOffset(1, 2);
+        bank->setImage(1, plainImage({16, 16}, 0x25));
+        QUndoStack stack;
+        const EditRecorder recorder(&project, [&stack](const QUuid &) { return &stack; });
+        tiles->deleteTile(1);
+        emit bank->structureAboutToChange();
+        bank->deleteSprite(1);
+        emit bank->structureChanged("Delete Sprite");
+        QCOMPARE(stack.count(), 2);
+        PaletteHistory::of(*palette).add({{0x25, 0x29}, {0x29, 0x25}}); // on the stack of another document
+        stack.setIndex(0);
+        QCOMPARE(tiles->image(1).pixelIndex(0, 0), 0x29);
+        QCOMPARE(bank->spriteImage(1, false, false, false).pixelIndex(0, 0), 0x29);
+    }
+
     void whatIsDeletedSinceIsNotMovedBack()
     {
         const Tile::State tile{plainImage({8, 8}, 1)};
