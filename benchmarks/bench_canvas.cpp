@@ -45,6 +45,36 @@ void strokeAndRepaint(benchmark::State &state)
 }
 BENCHMARK(strokeAndRepaint)->Arg(1)->Arg(3)->Arg(16)->Arg(64)->Unit(benchmark::kMillisecond)->MeasureProcessCPUTime();
 
+/// A connected stroke across a 640 × 256 image with the largest brush, mirrored over both axes, and its repaint.
+void brushAndRepaint(benchmark::State &state)
+{
+    Palette palette;
+    palette.loadStandardNext();
+    Canvas canvas(QSize(640, 256));
+    canvas.bindPalette(&palette);
+    PaintOptions options;
+    options.connect = true;
+    options.brush = {Brush::Round, Brush::MaximumSize};
+    options.symmetry = {true, true};
+    canvas.setPaintOptions(options);
+    canvas.setZoomLevel(3);
+    canvas.resize(Screen);
+    QImage screen(Screen, QImage::Format_ARGB32_Premultiplied);
+    const auto send = [&canvas](QEvent::Type type, QPoint pixel) {
+        const QPointF point = canvas.geometryInWidget().pointOf(pixel);
+        QMouseEvent event(type, point, point, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&canvas, &event);
+    };
+    send(QEvent::MouseButtonPress, {0, 0});
+    int step = 0;
+    for (auto _ : state) {
+        ++step;
+        send(QEvent::MouseMove, step % 2 == 0 ? QPoint(0, 0) : QPoint(639, step % 256));
+        render(canvas, screen);
+    }
+}
+BENCHMARK(brushAndRepaint)->Unit(benchmark::kMillisecond)->MeasureProcessCPUTime();
+
 void switchTile(benchmark::State &state)
 {
     Palette palette;
