@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <bit>
+#include <limits>
 
 namespace {
 
@@ -56,13 +57,15 @@ int Terrain::counted(int marks) const
 
 int Terrain::tileFor(int marks, quint32 choice) const
 {
-    constexpr int SideCost = 5; // more than all corners together
+    constexpr int ExtraSide = 5; // more than all corners together
+    constexpr int MissingSide = 6; // a border inside the ground is seen more than one that is missing at its end
     const int wanted = counted(marks);
-    int best = All * SideCost;
+    int best = std::numeric_limits<int>::max();
     QList<int> fitting;
     for (const Tile &tile : tiles) {
-        const int wrong = counted(tile.marks) ^ wanted;
-        const int cost = count(wrong & Sides) * SideCost + count(wrong & ~Sides);
+        const int has = counted(tile.marks);
+        const int cost = count(wanted & ~has & Sides) * MissingSide + count(has & ~wanted & Sides) * ExtraSide
+            + count((has ^ wanted) & ~Sides);
         if (cost < best)
             fitting.clear();
         best = std::min(best, cost);

@@ -102,7 +102,8 @@ public:
     void fill(const QRect &area, int index, bool rotate, bool flip, bool mirror, bool used);
 
     /// Lets write() change runs of cells, which lie in the grid and come row by row. It does the same to equal cells of
-    /// rows that are period apart: those that share their storage go on sharing it. Whether any cell became another one.
+    /// rows that are period apart: those that share their storage go on sharing it. Whether any cell became another
+    /// one.
     bool writeRuns(const QList<Run> &runs, int period, const Writer &write);
 
     void insertColumn(Quenmora::Position position);

@@ -97,6 +97,12 @@ private slots:
         QCOMPARE(terrain.tileFor(Terrain::All & ~Terrain::NorthEast, 0), 4);
         QCOMPARE(terrain.tileFor(Terrain::All & ~Terrain::NorthEast, 1), 7);
         QCOMPARE(Terrain().tileFor(0, 3), -1);
+        Terrain hill;
+        hill.mark(31, Terrain::East | Terrain::South);
+        hill.mark(22, Terrain::Sides);
+        hill.mark(33, Terrain::North | Terrain::East);
+        for (const quint32 choice : {0, 1, 2}) // no border inside, rather none at the left
+            QCOMPARE(hill.tileFor(Terrain::North | Terrain::East | Terrain::South, choice), 22);
         TileMap grid(5, 5);
         for (int i = 0; i < 25; ++i)
             grid.setCell({i % 5, i / 5}, {.index = i % 2 ? 7 : 4, .used = true});
