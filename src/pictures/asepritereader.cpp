@@ -135,11 +135,11 @@ bool AsepriteReader::readFrame(ByteReader &file)
         ByteReader chunk(frame.take(std::max(qint64(chunkSize) - ChunkHeadBytes, qint64(0))));
         if (frame.isShort() || chunkSize < ChunkHeadBytes)
             return fail(
-                tr("Frame %1 is damaged: part %2 of %3 has a wrong size").arg(frameNumber()).arg(i + 1).arg(count));
+                tr("Frame %1 is damaged: chunk %2 of %3 has a wrong size").arg(frameNumber()).arg(i + 1).arg(count));
         if (!readChunk(type, chunk))
             return false;
         if (chunk.isShort())
-            return fail(tr("Frame %1 is damaged: part %2 of %3 is cut short").arg(frameNumber()).arg(i + 1).arg(count));
+            return fail(tr("Frame %1 is damaged: chunk %2 of %3 is cut short").arg(frameNumber()).arg(i + 1).arg(count));
     }
     return true;
 }

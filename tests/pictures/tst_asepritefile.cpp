@@ -429,7 +429,7 @@ private slots:
             "Its palette has 257 colours; at most 256 can be read");
         add(
             "a chunk too short", [](B &b) { b = indexed(), b.chunk(0x2018, le16(1)); },
-            "Frame 1 is damaged: part 3 of 3 is cut short");
+            "Frame 1 is damaged: chunk 3 of 3 is cut short");
         add(
             "no layer",
             [](B &b) {
