@@ -68,7 +68,8 @@ class TestReaders : public QObject
         QCOMPARE(roundTrip<PaletteContent>("palette", project, palette), expected);
         const auto group =
             roundTrip<PaletteContent>("palette-group", project, palette, {{"group", "9"}}, {{"group", "9"}});
-        QCOMPARE(group, (PaletteContent{144, expected.words.mid(144, 16)}));
+        QCOMPARE(group.first, 144);
+        QCOMPARE(group.words, expected.words.mid(144, 16));
         const Options index{{"transparency", "index"}};
         PaletteContent marked = expected;
         marked.transparency = palette->transparencyIndex() < 0 ? 0xE3 : palette->transparencyIndex();
