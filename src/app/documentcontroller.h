@@ -5,6 +5,7 @@
 #include "app/keyboardreturn.h"
 #include "app/projecttree/projecttree.h"
 #include "app/undostacks.h"
+#include "editors/canvas/imageimport.h" // moc wants to know it whole
 #include "editors/map/mapcommands.h"
 #include "editors/map/paintkits.h"
 #include "model/palette.h"
@@ -21,7 +22,6 @@
 #include <memory>
 
 class ProjectController;
-struct ImageImport;
 
 /// Decides which editor shows which asset: activating one brings its tab or dock to the front and tells
 /// docks and menus what is active now.

@@ -241,7 +241,7 @@ private slots:
         add("a palette in front", "layer2-256", {}, hex("E481").repeated(256) + rows, image);
         image.palette = QList<quint16>(256, 0xE501);
         add("a palette of bytes in front", "layer2-256", {}, hex("E5").repeated(256) + rows, image);
-        image.palette.clear();
+        image.palette = {};
         image.pixels[1] = 0;
         image.pixels[256] = 7;
         add("pixels by columns", "layer2-256", {{"order", "columns"}}, rows, image);

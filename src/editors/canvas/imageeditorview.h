@@ -1,5 +1,6 @@
 #pragma once
 
+#include "editors/canvas/imageimport.h" // moc wants to know it whole
 #include "editors/canvas/pixeleditor.h"
 #include "model/image.h"
 #include "model/palette.h"
@@ -11,7 +12,6 @@
 
 class ColourPalette;
 class Project;
-struct ImageImport;
 class QFileDialog;
 
 namespace ImageEditor {
