@@ -115,7 +115,7 @@ private slots:
     void startAsksWhenDueUntilItSucceeds()
     {
         FeedServer server;
-        server.response = "HTTP/1.1 200 OK\r\n\r\n{}";
+        server.response = "HTTP/1.1 200 OK\r\nContent-Length: 2\r\n\r\n{}";
         GeneralPage page;
         UpdateController controller(&page, [] {}, {"0.7.0.0", "2026-10-15", "stable"});
         page.fromJson({{"versionCheckEnabled", false}});
