@@ -7,6 +7,8 @@
 /// what it encloses. Its dashes can march, which shows it where the ground has such stripes itself.
 class OutlineBand : public QRubberBand
 {
+    Q_OBJECT
+
 public:
     explicit OutlineBand(QWidget *parent = nullptr);
 
