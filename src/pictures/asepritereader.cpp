@@ -139,7 +139,8 @@ bool AsepriteReader::readFrame(ByteReader &file)
         if (!readChunk(type, chunk))
             return false;
         if (chunk.isShort())
-            return fail(tr("Frame %1 is damaged: chunk %2 of %3 is cut short").arg(frameNumber()).arg(i + 1).arg(count));
+            return fail(
+                tr("Frame %1 is damaged: chunk %2 of %3 is cut short").arg(frameNumber()).arg(i + 1).arg(count));
     }
     return true;
 }
