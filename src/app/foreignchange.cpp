@@ -10,26 +10,27 @@
 
 namespace {
 
-QString tr(const char *text)
+/// The name under which the texts are translated.
+struct Texts
 {
-    return QCoreApplication::translate("ForeignChange", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(ForeignChange)
+};
 
 } // namespace
 
 ForeignChange::Answer askAboutForeignChange(QWidget *parent, const ForeignChange &change)
 {
-    QMessageBox box(
-        QMessageBox::Warning, tr("File Changed"),
-        tr("Another program changed the file of this project:\n%1").arg(QDir::toNativeSeparators(change.filePath)),
-        QMessageBox::NoButton, parent);
+    QMessageBox box(QMessageBox::Warning, Texts::tr("File Changed"),
+                    Texts::tr("Another program changed the file of this project:\n%1")
+                        .arg(QDir::toNativeSeparators(change.filePath)),
+                    QMessageBox::NoButton, parent);
     box.setTextFormat(Qt::PlainText);
     box.setInformativeText(plainText(
-        (change.hasUnsavedChanges ? tr("Load File opens it as it is now and drops your unsaved changes.")
-                                  : tr("Load File opens it as it is now."))
-        + QLatin1Char('\n') + tr("Keep Mine keeps the project as it is here; saving then replaces the file.")));
-    QPushButton *load = box.addButton(tr("&Load File"), QMessageBox::AcceptRole);
-    const QPushButton *keep = box.addButton(tr("&Keep Mine"), QMessageBox::DestructiveRole);
+        (change.hasUnsavedChanges ? Texts::tr("Load File opens it as it is now and drops your unsaved changes.")
+                                  : Texts::tr("Load File opens it as it is now."))
+        + QLatin1Char('\n') + Texts::tr("Keep Mine keeps the project as it is here; saving then replaces the file.")));
+    QPushButton *load = box.addButton(Texts::tr("&Load File"), QMessageBox::AcceptRole);
+    const QPushButton *keep = box.addButton(Texts::tr("&Keep Mine"), QMessageBox::DestructiveRole);
     QPushButton *cancel = box.addButton(QMessageBox::Cancel);
     box.setDefaultButton(change.hasUnsavedChanges ? cancel : load);
     widenForTitle(box);

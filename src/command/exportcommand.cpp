@@ -23,22 +23,23 @@ namespace {
 constexpr int KindWidth = 8;
 constexpr int StateWidth = 10;
 
-QString tr(const char *text)
+/// The name under which the texts are translated.
+struct Texts
 {
-    return QCoreApplication::translate("ExportCommand", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(ExportCommand)
+};
 
 QString wordOf(State state)
 {
     switch (state) {
     case State::New:
-        return tr("new");
+        return Texts::tr("new");
     case State::Changed:
-        return tr("changed");
+        return Texts::tr("changed");
     case State::Unchanged:
-        return tr("unchanged");
+        return Texts::tr("unchanged");
     case State::Impossible:
-        return tr("failed");
+        return Texts::tr("failed");
     }
     return {};
 }
@@ -70,7 +71,7 @@ QString valuesOf(const Option &option)
         return ids.join(u'|');
     }
     case Option::Kind::Text:
-        return tr("TEXT");
+        return Texts::tr("TEXT");
     }
     return {};
 }
@@ -85,7 +86,7 @@ Result<Source> assetFor(const Project &project, const QString &nameOrId, const F
             found.append(source);
     }
     if (found.isEmpty())
-        return Failure{tr("There is no asset “%1”").arg(nameOrId)};
+        return Failure{Texts::tr("There is no asset “%1”").arg(nameOrId)};
     const auto last = std::stable_partition(found.begin(), found.end(),
                                             [&](const Source &source) { return source.kind() == form.kind; });
     const auto fitting = std::distance(found.begin(), last);
@@ -96,7 +97,8 @@ Result<Source> assetFor(const Project &project, const QString &nameOrId, const F
     QStringList ids;
     for (qsizetype i = 0; i < fitting; ++i)
         ids.append(found[i].id().toString(QUuid::WithoutBraces));
-    return Failure{tr("“%1” is the name of several assets: use an id (%2)").arg(nameOrId, ids.join(tr(", ")))};
+    return Failure{
+        Texts::tr("“%1” is the name of several assets: use an id (%2)").arg(nameOrId, ids.join(Texts::tr(", ")))};
 }
 
 } // namespace
@@ -113,7 +115,7 @@ int ExportCommand::run(const QStringList &arguments)
     m_request = Request::parse(arguments, error);
     if (!error.isEmpty()) {
         m_errors << "quenmora-export: " << error << '\n'
-                 << tr("quenmora-export --help tells what it understands") << '\n';
+                 << Texts::tr("quenmora-export --help tells what it understands") << '\n';
         return WrongUsage;
     }
     switch (m_request.action) {
@@ -138,7 +140,7 @@ int ExportCommand::listForms()
               << "): " << form.title << '\n';
         listOptions(form.options.first(form.options.size() - common.size()));
     }
-    m_out << tr("Options of all forms:") << '\n';
+    m_out << Texts::tr("Options of all forms:") << '\n';
     listOptions(common);
     return Done;
 }
@@ -158,7 +160,7 @@ int ExportCommand::withProject()
     QObject::connect(&store, &ProjectStore::loadError, &store, [&error](const QString &message) { error = message; });
     store.newProject({});
     if (!QFileInfo::exists(m_request.project))
-        return fail(m_request.project, tr("There is no such file"));
+        return fail(m_request.project, Texts::tr("There is no such file"));
     if (!store.load(m_request.project))
         return fail(m_request.project, error);
     const Project &project = *store.project();
@@ -188,7 +190,7 @@ int ExportCommand::doRecipe(const Project &project)
 {
     const QString file = m_request.recipe.isEmpty() ? Recipe::pathFor(m_request.project) : m_request.recipe;
     if (m_request.recipe.isEmpty() && !QFileInfo::exists(file))
-        return fail(file, tr("The project has no recipe; File > Export Project in the editor makes one"));
+        return fail(file, Texts::tr("The project has no recipe; File > Export Project in the editor makes one"));
     Recipe recipe;
     const QList<Recipe::Problem> problems = recipe.load(file);
     for (const Recipe::Problem &problem : problems)
@@ -210,7 +212,8 @@ int ExportCommand::doRecipe(const Project &project)
             targets.append(pathIn(folder, written.name));
     }
     if (outcomes.size() < recipe.outputs().size())
-        fail(file, tr("Interrupted: %1 outputs were not looked at").arg(recipe.outputs().size() - outcomes.size()));
+        fail(file,
+             Texts::tr("Interrupted: %1 outputs were not looked at").arg(recipe.outputs().size() - outcomes.size()));
     if (!hasFailed && !writeDepfile(targets, {m_request.project, file}))
         hasFailed = true;
     sum(outcomes);
@@ -221,7 +224,7 @@ int ExportCommand::doSingle(const Project &project)
 {
     const Form *form = findForm(m_request.form);
     if (!form)
-        return fail(m_request.target, tr("There is no form “%1”").arg(m_request.form));
+        return fail(m_request.target, Texts::tr("There is no form “%1”").arg(m_request.form));
     const Result<OptionValues> values = OptionValues::parse(form->options, m_request.options);
     if (!values)
         return fail(m_request.target, values.reason());
@@ -229,7 +232,7 @@ int ExportCommand::doSingle(const Project &project)
     if (!source)
         return fail(m_request.project, source.reason());
     if (QFileInfo(m_request.target).canonicalFilePath() == QFileInfo(m_request.project).canonicalFilePath())
-        return fail(m_request.target, tr("This is the project itself"));
+        return fail(m_request.target, Texts::tr("This is the project itself"));
     const RecipeRun::Outcome outcome = runSingle(*source, *form, *values, m_request.target, mode());
     const QString folder = QFileInfo(m_request.target).path();
     report(outcome, folder, m_request.target);
@@ -265,8 +268,8 @@ void ExportCommand::sum(const QList<RecipeRun::Outcome> &outcomes)
         if (count > 0)
             counts.append(QStringLiteral("%1 %2").arg(count).arg(wordOf(state)));
     }
-    m_out << (counts.isEmpty() ? tr("The recipe is empty") : counts.join(tr(", ")))
-          << (m_request.isDryRun ? tr("; nothing was written") : QString()) << '\n';
+    m_out << (counts.isEmpty() ? Texts::tr("The recipe is empty") : counts.join(Texts::tr(", ")))
+          << (m_request.isDryRun ? Texts::tr("; nothing was written") : QString()) << '\n';
 }
 
 bool ExportCommand::writeDepfile(const QStringList &targets, const QStringList &prerequisites)
@@ -276,12 +279,12 @@ bool ExportCommand::writeDepfile(const QStringList &targets, const QStringList &
     const QString place = QFileInfo(m_request.depfile).canonicalFilePath();
     for (const QString &path : targets + prerequisites) {
         if (!place.isEmpty() && QFileInfo(path).canonicalFilePath() == place) {
-            fail(m_request.depfile, tr("This file is exported, or exported from"));
+            fail(m_request.depfile, Texts::tr("This file is exported, or exported from"));
             return false;
         }
         if (!Depfile::canName(path)) {
             fail(m_request.depfile,
-                 tr("make cannot be told of “%1”: its name has characters that end names").arg(path));
+                 Texts::tr("make cannot be told of “%1”: its name has characters that end names").arg(path));
             return false;
         }
     }

@@ -5,10 +5,11 @@
 
 namespace {
 
-QString tr(const char *text)
+/// The name under which the texts are translated.
+struct Texts
 {
-    return QCoreApplication::translate("Request", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(Request)
+};
 
 const QString Help = QStringLiteral("help");
 const QString Version = QStringLiteral("version");
@@ -30,30 +31,31 @@ const QString ShortHelp = QStringLiteral("h");
 void addOptions(QCommandLineParser &parser)
 {
     parser.addOptions({
-        {Recipe, tr("Do this recipe, not the one beside the project."), tr("file")},
-        {Output, tr("Write below this folder, not below the project's."), tr("folder")},
-        {{DryRun, QStringLiteral("n")}, tr("Write nothing, but say what would be written.")},
-        {Depfile, tr("Tell make or ninja in this file what was made of what."), tr("file")},
-        {{Quiet, QStringLiteral("q")}, tr("Say nothing unless something fails.")},
-        {Asset, tr("Without a recipe: write the asset of this name or id …"), tr("name")},
-        {Format, tr("… in this form …"), tr("id")},
-        {OptionKey, tr("… with this option of the form, which may be given again for others …"), tr("key=value")},
-        {To, tr("… to this file."), tr("file")},
-        {List, tr("List the assets: kind, id and name.")},
-        {Formats, tr("List the forms and their options.")},
-        {Describe, tr("Describe the whole project as text, for git diff.")},
-        {{ShortHelp, Help}, tr("Show this help.")},
-        {{QStringLiteral("v"), Version}, tr("Show the version.")},
+        {Recipe, Texts::tr("Do this recipe, not the one beside the project."), Texts::tr("file")},
+        {Output, Texts::tr("Write below this folder, not below the project's."), Texts::tr("folder")},
+        {{DryRun, QStringLiteral("n")}, Texts::tr("Write nothing, but say what would be written.")},
+        {Depfile, Texts::tr("Tell make or ninja in this file what was made of what."), Texts::tr("file")},
+        {{Quiet, QStringLiteral("q")}, Texts::tr("Say nothing unless something fails.")},
+        {Asset, Texts::tr("Without a recipe: write the asset of this name or id …"), Texts::tr("name")},
+        {Format, Texts::tr("… in this form …"), Texts::tr("id")},
+        {OptionKey, Texts::tr("… with this option of the form, which may be given again for others …"),
+         Texts::tr("key=value")},
+        {To, Texts::tr("… to this file."), Texts::tr("file")},
+        {List, Texts::tr("List the assets: kind, id and name.")},
+        {Formats, Texts::tr("List the forms and their options.")},
+        {Describe, Texts::tr("Describe the whole project as text, for git diff.")},
+        {{ShortHelp, Help}, Texts::tr("Show this help.")},
+        {{QStringLiteral("v"), Version}, Texts::tr("Show the version.")},
     });
-    parser.addPositionalArgument(QStringLiteral("project"), tr("A project file, as game.quenmora."));
+    parser.addPositionalArgument(QStringLiteral("project"), Texts::tr("A project file, as game.quenmora."));
 }
 
 void describe(QCommandLineParser &parser)
 {
-    parser.setApplicationDescription(
-        tr("Writes the graphics of a Quenmora project in the forms that a game takes, as its recipe says, the file\n"
-           "game.quenmora-export.json beside game.quenmora, which File > Export Project in the editor makes.\n"
-           "Files whose bytes stay the same are not touched."));
+    parser.setApplicationDescription(Texts::tr(
+        "Writes the graphics of a Quenmora project in the forms that a game takes, as its recipe says, the file\n"
+        "game.quenmora-export.json beside game.quenmora, which File > Export Project in the editor makes.\n"
+        "Files whose bytes stay the same are not touched."));
 }
 
 /// Options that ask for something else than each other, of which there can be one.
@@ -72,7 +74,7 @@ Request::Action actionOf(const QCommandLineParser &parser, QString &error)
         if (!parser.isSet(option))
             continue;
         if (!first.isEmpty())
-            error = tr("--%1 and --%2 do not go together").arg(first, option);
+            error = Texts::tr("--%1 and --%2 do not go together").arg(first, option);
         first = option;
         action = meant;
     }
@@ -102,7 +104,7 @@ QString takeOptions(Request &request, const QStringList &pairs)
     for (const QString &pair : pairs) {
         const qsizetype equals = pair.indexOf(u'=');
         if (equals < 1)
-            return tr("--%1 takes KEY=VALUE, not “%2”").arg(OptionKey, pair);
+            return Texts::tr("--%1 takes KEY=VALUE, not “%2”").arg(OptionKey, pair);
         request.options.insert(pair.first(equals), pair.sliced(equals + 1));
     }
     return {};
@@ -113,22 +115,22 @@ QString problemOf(const QCommandLineParser &parser, Request::Action action)
 {
     for (const QString &option : {Recipe, Output, Asset, Format, To, Depfile}) {
         if (parser.values(option).size() > 1)
-            return tr("--%1 is there twice").arg(option);
+            return Texts::tr("--%1 is there twice").arg(option);
         if (parser.isSet(option) && parser.value(option).isEmpty())
-            return tr("--%1 needs a value").arg(option);
+            return Texts::tr("--%1 needs a value").arg(option);
     }
     if (const QString stray = strayOption(parser, action); !stray.isEmpty())
-        return tr("--%1 means nothing here").arg(stray);
+        return Texts::tr("--%1 means nothing here").arg(stray);
     for (const QString &option : {Format, To}) {
         if (action == Request::Action::Single && !parser.isSet(option))
-            return tr("--%1 needs --%2").arg(Asset, option);
+            return Texts::tr("--%1 needs --%2").arg(Asset, option);
     }
     const QStringList projects = parser.positionalArguments();
     const qsizetype wanted = action == Request::Action::Formats ? 0 : 1;
     if (projects.size() > wanted)
-        return tr("“%1” is one argument too many").arg(projects[wanted]);
+        return Texts::tr("“%1” is one argument too many").arg(projects[wanted]);
     if (projects.size() < wanted || projects.contains(QString()))
-        return tr("A project file is missing");
+        return Texts::tr("A project file is missing");
     return {};
 }
 

@@ -3,7 +3,7 @@
 #include "importing/animationsedit.h"
 #include "importing/paletteedit.h"
 #include "importing/pixelpictures.h"
-#include "importing/tr.h"
+#include "importing/texts.h"
 #include "model/animatedblocks.h"
 #include "model/image.h"
 #include "model/map.h"
@@ -148,8 +148,9 @@ private:
     void makeSprites()
     {
         const IncomingSprites &incoming = *m_incoming.sprites;
-        const QPointer<Palette> colours =
-            incoming.palette ? makePalette(*incoming.palette, tr("%1 (sprites)").arg(m_choices.name)) : palette();
+        const QPointer<Palette> colours = incoming.palette
+            ? makePalette(*incoming.palette, Texts::tr("%1 (sprites)").arg(m_choices.name))
+            : palette();
         const QPointer<SpriteBank> bank =
             m_project.createSpriteBank(incoming.content.depth, m_choices.name, colours->id());
         bank->setWholeImage(stripOf(incoming.content, tableOf(colours)));
@@ -229,7 +230,7 @@ void replaceMap(Map &map, const IncomingMap &incoming, QUndoStack *stack)
     content.tiles = incoming.rows;
     map.restore(content);
     if (stack)
-        stack->push(new MapEditCommand(tr("Import Map"), &map, before, map.snapshot()));
+        stack->push(new MapEditCommand(Texts::tr("Import Map"), &map, before, map.snapshot()));
 }
 
 void putSprites(SpriteBank &bank, int first, const NextData::SpritesContent &content)
@@ -252,7 +253,7 @@ AddedAssets change(Project &project, const IncomingAssets &incoming, const Impor
         return {.palette = choices.target};
     }
     if (const QPointer<TileSet> tileSet = project.tileSet(choices.target)) {
-        changeStructure(*tileSet, tr("Import Tiles"), [&] {
+        changeStructure(*tileSet, Texts::tr("Import Tiles"), [&] {
             if (incoming.tiles)
                 putTiles(*tileSet, beginningAt(choices, tileSet->count()), *incoming.tiles,
                          tableOf(tileSet->palette()));
@@ -267,7 +268,7 @@ AddedAssets change(Project &project, const IncomingAssets &incoming, const Impor
         return {.sprites = choices.target};
     }
     if (bank) {
-        changeStructure(*bank, tr("Import Sprites"),
+        changeStructure(*bank, Texts::tr("Import Sprites"),
                         [&] { putSprites(*bank, beginningAt(choices, bank->count()), incoming.sprites->content); });
         return {.sprites = choices.target};
     }
@@ -280,9 +281,9 @@ AddedAssets change(Project &project, const IncomingAssets &incoming, const Impor
 QString roomProblem(int first, qsizetype count, int available, int most)
 {
     if (first < 0 || first > available)
-        return tr("There is no number %1; the last one is %2").arg(first).arg(available - 1);
+        return Texts::tr("There is no number %1; the last one is %2").arg(first).arg(available - 1);
     if (count > most - first)
-        return tr("There is room for %1, and %2 come in").arg(most - first).arg(count);
+        return Texts::tr("There is room for %1, and %2 come in").arg(most - first).arg(count);
     return {};
 }
 
@@ -290,7 +291,7 @@ QString tilesProblem(const TileSet &tileSet, const IncomingAssets &incoming, con
 {
     const int count = tileSet.count();
     if (incoming.numbers && incoming.numbers->first >= count)
-        return tr("“%1” has %2 tiles, and the first number is for tile %3 (counted from 0)")
+        return Texts::tr("“%1” has %2 tiles, and the first number is for tile %3 (counted from 0)")
             .arg(tileSet.name(), QString::number(count), QString::number(incoming.numbers->first));
     if (!incoming.tiles)
         return {};
@@ -303,7 +304,7 @@ QString spritesProblem(const SpriteBank &bank, const IncomingAssets &incoming, c
     const bool isDeeper = bank.depth() == Quenmora::FourBit && content.depth == Quenmora::EightBit
         && std::any_of(content.pixels.cbegin(), content.pixels.cend(), [](char pixel) { return uchar(pixel) > 15; });
     if (isDeeper)
-        return tr("The sprites have indices above 15, and “%1” is a bank of 4 bits").arg(bank.name());
+        return Texts::tr("The sprites have indices above 15, and “%1” is a bank of 4 bits").arg(bank.name());
     return roomProblem(beginningAt(choices, bank.count()), content.pixels.size() / SpriteBank::SpriteBytes,
                        bank.count(), SpriteBank::MaxCount);
 }
@@ -319,7 +320,7 @@ QString targetProblem(const Project &project, const IncomingAssets &incoming, co
     if ((bank && incoming.animations) || (project.palette(choices.target) && incoming.palette)
         || (project.map(choices.target) && incoming.map))
         return {};
-    return tr("The asset into which it goes is not there any more, or is of another kind");
+    return Texts::tr("The asset into which it goes is not there any more, or is of another kind");
 }
 
 } // namespace
@@ -329,8 +330,8 @@ QString problemOf(const Project &project, const IncomingAssets &incoming, const 
     if (!choices.target.isNull())
         return targetProblem(project, incoming, choices);
     if (incoming.numbers)
-        return tr("Choose the tile set whose tiles these are for");
-    return choices.name.trimmed().isEmpty() ? tr("Please enter a name") : QString();
+        return Texts::tr("Choose the tile set whose tiles these are for");
+    return choices.name.trimmed().isEmpty() ? Texts::tr("Please enter a name") : QString();
 }
 
 Result<AddedAssets> addTo(Project &project, const IncomingAssets &incoming, const ImportChoices &choices,

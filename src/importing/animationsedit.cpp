@@ -1,6 +1,6 @@
 #include "importing/animationsedit.h"
 
-#include "importing/tr.h"
+#include "importing/texts.h"
 #include "model/spriteanim.h"
 #include "model/spritebank.h"
 
@@ -23,7 +23,7 @@ public:
     };
 
     AddAnimationsCommand(SpriteBank &bank, const QList<Item> &items)
-        : QUndoCommand(tr("Import Animations"))
+        : QUndoCommand(Texts::tr("Import Animations"))
         , m_bank(&bank)
         , m_items(items)
     { }
@@ -66,7 +66,7 @@ private:
 
 QString animationName(qsizetype number)
 {
-    return tr("Animation %1").arg(number + 1);
+    return Texts::tr("Animation %1").arg(number + 1);
 }
 
 Animation::State withIds(Animation::State state)

@@ -4,7 +4,7 @@
 #include "importing/paletteinuse.h"
 #include "importing/reducedtiles.h"
 #include "importing/sharedcolours.h"
-#include "importing/tr.h"
+#include "importing/texts.h"
 #include "model/image.h"
 #include "model/project.h"
 #include "model/spritebank.h"
@@ -130,9 +130,9 @@ QList<IncomingAnimation> animationsOf(const AsepriteFile &file, const QList<Anim
             animation.frames.resize(1);
         animations.append(animation);
         if (!timing.isExact)
-            remarks.append(tr("“%1”: frames have times of their own, and get the mean of them").arg(tag.name));
+            remarks.append(Texts::tr("“%1”: frames have times of their own, and get the mean of them").arg(tag.name));
         if (tag.repeats > 0)
-            remarks.append(tr("“%1” is repeated for ever").arg(tag.name));
+            remarks.append(Texts::tr("“%1” is repeated for ever").arg(tag.name));
     }
     return animations;
 }
@@ -146,8 +146,8 @@ Result<IncomingAssets> prepareSprites(const Project &project, const ImportFile &
     const qint64 cells = qint64((read->size().width() + Side - 1) / Side) * ((read->size().height() + Side - 1) / Side);
     if (read->size().width() > Animation::MaximumSide * Side || read->size().height() > Animation::MaximumSide * Side
         || cells * read->frameCount() > SpriteBank::MaxCount)
-        return Failure{
-            tr("The frames make %1 sprites, which is more than there is room for").arg(cells * read->frameCount())};
+        return Failure{Texts::tr("The frames make %1 sprites, which is more than there is room for")
+                           .arg(cells * read->frameCount())};
     const QPointer<SpriteBank> bank = project.spriteBank(choices.target);
     const auto chosen = options.is("depth", "4") ? Quenmora::FourBit : Quenmora::EightBit;
     const auto depth = bank ? bank->depth() : chosen;
@@ -165,7 +165,7 @@ Result<IncomingAssets> prepareSprites(const Project &project, const ImportFile &
     if (!bank)
         incoming.sprites->animations = animationsOf(*read, frames, choices.name, incoming.remarks);
     else if (!read->tags().isEmpty())
-        incoming.remarks.append(tr("Sprites alone go into a bank that is there; the animations are left out"));
+        incoming.remarks.append(Texts::tr("Sprites alone go into a bank that is there; the animations are left out"));
     return incoming;
 }
 
@@ -192,7 +192,8 @@ Result<IncomingAssets> prepareTiles(const Project &, const ImportFile &file, con
     const int frames = options.is("frames", "first") ? 1 : read->frameCount();
     const qint64 pixels = qint64(read->size().width()) * read->size().height() * frames;
     if (pixels > MostPixels)
-        return Failure{tr("The frames have %1 pixels, and tiles are made of at most %2").arg(pixels).arg(MostPixels)};
+        return Failure{
+            Texts::tr("The frames have %1 pixels, and tiles are made of at most %2").arg(pixels).arg(MostPixels)};
     const TileReduction reduction =
         TileReduction::of(sheetOf(*read, frames), {.dithering = Kinds::ditheringOf(options)});
     IncomingAssets incoming = incomingOf(reduction);
@@ -216,7 +217,7 @@ Result<IncomingAssets> prepareImage(const Project &project, const ImportFile &fi
     IncomingAssets incoming{.palette = shared.palette, .remarks = shared.remarks + read->remarks()};
     incoming.image = imageOf(shared.pictures.constFirst(), mode, shared.clear, incoming.remarks);
     if (read->frameCount() > 1)
-        incoming.remarks.append(tr("Frames that are left out: %1").arg(read->frameCount() - 1));
+        incoming.remarks.append(Texts::tr("Frames that are left out: %1").arg(read->frameCount() - 1));
     return incoming;
 }
 
@@ -225,15 +226,16 @@ Result<IncomingAssets> prepareImage(const Project &project, const ImportFile &fi
 QList<FileKind> Kinds::aseprite()
 {
     using NextData::AssetKind;
-    const Option depth = Option::choice(
-        QStringLiteral("depth"), tr("Depth"), tr("How many colours the sprites have"),
-        {{QStringLiteral("8"), tr("8-bit, 256 colours")}, {QStringLiteral("4"), tr("4-bit, 16 colours")}});
+    const Option depth =
+        Option::choice(QStringLiteral("depth"), Texts::tr("Depth"), Texts::tr("How many colours the sprites have"),
+                       {{QStringLiteral("8"), Texts::tr("8-bit, 256 colours")},
+                        {QStringLiteral("4"), Texts::tr("4-bit, 16 colours")}});
     const Option frames = Option::choice(
-        QStringLiteral("frames"), tr("Frames"), tr("Which frames become tiles"),
-        {{QStringLiteral("first"), tr("The first one, with a map")}, {QStringLiteral("all"), tr("All")}});
+        QStringLiteral("frames"), Texts::tr("Frames"), Texts::tr("Which frames become tiles"),
+        {{QStringLiteral("first"), Texts::tr("The first one, with a map")}, {QStringLiteral("all"), Texts::tr("All")}});
     return {
         {.id = AsepriteSprites,
-         .title = tr("Aseprite file, for sprites with animations"),
+         .title = Texts::tr("Aseprite file, for sprites with animations"),
          .asset = AssetKind::SpriteBank,
          .options = {depth, ditheringOption()},
          .takesTarget = true,
@@ -241,12 +243,12 @@ QList<FileKind> Kinds::aseprite()
          .bringsColours = true,
          .prepare = prepareSprites},
         {.id = AsepriteTiles,
-         .title = tr("Aseprite file, for tiles"),
+         .title = Texts::tr("Aseprite file, for tiles"),
          .asset = AssetKind::TileSet,
          .options = {frames, ditheringOption()},
          .prepare = prepareTiles},
         {.id = AsepriteImage,
-         .title = tr("Aseprite file, for an image"),
+         .title = Texts::tr("Aseprite file, for an image"),
          .asset = AssetKind::Image,
          .options = {modeOption(), ditheringOption()},
          .needsPalette = true,

@@ -1,7 +1,7 @@
 #include "importing/filekind.h"
 
 #include "importing/kinds.h"
-#include "importing/tr.h"
+#include "importing/texts.h"
 #include "model/rawfile.h"
 #include "nextdata/reader.h"
 
@@ -23,14 +23,15 @@ Result<ImportFile> ImportFile::open(const QString &path)
     QFile file(path);
     const QString shown = QDir::toNativeSeparators(path);
     if (!RawFile::openForReading(file))
-        return Failure{tr("%1 cannot be read: %2")
-                           .arg(shown, file.error() == QFile::NoError ? tr("it is no file") : file.errorString())};
+        return Failure{
+            Texts::tr("%1 cannot be read: %2")
+                .arg(shown, file.error() == QFile::NoError ? Texts::tr("it is no file") : file.errorString())};
     ImportFile opened{.path = path, .size = file.size()};
     const QByteArray bytes = file.read(opened.size <= MostWhole ? opened.size : StartBytes);
     if (file.error() != QFile::NoError)
-        return Failure{tr("%1 cannot be read: %2").arg(shown, file.errorString())};
+        return Failure{Texts::tr("%1 cannot be read: %2").arg(shown, file.errorString())};
     if (bytes.isEmpty())
-        return Failure{tr("%1 is empty").arg(shown)};
+        return Failure{Texts::tr("%1 is empty").arg(shown)};
     opened.hadHeader = NextData::hasPlus3DosHeader(bytes);
     opened.bytes = NextData::withoutHeader(bytes);
     return opened;
@@ -54,7 +55,7 @@ Result<IncomingAssets> prepare(const Project &project, const ImportFile &file, c
 {
     const FileKind *kind = findFileKind(choices.kind);
     if (!kind || !kind->prepare)
-        return Failure{tr("“%1” is no kind of file that is read here").arg(choices.kind)};
+        return Failure{Texts::tr("“%1” is no kind of file that is read here").arg(choices.kind)};
     const Result<NextData::OptionValues> options = NextData::OptionValues::parse(kind->options, choices.options);
     if (!options)
         return options.failure();
@@ -62,7 +63,7 @@ Result<IncomingAssets> prepare(const Project &project, const ImportFile &file, c
     if (!incoming || !file.hadHeader)
         return incoming;
     IncomingAssets withRemark = *std::move(incoming);
-    withRemark.remarks.prepend(tr("The file has a +3DOS header, which is skipped"));
+    withRemark.remarks.prepend(Texts::tr("The file has a +3DOS header, which is skipped"));
     return withRemark;
 }
 

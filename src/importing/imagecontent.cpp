@@ -1,11 +1,15 @@
 #include "importing/imagecontent.h"
 
-#include "importing/tr.h"
+#include "importing/texts.h"
 #include "model/image.h"
 
 #include <algorithm>
 
 namespace Importing {
+
+using NextData::ImageContent;
+using NextData::Option;
+
 namespace {
 
 struct Mode
@@ -20,14 +24,14 @@ constexpr Mode Modes[] = {{Quenmora::LoRes_128x96, "lores"},
 
 } // namespace
 
-NextData::Option modeOption()
+Option modeOption()
 {
-    QList<NextData::Option::Choice> choices{{QStringLiteral("fitting"), tr("The smallest that holds the picture")}};
+    QList<Option::Choice> choices{{QStringLiteral("fitting"), Texts::tr("The smallest that holds the picture")}};
     for (const Mode &mode : Modes) {
         const QSize size = Image::sizeOf(mode.mode);
-        choices.append({QString::fromLatin1(mode.id), tr("%1 × %2").arg(size.width()).arg(size.height())});
+        choices.append({QString::fromLatin1(mode.id), Texts::tr("%1 × %2").arg(size.width()).arg(size.height())});
     }
-    return NextData::Option::choice(QStringLiteral("mode"), tr("Size"), tr("The mode of the image"), choices);
+    return Option::choice(QStringLiteral("mode"), Texts::tr("Size"), Texts::tr("The mode of the image"), choices);
 }
 
 Quenmora::ImageMode imageMode(const QString &choice, QSize picture)
@@ -41,18 +45,17 @@ Quenmora::ImageMode imageMode(const QString &choice, QSize picture)
     return Quenmora::Layer2_320x256; // the largest of 256 colours
 }
 
-NextData::ImageContent imageOf(const QImage &picture, Quenmora::ImageMode mode, int around, QStringList &remarks)
+ImageContent imageOf(const QImage &picture, Quenmora::ImageMode mode, int around, QStringList &remarks)
 {
     const QSize size = Image::sizeOf(mode);
-    NextData::ImageContent content{mode,
-                                   QByteArray(qsizetype(size.width()) * size.height(), char(std::max(around, 0)))};
+    ImageContent content{mode, QByteArray(qsizetype(size.width()) * size.height(), char(std::max(around, 0)))};
     const QPoint shift((size.width() - picture.width()) / 2, (size.height() - picture.height()) / 2);
     const QRect area = QRect(shift, picture.size()) & QRect({0, 0}, size);
     for (int y = area.top(); y <= area.bottom(); ++y)
         std::copy_n(picture.constScanLine(y - shift.y()) + area.left() - shift.x(), area.width(),
                     content.pixels.begin() + qsizetype(y) * size.width() + area.left());
     if (area.size() != picture.size()) {
-        remarks.append(tr("The picture has %1 × %2 pixels, and what does not fit is cut off")
+        remarks.append(Texts::tr("The picture has %1 × %2 pixels, and what does not fit is cut off")
                            .arg(picture.width())
                            .arg(picture.height()));
     }

@@ -1,6 +1,6 @@
 #include "importing/paletteedit.h"
 
-#include "importing/tr.h"
+#include "importing/texts.h"
 #include "model/palette.h"
 #include "undo/snapshotcommand.h"
 
@@ -58,8 +58,8 @@ void replaceEntries(Palette &palette, const NextData::PaletteContent &content, Q
         if (guarded)
             change(*guarded, from, to);
     };
-    stack->push(new SnapshotCommand<Entries>(tr("Import Palette"), before, after, changeAgain, NeverMerges, QVariant(),
-                                             NoTimeLimit));
+    stack->push(new SnapshotCommand<Entries>(Texts::tr("Import Palette"), before, after, changeAgain, NeverMerges,
+                                             QVariant(), NoTimeLimit));
 }
 
 } // namespace Importing

@@ -2,7 +2,7 @@
 #include "importing/kinds.h"
 #include "importing/paletteinuse.h"
 #include "importing/sharedcolours.h"
-#include "importing/tr.h"
+#include "importing/texts.h"
 #include "model/image.h"
 #include "model/picturefile.h"
 #include "pictures/colourfile.h"
@@ -35,11 +35,12 @@ Result<IncomingAssets> prepareColours(const Project &, const ImportFile &file, c
     if (read->transparentIndex >= 0 && read->transparentIndex < palette.words.size())
         palette.transparency = palette.first + read->transparentIndex;
     if (changed > 0)
-        incoming.remarks.append(tr("Colours that the Next does not have, and that become the nearest ones: %1 of %2")
-                                    .arg(changed)
-                                    .arg(palette.words.size()));
+        incoming.remarks.append(
+            Texts::tr("Colours that the Next does not have, and that become the nearest ones: %1 of %2")
+                .arg(changed)
+                .arg(palette.words.size()));
     if (read->colours.size() > room)
-        incoming.remarks.append(tr("Colours for which there is no room: %1").arg(read->colours.size() - room));
+        incoming.remarks.append(Texts::tr("Colours for which there is no room: %1").arg(read->colours.size() - room));
     incoming.palette = palette;
     return incoming;
 }
@@ -75,11 +76,11 @@ FileKind elsewhere(const QString &id, const QString &title, NextData::AssetKind 
 
 NextData::Option Kinds::ditheringOption()
 {
-    return NextData::Option::choice(QStringLiteral("dithering"), tr("Dithering"),
-                                    tr("How colours are shown for which there is no room"),
-                                    {{QStringLiteral("none"), tr("None")},
-                                     {QStringLiteral("ordered"), tr("Ordered pattern")},
-                                     {QStringLiteral("diffusion"), tr("Error diffusion")}});
+    return NextData::Option::choice(QStringLiteral("dithering"), Texts::tr("Dithering"),
+                                    Texts::tr("How colours are shown for which there is no room"),
+                                    {{QStringLiteral("none"), Texts::tr("None")},
+                                     {QStringLiteral("ordered"), Texts::tr("Ordered pattern")},
+                                     {QStringLiteral("diffusion"), Texts::tr("Error diffusion")}});
 }
 
 Dithering Kinds::ditheringOf(const NextData::OptionValues &options)
@@ -93,10 +94,10 @@ QList<FileKind> Kinds::colours()
 {
     using NextData::Option;
     return {{.id = Colours,
-             .title = tr("Palette of another program"),
+             .title = Texts::tr("Palette of another program"),
              .asset = NextData::AssetKind::Palette,
-             .options = {Option::number(QStringLiteral("first"), tr("First entry"),
-                                        tr("The entry that the first colour becomes"), 0, Palette::Size - 1, 0)},
+             .options = {Option::number(QStringLiteral("first"), Texts::tr("First entry"),
+                                        Texts::tr("The entry that the first colour becomes"), 0, Palette::Size - 1, 0)},
              .takesTarget = true,
              .prepare = prepareColours}};
 }
@@ -104,20 +105,20 @@ QList<FileKind> Kinds::colours()
 QList<FileKind> Kinds::pictures()
 {
     using NextData::AssetKind;
-    const NextData::Option scale = NextData::Option::flag(QStringLiteral("scale"), tr("Scale to that size"),
-                                                          tr("Makes the picture as large as the image"));
+    const NextData::Option scale = NextData::Option::flag(QStringLiteral("scale"), Texts::tr("Scale to that size"),
+                                                          Texts::tr("Makes the picture as large as the image"));
     return {
-        elsewhere(PictureMap, tr("Picture, for tiles and a map"), AssetKind::Map),
-        elsewhere(PictureSprites, tr("Picture, for sprites"), AssetKind::SpriteBank),
+        elsewhere(PictureMap, Texts::tr("Picture, for tiles and a map"), AssetKind::Map),
+        elsewhere(PictureSprites, Texts::tr("Picture, for sprites"), AssetKind::SpriteBank),
         {.id = PictureImage,
-         .title = tr("Picture, for an image"),
+         .title = Texts::tr("Picture, for an image"),
          .asset = AssetKind::Image,
          .options = {modeOption(), scale, ditheringOption()},
          .needsPalette = true,
          .bringsColours = true,
          .prepare = prepareImage},
-        elsewhere(PicturePalette, tr("Picture, for its colours"), AssetKind::Palette),
-        elsewhere(DataSet, tr("Palette, tiles, blocks and map of one name"), AssetKind::Map),
+        elsewhere(PicturePalette, Texts::tr("Picture, for its colours"), AssetKind::Palette),
+        elsewhere(DataSet, Texts::tr("Palette, tiles, blocks and map of one name"), AssetKind::Map),
     };
 }
 

@@ -2,7 +2,7 @@
 
 #include "importing/paletteinuse.h"
 #include "importing/pixelpictures.h"
-#include "importing/tr.h"
+#include "importing/texts.h"
 #include "model/image.h"
 #include "model/map.h"
 #include "model/palette.h"
@@ -183,30 +183,31 @@ QStringList factsOf(const IncomingAssets &incoming)
     QStringList facts;
     if (incoming.map) {
         const TileMap::Rows &rows = incoming.map->rows;
-        facts.append(tr("Cells: %1 × %2, which show %3 different tiles")
+        facts.append(Texts::tr("Cells: %1 × %2, which show %3 different tiles")
                          .arg(number(rows.constFirst().size()), number(rows.size()), number(differentTiles(rows))));
         if (!incoming.map->sprites.isEmpty())
-            facts.append(tr("Placed sprites: %1").arg(number(incoming.map->sprites.size())));
+            facts.append(Texts::tr("Placed sprites: %1").arg(number(incoming.map->sprites.size())));
     }
     if (incoming.tiles)
-        facts.append(tr("Tiles: %1").arg(number(incoming.tiles->tiles.size())));
+        facts.append(Texts::tr("Tiles: %1").arg(number(incoming.tiles->tiles.size())));
     if (!incoming.blocks.isEmpty())
-        facts.append(tr("Animations of tiles: %1").arg(number(incoming.blocks.size())));
+        facts.append(Texts::tr("Animations of tiles: %1").arg(number(incoming.blocks.size())));
     if (incoming.numbers)
-        facts.append(tr("Numbers: %1").arg(number(incoming.numbers->numbers.size())));
+        facts.append(Texts::tr("Numbers: %1").arg(number(incoming.numbers->numbers.size())));
     if (incoming.sprites) {
-        facts.append(tr("Sprites: %1").arg(number(incoming.sprites->content.pixels.size() / SpriteBank::SpriteBytes)));
+        facts.append(
+            Texts::tr("Sprites: %1").arg(number(incoming.sprites->content.pixels.size() / SpriteBank::SpriteBytes)));
         if (!incoming.sprites->animations.isEmpty())
-            facts.append(tr("Animations: %1").arg(number(incoming.sprites->animations.size())));
+            facts.append(Texts::tr("Animations: %1").arg(number(incoming.sprites->animations.size())));
     }
     if (incoming.image) {
         const QSize size = Image::sizeOf(incoming.image->mode);
-        facts.append(tr("Pixels: %1 × %2").arg(size.width()).arg(size.height()));
+        facts.append(Texts::tr("Pixels: %1 × %2").arg(size.width()).arg(size.height()));
     }
     if (incoming.animations)
-        facts.append(tr("Animations: %1").arg(number(incoming.animations->animations.size())));
+        facts.append(Texts::tr("Animations: %1").arg(number(incoming.animations->animations.size())));
     if (incoming.palette)
-        facts.append(tr("Colours: %1").arg(number(incoming.palette->words.size())));
+        facts.append(Texts::tr("Colours: %1").arg(number(incoming.palette->words.size())));
     return facts;
 }
 

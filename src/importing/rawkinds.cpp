@@ -1,6 +1,6 @@
 #include "importing/kinds.h"
 #include "importing/paletteinuse.h"
-#include "importing/tr.h"
+#include "importing/texts.h"
 #include "nextdata/reader.h"
 #include "pictures/ninebitcolour.h"
 
@@ -79,7 +79,7 @@ std::optional<Failure> settleMixedTiles(TilesContent &content, const QList<quint
     if (first == content.tiles.cend())
         return {};
     if (!mayReduce) {
-        return Failure{tr("Tile %1 (counted from 0) has pixels of several palette offsets, and a tile has one")
+        return Failure{Texts::tr("Tile %1 (counted from 0) has pixels of several palette offsets, and a tile has one")
                            .arg(first - content.tiles.cbegin())};
     }
     const GroupTable table(words);
@@ -89,7 +89,7 @@ std::optional<Failure> settleMixedTiles(TilesContent &content, const QList<quint
             ++lossy;
     }
     if (lossy > 0) {
-        remarks.append(tr("Tiles that lose colours, since theirs are of several palette offsets: %1 of %2")
+        remarks.append(Texts::tr("Tiles that lose colours, since theirs are of several palette offsets: %1 of %2")
                            .arg(QLocale().toString(lossy), QLocale().toString(content.tiles.size())));
     }
     return {};
@@ -123,9 +123,10 @@ Result<IncomingAssets> prepareRaw(const Project &project, const ImportFile &file
 {
     const NextData::Reader *reader = NextData::findReader(choices.kind);
     if (!reader)
-        return Failure{tr("“%1” is no kind of file that is read here").arg(choices.kind)};
+        return Failure{Texts::tr("“%1” is no kind of file that is read here").arg(choices.kind)};
     if (!file.isWhole())
-        return Failure{tr("The file has %1 bytes, which is too much for this").arg(QLocale().toString(file.size))};
+        return Failure{
+            Texts::tr("The file has %1 bytes, which is too much for this").arg(QLocale().toString(file.size))};
     const Result<NextData::Reading> reading = NextData::read(*reader, file.bytes, options);
     if (!reading)
         return reading.failure();
@@ -162,10 +163,11 @@ QList<FileKind> Kinds::raw()
         kind.prepare = prepareRaw;
         if (reader.id == EightBitTiles) {
             kind.options.append(Option::choice(
-                QStringLiteral("mixed"), tr("Several offsets"),
-                tr("What becomes of tiles whose pixels are of several palette offsets, which a tile map cannot show"),
-                {{QStringLiteral("reduce"), tr("The colours of the best one")},
-                 {QStringLiteral("refuse"), tr("Nothing is imported")}}));
+                QStringLiteral("mixed"), Texts::tr("Several offsets"),
+                Texts::tr(
+                    "What becomes of tiles whose pixels are of several palette offsets, which a tile map cannot show"),
+                {{QStringLiteral("reduce"), Texts::tr("The colours of the best one")},
+                 {QStringLiteral("refuse"), Texts::tr("Nothing is imported")}}));
         }
         kinds.append(kind);
     }

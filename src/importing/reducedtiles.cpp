@@ -1,6 +1,6 @@
 #include "importing/reducedtiles.h"
 
-#include "importing/tr.h"
+#include "importing/texts.h"
 #include "pictures/pixeltile.h"
 
 #include <QLocale>
@@ -38,11 +38,11 @@ IncomingAssets incomingOf(const TileReduction &reduction)
     }
     const QLocale locale;
     if (reduction.lossyCells > 0 || reduction.mergedCells > 0) {
-        incoming.remarks.append(tr("Of %1 pieces of 8 × 8 pixels, %2 lose colours and %3 get a tile that is like "
-                                   "theirs; mean error: %4 levels")
-                                    .arg(locale.toString(qint64(reduction.cells.size())),
-                                         locale.toString(reduction.lossyCells), locale.toString(reduction.mergedCells),
-                                         locale.toString(reduction.error, 'f', 2)));
+        incoming.remarks.append(
+            Texts::tr("Of %1 pieces of 8 × 8 pixels, %2 lose colours and %3 get a tile that is like "
+                      "theirs; mean error: %4 levels")
+                .arg(locale.toString(qint64(reduction.cells.size())), locale.toString(reduction.lossyCells),
+                     locale.toString(reduction.mergedCells), locale.toString(reduction.error, 'f', 2)));
     }
     return incoming;
 }

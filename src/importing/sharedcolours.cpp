@@ -1,6 +1,6 @@
 #include "importing/sharedcolours.h"
 
-#include "importing/tr.h"
+#include "importing/texts.h"
 #include "model/palette.h"
 #include "model/spritetransparency.h"
 #include "pictures/colourreduction.h"
@@ -170,12 +170,12 @@ SharedColours SharedColours::of(const Source &source, const Choices &choices)
     }
     const QLocale locale;
     if (isLossy) {
-        shared.remarks.append(tr("Colours: %1, which %2 stand for; mean error: %3 levels")
+        shared.remarks.append(Texts::tr("Colours: %1, which %2 stand for; mean error: %3 levels")
                                   .arg(locale.toString(census.colourCount()), locale.toString(places.colours.size()),
                                        locale.toString(std::sqrt(squares / source.count), 'f', 2)));
     }
     if (census.hasOthers)
-        shared.remarks.append(tr("Colours that the Next does not have become the nearest ones"));
+        shared.remarks.append(Texts::tr("Colours that the Next does not have become the nearest ones"));
     return shared;
 }
 
@@ -207,7 +207,7 @@ std::optional<SharedColours> SharedColours::keptIndices(const Source &source, in
         areExact =
             areExact && (i == shared.clear || !used.test(size_t(i)) || MachineColours::wordOf(source.palette[i]));
     if (!areExact)
-        shared.remarks.append(tr("Colours that the Next does not have become the nearest ones"));
+        shared.remarks.append(Texts::tr("Colours that the Next does not have become the nearest ones"));
     return shared;
 }
 

@@ -2,7 +2,7 @@
 #include "importing/kinds.h"
 #include "importing/reducedtiles.h"
 #include "importing/sharedcolours.h"
-#include "importing/tr.h"
+#include "importing/texts.h"
 #include "model/spritebank.h"
 #include "model/transform.h"
 #include "pictures/pixeltile.h"
@@ -93,7 +93,7 @@ public:
             }
             if (misfits > 0)
                 m_remarks.append(
-                    tr("Tiles that are not as large as the cells, and are cut or filled: %1").arg(misfits));
+                    Texts::tr("Tiles that are not as large as the cells, and are cut or filled: %1").arg(misfits));
         }
         m_reduction = TileReduction::of(picture, {.dithering = dithering});
         m_blank = m_reduction.cells.front().tile;
@@ -169,11 +169,11 @@ public:
     void remark() const
     {
         if (m_leftOut > 0)
-            m_incoming.remarks.append(tr("Cells whose animations are left out, since there are more than %1: %2")
+            m_incoming.remarks.append(Texts::tr("Cells whose animations are left out, since there are more than %1: %2")
                                           .arg(QLocale().toString(MostPlacements), QLocale().toString(m_leftOut)));
         if (m_inexact > 0)
             m_incoming.remarks.append(
-                tr("Animations whose frames have times of their own, and get the mean: %1").arg(m_inexact));
+                Texts::tr("Animations whose frames have times of their own, and get the mean: %1").arg(m_inexact));
     }
 
 private:
@@ -269,9 +269,10 @@ public:
     void finish(IncomingAssets &incoming, Dithering dithering) const
     {
         if (m_leftOut > 0)
-            incoming.remarks.append(tr("Objects that are no sprites, turned, scaled, hidden or too large, and are left "
-                                       "out: %1")
-                                        .arg(QLocale().toString(m_leftOut)));
+            incoming.remarks.append(
+                Texts::tr("Objects that are no sprites, turned, scaled, hidden or too large, and are left "
+                          "out: %1")
+                    .arg(QLocale().toString(m_leftOut)));
         if (m_pictures.isEmpty())
             return;
         const SharedColours shared = SharedColours::of(
@@ -315,16 +316,17 @@ QString refusalOf(const TiledMap &map)
 {
     const QSize pixels = map.tileSize;
     if (pixels.isEmpty() || pixels.width() % Side != 0 || pixels.height() % Side != 0)
-        return tr("The cells of the map have %1 × %2 pixels, and tiles of the Next 8 × 8: only multiples of that can "
-                  "be cut")
+        return Texts::tr(
+                   "The cells of the map have %1 × %2 pixels, and tiles of the Next 8 × 8: only multiples of that can "
+                   "be cut")
             .arg(pixels.width())
             .arg(pixels.height());
     const qint64 width = qint64(map.size.width()) * (pixels.width() / Side);
     const qint64 height = qint64(map.size.height()) * (pixels.height() / Side);
     if (width <= 0 || height <= 0)
-        return tr("The map has no cells");
+        return Texts::tr("The map has no cells");
     if (width > MostSide || height > MostSide || width * height > MostCells)
-        return tr("That makes a map of %1 × %2 cells; %3 along a side and %4 in all are the most")
+        return Texts::tr("That makes a map of %1 × %2 cells; %3 along a side and %4 in all are the most")
             .arg(width)
             .arg(height)
             .arg(MostSide)
@@ -362,7 +364,7 @@ Result<IncomingAssets> prepareTiled(const Project &, const ImportFile &file, con
             atlas.add(cell.tileSet, frame.tile);
     }
     if (atlas.pixelCount() > MostAtlasPixels)
-        return Failure{tr("The map shows too many different tiles: of %1 × %2 pixels, %3 are the most")
+        return Failure{Texts::tr("The map shows too many different tiles: of %1 × %2 pixels, %3 are the most")
                            .arg(map.tileSize.width())
                            .arg(map.tileSize.height())
                            .arg(MostAtlasPixels / (map.tileSize.width() * map.tileSize.height()))};
@@ -393,7 +395,7 @@ Result<IncomingAssets> prepareTiled(const Project &, const ImportFile &file, con
         objects.add(object);
     objects.finish(incoming, dithering);
     if (!incoming.outside.isEmpty())
-        incoming.remarks.append(tr("Files that are left alone because they are not below the map's folder: %1")
+        incoming.remarks.append(Texts::tr("Files that are left alone because they are not below the map's folder: %1")
                                     .arg(incoming.outside.join(QStringLiteral(", "))));
     return incoming;
 }
@@ -403,13 +405,14 @@ Result<IncomingAssets> prepareTiled(const Project &, const ImportFile &file, con
 QList<FileKind> Kinds::tiled()
 {
     using NextData::Option;
-    return {{.id = Tiled,
-             .title = tr("Map of Tiled"),
-             .asset = NextData::AssetKind::Map,
-             .options = {Kinds::ditheringOption(),
-                         Option::flag(QStringLiteral("anywhere"), tr("Read files outside its folder"),
-                                      tr("Takes tile sets and pictures from wherever the map says that they are"))},
-             .prepare = prepareTiled}};
+    return {
+        {.id = Tiled,
+         .title = Texts::tr("Map of Tiled"),
+         .asset = NextData::AssetKind::Map,
+         .options = {Kinds::ditheringOption(),
+                     Option::flag(QStringLiteral("anywhere"), Texts::tr("Read files outside its folder"),
+                                  Texts::tr("Takes tile sets and pictures from wherever the map says that they are"))},
+         .prepare = prepareTiled}};
 }
 
 } // namespace Importing

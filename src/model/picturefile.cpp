@@ -63,10 +63,11 @@ private:
     const int m_before = QImageReader::allocationLimit();
 };
 
-QString tr(const char *text)
+/// The name under which the texts are translated.
+struct Texts
 {
-    return QCoreApplication::translate("PictureFile", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(PictureFile)
+};
 
 PictureFile refused(const QString &refusal = {})
 {
@@ -81,7 +82,7 @@ PictureFile decoded(Reader &reader)
     if (size.isEmpty())
         return refused();
     if (!NxImage::accepts(size)) {
-        return refused(tr("It has %1 × %2 pixels; at most %3 × %3, or as many in another shape, can be read")
+        return refused(Texts::tr("It has %1 × %2 pixels; at most %3 × %3, or as many in another shape, can be read")
                            .arg(size.width())
                            .arg(size.height())
                            .arg(PictureFile::MaxSide));
@@ -113,7 +114,7 @@ Result withReader(QIODevice &device, const Use &use)
 
 QString PictureFile::failure() const
 {
-    const QString failure = tr("Could not read the image file");
+    const QString failure = Texts::tr("Could not read the image file");
     return refusal.isEmpty() ? failure : failure + QLatin1Char('\n') + refusal;
 }
 
@@ -121,7 +122,7 @@ PictureFile PictureFile::read(const QString &fileName)
 {
     const QFileInfo info(fileName); // of what a link leads to
     if (info.exists() && !info.isFile() && !info.isDir())
-        return refused(tr("It is a pipe or a device, not a file"));
+        return refused(Texts::tr("It is a pipe or a device, not a file"));
     QFile file(fileName);
     if (!info.isFile() || !file.open(QIODevice::ReadOnly))
         return refused();

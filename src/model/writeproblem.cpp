@@ -8,10 +8,11 @@
 
 namespace {
 
-QString tr(const char *text)
+/// The name under which the texts are translated.
+struct Texts
 {
-    return QCoreApplication::translate("WriteProblem", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(WriteProblem)
+};
 
 } // namespace
 
@@ -21,20 +22,21 @@ QString writeProblem(const QString &filePath)
     const QFileInfo folder(file.absolutePath());
     const QString path = QDir::toNativeSeparators(filePath);
     if (!folder.isDir())
-        return tr("There is no folder %1").arg(QDir::toNativeSeparators(folder.filePath()));
+        return Texts::tr("There is no folder %1").arg(QDir::toNativeSeparators(folder.filePath()));
     if (file.isDir())
-        return tr("%1 is a folder").arg(path);
+        return Texts::tr("%1 is a folder").arg(path);
     if (file.exists() && !file.isFile())
-        return tr("%1 is a pipe or a device, not a file").arg(path);
+        return Texts::tr("%1 is a pipe or a device, not a file").arg(path);
     if (file.exists() ? !RawFile::isWritable(filePath) : !folder.isWritable())
-        return tr("You may not write to %1").arg(path);
-    return tr("%1 could not be written to its end; there may be no room left").arg(path);
+        return Texts::tr("You may not write to %1").arg(path);
+    return Texts::tr("%1 could not be written to its end; there may be no room left").arg(path);
 }
 
 QString writeProblem(const QString &folder, const QString &fileName)
 {
     if (QFileInfo(fileName).fileName() != fileName)
-        return tr("No file can be called %1: a slash would lead into another folder. Another name of the asset helps.")
+        return Texts::tr(
+                   "No file can be called %1: a slash would lead into another folder. Another name of the asset helps.")
             .arg(fileName);
     return writeProblem(QDir(folder).filePath(fileName));
 }

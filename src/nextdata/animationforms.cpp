@@ -24,7 +24,7 @@
 #include "model/tilemapformat.h"
 #include "nextdata/families.h"
 #include "nextdata/records.h"
-#include "nextdata/tr.h"
+#include "nextdata/texts.h"
 
 #include <optional>
 
@@ -77,11 +77,11 @@ Result<qint64> size(const Source &source, const OptionValues &)
 /// Number and places of the animations.
 QByteArray tableOf(Records &records, const Animations &animations)
 {
-    records.begin(tr("the table of animations"));
-    records.addWord(tr("their number"), animations.size());
+    records.begin(Texts::tr("the table of animations"));
+    records.addWord(Texts::tr("their number"), animations.size());
     qint64 place = tableBytes(animations);
     for (const Animation *animation : animations) {
-        records.addWord(tr("the place of “%1”").arg(animation->name()), place);
+        records.addWord(Texts::tr("the place of “%1”").arg(animation->name()), place);
         place += sizeOf(*animation);
     }
     return records.bytes();
@@ -89,12 +89,12 @@ QByteArray tableOf(Records &records, const Animations &animations)
 
 QByteArray headOf(Records &records, const Animation &animation)
 {
-    records.begin(tr("animation “%1”").arg(animation.name()));
-    records.addByte(tr("the width"), animation.size().width());
-    records.addByte(tr("the height"), animation.size().height());
-    records.addByte(tr("the number of frames"), animation.frameCount());
-    records.addByte(tr("the kind"), kindOf(animation));
-    records.addWord(tr("the delay"), animation.delay());
+    records.begin(Texts::tr("animation “%1”").arg(animation.name()));
+    records.addByte(Texts::tr("the width"), animation.size().width());
+    records.addByte(Texts::tr("the height"), animation.size().height());
+    records.addByte(Texts::tr("the number of frames"), animation.frameCount());
+    records.addByte(Texts::tr("the kind"), kindOf(animation));
+    records.addWord(Texts::tr("the delay"), animation.delay());
     return records.bytes();
 }
 
@@ -102,8 +102,8 @@ QByteArray headOf(Records &records, const Animation &animation)
 QString misfit(const AnimationFrame::Cell &cell)
 {
     if (cell.index < 0 || cell.index > MostIndex)
-        return tr("it shows number %1, and %2 is the last one that fits").arg(cell.index).arg(MostIndex);
-    return cell.offset < 0 || cell.offset > 15 ? tr("it has the palette offset %1").arg(cell.offset) : QString();
+        return Texts::tr("it shows number %1, and %2 is the last one that fits").arg(cell.index).arg(MostIndex);
+    return cell.offset < 0 || cell.offset > 15 ? Texts::tr("it has the palette offset %1").arg(cell.offset) : QString();
 }
 
 /// The cells of a frame, of the animation's size.
@@ -116,7 +116,7 @@ Result<QByteArray> cellsOf(const Animation &animation, int frameNumber)
         for (int x = 0; x < animation.size().width(); ++x) {
             const AnimationFrame::Cell cell = frame->cell(y, x);
             if (const QString reason = misfit(cell); !reason.isEmpty()) {
-                return Failure{tr("Animation “%1”, frame %2, column %3, row %4 (counted from 0): %5")
+                return Failure{Texts::tr("Animation “%1”, frame %2, column %3, row %4 (counted from 0): %5")
                                    .arg(animation.name(), QString::number(frameNumber), QString::number(x),
                                         QString::number(y), reason)};
             }
@@ -133,18 +133,18 @@ Result<Data> write(const Source &source, const OptionValues &)
     const Animations animations = animationsOf<Owner>(source);
     Records records(source.name());
     Data data{{{QStringLiteral("count"), animations.size()}},
-              {{.bytes = tableOf(records, animations), .comment = tr("number and places of the animations")}}};
+              {{.bytes = tableOf(records, animations), .comment = Texts::tr("number and places of the animations")}}};
     for (int i = 0; i < animations.size(); ++i) {
         const Animation &animation = *animations[i];
         data.blocks.append({.bytes = headOf(records, animation),
                             .name = animation.name(),
                             .number = i,
-                            .comment = tr("animation %1 “%2”").arg(i).arg(animation.name())});
+                            .comment = Texts::tr("animation %1 “%2”").arg(i).arg(animation.name())});
         for (int frame = 0; frame < animation.frameCount(); ++frame) {
             const Result<QByteArray> cells = cellsOf(animation, frame);
             if (!cells)
                 return cells.failure();
-            data.blocks.append({.bytes = *cells, .comment = tr("frame %1").arg(frame)});
+            data.blocks.append({.bytes = *cells, .comment = Texts::tr("frame %1").arg(frame)});
         }
     }
     if (records.failure())
@@ -202,7 +202,7 @@ std::optional<AnimationsContent::Item> itemAt(const QByteArray &bytes, qsizetype
 
 Result<Reading> read(const QByteArray &bytes, const OptionValues &)
 {
-    const Failure misfit{tr("The animations do not lie in the file as its beginning says")};
+    const Failure misfit{Texts::tr("The animations do not lie in the file as its beginning says")};
     const qsizetype count = bytes.size() < WordBytes ? 0 : wordAt(bytes, 0);
     qsizetype place = WordBytes + WordBytes * count;
     if (count == 0 || place > bytes.size())
@@ -218,7 +218,8 @@ Result<Reading> read(const QByteArray &bytes, const OptionValues &)
     }
     Reading reading{content, {}};
     if (place < bytes.size())
-        reading.remarks.append(tr("Bytes behind the last animation that are left out: %1").arg(bytes.size() - place));
+        reading.remarks.append(
+            Texts::tr("Bytes behind the last animation that are left out: %1").arg(bytes.size() - place));
     return reading;
 }
 
@@ -228,7 +229,7 @@ QList<Form> blockAnimationForms()
 {
     return {{.id = QStringLiteral("block-animations"),
              .kind = AssetKind::BlockSet,
-             .title = tr("Animations of blocks"),
+             .title = Texts::tr("Animations of blocks"),
              .suffix = QStringLiteral("bin"),
              .noun = QStringLiteral("animations"),
              .options = {},
@@ -240,7 +241,7 @@ QList<Form> spriteAnimationForms()
 {
     return {{.id = QStringLiteral("sprite-animations"),
              .kind = AssetKind::SpriteBank,
-             .title = tr("Animations of sprites"),
+             .title = Texts::tr("Animations of sprites"),
              .suffix = QStringLiteral("bin"),
              .noun = QStringLiteral("animations"),
              .options = {},
@@ -253,14 +254,14 @@ QList<Reader> animationReaders()
     return {
         {.id = QStringLiteral("block-animations"),
          .kind = AssetKind::BlockSet,
-         .title = tr("Animations of blocks"),
+         .title = Texts::tr("Animations of blocks"),
          .suffixes = {QStringLiteral("bin")},
          .options = {},
          .fit = fits,
          .read = read},
         {.id = QStringLiteral("sprite-animations"),
          .kind = AssetKind::SpriteBank,
-         .title = tr("Animations of sprites"),
+         .title = Texts::tr("Animations of sprites"),
          .suffixes = {QStringLiteral("bin")},
          .options = {},
          .fit = fits,

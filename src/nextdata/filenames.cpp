@@ -1,6 +1,6 @@
 #include "nextdata/filenames.h"
 
-#include "nextdata/tr.h"
+#include "nextdata/texts.h"
 
 #include <QStringList>
 
@@ -33,17 +33,17 @@ bool isDevice(const QString &name)
 QString problemOfName(const QString &name)
 {
     if (name == QStringLiteral(".."))
-        return tr("it leads out of its folder");
+        return Texts::tr("it leads out of its folder");
     if (name.isEmpty() || name == QStringLiteral("."))
-        return tr("a folder or file in it has no name");
+        return Texts::tr("a folder or file in it has no name");
     if (std::any_of(name.cbegin(), name.cend(), isForbidden))
-        return tr("“%1” has a character that file names cannot have everywhere").arg(name);
+        return Texts::tr("“%1” has a character that file names cannot have everywhere").arg(name);
     if (name.endsWith(u'.') || name.endsWith(u' '))
-        return tr("“%1” ends in a dot or a space, which Windows takes away").arg(name);
+        return Texts::tr("“%1” ends in a dot or a space, which Windows takes away").arg(name);
     if (isDevice(name))
-        return tr("Windows takes “%1” for a device").arg(name);
+        return Texts::tr("Windows takes “%1” for a device").arg(name);
     if (name.toUtf8().size() > LongestName)
-        return tr("a name in it is longer than %1 bytes").arg(LongestName);
+        return Texts::tr("a name in it is longer than %1 bytes").arg(LongestName);
     return {};
 }
 
@@ -75,16 +75,16 @@ QString fromAssetName(const QString &name, const QString &fallback)
 QString problemOf(const QString &relativePath)
 {
     if (relativePath.isEmpty())
-        return tr("There is no file name");
+        return Texts::tr("There is no file name");
     QString problem;
     if (relativePath.startsWith(u'/') || (relativePath.size() > 1 && relativePath.at(1) == u':'))
-        problem = tr("it is not relative");
+        problem = Texts::tr("it is not relative");
     const QStringList names = relativePath.split(u'/');
     for (const QString &name : names) {
         if (problem.isEmpty())
             problem = problemOfName(name);
     }
-    return problem.isEmpty() ? QString() : tr("“%1” cannot be written: %2").arg(relativePath, problem);
+    return problem.isEmpty() ? QString() : Texts::tr("“%1” cannot be written: %2").arg(relativePath, problem);
 }
 
 QString withPart(const QString &fileName, const QString &part)

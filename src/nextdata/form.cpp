@@ -2,7 +2,7 @@
 
 #include "nextdata/families.h"
 #include "nextdata/output.h"
-#include "nextdata/tr.h"
+#include "nextdata/texts.h"
 
 #include <algorithm>
 
@@ -46,7 +46,7 @@ QList<const Form *> formsFor(const Source &source)
 QString refusalOf(const Form &form, const Source &source)
 {
     if (form.kind != source.kind()) {
-        return tr("“%1” is %2, and the form %3 is for %4")
+        return Texts::tr("“%1” is %2, and the form %3 is for %4")
             .arg(source.name(), titleOf(source.kind()), form.id, titleOf(form.kind));
     }
     return form.refusal ? form.refusal(source) : QString();

@@ -13,7 +13,7 @@
 #include "nextdata/families.h"
 #include "nextdata/palettewords.h"
 #include "nextdata/pixels.h"
-#include "nextdata/tr.h"
+#include "nextdata/texts.h"
 
 #include <algorithm>
 
@@ -30,14 +30,14 @@ QString refusal(const Source &source)
     const auto &image = source.as<Image>();
     if (image.mode() == Mode && image.image().size() == Image::sizeOf(Mode))
         return {};
-    const auto text = [](QSize size) { return tr("%1 × %2").arg(size.width()).arg(size.height()); };
-    return tr("“%1” has %2 pixels, and this form %3")
+    const auto text = [](QSize size) { return Texts::tr("%1 × %2").arg(size.width()).arg(size.height()); };
+    return Texts::tr("“%1” has %2 pixels, and this form %3")
         .arg(image.name(), text(image.image().size()), text(Image::sizeOf(Mode)));
 }
 
 Failure noPalette(const Source &source)
 {
-    return {tr("“%1” has no palette that could stand in front").arg(source.name())};
+    return {Texts::tr("“%1” has no palette that could stand in front").arg(source.name())};
 }
 
 template <ImageMode Mode>
@@ -96,8 +96,8 @@ Result<Data> write640(const Source &source, const OptionValues &values)
     for (qsizetype i = 0; i < pixels.size(); ++i) {
         if (const int index = uchar(pixels[i]); index >> 4 != offset) {
             return Failure{
-                tr("“%1”: the pixel at %2, %3 has the index %4, and only those from %5 to %6 go with the first "
-                   "pixel")
+                Texts::tr("“%1”: the pixel at %2, %3 has the index %4, and only those from %5 to %6 go with the first "
+                          "pixel")
                     .arg(source.name(), QString::number(i % image.width()), QString::number(i / image.width()),
                          QString::number(index), QString::number(offset * 16), QString::number(offset * 16 + 15))};
         }
@@ -171,7 +171,7 @@ Result<Reading> readImage(const QByteArray &bytes, const OptionValues &values)
 {
     constexpr qint64 wanted = pixelBytes<Mode>();
     if (fits<Mode>(bytes.size()) == Reader::Fit::None) {
-        return Failure{tr("The file has %1 bytes, and such a picture %2, or %3 or %4 with its palette")
+        return Failure{Texts::tr("The file has %1 bytes, and such a picture %2, or %3 or %4 with its palette")
                            .arg(QString::number(bytes.size()), QString::number(wanted),
                                 QString::number(wanted + PaletteBytes), QString::number(wanted + Palette::Size))};
     }
@@ -197,23 +197,23 @@ Result<Reading> readImage(const QByteArray &bytes, const OptionValues &values)
         ImageContent{Mode, pixels, palette.size() == PaletteBytes ? wordsOf(palette) : wordsOfColourBytes(palette)},
         {}};
     if (isHalf)
-        reading.remarks.append(tr("The file has one half of the picture, which becomes the upper one"));
+        reading.remarks.append(Texts::tr("The file has one half of the picture, which becomes the upper one"));
     return reading;
 }
 
 template <ImageMode Mode>
 Reader reader(const char *id, const QString &title, const QStringList &suffixes)
 {
-    const Option::Choice byRows{QStringLiteral("rows"), tr("By rows")};
-    const Option::Choice byColumns{QStringLiteral("columns"), tr("By columns")};
+    const Option::Choice byRows{QStringLiteral("rows"), Texts::tr("By rows")};
+    const Option::Choice byColumns{QStringLiteral("columns"), Texts::tr("By columns")};
     const bool isUsuallyByRows = Mode == Quenmora::Layer2_256x192 || Mode == Quenmora::LoRes_128x96;
-    QList<Option> options{Option::choice(QStringLiteral("order"), tr("Order"),
-                                         tr("In which order the pixels follow each other"),
+    QList<Option> options{Option::choice(QStringLiteral("order"), Texts::tr("Order"),
+                                         Texts::tr("In which order the pixels follow each other"),
                                          isUsuallyByRows ? QList{byRows, byColumns} : QList{byColumns, byRows})};
     if (Mode == Quenmora::Layer2_640x256)
-        options.append(Option::number(QStringLiteral("group"), tr("Palette offset"),
-                                      tr("The group of sixteen colours of all pixels, which comes from a register"), 0,
-                                      15, 0));
+        options.append(Option::number(
+            QStringLiteral("group"), Texts::tr("Palette offset"),
+            Texts::tr("The group of sixteen colours of all pixels, which comes from a register"), 0, 15, 0));
     return {.id = QString::fromLatin1(id),
             .kind = AssetKind::Image,
             .title = title,
@@ -227,16 +227,19 @@ Reader reader(const char *id, const QString &title, const QStringList &suffixes)
 
 QList<Form> imageForms()
 {
-    const Option palette = Option::flag(QStringLiteral("palette"), tr("Palette in front"),
-                                        tr("Writes the 512 bytes of the image's palette before the pixels"));
-    const Option halves = Option::flag(QStringLiteral("halves"), tr("Two halves"),
-                                       tr("Writes the upper and the lower half into files of their own"));
+    const Option palette = Option::flag(QStringLiteral("palette"), Texts::tr("Palette in front"),
+                                        Texts::tr("Writes the 512 bytes of the image's palette before the pixels"));
+    const Option halves = Option::flag(QStringLiteral("halves"), Texts::tr("Two halves"),
+                                       Texts::tr("Writes the upper and the lower half into files of their own"));
     return {
-        form<Quenmora::Layer2_256x192>("layer2-256", tr("Layer 2, 256 × 192, by rows"), "nxi", {palette}, write256),
-        form<Quenmora::Layer2_320x256>("layer2-320", tr("Layer 2, 320 × 256, by columns"), "nxi", {palette}, write320),
-        form<Quenmora::Layer2_640x256>("layer2-640", tr("Layer 2, 640 × 256, by columns, two pixels a byte"), "nxi",
-                                       {palette}, write640),
-        form<Quenmora::LoRes_128x96>("lores", tr("LoRes, 128 × 96, by rows"), "slr", {palette, halves}, writeLoRes),
+        form<Quenmora::Layer2_256x192>("layer2-256", Texts::tr("Layer 2, 256 × 192, by rows"), "nxi", {palette},
+                                       write256),
+        form<Quenmora::Layer2_320x256>("layer2-320", Texts::tr("Layer 2, 320 × 256, by columns"), "nxi", {palette},
+                                       write320),
+        form<Quenmora::Layer2_640x256>("layer2-640", Texts::tr("Layer 2, 640 × 256, by columns, two pixels a byte"),
+                                       "nxi", {palette}, write640),
+        form<Quenmora::LoRes_128x96>("lores", Texts::tr("LoRes, 128 × 96, by rows"), "slr", {palette, halves},
+                                     writeLoRes),
     };
 }
 
@@ -246,10 +249,10 @@ QList<Reader> imageReaders()
                              QStringLiteral("bin")};
     const QStringList lores{QStringLiteral("slr"), QStringLiteral("nxi"), QStringLiteral("bin")};
     return {
-        reader<Quenmora::Layer2_256x192>("layer2-256", tr("Layer 2, 256 × 192"), layer2),
-        reader<Quenmora::Layer2_320x256>("layer2-320", tr("Layer 2, 320 × 256"), layer2),
-        reader<Quenmora::Layer2_640x256>("layer2-640", tr("Layer 2, 640 × 256, two pixels a byte"), layer2),
-        reader<Quenmora::LoRes_128x96>("lores", tr("LoRes, 128 × 96"), lores),
+        reader<Quenmora::Layer2_256x192>("layer2-256", Texts::tr("Layer 2, 256 × 192"), layer2),
+        reader<Quenmora::Layer2_320x256>("layer2-320", Texts::tr("Layer 2, 320 × 256"), layer2),
+        reader<Quenmora::Layer2_640x256>("layer2-640", Texts::tr("Layer 2, 640 × 256, two pixels a byte"), layer2),
+        reader<Quenmora::LoRes_128x96>("lores", Texts::tr("LoRes, 128 × 96"), lores),
     };
 }
 

@@ -9,7 +9,7 @@
 #include "model/map.h"
 #include "model/tilemapformat.h"
 #include "nextdata/families.h"
-#include "nextdata/tr.h"
+#include "nextdata/texts.h"
 
 #include <algorithm>
 #include <optional>
@@ -100,7 +100,7 @@ Data writeScreens(const Map &map, const OptionValues &values, int cellBytes, Enc
         for (int across = 0; across < count.width(); ++across) {
             const QRect area({across * screen.width(), down * screen.height()}, screen);
             data.blocks.append({.bytes = screenBytes(rows, area, byColumns, cellBytes, encode),
-                                .comment = isWhole ? QString() : tr("screen %1, %2").arg(across).arg(down),
+                                .comment = isWhole ? QString() : Texts::tr("screen %1, %2").arg(across).arg(down),
                                 .bytesPerLine = bytesPerLine,
                                 .startsFile = values.flag("screen-files")});
         }
@@ -116,7 +116,7 @@ std::optional<Failure> firstMisfit(const Map &map, Misfit misfit)
     for (int y = 0; y < rows.size(); ++y) {
         for (int x = 0; x < rows[y].size(); ++x) {
             if (const QString reason = misfit(rows[y][x]); !reason.isEmpty()) {
-                return Failure{tr("“%1”: the cell in column %2, row %3 (counted from 0) %4")
+                return Failure{Texts::tr("“%1”: the cell in column %2, row %3 (counted from 0) %4")
                                    .arg(map.name(), QString::number(x), QString::number(y), reason)};
             }
         }
@@ -126,7 +126,7 @@ std::optional<Failure> firstMisfit(const Map &map, Misfit misfit)
 
 QString indexMisfit(int index, int most)
 {
-    return tr("shows tile %1, and %2 is the last one that fits").arg(index).arg(most);
+    return Texts::tr("shows tile %1, and %2 is the last one that fits").arg(index).arg(most);
 }
 
 template <int CellBytes>
@@ -144,7 +144,8 @@ Result<Data> writeTwoBytes(const Source &source, const OptionValues &values)
     const auto misfit = [](const TileData &cell) {
         if (cell.index < 0 || cell.index > MostIndex)
             return indexMisfit(cell.index, MostIndex);
-        return cell.offset < 0 || cell.offset > 15 ? tr("has the palette offset %1").arg(cell.offset) : QString();
+        return cell.offset < 0 || cell.offset > 15 ? Texts::tr("has the palette offset %1").arg(cell.offset)
+                                                   : QString();
     };
     if (const auto failure = firstMisfit(map, misfit))
         return *failure;
@@ -172,9 +173,9 @@ Result<Data> writeOneByte(const Source &source, const OptionValues &values)
         if (cell.index < 0 || cell.index > MostByteIndex)
             return indexMisfit(cell.index, MostByteIndex);
         if (cell.rotate || cell.mirror || cell.flip)
-            return tr("is rotated or mirrored, which one byte does not tell");
+            return Texts::tr("is rotated or mirrored, which one byte does not tell");
         if (cell.used && cell.offset != offset)
-            return tr("has the palette offset %1, others have %2, and one byte does not tell them apart")
+            return Texts::tr("has the palette offset %1, others have %2, and one byte does not tell them apart")
                 .arg(cell.offset)
                 .arg(offset);
         return QString();
@@ -241,7 +242,7 @@ struct Layout
         const qint64 down = (rows + screenHeight - 1) / screenHeight;
         const qint64 height = values.number("height") > 0 ? values.number("height") : down * screenHeight;
         if (height > MostSide || qint64(width) * height > MostCells) {
-            return Failure{tr("That makes a map of %1 × %2 cells; %3 along a side and %4 in all are the most")
+            return Failure{Texts::tr("That makes a map of %1 × %2 cells; %3 along a side and %4 in all are the most")
                                .arg(QString::number(width), QString::number(height), QString::number(MostSide),
                                     QString::number(MostCells))};
         }
@@ -268,7 +269,7 @@ Result<Reading> readCells(const QByteArray &bytes, const OptionValues &values, C
 {
     const qint64 cells = bytes.size() / CellBytes;
     if (cells == 0)
-        return Failure{tr("The file has %1 bytes, and a cell takes %2").arg(bytes.size()).arg(CellBytes)};
+        return Failure{Texts::tr("The file has %1 bytes, and a cell takes %2").arg(bytes.size()).arg(CellBytes)};
     const Result<Layout> layout = Layout::of(cells, values);
     if (!layout)
         return layout.failure();
@@ -287,13 +288,13 @@ Result<Reading> readCells(const QByteArray &bytes, const OptionValues &values, C
     }
     Reading reading{MapContent{rows}, {}};
     if (outside > 0)
-        reading.remarks.append(tr("Cells of the file that are outside the map: %1").arg(outside));
+        reading.remarks.append(Texts::tr("Cells of the file that are outside the map: %1").arg(outside));
     const qint64 missing = qint64(layout->map.width()) * layout->map.height() - cells;
     if (missing > 0)
         reading.remarks.append(
-            tr("Cells of the map that the file does not have, and that stay blank: %1").arg(missing));
+            Texts::tr("Cells of the map that the file does not have, and that stay blank: %1").arg(missing));
     if (bytes.size() % CellBytes != 0)
-        reading.remarks.append(tr("Half a cell at the end is left out"));
+        reading.remarks.append(Texts::tr("Half a cell at the end is left out"));
     return reading;
 }
 
@@ -320,9 +321,10 @@ Result<Reading> readOneByte(const QByteArray &bytes, const OptionValues &values)
 
 Option cellOrder()
 {
-    return Option::choice(QStringLiteral("order"), tr("Order"),
-                          tr("In which order the cells of a screen follow each other"),
-                          {{QStringLiteral("rows"), tr("By rows")}, {QStringLiteral("columns"), tr("By columns")}});
+    return Option::choice(
+        QStringLiteral("order"), Texts::tr("Order"),
+        Texts::tr("In which order the cells of a screen follow each other"),
+        {{QStringLiteral("rows"), Texts::tr("By rows")}, {QStringLiteral("columns"), Texts::tr("By columns")}});
 }
 
 } // namespace
@@ -331,24 +333,26 @@ QList<Form> mapForms()
 {
     const QList<Option> options{
         cellOrder(),
-        Option::number(QStringLiteral("screen-width"), tr("Screen width"),
-                       tr("Cells across a screen into which the map is cut; 0 is the whole width"), 0, MostSide, 0),
-        Option::number(QStringLiteral("screen-height"), tr("Screen height"),
-                       tr("Cells down a screen into which the map is cut; 0 is the whole height"), 0, MostSide, 0),
-        Option::flag(QStringLiteral("screen-files"), tr("A file for each screen"),
-                     tr("Writes the screens into numbered files of their own")),
+        Option::number(QStringLiteral("screen-width"), Texts::tr("Screen width"),
+                       Texts::tr("Cells across a screen into which the map is cut; 0 is the whole width"), 0, MostSide,
+                       0),
+        Option::number(QStringLiteral("screen-height"), Texts::tr("Screen height"),
+                       Texts::tr("Cells down a screen into which the map is cut; 0 is the whole height"), 0, MostSide,
+                       0),
+        Option::flag(QStringLiteral("screen-files"), Texts::tr("A file for each screen"),
+                     Texts::tr("Writes the screens into numbered files of their own")),
     };
     return {
         {.id = QStringLiteral("map-2byte"),
          .kind = AssetKind::Map,
-         .title = tr("Tile map, two bytes a cell"),
+         .title = Texts::tr("Tile map, two bytes a cell"),
          .suffix = QStringLiteral("map"),
          .options = options,
          .size = size<2>,
          .write = writeTwoBytes},
         {.id = QStringLiteral("map-1byte"),
          .kind = AssetKind::Map,
-         .title = tr("Tile map, one byte a cell"),
+         .title = Texts::tr("Tile map, one byte a cell"),
          .suffix = QStringLiteral("map"),
          .options = options,
          .size = size<1>,
@@ -359,29 +363,32 @@ QList<Form> mapForms()
 QList<Reader> mapReaders()
 {
     const Option width =
-        Option::number(QStringLiteral("width"), tr("Width"),
-                       tr("Cells across the map; 0 is what most maps of so many cells have"), 0, MostSide, 0);
+        Option::number(QStringLiteral("width"), Texts::tr("Width"),
+                       Texts::tr("Cells across the map; 0 is what most maps of so many cells have"), 0, MostSide, 0);
     const QList<Option> layout{
         cellOrder(),
-        Option::number(QStringLiteral("height"), tr("Height"), tr("Cells down the map; 0 is as far as the file goes"),
-                       0, MostSide, 0),
-        Option::number(QStringLiteral("screen-width"), tr("Screen width"),
-                       tr("Cells across the screens into which the map was cut; 0 is the whole width"), 0, MostSide, 0),
-        Option::number(QStringLiteral("screen-height"), tr("Screen height"),
-                       tr("Cells down the screens into which the map was cut; 0 is the whole height"), 0, MostSide, 0),
+        Option::number(QStringLiteral("height"), Texts::tr("Height"),
+                       Texts::tr("Cells down the map; 0 is as far as the file goes"), 0, MostSide, 0),
+        Option::number(QStringLiteral("screen-width"), Texts::tr("Screen width"),
+                       Texts::tr("Cells across the screens into which the map was cut; 0 is the whole width"), 0,
+                       MostSide, 0),
+        Option::number(QStringLiteral("screen-height"), Texts::tr("Screen height"),
+                       Texts::tr("Cells down the screens into which the map was cut; 0 is the whole height"), 0,
+                       MostSide, 0),
     };
-    const Option bit =
-        Option::choice(QStringLiteral("bit-0"), tr("Bit 0"), tr("What the lowest bit of a cell's second byte says"),
-                       {{QStringLiteral("tile"), tr("Tiles from 256 on")},
-                        {QStringLiteral("ula"), tr("The ULA's picture is in front: left out")}});
-    const Option offset = Option::number(QStringLiteral("offset"), tr("Palette offset"),
-                                         tr("The palette offset of all cells, which comes from a register"), 0, 15, 0);
+    const Option bit = Option::choice(QStringLiteral("bit-0"), Texts::tr("Bit 0"),
+                                      Texts::tr("What the lowest bit of a cell's second byte says"),
+                                      {{QStringLiteral("tile"), Texts::tr("Tiles from 256 on")},
+                                       {QStringLiteral("ula"), Texts::tr("The ULA's picture is in front: left out")}});
+    const Option offset =
+        Option::number(QStringLiteral("offset"), Texts::tr("Palette offset"),
+                       Texts::tr("The palette offset of all cells, which comes from a register"), 0, 15, 0);
     const QStringList suffixes{QStringLiteral("map"), QStringLiteral("nxm"), QStringLiteral("nxb"),
                                QStringLiteral("bin")};
     return {
         {.id = QStringLiteral("map-2byte"),
          .kind = AssetKind::Map,
-         .title = tr("Tile map, two bytes a cell"),
+         .title = Texts::tr("Tile map, two bytes a cell"),
          .suffixes = suffixes,
          .options = QList{width} + layout + QList{bit},
          .fit = fits<2>,
@@ -389,7 +396,7 @@ QList<Reader> mapReaders()
          .suggested = suggested<2>},
         {.id = QStringLiteral("map-1byte"),
          .kind = AssetKind::Map,
-         .title = tr("Tile map, one byte a cell"),
+         .title = Texts::tr("Tile map, one byte a cell"),
          .suffixes = suffixes,
          .options = QList{width} + layout + QList{offset},
          .fit = fits<1>,

@@ -1,6 +1,6 @@
 #include "nextdata/names.h"
 
-#include "nextdata/tr.h"
+#include "nextdata/texts.h"
 
 #include <algorithm>
 
@@ -130,13 +130,13 @@ Result<QString> Names::claimExactly(const QString &label, const QStringList &suf
         && std::all_of(label.cbegin(), label.cend(),
                        [](QChar c) { return isAsciiLetter(c) || isAsciiDigit(c) || c == u'_'; });
     if (!isWord || label.size() > LongestLabel)
-        return Failure{tr("“%1” cannot be a label: those are a letter, then letters, digits and _, %2 at most")
+        return Failure{Texts::tr("“%1” cannot be a label: those are a letter, then letters, digits and _, %2 at most")
                            .arg(label.left(LongestLabel))
                            .arg(LongestLabel)};
     if (reservedWords().contains(label.toLower()))
-        return Failure{tr("“%1” cannot be a label: assemblers or C give it a meaning").arg(label)};
+        return Failure{Texts::tr("“%1” cannot be a label: assemblers or C give it a meaning").arg(label)};
     if (!areFree(label, suffixes))
-        return Failure{tr("The label “%1”, or a name made of it, is that of another output already").arg(label)};
+        return Failure{Texts::tr("The label “%1”, or a name made of it, is that of another output already").arg(label)};
     take(label, suffixes);
     return label;
 }

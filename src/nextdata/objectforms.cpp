@@ -24,7 +24,7 @@
 #include "model/spritebank.h"
 #include "nextdata/families.h"
 #include "nextdata/records.h"
-#include "nextdata/tr.h"
+#include "nextdata/texts.h"
 
 namespace NextData {
 namespace {
@@ -46,20 +46,21 @@ int placeOf(const QUuid &id, const QList<QPointer<Asset>> &assets)
 /// How a failure or a comment names a record.
 QString recordName(const QString &kind, qsizetype number, const QString &name)
 {
-    return name.isEmpty() ? tr("%1 %2").arg(kind).arg(number) : tr("%1 %2 “%3”").arg(kind).arg(number).arg(name);
+    return name.isEmpty() ? Texts::tr("%1 %2").arg(kind).arg(number)
+                          : Texts::tr("%1 %2 “%3”").arg(kind).arg(number).arg(name);
 }
 
 Failure notThere(const Map &map, const QString &record, const QString &what)
 {
-    return {tr("“%1”, %2: its %3 is not in the project").arg(map.name(), record, what)};
+    return {Texts::tr("“%1”, %2: its %3 is not in the project").arg(map.name(), record, what)};
 }
 
 Data withCount(Records &records, qsizetype count)
 {
-    records.begin(tr("the number of records"));
-    records.addWord(tr("it"), count);
+    records.begin(Texts::tr("the number of records"));
+    records.addWord(Texts::tr("it"), count);
     return {{{QStringLiteral("count"), count}, {QStringLiteral("record_size"), RecordBytes}},
-            {{.bytes = records.bytes(), .comment = tr("number of records")}}};
+            {{.bytes = records.bytes(), .comment = Texts::tr("number of records")}}};
 }
 
 // Placed sprites
@@ -99,33 +100,33 @@ Result<Data> writeSprites(const Source &source, const OptionValues &values)
     QByteArray names;
     const qsizetype namesAt = CountBytes + RecordBytes * map.sprites().size();
     for (const Map::PlacedSprite &sprite : map.sprites()) {
-        const QString record = recordName(tr("placed sprite"), data.blocks.size() - 1, sprite.name);
+        const QString record = recordName(Texts::tr("placed sprite"), data.blocks.size() - 1, sprite.name);
         const int bank = placeOf(sprite.bank, banks);
         if (bank < 0)
-            return notThere(map, record, tr("sprite bank"));
+            return notThere(map, record, Texts::tr("sprite bank"));
         const bool isAnimated = !sprite.animation.isNull();
         const int number = isAnimated ? placeOf(sprite.animation, banks[bank]->animations()) : sprite.sprite;
         if (isAnimated && number < 0)
-            return notThere(map, record, tr("animation"));
+            return notThere(map, record, Texts::tr("animation"));
         const QByteArray name = hasNames(values) ? nameBytes(sprite) : QByteArray();
 
         records.begin(record);
-        records.addSignedWord(tr("x"), sprite.x);
-        records.addSignedWord(tr("y"), sprite.y);
-        records.addByte(tr("the place of its bank"), bank);
-        records.addByte(tr("16 times the palette offset, and the flags,"),
+        records.addSignedWord(Texts::tr("x"), sprite.x);
+        records.addSignedWord(Texts::tr("y"), sprite.y);
+        records.addByte(Texts::tr("the place of its bank"), bank);
+        records.addByte(Texts::tr("16 times the palette offset, and the flags,"),
                         qint64(sprite.paletteOffset) * 16 + flagsOf(sprite));
-        records.addWord(isAnimated ? tr("the animation") : tr("the sprite"), number);
-        records.addWord(tr("the start frame"), sprite.startFrame);
-        records.addWord(tr("the initial delay"), sprite.initialDelay);
-        records.addWord(tr("the repeat delay"), sprite.repeatDelay);
-        records.addWord(tr("the place of the name"), name.isEmpty() ? 0 : namesAt + names.size());
+        records.addWord(isAnimated ? Texts::tr("the animation") : Texts::tr("the sprite"), number);
+        records.addWord(Texts::tr("the start frame"), sprite.startFrame);
+        records.addWord(Texts::tr("the initial delay"), sprite.initialDelay);
+        records.addWord(Texts::tr("the repeat delay"), sprite.repeatDelay);
+        records.addWord(Texts::tr("the place of the name"), name.isEmpty() ? 0 : namesAt + names.size());
         data.blocks.append({.bytes = records.bytes(), .name = sprite.name, .comment = record});
         names += name;
     }
     if (records.failure())
         return *records.failure();
-    data.blocks.append({.bytes = names, .comment = tr("names")});
+    data.blocks.append({.bytes = names, .comment = Texts::tr("names")});
     return data;
 }
 
@@ -149,21 +150,21 @@ Result<Data> writeBlocks(const Source &source, const OptionValues &)
             ++set;
         const qsizetype number = data.blocks.size() - 1;
         if (set == sets.size())
-            return notThere(map, recordName(tr("placed animation"), number, {}), tr("animation"));
+            return notThere(map, recordName(Texts::tr("placed animation"), number, {}), Texts::tr("animation"));
         const QPointer<TileAnimation> animation = sets[set]->animation(placement.animationId);
-        const QString record = recordName(tr("placed animation"), number, animation->name());
+        const QString record = recordName(Texts::tr("placed animation"), number, animation->name());
 
         records.begin(record);
-        records.addSignedWord(tr("the column"), placement.area.left());
-        records.addSignedWord(tr("the row"), placement.area.top());
-        records.addByte(tr("the width"), placement.area.width());
-        records.addByte(tr("the height"), placement.area.height());
-        records.addByte(tr("the place of its block set"), set);
-        records.addByte(tr("the kind"), int(animation->type()));
-        records.addWord(tr("the animation"), placeOf(placement.animationId, sets[set]->animations()));
-        records.addWord(tr("the start frame"), placement.startFrame);
-        records.addWord(tr("the initial delay"), placement.initialDelay);
-        records.addWord(tr("the repeat delay"), placement.repeatDelay);
+        records.addSignedWord(Texts::tr("the column"), placement.area.left());
+        records.addSignedWord(Texts::tr("the row"), placement.area.top());
+        records.addByte(Texts::tr("the width"), placement.area.width());
+        records.addByte(Texts::tr("the height"), placement.area.height());
+        records.addByte(Texts::tr("the place of its block set"), set);
+        records.addByte(Texts::tr("the kind"), int(animation->type()));
+        records.addWord(Texts::tr("the animation"), placeOf(placement.animationId, sets[set]->animations()));
+        records.addWord(Texts::tr("the start frame"), placement.startFrame);
+        records.addWord(Texts::tr("the initial delay"), placement.initialDelay);
+        records.addWord(Texts::tr("the repeat delay"), placement.repeatDelay);
         data.blocks.append({.bytes = records.bytes(), .comment = record});
     }
     if (records.failure())
@@ -176,12 +177,12 @@ Result<Data> writeBlocks(const Source &source, const OptionValues &)
 QList<Form> objectForms()
 {
     const Option names = Option::choice(
-        QStringLiteral("names"), tr("Names"), tr("Whether the names of sprites stand behind the records"),
-        {{QStringLiteral("behind"), tr("Behind the records")}, {QStringLiteral("none"), tr("Left out")}});
+        QStringLiteral("names"), Texts::tr("Names"), Texts::tr("Whether the names of sprites stand behind the records"),
+        {{QStringLiteral("behind"), Texts::tr("Behind the records")}, {QStringLiteral("none"), Texts::tr("Left out")}});
     return {
         {.id = QStringLiteral("map-sprites"),
          .kind = AssetKind::Map,
-         .title = tr("Sprites placed on a map"),
+         .title = Texts::tr("Sprites placed on a map"),
          .suffix = QStringLiteral("bin"),
          .noun = QStringLiteral("sprites"),
          .options = {names},
@@ -189,7 +190,7 @@ QList<Form> objectForms()
          .write = writeSprites},
         {.id = QStringLiteral("map-blocks"),
          .kind = AssetKind::Map,
-         .title = tr("Animated blocks placed on a map"),
+         .title = Texts::tr("Animated blocks placed on a map"),
          .suffix = QStringLiteral("bin"),
          .noun = QStringLiteral("blocks"),
          .options = {},

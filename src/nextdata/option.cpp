@@ -1,6 +1,6 @@
 #include "nextdata/option.h"
 
-#include "nextdata/tr.h"
+#include "nextdata/texts.h"
 
 #include <QStringList>
 
@@ -73,23 +73,23 @@ Option Option::text(const QString &id, const QString &title, const QString &desc
 Result<QString> Option::parsed(const QString &value) const
 {
     const auto refused = [&](const QString &wanted) {
-        return Failure{tr("Option %1: “%2” is not %3").arg(id, value, wanted)};
+        return Failure{Texts::tr("Option %1: “%2” is not %3").arg(id, value, wanted)};
     };
     switch (kind) {
     case Kind::Flag:
         if (value != True && value != False)
-            return refused(tr("true or false"));
+            return refused(Texts::tr("true or false"));
         return value;
     case Kind::Number: {
         bool fits = false;
         const int number = value.toInt(&fits);
         if (!fits || !isNumber(value) || number < least || number > most)
-            return refused(tr("a whole number from %1 to %2").arg(least).arg(most));
+            return refused(Texts::tr("a whole number from %1 to %2").arg(least).arg(most));
         return QString::number(number);
     }
     case Kind::Choice:
         if (findById(choices, value) == choices.cend())
-            return refused(tr("one of %1").arg(idsOf(choices)));
+            return refused(Texts::tr("one of %1").arg(idsOf(choices)));
         return value;
     case Kind::Text:
         return value;
@@ -101,7 +101,7 @@ Result<OptionValues> OptionValues::parse(const QList<Option> &options, const QMa
 {
     for (auto value = given.cbegin(); value != given.cend(); ++value) {
         if (findById(options, value.key()) == options.cend())
-            return Failure{tr("There is no option “%1”, only %2").arg(value.key(), idsOf(options))};
+            return Failure{Texts::tr("There is no option “%1”, only %2").arg(value.key(), idsOf(options))};
     }
     OptionValues values;
     for (const Option &option : options) {

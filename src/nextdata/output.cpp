@@ -3,7 +3,7 @@
 #include "nextdata/filenames.h"
 #include "nextdata/names.h"
 #include "nextdata/sourcetext.h"
-#include "nextdata/tr.h"
+#include "nextdata/texts.h"
 
 #include <limits>
 #include <optional>
@@ -163,7 +163,8 @@ Result<QList<OutputFile>> asText(Dialect dialect, const SourceText::Heading &hea
     if (dialect != Dialect::C)
         return output;
     if (headerName.compare(fileName, Qt::CaseInsensitive) == 0)
-        return Failure{tr("“%1” would be C source and its header: another suffix is needed, as .c").arg(fileName)};
+        return Failure{
+            Texts::tr("“%1” would be C source and its header: another suffix is needed, as .c").arg(fileName)};
     output.append({headerName, SourceText::cHeader(heading, sections)});
     return output;
 }
@@ -186,9 +187,9 @@ Result<Parts> partsOf(const Form &form, const Source &source, const OptionValues
     Data data = *std::move(written);
     const qint64 size = sizeOf(data.blocks);
     if (size == 0)
-        return Failure{tr("“%1” has nothing to write in this form").arg(source.name())};
+        return Failure{Texts::tr("“%1” has nothing to write in this form").arg(source.name())};
     if (const qint64 padding = padded(size, values) - size; padding > 0)
-        data.blocks.append({.bytes = QByteArray(padding, '\0'), .comment = tr("padding")});
+        data.blocks.append({.bytes = QByteArray(padding, '\0'), .comment = Texts::tr("padding")});
     data.constants.append({QStringLiteral("size"), size});
     nameBlocks(data);
     const QList<Blocks> files = filesOf(data.blocks, fileSize(values));
@@ -200,22 +201,22 @@ Result<Parts> partsOf(const Form &form, const Source &source, const OptionValues
 QList<Option> commonOptions()
 {
     return {
-        Option::choice(QStringLiteral("text"), tr("Source text"),
-                       tr("Bytes for incbin, or source text in the words of an assembler or of C"),
-                       {{QStringLiteral("none"), tr("No, bytes")},
-                        {QStringLiteral("sjasmplus"), tr("sjasmplus, Zeus: db $12")},
-                        {QStringLiteral("z80asm"), tr("z80asm, z88dk: defb $12")},
-                        {QStringLiteral("gas"), tr("GNU as: .byte 0x12")},
-                        {QStringLiteral("c"), tr("C: an array and its header")}}),
-        Option::text(QStringLiteral("label"), tr("Label"),
-                     tr("The label of the bytes in source text; made from the asset's name when there is none")),
-        Option::number(QStringLiteral("pad"), tr("Pad to a multiple of"),
-                       tr("Adds zeros until the size is a multiple of so many bytes; 0 adds none"), 0, 65536, 0),
-        Option::choice(QStringLiteral("cut"), tr("Cut into files"),
-                       tr("Numbered files that each fit into a page of 8 KiB or a bank of 16 KiB"),
-                       {{QStringLiteral("none"), tr("No, one file")},
-                        {QStringLiteral("8k"), tr("8 KiB each")},
-                        {QStringLiteral("16k"), tr("16 KiB each")}}),
+        Option::choice(QStringLiteral("text"), Texts::tr("Source text"),
+                       Texts::tr("Bytes for incbin, or source text in the words of an assembler or of C"),
+                       {{QStringLiteral("none"), Texts::tr("No, bytes")},
+                        {QStringLiteral("sjasmplus"), Texts::tr("sjasmplus, Zeus: db $12")},
+                        {QStringLiteral("z80asm"), Texts::tr("z80asm, z88dk: defb $12")},
+                        {QStringLiteral("gas"), Texts::tr("GNU as: .byte 0x12")},
+                        {QStringLiteral("c"), Texts::tr("C: an array and its header")}}),
+        Option::text(QStringLiteral("label"), Texts::tr("Label"),
+                     Texts::tr("The label of the bytes in source text; made from the asset's name when there is none")),
+        Option::number(QStringLiteral("pad"), Texts::tr("Pad to a multiple of"),
+                       Texts::tr("Adds zeros until the size is a multiple of so many bytes; 0 adds none"), 0, 65536, 0),
+        Option::choice(QStringLiteral("cut"), Texts::tr("Cut into files"),
+                       Texts::tr("Numbered files that each fit into a page of 8 KiB or a bank of 16 KiB"),
+                       {{QStringLiteral("none"), Texts::tr("No, one file")},
+                        {QStringLiteral("8k"), Texts::tr("8 KiB each")},
+                        {QStringLiteral("16k"), Texts::tr("16 KiB each")}}),
     };
 }
 
@@ -249,7 +250,7 @@ Result<QList<OutputFile>> write(const Form &form, const Source &source, const Op
                                 const QString &fileName, Names &names)
 {
     if (const QString problem = FileNames::problemOf(fileName); !problem.isEmpty() || fileName.contains(u'/'))
-        return Failure{problem.isEmpty() ? tr("“%1” is no plain file name").arg(fileName) : problem};
+        return Failure{problem.isEmpty() ? Texts::tr("“%1” is no plain file name").arg(fileName) : problem};
     const Result<Parts> parts = partsOf(form, source, values);
     if (!parts)
         return parts.failure();
@@ -258,7 +259,7 @@ Result<QList<OutputFile>> write(const Form &form, const Source &source, const Op
         const Result<QString> label = claimLabel(form, source, values, suffixes, names);
         if (!label)
             return label.failure();
-        return asText(*dialect, {tr("%1: %2").arg(source.name(), form.title), *label, parts->data.constants},
+        return asText(*dialect, {Texts::tr("%1: %2").arg(source.name(), form.title), *label, parts->data.constants},
                       parts->files, parts->names, fileName);
     }
     QList<OutputFile> output;

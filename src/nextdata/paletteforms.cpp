@@ -10,7 +10,7 @@
 #include "model/palette.h"
 #include "nextdata/families.h"
 #include "nextdata/palettewords.h"
-#include "nextdata/tr.h"
+#include "nextdata/texts.h"
 
 #include <algorithm>
 
@@ -45,7 +45,7 @@ Result<Data> writeWithTransparency(const Source &source, const OptionValues &val
         transparency = values.is("transparency", "index") ? char(index) : char(palette.rawColour(index) >> 8);
     return Data{{{QStringLiteral("count"), Palette::Size}, {QStringLiteral("transparency"), uchar(transparency)}},
                 {{.bytes = paletteWords(palette, 0, Palette::Size)},
-                 {.bytes = QByteArray(1, transparency), .comment = tr("transparency")}}};
+                 {.bytes = QByteArray(1, transparency), .comment = Texts::tr("transparency")}}};
 }
 
 Result<qint64> sizeOfBytes(const Source &, const OptionValues &)
@@ -91,16 +91,16 @@ Reader::Fit fitsExactly(qint64 size)
 
 Failure wrongSize(const QByteArray &bytes, const QString &wanted)
 {
-    return {tr("The file has %1 bytes, and such a palette %2").arg(QString::number(bytes.size()), wanted)};
+    return {Texts::tr("The file has %1 bytes, and such a palette %2").arg(QString::number(bytes.size()), wanted)};
 }
 
 Result<Reading> readEntries(const QByteArray &bytes, int first, int most)
 {
     if (bytes.size() % 2 != 0 || bytes.size() > 2 * most)
-        return wrongSize(bytes, tr("2 an entry, %1 in all").arg(2 * most));
+        return wrongSize(bytes, Texts::tr("2 an entry, %1 in all").arg(2 * most));
     Reading reading{PaletteContent{first, wordsOf(bytes)}};
     if (bytes.size() < 2 * most)
-        reading.remarks.append(tr("The file has %1 entries; the others stay as they are").arg(bytes.size() / 2));
+        reading.remarks.append(Texts::tr("The file has %1 entries; the others stay as they are").arg(bytes.size() / 2));
     return reading;
 }
 
@@ -169,16 +169,17 @@ QList<quint16> wordsOfColourBytes(const QByteArray &bytes)
 QList<Form> paletteForms()
 {
     const Option transparency =
-        Option::choice(QStringLiteral("transparency"), tr("Transparency"),
-                       tr("What the last byte holds of the transparent entry; $E3 for a palette without one"),
-                       {{QStringLiteral("colour"), tr("Its colour RRRGGGBB, for layers")},
-                        {QStringLiteral("index"), tr("Its index, for sprites")}});
-    const Option group = Option::number(QStringLiteral("group"), tr("Palette offset"),
-                                        tr("Which of the sixteen groups of sixteen entries is written"), 0, 15, 0);
+        Option::choice(QStringLiteral("transparency"), Texts::tr("Transparency"),
+                       Texts::tr("What the last byte holds of the transparent entry; $E3 for a palette without one"),
+                       {{QStringLiteral("colour"), Texts::tr("Its colour RRRGGGBB, for layers")},
+                        {QStringLiteral("index"), Texts::tr("Its index, for sprites")}});
+    const Option group =
+        Option::number(QStringLiteral("group"), Texts::tr("Palette offset"),
+                       Texts::tr("Which of the sixteen groups of sixteen entries is written"), 0, 15, 0);
     return {
         {.id = QStringLiteral("palette"),
          .kind = AssetKind::Palette,
-         .title = tr("Palette, 9 bits a colour"),
+         .title = Texts::tr("Palette, 9 bits a colour"),
          .suffix = QStringLiteral("pal"),
          .noun = QStringLiteral("palette"),
          .options = {},
@@ -186,7 +187,7 @@ QList<Form> paletteForms()
          .write = writeWords},
         {.id = QStringLiteral("palette-513"),
          .kind = AssetKind::Palette,
-         .title = tr("Palette, 9 bits a colour, and the transparency"),
+         .title = Texts::tr("Palette, 9 bits a colour, and the transparency"),
          .suffix = QStringLiteral("npl"),
          .noun = QStringLiteral("palette"),
          .options = {transparency},
@@ -194,7 +195,7 @@ QList<Form> paletteForms()
          .write = writeWithTransparency},
         {.id = QStringLiteral("palette-8bit"),
          .kind = AssetKind::Palette,
-         .title = tr("Palette, 8 bits a colour"),
+         .title = Texts::tr("Palette, 8 bits a colour"),
          .suffix = QStringLiteral("pal"),
          .noun = QStringLiteral("palette"),
          .options = {},
@@ -202,7 +203,7 @@ QList<Form> paletteForms()
          .write = writeBytes},
         {.id = QStringLiteral("palette-group"),
          .kind = AssetKind::Palette,
-         .title = tr("Sixteen colours of a palette, 9 bits each"),
+         .title = Texts::tr("Sixteen colours of a palette, 9 bits each"),
          .suffix = QStringLiteral("nxp"),
          .noun = QStringLiteral("palette"),
          .options = {group},
@@ -213,41 +214,42 @@ QList<Form> paletteForms()
 
 QList<Reader> paletteReaders()
 {
-    const Option transparency = Option::choice(QStringLiteral("transparency"), tr("Transparency"),
-                                               tr("What the last byte says of the transparent entry"),
-                                               {{QStringLiteral("colour"), tr("Its colour RRRGGGBB, for layers")},
-                                                {QStringLiteral("index"), tr("Its index, for sprites")},
-                                                {QStringLiteral("none"), tr("Nothing")}});
+    const Option transparency =
+        Option::choice(QStringLiteral("transparency"), Texts::tr("Transparency"),
+                       Texts::tr("What the last byte says of the transparent entry"),
+                       {{QStringLiteral("colour"), Texts::tr("Its colour RRRGGGBB, for layers")},
+                        {QStringLiteral("index"), Texts::tr("Its index, for sprites")},
+                        {QStringLiteral("none"), Texts::tr("Nothing")}});
     const Option group =
-        Option::number(QStringLiteral("group"), tr("Palette offset"),
-                       tr("Which of the sixteen groups of sixteen entries the colours become"), 0, 15, 0);
+        Option::number(QStringLiteral("group"), Texts::tr("Palette offset"),
+                       Texts::tr("Which of the sixteen groups of sixteen entries the colours become"), 0, 15, 0);
     const QStringList suffixes{QStringLiteral("pal"), QStringLiteral("nxp"), QStringLiteral("npl"),
                                QStringLiteral("bin")};
     return {
         {.id = QStringLiteral("palette"),
          .kind = AssetKind::Palette,
-         .title = tr("Palette, 9 bits a colour"),
+         .title = Texts::tr("Palette, 9 bits a colour"),
          .suffixes = suffixes,
          .options = {},
          .fit = fitsWords<2 * Palette::Size>,
          .read = readWords},
         {.id = QStringLiteral("palette-513"),
          .kind = AssetKind::Palette,
-         .title = tr("Palette, 9 bits a colour, and the transparency"),
+         .title = Texts::tr("Palette, 9 bits a colour, and the transparency"),
          .suffixes = suffixes,
          .options = {transparency},
          .fit = fitsExactly<2 * Palette::Size + 1>,
          .read = readWithTransparency},
         {.id = QStringLiteral("palette-8bit"),
          .kind = AssetKind::Palette,
-         .title = tr("Palette, 8 bits a colour"),
+         .title = Texts::tr("Palette, 8 bits a colour"),
          .suffixes = suffixes,
          .options = {},
          .fit = fitsExactly<Palette::Size>,
          .read = readBytes},
         {.id = QStringLiteral("palette-group"),
          .kind = AssetKind::Palette,
-         .title = tr("Sixteen colours of a palette, 9 bits each"),
+         .title = Texts::tr("Sixteen colours of a palette, 9 bits each"),
          .suffixes = suffixes,
          .options = {group},
          .fit = fitsWords<2 * GroupSize>,

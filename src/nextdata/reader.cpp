@@ -1,7 +1,7 @@
 #include "nextdata/reader.h"
 
 #include "nextdata/families.h"
-#include "nextdata/tr.h"
+#include "nextdata/texts.h"
 
 #include <QtEndian>
 
@@ -34,10 +34,11 @@ const Reader *findReader(const QString &id)
 Result<Reading> read(const Reader &reader, const QByteArray &bytes, const OptionValues &values)
 {
     if (bytes.isEmpty())
-        return Failure{tr("The file is empty")};
+        return Failure{Texts::tr("The file is empty")};
     if (bytes.size() > MostBytes)
-        return Failure{
-            tr("The file has %1 bytes, and the largest that is read as it is %2").arg(bytes.size()).arg(MostBytes)};
+        return Failure{Texts::tr("The file has %1 bytes, and the largest that is read as it is %2")
+                           .arg(bytes.size())
+                           .arg(MostBytes)};
     return reader.read(bytes, values);
 }
 

@@ -4,7 +4,7 @@
 #include "model/sidefile.h"
 #include "nextdata/filenames.h"
 #include "nextdata/form.h"
-#include "nextdata/tr.h"
+#include "nextdata/texts.h"
 #include "nextdata/wholefile.h"
 
 #include <QFile>
@@ -40,9 +40,9 @@ QString Recipe::problemOf(const RecipeOutput &output)
 {
     const Form *form = findForm(output.form);
     if (!form)
-        return tr("There is no form “%1”").arg(output.form);
+        return Texts::tr("There is no form “%1”").arg(output.form);
     if (form->kind != output.kind)
-        return tr("%1 is a form of %2, not of %3").arg(form->id, titleOf(form->kind), titleOf(output.kind));
+        return Texts::tr("%1 is a form of %2, not of %3").arg(form->id, titleOf(form->kind), titleOf(output.kind));
     if (const auto values = OptionValues::parse(form->options, output.options); !values)
         return values.reason();
     return FileNames::problemOf(output.file);
@@ -54,7 +54,7 @@ QString Recipe::problemAt(qsizetype index) const
     const auto others = std::count_if(m_outputs.cbegin(), m_outputs.cend(),
                                       [&](const RecipeOutput &each) { return isSameFile(each.file, output.file); });
     if (others > 1)
-        return tr("“%1” is the file of another output as well").arg(output.file);
+        return Texts::tr("“%1” is the file of another output as well").arg(output.file);
     return problemOf(output);
 }
 
@@ -62,11 +62,11 @@ QList<Recipe::Problem> Recipe::load(const QString &path)
 {
     QFile file(path);
     if (!QFileInfo::exists(path))
-        return {{0, tr("There is no such file")}};
+        return {{0, Texts::tr("There is no such file")}};
     if (!RawFile::openForReading(file))
-        return {{0, tr("The file cannot be read")}};
+        return {{0, Texts::tr("The file cannot be read")}};
     if (file.size() > MaxBytes)
-        return {{0, tr("The file is too large for a recipe")}};
+        return {{0, Texts::tr("The file is too large for a recipe")}};
     return parse(file.read(MaxBytes));
 }
 

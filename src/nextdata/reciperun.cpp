@@ -1,7 +1,7 @@
 #include "nextdata/reciperun.h"
 
 #include "nextdata/form.h"
-#include "nextdata/tr.h"
+#include "nextdata/texts.h"
 #include "nextdata/wholefile.h"
 
 #include <QDir>
@@ -69,11 +69,13 @@ Result<Source> RecipeRun::sourceOf(const RecipeOutput &output) const
     const QString id = output.id.toString(QUuid::WithoutBraces);
     for (const Source &source : m_sources) {
         if (source.kind() == output.kind && source.name() == output.name) {
-            return Failure{tr("The project no longer has %1 “%2” with the id %3, but another one of that name (%4)")
-                               .arg(titleOf(output.kind), output.name, id, source.id().toString(QUuid::WithoutBraces))};
+            return Failure{
+                Texts::tr("The project no longer has %1 “%2” with the id %3, but another one of that name (%4)")
+                    .arg(titleOf(output.kind), output.name, id, source.id().toString(QUuid::WithoutBraces))};
         }
     }
-    return Failure{tr("The project no longer has %1 “%2” with the id %3").arg(titleOf(output.kind), output.name, id)};
+    return Failure{
+        Texts::tr("The project no longer has %1 “%2” with the id %3").arg(titleOf(output.kind), output.name, id)};
 }
 
 Result<RecipeRun::Task> RecipeRun::taskOf(const RecipeOutput &output) const
@@ -131,8 +133,9 @@ QString RecipeRun::claim(const QString &place, qsizetype index)
     if (*owner == index)
         return {};
     if (*owner == KeptFile)
-        return tr("“%1” is the project or its recipe").arg(QDir::toNativeSeparators(place));
-    return tr("“%1” is written for “%2” already").arg(QDir::toNativeSeparators(place), m_outputs.at(*owner).file);
+        return Texts::tr("“%1” is the project or its recipe").arg(QDir::toNativeSeparators(place));
+    return Texts::tr("“%1” is written for “%2” already")
+        .arg(QDir::toNativeSeparators(place), m_outputs.at(*owner).file);
 }
 
 Outcome RecipeRun::run(qsizetype index, Mode mode)

@@ -3,7 +3,7 @@
 #include "nextdata/form.h"
 #include "nextdata/quoted.h"
 #include "nextdata/recipe.h"
-#include "nextdata/tr.h"
+#include "nextdata/texts.h"
 
 #include <QHash>
 #include <QJsonArray>
@@ -84,17 +84,17 @@ public:
         const QJsonDocument document = QJsonDocument::fromJson(text, &error);
         if (error.error != QJsonParseError::NoError) {
             m_line = 1 + int(text.left(error.offset).count('\n'));
-            return note(tr("This is no JSON: %1").arg(error.errorString()));
+            return note(Texts::tr("This is no JSON: %1").arg(error.errorString()));
         }
         const QJsonObject object = document.object();
         if (!object.value(Version).isDouble())
-            return note(tr("This is no recipe: “%1” is missing").arg(Version));
+            return note(Texts::tr("This is no recipe: “%1” is missing").arg(Version));
         if (object.value(Version).toInteger(FormatVersion + 1) > FormatVersion)
-            return note(tr("The recipe is from a newer version of Quenmora"));
+            return note(Texts::tr("The recipe is from a newer version of Quenmora"));
         checkKeys(object, {Version, Outputs});
         const QJsonValue list = object.value(Outputs);
         if (!list.isArray())
-            return note(tr("“%1” must be a list").arg(Outputs));
+            return note(Texts::tr("“%1” must be a list").arg(Outputs));
         readOutputs(list.toArray(), linesOfElements(text));
     }
 
@@ -105,16 +105,16 @@ private:
     {
         for (const QString &key : object.keys()) {
             if (!known.contains(key))
-                note(tr("“%1” means nothing here").arg(key));
+                note(Texts::tr("“%1” means nothing here").arg(key));
         }
     }
 
     void readOutputs(const QJsonArray &list, const QList<int> &lines)
     {
         if (lines.size() != list.size())
-            return note(tr("“%1” is there twice").arg(Outputs));
+            return note(Texts::tr("“%1” is there twice").arg(Outputs));
         if (list.size() > Recipe::MaxOutputs)
-            return note(tr("There are more than %1 outputs").arg(Recipe::MaxOutputs));
+            return note(Texts::tr("There are more than %1 outputs").arg(Recipe::MaxOutputs));
         QHash<QString, int> lineOfCase; // some systems take names for one that differ in their case
         for (qsizetype i = 0; i < list.size(); ++i) {
             m_line = lines[i];
@@ -126,7 +126,7 @@ private:
             }
             const QString file = output.file.toCaseFolded();
             if (lineOfCase.contains(file) && !file.isEmpty())
-                note(tr("“%1” is the file of line %2 already")
+                note(Texts::tr("“%1” is the file of line %2 already")
                          .arg(output.file, QString::number(lineOfCase.value(file))));
             lineOfCase.insert(file, m_line);
             lineOfFile.insert(output.file, m_line);
@@ -138,7 +138,8 @@ private:
     {
         const QJsonValue value = object.value(key);
         if (!value.isString())
-            note(value.isUndefined() ? tr("“%1” is missing").arg(key) : tr("“%1” must be a text").arg(key));
+            note(value.isUndefined() ? Texts::tr("“%1” is missing").arg(key)
+                                     : Texts::tr("“%1” must be a text").arg(key));
         return value.toString();
     }
 
@@ -146,7 +147,7 @@ private:
     {
         RecipeOutput output;
         if (!value.isObject()) {
-            note(tr("An output must be an object"));
+            note(Texts::tr("An output must be an object"));
             return output;
         }
         const QJsonObject object = value.toObject();
@@ -155,11 +156,11 @@ private:
         if (const auto known = kindOf(kind))
             output.kind = *known;
         else if (!kind.isEmpty())
-            note(tr("There is no kind of asset “%1”").arg(kind));
+            note(Texts::tr("There is no kind of asset “%1”").arg(kind));
         const QString id = readText(object, Id);
         output.id = QUuid::fromString(id);
         if (output.id.isNull() && !id.isEmpty())
-            note(tr("“%1” is no id").arg(id));
+            note(Texts::tr("“%1” is no id").arg(id));
         output.name = readText(object, Name);
         output.form = readText(object, FormId);
         output.file = readText(object, File);
@@ -170,7 +171,7 @@ private:
     void readOptions(RecipeOutput &output, const QJsonValue &options)
     {
         if (!options.isObject() && !options.isUndefined())
-            return note(tr("“%1” must be an object").arg(Options));
+            return note(Texts::tr("“%1” must be an object").arg(Options));
         const Form *form = findForm(output.form);
         if (!form)
             return; // which is a problem by itself
@@ -179,11 +180,11 @@ private:
             const auto known = std::find_if(form->options.cbegin(), form->options.cend(),
                                             [&](const Option &option) { return option.id == value.key(); });
             if (known == form->options.cend())
-                note(tr("%1 has no option “%2”").arg(form->id, value.key()));
+                note(Texts::tr("%1 has no option “%2”").arg(form->id, value.key()));
             else if (const auto text = textOf(value.value(), known->kind))
                 output.options.insert(value.key(), *text);
             else
-                note(tr("The option “%1” has a value of the wrong type").arg(value.key()));
+                note(Texts::tr("The option “%1” has a value of the wrong type").arg(value.key()));
         }
     }
 

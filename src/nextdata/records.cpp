@@ -1,6 +1,6 @@
 #include "nextdata/records.h"
 
-#include "nextdata/tr.h"
+#include "nextdata/texts.h"
 
 namespace NextData {
 
@@ -29,7 +29,7 @@ void Records::add(const QString &field, qint64 value, qint64 least, qint64 most,
 {
     if ((value < least || value > most) && !m_failure) {
         m_failure = Failure{
-            tr("“%1”, %2: %3 is %4, and %5 to %6 fit")
+            Texts::tr("“%1”, %2: %3 is %4, and %5 to %6 fit")
                 .arg(m_owner, m_record, field, QString::number(value), QString::number(least), QString::number(most))};
     }
     for (int byte = 0; byte < bytes; ++byte)

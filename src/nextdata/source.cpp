@@ -7,7 +7,7 @@
 #include "model/project.h"
 #include "model/spritebank.h"
 #include "model/tileset.h"
-#include "nextdata/tr.h"
+#include "nextdata/texts.h"
 
 #include <algorithm>
 
@@ -27,17 +27,17 @@ QString titleOf(AssetKind kind)
 {
     switch (kind) {
     case AssetKind::Palette:
-        return tr("a palette");
+        return Texts::tr("a palette");
     case AssetKind::TileSet:
-        return tr("a tile set");
+        return Texts::tr("a tile set");
     case AssetKind::Map:
-        return tr("a map");
+        return Texts::tr("a map");
     case AssetKind::BlockSet:
-        return tr("a block set");
+        return Texts::tr("a block set");
     case AssetKind::SpriteBank:
-        return tr("a sprite bank");
+        return Texts::tr("a sprite bank");
     case AssetKind::Image:
-        return tr("an image");
+        return Texts::tr("an image");
     }
     return {};
 }

@@ -9,7 +9,7 @@
 #include "nextdata/families.h"
 #include "nextdata/pixels.h"
 #include "nextdata/range.h"
-#include "nextdata/tr.h"
+#include "nextdata/texts.h"
 
 namespace NextData {
 namespace {
@@ -56,8 +56,8 @@ Result<Data> writePacked(const Source &source, const OptionValues &values)
     for (qsizetype i = 0; bank.depth() == Quenmora::EightBit && i < pixels.size(); ++i) {
         if (const int index = uchar(pixels[i]); index > 15) {
             return Failure{
-                tr("“%1” is a bank of 8 bits: sprite %2 (counted from 0) has a pixel of index %3, and 4 bits "
-                   "hold 0 to 15")
+                Texts::tr("“%1” is a bank of 8 bits: sprite %2 (counted from 0) has a pixel of index %3, and 4 bits "
+                          "hold 0 to 15")
                     .arg(bank.name(), QString::number(range->first + i / SpriteBank::SpriteBytes),
                          QString::number(index))};
         }
@@ -105,14 +105,14 @@ QList<Form> spriteForms()
     return {
         {.id = QStringLiteral("sprites-8bit"),
          .kind = AssetKind::SpriteBank,
-         .title = tr("Sprites, 8 bits a pixel"),
+         .title = Texts::tr("Sprites, 8 bits a pixel"),
          .suffix = QStringLiteral("spr"),
          .options = Range::options(),
          .size = size<SpriteBank::SpriteBytes>,
          .write = writeEightBits},
         {.id = QStringLiteral("sprites-packed"),
          .kind = AssetKind::SpriteBank,
-         .title = tr("Sprites, 4 bits a pixel, packed"),
+         .title = Texts::tr("Sprites, 4 bits a pixel, packed"),
          .suffix = QStringLiteral("spr"),
          .options = Range::options(),
          .size = size<SpriteBank::SpriteBytes / 2>,
@@ -122,21 +122,22 @@ QList<Form> spriteForms()
 
 QList<Reader> spriteReaders()
 {
-    const Option depth = Option::choice(
-        QStringLiteral("depth"), tr("Depth"), tr("How many bits of a pixel count"),
-        {{QStringLiteral("8"), tr("8-bit, 256 colours")}, {QStringLiteral("4"), tr("4-bit, 16 colours")}});
+    const Option depth =
+        Option::choice(QStringLiteral("depth"), Texts::tr("Depth"), Texts::tr("How many bits of a pixel count"),
+                       {{QStringLiteral("8"), Texts::tr("8-bit, 256 colours")},
+                        {QStringLiteral("4"), Texts::tr("4-bit, 16 colours")}});
     const QStringList suffixes{QStringLiteral("spr"), QStringLiteral("nxs"), QStringLiteral("bin")};
     return {
         {.id = QStringLiteral("sprites-8bit"),
          .kind = AssetKind::SpriteBank,
-         .title = tr("Sprites, 8 bits a pixel"),
+         .title = Texts::tr("Sprites, 8 bits a pixel"),
          .suffixes = suffixes,
          .options = QList{depth} + Range::readingOptions(),
          .fit = fits<SpriteBank::SpriteBytes>,
          .read = readEightBits},
         {.id = QStringLiteral("sprites-packed"),
          .kind = AssetKind::SpriteBank,
-         .title = tr("Sprites, 4 bits a pixel, packed"),
+         .title = Texts::tr("Sprites, 4 bits a pixel, packed"),
          .suffixes = suffixes,
          .options = Range::readingOptions(),
          .fit = fits<SpriteBank::SpriteBytes / 2>,

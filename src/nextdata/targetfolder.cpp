@@ -1,7 +1,7 @@
 #include "nextdata/targetfolder.h"
 
 #include "nextdata/filenames.h"
-#include "nextdata/tr.h"
+#include "nextdata/texts.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -43,16 +43,18 @@ Result<QString> TargetFolder::placeOf(const QString &name) const
         if (info.isSymLink()) {
             place = info.canonicalFilePath(); // of a loop its own path
             if (!info.exists())
-                return Failure{tr("“%1” cannot be written: “%2” is a link that leads nowhere").arg(name, parts[i])};
+                return Failure{
+                    Texts::tr("“%1” cannot be written: “%2” is a link that leads nowhere").arg(name, parts[i])};
             if (!contains(place))
-                return Failure{tr("“%1” cannot be written: the link “%2” leads out of the folder").arg(name, parts[i])};
+                return Failure{
+                    Texts::tr("“%1” cannot be written: the link “%2” leads out of the folder").arg(name, parts[i])};
             info = QFileInfo(place);
         }
         const bool isLast = i + 1 == parts.size();
         if (info.exists() && isLast && info.isDir())
-            return Failure{tr("“%1” cannot be written: it is a folder").arg(name)};
+            return Failure{Texts::tr("“%1” cannot be written: it is a folder").arg(name)};
         if (info.exists() && !isLast && !info.isDir())
-            return Failure{tr("“%1” cannot be written: “%2” is no folder").arg(name, parts[i])};
+            return Failure{Texts::tr("“%1” cannot be written: “%2” is no folder").arg(name, parts[i])};
     }
     return place;
 }

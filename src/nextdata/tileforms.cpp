@@ -11,7 +11,7 @@
 #include "model/tileset.h"
 #include "nextdata/families.h"
 #include "nextdata/range.h"
-#include "nextdata/tr.h"
+#include "nextdata/texts.h"
 
 #include <algorithm>
 
@@ -103,7 +103,7 @@ Result<Data> writeValues(const Source &source, const OptionValues &values)
     for (int i = range->first; i < range->first + range->count; ++i) {
         const int value = tiles.tile(i)->value();
         if (value < least || value > most) {
-            return Failure{tr("“%1”: tile %2 (counted from 0) has the value %3, and %4 to %5 fit")
+            return Failure{Texts::tr("“%1”: tile %2 (counted from 0) has the value %3, and %4 to %5 fit")
                                .arg(tiles.name(), QString::number(i), QString::number(value), QString::number(least),
                                     QString::number(most))};
         }
@@ -191,7 +191,7 @@ Reader::Fit fitsNumbers(qint64 size)
 Result<Reading> readNumbers(const QByteArray &bytes, TileNumbersContent::Meaning meaning, int first, int numberBytes)
 {
     if (bytes.size() / numberBytes > MostTiles)
-        return Failure{tr("The file holds numbers of %1 tiles, and a tile set has at most %2")
+        return Failure{Texts::tr("The file holds numbers of %1 tiles, and a tile set has at most %2")
                            .arg(bytes.size() / numberBytes)
                            .arg(MostTiles)};
     TileNumbersContent content{meaning, first, {}};
@@ -213,15 +213,16 @@ Result<Reading> readValues(const QByteArray &bytes, const OptionValues &values)
 
 Option pixelOrder()
 {
-    return Option::choice(QStringLiteral("order"), tr("Order"),
-                          tr("In which order the pixels of a tile follow each other"),
-                          {{QStringLiteral("rows"), tr("By rows")}, {QStringLiteral("columns"), tr("By columns")}});
+    return Option::choice(
+        QStringLiteral("order"), Texts::tr("Order"), Texts::tr("In which order the pixels of a tile follow each other"),
+        {{QStringLiteral("rows"), Texts::tr("By rows")}, {QStringLiteral("columns"), Texts::tr("By columns")}});
 }
 
 Option valueWidth()
 {
-    return Option::choice(QStringLiteral("width"), tr("Width"), tr("How many bytes a value takes"),
-                          {{QStringLiteral("byte"), tr("One byte")}, {QStringLiteral("word"), tr("Two bytes")}});
+    return Option::choice(
+        QStringLiteral("width"), Texts::tr("Width"), Texts::tr("How many bytes a value takes"),
+        {{QStringLiteral("byte"), Texts::tr("One byte")}, {QStringLiteral("word"), Texts::tr("Two bytes")}});
 }
 
 } // namespace
@@ -230,33 +231,33 @@ QList<Form> tileForms()
 {
     const QList<Option> range = Range::options();
     const Option ink =
-        Option::number(QStringLiteral("ink"), tr("Ink"),
-                       tr("The colour (0–15) of the pixels that are set; all others are clear"), 0, 15, 1);
+        Option::number(QStringLiteral("ink"), Texts::tr("Ink"),
+                       Texts::tr("The colour (0–15) of the pixels that are set; all others are clear"), 0, 15, 1);
     return {
         {.id = QStringLiteral("tiles-4bit"),
          .kind = AssetKind::TileSet,
-         .title = tr("Tiles, 4 bits a pixel"),
+         .title = Texts::tr("Tiles, 4 bits a pixel"),
          .suffix = QStringLiteral("nxt"),
          .options = range,
          .size = size<Tile::DataSize>,
          .write = writeFourBits},
         {.id = QStringLiteral("tiles-8bit"),
          .kind = AssetKind::TileSet,
-         .title = tr("Tiles, 8 bits a pixel"),
+         .title = Texts::tr("Tiles, 8 bits a pixel"),
          .suffix = QStringLiteral("bin"),
          .options = range + QList{pixelOrder()},
          .size = size<PixelCount>,
          .write = writeEightBits},
         {.id = QStringLiteral("tiles-1bit"),
          .kind = AssetKind::TileSet,
-         .title = tr("Tiles, 1 bit a pixel"),
+         .title = Texts::tr("Tiles, 1 bit a pixel"),
          .suffix = QStringLiteral("ch8"),
          .options = range + QList{ink},
          .size = size<Tile::Size>,
          .write = writeOneBit},
         {.id = QStringLiteral("tile-attributes"),
          .kind = AssetKind::TileSet,
-         .title = tr("Attributes of tiles"),
+         .title = Texts::tr("Attributes of tiles"),
          .suffix = QStringLiteral("bin"),
          .noun = QStringLiteral("attributes"),
          .options = range,
@@ -264,7 +265,7 @@ QList<Form> tileForms()
          .write = writeAttributes},
         {.id = QStringLiteral("tile-values"),
          .kind = AssetKind::TileSet,
-         .title = tr("Values of tiles"),
+         .title = Texts::tr("Values of tiles"),
          .suffix = QStringLiteral("bin"),
          .noun = QStringLiteral("values"),
          .options = range + QList{valueWidth()},
@@ -276,34 +277,35 @@ QList<Form> tileForms()
 QList<Reader> tileReaders()
 {
     const QList<Option> range = Range::readingOptions();
-    const Option offset = Option::number(QStringLiteral("offset"), tr("Palette offset"),
-                                         tr("The group of sixteen colours in which the tiles are shown"), 0, 15, 0);
-    const Option ink =
-        Option::number(QStringLiteral("ink"), tr("Ink"), tr("The colour (0–15) of the pixels that are set"), 0, 15, 1);
-    const Option paper =
-        Option::number(QStringLiteral("paper"), tr("Paper"), tr("The colour (0–15) of all others"), 0, 15, 0);
+    const Option offset =
+        Option::number(QStringLiteral("offset"), Texts::tr("Palette offset"),
+                       Texts::tr("The group of sixteen colours in which the tiles are shown"), 0, 15, 0);
+    const Option ink = Option::number(QStringLiteral("ink"), Texts::tr("Ink"),
+                                      Texts::tr("The colour (0–15) of the pixels that are set"), 0, 15, 1);
+    const Option paper = Option::number(QStringLiteral("paper"), Texts::tr("Paper"),
+                                        Texts::tr("The colour (0–15) of all others"), 0, 15, 0);
     const Option firstTile =
-        Option::number(QStringLiteral("first"), tr("First"),
-                       tr("The tile that the first number is for, counted from 0"), 0, MostTiles - 1, 0);
+        Option::number(QStringLiteral("first"), Texts::tr("First"),
+                       Texts::tr("The tile that the first number is for, counted from 0"), 0, MostTiles - 1, 0);
     constexpr int FontBytes = 96 * Tile::Size; // the characters of a ZX Spectrum font
     return {
         {.id = QStringLiteral("tiles-4bit"),
          .kind = AssetKind::TileSet,
-         .title = tr("Tiles, 4 bits a pixel"),
+         .title = Texts::tr("Tiles, 4 bits a pixel"),
          .suffixes = {QStringLiteral("nxt"), QStringLiteral("til"), QStringLiteral("bin")},
          .options = QList{offset} + range,
          .fit = fits<Tile::DataSize>,
          .read = readFourBits},
         {.id = QStringLiteral("tiles-8bit"),
          .kind = AssetKind::TileSet,
-         .title = tr("Tiles, 8 bits a pixel"),
+         .title = Texts::tr("Tiles, 8 bits a pixel"),
          .suffixes = {QStringLiteral("nxt"), QStringLiteral("til"), QStringLiteral("bin")},
          .options = QList{pixelOrder()} + range,
          .fit = fits<PixelCount>,
          .read = readEightBits},
         {.id = QStringLiteral("tiles-1bit"),
          .kind = AssetKind::TileSet,
-         .title = tr("Tiles, 1 bit a pixel"),
+         .title = Texts::tr("Tiles, 1 bit a pixel"),
          .suffixes = {QStringLiteral("ch8"), QStringLiteral("fnt"), QStringLiteral("chr"), QStringLiteral("udg"),
                       QStringLiteral("bin")},
          .options = QList{ink, paper, offset} + range,
@@ -311,14 +313,14 @@ QList<Reader> tileReaders()
          .read = readOneBit},
         {.id = QStringLiteral("tile-attributes"),
          .kind = AssetKind::TileSet,
-         .title = tr("Attributes of tiles"),
+         .title = Texts::tr("Attributes of tiles"),
          .suffixes = {QStringLiteral("bin")},
          .options = {firstTile},
          .fit = fitsNumbers,
          .read = readAttributes},
         {.id = QStringLiteral("tile-values"),
          .kind = AssetKind::TileSet,
-         .title = tr("Values of tiles"),
+         .title = Texts::tr("Values of tiles"),
          .suffixes = {QStringLiteral("bin")},
          .options = {firstTile, valueWidth()},
          .fit = fitsNumbers,

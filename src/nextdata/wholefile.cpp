@@ -2,7 +2,7 @@
 
 #include "model/rawfile.h"
 #include "model/writeproblem.h"
-#include "nextdata/tr.h"
+#include "nextdata/texts.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -66,7 +66,7 @@ QString write(const QString &wanted, const QByteArray &bytes)
     const QString path = targetOf(wanted);
     const QDir folder = QFileInfo(path).absoluteDir();
     if (!folder.mkpath(QStringLiteral(".")))
-        return tr("The folder %1 cannot be made").arg(QDir::toNativeSeparators(folder.path()));
+        return Texts::tr("The folder %1 cannot be made").arg(QDir::toNativeSeparators(folder.path()));
     if (!RawFile::isWritable(path))
         return writeProblem(path);
     QFile aside;

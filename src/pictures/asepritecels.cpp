@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <limits>
 
-using ForeignFile::tr;
+using ForeignFile::Texts;
 using PackedBytes::Form;
 
 namespace {
@@ -65,7 +65,8 @@ bool AsepriteReader::takeMemory(qint64 bytes)
 {
     m_memory -= bytes;
     return m_memory >= 0
-        || fail(tr("the pixels of the file take more than %1").arg(ForeignFile::sizeText(AsepriteFile::MaxUnpacked)));
+        || fail(Texts::tr("the pixels of the file take more than %1")
+                    .arg(ForeignFile::sizeText(AsepriteFile::MaxUnpacked)));
 }
 
 bool AsepriteReader::readPixels(bool isPacked, ByteReader &chunk, Pixels &pixels)
@@ -91,7 +92,7 @@ bool AsepriteReader::readPixels(bool isPacked, ByteReader &chunk, Pixels &pixels
             m_largestIndex =
                 std::max(m_largestIndex, int(*std::max_element(pixels.indices.cbegin(), pixels.indices.cend())));
     }
-    return isWhole || fail(tr("the pixels are damaged"));
+    return isWhole || fail(Texts::tr("the pixels are damaged"));
 }
 
 // Layer 2, x and y 2 each (signed), opacity 1, type 2, z 2 (signed), 5 bytes, and what the type says.
@@ -107,7 +108,7 @@ bool AsepriteReader::readCel(ByteReader &chunk)
     cel.z = chunk.take<qint16>();
     chunk.skip(5);
     if (size_t(cel.layer) >= m_content->layers.size())
-        return fail(tr("Frame %1 has a picture for layer %2 of %3")
+        return fail(Texts::tr("Frame %1 has a picture for layer %2 of %3")
                         .arg(frameNumber())
                         .arg(cel.layer + 1)
                         .arg(m_content->layers.size()));
@@ -115,11 +116,11 @@ bool AsepriteReader::readCel(ByteReader &chunk)
     if (!layer.isShown)
         return true;
     if (++m_celCount > MaxCels)
-        return fail(tr("Its frames have more than %1 pictures of layers together").arg(MaxCels));
+        return fail(Texts::tr("Its frames have more than %1 pictures of layers together").arg(MaxCels));
     if (m_celOf.contains(celKey(frameNumber(), cel.layer)))
-        return fail(tr("%1: there are two pictures").arg(where(cel.layer)));
+        return fail(Texts::tr("%1: there are two pictures").arg(where(cel.layer)));
     if (!readCelContent(type, chunk, cel))
-        return fail(tr("%1: %2").arg(where(cel.layer), m_problem));
+        return fail(Texts::tr("%1: %2").arg(where(cel.layer), m_problem));
     m_celOf.insert(celKey(frameNumber(), cel.layer), cel);
     m_content->frames.back().cels.push_back(std::move(cel));
     return true;
@@ -131,9 +132,9 @@ bool AsepriteReader::readCelContent(int type, ByteReader &chunk, Content::Cel &c
     if (type == Linked)
         return readLink(chunk, cel);
     if (type != Raw && type != Compressed && type != CompressedTiles)
-        return fail(tr("the picture is of an unknown kind, %1").arg(type));
+        return fail(Texts::tr("the picture is of an unknown kind, %1").arg(type));
     if (isTileMap != (type == CompressedTiles))
-        return fail(tr("the picture is of another kind than the layer"));
+        return fail(Texts::tr("the picture is of another kind than the layer"));
     if (type == CompressedTiles)
         return readTileCells(chunk, cel);
     auto pixels = std::make_shared<Pixels>();
@@ -150,7 +151,7 @@ bool AsepriteReader::readLink(ByteReader &chunk, Content::Cel &cel)
     const int frame = chunk.take<quint16>() + 1;
     const auto linked = m_celOf.constFind(celKey(frame, cel.layer));
     if (linked == m_celOf.cend())
-        return fail(tr("the picture is that of frame %1, which has none or comes later").arg(frame));
+        return fail(Texts::tr("the picture is that of frame %1, which has none or comes later").arg(frame));
     cel.pixels = linked->pixels;
     cel.tiles = linked->tiles;
     return true;
@@ -170,17 +171,17 @@ bool AsepriteReader::readTileCells(ByteReader &chunk, Content::Cel &cel)
     tiles->swapMask = chunk.take<quint32>();
     chunk.skip(10);
     if (bits != CellBits)
-        return fail(tr("a tile has %1 bits; only %2 can be read").arg(bits).arg(CellBits));
+        return fail(Texts::tr("a tile has %1 bits; only %2 can be read").arg(bits).arg(CellBits));
     const QByteArrayView bytes = chunk.takeRest();
     const qint64 count = qint64(width) * height;
     const qint64 size = count * qint64(sizeof(quint32));
     if (!takeMemory(size))
         return false;
     if (!PackedBytes::canHold(Form::Zlib, bytes.size(), size))
-        return fail(tr("the tiles are damaged"));
+        return fail(Texts::tr("the tiles are damaged"));
     tiles->cells.resize(size_t(count));
     if (!PackedBytes::unpack(Form::Zlib, bytes, reinterpret_cast<uchar *>(tiles->cells.data()), size))
-        return fail(tr("the tiles are damaged"));
+        return fail(Texts::tr("the tiles are damaged"));
     for (quint32 &cell : tiles->cells)
         cell = qFromLittleEndian(cell);
     m_tileCells.emplace_back(cel.layer, tiles);
@@ -203,15 +204,18 @@ bool AsepriteReader::readTileSet(ByteReader &chunk)
     if (flags & ElsewhereFlag)
         chunk.skip(4 + 4);
     if (m_tileSets.contains(id) || m_tileSets.size() >= MaxTileSets)
-        return fail(tr("It has two tile sets of number %1, or more than %2").arg(id).arg(MaxTileSets));
+        return fail(Texts::tr("It has two tile sets of number %1, or more than %2").arg(id).arg(MaxTileSets));
     if (!(flags & InsideFlag)) {
-        m_remarks.add(tr("The tile set “%1” is in another file, and left out").arg(tileSet.name));
+        m_remarks.add(Texts::tr("The tile set “%1” is in another file, and left out").arg(tileSet.name));
         m_tileSets.insert(id, -1);
         return true;
     }
     if (width == 0 || height == 0 || qint64(count) * height > std::numeric_limits<int>::max())
-        return fail(
-            tr("The tile set “%1” has %2 tiles of %3 × %4 pixels").arg(tileSet.name).arg(count).arg(width).arg(height));
+        return fail(Texts::tr("The tile set “%1” has %2 tiles of %3 × %4 pixels")
+                        .arg(tileSet.name)
+                        .arg(count)
+                        .arg(width)
+                        .arg(height));
     tileSet.tileSize = {width, height};
     tileSet.count = int(count);
     tileSet.firstIsEmpty = flags & FirstIsEmpty;
@@ -220,7 +224,7 @@ bool AsepriteReader::readTileSet(ByteReader &chunk)
     const qint64 memory = qint64(width) * pixels.size.height() * (m_content->isIndexed ? 1 : qint64(sizeof(QRgb)));
     // once more as the picture that is given away
     if (!takeMemory(memory) || !readPixels(true, stream, pixels))
-        return fail(tr("The tile set “%1”: %2").arg(tileSet.name, m_problem));
+        return fail(Texts::tr("The tile set “%1”: %2").arg(tileSet.name, m_problem));
     m_tileSets.insert(id, int(m_content->tileSets.size()));
     m_content->tileSets.append(std::move(tileSet));
     m_content->tilePixels.push_back(std::move(pixels));
@@ -237,7 +241,7 @@ bool AsepriteReader::finishTileSets()
             continue;
         const auto index = m_tileSets.constFind(layer.tileSetId);
         if (index == m_tileSets.cend())
-            return fail(tr("The layer “%1” has the tiles of a set that is not there").arg(layer.name));
+            return fail(Texts::tr("The layer “%1” has the tiles of a set that is not there").arg(layer.name));
         layer.tileSet = *index;
     }
     for (const auto &[layer, tiles] : m_tileCells) {
@@ -248,7 +252,7 @@ bool AsepriteReader::finishTileSets()
         for (const quint32 cell : tiles->cells) {
             const quint32 tile = cell & tiles->tileMask;
             if (tile >= count && tile != tiles->tileMask) // which is the empty one of old files
-                return fail(tr("The layer “%1” has tile %2 of a set of %3")
+                return fail(Texts::tr("The layer “%1” has tile %2 of a set of %3")
                                 .arg(m_content->layers[size_t(layer)].name)
                                 .arg(tile)
                                 .arg(count));
@@ -271,7 +275,7 @@ bool AsepriteReader::finishFrames()
         std::stable_sort(frame.cels.begin(), frame.cels.end(), isBelow);
     }
     if (drawn > AsepriteFile::MaxDrawn) {
-        return fail(tr("Its layers have more than %1 million pixels in all frames together")
+        return fail(Texts::tr("Its layers have more than %1 million pixels in all frames together")
                         .arg(AsepriteFile::MaxDrawn / 1'000'000));
     }
     return true;

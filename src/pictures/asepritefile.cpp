@@ -2,7 +2,7 @@
 
 #include "pictures/asepritereader.h"
 
-using ForeignFile::tr;
+using ForeignFile::Texts;
 
 Result<AsepriteFile> AsepriteFile::read(const QString &fileName)
 {

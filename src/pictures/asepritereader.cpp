@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-using ForeignFile::tr;
+using ForeignFile::Texts;
 
 namespace {
 
@@ -64,14 +64,14 @@ bool AsepriteReader::fail(const QString &reason)
 
 QString AsepriteReader::where(int layer) const
 {
-    return tr("Frame %1, layer “%2”").arg(QString::number(frameNumber()), m_content->layers[size_t(layer)].name);
+    return Texts::tr("Frame %1, layer “%2”").arg(QString::number(frameNumber()), m_content->layers[size_t(layer)].name);
 }
 
 bool AsepriteReader::readHead(ByteReader &head)
 {
     const auto size = head.take<quint32>();
     if (head.take<quint16>() != FileMagic)
-        return fail(tr("It is no Aseprite file"));
+        return fail(Texts::tr("It is no Aseprite file"));
     m_frameCount = head.take<quint16>();
     const int width = head.take<quint16>();
     const int height = head.take<quint16>();
@@ -89,13 +89,14 @@ bool AsepriteReader::readHead(ByteReader &head)
     const int gridHeight = head.take<quint16>();
     head.skip(HeadBytes - (m_bytes.size() - head.left()));
     if (head.isShort() || size > m_bytes.size())
-        return fail(tr("It is cut short: it has %1 of %2 bytes").arg(m_bytes.size()).arg(size));
+        return fail(Texts::tr("It is cut short: it has %1 of %2 bytes").arg(m_bytes.size()).arg(size));
     if (bits != 8 && bits != 16 && bits != 32)
-        return fail(tr("It says that a pixel has %1 bits; it can have 8, 16 or 32").arg(bits));
+        return fail(Texts::tr("It says that a pixel has %1 bits; it can have 8, 16 or 32").arg(bits));
     if (width == 0 || height == 0 || m_frameCount == 0)
-        return fail(tr("It says that it has %1 frames of %2 × %3 pixels").arg(m_frameCount).arg(width).arg(height));
+        return fail(
+            Texts::tr("It says that it has %1 frames of %2 × %3 pixels").arg(m_frameCount).arg(width).arg(height));
     if (qint64(width) * height * m_frameCount > AsepriteFile::MaxPixels) {
-        return fail(tr("It has %1 frames of %2 × %3 pixels; at most %4 million pixels together can be read")
+        return fail(Texts::tr("It has %1 frames of %2 × %3 pixels; at most %4 million pixels together can be read")
                         .arg(m_frameCount)
                         .arg(width)
                         .arg(height)
@@ -109,7 +110,7 @@ bool AsepriteReader::readHead(ByteReader &head)
     m_content->grid = gridWidth > 0 && gridHeight > 0 ? QRect(gridX, gridY, gridWidth, gridHeight) : QRect();
     if (pixelWidth != pixelHeight && pixelWidth > 0 && pixelHeight > 0)
         m_remarks.add(
-            tr("Its pixels are not square, but %1 to %2: they become square").arg(pixelWidth).arg(pixelHeight));
+            Texts::tr("Its pixels are not square, but %1 to %2: they become square").arg(pixelWidth).arg(pixelHeight));
     return true;
 }
 
@@ -123,9 +124,9 @@ bool AsepriteReader::readFrame(ByteReader &file)
     file.skip(2);
     const auto newCount = file.take<quint32>();
     if (file.isShort())
-        return fail(tr("It is cut short: frame %1 of %2 is not there").arg(frameNumber()).arg(m_frameCount));
+        return fail(Texts::tr("It is cut short: frame %1 of %2 is not there").arg(frameNumber()).arg(m_frameCount));
     if (magic != FrameMagic || size < FrameHeadBytes || size - FrameHeadBytes > file.left())
-        return fail(tr("Frame %1 is damaged").arg(frameNumber()));
+        return fail(Texts::tr("Frame %1 is damaged").arg(frameNumber()));
     m_content->frames.back().duration = duration > 0 ? duration : std::max(m_speed, 1);
     ByteReader frame(file.take(size - FrameHeadBytes));
     const quint32 count = newCount > 0 ? newCount : quint32(oldCount);
@@ -134,13 +135,15 @@ bool AsepriteReader::readFrame(ByteReader &file)
         const int type = frame.take<quint16>();
         ByteReader chunk(frame.take(std::max(qint64(chunkSize) - ChunkHeadBytes, qint64(0))));
         if (frame.isShort() || chunkSize < ChunkHeadBytes)
-            return fail(
-                tr("Frame %1 is damaged: chunk %2 of %3 has a wrong size").arg(frameNumber()).arg(i + 1).arg(count));
+            return fail(Texts::tr("Frame %1 is damaged: chunk %2 of %3 has a wrong size")
+                            .arg(frameNumber())
+                            .arg(i + 1)
+                            .arg(count));
         if (!readChunk(type, chunk))
             return false;
         if (chunk.isShort())
             return fail(
-                tr("Frame %1 is damaged: chunk %2 of %3 is cut short").arg(frameNumber()).arg(i + 1).arg(count));
+                Texts::tr("Frame %1 is damaged: chunk %2 of %3 is cut short").arg(frameNumber()).arg(i + 1).arg(count));
     }
     return true;
 }
@@ -163,7 +166,7 @@ bool AsepriteReader::readChunk(int type, ByteReader &chunk)
     case TileSet:
         return readTileSet(chunk);
     case Slices:
-        m_remarks.add(tr("Its slices are left out"));
+        m_remarks.add(Texts::tr("Its slices are left out"));
         return true;
     }
     return true;
@@ -185,7 +188,7 @@ bool AsepriteReader::readLayer(ByteReader &chunk)
     if (layer.type == Content::Layer::TileMap)
         layer.tileSetId = chunk.take<quint32>();
     if (m_content->layers.size() >= MaxLayers)
-        return fail(tr("It has more than %1 layers").arg(MaxLayers));
+        return fail(Texts::tr("It has more than %1 layers").arg(MaxLayers));
 
     while (!m_parents.empty() && m_content->layers[size_t(m_parents.back())].level >= layer.level)
         m_parents.pop_back();
@@ -200,12 +203,12 @@ bool AsepriteReader::readLayer(ByteReader &chunk)
     if (!(flags & Visible))
         m_hidden.append(layer.name);
     else if (flags & Reference)
-        m_remarks.add(tr("The reference layer “%1” is left out").arg(layer.name));
+        m_remarks.add(Texts::tr("The reference layer “%1” is left out").arg(layer.name));
     if (layer.isShown && blendMode != 0 && (!isGroup || m_groupsHaveOpacity))
-        m_remarks.add(
-            tr("The layer “%1” mixes its colours with those beneath: it is drawn as others are").arg(layer.name));
+        m_remarks.add(Texts::tr("The layer “%1” mixes its colours with those beneath: it is drawn as others are")
+                          .arg(layer.name));
     if (layer.isShown && isGroup && isMixed && opacity != Content::Opaque)
-        m_remarks.add(tr("The group “%1” is partly clear: that is done to each of its layers").arg(layer.name));
+        m_remarks.add(Texts::tr("The group “%1” is partly clear: that is done to each of its layers").arg(layer.name));
     m_content->layers.push_back(std::move(layer));
     m_parents.push_back(int(m_content->layers.size()) - 1);
     return true;
@@ -224,7 +227,7 @@ void AsepriteReader::setColour(FilePalette &palette, qsizetype index, QRgb colou
     if (palette.frame == frameNumber())
         palette.colours[index] = colour;
     else if (palette.colours.value(index) != colour)
-        m_remarks.add(tr("The palette changes after frame %1, whose colours are taken").arg(palette.frame));
+        m_remarks.add(Texts::tr("The palette changes after frame %1, whose colours are taken").arg(palette.frame));
 }
 
 // Size 4, first and last entry 4 each, 8 bytes; each entry: flags 2, red, green, blue, alpha 1 each, a name if flag 1.
@@ -235,11 +238,11 @@ bool AsepriteReader::readPalette(ByteReader &chunk)
     const auto last = chunk.take<quint32>();
     chunk.skip(8);
     if (++m_paletteCount > MaxPaletteChunks && m_palette.frame == frameNumber())
-        return fail(tr("Frame %1 has more than %2 palettes").arg(frameNumber()).arg(MaxPaletteChunks));
+        return fail(Texts::tr("Frame %1 has more than %2 palettes").arg(frameNumber()).arg(MaxPaletteChunks));
     if (size > MaxColours)
-        return fail(tr("Its palette has %1 colours; at most %2 can be read").arg(size).arg(MaxColours));
+        return fail(Texts::tr("Its palette has %1 colours; at most %2 can be read").arg(size).arg(MaxColours));
     if (first > last || last >= size)
-        return fail(tr("Its palette has %1 colours, of which it gives %2 to %3").arg(size).arg(first).arg(last));
+        return fail(Texts::tr("Its palette has %1 colours, of which it gives %2 to %3").arg(size).arg(first).arg(last));
     resize(m_palette, qsizetype(size));
     for (quint32 i = first; i <= last && !chunk.isShort(); ++i) {
         const bool hasName = chunk.take<quint16>() & 1;
@@ -263,7 +266,7 @@ bool AsepriteReader::readOldPalette(ByteReader &chunk, int largest)
         const int count = chunk.take<quint8>();
         const int end = index + (count > 0 ? count : Most);
         if (end > Most)
-            return fail(tr("Its palette has %1 colours; at most %2 can be read").arg(end).arg(Most));
+            return fail(Texts::tr("Its palette has %1 colours; at most %2 can be read").arg(end).arg(Most));
         resize(m_oldPalette, std::max(qsizetype(end), m_oldPalette.colours.size()));
         for (; index < end; ++index) {
             const auto component = [&] { return std::min(int(chunk.take<quint8>()), largest) * 255 / largest; };
@@ -282,7 +285,7 @@ bool AsepriteReader::readTags(ByteReader &chunk)
     const int count = chunk.take<quint16>();
     chunk.skip(8);
     if (m_content->tags.size() + count > MaxTags)
-        return fail(tr("It has more than %1 tags").arg(MaxTags));
+        return fail(Texts::tr("It has more than %1 tags").arg(MaxTags));
     for (int i = 0; i < count && !chunk.isShort(); ++i) {
         AsepriteFile::Tag tag;
         tag.first = chunk.take<quint16>();
@@ -296,7 +299,7 @@ bool AsepriteReader::readTags(ByteReader &chunk)
             tag.direction = AsepriteFile::Direction(direction);
             m_content->tags.append(tag);
         } else {
-            m_remarks.add(tr("The tag “%1” is left out: it names frames %2 to %3 of %4")
+            m_remarks.add(Texts::tr("The tag “%1” is left out: it names frames %2 to %3 of %4")
                               .arg(tag.name)
                               .arg(tag.first + 1)
                               .arg(tag.last + 1)
@@ -310,10 +313,11 @@ bool AsepriteReader::finish()
 {
     if (!m_hidden.isEmpty()) {
         constexpr qsizetype Most = 5;
-        const QString names = QStringList(m_hidden.first(std::min(m_hidden.size(), Most))).join(tr("”, “"));
-        m_remarks.add(m_hidden.size() > Most
-                          ? tr("%1 layers are hidden and left out, “%2” among them").arg(m_hidden.size()).arg(names)
-                          : tr("Hidden layers are left out: “%1”").arg(names));
+        const QString names = QStringList(m_hidden.first(std::min(m_hidden.size(), Most))).join(Texts::tr("”, “"));
+        m_remarks.add(
+            m_hidden.size() > Most
+                ? Texts::tr("%1 layers are hidden and left out, “%2” among them").arg(m_hidden.size()).arg(names)
+                : Texts::tr("Hidden layers are left out: “%1”").arg(names));
     }
     return finishPalette() && finishTileSets() && finishFrames();
 }
@@ -325,12 +329,12 @@ bool AsepriteReader::finishPalette()
     if (!m_content->isIndexed)
         return true;
     if (palette.isEmpty())
-        return fail(tr("Its pixels are numbers of colours, and it has no palette"));
+        return fail(Texts::tr("Its pixels are numbers of colours, and it has no palette"));
     constexpr qsizetype Most = 256;
     if (palette.size() > Most)
         palette.resize(Most);
     if (m_largestIndex >= palette.size())
-        m_remarks.add(tr("It has pixels of colour %1, and its palette has %2 colours: they are black")
+        m_remarks.add(Texts::tr("It has pixels of colour %1, and its palette has %2 colours: they are black")
                           .arg(m_largestIndex)
                           .arg(palette.size()));
     palette.resize(std::max({palette.size(), qsizetype(m_largestIndex) + 1, qsizetype(m_content->clearIndex) + 1}),

@@ -8,7 +8,7 @@
 #include <cctype>
 #include <optional>
 
-using ForeignFile::tr;
+using ForeignFile::Texts;
 
 namespace {
 
@@ -60,7 +60,7 @@ private:
 
 Failure failureIn(const Lines &lines, const QString &reason)
 {
-    return Failure{tr("Line %1: %2").arg(QString::number(lines.number()), reason)};
+    return Failure{Texts::tr("Line %1: %2").arg(QString::number(lines.number()), reason)};
 }
 
 /// A line as a message shows it.
@@ -101,7 +101,7 @@ std::optional<QRgb> hexColour(const QByteArray &line)
 Result<ColourFile> withColours(ColourFile file)
 {
     if (file.colours.isEmpty())
-        return Failure{tr("It has no colours")};
+        return Failure{Texts::tr("It has no colours")};
     return file;
 }
 
@@ -125,8 +125,9 @@ Result<ColourFile> readGimp(Lines &lines)
         } else if (const auto colour = decimalColour(line, channels)) {
             file.colours.append(*colour);
         } else {
-            return failureIn(lines,
-                             tr("“%1” is no colour, which is %2 numbers from 0 to 255").arg(shown(line)).arg(channels));
+            return failureIn(
+                lines,
+                Texts::tr("“%1” is no colour, which is %2 numbers from 0 to 255").arg(shown(line)).arg(channels));
         }
     }
     return withColours(std::move(file));
@@ -135,21 +136,23 @@ Result<ColourFile> readGimp(Lines &lines)
 Result<ColourFile> readJasc(Lines &lines)
 {
     if (const QByteArray version = lines.takeFilled(); version != JascVersion)
-        return failureIn(lines, tr("“%1” stands where “%2” does").arg(shown(version), QLatin1String(JascVersion)));
+        return failureIn(lines,
+                         Texts::tr("“%1” stands where “%2” does").arg(shown(version), QLatin1String(JascVersion)));
     const QByteArray countText = lines.takeFilled();
     bool isNumber = false;
     const int count = countText.toInt(&isNumber);
     if (!isNumber || count < 0)
-        return failureIn(lines, tr("“%1” is no number of colours").arg(shown(countText)));
+        return failureIn(lines, Texts::tr("“%1” is no number of colours").arg(shown(countText)));
     ColourFile file;
     for (QByteArray line = lines.takeFilled(); !line.isEmpty(); line = lines.takeFilled()) {
         const auto colour = decimalColour(line, 3);
         if (!colour)
-            return failureIn(lines, tr("“%1” is no colour, which is %2 numbers from 0 to 255").arg(shown(line)).arg(3));
+            return failureIn(lines,
+                             Texts::tr("“%1” is no colour, which is %2 numbers from 0 to 255").arg(shown(line)).arg(3));
         file.colours.append(*colour);
     }
     if (file.colours.size() != count)
-        return Failure{tr("It says that it has %1 colours, and has %2").arg(count).arg(file.colours.size())};
+        return Failure{Texts::tr("It says that it has %1 colours, and has %2").arg(count).arg(file.colours.size())};
     return withColours(std::move(file));
 }
 
@@ -160,7 +163,7 @@ Result<ColourFile> readHex(const QByteArray &text)
     for (QByteArray line = lines.takeFilled(); !line.isEmpty(); line = lines.takeFilled()) {
         const auto colour = hexColour(line);
         if (!colour)
-            return failureIn(lines, tr("“%1” is no colour of six hexadecimal digits").arg(shown(line)));
+            return failureIn(lines, Texts::tr("“%1” is no colour of six hexadecimal digits").arg(shown(line)));
         file.colours.append(*colour);
     }
     return withColours(std::move(file));
@@ -175,10 +178,11 @@ Result<ColourFile> readAct(const QByteArray &bytes)
         if (const int told = qFromBigEndian<quint16>(tail); told > 0)
             count = told;
         if (count > ActColours)
-            return Failure{tr("It says that it has %1 colours; there is room for %2").arg(count).arg(ActColours)};
+            return Failure{
+                Texts::tr("It says that it has %1 colours; there is room for %2").arg(count).arg(ActColours)};
         if (const int index = qFromBigEndian<quint16>(tail + 2); index != NoActIndex) {
             if (index >= count)
-                return Failure{tr("Its transparent index is %1, and it has %2 colours").arg(index).arg(count)};
+                return Failure{Texts::tr("Its transparent index is %1, and it has %2 colours").arg(index).arg(count)};
             file.transparentIndex = index;
         }
     }
@@ -206,7 +210,7 @@ Result<ColourFile> ColourFile::read(const QString &fileName)
 Result<ColourFile> ColourFile::read(const QByteArray &bytes)
 {
     if (bytes.size() > MaxBytes) {
-        return Failure{tr("It has %1; at most %2 can be read")
+        return Failure{Texts::tr("It has %1; at most %2 can be read")
                            .arg(ForeignFile::sizeText(bytes.size()), ForeignFile::sizeText(MaxBytes))};
     }
     Lines lines(bytes);
@@ -218,7 +222,7 @@ Result<ColourFile> ColourFile::read(const QByteArray &bytes)
     const bool beginsAsHex = hexColour(first).has_value();
     const bool hasActSize = bytes.size() == ActBytes || bytes.size() == ActBytes + ActTailBytes;
     if (!beginsAsHex && !hasActSize)
-        return Failure{tr("It is no palette of the forms .gpl, .pal (JASC), .hex or .act")};
+        return Failure{Texts::tr("It is no palette of the forms .gpl, .pal (JASC), .hex or .act")};
     // a palette of colours can happen to begin with digits
     if (Result<ColourFile> file = readHex(bytes); beginsAsHex && (file || !hasActSize))
         return file;

@@ -10,11 +10,11 @@
 /// Files that other programs wrote.
 namespace ForeignFile {
 
-/// Translates a text about them.
-[[nodiscard]] inline QString tr(const char *text)
+/// The texts about them, by the one name under which they are translated.
+struct Texts
 {
-    return QCoreApplication::translate("ForeignFile", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(ForeignFile)
+};
 
 /// A number of bytes as people read it, in MiB where it is that large.
 [[nodiscard]] QString sizeText(qint64 bytes);

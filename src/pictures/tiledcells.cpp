@@ -7,7 +7,7 @@
 
 #include <limits>
 
-using ForeignFile::tr;
+using ForeignFile::Texts;
 using PackedBytes::Form;
 
 namespace {
@@ -38,17 +38,17 @@ TiledCells::TiledCells(qint64 count, const QString &encoding, const QString &com
     else if (encoding == QLatin1String("base64"))
         m_encoding = Encoding::Base64;
     else if (!encoding.isEmpty())
-        m_problem = tr("its cells are written as “%1”, which cannot be read").arg(encoding);
+        m_problem = Texts::tr("its cells are written as “%1”, which cannot be read").arg(encoding);
     if (!formOf(compression))
-        m_problem = tr("its cells are packed as “%1”, which cannot be read").arg(compression);
+        m_problem = Texts::tr("its cells are packed as “%1”, which cannot be read").arg(compression);
 }
 
 void TiledCells::add(std::optional<quint32> gid)
 {
     if (!gid)
-        m_problem = tr("cell %1 is no number of a tile").arg(m_gids.size() + 1);
+        m_problem = Texts::tr("cell %1 is no number of a tile").arg(m_gids.size() + 1);
     else if (m_gids.size() >= m_count)
-        m_problem = tr("it has more than %1 cells").arg(m_count);
+        m_problem = Texts::tr("it has more than %1 cells").arg(m_count);
     if (m_problem.isEmpty())
         m_gids.append(*gid);
 }
@@ -75,11 +75,11 @@ void TiledCells::addCsv(QStringView text)
         if (code >= u'0' && code <= u'9') {
             m_number = m_number.value_or(0) * 10 + (code - u'0');
             if (*m_number > LargestGid)
-                m_problem = tr("cell %1 is no number of a tile").arg(m_gids.size() + 1);
+                m_problem = Texts::tr("cell %1 is no number of a tile").arg(m_gids.size() + 1);
         } else if (code == u',') {
             endNumber();
         } else if (!character.isSpace()) {
-            m_problem = tr("“%1” is among the numbers of its cells").arg(character);
+            m_problem = Texts::tr("“%1” is among the numbers of its cells").arg(character);
         }
         if (!m_problem.isEmpty())
             return;
@@ -99,7 +99,7 @@ Result<QList<quint32>> TiledCells::finish()
     if (m_problem.isEmpty() && m_number)
         endNumber();
     if (m_problem.isEmpty() && m_gids.size() < m_count)
-        m_problem = tr("it has %1 of %2 cells").arg(m_gids.size()).arg(m_count);
+        m_problem = Texts::tr("it has %1 of %2 cells").arg(m_gids.size()).arg(m_count);
     if (!m_problem.isEmpty())
         return Failure{m_problem};
     return std::move(m_gids);
@@ -110,7 +110,7 @@ Result<QList<quint32>> TiledCells::unpacked() const
     const auto decoded = QByteArray::fromBase64Encoding(m_base64, QByteArray::AbortOnBase64DecodingErrors);
     const qint64 size = m_count * qint64(sizeof(quint32));
     const Form form = *formOf(m_compression);
-    const Failure damaged{tr("its cells are damaged, or not %1").arg(m_count)};
+    const Failure damaged{Texts::tr("its cells are damaged, or not %1").arg(m_count)};
     if (!decoded || !PackedBytes::canHold(form, decoded.decoded.size(), size))
         return damaged;
     QList<quint32> gids(m_count);

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-using ForeignFile::tr;
+using ForeignFile::Texts;
 
 void TiledLoader::joinChunks()
 {
@@ -60,7 +60,7 @@ void TiledLoader::readPictures()
     for (qsizetype i = 0; i < m_map.tileSets.size(); ++i) {
         TiledTileSet &tileSet = m_map.tileSets[i];
         if (i > 0 && tileSet.firstGid == m_map.tileSets.at(i - 1).firstGid)
-            fail(tr("Two tile sets begin with number %1").arg(tileSet.firstGid));
+            fail(Texts::tr("Two tile sets begin with number %1").arg(tileSet.firstGid));
         const auto isThere = [&tileSet](int tile) { return tile < tileSet.count; };
         const qsizetype before = tileSet.animations.size();
         for (auto animation = tileSet.animations.begin(); animation != tileSet.animations.end();) {
@@ -70,7 +70,7 @@ void TiledLoader::readPictures()
             animation = isWhole ? std::next(animation) : tileSet.animations.erase(animation);
         }
         if (tileSet.animations.size() < before)
-            m_remarks.add(tr("The tile set “%1” has animations of tiles that are not there").arg(tileSet.name));
+            m_remarks.add(Texts::tr("The tile set “%1” has animations of tiles that are not there").arg(tileSet.name));
     }
 }
 
@@ -83,7 +83,7 @@ void TiledLoader::takePicture(TiledTileSet &tileSet, QImage picture)
     };
     const QSize tile = tileSet.tileSize;
     if (tile.isEmpty()) {
-        tileSet.problems.append(tr("The tile set “%1” says no size of its tiles").arg(tileSet.name));
+        tileSet.problems.append(Texts::tr("The tile set “%1” says no size of its tiles").arg(tileSet.name));
         return;
     }
     const int columns = fitting(tileSet.picture.width(), tile.width());
@@ -92,7 +92,7 @@ void TiledLoader::takePicture(TiledTileSet &tileSet, QImage picture)
     if (tileSet.count == 0)
         tileSet.count = int(room);
     if (tileSet.count > room) {
-        tileSet.problems.append(tr("The picture of the tile set “%1” has %2 of its %3 tiles")
+        tileSet.problems.append(Texts::tr("The picture of the tile set “%1” has %2 of its %3 tiles")
                                     .arg(tileSet.name)
                                     .arg(room)
                                     .arg(tileSet.count));

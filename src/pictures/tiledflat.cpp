@@ -7,7 +7,7 @@
 
 #include <cmath>
 
-using ForeignFile::tr;
+using ForeignFile::Texts;
 
 namespace {
 
@@ -61,6 +61,8 @@ private:
     QHash<qint64, bool> m_knownPictures;
 };
 
+using Flat = TiledMap::Flat;
+
 class Flattening
 {
 public:
@@ -72,11 +74,12 @@ public:
     void add(const TiledMap::Layer &layer)
     {
         if (layer.opacity < 1)
-            m_remarks.add(tr("The layer “%1” is partly clear: it becomes opaque").arg(layer.name));
+            m_remarks.add(Texts::tr("The layer “%1” is partly clear: it becomes opaque").arg(layer.name));
         const QPointF cells(layer.offset.x() / m_map.tileSize.width(), layer.offset.y() / m_map.tileSize.height());
         const QPoint moved(int(std::lround(cells.x())), int(std::lround(cells.y())));
         if (QPointF(moved) != cells)
-            m_remarks.add(tr("The layer “%1” is moved by parts of cells: it goes to the nearest").arg(layer.name));
+            m_remarks.add(
+                Texts::tr("The layer “%1” is moved by parts of cells: it goes to the nearest").arg(layer.name));
         const QRect area = layer.area.translated(moved);
         const quint32 *gid = layer.gids.constData();
         for (int y = area.top(); y <= area.bottom(); ++y) {
@@ -87,14 +90,15 @@ public:
         }
     }
 
-    [[nodiscard]] TiledMap::Flat finish()
+    [[nodiscard]] Flat finish()
     {
         if (m_hidden > 0)
-            m_remarks.add(tr("What shines through clear pixels of tiles above is lost, in %1 cells").arg(m_hidden));
+            m_remarks.add(
+                Texts::tr("What shines through clear pixels of tiles above is lost, in %1 cells").arg(m_hidden));
         if (m_unknown > 0)
-            m_remarks.add(tr("%1 cells have numbers that no tile set has: they become empty").arg(m_unknown));
+            m_remarks.add(Texts::tr("%1 cells have numbers that no tile set has: they become empty").arg(m_unknown));
         if (m_beyond > 0)
-            m_remarks.add(tr("%1 cells of layers lie beyond the map: they are lost").arg(m_beyond));
+            m_remarks.add(Texts::tr("%1 cells of layers lie beyond the map: they are lost").arg(m_beyond));
         return {std::move(m_gids), m_remarks.texts()};
     }
 

@@ -8,7 +8,7 @@
 
 #include <algorithm>
 
-using ForeignFile::tr;
+using ForeignFile::Texts;
 
 namespace {
 
@@ -72,9 +72,9 @@ TiledFolder::Place TiledFolder::locate(const QString &folder, const QString &ref
 Result<QImage> TiledFolder::picture(const Place &place, std::optional<QRgb> transparent)
 {
     if (place.isOutside)
-        return Failure{tr("“%1” is not in the file's folder").arg(place.name)};
+        return Failure{Texts::tr("“%1” is not in the file's folder").arg(place.name)};
     if (place.path.isEmpty())
-        return Failure{tr("“%1” is not there").arg(place.name)};
+        return Failure{Texts::tr("“%1” is not there").arg(place.name)};
     const QString key = transparent ? place.path + QLatin1Char('\0') + QString::number(*transparent) : place.path;
     if (const auto known = m_pictures.constFind(key); known != m_pictures.cend())
         return *known;
@@ -82,7 +82,7 @@ Result<QImage> TiledFolder::picture(const Place &place, std::optional<QRgb> tran
     if (read && transparent)
         read = withClear(*std::move(read), *transparent);
     if (!read)
-        read = Failure{tr("“%1”: %2").arg(place.name, read.reason())};
+        read = Failure{Texts::tr("“%1”: %2").arg(place.name, read.reason())};
     return *m_pictures.insert(key, std::move(read));
 }
 
@@ -90,10 +90,10 @@ Result<QImage> TiledFolder::readPicture(const QString &path)
 {
     const qint64 pixels = PictureFile::pixelCount(path);
     if (pixels > m_pixelsLeft)
-        return Failure{tr("the pictures have more than %1 million pixels together").arg(MaxPixels / 1'000'000)};
+        return Failure{Texts::tr("the pictures have more than %1 million pixels together").arg(MaxPixels / 1'000'000)};
     PictureFile file = PictureFile::read(path);
     if (file.image.isNull())
-        return Failure{file.refusal.isEmpty() ? tr("it is no picture that can be read") : file.refusal};
+        return Failure{file.refusal.isEmpty() ? Texts::tr("it is no picture that can be read") : file.refusal};
     m_pixelsLeft -= pixels;
     return ordinary(std::move(file.image));
 }

@@ -6,7 +6,7 @@
 #include <iterator>
 #include <limits>
 
-using ForeignFile::tr;
+using ForeignFile::Texts;
 
 namespace {
 
@@ -54,9 +54,9 @@ QString TiledJson::whyUnsafe() const
         }
     }
     if (values + lists > MostValues)
-        return tr("It has more than %1 million numbers; with cells written as Base64 it has fewer")
+        return Texts::tr("It has more than %1 million numbers; with cells written as Base64 it has fewer")
             .arg(MostValues / 1'000'000);
-    return lists > MostLists ? tr("It has more than %1 lists and objects").arg(MostLists) : QString();
+    return lists > MostLists ? Texts::tr("It has more than %1 lists and objects").arg(MostLists) : QString();
 }
 
 void TiledJson::read(bool isMap)
@@ -66,11 +66,12 @@ void TiledJson::read(bool isMap)
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(std::exchange(m_bytes, {}), &error);
     if (error.error != QJsonParseError::NoError)
-        return m_loader.fail(tr("Byte %1: %2").arg(error.offset).arg(error.errorString()));
+        return m_loader.fail(Texts::tr("Byte %1: %2").arg(error.offset).arg(error.errorString()));
     const QJsonObject object = document.object();
     const QString type = valueOf(object, "type").toString();
     if (!type.isEmpty() && type != QLatin1String(isMap ? "map" : "tileset"))
-        return m_loader.fail(tr("“%1” stands where “%2” does").arg(type, QLatin1String(isMap ? "map" : "tileset")));
+        return m_loader.fail(
+            Texts::tr("“%1” stands where “%2” does").arg(type, QLatin1String(isMap ? "map" : "tileset")));
     if (isMap)
         readMap(object);
     else
@@ -88,7 +89,7 @@ void TiledJson::readMap(const QJsonObject &map)
 void TiledJson::readLayers(const QJsonArray &layers, int depth)
 {
     if (depth > TiledLoader::MaxDepth)
-        m_loader.fail(tr("there are too many groups in each other"));
+        m_loader.fail(Texts::tr("there are too many groups in each other"));
     for (qsizetype i = 0; i < layers.size() && !m_loader.hasFailed(); ++i) {
         const QJsonObject layer = layers.at(i).toObject();
         const TiledAttributes attributes(layer);

@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <cmath>
 
-using ForeignFile::tr;
+using ForeignFile::Texts;
 
 namespace {
 
@@ -80,7 +80,7 @@ qint64 TiledLoader::number(const TiledAttributes &attributes, const char *name, 
     const double value = told.toDouble(&isNumber);
     if (isNumber && value == std::floor(value) && value >= double(least) && value <= double(most))
         return qint64(value);
-    fail(tr("“%1” is “%2”, and can be %3 to %4")
+    fail(Texts::tr("“%1” is “%2”, and can be %3 to %4")
              .arg(QLatin1String(name), told.toString().left(40), QString::number(least), QString::number(most)));
     return otherwise;
 }
@@ -94,7 +94,8 @@ double TiledLoader::real(const TiledAttributes &attributes, const char *name, do
     const double value = told.toDouble(&isNumber);
     if (isNumber && std::isfinite(value) && std::abs(value) <= MaxPlace)
         return value;
-    fail(tr("“%1” is “%2”, which is no number that it can be").arg(QLatin1String(name), told.toString().left(40)));
+    fail(Texts::tr("“%1” is “%2”, which is no number that it can be")
+             .arg(QLatin1String(name), told.toString().left(40)));
     return otherwise;
 }
 
@@ -102,15 +103,15 @@ void TiledLoader::beginMap(const TiledAttributes &map)
 {
     const QString orientation = map.text("orientation");
     if (!orientation.isEmpty() && orientation != QLatin1String("orthogonal"))
-        fail(tr("It is a map of the kind “%1”; only “orthogonal” ones can be read").arg(orientation));
+        fail(Texts::tr("It is a map of the kind “%1”; only “orthogonal” ones can be read").arg(orientation));
     m_isInfinite = map.flag("infinite");
     const int least = m_isInfinite ? 0 : 1;
     m_map.size = {int(number(map, "width", 0, least, MaxSide)), int(number(map, "height", 0, least, MaxSide))};
     m_map.tileSize = {int(number(map, "tilewidth", 8, 1, MaxSide)), int(number(map, "tileheight", 8, 1, MaxSide))};
     if (!m_isInfinite && m_map.size.isEmpty())
-        fail(tr("It says no width and height"));
+        fail(Texts::tr("It says no width and height"));
     if (qint64(m_map.size.width()) * m_map.size.height() > TiledMap::MaxCells) {
-        fail(tr("It has %1 × %2 cells; at most %3 million can be read")
+        fail(Texts::tr("It has %1 × %2 cells; at most %3 million can be read")
                  .arg(m_map.size.width())
                  .arg(m_map.size.height())
                  .arg(TiledMap::MaxCells / 1'000'000));
@@ -145,7 +146,7 @@ void TiledLoader::beginLayer(const TiledAttributes &attributes)
                        int(number(attributes, "height", m_map.size.height(), 0, MaxSide))};
     }
     if (m_map.layers.size() >= MaxLayers)
-        fail(tr("It has more than %1 layers").arg(MaxLayers));
+        fail(Texts::tr("It has more than %1 layers").arg(MaxLayers));
     else
         m_map.layers.append(layer);
 }
@@ -154,7 +155,7 @@ bool TiledLoader::takeCells(qint64 width, qint64 height)
 {
     m_cellsLeft -= std::min(width * height, TiledMap::MaxCells + 1);
     if (m_cellsLeft < 0)
-        fail(tr("Its layers have more than %1 million cells together").arg(TiledMap::MaxCells / 1'000'000));
+        fail(Texts::tr("Its layers have more than %1 million cells together").arg(TiledMap::MaxCells / 1'000'000));
     return !hasFailed();
 }
 
@@ -177,7 +178,7 @@ void TiledLoader::endCells(TiledCells &cells)
         return;
     auto gids = cells.finish();
     if (!gids)
-        return fail(tr("The layer “%1”: %2").arg(m_map.layers.constLast().name, gids.reason()));
+        return fail(Texts::tr("The layer “%1”: %2").arg(m_map.layers.constLast().name, gids.reason()));
     if (m_isInfinite) {
         m_chunks.push_back({m_map.layers.size() - 1, m_cellsArea, *std::move(gids)});
         return;
@@ -188,7 +189,7 @@ void TiledLoader::endCells(TiledCells &cells)
 
 void TiledLoader::addImageLayer(const TiledAttributes &layer)
 {
-    m_remarks.add(tr("The image layer “%1” is left out").arg(layer.text("name")));
+    m_remarks.add(Texts::tr("The image layer “%1” is left out").arg(layer.text("name")));
 }
 
 void TiledLoader::beginObjects(const TiledAttributes &layer)
@@ -210,9 +211,9 @@ void TiledLoader::addObject(const TiledAttributes &attributes)
     object.shape = object.gid > 0 ? TiledMap::Shape::Tile : TiledMap::Shape::Rectangle;
     object.visible = m_objects.visible && attributes.flag("visible", true);
     if (attributes.has("template"))
-        m_remarks.add(tr("Objects made from templates lack what their template says"));
+        m_remarks.add(Texts::tr("Objects made from templates lack what their template says"));
     if (m_map.objects.size() >= TiledMap::MaxObjects)
-        fail(tr("It has more than %1 objects").arg(TiledMap::MaxObjects));
+        fail(Texts::tr("It has more than %1 objects").arg(TiledMap::MaxObjects));
     else
         m_map.objects.append(object);
 }
@@ -226,7 +227,7 @@ void TiledLoader::setShape(TiledMap::Shape shape)
 void TiledLoader::addProperty(const QString &name, const QString &type, const QVariant &value)
 {
     if (++m_propertyCount > MaxProperties)
-        fail(tr("Its objects have more than %1 properties").arg(MaxProperties));
+        fail(Texts::tr("Its objects have more than %1 properties").arg(MaxProperties));
     if (hasFailed())
         return;
     QVariant typed = value.toString();
@@ -244,7 +245,7 @@ void TiledLoader::addTileSet(const TiledAttributes &attributes)
     const bool isElsewhere = m_fileDepth == 0 && attributes.has("source");
     if (m_fileDepth == 0) {
         if (m_map.tileSets.size() >= MaxTileSets)
-            fail(tr("It has more than %1 tile sets").arg(MaxTileSets));
+            fail(Texts::tr("It has more than %1 tile sets").arg(MaxTileSets));
         m_map.tileSets.emplace_back();
         m_map.tileSets.last().firstGid = quint32(number(attributes, "firstgid", 1, 1, LargestTile));
     }
@@ -269,11 +270,11 @@ void TiledLoader::readElsewhere(const QString &source)
     tileSet.name = QFileInfo(source).completeBaseName();
     if (place.isOutside) {
         tileSet.outside.append(place.name);
-        tileSet.problems.append(tr("“%1” is not in the file's folder").arg(place.name));
+        tileSet.problems.append(Texts::tr("“%1” is not in the file's folder").arg(place.name));
         return;
     }
     if (place.path.isEmpty()) {
-        tileSet.problems.append(tr("“%1” is not there").arg(place.name));
+        tileSet.problems.append(Texts::tr("“%1” is not there").arg(place.name));
         return;
     }
     const TiledTileSet before = tileSet;
@@ -287,7 +288,7 @@ void TiledLoader::readElsewhere(const QString &source)
         return;
     // the cells can be read nevertheless
     m_map.tileSets.last() = before;
-    m_map.tileSets.last().problems.append(tr("“%1”: %2").arg(place.name, std::exchange(m_problem, {})));
+    m_map.tileSets.last().problems.append(Texts::tr("“%1”: %2").arg(place.name, std::exchange(m_problem, {})));
     m_pictures.resize(picturesBefore);
 }
 
@@ -305,9 +306,9 @@ void TiledLoader::addTilePicture(Picture picture)
 {
     if (picture.source.isEmpty()) {
         if (m_map.tileSets.last().problems.isEmpty())
-            m_map.tileSets.last().problems.append(tr("Pictures inside the file cannot be read"));
+            m_map.tileSets.last().problems.append(Texts::tr("Pictures inside the file cannot be read"));
     } else if (m_pictures.size() >= MaxTilePictures) {
-        fail(tr("Its tile sets have more than %1 pictures").arg(MaxTilePictures));
+        fail(Texts::tr("Its tile sets have more than %1 pictures").arg(MaxTilePictures));
     } else {
         m_pictures.push_back(std::move(picture));
     }
@@ -316,7 +317,7 @@ void TiledLoader::addTilePicture(Picture picture)
 void TiledLoader::addFrame(qint64 tile, const TiledAttributes &frame)
 {
     if (++m_frameCount > MaxFrames)
-        fail(tr("Its animations have more than %1 frames").arg(MaxFrames));
+        fail(Texts::tr("Its animations have more than %1 frames").arg(MaxFrames));
     const qint64 shown = number(frame, "tileid", 0, 0, LargestTile);
     const qint64 duration = number(frame, "duration", 0, 0, MaxPlace);
     if (!hasFailed())

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-using ForeignFile::tr;
+using ForeignFile::Texts;
 
 namespace {
 
@@ -34,7 +34,7 @@ QString TiledXml::whyUnsafe() const
 {
     constexpr int MostAttributes = 100;
     if (m_bytes.contains('\0'))
-        return tr("It is no XML in UTF-8");
+        return Texts::tr("It is no XML in UTF-8");
     int attributeCount = 0;
     bool isInElement = false;
     char quote = 0;
@@ -45,7 +45,7 @@ QString TiledXml::whyUnsafe() const
             const bool isDeclaration = rest.startsWith('!');
             if (isDeclaration && !rest.startsWith("!--") && !rest.startsWith("![CDATA[")
                 && !rest.startsWith("!DOCTYPE"))
-                return tr("It declares elements or entities of its own");
+                return Texts::tr("It declares elements or entities of its own");
             isInElement = !isDeclaration && !rest.startsWith('?');
             attributeCount = 0;
             quote = 0;
@@ -56,7 +56,7 @@ QString TiledXml::whyUnsafe() const
         } else if (character == '"' || character == '\'') {
             quote = character;
             if (++attributeCount > MostAttributes)
-                return tr("An element has more than %1 attributes").arg(MostAttributes);
+                return Texts::tr("An element has more than %1 attributes").arg(MostAttributes);
         } else if (character == '>') {
             isInElement = false;
         }
@@ -70,13 +70,13 @@ void TiledXml::read(bool isMap)
         return m_loader.fail(reason);
     QBuffer buffer(&m_bytes); // from which it takes a little at a time
     if (!buffer.open(QIODevice::ReadOnly))
-        return m_loader.fail(tr("It could not be read: %1").arg(buffer.errorString()));
+        return m_loader.fail(Texts::tr("It could not be read: %1").arg(buffer.errorString()));
     m_xml.setDevice(&buffer);
     if (!m_xml.readNextStartElement() && !m_xml.hasError())
-        m_xml.raiseError(tr("there is no element"));
+        m_xml.raiseError(Texts::tr("there is no element"));
     if (!m_xml.hasError() && !is(isMap ? "map" : "tileset"))
-        m_xml.raiseError(
-            tr("“%1” stands where “%2” does").arg(m_xml.name().toString(), QLatin1String(isMap ? "map" : "tileset")));
+        m_xml.raiseError(Texts::tr("“%1” stands where “%2” does")
+                             .arg(m_xml.name().toString(), QLatin1String(isMap ? "map" : "tileset")));
     if (!m_xml.hasError() && isMap) {
         m_loader.beginMap(attributes());
         readLayers(0);
@@ -84,7 +84,7 @@ void TiledXml::read(bool isMap)
         readTileSet();
     }
     if (!m_loader.hasFailed() && m_xml.hasError())
-        m_loader.fail(tr("Line %1: %2").arg(m_xml.lineNumber()).arg(m_xml.errorString()));
+        m_loader.fail(Texts::tr("Line %1: %2").arg(m_xml.lineNumber()).arg(m_xml.errorString()));
     m_xml.setDevice(nullptr);
 }
 
@@ -99,7 +99,7 @@ void TiledXml::skip()
         switch (m_xml.readNext()) {
         case QXmlStreamReader::StartElement:
             if (++depth > TiledLoader::MaxDepth)
-                m_xml.raiseError(tr("there are too many elements in each other"));
+                m_xml.raiseError(Texts::tr("there are too many elements in each other"));
             break;
         case QXmlStreamReader::EndElement:
             --depth;
@@ -113,7 +113,7 @@ void TiledXml::skip()
 void TiledXml::readLayers(int depth)
 {
     if (depth > TiledLoader::MaxDepth)
-        m_xml.raiseError(tr("there are too many elements in each other"));
+        m_xml.raiseError(Texts::tr("there are too many elements in each other"));
     while (next()) {
         if (is("tileset")) {
             readTileSet();

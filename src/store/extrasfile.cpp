@@ -20,10 +20,11 @@ struct Content
     QString problem;
 };
 
-QString tr(const char *text)
+/// The name under which the texts are translated.
+struct Texts
 {
-    return QCoreApplication::translate("ExtrasFile", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(ExtrasFile)
+};
 
 Content contentOf(const QString &path)
 {
@@ -33,7 +34,7 @@ Content contentOf(const QString &path)
         return content;
     QFile file(path);
     if (!info.isFile() || info.size() > ExtrasFile::MaxBytes) {
-        content.problem = tr("it is no file of at most 16 MiB");
+        content.problem = Texts::tr("it is no file of at most 16 MiB");
     } else if (!file.open(QIODevice::ReadOnly)) {
         content.problem = file.errorString();
     } else {
@@ -42,10 +43,10 @@ Content contentOf(const QString &path)
         const QJsonDocument document = QJsonDocument::fromJson(content.bytes, &error);
         if (error.error != QJsonParseError::NoError)
             content.problem =
-                tr("line %1: %2")
+                Texts::tr("line %1: %2")
                     .arg(QString::number(content.bytes.first(error.offset).count('\n') + 1), error.errorString());
         else if (!document.isObject())
-            content.problem = tr("it holds no object");
+            content.problem = Texts::tr("it holds no object");
         content.sections = document.object();
     }
     return content;

@@ -9,6 +9,12 @@ namespace {
 
 using NextData::AssetKind;
 
+/// The name under which the texts are translated.
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(AssetKinds)
+};
+
 ProjectTree::ProjectNode nodeOf(AssetKind kind)
 {
     switch (kind) {
@@ -42,20 +48,19 @@ QString nameOf(AssetKind kind)
 
 QString pluralOf(AssetKind kind)
 {
-    const auto tr = [](const char *text) { return QCoreApplication::translate("AssetKinds", text); };
     switch (kind) {
     case AssetKind::Palette:
-        return tr("Palettes");
+        return Texts::tr("Palettes");
     case AssetKind::TileSet:
-        return tr("Tile Sets");
+        return Texts::tr("Tile Sets");
     case AssetKind::Map:
-        return tr("Maps");
+        return Texts::tr("Maps");
     case AssetKind::BlockSet:
-        return tr("Map Objects");
+        return Texts::tr("Map Objects");
     case AssetKind::SpriteBank:
-        return tr("Sprite Banks");
+        return Texts::tr("Sprite Banks");
     case AssetKind::Image:
-        return tr("Images");
+        return Texts::tr("Images");
     }
     return {};
 }

@@ -14,10 +14,11 @@ namespace {
 constexpr int UpdateInterval = 40; // every update repaints and handles events
 constexpr int Patience = 250;
 
-QString tr(const char *text)
+/// The name under which the texts are translated.
+struct Texts
 {
-    return QCoreApplication::translate("ExportProgress", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(ExportProgress)
+};
 
 /// The main window, where a dialog stands over it.
 QWidget *outermost(QWidget *widget)
@@ -39,10 +40,10 @@ qint64 largestOutput(const Project &project, const NextData::Recipe &recipe)
 } // namespace
 
 ExportProgress::ExportProgress(QWidget *parent, const Project &project, const NextData::Recipe &recipe)
-    : m_busy(outermost(parent), tr("Exporting %1…").arg(project.name()), largestOutput(project, recipe))
-    , m_dialog(tr("Exporting the project…"), tr("&Stop"), 0, 1, parent)
+    : m_busy(outermost(parent), Texts::tr("Exporting %1…").arg(project.name()), largestOutput(project, recipe))
+    , m_dialog(Texts::tr("Exporting the project…"), Texts::tr("&Stop"), 0, 1, parent)
 {
-    m_dialog.setWindowTitle(tr("Export Project"));
+    m_dialog.setWindowTitle(Texts::tr("Export Project"));
     m_dialog.setMinimumWidth(titleWidth(m_dialog.windowTitle()));
     m_dialog.setWindowModality(Qt::WindowModal);
     m_dialog.setMinimumDuration(Patience);

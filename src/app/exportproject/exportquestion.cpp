@@ -20,30 +20,31 @@ struct Words
     bool isProposed;
 };
 
-QString tr(const char *text)
+/// The name under which the texts are translated.
+struct Texts
 {
-    return QCoreApplication::translate("ExportQuestion", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(ExportQuestion)
+};
 
 Words wordsOf(const ExportQuestion &question)
 {
     const QString path = QDir::toNativeSeparators(question.recipe);
     switch (question.kind) {
     case ExportQuestion::Kind::SaveProject:
-        return {tr("Save the project first?"),
-                tr("The files for the game are written beside the project's file, and it has none yet."),
-                tr("&Save Project…"), true};
+        return {Texts::tr("Save the project first?"),
+                Texts::tr("The files for the game are written beside the project's file, and it has none yet."),
+                Texts::tr("&Save Project…"), true};
     case ExportQuestion::Kind::StartAnew:
-        return {tr("The recipe of this project cannot be used:\n%1").arg(path),
+        return {Texts::tr("The recipe of this project cannot be used:\n%1").arg(path),
                 question.problems + QStringLiteral("\n\n")
-                    + tr("Mend the file, or start with an empty recipe: the file is then kept as %1.")
+                    + Texts::tr("Mend the file, or start with an empty recipe: the file is then kept as %1.")
                           .arg(QFileInfo(question.recipe).fileName() + QStringLiteral(".bad")),
-                tr("&Start Anew"), false};
+                Texts::tr("&Start Anew"), false};
     case ExportQuestion::Kind::ReplaceRecipe:
         break;
     }
-    return {tr("Another program changed the recipe of this project:\n%1").arg(path),
-            tr("Saving it from here loses that change."), tr("&Replace"), false};
+    return {Texts::tr("Another program changed the recipe of this project:\n%1").arg(path),
+            Texts::tr("Saving it from here loses that change."), Texts::tr("&Replace"), false};
 }
 
 } // namespace
@@ -52,8 +53,9 @@ bool askAboutExport(QWidget *parent, const ExportQuestion &question)
 {
     const Words words = wordsOf(question);
     // not on the stack: it goes with its parent
-    const QPointer<QMessageBox> box = new QMessageBox(words.isProposed ? QMessageBox::Question : QMessageBox::Warning,
-                                                      tr("Export Project"), words.text, QMessageBox::Cancel, parent);
+    const QPointer<QMessageBox> box =
+        new QMessageBox(words.isProposed ? QMessageBox::Question : QMessageBox::Warning, Texts::tr("Export Project"),
+                        words.text, QMessageBox::Cancel, parent);
     QPushButton *yes = box->addButton(words.yes, QMessageBox::AcceptRole);
     box->setDefaultButton(words.isProposed ? yes : qobject_cast<QPushButton *>(box->button(QMessageBox::Cancel)));
     box->setTextFormat(Qt::PlainText);

@@ -11,10 +11,11 @@ namespace {
 
 constexpr int MostFailures = 8; // that a message box shows
 
-QString tr(const char *text)
+/// The name under which the texts are translated.
+struct Texts
 {
-    return QCoreApplication::translate("ExportReport", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(ExportReport)
+};
 
 QString number(qint64 value)
 {
@@ -35,7 +36,7 @@ ExportReport::ExportReport(const Recipe &recipe, const QList<RecipeRun::Outcome>
     for (qsizetype i = 0; i < outcomes.size(); ++i) {
         const RecipeRun::Outcome &outcome = outcomes[i];
         if (outcome.state == RecipeRun::State::Impossible)
-            m_failures.append(tr("%1: %2").arg(recipe.outputs().at(i).file, outcome.reason));
+            m_failures.append(Texts::tr("%1: %2").arg(recipe.outputs().at(i).file, outcome.reason));
         for (const RecipeRun::File &file : outcome.files) { // also of what failed half-way
             if (file.state == RecipeRun::State::Unchanged) {
                 ++m_unchanged;
@@ -51,25 +52,25 @@ QString ExportReport::text() const
 {
     const QString folder = QDir::toNativeSeparators(m_folder);
     if (m_written == 0 && m_failures.isEmpty() && !m_stopped)
-        return tr("Nothing to export: %1 in %2")
-            .arg(counted(m_unchanged, tr("1 file is unchanged"), tr("%1 files are unchanged")), folder);
-    QString text = m_written > 0
-        ? tr("Exported %1 (%2)")
-              .arg(counted(m_written, tr("1 file"), tr("%1 files")), counted(m_bytes, tr("1 byte"), tr("%1 bytes")))
-        : tr("Exported nothing");
+        return Texts::tr("Nothing to export: %1 in %2")
+            .arg(counted(m_unchanged, Texts::tr("1 file is unchanged"), Texts::tr("%1 files are unchanged")), folder);
+    QString text = m_written > 0 ? Texts::tr("Exported %1 (%2)")
+                                       .arg(counted(m_written, Texts::tr("1 file"), Texts::tr("%1 files")),
+                                            counted(m_bytes, Texts::tr("1 byte"), Texts::tr("%1 bytes")))
+                                 : Texts::tr("Exported nothing");
     const bool isAll = m_unchanged == 0 && m_failures.isEmpty();
     if (m_unchanged > 0)
-        text += tr(", %1 unchanged").arg(number(m_unchanged));
+        text += Texts::tr(", %1 unchanged").arg(number(m_unchanged));
     if (!m_failures.isEmpty())
-        text += tr(", %1 failed").arg(number(m_failures.size()));
-    text += (isAll ? tr(" to %1") : tr(", to %1")).arg(folder);
-    return m_stopped ? tr("Stopped: %1").arg(text) : text;
+        text += Texts::tr(", %1 failed").arg(number(m_failures.size()));
+    text += (isAll ? Texts::tr(" to %1") : Texts::tr(", to %1")).arg(folder);
+    return m_stopped ? Texts::tr("Stopped: %1").arg(text) : text;
 }
 
 QString ExportReport::failures() const
 {
     QStringList shown = m_failures.first(std::min<qsizetype>(m_failures.size(), MostFailures));
     if (const qsizetype more = m_failures.size() - shown.size(); more > 0)
-        shown.append(tr("… and %1 more").arg(number(more)));
+        shown.append(Texts::tr("… and %1 more").arg(number(more)));
     return shown.join(u'\n');
 }

@@ -35,20 +35,19 @@ constexpr int Delay = 120; ///< milliseconds until what was typed is looked at
 
 QString newText(AssetKind kind)
 {
-    const auto tr = [](const char *text) { return ImportFileDialog::tr(text); };
     switch (kind) {
     case AssetKind::Palette:
-        return tr("New palette");
+        return ImportFileDialog::tr("New palette");
     case AssetKind::TileSet:
-        return tr("New tile set");
+        return ImportFileDialog::tr("New tile set");
     case AssetKind::Map:
-        return tr("New map");
+        return ImportFileDialog::tr("New map");
     case AssetKind::SpriteBank:
-        return tr("New sprites");
+        return ImportFileDialog::tr("New sprites");
     case AssetKind::BlockSet:
-        return tr("New map objects");
+        return ImportFileDialog::tr("New map objects");
     case AssetKind::Image:
-        return tr("New image");
+        return ImportFileDialog::tr("New image");
     }
     return {};
 }

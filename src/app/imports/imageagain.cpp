@@ -22,10 +22,11 @@ namespace {
 
 constexpr int FewColours = 16;
 
-QString tr(const char *text)
+/// The name under which the texts are translated.
+struct Texts
 {
-    return QCoreApplication::translate("ImportAgain", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(ImportAgain)
+};
 
 ImageImport importOf(const QJsonObject &choices)
 {
@@ -63,7 +64,7 @@ ImportedAgain imageAgain(Image &image, const ImportRecord &record, QUndoStack *s
     const QPointer<Palette> palette = image.palette();
     const auto *project = qobject_cast<Project *>(image.parent());
     if (!palette || !project)
-        return {tr("The image has no palette any more"), {}, {}};
+        return {Texts::tr("The image has no palette any more"), {}, {}};
     const PictureFile picture = PictureFile::read(record.file);
     if (picture.image.isNull())
         return {picture.failure(), {}, {}};
@@ -79,7 +80,7 @@ ImportedAgain imageAgain(Image &image, const ImportRecord &record, QUndoStack *s
     const ImageImport::Result result = import.convert(picture.image, *palette, before.size(), colours);
     const QImage after = covered(before, result.pixels);
 
-    const UndoMacro step(stack, tr("Import Again"));
+    const UndoMacro step(stack, Texts::tr("Import Again"));
     if (newColours) {
         Palette words;
         for (int i = 0; i < Palette::Size; ++i)
@@ -92,7 +93,7 @@ ImportedAgain imageAgain(Image &image, const ImportRecord &record, QUndoStack *s
             if (guarded)
                 guarded->setImage(pixels);
         };
-        stack->push(new PixelEditCommand(tr("Import Again"), before, after, apply, {}, PixelEditCommand::None));
+        stack->push(new PixelEditCommand(Texts::tr("Import Again"), before, after, apply, {}, PixelEditCommand::None));
     }
-    return {{}, tr("%1 is up to date").arg(image.name()), record.choices};
+    return {{}, Texts::tr("%1 is up to date").arg(image.name()), record.choices};
 }

@@ -19,10 +19,11 @@
 
 namespace {
 
-QString tr(const char *text)
+/// The name under which the texts are translated.
+struct Texts
 {
-    return QCoreApplication::translate("ImportAgain", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(ImportAgain)
+};
 
 ImportedAgain paletteAgain(Palette &palette, const ImportRecord &record, QUndoStack *stack)
 {
@@ -30,9 +31,9 @@ ImportedAgain paletteAgain(Palette &palette, const ImportRecord &record, QUndoSt
     words.copyColours(palette);
     const auto leftOut = readPaletteFile(record.file, words);
     if (!leftOut)
-        return {tr("The file is neither a palette nor a picture that can be read"), {}, {}};
+        return {Texts::tr("The file is neither a palette nor a picture that can be read"), {}, {}};
     replaceWords(palette, words, stack);
-    return {{}, tr("%1 is up to date").arg(palette.name()), record.choices};
+    return {{}, Texts::tr("%1 is up to date").arg(palette.name()), record.choices};
 }
 
 /// Of any other file, which goes into the asset as it did into it, or into a new one, before.
@@ -42,7 +43,7 @@ ImportedAgain fileAgain(Project &project, const QUuid &asset, const ImportRecord
     auto choices = Importing::ImportChoices::fromJson(record.choices);
     const Importing::FileKind *kind = choices ? Importing::findFileKind(choices->kind) : nullptr;
     if (!kind || !kind->takesTarget)
-        return {tr("Such a file makes new assets, and cannot go into those that are there"), {}, {}};
+        return {Texts::tr("Such a file makes new assets, and cannot go into those that are there"), {}, {}};
     choices->target = asset;
     const auto file = Importing::ImportFile::open(record.file);
     if (!file)
@@ -53,7 +54,7 @@ ImportedAgain fileAgain(Project &project, const QUuid &asset, const ImportRecord
     const auto added = Importing::addTo(project, *incoming, *choices, stackFor);
     if (!added)
         return {added.reason(), {}, {}};
-    return {{}, tr("%1 was imported again").arg(QFileInfo(record.file).fileName()), record.choices};
+    return {{}, Texts::tr("%1 was imported again").arg(QFileInfo(record.file).fileName()), record.choices};
 }
 
 ImportedAgain again(Project &project, const QUuid &asset, const ImportRecord &record,
@@ -80,7 +81,7 @@ ImportedAgain again(Project &project, const QUuid &asset, const ImportRecord &re
     case ImportRecord::File:
         return fileAgain(project, asset, record, stackFor);
     }
-    return {tr("What was made of it is not there any more"), {}, {}};
+    return {Texts::tr("What was made of it is not there any more"), {}, {}};
 }
 
 } // namespace
@@ -90,8 +91,8 @@ ImportedAgain ImportedAgain::run(Project &project, const QUuid &asset, const Imp
 {
     const QFileInfo file(record.file);
     if (!file.isFile())
-        return {tr("The file is not there any more:\n%1").arg(QDir::toNativeSeparators(record.file)), {}, {}};
-    const Busy busy(window, tr("Importing %1…").arg(file.fileName()));
+        return {Texts::tr("The file is not there any more:\n%1").arg(QDir::toNativeSeparators(record.file)), {}, {}};
+    const Busy busy(window, Texts::tr("Importing %1…").arg(file.fileName()));
     ImportedAgain done = again(project, asset, record, stackFor, window);
     if (!done.failure.isEmpty())
         done.failure += QLatin1Char('\n') + QDir::toNativeSeparators(record.file);

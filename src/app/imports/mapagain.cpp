@@ -27,10 +27,11 @@ namespace {
 
 constexpr int Side = PictureCells::Side;
 
-QString tr(const char *text)
+/// The name under which the texts are translated.
+struct Texts
 {
-    return QCoreApplication::translate("ImportAgain", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(ImportAgain)
+};
 
 /// What a picture shows at a place: one of the machine's colours, or -1 where it is clear.
 std::vector<int> lookOf(const QImage &picture, const QPoint &cell)
@@ -228,9 +229,9 @@ private:
 
 QString toldOf(const Map &map, const PictureCells &cells)
 {
-    QString told = tr("%1 is up to date; new tiles: %2").arg(map.name()).arg(cells.additions.size());
+    QString told = Texts::tr("%1 is up to date; new tiles: %2").arg(map.name()).arg(cells.additions.size());
     if (cells.lostPixels > 0)
-        told += tr("; pixels that took the nearest colour: %1").arg(QLocale().toString(cells.lostPixels));
+        told += Texts::tr("; pixels that took the nearest colour: %1").arg(QLocale().toString(cells.lostPixels));
     return told;
 }
 
@@ -240,14 +241,14 @@ ImportedAgain mapAgain(Map &map, const ImportRecord &record, QUndoStack *stack, 
 {
     const QPointer<TileSet> tileSet = map.tileSet();
     if (!tileSet || !tileSet->palette() || !map.tileLayer())
-        return {tr("The map has no tiles or no palette any more"), {}, {}};
+        return {Texts::tr("The map has no tiles or no palette any more"), {}, {}};
     const TiledPicture tiled = TiledPicture::of(record.file, record.choices, window);
     if (tiled.picture.isNull())
         return {tiled.failure, {}, {}};
     Update update(map, tiled.picture, tiled.clearPixel);
     PictureCells &cells = update.cells();
     if (!cells.hasRoom()) {
-        return {tr("The picture needs %1 more tiles, and the tile set has room for %2")
+        return {Texts::tr("The picture needs %1 more tiles, and the tile set has room for %2")
                     .arg(cells.additions.size())
                     .arg(cells.places.size()),
                 {},
@@ -262,14 +263,14 @@ ImportedAgain mapAgain(Map &map, const ImportRecord &record, QUndoStack *stack, 
     // a map that was resized since keeps what it has beside the picture
     const QSize size = map.size() == before ? update.size() : map.size().expandedTo(update.size());
     if (size == map.size() && update.keepsAll())
-        return {{}, tr("%1 is up to date").arg(map.name()), choices};
-    const UndoMacro step(stack, tr("Import Again"));
+        return {{}, Texts::tr("%1 is up to date").arg(map.name()), choices};
+    const UndoMacro step(stack, Texts::tr("Import Again"));
     replaceWords(*tileSet->palette(), update.words(), stack);
     if (size != map.size()) {
         const Map::Snapshot content = map.snapshot();
         map.resize(size);
         if (stack)
-            stack->push(new MapEditCommand(tr("Resize Map"), &map, content, map.snapshot()));
+            stack->push(new MapEditCommand(Texts::tr("Resize Map"), &map, content, map.snapshot()));
     }
     emit tileSet->structureAboutToChange();
     cells.addTo(*tileSet);
@@ -277,7 +278,7 @@ ImportedAgain mapAgain(Map &map, const ImportRecord &record, QUndoStack *stack, 
         if (!update.keeps(cell))
             map.setTile({cell % update.size().width(), cell / update.size().width()}, cells.cells[size_t(cell)]);
     }
-    emit tileSet->structureChanged(tr("Import Again"));
+    emit tileSet->structureChanged(Texts::tr("Import Again"));
     map.restore(map.snapshot()); // whoever shows it paints it anew
     if (tiled.clearPixel >= 0 && map.tileTransparencyIndex() < 0)
         map.setTileTransparencyIndex(tiled.clearPixel);

@@ -15,10 +15,11 @@ constexpr int MostTiles = 512;
 /// The map takes its size from the file.
 constexpr QSize AnySize{1, 1};
 
-QString tr(const char *text)
+/// The name under which the texts are translated.
+struct Texts
 {
-    return QCoreApplication::translate("NextDataImport", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(NextDataImport)
+};
 
 MapImport failed(const QString &failure)
 {
@@ -36,18 +37,18 @@ MapImport importNextData(Project &project, const QString &filePath, QWidget *par
     };
     for (const char *suffix : {"nxp", "nxt", "nxm", "nxb"}) {
         if (!QFileInfo(file(suffix)).isFile())
-            return failed(tr("Some of the required files are missing"));
+            return failed(Texts::tr("Some of the required files are missing"));
     }
 
-    const Busy busy(parent, tr("Importing %1…").arg(chosen.fileName()), QFileInfo(file("nxm")).size());
+    const Busy busy(parent, Texts::tr("Importing %1…").arg(chosen.fileName()), QFileInfo(file("nxm")).size());
     const QPointer<Palette> palette = project.createPalette(CreateAction::Blank, name);
     if (!palette->importData(file("nxp")))
-        return failed(tr("Could not import the palette data"));
+        return failed(Texts::tr("Could not import the palette data"));
     const QPointer<TileSet> tileSet = project.createTileSet(name, palette->id(), MostTiles, false);
     if (!tileSet->importNxt(file("nxt")))
-        return failed(tr("Could not import the tile data"));
+        return failed(Texts::tr("Could not import the tile data"));
     const QPointer<Map> map = project.createMap(name, tileSet->id(), AnySize);
     if (!map->importNxm(file("nxm"), file("nxb")))
-        return failed(tr("Could not import the map data"));
+        return failed(Texts::tr("Could not import the map data"));
     return {map, {}};
 }

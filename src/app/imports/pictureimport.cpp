@@ -27,10 +27,11 @@ using namespace TileOrientation; // which ImageSlicer's placements have as well
 
 constexpr int MostTiles = TileReduction::MostTiles;
 
-QString tr(const char *text)
+/// The name under which the texts are translated.
+struct Texts
 {
-    return QCoreApplication::translate("PictureImport", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(PictureImport)
+};
 
 TileMap::TileData cellOf(int tile, int orientation, int group)
 {
@@ -74,9 +75,10 @@ QString lossOf(const ImageSlicer &slicer)
     const int lossy = slicer.lossyTileCount();
     if (lossy == 0)
         return {};
-    return tr("Tiles that lost colours: %1 of %2.\n"
-              "A tile shows 16 colours, and all of them together have 16 groups of 16. Reduce the colours of the "
-              "picture, to 16 in each tile of 8 × 8 pixels and to fewer in all, and import it again.")
+    return Texts::tr(
+               "Tiles that lost colours: %1 of %2.\n"
+               "A tile shows 16 colours, and all of them together have 16 groups of 16. Reduce the colours of the "
+               "picture, to 16 in each tile of 8 × 8 pixels and to fewer in all, and import it again.")
         .arg(lossy)
         .arg(slicer.pieceCount());
 }
@@ -106,8 +108,8 @@ QString refusalOf(const ImageSlicer &slicer)
 {
     const int tiles = slicer.pieceCount();
     if (tiles > MostTiles)
-        return tr("Cannot import the image as it would need more than 512 tiles\n%1 required").arg(tiles);
-    return tiles == 0 ? tr("The image is smaller than a tile, which has 8 × 8 pixels") : QString();
+        return Texts::tr("Cannot import the image as it would need more than 512 tiles\n%1 required").arg(tiles);
+    return tiles == 0 ? Texts::tr("The image is smaller than a tile, which has 8 × 8 pixels") : QString();
 }
 
 MapImport importCut(Project &project, const QString &filePath, const ImageSlicer &slicer)
@@ -125,7 +127,8 @@ MapImport importCut(Project &project, const QString &filePath, const ImageSlicer
 MapImport importPicture(Project &project, const QString &filePath, QWidget *parent, const PictureLoss *known)
 {
     const QPointer<Project> guarded = &project; // events are handled while the picture is cut
-    const Busy busy(parent, tr("Importing %1…").arg(QFileInfo(filePath).fileName()), PictureFile::pixelCount(filePath));
+    const Busy busy(parent, Texts::tr("Importing %1…").arg(QFileInfo(filePath).fileName()),
+                    PictureFile::pixelCount(filePath));
     if (known && known->cut)
         return importCut(project, filePath, *known->cut);
     const PictureFile picture = PictureFile::read(filePath);
@@ -137,7 +140,7 @@ MapImport importPicture(Project &project, const QString &filePath, QWidget *pare
         slicer.sliceTiles();
     }
     if (!guarded)
-        return {nullptr, tr("The project was closed meanwhile")};
+        return {nullptr, Texts::tr("The project was closed meanwhile")};
     return importCut(project, filePath, slicer);
 }
 
@@ -171,7 +174,7 @@ bool PictureLoss::any() const
 
 PictureLoss PictureLoss::of(const QString &filePath, QWidget *parent)
 {
-    const Busy busy(parent, tr("Reading %1…").arg(QFileInfo(filePath).fileName()));
+    const Busy busy(parent, Texts::tr("Reading %1…").arg(QFileInfo(filePath).fileName()));
     PictureLoss loss;
     loss.picture = PictureFile::read(filePath).image;
     if (loss.picture.width() < ImageSlicer::TileSide || loss.picture.height() < ImageSlicer::TileSide)
@@ -214,7 +217,8 @@ TiledPicture TiledPicture::of(const QString &filePath, const QJsonObject &choice
             TileReduction::of(picture.image, {.dithering = *dithering, .keepClearPixels = keepClear});
         const bool clear = reduction.hasClearPixels || choices[QStringLiteral("clear")].toBool();
         return {reduction.shown(), clear ? TileReduction::ClearPixel : -1,
-                reduction.size.isEmpty() ? tr("The image is smaller than a tile, which has 8 × 8 pixels") : QString()};
+                reduction.size.isEmpty() ? Texts::tr("The image is smaller than a tile, which has 8 × 8 pixels")
+                                         : QString()};
     }
     ImageSlicer slicer(picture.image);
     {

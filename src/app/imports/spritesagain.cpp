@@ -30,10 +30,11 @@ constexpr quint16 Clear = 0xffff;
 /// What a sprite looks like: numbers of the machine's colours (NineBitColour), or Clear.
 using Look = std::array<quint16, SpriteBank::SpriteBytes>;
 
-QString tr(const char *text)
+/// The name under which the texts are translated.
+struct Texts
 {
-    return QCoreApplication::translate("ImportAgain", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(ImportAgain)
+};
 
 QByteArray keyOf(const Look &look)
 {
@@ -214,7 +215,7 @@ ImportedAgain spritesAgain(SpriteBank &bank, const ImportRecord &record, QUndoSt
     const QPointer<Palette> palette = bank.palette();
     const auto *project = qobject_cast<Project *>(bank.parent());
     if (!palette || !project)
-        return {tr("The sprites have no palette any more"), {}, {}};
+        return {Texts::tr("The sprites have no palette any more"), {}, {}};
     const PictureFile picture = PictureFile::read(record.file);
     if (picture.image.isNull())
         return {picture.failure(), {}, {}};
@@ -237,7 +238,7 @@ ImportedAgain spritesAgain(SpriteBank &bank, const ImportRecord &record, QUndoSt
     }
     const QList<Look> pieces = piecesOf(found, newPalette, coloursOf(shown, {bank.depth()}), window);
     if (pieces.isEmpty())
-        return {tr("The picture is smaller than a sprite, which has 16 × 16 pixels"), {}, {}};
+        return {Texts::tr("The picture is smaller than a sprite, which has 16 × 16 pixels"), {}, {}};
 
     const SpriteBank::State before = bank.snapshot();
     const auto colours = coloursOf(palette->colourTable(), bank.clearPixels());
@@ -248,7 +249,7 @@ ImportedAgain spritesAgain(SpriteBank &bank, const ImportRecord &record, QUndoSt
         placed(pieces, sprites, numbersOf(record.choices[QStringLiteral("sprites")], bank.count()));
     const int count = std::max(bank.count(), *std::max_element(places.cbegin(), places.cend()) + 1);
     if (count > SpriteBank::MaxCount)
-        return {tr("The picture holds more sprites than fit into a bank"), {}, {}};
+        return {Texts::tr("The picture holds more sprites than fit into a bank"), {}, {}};
 
     const int depth = bank.clearPixels().pixelCount();
     const int group = newPalette ? 0 : found.pixels.constScanLine(0)[0] / depth * depth;
@@ -280,11 +281,11 @@ ImportedAgain spritesAgain(SpriteBank &bank, const ImportRecord &record, QUndoSt
     std::sort(numbers.begin(), numbers.end());
     choices.insert(QStringLiteral("sprites"), rangesOf(numbers));
     if (replaced.isEmpty())
-        return {{}, tr("%1 is up to date").arg(bank.name()), choices};
-    const UndoMacro step(stack, tr("Import Again"));
+        return {{}, Texts::tr("%1 is up to date").arg(bank.name()), choices};
+    const UndoMacro step(stack, Texts::tr("Import Again"));
     replaceWords(*palette, entries.words(), stack);
     emit bank.structureAboutToChange();
     bank.restore(after);
-    emit bank.structureChanged(tr("Import Again"));
-    return {{}, tr("%1 is up to date; sprites that are new: %2").arg(bank.name()).arg(replaced.size()), choices};
+    emit bank.structureChanged(Texts::tr("Import Again"));
+    return {{}, Texts::tr("%1 is up to date; sprites that are new: %2").arg(bank.name()).arg(replaced.size()), choices};
 }

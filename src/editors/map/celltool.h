@@ -3,6 +3,8 @@
 #include "editors/map/cellink.h"
 #include "editors/map/maptool.h"
 
+#include <QCoreApplication>
+
 #include <optional>
 
 namespace MapEditor {
@@ -13,6 +15,8 @@ namespace MapEditor {
 /// tile, a stroke places it once. A stamp is written again and again without overlapping itself.
 class CellTool : public MapTool
 {
+    Q_DECLARE_TR_FUNCTIONS(MapEditor::CellTool)
+
 public:
     using MapTool::MapTool;
 

@@ -2,11 +2,15 @@
 
 #include "editors/map/celltool.h"
 
+#include <QCoreApplication>
+
 namespace MapEditor {
 
 /// Writes the current tile into the cells of the tile layer.
 class DrawTool final : public CellTool
 {
+    Q_DECLARE_TR_FUNCTIONS(MapEditor::DrawTool)
+
 public:
     using CellTool::CellTool;
 

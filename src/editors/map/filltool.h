@@ -2,12 +2,16 @@
 
 #include "editors/map/maptool.h"
 
+#include <QCoreApplication>
+
 namespace MapEditor {
 
 /// Fills the cells that hold the same as the one that is pressed and hang together with it; inside a selection, the
 /// fill stays in it.
 class FillTool final : public MapTool
 {
+    Q_DECLARE_TR_FUNCTIONS(MapEditor::FillTool)
+
 public:
     using MapTool::MapTool;
 

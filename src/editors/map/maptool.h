@@ -6,7 +6,6 @@
 #include "editors/map/mapviewport.h"
 #include "ui/enums.h"
 
-#include <QCoreApplication>
 #include <QCursor>
 #include <QtGlobal>
 
@@ -21,8 +20,6 @@ namespace MapEditor {
 /// when it shows no map.
 class MapTool
 {
-    Q_DECLARE_TR_FUNCTIONS(MapEditor::MapTool)
-
 public:
     explicit MapTool(MapSurface *surface) : m_surface(surface) { }
     virtual ~MapTool();

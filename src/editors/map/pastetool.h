@@ -4,6 +4,7 @@
 #include "editors/map/maptool.h"
 #include "pictures/picturecells.h"
 
+#include <QCoreApplication>
 #include <QImage>
 
 #include <optional>
@@ -19,6 +20,8 @@ namespace MapEditor {
 /// structural edit of the set, which whoever records such edits makes one undo step. What it will cost is told before.
 class PasteTool final : public MapTool
 {
+    Q_DECLARE_TR_FUNCTIONS(MapEditor::PasteTool)
+
 public:
     using MapTool::MapTool;
 

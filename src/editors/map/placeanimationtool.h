@@ -2,11 +2,15 @@
 
 #include "editors/map/celltool.h"
 
+#include <QCoreApplication>
+
 namespace MapEditor {
 
 /// Places the current tile animation.
 class PlaceAnimationTool final : public CellTool
 {
+    Q_DECLARE_TR_FUNCTIONS(MapEditor::PlaceAnimationTool)
+
 public:
     using CellTool::CellTool;
 

@@ -3,6 +3,7 @@
 #include "editors/map/maptool.h"
 #include "model/map.h"
 
+#include <QCoreApplication>
 #include <QPoint>
 
 namespace MapEditor {
@@ -10,6 +11,8 @@ namespace MapEditor {
 /// Places sprites, selects them and moves them. Positions are in pixels of the map.
 class PlaceSpriteTool final : public MapTool
 {
+    Q_DECLARE_TR_FUNCTIONS(MapEditor::PlaceSpriteTool)
+
 public:
     using MapTool::MapTool;
 

@@ -3,6 +3,8 @@
 #include "editors/map/cellink.h"
 #include "editors/map/maptool.h"
 
+#include <QCoreApplication>
+
 #include <optional>
 
 namespace MapEditor {
@@ -11,6 +13,8 @@ namespace MapEditor {
 /// diagonal line, a square or a circle.
 class ShapeTool final : public MapTool
 {
+    Q_DECLARE_TR_FUNCTIONS(MapEditor::ShapeTool)
+
 public:
     ShapeTool(MapSurface *surface, Quenmora::Ui::ToolButton shape) : MapTool(surface), m_shape(shape) { }
 

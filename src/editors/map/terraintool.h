@@ -2,12 +2,16 @@
 
 #include "editors/map/maptool.h"
 
+#include <QCoreApplication>
+
 namespace MapEditor {
 
 /// Paints the terrain of the brush: each cell gets the tile whose borders match those around it. The right button takes
 /// cells out of it.
 class TerrainTool final : public MapTool
 {
+    Q_DECLARE_TR_FUNCTIONS(MapEditor::TerrainTool)
+
 public:
     using MapTool::MapTool;
 

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QCoreApplication>
+
+namespace NextData {
+
+/// The texts of this layer, by the one name under which they are translated.
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(NextData)
+};
+
+} // namespace NextData
