@@ -5,6 +5,7 @@
 #include "model/map.h"
 #include "model/mapobjects.h"
 #include "model/palette.h"
+#include "model/plural.h"
 #include "model/spritebank.h"
 #include "model/tileset.h"
 
@@ -20,19 +21,14 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(DeletionQuestion)
 };
 
-QString counted(qsizetype count, const QString &one, const QString &many)
+QString animations(int count)
 {
-    return count == 1 ? one : many.arg(count);
+    return count == 1 ? Texts::tr("1 animation") : Texts::tr("%n animations", nullptr, count);
 }
 
-QString animations(qsizetype count)
+QString placedSprites(int count)
 {
-    return counted(count, Texts::tr("1 animation"), Texts::tr("%1 animations"));
-}
-
-QString placedSprites(qsizetype count)
-{
-    return counted(count, Texts::tr("1 placed sprite"), Texts::tr("%1 placed sprites"));
+    return count == 1 ? Texts::tr("1 placed sprite") : Texts::tr("%n placed sprites", nullptr, count);
 }
 
 /// A sentence about a list of things; none when there are none.
@@ -49,16 +45,16 @@ QString lost(const QStringList &things)
 QString consequencesOf(const Map &map)
 {
     QStringList things;
-    if (const qsizetype count = map.sprites().size())
+    if (const int count = plural(map.sprites().size()))
         things += placedSprites(count);
-    if (const qsizetype count = map.animatedBlocks()->list().size())
-        things += counted(count, Texts::tr("1 placed animation"), Texts::tr("%1 placed animations"));
+    if (const int count = plural(map.animatedBlocks()->list().size()))
+        things += count == 1 ? Texts::tr("1 placed animation") : Texts::tr("%n placed animations", nullptr, count);
     return lost(things);
 }
 
 QString consequencesOf(const MapObjects &blocks)
 {
-    const qsizetype count = blocks.animations().size();
+    const int count = plural(blocks.animations().size());
     return lost(count > 0 ? QStringList(animations(count)) : QStringList());
 }
 
@@ -77,17 +73,18 @@ QString consequencesOf(const TileSet &tileSet)
 QString consequencesOf(const Project &project, const SpriteBank &bank)
 {
     qsizetype placed = 0;
-    qsizetype maps = 0;
+    int maps = 0;
     for (const QPointer<Map> &map : project.maps()) {
         const auto count = std::ranges::count(map->sprites(), bank.id(), &Map::PlacedSprite::bank);
         placed += count;
         maps += count > 0 ? 1 : 0;
     }
-    const qsizetype count = bank.animations().size();
+    const int count = plural(bank.animations().size());
     QStringList sentences(lost(count > 0 ? QStringList(animations(count)) : QStringList()));
     if (placed > 0) {
-        const QString onMaps = counted(maps, Texts::tr("1 map"), Texts::tr("%1 maps"));
-        sentences += Texts::tr("No longer shown: %1 on %2.").arg(placedSprites(placed), onMaps);
+        const QString sprites = placedSprites(plural(placed));
+        sentences += maps == 1 ? Texts::tr("No longer shown: %1 on 1 map.").arg(sprites)
+                               : Texts::tr("No longer shown: %1 on %n maps.", nullptr, maps).arg(sprites);
     }
     return sentences.join(u' ').trimmed();
 }

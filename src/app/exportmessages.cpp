@@ -1,8 +1,9 @@
 #include "app/exportmessages.h"
 
+#include "model/plural.h"
+
 #include <QDir>
 #include <QFileInfo>
-#include <QLocale>
 #include <QStatusBar>
 #include <QTimer>
 
@@ -10,9 +11,9 @@ namespace {
 
 constexpr int MessageTime = 10000; // milliseconds: there is a path to be read
 
-QString sizeOf(const QFileInfo &file)
+int bytesOf(const QFileInfo &file)
 {
-    return QLocale().toString(file.size());
+    return plural(file.size());
 }
 
 } // namespace
@@ -36,13 +37,13 @@ QString ExportMessages::text() const
 {
     if (m_written.size() == 1) {
         const auto &[asset, filePath] = m_written.constFirst();
-        return tr("Exported %1 to %2 (%3 bytes)")
-            .arg(asset, QDir::toNativeSeparators(filePath), sizeOf(QFileInfo(filePath)));
+        return tr("Exported %1 to %2 (%Ln bytes)", nullptr, bytesOf(QFileInfo(filePath)))
+            .arg(asset, QDir::toNativeSeparators(filePath));
     }
     QStringList files;
     for (const Written &written : m_written) {
         const QFileInfo file(written.filePath);
-        files.append(tr("%1 (%2 bytes)").arg(file.fileName(), sizeOf(file)));
+        files.append(tr("%1 (%Ln bytes)", nullptr, bytesOf(file)).arg(file.fileName()));
     }
     const QString folder = QFileInfo(m_written.constFirst().filePath).path();
     return tr("Exported to %1: %2").arg(QDir::toNativeSeparators(folder), files.join(QStringLiteral(", ")));

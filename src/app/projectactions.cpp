@@ -13,6 +13,7 @@
 #include "model/map.h"
 #include "model/mapobjects.h"
 #include "model/palette.h"
+#include "model/plural.h"
 #include "model/spritebank.h"
 #include "model/tileset.h"
 #include "ui/plaintext.h"
@@ -232,8 +233,8 @@ void ProjectActions::importPalette(const QUuid &paletteId, const QString &filePa
         return;
     }
     if (!leftOut->isEmpty()) {
-        reportIncompleteImport(tr("The picture has %1 colours; the palette takes the first %2 of them")
-                                   .arg(Palette::Size + leftOut->size())
+        reportIncompleteImport(tr("The picture has %n colours; the palette takes the first %1 of them", nullptr,
+                                  plural(Palette::Size + leftOut->size()))
                                    .arg(Palette::Size));
         offerPaletteOf(*leftOut, QFileInfo(filePath).completeBaseName());
     }

@@ -2,6 +2,7 @@
 
 #include "command/depfile.h"
 #include "command/description.h"
+#include "model/plural.h"
 #include "model/project.h"
 #include "nextdata/form.h"
 #include "nextdata/quoted.h"
@@ -29,17 +30,18 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(ExportCommand)
 };
 
+/// Scripts read it, so it is the same in all languages, as is all of the lines that it stands in.
 QString wordOf(State state)
 {
     switch (state) {
     case State::New:
-        return Texts::tr("new");
+        return QStringLiteral("new");
     case State::Changed:
-        return Texts::tr("changed");
+        return QStringLiteral("changed");
     case State::Unchanged:
-        return Texts::tr("unchanged");
+        return QStringLiteral("unchanged");
     case State::Impossible:
-        return Texts::tr("failed");
+        return QStringLiteral("failed");
     }
     return {};
 }
@@ -98,7 +100,7 @@ Result<Source> assetFor(const Project &project, const QString &nameOrId, const F
     for (qsizetype i = 0; i < fitting; ++i)
         ids.append(found[i].id().toString(QUuid::WithoutBraces));
     return Failure{
-        Texts::tr("“%1” is the name of several assets: use an id (%2)").arg(nameOrId, ids.join(Texts::tr(", ")))};
+        Texts::tr("“%1” is the name of several assets: use an id (%2)").arg(nameOrId, ids.join(QStringLiteral(", ")))};
 }
 
 } // namespace
@@ -213,7 +215,8 @@ int ExportCommand::doRecipe(const Project &project)
     }
     if (outcomes.size() < recipe.outputs().size())
         fail(file,
-             Texts::tr("Interrupted: %1 outputs were not looked at").arg(recipe.outputs().size() - outcomes.size()));
+             Texts::tr("Interrupted: %n outputs were not looked at", nullptr,
+                       plural(recipe.outputs().size() - outcomes.size())));
     if (!hasFailed && !writeDepfile(targets, {m_request.project, file}))
         hasFailed = true;
     sum(outcomes);
@@ -268,8 +271,8 @@ void ExportCommand::sum(const QList<RecipeRun::Outcome> &outcomes)
         if (count > 0)
             counts.append(QStringLiteral("%1 %2").arg(count).arg(wordOf(state)));
     }
-    m_out << (counts.isEmpty() ? Texts::tr("The recipe is empty") : counts.join(Texts::tr(", ")))
-          << (m_request.isDryRun ? Texts::tr("; nothing was written") : QString()) << '\n';
+    m_out << (counts.isEmpty() ? QStringLiteral("The recipe is empty") : counts.join(QStringLiteral(", ")))
+          << (m_request.isDryRun ? QStringLiteral("; nothing was written") : QString()) << '\n';
 }
 
 bool ExportCommand::writeDepfile(const QStringList &targets, const QStringList &prerequisites)

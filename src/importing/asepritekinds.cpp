@@ -6,6 +6,7 @@
 #include "importing/sharedcolours.h"
 #include "importing/texts.h"
 #include "model/image.h"
+#include "model/plural.h"
 #include "model/project.h"
 #include "model/spritebank.h"
 #include "model/spritetransparency.h"
@@ -146,8 +147,8 @@ Result<IncomingAssets> prepareSprites(const Project &project, const ImportFile &
     const qint64 cells = qint64((read->size().width() + Side - 1) / Side) * ((read->size().height() + Side - 1) / Side);
     if (read->size().width() > Animation::MaximumSide * Side || read->size().height() > Animation::MaximumSide * Side
         || cells * read->frameCount() > SpriteBank::MaxCount)
-        return Failure{Texts::tr("The frames make %1 sprites, which is more than there is room for")
-                           .arg(cells * read->frameCount())};
+        return Failure{Texts::tr("The frames make %n sprites, which is more than there is room for", nullptr,
+                                 plural(cells * read->frameCount()))};
     const QPointer<SpriteBank> bank = project.spriteBank(choices.target);
     const auto chosen = options.is("depth", "4") ? Quenmora::FourBit : Quenmora::EightBit;
     const auto depth = bank ? bank->depth() : chosen;

@@ -1,5 +1,7 @@
 #include "pictures/asepritereader.h"
 
+#include "model/plural.h"
+
 #include <algorithm>
 
 using ForeignFile::Texts;
@@ -314,10 +316,10 @@ bool AsepriteReader::finish()
     if (!m_hidden.isEmpty()) {
         constexpr qsizetype Most = 5;
         const QString names = QStringList(m_hidden.first(std::min(m_hidden.size(), Most))).join(Texts::tr("”, “"));
-        m_remarks.add(
-            m_hidden.size() > Most
-                ? Texts::tr("%1 layers are hidden and left out, “%2” among them").arg(m_hidden.size()).arg(names)
-                : Texts::tr("Hidden layers are left out: “%1”").arg(names));
+        m_remarks.add(m_hidden.size() > Most ? Texts::tr("%n layers are hidden and left out, “%1” among them", nullptr,
+                                                         plural(m_hidden.size()))
+                                                   .arg(names)
+                                             : Texts::tr("Hidden layers are left out: “%1”").arg(names));
     }
     return finishPalette() && finishTileSets() && finishFrames();
 }

@@ -1,11 +1,12 @@
 #include "pictures/foreignfile.h"
 
+#include "model/plural.h"
 #include "model/rawfile.h"
 
 QString ForeignFile::sizeText(qint64 bytes)
 {
     constexpr qint64 Mebibyte = 1 << 20;
-    return bytes < Mebibyte ? Texts::tr("%1 bytes").arg(bytes)
+    return bytes < Mebibyte ? Texts::tr("%n bytes", nullptr, plural(bytes))
                             : Texts::tr("%1 MiB").arg((bytes + Mebibyte - 1) / Mebibyte);
 }
 

@@ -1,5 +1,6 @@
 // All layers of a map as one.
 
+#include "model/plural.h"
 #include "pictures/foreignfile.h"
 #include "pictures/tiledmap.h"
 
@@ -93,12 +94,13 @@ public:
     [[nodiscard]] Flat finish()
     {
         if (m_hidden > 0)
-            m_remarks.add(
-                Texts::tr("What shines through clear pixels of tiles above is lost, in %1 cells").arg(m_hidden));
+            m_remarks.add(Texts::tr("What shines through clear pixels of tiles above is lost, in %n cells", nullptr,
+                                    plural(m_hidden)));
         if (m_unknown > 0)
-            m_remarks.add(Texts::tr("%1 cells have numbers that no tile set has: they become empty").arg(m_unknown));
+            m_remarks.add(
+                Texts::tr("%n cells have numbers that no tile set has: they become empty", nullptr, plural(m_unknown)));
         if (m_beyond > 0)
-            m_remarks.add(Texts::tr("%1 cells of layers lie beyond the map: they are lost").arg(m_beyond));
+            m_remarks.add(Texts::tr("%n cells of layers lie beyond the map: they are lost", nullptr, plural(m_beyond)));
         return {std::move(m_gids), m_remarks.texts()};
     }
 

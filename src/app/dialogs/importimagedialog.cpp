@@ -4,6 +4,7 @@
 #include "app/dialogs/depthchooser.h"
 #include "editors/canvas/reductionbox.h"
 #include "model/picturefile.h"
+#include "model/plural.h"
 #include "model/spritebank.h"
 #include "pictures/machinecolours.h"
 #include "ui/busy.h"
@@ -220,8 +221,8 @@ QString ImportImageDialog::depthProblem() const
 {
     if (!chosenPalette()) {
         return look().colours.size() >= FourBitColours
-            ? tr("The picture has %1 colours; 4-bit sprites show 15 beside the transparent one")
-                  .arg(look().colours.size())
+            ? tr("The picture has %n colours; 4-bit sprites show 15 beside the transparent one", nullptr,
+                 plural(look().colours.size()))
             : QString();
     }
     const QList<int> indices = placesOf(look().colours).indices();

@@ -125,8 +125,7 @@ QString ImportPictureDialog::problem() const
 {
     if (m_reduction || m_loss.tiles <= TileReduction::MostTiles)
         return {};
-    return tr("The picture has %1 different tiles, and a tile set has room for %2")
-        .arg(m_loss.tiles)
+    return tr("The picture has %n different tiles, and a tile set has room for %1", nullptr, m_loss.tiles)
         .arg(TileReduction::MostTiles);
 }
 

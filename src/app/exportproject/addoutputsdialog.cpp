@@ -217,7 +217,7 @@ void AddOutputsDialog::follow()
     m_assets->viewport()->update();
     okButton()->setText(count == 0       ? tr("&Add")
                             : count == 1 ? tr("&Add 1 Output")
-                                         : tr("&Add %1 Outputs").arg(QLocale().toString(count)));
+                                         : tr("&Add %Ln Outputs", nullptr, count));
     revalidate();
 }
 
@@ -253,7 +253,7 @@ QString AddOutputsDialog::problem() const
     if (outputs.isEmpty())
         return m_sources.isEmpty() ? tr("The project has no assets yet") : tr("Please tick what is to be exported");
     if (m_recipe.outputs().size() + outputs.size() > Recipe::MaxOutputs)
-        return tr("A recipe can have %1 outputs").arg(Recipe::MaxOutputs);
+        return tr("A recipe can have %n outputs", nullptr, Recipe::MaxOutputs);
     for (const RecipeOutput &output : outputs) {
         if (const QString problem = Recipe::problemOf(output); !problem.isEmpty())
             return problem;

@@ -7,6 +7,7 @@
 #include "app/exportproject/outputpreview.h"
 #include "app/exportproject/recipetable.h"
 #include "app/exportproject/severaloutputsdialog.h"
+#include "model/plural.h"
 #include "model/project.h"
 #include "ui/assettitle.h"
 #include "ui/sectionheader.h"
@@ -20,7 +21,6 @@
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QLabel>
-#include <QLocale>
 #include <QPushButton>
 #include <QScreen>
 #include <QSplitter>
@@ -404,22 +404,19 @@ void ExportProjectDialog::follow()
 void ExportProjectDialog::showSum()
 {
     const RecipeTable::Sum sum = m_table->sum();
-    const QLocale locale;
-    QStringList parts;
-    parts.append(m_table->rowCount() == 1 ? tr("1 output")
-                                          : tr("%1 outputs").arg(locale.toString(m_table->rowCount())));
-    parts.append(tr("%1 bytes").arg(locale.toString(sum.bytes)));
-    parts.append(sum.pages == 1 ? tr("1 page of 8 KiB") : tr("%1 pages of 8 KiB").arg(locale.toString(sum.pages)));
-    const auto count = [&](RecipeTable::State state, const QString &text) {
-        if (sum.count.value(state) > 0)
-            parts.append(text.arg(locale.toString(sum.count.value(state))));
-    };
-    count(RecipeTable::State::New, tr("%1 new"));
-    count(RecipeTable::State::Changed, tr("%1 changed"));
-    count(RecipeTable::State::Unchanged, tr("%1 unchanged"));
-    count(RecipeTable::State::Impossible, tr("%1 cannot be"));
+    const int outputs = m_table->rowCount();
+    QStringList parts{outputs == 1 ? tr("1 output") : tr("%Ln outputs", nullptr, outputs),
+                      tr("%Ln bytes", nullptr, plural(sum.bytes)), RecipeTable::pagesText(sum.pages)};
+    if (const int count = sum.count.value(RecipeTable::State::New))
+        parts.append(tr("%Ln new", nullptr, count));
+    if (const int count = sum.count.value(RecipeTable::State::Changed))
+        parts.append(tr("%Ln changed", nullptr, count));
+    if (const int count = sum.count.value(RecipeTable::State::Unchanged))
+        parts.append(tr("%Ln unchanged", nullptr, count));
+    if (const int count = sum.count.value(RecipeTable::State::Impossible))
+        parts.append(tr("%Ln cannot be", nullptr, count));
     if (sum.unknown > 0)
-        parts.append(tr("%1 to be looked at").arg(locale.toString(sum.unknown)));
+        parts.append(tr("%Ln to be looked at", nullptr, sum.unknown));
     const QString text = parts.join(QStringLiteral(" · "));
     m_sum->setText(m_result.isEmpty() ? text : m_result + u'\n' + text);
     m_sum->setVisible(m_table->rowCount() > 0);

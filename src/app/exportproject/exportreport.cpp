@@ -1,8 +1,9 @@
 #include "app/exportproject/exportreport.h"
 
+#include "model/plural.h"
+
 #include <QCoreApplication>
 #include <QDir>
-#include <QLocale>
 
 using NextData::Recipe;
 using NextData::RecipeRun;
@@ -17,14 +18,11 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(ExportReport)
 };
 
-QString number(qint64 value)
+/// Such as "3 files (12,288 bytes)".
+QString filesText(int files, int bytes)
 {
-    return QLocale().toString(value);
-}
-
-QString counted(qint64 count, const QString &one, const QString &many)
-{
-    return count == 1 ? one : many.arg(number(count));
+    return Texts::tr("%1 (%2)").arg(files == 1 ? Texts::tr("1 file") : Texts::tr("%Ln files", nullptr, files),
+                                    bytes == 1 ? Texts::tr("1 byte") : Texts::tr("%Ln bytes", nullptr, bytes));
 }
 
 } // namespace
@@ -51,19 +49,19 @@ ExportReport::ExportReport(const Recipe &recipe, const QList<RecipeRun::Outcome>
 QString ExportReport::text() const
 {
     const QString folder = QDir::toNativeSeparators(m_folder);
-    if (m_written == 0 && m_failures.isEmpty() && !m_stopped)
-        return Texts::tr("Nothing to export: %1 in %2")
-            .arg(counted(m_unchanged, Texts::tr("1 file is unchanged"), Texts::tr("%1 files are unchanged")), folder);
-    QString text = m_written > 0 ? Texts::tr("Exported %1 (%2)")
-                                       .arg(counted(m_written, Texts::tr("1 file"), Texts::tr("%1 files")),
-                                            counted(m_bytes, Texts::tr("1 byte"), Texts::tr("%1 bytes")))
+    if (m_written == 0 && m_failures.isEmpty() && !m_stopped) {
+        return m_unchanged == 1
+            ? Texts::tr("Nothing to export: 1 file is unchanged in %1").arg(folder)
+            : Texts::tr("Nothing to export: %Ln files are unchanged in %1", nullptr, m_unchanged).arg(folder);
+    }
+    QString text = m_written > 0 ? Texts::tr("Exported %1").arg(filesText(m_written, plural(m_bytes)))
                                  : Texts::tr("Exported nothing");
     const bool isAll = m_unchanged == 0 && m_failures.isEmpty();
     if (m_unchanged > 0)
-        text += Texts::tr(", %1 unchanged").arg(number(m_unchanged));
+        text = Texts::tr("%1, %Ln unchanged", nullptr, m_unchanged).arg(text);
     if (!m_failures.isEmpty())
-        text += Texts::tr(", %1 failed").arg(number(m_failures.size()));
-    text += (isAll ? Texts::tr(" to %1") : Texts::tr(", to %1")).arg(folder);
+        text = Texts::tr("%1, %Ln failed", nullptr, plural(m_failures.size())).arg(text);
+    text = (isAll ? Texts::tr("%1 to %2") : Texts::tr("%1, to %2")).arg(text, folder);
     return m_stopped ? Texts::tr("Stopped: %1").arg(text) : text;
 }
 
@@ -71,6 +69,6 @@ QString ExportReport::failures() const
 {
     QStringList shown = m_failures.first(std::min<qsizetype>(m_failures.size(), MostFailures));
     if (const qsizetype more = m_failures.size() - shown.size(); more > 0)
-        shown.append(Texts::tr("… and %1 more").arg(number(more)));
+        shown.append(Texts::tr("… and %Ln more", nullptr, plural(more)));
     return shown.join(u'\n');
 }

@@ -3,6 +3,7 @@
 #include "app/exportproject/assetkinds.h"
 #include "app/exportproject/optionfields.h"
 #include "app/exportproject/recipetable.h"
+#include "model/plural.h"
 #include "model/project.h"
 #include "nextdata/usual.h"
 
@@ -11,7 +12,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QLocale>
 #include <QStyle>
 #include <QVBoxLayout>
 
@@ -122,7 +122,7 @@ QString OutputDialog::sizeText() const
         return tr("The project no longer has this asset");
     const Result<OptionValues> values = OptionValues::parse(form->options, m_options->values());
     const Result<qint64> size = values ? sizeOf(*form, *source, *values) : values.failure();
-    return size ? tr("%1 bytes: %2").arg(QLocale().toString(*size), RecipeTable::banksText(*size))
+    return size ? tr("%Ln bytes: %1", nullptr, plural(*size)).arg(RecipeTable::banksText(*size))
                 : tr("Cannot be: %1").arg(size.reason());
 }
 

@@ -1,7 +1,8 @@
 #include "app/exportproject/outputpreview.h"
 
+#include "model/plural.h"
+
 #include <QFontDatabase>
-#include <QLocale>
 
 #include <algorithm>
 
@@ -63,8 +64,8 @@ QString OutputPreview::textOf(const QList<NextData::OutputFile> &files, bool are
     QStringList parts;
     for (const NextData::OutputFile &file : files.first(std::min<qsizetype>(files.size(), MostFiles))) {
         const QString content = areText ? beginning(file.bytes) : dump(file.bytes);
-        const QString size = QLocale().toString(file.bytes.size());
-        parts.append(files.size() == 1 ? content : tr("%1 (%2 bytes)").arg(file.name, size) + u'\n' + content);
+        const QString head = tr("%1 (%Ln bytes)", nullptr, plural(file.bytes.size())).arg(file.name);
+        parts.append(files.size() == 1 ? content : head + u'\n' + content);
     }
     return parts.join(QStringLiteral("\n\n"));
 }

@@ -5,6 +5,7 @@
 #include "app/exportproject/exportreport.h"
 #include "app/exportproject/recipetable.h"
 #include "app/projectcontroller.h"
+#include "model/plural.h"
 #include "model/sidefile.h"
 
 #include <QDir>
@@ -27,7 +28,7 @@ QString textOf(const QList<Recipe::Problem> &problems)
     for (const auto &[line, reason] : problems.first(std::min<qsizetype>(problems.size(), MostProblems)))
         lines.append(line > 0 ? ProjectExport::tr("Line %1: %2").arg(QString::number(line), reason) : reason);
     if (problems.size() > MostProblems)
-        lines.append(ProjectExport::tr("… and %1 more").arg(problems.size() - MostProblems));
+        lines.append(ProjectExport::tr("… and %n more", nullptr, plural(problems.size() - MostProblems)));
     return lines.join(u'\n');
 }
 

@@ -1,6 +1,7 @@
 #include "app/exportproject/recipetable.h"
 
 #include "app/exportproject/assetkinds.h"
+#include "model/plural.h"
 #include "model/project.h"
 #include "nextdata/form.h"
 #include "nextdata/takenfiles.h"
@@ -319,14 +320,16 @@ int RecipeTable::columnCount(const QModelIndex &parent) const
     return parent.isValid() ? 0 : ColumnCount;
 }
 
+QString RecipeTable::pagesText(qint64 pages)
+{
+    return pages == 1 ? tr("1 page of 8 KiB") : tr("%Ln pages of 8 KiB", nullptr, plural(pages));
+}
+
 QString RecipeTable::banksText(qint64 bytes)
 {
-    const auto counted = [](qint64 count, const QString &one, const QString &many) {
-        return count == 1 ? one : many.arg(QLocale().toString(count));
-    };
-    const QString pages = counted(partsOf(bytes, PageBytes), tr("1 page of 8 KiB"), tr("%1 pages of 8 KiB"));
-    const QString banks = counted(partsOf(bytes, BankBytes), tr("1 bank of 16 KiB"), tr("%1 banks of 16 KiB"));
-    return tr("%1, %2").arg(pages, banks);
+    const int banks = plural(partsOf(bytes, BankBytes));
+    return tr("%1, %2").arg(pagesText(partsOf(bytes, PageBytes)),
+                            banks == 1 ? tr("1 bank of 16 KiB") : tr("%Ln banks of 16 KiB", nullptr, banks));
 }
 
 QString RecipeTable::stateText(int row) const

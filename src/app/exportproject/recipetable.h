@@ -73,6 +73,7 @@ public:
                                                    const NextData::Recipe &recipe);
     /// The size of an output in the game; -1 when it has none.
     [[nodiscard]] static qint64 bytesOf(const Project &project, const NextData::RecipeOutput &output);
+    [[nodiscard]] static QString pagesText(qint64 pages);
     /// "6 pages of 8 KiB, 3 banks of 16 KiB"
     [[nodiscard]] static QString banksText(qint64 bytes);
 

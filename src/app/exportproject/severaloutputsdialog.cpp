@@ -3,8 +3,6 @@
 #include "app/exportproject/optionfields.h"
 #include "nextdata/output.h"
 
-#include <QLocale>
-
 SeveralOutputsDialog::SeveralOutputsDialog(QWidget *parent)
     : DialogBase(tr("Edit Outputs"), parent)
     , m_options(new OptionFields(form(), this))
@@ -14,7 +12,7 @@ SeveralOutputsDialog::SeveralOutputsDialog(QWidget *parent)
 
 void SeveralOutputsDialog::show(int count)
 {
-    setHeader(tr("What %1 outputs are to have alike").arg(QLocale().toString(count)));
+    setHeader(tr("What %Ln outputs are to have alike", nullptr, count));
     QList<NextData::Option> options = NextData::commonOptions();
     options.removeIf([](const NextData::Option &option) { // a label is one output's
         return option.kind == NextData::Option::Kind::Text;

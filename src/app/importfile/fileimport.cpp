@@ -9,6 +9,7 @@
 #include "app/projectactions.h"
 #include "importing/kinds.h"
 #include "importing/preview.h"
+#include "model/plural.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -99,7 +100,7 @@ void FileImport::finish()
         return;
     QStringList reasons = m_failures.first(std::min(Most, m_failures.size()));
     if (m_failures.size() > Most)
-        reasons.append(tr("… and %1 more").arg(m_failures.size() - Most));
+        reasons.append(tr("… and %n more", nullptr, plural(m_failures.size() - Most)));
     m_failures.clear();
     emit failed(reasons.size() == 1 ? tr("The file could not be imported") : tr("Some files could not be imported"),
                 tr("Import"), reasons.join(u'\n'));

@@ -7,6 +7,7 @@
 #include "model/assetname.h"
 #include "model/map.h"
 #include "model/picturefile.h"
+#include "model/plural.h"
 #include "model/spritebank.h"
 #include "model/tileset.h"
 #include "ui/busy.h"
@@ -20,7 +21,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QLocale>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QSpinBox>
@@ -70,7 +70,7 @@ QString textOf(const QStringList &remarks)
     for (const QString &remark : remarks.first(std::min(Most, remarks.size())))
         lines.append(remark.size() > Longest ? remark.left(Longest) + u'…' : remark);
     if (remarks.size() > Most)
-        lines.append(ImportFileDialog::tr("… and %1 more").arg(remarks.size() - Most));
+        lines.append(ImportFileDialog::tr("… and %n more", nullptr, plural(remarks.size() - Most)));
     return lines.join(u'\n');
 }
 
@@ -170,7 +170,7 @@ void ImportFileDialog::show(const Project &project, const ImportFile &file, cons
     const QFileInfo info(file.path);
     setWindowTitle(count > 1 ? tr("Import (%1 of %2)").arg(number).arg(count) : tr("Import"));
     m_skip->setVisible(number < count);
-    setHeader(tr("%1, %2 bytes").arg(info.fileName(), QLocale().toString(file.size)));
+    setHeader(tr("%1, %Ln bytes", nullptr, plural(file.size)).arg(info.fileName()));
     m_name->setText(AssetName::cut(info.completeBaseName()));
     offerKinds();
     changeKind();

@@ -1,5 +1,7 @@
 #include "app/imports/importnotice.h"
 
+#include "model/plural.h"
+
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QToolButton>
@@ -25,8 +27,9 @@ ImportNotice::ImportNotice(QWidget *parent) : QWidget(parent), m_text(new QLabel
 void ImportNotice::tell(const QStringList &files)
 {
     if (!files.isEmpty()) {
-        m_text->setText(files.size() == 1 ? tr("%1 changed since it was imported").arg(files.constFirst())
-                                          : tr("%1 files changed since they were imported").arg(files.size()));
+        m_text->setText(files.size() == 1
+                            ? tr("%1 changed since it was imported").arg(files.constFirst())
+                            : tr("%n files changed since they were imported", nullptr, plural(files.size())));
         m_text->setToolTip(files.join(u'\n'));
     }
     setVisible(!files.isEmpty());

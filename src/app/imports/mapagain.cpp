@@ -6,6 +6,7 @@
 #include "model/map.h"
 #include "model/palette.h"
 #include "model/picturefile.h"
+#include "model/plural.h"
 #include "model/project.h"
 #include "model/spritebank.h"
 #include "model/tileset.h"
@@ -248,8 +249,8 @@ ImportedAgain mapAgain(Map &map, const ImportRecord &record, QUndoStack *stack, 
     Update update(map, tiled.picture, tiled.clearPixel);
     PictureCells &cells = update.cells();
     if (!cells.hasRoom()) {
-        return {Texts::tr("The picture needs %1 more tiles, and the tile set has room for %2")
-                    .arg(cells.additions.size())
+        return {Texts::tr("The picture needs %n more tiles, and the tile set has room for %1", nullptr,
+                          plural(cells.additions.size()))
                     .arg(cells.places.size()),
                 {},
                 {}};

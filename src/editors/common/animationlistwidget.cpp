@@ -166,9 +166,8 @@ void AnimationListWidget::updateText(int row)
     QListWidgetItem *item = m_list->item(row);
     const QSize size = animation->size();
     item->setText(m_flags.testFlag(Details)
-                      ? tr("%1\n%4 frame(s) [%2x%3]")
-                            .arg(animation->name(), QString::number(size.width()), QString::number(size.height()),
-                                 QString::number(animation->frameCount()))
+                      ? tr("%1\n%n frame(s) [%2x%3]", nullptr, animation->frameCount())
+                            .arg(animation->name(), QString::number(size.width()), QString::number(size.height()))
                       : animation->name());
     item->setToolTip(plainText(animation->name()));
 }

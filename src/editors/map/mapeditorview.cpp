@@ -11,6 +11,7 @@
 #include "editors/map/spritepropertiespopover.h"
 #include "editors/map/viewbuilder.h"
 #include "model/placedsprites.h"
+#include "model/plural.h"
 #include "ui/scrollbar.h"
 
 #include <QAction>
@@ -383,7 +384,8 @@ void View::removeColumn(Quenmora::Position position)
 void View::mapSizeChanged()
 {
     const QSize size = m_map ? m_map->size() : QSize(0, 0);
-    m_sizeText = tr("%1x%2 (%3 bytes)").arg(size.width()).arg(size.height()).arg(m_map ? m_map->dataSize() : 0);
+    m_sizeText =
+        tr("%1x%2 (%n bytes)", nullptr, plural(m_map ? m_map->dataSize() : 0)).arg(size.width()).arg(size.height());
     if (m_toolBar)
         m_toolBar->setSizeText(m_sizeText);
     m_horizontalBar->setRemoveEnabled(size.width() > 1);

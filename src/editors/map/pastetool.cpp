@@ -4,6 +4,7 @@
 #include "editors/map/mapclipboard.h"
 #include "editors/map/mappainter.h"
 #include "model/cellruns.h"
+#include "model/plural.h"
 #include "model/tileset.h"
 
 #include <QApplication>
@@ -61,8 +62,8 @@ PictureCells PasteTool::cellsOf(const QImage &picture) const
     if (cells.size.isEmpty()) {
         surface()->tell(tr("The picture is smaller than a tile, which has 8 × 8 pixels"));
     } else if (!cells.hasRoom()) {
-        surface()->tell(tr("The picture needs %1 more tiles, and the tile set has room for %2")
-                            .arg(cells.additions.size())
+        surface()->tell(tr("The picture needs %n more tiles, and the tile set has room for %1", nullptr,
+                           plural(cells.additions.size()))
                             .arg(cells.places.size()));
         return {};
     }

@@ -2,6 +2,7 @@
 
 #include "editors/palette/paletteeditor.h"
 #include "editors/palette/palettegrid.h"
+#include "model/plural.h"
 #include "ui/svgiconengine.h"
 #include "undo/paletteordercommand.h"
 
@@ -48,8 +49,8 @@ PaletteTools::PaletteTools(PaletteEditor *editor, QMenu *menu, QObject *parent) 
     m_editor->grid()->setNotes([this](int entry) {
         if (!m_project || !m_editor->palette())
             return QString();
-        const qint64 uses = PaletteUsers(*m_project, *m_editor->palette()).counts()[size_t(entry)];
-        return tr("%n pixel(s)", nullptr, int(std::min<qint64>(uses, INT_MAX)));
+        const int uses = plural(PaletteUsers(*m_project, *m_editor->palette()).counts()[size_t(entry)]);
+        return uses == 1 ? tr("1 pixel") : tr("%Ln pixels", nullptr, uses);
     });
 }
 
