@@ -3,8 +3,8 @@
 # Sourced by bash, from the top folder of the source tree.
 
 # Everything that builds and starts the program (names of Debian 12).
-build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-svg-dev libgl1-mesa-dev libminizip-dev zlib1g-dev
-    libdeflate-dev libxxhash-dev libzstd-dev fonts-dejavu-core)
+build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-svg-dev qt6-l10n-tools qt6-translations-l10n libgl1-mesa-dev
+    libminizip-dev zlib1g-dev libdeflate-dev libxxhash-dev libzstd-dev fonts-dejavu-core)
 
 # The assemblers to which tests give the source text that is written for them, and what builds the example game.
 test_packages=(z80asm binutils-z80 make)

@@ -1,6 +1,7 @@
 #include "app/log.h"
 #include "app/mainwindow.h"
 #include "app/version.h"
+#include "language/catalogues.h"
 
 #include <QApplication>
 #include <QDir>
@@ -17,7 +18,8 @@ int main(int argc, char **argv)
     QApplication::setApplicationDisplayName(appDisplayName());
     QApplication::setDesktopFileName(QStringLiteral("quenmora")); // by which Wayland desktops know the icon
 
-    const QApplication application(argc, argv);
+    QApplication application(argc, argv);
+    Catalogues::install(application);
     MainWindow window;
     window.fitToScreen();
     return QApplication::exec();

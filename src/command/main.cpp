@@ -1,4 +1,5 @@
 #include "command/exportcommand.h"
+#include "language/catalogues.h"
 
 #include <QCoreApplication>
 #include <QTextStream>
@@ -37,7 +38,8 @@ void speakUtf8()
 int main(int argc, char **argv)
 {
     speakUtf8();
-    const QCoreApplication application(argc, argv);
+    QCoreApplication application(argc, argv);
+    Catalogues::install(application);
     // what is being written is finished, so that nothing is left lying about
     std::signal(SIGINT, interrupt);
     std::signal(SIGTERM, interrupt);
