@@ -1,11 +1,9 @@
 #include "recovery/recoveryfolder.h"
 
+#include "recovery/platform.h"
+
 #include <QFile>
 #include <QUuid>
-
-#ifdef Q_OS_LINUX
-#include <fcntl.h>
-#endif
 
 #include <algorithm>
 
@@ -27,14 +25,6 @@ bool isOurs(const QString &name)
 bool makePrivate(const QString &path)
 {
     return QDir().mkpath(path) && QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-}
-
-/// Lets the system begin to write a file to the disk now instead of in half a minute, without waiting for it.
-void startWriting([[maybe_unused]] const QFile &file)
-{
-#ifdef Q_OS_LINUX
-    static_cast<void>(sync_file_range(file.handle(), 0, 0, SYNC_FILE_RANGE_WRITE));
-#endif
 }
 
 } // namespace
@@ -102,7 +92,7 @@ QString RecoveryFolder::write(const QString &name, const QByteArray &bytes) cons
             done += count;
         }
         if (done == bytes.size()) {
-            startWriting(file);
+            Platform::startWriting(file);
             return {};
         }
     }

@@ -2,12 +2,10 @@
 
 #include "model/rawfile.h"
 #include "store/packedmember.h"
+#include "store/platform.h"
 
 #include <QFileInfo>
 #include <QHash>
-
-#include <minizip/unzip.h>
-#include <minizip/zip.h>
 
 #include <algorithm>
 
@@ -127,7 +125,7 @@ bool ZipFile::openForReading(const QString &fileName)
     const QFileInfo file(fileName);
     if (!file.isFile()) // a pipe would block, and a folder can be opened but not read
         return false;
-    const unzFile reader = unzOpen64(fileName.toLocal8Bit().constData());
+    const unzFile reader = Platform::openArchive(fileName);
     if (!reader)
         return false;
     m_archive.reset(new Archive{reader, nullptr, indexOf(reader), file.size()});
@@ -139,7 +137,7 @@ bool ZipFile::openForWriting(const QString &fileName)
     close();
     if (!RawFile::isWritable(fileName))
         return false;
-    const zipFile writer = zipOpen64(fileName.toLocal8Bit().constData(), APPEND_STATUS_CREATE);
+    const zipFile writer = Platform::createArchive(fileName);
     if (!writer)
         return false;
     m_archive.reset(new Archive{nullptr, writer, {}, 0});

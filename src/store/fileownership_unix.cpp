@@ -2,8 +2,6 @@
 
 #include <QFile>
 
-#ifdef Q_OS_UNIX
-
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -23,13 +21,3 @@ bool FileOwnership::createLike(const QString &fileName, const QString &other)
     const bool kept = fchmod(file, mode) == 0;
     return close(file) == 0 && kept;
 }
-
-#else
-
-bool FileOwnership::createLike(const QString &fileName, const QString &other)
-{
-    QFile file(fileName);
-    return file.open(QIODevice::WriteOnly) && file.setPermissions(QFile::permissions(other));
-}
-
-#endif
