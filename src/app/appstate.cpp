@@ -1,5 +1,7 @@
 #include "app/appstate.h"
 
+#include "app/platform.h"
+
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonObject>
@@ -55,7 +57,7 @@ QString base64(const QByteArray &bytes)
 
 } // namespace
 
-AppState::AppState(QObject *parent) : QObject(parent), m_folder(QDir::home().canonicalPath())
+AppState::AppState(QObject *parent) : QObject(parent), m_folder(Platform::homeFolder().canonicalPath())
 {
     // where the folder cannot be made, the files are kept in the home folder itself
     m_folder.mkpath(ConfigurationFolder);
@@ -64,7 +66,7 @@ AppState::AppState(QObject *parent) : QObject(parent), m_folder(QDir::home().can
 
 QString AppState::recoveryFolder()
 {
-    return QDir::home().filePath(ConfigurationFolder + QStringLiteral("/recovery"));
+    return Platform::homeFolder().filePath(ConfigurationFolder + QStringLiteral("/recovery"));
 }
 
 bool AppState::loadState()

@@ -1,5 +1,6 @@
 #include "app/recoverylist.h"
 
+#include "app/platform.h"
 #include "app/recoveryoffers.h"
 #include "recovery/projectpicture.h"
 #include "ui/plaintext.h"
@@ -70,7 +71,7 @@ QString whereSaved(const QString &file)
 {
     if (file.isEmpty())
         return RecoveryList::tr("Never saved");
-    const QString home = QDir::homePath() + u'/';
+    const QString home = Platform::homeFolder().path() + u'/';
     return QDir::toNativeSeparators(file.startsWith(home) ? QStringLiteral("~/") + file.mid(home.size()) : file);
 }
 

@@ -1,4 +1,6 @@
 #include "app/appstate.h"
+
+#include "app/platform.h"
 #include "support/modeltools.h"
 #include "support/testmain.h"
 
@@ -64,8 +66,8 @@ private slots:
     {
         {
             // a folder in the way of the file stands for any place that cannot be written
-            QVERIFY(QDir::home().mkpath(path("/quenmora/state.json"))
-                    && QDir::home().mkpath(path("/quenmora/preferences.json")));
+            QVERIFY(Platform::homeFolder().mkpath(path("/quenmora/state.json"))
+                    && Platform::homeFolder().mkpath(path("/quenmora/preferences.json")));
             const AppState state;
             QTest::ignoreMessage(QtWarningMsg, "Open state.json failed");
             QVERIFY(!state.saveState());
@@ -76,11 +78,11 @@ private slots:
         QVERIFY(writeFile(path({}), "no folder"));
         const AppState state;
         QVERIFY(state.saveState()); // into the home folder itself
-        QVERIFY(QFile::remove(QDir::home().filePath("state.json")) && QFile::remove(path({})));
+        QVERIFY(QFile::remove(Platform::homeFolder().filePath("state.json")) && QFile::remove(path({})));
     }
 
 private:
-    static QString path(const QString &name) { return QDir::home().filePath(".config" + name); }
+    static QString path(const QString &name) { return Platform::homeFolder().filePath(".config" + name); }
 };
 
 QUENMORA_TEST_MAIN(TestAppState)

@@ -4,6 +4,7 @@
 #include "app/menus/filemenu.h"
 #include "app/menus/mapmenu.h"
 #include "app/menus/viewmenu.h"
+#include "app/platform.h"
 #include "app/startpage.h"
 #include "editors/canvas/canvas.h"
 #include "editors/canvas/imageeditorview.h"
@@ -519,7 +520,7 @@ private:
     [[nodiscard]] ProjectController *controller() { return m_window->projectController(); }
     [[nodiscard]] static QString statePath(const char *file)
     {
-        return QDir::home().filePath(".config/quenmora/" + QLatin1String(file));
+        return Platform::homeFolder().filePath(".config/quenmora/" + QLatin1String(file));
     }
     /// The path of a project file made of the sample project.
     [[nodiscard]] QString sampleFile()

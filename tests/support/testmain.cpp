@@ -7,7 +7,8 @@
 int runTest(QObject &test, int argc, char **argv)
 {
     const QTemporaryDir home;
-    qputenv("HOME", home.path().toLocal8Bit());
+    for (const char *name : {"HOME", "USERPROFILE"}) // the second one is what Windows goes by
+        qputenv(name, home.path().toLocal8Bit());
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     return QTest::qExec(&test, argc, argv);

@@ -1,5 +1,6 @@
 #include "app/menus/editmenu.h"
 
+#include "app/platform.h"
 #include "ui/svgiconengine.h"
 
 EditMenu::EditMenu(QWidget *parent) : QMenu(tr("&Edit"), parent)
@@ -18,7 +19,7 @@ void EditMenu::addClipboardCommand(const QString &text, const QString &icon, QKe
                                    void (EditMenu::*chosen)())
 {
     QAction *action = addAction(themedIcon(icon), text);
-    action->setShortcuts(keys);
+    action->setShortcuts(QKeySequence::keyBindings(keys) + Platform::keysWithoutStandard(keys));
     action->setShortcutContext(Qt::ApplicationShortcut); // floating docks are windows of their own
     action->setEnabled(false);
     connect(action, &QAction::triggered, this, chosen);

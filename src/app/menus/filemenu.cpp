@@ -1,6 +1,7 @@
 #include "app/menus/filemenu.h"
 
 #include "app/dialogs/projectdialog.h"
+#include "app/platform.h"
 #include "ui/plaintext.h"
 
 #include <QFileInfo>
@@ -33,8 +34,10 @@ FileMenu::FileMenu(QWidget *parent) : ProjectMenu(tr("&File"), parent)
     m_new->setShortcuts(QKeySequence::New);
     m_open->setShortcuts(QKeySequence::Open);
     m_save->setShortcuts(QKeySequence::Save);
-    m_saveAs->setShortcuts(QKeySequence::SaveAs);
+    m_saveAs->setShortcuts(QKeySequence::keyBindings(QKeySequence::SaveAs)
+                           + Platform::keysWithoutStandard(QKeySequence::SaveAs));
     m_close->setShortcuts(QKeySequence::Close);
+    m_quit->setShortcuts(Platform::keysWithoutStandard(QKeySequence::Quit));
     rebuildRecentMenu();
 }
 
@@ -128,7 +131,7 @@ void FileMenu::rebuildRecentMenu()
     for (const QString &path : m_recentFiles.paths()) {
         QAction *entry = m_recentMenu->addAction(withoutMnemonic(QFileInfo(path).fileName()));
         entry->setProperty("filePath", path);
-        entry->setToolTip(plainText(path));
+        entry->setToolTip(plainText(QDir::toNativeSeparators(path)));
         connect(entry, &QAction::triggered, this, [this, path] { emit openProject(path); });
         m_recentProjects.append(entry);
     }

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QDir>
+#include <QKeySequence>
+#include <QList>
+
+/// What this layer asks of the system beyond Qt.
+namespace Platform {
+
+/// The home folder of who runs the program. On Windows Qt asks the account for it, so that no test could have one of
+/// its own; there it is what the environment says, as elsewhere.
+inline QDir homeFolder()
+{
+#ifdef Q_OS_WIN
+    const QString profile = qEnvironmentVariable("USERPROFILE");
+    if (QDir::isAbsolutePath(profile) && QDir(profile).exists())
+        return QDir(profile);
+#endif
+    return QDir::home();
+}
+
+/// Keys for a command for which other systems have standard ones and this one has none; else nothing.
+inline QList<QKeySequence> keysWithoutStandard([[maybe_unused]] QKeySequence::StandardKey command)
+{
+#ifdef Q_OS_WIN
+    switch (command) {
+    case QKeySequence::SaveAs:
+        return {Qt::CTRL | Qt::SHIFT | Qt::Key_S};
+    case QKeySequence::Deselect:
+        return {Qt::CTRL | Qt::SHIFT | Qt::Key_A};
+    case QKeySequence::Quit:
+        return {Qt::CTRL | Qt::Key_Q};
+    default:
+        break;
+    }
+#endif
+    return {};
+}
+
+} // namespace Platform
