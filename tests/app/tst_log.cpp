@@ -35,7 +35,7 @@ private slots:
         // read while the log is still open: every message has been flushed
         QFile written(file.fileName());
         QVERIFY(written.open(QIODevice::ReadOnly));
-        QString text = QString::fromLocal8Bit(written.readAll());
+        QString text = QString::fromUtf8(written.readAll());
         text.replace(QRegularExpression("^\\d\\d:\\d\\d:\\d\\d ", QRegularExpression::MultilineOption), "TIME ");
         QCOMPARE(text,
                  "TIME Debug: one\nTIME Info: two ä\nTIME Warning: not a libpng warning: three\nTIME Critical: four\n"

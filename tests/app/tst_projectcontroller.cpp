@@ -4,8 +4,8 @@
 #include "model/palette.h"
 #include "model/projectextras.h"
 #include "support/archivetools.h"
-#include "support/filesizelimit.h"
 #include "support/modeltools.h"
+#include "support/platform.h"
 #include "support/sampleproject.h"
 #include "support/testmain.h"
 
@@ -75,6 +75,8 @@ private slots:
         QFETCH(const Answer, answer);
         QFETCH(const Saving, saving);
         QFETCH(const bool, goesOn);
+        if (saving == ToFullDisk && !Platform::HasFullDisks)
+            QSKIP("No disk can be made full here");
         emit m_menu->newProject("Game");
         if (saving != ToNoFile)
             m_chosenFile = path("game.quenmora");
@@ -84,7 +86,7 @@ private slots:
         m_answer = answer;
         const QPointer<Project> game = m_controller->project();
 
-        std::optional<FileSizeLimit> fullDisk;
+        std::optional<Platform::FileSizeLimit> fullDisk;
         if (saving == ToFullDisk)
             fullDisk.emplace(64);
         if (request == New)

@@ -75,7 +75,7 @@ private slots:
         m_tiles->tile(2)->setAttributes(0x41);
         QVERIFY(m_tiles->exportAttributesBinary(m_path("a.bin")) && m_tiles->exportAttributesAsm(m_path("a.asm")));
         QCOMPARE(readFile(m_path("a.bin")), hex("00 0F 41"));
-        QCOMPARE(readFile(m_path("a.asm")),
+        QCOMPARE(readText(m_path("a.asm")),
                  QByteArray("\tTA_NONE        = $00\n\tTA_TOPSOLID    = $01\n\tTA_LEFTSOLID   = $02\n"
                             "\tTA_RIGHTSOLID  = $04\n\tTA_BOTTOMSOLID = $08\n\tTA_SOLID       = $0F\n"
                             "\tTA_DEADLY      = $10\n\tTA_COLLECTIBLE = $20\n\tTA_LADDER      = $40\n"

@@ -205,7 +205,7 @@ private slots:
             for (int i = 0; i < count; ++i)
                 tiles.tile(i)->setAttributes(0x0A);
             QVERIFY(tiles.exportAttributesAsm(m_path("a.asm")) && tiles.exportAttributesBinary(m_path("a.bin")));
-            QVERIFY(readFile(m_path("a.asm")).endsWith("\tTA_DOOR        = $80\n" + text));
+            QVERIFY(readText(m_path("a.asm")).endsWith("\tTA_DOOR        = $80\n" + text));
             QCOMPARE(readFile(m_path("a.bin")), QByteArray(count, 0x0A));
         }
         QVERIFY(!three.importNxt(m_path()) && !three.importZXFont(0, 1, 0, 0, m_path()));

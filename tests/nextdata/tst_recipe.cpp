@@ -5,8 +5,8 @@
 #include "model/project.h"
 #include "nextdata/reciperun.h"
 #include "nextdata/wholefile.h"
-#include "support/filesizelimit.h"
 #include "support/modeltools.h"
+#include "support/platform.h"
 #include "support/testmain.h"
 
 #include <QDir>
@@ -189,7 +189,8 @@ private slots:
         QCOMPARE(states(recipe), (QList{State::Changed, State::Unchanged}));
         QCOMPARE(readFile(path("a b/ü.pal")).mid(14, 2), QByteArray("\xFF\x81"));
         QCOMPARE(QFileInfo(kept).lastModified(), before);
-        QVERIFY((QFileInfo(path("a b/ü.pal")).permissions() & ~QFile::Permissions(0x0777)) == other);
+        QVERIFY(!Platform::HasFileModes
+                || (QFileInfo(path("a b/ü.pal")).permissions() & ~QFile::Permissions(0x0777)) == other);
         QCOMPARE(filesIn(path("a b")), QStringList("ü.pal"));
     }
 
@@ -207,6 +208,8 @@ private slots:
 
     void impossibleOutputsAreTold()
     {
+        if (!Platform::HasLinks)
+            QSKIP("Links are files of their own here");
         const auto idOf = [this](int palette) {
             return m_project->palettes()[palette]->id().toString(QUuid::WithoutBraces);
         };
@@ -260,10 +263,12 @@ private slots:
 
     void whatCannotBeWrittenToItsEndLeavesTheFile()
     {
+        if (!Platform::HasFullDisks)
+            QSKIP("No disk can be made full here");
         const Recipe recipe = recipeFor({{"palette", 0, "x.pal"}});
         QVERIFY(writeFile(path("x.pal"), "before"));
         {
-            const FileSizeLimit full(100);
+            const Platform::FileSizeLimit full(100);
             QCOMPARE(states(recipe), QList{State::Impossible});
         }
         QCOMPARE(filesIn(path()), QStringList("x.pal"));

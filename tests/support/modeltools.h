@@ -47,6 +47,13 @@ private:
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
 }
 
+/// The content of a file that was written as text, whose lines end as the system ends them.
+[[nodiscard]] inline QByteArray readText(const QString &name)
+{
+    QFile file(name);
+    return file.open(QIODevice::ReadOnly | QIODevice::Text) ? file.readAll() : QByteArray("unreadable");
+}
+
 /// Bytes that deflate cannot make much smaller.
 [[nodiscard]] inline QByteArray noise(int size, quint32 seed = 1)
 {

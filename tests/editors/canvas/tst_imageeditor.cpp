@@ -6,10 +6,9 @@
 #include "pictures/ninebitcolour.h"
 
 #include "support/pixelscenes.h"
+#include "support/platform.h"
 
 #include <QCheckBox>
-#include <sys/stat.h>
-
 using namespace PixelScenes;
 using namespace Quenmora::Ui;
 using ImageEditor::View;
@@ -34,10 +33,14 @@ private slots:
         QVERIFY(QFile::exists(scene.file("early.png")));
         scene.choose(Save, "out.png");
         QCOMPARE(QImage(scene.file("out.png")).pixelColor(6, 6), QColor(Qt::red));
-        QCOMPARE(mkfifo(qPrintable(scene.file("pipe.png")), 0600), 0); // which would wait for its reader
-        for (const char *name : {"no/such/folder/out.png", "out.unknown", "pipe.png"})
+        QStringList names{"no/such/folder/out.png", "out.unknown"};
+        if (Platform::HasPipes) {
+            QVERIFY(Platform::makePipe(scene.file("pipe.png"))); // which would wait for its reader
+            names << "pipe.png";
+        }
+        for (const QString &name : names)
             scene.choose(Save, name);
-        QCOMPARE(errors.count(), 3);
+        QCOMPARE(errors.count(), names.size());
         QSignalSpy changes(scene.view.get(), &View::imageChanged);
         scene.view->setImage(nullptr);
         scene.view->setPixels(plainImage({256, 192}, 3)); // the scratch picture
