@@ -3,6 +3,7 @@
 #include "app/menus/filemenu.h"
 #include "model/map.h"
 #include "model/projectextras.h"
+#include "nextdata/filenames.h"
 #include "ui/busy.h"
 #include "ui/replacing.h"
 #include "ui/titlewidth.h"
@@ -11,7 +12,6 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
-#include <QRegularExpression>
 #include <QScopedValueRollback>
 #include <QWidget>
 
@@ -43,11 +43,9 @@ private:
 /// A name of a file for a project, which may be called what no file can be.
 QString proposedFileName(const QString &projectName)
 {
-    static const QRegularExpression forbidden(QStringLiteral("[/\\\\:*?\"<>|\\x00-\\x1f]"));
     constexpr int MostLetters = 60; // of up to four bytes each, of which a file's name has 255
-    QString name = projectName.left(MostLetters).trimmed();
-    name.replace(forbidden, QStringLiteral("_"));
-    return (name.isEmpty() ? QStringLiteral("project") : name) + QStringLiteral(".quenmora");
+    return NextData::FileNames::fromAssetName(projectName.left(MostLetters).trimmed(), QStringLiteral("project"))
+        + QStringLiteral(".quenmora");
 }
 
 QString opening(const QString &filePath)

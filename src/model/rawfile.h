@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/filename.h"
+
 #include <QByteArray>
 #include <QDir>
 #include <QFile>
@@ -33,11 +35,12 @@ namespace RawFile {
         && file.write(bytes) == bytes.size() && file.flush();
 }
 
-/// The path of a file in a folder. A name with a path in it, which a foreign project may hold, would lead out
-/// of the folder: it gives an empty path, which cannot be opened.
+/// The path of a file in a folder. A name that no file can have everywhere gives an empty path, which cannot be opened:
+/// one with a path in it, which a foreign project may hold, would lead out of the folder, and one that Windows takes
+/// for a device would not be a file there.
 [[nodiscard]] inline QString pathIn(const QString &folder, const QString &name)
 {
-    return QFileInfo(name).fileName() == name ? QDir(folder).filePath(name) : QString();
+    return FileName::problemOf(name).isEmpty() ? QDir(folder).filePath(name) : QString();
 }
 
 } // namespace RawFile

@@ -1,5 +1,6 @@
 #include "model/writeproblem.h"
 
+#include "model/filename.h"
 #include "model/rawfile.h"
 
 #include <QCoreApplication>
@@ -34,9 +35,11 @@ QString writeProblem(const QString &filePath)
 
 QString writeProblem(const QString &folder, const QString &fileName)
 {
-    if (QFileInfo(fileName).fileName() != fileName)
+    if (fileName.contains(u'/'))
         return Texts::tr(
                    "No file can be called %1: a slash would lead into another folder. Another name of the asset helps.")
             .arg(fileName);
+    if (const QString problem = FileName::problemOf(fileName); !problem.isEmpty())
+        return Texts::tr("No file can be called that: %1. Another name of the asset helps.").arg(problem);
     return writeProblem(QDir(folder).filePath(fileName));
 }

@@ -5,5 +5,5 @@
 /// Why a file could not be written, for the person who wanted it: a sentence that names what is in the way.
 [[nodiscard]] QString writeProblem(const QString &filePath);
 
-/// The same for a file of that name in a folder, which a name with a path in it would leave.
+/// The same for a file in a folder that is named after an asset: some names no file can have, here or on other systems.
 [[nodiscard]] QString writeProblem(const QString &folder, const QString &fileName);

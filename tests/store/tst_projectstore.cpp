@@ -326,6 +326,14 @@ private slots:
                                   "showMessage " + kind + " exported 2000"}));
             QVERIFY(QFile::exists(path(file)));
         }
+        const QStringList before = entries();
+        for (const auto &[name, reason] : {std::pair("a/b", "slash"), {"a:b", "everywhere"}, {"Nul.", "device"}}) {
+            project->palettes().first()->setName(name); // projects travel, so these are refused on every system
+            m_store->exportPalette(folder, project->palettes().first()->id());
+            QVERIFY2(m_store->errorDetail().contains(reason), qPrintable(m_store->errorDetail()));
+        }
+        QCOMPARE(m_log->take(), QStringList(3, "saveError Exporting the palette failed"));
+        QCOMPARE(entries(), before);
         m_store->close();
         m_store->exportMap(folder, {}); // without a project
         QCOMPARE(m_log->take(), QStringList("saveError Invalid map id"));
