@@ -7,13 +7,13 @@
 #include "editors/map/mapeditorview.h"
 #include "editors/map/mapgrid.h"
 #include "model/image.h"
+#include "ui/commands.h"
 #include "ui/plaintext.h"
 #include "ui/svgiconengine.h"
 
 #include <QKeyEvent>
 #include <QMenu>
 #include <QScopedValueRollback>
-#include <QShortcut>
 #include <QTabBar>
 
 #include <algorithm>
@@ -55,7 +55,10 @@ protected:
 
 } // namespace
 
-DocumentTabView::DocumentTabView(QWidget *parent) : QTabWidget(parent), m_scratchEditor(new ImageEditor::View(this))
+DocumentTabView::DocumentTabView(QWidget *parent)
+    : QTabWidget(parent)
+    , m_scratchEditor(new ImageEditor::View(this))
+    , m_close(new QAction(themedIcon(QStringLiteral(":/Clear")), tr("&Close Tab"), this))
 {
     setTabBar(new TabBar);
     m_scratchEditor->setProperty(IdProperty, QUuid());
@@ -85,8 +88,9 @@ void DocumentTabView::buildTabBar()
     tabBar()->setContextMenuPolicy(Qt::CustomContextMenu);
     tabBar()->setAccessibleName(tr("Open documents"));
     connect(tabBar(), &QWidget::customContextMenuRequested, this, &DocumentTabView::showTabMenu);
-    auto *close = new QShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_W), this);
-    connect(close, &QShortcut::activated, this, [this] { closePages({currentWidget()}); });
+    m_close->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_W);
+    connect(m_close, &QAction::triggered, this, [this] { closePages({currentWidget()}); });
+    addAction(Commands::add(m_close, QStringLiteral("window.closeTab")));
 }
 
 void DocumentTabView::showTabMenu(const QPoint &pos)
@@ -97,8 +101,8 @@ void DocumentTabView::showTabMenu(const QPoint &pos)
         return;
     auto *menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    QAction *close = menu->addAction(themedIcon(QStringLiteral(":/Clear")), tr("&Close Tab"));
-    close->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_W);
+    QAction *close = menu->addAction(m_close->icon(), m_close->text());
+    close->setShortcuts(m_close->shortcuts());
     connect(close, &QAction::triggered, this, [this, page] { closePages({page}); });
     QAction *others = menu->addAction(tr("Close &Other Tabs"));
     others->setEnabled(count() > 1);

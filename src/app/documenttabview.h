@@ -110,6 +110,7 @@ private:
     void closePages(const QList<QPointer<QWidget>> &pages);
 
     ImageEditor::View *m_scratchEditor;
+    QAction *m_close; ///< of the tab in front
     PaintSettings *m_paintSettings = nullptr;
     QWidget *m_emptyPage = nullptr;
     /// A page that comes to the front because those after it are closed is not activated.

@@ -10,11 +10,12 @@
 #include "editors/map/blockselectorwindow.h"
 #include "editors/map/mapspriteswindow.h"
 #include "editors/palette/palettewindow.h"
+#include "ui/commands.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QMainWindow>
 #include <QScreen>
-#include <QShortcut>
 #include <QStyle>
 
 #include <algorithm>
@@ -52,7 +53,7 @@ LayoutController::LayoutController(QMainWindow *window, const DocumentViews &vie
 {
     QList<QAction *> actions;
     for (const DockWidget *dock : docks())
-        actions.append(dock->toggleViewAction());
+        actions.append(Commands::add(dock->toggleViewAction(), QStringLiteral("view.window.") + dock->objectName()));
     viewMenu->setDockActions(actions);
     connect(viewMenu, &ViewMenu::resetLayout, this, &LayoutController::resetLayout);
     addPaneKeys();
@@ -68,10 +69,14 @@ LayoutController::LayoutController(QMainWindow *window, const DocumentViews &vie
 
 void LayoutController::addPaneKeys()
 {
-    for (const auto &[keys, step] : {std::pair(Qt::Key_F6 | Qt::NoModifier, 1), {Qt::Key_F6 | Qt::SHIFT, -1}}) {
-        auto *shortcut = new QShortcut(keys, m_window);
-        connect(shortcut, &QShortcut::activated, this, [this, step = step] { focusPane(step); });
-    }
+    const auto add = [this](const QString &name, const QString &text, const QKeySequence &keys, int step) {
+        auto *action = new QAction(text, m_window);
+        action->setShortcut(keys);
+        connect(action, &QAction::triggered, this, [this, step] { focusPane(step); });
+        m_window->addAction(Commands::add(action, name));
+    };
+    add(QStringLiteral("window.nextPane"), tr("Next Dock"), Qt::Key_F6, 1);
+    add(QStringLiteral("window.previousPane"), tr("Previous Dock"), Qt::SHIFT | Qt::Key_F6, -1);
 }
 
 void LayoutController::focusPane(int step)

@@ -1,11 +1,13 @@
 #include "ui/toolpalette.h"
 
+#include "ui/commands.h"
 #include "ui/flowlayout.h"
 #include "ui/svgiconengine.h"
 
 #include <QAction>
 #include <QActionGroup>
 #include <QGridLayout>
+#include <QMetaEnum>
 #include <QToolButton>
 
 #include <algorithm>
@@ -22,6 +24,14 @@ constexpr int StretchedRow = 100; // behind all buttons
 int rowsOf(qsizetype count, int columns)
 {
     return int((count + columns - 1) / columns);
+}
+
+/// "mapEditor.rectangleFill" of "mapEditor" and RectangleFill.
+QString nameOf(const QString &place, ToolButton button)
+{
+    QString name = QLatin1String(QMetaEnum::fromType<ToolButton>().valueToKey(button));
+    name[0] = name.at(0).toLower();
+    return place + u'.' + name;
 }
 
 } // namespace
@@ -142,9 +152,9 @@ QAction *ToolPalette::addEntry(const Entry &entry)
     added->setCheckable(entry.kind != Command);
     added->setShortcuts(entry.shortcuts);
     added->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-    added->setToolTip(entry.shortcuts.isEmpty()
-                          ? entry.text
-                          : tr("%1 [%2]").arg(entry.text, entry.shortcuts.first().toString(QKeySequence::NativeText)));
+    if (!m_place.isEmpty())
+        Commands::add(added, nameOf(m_place, entry.button));
+    showKeys(added, entry.text);
     if (entry.kind == Tool) {
         m_tools->addAction(added);
     }
@@ -161,6 +171,19 @@ QAction *ToolPalette::addEntry(const Entry &entry)
     m_buttons.append(button);
     place(int(m_buttons.size()) - 1);
     return added;
+}
+
+void ToolPalette::showKeys(QAction *action, const QString &text)
+{
+    const auto tip = [action, text] {
+        const QList<QKeySequence> keys = action->shortcuts();
+        return keys.isEmpty() ? text : tr("%1 [%2]").arg(text, keys.first().toString(QKeySequence::NativeText));
+    };
+    action->setToolTip(tip());
+    connect(Commands::instance(), &Commands::keysChanged, action, [action, tip, shown = tip()]() mutable {
+        if (action->toolTip() == shown) // else the editor says something of its own
+            action->setToolTip(shown = tip());
+    });
 }
 
 ToolButton ToolPalette::mode() const

@@ -33,7 +33,7 @@ public:
         QString icon; ///< a resource such as ":/Draw"
         QString text; ///< the tool tip and accessible name, without the shortcut
         Kind kind = Command;
-        QList<QKeySequence> shortcuts; ///< the first is named in the tool tip
+        QList<QKeySequence> shortcuts; ///< the usual ones; the first is named in the tool tip
     };
 
     /// A vertical palette has two columns, and more where it is low; a horizontal one fills rows of the width it is
@@ -42,6 +42,10 @@ public:
 
     /// The usual icon, text and kind of a button, without shortcuts.
     [[nodiscard]] static Entry entryOf(Quenmora::Ui::ToolButton button);
+
+    /// Makes the actions of the buttons that are added from now on commands: with "mapEditor", that of RectangleFill is
+    /// "mapEditor.rectangleFill".
+    void nameCommands(const QString &place) { m_place = place; }
 
     /// Appends a button; a button that is there already is left alone. Returns its action.
     QAction *addEntry(const Entry &entry);
@@ -80,11 +84,14 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    /// Lets the tool tip name the first key, also when people choose another.
+    void showKeys(QAction *action, const QString &text);
     /// The size of a vertical palette with so many rows in its present columns.
     [[nodiscard]] QSize sizeOfRows(int rows) const;
     void place(int index);
 
     Qt::Orientation m_orientation;
+    QString m_place;
     QActionGroup *m_tools;
     QHash<Quenmora::Ui::ToolButton, QAction *> m_actions;
     QList<QToolButton *> m_buttons;

@@ -95,6 +95,7 @@ void ImportKeeper::serve(MenuBar &menus, ProjectTree &tree)
 {
     const auto knows = [this](const QUuid &asset) { return m_memory.knows(asset); };
     menus.setImportAgainCheck(knows);
+    connect(&m_memory, &ImportMemory::changed, &menus, &MenuBar::refreshImportAgain);
     tree.setImportAgainCheck(knows);
     connect(&menus, &MenuBar::importAgainRequested, this, &ImportKeeper::importAgain);
     connect(&tree, &ProjectTree::importItemAgain, this,

@@ -23,6 +23,7 @@ void ImportMemory::setProject(const QPointer<Project> &project, const QString &p
     m_projectFile = projectFile;
     m_states.clear();
     m_dismissed.clear();
+    emit changed();
 }
 
 bool ImportMemory::hasAsset(const QUuid &id) const
@@ -54,6 +55,7 @@ void ImportMemory::store(const QUuid &asset, const ImportRecord &record)
     QJsonObject known = m_project->extras()->section(Section).toObject();
     known.insert(asset.toString(), record.toJson(m_projectFile));
     m_project->extras()->setSection(Section, known);
+    emit changed();
 }
 
 void ImportMemory::remember(const QUuid &asset, ImportRecord::Kind kind, const QString &file,

@@ -35,6 +35,10 @@ public:
     /// Takes the files of these assets as they are.
     void dismiss(const QList<QUuid> &assets);
 
+signals:
+    /// Something else is remembered now.
+    void changed();
+
 private:
     [[nodiscard]] bool hasAsset(const QUuid &id) const;
     [[nodiscard]] const FileState &stateOf(const QString &file);

@@ -30,8 +30,8 @@ signals:
     void selectNone();
 
 private:
-    void addClipboardCommand(const QString &text, const QString &icon, QKeySequence::StandardKey keys,
-                             void (EditMenu::*chosen)());
+    void addClipboardCommand(const QString &name, const QString &text, const QString &icon,
+                             QKeySequence::StandardKey keys, void (EditMenu::*chosen)());
 
     QList<QAction *> m_clipboardActions;
     bool m_hasChoices = false;

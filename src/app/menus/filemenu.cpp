@@ -2,42 +2,54 @@
 
 #include "app/dialogs/projectdialog.h"
 #include "app/platform.h"
+#include "ui/commands.h"
 #include "ui/plaintext.h"
 
 #include <QFileInfo>
 #include <QToolBar>
 
+namespace {
+
+QList<QKeySequence> keysFor(QKeySequence::StandardKey key)
+{
+    return QKeySequence::keyBindings(key) + Platform::keysWithoutStandard(key);
+}
+
+} // namespace
+
 FileMenu::FileMenu(QWidget *parent) : ProjectMenu(tr("&File"), parent)
 {
-    m_new = addCommand(this, tr("&New"), &FileMenu::showNewDialog, {}, QStringLiteral(":/tb-new-file"));
-    m_open = addCommand(this, tr("&Open"), &FileMenu::showOpenDialog, {}, QStringLiteral(":/tb-open-file"));
+    m_new = addCommand(this, QStringLiteral("file.new"), tr("&New"), &FileMenu::showNewDialog,
+                       keysFor(QKeySequence::New), QStringLiteral(":/tb-new-file"));
+    m_open = addCommand(this, QStringLiteral("file.open"), tr("&Open"), &FileMenu::showOpenDialog,
+                        keysFor(QKeySequence::Open), QStringLiteral(":/tb-open-file"));
     m_recentMenu = addMenu(tr("&Recent"));
     m_recentMenu->setToolTipsVisible(true); // projects of the same name differ by their folders
-    m_save = addCommand(this, tr("&Save"), &FileMenu::saveProject, {}, QStringLiteral(":/tb-save-file"));
-    m_saveAs = addCommand(this, tr("Save &As"), &FileMenu::saveProjectAs, {}, QStringLiteral(":/tb-save-file-as"));
-    m_close = addCommand(this, tr("&Close"), &FileMenu::closeProject, {}, QStringLiteral(":/tb-close-document"));
+    m_save = addCommand(this, QStringLiteral("file.save"), tr("&Save"), &FileMenu::saveProject,
+                        keysFor(QKeySequence::Save), QStringLiteral(":/tb-save-file"));
+    m_saveAs = addCommand(this, QStringLiteral("file.saveAs"), tr("Save &As"), &FileMenu::saveProjectAs,
+                          keysFor(QKeySequence::SaveAs), QStringLiteral(":/tb-save-file-as"));
+    m_close = addCommand(this, QStringLiteral("file.close"), tr("&Close"), &FileMenu::closeProject,
+                         keysFor(QKeySequence::Close), QStringLiteral(":/tb-close-document"));
     addSeparator();
     setToolTipsVisible(true);
-    m_import = addCommand(this, tr("&Import…"), &FileMenu::showImportDialog, {}, QStringLiteral(":/Import"));
+    m_import = addCommand(this, QStringLiteral("file.import"), tr("&Import…"), &FileMenu::showImportDialog, {},
+                          QStringLiteral(":/Import"));
     m_import->setToolTip(tr("Looks at files of any kind, shows what they are, and makes assets of them"));
     addSeparator();
-    m_export = addCommand(this, tr("&Export Project…"), &FileMenu::exportProject, {}, QStringLiteral(":/Export"));
-    m_exportAgain =
-        addCommand(this, tr("Export A&gain"), &FileMenu::exportAgain, Qt::Key_F9, QStringLiteral(":/Update"));
+    m_export = addCommand(this, QStringLiteral("file.exportProject"), tr("&Export Project…"), &FileMenu::exportProject,
+                          {}, QStringLiteral(":/Export"));
+    m_exportAgain = addCommand(this, QStringLiteral("file.exportAgain"), tr("Export A&gain"), &FileMenu::exportAgain,
+                               {Qt::Key_F9}, QStringLiteral(":/Update"));
     m_export->setToolTip(tr("Shows what the game takes of this project, in which forms and files, and writes it"));
     m_exportAgain->setToolTip(tr("Writes what has changed of the files for the game, without a dialog"));
     addSeparator();
-    addCommand(this, tr("&Preferences"), &FileMenu::displayPreferences)->setMenuRole(QAction::PreferencesRole);
+    addCommand(this, QStringLiteral("file.preferences"), tr("&Preferences"), &FileMenu::displayPreferences)
+        ->setMenuRole(QAction::PreferencesRole);
     addSeparator();
-    m_quit = addCommand(this, tr("&Quit"), &FileMenu::quit, {}, QStringLiteral(":/tb-exit-application"));
+    m_quit = addCommand(this, QStringLiteral("file.quit"), tr("&Quit"), &FileMenu::quit,
+                        Platform::keysWithoutStandard(QKeySequence::Quit), QStringLiteral(":/tb-exit-application"));
     m_quit->setMenuRole(QAction::QuitRole);
-    m_new->setShortcuts(QKeySequence::New);
-    m_open->setShortcuts(QKeySequence::Open);
-    m_save->setShortcuts(QKeySequence::Save);
-    m_saveAs->setShortcuts(QKeySequence::keyBindings(QKeySequence::SaveAs)
-                           + Platform::keysWithoutStandard(QKeySequence::SaveAs));
-    m_close->setShortcuts(QKeySequence::Close);
-    m_quit->setShortcuts(Platform::keysWithoutStandard(QKeySequence::Quit));
     rebuildRecentMenu();
 }
 
@@ -139,7 +151,8 @@ void FileMenu::rebuildRecentMenu()
         m_recentMenu->addAction(tr("None"))->setEnabled(false);
     } else {
         m_recentMenu->addSeparator();
-        connect(m_recentMenu->addAction(tr("&Clear")), &QAction::triggered, this, &FileMenu::clearRecentFiles);
+        QAction *clear = Commands::add(m_recentMenu->addAction(tr("&Clear")), QStringLiteral("file.clearRecent"));
+        connect(clear, &QAction::triggered, this, &FileMenu::clearRecentFiles);
     }
     emit recentFilesChanged();
 }

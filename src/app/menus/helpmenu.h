@@ -13,4 +13,6 @@ public:
 signals:
     void checkForUpdates();
     void displayAbout();
+    void showCommandPalette();
+    void showShortcuts();
 };

@@ -7,10 +7,12 @@
 
 ImageMenu::ImageMenu(QWidget *parent) : ProjectMenu(tr("&Image"), parent)
 {
-    addCommand(this, tr("&New Image"), &ImageMenu::showNewDialog, {}, QStringLiteral(":/Image"));
+    addCommand(this, QStringLiteral("image.new"), tr("&New Image"), &ImageMenu::showNewDialog, {},
+               QStringLiteral(":/Image"));
     addSeparator();
-    m_swap = addCommand(this, tr("&Swap Palette"), &ImageMenu::showSwapPaletteDialog, {}, QStringLiteral(":/Swap"));
-    addImportAgain([this] { return m_image ? m_image->id() : QUuid(); });
+    m_swap = addCommand(this, QStringLiteral("image.swapPalette"), tr("&Swap Palette"),
+                        &ImageMenu::showSwapPaletteDialog, {}, QStringLiteral(":/Swap"));
+    addImportAgain(QStringLiteral("image.importAgain"), [this] { return m_image ? m_image->id() : QUuid(); });
 }
 
 void ImageMenu::setImage(const QPointer<Image> &image)

@@ -8,11 +8,14 @@
 
 MapMenu::MapMenu(QWidget *parent) : ProjectMenu(tr("&Map"), parent)
 {
-    addCommand(this, tr("&New Map"), &MapMenu::showNewDialog, Qt::CTRL | Qt::ALT | Qt::Key_M, QStringLiteral(":/Map"));
+    addCommand(this, QStringLiteral("map.new"), tr("&New Map"), &MapMenu::showNewDialog,
+               {Qt::CTRL | Qt::ALT | Qt::Key_M}, QStringLiteral(":/Map"));
     addSeparator();
-    addCommand(this, tr("&Import"), &MapMenu::showImportDialog, {}, QStringLiteral(":/Import"));
-    m_export = addCommand(this, tr("&Export"), &MapMenu::showExportDialog, {}, QStringLiteral(":/Export"));
-    addImportAgain([this] { return m_map ? m_map->id() : QUuid(); });
+    addCommand(this, QStringLiteral("map.import"), tr("&Import"), &MapMenu::showImportDialog, {},
+               QStringLiteral(":/Import"));
+    m_export = addCommand(this, QStringLiteral("map.export"), tr("&Export"), &MapMenu::showExportDialog, {},
+                          QStringLiteral(":/Export"));
+    addImportAgain(QStringLiteral("map.importAgain"), [this] { return m_map ? m_map->id() : QUuid(); });
 }
 
 void MapMenu::setMap(const QPointer<Map> &map)

@@ -49,6 +49,12 @@ void MenuBar::setImportAgainCheck(const std::function<bool(const QUuid &)> &canI
         menu->setImportAgainCheck(canImport);
 }
 
+void MenuBar::refreshImportAgain()
+{
+    for (ProjectMenu *menu : findChildren<ProjectMenu *>(Qt::FindDirectChildrenOnly))
+        menu->refreshImportAgain();
+}
+
 void MenuBar::setProject(const QPointer<Project> &project)
 {
     for (ProjectMenu *menu : findChildren<ProjectMenu *>(Qt::FindDirectChildrenOnly))

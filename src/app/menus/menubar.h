@@ -41,6 +41,8 @@ public:
     void setImportAgainCheck(const std::function<bool(const QUuid &)> &canImport);
 
 public slots:
+    /// Looks again whether the active assets can be imported again.
+    void refreshImportAgain();
     /// Hands the open project, or null, to the menus that need it.
     void setProject(const QPointer<Project> &project);
 

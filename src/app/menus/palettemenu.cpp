@@ -5,14 +5,16 @@
 
 PaletteMenu::PaletteMenu(QWidget *parent) : ProjectMenu(tr("&Palette"), parent)
 {
-    addCommand(this, tr("&New Palette"), &PaletteMenu::showNewDialog, Qt::CTRL | Qt::ALT | Qt::Key_P,
-               QStringLiteral(":/Palette"));
-    addCommand(this, tr("&Import"), &PaletteMenu::showImportDialog, {}, QStringLiteral(":/Import"));
+    addCommand(this, QStringLiteral("palette.new"), tr("&New Palette"), &PaletteMenu::showNewDialog,
+               {Qt::CTRL | Qt::ALT | Qt::Key_P}, QStringLiteral(":/Palette"));
+    addCommand(this, QStringLiteral("palette.import"), tr("&Import"), &PaletteMenu::showImportDialog, {},
+               QStringLiteral(":/Import"));
     addSeparator();
     m_name = addAction(tr("No Palette"));
     m_name->setEnabled(false);
-    m_export = addCommand(this, tr("&Export"), &PaletteMenu::showExportDialog, {}, QStringLiteral(":/Export"));
-    addImportAgain([this] { return m_palette ? m_palette->id() : QUuid(); });
+    m_export = addCommand(this, QStringLiteral("palette.export"), tr("&Export"), &PaletteMenu::showExportDialog, {},
+                          QStringLiteral(":/Export"));
+    addImportAgain(QStringLiteral("palette.importAgain"), [this] { return m_palette ? m_palette->id() : QUuid(); });
 }
 
 void PaletteMenu::setPalette(const QPointer<Palette> &palette)

@@ -1,6 +1,7 @@
 #include "app/menus/projectmenu.h"
 
 #include "model/writeproblem.h"
+#include "ui/commands.h"
 #include "ui/svgiconengine.h"
 
 ProjectMenu::ProjectMenu(const QString &title, QWidget *parent) : QMenu(title, parent) { }
@@ -9,25 +10,32 @@ void ProjectMenu::setProject(const QPointer<Project> &project)
 {
     m_project = project;
     updateActions();
+    refreshImportAgain();
 }
 
-QAction *ProjectMenu::newAction(const QString &text, const QKeySequence &shortcut, const QString &icon)
+QAction *ProjectMenu::newAction(const QString &name, const QString &text, const QList<QKeySequence> &keys,
+                                const QString &icon)
 {
     QAction *action = addAction(text);
-    action->setShortcut(shortcut);
+    action->setShortcuts(keys);
     if (!icon.isEmpty())
         action->setIcon(themedIcon(icon));
-    return action;
+    return Commands::add(action, name);
 }
 
-void ProjectMenu::addImportAgain(const std::function<QUuid()> &activeAsset)
+void ProjectMenu::addImportAgain(const QString &name, const std::function<QUuid()> &activeAsset)
 {
     addSeparator();
-    QAction *again = newAction(tr("Import A&gain"), {}, QStringLiteral(":/Import"));
-    again->setEnabled(false);
-    connect(this, &QMenu::aboutToShow, this,
-            [this, again, activeAsset] { again->setEnabled(m_canImportAgain(activeAsset())); });
-    connect(again, &QAction::triggered, this, [this, activeAsset] { emit importAgainRequested(activeAsset()); });
+    m_again = newAction(name, tr("Import A&gain"), {}, QStringLiteral(":/Import"));
+    m_activeAsset = activeAsset;
+    refreshImportAgain();
+    connect(m_again, &QAction::triggered, this, [this] { emit importAgainRequested(m_activeAsset()); });
+}
+
+void ProjectMenu::refreshImportAgain()
+{
+    if (m_again)
+        m_again->setEnabled(m_canImportAgain(m_activeAsset()));
 }
 
 QString ProjectMenu::fileToOpen(const QString &title, const QStringList &nameFilters) const

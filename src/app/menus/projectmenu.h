@@ -31,6 +31,8 @@ public:
 public slots:
     /// The open project, or null.
     void setProject(const QPointer<Project> &project);
+    /// Looks again whether the active asset can be imported again.
+    void refreshImportAgain();
 
 signals:
     /// Something that was asked for could not be done: a text for the user, its title, and why.
@@ -44,18 +46,18 @@ protected:
     /// Enables what can be done now; called whenever the project or the active asset changes.
     virtual void updateActions() = 0;
 
-    /// Appends an entry that calls a slot, or emits a signal, of the menu when it is chosen.
+    /// Appends the entry of a command of that name, which calls a slot, or emits a signal, of the menu.
     template <typename Menu, typename Slot>
-    QAction *addCommand(Menu *menu, const QString &text, Slot slot, const QKeySequence &shortcut = {},
-                        const QString &icon = {})
+    QAction *addCommand(Menu *menu, const QString &name, const QString &text, Slot slot,
+                        const QList<QKeySequence> &keys = {}, const QString &icon = {})
     {
-        QAction *action = newAction(text, shortcut, icon);
+        QAction *action = newAction(name, text, keys, icon);
         connect(action, &QAction::triggered, menu, slot);
         return action;
     }
 
     /// Appends the entry that imports the active asset again, in a group of its own.
-    void addImportAgain(const std::function<QUuid()> &activeAsset);
+    void addImportAgain(const QString &name, const std::function<QUuid()> &activeAsset);
 
     /// The menu's dialog of a kind, made when it is first asked for; what is accepted in it goes to a slot
     /// or signal of the menu.
@@ -79,6 +81,7 @@ protected:
         if (active)
             connect(active, &QObject::destroyed, this, [this] { updateActions(); });
         updateActions();
+        refreshImportAgain();
     }
 
     // The file that a person chooses; empty when it is none.
@@ -94,9 +97,11 @@ protected:
     [[nodiscard]] QWidget *dialogParent() const;
 
 private:
-    QAction *newAction(const QString &text, const QKeySequence &shortcut, const QString &icon);
+    QAction *newAction(const QString &name, const QString &text, const QList<QKeySequence> &keys, const QString &icon);
 
     QPointer<Project> m_project;
     FileChooser m_fileChooser = runFileDialog;
+    QAction *m_again = nullptr;
+    std::function<QUuid()> m_activeAsset;
     std::function<bool(const QUuid &)> m_canImportAgain = [](const QUuid &) { return false; };
 };

@@ -8,13 +8,17 @@
 
 SpriteMenu::SpriteMenu(QWidget *parent) : ProjectMenu(tr("&Sprites"), parent)
 {
-    addCommand(this, tr("&New"), &SpriteMenu::showNewDialog, Qt::CTRL | Qt::SHIFT | Qt::Key_B,
-               QStringLiteral(":/Sprite"));
-    addCommand(this, tr("&Import"), &SpriteMenu::showImportDialog, {}, QStringLiteral(":/Import"));
+    addCommand(this, QStringLiteral("sprites.new"), tr("&New"), &SpriteMenu::showNewDialog,
+               {Qt::CTRL | Qt::SHIFT | Qt::Key_B}, QStringLiteral(":/Sprite"));
+    addCommand(this, QStringLiteral("sprites.import"), tr("&Import"), &SpriteMenu::showImportDialog, {},
+               QStringLiteral(":/Import"));
     addSeparator();
-    m_swap = addCommand(this, tr("&Swap Palette"), &SpriteMenu::showSwapPaletteDialog, {}, QStringLiteral(":/Swap"));
-    m_export = addCommand(this, tr("&Export Data"), &SpriteMenu::showExportDialog, {}, QStringLiteral(":/Export"));
-    addImportAgain([this] { return m_spriteBank ? m_spriteBank->id() : QUuid(); });
+    m_swap = addCommand(this, QStringLiteral("sprites.swapPalette"), tr("&Swap Palette"),
+                        &SpriteMenu::showSwapPaletteDialog, {}, QStringLiteral(":/Swap"));
+    m_export = addCommand(this, QStringLiteral("sprites.export"), tr("&Export Data"), &SpriteMenu::showExportDialog, {},
+                          QStringLiteral(":/Export"));
+    addImportAgain(QStringLiteral("sprites.importAgain"),
+                   [this] { return m_spriteBank ? m_spriteBank->id() : QUuid(); });
 }
 
 void SpriteMenu::setSpriteBank(const QPointer<SpriteBank> &bank)

@@ -5,30 +5,38 @@
 #include "app/dialogs/paletteselectordialog.h"
 #include "app/dialogs/tileanimationdialog.h"
 #include "app/dialogs/tilesetdialog.h"
+#include "ui/commands.h"
 #include "ui/svgiconengine.h"
 
 #include <QDebug>
 
 TileMenu::TileMenu(QWidget *parent) : ProjectMenu(tr("&Tiles"), parent)
 {
-    addCommand(this, tr("&New Tile Set"), &TileMenu::showNewDialog, Qt::CTRL | Qt::ALT | Qt::Key_T,
-               QStringLiteral(":/TileSet"));
+    addCommand(this, QStringLiteral("tiles.new"), tr("&New Tile Set"), &TileMenu::showNewDialog,
+               {Qt::CTRL | Qt::ALT | Qt::Key_T}, QStringLiteral(":/TileSet"));
     addSeparator();
     QMenu *importMenu = nullptr;
     m_tileSetActions = {
-        addCommand(this, tr("&Create Animations"), &TileMenu::showAnimationDialog, {}, QStringLiteral(":/Film")),
-        addCommand(this, tr("&Swap Palette"), &TileMenu::showSwapPaletteDialog, {}, QStringLiteral(":/Swap")),
-        addCommand(this, tr("&Export"), &TileMenu::showExportDialog, {}, QStringLiteral(":/Export")),
-        addCommand(this, tr("Export &Attributes"), &TileMenu::showExportAttributesDialog, {}, QStringLiteral(":/Tag")),
+        addCommand(this, QStringLiteral("tiles.createAnimations"), tr("&Create Animations"),
+                   &TileMenu::showAnimationDialog, {}, QStringLiteral(":/Film")),
+        addCommand(this, QStringLiteral("tiles.swapPalette"), tr("&Swap Palette"), &TileMenu::showSwapPaletteDialog, {},
+                   QStringLiteral(":/Swap")),
+        addCommand(this, QStringLiteral("tiles.export"), tr("&Export"), &TileMenu::showExportDialog, {},
+                   QStringLiteral(":/Export")),
+        addCommand(this, QStringLiteral("tiles.exportAttributes"), tr("Export &Attributes"),
+                   &TileMenu::showExportAttributesDialog, {}, QStringLiteral(":/Tag")),
         (importMenu = addMenu(tr("&Import")))->menuAction(),
         addSeparator(),
-        addCommand(this, tr("Ne&xt Tile"), &TileMenu::nextTile, Qt::CTRL | Qt::Key_BracketRight),
-        addCommand(this, tr("&Previous Tile"), &TileMenu::previousTile, Qt::CTRL | Qt::Key_BracketLeft),
+        addCommand(this, QStringLiteral("tiles.next"), tr("Ne&xt Tile"), &TileMenu::nextTile,
+                   {Qt::CTRL | Qt::Key_BracketRight}),
+        addCommand(this, QStringLiteral("tiles.previous"), tr("&Previous Tile"), &TileMenu::previousTile,
+                   {Qt::CTRL | Qt::Key_BracketLeft}),
         (m_magnificationMenu = addMenu(tr("Tile List &Magnification")))->menuAction(),
     };
     importMenu->setIcon(themedIcon(QStringLiteral(":/Import")));
-    connect(importMenu->addAction(tr("&Spectrum Chars")), &QAction::triggered, this, &TileMenu::showImportFontDialog);
-    addImportAgain([this] { return m_tileSet ? m_tileSet->id() : QUuid(); });
+    QAction *font = Commands::add(importMenu->addAction(tr("&Spectrum Chars")), QStringLiteral("tiles.importFont"));
+    connect(font, &QAction::triggered, this, &TileMenu::showImportFontDialog);
+    addImportAgain(QStringLiteral("tiles.importAgain"), [this] { return m_tileSet ? m_tileSet->id() : QUuid(); });
 }
 
 void TileMenu::setMagnificationActions(const QList<QAction *> &actions)

@@ -1,15 +1,18 @@
 #include "app/menus/viewmenu.h"
 
+#include "ui/commands.h"
+
 ViewMenu::ViewMenu(QWidget *parent) : QMenu(tr("&View"), parent)
 {
-    m_scratchEditor = addAction(tr("S&cratch Image Editor"));
+    m_scratchEditor = Commands::add(addAction(tr("S&cratch Image Editor")), QStringLiteral("view.scratchEditor"));
     m_scratchEditor->setCheckable(true);
     connect(m_scratchEditor, &QAction::toggled, this, &ViewMenu::toggleScratch);
-    m_statusBar = addAction(tr("&Status Bar"));
+    m_statusBar = Commands::add(addAction(tr("&Status Bar")), QStringLiteral("view.statusBar"));
     m_statusBar->setCheckable(true);
     m_statusBar->setChecked(true);
     connect(m_statusBar, &QAction::toggled, this, &ViewMenu::toggleStatusBar);
-    connect(addAction(tr("&Reset Layout")), &QAction::triggered, this, &ViewMenu::resetLayout);
+    QAction *reset = Commands::add(addAction(tr("&Reset Layout")), QStringLiteral("view.resetLayout"));
+    connect(reset, &QAction::triggered, this, &ViewMenu::resetLayout);
     m_windowMenu = addMenu(tr("&Window"));
 }
 

@@ -1,6 +1,7 @@
 #include "app/projecttree/projecttree.h"
 
 #include "model/assetname.h"
+#include "ui/commands.h"
 #include "ui/svgiconengine.h"
 
 #include <QKeyEvent>
@@ -104,8 +105,9 @@ ProjectTree::ProjectTree(QWidget *parent) : QTreeWidget(parent), m_menu(new QMen
 void ProjectTree::buildMenu()
 {
     QAction *rename = m_menu->addAction(themedIcon(QStringLiteral(":/Rename")), tr("&Rename"));
+    Commands::addPointed(rename, QStringLiteral("projectTree.rename"));
     connect(rename, &QAction::triggered, this, [this] { editItem(currentItem()); });
-    const auto add = [this](const QString &text, const QString &icon, auto request) {
+    const auto add = [this](const char *name, const QString &text, const QString &icon, auto request) {
         QAction *action = m_menu->addAction(themedIcon(icon), text);
         connect(action, &QAction::triggered, this, [this, request] {
             ProjectNode node;
@@ -113,12 +115,13 @@ void ProjectTree::buildMenu()
             if (identify(currentItem(), node, id))
                 emit(this->*request)(node, id);
         });
-        return action;
+        return Commands::addPointed(action, QLatin1String(name));
     };
-    add(tr("&Delete"), QStringLiteral(":/Trashcan"), &ProjectTree::deleteItem);
-    m_copy = add(tr("&Copy"), QStringLiteral(":/Copy"), &ProjectTree::copyItem);
+    add("projectTree.delete", tr("&Delete"), QStringLiteral(":/Trashcan"), &ProjectTree::deleteItem);
+    m_copy = add("projectTree.copy", tr("&Copy"), QStringLiteral(":/Copy"), &ProjectTree::copyItem);
     m_menu->addSeparator();
-    m_importAgain = add(tr("Import A&gain"), QStringLiteral(":/Import"), &ProjectTree::importItemAgain);
+    m_importAgain =
+        add("projectTree.importAgain", tr("Import A&gain"), QStringLiteral(":/Import"), &ProjectTree::importItemAgain);
 }
 
 void ProjectTree::showProject(const QPointer<Project> &project)

@@ -1,5 +1,6 @@
 #include "editors/animation/animationcontrolwidget.h"
 
+#include "ui/commands.h"
 #include "ui/flowlayout.h"
 #include "ui/svgiconengine.h"
 
@@ -22,11 +23,14 @@ AnimationControlWidget::AnimationControlWidget(QWidget *parent) : QWidget(parent
     auto *layout = new FlowLayout(this); // a narrow editor gets two rows
     layout->setContentsMargins(2, 2, 2, 2);
     layout->setSpacing(1);
-    const auto add = [this, layout](Action action, const QString &toolTip, const char *icon, bool checkable = false) {
+    const auto add = [this, layout](Action action, const char *name, const QString &toolTip, const char *icon,
+                                    bool checkable = false) {
         auto *added = new QAction(themedIcon(QLatin1String(icon)), toolTip, this);
         added->setToolTip(toolTip);
         added->setCheckable(checkable);
         connect(added, &QAction::triggered, this, [this, action](bool checked) { trigger(action, checked); });
+        added->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+        addAction(Commands::add(added, QLatin1String("animation.") + QLatin1String(name)));
         m_actions.insert(action, added);
 
         auto *button = new QToolButton(this);
@@ -37,17 +41,17 @@ AnimationControlWidget::AnimationControlWidget(QWidget *parent) : QWidget(parent
         button->setFixedSize(ButtonSize);
         layout->addWidget(button);
     };
-    add(First, tr("Goto first frame"), ":/Media/Start");
-    add(Previous, tr("Previous frame"), ":/Arrow/W");
-    add(Play, tr("Play"), ":/Media/Play");
-    add(Pause, tr("Pause playback"), ":/Media/Pause", true);
-    add(Stop, tr("Stop"), ":/Media/Stop");
-    add(Next, tr("Next frame"), ":/Arrow/E");
-    add(Last, tr("Goto last frame"), ":/Media/End");
-    add(AddFrame, tr("Add a frame"), ":/NewIcon");
-    add(DeleteFrame, tr("Delete current frame"), ":/Trashcan");
-    add(Loop, tr("Loop"), ":/Media/Loop", true);
-    add(PingPong, tr("Ping pong"), ":/Media/PingPong", true);
+    add(First, "firstFrame", tr("Goto first frame"), ":/Media/Start");
+    add(Previous, "previousFrame", tr("Previous frame"), ":/Arrow/W");
+    add(Play, "play", tr("Play"), ":/Media/Play");
+    add(Pause, "pause", tr("Pause playback"), ":/Media/Pause", true);
+    add(Stop, "stop", tr("Stop"), ":/Media/Stop");
+    add(Next, "nextFrame", tr("Next frame"), ":/Arrow/E");
+    add(Last, "lastFrame", tr("Goto last frame"), ":/Media/End");
+    add(AddFrame, "addFrame", tr("Add a frame"), ":/NewIcon");
+    add(DeleteFrame, "deleteFrame", tr("Delete current frame"), ":/Trashcan");
+    add(Loop, "loop", tr("Loop"), ":/Media/Loop", true);
+    add(PingPong, "pingPong", tr("Ping pong"), ":/Media/PingPong", true);
     m_label->setMinimumHeight(ButtonSize.height());
     m_label->setContentsMargins(6, 0, 0, 0);
     layout->addWidget(m_label);

@@ -1,6 +1,7 @@
 #include "editors/animation/editorwidget.h"
 
 #include "editors/animation/animationtoolbar.h"
+#include "ui/commands.h"
 #include "ui/flowlayout.h"
 #include "ui/svgiconengine.h"
 
@@ -46,6 +47,7 @@ EditorWidget::EditorWidget(AnimationToolBar *toolBar, QWidget *parent)
     , m_scroller(new QScrollArea)
     , m_control(new AnimationControlWidget)
 {
+    m_tools->nameCommands(QStringLiteral("animation"));
     m_tools->addEntry(ZoomIn);
     m_tools->addEntry(ZoomOut);
     for (const ToolButton button : {RotateCW, Flip, Mirror})
@@ -55,6 +57,8 @@ EditorWidget::EditorWidget(AnimationToolBar *toolBar, QWidget *parent)
     m_onionSkin->setCheckable(true);
     m_onionSkin->setToolTip(tr("Show the frame before faintly over this one"));
     m_onionSkin->setStatusTip(m_onionSkin->toolTip());
+    m_onionSkin->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    addAction(Commands::add(m_onionSkin, QStringLiteral("animation.onionSkin")));
     connectParts();
 }
 

@@ -1,6 +1,7 @@
 #include "editors/animation/frameeditorwidget.h"
 
 #include "editors/common/dragdata.h"
+#include "ui/commands.h"
 
 #include <QContextMenuEvent>
 #include <QHelpEvent>
@@ -36,15 +37,15 @@ FrameEditorWidget::FrameEditorWidget(QWidget *parent) : QWidget(parent), m_menu(
 
 void FrameEditorWidget::buildMenu()
 {
-    const auto add = [this](const QString &text, void (FrameEditorWidget::*setter)(bool)) {
+    const auto add = [this](const char *name, const QString &text, void (FrameEditorWidget::*setter)(bool)) {
         QAction *action = m_menu->addAction(text);
         action->setCheckable(true);
         connect(action, &QAction::triggered, this, setter);
-        return action;
+        return Commands::addPointed(action, QLatin1String(name));
     };
-    m_rotated = add(tr("Rotated"), &FrameEditorWidget::setRotated);
-    m_flipped = add(tr("Flipped"), &FrameEditorWidget::setFlipped);
-    m_mirrored = add(tr("Mirrored"), &FrameEditorWidget::setMirrored);
+    m_rotated = add("frameMenu.rotated", tr("Rotated"), &FrameEditorWidget::setRotated);
+    m_flipped = add("frameMenu.flipped", tr("Flipped"), &FrameEditorWidget::setFlipped);
+    m_mirrored = add("frameMenu.mirrored", tr("Mirrored"), &FrameEditorWidget::setMirrored);
 }
 
 // What is shown

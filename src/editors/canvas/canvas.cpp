@@ -2,6 +2,7 @@
 
 #include "editors/canvas/canvasclipboard.h"
 #include "editors/canvas/layeraction.h"
+#include "ui/commands.h"
 #include "ui/outlineband.h"
 
 #include <QKeyEvent>
@@ -41,14 +42,22 @@ Canvas::~Canvas() = default;
 
 void Canvas::buildContextMenu()
 {
+    const auto add = [this](const char *name, const QString &text, auto... request) {
+        Commands::addPointed(m_contextMenu->addAction(text, request...), QLatin1String(name));
+    };
     // The clipboard tells a cut from a copy by the action that sent the request.
-    m_contextMenu->addAction(tr("Cut"), m_clipboard.data(), &CanvasClipboard::copyToClipboard);
-    m_contextMenu->addAction(tr("Copy"), m_clipboard.data(), &CanvasClipboard::copyToClipboard);
-    m_contextMenu->addAction(tr("Paste"), m_clipboard.data(), &CanvasClipboard::pasteFromClipboard);
-    m_contextMenu->addAction(tr("Select All"), this, &Canvas::selectAll);
-    m_contextMenu->addAction(tr("Select None"), this, &Canvas::selectNone);
-    m_contextMenu->addAction(tr("Erase"), this, &Canvas::eraseSelection);
-    m_contextMenu->addAction(tr("Fill"), this, [this] { fillSelection(tr("Fill"), m_colours.ink); });
+    add("canvasMenu.cut", tr("Cut"), m_clipboard.data(), &CanvasClipboard::copyToClipboard);
+    add("canvasMenu.copy", tr("Copy"), m_clipboard.data(), &CanvasClipboard::copyToClipboard);
+    add("canvasMenu.paste", tr("Paste"), m_clipboard.data(), &CanvasClipboard::pasteFromClipboard);
+    add("canvasMenu.selectAll", tr("Select All"), this, &Canvas::selectAll);
+    add("canvasMenu.selectNone", tr("Select None"), this, &Canvas::selectNone);
+    const auto addCommand = [this](const char *name, const QString &text, auto run) {
+        QAction *action = m_contextMenu->addAction(text, this, run);
+        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+        Commands::add(action, QLatin1String(name));
+    };
+    addCommand("pixels.erase", tr("Erase"), &Canvas::eraseSelection);
+    addCommand("pixels.fillSelection", tr("Fill"), [this] { fillSelection(tr("Fill"), m_colours.ink); });
 }
 
 void Canvas::bindPalette(const QPointer<Palette> &palette)

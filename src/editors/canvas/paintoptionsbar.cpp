@@ -1,6 +1,7 @@
 #include "editors/canvas/paintoptionsbar.h"
 
 #include "editors/canvas/paintsettings.h"
+#include "ui/commands.h"
 #include "ui/flowlayout.h"
 
 #include <QActionGroup>
@@ -18,6 +19,7 @@ PaintOptionsBar::PaintOptionsBar(QWidget *parent) : QWidget(parent), m_sizes(new
         QAction *action = sizes->addAction(m_sizes->addAction(sizeText(size)));
         action->setCheckable(true);
         action->setData(size);
+        Commands::addPointed(action, QStringLiteral("brushSize.%1").arg(size)); // [ and ] are commands
     }
     connect(sizes, &QActionGroup::triggered, this, [this](const QAction *chosen) {
         if (m_settings)

@@ -1,5 +1,6 @@
 #include "editors/canvas/paintsettings.h"
 
+#include "ui/commands.h"
 #include "ui/svgiconengine.h"
 
 #include <QAction>
@@ -19,28 +20,31 @@ constexpr std::pair<PaintSettings::Choice, const char *> Habits[] = {
 
 PaintSettings::PaintSettings(QObject *parent) : QObject(parent)
 {
-    addChoice(Connect, QStringLiteral(":/Connect"), tr("Connect &Strokes"),
+    addChoice(Connect, QStringLiteral("connectStrokes"), QStringLiteral(":/Connect"), tr("Connect &Strokes"),
               tr("Draw without gaps, however fast the pointer moves"));
-    addChoice(PixelPerfect, QStringLiteral(":/PixelPerfect"), tr("&Pixel Perfect Lines"),
-              tr("Draw freehand lines of one pixel without corners"));
-    addChoice(Shade, QStringLiteral(":/Shade"), tr("S&hade"),
+    addChoice(PixelPerfect, QStringLiteral("pixelPerfect"), QStringLiteral(":/PixelPerfect"),
+              tr("&Pixel Perfect Lines"), tr("Draw freehand lines of one pixel without corners"));
+    addChoice(Shade, QStringLiteral("shade"), QStringLiteral(":/Shade"), tr("S&hade"),
               tr("Step pixels along the colours between foreground and background: the left button towards the "
                  "foreground, the right button towards the background"));
-    addChoice(RoundBrush, QStringLiteral(":/RoundBrush"), tr("&Round Brush"), tr("Draw with a round brush"));
-    addChoice(MirrorSides, QStringLiteral(":/MirrorSides"), tr("Mirror &Left and Right"),
+    addChoice(RoundBrush, QStringLiteral("roundBrush"), QStringLiteral(":/RoundBrush"), tr("&Round Brush"),
+              tr("Draw with a round brush"));
+    addChoice(MirrorSides, QStringLiteral("mirrorSides"), QStringLiteral(":/MirrorSides"), tr("Mirror &Left and Right"),
               tr("Draw on the left and on the right at once"));
-    addChoice(MirrorEnds, QStringLiteral(":/MirrorEnds"), tr("Mirror &Top and Bottom"),
+    addChoice(MirrorEnds, QStringLiteral("mirrorEnds"), QStringLiteral(":/MirrorEnds"), tr("Mirror &Top and Bottom"),
               tr("Draw at the top and at the bottom at once"));
     action(Connect)->setChecked(true);
 }
 
-void PaintSettings::addChoice(Choice choice, const QString &icon, const QString &text, const QString &toolTip)
+void PaintSettings::addChoice(Choice choice, const QString &name, const QString &icon, const QString &text,
+                              const QString &toolTip)
 {
     auto *action = new QAction(themedIcon(icon), text, this);
     action->setCheckable(true);
     action->setToolTip(toolTip);
     action->setStatusTip(toolTip);
     connect(action, &QAction::toggled, this, [this, choice](bool on) { choose(choice, on); });
+    Commands::add(action, QLatin1String("painting.") + name);
     m_actions.insert(choice, action);
 }
 

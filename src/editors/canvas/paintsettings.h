@@ -43,7 +43,8 @@ signals:
     void habitChanged();
 
 private:
-    void addChoice(Choice choice, const QString &icon, const QString &text, const QString &toolTip);
+    void addChoice(Choice choice, const QString &name, const QString &icon, const QString &text,
+                   const QString &toolTip);
     void choose(Choice choice, bool on);
     void setUsualBrush();
 

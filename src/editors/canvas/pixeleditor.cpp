@@ -4,6 +4,7 @@
 #include "editors/canvas/paintoptionsbar.h"
 #include "editors/canvas/palettenotice.h"
 #include "model/palette.h"
+#include "ui/commands.h"
 #include "ui/svgiconengine.h"
 #include "ui/toolpalette.h"
 #include "undo/paletteorder.h"
@@ -20,6 +21,14 @@
 using namespace Quenmora::Ui;
 
 namespace {
+
+const QString Place = QStringLiteral("pixels"); ///< where the commands of all pixel editors belong
+
+void makeCommand(QAction *action, const QString &name)
+{
+    action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    Commands::add(action, Place + u'.' + name);
+}
 
 /// Tells the pixel under the pointer in the status line of the window around page; a negative index clears it.
 void showPixel(QWidget *page, const Palette *palette, QPoint pixel, int index)
@@ -47,33 +56,65 @@ PixelEditor::PixelEditor(QSize imageSize, Qt::Orientation toolPalette, const QLi
     m_canvas->setExtended(true);
     setPaintSettings(new PaintSettings(m_canvas));
     addMenuEntries();
+    addTools(more);
+}
+
+void PixelEditor::addTools(const QList<ToolButton> &more)
+{
+    // those of the map editor, where it has the tool; the arrows by themselves scroll the picture
+    const QHash<ToolButton, QList<QKeySequence>> keys{
+        {Draw, {Qt::Key_D}},
+        {Line, {Qt::Key_L}},
+        {Rectangle, {Qt::Key_R}},
+        {RectangleFill, {Qt::SHIFT | Qt::Key_R}},
+        {Circle, {Qt::Key_E}},
+        {CircleFill, {Qt::SHIFT | Qt::Key_E}},
+        {Fill, {Qt::Key_F}},
+        {Pick, {Qt::Key_P}},
+        {Select, {Qt::Key_S}},
+        {Grid, {Qt::Key_G}},
+        {ZoomIn, {Qt::Key_Equal, Qt::Key_Plus}},
+        {ZoomOut, {Qt::Key_Minus}},
+        {Flip, {Qt::SHIFT | Qt::Key_F}},
+        {Mirror, {Qt::SHIFT | Qt::Key_M}},
+        {RotateCW, {Qt::CTRL | Qt::Key_R}},
+        {RotateCCW, {Qt::CTRL | Qt::SHIFT | Qt::Key_R}},
+    };
+    const auto add = [this, &keys](ToolPalette::Entry entry) {
+        entry.shortcuts = keys.value(entry.button);
+        m_tools->addEntry(entry);
+    };
+    m_tools->nameCommands(Place);
     for (const ToolButton button : {Draw, Line, Rectangle, RectangleFill, Circle, CircleFill, Fill, Pick, Select})
-        m_tools->addEntry(button);
+        add(ToolPalette::entryOf(button));
     // While something is being pasted, pasting is the tool in use.
     ToolPalette::Entry paste = ToolPalette::entryOf(Paste);
     paste.kind = ToolPalette::Tool;
-    m_tools->addEntry(paste);
+    add(paste);
     for (const ToolButton button : {Grid, ZoomIn, ZoomOut, Flip, Mirror, MoveUp, MoveDown, MoveLeft, MoveRight})
-        m_tools->addEntry(button);
+        add(ToolPalette::entryOf(button));
     for (const ToolButton button : more)
-        m_tools->addEntry(button);
+        add(ToolPalette::entryOf(button));
 }
 
-QAction *PixelEditor::addOption(QWidget *page, const QString &icon, const QString &text, const QString &toolTip)
+QAction *PixelEditor::addOption(QWidget *page, const QString &name, const QString &icon, const QString &text,
+                                const QString &toolTip)
 {
     auto *action = new QAction(themedIcon(icon), text, page);
     action->setCheckable(true);
     action->setToolTip(toolTip);
     action->setStatusTip(toolTip);
     m_optionsBar->addButton(action);
+    makeCommand(action, name);
+    page->addAction(action);
     return action;
 }
 
 void PixelEditor::offerPreviews(QWidget *page, const QList<std::pair<QString, PreviewWindow::Source>> &sources)
 {
-    QAction *action =
-        addOption(page, QStringLiteral(":/Preview"), QCoreApplication::translate("PixelEditor", "Preview"),
-                  QCoreApplication::translate("PixelEditor", "Show how the picture will look"));
+    QAction *action = addOption(page, QStringLiteral("preview"), QStringLiteral(":/Preview"),
+                                QCoreApplication::translate("PixelEditor", "Preview"),
+                                QCoreApplication::translate("PixelEditor", "Show how the picture will look"));
     QObject::connect(action, &QAction::toggled, m_canvas,
                      [this, action, sources, window = QPointer<PreviewWindow>()](bool on) mutable {
                          if (!window) {
@@ -98,6 +139,7 @@ QLayout *PixelEditor::toolRows() const
 
 void PixelEditor::connectCanvas(QWidget *page)
 {
+    addKeys(page);
     QObject::connect(m_canvas, &Canvas::modeChanged, m_tools, &ToolPalette::setMode);
     // A paste that is refused leaves the tool as it was, and the palette must not say otherwise.
     QObject::connect(m_tools, &ToolPalette::actionActivated, m_canvas,
@@ -107,19 +149,32 @@ void PixelEditor::connectCanvas(QWidget *page)
     QObject::connect(m_canvas, &Canvas::pixelHovered, page, [page, canvas = m_canvas](QPoint pixel, int index) {
         showPixel(page, canvas->palette(), pixel, index);
     });
+}
 
-    const auto add = [this, page](Qt::Key key, const QString &text, const std::function<void()> &run) {
+void PixelEditor::addKeys(QWidget *page)
+{
+    page->addActions(m_tools->actions());
+    m_keys = page;
+    const QList<QAction *> entries = m_canvas->contextMenu()->actions();
+    for (QAction *entry : entries) {
+        if (entry->objectName().startsWith(Place)) // not what the Edit menu has keys for
+            page->addAction(entry);
+    }
+    const auto add = [this, page](const QString &name, Qt::Key key, const QString &text,
+                                  const std::function<void()> &run) {
         auto *action = new QAction(text, page);
         action->setShortcut(key);
-        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
         QObject::connect(action, &QAction::triggered, m_canvas, run);
+        makeCommand(action, name);
         page->addAction(action);
     };
-    add(Qt::Key_X, QCoreApplication::translate("PixelEditor", "Swap foreground and background"),
+    add(QStringLiteral("swapColours"), Qt::Key_X,
+        QCoreApplication::translate("PixelEditor", "Swap foreground and background"),
         [this] { m_canvas->swapInkAndPaper(); });
-    add(Qt::Key_BracketLeft, QCoreApplication::translate("PixelEditor", "Smaller brush"),
+    add(QStringLiteral("smallerBrush"), Qt::Key_BracketLeft,
+        QCoreApplication::translate("PixelEditor", "Smaller brush"),
         [this] { m_settings->setBrushSize(m_settings->brushSize() - 1); });
-    add(Qt::Key_BracketRight, QCoreApplication::translate("PixelEditor", "Larger brush"),
+    add(QStringLiteral("largerBrush"), Qt::Key_BracketRight, QCoreApplication::translate("PixelEditor", "Larger brush"),
         [this] { m_settings->setBrushSize(m_settings->brushSize() + 1); });
 }
 
@@ -136,24 +191,29 @@ void PixelEditor::setPaintSettings(PaintSettings *settings)
     follow();
 }
 
-void PixelEditor::addMenuEntry(const QString &icon, const QString &text, const QString &toolTip,
+void PixelEditor::addMenuEntry(const QString &name, const QString &icon, const QString &text, const QString &toolTip,
                                const std::function<void()> &run)
 {
     QAction *action = m_canvas->contextMenu()->addAction(themedIcon(icon), text);
     action->setToolTip(toolTip);
     action->setStatusTip(toolTip);
     QObject::connect(action, &QAction::triggered, m_canvas, run);
+    makeCommand(action, name);
+    if (m_keys)
+        m_keys->addAction(action);
 }
 
 void PixelEditor::addMenuEntries()
 {
     m_canvas->contextMenu()->addSeparator();
-    addMenuEntry(QStringLiteral(":/ReplaceColour"), QCoreApplication::translate("PixelEditor", "Replace Colour"),
+    addMenuEntry(QStringLiteral("replaceColour"), QStringLiteral(":/ReplaceColour"),
+                 QCoreApplication::translate("PixelEditor", "Replace Colour"),
                  QCoreApplication::translate(
                      "PixelEditor",
                      "Gives pixels of the background colour the foreground colour, in the selection if there is one"),
                  [this] { replaceColour(); });
-    addMenuEntry(QStringLiteral(":/PictureBrush"), QCoreApplication::translate("PixelEditor", "Brush from Selection"),
+    addMenuEntry(QStringLiteral("brushFromSelection"), QStringLiteral(":/PictureBrush"),
+                 QCoreApplication::translate("PixelEditor", "Brush from Selection"),
                  QCoreApplication::translate(
                      "PixelEditor", "Draws with what is selected, without its pixels of the background colour"),
                  [this] { takeBrush(); });

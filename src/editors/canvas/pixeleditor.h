@@ -15,6 +15,7 @@
 class Canvas;
 class Layer2Image;
 class PaintOptionsBar;
+class QAction;
 class QEvent;
 class QLayout;
 class QUndoStack;
@@ -44,20 +45,22 @@ protected:
 
     ToolPalette *tools() const { return m_tools; }
     PaintOptionsBar *optionsBar() const { return m_optionsBar; }
-    /// Adds a button behind those of the bar. The action is checkable, and a child of page.
-    QAction *addOption(QWidget *page, const QString &icon, const QString &text, const QString &toolTip);
+    /// Adds a button behind those of the bar. The action is checkable, a child of page, and a command of the pixel
+    /// editors.
+    QAction *addOption(QWidget *page, const QString &name, const QString &icon, const QString &text,
+                       const QString &toolTip);
     /// A picture with the foreground colour in place of the background colour.
     QImage withColourReplaced(const QImage &picture) const;
-    /// Adds an entry to the end of the canvas's menu.
-    void addMenuEntry(const QString &icon, const QString &text, const QString &toolTip,
+    /// Adds an entry, a command of the pixel editors, to the end of the canvas's menu.
+    void addMenuEntry(const QString &name, const QString &icon, const QString &text, const QString &toolTip,
                       const std::function<void()> &run);
     /// Offers a window that shows these pictures of what is being painted.
     void offerPreviews(QWidget *page, const QList<std::pair<QString, PreviewWindow::Source>> &sources);
     /// The tools with the bar close below them.
     QLayout *toolRows() const;
 
-    /// Lets the tool palette show the tool in use, X exchange the two colours while the keyboard is in
-    /// page, and the window's status line tell the pixel under the pointer.
+    /// Lets the tool palette show the tool in use, keys choose tools and exchange the two colours while the keyboard is
+    /// in page, and the window's status line tell the pixel under the pointer.
     void connectCanvas(QWidget *page);
 
     /// Shows pixels of the asset; isLoading() tells them from those that were painted.
@@ -75,7 +78,10 @@ protected:
     void scrollByShortcutOverride(QEvent *event);
 
 private:
+    void addTools(const QList<Quenmora::Ui::ToolButton> &more);
     void addMenuEntries();
+    /// Lets the keys of all commands count while the keyboard is in page.
+    void addKeys(QWidget *page);
     void replaceColour();
     void replaceColourIn(Layer2Image &layer, const QRect &area) const;
     void takeBrush();
@@ -84,5 +90,6 @@ private:
     ToolPalette *const m_tools;
     PaintOptionsBar *const m_optionsBar;
     QPointer<PaintSettings> m_settings;
+    QPointer<QWidget> m_keys; ///< the page in which keys count, once it is known
     bool m_loading = false;
 };

@@ -3,6 +3,7 @@
 #include "editors/canvas/canvasclipboard.h"
 #include "editors/common/dragdata.h"
 #include "model/picturefile.h"
+#include "ui/commands.h"
 #include "ui/svgiconengine.h"
 
 #include <QClipboard>
@@ -36,16 +37,19 @@ namespace SpriteEditor {
 SpriteList::SpriteList(QWidget *parent) : CellGrid(SpriteDrag::mimeType(), tr("Sprite"), parent)
 {
     setAccessibleName(tr("Sprites"));
-    const auto addRequest = [this](const QString &text, void (SpriteList::*request)(int)) {
-        contextMenu()->addAction(text, this, [this, request] {
+    const auto addRequest = [this](const char *name, const QString &text, void (SpriteList::*request)(int)) {
+        QAction *action = contextMenu()->addAction(text, this, [this, request] {
             if (pressedIndex() >= 0)
                 emit(this->*request)(pressedIndex());
         });
+        Commands::addPointed(action, QLatin1String(name));
     };
-    addRequest(tr("Delete"), &SpriteList::deleteRequested);
-    addRequest(tr("Clear"), &SpriteList::clearRequested);
-    contextMenu()->addAction(tr("Copy Image"), this, &SpriteList::copyImage);
-    contextMenu()->addAction(tr("Paste Image"), this, &SpriteList::pasteImage);
+    addRequest("spriteList.delete", tr("Delete"), &SpriteList::deleteRequested);
+    addRequest("spriteList.clear", tr("Clear"), &SpriteList::clearRequested);
+    Commands::addPointed(contextMenu()->addAction(tr("Copy Image"), this, &SpriteList::copyImage),
+                         QStringLiteral("spriteList.copyImage"));
+    Commands::addPointed(contextMenu()->addAction(tr("Paste Image"), this, &SpriteList::pasteImage),
+                         QStringLiteral("spriteList.pasteImage"));
 }
 
 void SpriteList::setSprites(const QPointer<SpriteBank> &sprites)

@@ -42,7 +42,7 @@ SpriteWindow::SpriteWindow(QWidget *parent)
     , m_transparency(new QSpinBox)
     , m_header(new SectionHeader(QString()))
     , m_list(new SpriteEditor::SpriteList)
-    , m_onionSkin(addOption(this, QStringLiteral(":/Onion"), tr("Onion Skin"),
+    , m_onionSkin(addOption(this, QStringLiteral("onionSkin"), QStringLiteral(":/Onion"), tr("Onion Skin"),
                             tr("Show the sprite of the frame before faintly over this one")))
 {
     setObjectName(QStringLiteral("SpriteEditor"));
@@ -50,8 +50,9 @@ SpriteWindow::SpriteWindow(QWidget *parent)
     buildPage();
     connectParts();
     addPreviews();
-    addMenuEntry(QStringLiteral(":/ReplaceColour"), tr("Replace Colour in All Sprites"),
-                 tr("Does that in all sprites of the bank"), [this] { replaceColourInAllSprites(); });
+    addMenuEntry(QStringLiteral("replaceColourInAllSprites"), QStringLiteral(":/ReplaceColour"),
+                 tr("Replace Colour in All Sprites"), tr("Does that in all sprites of the bank"),
+                 [this] { replaceColourInAllSprites(); });
     setSprites(nullptr);
 }
 

@@ -1,6 +1,7 @@
 #include "editors/canvas/tilepickergrid.h"
 
 #include "model/palette.h"
+#include "ui/commands.h"
 
 #include <QMenu>
 #include <QMouseEvent>
@@ -27,15 +28,21 @@ TilePickerGrid::TilePickerGrid(QWidget *parent)
 
 void TilePickerGrid::buildMenu()
 {
-    contextMenu()->addAction(tr("Zoom In"), this, [this] { setMagnification(m_magnification + 1); });
-    contextMenu()->addAction(tr("Zoom Out"), this, [this] { setMagnification(m_magnification - 1); });
+    const auto addZoom = [this](const char *name, const QString &text, int step) {
+        QAction *action =
+            contextMenu()->addAction(text, this, [this, step] { setMagnification(m_magnification + step); });
+        action->setShortcutContext(Qt::WidgetShortcut);
+        addAction(Commands::add(action, QLatin1String(name)));
+    };
+    addZoom("tilePicker.zoomIn", tr("Zoom In"), 1);
+    addZoom("tilePicker.zoomOut", tr("Zoom Out"), -1);
     buildFactors();
     contextMenu()->addSeparator();
-    addTileAction(tr("Clear"), &TilePickerGrid::clearTile);
-    addTileAction(tr("Copy Image"), &TilePickerGrid::copyTileImage);
-    addTileAction(tr("Paste Image"), &TilePickerGrid::pasteTileImage);
-    addTileAction(tr("Insert"), &TilePickerGrid::insertTile);
-    addTileAction(tr("Delete"), &TilePickerGrid::deleteTile);
+    addTileAction("tilePicker.clear", tr("Clear"), &TilePickerGrid::clearTile);
+    addTileAction("tilePicker.copyImage", tr("Copy Image"), &TilePickerGrid::copyTileImage);
+    addTileAction("tilePicker.pasteImage", tr("Paste Image"), &TilePickerGrid::pasteTileImage);
+    addTileAction("tilePicker.insert", tr("Insert"), &TilePickerGrid::insertTile);
+    addTileAction("tilePicker.delete", tr("Delete"), &TilePickerGrid::deleteTile);
 }
 
 void TilePickerGrid::buildFactors()
@@ -47,6 +54,7 @@ void TilePickerGrid::buildFactors()
         action->setData(factor);
         action->setChecked(factor == m_magnification);
         m_factors->addAction(action);
+        Commands::add(action, QStringLiteral("tilePicker.magnification%1").arg(factor));
         connect(action, &QAction::triggered, this, [this, action, factor] {
             setMagnification(factor);
             action->setChecked(true); // choosing the factor in force must not clear its mark
@@ -54,12 +62,13 @@ void TilePickerGrid::buildFactors()
     }
 }
 
-void TilePickerGrid::addTileAction(const QString &text, void (TilePickerGrid::*edit)())
+void TilePickerGrid::addTileAction(const char *name, const QString &text, void (TilePickerGrid::*edit)())
 {
-    contextMenu()->addAction(text, this, [this, edit] {
+    QAction *action = contextMenu()->addAction(text, this, [this, edit] {
         if (m_tileSet && m_menuTile >= 0 && m_menuTile < m_tileSet->count())
             (this->*edit)();
     });
+    Commands::addPointed(action, QLatin1String(name));
 }
 
 void TilePickerGrid::clearTile()

@@ -63,7 +63,7 @@ protected:
 private:
     void buildMenu();
     void buildFactors();
-    void addTileAction(const QString &text, void (TilePickerGrid::*edit)());
+    void addTileAction(const char *name, const QString &text, void (TilePickerGrid::*edit)());
     void clearTile();
     void copyTileImage();
     void pasteTileImage();

@@ -68,8 +68,9 @@ TileWindow::TileWindow(QWidget *parent)
     setContent(scroller);
     connectParts();
     addPreviews();
-    addMenuEntry(QStringLiteral(":/ReplaceColour"), tr("Replace Colour in All Tiles"),
-                 tr("Does that in all tiles of this palette offset"), [this] { replaceColourInAllTiles(); });
+    addMenuEntry(QStringLiteral("replaceColourInAllTiles"), QStringLiteral(":/ReplaceColour"),
+                 tr("Replace Colour in All Tiles"), tr("Does that in all tiles of this palette offset"),
+                 [this] { replaceColourInAllTiles(); });
     setTileSet(nullptr);
 }
 

@@ -1,5 +1,6 @@
 #include "editors/common/animationlistwidget.h"
 
+#include "ui/commands.h"
 #include "ui/plaintext.h"
 #include "ui/quietlist.h"
 #include "ui/repeatedpress.h"
@@ -66,7 +67,10 @@ void AnimationListWidget::buildActions()
             emit cloneRequested(selected());
     });
     m_remove->setShortcut(QKeySequence::Delete);
-    m_remove->setShortcutContext(Qt::WidgetShortcut);
+    for (const auto &[made, name] : {std::pair(m_add, "add"), {m_remove, "delete"}, {m_clone, "clone"}}) {
+        made->setShortcutContext(Qt::WidgetShortcut);
+        Commands::add(made, QLatin1String("animationList.") + QLatin1String(name));
+    }
     m_remove->setEnabled(false);
     m_clone->setEnabled(false);
 

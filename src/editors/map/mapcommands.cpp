@@ -2,6 +2,7 @@
 
 #include "editors/map/mapeditorview.h"
 #include "editors/map/paintdesk.h"
+#include "ui/commands.h"
 #include "ui/svgiconengine.h"
 
 #include <QAction>
@@ -11,20 +12,24 @@ namespace MapEditor {
 MapCommands::MapCommands(QObject *parent) : QObject(parent)
 {
     addSeparator();
-    add(QStringLiteral(":/SelectSame"), tr("Select Same &Tile"), tr("Selects all cells that show the current tile"),
-        &PaintDesk::selectSameTile);
-    add(QStringLiteral(":/Swap"), tr("&Replace Tile…"),
-        tr("Puts one tile in place of another, in the selection, the map or all maps of the tile set"),
-        &PaintDesk::showReplaceDialog)
-        ->setShortcut(Qt::CTRL | Qt::Key_H);
-    add(QStringLiteral(":/Terrain"), tr("Edit Terrain&s…"), tr("Marks tiles whose borders match when they are painted"),
-        &PaintDesk::showTerrainDialog);
+    add({.name = "map.selectSameTile", .icon = ":/SelectSame", .run = &PaintDesk::selectSameTile},
+        tr("Select Same &Tile"), tr("Selects all cells that show the current tile"));
+    add({.name = "map.replaceTile",
+         .icon = ":/Swap",
+         .keys = Qt::CTRL | Qt::Key_H,
+         .run = &PaintDesk::showReplaceDialog},
+        tr("&Replace Tile…"),
+        tr("Puts one tile in place of another, in the selection, the map or all maps of the tile set"));
+    add({.name = "map.editTerrains", .icon = ":/Terrain", .run = &PaintDesk::showTerrainDialog}, tr("Edit Terrain&s…"),
+        tr("Marks tiles whose borders match when they are painted"));
     addSeparator();
-    add(QStringLiteral(":/Crosshair"), tr("Go to &Cell…"), tr("Scrolls the map to a cell"), &PaintDesk::showCellDialog)
-        ->setShortcut(Qt::CTRL | Qt::Key_G);
-    m_overview = add(QStringLiteral(":/Overview"), tr("&Overview"),
-                     tr("Shows the whole map in a corner, with the part that is in view to drag"), nullptr);
-    m_overview->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_O);
+    add({.name = "map.goToCell",
+         .icon = ":/Crosshair",
+         .keys = Qt::CTRL | Qt::Key_G,
+         .run = &PaintDesk::showCellDialog},
+        tr("Go to &Cell…"), tr("Scrolls the map to a cell"));
+    m_overview = add({.name = "map.overview", .icon = ":/Overview", .keys = Qt::CTRL | Qt::SHIFT | Qt::Key_O},
+                     tr("&Overview"), tr("Shows the whole map in a corner, with the part that is in view to drag"));
     m_overview->setCheckable(true);
     connect(m_overview, &QAction::triggered, this, [this](bool shown) {
         if (m_desk)
@@ -33,16 +38,17 @@ MapCommands::MapCommands(QObject *parent) : QObject(parent)
     setView(nullptr);
 }
 
-QAction *MapCommands::add(const QString &icon, const QString &text, const QString &toolTip,
-                          void (PaintDesk::*command)())
+QAction *MapCommands::add(const Entry &entry, const QString &text, const QString &toolTip)
 {
-    auto *action = new QAction(themedIcon(icon), text, this);
+    auto *action = new QAction(themedIcon(QLatin1String(entry.icon)), text, this);
+    action->setShortcut(entry.keys);
     action->setToolTip(toolTip);
     action->setStatusTip(toolTip);
-    if (command) {
-        connect(action, &QAction::triggered, this, [this, command] {
+    Commands::add(action, QLatin1String(entry.name));
+    if (entry.run) {
+        connect(action, &QAction::triggered, this, [this, run = entry.run] {
             if (m_desk)
-                (m_desk->*command)();
+                (m_desk->*run)();
         });
     }
     m_actions.append(action);

@@ -25,7 +25,15 @@ public:
     void setView(const QPointer<View> &view);
 
 private:
-    QAction *add(const QString &icon, const QString &text, const QString &toolTip, void (PaintDesk::*command)());
+    struct Entry
+    {
+        const char *name;
+        const char *icon;
+        QKeySequence keys = {};
+        void (PaintDesk::*run)() = nullptr;
+    };
+
+    QAction *add(const Entry &entry, const QString &text, const QString &toolTip);
     void addSeparator();
 
     QList<QAction *> m_actions;

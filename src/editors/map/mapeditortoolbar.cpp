@@ -1,5 +1,6 @@
 #include "editors/map/mapeditortoolbar.h"
 
+#include "ui/commands.h"
 #include "ui/svgiconengine.h"
 
 #include <QAction>
@@ -13,9 +14,12 @@ ToolBar::ToolBar(QWidget *parent) : QToolBar(tr("Map"), parent)
 {
     setObjectName(QStringLiteral("MapToolBar"));
 
-    m_tiles = addLayer(QStringLiteral(":/LayerTiles"), tr("Tiles"), tr("Show or hide the tile layer"));
-    m_objects = addLayer(QStringLiteral(":/LayerObjects"), tr("Objects"), tr("Show or hide the object layer"));
-    m_sprites = addLayer(QStringLiteral(":/LayerSprites"), tr("Sprites"), tr("Show or hide the sprite layer"));
+    m_tiles = addLayer(QStringLiteral("tiles"), QStringLiteral(":/LayerTiles"), tr("Tiles"),
+                       tr("Show or hide the tile layer"));
+    m_objects = addLayer(QStringLiteral("objects"), QStringLiteral(":/LayerObjects"), tr("Objects"),
+                         tr("Show or hide the object layer"));
+    m_sprites = addLayer(QStringLiteral("sprites"), QStringLiteral(":/LayerSprites"), tr("Sprites"),
+                         tr("Show or hide the sprite layer"));
     addSeparator();
 
     const QString viewportTip = tr("Size in cells of the viewport");
@@ -54,13 +58,13 @@ ToolBar::ToolBar(QWidget *parent) : QToolBar(tr("Map"), parent)
     connect(m_snap, &QSpinBox::valueChanged, this, &ToolBar::snapToValueChanged);
 }
 
-QAction *ToolBar::addLayer(const QString &icon, const QString &text, const QString &toolTip)
+QAction *ToolBar::addLayer(const QString &name, const QString &icon, const QString &text, const QString &toolTip)
 {
     QAction *action = addAction(themedIcon(icon), text);
     action->setCheckable(true);
     action->setChecked(true);
     action->setToolTip(toolTip);
-    return action;
+    return Commands::add(action, QLatin1String("mapLayers.") + name);
 }
 
 QSpinBox *ToolBar::addSpinBox(int minimum, int maximum, int value, const QString &toolTip, const QString &name)

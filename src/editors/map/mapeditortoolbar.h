@@ -49,7 +49,7 @@ signals:
     void viewPortChanged(QSize size);
 
 private:
-    QAction *addLayer(const QString &icon, const QString &text, const QString &toolTip);
+    QAction *addLayer(const QString &name, const QString &icon, const QString &text, const QString &toolTip);
     QSpinBox *addSpinBox(int minimum, int maximum, int value, const QString &toolTip, const QString &name);
     void addLabel(const QString &text);
 

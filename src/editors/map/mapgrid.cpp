@@ -4,6 +4,7 @@
 #include "editors/map/mapnavigator.h"
 #include "editors/map/mappainter.h"
 #include "model/placedsprites.h"
+#include "ui/commands.h"
 #include "ui/outlineband.h"
 
 #include <QElapsedTimer>
@@ -37,13 +38,21 @@ MapGrid::~MapGrid() = default;
 
 void MapGrid::buildContextMenu()
 {
-    m_contextMenu->addAction(tr("Cut"), this, &MapGrid::cutSelection);
-    m_contextMenu->addAction(tr("Copy"), this, &MapGrid::copySelection);
-    m_contextMenu->addAction(tr("Copy to new map"), this, &MapGrid::mapFromSelection);
-    m_contextMenu->addAction(tr("Copy as Image"), this, &MapGrid::copyAsImage);
-    m_contextMenu->addAction(tr("Fill"), this, &MapGrid::fillSelection);
+    const auto add = [this](const char *name, const QString &text, auto run) {
+        return Commands::addPointed(m_contextMenu->addAction(text, this, run), QLatin1String(name));
+    };
+    const auto addCommand = [this](const char *name, const QString &text, void (MapGrid::*run)()) {
+        QAction *action = m_contextMenu->addAction(text, this, run);
+        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+        m_commands.append(Commands::add(action, QLatin1String(name)));
+    };
+    add("mapMenu.cut", tr("Cut"), &MapGrid::cutSelection);
+    add("mapMenu.copy", tr("Copy"), &MapGrid::copySelection);
+    addCommand("mapEditor.copyToNewMap", tr("Copy to new map"), &MapGrid::mapFromSelection);
+    addCommand("mapEditor.copyAsImage", tr("Copy as Image"), &MapGrid::copyAsImage);
+    addCommand("mapEditor.fillSelection", tr("Fill"), &MapGrid::fillSelection);
     m_contextMenu->addSeparator();
-    QAction *paste = m_contextMenu->addAction(tr("Paste"), this, [this] { setMode(Paste); });
+    QAction *paste = add("mapMenu.paste", tr("Paste"), [this] { setMode(Paste); });
     connect(m_contextMenu, &QMenu::aboutToShow, this, [this, paste] {
         paste->setEnabled(!MapClipboard::sizeFor(map()).isEmpty()
                           || (m_pastesPictures && MapClipboard::mayHoldPicture()));

@@ -30,6 +30,8 @@ public:
     explicit MapGrid(QWidget *parent = nullptr);
     ~MapGrid() override;
 
+    /// What the context menu can do beyond the Edit menu.
+    const QList<QAction *> &commands() const { return m_commands; }
     const QPointer<Map> &map() const override { return m_content.map(); }
     void setMap(const QPointer<Map> &map);
     const QList<QPointer<SpriteBank>> &spriteBanks() const override { return m_content.spriteBanks(); }
@@ -237,6 +239,7 @@ private:
     bool m_pastesPictures = false;
     OutlineBand *m_rubberBand;
     QMenu *m_contextMenu;
+    QList<QAction *> m_commands; ///< of the menu
 };
 
 } // namespace MapEditor

@@ -6,6 +6,7 @@ MapToolPalette::MapToolPalette(QWidget *parent) : ToolPalette(Qt::Vertical, pare
 {
     using namespace Quenmora::Ui;
     using Keys = QList<QKeySequence>;
+    nameCommands(QStringLiteral("mapEditor"));
     const auto add = [this](ToolButton button, const Keys &shortcuts = {}) {
         Entry entry = entryOf(button);
         entry.shortcuts = shortcuts;

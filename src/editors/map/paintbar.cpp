@@ -1,6 +1,7 @@
 #include "editors/map/paintbar.h"
 
 #include "model/palette.h"
+#include "ui/commands.h"
 #include "ui/svgiconengine.h"
 
 #include <QComboBox>
@@ -82,6 +83,7 @@ void PaintBar::addTerrainBox()
     connect(m_terrains, &QComboBox::currentIndexChanged, this, [this] { emit terrainChanged(terrain()); });
     QAction *edit = addAction(themedIcon(QStringLiteral(":/Rename")), tr("Edit Terrains…"));
     edit->setToolTip(tr("Marks the tiles of terrains"));
+    Commands::addPointed(edit, QStringLiteral("paintBar.editTerrains")); // the Map menu has the command
     connect(edit, &QAction::triggered, this, &PaintBar::terrainsRequested);
     if (auto *button = qobject_cast<QToolButton *>(widgetForAction(edit)))
         button->setIconSize({16, 16});

@@ -7,6 +7,7 @@
 #include "editors/map/maptoolpalette.h"
 #include "editors/map/resizedialog.h"
 #include "editors/map/spritepropertiespopover.h"
+#include "ui/commands.h"
 #include "ui/scrollbar.h"
 #include "ui/svgiconengine.h"
 
@@ -18,6 +19,17 @@
 #include <QToolButton>
 
 namespace MapEditor {
+
+namespace {
+
+/// Makes an action a command of the map editor, with keys that count while the keyboard is in the view.
+void addCommand(View *view, QAction *action, const char *name)
+{
+    action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    view->addAction(Commands::add(action, QLatin1String("mapEditor.") + QLatin1String(name)));
+}
+
+} // namespace
 
 void ViewBuilder::build()
 {
@@ -89,12 +101,14 @@ QToolButton *ViewBuilder::makeMapMenu()
     button->setAccessibleName(button->toolTip());
     button->setStyleSheet(QStringLiteral("QToolButton::menu-indicator { image: none; }"));
     auto *menu = new QMenu(button);
-    const auto add = [menu, view](const QString &icon, const QString &text, Quenmora::Ui::ToolButton action) {
-        QObject::connect(menu->addAction(themedIcon(icon), text), &QAction::triggered, view,
-                         [view, action] { view->toolPaletteClicked(action); });
+    const auto add = [menu, view](const char *name, const QString &icon, const QString &text,
+                                  Quenmora::Ui::ToolButton request) {
+        QAction *action = menu->addAction(themedIcon(icon), text);
+        QObject::connect(action, &QAction::triggered, view, [view, request] { view->toolPaletteClicked(request); });
+        addCommand(view, action, name);
     };
-    add(QStringLiteral(":/Resize"), View::tr("Resize Map…"), Quenmora::Ui::Resize);
-    add(QStringLiteral(":/Export"), View::tr("Export to Folder…"), Quenmora::Ui::Save);
+    add("resize", QStringLiteral(":/Resize"), View::tr("Resize Map…"), Quenmora::Ui::Resize);
+    add("exportToFolder", QStringLiteral(":/Export"), View::tr("Export to Folder…"), Quenmora::Ui::Save);
     button->setMenu(menu);
     return button;
 }
@@ -102,18 +116,18 @@ QToolButton *ViewBuilder::makeMapMenu()
 void ViewBuilder::addKeys()
 {
     m_view.addActions(m_view.m_toolPalette->actions());
-    const auto add = [this](const QString &text, const QList<QKeySequence> &shortcuts, auto handler) {
+    m_view.addActions(m_view.m_grid->commands());
+    const auto add = [this](const char *name, const QString &text, const QList<QKeySequence> &shortcuts, auto handler) {
         auto *action = new QAction(text, &m_view);
         action->setShortcuts(shortcuts);
-        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
         QObject::connect(action, &QAction::triggered, &m_view, handler);
-        m_view.addAction(action);
+        addCommand(&m_view, action, name);
     };
-    add(View::tr("Cancel"), {Qt::Key_Escape}, &View::cancel);
+    add("cancel", View::tr("Cancel"), {Qt::Key_Escape}, &View::cancel);
     QList<QKeySequence> deletion = QKeySequence::keyBindings(QKeySequence::Delete);
     if (!deletion.contains(QKeySequence(Qt::Key_Backspace)))
         deletion.append(Qt::Key_Backspace);
-    add(View::tr("Delete"), deletion, &View::deleteUnderPointer);
+    add("delete", View::tr("Delete"), deletion, &View::deleteUnderPointer);
 }
 
 void ViewBuilder::connectGrid()

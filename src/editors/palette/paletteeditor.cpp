@@ -3,8 +3,10 @@
 #include "editors/palette/channellevels.h"
 #include "editors/palette/coloureditor.h"
 #include "editors/palette/palettegrid.h"
+#include "ui/commands.h"
 #include "ui/svgiconengine.h"
 
+#include <QAction>
 #include <QHBoxLayout>
 #include <QToolButton>
 
@@ -14,16 +16,16 @@ PaletteEditor::PaletteEditor(QWidget *parent)
     : QWidget(parent)
     , m_grid(new PaletteGrid(this))
     , m_editor(new ColourEditor(this))
-    , m_darken(addTool(QStringLiteral(":/Darken"), tr("Darkens the selected colour(s)")))
-    , m_lighten(addTool(QStringLiteral(":/Lighten"), tr("Lightens the selected colour(s)")))
-    , m_gradient(addTool(QStringLiteral(":/Gradient"), tr("Create a gradient")))
+    , m_darken(addTool("darken", QStringLiteral(":/Darken"), tr("Darken"), tr("Darkens the selected colour(s)")))
+    , m_lighten(addTool("lighten", QStringLiteral(":/Lighten"), tr("Lighten"), tr("Lightens the selected colour(s)")))
+    , m_gradient(addTool("gradient", QStringLiteral(":/Gradient"), tr("Gradient"), tr("Create a gradient")))
 {
     m_grid->setObjectName(QStringLiteral("paletteWidget"));
 
     auto *tools = new QHBoxLayout;
     tools->setSpacing(2);
-    for (QToolButton *tool : {m_darken, m_lighten, m_gradient})
-        tools->addWidget(tool);
+    for (QAction *tool : {m_darken, m_lighten, m_gradient})
+        tools->addWidget(buttonFor(tool));
     tools->addStretch();
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -34,21 +36,29 @@ PaletteEditor::PaletteEditor(QWidget *parent)
 
     connect(m_grid, &PaletteGrid::selectionChanged, this, &PaletteEditor::setSelection);
     connect(m_editor, &ColourEditor::colourChanged, this, &PaletteEditor::applyColour);
-    connect(m_darken, &QToolButton::clicked, m_editor, &ColourEditor::darken);
-    connect(m_lighten, &QToolButton::clicked, m_editor, &ColourEditor::lighten);
-    connect(m_gradient, &QToolButton::clicked, this, &PaletteEditor::createGradient);
+    connect(m_darken, &QAction::triggered, m_editor, &ColourEditor::darken);
+    connect(m_lighten, &QAction::triggered, m_editor, &ColourEditor::lighten);
+    connect(m_gradient, &QAction::triggered, this, &PaletteEditor::createGradient);
     setPalette(nullptr);
 }
 
-QToolButton *PaletteEditor::addTool(const QString &icon, const QString &toolTip)
+QAction *PaletteEditor::addTool(const char *name, const QString &icon, const QString &text, const QString &toolTip)
 {
-    auto *tool = new QToolButton(this);
-    tool->setIcon(themedIcon(icon));
-    tool->setIconSize({24, 24});
-    tool->setAutoRaise(true);
+    auto *tool = new QAction(themedIcon(icon), text, this);
     tool->setToolTip(toolTip);
-    tool->setAccessibleName(toolTip);
+    tool->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    addAction(Commands::add(tool, QLatin1String("colours.") + QLatin1String(name)));
     return tool;
+}
+
+QToolButton *PaletteEditor::buttonFor(QAction *tool)
+{
+    auto *button = new QToolButton(this);
+    button->setDefaultAction(tool);
+    button->setIconSize({24, 24});
+    button->setAutoRaise(true);
+    button->setAccessibleName(tool->toolTip());
+    return button;
 }
 
 void PaletteEditor::setPalette(const QPointer<Palette> &palette)

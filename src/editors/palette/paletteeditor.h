@@ -7,6 +7,7 @@
 
 class ColourEditor;
 class PaletteGrid;
+class QAction;
 class QToolButton;
 
 /// Edits the colours of a palette: its grid, the colour editor for the selected run of entries, and
@@ -47,16 +48,17 @@ signals:
     void selectionChanged(int first, int last);
 
 private:
-    QToolButton *addTool(const QString &icon, const QString &toolTip);
+    QAction *addTool(const char *name, const QString &icon, const QString &text, const QString &toolTip);
+    QToolButton *buttonFor(QAction *tool);
     void updateTools();
     void loadSelection();
 
     QPointer<Palette> m_palette;
     PaletteGrid *m_grid;
     ColourEditor *m_editor;
-    QToolButton *m_darken;
-    QToolButton *m_lighten;
-    QToolButton *m_gradient;
+    QAction *m_darken;
+    QAction *m_lighten;
+    QAction *m_gradient;
     int m_first = 0;
     int m_last = 0;
     bool m_hasSelection = false;

@@ -3,6 +3,7 @@
 #include "editors/palette/paletteeditor.h"
 #include "editors/palette/palettegrid.h"
 #include "model/plural.h"
+#include "ui/commands.h"
 #include "ui/svgiconengine.h"
 #include "undo/paletteordercommand.h"
 
@@ -13,39 +14,42 @@
 
 PaletteTools::PaletteTools(PaletteEditor *editor, QMenu *menu, QObject *parent) : QObject(parent), m_editor(editor)
 {
-    const auto add = [this, menu](const QString &icon, const QString &text, const QString &toolTip, auto run) {
+    const auto add = [this, menu](const char *name, const QString &icon, const QString &text, const QString &toolTip,
+                                  auto run) {
         QAction *action = menu->addAction(themedIcon(icon), text);
         action->setToolTip(toolTip);
         action->setStatusTip(toolTip);
+        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+        Commands::add(action, QLatin1String("paletteEditor.") + QLatin1String(name));
         connect(action, &QAction::triggered, this, run);
     };
-    const auto addOrder = [&](const QString &icon, const QString &text, const QString &toolTip, Order order,
-                              const QString &step) {
-        add(icon, text, toolTip, [this, order, step] { sort(order, step); });
+    const auto addOrder = [&](const char *name, const QString &icon, const QString &text, const QString &toolTip,
+                              Order order, const QString &step) {
+        add(name, icon, text, toolTip, [this, order, step] { sort(order, step); });
     };
     menu->setToolTipsVisible(true);
     menu->addSeparator();
-    addOrder(QStringLiteral(":/Sort"), tr("Sort by &Hue"),
+    addOrder("sortByHue", QStringLiteral(":/Sort"), tr("Sort by &Hue"),
              tr("Orders the selected entries from red over green to blue, greys first; pictures keep their look"),
              ByHue, tr("Sort Palette"));
-    addOrder(QStringLiteral(":/Sort"), tr("Sort by &Brightness"),
+    addOrder("sortByBrightness", QStringLiteral(":/Sort"), tr("Sort by &Brightness"),
              tr("Orders the selected entries from dark to light; pictures keep their look"), ByBrightness,
              tr("Sort Palette"));
-    addOrder(QStringLiteral(":/Flip"), tr("Re&verse"),
+    addOrder("reverse", QStringLiteral(":/Flip"), tr("Re&verse"),
              tr("Puts the selected entries into the opposite order; pictures keep their look"), Reversed,
              tr("Reverse Palette"));
-    addOrder(QStringLiteral(":/Swap"), tr("E&xchange Ends"),
+    addOrder("exchangeEnds", QStringLiteral(":/Swap"), tr("E&xchange Ends"),
              tr("Lets the first and the last selected entry change places; pictures keep their look"), EndsExchanged,
              tr("Exchange Palette Entries"));
     menu->addSeparator();
-    add(QStringLiteral(":/Gradient"), tr("&Gradient in Machine Steps"),
+    add("evenGradient", QStringLiteral(":/Gradient"), tr("&Gradient in Machine Steps"),
         tr("Spreads the selection from its first to its last colour, each channel in the nearest of its eight levels"),
         [this] { m_editor->createEvenGradient(); });
     menu->addSeparator();
-    add(QStringLiteral(":/Search"), tr("Mark &Unused Entries"), tr("Marks the entries that no pixel has"),
+    add("markUnused", QStringLiteral(":/Search"), tr("Mark &Unused Entries"), tr("Marks the entries that no pixel has"),
         [this] { mark(Unused); });
-    add(QStringLiteral(":/Search"), tr("Mark E&qual Entries"), tr("Marks the entries whose colour others have, too"),
-        [this] { mark(Equal); });
+    add("markEqual", QStringLiteral(":/Search"), tr("Mark E&qual Entries"),
+        tr("Marks the entries whose colour others have, too"), [this] { mark(Equal); });
     m_editor->grid()->setNotes([this](int entry) {
         if (!m_project || !m_editor->palette())
             return QString();

@@ -3,6 +3,7 @@
 #include "editors/palette/paletteeditor.h"
 #include "editors/palette/palettetools.h"
 #include "model/assetname.h"
+#include "ui/commands.h"
 #include "ui/svgiconengine.h"
 
 #include <QComboBox>
@@ -27,6 +28,7 @@ PaletteWindow::PaletteWindow(QWidget *parent)
     m_chooser->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     buildMenu();
     m_tools = new PaletteTools(m_editor, m_menu, this);
+    addActions(m_menu->actions());
     connect(m_tools, &PaletteTools::refused, this, &PaletteWindow::refused);
 
     auto *more = new QToolButton;
@@ -63,16 +65,19 @@ PaletteWindow::PaletteWindow(QWidget *parent)
 
 void PaletteWindow::buildMenu()
 {
-    const auto add = [this](const QString &text, const QString &icon, auto request) {
+    const auto add = [this](const char *name, const QString &text, const QString &icon, auto request) {
         QAction *action = m_menu->addAction(themedIcon(icon), text);
         connect(action, &QAction::triggered, this, [this, request] {
             if (m_palette)
                 request();
         });
+        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+        Commands::add(action, QLatin1String(name));
     };
-    add(tr("&Rename"), QStringLiteral(":/Rename"), [this] { startRenaming(); });
-    add(tr("&Copy"), QStringLiteral(":/Copy"), [this] { emit copyRequested(m_palette->id()); });
-    add(tr("&Delete"), QStringLiteral(":/Trashcan"), [this] { emit deleteRequested(m_palette->id()); });
+    add("paletteEditor.rename", tr("&Rename"), QStringLiteral(":/Rename"), [this] { startRenaming(); });
+    add("paletteEditor.copy", tr("&Copy"), QStringLiteral(":/Copy"), [this] { emit copyRequested(m_palette->id()); });
+    add("paletteEditor.delete", tr("&Delete"), QStringLiteral(":/Trashcan"),
+        [this] { emit deleteRequested(m_palette->id()); });
 }
 
 void PaletteWindow::setUndoStackProvider(const EditRecorder::StackProvider &stackFor)
