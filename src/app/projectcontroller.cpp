@@ -136,7 +136,7 @@ bool ProjectController::isModified() const
 
 bool ProjectController::hasUnsavedChanges() const
 {
-    return !m_isClean() || m_store.fingerprint() != m_savedFingerprint;
+    return !m_isClean() || !haveSameContent(snapshotOf(*m_project, false), m_saved);
 }
 
 bool ProjectController::confirmClose()
@@ -228,7 +228,7 @@ void ProjectController::showModified()
     follow(FileState(filePath()));
     loadExtras(filePath());
     emit projectOpened(m_project);
-    m_savedFingerprint.clear();
+    m_saved.clear();
     m_markClean();
 }
 
@@ -274,7 +274,7 @@ bool ProjectController::write(const QString &file)
     if (written || file == m_file.fileName()) {
         const FileState left(file); // also what a failed save left behind is no foreign change
         if (!left.hasContentOf(m_file))
-            m_savedFingerprint.clear(); // until the save has succeeded nothing is safe
+            m_saved.clear(); // until the save has succeeded nothing is safe
         follow(left);
     }
     if (written && !named)
@@ -310,7 +310,7 @@ void ProjectController::close()
 
 void ProjectController::markSaved()
 {
-    m_savedFingerprint = m_store.fingerprint();
+    m_saved = snapshotOf(*m_project, false);
     m_proposedFile.clear();
     m_markClean();
     m_unmodified();
@@ -383,7 +383,7 @@ bool ProjectController::settleForeignChange()
             return false;
         }
         m_file = m_seenFile;
-        m_savedFingerprint.clear(); // the project is in no file any more
+        m_saved.clear(); // the project is in no file any more
     }
     return true;
 }

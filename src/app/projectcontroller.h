@@ -41,7 +41,7 @@ public:
 
     /// Whether there is something to save: an undo stack that is not clean, or content that differs from
     /// what was last created, opened or saved, or a file that was seen to hold no longer what was. Which tabs are open
-    /// does not count.
+    /// does not count. Costs what was changed since.
     [[nodiscard]] bool isModified() const;
 
     /// The open project, or null.
@@ -131,8 +131,8 @@ private:
     ProjectStore m_store;
     QPointer<Project> m_project;
     ExtrasFile m_extrasFile;
-    /// The store's fingerprint when the project was last created, opened or saved.
-    QByteArray m_savedFingerprint;
+    /// The content when the project was last created, opened or saved; empty for one that is in no file as it was.
+    ProjectSnapshot m_saved;
     FileState m_file; ///< as it was when the project was last opened or saved
     FileState m_seenFile; ///< as it was when it was last looked at
     bool m_asking = false; ///< about a foreign change
