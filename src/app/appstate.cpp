@@ -69,6 +69,11 @@ QString AppState::recoveryFolder()
     return Platform::homeFolder().filePath(ConfigurationFolder + QStringLiteral("/recovery"));
 }
 
+QString AppState::shortcutsFile() const
+{
+    return m_folder.filePath(QStringLiteral("shortcuts.json"));
+}
+
 bool AppState::loadState()
 {
     const auto document = readJson(m_folder.filePath(StateFile), StateWarning);

@@ -45,6 +45,9 @@ public:
     /// The folder for copies of projects, for the time after a crash.
     [[nodiscard]] static QString recoveryFolder();
 
+    /// The file that keeps the keys which were chosen for commands.
+    [[nodiscard]] QString shortcutsFile() const;
+
     /// Full paths of recent projects, the latest first.
     [[nodiscard]] QStringList recentFiles() const { return m_recentFiles; }
     void setRecentFiles(const QStringList &paths) { m_recentFiles = paths; }

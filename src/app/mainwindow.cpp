@@ -1,5 +1,6 @@
 #include "app/mainwindow.h"
 
+#include "app/commands/commanddesk.h"
 #include "app/exportmessages.h"
 #include "app/exportproject/projectexport.h"
 #include "app/importfile/fileimport.h"
@@ -15,9 +16,11 @@
 #include "app/recoverylist.h"
 #include "app/returnwatch.h"
 #include "app/startpage.h"
+#include "app/unsavedmark.h"
 #include "app/version.h"
 #include "editors/map/mapeditorview.h"
 #include "preferences/generalpage.h"
+#include "ui/commands.h"
 #include "ui/messagedialog.h"
 #include "ui/plaintext.h"
 #include "ui/question.h"
@@ -72,6 +75,9 @@ MainWindow::MainWindow(QWidget *parent)
     , m_projectExport(new ProjectExport(&m_projectController, this))
     , m_fileImport(new FileImport([this] { return m_projectController.project(); }, &m_menuBar, &m_actions, this))
     , m_importKeeper(new ImportKeeper(&m_projectController, &m_documents, this))
+    , m_commands(new CommandDesk(
+          this, m_views,
+          {[this] { return m_projectController.project(); }, &m_documents, [this](int index) { showTile(index); }}))
 {
     PlainToolTips::enforce();
     m_mapToolBar.setEnabled(false);
@@ -99,6 +105,7 @@ MainWindow::MainWindow(QWidget *parent)
     connectPainting();
     connectRecovery();
     connectImports();
+    connectCommands();
     m_menuBar.viewMenu()->setChecked(ViewMenu::CheckableItem::ScratchEditor, false);
     show();
     statusBar()->showMessage(windowTitle());
@@ -262,6 +269,20 @@ void MainWindow::connectImports()
             });
 }
 
+void MainWindow::connectCommands()
+{
+    connect(m_menuBar.helpMenu(), &HelpMenu::showCommandPalette, m_commands, &CommandDesk::showPalette);
+    connect(m_menuBar.helpMenu(), &HelpMenu::showShortcuts, m_commands, &CommandDesk::showShortcuts);
+    const QList<QToolBar *> bars = findChildren<QToolBar *>(Qt::FindDirectChildrenOnly);
+    for (const QToolBar *bar : bars)
+        addAction(Commands::add(bar->toggleViewAction(), QStringLiteral("toolBars.") + bar->objectName().remove(u' ')));
+    const auto tell = [this](const QString &text, const QString &title, const QString &reason) {
+        messageDialog()->showMessage(text, title, reason);
+    };
+    connect(m_commands, &CommandDesk::failed, this, tell, Qt::QueuedConnection); // over the window, once it is there
+    statusBar()->addPermanentWidget(new UnsavedMark([this] { return m_projectController.isModified(); }, this));
+}
+
 void MainWindow::deleteItem(ProjectTree::ProjectNode node, const QUuid &id)
 {
     const QPointer<Project> project = m_projectController.project();
@@ -300,6 +321,7 @@ void MainWindow::loadState()
         m_painting.fromJson(m_state.loadPainting().object());
     }
     emit m_painting.changed();
+    m_commands->load(m_state.shortcutsFile());
     m_layout.restoreLayout(m_state);
     m_menuBar.fileMenu()->setRecentFiles(m_state.recentFiles());
     m_tilePicker.setMagnification(m_state.tileZoom());

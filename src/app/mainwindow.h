@@ -31,6 +31,7 @@
 #include <functional>
 #include <utility>
 
+class CommandDesk;
 class ExportMessages;
 class FileImport;
 class ImportKeeper;
@@ -66,6 +67,7 @@ public:
     [[nodiscard]] ProjectExport *projectExport() { return m_projectExport; }
     [[nodiscard]] FileImport *fileImport() { return m_fileImport; }
     [[nodiscard]] ImportKeeper *importKeeper() { return m_importKeeper; }
+    [[nodiscard]] CommandDesk *commands() { return m_commands; }
     [[nodiscard]] const DocumentViews &views() const { return m_views; }
     [[nodiscard]] RecoveryKeeper *recoveryKeeper() { return &m_recoveryKeeper; }
     [[nodiscard]] RecoveryOffers *recoveryOffers() { return &m_recoveryOffers; }
@@ -102,6 +104,7 @@ private:
     void connectPainting();
     void connectRecovery();
     void connectImports();
+    void connectCommands();
     /// Deletes an asset that may be deleted when the person, who is asked, wants that.
     void deleteItem(ProjectTree::ProjectNode node, const QUuid &id);
 
@@ -151,4 +154,5 @@ private:
     ProjectExport *m_projectExport;
     FileImport *m_fileImport;
     ImportKeeper *m_importKeeper;
+    CommandDesk *m_commands;
 };

@@ -1,0 +1,420 @@
+#include "app/mainwindow.h"
+
+#include "app/commands/commanddesk.h"
+#include "app/commands/commandpalette.h"
+#include "app/commands/commandplaces.h"
+#include "app/commands/commandsearch.h"
+#include "app/commands/shortcutsfile.h"
+#include "app/commands/shortcuttable.h"
+#include "app/menus/filemenu.h"
+#include "app/unsavedmark.h"
+#include "editors/canvas/canvas.h"
+#include "editors/canvas/imageeditorview.h"
+#include "editors/map/mapeditorview.h"
+#include "editors/map/mapgrid.h"
+#include "support/modeltools.h"
+#include "support/sampleproject.h"
+#include "support/testmain.h"
+#include "ui/messagedialog.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDir>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLineEdit>
+#include <QListView>
+#include <QMenu>
+#include <QSignalSpy>
+#include <QStatusBar>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QToolBar>
+
+#include <memory>
+
+namespace {
+
+const QString Draw = "mapEditor.draw";
+
+QString shortcutsPath(const QString &suffix = {})
+{
+    return QDir::home().filePath(".config/quenmora/shortcuts.json" + suffix);
+}
+
+QString textOf(const Commands::Keys &keys)
+{
+    return QKeySequence::listToString(keys, QKeySequence::PortableText);
+}
+
+/// Menus say "Fill", whichever letter is underlined.
+QList<QAction *> actionsWithText(const QWidget &window)
+{
+    QList<QAction *> actions = window.findChildren<QAction *>();
+    actions.removeIf([&window](const QAction *action) {
+        const auto *bar = qobject_cast<const QToolBar *>(action->parent());
+        const bool isFixed = bar && bar->parentWidget() != &window; // within an editor, where nobody hides it
+        return action->isSeparator() || action->menu() || action->text().isEmpty()
+            || (isFixed && action == bar->toggleViewAction());
+    });
+    return actions;
+}
+
+} // namespace
+
+/// Commands by their names: their keys, the file that keeps these, and the palette that finds them.
+class TestCommands : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { Update::UpdateChecker::setFeedAddress({}); }
+    void init()
+    {
+        QDir(QFileInfo(shortcutsPath()).path()).removeRecursively();
+        openWindow();
+    }
+    void cleanup()
+    {
+        m_window.reset();
+        Commands::instance()->choose({});
+    }
+
+    void everyCommandHasANameOfItsOwn()
+    {
+        openAll();
+        QHash<QString, const QAction *> named;
+        QStringList unnamed;
+        QSet<QPair<const QObject *, QString>> places;
+        for (const QAction *action : actionsWithText(*m_window)) {
+            const QString name = action->objectName();
+            const bool isLabel = action->text() == "None" || action->text() == "Main"; // no project, the palette
+            if (isLabel || action->property("filePath").isValid() || name.startsWith("_q_")) // which Qt adds to fields
+                continue;
+            if (!name.contains('.')) {
+                unnamed.append(action->text());
+                continue;
+            }
+            QVERIFY2(!places.contains({action->parent(), name}), qPrintable(name));
+            places.insert({action->parent(), name});
+            const QAction *same = named.value(name, action);
+            QVERIFY2(same->iconText() == action->iconText() || name.startsWith("edit."), qPrintable(name));
+            QCOMPARE(same->shortcuts(), action->shortcuts());
+            named.insert(name, action);
+        }
+        QCOMPARE(unnamed.join(", "), QString());
+        QVERIFY(named.size() > 150);
+
+        const QList<Commands::Command> commands = Commands::instance()->all();
+        const ShortcutTable table(commands, {}, CommandPlaces::canMeet);
+        for (int i = 0; i < commands.size(); ++i) {
+            const QByteArray name = commands.at(i).name.toUtf8();
+            QVERIFY2(!commands.at(i).text.isEmpty() && !CommandPlaces::placeOf(commands.at(i)).isEmpty(), name);
+            QVERIFY2(!table.hasDoubles(i), name);
+        }
+    }
+
+    void keysReachEditorsThatAreOpenedLater()
+    {
+        Commands::instance()->choose(
+            {{Draw, {Qt::Key_B}}, {"pixels.draw", {}}, {"file.save", {Qt::Key_F2, Qt::Key_F3}}});
+        openAll();
+        const auto keysOf = [](const QString &name) {
+            QStringList keys;
+            for (const QAction *action : Commands::instance()->actionsOf(name))
+                keys.append(textOf(action->shortcuts()));
+            keys.removeDuplicates();
+            return keys.join('|');
+        };
+        QCOMPARE(keysOf(Draw), "B");
+        QCOMPARE(Commands::instance()->actionsOf(Draw).first()->toolTip(), "Draw [B]");
+        QCOMPARE(keysOf("pixels.draw"), "");
+        QCOMPARE(Commands::instance()->actionsOf("pixels.draw").first()->toolTip(), "Draw");
+        QCOMPARE(keysOf("file.save"), "F2; F3");
+        // and those that are open get their usual ones back
+        Commands::instance()->choose({});
+        QCOMPARE(keysOf(Draw), "D");
+        QCOMPARE(Commands::instance()->actionsOf(Draw).first()->toolTip(), "Draw [D]");
+        QCOMPARE(keysOf("file.save"), "Ctrl+S");
+    }
+
+    void toolKeysLeaveTheArrowsAlone()
+    {
+        openAll();
+        m_window->documentController()->setActiveImageEditor(project().images().first()->id());
+        QApplication::setActiveWindow(m_window.get());
+        auto *editor = qobject_cast<ImageEditor::View *>(m_window->views().tabs->currentWidget());
+        Canvas *canvas = editor->canvas();
+        canvas->setFocus();
+        using namespace Quenmora::Ui;
+        for (const auto &[key, tool] : {std::pair(Qt::Key_L, Line),
+                                        {Qt::Key_F, Fill},
+                                        {Qt::Key_P, Pick},
+                                        {Qt::Key_S, Select},
+                                        {Qt::Key_E, Circle},
+                                        {Qt::Key_D, ToolButton::Draw}}) {
+            QTest::keyClick(canvas, key);
+            QCOMPARE(canvas->mode(), tool);
+        }
+        canvas->setZoomLevel(16);
+        const QSignalSpy scrolled(canvas, &Canvas::scrollPositionChanged);
+        QTest::keyClick(canvas, Qt::Key_Right);
+        QVERIFY(scrolled.size() > 0);
+        QCOMPARE(canvas->mode(), ToolButton::Draw);
+    }
+
+    // The file
+
+    void keepsWhatWasChosen_data()
+    {
+        QTest::addColumn<QString>("before");
+        QTest::addColumn<Commands::Choices>("read");
+        QTest::addColumn<Commands::Choices>("chosen");
+        QTest::addColumn<QString>("after"); // empty for no file
+        using Choices = Commands::Choices;
+        const auto keys = [](auto... key) { return Commands::Keys{QKeySequence(key)...}; };
+        QTest::newRow("none") << "" << Choices{} << Choices{} << "";
+        QTest::newRow("first") << "" << Choices{} << Choices{{"a.b", keys("Ctrl+K, Ctrl+S", "F5")}, {"a.c", {}}}
+                               << R"({"a.b":["Ctrl+K, Ctrl+S","F5"],"a.c":[]})";
+        QTest::newRow("reset") << R"({"a.b":["F5"]})" << Choices{{"a.b", keys("F5")}} << Choices{} << "";
+        QTest::newRow("twice the same") << R"({"a.b":["F5","F5"]})" << Choices{{"a.b", keys("F5")}}
+                                        << Choices{{"a.b", keys("F5")}} << R"({"a.b":["F5"]})";
+        // of a later version
+        QTest::newRow("not understood") << R"({"a.b":"F5","a.c":["Wink"],"a.d":[7],"a.e":[""],"z":["F6"]})"
+                                        << Choices{{"z", keys("F6")}} << Choices{{"a.d", keys("F7")}, {"z", keys("F6")}}
+                                        << R"({"a.b":"F5","a.c":["Wink"],"a.d":["F7"],"a.e":[""],"z":["F6"]})";
+    }
+
+    void keepsWhatWasChosen()
+    {
+        QFETCH(const QString, before);
+        QFETCH(const Commands::Choices, chosen);
+        QFETCH(const QString, after);
+        QVERIFY(before.isEmpty() || writeFile(shortcutsPath(), before.toUtf8()));
+        ShortcutsFile file(shortcutsPath());
+        QCOMPARE(file.load(), QString());
+        QTEST(file.choices(), "read");
+        QCOMPARE(file.save(chosen), QString());
+        QCOMPARE(QFile::exists(shortcutsPath()), !after.isEmpty());
+        const QByteArray written = QJsonDocument::fromJson(readFile(shortcutsPath())).toJson(QJsonDocument::Compact);
+        QCOMPARE(QString::fromUtf8(written), after);
+    }
+
+    void setsADamagedFileAside_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::newRow("empty") << QByteArray();
+        QTest::newRow("cut") << QByteArray(R"({"file.save": ["F5")");
+        QTest::newRow("list") << QByteArray(R"(["file.save"])");
+        QTest::newRow("endless") << QByteArray((1 << 20) + 1, ' ') + "{}";
+    }
+
+    void setsADamagedFileAside()
+    {
+        QFETCH(const QByteArray, bytes);
+        m_window.reset();
+        QVERIFY(writeFile(shortcutsPath(), bytes));
+        for (const bool told : {true, false}) { // once
+            openWindow();
+            QCoreApplication::processEvents();
+            QCOMPARE(m_window->messageDialog()->isVisible(), told);
+            m_window.reset();
+            QCOMPARE(readFile(shortcutsPath(".bad")), bytes);
+            QVERIFY(!QFile::exists(shortcutsPath()));
+        }
+    }
+
+    // Choosing
+
+    void knowsWhichKeysMeet_data()
+    {
+        QTest::addColumn<QString>("command");
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QString>("doubles");
+        QTest::newRow("own") << Draw << "D"
+                             << "";
+        QTest::newRow("same editor") << Draw << "L"
+                                     << "mapEditor.line";
+        QTest::newRow("another editor") << "mapEditor.placeAnim"
+                                        << "["
+                                        << "";
+        QTest::newRow("whole window") << Draw << "Ctrl+S"
+                                      << "file.save";
+        QTest::newRow("from the window") << "file.save"
+                                         << "D"
+                                         << "mapEditor.draw pixels.draw";
+        QTest::newRow("part of an editor") << "colours.darken"
+                                           << "X"
+                                           << "pixels.swapColours";
+        QTest::newRow("begins with it") << "file.save"
+                                        << "Ctrl+N, F"
+                                        << "file.new";
+    }
+
+    void knowsWhichKeysMeet()
+    {
+        openAll();
+        const ShortcutTable table(Commands::instance()->all(), {}, CommandPlaces::canMeet);
+        const auto indexOf = [&table](const QString &name) {
+            for (int i = 0; i < table.commands().size(); ++i) {
+                if (table.commands().at(i).name == name)
+                    return i;
+            }
+            return -1;
+        };
+        QFETCH(const QString, command);
+        QFETCH(const QString, key);
+        QStringList doubles;
+        for (const int other : table.doublesOf(indexOf(command), QKeySequence(key)))
+            doubles.append(table.commands().at(other).name);
+        doubles.sort();
+        QTEST(doubles.join(' '), "doubles");
+
+        ShortcutTable changed = table;
+        const int index = indexOf(command);
+        changed.setKeys(index, {QKeySequence(key), QKeySequence(), QKeySequence(key)});
+        QCOMPARE(textOf(changed.keysOf(index)), key);
+        QCOMPARE(changed.hasDoubles(index), !doubles.isEmpty());
+        for (const QString &other : std::as_const(doubles))
+            changed.removeKey(indexOf(other), QKeySequence(key));
+        QVERIFY(!changed.hasDoubles(index));
+        changed.setKeys(index, table.commands().at(index).usualKeys); // which is no difference
+        QCOMPARE(changed.choices().contains(command), false);
+        changed.resetAll();
+        QCOMPARE(changed.choices(), Commands::Choices());
+    }
+
+    // The palette
+
+    void findsTheBestFirst_data()
+    {
+        QTest::addColumn<QString>("query");
+        QTest::addColumn<QStringList>("found"); // the first ones
+        const auto row = [](const char *query, const QStringList &found) { QTest::newRow(query) << query << found; };
+        row("", {"New", "New Map", "New Palette", "Paste"}); // the disabled one does not come last by itself
+        row("new", {"New", "New Map", "New Palette"});
+        row("nm", {"New Map"});
+        row("map new", {"New Map"});
+        row("n pal", {"New Palette"});
+        row("NEWP", {"New Palette"});
+        row("ete", {u"\u00C9t\u00E9"_qs});
+        row("past", {"Paste"});
+        row("level", {"Level 2", "Level 10"});
+        row("level 1", {"Level 10"});
+        row("tile 3", {"Tile 3", "Tile 30"});
+        row("37", {"Tile 37"});
+        row("tile", {"Next Tile"}); // and not 40 with numbers
+        row("zzz", {});
+    }
+
+    void findsTheBestFirst()
+    {
+        QList<CommandSearch::Item> items{{"New", "File"},
+                                         {"New Map", "Map"},
+                                         {"New Palette", "Palette"},
+                                         {"Paste", "Edit"},
+                                         {u"\u00C9t\u00E9"_qs, "Palette"},
+                                         {"Level 2", "Map"},
+                                         {"Level 10", "Map"},
+                                         {"Next Tile", "Tiles"}};
+        for (int number = 1; number <= 40; ++number)
+            items.append({QString("Tile %1").arg(number), "Cave", true, true});
+        QFETCH(const QString, query);
+        QFETCH(const QStringList, found);
+        QStringList texts;
+        for (const int item : CommandSearch(items).find(query))
+            texts.append(items.at(item).text);
+        QCOMPARE(texts.mid(0, found.size()), found);
+        QVERIFY(!texts.isEmpty() || found.isEmpty());
+        QVERIFY(query != "zzz" || texts.isEmpty());
+        QVERIFY(query != "tile" || !texts.contains("Tile 3"));
+
+        // among equals: what can be run, and then what was used last
+        items[1].isEnabled = false;
+        if (query == "new")
+            QCOMPARE(CommandSearch(items).find("new", {2, 1}).mid(0, 3), (QList<int>{0, 2, 1}));
+    }
+
+    void paletteReachesCommandsAssetsAndTiles()
+    {
+        openAll();
+        QApplication::setActiveWindow(m_window.get());
+        const auto run = [this](const QString &query) {
+            m_window->commands()->showPalette();
+            auto *palette = m_window->findChild<CommandPalette *>();
+            auto *field = palette->findChild<QLineEdit *>();
+            QTest::keyClicks(field, query);
+            QTest::keyClick(field, Qt::Key_Down); // and around to
+            QTest::keyClick(field, Qt::Key_Up);
+            QTest::keyClick(field, Qt::Key_Return);
+            QCoreApplication::processEvents();
+            return !palette->isVisible();
+        };
+        m_window->documentController()->setActiveMap(project().maps().first()->id());
+        auto *map = qobject_cast<MapEditor::View *>(m_window->views().tabs->currentWidget());
+        QVERIFY(run("bucket fill"));
+        QCOMPARE(map->grid()->mode(), Quenmora::Ui::Fill);
+        QVERIFY(run("tile 2"));
+        QCOMPARE(m_window->views().tileEditor->tileIndex(), 1);
+        const auto image = project().images().first();
+        QVERIFY(run(image->name()));
+        QCOMPARE(DocumentTabView::documentId(m_window->views().tabs->currentWidget()), image->id());
+        QVERIFY(!run("bucket fill")); // belongs to the map, which is not in front
+    }
+
+    // What is not saved
+
+    void tellsOfUnsavedChanges()
+    {
+        openAll();
+        auto *mark = m_window->statusBar()->findChild<UnsavedMark *>();
+        const auto isMarked = [&] {
+            mark->look();
+            return mark->isVisible();
+        };
+        QTemporaryDir folder;
+        m_window->projectController()->setFileNameCallback([&folder] { return folder.filePath("a.quenmora"); });
+        const auto icon = [this] { return m_window->windowIcon().pixmap(32).toImage(); };
+        QVERIFY(isMarked());
+        const QImage marked = icon();
+        m_window->projectController()->save();
+        QVERIFY(!isMarked());
+        QVERIFY(icon() != marked);
+        const QString title = m_window->windowTitle();
+        const auto map = project().maps().first();
+        map->setName("Renamed"); // which no undo stack knows
+        QVERIFY(isMarked());
+        QCOMPARE(icon(), marked);
+        QCOMPARE(m_window->windowTitle(), title);
+        m_window->projectController()->save();
+        QVERIFY(!isMarked());
+        m_window->documentController()->undoStackFor(map->id())->push(new QUndoCommand);
+        QVERIFY(isMarked());
+        m_window->documentController()->undoStackFor(map->id())->undo();
+        QVERIFY(!isMarked());
+    }
+
+private:
+    [[nodiscard]] Project &project() { return *m_window->projectController()->project(); }
+    void openWindow()
+    {
+        m_window = std::make_unique<MainWindow>();
+        m_window->projectController()->setUnsavedAnswerCallback([](auto) { return ProjectController::Discard; });
+    }
+    /// Shows an asset of every kind.
+    void openAll()
+    {
+        m_window->projectController()->newProject("Sample");
+        SampleProject::fill(project());
+        DocumentController &documents = *m_window->documentController();
+        documents.setActiveImageEditor(project().images().first()->id());
+        documents.setActiveSpriteEditor(project().spriteBanks().first()->id());
+        documents.setActiveBlockEditor(project().blockSets().first()->id());
+        documents.setActiveMap(project().maps().first()->id());
+    }
+
+    std::unique_ptr<MainWindow> m_window;
+};
+
+QUENMORA_TEST_MAIN(TestCommands)
+#include "tst_commands.moc"
