@@ -5,6 +5,9 @@
 //
 // With names it saves only those pictures.
 
+#include "app/commands/commanddesk.h"
+#include "app/commands/commandpalette.h"
+#include "app/commands/shortcutsdialog.h"
 #include "app/dialogs/importimagedialog.h"
 #include "app/dialogs/importpicturedialog.h"
 #include "app/documentcontroller.h"
@@ -134,6 +137,7 @@ private:
     void takePainting(MapEditor::View &view);
     void takeMenus();
     void takeDialogs();
+    void takeCommands();
     void takePictureImport();
     void takeMap();
     void takePixels();
@@ -157,6 +161,7 @@ void PictureTaker::takeAll(const QString &sample)
     takeAnimations();
     takeMenus();
     takeDialogs();
+    takeCommands();
     takePictureImport();
     takeExport();
 }
@@ -319,6 +324,23 @@ void PictureTaker::takeMenus()
         save(menu->grab(), QStringLiteral("menu-") + title->text().remove(QLatin1Char('&')).toLower());
         menu->close();
     }
+}
+
+void PictureTaker::takeCommands()
+{
+    CommandDesk &desk = *m_window.commands();
+    desk.showPalette();
+    auto *palette = m_window.findChild<CommandPalette *>();
+    palette->findChild<QLineEdit *>()->setText(QStringLiteral("til"));
+    settle();
+    save(palette->grab(), QStringLiteral("command-palette"));
+    palette->hide();
+    desk.showShortcuts();
+    auto *dialog = m_window.findChild<ShortcutsDialog *>();
+    dialog->findChild<QLineEdit *>()->setText(QStringLiteral("map editor"));
+    settle();
+    save(dialog->grab(), QStringLiteral("shortcuts"));
+    dialog->reject();
 }
 
 void PictureTaker::takeDialogs()

@@ -11,8 +11,6 @@
 
 namespace {
 
-constexpr const char *Context = "CommandPlaces";
-
 /// What the names of the commands of menus begin with.
 constexpr const char *Menus[] = {"file", "edit", "palette", "tiles", "map", "sprites", "image", "view", "help"};
 
@@ -50,7 +48,7 @@ QString menuPath(const QAction &action)
                 return plainTitle(*menu);
         }
         if (const QString path = menuPath(*menu->menuAction()); !path.isEmpty())
-            return QCoreApplication::translate(Context, "%1 ▸ %2").arg(path, plainTitle(*menu));
+            return QCoreApplication::translate("CommandPlaces", "%1 ▸ %2").arg(path, plainTitle(*menu));
     }
     return {};
 }
@@ -83,7 +81,7 @@ QString CommandPlaces::placeOf(const Commands::Command &command)
     const QString place = command.name.section(u'.', 0, 0);
     for (const auto &[name, text] : Places) {
         if (place == QLatin1String(name))
-            return QCoreApplication::translate(Context, text);
+            return QCoreApplication::translate("CommandPlaces", text);
     }
     return {};
 }
