@@ -30,12 +30,22 @@ QIcon swatchOf(const Palette &palette)
     return QPixmap::fromImage(swatch.scaled(64, 64));
 }
 
+/// Room for so many letters is enough for names, which may be long.
+constexpr int UsualLength = 20;
+
 } // namespace
 
 AssetChooser::AssetChooser(QWidget *parent) : QComboBox(parent)
 {
-    setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon); // names may be long
-    setMinimumContentsLength(20);
+    setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    setMinimumContentsLength(UsualLength);
+}
+
+void AssetChooser::addNew(const QString &text)
+{
+    const int letters = fontMetrics().horizontalAdvance(text) / fontMetrics().horizontalAdvance(u'X') + 1;
+    setMinimumContentsLength(std::max(letters, UsualLength));
+    addItem(text, QUuid());
 }
 
 void AssetChooser::offerPalettes(const Project &project, const QString &newPalette)
@@ -44,7 +54,7 @@ void AssetChooser::offerPalettes(const Project &project, const QString &newPalet
     clear();
     setPlaceholderText(tr("No palettes"));
     if (!newPalette.isEmpty())
-        addItem(newPalette, QUuid());
+        addNew(newPalette);
     for (const QPointer<Palette> &palette : byName(project.palettes()))
         addItem(swatchOf(*palette), palette->name(), palette->id());
     choose(chosen);
@@ -64,7 +74,7 @@ void AssetChooser::offerAssets(const Project &project, NextData::AssetKind kind,
     clear();
     setPlaceholderText(tr("None"));
     if (!newAsset.isEmpty())
-        addItem(newAsset, QUuid());
+        addNew(newAsset);
     QList<NextData::Source> sources = NextData::Source::all(project);
     sources.removeIf([kind](const NextData::Source &source) { return source.kind() != kind; });
     std::stable_sort(sources.begin(), sources.end(), [](const NextData::Source &a, const NextData::Source &b) {

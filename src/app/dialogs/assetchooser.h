@@ -32,4 +32,8 @@ public:
     /// What keeps a new palette from having this name, as a sentence; empty when a palette of the project is
     /// chosen, or when no other has the name.
     [[nodiscard]] QString newPaletteProblem(const QString &name) const;
+
+private:
+    /// Offers a new asset, by a text that is always seen as a whole.
+    void addNew(const QString &text);
 };

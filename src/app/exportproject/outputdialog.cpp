@@ -78,6 +78,7 @@ void OutputDialog::offerForms()
         if (form.id == m_output.form || (source ? refusalOf(form, *source).isEmpty() : form.kind == m_output.kind))
             m_form->addItem(form.title, form.id);
     }
+    m_form->setMinimumWidth(m_form->sizeHint().width()); // also where windows of their own accord stay narrower
     m_form->setCurrentIndex(m_form->findData(m_output.form));
 }
 

@@ -1,0 +1,425 @@
+// All of the window in a language that shows what is not translated, and what is cut where texts are longer than the
+// English ones. QUENMORA_PICTURES=FOLDER leaves pictures of what was seen, and with QUENMORA_LANGUAGE=de of that
+// language instead.
+
+#include "app/mainwindow.h"
+
+#include "app/dialogs/importbinarydialog.h"
+#include "app/dialogs/importpicturedialog.h"
+#include "app/dialogs/importzxfontdialog.h"
+#include "app/exportproject/addoutputsdialog.h"
+#include "app/exportproject/exportprojectdialog.h"
+#include "app/exportproject/exportquestion.h"
+#include "app/exportproject/outputdialog.h"
+#include "app/exportproject/severaloutputsdialog.h"
+#include "app/foreignchange.h"
+#include "app/imports/pictureimport.h"
+#include "editors/canvas/imageimportdialog.h"
+#include "editors/map/exportdialog.h"
+#include "language/catalogues.h"
+#include "support/lupdate.h"
+#include "support/pseudolanguage.h"
+#include "support/sampleproject.h"
+#include "support/testmain.h"
+#include "support/usualrecipe.h"
+#include "update/updatedialog.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QAbstractSpinBox>
+#include <QColorDialog>
+#include <QComboBox>
+#include <QDirIterator>
+#include <QDockWidget>
+#include <QFileDialog>
+#include <QGroupBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QRegularExpression>
+#include <QStyleOptionComboBox>
+#include <QTabBar>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+#include <optional>
+
+namespace {
+
+/// Qt's own, which are as they are.
+bool isQts(const QWidget *widget)
+{
+    for (; widget; widget = widget->parentWidget()) {
+        if (qobject_cast<const QFileDialog *>(widget) || qobject_cast<const QColorDialog *>(widget))
+            return true;
+    }
+    return false;
+}
+
+/// What a widget says, whether seen or not.
+QStringList textsOf(const QWidget &widget)
+{
+    QStringList texts{widget.toolTip(), widget.statusTip(), widget.accessibleName(), widget.accessibleDescription()};
+    for (const char *name :
+         {"text", "title", "placeholderText", "prefix", "suffix", "specialValueText", "windowTitle"}) {
+        const bool isTyped = qobject_cast<const QLineEdit *>(&widget) && qstrcmp(name, "text") == 0;
+        if (!isTyped && !(widget.isWindow() && widget.inherits("MainWindow")))
+            texts.append(widget.property(name).toString());
+    }
+    for (const QAction *action : widget.actions())
+        texts += {action->text(), action->toolTip(), action->statusTip()};
+    if (const auto *bar = qobject_cast<const QTabBar *>(&widget)) {
+        for (int tab = 0; tab < bar->count(); ++tab)
+            texts += {bar->tabText(tab), bar->tabToolTip(tab)};
+    }
+    const auto *view = qobject_cast<const QAbstractItemView *>(&widget);
+    const auto *box = qobject_cast<const QComboBox *>(&widget);
+    if (const QAbstractItemModel *model = view ? view->model() : box ? box->model() : nullptr) {
+        for (int row = 0; row < model->rowCount(); ++row) {
+            for (int column = 0; column < model->columnCount(); ++column) {
+                for (const int role : {Qt::DisplayRole, Qt::ToolTipRole})
+                    texts.append(model->index(row, column).data(role).toString());
+            }
+        }
+        for (int section = 0; view && section < model->columnCount(); ++section)
+            texts.append(model->headerData(section, Qt::Horizontal).toString());
+    }
+    return texts;
+}
+
+/// How many pixels a widget lacks to show its text; 0 when all is seen.
+int missingWidth(QWidget &widget)
+{
+    const auto advance = [&widget](const QString &text) {
+        return widget.fontMetrics().size(Qt::TextShowMnemonic, text).width();
+    };
+    if (const auto *label = qobject_cast<QLabel *>(&widget)) {
+        if (label->wordWrap())
+            return std::max(label->heightForWidth(label->width()) - label->height(), 0);
+        return label->text().isEmpty() ? 0 : std::max(label->minimumSizeHint().width() - label->width(), 0);
+    }
+    if (const auto *box = qobject_cast<QComboBox *>(&widget)) {
+        QStyleOptionComboBox option;
+        option.initFrom(box);
+        option.editable = box->isEditable();
+        const QRect field =
+            box->style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, box);
+        const int icon = box->itemIcon(box->currentIndex()).isNull() ? 0 : box->iconSize().width() + 4;
+        return std::max(advance(box->currentText()) + icon - field.width(), 0);
+    }
+    if (const auto *bar = qobject_cast<QTabBar *>(&widget)) {
+        int most = 0;
+        for (int tab = 0; tab < bar->count(); ++tab)
+            most = std::max(most, advance(bar->tabText(tab)) - bar->tabRect(tab).width());
+        return bar->elideMode() == Qt::ElideNone ? most : 0; // where the tool tip says all
+    }
+    if (const auto *header = qobject_cast<QHeaderView *>(&widget)) {
+        int most = 0;
+        for (int section = 0; header->model() && section < header->count(); ++section) {
+            if (!header->isSectionHidden(section)
+                && !header->model()->headerData(section, header->orientation()).isNull())
+                most = std::max(most, header->sectionSizeHint(section) - header->sectionSize(section));
+        }
+        return most;
+    }
+    if (qobject_cast<QAbstractButton *>(&widget) && widget.property("text").toString().size() > 1)
+        return std::max(widget.minimumSizeHint().width() - widget.width(), 0);
+    if (auto *group = qobject_cast<QGroupBox *>(&widget))
+        return std::max(advance(group->title()) - group->width(), 0);
+    return 0;
+}
+
+} // namespace
+
+class TestLanguages : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        Update::UpdateChecker::setFeedAddress({});
+        QApplication::setApplicationDisplayName("Quenmora");
+        const QString language = qEnvironmentVariable("QUENMORA_LANGUAGE");
+        if (language.isEmpty()) {
+            const QString catalogue = m_folder.filePath("pseudo.ts");
+            QCOMPARE(Lupdate::run(catalogue), QString());
+            m_pseudo.emplace(catalogue);
+            QVERIFY(!m_pseudo->isEmpty());
+            QCoreApplication::installTranslator(&*m_pseudo);
+        } else {
+            qputenv("LANGUAGE", language.toUtf8());
+            Catalogues::install(*qApp);
+        }
+        m_window.emplace();
+        m_window->resize(1280, 800);
+        m_window->setDeletionCallback([](const DeletionQuestion &) { return false; });
+        m_window->projectController()->setUnsavedAnswerCallback([](auto) { return ProjectController::Discard; });
+        m_window->projectController()->setFileNameCallback([] { return QString(); });
+        m_window->menus()->setFileChooser([this](const FileRequest &request, QWidget *) { return fileFor(request); });
+        look("start");
+        m_window->projectController()->newProject("1");
+        look("empty");
+    }
+
+    /// Opens whatever menus and buttons open, with each kind of document in front.
+    void saysAndShowsAll()
+    {
+        SampleProject::fill(project());
+        noteNames();
+        DocumentController &documents = *m_window->documentController();
+        const auto visit = [this](const char *name) {
+            look(name);
+            useAll(name);
+        };
+        documents.setActivePalette(project().palettes().first()->id());
+        documents.setActiveImageEditor(project().images().first()->id());
+        visit("image");
+        documents.setActiveSpriteEditor(project().spriteBanks().first()->id());
+        visit("sprites");
+        documents.setActiveBlockEditor(project().blockSets().first()->id());
+        visit("blocks");
+        documents.setActiveMap(project().maps().first()->id());
+        visit("map");
+        for (QDockWidget *dock : m_window->findChildren<QDockWidget *>()) {
+            dock->show();
+            dock->raise();
+            look(qPrintable("dock-" + dock->objectName()));
+        }
+        lookAtOtherDialogs();
+        if (m_pseudo) {
+            QCOMPARE(dialogsOfTheProgram() - m_seen, QSet<QString>());
+            m_untranslated += m_pseudo->strangers();
+            m_untranslated.removeDuplicates();
+            m_cut.removeDuplicates();
+            for (const QString &text : std::as_const(m_untranslated))
+                qWarning("not translated: %s", qPrintable(text));
+            for (const QString &text : std::as_const(m_cut))
+                qWarning("cut: %s", qPrintable(text));
+            QCOMPARE(m_untranslated.size() + m_cut.size(), 0);
+        }
+    }
+
+    void cleanupTestCase()
+    {
+        m_window.reset();
+        if (m_pseudo)
+            QCoreApplication::removeTranslator(&*m_pseudo);
+    }
+
+private:
+    Project &project() { return *m_window->projectController()->project(); }
+
+    /// Opens what no menu opens with the sample project as it is.
+    void lookAtOtherDialogs()
+    {
+        Project &sample = project();
+        QImage picture(240, 160, QImage::Format_ARGB32);
+        for (int i = 0; i < 240 * 160; ++i)
+            picture.setPixel(i % 240, i / 240,
+                             qRgba(i * 37 % 256, i * (i % 101) / 7 % 256, i * 7 % 256, i % 3 ? 255 : 0));
+        const QString file = m_folder.filePath("4.png");
+        QVERIFY(picture.save(file));
+        const auto show = [this](QDialog &dialog) {
+            dialog.show();
+            look(dialog.metaObject()->className(), false);
+        };
+        const QPointer<TileSet> tiles = sample.tileSets().first();
+        ImportPictureDialog picturesTiles;
+        picturesTiles.show(file, PictureLoss::of(file, nullptr));
+        show(picturesTiles);
+        ImportZXFontDialog font;
+        font.show(*tiles);
+        show(font);
+        SpriteEditor::ImportBinaryDialog sprites;
+        sprites.show(sample, fileFor({{}, {"*.spr"}}));
+        show(sprites);
+        ImageEditor::ImportDialog image;
+        image.setOffersNewPalette(true);
+        image.show(picture, sample.palettes().first(), {256, 192}, 256);
+        show(image);
+        MapEditor::ExportDialog map;
+        map.offer(*sample.maps().first(), QDir(m_folder.path()));
+        show(map);
+        UpdateDialog update;
+        update.setRelease({"0.8", "stable", "2026-12-01", {}, {}}, "0.7", "2026-10-15");
+        show(update);
+        const NextData::Recipe recipe = usualRecipe(sample);
+        ExportProjectDialog exports;
+        exports.show(sample, m_folder.filePath("5.quenmora"), recipe, true);
+        show(exports);
+        exports.show(sample, m_folder.filePath("5.quenmora"), {}, true);
+        show(exports);
+        AddOutputsDialog outputs;
+        outputs.show(sample, {});
+        show(outputs);
+        OutputDialog output;
+        for (const NextData::RecipeOutput &each : recipe.outputs()) {
+            output.show(sample, each, NextData::TakenFiles());
+            show(output);
+        }
+        SeveralOutputsDialog several;
+        several.show(2);
+        show(several);
+        for (const auto kind : {ExportQuestion::Kind::SaveProject, ExportQuestion::Kind::StartAnew,
+                                ExportQuestion::Kind::ReplaceRecipe}) {
+            QTimer::singleShot(0, this, [this] { look("export-question", false); });
+            QVERIFY(!askAboutExport(&*m_window, {kind, "/1", "2"}));
+        }
+        QTimer::singleShot(0, this, [this] { look("foreign-change", false); });
+        QCOMPARE(askAboutForeignChange(&*m_window, {"/1", true}), ForeignChange::Cancel);
+    }
+
+    /// The names of the classes of dialogs in the sources, but of those that others are made of.
+    [[nodiscard]] static QSet<QString> dialogsOfTheProgram()
+    {
+        static const QRegularExpression named(
+            QStringLiteral("\\nclass (\\w+)(?: final)? *: *public (?:QDialog|DialogBase|CreationDialog)\\b"));
+        QSet<QString> dialogs;
+        for (QDirIterator files(QStringLiteral(SOURCE_FOLDER), {"*.h"}, QDir::Files, QDirIterator::Subdirectories);
+             files.hasNext();) {
+            QFile file(files.next());
+            if (!file.open(QIODevice::ReadOnly))
+                continue;
+            for (auto found = named.globalMatch(QString::fromUtf8(file.readAll())); found.hasNext();)
+                dialogs.insert(found.next().captured(1));
+        }
+        return dialogs - QSet<QString>{"DialogBase", "CreationDialog"};
+    }
+
+    /// What stands in texts and is never translated: names of assets and of things in the sample project, files, units.
+    void noteNames()
+    {
+        const auto add = [this](const auto &assets) {
+            for (const auto &asset : assets) {
+                if (!asset->name().isEmpty())
+                    m_names.append(asset->name());
+            }
+        };
+        add(project().palettes());
+        add(project().tileSets());
+        add(project().maps());
+        add(project().blockSets());
+        add(project().spriteBanks());
+        add(project().images());
+        for (const auto &blocks : project().blockSets())
+            add(blocks->animations());
+        for (const auto &bank : project().spriteBanks())
+            add(bank->animations());
+    }
+
+    /// A file of the kind that is asked for, so that what comes next is seen.
+    [[nodiscard]] QString fileFor(const FileRequest &request) const
+    {
+        const QString filters = request.nameFilters.join(' ');
+        if (request.acceptMode == QFileDialog::AcceptSave || filters.contains("*.quenmora"))
+            return {};
+        QFile file(m_folder.filePath(filters.contains("*.png")       ? "1.png"
+                                         : filters.contains("*.spr") ? "2.spr"
+                                                                     : "3.ch8"));
+        if (file.fileName().endsWith(".png")) {
+            QFile::copy(QStringLiteral(EXAMPLES_FOLDER "/pictures/sprites.png"), file.fileName());
+            return file.fileName();
+        }
+        if (file.open(QIODevice::WriteOnly))
+            file.write(QByteArray(768, '\1'));
+        return file.fileName();
+    }
+
+    /// Triggers every command once, and looks at what that opens.
+    void useAll(const char *place)
+    {
+        QList<QPointer<QMenu>> menus;
+        for (QMenu *menu : m_window->findChildren<QMenu *>())
+            menus.append(menu);
+        for (const QPointer<QMenu> &menu : std::as_const(menus)) {
+            if (!menu)
+                continue;
+            emit menu->aboutToShow();
+            const QList<QAction *> actions = menu->actions();
+            for (const QPointer<QAction> action : actions) {
+                if (!action || !action->isEnabled() || action->menu() || action->isSeparator()
+                    || m_used.contains(action) || action->menuRole() == QAction::QuitRole
+                    || action->shortcuts() == QKeySequence::keyBindings(QKeySequence::Close))
+                    continue;
+                m_used.insert(action);
+                const QByteArray name = QByteArray(place) + '-' + QByteArray::number(m_used.size());
+                QTimer::singleShot(0, this, [this, name] { look(name.constData(), false); });
+                action->trigger();
+                look(name.constData(), false);
+                if (!m_window->projectController()->project())
+                    return;
+            }
+        }
+    }
+
+    /// Notes what is wrong with whatever is shown, with the window or what it opened alone, and closes the latter.
+    void look(const char *name, bool withWindow = true)
+    {
+        QCoreApplication::processEvents();
+        const QWidgetList windows = QApplication::topLevelWidgets();
+        for (const QPointer<QWidget> window : windows) {
+            if (!window || !window->isVisible() || isQts(window) || (window == &*m_window && !withWindow))
+                continue;
+            const QString place = QString::fromLatin1(name) + ' ' + window->metaObject()->className();
+            m_seen.insert(QString::fromLatin1(window->metaObject()->className()).section("::", -1));
+            note(*window, place);
+            picture(*window, place);
+        }
+        for (const QPointer<QWidget> window : windows) {
+            if (window && window != &*m_window && window->isVisible() && !window->inherits("QTipLabel"))
+                window->close();
+        }
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    void note(QWidget &window, const QString &place)
+    {
+        static const QRegularExpression word(QStringLiteral("[A-Za-z]{2,}"));
+        static const QRegularExpression fileName(QStringLiteral("[^ ]+[.][a-z]{3}"));
+        QList<QWidget *> widgets = window.findChildren<QWidget *>();
+        widgets.append(&window);
+        for (QWidget *widget : std::as_const(widgets)) {
+            if (isQts(widget))
+                continue;
+            const QString where = QString::fromLatin1(widget->metaObject()->className()) + " in " + place;
+            for (const QString &text : textsOf(*widget)) {
+                QString rest = PseudoLanguage::untranslated(QString(text).remove(fileName));
+                for (const QString &name : std::as_const(m_names))
+                    rest.remove(name);
+                if (rest.contains(word))
+                    m_untranslated.append(text + " (" + where + ')');
+            }
+            if (const int missing = widget->isVisible() ? missingWidth(*widget) : 0; missing > 0)
+                m_cut.append(QStringLiteral("%1 pixels: %2 %3 (%4)")
+                                 .arg(missing)
+                                 .arg(widget->property("text").toString() + widget->property("currentText").toString(),
+                                      widget->objectName(), where));
+        }
+    }
+
+    void picture(QWidget &window, const QString &place)
+    {
+        const QString folder = qEnvironmentVariable("QUENMORA_PICTURES");
+        if (!folder.isEmpty())
+            window.grab().save(QStringLiteral("%1/%2-%3.png")
+                                   .arg(folder)
+                                   .arg(++m_pictures, 3, 10, QChar(u'0'))
+                                   .arg(place.section(':', -1)));
+    }
+
+    QTemporaryDir m_folder;
+    std::optional<PseudoLanguage> m_pseudo;
+    std::optional<MainWindow> m_window;
+    QSet<const QAction *> m_used;
+    QSet<QString> m_seen; ///< classes of windows, without namespaces
+    QStringList m_names{"Quenmora"};
+    int m_pictures = 0;
+    QStringList m_untranslated; ///< with where they are
+    QStringList m_cut;
+};
+
+QUENMORA_TEST_MAIN(TestLanguages)
+#include "tst_languages.moc"
