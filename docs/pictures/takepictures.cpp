@@ -60,6 +60,7 @@
 #include <QFileDialog>
 #include <QListView>
 #include <QMenu>
+#include <QLineEdit>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QRadioButton>
