@@ -563,6 +563,96 @@ Transparent</source>
     </message>
 </context>
 <context>
+    <name>CommandDesk</name>
+    <message>
+        <source>Your keyboard shortcuts could not be read. All commands have their usual keys.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1
+%2 was kept aside under a name that ends in .bad.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Your keyboard shortcuts could not be saved. They hold until you quit.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recent Projects</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tile %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>CommandPalette</name>
+    <message>
+        <source>Command Palette</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Type a few letters of a command, an asset or a tile</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What matches</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>CommandPlaces</name>
+    <message>
+        <source>Window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tool Bars</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Map Editor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Layers of the Map</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pixel Editors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Animation Editors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>List of Animations</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tile Picker</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Palette Editor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 ▸ %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>CreationDialog</name>
     <message>
         <source>&amp;Name</source>
@@ -1244,6 +1334,25 @@ Add palettes, tiles, maps with what is placed on them, sprites, animations and i
     </message>
 </context>
 <context>
+    <name>FileName</name>
+    <message>
+        <source>“%1” has a character that file names cannot have everywhere</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” ends in a dot or a space, which Windows takes away</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Windows takes “%1” for a device</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a name in it is longer than %1 bytes</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>FillCanvasTool</name>
     <message>
         <source>Fill</source>
@@ -1780,6 +1889,14 @@ Add palettes, tiles, maps with what is placed on them, sprites, animations and i
     </message>
     <message>
         <source>&amp;About</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Command &amp;Palette…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard Shortcuts…</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2714,6 +2831,17 @@ Colours: %3, for %4 of the picture; groups: %5</source>
     </message>
     <message>
         <source>Mirror</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LayoutController</name>
+    <message>
+        <source>Next Dock</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Previous Dock</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -3739,22 +3867,6 @@ Colours: %3, for %4 of the picture; groups: %5</source>
     </message>
     <message>
         <source>a folder or file in it has no name</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>“%1” has a character that file names cannot have everywhere</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>“%1” ends in a dot or a space, which Windows takes away</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Windows takes “%1” for a device</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>a name in it is longer than %1 bytes</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -4876,6 +4988,18 @@ Colours: %3, for %4 of the picture; groups: %5</source>
     </message>
     <message>
         <source>Create a gradient</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Darken</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lighten</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gradient</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -6014,6 +6138,100 @@ Files whose bytes stay the same are not touched.</source>
     </message>
 </context>
 <context>
+    <name>ShortcutsDialog</name>
+    <message>
+        <source>A&amp;dd Key</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Reset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Take It Away There</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search by name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>or by &amp;keys:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search by keys</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Press keys to see what they do</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Commands</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Leaves these keys to this command alone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gives the command its usual keys</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reset &amp;All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gives all commands their usual keys</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another command has these keys, too</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keys of “%1”</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Press the keys that shall do it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is a key of “%2” (%3), too. Neither would do anything.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutsFile</name>
+    <message>
+        <source>The file is too large</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file does not hold keys by command</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>SlicingProgress</name>
     <message>
         <source>Processing image</source>
@@ -6911,6 +7129,21 @@ Palette Offset: %2</source>
     </message>
 </context>
 <context>
+    <name>UnsavedMark</name>
+    <message>
+        <source>● Unsaved</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The project has unsaved changes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The project has changes that are not saved yet</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Update::UpdateChecker</name>
     <message>
         <source>The update feed is too large</source>
@@ -7028,6 +7261,10 @@ The new version was released %3.</source>
     </message>
     <message>
         <source>No file can be called %1: a slash would lead into another folder. Another name of the asset helps.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No file can be called that: %1. Another name of the asset helps.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -84,9 +84,9 @@
     </message>
     <message numerus="yes">
         <source>&amp;Add %Ln Outputs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln Ausgabe &amp;hinzufügen</numerusform>
+            <numerusform>%Ln Ausgaben &amp;hinzufügen</numerusform>
         </translation>
     </message>
     <message>
@@ -115,9 +115,9 @@
     </message>
     <message numerus="yes">
         <source>A recipe can have %n outputs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ein Rezept kann höchstens %n Ausgabe haben</numerusform>
+            <numerusform>Ein Rezept kann höchstens %n Ausgaben haben</numerusform>
         </translation>
     </message>
 </context>
@@ -205,9 +205,11 @@
     <message numerus="yes">
         <source>%1
 %n frame(s) [%2x%3]</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1
+%n Frame [%2x%3]</numerusform>
+            <numerusform>%1
+%n Frames [%2x%3]</numerusform>
         </translation>
     </message>
 </context>
@@ -567,6 +569,97 @@ Transparent</translation>
     </message>
 </context>
 <context>
+    <name>CommandDesk</name>
+    <message>
+        <source>Your keyboard shortcuts could not be read. All commands have their usual keys.</source>
+        <translation>Ihre Tastenkürzel konnten nicht gelesen werden. Alle Befehle haben ihre üblichen Tasten.</translation>
+    </message>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation>Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>%1
+%2 was kept aside under a name that ends in .bad.</source>
+        <translation>%1
+%2 wurde unter einem Namen aufgehoben, der auf .bad endet.</translation>
+    </message>
+    <message>
+        <source>Your keyboard shortcuts could not be saved. They hold until you quit.</source>
+        <translation>Ihre Tastenkürzel konnten nicht gespeichert werden. Sie gelten, bis Sie das Programm beenden.</translation>
+    </message>
+    <message>
+        <source>Recent Projects</source>
+        <translation>Zuletzt verwendete Projekte</translation>
+    </message>
+    <message>
+        <source>Tile %1</source>
+        <translation>Tile %1</translation>
+    </message>
+</context>
+<context>
+    <name>CommandPalette</name>
+    <message>
+        <source>Command Palette</source>
+        <translation>Befehlspalette</translation>
+    </message>
+    <message>
+        <source>Type a few letters of a command, an asset or a tile</source>
+        <translation>Einige Buchstaben eines Befehls, Assets oder Tiles eingeben</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>What matches</source>
+        <translation>Treffer</translation>
+    </message>
+</context>
+<context>
+    <name>CommandPlaces</name>
+    <message>
+        <source>Window</source>
+        <translation>Fenster</translation>
+    </message>
+    <message>
+        <source>Tool Bars</source>
+        <translation>Werkzeugleisten</translation>
+    </message>
+    <message>
+        <source>Map Editor</source>
+        <translation>Karteneditor</translation>
+    </message>
+    <message>
+        <source>Layers of the Map</source>
+        <translation>Ebenen der Karte</translation>
+    </message>
+    <message>
+        <source>Pixel Editors</source>
+        <translation>Pixeleditoren</translation>
+    </message>
+    <message>
+        <source>Animation Editors</source>
+        <translation>Animationseditoren</translation>
+    </message>
+    <message>
+        <source>List of Animations</source>
+        <translation>Liste der Animationen</translation>
+    </message>
+    <message>
+        <source>Tile Picker</source>
+        <translation>Tile-Auswahl</translation>
+    </message>
+    <message>
+        <source>Palette Editor</source>
+        <translation>Paletteneditor</translation>
+    </message>
+    <message>
+        <source>%1 ▸ %2</source>
+        <translation>%1 ▸ %2</translation>
+    </message>
+</context>
+<context>
     <name>CreationDialog</name>
     <message>
         <source>&amp;Name</source>
@@ -585,9 +678,9 @@ Transparent</translation>
     </message>
     <message numerus="yes">
         <source>%n animations</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Animation</numerusform>
+            <numerusform>%n Animationen</numerusform>
         </translation>
     </message>
     <message>
@@ -596,9 +689,9 @@ Transparent</translation>
     </message>
     <message numerus="yes">
         <source>%n placed sprites</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n platziertes Sprite</numerusform>
+            <numerusform>%n platzierte Sprites</numerusform>
         </translation>
     </message>
     <message>
@@ -611,9 +704,9 @@ Transparent</translation>
     </message>
     <message numerus="yes">
         <source>%n placed animations</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n platzierte Animation</numerusform>
+            <numerusform>%n platzierte Animationen</numerusform>
         </translation>
     </message>
     <message>
@@ -622,13 +715,13 @@ Transparent</translation>
     </message>
     <message>
         <source>No longer shown: %1 on 1 map.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht mehr angezeigt: %1 auf 1 Karte.</translation>
     </message>
     <message numerus="yes">
         <source>No longer shown: %1 on %n maps.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Nicht mehr angezeigt: %1 auf %n Karte.</numerusform>
+            <numerusform>Nicht mehr angezeigt: %1 auf %n Karten.</numerusform>
         </translation>
     </message>
     <message>
@@ -712,15 +805,15 @@ Transparent</translation>
     <name>ExportCommand</name>
     <message>
         <source>TEXT</source>
-        <translation type="unfinished"></translation>
+        <translation>TEXT</translation>
     </message>
     <message>
         <source>There is no asset “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt kein Asset „%1“</translation>
     </message>
     <message>
         <source>“%1” is the name of several assets: use an id (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ heißen mehrere Assets: Bitte eine ID angeben (%2)</translation>
     </message>
     <message>
         <source>quenmora-export --help tells what it understands</source>
@@ -740,9 +833,9 @@ Transparent</translation>
     </message>
     <message numerus="yes">
         <source>Interrupted: %n outputs were not looked at</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Abgebrochen: %n Ausgabe wurde nicht geprüft</numerusform>
+            <numerusform>Abgebrochen: %n Ausgaben wurden nicht geprüft</numerusform>
         </translation>
     </message>
     <message>
@@ -770,16 +863,16 @@ Transparent</translation>
     <name>ExportMessages</name>
     <message numerus="yes">
         <source>Exported %1 to %2 (%Ln bytes)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 nach %2 exportiert (%Ln Byte)</numerusform>
+            <numerusform>%1 nach %2 exportiert (%Ln Bytes)</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 (%Ln bytes)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 (%Ln Byte)</numerusform>
+            <numerusform>%1 (%Ln Bytes)</numerusform>
         </translation>
     </message>
     <message>
@@ -894,51 +987,51 @@ Fügen Sie Paletten, Tiles, Karten mit allem, was darauf platziert ist, Sprites,
     </message>
     <message numerus="yes">
         <source>%Ln outputs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln Ausgabe</numerusform>
+            <numerusform>%Ln Ausgaben</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln bytes</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln Byte</numerusform>
+            <numerusform>%Ln Bytes</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln new</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln neu</numerusform>
+            <numerusform>%Ln neu</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln changed</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln geändert</numerusform>
+            <numerusform>%Ln geändert</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln unchanged</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln unverändert</numerusform>
+            <numerusform>%Ln unverändert</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln cannot be</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln nicht möglich</numerusform>
+            <numerusform>%Ln nicht möglich</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln to be looked at</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln noch zu prüfen</numerusform>
+            <numerusform>%Ln noch zu prüfen</numerusform>
         </translation>
     </message>
     <message>
@@ -950,41 +1043,43 @@ Fügen Sie Paletten, Tiles, Karten mit allem, was darauf platziert ist, Sprites,
     <name>ExportQuestion</name>
     <message>
         <source>Save the project first?</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Projekt zuerst speichern?</translation>
     </message>
     <message>
         <source>The files for the game are written beside the project&apos;s file, and it has none yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Dateien für das Spiel werden neben der Projektdatei angelegt, und die gibt es noch nicht.</translation>
     </message>
     <message>
         <source>&amp;Save Project…</source>
-        <translation type="unfinished"></translation>
+        <translation>Projekt &amp;speichern…</translation>
     </message>
     <message>
         <source>The recipe of this project cannot be used:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Rezept dieses Projekts kann nicht verwendet werden:
+%1</translation>
     </message>
     <message>
         <source>Mend the file, or start with an empty recipe: the file is then kept as %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Reparieren Sie die Datei oder beginnen Sie mit einem leeren Rezept: Die Datei bleibt dann als %1 erhalten.</translation>
     </message>
     <message>
         <source>&amp;Start Anew</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Neu beginnen</translation>
     </message>
     <message>
         <source>Another program changed the recipe of this project:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein anderes Programm hat das Rezept dieses Projekts geändert:
+%1</translation>
     </message>
     <message>
         <source>Saving it from here loses that change.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird es von hier gespeichert, geht diese Änderung verloren.</translation>
     </message>
     <message>
         <source>&amp;Replace</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ersetzen</translation>
     </message>
     <message>
         <source>Export Project</source>
@@ -1003,9 +1098,9 @@ Fügen Sie Paletten, Tiles, Karten mit allem, was darauf platziert ist, Sprites,
     </message>
     <message numerus="yes">
         <source>%Ln files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln Datei</numerusform>
+            <numerusform>%Ln Dateien</numerusform>
         </translation>
     </message>
     <message>
@@ -1014,9 +1109,9 @@ Fügen Sie Paletten, Tiles, Karten mit allem, was darauf platziert ist, Sprites,
     </message>
     <message numerus="yes">
         <source>%Ln bytes</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln Byte</numerusform>
+            <numerusform>%Ln Bytes</numerusform>
         </translation>
     </message>
     <message>
@@ -1025,18 +1120,18 @@ Fügen Sie Paletten, Tiles, Karten mit allem, was darauf platziert ist, Sprites,
     </message>
     <message>
         <source>Nothing to export: 1 file is unchanged in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts zu exportieren: 1 Datei in %1 ist unverändert</translation>
     </message>
     <message numerus="yes">
         <source>Nothing to export: %Ln files are unchanged in %1</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Nichts zu exportieren: %Ln Datei in %1 ist unverändert</numerusform>
+            <numerusform>Nichts zu exportieren: %Ln Dateien in %1 sind unverändert</numerusform>
         </translation>
     </message>
     <message>
         <source>Exported %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportiert: %1</translation>
     </message>
     <message>
         <source>Exported nothing</source>
@@ -1044,25 +1139,25 @@ Fügen Sie Paletten, Tiles, Karten mit allem, was darauf platziert ist, Sprites,
     </message>
     <message numerus="yes">
         <source>%1, %Ln unchanged</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1, %Ln unverändert</numerusform>
+            <numerusform>%1, %Ln unverändert</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1, %Ln failed</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1, %Ln fehlgeschlagen</numerusform>
+            <numerusform>%1, %Ln fehlgeschlagen</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 nach %2</translation>
     </message>
     <message>
         <source>%1, to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, nach %2</translation>
     </message>
     <message>
         <source>Stopped: %1</source>
@@ -1070,9 +1165,9 @@ Fügen Sie Paletten, Tiles, Karten mit allem, was darauf platziert ist, Sprites,
     </message>
     <message numerus="yes">
         <source>… and %Ln more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>… und %Ln weiterer</numerusform>
+            <numerusform>… und %Ln weitere</numerusform>
         </translation>
     </message>
 </context>
@@ -1080,24 +1175,24 @@ Fügen Sie Paletten, Tiles, Karten mit allem, was darauf platziert ist, Sprites,
     <name>ExtrasFile</name>
     <message>
         <source>it is no file of at most 16 MiB</source>
-        <translation type="unfinished"></translation>
+        <translation>das ist keine Datei von höchstens 16 MiB</translation>
     </message>
     <message>
         <source>line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1: %2</translation>
     </message>
     <message>
         <source>it holds no object</source>
-        <translation type="unfinished"></translation>
+        <translation>sie enthält kein Objekt</translation>
     </message>
 </context>
 <context>
     <name>FileImport</name>
     <message numerus="yes">
         <source>… and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>… und %n weiterer</numerusform>
+            <numerusform>… und %n weitere</numerusform>
         </translation>
     </message>
     <message>
@@ -1226,6 +1321,25 @@ Fügen Sie Paletten, Tiles, Karten mit allem, was darauf platziert ist, Sprites,
     <message>
         <source>&amp;Clear</source>
         <translation>Liste &amp;leeren</translation>
+    </message>
+</context>
+<context>
+    <name>FileName</name>
+    <message>
+        <source>“%1” has a character that file names cannot have everywhere</source>
+        <translation>„%1“ enthält ein Zeichen, das in Dateinamen nicht überall erlaubt ist</translation>
+    </message>
+    <message>
+        <source>“%1” ends in a dot or a space, which Windows takes away</source>
+        <translation>„%1“ endet mit einem Punkt oder Leerzeichen, was Windows entfernt</translation>
+    </message>
+    <message>
+        <source>Windows takes “%1” for a device</source>
+        <translation>Windows hält „%1“ für ein Gerät</translation>
+    </message>
+    <message>
+        <source>a name in it is longer than %1 bytes</source>
+        <translation>Ein Name im Pfad ist länger als %1 Bytes</translation>
     </message>
 </context>
 <context>
@@ -1436,9 +1550,9 @@ Fügen Sie Paletten, Tiles, Karten mit allem, was darauf platziert ist, Sprites,
     </message>
     <message numerus="yes">
         <source>%n layers are hidden and left out, “%1” among them</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Ebene ist ausgeblendet und wird ausgelassen, „%1“</numerusform>
+            <numerusform>%n Ebenen sind ausgeblendet und werden ausgelassen, darunter „%1“</numerusform>
         </translation>
     </message>
     <message>
@@ -1459,11 +1573,11 @@ Fügen Sie Paletten, Tiles, Karten mit allem, was darauf platziert ist, Sprites,
     </message>
     <message>
         <source>It has no colours</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie enthält keine Farben</translation>
     </message>
     <message>
         <source>“%1” is no colour, which is %2 numbers from 0 to 255</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist keine Farbe; die besteht aus %2 Zahlen von 0 bis 255</translation>
     </message>
     <message>
         <source>“%1” stands where “%2” does</source>
@@ -1471,23 +1585,23 @@ Fügen Sie Paletten, Tiles, Karten mit allem, was darauf platziert ist, Sprites,
     </message>
     <message>
         <source>“%1” is no number of colours</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist keine Anzahl von Farben</translation>
     </message>
     <message>
         <source>It says that it has %1 colours, and has %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie soll %1 Farben haben, hat aber %2</translation>
     </message>
     <message>
         <source>“%1” is no colour of six hexadecimal digits</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist keine Farbe aus sechs Hexadezimalziffern</translation>
     </message>
     <message>
         <source>It says that it has %1 colours; there is room for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie soll %1 Farben haben; Platz ist für %2</translation>
     </message>
     <message>
         <source>Its transparent index is %1, and it has %2 colours</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihr transparenter Index ist %1, aber sie hat %2 Farben</translation>
     </message>
     <message>
         <source>It has %1; at most %2 can be read</source>
@@ -1499,9 +1613,9 @@ Fügen Sie Paletten, Tiles, Karten mit allem, was darauf platziert ist, Sprites,
     </message>
     <message numerus="yes">
         <source>%n bytes</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Byte</numerusform>
+            <numerusform>%n Bytes</numerusform>
         </translation>
     </message>
     <message>
@@ -1574,23 +1688,23 @@ Fügen Sie Paletten, Tiles, Karten mit allem, was darauf platziert ist, Sprites,
     </message>
     <message numerus="yes">
         <source>What shines through clear pixels of tiles above is lost, in %n cells</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>In %n Zelle geht verloren, was durch transparente Pixel darüberliegender Tiles scheint</numerusform>
+            <numerusform>In %n Zellen geht verloren, was durch transparente Pixel darüberliegender Tiles scheint</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n cells have numbers that no tile set has: they become empty</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Zelle hat eine Nummer, die in keinem Tileset vorkommt: Sie wird leer</numerusform>
+            <numerusform>%n Zellen haben Nummern, die in keinem Tileset vorkommen: Sie werden leer</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n cells of layers lie beyond the map: they are lost</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Zelle von Ebenen liegt außerhalb der Karte: Sie geht verloren</numerusform>
+            <numerusform>%n Zellen von Ebenen liegen außerhalb der Karte: Sie gehen verloren</numerusform>
         </translation>
     </message>
     <message>
@@ -1763,6 +1877,14 @@ Fügen Sie Paletten, Tiles, Karten mit allem, was darauf platziert ist, Sprites,
         <source>&amp;About</source>
         <translation>Ü&amp;ber</translation>
     </message>
+    <message>
+        <source>Command &amp;Palette…</source>
+        <translation>&amp;Befehlspalette…</translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard Shortcuts…</source>
+        <translation>&amp;Tastenkürzel…</translation>
+    </message>
 </context>
 <context>
     <name>ImageDialog</name>
@@ -1908,7 +2030,7 @@ Fügen Sie Paletten, Tiles, Karten mit allem, was darauf platziert ist, Sprites,
     <name>ImportAgain</name>
     <message>
         <source>The image has no palette any more</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild hat keine Palette mehr</translation>
     </message>
     <message>
         <source>Import Again</source>
@@ -1916,7 +2038,7 @@ Fügen Sie Paletten, Tiles, Karten mit allem, was darauf platziert ist, Sprites,
     </message>
     <message>
         <source>%1 is up to date</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist auf dem neuesten Stand</translation>
     </message>
     <message>
         <source>The file is neither a palette nor a picture that can be read</source>
@@ -1924,15 +2046,15 @@ Fügen Sie Paletten, Tiles, Karten mit allem, was darauf platziert ist, Sprites,
     </message>
     <message>
         <source>Such a file makes new assets, and cannot go into those that are there</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus einer solchen Datei entstehen neue Assets; sie kann nicht in vorhandene übernommen werden</translation>
     </message>
     <message>
         <source>%1 was imported again</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wurde erneut importiert</translation>
     </message>
     <message>
         <source>What was made of it is not there any more</source>
-        <translation type="unfinished"></translation>
+        <translation>Was daraus entstanden ist, gibt es nicht mehr</translation>
     </message>
     <message>
         <source>The file is not there any more:
@@ -1946,7 +2068,7 @@ Fügen Sie Paletten, Tiles, Karten mit allem, was darauf platziert ist, Sprites,
     </message>
     <message>
         <source>%1 is up to date; new tiles: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist auf dem neuesten Stand; neue Tiles: %2</translation>
     </message>
     <message>
         <source>; pixels that took the nearest colour: %1</source>
@@ -1954,13 +2076,13 @@ Fügen Sie Paletten, Tiles, Karten mit allem, was darauf platziert ist, Sprites,
     </message>
     <message>
         <source>The map has no tiles or no palette any more</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Karte hat keine Tiles oder keine Palette mehr</translation>
     </message>
     <message numerus="yes">
         <source>The picture needs %n more tiles, and the tile set has room for %1</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Das Bild braucht %n weiteres Tile, und das Tileset hat Platz für %1</numerusform>
+            <numerusform>Das Bild braucht %n weitere Tiles, und das Tileset hat Platz für %1</numerusform>
         </translation>
     </message>
     <message>
@@ -1969,7 +2091,7 @@ Fügen Sie Paletten, Tiles, Karten mit allem, was darauf platziert ist, Sprites,
     </message>
     <message>
         <source>The sprites have no palette any more</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Sprites haben keine Palette mehr</translation>
     </message>
     <message>
         <source>The picture is smaller than a sprite, which has 16 × 16 pixels</source>
@@ -1981,22 +2103,22 @@ Fügen Sie Paletten, Tiles, Karten mit allem, was darauf platziert ist, Sprites,
     </message>
     <message>
         <source>%1 is up to date; sprites that are new: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist auf dem neuesten Stand; neue Sprites: %2</translation>
     </message>
 </context>
 <context>
     <name>ImportFileDialog</name>
     <message>
         <source>New palette</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Palette</translation>
     </message>
     <message>
         <source>New tile set</source>
-        <translation type="unfinished"></translation>
+        <translation>Neues Tileset</translation>
     </message>
     <message>
         <source>New map</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Karte</translation>
     </message>
     <message>
         <source>New sprites</source>
@@ -2004,17 +2126,17 @@ Fügen Sie Paletten, Tiles, Karten mit allem, was darauf platziert ist, Sprites,
     </message>
     <message>
         <source>New map objects</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Kartenobjekte</translation>
     </message>
     <message>
         <source>New image</source>
-        <translation type="unfinished"></translation>
+        <translation>Neues Bild</translation>
     </message>
     <message numerus="yes">
         <source>… and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>… und %n weiterer</numerusform>
+            <numerusform>… und %n weitere</numerusform>
         </translation>
     </message>
     <message>
@@ -2079,9 +2201,9 @@ Fügen Sie Paletten, Tiles, Karten mit allem, was darauf platziert ist, Sprites,
     </message>
     <message numerus="yes">
         <source>%1, %Ln bytes</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1, %Ln Byte</numerusform>
+            <numerusform>%1, %Ln Bytes</numerusform>
         </translation>
     </message>
     <message>
@@ -2148,9 +2270,9 @@ Fügen Sie Paletten, Tiles, Karten mit allem, was darauf platziert ist, Sprites,
     </message>
     <message numerus="yes">
         <source>%n files changed since they were imported</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Datei hat sich seit dem Import geändert</numerusform>
+            <numerusform>%n Dateien haben sich seit dem Import geändert</numerusform>
         </translation>
     </message>
 </context>
@@ -2238,9 +2360,9 @@ Farben: %3 für %4 des Bildes; Gruppen: %5</translation>
     </message>
     <message numerus="yes">
         <source>The picture has %n different tiles, and a tile set has room for %1</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Das Bild hat %n verschiedenes Tile, und ein Tileset hat Platz für %1</numerusform>
+            <numerusform>Das Bild hat %n verschiedene Tiles, und ein Tileset hat Platz für %1</numerusform>
         </translation>
     </message>
 </context>
@@ -2371,9 +2493,9 @@ Farben: %3 für %4 des Bildes; Gruppen: %5</translation>
     </message>
     <message numerus="yes">
         <source>The frames make %n sprites, which is more than there is room for</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Die Frames ergeben %n Sprite, für das nicht genug Platz ist</numerusform>
+            <numerusform>Die Frames ergeben %n Sprites, für die nicht genug Platz ist</numerusform>
         </translation>
     </message>
     <message>
@@ -2693,6 +2815,17 @@ Farben: %3 für %4 des Bildes; Gruppen: %5</translation>
     <message>
         <source>Mirror</source>
         <translation>Horizontal spiegeln</translation>
+    </message>
+</context>
+<context>
+    <name>LayoutController</name>
+    <message>
+        <source>Next Dock</source>
+        <translation>Nächstes Andockfenster</translation>
+    </message>
+    <message>
+        <source>Previous Dock</source>
+        <translation>Vorheriges Andockfenster</translation>
     </message>
 </context>
 <context>
@@ -3182,9 +3315,9 @@ Farben: %3 für %4 des Bildes; Gruppen: %5</translation>
     </message>
     <message numerus="yes">
         <source>The picture needs %n more tiles, and the tile set has room for %1</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Das Bild braucht %n weiteres Tile, und das Tileset hat Platz für %1</numerusform>
+            <numerusform>Das Bild braucht %n weitere Tiles, und das Tileset hat Platz für %1</numerusform>
         </translation>
     </message>
     <message>
@@ -3490,9 +3623,9 @@ Farben: %3 für %4 des Bildes; Gruppen: %5</translation>
     <name>MapEditor::View</name>
     <message numerus="yes">
         <source>%1x%2 (%n bytes)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1x%2 (%n Byte)</numerusform>
+            <numerusform>%1x%2 (%n Bytes)</numerusform>
         </translation>
     </message>
     <message>
@@ -3716,22 +3849,6 @@ Farben: %3 für %4 des Bildes; Gruppen: %5</translation>
     <message>
         <source>a folder or file in it has no name</source>
         <translation>Ein Ordner oder eine Datei im Pfad hat keinen Namen</translation>
-    </message>
-    <message>
-        <source>“%1” has a character that file names cannot have everywhere</source>
-        <translation>„%1“ enthält ein Zeichen, das in Dateinamen nicht überall erlaubt ist</translation>
-    </message>
-    <message>
-        <source>“%1” ends in a dot or a space, which Windows takes away</source>
-        <translation>„%1“ endet mit einem Punkt oder Leerzeichen, was Windows entfernt</translation>
-    </message>
-    <message>
-        <source>Windows takes “%1” for a device</source>
-        <translation>Windows hält „%1“ für ein Gerät</translation>
-    </message>
-    <message>
-        <source>a name in it is longer than %1 bytes</source>
-        <translation>Ein Name im Pfad ist länger als %1 Bytes</translation>
     </message>
     <message>
         <source>There is no file name</source>
@@ -4570,7 +4687,7 @@ Farben: %3 für %4 des Bildes; Gruppen: %5</translation>
     <name>NextDataImport</name>
     <message>
         <source>Some of the required files are missing</source>
-        <translation type="unfinished"></translation>
+        <translation>Einige der benötigten Dateien fehlen</translation>
     </message>
     <message>
         <source>Importing %1…</source>
@@ -4578,15 +4695,15 @@ Farben: %3 für %4 des Bildes; Gruppen: %5</translation>
     </message>
     <message>
         <source>Could not import the palette data</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Palettendaten konnten nicht importiert werden</translation>
     </message>
     <message>
         <source>Could not import the tile data</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Tile-Daten konnten nicht importiert werden</translation>
     </message>
     <message>
         <source>Could not import the map data</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kartendaten konnten nicht importiert werden</translation>
     </message>
 </context>
 <context>
@@ -4698,9 +4815,9 @@ Farben: %3 für %4 des Bildes; Gruppen: %5</translation>
     </message>
     <message numerus="yes">
         <source>%Ln bytes: %1</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln Byte: %1</numerusform>
+            <numerusform>%Ln Bytes: %1</numerusform>
         </translation>
     </message>
     <message>
@@ -4720,9 +4837,9 @@ Farben: %3 für %4 des Bildes; Gruppen: %5</translation>
     </message>
     <message numerus="yes">
         <source>%1 (%Ln bytes)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 (%Ln Byte)</numerusform>
+            <numerusform>%1 (%Ln Bytes)</numerusform>
         </translation>
     </message>
 </context>
@@ -4851,6 +4968,18 @@ Farben: %3 für %4 des Bildes; Gruppen: %5</translation>
     <message>
         <source>Create a gradient</source>
         <translation>Einen Verlauf erzeugen</translation>
+    </message>
+    <message>
+        <source>Darken</source>
+        <translation>Abdunkeln</translation>
+    </message>
+    <message>
+        <source>Lighten</source>
+        <translation>Aufhellen</translation>
+    </message>
+    <message>
+        <source>Gradient</source>
+        <translation>Verlauf</translation>
     </message>
 </context>
 <context>
@@ -5003,13 +5132,13 @@ Palette ▸ Neue Palette legt eine an.</translation>
     </message>
     <message>
         <source>1 pixel</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Pixel</translation>
     </message>
     <message numerus="yes">
         <source>%Ln pixels</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln Pixel</numerusform>
+            <numerusform>%Ln Pixel</numerusform>
         </translation>
     </message>
     <message>
@@ -5080,12 +5209,14 @@ Palette ▸ Neue Palette legt eine an.</translation>
     <message>
         <source>Tiles that lost colours: %1 of %2.
 A tile shows 16 colours, and all of them together have 16 groups of 16. Reduce the colours of the picture, to 16 in each tile of 8 × 8 pixels and to fewer in all, and import it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiles, die Farben verloren haben: %1 von %2.
+Ein Tile zeigt 16 Farben, und alle zusammen haben 16 Gruppen zu 16. Verringern Sie die Farben des Bildes auf 16 je Tile von 8 × 8 Pixeln und insgesamt auf weniger, und importieren Sie es erneut.</translation>
     </message>
     <message>
         <source>Cannot import the image as it would need more than 512 tiles
 %1 required</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild kann nicht importiert werden, da es mehr als 512 Tiles bräuchte
+Erforderlich: %1</translation>
     </message>
     <message>
         <source>The image is smaller than a tile, which has 8 × 8 pixels</source>
@@ -5247,9 +5378,9 @@ A tile shows 16 colours, and all of them together have 16 groups of 16. Reduce t
     </message>
     <message numerus="yes">
         <source>The picture has %n colours; the palette takes the first %1 of them</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Das Bild hat %n Farbe; die Palette übernimmt die ersten %1 davon</numerusform>
+            <numerusform>Das Bild hat %n Farben; die Palette übernimmt die ersten %1 davon</numerusform>
         </translation>
     </message>
     <message>
@@ -5390,9 +5521,9 @@ Das Projekt selbst ist in Ordnung.
     </message>
     <message numerus="yes">
         <source>… and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>… und %n weiterer</numerusform>
+            <numerusform>… und %n weitere</numerusform>
         </translation>
     </message>
     <message>
@@ -5585,9 +5716,9 @@ Soll die Datei ersetzt werden?</translation>
     </message>
     <message numerus="yes">
         <source>%Ln pages of 8 KiB</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln Seite zu 8 KiB</numerusform>
+            <numerusform>%Ln Seiten zu 8 KiB</numerusform>
         </translation>
     </message>
     <message>
@@ -5600,9 +5731,9 @@ Soll die Datei ersetzt werden?</translation>
     </message>
     <message numerus="yes">
         <source>%Ln banks of 16 KiB</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln Bank zu 16 KiB</numerusform>
+            <numerusform>%Ln Bänke zu 16 KiB</numerusform>
         </translation>
     </message>
     <message>
@@ -5790,89 +5921,91 @@ Soll die Datei ersetzt werden?</translation>
     <name>Request</name>
     <message>
         <source>Do this recipe, not the one beside the project.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Rezept ausführen, nicht das neben dem Projekt.</translation>
     </message>
     <message>
         <source>file</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei</translation>
     </message>
     <message>
         <source>Write below this folder, not below the project&apos;s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Unter diesem Ordner schreiben, nicht unter dem des Projekts.</translation>
     </message>
     <message>
         <source>folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner</translation>
     </message>
     <message>
         <source>Write nothing, but say what would be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts schreiben, sondern sagen, was geschrieben würde.</translation>
     </message>
     <message>
         <source>Tell make or ninja in this file what was made of what.</source>
-        <translation type="unfinished"></translation>
+        <translation>make oder ninja in dieser Datei mitteilen, was woraus entstanden ist.</translation>
     </message>
     <message>
         <source>Say nothing unless something fails.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts ausgeben, solange nichts fehlschlägt.</translation>
     </message>
     <message>
         <source>Without a recipe: write the asset of this name or id …</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne Rezept: das Asset dieses Namens oder dieser ID schreiben …</translation>
     </message>
     <message>
         <source>name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>… in this form …</source>
-        <translation type="unfinished"></translation>
+        <translation>… in diesem Format …</translation>
     </message>
     <message>
         <source>id</source>
-        <translation type="unfinished"></translation>
+        <translation>ID</translation>
     </message>
     <message>
         <source>… with this option of the form, which may be given again for others …</source>
-        <translation type="unfinished"></translation>
+        <translation>… mit dieser Option des Formats, die für weitere wiederholt werden kann …</translation>
     </message>
     <message>
         <source>key=value</source>
-        <translation type="unfinished"></translation>
+        <translation>Name=Wert</translation>
     </message>
     <message>
         <source>… to this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>… in diese Datei.</translation>
     </message>
     <message>
         <source>List the assets: kind, id and name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Assets auflisten: Art, ID und Name.</translation>
     </message>
     <message>
         <source>List the forms and their options.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Formate und ihre Optionen auflisten.</translation>
     </message>
     <message>
         <source>Describe the whole project as text, for git diff.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das ganze Projekt als Text beschreiben, für git diff.</translation>
     </message>
     <message>
         <source>Show this help.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Hilfe zeigen.</translation>
     </message>
     <message>
         <source>Show the version.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Version zeigen.</translation>
     </message>
     <message>
         <source>A project file, as game.quenmora.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Projektdatei, etwa game.quenmora.</translation>
     </message>
     <message>
         <source>Writes the graphics of a Quenmora project in the forms that a game takes, as its recipe says, the file
 game.quenmora-export.json beside game.quenmora, which File &gt; Export Project in the editor makes.
 Files whose bytes stay the same are not touched.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt die Grafik eines Quenmora-Projekts in den Formaten, die ein Spiel lädt, nach dessen Rezept, der Datei
+game.quenmora-export.json neben game.quenmora, die „Datei &gt; Projekt exportieren“ im Editor anlegt.
+Dateien, deren Bytes gleich bleiben, werden nicht angerührt.</translation>
     </message>
     <message>
         <source>--%1 and --%2 do not go together</source>
@@ -5880,31 +6013,31 @@ Files whose bytes stay the same are not touched.</source>
     </message>
     <message>
         <source>--%1 takes KEY=VALUE, not “%2”</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1 erwartet NAME=WERT, nicht „%2“</translation>
     </message>
     <message>
         <source>--%1 is there twice</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1 ist zweimal angegeben</translation>
     </message>
     <message>
         <source>--%1 needs a value</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1 braucht einen Wert</translation>
     </message>
     <message>
         <source>--%1 means nothing here</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1 hat hier keine Bedeutung</translation>
     </message>
     <message>
         <source>--%1 needs --%2</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1 braucht --%2</translation>
     </message>
     <message>
         <source>“%1” is one argument too many</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist ein Argument zu viel</translation>
     </message>
     <message>
         <source>A project file is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>Es fehlt eine Projektdatei</translation>
     </message>
 </context>
 <context>
@@ -5977,14 +6110,108 @@ Files whose bytes stay the same are not touched.</source>
     </message>
     <message numerus="yes">
         <source>What %Ln outputs are to have alike</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Was %Ln Ausgabe haben soll</numerusform>
+            <numerusform>Was %Ln Ausgaben gemeinsam haben sollen</numerusform>
         </translation>
     </message>
     <message>
         <source>Please choose what is to change</source>
         <translation>Bitte wählen, was sich ändern soll</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutsDialog</name>
+    <message>
+        <source>A&amp;dd Key</source>
+        <translation>Taste &amp;hinzufügen</translation>
+    </message>
+    <message>
+        <source>&amp;Reset</source>
+        <translation>&amp;Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>&amp;Take It Away There</source>
+        <translation>Dort &amp;entfernen</translation>
+    </message>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation>Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>Search by name</source>
+        <translation>Nach Namen suchen</translation>
+    </message>
+    <message>
+        <source>or by &amp;keys:</source>
+        <translation>oder nach &amp;Tasten:</translation>
+    </message>
+    <message>
+        <source>Search by keys</source>
+        <translation>Nach Tasten suchen</translation>
+    </message>
+    <message>
+        <source>Press keys to see what they do</source>
+        <translation>Tasten drücken, um zu sehen, was sie tun</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Befehl</translation>
+    </message>
+    <message>
+        <source>Where</source>
+        <translation>Wo</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Tasten</translation>
+    </message>
+    <message>
+        <source>Commands</source>
+        <translation>Befehle</translation>
+    </message>
+    <message>
+        <source>Leaves these keys to this command alone</source>
+        <translation>Überlässt diese Tasten allein diesem Befehl</translation>
+    </message>
+    <message>
+        <source>Gives the command its usual keys</source>
+        <translation>Gibt dem Befehl seine üblichen Tasten zurück</translation>
+    </message>
+    <message>
+        <source>Reset &amp;All</source>
+        <translation>&amp;Alle zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Gives all commands their usual keys</source>
+        <translation>Gibt allen Befehlen ihre üblichen Tasten zurück</translation>
+    </message>
+    <message>
+        <source>Another command has these keys, too</source>
+        <translation>Auch ein anderer Befehl hat diese Tasten</translation>
+    </message>
+    <message>
+        <source>Keys of “%1”</source>
+        <translation>Tasten von „%1“</translation>
+    </message>
+    <message>
+        <source>Press the keys that shall do it</source>
+        <translation>Die Tasten drücken, die es tun sollen</translation>
+    </message>
+    <message>
+        <source>%1 is a key of “%2” (%3), too. Neither would do anything.</source>
+        <translation>%1 ist auch eine Taste von „%2“ (%3). Keiner der beiden Befehle würde ausgeführt.</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutsFile</name>
+    <message>
+        <source>The file is too large</source>
+        <translation>Die Datei ist zu groß</translation>
+    </message>
+    <message>
+        <source>The file does not hold keys by command</source>
+        <translation>Die Datei enthält keine Tasten zu Befehlen</translation>
     </message>
 </context>
 <context>
@@ -6162,9 +6389,9 @@ Files whose bytes stay the same are not touched.</source>
     </message>
     <message numerus="yes">
         <source>The picture has %n colours; 4-bit sprites show 15 beside the transparent one</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Das Bild hat %n Farbe; 4-Bit-Sprites zeigen neben der transparenten nur 15</numerusform>
+            <numerusform>Das Bild hat %n Farben; 4-Bit-Sprites zeigen neben der transparenten nur 15</numerusform>
         </translation>
     </message>
     <message>
@@ -6885,6 +7112,21 @@ Paletten-Offset: %2</translation>
     </message>
 </context>
 <context>
+    <name>UnsavedMark</name>
+    <message>
+        <source>● Unsaved</source>
+        <translation>● Nicht gespeichert</translation>
+    </message>
+    <message>
+        <source>The project has unsaved changes</source>
+        <translation>Das Projekt hat nicht gespeicherte Änderungen</translation>
+    </message>
+    <message>
+        <source>The project has changes that are not saved yet</source>
+        <translation>Das Projekt hat Änderungen, die noch nicht gespeichert sind</translation>
+    </message>
+</context>
+<context>
     <name>Update::UpdateChecker</name>
     <message>
         <source>The update feed is too large</source>
@@ -6984,27 +7226,31 @@ Die neue Version erschien am %3.</translation>
     <name>WriteProblem</name>
     <message>
         <source>There is no folder %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keinen Ordner %1</translation>
     </message>
     <message>
         <source>%1 is a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist ein Ordner</translation>
     </message>
     <message>
         <source>%1 is a pipe or a device, not a file</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist eine Pipe oder ein Gerät, keine Datei</translation>
     </message>
     <message>
         <source>You may not write to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie dürfen nicht in %1 schreiben</translation>
     </message>
     <message>
         <source>%1 could not be written to its end; there may be no room left</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 konnte nicht vollständig geschrieben werden; vielleicht ist kein Platz mehr</translation>
     </message>
     <message>
         <source>No file can be called %1: a slash would lead into another folder. Another name of the asset helps.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Datei kann %1 heißen: Ein Schrägstrich würde in einen anderen Ordner führen. Ein anderer Name des Assets hilft.</translation>
+    </message>
+    <message>
+        <source>No file can be called that: %1. Another name of the asset helps.</source>
+        <translation>Keine Datei kann so heißen: %1. Ein anderer Name des Assets hilft.</translation>
     </message>
 </context>
 </TS>

@@ -84,9 +84,9 @@
     </message>
     <message numerus="yes">
         <source>&amp;Add %Ln Outputs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>&amp;Añadir %Ln salida</numerusform>
+            <numerusform>&amp;Añadir %Ln salidas</numerusform>
         </translation>
     </message>
     <message>
@@ -115,9 +115,9 @@
     </message>
     <message numerus="yes">
         <source>A recipe can have %n outputs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Una receta puede tener como máximo %n salida</numerusform>
+            <numerusform>Una receta puede tener como máximo %n salidas</numerusform>
         </translation>
     </message>
 </context>
@@ -205,9 +205,11 @@
     <message numerus="yes">
         <source>%1
 %n frame(s) [%2x%3]</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1
+%n fotograma [%2x%3]</numerusform>
+            <numerusform>%1
+%n fotogramas [%2x%3]</numerusform>
         </translation>
     </message>
 </context>
@@ -567,6 +569,97 @@ Transparente</translation>
     </message>
 </context>
 <context>
+    <name>CommandDesk</name>
+    <message>
+        <source>Your keyboard shortcuts could not be read. All commands have their usual keys.</source>
+        <translation>No se pudieron leer sus atajos de teclado. Todas las órdenes tienen sus teclas habituales.</translation>
+    </message>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation>Atajos de teclado</translation>
+    </message>
+    <message>
+        <source>%1
+%2 was kept aside under a name that ends in .bad.</source>
+        <translation>%1
+%2 se conservó con un nombre que termina en .bad.</translation>
+    </message>
+    <message>
+        <source>Your keyboard shortcuts could not be saved. They hold until you quit.</source>
+        <translation>No se pudieron guardar sus atajos de teclado. Valen hasta que salga del programa.</translation>
+    </message>
+    <message>
+        <source>Recent Projects</source>
+        <translation>Proyectos recientes</translation>
+    </message>
+    <message>
+        <source>Tile %1</source>
+        <translation>Tile %1</translation>
+    </message>
+</context>
+<context>
+    <name>CommandPalette</name>
+    <message>
+        <source>Command Palette</source>
+        <translation>Paleta de órdenes</translation>
+    </message>
+    <message>
+        <source>Type a few letters of a command, an asset or a tile</source>
+        <translation>Escriba unas letras de una orden, un recurso o un tile</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Buscar</translation>
+    </message>
+    <message>
+        <source>What matches</source>
+        <translation>Coincidencias</translation>
+    </message>
+</context>
+<context>
+    <name>CommandPlaces</name>
+    <message>
+        <source>Window</source>
+        <translation>Ventana</translation>
+    </message>
+    <message>
+        <source>Tool Bars</source>
+        <translation>Barras de herramientas</translation>
+    </message>
+    <message>
+        <source>Map Editor</source>
+        <translation>Editor de mapas</translation>
+    </message>
+    <message>
+        <source>Layers of the Map</source>
+        <translation>Capas del mapa</translation>
+    </message>
+    <message>
+        <source>Pixel Editors</source>
+        <translation>Editores de píxeles</translation>
+    </message>
+    <message>
+        <source>Animation Editors</source>
+        <translation>Editores de animaciones</translation>
+    </message>
+    <message>
+        <source>List of Animations</source>
+        <translation>Lista de animaciones</translation>
+    </message>
+    <message>
+        <source>Tile Picker</source>
+        <translation>Selector de tiles</translation>
+    </message>
+    <message>
+        <source>Palette Editor</source>
+        <translation>Editor de paletas</translation>
+    </message>
+    <message>
+        <source>%1 ▸ %2</source>
+        <translation>%1 ▸ %2</translation>
+    </message>
+</context>
+<context>
     <name>CreationDialog</name>
     <message>
         <source>&amp;Name</source>
@@ -585,9 +678,9 @@ Transparente</translation>
     </message>
     <message numerus="yes">
         <source>%n animations</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n animación</numerusform>
+            <numerusform>%n animaciones</numerusform>
         </translation>
     </message>
     <message>
@@ -596,9 +689,9 @@ Transparente</translation>
     </message>
     <message numerus="yes">
         <source>%n placed sprites</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n sprite colocado</numerusform>
+            <numerusform>%n sprites colocados</numerusform>
         </translation>
     </message>
     <message>
@@ -611,9 +704,9 @@ Transparente</translation>
     </message>
     <message numerus="yes">
         <source>%n placed animations</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n animación colocada</numerusform>
+            <numerusform>%n animaciones colocadas</numerusform>
         </translation>
     </message>
     <message>
@@ -622,13 +715,13 @@ Transparente</translation>
     </message>
     <message>
         <source>No longer shown: %1 on 1 map.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deja de mostrarse: %1 en 1 mapa.</translation>
     </message>
     <message numerus="yes">
         <source>No longer shown: %1 on %n maps.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Deja de mostrarse: %1 en %n mapa.</numerusform>
+            <numerusform>Deja de mostrarse: %1 en %n mapas.</numerusform>
         </translation>
     </message>
     <message>
@@ -712,15 +805,15 @@ Transparente</translation>
     <name>ExportCommand</name>
     <message>
         <source>TEXT</source>
-        <translation type="unfinished"></translation>
+        <translation>TEXTO</translation>
     </message>
     <message>
         <source>There is no asset “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>No existe el recurso «%1»</translation>
     </message>
     <message>
         <source>“%1” is the name of several assets: use an id (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» es el nombre de varios recursos: use un id (%2)</translation>
     </message>
     <message>
         <source>quenmora-export --help tells what it understands</source>
@@ -740,9 +833,9 @@ Transparente</translation>
     </message>
     <message numerus="yes">
         <source>Interrupted: %n outputs were not looked at</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Interrumpido: no se revisó %n salida</numerusform>
+            <numerusform>Interrumpido: no se revisaron %n salidas</numerusform>
         </translation>
     </message>
     <message>
@@ -770,16 +863,16 @@ Transparente</translation>
     <name>ExportMessages</name>
     <message numerus="yes">
         <source>Exported %1 to %2 (%Ln bytes)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Se exportó %1 a %2 (%Ln byte)</numerusform>
+            <numerusform>Se exportó %1 a %2 (%Ln bytes)</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 (%Ln bytes)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 (%Ln byte)</numerusform>
+            <numerusform>%1 (%Ln bytes)</numerusform>
         </translation>
     </message>
     <message>
@@ -894,51 +987,51 @@ Añada paletas, tiles, mapas con lo que hay colocado en ellos, sprites, animacio
     </message>
     <message numerus="yes">
         <source>%Ln outputs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln salida</numerusform>
+            <numerusform>%Ln salidas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln bytes</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln byte</numerusform>
+            <numerusform>%Ln bytes</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln new</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln nueva</numerusform>
+            <numerusform>%Ln nuevas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln changed</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln modificada</numerusform>
+            <numerusform>%Ln modificadas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln unchanged</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln sin cambios</numerusform>
+            <numerusform>%Ln sin cambios</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln cannot be</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln imposible</numerusform>
+            <numerusform>%Ln imposibles</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln to be looked at</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln por revisar</numerusform>
+            <numerusform>%Ln por revisar</numerusform>
         </translation>
     </message>
     <message>
@@ -950,41 +1043,43 @@ Añada paletas, tiles, mapas con lo que hay colocado en ellos, sprites, animacio
     <name>ExportQuestion</name>
     <message>
         <source>Save the project first?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Guardar antes el proyecto?</translation>
     </message>
     <message>
         <source>The files for the game are written beside the project&apos;s file, and it has none yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los archivos para el juego se escriben junto al archivo del proyecto, que aún no existe.</translation>
     </message>
     <message>
         <source>&amp;Save Project…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Guardar proyecto…</translation>
     </message>
     <message>
         <source>The recipe of this project cannot be used:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>La receta de este proyecto no se puede usar:
+%1</translation>
     </message>
     <message>
         <source>Mend the file, or start with an empty recipe: the file is then kept as %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Corrija el archivo o empiece con una receta vacía: el archivo se conservará entonces como %1.</translation>
     </message>
     <message>
         <source>&amp;Start Anew</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Empezar de nuevo</translation>
     </message>
     <message>
         <source>Another program changed the recipe of this project:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Otro programa modificó la receta de este proyecto:
+%1</translation>
     </message>
     <message>
         <source>Saving it from here loses that change.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si se guarda desde aquí, se pierde ese cambio.</translation>
     </message>
     <message>
         <source>&amp;Replace</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Reemplazar</translation>
     </message>
     <message>
         <source>Export Project</source>
@@ -1003,9 +1098,9 @@ Añada paletas, tiles, mapas con lo que hay colocado en ellos, sprites, animacio
     </message>
     <message numerus="yes">
         <source>%Ln files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln archivo</numerusform>
+            <numerusform>%Ln archivos</numerusform>
         </translation>
     </message>
     <message>
@@ -1014,9 +1109,9 @@ Añada paletas, tiles, mapas con lo que hay colocado en ellos, sprites, animacio
     </message>
     <message numerus="yes">
         <source>%Ln bytes</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln byte</numerusform>
+            <numerusform>%Ln bytes</numerusform>
         </translation>
     </message>
     <message>
@@ -1025,18 +1120,18 @@ Añada paletas, tiles, mapas con lo que hay colocado en ellos, sprites, animacio
     </message>
     <message>
         <source>Nothing to export: 1 file is unchanged in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nada que exportar: 1 archivo sin cambios en %1</translation>
     </message>
     <message numerus="yes">
         <source>Nothing to export: %Ln files are unchanged in %1</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Nada que exportar: %Ln archivo sin cambios en %1</numerusform>
+            <numerusform>Nada que exportar: %Ln archivos sin cambios en %1</numerusform>
         </translation>
     </message>
     <message>
         <source>Exported %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportado: %1</translation>
     </message>
     <message>
         <source>Exported nothing</source>
@@ -1044,25 +1139,25 @@ Añada paletas, tiles, mapas con lo que hay colocado en ellos, sprites, animacio
     </message>
     <message numerus="yes">
         <source>%1, %Ln unchanged</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1, %Ln sin cambios</numerusform>
+            <numerusform>%1, %Ln sin cambios</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1, %Ln failed</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1, %Ln con error</numerusform>
+            <numerusform>%1, %Ln con error</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 en %2</translation>
     </message>
     <message>
         <source>%1, to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, en %2</translation>
     </message>
     <message>
         <source>Stopped: %1</source>
@@ -1070,9 +1165,9 @@ Añada paletas, tiles, mapas con lo que hay colocado en ellos, sprites, animacio
     </message>
     <message numerus="yes">
         <source>… and %Ln more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>… y %Ln más</numerusform>
+            <numerusform>… y %Ln más</numerusform>
         </translation>
     </message>
 </context>
@@ -1080,24 +1175,24 @@ Añada paletas, tiles, mapas con lo que hay colocado en ellos, sprites, animacio
     <name>ExtrasFile</name>
     <message>
         <source>it is no file of at most 16 MiB</source>
-        <translation type="unfinished"></translation>
+        <translation>no es un archivo de 16 MiB como máximo</translation>
     </message>
     <message>
         <source>line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>línea %1: %2</translation>
     </message>
     <message>
         <source>it holds no object</source>
-        <translation type="unfinished"></translation>
+        <translation>no contiene ningún objeto</translation>
     </message>
 </context>
 <context>
     <name>FileImport</name>
     <message numerus="yes">
         <source>… and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>… y %n más</numerusform>
+            <numerusform>… y %n más</numerusform>
         </translation>
     </message>
     <message>
@@ -1226,6 +1321,25 @@ Añada paletas, tiles, mapas con lo que hay colocado en ellos, sprites, animacio
     <message>
         <source>&amp;Clear</source>
         <translation>&amp;Vaciar</translation>
+    </message>
+</context>
+<context>
+    <name>FileName</name>
+    <message>
+        <source>“%1” has a character that file names cannot have everywhere</source>
+        <translation>«%1» tiene un carácter que no se admite en los nombres de archivo de todos los sistemas</translation>
+    </message>
+    <message>
+        <source>“%1” ends in a dot or a space, which Windows takes away</source>
+        <translation>«%1» termina en un punto o un espacio, que Windows elimina</translation>
+    </message>
+    <message>
+        <source>Windows takes “%1” for a device</source>
+        <translation>Windows toma «%1» por un dispositivo</translation>
+    </message>
+    <message>
+        <source>a name in it is longer than %1 bytes</source>
+        <translation>un nombre de la ruta tiene más de %1 bytes</translation>
     </message>
 </context>
 <context>
@@ -1436,9 +1550,9 @@ Añada paletas, tiles, mapas con lo que hay colocado en ellos, sprites, animacio
     </message>
     <message numerus="yes">
         <source>%n layers are hidden and left out, “%1” among them</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n capa está oculta y se omite, «%1»</numerusform>
+            <numerusform>%n capas están ocultas y se omiten, entre ellas «%1»</numerusform>
         </translation>
     </message>
     <message>
@@ -1459,11 +1573,11 @@ Añada paletas, tiles, mapas con lo que hay colocado en ellos, sprites, animacio
     </message>
     <message>
         <source>It has no colours</source>
-        <translation type="unfinished"></translation>
+        <translation>No tiene colores</translation>
     </message>
     <message>
         <source>“%1” is no colour, which is %2 numbers from 0 to 255</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es un color, que son %2 números de 0 a 255</translation>
     </message>
     <message>
         <source>“%1” stands where “%2” does</source>
@@ -1471,23 +1585,23 @@ Añada paletas, tiles, mapas con lo que hay colocado en ellos, sprites, animacio
     </message>
     <message>
         <source>“%1” is no number of colours</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es un número de colores</translation>
     </message>
     <message>
         <source>It says that it has %1 colours, and has %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Dice que tiene %1 colores y tiene %2</translation>
     </message>
     <message>
         <source>“%1” is no colour of six hexadecimal digits</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es un color de seis dígitos hexadecimales</translation>
     </message>
     <message>
         <source>It says that it has %1 colours; there is room for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Dice que tiene %1 colores; hay sitio para %2</translation>
     </message>
     <message>
         <source>Its transparent index is %1, and it has %2 colours</source>
-        <translation type="unfinished"></translation>
+        <translation>Su índice transparente es %1 y tiene %2 colores</translation>
     </message>
     <message>
         <source>It has %1; at most %2 can be read</source>
@@ -1499,9 +1613,9 @@ Añada paletas, tiles, mapas con lo que hay colocado en ellos, sprites, animacio
     </message>
     <message numerus="yes">
         <source>%n bytes</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n byte</numerusform>
+            <numerusform>%n bytes</numerusform>
         </translation>
     </message>
     <message>
@@ -1574,23 +1688,23 @@ Añada paletas, tiles, mapas con lo que hay colocado en ellos, sprites, animacio
     </message>
     <message numerus="yes">
         <source>What shines through clear pixels of tiles above is lost, in %n cells</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Lo que se ve a través de los píxeles transparentes de los tiles de encima se pierde, en %n celda</numerusform>
+            <numerusform>Lo que se ve a través de los píxeles transparentes de los tiles de encima se pierde, en %n celdas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n cells have numbers that no tile set has: they become empty</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n celda tiene un número que ningún tileset tiene: queda vacía</numerusform>
+            <numerusform>%n celdas tienen números que ningún tileset tiene: quedan vacías</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n cells of layers lie beyond the map: they are lost</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n celda de capas está fuera del mapa: se pierde</numerusform>
+            <numerusform>%n celdas de capas están fuera del mapa: se pierden</numerusform>
         </translation>
     </message>
     <message>
@@ -1763,6 +1877,14 @@ Añada paletas, tiles, mapas con lo que hay colocado en ellos, sprites, animacio
         <source>&amp;About</source>
         <translation>&amp;Acerca de</translation>
     </message>
+    <message>
+        <source>Command &amp;Palette…</source>
+        <translation>&amp;Paleta de órdenes…</translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard Shortcuts…</source>
+        <translation>&amp;Atajos de teclado…</translation>
+    </message>
 </context>
 <context>
     <name>ImageDialog</name>
@@ -1908,7 +2030,7 @@ Añada paletas, tiles, mapas con lo que hay colocado en ellos, sprites, animacio
     <name>ImportAgain</name>
     <message>
         <source>The image has no palette any more</source>
-        <translation type="unfinished"></translation>
+        <translation>La imagen ya no tiene paleta</translation>
     </message>
     <message>
         <source>Import Again</source>
@@ -1916,7 +2038,7 @@ Añada paletas, tiles, mapas con lo que hay colocado en ellos, sprites, animacio
     </message>
     <message>
         <source>%1 is up to date</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 está al día</translation>
     </message>
     <message>
         <source>The file is neither a palette nor a picture that can be read</source>
@@ -1924,15 +2046,15 @@ Añada paletas, tiles, mapas con lo que hay colocado en ellos, sprites, animacio
     </message>
     <message>
         <source>Such a file makes new assets, and cannot go into those that are there</source>
-        <translation type="unfinished"></translation>
+        <translation>Un archivo así crea recursos nuevos y no puede ir a los que ya existen</translation>
     </message>
     <message>
         <source>%1 was imported again</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 se volvió a importar</translation>
     </message>
     <message>
         <source>What was made of it is not there any more</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que se creó a partir de él ya no existe</translation>
     </message>
     <message>
         <source>The file is not there any more:
@@ -1946,7 +2068,7 @@ Añada paletas, tiles, mapas con lo que hay colocado en ellos, sprites, animacio
     </message>
     <message>
         <source>%1 is up to date; new tiles: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 está al día; tiles nuevos: %2</translation>
     </message>
     <message>
         <source>; pixels that took the nearest colour: %1</source>
@@ -1954,13 +2076,13 @@ Añada paletas, tiles, mapas con lo que hay colocado en ellos, sprites, animacio
     </message>
     <message>
         <source>The map has no tiles or no palette any more</source>
-        <translation type="unfinished"></translation>
+        <translation>El mapa ya no tiene tiles o paleta</translation>
     </message>
     <message numerus="yes">
         <source>The picture needs %n more tiles, and the tile set has room for %1</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>La imagen necesita %n tile más y en el tileset caben %1</numerusform>
+            <numerusform>La imagen necesita %n tiles más y en el tileset caben %1</numerusform>
         </translation>
     </message>
     <message>
@@ -1969,7 +2091,7 @@ Añada paletas, tiles, mapas con lo que hay colocado en ellos, sprites, animacio
     </message>
     <message>
         <source>The sprites have no palette any more</source>
-        <translation type="unfinished"></translation>
+        <translation>Los sprites ya no tienen paleta</translation>
     </message>
     <message>
         <source>The picture is smaller than a sprite, which has 16 × 16 pixels</source>
@@ -1981,22 +2103,22 @@ Añada paletas, tiles, mapas con lo que hay colocado en ellos, sprites, animacio
     </message>
     <message>
         <source>%1 is up to date; sprites that are new: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 está al día; sprites nuevos: %2</translation>
     </message>
 </context>
 <context>
     <name>ImportFileDialog</name>
     <message>
         <source>New palette</source>
-        <translation type="unfinished"></translation>
+        <translation>Paleta nueva</translation>
     </message>
     <message>
         <source>New tile set</source>
-        <translation type="unfinished"></translation>
+        <translation>Tileset nuevo</translation>
     </message>
     <message>
         <source>New map</source>
-        <translation type="unfinished"></translation>
+        <translation>Mapa nuevo</translation>
     </message>
     <message>
         <source>New sprites</source>
@@ -2004,17 +2126,17 @@ Añada paletas, tiles, mapas con lo que hay colocado en ellos, sprites, animacio
     </message>
     <message>
         <source>New map objects</source>
-        <translation type="unfinished"></translation>
+        <translation>Objetos de mapa nuevos</translation>
     </message>
     <message>
         <source>New image</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagen nueva</translation>
     </message>
     <message numerus="yes">
         <source>… and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>… y %n más</numerusform>
+            <numerusform>… y %n más</numerusform>
         </translation>
     </message>
     <message>
@@ -2079,9 +2201,9 @@ Añada paletas, tiles, mapas con lo que hay colocado en ellos, sprites, animacio
     </message>
     <message numerus="yes">
         <source>%1, %Ln bytes</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1, %Ln byte</numerusform>
+            <numerusform>%1, %Ln bytes</numerusform>
         </translation>
     </message>
     <message>
@@ -2148,9 +2270,9 @@ Añada paletas, tiles, mapas con lo que hay colocado en ellos, sprites, animacio
     </message>
     <message numerus="yes">
         <source>%n files changed since they were imported</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n archivo ha cambiado desde que se importó</numerusform>
+            <numerusform>%n archivos han cambiado desde que se importaron</numerusform>
         </translation>
     </message>
 </context>
@@ -2238,9 +2360,9 @@ Colores: %3, para %4 de la imagen; grupos: %5</translation>
     </message>
     <message numerus="yes">
         <source>The picture has %n different tiles, and a tile set has room for %1</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>La imagen tiene %n tile distinto y en un tileset caben %1</numerusform>
+            <numerusform>La imagen tiene %n tiles distintos y en un tileset caben %1</numerusform>
         </translation>
     </message>
 </context>
@@ -2371,9 +2493,9 @@ Colores: %3, para %4 de la imagen; grupos: %5</translation>
     </message>
     <message numerus="yes">
         <source>The frames make %n sprites, which is more than there is room for</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Los fotogramas generan %n sprite, más de los que caben</numerusform>
+            <numerusform>Los fotogramas generan %n sprites, más de los que caben</numerusform>
         </translation>
     </message>
     <message>
@@ -2693,6 +2815,17 @@ Colores: %3, para %4 de la imagen; grupos: %5</translation>
     <message>
         <source>Mirror</source>
         <translation>Reflejar</translation>
+    </message>
+</context>
+<context>
+    <name>LayoutController</name>
+    <message>
+        <source>Next Dock</source>
+        <translation>Panel siguiente</translation>
+    </message>
+    <message>
+        <source>Previous Dock</source>
+        <translation>Panel anterior</translation>
     </message>
 </context>
 <context>
@@ -3182,9 +3315,9 @@ Colores: %3, para %4 de la imagen; grupos: %5</translation>
     </message>
     <message numerus="yes">
         <source>The picture needs %n more tiles, and the tile set has room for %1</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>La imagen necesita %n tile más y en el tileset caben %1</numerusform>
+            <numerusform>La imagen necesita %n tiles más y en el tileset caben %1</numerusform>
         </translation>
     </message>
     <message>
@@ -3490,9 +3623,9 @@ Colores: %3, para %4 de la imagen; grupos: %5</translation>
     <name>MapEditor::View</name>
     <message numerus="yes">
         <source>%1x%2 (%n bytes)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1x%2 (%n byte)</numerusform>
+            <numerusform>%1x%2 (%n bytes)</numerusform>
         </translation>
     </message>
     <message>
@@ -3716,22 +3849,6 @@ Colores: %3, para %4 de la imagen; grupos: %5</translation>
     <message>
         <source>a folder or file in it has no name</source>
         <translation>una carpeta o un archivo de la ruta no tiene nombre</translation>
-    </message>
-    <message>
-        <source>“%1” has a character that file names cannot have everywhere</source>
-        <translation>«%1» tiene un carácter que no se admite en los nombres de archivo de todos los sistemas</translation>
-    </message>
-    <message>
-        <source>“%1” ends in a dot or a space, which Windows takes away</source>
-        <translation>«%1» termina en un punto o un espacio, que Windows elimina</translation>
-    </message>
-    <message>
-        <source>Windows takes “%1” for a device</source>
-        <translation>Windows toma «%1» por un dispositivo</translation>
-    </message>
-    <message>
-        <source>a name in it is longer than %1 bytes</source>
-        <translation>un nombre de la ruta tiene más de %1 bytes</translation>
     </message>
     <message>
         <source>There is no file name</source>
@@ -4570,7 +4687,7 @@ Colores: %3, para %4 de la imagen; grupos: %5</translation>
     <name>NextDataImport</name>
     <message>
         <source>Some of the required files are missing</source>
-        <translation type="unfinished"></translation>
+        <translation>Faltan algunos de los archivos necesarios</translation>
     </message>
     <message>
         <source>Importing %1…</source>
@@ -4578,15 +4695,15 @@ Colores: %3, para %4 de la imagen; grupos: %5</translation>
     </message>
     <message>
         <source>Could not import the palette data</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudieron importar los datos de la paleta</translation>
     </message>
     <message>
         <source>Could not import the tile data</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudieron importar los datos de los tiles</translation>
     </message>
     <message>
         <source>Could not import the map data</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudieron importar los datos del mapa</translation>
     </message>
 </context>
 <context>
@@ -4698,9 +4815,9 @@ Colores: %3, para %4 de la imagen; grupos: %5</translation>
     </message>
     <message numerus="yes">
         <source>%Ln bytes: %1</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln byte: %1</numerusform>
+            <numerusform>%Ln bytes: %1</numerusform>
         </translation>
     </message>
     <message>
@@ -4720,9 +4837,9 @@ Colores: %3, para %4 de la imagen; grupos: %5</translation>
     </message>
     <message numerus="yes">
         <source>%1 (%Ln bytes)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 (%Ln byte)</numerusform>
+            <numerusform>%1 (%Ln bytes)</numerusform>
         </translation>
     </message>
 </context>
@@ -4851,6 +4968,18 @@ Colores: %3, para %4 de la imagen; grupos: %5</translation>
     <message>
         <source>Create a gradient</source>
         <translation>Crear un degradado</translation>
+    </message>
+    <message>
+        <source>Darken</source>
+        <translation>Oscurecer</translation>
+    </message>
+    <message>
+        <source>Lighten</source>
+        <translation>Aclarar</translation>
+    </message>
+    <message>
+        <source>Gradient</source>
+        <translation>Degradado</translation>
     </message>
 </context>
 <context>
@@ -5003,13 +5132,13 @@ Paleta ▸ Nueva paleta crea una.</translation>
     </message>
     <message>
         <source>1 pixel</source>
-        <translation type="unfinished"></translation>
+        <translation>1 píxel</translation>
     </message>
     <message numerus="yes">
         <source>%Ln pixels</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln píxel</numerusform>
+            <numerusform>%Ln píxeles</numerusform>
         </translation>
     </message>
     <message>
@@ -5080,12 +5209,14 @@ Paleta ▸ Nueva paleta crea una.</translation>
     <message>
         <source>Tiles that lost colours: %1 of %2.
 A tile shows 16 colours, and all of them together have 16 groups of 16. Reduce the colours of the picture, to 16 in each tile of 8 × 8 pixels and to fewer in all, and import it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiles que perdieron colores: %1 de %2.
+Un tile muestra 16 colores, y todos juntos tienen 16 grupos de 16. Reduzca los colores de la imagen a 16 en cada tile de 8 × 8 píxeles y a menos en total, y vuelva a importarla.</translation>
     </message>
     <message>
         <source>Cannot import the image as it would need more than 512 tiles
 %1 required</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede importar la imagen porque necesitaría más de 512 tiles
+Necesarios: %1</translation>
     </message>
     <message>
         <source>The image is smaller than a tile, which has 8 × 8 pixels</source>
@@ -5247,9 +5378,9 @@ A tile shows 16 colours, and all of them together have 16 groups of 16. Reduce t
     </message>
     <message numerus="yes">
         <source>The picture has %n colours; the palette takes the first %1 of them</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>La imagen tiene %n color; la paleta toma los %1 primeros</numerusform>
+            <numerusform>La imagen tiene %n colores; la paleta toma los %1 primeros</numerusform>
         </translation>
     </message>
     <message>
@@ -5390,9 +5521,9 @@ El proyecto en sí está íntegro.
     </message>
     <message numerus="yes">
         <source>… and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>… y %n más</numerusform>
+            <numerusform>… y %n más</numerusform>
         </translation>
     </message>
     <message>
@@ -5585,9 +5716,9 @@ Do you want to replace it?</source>
     </message>
     <message numerus="yes">
         <source>%Ln pages of 8 KiB</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln página de 8 KiB</numerusform>
+            <numerusform>%Ln páginas de 8 KiB</numerusform>
         </translation>
     </message>
     <message>
@@ -5600,9 +5731,9 @@ Do you want to replace it?</source>
     </message>
     <message numerus="yes">
         <source>%Ln banks of 16 KiB</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln banco de 16 KiB</numerusform>
+            <numerusform>%Ln bancos de 16 KiB</numerusform>
         </translation>
     </message>
     <message>
@@ -5790,89 +5921,91 @@ Do you want to replace it?</source>
     <name>Request</name>
     <message>
         <source>Do this recipe, not the one beside the project.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hacer esta receta y no la que está junto al proyecto.</translation>
     </message>
     <message>
         <source>file</source>
-        <translation type="unfinished"></translation>
+        <translation>archivo</translation>
     </message>
     <message>
         <source>Write below this folder, not below the project&apos;s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribir dentro de esta carpeta y no de la del proyecto.</translation>
     </message>
     <message>
         <source>folder</source>
-        <translation type="unfinished"></translation>
+        <translation>carpeta</translation>
     </message>
     <message>
         <source>Write nothing, but say what would be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>No escribir nada, solo decir qué se escribiría.</translation>
     </message>
     <message>
         <source>Tell make or ninja in this file what was made of what.</source>
-        <translation type="unfinished"></translation>
+        <translation>Indicar a make o ninja en este archivo qué se hizo a partir de qué.</translation>
     </message>
     <message>
         <source>Say nothing unless something fails.</source>
-        <translation type="unfinished"></translation>
+        <translation>No decir nada salvo que algo falle.</translation>
     </message>
     <message>
         <source>Without a recipe: write the asset of this name or id …</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin receta: escribir el recurso de este nombre o id …</translation>
     </message>
     <message>
         <source>name</source>
-        <translation type="unfinished"></translation>
+        <translation>nombre</translation>
     </message>
     <message>
         <source>… in this form …</source>
-        <translation type="unfinished"></translation>
+        <translation>… en este formato …</translation>
     </message>
     <message>
         <source>id</source>
-        <translation type="unfinished"></translation>
+        <translation>id</translation>
     </message>
     <message>
         <source>… with this option of the form, which may be given again for others …</source>
-        <translation type="unfinished"></translation>
+        <translation>… con esta opción del formato, que puede repetirse para otras …</translation>
     </message>
     <message>
         <source>key=value</source>
-        <translation type="unfinished"></translation>
+        <translation>clave=valor</translation>
     </message>
     <message>
         <source>… to this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>… en este archivo.</translation>
     </message>
     <message>
         <source>List the assets: kind, id and name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Listar los recursos: tipo, id y nombre.</translation>
     </message>
     <message>
         <source>List the forms and their options.</source>
-        <translation type="unfinished"></translation>
+        <translation>Listar los formatos y sus opciones.</translation>
     </message>
     <message>
         <source>Describe the whole project as text, for git diff.</source>
-        <translation type="unfinished"></translation>
+        <translation>Describir todo el proyecto como texto, para git diff.</translation>
     </message>
     <message>
         <source>Show this help.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar esta ayuda.</translation>
     </message>
     <message>
         <source>Show the version.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar la versión.</translation>
     </message>
     <message>
         <source>A project file, as game.quenmora.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un archivo de proyecto, como game.quenmora.</translation>
     </message>
     <message>
         <source>Writes the graphics of a Quenmora project in the forms that a game takes, as its recipe says, the file
 game.quenmora-export.json beside game.quenmora, which File &gt; Export Project in the editor makes.
 Files whose bytes stay the same are not touched.</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribe los gráficos de un proyecto de Quenmora en los formatos que carga un juego, según su receta, el archivo
+game.quenmora-export.json junto a game.quenmora, que crea Archivo &gt; Exportar proyecto en el editor.
+Los archivos cuyos bytes no cambian no se tocan.</translation>
     </message>
     <message>
         <source>--%1 and --%2 do not go together</source>
@@ -5880,31 +6013,31 @@ Files whose bytes stay the same are not touched.</source>
     </message>
     <message>
         <source>--%1 takes KEY=VALUE, not “%2”</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1 espera CLAVE=VALOR, no «%2»</translation>
     </message>
     <message>
         <source>--%1 is there twice</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1 aparece dos veces</translation>
     </message>
     <message>
         <source>--%1 needs a value</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1 necesita un valor</translation>
     </message>
     <message>
         <source>--%1 means nothing here</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1 no significa nada aquí</translation>
     </message>
     <message>
         <source>--%1 needs --%2</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1 necesita --%2</translation>
     </message>
     <message>
         <source>“%1” is one argument too many</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» es un argumento de más</translation>
     </message>
     <message>
         <source>A project file is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta un archivo de proyecto</translation>
     </message>
 </context>
 <context>
@@ -5977,14 +6110,108 @@ Files whose bytes stay the same are not touched.</source>
     </message>
     <message numerus="yes">
         <source>What %Ln outputs are to have alike</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Lo que tendrá %Ln salida</numerusform>
+            <numerusform>Lo que tendrán en común %Ln salidas</numerusform>
         </translation>
     </message>
     <message>
         <source>Please choose what is to change</source>
         <translation>Elija qué debe cambiar</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutsDialog</name>
+    <message>
+        <source>A&amp;dd Key</source>
+        <translation>Añadir &amp;tecla</translation>
+    </message>
+    <message>
+        <source>&amp;Reset</source>
+        <translation>&amp;Restablecer</translation>
+    </message>
+    <message>
+        <source>&amp;Take It Away There</source>
+        <translation>&amp;Quitarla allí</translation>
+    </message>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation>Atajos de teclado</translation>
+    </message>
+    <message>
+        <source>Search by name</source>
+        <translation>Buscar por nombre</translation>
+    </message>
+    <message>
+        <source>or by &amp;keys:</source>
+        <translation>o por te&amp;clas:</translation>
+    </message>
+    <message>
+        <source>Search by keys</source>
+        <translation>Buscar por teclas</translation>
+    </message>
+    <message>
+        <source>Press keys to see what they do</source>
+        <translation>Pulse unas teclas para ver qué hacen</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Orden</translation>
+    </message>
+    <message>
+        <source>Where</source>
+        <translation>Dónde</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Teclas</translation>
+    </message>
+    <message>
+        <source>Commands</source>
+        <translation>Órdenes</translation>
+    </message>
+    <message>
+        <source>Leaves these keys to this command alone</source>
+        <translation>Deja estas teclas solo para esta orden</translation>
+    </message>
+    <message>
+        <source>Gives the command its usual keys</source>
+        <translation>Devuelve a la orden sus teclas habituales</translation>
+    </message>
+    <message>
+        <source>Reset &amp;All</source>
+        <translation>Restablecer t&amp;odo</translation>
+    </message>
+    <message>
+        <source>Gives all commands their usual keys</source>
+        <translation>Devuelve a todas las órdenes sus teclas habituales</translation>
+    </message>
+    <message>
+        <source>Another command has these keys, too</source>
+        <translation>Otra orden también tiene estas teclas</translation>
+    </message>
+    <message>
+        <source>Keys of “%1”</source>
+        <translation>Teclas de «%1»</translation>
+    </message>
+    <message>
+        <source>Press the keys that shall do it</source>
+        <translation>Pulse las teclas que deben hacerlo</translation>
+    </message>
+    <message>
+        <source>%1 is a key of “%2” (%3), too. Neither would do anything.</source>
+        <translation>%1 también es una tecla de «%2» (%3). Ninguna de las dos haría nada.</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutsFile</name>
+    <message>
+        <source>The file is too large</source>
+        <translation>El archivo es demasiado grande</translation>
+    </message>
+    <message>
+        <source>The file does not hold keys by command</source>
+        <translation>El archivo no contiene teclas por orden</translation>
     </message>
 </context>
 <context>
@@ -6162,9 +6389,9 @@ Files whose bytes stay the same are not touched.</source>
     </message>
     <message numerus="yes">
         <source>The picture has %n colours; 4-bit sprites show 15 beside the transparent one</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>La imagen tiene %n color; los sprites de 4 bits muestran 15 además del transparente</numerusform>
+            <numerusform>La imagen tiene %n colores; los sprites de 4 bits muestran 15 además del transparente</numerusform>
         </translation>
     </message>
     <message>
@@ -6885,6 +7112,21 @@ Offset de paleta: %2</translation>
     </message>
 </context>
 <context>
+    <name>UnsavedMark</name>
+    <message>
+        <source>● Unsaved</source>
+        <translation>● Sin guardar</translation>
+    </message>
+    <message>
+        <source>The project has unsaved changes</source>
+        <translation>El proyecto tiene cambios sin guardar</translation>
+    </message>
+    <message>
+        <source>The project has changes that are not saved yet</source>
+        <translation>El proyecto tiene cambios que aún no se han guardado</translation>
+    </message>
+</context>
+<context>
     <name>Update::UpdateChecker</name>
     <message>
         <source>The update feed is too large</source>
@@ -6984,27 +7226,31 @@ La nueva versión se publicó el %3.</translation>
     <name>WriteProblem</name>
     <message>
         <source>There is no folder %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No existe la carpeta %1</translation>
     </message>
     <message>
         <source>%1 is a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 es una carpeta</translation>
     </message>
     <message>
         <source>%1 is a pipe or a device, not a file</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 es una tubería o un dispositivo, no un archivo</translation>
     </message>
     <message>
         <source>You may not write to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No tiene permiso para escribir en %1</translation>
     </message>
     <message>
         <source>%1 could not be written to its end; there may be no room left</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no se pudo escribir hasta el final; quizá no quede espacio</translation>
     </message>
     <message>
         <source>No file can be called %1: a slash would lead into another folder. Another name of the asset helps.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún archivo puede llamarse %1: una barra llevaría a otra carpeta. Basta con otro nombre del recurso.</translation>
+    </message>
+    <message>
+        <source>No file can be called that: %1. Another name of the asset helps.</source>
+        <translation>Ningún archivo puede llamarse así: %1. Basta con otro nombre del recurso.</translation>
     </message>
 </context>
 </TS>

@@ -84,9 +84,9 @@
     </message>
     <message numerus="yes">
         <source>&amp;Add %Ln Outputs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>&amp;Ajouter %Ln sortie</numerusform>
+            <numerusform>&amp;Ajouter %Ln sorties</numerusform>
         </translation>
     </message>
     <message>
@@ -115,9 +115,9 @@
     </message>
     <message numerus="yes">
         <source>A recipe can have %n outputs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Une recette peut avoir %n sortie</numerusform>
+            <numerusform>Une recette peut avoir %n sorties</numerusform>
         </translation>
     </message>
 </context>
@@ -205,9 +205,11 @@
     <message numerus="yes">
         <source>%1
 %n frame(s) [%2x%3]</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1
+%n frame [%2x%3]</numerusform>
+            <numerusform>%1
+%n frames [%2x%3]</numerusform>
         </translation>
     </message>
 </context>
@@ -567,6 +569,97 @@ Transparent</translation>
     </message>
 </context>
 <context>
+    <name>CommandDesk</name>
+    <message>
+        <source>Your keyboard shortcuts could not be read. All commands have their usual keys.</source>
+        <translation>Vos raccourcis clavier n’ont pas pu être lus. Toutes les commandes ont leurs touches habituelles.</translation>
+    </message>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation>Raccourcis clavier</translation>
+    </message>
+    <message>
+        <source>%1
+%2 was kept aside under a name that ends in .bad.</source>
+        <translation>%1
+%2 a été conservé sous un nom qui se termine par .bad.</translation>
+    </message>
+    <message>
+        <source>Your keyboard shortcuts could not be saved. They hold until you quit.</source>
+        <translation>Vos raccourcis clavier n’ont pas pu être enregistrés. Ils valent jusqu’à ce que vous quittiez.</translation>
+    </message>
+    <message>
+        <source>Recent Projects</source>
+        <translation>Projets récents</translation>
+    </message>
+    <message>
+        <source>Tile %1</source>
+        <translation>Tuile %1</translation>
+    </message>
+</context>
+<context>
+    <name>CommandPalette</name>
+    <message>
+        <source>Command Palette</source>
+        <translation>Palette de commandes</translation>
+    </message>
+    <message>
+        <source>Type a few letters of a command, an asset or a tile</source>
+        <translation>Saisissez quelques lettres d’une commande, d’une ressource ou d’une tuile</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>What matches</source>
+        <translation>Résultats</translation>
+    </message>
+</context>
+<context>
+    <name>CommandPlaces</name>
+    <message>
+        <source>Window</source>
+        <translation>Fenêtre</translation>
+    </message>
+    <message>
+        <source>Tool Bars</source>
+        <translation>Barres d’outils</translation>
+    </message>
+    <message>
+        <source>Map Editor</source>
+        <translation>Éditeur de cartes</translation>
+    </message>
+    <message>
+        <source>Layers of the Map</source>
+        <translation>Calques de la carte</translation>
+    </message>
+    <message>
+        <source>Pixel Editors</source>
+        <translation>Éditeurs de pixels</translation>
+    </message>
+    <message>
+        <source>Animation Editors</source>
+        <translation>Éditeurs d’animations</translation>
+    </message>
+    <message>
+        <source>List of Animations</source>
+        <translation>Liste des animations</translation>
+    </message>
+    <message>
+        <source>Tile Picker</source>
+        <translation>Sélecteur de tuiles</translation>
+    </message>
+    <message>
+        <source>Palette Editor</source>
+        <translation>Éditeur de palettes</translation>
+    </message>
+    <message>
+        <source>%1 ▸ %2</source>
+        <translation>%1 ▸ %2</translation>
+    </message>
+</context>
+<context>
     <name>CreationDialog</name>
     <message>
         <source>&amp;Name</source>
@@ -585,9 +678,9 @@ Transparent</translation>
     </message>
     <message numerus="yes">
         <source>%n animations</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n animation</numerusform>
+            <numerusform>%n animations</numerusform>
         </translation>
     </message>
     <message>
@@ -596,9 +689,9 @@ Transparent</translation>
     </message>
     <message numerus="yes">
         <source>%n placed sprites</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n sprite placé</numerusform>
+            <numerusform>%n sprites placés</numerusform>
         </translation>
     </message>
     <message>
@@ -611,9 +704,9 @@ Transparent</translation>
     </message>
     <message numerus="yes">
         <source>%n placed animations</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n animation placée</numerusform>
+            <numerusform>%n animations placées</numerusform>
         </translation>
     </message>
     <message>
@@ -622,13 +715,13 @@ Transparent</translation>
     </message>
     <message>
         <source>No longer shown: %1 on 1 map.</source>
-        <translation type="unfinished"></translation>
+        <translation>N’apparaîtra plus&#xa0;: %1 sur 1 carte.</translation>
     </message>
     <message numerus="yes">
         <source>No longer shown: %1 on %n maps.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>N’apparaîtra plus&#xa0;: %1 sur %n carte.</numerusform>
+            <numerusform>N’apparaîtra plus&#xa0;: %1 sur %n cartes.</numerusform>
         </translation>
     </message>
     <message>
@@ -712,15 +805,15 @@ Transparent</translation>
     <name>ExportCommand</name>
     <message>
         <source>TEXT</source>
-        <translation type="unfinished"></translation>
+        <translation>TEXTE</translation>
     </message>
     <message>
         <source>There is no asset “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas de ressource «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>“%1” is the name of several assets: use an id (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» est le nom de plusieurs ressources&#xa0;: utilisez un id (%2)</translation>
     </message>
     <message>
         <source>quenmora-export --help tells what it understands</source>
@@ -740,9 +833,9 @@ Transparent</translation>
     </message>
     <message numerus="yes">
         <source>Interrupted: %n outputs were not looked at</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Interrompu&#xa0;: %n sortie n’a pas été examinée</numerusform>
+            <numerusform>Interrompu&#xa0;: %n sorties n’ont pas été examinées</numerusform>
         </translation>
     </message>
     <message>
@@ -770,16 +863,16 @@ Transparent</translation>
     <name>ExportMessages</name>
     <message numerus="yes">
         <source>Exported %1 to %2 (%Ln bytes)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Exporté&#xa0;: %1 vers %2 (%Ln octet)</numerusform>
+            <numerusform>Exporté&#xa0;: %1 vers %2 (%Ln octets)</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 (%Ln bytes)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 (%Ln octet)</numerusform>
+            <numerusform>%1 (%Ln octets)</numerusform>
         </translation>
     </message>
     <message>
@@ -894,51 +987,51 @@ Ajoutez des palettes, des tuiles, des cartes avec ce qui y est placé, des sprit
     </message>
     <message numerus="yes">
         <source>%Ln outputs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln sortie</numerusform>
+            <numerusform>%Ln sorties</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln bytes</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln octet</numerusform>
+            <numerusform>%Ln octets</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln new</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln nouvelle</numerusform>
+            <numerusform>%Ln nouvelles</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln changed</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln modifiée</numerusform>
+            <numerusform>%Ln modifiées</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln unchanged</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln inchangée</numerusform>
+            <numerusform>%Ln inchangées</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln cannot be</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln impossible</numerusform>
+            <numerusform>%Ln impossibles</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln to be looked at</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln à examiner</numerusform>
+            <numerusform>%Ln à examiner</numerusform>
         </translation>
     </message>
     <message>
@@ -950,41 +1043,43 @@ Ajoutez des palettes, des tuiles, des cartes avec ce qui y est placé, des sprit
     <name>ExportQuestion</name>
     <message>
         <source>Save the project first?</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer d’abord le projet&#xa0;?</translation>
     </message>
     <message>
         <source>The files for the game are written beside the project&apos;s file, and it has none yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les fichiers du jeu sont écrits à côté du fichier du projet, qui n’existe pas encore.</translation>
     </message>
     <message>
         <source>&amp;Save Project…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enregistrer le projet…</translation>
     </message>
     <message>
         <source>The recipe of this project cannot be used:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>La recette de ce projet est inutilisable&#xa0;:
+%1</translation>
     </message>
     <message>
         <source>Mend the file, or start with an empty recipe: the file is then kept as %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Corrigez le fichier, ou commencez avec une recette vide&#xa0;: le fichier sera alors conservé sous le nom %1.</translation>
     </message>
     <message>
         <source>&amp;Start Anew</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Recommencer</translation>
     </message>
     <message>
         <source>Another program changed the recipe of this project:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Un autre programme a modifié la recette de ce projet&#xa0;:
+%1</translation>
     </message>
     <message>
         <source>Saving it from here loses that change.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’enregistrer d’ici fait perdre cette modification.</translation>
     </message>
     <message>
         <source>&amp;Replace</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Remplacer</translation>
     </message>
     <message>
         <source>Export Project</source>
@@ -1003,9 +1098,9 @@ Ajoutez des palettes, des tuiles, des cartes avec ce qui y est placé, des sprit
     </message>
     <message numerus="yes">
         <source>%Ln files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln fichier</numerusform>
+            <numerusform>%Ln fichiers</numerusform>
         </translation>
     </message>
     <message>
@@ -1014,9 +1109,9 @@ Ajoutez des palettes, des tuiles, des cartes avec ce qui y est placé, des sprit
     </message>
     <message numerus="yes">
         <source>%Ln bytes</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln octet</numerusform>
+            <numerusform>%Ln octets</numerusform>
         </translation>
     </message>
     <message>
@@ -1025,18 +1120,18 @@ Ajoutez des palettes, des tuiles, des cartes avec ce qui y est placé, des sprit
     </message>
     <message>
         <source>Nothing to export: 1 file is unchanged in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien à exporter&#xa0;: 1 fichier inchangé dans %1</translation>
     </message>
     <message numerus="yes">
         <source>Nothing to export: %Ln files are unchanged in %1</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Rien à exporter&#xa0;: %Ln fichier inchangé dans %1</numerusform>
+            <numerusform>Rien à exporter&#xa0;: %Ln fichiers inchangés dans %1</numerusform>
         </translation>
     </message>
     <message>
         <source>Exported %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporté&#xa0;: %1</translation>
     </message>
     <message>
         <source>Exported nothing</source>
@@ -1044,25 +1139,25 @@ Ajoutez des palettes, des tuiles, des cartes avec ce qui y est placé, des sprit
     </message>
     <message numerus="yes">
         <source>%1, %Ln unchanged</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1, %Ln inchangé</numerusform>
+            <numerusform>%1, %Ln inchangés</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1, %Ln failed</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1, %Ln échec</numerusform>
+            <numerusform>%1, %Ln échecs</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 dans %2</translation>
     </message>
     <message>
         <source>%1, to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, dans %2</translation>
     </message>
     <message>
         <source>Stopped: %1</source>
@@ -1070,9 +1165,9 @@ Ajoutez des palettes, des tuiles, des cartes avec ce qui y est placé, des sprit
     </message>
     <message numerus="yes">
         <source>… and %Ln more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>… et encore %Ln</numerusform>
+            <numerusform>… et encore %Ln</numerusform>
         </translation>
     </message>
 </context>
@@ -1080,24 +1175,24 @@ Ajoutez des palettes, des tuiles, des cartes avec ce qui y est placé, des sprit
     <name>ExtrasFile</name>
     <message>
         <source>it is no file of at most 16 MiB</source>
-        <translation type="unfinished"></translation>
+        <translation>ce n’est pas un fichier d’au plus 16 Mio</translation>
     </message>
     <message>
         <source>line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>ligne %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>it holds no object</source>
-        <translation type="unfinished"></translation>
+        <translation>il ne contient pas d’objet</translation>
     </message>
 </context>
 <context>
     <name>FileImport</name>
     <message numerus="yes">
         <source>… and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>… et encore %n</numerusform>
+            <numerusform>… et encore %n</numerusform>
         </translation>
     </message>
     <message>
@@ -1226,6 +1321,25 @@ Ajoutez des palettes, des tuiles, des cartes avec ce qui y est placé, des sprit
     <message>
         <source>&amp;Clear</source>
         <translation>&amp;Vider la liste</translation>
+    </message>
+</context>
+<context>
+    <name>FileName</name>
+    <message>
+        <source>“%1” has a character that file names cannot have everywhere</source>
+        <translation>«&#xa0;%1&#xa0;» a un caractère qui n’est pas permis partout dans les noms de fichiers</translation>
+    </message>
+    <message>
+        <source>“%1” ends in a dot or a space, which Windows takes away</source>
+        <translation>«&#xa0;%1&#xa0;» se termine par un point ou un espace, que Windows enlève</translation>
+    </message>
+    <message>
+        <source>Windows takes “%1” for a device</source>
+        <translation>Windows prend «&#xa0;%1&#xa0;» pour un périphérique</translation>
+    </message>
+    <message>
+        <source>a name in it is longer than %1 bytes</source>
+        <translation>un nom y dépasse %1 octets</translation>
     </message>
 </context>
 <context>
@@ -1436,9 +1550,9 @@ Ajoutez des palettes, des tuiles, des cartes avec ce qui y est placé, des sprit
     </message>
     <message numerus="yes">
         <source>%n layers are hidden and left out, “%1” among them</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n calque masqué est ignoré, «&#xa0;%1&#xa0;»</numerusform>
+            <numerusform>%n calques masqués sont ignorés, dont «&#xa0;%1&#xa0;»</numerusform>
         </translation>
     </message>
     <message>
@@ -1459,11 +1573,11 @@ Ajoutez des palettes, des tuiles, des cartes avec ce qui y est placé, des sprit
     </message>
     <message>
         <source>It has no colours</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’a pas de couleurs</translation>
     </message>
     <message>
         <source>“%1” is no colour, which is %2 numbers from 0 to 255</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une couleur, c’est-à-dire %2 nombres de 0 à 255</translation>
     </message>
     <message>
         <source>“%1” stands where “%2” does</source>
@@ -1471,23 +1585,23 @@ Ajoutez des palettes, des tuiles, des cartes avec ce qui y est placé, des sprit
     </message>
     <message>
         <source>“%1” is no number of colours</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un nombre de couleurs</translation>
     </message>
     <message>
         <source>It says that it has %1 colours, and has %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Il annonce %1 couleurs et en a %2</translation>
     </message>
     <message>
         <source>“%1” is no colour of six hexadecimal digits</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une couleur de six chiffres hexadécimaux</translation>
     </message>
     <message>
         <source>It says that it has %1 colours; there is room for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Il annonce %1 couleurs&#xa0;; il y a de la place pour %2</translation>
     </message>
     <message>
         <source>Its transparent index is %1, and it has %2 colours</source>
-        <translation type="unfinished"></translation>
+        <translation>Son index de transparence est %1, et il a %2 couleurs</translation>
     </message>
     <message>
         <source>It has %1; at most %2 can be read</source>
@@ -1499,9 +1613,9 @@ Ajoutez des palettes, des tuiles, des cartes avec ce qui y est placé, des sprit
     </message>
     <message numerus="yes">
         <source>%n bytes</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n octet</numerusform>
+            <numerusform>%n octets</numerusform>
         </translation>
     </message>
     <message>
@@ -1574,23 +1688,23 @@ Ajoutez des palettes, des tuiles, des cartes avec ce qui y est placé, des sprit
     </message>
     <message numerus="yes">
         <source>What shines through clear pixels of tiles above is lost, in %n cells</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ce qui se voit à travers les pixels transparents des tuiles du dessus est perdu, dans %n case</numerusform>
+            <numerusform>Ce qui se voit à travers les pixels transparents des tuiles du dessus est perdu, dans %n cases</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n cells have numbers that no tile set has: they become empty</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n case a un numéro qu’aucun jeu de tuiles n’a&#xa0;: elle devient vide</numerusform>
+            <numerusform>%n cases ont des numéros qu’aucun jeu de tuiles n’a&#xa0;: elles deviennent vides</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n cells of layers lie beyond the map: they are lost</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n case de calques dépasse de la carte&#xa0;: elle est perdue</numerusform>
+            <numerusform>%n cases de calques dépassent de la carte&#xa0;: elles sont perdues</numerusform>
         </translation>
     </message>
     <message>
@@ -1763,6 +1877,14 @@ Ajoutez des palettes, des tuiles, des cartes avec ce qui y est placé, des sprit
         <source>&amp;About</source>
         <translation>À &amp;propos</translation>
     </message>
+    <message>
+        <source>Command &amp;Palette…</source>
+        <translation>&amp;Palette de commandes…</translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard Shortcuts…</source>
+        <translation>&amp;Raccourcis clavier…</translation>
+    </message>
 </context>
 <context>
     <name>ImageDialog</name>
@@ -1908,7 +2030,7 @@ Ajoutez des palettes, des tuiles, des cartes avec ce qui y est placé, des sprit
     <name>ImportAgain</name>
     <message>
         <source>The image has no palette any more</source>
-        <translation type="unfinished"></translation>
+        <translation>L’image n’a plus de palette</translation>
     </message>
     <message>
         <source>Import Again</source>
@@ -1916,7 +2038,7 @@ Ajoutez des palettes, des tuiles, des cartes avec ce qui y est placé, des sprit
     </message>
     <message>
         <source>%1 is up to date</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est à jour</translation>
     </message>
     <message>
         <source>The file is neither a palette nor a picture that can be read</source>
@@ -1924,15 +2046,15 @@ Ajoutez des palettes, des tuiles, des cartes avec ce qui y est placé, des sprit
     </message>
     <message>
         <source>Such a file makes new assets, and cannot go into those that are there</source>
-        <translation type="unfinished"></translation>
+        <translation>Un tel fichier donne de nouvelles ressources et ne peut pas aller dans celles qui existent</translation>
     </message>
     <message>
         <source>%1 was imported again</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 a été réimporté</translation>
     </message>
     <message>
         <source>What was made of it is not there any more</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui en avait été fait n’existe plus</translation>
     </message>
     <message>
         <source>The file is not there any more:
@@ -1946,7 +2068,7 @@ Ajoutez des palettes, des tuiles, des cartes avec ce qui y est placé, des sprit
     </message>
     <message>
         <source>%1 is up to date; new tiles: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est à jour&#xa0;; nouvelles tuiles&#xa0;: %2</translation>
     </message>
     <message>
         <source>; pixels that took the nearest colour: %1</source>
@@ -1954,13 +2076,13 @@ Ajoutez des palettes, des tuiles, des cartes avec ce qui y est placé, des sprit
     </message>
     <message>
         <source>The map has no tiles or no palette any more</source>
-        <translation type="unfinished"></translation>
+        <translation>La carte n’a plus de tuiles ou plus de palette</translation>
     </message>
     <message numerus="yes">
         <source>The picture needs %n more tiles, and the tile set has room for %1</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>L’image demande %n tuile de plus, et le jeu de tuiles a de la place pour %1</numerusform>
+            <numerusform>L’image demande %n tuiles de plus, et le jeu de tuiles a de la place pour %1</numerusform>
         </translation>
     </message>
     <message>
@@ -1969,7 +2091,7 @@ Ajoutez des palettes, des tuiles, des cartes avec ce qui y est placé, des sprit
     </message>
     <message>
         <source>The sprites have no palette any more</source>
-        <translation type="unfinished"></translation>
+        <translation>Les sprites n’ont plus de palette</translation>
     </message>
     <message>
         <source>The picture is smaller than a sprite, which has 16 × 16 pixels</source>
@@ -1981,22 +2103,22 @@ Ajoutez des palettes, des tuiles, des cartes avec ce qui y est placé, des sprit
     </message>
     <message>
         <source>%1 is up to date; sprites that are new: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est à jour&#xa0;; nouveaux sprites&#xa0;: %2</translation>
     </message>
 </context>
 <context>
     <name>ImportFileDialog</name>
     <message>
         <source>New palette</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouvelle palette</translation>
     </message>
     <message>
         <source>New tile set</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouveau jeu de tuiles</translation>
     </message>
     <message>
         <source>New map</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouvelle carte</translation>
     </message>
     <message>
         <source>New sprites</source>
@@ -2004,17 +2126,17 @@ Ajoutez des palettes, des tuiles, des cartes avec ce qui y est placé, des sprit
     </message>
     <message>
         <source>New map objects</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouveaux objets de carte</translation>
     </message>
     <message>
         <source>New image</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouvelle image</translation>
     </message>
     <message numerus="yes">
         <source>… and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>… et encore %n</numerusform>
+            <numerusform>… et encore %n</numerusform>
         </translation>
     </message>
     <message>
@@ -2079,9 +2201,9 @@ Ajoutez des palettes, des tuiles, des cartes avec ce qui y est placé, des sprit
     </message>
     <message numerus="yes">
         <source>%1, %Ln bytes</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1, %Ln octet</numerusform>
+            <numerusform>%1, %Ln octets</numerusform>
         </translation>
     </message>
     <message>
@@ -2148,9 +2270,9 @@ Ajoutez des palettes, des tuiles, des cartes avec ce qui y est placé, des sprit
     </message>
     <message numerus="yes">
         <source>%n files changed since they were imported</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n fichier a changé depuis son importation</numerusform>
+            <numerusform>%n fichiers ont changé depuis leur importation</numerusform>
         </translation>
     </message>
 </context>
@@ -2238,9 +2360,9 @@ Couleurs&#xa0;: %3, pour %4 dans l’image&#xa0;; groupes&#xa0;: %5</translation
     </message>
     <message numerus="yes">
         <source>The picture has %n different tiles, and a tile set has room for %1</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>L’image a %n tuile différente, et un jeu de tuiles n’en contient que %1</numerusform>
+            <numerusform>L’image a %n tuiles différentes, et un jeu de tuiles n’en contient que %1</numerusform>
         </translation>
     </message>
 </context>
@@ -2371,9 +2493,9 @@ Couleurs&#xa0;: %3, pour %4 dans l’image&#xa0;; groupes&#xa0;: %5</translation
     </message>
     <message numerus="yes">
         <source>The frames make %n sprites, which is more than there is room for</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Les frames donnent %n sprite, plus que la place disponible</numerusform>
+            <numerusform>Les frames donnent %n sprites, plus que la place disponible</numerusform>
         </translation>
     </message>
     <message>
@@ -2693,6 +2815,17 @@ Couleurs&#xa0;: %3, pour %4 dans l’image&#xa0;; groupes&#xa0;: %5</translation
     <message>
         <source>Mirror</source>
         <translation>Miroir horizontal</translation>
+    </message>
+</context>
+<context>
+    <name>LayoutController</name>
+    <message>
+        <source>Next Dock</source>
+        <translation>Panneau suivant</translation>
+    </message>
+    <message>
+        <source>Previous Dock</source>
+        <translation>Panneau précédent</translation>
     </message>
 </context>
 <context>
@@ -3182,9 +3315,9 @@ Couleurs&#xa0;: %3, pour %4 dans l’image&#xa0;; groupes&#xa0;: %5</translation
     </message>
     <message numerus="yes">
         <source>The picture needs %n more tiles, and the tile set has room for %1</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>L’image demande %n tuile de plus, et le jeu de tuiles a de la place pour %1</numerusform>
+            <numerusform>L’image demande %n tuiles de plus, et le jeu de tuiles a de la place pour %1</numerusform>
         </translation>
     </message>
     <message>
@@ -3490,9 +3623,9 @@ Couleurs&#xa0;: %3, pour %4 dans l’image&#xa0;; groupes&#xa0;: %5</translation
     <name>MapEditor::View</name>
     <message numerus="yes">
         <source>%1x%2 (%n bytes)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1x%2 (%n octet)</numerusform>
+            <numerusform>%1x%2 (%n octets)</numerusform>
         </translation>
     </message>
     <message>
@@ -3716,22 +3849,6 @@ Couleurs&#xa0;: %3, pour %4 dans l’image&#xa0;; groupes&#xa0;: %5</translation
     <message>
         <source>a folder or file in it has no name</source>
         <translation>un dossier ou un fichier y est sans nom</translation>
-    </message>
-    <message>
-        <source>“%1” has a character that file names cannot have everywhere</source>
-        <translation>«&#xa0;%1&#xa0;» a un caractère qui n’est pas permis partout dans les noms de fichiers</translation>
-    </message>
-    <message>
-        <source>“%1” ends in a dot or a space, which Windows takes away</source>
-        <translation>«&#xa0;%1&#xa0;» se termine par un point ou un espace, que Windows enlève</translation>
-    </message>
-    <message>
-        <source>Windows takes “%1” for a device</source>
-        <translation>Windows prend «&#xa0;%1&#xa0;» pour un périphérique</translation>
-    </message>
-    <message>
-        <source>a name in it is longer than %1 bytes</source>
-        <translation>un nom y dépasse %1 octets</translation>
     </message>
     <message>
         <source>There is no file name</source>
@@ -4570,7 +4687,7 @@ Couleurs&#xa0;: %3, pour %4 dans l’image&#xa0;; groupes&#xa0;: %5</translation
     <name>NextDataImport</name>
     <message>
         <source>Some of the required files are missing</source>
-        <translation type="unfinished"></translation>
+        <translation>Certains des fichiers nécessaires manquent</translation>
     </message>
     <message>
         <source>Importing %1…</source>
@@ -4578,15 +4695,15 @@ Couleurs&#xa0;: %3, pour %4 dans l’image&#xa0;; groupes&#xa0;: %5</translation
     </message>
     <message>
         <source>Could not import the palette data</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’importer les données de la palette</translation>
     </message>
     <message>
         <source>Could not import the tile data</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’importer les données des tuiles</translation>
     </message>
     <message>
         <source>Could not import the map data</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’importer les données de la carte</translation>
     </message>
 </context>
 <context>
@@ -4698,9 +4815,9 @@ Couleurs&#xa0;: %3, pour %4 dans l’image&#xa0;; groupes&#xa0;: %5</translation
     </message>
     <message numerus="yes">
         <source>%Ln bytes: %1</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln octet&#xa0;: %1</numerusform>
+            <numerusform>%Ln octets&#xa0;: %1</numerusform>
         </translation>
     </message>
     <message>
@@ -4720,9 +4837,9 @@ Couleurs&#xa0;: %3, pour %4 dans l’image&#xa0;; groupes&#xa0;: %5</translation
     </message>
     <message numerus="yes">
         <source>%1 (%Ln bytes)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 (%Ln octet)</numerusform>
+            <numerusform>%1 (%Ln octets)</numerusform>
         </translation>
     </message>
 </context>
@@ -4851,6 +4968,18 @@ Couleurs&#xa0;: %3, pour %4 dans l’image&#xa0;; groupes&#xa0;: %5</translation
     <message>
         <source>Create a gradient</source>
         <translation>Crée un dégradé</translation>
+    </message>
+    <message>
+        <source>Darken</source>
+        <translation>Assombrir</translation>
+    </message>
+    <message>
+        <source>Lighten</source>
+        <translation>Éclaircir</translation>
+    </message>
+    <message>
+        <source>Gradient</source>
+        <translation>Dégradé</translation>
     </message>
 </context>
 <context>
@@ -5003,13 +5132,13 @@ Palette ▸ Nouvelle palette en crée une.</translation>
     </message>
     <message>
         <source>1 pixel</source>
-        <translation type="unfinished"></translation>
+        <translation>1 pixel</translation>
     </message>
     <message numerus="yes">
         <source>%Ln pixels</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln pixel</numerusform>
+            <numerusform>%Ln pixels</numerusform>
         </translation>
     </message>
     <message>
@@ -5080,12 +5209,14 @@ Palette ▸ Nouvelle palette en crée une.</translation>
     <message>
         <source>Tiles that lost colours: %1 of %2.
 A tile shows 16 colours, and all of them together have 16 groups of 16. Reduce the colours of the picture, to 16 in each tile of 8 × 8 pixels and to fewer in all, and import it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tuiles qui ont perdu des couleurs&#xa0;: %1 sur %2.
+Une tuile montre 16 couleurs, et toutes ensemble ont 16 groupes de 16. Réduisez les couleurs de l’image à 16 par tuile de 8 × 8 pixels et à moins en tout, puis importez-la de nouveau.</translation>
     </message>
     <message>
         <source>Cannot import the image as it would need more than 512 tiles
 %1 required</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’importer l’image&#xa0;: il faudrait plus de 512 tuiles
+Nécessaires&#xa0;: %1</translation>
     </message>
     <message>
         <source>The image is smaller than a tile, which has 8 × 8 pixels</source>
@@ -5247,9 +5378,9 @@ A tile shows 16 colours, and all of them together have 16 groups of 16. Reduce t
     </message>
     <message numerus="yes">
         <source>The picture has %n colours; the palette takes the first %1 of them</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>L’image a %n couleur&#xa0;; la palette en prend les %1 premières</numerusform>
+            <numerusform>L’image a %n couleurs&#xa0;; la palette en prend les %1 premières</numerusform>
         </translation>
     </message>
     <message>
@@ -5390,9 +5521,9 @@ Le projet lui-même est intact.
     </message>
     <message numerus="yes">
         <source>… and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>… et encore %n</numerusform>
+            <numerusform>… et encore %n</numerusform>
         </translation>
     </message>
     <message>
@@ -5585,9 +5716,9 @@ Voulez-vous le remplacer&#xa0;?</translation>
     </message>
     <message numerus="yes">
         <source>%Ln pages of 8 KiB</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln page de 8 Kio</numerusform>
+            <numerusform>%Ln pages de 8 Kio</numerusform>
         </translation>
     </message>
     <message>
@@ -5600,9 +5731,9 @@ Voulez-vous le remplacer&#xa0;?</translation>
     </message>
     <message numerus="yes">
         <source>%Ln banks of 16 KiB</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln banque de 16 Kio</numerusform>
+            <numerusform>%Ln banques de 16 Kio</numerusform>
         </translation>
     </message>
     <message>
@@ -5790,89 +5921,91 @@ Voulez-vous le remplacer&#xa0;?</translation>
     <name>Request</name>
     <message>
         <source>Do this recipe, not the one beside the project.</source>
-        <translation type="unfinished"></translation>
+        <translation>Exécuter cette recette, et non celle à côté du projet.</translation>
     </message>
     <message>
         <source>file</source>
-        <translation type="unfinished"></translation>
+        <translation>fichier</translation>
     </message>
     <message>
         <source>Write below this folder, not below the project&apos;s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrire sous ce dossier, et non sous celui du projet.</translation>
     </message>
     <message>
         <source>folder</source>
-        <translation type="unfinished"></translation>
+        <translation>dossier</translation>
     </message>
     <message>
         <source>Write nothing, but say what would be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ne rien écrire, mais dire ce qui le serait.</translation>
     </message>
     <message>
         <source>Tell make or ninja in this file what was made of what.</source>
-        <translation type="unfinished"></translation>
+        <translation>Indiquer à make ou ninja dans ce fichier ce qui a été fait à partir de quoi.</translation>
     </message>
     <message>
         <source>Say nothing unless something fails.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ne rien dire sauf en cas d’échec.</translation>
     </message>
     <message>
         <source>Without a recipe: write the asset of this name or id …</source>
-        <translation type="unfinished"></translation>
+        <translation>Sans recette&#xa0;: écrire la ressource de ce nom ou de cet id …</translation>
     </message>
     <message>
         <source>name</source>
-        <translation type="unfinished"></translation>
+        <translation>nom</translation>
     </message>
     <message>
         <source>… in this form …</source>
-        <translation type="unfinished"></translation>
+        <translation>… dans ce format …</translation>
     </message>
     <message>
         <source>id</source>
-        <translation type="unfinished"></translation>
+        <translation>id</translation>
     </message>
     <message>
         <source>… with this option of the form, which may be given again for others …</source>
-        <translation type="unfinished"></translation>
+        <translation>… avec cette option du format, à répéter pour d’autres …</translation>
     </message>
     <message>
         <source>key=value</source>
-        <translation type="unfinished"></translation>
+        <translation>clé=valeur</translation>
     </message>
     <message>
         <source>… to this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>… dans ce fichier.</translation>
     </message>
     <message>
         <source>List the assets: kind, id and name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lister les ressources&#xa0;: type, id et nom.</translation>
     </message>
     <message>
         <source>List the forms and their options.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lister les formats et leurs options.</translation>
     </message>
     <message>
         <source>Describe the whole project as text, for git diff.</source>
-        <translation type="unfinished"></translation>
+        <translation>Décrire tout le projet en texte, pour git diff.</translation>
     </message>
     <message>
         <source>Show this help.</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher cette aide.</translation>
     </message>
     <message>
         <source>Show the version.</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher la version.</translation>
     </message>
     <message>
         <source>A project file, as game.quenmora.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un fichier de projet, comme game.quenmora.</translation>
     </message>
     <message>
         <source>Writes the graphics of a Quenmora project in the forms that a game takes, as its recipe says, the file
 game.quenmora-export.json beside game.quenmora, which File &gt; Export Project in the editor makes.
 Files whose bytes stay the same are not touched.</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrit les graphismes d’un projet Quenmora dans les formats que charge un jeu, selon sa recette, le fichier
+game.quenmora-export.json à côté de game.quenmora, que crée Fichier &gt; Exporter le projet dans l’éditeur.
+Les fichiers dont les octets restent les mêmes ne sont pas touchés.</translation>
     </message>
     <message>
         <source>--%1 and --%2 do not go together</source>
@@ -5880,31 +6013,31 @@ Files whose bytes stay the same are not touched.</source>
     </message>
     <message>
         <source>--%1 takes KEY=VALUE, not “%2”</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1 attend CLÉ=VALEUR, et non «&#xa0;%2&#xa0;»</translation>
     </message>
     <message>
         <source>--%1 is there twice</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1 est donné deux fois</translation>
     </message>
     <message>
         <source>--%1 needs a value</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1 demande une valeur</translation>
     </message>
     <message>
         <source>--%1 means nothing here</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1 ne signifie rien ici</translation>
     </message>
     <message>
         <source>--%1 needs --%2</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1 demande --%2</translation>
     </message>
     <message>
         <source>“%1” is one argument too many</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» est un argument de trop</translation>
     </message>
     <message>
         <source>A project file is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>Il manque un fichier de projet</translation>
     </message>
 </context>
 <context>
@@ -5977,14 +6110,108 @@ Files whose bytes stay the same are not touched.</source>
     </message>
     <message numerus="yes">
         <source>What %Ln outputs are to have alike</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Réglages de %Ln sortie</numerusform>
+            <numerusform>Réglages communs à %Ln sorties</numerusform>
         </translation>
     </message>
     <message>
         <source>Please choose what is to change</source>
         <translation>Choisissez ce qui doit changer</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutsDialog</name>
+    <message>
+        <source>A&amp;dd Key</source>
+        <translation>A&amp;jouter une touche</translation>
+    </message>
+    <message>
+        <source>&amp;Reset</source>
+        <translation>&amp;Réinitialiser</translation>
+    </message>
+    <message>
+        <source>&amp;Take It Away There</source>
+        <translation>L’&amp;y retirer</translation>
+    </message>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation>Raccourcis clavier</translation>
+    </message>
+    <message>
+        <source>Search by name</source>
+        <translation>Rechercher par nom</translation>
+    </message>
+    <message>
+        <source>or by &amp;keys:</source>
+        <translation>ou par &amp;touches&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Search by keys</source>
+        <translation>Rechercher par touches</translation>
+    </message>
+    <message>
+        <source>Press keys to see what they do</source>
+        <translation>Appuyez sur des touches pour voir ce qu’elles font</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Commande</translation>
+    </message>
+    <message>
+        <source>Where</source>
+        <translation>Où</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Touches</translation>
+    </message>
+    <message>
+        <source>Commands</source>
+        <translation>Commandes</translation>
+    </message>
+    <message>
+        <source>Leaves these keys to this command alone</source>
+        <translation>Laisse ces touches à cette seule commande</translation>
+    </message>
+    <message>
+        <source>Gives the command its usual keys</source>
+        <translation>Rend à la commande ses touches habituelles</translation>
+    </message>
+    <message>
+        <source>Reset &amp;All</source>
+        <translation>Réinitialiser to&amp;ut</translation>
+    </message>
+    <message>
+        <source>Gives all commands their usual keys</source>
+        <translation>Rend à toutes les commandes leurs touches habituelles</translation>
+    </message>
+    <message>
+        <source>Another command has these keys, too</source>
+        <translation>Une autre commande a aussi ces touches</translation>
+    </message>
+    <message>
+        <source>Keys of “%1”</source>
+        <translation>Touches de «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>Press the keys that shall do it</source>
+        <translation>Appuyez sur les touches qui doivent le faire</translation>
+    </message>
+    <message>
+        <source>%1 is a key of “%2” (%3), too. Neither would do anything.</source>
+        <translation>%1 est aussi une touche de «&#xa0;%2&#xa0;» (%3). Aucune des deux commandes ne ferait rien.</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutsFile</name>
+    <message>
+        <source>The file is too large</source>
+        <translation>Le fichier est trop grand</translation>
+    </message>
+    <message>
+        <source>The file does not hold keys by command</source>
+        <translation>Le fichier ne contient pas de touches par commande</translation>
     </message>
 </context>
 <context>
@@ -6162,9 +6389,9 @@ Files whose bytes stay the same are not touched.</source>
     </message>
     <message numerus="yes">
         <source>The picture has %n colours; 4-bit sprites show 15 beside the transparent one</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>L’image a %n couleur&#xa0;; les sprites de 4 bits en affichent 15 en plus de la transparente</numerusform>
+            <numerusform>L’image a %n couleurs&#xa0;; les sprites de 4 bits en affichent 15 en plus de la transparente</numerusform>
         </translation>
     </message>
     <message>
@@ -6885,6 +7112,21 @@ Décalage de palette&#xa0;: %2</translation>
     </message>
 </context>
 <context>
+    <name>UnsavedMark</name>
+    <message>
+        <source>● Unsaved</source>
+        <translation>● Non enregistré</translation>
+    </message>
+    <message>
+        <source>The project has unsaved changes</source>
+        <translation>Le projet a des modifications non enregistrées</translation>
+    </message>
+    <message>
+        <source>The project has changes that are not saved yet</source>
+        <translation>Le projet a des modifications qui ne sont pas encore enregistrées</translation>
+    </message>
+</context>
+<context>
     <name>Update::UpdateChecker</name>
     <message>
         <source>The update feed is too large</source>
@@ -6984,27 +7226,31 @@ La nouvelle version est sortie le %3.</translation>
     <name>WriteProblem</name>
     <message>
         <source>There is no folder %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas de dossier %1</translation>
     </message>
     <message>
         <source>%1 is a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est un dossier</translation>
     </message>
     <message>
         <source>%1 is a pipe or a device, not a file</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est un tube ou un périphérique, pas un fichier</translation>
     </message>
     <message>
         <source>You may not write to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Vous n’avez pas le droit d’écrire dans %1</translation>
     </message>
     <message>
         <source>%1 could not be written to its end; there may be no room left</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’a pas pu être écrit jusqu’au bout&#xa0;; il n’y a peut-être plus de place</translation>
     </message>
     <message>
         <source>No file can be called %1: a slash would lead into another folder. Another name of the asset helps.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun fichier ne peut s’appeler %1&#xa0;: une barre oblique mènerait à un autre dossier. Il suffit d’un autre nom de la ressource.</translation>
+    </message>
+    <message>
+        <source>No file can be called that: %1. Another name of the asset helps.</source>
+        <translation>Aucun fichier ne peut s’appeler ainsi&#xa0;: %1. Il suffit d’un autre nom de la ressource.</translation>
     </message>
 </context>
 </TS>
