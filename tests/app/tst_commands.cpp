@@ -4,6 +4,7 @@
 #include "app/commands/commandpalette.h"
 #include "app/commands/commandplaces.h"
 #include "app/commands/commandsearch.h"
+#include "app/commands/shortcutsdialog.h"
 #include "app/commands/shortcutsfile.h"
 #include "app/commands/shortcuttable.h"
 #include "app/menus/filemenu.h"
@@ -12,6 +13,7 @@
 #include "editors/canvas/imageeditorview.h"
 #include "editors/map/mapeditorview.h"
 #include "editors/map/mapgrid.h"
+#include "support/editorinput.h"
 #include "support/modeltools.h"
 #include "support/sampleproject.h"
 #include "support/testmain.h"
@@ -22,6 +24,7 @@
 #include <QDir>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QKeySequenceEdit>
 #include <QLineEdit>
 #include <QListView>
 #include <QMenu>
@@ -30,6 +33,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QToolBar>
+#include <QTreeWidget>
 
 #include <memory>
 
@@ -282,6 +286,52 @@ private slots:
         QCOMPARE(changed.choices().contains(command), false);
         changed.resetAll();
         QCOMPARE(changed.choices(), Commands::Choices());
+    }
+
+    void choosesKeysInTheDialog()
+    {
+        // of an editor, too, that was not opened yet
+        const auto open = [this] {
+            m_window->commands()->showShortcuts();
+            return m_window->findChild<ShortcutsDialog *>();
+        };
+        const auto shown = [](const ShortcutsDialog *dialog) {
+            QStringList texts;
+            const auto *list = dialog->findChild<QTreeWidget *>();
+            for (int row = 0; row < list->topLevelItemCount(); ++row) {
+                const QTreeWidgetItem *item = list->topLevelItem(row);
+                if (!item->isHidden())
+                    texts.append(item->text(0) + '|' + item->text(1) + '|' + item->text(2));
+            }
+            return texts;
+        };
+        QPointer<ShortcutsDialog> dialog = open();
+        dialog->findChild<QLineEdit *>()->setText("BUCKET map");
+        QCOMPARE(shown(dialog), QStringList{"Bucket fill|Map Editor|F"});
+        QList<QKeySequenceEdit *> fields = dialog->findChildren<QKeySequenceEdit *>();
+        QCOMPARE(fields.size(), 2); // what is searched for, and the key
+        fields.last()->setKeySequence(QKeySequence("D"));
+        auto *warning = EditorInput::button(*dialog, "&Take It Away There");
+        QVERIFY(warning->isVisible());
+        warning->click();
+        QVERIFY(!warning->isVisible());
+        QVERIFY(!QFile::exists(shortcutsPath()));
+        dialog->accept();
+        const QByteArray both = R"({"mapEditor.draw":[],"mapEditor.fill":["D"]})";
+        QCOMPARE(QJsonDocument::fromJson(readFile(shortcutsPath())), QJsonDocument::fromJson(both));
+        QTRY_VERIFY(!dialog);
+
+        dialog = open();
+        dialog->findChildren<QKeySequenceEdit *>().first()->setKeySequence(QKeySequence("D"));
+        QCOMPARE(shown(dialog), (QStringList{"Bucket fill|Map Editor|D", "Draw|Pixel Editors|D"}));
+        EditorInput::button(*dialog, "Reset &All")->click();
+        dialog->reject(); // and nothing came of it
+        QCOMPARE(QJsonDocument::fromJson(readFile(shortcutsPath())), QJsonDocument::fromJson(both));
+        QTRY_VERIFY(!dialog);
+        dialog = open();
+        EditorInput::button(*dialog, "Reset &All")->click();
+        dialog->accept();
+        QVERIFY(!QFile::exists(shortcutsPath()));
     }
 
     // The palette

@@ -7,7 +7,7 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QPainter>
-#include <QScrollBar>
+#include <QScreen>
 #include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
@@ -188,12 +188,13 @@ void CommandPalette::open(const QList<Entry> &entries, const QStringList &recent
     m_query->clear();
     search();
     const QWidget *window = parentWidget();
+    const QRect room = QRect(window->mapToGlobal(QPoint()), window->size()) & window->screen()->availableGeometry();
     const int row = fontMetrics().lineSpacing() + Gap;
-    const int room = window->height() - m_query->sizeHint().height() - 4 * Gap;
-    m_list->setFixedHeight(std::clamp(room / row, 1, MostRows) * row);
+    const int rowsRoom = room.height() - m_query->sizeHint().height() - 4 * Gap;
+    m_list->setFixedHeight(std::clamp(rowsRoom / row, 1, MostRows) * row);
     adjustSize();
-    resize(std::min(UsualWidth, window->width()), height());
-    move(window->mapToGlobal(QPoint((window->width() - width()) / 2, std::min(window->height() - height(), 4 * row))));
+    resize(std::min(UsualWidth, room.width()), height());
+    move(room.left() + (room.width() - width()) / 2, room.top() + std::clamp(room.height() - height(), 0, 4 * row));
     show();
     m_query->setFocus(Qt::PopupFocusReason);
 }

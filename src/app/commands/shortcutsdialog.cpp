@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -20,6 +21,7 @@ namespace {
 enum Column { NameColumn, PlaceColumn, KeysColumn, ColumnCount };
 
 constexpr QSize UsualSize(720, 560);
+constexpr QSize Frame(20, 50); ///< that a window may have around it
 constexpr int FieldWidth = 16; ///< in letters
 
 QString textOf(const Commands::Keys &keys)
@@ -43,7 +45,7 @@ ShortcutsDialog::ShortcutsDialog(const ShortcutTable &table, const PlaceOf &plac
     , m_takeAway(new QPushButton(tr("&Take It Away There")))
 {
     setWindowTitle(tr("Keyboard Shortcuts"));
-    resize(UsualSize);
+    resize(UsualSize.boundedTo(screen()->availableSize() - Frame));
     auto *layout = new QVBoxLayout(this);
     buildSearch(layout);
     buildList(placeOf);
@@ -208,11 +210,7 @@ void ShortcutsDialog::showAllRows()
 
 void ShortcutsDialog::showEditor()
 {
-    for (QKeySequenceEdit *edit : std::as_const(m_edits)) {
-        m_fields->removeWidget(edit);
-        edit->hide();
-        edit->deleteLater(); // it may be what was pressed
-    }
+    qDeleteAll(m_edits);
     m_edits.clear();
     const bool isShown = m_list->currentItem();
     for (QWidget *part : std::initializer_list<QWidget *>{m_heading, m_add})

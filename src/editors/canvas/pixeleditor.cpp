@@ -106,7 +106,7 @@ QAction *PixelEditor::addOption(QWidget *page, const QString &name, const QStrin
     action->setStatusTip(toolTip);
     m_optionsBar->addButton(action);
     makeCommand(action, name);
-    page->addAction(action);
+    (m_keys ? m_keys.data() : m_tools)->addAction(action); // whose actions the page gets with all others
     return action;
 }
 

@@ -28,7 +28,6 @@ PaletteWindow::PaletteWindow(QWidget *parent)
     m_chooser->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     buildMenu();
     m_tools = new PaletteTools(m_editor, m_menu, this);
-    addActions(m_menu->actions());
     connect(m_tools, &PaletteTools::refused, this, &PaletteWindow::refused);
 
     auto *more = new QToolButton;
@@ -55,6 +54,7 @@ PaletteWindow::PaletteWindow(QWidget *parent)
     scroller->setMinimumWidth(page->minimumSizeHint().width()
                               + scroller->style()->pixelMetric(QStyle::PM_ScrollBarExtent));
     setContent(scroller);
+    scroller->addActions(m_menu->actions());
 
     connect(m_chooser, &QComboBox::activated, this, [this](int row) {
         if (!m_renaming)
