@@ -1,7 +1,11 @@
 #include "importing/paletteedit.h"
 
 #include "importing/texts.h"
+#include "model/image.h"
 #include "model/palette.h"
+#include "model/project.h"
+#include "model/spritebank.h"
+#include "model/tileset.h"
 #include "undo/snapshotcommand.h"
 
 #include <QPointer>
@@ -60,6 +64,16 @@ void replaceEntries(Palette &palette, const NextData::PaletteContent &content, Q
     };
     stack->push(new SnapshotCommand<Entries>(Texts::tr("Import Palette"), before, after, changeAgain, NeverMerges,
                                              QVariant(), NoTimeLimit));
+}
+
+bool hasOtherUsers(const Project &project, const Palette &palette, const QObject &user)
+{
+    const auto others = [&](const auto &assets) {
+        return std::any_of(assets.begin(), assets.end(), [&](const auto &asset) {
+            return asset->palette() == &palette && static_cast<const QObject *>(asset) != &user;
+        });
+    };
+    return others(project.tileSets()) || others(project.spriteBanks()) || others(project.images());
 }
 
 } // namespace Importing

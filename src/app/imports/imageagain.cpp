@@ -3,6 +3,7 @@
 #include "app/imports/importchoice.h"
 #include "app/imports/paletteimport.h"
 #include "editors/canvas/imageimport.h"
+#include "importing/paletteedit.h"
 #include "model/image.h"
 #include "model/palette.h"
 #include "model/picturefile.h"
@@ -10,6 +11,7 @@
 #include "model/spritebank.h"
 #include "model/tileset.h"
 #include "undo/pixeleditcommand.h"
+#include "undo/undomacro.h"
 
 #include <QCoreApplication>
 #include <QPointer>
@@ -70,7 +72,7 @@ ImportedAgain imageAgain(Image &image, const ImportRecord &record, QUndoStack *s
         return {picture.failure(), {}, {}};
     ImageImport import = importOf(record.choices);
     // what others draw with stays as it is, and the picture takes the nearest of it
-    const bool newColours = import.newPalette && !hasOtherUsers(*project, *palette, image);
+    const bool newColours = import.newPalette && !Importing::hasOtherUsers(*project, *palette, image);
     if (import.newPalette && !newColours) {
         import.newPalette = false;
         import.reduction = import.reduction.value_or(Dithering::None);

@@ -98,15 +98,3 @@ ImportedAgain ImportedAgain::run(Project &project, const QUuid &asset, const Imp
         done.failure += QLatin1Char('\n') + QDir::toNativeSeparators(record.file);
     return done;
 }
-
-UndoMacro::UndoMacro(QUndoStack *stack, const QString &text) : m_stack(stack)
-{
-    if (m_stack)
-        m_stack->beginMacro(text);
-}
-
-UndoMacro::~UndoMacro()
-{
-    if (m_stack)
-        m_stack->endMacro();
-}

@@ -24,15 +24,3 @@ struct ImportedAgain
     [[nodiscard]] static ImportedAgain run(Project &project, const QUuid &asset, const ImportRecord &record,
                                            const Importing::StackProvider &stackFor, QWidget *window);
 };
-
-/// What is done while it lives is one undo step; without a stack it does nothing.
-class UndoMacro
-{
-public:
-    UndoMacro(QUndoStack *stack, const QString &text);
-    ~UndoMacro();
-    Q_DISABLE_COPY_MOVE(UndoMacro)
-
-private:
-    QUndoStack *m_stack;
-};

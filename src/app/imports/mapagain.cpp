@@ -2,6 +2,7 @@
 
 #include "app/imports/paletteimport.h"
 #include "app/imports/pictureimport.h"
+#include "importing/paletteedit.h"
 #include "model/image.h"
 #include "model/map.h"
 #include "model/palette.h"
@@ -15,6 +16,7 @@
 #include "pictures/picturecells.h"
 #include "pictures/tilereduction.h"
 #include "undo/mapeditcommand.h"
+#include "undo/undomacro.h"
 
 #include <QCoreApplication>
 #include <QLocale>
@@ -114,7 +116,7 @@ public:
         const Palette &palette = *m_tileSet.palette();
         m_words.copyColours(palette);
         const auto *project = qobject_cast<Project *>(m_map.parent());
-        if (project && !hasOtherUsers(*project, palette, m_tileSet))
+        if (project && !Importing::hasOtherUsers(*project, palette, m_tileSet))
             growPalette(palette);
         m_cells = PictureCells::of(m_picture, m_tileSet, choices(m_freeTiles));
     }

@@ -107,16 +107,6 @@ void replaceWords(Palette &palette, const Palette &words, QUndoStack *stack)
     Importing::replaceEntries(palette, {.words = wordsOf(words)}, stack);
 }
 
-bool hasOtherUsers(const Project &project, const Palette &palette, const QObject &user)
-{
-    const auto others = [&](const auto &assets) {
-        return std::any_of(assets.begin(), assets.end(), [&](const auto &asset) {
-            return asset->palette() == &palette && static_cast<const QObject *>(asset) != &user;
-        });
-    };
-    return others(project.tileSets()) || others(project.spriteBanks()) || others(project.images());
-}
-
 Palette *createPaletteOf(Project &project, const QString &name, const QList<QRgb> &colours)
 {
     Palette words;

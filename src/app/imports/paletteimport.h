@@ -20,9 +20,5 @@ class QUndoStack;
 /// Gives a palette the words of another, as one undo step on its stack; without a stack it cannot be undone.
 void replaceWords(Palette &palette, const Palette &words, QUndoStack *stack);
 
-/// Whether other assets than this one draw with a palette. The scratch image, which takes one by itself, does not
-/// count.
-[[nodiscard]] bool hasOtherUsers(const Project &project, const Palette &palette, const QObject &user);
-
 /// A new palette with these colours, at most 256, snapped to colours of the Next. They are no edit of it.
 [[nodiscard]] Palette *createPaletteOf(Project &project, const QString &name, const QList<QRgb> &colours);

@@ -4,6 +4,7 @@
 #include "app/imports/paletteimport.h"
 #include "app/imports/slicingprogress.h"
 #include "app/imports/spriteimport.h"
+#include "importing/paletteedit.h"
 #include "model/image.h"
 #include "model/imageslicer.h"
 #include "model/palette.h"
@@ -12,6 +13,7 @@
 #include "model/spritebank.h"
 #include "model/tileset.h"
 #include "pictures/ninebitcolour.h"
+#include "undo/undomacro.h"
 
 #include <QCoreApplication>
 #include <QHash>
@@ -259,7 +261,7 @@ ImportedAgain spritesAgain(SpriteBank &bank, const ImportRecord &record, QUndoSt
         if (places[i] >= bank.count() || sprites[places[i]] != pieces[i])
             replaced.insert(places[i]);
     }
-    if (!newPalette || hasOtherUsers(*project, *palette, bank))
+    if (!newPalette || Importing::hasOtherUsers(*project, *palette, bank))
         entries.lockAll();
     for (int i = 0; i < bank.count(); ++i) {
         const uchar *pixels = before.image.constScanLine(i * Side);
