@@ -17,6 +17,7 @@ inline const QString AsepriteSprites = QStringLiteral("aseprite-sprites");
 inline const QString AsepriteTiles = QStringLiteral("aseprite-tiles");
 inline const QString AsepriteImage = QStringLiteral("aseprite-image");
 inline const QString Tiled = QStringLiteral("tiled");
+inline const QString TiledTiles = QStringLiteral("tiled-tiles");
 
 [[nodiscard]] QList<FileKind> raw();
 [[nodiscard]] QList<FileKind> colours();

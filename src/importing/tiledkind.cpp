@@ -334,14 +334,13 @@ QString refusalOf(const TiledMap &map)
     return {};
 }
 
-Result<IncomingAssets> prepareTiled(const Project &, const ImportFile &file, const ImportChoices &,
-                                    const NextData::OptionValues &options)
+TiledReferences referencesOf(const NextData::OptionValues &options)
 {
-    const Result<TiledMap> read =
-        TiledMap::read(file.path, options.flag("anywhere") ? TiledReferences::Anywhere : TiledReferences::Below);
-    if (!read)
-        return read.failure();
-    const TiledMap &map = *read;
+    return options.flag("anywhere") ? TiledReferences::Anywhere : TiledReferences::Below;
+}
+
+Result<IncomingAssets> incomingOf(const TiledMap &map, const NextData::OptionValues &options)
+{
     if (const QString refusal = refusalOf(map); !refusal.isEmpty())
         return Failure{refusal};
 
@@ -400,19 +399,64 @@ Result<IncomingAssets> prepareTiled(const Project &, const ImportFile &file, con
     return incoming;
 }
 
+Result<IncomingAssets> prepareMap(const Project &, const ImportFile &file, const ImportChoices &,
+                                  const NextData::OptionValues &options)
+{
+    const Result<TiledMap> map = TiledMap::read(file.path, referencesOf(options));
+    return map ? incomingOf(*map, options) : map.failure();
+}
+
+/// A map that shows each tile of a set once, in their order.
+TiledMap mapOf(const TiledTileSet &tileSet)
+{
+    TiledMap map;
+    map.tileSize = tileSet.tileSize;
+    map.tileSets = {tileSet};
+    const int columns = tileSet.columns > 0 ? tileSet.columns : AtlasColumns;
+    map.size = {std::min(tileSet.count, columns), (tileSet.count + columns - 1) / columns};
+    TiledMap::Layer layer;
+    layer.area = QRect({0, 0}, map.size);
+    const qint64 cells = qint64(map.size.width()) * map.size.height();
+    for (qint64 i = 0; i < std::min(cells, MostCells); ++i)
+        layer.gids.append(i < tileSet.count ? quint32(tileSet.firstGid + i) : 0);
+    map.layers.append(layer);
+    return map;
+}
+
+Result<IncomingAssets> prepareTileSet(const Project &, const ImportFile &file, const ImportChoices &,
+                                      const NextData::OptionValues &options)
+{
+    const Result<TiledTileSet> tileSet = TiledTileSet::read(file.path, referencesOf(options));
+    if (!tileSet)
+        return tileSet.failure();
+    Result<IncomingAssets> read = incomingOf(mapOf(*tileSet), options);
+    if (!read)
+        return read;
+    IncomingAssets incoming = *std::move(read);
+    incoming.map.reset();
+    return incoming;
+}
+
 } // namespace
 
 QList<FileKind> Kinds::tiled()
 {
+    using NextData::AssetKind;
     using NextData::Option;
-    return {
-        {.id = Tiled,
-         .title = Texts::tr("Map of Tiled"),
-         .asset = NextData::AssetKind::Map,
-         .options = {Kinds::ditheringOption(),
-                     Option::flag(QStringLiteral("anywhere"), Texts::tr("Read files outside its folder"),
-                                  Texts::tr("Takes tile sets and pictures from wherever the map says that they are"))},
-         .prepare = prepareTiled}};
+    const QList<Option> options{
+        Kinds::ditheringOption(),
+        Option::flag(QStringLiteral("anywhere"), Texts::tr("Read files outside its folder"),
+                     Texts::tr("Takes tile sets and pictures from wherever the map says that they are"))};
+    return {{.id = Tiled,
+             .title = Texts::tr("Map of Tiled"),
+             .asset = AssetKind::Map,
+             .options = options,
+             .prepare = prepareMap},
+            {.id = TiledTiles,
+             .title = Texts::tr("Tile set of Tiled"),
+             .asset = AssetKind::TileSet,
+             .options = options,
+             .prepare = prepareTileSet}};
 }
 
 } // namespace Importing

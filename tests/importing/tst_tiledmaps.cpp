@@ -128,6 +128,25 @@ private slots:
             "Objects that are no sprites, turned, scaled, hidden or too large, and are left out: 2"));
     }
 
+    /// A tile set without a map: its tiles in their order, and its animations.
+    void aTileSetByItself()
+    {
+        Project project;
+        const auto [sheet, text] = tiledMap();
+        QVERIFY(sheet.save(m_path("sheet.png")));
+        const qsizetype first = text.indexOf("<tileset");
+        const auto incoming = prepared(project, text.sliced(first, text.indexOf("<layer") - first));
+        QVERIFY2(incoming && !incoming->map, qPrintable(incoming.reason()));
+        const auto added = addTo(project, *incoming, {.kind = "tiled-tiles", .name = "Set"}, {});
+        const auto tiles = project.tileSet(added->tileSet);
+        QVERIFY(tiles->count() <= 1 + 3 * 4 && project.maps().isEmpty());
+        const auto animation = project.blocks(added->blocks)->animations().constFirst();
+        const AnimationFrame::Cell corner = animation->frame(1)->cell(0, 0); // of the second tile
+        QCOMPARE(tiles->tileImage(corner.index, corner.rotate, corner.flip, corner.mirror, corner.offset)
+                     .convertToFormat(QImage::Format_RGB32),
+                 sheet.copy(16, 0, 8, 8));
+    }
+
     void refusesOtherMaps()
     {
         Project project;

@@ -96,16 +96,16 @@ void FileMenu::showImportDialog()
     if (!project())
         return;
     const bool isKnown = !m_importFolder.isEmpty() && QDir(m_importFolder).exists();
-    const QStringList files =
-        m_filesChooser({.title = tr("Import"),
-                        .nameFilters = {tr("All files (*)"),
-                                        tr("Files of the Next (*.pal *.npl *.nxp *.nxt *.til *.ch8 *.map *.nxm *.nxb "
-                                           "*.spr *.nxi *.sl2 *.slr *.bin)"),
-                                        tr("Maps of Tiled (*.tmx *.tmj)"), tr("Sprites of Aseprite (*.aseprite *.ase)"),
-                                        tr("Palettes (*.gpl *.pal *.act *.hex)"),
-                                        tr("Pictures (*.png *.bmp *.gif *.jpg *.jpeg *.pbm *.pgm *.ppm *.xbm *.xpm)")},
-                        .folder = isKnown ? m_importFolder : openFolder()},
-                       dialogParent());
+    const QStringList files = m_filesChooser(
+        {.title = tr("Import"),
+         .nameFilters = {tr("All files (*)"),
+                         tr("Files of the Next (*.pal *.npl *.nxp *.nxt *.til *.ch8 *.map *.nxm *.nxb "
+                            "*.spr *.nxi *.sl2 *.slr *.bin)"),
+                         tr("Maps and tile sets of Tiled (*.tmx *.tmj *.tsx *.tsj)"),
+                         tr("Sprites of Aseprite (*.aseprite *.ase)"), tr("Palettes (*.gpl *.pal *.act *.hex)"),
+                         tr("Pictures (*.png *.bmp *.gif *.jpg *.jpeg *.pbm *.pgm *.ppm *.xbm *.xpm)")},
+         .folder = isKnown ? m_importFolder : openFolder()},
+        dialogParent());
     if (files.isEmpty())
         return;
     m_importFolder = QFileInfo(files.constFirst()).absolutePath();
