@@ -236,7 +236,7 @@ QUndoStack *DocumentController::undoStackFor(const QUuid &id)
 QUndoStack *DocumentController::recordingStackFor(const QUuid &id)
 {
     QUndoStack *active = m_stacks.group()->activeStack();
-    return active ? active : undoStackFor(id);
+    return active && !qobject_cast<Image *>(asset(id)) ? active : undoStackFor(id);
 }
 
 // Activating assets

@@ -45,7 +45,7 @@ public:
     /// the scratch image.
     QUndoStack *undoStackFor(const QUuid &id);
     /// The stack for a change that no editor of the asset made: that of the document in front, where undo
-    /// reaches it, or the asset's own when there is none.
+    /// reaches it, or the asset's own when there is none, and for images: their editors look when that changes.
     QUndoStack *recordingStackFor(const QUuid &id);
     [[nodiscard]] QUndoGroup *undoGroup() { return m_stacks.group(); }
     /// Whether every undo stack is clean.

@@ -212,6 +212,7 @@ void MainWindow::connectImport()
     connect(m_fileImport, &FileImport::mapReady, &m_documents, &DocumentController::setActiveMap);
     connect(m_fileImport, &FileImport::blocksReady, &m_documents, &DocumentController::setActiveBlockEditor);
     connect(m_fileImport, &FileImport::spritesReady, &m_documents, &DocumentController::openSprites);
+    connect(m_fileImport, &FileImport::imageReady, &m_documents, &DocumentController::setActiveImageEditor);
     connect(m_fileImport, &FileImport::message, m_exportMessages, &ExportMessages::show);
     connect(m_fileImport, &FileImport::failed, this,
             [this](const QString &text, const QString &title, const QString &reason) {

@@ -3,6 +3,7 @@
 #include "importing/animationsedit.h"
 #include "importing/paletteedit.h"
 #include "importing/pixelpictures.h"
+#include "importing/placements.h"
 #include "importing/texts.h"
 #include "model/animatedblocks.h"
 #include "model/image.h"
@@ -14,6 +15,8 @@
 #include "model/spritebank.h"
 #include "model/tileset.h"
 #include "undo/mapeditcommand.h"
+#include "undo/pixeleditcommand.h"
+#include "undo/undomacro.h"
 
 #include <QUndoStack>
 
@@ -233,6 +236,24 @@ void replaceMap(Map &map, const IncomingMap &incoming, QUndoStack *stack)
         stack->push(new MapEditCommand(Texts::tr("Import Map"), &map, before, map.snapshot()));
 }
 
+void replaceImage(Image &image, const IncomingAssets &incoming, QUndoStack *stack)
+{
+    const UndoMacro step(stack, Texts::tr("Import Image"));
+    const QPointer<Palette> palette = image.palette();
+    if (palette && incoming.palette)
+        replaceEntries(*palette, *incoming.palette, stack);
+    const QImage before = image.image();
+    image.setImage(pictureOf(incoming.image->pixels, before.size(), tableOf(palette)));
+    if (!stack)
+        return;
+    const auto apply = [guarded = QPointer(&image)](const QImage &pixels) {
+        if (guarded)
+            guarded->setImage(pixels);
+    };
+    stack->push(
+        new PixelEditCommand(Texts::tr("Import Image"), before, image.image(), apply, {}, PixelEditCommand::None));
+}
+
 void putSprites(SpriteBank &bank, int first, const NextData::SpritesContent &content)
 {
     constexpr int side = SpriteBank::SpriteSize;
@@ -272,7 +293,15 @@ AddedAssets change(Project &project, const IncomingAssets &incoming, const Impor
                         [&] { putSprites(*bank, beginningAt(choices, bank->count()), incoming.sprites->content); });
         return {.sprites = choices.target};
     }
-    replaceMap(*project.map(choices.target), *incoming.map, stack);
+    if (const QPointer<Image> image = project.image(choices.target)) {
+        replaceImage(*image, incoming, stack);
+        return {.image = choices.target};
+    }
+    Map &map = *project.map(choices.target);
+    if (incoming.map)
+        replaceMap(map, *incoming.map, stack);
+    else
+        replacePlacements(project, map, incoming, stack);
     return {.map = choices.target};
 }
 
@@ -309,6 +338,17 @@ QString spritesProblem(const SpriteBank &bank, const IncomingAssets &incoming, c
                        bank.count(), SpriteBank::MaxCount);
 }
 
+QString imageProblem(const Image &image, const NextData::ImageContent &content)
+{
+    if (image.mode() == content.mode)
+        return {};
+    const QSize is = Image::sizeOf(image.mode());
+    const QSize comes = Image::sizeOf(content.mode);
+    return Texts::tr("“%1” has %2 × %3 pixels, and the picture has %4 × %5")
+        .arg(image.name(), QString::number(is.width()), QString::number(is.height()), QString::number(comes.width()),
+             QString::number(comes.height()));
+}
+
 QString targetProblem(const Project &project, const IncomingAssets &incoming, const ImportChoices &choices)
 {
     const QPointer<TileSet> tileSet = project.tileSet(choices.target);
@@ -317,8 +357,12 @@ QString targetProblem(const Project &project, const IncomingAssets &incoming, co
     const QPointer<SpriteBank> bank = project.spriteBank(choices.target);
     if (bank && incoming.sprites)
         return spritesProblem(*bank, incoming, choices);
+    const QPointer<Image> image = project.image(choices.target);
+    if (image && incoming.image)
+        return imageProblem(*image, *incoming.image);
+    const bool isForMap = incoming.map || incoming.placedSprites || incoming.placedBlocks;
     if ((bank && incoming.animations) || (project.palette(choices.target) && incoming.palette)
-        || (project.map(choices.target) && incoming.map))
+        || (project.map(choices.target) && isForMap))
         return {};
     return Texts::tr("The asset into which it goes is not there any more, or is of another kind");
 }
@@ -331,6 +375,8 @@ QString problemOf(const Project &project, const IncomingAssets &incoming, const 
         return targetProblem(project, incoming, choices);
     if (incoming.numbers)
         return Texts::tr("Choose the tile set whose tiles these are for");
+    if (incoming.placedSprites || incoming.placedBlocks)
+        return Texts::tr("Choose the map on which these are placed");
     return choices.name.trimmed().isEmpty() ? Texts::tr("Please enter a name") : QString();
 }
 

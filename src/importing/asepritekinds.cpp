@@ -210,7 +210,7 @@ Result<IncomingAssets> prepareImage(const Project &project, const ImportFile &fi
     const Result<AsepriteFile> read = AsepriteFile::read(file.path);
     if (!read)
         return read.failure();
-    const auto mode = imageMode(options.text("mode"), read->size());
+    const auto mode = imageMode(project, choices, options, read->size());
     const bool isGiven = isPaletteGiven(project, choices);
     const SharedColours shared =
         coloursOf(*read, 1, isGiven ? wordsInUse(project, choices) : QList<quint16>(), clearInUse(project, choices),
@@ -252,6 +252,7 @@ QList<FileKind> Kinds::aseprite()
          .title = Texts::tr("Aseprite file, for an image"),
          .asset = AssetKind::Image,
          .options = {modeOption(), ditheringOption()},
+         .takesTarget = true,
          .needsPalette = true,
          .bringsColours = true,
          .prepare = prepareImage},

@@ -2,6 +2,7 @@
 
 #include "importing/texts.h"
 #include "model/image.h"
+#include "model/project.h"
 
 #include <algorithm>
 
@@ -43,6 +44,13 @@ Quenmora::ImageMode imageMode(const QString &choice, QSize picture)
             return mode.mode;
     }
     return Quenmora::Layer2_320x256; // the largest of 256 colours
+}
+
+Quenmora::ImageMode imageMode(const Project &project, const ImportChoices &choices,
+                              const NextData::OptionValues &options, QSize picture)
+{
+    const auto image = project.image(choices.target);
+    return image ? image->mode() : imageMode(options.text("mode"), picture);
 }
 
 ImageContent imageOf(const QImage &picture, Quenmora::ImageMode mode, int around, QStringList &remarks)

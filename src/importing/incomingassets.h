@@ -57,6 +57,8 @@ struct IncomingAssets
     std::optional<IncomingSprites> sprites{};
     std::optional<NextData::ImageContent> image{};
     std::optional<NextData::AnimationsContent> animations{}; ///< of tiles or sprites that are there
+    std::optional<QList<Map::PlacedSprite>> placedSprites{}; ///< on a map that is there, as what follows
+    std::optional<AnimatedBlocks::State> placedBlocks{};
 
     QStringList remarks{}; ///< what is lost or otherwise worth knowing, a sentence each
     QStringList outside{}; ///< files that were not read because they are not below the folder of this one

@@ -20,6 +20,8 @@ QPointer<Palette> paletteInUse(const Project &project, const ImportChoices &choi
         return tiles->palette();
     if (const auto bank = project.spriteBank(choices.target))
         return bank->palette();
+    if (const auto image = project.image(choices.target))
+        return image->palette();
     const auto map = project.map(choices.target);
     if (const auto tiles = map ? map->tileSet() : project.tileSet(choices.tileSet))
         return tiles->palette();

@@ -51,7 +51,7 @@ Result<IncomingAssets> prepareImage(const Project &project, const ImportFile &fi
     const PictureFile picture = PictureFile::read(file.path);
     if (picture.image.isNull())
         return Failure{picture.failure()};
-    const auto mode = imageMode(options.text("mode"), picture.image.size());
+    const auto mode = imageMode(project, choices, options, picture.image.size());
     QImage image = picture.image;
     if (options.flag("scale"))
         image = image.scaled(Image::sizeOf(mode), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
@@ -114,6 +114,7 @@ QList<FileKind> Kinds::pictures()
          .title = Texts::tr("Picture, for an image"),
          .asset = AssetKind::Image,
          .options = {modeOption(), scale, ditheringOption()},
+         .takesTarget = true,
          .needsPalette = true,
          .bringsColours = true,
          .prepare = prepareImage},

@@ -206,6 +206,10 @@ QStringList factsOf(const IncomingAssets &incoming)
     }
     if (incoming.animations)
         facts.append(Texts::tr("Animations: %1").arg(number(incoming.animations->animations.size())));
+    if (incoming.placedSprites)
+        facts.append(Texts::tr("Placed sprites: %1").arg(number(incoming.placedSprites->size())));
+    if (incoming.placedBlocks)
+        facts.append(Texts::tr("Placed animations: %1").arg(number(incoming.placedBlocks->size())));
     if (incoming.palette)
         facts.append(Texts::tr("Colours: %1").arg(number(incoming.palette->words.size())));
     return facts;

@@ -1,6 +1,10 @@
 #include "importing/kinds.h"
+#include "importing/paletteedit.h"
 #include "importing/paletteinuse.h"
+#include "importing/placements.h"
 #include "importing/texts.h"
+#include "model/image.h"
+#include "model/project.h"
 #include "nextdata/reader.h"
 #include "pictures/ninebitcolour.h"
 
@@ -95,7 +99,7 @@ std::optional<Failure> settleMixedTiles(TilesContent &content, const QList<quint
     return {};
 }
 
-IncomingAssets incomingOf(const NextData::Reading &reading)
+Result<IncomingAssets> incomingOf(const NextData::Reading &reading, const Project &project)
 {
     IncomingAssets incoming{.remarks = reading.remarks};
     if (const auto *palette = std::get_if<NextData::PaletteContent>(&reading.content)) {
@@ -115,6 +119,17 @@ IncomingAssets incomingOf(const NextData::Reading &reading)
     }
     if (const auto *animations = std::get_if<NextData::AnimationsContent>(&reading.content))
         incoming.animations = *animations;
+    if (const auto *content = std::get_if<NextData::PlacedSpritesContent>(&reading.content)) {
+        const auto sprites = withIds(*content, project);
+        if (!sprites)
+            return sprites.failure();
+        incoming.placedSprites = *sprites;
+    } else if (const auto *blocks = std::get_if<NextData::PlacedBlocksContent>(&reading.content)) {
+        const auto placements = withIds(*blocks, project);
+        if (!placements)
+            return placements.failure();
+        incoming.placedBlocks = *placements;
+    }
     return incoming;
 }
 
@@ -130,7 +145,17 @@ Result<IncomingAssets> prepareRaw(const Project &project, const ImportFile &file
     const Result<NextData::Reading> reading = NextData::read(*reader, file.bytes, options);
     if (!reading)
         return reading.failure();
-    IncomingAssets incoming = incomingOf(*reading);
+    Result<IncomingAssets> read = incomingOf(*reading, project);
+    if (!read)
+        return read;
+    IncomingAssets incoming = *std::move(read);
+    if (const auto image = project.image(choices.target);
+        image && incoming.palette && image->palette() && hasOtherUsers(project, *image->palette(), *image)) {
+        incoming.palette.reset();
+        incoming.remarks.append(
+            Texts::tr("The colours are left out, since other assets are drawn with the palette of “%1” as well")
+                .arg(image->name()));
+    }
     if (choices.kind == EightBitTiles) {
         const bool mayReduce = options.is("mixed", "reduce");
         if (const auto failure =
@@ -150,15 +175,15 @@ QList<FileKind> Kinds::raw()
     for (const NextData::Reader &reader : NextData::readers()) {
         FileKind kind{.id = reader.id, .title = reader.title, .asset = reader.kind, .options = reader.options};
         kind.needsTarget = reader.id == QStringLiteral("tile-attributes") || reader.id == QStringLiteral("tile-values")
-            || reader.id == QStringLiteral("sprite-animations");
+            || reader.id == QStringLiteral("sprite-animations") || reader.id == QStringLiteral("map-sprites")
+            || reader.id == QStringLiteral("map-blocks");
         kind.rareOptions =
             QStringList{QStringLiteral("count"), QStringLiteral("height"), QStringLiteral("screen-width"),
                         QStringLiteral("screen-height"), QStringLiteral("bit-0")};
         if (!kind.needsTarget)
             kind.rareOptions.append(QStringLiteral("first"));
-        // an image's undo is that of its editor, and animations of tiles are undone one by one
-        kind.takesTarget = reader.kind != AssetKind::Image && reader.kind != AssetKind::BlockSet;
-        kind.needsTileSet = reader.kind == AssetKind::Map || reader.kind == AssetKind::BlockSet;
+        kind.takesTarget = reader.kind != AssetKind::BlockSet; // whose animations are undone one by one
+        kind.needsTileSet = !kind.needsTarget && (reader.kind == AssetKind::Map || reader.kind == AssetKind::BlockSet);
         kind.needsPalette = reader.kind != AssetKind::Palette && !kind.needsTarget;
         kind.prepare = prepareRaw;
         if (reader.id == EightBitTiles) {

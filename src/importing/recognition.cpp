@@ -42,7 +42,10 @@ int probability(const NextData::Reader &reader, const ImportFile &file, const QS
     const Fit fit = file.isWhole() ? reader.fit(file.bytes.size()) : Fit::None;
     if (fit == Fit::None)
         return 0;
-    if (reader.id.endsWith(QStringLiteral("-animations"))) // whose beginning says where each of them is
+    // whose beginning says where each of them is
+    static const QStringList sure{QStringLiteral("block-animations"), QStringLiteral("sprite-animations"),
+                                  QStringLiteral("map-sprites"), QStringLiteral("map-blocks")};
+    if (sure.contains(reader.id))
         return reader.read(file.bytes, {}) ? 10 : 0;
     if (findFileKind(reader.id)->needsTarget) // any bytes would do
         return 1;
@@ -85,6 +88,8 @@ QList<Guess> recognise(const ImportFile &file)
         return {{Kinds::AsepriteSprites}, {Kinds::AsepriteTiles}, {Kinds::AsepriteImage}};
     if (TiledMap::recognises(file.bytes))
         return {{Kinds::Tiled}};
+    if (TiledTileSet::recognises(file.bytes))
+        return {{Kinds::TiledTiles}};
     if (ColourFile::recognises(file.bytes))
         return {{Kinds::Colours}};
     const QFileInfo info(file.path);

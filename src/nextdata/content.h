@@ -2,6 +2,7 @@
 
 #include "model/animation.h"
 #include "model/enums.h"
+#include "model/map.h"
 #include "model/tilemap.h"
 #include "model/tileset.h"
 
@@ -95,7 +96,41 @@ struct AnimationsContent
     bool operator==(const AnimationsContent &) const = default;
 };
 
+/// Sprites placed on a map. What they show is told by its place in a project.
+struct PlacedSpritesContent
+{
+    struct Item
+    {
+        int bank = 0; ///< the place of the bank
+        int animation = -1; ///< the place in the bank, or -1 for a single sprite
+        Map::PlacedSprite sprite; ///< without the ids of these
+
+        bool operator==(const Item &) const = default;
+    };
+
+    QList<Item> items;
+
+    bool operator==(const PlacedSpritesContent &) const = default;
+};
+
+/// Animated blocks placed on a map, told as placed sprites are.
+struct PlacedBlocksContent
+{
+    struct Item
+    {
+        int blockSet = 0;
+        int animation = 0;
+        AnimationProperties::State placement; ///< without the id of the animation
+
+        bool operator==(const Item &) const = default;
+    };
+
+    QList<Item> items;
+
+    bool operator==(const PlacedBlocksContent &) const = default;
+};
+
 using Content = std::variant<PaletteContent, TilesContent, TileNumbersContent, MapContent, SpritesContent, ImageContent,
-                             AnimationsContent>;
+                             AnimationsContent, PlacedSpritesContent, PlacedBlocksContent>;
 
 } // namespace NextData

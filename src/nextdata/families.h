@@ -19,6 +19,7 @@ namespace NextData {
 [[nodiscard]] QList<Reader> paletteReaders();
 [[nodiscard]] QList<Reader> tileReaders();
 [[nodiscard]] QList<Reader> mapReaders();
+[[nodiscard]] QList<Reader> objectReaders();
 [[nodiscard]] QList<Reader> spriteReaders();
 [[nodiscard]] QList<Reader> imageReaders();
 [[nodiscard]] QList<Reader> animationReaders(); ///< of block sets and sprite banks

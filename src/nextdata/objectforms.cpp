@@ -26,6 +26,10 @@
 #include "nextdata/records.h"
 #include "nextdata/texts.h"
 
+#include <QtEndian>
+
+#include <optional>
+
 namespace NextData {
 namespace {
 
@@ -172,6 +176,99 @@ Result<Data> writeBlocks(const Source &source, const OptionValues &)
     return data;
 }
 
+// Reading
+
+Reader::Fit fits(qint64 size)
+{
+    return size >= CountBytes ? Reader::Fit::Possible : Reader::Fit::None;
+}
+
+Failure misfit()
+{
+    return {Texts::tr("The records do not lie in the file as its beginning says")};
+}
+
+/// Fields of a record, by their places in it.
+class RecordReader
+{
+public:
+    explicit RecordReader(const char *record) : m_record(record) { }
+
+    [[nodiscard]] int byte(int at) const { return uchar(m_record[at]); }
+    [[nodiscard]] int word(int at) const { return qFromLittleEndian<quint16>(m_record + at); }
+    [[nodiscard]] int signedWord(int at) const { return qFromLittleEndian<qint16>(m_record + at); }
+
+private:
+    const char *m_record;
+};
+
+/// The records at the beginning of a file; nothing when it ends before they do.
+std::optional<QList<RecordReader>> recordsIn(const QByteArray &bytes)
+{
+    const qsizetype count = bytes.size() < CountBytes ? 0 : RecordReader(bytes.constData()).word(0);
+    if (bytes.size() < CountBytes + RecordBytes * count)
+        return {};
+    QList<RecordReader> records;
+    for (qsizetype i = 0; i < count; ++i)
+        records.append(RecordReader(bytes.constData() + CountBytes + RecordBytes * i));
+    return records;
+}
+
+Result<Reading> readSprites(const QByteArray &bytes, const OptionValues &)
+{
+    const auto records = recordsIn(bytes);
+    if (!records)
+        return misfit();
+    PlacedSpritesContent content;
+    qsizetype end = CountBytes + RecordBytes * records->size(); // of what was read
+    for (const RecordReader &record : *records) {
+        const int flags = record.byte(5);
+        const bool isAnimated = (flags & 1) != 0;
+        PlacedSpritesContent::Item item{
+            .bank = record.byte(4), .animation = isAnimated ? record.word(6) : -1, .sprite = {}};
+        item.sprite = {.sprite = isAnimated ? 0 : record.word(6),
+                       .x = record.signedWord(0),
+                       .y = record.signedWord(2),
+                       .mirror = (flags & 8) != 0,
+                       .flip = (flags & 4) != 0,
+                       .rotate = (flags & 2) != 0,
+                       .startFrame = record.word(8),
+                       .initialDelay = record.word(10),
+                       .repeatDelay = record.word(12),
+                       .paletteOffset = flags >> 4};
+        if (const int place = record.word(14); place != 0) { // one name stands behind the other
+            const qsizetype zero = bytes.indexOf('\0', end);
+            if (place != end || zero < 0)
+                return misfit();
+            item.sprite.name = QString::fromUtf8(bytes.sliced(end, zero - end));
+            end = zero + 1;
+        }
+        content.items.append(item);
+    }
+    if (end != bytes.size())
+        return misfit();
+    return Reading{content};
+}
+
+Result<Reading> readBlocks(const QByteArray &bytes, const OptionValues &)
+{
+    const auto records = recordsIn(bytes);
+    if (!records || CountBytes + RecordBytes * records->size() != bytes.size())
+        return misfit();
+    PlacedBlocksContent content;
+    for (const RecordReader &record : *records) {
+        const QRect area(record.signedWord(0), record.signedWord(2), record.byte(4), record.byte(5));
+        content.items.append({.blockSet = record.byte(6),
+                              .animation = record.word(8),
+                              .placement = {.animationId = {},
+                                            .area = area,
+                                            .initialDelay = record.word(12),
+                                            .repeatDelay = record.word(14),
+                                            .startFrame = record.word(10)}});
+    }
+    return Reading{content};
+}
+
 } // namespace
 
 QList<Form> objectForms()
@@ -196,6 +293,26 @@ QList<Form> objectForms()
          .options = {},
          .size = sizeOfBlocks,
          .write = writeBlocks},
+    };
+}
+
+QList<Reader> objectReaders()
+{
+    return {
+        {.id = QStringLiteral("map-sprites"),
+         .kind = AssetKind::Map,
+         .title = Texts::tr("Sprites placed on a map"),
+         .suffixes = {QStringLiteral("bin")},
+         .options = {},
+         .fit = fits,
+         .read = readSprites},
+        {.id = QStringLiteral("map-blocks"),
+         .kind = AssetKind::Map,
+         .title = Texts::tr("Animated blocks placed on a map"),
+         .suffixes = {QStringLiteral("bin")},
+         .options = {},
+         .fit = fits,
+         .read = readBlocks},
     };
 }
 

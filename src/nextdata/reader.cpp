@@ -19,8 +19,8 @@ constexpr qsizetype LengthAt = 11;
 
 const QList<Reader> &readers()
 {
-    static const QList<Reader> all =
-        paletteReaders() + tileReaders() + mapReaders() + spriteReaders() + imageReaders() + animationReaders();
+    static const QList<Reader> all = paletteReaders() + tileReaders() + mapReaders() + objectReaders() + spriteReaders()
+        + imageReaders() + animationReaders();
     return all;
 }
 

@@ -291,6 +291,8 @@ private slots:
         add("a map of that size", 2, "map-2byte", 200, {{"width", "10"}, {"height", "10"}});
         add("more sprites", 3, "sprites-packed", 128 * 3);
         add("other sprites", 3, "sprites-packed", 128, {}, 1);
+        add("an image", 4, "layer2-256", 49152);
+        add("an image with its colours", 5, "layer2-320", 81920 + 512);
         add("other and more sprites", 3, "sprites-8bit", 256 * 12, {{"depth", "4"}}, 1);
     }
 
@@ -307,8 +309,11 @@ private slots:
             random.tiles->insertTile(0);
         QUndoStack stack;
         const EditRecorder recorder(&project, [&stack](const QUuid &) { return &stack; });
-        const QUuid ids[] = {project.palettes().constFirst()->id(), random.tiles->id(), random.map->id(),
-                             project.spriteBanks().constFirst()->id()};
+        const auto images = project.images();
+        const QPointer<Palette> own = project.createPalette(CreateAction::Blank, "Own"); // of one image alone
+        images[1]->setPalette(own);
+        const QUuid ids[] = {project.palettes().constFirst()->id(),    random.tiles->id(), random.map->id(),
+                             project.spriteBanks().constFirst()->id(), images[0]->id(),    images[1]->id()};
         const auto all = [&] {
             QByteArrayList essences;
             for (const Source &source : Source::all(project))
@@ -324,12 +329,56 @@ private slots:
         QCOMPARE(idOf(*added), choices.target);
         const QByteArrayList after = all();
         QVERIFY(after != before);
+        QCOMPARE(own->rawColour(0) != 0, ids[target] == images[1]->id());
         QCOMPARE(stack.count(), 1);
         QVERIFY(stack.text(0).startsWith("Import "));
         stack.undo();
         QCOMPARE(all(), before);
         stack.redo();
         QCOMPARE(all(), after);
+    }
+
+    /// What is placed on a map, which a file tells by places in the project.
+    void placementsComeBack_data()
+    {
+        QTest::addColumn<QString>("form");
+        QTest::newRow("sprites") << "map-sprites";
+        QTest::newRow("blocks") << "map-blocks";
+    }
+
+    void placementsComeBack()
+    {
+        QFETCH(QString, form);
+        RandomProject random(11);
+        Project &project = random.project;
+        Map &map = *random.map;
+        const Map::Snapshot whole = map.snapshot();
+        QVERIFY(!whole.sprites.isEmpty() && !whole.placements.isEmpty());
+        const QByteArray bytes = writtenBytes(form, sourceOf(project, random.map));
+        const ImportFile source = file("placed.bin", bytes);
+        const ImportChoices choices{.kind = form, .target = map.id()};
+        QCOMPARE(recognise(source).constFirst().kind, form);
+        Map::Snapshot other = whole;
+        other.sprites = {{.bank = whole.sprites[0].bank, .name = "other"}};
+        other.placements.removeFirst();
+        map.restore(other);
+        QUndoStack stack;
+        const auto incoming = prepare(project, source, choices);
+        QVERIFY2(incoming, qPrintable(incoming.reason()));
+        QVERIFY(addTo(project, *incoming, choices, [&stack](const QUuid &) { return &stack; }));
+        const Map::Snapshot after = map.snapshot();
+        QCOMPARE(writtenBytes(form, sourceOf(project, random.map)), bytes);
+        QCOMPARE(stack.count(), 1);
+        stack.undo();
+        QVERIFY(map.snapshot() == other);
+        stack.redo();
+        QVERIFY(map.snapshot() == after);
+
+        QCOMPARE(problemOf(project, *incoming, {.kind = form}), "Choose the map on which these are placed");
+        QCOMPARE(prepare(Project(), source, choices).reason(),
+                 "What record 0 (counted from 0) shows is not in the project, where it is looked for by its place");
+        QCOMPARE(prepare(project, file("placed.bin", bytes + '\0'), choices).reason(),
+                 "The records do not lie in the file as its beginning says");
     }
 
     void animationsJoinABank()

@@ -143,7 +143,9 @@ void FileImport::show(const AddedAssets &added)
         emit blocksReady(added.blocks);
     else if (!added.tileSet.isNull())
         emit tileSetReady(added.tileSet);
-    else if (added.image.isNull()) // an image opens by itself
+    else if (!added.image.isNull())
+        emit imageReady(added.image);
+    else
         emit paletteReady(added.palette);
 }
 

@@ -49,6 +49,7 @@ signals:
     void mapReady(const QUuid &id);
     void blocksReady(const QUuid &id);
     void spritesReady(const QUuid &id);
+    void imageReady(const QUuid &id);
     /// What was imported, for the status bar.
     void message(const QString &text);
     /// A file could not be imported: a text for the user, its title, and why.
