@@ -81,6 +81,10 @@ public:
     bool hasSelection() const { return !selection().isEmpty(); }
     /// The selection in image pixels, clipped to the image; empty when there is none.
     QRect selection() const;
+    /// Selects pixels of the image.
+    void select(const QRect &pixels);
+    /// Scrolls until a pixel is the first one shown, as far as the image reaches.
+    void showFrom(QPoint pixel) { scrollBy(m_geometry.scroll - pixel); }
     /// What the paste tool pastes; null before something was pasted.
     QImage clipboardImage() const override;
 
@@ -178,7 +182,6 @@ private:
     void scrollTo(QPoint position);
     void scrollBy(QPoint delta);
     void placeBand();
-    void select(const QRect &pixels);
     /// Lets the selected pixels float, or float on. True when they did before.
     bool takeUpSelection();
     void moveSelection(QPoint corner);

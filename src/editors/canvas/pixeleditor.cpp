@@ -1,6 +1,7 @@
 #include "editors/canvas/pixeleditor.h"
 
 #include "editors/canvas/canvas.h"
+#include "editors/canvas/canvaskeys.h"
 #include "editors/canvas/paintoptionsbar.h"
 #include "editors/canvas/palettenotice.h"
 #include "model/palette.h"
@@ -54,6 +55,7 @@ PixelEditor::PixelEditor(QSize imageSize, Qt::Orientation toolPalette, const QLi
     new PaletteNotice(m_canvas);
     m_canvas->setClickDeselects(true);
     m_canvas->setExtended(true);
+    new CanvasKeys(m_canvas); // which is its child
     setPaintSettings(new PaintSettings(m_canvas));
     addMenuEntries();
     addTools(more);

@@ -4,6 +4,7 @@
 #include "editors/map/mapeditortoolbar.h"
 #include "editors/map/mapexport.h"
 #include "editors/map/mapgrid.h"
+#include "editors/map/mapkeys.h"
 #include "editors/map/mappreferences.h"
 #include "editors/map/maptoolpalette.h"
 #include "editors/map/paintdesk.h"
@@ -95,6 +96,7 @@ void View::offerMore(const QPointer<PaintKit> &kit)
     if (m_paintDesk)
         return;
     m_grid->offerMore();
+    new MapKeys(m_grid); // before what else listens to its keys
     m_toolPalette->addPaintTools();
     addActions(m_toolPalette->actions());
     m_paintDesk = new PaintDesk(this, kit);
