@@ -2,6 +2,8 @@
 
 #include "editors/common/dragdata.h"
 #include "ui/commands.h"
+#include "ui/reveal.h"
+#include "ui/widgetcells.h"
 
 #include <QContextMenuEvent>
 #include <QHelpEvent>
@@ -32,7 +34,29 @@ FrameEditorWidget::FrameEditorWidget(QWidget *parent) : QWidget(parent), m_menu(
     setAccessibleName(tr("Cells of the frame"));
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     buildMenu();
+    tellCells();
     fitAnimation();
+}
+
+void FrameEditorWidget::tellCells()
+{
+    m_cells = new WidgetCells(this,
+                              {.size = [this] { return frame() ? m_animation->size() : QSize(); },
+                               .exists = {},
+                               .area = [this](QPoint cell) { return cellRect(cell); },
+                               .at = [this](QPoint point) { return cellAt(point); },
+                               .text = [this](QPoint cell) { return textOf(cell); },
+                               .current = [this] { return m_selected; },
+                               .choose = [this](QPoint cell) { setSelectedCell(cell); },
+                               .selected = {}});
+}
+
+QString FrameEditorWidget::textOf(QPoint cell) const
+{
+    const AnimationFrame::Cell shown = frame()->cell(cell.y(), cell.x());
+    const QString text = m_animation->kind() == Animation::Sprites ? tr("Column %1, row %2, sprite %3")
+                                                                   : tr("Column %1, row %2, tile %3");
+    return text.arg(cell.x()).arg(cell.y()).arg(shown.index);
 }
 
 void FrameEditorWidget::buildMenu()
@@ -161,6 +185,7 @@ void FrameEditorWidget::setSelectedCell(QPoint cell)
     const QPoint before = m_selected;
     m_selected = contains(cell) ? cell : NoCell;
     update();
+    m_cells->tellCurrent();
     if (m_selected != NoCell || before != NoCell)
         emit selectedCellChanged(m_selected);
 }
@@ -341,8 +366,10 @@ void FrameEditorWidget::keyPressEvent(QKeyEvent *event)
         return;
     }
     const QPoint target = m_selected == NoCell ? QPoint(0, 0) : m_selected + step;
-    if (contains(target))
-        setSelectedCell(target);
+    if (!contains(target))
+        return;
+    setSelectedCell(target);
+    reveal(this, cellRect(target));
 }
 
 bool FrameEditorWidget::event(QEvent *event)

@@ -12,6 +12,7 @@
 
 class QMenu;
 class QMimeData;
+class WidgetCells;
 
 namespace AnimationEditor {
 
@@ -99,6 +100,8 @@ protected:
 
 private:
     void buildMenu();
+    void tellCells();
+    [[nodiscard]] QString textOf(QPoint cell) const;
     void popUpMenu(QPoint globalPosition);
     void fitAnimation();
     [[nodiscard]] QSize gridSize() const;
@@ -122,6 +125,7 @@ private:
     QPoint m_selected = NoCell;
     QPoint m_dropTarget = NoCell;
     QMenu *m_menu;
+    WidgetCells *m_cells = nullptr;
     QAction *m_rotated = nullptr;
     QAction *m_flipped = nullptr;
     QAction *m_mirrored = nullptr;

@@ -1,6 +1,8 @@
 #include "editors/canvas/cellgrid.h"
 
 #include "ui/gridkeys.h"
+#include "ui/reveal.h"
+#include "ui/widgetcells.h"
 
 #include <QApplication>
 #include <QDrag>
@@ -22,6 +24,23 @@ CellGrid::CellGrid(const QString &mimeType, const QString &menuTitle, QWidget *p
     QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
+    tellCells();
+}
+
+void CellGrid::tellCells()
+{
+    const auto across = [this] { return columns(width()); };
+    const auto index = [across](QPoint cell) { return WidgetCells::indexOf(cell, across()); };
+    m_cells =
+        new WidgetCells(this,
+                        {.size = [this, across] { return QSize(across(), (cellCount() + across() - 1) / across()); },
+                         .exists = [this, index](QPoint cell) { return index(cell) < cellCount(); },
+                         .area = [this, index](QPoint cell) { return cellRect(index(cell)); },
+                         .at = [this, across](QPoint point) { return WidgetCells::cellOf(indexAt(point), across()); },
+                         .text = [this, index](QPoint cell) { return textOf(index(cell)); },
+                         .current = [this, across] { return WidgetCells::cellOf(m_selected, across()); },
+                         .choose = [this, index](QPoint cell) { clicked(index(cell)); },
+                         .selected = {}});
 }
 
 void CellGrid::reset(int selected)
@@ -51,6 +70,7 @@ void CellGrid::select(int index)
 {
     m_selected = index;
     update();
+    m_cells->tellCurrent();
 }
 
 // ---- Layout ---------------------------------------------------------------------------------
@@ -145,14 +165,30 @@ void CellGrid::leaveEvent(QEvent *event)
 
 void CellGrid::keyPressEvent(QKeyEvent *event)
 {
+    const int from = std::max(m_selected, 0);
     const int step = GridKeys::step(event->key(), columns(width()));
-    if (step == 0) {
+    const int leap = GridKeys::leap(event->key(), columns(width()), from, count());
+    if (step == 0 && leap == 0) {
         QWidget::keyPressEvent(event);
         return;
     }
-    const int moved = std::max(m_selected, 0) + step;
-    if (moved >= 0 && moved < count())
-        choose(moved);
+    const int moved = from + step + leap;
+    if (moved < 0 || moved >= count())
+        return;
+    if (event->modifiers() & Qt::AltModifier)
+        carry(moved, event->modifiers() & Qt::ShiftModifier);
+    choose(moved);
+    reveal(this, cellRect(moved));
+}
+
+void CellGrid::carry(int target, bool copies)
+{
+    if (m_selected < 0)
+        return;
+    if (copies)
+        copyElement(m_selected, target);
+    else
+        moveElement(m_selected, target);
 }
 
 void CellGrid::contextMenuEvent(QContextMenuEvent *event)

@@ -8,12 +8,13 @@
 #include <utility>
 
 class QMenu;
+class WidgetCells;
 
 /// The elements of an asset (tiles, sprites) in square cells that fill the widget's width row by row.
 ///
 /// One element is selected, by mouse or keyboard; an element dragged onto another asks for a move, or
-/// with Shift for a copy. What an element looks like, and what becomes of a click, a drop and the
-/// context menu, a subclass says.
+/// with Shift for a copy, and so does Alt with an arrow key for the selected one. What an element looks like, and what
+/// becomes of a click, a drop and the context menu, a subclass says.
 class CellGrid : public QWidget
 {
     Q_OBJECT
@@ -48,6 +49,8 @@ protected:
     /// What a dragged element carries; the drag owns it.
     virtual QMimeData *dragData(int index) const = 0;
     virtual QString toolTipOf(int) const { return {}; }
+    /// What a cell is, for those who do not see it.
+    virtual QString textOf(int index) const = 0;
     /// The left button was released over a cell, or over none (-1).
     virtual void clicked(int index) = 0;
     /// The user has chosen an element with the keyboard.
@@ -92,6 +95,9 @@ protected:
 
 private:
     int elementAt(QPoint point) const;
+    void tellCells();
+    /// Moves or copies the selected element.
+    void carry(int target, bool copies);
     void setDropTarget(int index);
     void startDrag(int index);
 
@@ -100,6 +106,7 @@ private:
 
     const QString m_mimeType;
     QMenu *const m_menu;
+    WidgetCells *m_cells = nullptr;
     int m_selected = -1;
     int m_hovered = -1;
     int m_dropTarget = -1;

@@ -6,6 +6,7 @@
 #include "ui/commands.h"
 #include "ui/svgiconengine.h"
 
+#include <QAction>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QMenu>
@@ -50,6 +51,11 @@ SpriteList::SpriteList(QWidget *parent) : CellGrid(SpriteDrag::mimeType(), tr("S
                          QStringLiteral("spriteList.copyImage"));
     Commands::addPointed(contextMenu()->addAction(tr("Paste Image"), this, &SpriteList::pasteImage),
                          QStringLiteral("spriteList.pasteImage"));
+    contextMenu()->addSeparator();
+    QAction *add = contextMenu()->addAction(tr("Add Sprite"), this, &SpriteList::addSprite);
+    add->setShortcut(Qt::Key_Insert);
+    add->setShortcutContext(Qt::WidgetShortcut);
+    addAction(Commands::add(add, QStringLiteral("spriteList.add")));
 }
 
 void SpriteList::setSprites(const QPointer<SpriteBank> &sprites)
@@ -136,6 +142,11 @@ void SpriteList::paintMarks(QPainter &painter) const
 }
 
 // ---- What the user asks for -----------------------------------------------------------------
+
+QString SpriteList::textOf(int index) const
+{
+    return index < count() ? tr("Sprite %1").arg(index) : tr("Add a sprite");
+}
 
 void SpriteList::clicked(int index)
 {

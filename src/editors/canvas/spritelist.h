@@ -40,6 +40,7 @@ protected:
     int cell() const override;
     int margin() const override;
     QImage picture(int index) const override { return m_sprites->spriteImage(index, false, false, false); }
+    QString textOf(int index) const override;
     QMimeData *dragData(int index) const override { return SpriteDrag{index}.toMimeData(); }
     void clicked(int index) override;
     void choose(int index) override;

@@ -2,6 +2,8 @@
 
 #include "model/palette.h"
 #include "ui/commands.h"
+#include "ui/gridkeys.h"
+#include "ui/reveal.h"
 
 #include <QMenu>
 #include <QMouseEvent>
@@ -191,6 +193,11 @@ QString TilePickerGrid::toolTipOf(int index) const
     return tr("Index: %1\nPalette Offset: %2").arg(index).arg(m_tileSet->tileOffset(index));
 }
 
+QString TilePickerGrid::textOf(int index) const
+{
+    return tr("Tile %1, palette offset %2").arg(index).arg(m_tileSet->tileOffset(index));
+}
+
 void TilePickerGrid::choose(int index)
 {
     if (index < 0 || index == selectedIndex())
@@ -222,6 +229,8 @@ QRect TilePickerGrid::markedRect() const
 void TilePickerGrid::mousePressEvent(QMouseEvent *event)
 {
     const QPoint point = event->position().toPoint();
+    m_markedFrom.reset();
+    m_markedByKeys = false;
     if (event->button() != Qt::LeftButton || event->modifiers() != Qt::ControlModifier || indexAt(point) < 0) {
         CellGrid::mousePressEvent(event);
         return;
@@ -232,7 +241,7 @@ void TilePickerGrid::mousePressEvent(QMouseEvent *event)
 
 void TilePickerGrid::mouseMoveEvent(QMouseEvent *event)
 {
-    if (!m_markedFrom) {
+    if (!isMarking()) {
         CellGrid::mouseMoveEvent(event);
         return;
     }
@@ -242,19 +251,24 @@ void TilePickerGrid::mouseMoveEvent(QMouseEvent *event)
 
 void TilePickerGrid::mouseReleaseEvent(QMouseEvent *event)
 {
-    if (!m_markedFrom) {
+    if (!isMarking()) {
         CellGrid::mouseReleaseEvent(event);
         return;
     }
     if (event->button() != Qt::LeftButton)
         return;
-    const QRect places(markedRect().topLeft() / cell(), markedRect().size() / cell());
+    if (m_markedTo == *m_markedFrom) { // a click
+        clicked(m_markedTo.y() * columns(width()) + m_markedTo.x());
+    } else {
+        takeMarked();
+    }
     m_markedFrom.reset();
     update();
-    if (places.size() == QSize(1, 1)) { // a click
-        clicked(places.y() * columns(width()) + places.x());
-        return;
-    }
+}
+
+void TilePickerGrid::takeMarked()
+{
+    const QRect places(markedRect().topLeft() / cell(), markedRect().size() / cell());
     QList<QList<int>> rows;
     for (int y = places.top(); y <= places.bottom(); ++y) {
         QList<int> row;
@@ -265,6 +279,19 @@ void TilePickerGrid::mouseReleaseEvent(QMouseEvent *event)
         rows.append(row);
     }
     emit tilesPicked(rows);
+}
+
+void TilePickerGrid::markTo(QPoint place)
+{
+    const QPoint from = cellRect(selectedIndex()).topLeft() / cell();
+    if (!m_markedFrom)
+        m_markedTo = from;
+    m_markedFrom = from;
+    m_markedByKeys = true;
+    m_markedTo = placeAt((m_markedTo + place) * cell());
+    reveal(this, {m_markedTo * cell(), QSize(cell(), cell())});
+    takeMarked();
+    update();
 }
 
 void TilePickerGrid::mouseDoubleClickEvent(QMouseEvent *event)
@@ -286,6 +313,16 @@ void TilePickerGrid::wheelEvent(QWheelEvent *event)
 
 void TilePickerGrid::keyPressEvent(QKeyEvent *event)
 {
+    const int step = GridKeys::step(event->key(), 2); // 1 to the sides, 2 up and down
+    if (step != 0 && event->modifiers() == Qt::ShiftModifier && selectedIndex() >= 0) {
+        markTo(std::abs(step) == 1 ? QPoint(step, 0) : QPoint(0, step / 2));
+        return;
+    }
+    if (m_markedByKeys && event->key() != Qt::Key_Shift) {
+        m_markedFrom.reset();
+        m_markedByKeys = false;
+        update();
+    }
     if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
         CellGrid::keyPressEvent(event);
     else if (selectedIndex() >= 0)

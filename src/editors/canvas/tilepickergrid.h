@@ -38,7 +38,8 @@ signals:
     /// Carries the tile's number, which counts from 1.
     void itemDoubleClicked(int index);
     void magnificationChanged(int magnification);
-    /// Tiles beside each other were marked by dragging with Ctrl: their indices in rows, -1 where there is none.
+    /// Tiles beside each other were marked, by dragging with Ctrl or with Shift and the arrow keys: their indices in
+    /// rows, -1 where there is none.
     void tilesPicked(const QList<QList<int>> &rows);
 
 protected:
@@ -47,6 +48,7 @@ protected:
     QImage picture(int index) const override { return m_tileSet->image(index); }
     QMimeData *dragData(int index) const override { return TileDrag{index, m_tileSet->tileOffset(index)}.toMimeData(); }
     QString toolTipOf(int index) const override;
+    QString textOf(int index) const override;
     void clicked(int index) override { choose(index); }
     void choose(int index) override;
     void openMenu(int index, QPoint globalPosition) override;
@@ -70,6 +72,10 @@ private:
     void insertTile();
     void deleteTile();
     void paintMarks(QPainter &painter) const;
+    /// Marks tiles from the selected one to another place with the keyboard, and takes them as marked.
+    void markTo(QPoint place);
+    void takeMarked();
+    bool isMarking() const { return m_markedFrom && !m_markedByKeys; }
     /// Column and row of the place of a tile that is nearest to a point.
     QPoint placeAt(QPoint point) const;
     QRect markedRect() const;
@@ -81,4 +87,5 @@ private:
     int m_copySource = -1;
     std::optional<QPoint> m_markedFrom; ///< places of tiles that are being marked
     QPoint m_markedTo;
+    bool m_markedByKeys = false; ///< and stay marked until another key
 };

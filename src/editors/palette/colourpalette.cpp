@@ -2,6 +2,7 @@
 
 #include "editors/palette/colourmarks.h"
 #include "ui/gridkeys.h"
+#include "ui/widgetcells.h"
 
 #include <QHelpEvent>
 #include <QMouseEvent>
@@ -36,6 +37,35 @@ ColourPalette::ColourPalette(QWidget *parent) : QWidget(parent)
     setAccessibleName(tr("Colours"));
     // A click leaves the keyboard with the canvas.
     setFocusPolicy(Qt::TabFocus);
+    tellCells();
+}
+
+void ColourPalette::tellCells()
+{
+    const auto index = [this](QPoint cell) { return m_offset + WidgetCells::indexOf(cell, columns(width())); };
+    const auto cellOf = [this](int entry) { return WidgetCells::cellOf(entry - m_offset, columns(width())); };
+    m_cells = new WidgetCells(this,
+                              {.size = [this] { return QSize(columns(width()), rows(width())); },
+                               .exists = {},
+                               .area = [this, index](QPoint cell) { return cellRect(index(cell)); },
+                               .at =
+                                   [this, cellOf](QPoint point) {
+                                       const int entry = indexAt(point);
+                                       return entry < 0 ? CellTable::Nowhere : cellOf(entry);
+                                   },
+                               .text = [this, index](QPoint cell) { return textOf(index(cell)); },
+                               .current = [this, cellOf] { return cellOf(m_primary); },
+                               .choose = [this, index](QPoint cell) { choosePrimary(index(cell)); },
+                               .selected = {}});
+}
+
+QString ColourPalette::textOf(int index) const
+{
+    const QString name = colour(index).name();
+    if (index == m_clear)
+        return tr("Colour %1, %2, transparent").arg(index).arg(name);
+    return index == m_secondary ? tr("Colour %1, %2, background").arg(index).arg(name)
+                                : tr("Colour %1, %2").arg(index).arg(name);
 }
 
 // ---- Layout ---------------------------------------------------------------------------------
@@ -132,6 +162,7 @@ void ColourPalette::setPrimaryIndex(int index)
 {
     m_primary = index;
     update();
+    m_cells->tellCurrent();
 }
 
 void ColourPalette::setSecondaryIndex(int index)

@@ -5,6 +5,8 @@
 #include <QPointer>
 #include <QWidget>
 
+class WidgetCells;
+
 /// Chooses a primary and a secondary colour from many colours of a palette: all 256, or 16 of them
 /// from an offset on. Two swatches beside them show which are chosen. The left button chooses the primary colour, the
 /// right button the secondary; so do the arrow keys without and with Shift.
@@ -59,7 +61,11 @@ private:
     void choosePrimary(int index);
     void chooseSecondary(int index);
 
+    void tellCells();
+    [[nodiscard]] QString textOf(int index) const;
+
     QPointer<Palette> m_palette;
+    WidgetCells *m_cells = nullptr;
     int m_offset = 0;
     int m_count = Palette::Size;
     int m_primary = 1;

@@ -2,6 +2,7 @@
 
 #include "editors/palette/colourmarks.h"
 #include "ui/gridkeys.h"
+#include "ui/widgetcells.h"
 
 #include <QHelpEvent>
 #include <QMouseEvent>
@@ -43,6 +44,43 @@ ColourSelector::ColourSelector(Qt::Orientation orientation, QWidget *parent)
     // A click leaves the keyboard with the canvas.
     setFocusPolicy(Qt::TabFocus);
     setToolTip(tr("Left button: foreground, right button: background"));
+    tellCells();
+}
+
+void ColourSelector::tellCells()
+{
+    // the vertical one has as many columns as the other has rows
+    const bool upright = m_orientation == Qt::Vertical;
+    const auto turned = [upright](QPoint cell) { return upright ? cell.transposed() : cell; };
+    const auto place = [turned](QPoint cell) { return WidgetCells::indexOf(turned(cell), CellsInRow); };
+    const auto cellOf = [turned, this](int index) {
+        const int inBank = index - (m_offset - 1) * ColoursInBank;
+        const bool shown = index >= 0 && inBank >= 0 && inBank < ColoursInBank;
+        return shown ? turned(WidgetCells::cellOf(inBank, CellsInRow)) : CellTable::Nowhere;
+    };
+    const auto index = [place, this](QPoint cell) { return (m_offset - 1) * ColoursInBank + place(cell); };
+    m_cells = new WidgetCells(this,
+                              {.size =
+                                   [upright] {
+                                       const QSize size(CellsInRow, ColoursInBank / CellsInRow);
+                                       return upright ? size.transposed() : size;
+                                   },
+                               .exists = {},
+                               .area = [this, place](QPoint cell) { return cellRect(place(cell)); },
+                               .at = [this, cellOf](QPoint point) { return cellOf(indexAt(point)); },
+                               .text = [this, index](QPoint cell) { return textOf(index(cell)); },
+                               .current = [this, cellOf] { return cellOf(m_foreIndex); },
+                               .choose = [this, index](QPoint cell) { chooseFore(index(cell)); },
+                               .selected = {}});
+}
+
+QString ColourSelector::textOf(int index) const
+{
+    const QString name = colour(index).name();
+    if (index == m_clearIndex)
+        return tr("Colour %1, %2, transparent").arg(index).arg(name);
+    return index == m_backIndex ? tr("Colour %1, %2, background").arg(index).arg(name)
+                                : tr("Colour %1, %2").arg(index).arg(name);
 }
 
 QSize ColourSelector::sizeHint() const
@@ -79,6 +117,7 @@ void ColourSelector::setForeIndex(int index)
 {
     m_foreIndex = index;
     update();
+    m_cells->tellCurrent();
 }
 
 void ColourSelector::setBackIndex(int index)

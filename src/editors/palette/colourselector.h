@@ -5,6 +5,8 @@
 #include <QPointer>
 #include <QWidget>
 
+class WidgetCells;
+
 /// Chooses the foreground and background colour from one bank of 16 colours of a palette.
 ///
 /// Two rows of eight cells (two columns when vertical), after a margin that shows the two chosen
@@ -58,7 +60,11 @@ private:
     QRect oriented(QRect rect) const;
     QColor colour(int index) const;
 
+    void tellCells();
+    [[nodiscard]] QString textOf(int index) const;
+
     QPointer<Palette> m_palette;
+    WidgetCells *m_cells = nullptr;
     Qt::Orientation m_orientation;
     int m_offset = 1;
     int m_foreIndex = 1;

@@ -1,6 +1,9 @@
 #include "editors/palette/palettegrid.h"
 
 #include "editors/palette/colourmarks.h"
+#include "ui/gridkeys.h"
+#include "ui/reveal.h"
+#include "ui/widgetcells.h"
 
 #include <QHelpEvent>
 #include <QKeyEvent>
@@ -40,6 +43,39 @@ PaletteGrid::PaletteGrid(QWidget *parent) : QWidget(parent)
     setAccessibleName(windowTitle());
     setFixedSize(Side, Side);
     setFocusPolicy(Qt::StrongFocus);
+    tellCells();
+}
+
+void PaletteGrid::tellCells()
+{
+    const auto index = [](QPoint cell) { return WidgetCells::indexOf(cell, Columns); };
+    m_cells = new WidgetCells(
+        this,
+        {.size = [this] { return m_palette ? QSize(Columns, Palette::Size / Columns) : QSize(); },
+         .exists = {},
+         .area = [index](QPoint cell) { return QRect(cornerOf(index(cell)), QSize(Cell, Cell)); },
+         .at = [this](QPoint point) { return rect().contains(point) ? point / Cell : CellTable::Nowhere; },
+         .text = [this, index](QPoint cell) { return textOf(index(cell)); },
+         .current = [this] { return m_current / Cell; },
+         .choose =
+             [this, index](QPoint cell) {
+                 setSelection(index(cell), index(cell));
+                 emit selectionChanged(m_first, m_last);
+             },
+         .selected =
+             [this] {
+                 const QPoint first = WidgetCells::cellOf(m_first, Columns);
+                 const QPoint last = WidgetCells::cellOf(m_last, Columns);
+                 const bool row = first.y() == last.y();
+                 return QRect(row ? first : QPoint(0, first.y()), row ? last : QPoint(Columns - 1, last.y()));
+             }});
+}
+
+QString PaletteGrid::textOf(int index) const
+{
+    const QColor shown = colour(index);
+    return index == m_palette->transparencyIndex() ? tr("Colour %1, %2, transparent").arg(index).arg(shown.name())
+                                                   : tr("Colour %1, %2").arg(index).arg(shown.name());
 }
 
 void PaletteGrid::setPalette(const QPointer<Palette> &palette)
@@ -144,34 +180,26 @@ void PaletteGrid::mouseReleaseEvent(QMouseEvent *event)
 
 void PaletteGrid::keyPressEvent(QKeyEvent *event)
 {
-    QPoint step;
-    switch (event->key()) {
-    case Qt::Key_Left:
-        step.setX(-Cell);
-        break;
-    case Qt::Key_Right:
-        step.setX(Cell);
-        break;
-    case Qt::Key_Up:
-        step.setY(-Cell);
-        break;
-    case Qt::Key_Down:
-        step.setY(Cell);
-        break;
-    default:
+    const int from = indexAt(m_current);
+    const int step = GridKeys::step(event->key(), Columns);
+    const int leap = GridKeys::leap(event->key(), Columns, from, Palette::Size);
+    if (step == 0 && leap == 0) {
         QWidget::keyPressEvent(event);
         return;
     }
     if (!m_palette)
         return;
-    const QPoint moved = m_current + step;
+    const bool sideways = std::abs(step) == 1; // which ends with the row
+    const QPoint moved = sideways ? m_current + QPoint(step * Cell, 0) : m_current + QPoint(0, step / Columns * Cell);
     if (clamped(moved) != moved)
         return;
-    m_current = moved;
+    m_current = leap == 0 ? moved : cornerOf(from + leap);
     if (!(event->modifiers() & Qt::ShiftModifier))
-        m_anchor = moved;
+        m_anchor = m_current;
     updateRange();
     update();
+    reveal(this, QRect(cornerOf(indexAt(m_current)), QSize(Cell, Cell)));
+    m_cells->tellCurrent();
     emit selectionChanged(m_first, m_last);
 }
 

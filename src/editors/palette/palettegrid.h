@@ -8,6 +8,8 @@
 
 #include <functional>
 
+class WidgetCells;
+
 /// The 256 colours of a palette in 16 rows, of which a run of neighbours in palette order is selected.
 class PaletteGrid : public QWidget
 {
@@ -48,7 +50,11 @@ protected:
 private:
     void updateRange();
 
+    void tellCells();
+    [[nodiscard]] QString textOf(int index) const;
+
     QPointer<Palette> m_palette;
+    WidgetCells *m_cells = nullptr;
     QPoint m_anchor;
     QPoint m_current;
     int m_first = 0;
