@@ -8,9 +8,11 @@
 #include "editors/canvas/tilepickertool.h"
 #include "editors/canvas/tilewindow.h"
 #include "editors/map/blockselectorwindow.h"
+#include "editors/map/mapeditortoolbar.h"
 #include "editors/map/mapspriteswindow.h"
 #include "editors/palette/palettewindow.h"
 #include "ui/commands.h"
+#include "ui/focusring.h"
 
 #include <QAction>
 #include <QApplication>
@@ -30,17 +32,23 @@ constexpr int SideWidth = 215;
 constexpr int EditorWidth = 320;
 constexpr int PickerHeight = 150;
 
+/// The first widget in a pane that takes the keyboard; null for none.
+QWidget *firstFor(const QWidget *pane)
+{
+    const QList<QWidget *> widgets = pane->findChildren<QWidget *>();
+    const auto first = std::ranges::find_if(widgets, [](const QWidget *widget) {
+        return widget->isVisible() && widget->isEnabled() && widget->focusPolicy() & Qt::TabFocus;
+    });
+    return first == widgets.end() ? nullptr : *first;
+}
+
 /// Gives the keyboard to the first widget in a pane that takes it.
 bool takeKeyboard(const QWidget *pane)
 {
-    const QList<QWidget *> widgets = pane->findChildren<QWidget *>();
-    for (QWidget *widget : widgets) {
-        if (widget->isVisible() && widget->isEnabled() && widget->focusPolicy() & Qt::TabFocus) {
-            widget->setFocus(Qt::ShortcutFocusReason);
-            return true;
-        }
-    }
-    return false;
+    QWidget *first = firstFor(pane);
+    if (first)
+        first->setFocus(Qt::ShortcutFocusReason);
+    return first;
 }
 
 } // namespace
@@ -69,14 +77,41 @@ LayoutController::LayoutController(QMainWindow *window, const DocumentViews &vie
 
 void LayoutController::addPaneKeys()
 {
-    const auto add = [this](const QString &name, const QString &text, const QKeySequence &keys, int step) {
+    using Step = void (LayoutController::*)(int);
+    const auto add = [this](const QString &name, const QString &text, const QKeySequence &keys, Step take, int step) {
         auto *action = new QAction(text, m_window);
         action->setShortcut(keys);
-        connect(action, &QAction::triggered, this, [this, step] { focusPane(step); });
+        connect(action, &QAction::triggered, this, [this, take, step] { (this->*take)(step); });
         m_window->addAction(Commands::add(action, name));
     };
-    add(QStringLiteral("window.nextPane"), tr("Next Dock"), Qt::Key_F6, 1);
-    add(QStringLiteral("window.previousPane"), tr("Previous Dock"), Qt::SHIFT | Qt::Key_F6, -1);
+    add(QStringLiteral("window.nextPane"), tr("Next Dock"), Qt::Key_F6, &LayoutController::focusPane, 1);
+    add(QStringLiteral("window.previousPane"), tr("Previous Dock"), Qt::SHIFT | Qt::Key_F6,
+        &LayoutController::focusPane, -1);
+    add(QStringLiteral("window.nextBehind"), tr("Next Dock Behind"), Qt::CTRL | Qt::Key_F6,
+        &LayoutController::raiseDock, 1);
+    add(QStringLiteral("window.previousBehind"), tr("Previous Dock Behind"), Qt::CTRL | Qt::SHIFT | Qt::Key_F6,
+        &LayoutController::raiseDock, -1);
+    new FocusRing(m_window);
+}
+
+void LayoutController::raiseDock(int step)
+{
+    const QWidget *focus = QApplication::focusWidget();
+    const QList<DockWidget *> all = docks();
+    const auto current =
+        std::ranges::find_if(all, [focus](const DockWidget *dock) { return dock->isAncestorOf(focus); });
+    if (current == all.end())
+        return;
+    const QList<QDockWidget *> beside = m_window->tabifiedDockWidgets(*current);
+    const qsizetype index = std::distance(all.begin(), current);
+    for (qsizetype tried = 1; tried < all.size(); ++tried) {
+        DockWidget *dock = all.at((index + step * tried + all.size()) % all.size());
+        if (!beside.contains(dock) || !firstFor(dock))
+            continue;
+        dock->raise();
+        takeKeyboard(dock);
+        return;
+    }
 }
 
 void LayoutController::focusPane(int step)
@@ -86,6 +121,8 @@ void LayoutController::focusPane(int step)
         if (!dock->visibleRegion().isEmpty()) // neither closed nor behind another one
             panes.append(dock);
     }
+    if (m_views.mapToolBar->isVisible() && m_views.mapToolBar->isEnabled())
+        panes.append(m_views.mapToolBar);
     const QWidget *focus = QApplication::focusWidget();
     const auto current =
         std::find_if(panes.cbegin(), panes.cend(), [focus](const QWidget *pane) { return pane->isAncestorOf(focus); });

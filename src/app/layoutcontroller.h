@@ -35,6 +35,8 @@ private:
     /// Lets F6 and Shift+F6 take the keyboard from pane to pane: the tabs and every dock that is in view.
     void addPaneKeys();
     void focusPane(int step);
+    /// Brings a dock to the front that is behind the one with the keyboard, and hands the keyboard over.
+    void raiseDock(int step);
 
     /// All docks, in the order of the View menu.
     [[nodiscard]] QList<DockWidget *> docks() const;

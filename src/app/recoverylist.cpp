@@ -154,6 +154,7 @@ RecoveryList::RecoveryList(RecoveryOffers *offers, QWidget *parent)
     title->setContentsMargins(4, 0, 0, 0);
     layout->addWidget(title);
     m_area = new QScrollArea;
+    m_area->setFocusPolicy(Qt::NoFocus); // its buttons have the keyboard
     m_area->setFrameShape(QFrame::NoFrame);
     m_area->setWidgetResizable(true);
     m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -491,8 +491,9 @@ private slots:
         m_window->documentController()->setActiveMap(controller()->project()->maps().first()->id());
         views.tabs->currentWidget()->setFocus();
         // in the order of the View menu, without the docks that are behind others
-        for (const QWidget *pane : std::initializer_list<QWidget *>{views.project, views.tileEditor, views.tilePicker,
-                                                                    views.mapObjects, views.tabs, views.project}) {
+        for (const QWidget *pane :
+             std::initializer_list<QWidget *>{views.project, views.tileEditor, views.tilePicker, views.mapObjects,
+                                              views.mapToolBar, views.tabs, views.project}) {
             QTest::keyClick(&*m_window, Qt::Key_F6);
             QVERIFY2(pane->isAncestorOf(QApplication::focusWidget()), qPrintable(pane->objectName()));
         }

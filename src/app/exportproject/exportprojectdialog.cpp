@@ -13,6 +13,7 @@
 #include "ui/sectionheader.h"
 #include "ui/svgiconengine.h"
 #include "ui/titlewidth.h"
+#include "ui/toolbarkeys.h"
 
 #include <QAction>
 #include <QDialogButtonBox>
@@ -143,8 +144,7 @@ QWidget *ExportProjectDialog::buildTable()
     m_tools->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     m_tools->setIconSize({16, 16});
     m_tools->addActions({m_add, m_edit, m_duplicate, m_remove});
-    for (QToolButton *button : m_tools->findChildren<QToolButton *>())
-        button->setFocusPolicy(Qt::TabFocus);
+    letKeysReach(m_tools);
     auto *part = new QWidget(this);
     auto *layout = new QVBoxLayout(part);
     layout->setContentsMargins(0, 0, 0, 0);

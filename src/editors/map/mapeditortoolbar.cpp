@@ -2,6 +2,7 @@
 
 #include "ui/commands.h"
 #include "ui/svgiconengine.h"
+#include "ui/toolbarkeys.h"
 
 #include <QAction>
 #include <QLabel>
@@ -47,6 +48,8 @@ ToolBar::ToolBar(QWidget *parent) : QToolBar(tr("Map"), parent)
     m_size->setToolTip(tr("Map size in tiles and bytes"));
     m_size->setMargin(4);
     addWidget(m_size);
+
+    letKeysReach(this); // the layers are in no menu
 
     connect(m_tiles, &QAction::toggled, this, &ToolBar::mapVisibilityChanged);
     connect(m_objects, &QAction::toggled, this, &ToolBar::objectVisibilityChanged);

@@ -1,0 +1,353 @@
+#include "app/mainwindow.h"
+#include "editors/canvas/canvas.h"
+#include "editors/canvas/spritelist.h"
+#include "editors/canvas/tilepickergrid.h"
+#include "editors/map/mapeditorview.h"
+#include "editors/map/mapgrid.h"
+#include "editors/map/spritepropertiespopover.h"
+#include "model/map.h"
+#include "model/mapobjects.h"
+#include "model/spritebank.h"
+#include "model/tileset.h"
+#include "support/modeltools.h"
+#include "support/testmain.h"
+#include "ui/focusring.h"
+#include "ui/keycursor.h"
+#include "ui/keymark.h"
+
+#include <QAccessible>
+#include <QtTest>
+#include <QtWidgets>
+
+#include <optional>
+
+using namespace Quenmora::Ui;
+
+namespace {
+
+/// Widgets that Tab reaches and that say nothing about what they are.
+QStringList namelessIn(const QWidget *window)
+{
+    QStringList found;
+    const auto widgets = window->findChildren<QWidget *>();
+    for (QWidget *widget : widgets) {
+        const auto *bar = qobject_cast<QTabBar *>(widget); // an empty one waits for docks
+        if ((bar && bar->count() == 0) || !(widget->focusPolicy() & Qt::TabFocus) || widget->focusProxy()
+            || widget->window() != window)
+            continue;
+        const QAccessibleInterface *met = QAccessible::queryAccessibleInterface(widget);
+        if (met && !met->text(QAccessible::Name).isEmpty())
+            continue;
+        QString path;
+        for (const QWidget *w = widget; w && w != window; w = w->parentWidget())
+            path.prepend('/' + QString::fromLatin1(w->metaObject()->className()));
+        found.append(window->windowTitle() + path);
+    }
+    return found;
+}
+
+} // namespace
+
+class TestWithoutMouse : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { Update::UpdateChecker::setFeedAddress({}); }
+
+    void init()
+    {
+        m_window.emplace();
+        m_window->resize(1400, 900);
+        m_window->projectController()->openProject(projectFile());
+        m_window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&*m_window));
+        documents().setActiveMap(project().maps().first()->id());
+        grid().clearFocus();
+        grid().setFocus(Qt::TabFocusReason);
+    }
+
+    void cleanup() { m_window.reset(); }
+
+    void paintsAMap()
+    {
+        grid().setCurrentTileIndex(3);
+        const QUndoStack &stack = *documents().undoStackFor(map().id());
+        key(Qt::Key_Down, Qt::ControlModifier); // from the corner to 0, 1
+        hold(Qt::Key_Space);
+        for (int i = 0; i < 3; ++i)
+            key(Qt::Key_Right, Qt::ControlModifier);
+        QTest::keyRelease(&grid(), Qt::Key_Space, Qt::ControlModifier);
+        QCOMPARE(rowOf(1, 5), QList<int>({3, 3, 3, 3, -1}));
+        QCOMPARE(stack.count(), 1);
+        key(Qt::Key_Space, Qt::ShiftModifier); // the right button clears
+        QCOMPARE(rowOf(1, 5), QList<int>({3, 3, 3, -1, -1}));
+        QCOMPARE(stack.count(), 2);
+
+        key(Qt::Key_Left, Qt::ControlModifier);
+        grid().setCurrentTileIndex(0);
+        key(Qt::Key_Return);
+        QCOMPARE(grid().currentTileIndex(), 3);
+        QCOMPARE(m_window->views().tilePicker->findChild<TilePickerGrid *>()->selectedIndex(), 3);
+
+        key(Qt::Key_Down, Qt::ControlModifier | Qt::ShiftModifier);
+        key(Qt::Key_PageDown, Qt::ShiftModifier);
+        QCOMPARE(grid().mode(), Select);
+        QCOMPARE(grid().selection(), QRect(2, 1, 1, 10));
+
+        // far from what is in view, and with a selection by Space that is larger than the view
+        key(Qt::Key_Home, Qt::ControlModifier);
+        hold(Qt::Key_Space);
+        key(Qt::Key_End, Qt::ControlModifier);
+        QTest::keyRelease(&grid(), Qt::Key_Space);
+        QCOMPARE(grid().selection(), QRect(QPoint(0, 0), map().size()));
+        QVERIFY(grid().viewport().visibleCells().contains({119, 89}));
+        QVERIFY(mark()->isVisible());
+        QMouseEvent move(QEvent::MouseMove, QPointF(50, 50), grid().mapToGlobal(QPointF(50, 50)), Qt::NoButton, {}, {});
+        QApplication::sendEvent(&grid(), &move);
+        QVERIFY(!mark()->isVisible());
+    }
+
+    void placesASpriteToTheCell()
+    {
+        map().setSpriteLayerVisible(true);
+        grid().setCurrentSprite(project().spriteBanks().first()->id(), 0);
+        key(Qt::Key_PageDown);
+        key(Qt::Key_Right, Qt::ControlModifier);
+        key(Qt::Key_Space);
+        QCOMPARE(map().sprites().size(), 1);
+        hold(Qt::Key_Space);
+        key(Qt::Key_Right, Qt::ControlModifier);
+        QTest::keyRelease(&grid(), Qt::Key_Space);
+        QCOMPARE(map().sprites().size(), 1);
+        QCOMPARE(QPoint(map().sprites().first().x, map().sprites().first().y), QPoint(16, 64));
+        key(Qt::Key_Space); // a click opens its properties
+        QVERIFY(view().popover()->isVisible());
+    }
+
+    void drawsATile()
+    {
+        Canvas &canvas = *m_window->views().tileEditor->canvas();
+        canvas.setFocus(Qt::TabFocusReason);
+        m_window->views().tileEditor->setTileIndex(2);
+        canvas.setInk(5);
+        canvas.setPaper(6);
+        const auto press = [&canvas](Qt::Key code, Qt::KeyboardModifiers keys = {}) {
+            QTest::keyClick(&canvas, code, keys);
+        };
+        const QUndoStack &stack = *documents().undoStackFor(project().tileSets().first()->id());
+        canvas.setMode(Line);
+        QTest::keyPress(&canvas, Qt::Key_Space);
+        press(Qt::Key_PageDown);
+        QTest::keyRelease(&canvas, Qt::Key_Space);
+        for (int y = 0; y < 8; ++y)
+            QCOMPARE(canvas.image().pixelIndex(0, y), 5);
+        QCOMPARE(stack.count(), 1);
+        canvas.setMode(Draw);
+        press(Qt::Key_Space, Qt::ShiftModifier);
+        QCOMPARE(canvas.image().pixelIndex(0, 7), 6);
+        press(Qt::Key_Return);
+        QCOMPARE(canvas.ink(), 6);
+        press(Qt::Key_Up, Qt::ControlModifier);
+        press(Qt::Key_Return, Qt::ShiftModifier);
+        QCOMPARE(canvas.paper(), 5);
+        press(Qt::Key_Right, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(canvas.selection(), QRect(0, 6, 2, 1));
+        press(Qt::Key_Right); // arrows by themselves do what they did: the selection moves
+        QCOMPARE(canvas.selection(), QRect(1, 6, 2, 1));
+    }
+
+    void isNotThereByItself()
+    {
+        MapEditor::MapGrid plain;
+        plain.setMap(&map());
+        plain.setCurrentTileIndex(3);
+        Canvas canvas({8, 8});
+        canvas.bindPalette(project().palettes().first());
+        for (QWidget *widget : std::initializer_list<QWidget *>{&plain, &canvas}) {
+            widget->show();
+            widget->setFocus(Qt::TabFocusReason);
+            QTest::keyClick(widget, Qt::Key_Right, Qt::ControlModifier);
+            QTest::keyClick(widget, Qt::Key_Space);
+            QVERIFY(!CellTable::of(widget));
+        }
+        QCOMPARE(rowOf(0, 2), QList<int>({-1, -1}));
+        QCOMPARE(canvas.image().pixelIndex(1, 0), 0);
+    }
+
+    void movesInThePickers()
+    {
+        auto &picker = *m_window->views().tilePicker->findChild<TilePickerGrid *>();
+        TileSet &tiles = *project().tileSets().first();
+        picker.setFocus();
+        picker.setSelectedIndex(1);
+        const int second = tiles.image(1).pixelIndex(0, 0);
+        QTest::keyClick(&picker, Qt::Key_Right, Qt::AltModifier);
+        QCOMPARE(tiles.image(2).pixelIndex(0, 0), second);
+        QCOMPARE(picker.selectedIndex(), 2);
+        QSignalSpy picked(&picker, &TilePickerGrid::tilesPicked);
+        QTest::keyClick(&picker, Qt::Key_Right, Qt::ShiftModifier);
+        QCOMPARE(picked.last().first().value<QList<QList<int>>>(), QList<QList<int>>({{2, 3}}));
+        QTest::keyClick(&picker, Qt::Key_End);
+        QCOMPARE(picker.selectedIndex(), tiles.count() - 1);
+        QCOMPARE(CellTable::of(&picker)->text(CellTable::of(&picker)->current()), "Tile 19, palette offset 0");
+
+        documents().setActiveSpriteEditor(project().spriteBanks().first()->id());
+        auto &list = *m_window->views().spriteEditor->findChild<SpriteEditor::SpriteList *>();
+        list.setFocus();
+        QTest::keyClick(&list, Qt::Key_Insert);
+        QCOMPARE(project().spriteBanks().first()->count(), 2);
+    }
+
+    void tellsWhereTheKeyboardIs()
+    {
+        QStringList told;
+        Canvas &canvas = *m_window->views().tileEditor->canvas();
+        for (const QWidget *widget : std::initializer_list<const QWidget *>{&grid(), &canvas}) {
+            CellTable *cells = CellTable::of(widget);
+            connect(cells, &CellTable::told, this, [cells, &told](QPoint cell) { told.append(cells->text(cell)); });
+        }
+        map().setTile({1, 0}, {7, true, false, true, 2, true});
+        key(Qt::Key_Right, Qt::ControlModifier);
+        QCOMPARE(told.last(), "Column 1, row 0, tile 7, rotated, mirrored, palette offset 2");
+        grid().setCurrentTileIndex(4);
+        key(Qt::Key_Space);
+        QCOMPARE(told.last(), "Column 1, row 0, tile 4");
+        canvas.setFocus(Qt::TabFocusReason);
+        QCoreApplication::processEvents();
+        QCOMPARE(told.last(), QStringLiteral("Column 0, row 0, colour 0, %1").arg(colour(0)));
+
+        QAccessibleInterface *table = QAccessible::queryAccessibleInterface(&grid());
+        QCOMPARE(table->role(), QAccessible::Table);
+        QCOMPARE(QAccessible::queryAccessibleInterface(&canvas)->role(), QAccessible::Table);
+        QCOMPARE(table->text(QAccessible::Value), "Column 1, row 0, tile 4");
+        QCOMPARE(table->childCount(), 120 * 90);
+        QCOMPARE(table->tableInterface()->cellAt(2, 100)->text(QAccessible::Name), "Column 100, row 2, empty");
+        const QRect place = grid().viewport().rectOfCells({3, 2, 1, 1});
+        const QPoint centre = grid().mapToGlobal(place.center());
+        QAccessibleInterface *cell = table->childAt(centre.x(), centre.y());
+        QCOMPARE(table->indexOfChild(cell), 2 * 120 + 3);
+        QCOMPARE(cell->rect(), QRect(grid().mapToGlobal(place.topLeft()), place.size()));
+        const QAccessible::Id first = QAccessible::uniqueId(table->child(0));
+        for (int i = 0; i < table->childCount(); ++i)
+            QVERIFY(table->child(i));
+        QVERIFY(!QAccessible::accessibleInterface(first)); // it was given up for others
+        cell = table->child(5);
+        cell->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        QCOMPARE(rowOf(0, 6), QList<int>({-1, 4, -1, -1, -1, 4}));
+    }
+
+    void showsWhereTheKeyboardIs()
+    {
+        const auto ring = [this] { return m_window->findChild<FocusRing *>()->frame(); };
+        auto &picker = *m_window->views().tilePicker->findChild<TilePickerGrid *>();
+        picker.setFocus(Qt::MouseFocusReason);
+        QVERIFY(!ring());
+        grid().setFocus();
+        picker.setFocus(Qt::TabFocusReason);
+        QVERIFY(ring());
+        const QRect seen(picker.mapTo(&*m_window, QPoint(0, 0)), picker.visibleRegion().boundingRect().size());
+        QVERIFY(ring()->geometry().contains(seen));
+        // docks that are behind others
+        m_window->views().tileEditor->raise();
+        documents().setActiveSpriteEditor(project().spriteBanks().first()->id());
+        documents().setActivePalette(project().palettes().first()->id());
+        m_window->views().palette->findChild<QAbstractButton *>()->setFocus();
+        for (const QDockWidget *dock : std::initializer_list<const QDockWidget *>{
+                 m_window->views().tileEditor, m_window->views().spriteEditor, m_window->views().palette}) {
+            QTest::keyClick(&*m_window, Qt::Key_F6, Qt::ControlModifier);
+            QVERIFY2(dock->isAncestorOf(QApplication::focusWidget()), qPrintable(dock->objectName()));
+        }
+    }
+
+    void namesEverythingThatTakesTheKeyboard()
+    {
+        documents().setActiveBlockEditor(project().blockSets().first()->id());
+        documents().setActiveSpriteEditor(project().spriteBanks().first()->id());
+        documents().setActivePalette(project().palettes().first()->id());
+        QCoreApplication::processEvents();
+        QStringList found = namelessIn(&*m_window);
+        int dialogs = 0;
+        const auto look = [&] {
+            QCoreApplication::processEvents();
+            for (QWidget *window : QApplication::topLevelWidgets()) {
+                if (window == &*m_window || !window->isVisible() || qobject_cast<QFileDialog *>(window))
+                    continue;
+                found += namelessIn(window);
+                ++dialogs;
+                window->close();
+            }
+        };
+        m_window->menus()->setFileChooser([](const FileRequest &, QWidget *) { return QString(); });
+        for (const QAction *title : m_window->menus()->actions()) {
+            for (QAction *action : title->menu()->actions()) {
+                const QString text = action->text().remove('&');
+                const bool asks =
+                    QStringList{
+                        "New",           "New Palette", "New Tile Set",    "New Map",           "New Image",
+                        "Preferences",   "About",       "Export Project…", "Swap Palette",      "Create Animations",
+                        "Replace Tile…", "Go to Cell…", "Edit Terrains…",  "Check for Updates…"}
+                        .contains(text);
+                if (asks && action->isEnabled())
+                    action->trigger();
+                look();
+            }
+        }
+        QVERIFY2(found.isEmpty(), qPrintable(found.join('\n')));
+        QVERIFY2(dialogs >= 10, qPrintable(QString::number(dialogs)));
+    }
+
+private:
+    [[nodiscard]] Project &project() { return *m_window->projectController()->project(); }
+    [[nodiscard]] DocumentController &documents() { return *m_window->documentController(); }
+    [[nodiscard]] Map &map() { return *project().maps().first(); }
+    [[nodiscard]] MapEditor::View &view()
+    {
+        return *qobject_cast<MapEditor::View *>(m_window->views().tabs->currentWidget());
+    }
+    [[nodiscard]] MapEditor::MapGrid &grid() { return *view().grid(); }
+    [[nodiscard]] const QWidget *mark()
+    {
+        const auto children = grid().findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+        const auto found = std::ranges::find_if(children, [](auto *child) { return dynamic_cast<KeyMark *>(child); });
+        return found == children.end() ? nullptr : *found;
+    }
+    /// The tiles of the first cells of a row, -1 for an empty one.
+    [[nodiscard]] QList<int> rowOf(int row, int count)
+    {
+        QList<int> tiles;
+        for (int x = 0; x < count; ++x) {
+            const TileMap::TileData cell = map().tileLayer()->cellAt({x, row});
+            tiles.append(cell.used ? cell.index : -1);
+        }
+        return tiles;
+    }
+    [[nodiscard]] QString colour(int index)
+    {
+        return QColor(project().palettes().first()->colourTable().at(index)).name();
+    }
+    void key(Qt::Key code, Qt::KeyboardModifiers keys = {}) { QTest::keyClick(&grid(), code, keys); }
+    void hold(Qt::Key code) { QTest::keyPress(&grid(), code); }
+
+    /// A project with a map of 120 × 90 empty cells, larger than any view of it.
+    [[nodiscard]] QString projectFile()
+    {
+        const QString file = m_folder.filePath("level.quenmora");
+        ProjectStore store;
+        const QPointer<Project> made = store.newProject({});
+        const auto palette = made->createPalette(CreateAction::DefaultNext, "Colours");
+        const auto tiles = made->createTileSet("Tiles", palette->id(), 20);
+        for (int i = 0; i < tiles->count(); ++i)
+            tiles->setTileImage(i, plainImage({8, 8}, i % 16));
+        made->createBlockList("Blocks", tiles->id())->createBoundTileAnimation("Torch")->addFrame();
+        made->createSpriteBank(Quenmora::EightBit, "Hero", palette->id());
+        made->createMap("Level", tiles->id(), {120, 90});
+        return store.saveAs(file) ? file : QString();
+    }
+
+    QTemporaryDir m_folder;
+    std::optional<MainWindow> m_window;
+};
+
+QUENMORA_TEST_MAIN(TestWithoutMouse)
+#include "tst_withoutmouse.moc"
