@@ -75,9 +75,7 @@ MainWindow::MainWindow(QWidget *parent)
     , m_projectExport(new ProjectExport(&m_projectController, this))
     , m_fileImport(new FileImport([this] { return m_projectController.project(); }, &m_menuBar, &m_actions, this))
     , m_importKeeper(new ImportKeeper(&m_projectController, &m_documents, this))
-    , m_commands(new CommandDesk(
-          this, m_views,
-          {[this] { return m_projectController.project(); }, &m_documents, [this](int index) { showTile(index); }}))
+    , m_commands(new CommandDesk(this, m_views, {[this] { return m_projectController.project(); }, &m_documents}))
 {
     PlainToolTips::enforce();
     m_mapToolBar.setEnabled(false);

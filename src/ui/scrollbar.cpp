@@ -28,6 +28,7 @@ ScrollBar::ScrollBar(Qt::Orientation orientation, QWidget *parent)
                    horizontal ? tr("Remove the column on the right") : tr("Remove the row at the bottom"));
     auto *addEnd = makeButton(QStringLiteral(":/Plus"),
                               horizontal ? tr("Add a column on the right") : tr("Add a row at the bottom"));
+    m_buttons = {addBegin, removeBegin, removeEnd, addEnd};
     m_removeButtons = {removeBegin, removeEnd};
 
     auto *layout = new QBoxLayout(horizontal ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom, this);

@@ -30,6 +30,8 @@ public:
     /// The bar between the buttons.
     [[nodiscard]] QScrollBar *bar() const { return m_bar; }
 
+    /// The buttons from the beginning to the end: add, remove, remove, add.
+    [[nodiscard]] const QList<QToolButton *> &buttons() const { return m_buttons; }
     void setRemoveEnabled(bool enabled);
 
 public slots:
@@ -44,5 +46,6 @@ private:
     QToolButton *makeButton(const QString &icon, const QString &text);
 
     QScrollBar *m_bar;
+    QList<QToolButton *> m_buttons;
     QList<QToolButton *> m_removeButtons;
 };

@@ -406,6 +406,10 @@ private slots:
         QCOMPARE(map->grid()->mode(), Quenmora::Ui::Fill);
         QVERIFY(run("tile 2"));
         QCOMPARE(m_window->views().tileEditor->tileIndex(), 1);
+        QCOMPARE(map->grid()->currentTileIndex(), 1);
+        const int rows = project().maps().first()->size().height();
+        QVERIFY(run("add row bottom"));
+        QCOMPARE(project().maps().first()->size().height(), rows + 1);
         const auto image = project().images().first();
         QVERIFY(run(image->name()));
         QCOMPARE(DocumentTabView::documentId(m_window->views().tabs->currentWidget()), image->id());

@@ -8,6 +8,7 @@
 #include "app/menus/menubar.h"
 #include "editors/animation/blockeditorview.h"
 #include "editors/animation/spriteeditorview.h"
+#include "editors/canvas/tilepickertool.h"
 #include "editors/canvas/tilewindow.h"
 #include "editors/map/mapeditorview.h"
 #include "editors/map/maptoolpalette.h"
@@ -197,7 +198,7 @@ void CommandDesk::addAssets(QList<CommandPalette::Entry> &entries) const
     addAll(project->palettes(), ProjectTree::PaletteNode, &DocumentController::openPalette);
 }
 
-void CommandDesk::addTiles(QList<CommandPalette::Entry> &entries) const
+void CommandDesk::addTiles(QList<CommandPalette::Entry> &entries)
 {
     const QPointer<TileSet> tileSet = m_views.tileEditor->tileSet();
     for (int index = 0; tileSet && index < tileSet->count(); ++index) {
@@ -209,6 +210,16 @@ void CommandDesk::addTiles(QList<CommandPalette::Entry> &entries) const
                         picture,
                         {tr("Tile %1").arg(index + 1), tileSet->name(), true, true},
                         {},
-                        [show = m_sources.showTile, index] { show(index); }});
+                        [this, index] { chooseTile(index); }});
     }
+}
+
+void CommandDesk::chooseTile(int index)
+{
+    m_views.tileEditor->setTileIndex(index + 1); // a tile number
+    m_views.tilePicker->setSelectedIndex(index);
+    if (qobject_cast<MapEditor::View *>(m_views.tabs->currentWidget()))
+        emit m_views.tilePicker->selectedTileChanged(index);
+    else
+        m_views.tileEditor->raise();
 }

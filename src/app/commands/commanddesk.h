@@ -27,7 +27,6 @@ public:
     {
         std::function<Project *()> project;
         DocumentController *documents;
-        std::function<void(int index)> showTile;
     };
 
     CommandDesk(QMainWindow *window, const DocumentViews &views, Sources sources);
@@ -49,7 +48,9 @@ private:
     void meetAllEditors();
     [[nodiscard]] QList<CommandPalette::Entry> commandEntries() const;
     void addAssets(QList<CommandPalette::Entry> &entries) const;
-    void addTiles(QList<CommandPalette::Entry> &entries) const;
+    void addTiles(QList<CommandPalette::Entry> &entries);
+    /// Shows a tile; the map in front is painted with it, or else the tile editor comes to the front.
+    void chooseTile(int index);
     /// The one of a command's actions that is meant now: that of the editor which has the keyboard, is in front, or can
     /// be seen; null for none.
     [[nodiscard]] QAction *meantOf(const QString &command) const;

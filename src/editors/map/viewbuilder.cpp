@@ -36,6 +36,7 @@ void ViewBuilder::build()
     makeParts();
     layOut();
     addKeys();
+    addSizeCommands();
     connectGrid();
     connectScrollBars();
     connectPopover();
@@ -128,6 +129,21 @@ void ViewBuilder::addKeys()
     if (!deletion.contains(QKeySequence(Qt::Key_Backspace)))
         deletion.append(Qt::Key_Backspace);
     add("delete", View::tr("Delete"), deletion, &View::deleteUnderPointer);
+}
+
+/// The buttons at the ends of the scroll bars, from the beginning to the end.
+void ViewBuilder::addSizeCommands()
+{
+    const auto add = [this](const ScrollBar *bar, const char *const(&names)[4]) {
+        const QList<QToolButton *> buttons = bar->buttons();
+        for (int i = 0; i < buttons.size(); ++i) {
+            auto *action = new QAction(buttons.at(i)->toolTip(), &m_view);
+            QObject::connect(action, &QAction::triggered, buttons.at(i), &QToolButton::click);
+            addCommand(&m_view, action, names[i]);
+        }
+    };
+    add(m_view.m_horizontalBar, {"addColumnLeft", "removeColumnLeft", "removeColumnRight", "addColumnRight"});
+    add(m_view.m_verticalBar, {"addRowTop", "removeRowTop", "removeRowBottom", "addRowBottom"});
 }
 
 void ViewBuilder::connectGrid()

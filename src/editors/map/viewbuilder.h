@@ -20,6 +20,7 @@ private:
     void layOut();
     QToolButton *makeMapMenu();
     void addKeys();
+    void addSizeCommands();
     void connectGrid();
     void connectScrollBars();
     void connectPopover();
