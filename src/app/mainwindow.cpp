@@ -150,18 +150,12 @@ void MainWindow::connectProjectController()
 
 void MainWindow::connectMenus()
 {
-    connect(&m_menuBar, &MenuBar::failed, this,
-            [this](const QString &text, const QString &title, const QString &reason) {
-                messageDialog()->showMessage(text, title, reason);
-            });
+    connect(&m_menuBar, &MenuBar::failed, this, &MainWindow::showFailure);
     connect(&m_menuBar, &MenuBar::exported, m_exportMessages, &ExportMessages::add);
     connect(m_menuBar.fileMenu(), &FileMenu::exportProject, m_projectExport, &ProjectExport::exportProject);
     connect(m_menuBar.fileMenu(), &FileMenu::exportAgain, m_projectExport, &ProjectExport::exportAgain);
     connect(m_projectExport, &ProjectExport::exported, m_exportMessages, &ExportMessages::show);
-    connect(m_projectExport, &ProjectExport::failed, this,
-            [this](const QString &text, const QString &title, const QString &reason) {
-                messageDialog()->showMessage(text, title, reason);
-            });
+    connect(m_projectExport, &ProjectExport::failed, this, &MainWindow::showFailure);
     connect(&m_actions, &ProjectActions::failed, this,
             [this](const QString &text, const QString &title) { messageDialog()->showMessage(text, title); });
 
@@ -212,10 +206,7 @@ void MainWindow::connectImport()
     connect(m_fileImport, &FileImport::spritesReady, &m_documents, &DocumentController::openSprites);
     connect(m_fileImport, &FileImport::imageReady, &m_documents, &DocumentController::setActiveImageEditor);
     connect(m_fileImport, &FileImport::message, m_exportMessages, &ExportMessages::show);
-    connect(m_fileImport, &FileImport::failed, this,
-            [this](const QString &text, const QString &title, const QString &reason) {
-                messageDialog()->showMessage(text, title, reason);
-            });
+    connect(m_fileImport, &FileImport::failed, this, &MainWindow::showFailure);
 }
 
 void MainWindow::connectDocks()
@@ -262,10 +253,7 @@ void MainWindow::connectImports()
     m_importKeeper->serve(m_menuBar, *m_projectDock.tree());
     statusBar()->addPermanentWidget(m_importKeeper->notice());
     connect(m_importKeeper, &ImportKeeper::message, m_exportMessages, &ExportMessages::show);
-    connect(m_importKeeper, &ImportKeeper::failed, this,
-            [this](const QString &text, const QString &title, const QString &reason) {
-                messageDialog()->showMessage(text, title, reason);
-            });
+    connect(m_importKeeper, &ImportKeeper::failed, this, &MainWindow::showFailure);
 }
 
 void MainWindow::connectCommands()
@@ -275,10 +263,8 @@ void MainWindow::connectCommands()
     const QList<QToolBar *> bars = findChildren<QToolBar *>(Qt::FindDirectChildrenOnly);
     for (const QToolBar *bar : bars)
         addAction(Commands::add(bar->toggleViewAction(), QStringLiteral("toolBars.") + bar->objectName().remove(u' ')));
-    const auto tell = [this](const QString &text, const QString &title, const QString &reason) {
-        messageDialog()->showMessage(text, title, reason);
-    };
-    connect(m_commands, &CommandDesk::failed, this, tell, Qt::QueuedConnection); // over the window, once it is there
+    connect(m_commands, &CommandDesk::failed, this, &MainWindow::showFailure,
+            Qt::QueuedConnection); // over the window, once it is there
     statusBar()->addPermanentWidget(new UnsavedMark([this] { return m_projectController.isModified(); }, this));
 }
 
@@ -447,6 +433,11 @@ MessageDialog *MainWindow::messageDialog()
 void MainWindow::showError(const QString &message)
 {
     messageDialog()->showMessage(message);
+}
+
+void MainWindow::showFailure(const QString &text, const QString &title, const QString &reason)
+{
+    messageDialog()->showMessage(text, title, reason);
 }
 
 void MainWindow::onStoreError(const QString &message)

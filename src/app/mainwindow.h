@@ -114,6 +114,7 @@ private:
 
     void onAboutToSave();
     void onSaveFinished();
+    void showFailure(const QString &text, const QString &title, const QString &reason);
     /// Shows what the store could not do, and which file that is about.
     void onStoreError(const QString &message);
     /// The same, and offers the backup that lies beside the file.
