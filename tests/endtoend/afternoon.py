@@ -92,8 +92,10 @@ def read_png(data):
 class Desktop:
     """A virtual screen with a window manager, the program in it, and somebody's hands."""
 
-    def __init__(self, program, pictures, home):
-        self.program, self.pictures, self.home = program, pictures, home
+    patience = PATIENCE
+
+    def __init__(self, command, pictures, home):
+        self.command, self.pictures, self.home = command, pictures, home
         self.started, self.shots, self.editor = [], 0, None
         read, write = os.pipe()
         size = "%dx%dx24" % SCREEN
@@ -127,7 +129,7 @@ class Desktop:
         return subprocess.run(command, env=self.environment, capture_output=True, text=True).stdout.strip()
 
     def open_editor(self):
-        self.editor = self.start([self.program], env=self.environment, cwd=self.home)
+        self.editor = self.start(self.command, env=self.environment, cwd=self.home)
         window = self.wait("the window", lambda: self.run("xdotool", "search", "--onlyvisible", "--name", "Quenmora"))
         window = window.split()[0]
         self.run("xdotool", "windowsize", "--sync", window, *map(str, WINDOW))
@@ -139,14 +141,14 @@ class Desktop:
     def close_editor(self):
         self.menu("f", "q")
         try:
-            status = self.editor.wait(PATIENCE)
+            status = self.editor.wait(self.patience)
         except subprocess.TimeoutExpired:
             raise Failure("the program does not end") from None
         if status != 0:
             raise Failure("the program ended with status %d" % status)
 
     def wait(self, what, condition):
-        deadline = time.monotonic() + PATIENCE
+        deadline = time.monotonic() + self.patience
         while time.monotonic() < deadline:
             if self.editor and self.editor.poll() is not None:
                 raise Failure("the program ended while waiting for " + what)
@@ -421,7 +423,7 @@ def main():
     home = Path(tempfile.mkdtemp())
     desktop = None
     try:
-        desktop = Desktop(str(program), pictures, home)
+        desktop = Desktop([str(program)], pictures, home)
         print("Working:")
         desktop.open_editor()
         start_project(desktop, home)
