@@ -69,7 +69,7 @@ zip)
     program
     ;;
 test)
-    install_missing wine wine64
+    install_missing wine wine64 unzip
     libraries
     run_tests "${@:2}"
     ;;

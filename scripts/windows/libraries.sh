@@ -4,7 +4,7 @@
 
 # The host's Qt brings the programs that run while Qt itself and the editor are built. cmark-gfm makes the guide.
 windows_packages=(g++-mingw-w64-x86-64-posix cmake ninja-build pkg-config dpkg-dev xz-utils bzip2 ca-certificates
-    qt6-base-dev qt6-base-dev-tools icoutils cmark-gfm zip unzip)
+    qt6-base-dev qt6-base-dev-tools qt6-l10n-tools qt6-translations-l10n cmark-gfm zip)
 
 compiler=x86_64-w64-mingw32
 prefix=$work/prefix

@@ -61,12 +61,33 @@ run_tests() {
     local pattern result=0
     pattern=$(IFS='|'; echo "$*")
     ctest --test-dir "$build" --parallel "$jobs" --output-on-failure -R "$pattern" || result=$?
+    step "Comparing with what Linux makes" same_as_on_linux || result=1
     # each test has a folder for its home; what lies elsewhere went to the profile of a person
     local stray
     stray=$(find "$WINEPREFIX/drive_c/users" -path '*/Temp' -prune -o -name '.config' -print)
     [[ -z $stray ]] || fail "A test wrote into the profile: $stray"
     wineserver -k || true
     return $result
+}
+
+# The sample project, made from its pictures under Wine, has the members that it has in the tree, which Linux made; what
+# holds the same already is left alone.
+same_as_on_linux() {
+    local folder=$work/compared
+    rm -rf "$folder"
+    mkdir -p "$folder"
+    ninja -C "$build" -j"$jobs" makesample
+    cp "$top/examples/sample.quenmora" "$folder/kept.quenmora"
+    touch -d 2001-02-03 "$folder/kept.quenmora"
+    local name
+    for name in kept made; do
+        wine "$build/examples/makesample.exe" "$(windows_path "$top/examples/pictures")" \
+            "$(windows_path "$folder/$name.quenmora")"
+    done
+    [[ $(date -r "$folder/kept.quenmora" +%Y) == 2001 ]]
+    unzip -q "$folder/made.quenmora" -d "$folder/windows"
+    unzip -q "$top/examples/sample.quenmora" -d "$folder/linux"
+    diff -r "$folder/windows" "$folder/linux"
 }
 
 start_wine() { wineboot --init; }

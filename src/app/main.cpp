@@ -1,5 +1,6 @@
 #include "app/log.h"
 #include "app/mainwindow.h"
+#include "app/platform.h"
 #include "app/version.h"
 #include "language/catalogues.h"
 
@@ -18,6 +19,7 @@ int main(int argc, char **argv)
     QApplication::setApplicationDisplayName(appDisplayName());
     QApplication::setDesktopFileName(QStringLiteral("quenmora")); // by which Wayland desktops know the icon
 
+    Platform::chooseStyle();
     QApplication application(argc, argv);
     Catalogues::install(application);
     MainWindow window;

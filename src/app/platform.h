@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QApplication>
 #include <QDir>
 #include <QKeySequence>
 #include <QList>
@@ -35,6 +36,14 @@ inline QList<QKeySequence> keysWithoutStandard([[maybe_unused]] QKeySequence::St
     }
 #endif
     return {};
+}
+
+/// To be called before the application exists. Windows' own style knows no dark windows, and blurs at some scales.
+inline void chooseStyle()
+{
+#ifdef Q_OS_WIN
+    QApplication::setStyle(QStringLiteral("fusion"));
+#endif
 }
 
 } // namespace Platform
