@@ -1,5 +1,7 @@
 #include "ui/expandablesection.h"
 
+#include "ui/svgiconengine.h"
+
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -55,7 +57,11 @@ void ExpandableSection::setExpanded(bool expanded)
 
 void ExpandableSection::showState(bool expanded)
 {
-    m_heading->setArrowType(expanded ? Qt::DownArrow : Qt::RightArrow);
+    if (isRightToLeft()) { // where styles draw arrows on the wrong side of the text
+        m_heading->setIcon(themedIcon(expanded ? QStringLiteral(":/ChevronDown") : QStringLiteral(":/ChevronLeft")));
+    } else {
+        m_heading->setArrowType(expanded ? Qt::DownArrow : Qt::RightArrow);
+    }
     if (m_content) {
         m_content->setVisible(expanded);
     }

@@ -28,6 +28,11 @@ NumberStepper::NumberStepper(QWidget *parent)
     , m_last(new QLabel(this))
     , m_forward(makeButton(QStringLiteral(":/ChevronRight"), this))
 {
+    if (isRightToLeft()) {
+        const QIcon back = m_back->icon();
+        m_back->setIcon(m_forward->icon());
+        m_forward->setIcon(back);
+    }
     m_number->setButtonSymbols(QAbstractSpinBox::NoButtons);
     m_number->setAlignment(Qt::AlignHCenter);
     m_number->setKeyboardTracking(false); // a half-typed number selects nothing

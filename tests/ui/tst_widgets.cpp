@@ -140,6 +140,25 @@ private slots:
         }
     }
 
+    void pointsTheOtherWayWhereTextDoes()
+    {
+        const auto arrows = [](Qt::LayoutDirection direction) {
+            QApplication::setLayoutDirection(direction);
+            QList<QImage> images;
+            NumberStepper stepper;
+            ExpandableSection section("Attributes");
+            for (const QToolButton *button :
+                 stepper.findChildren<QToolButton *>() + section.findChildren<QToolButton *>())
+                images.append(button->icon().pixmap(16).toImage());
+            return images;
+        };
+        const QList<QImage> usual = arrows(Qt::LeftToRight);
+        const QList<QImage> mirrored = arrows(Qt::RightToLeft);
+        QApplication::setLayoutDirection(Qt::LeftToRight);
+        QVERIFY(usual[0] != usual[1]);
+        QCOMPARE(mirrored, QList<QImage>({usual[1], usual[0], usual[0]})); // which is "<"
+    }
+
     void stepperStaysInItsRange()
     {
         NumberStepper stepper;

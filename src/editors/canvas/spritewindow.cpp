@@ -68,6 +68,7 @@ void SpriteWindow::buildPage()
     m_transparency->setKeyboardTracking(false); // a number is one edit, not one for each digit
     m_transparency->setToolTip(tr("Pixels of this index are not drawn on the Next, whatever their colour"));
     auto *form = new QFormLayout;
+    form->setRowWrapPolicy(QFormLayout::WrapLongRows); // as languages need it in a narrow dock
     form->addRow(tr("Transparent index"), m_transparency);
     editorLayout->addLayout(form);
 

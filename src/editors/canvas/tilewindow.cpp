@@ -78,6 +78,7 @@ QWidget *TileWindow::buildPage()
 {
     canvas()->setMinimumHeight(BankSize * TileSize.height());
     auto *form = new QFormLayout;
+    form->setRowWrapPolicy(QFormLayout::WrapLongRows); // as languages need it in a narrow dock
     form->addRow(tr("Tile"), m_number);
     form->addRow(tr("Palette offset"), m_offset);
     auto *attributes = new ExpandableSection(tr("Attributes"));

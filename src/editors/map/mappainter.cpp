@@ -146,6 +146,7 @@ void MapPainter::paintStatus(QPainter &painter, QPoint cell, qint64 milliseconds
     const QString text = QStringLiteral("  [%1:%2] %4ms  ").arg(cell.x()).arg(cell.y()).arg(milliseconds);
     // the text's base line, as far down as its letters need to be whole
     const QPoint at(10, std::max(10, painter.fontMetrics().ascent() + 2));
+    painter.setLayoutDirection(Qt::LeftToRight); // it has no words that could be read the other way
     painter.setPen(Qt::black);
     painter.drawText(at + QPoint(1, 1), text); // a shadow, so that it is seen on light ground
     painter.setPen(Qt::white);
