@@ -4714,7 +4714,7 @@ Colores: %3, para %4 de la imagen; grupos: %5</translation>
     </message>
     <message>
         <source>A map from a picture</source>
-        <translation>Un mapa a partir de una imagen</translation>
+        <translation>Mapa a partir de imagen</translation>
     </message>
     <message>
         <source>Cuts a picture into tiles and makes a palette, a tile set and a map of it</source>
@@ -4730,7 +4730,7 @@ Colores: %3, para %4 de la imagen; grupos: %5</translation>
     </message>
     <message>
         <source>A new palette</source>
-        <translation>Una paleta nueva</translation>
+        <translation>Paleta nueva</translation>
     </message>
     <message>
         <source>The colours that everything else is drawn with</source>
@@ -4738,7 +4738,7 @@ Colores: %3, para %4 de la imagen; grupos: %5</translation>
     </message>
     <message>
         <source>A new tile set</source>
-        <translation>Un tileset nuevo</translation>
+        <translation>Tileset nuevo</translation>
     </message>
     <message>
         <source>The tiles that maps are built from</source>

@@ -4714,7 +4714,7 @@ Couleurs&#xa0;: %3, pour %4 dans l’image&#xa0;; groupes&#xa0;: %5</translation
     </message>
     <message>
         <source>A map from a picture</source>
-        <translation>Une carte à partir d’une image</translation>
+        <translation>Carte d’après une image</translation>
     </message>
     <message>
         <source>Cuts a picture into tiles and makes a palette, a tile set and a map of it</source>
@@ -4722,7 +4722,7 @@ Couleurs&#xa0;: %3, pour %4 dans l’image&#xa0;; groupes&#xa0;: %5</translation
     </message>
     <message>
         <source>Files that there are</source>
-        <translation>Des fichiers existants</translation>
+        <translation>Fichiers existants</translation>
     </message>
     <message>
         <source>Looks at files of any kind, shows what they are, and makes assets of them</source>
@@ -4730,7 +4730,7 @@ Couleurs&#xa0;: %3, pour %4 dans l’image&#xa0;; groupes&#xa0;: %5</translation
     </message>
     <message>
         <source>A new palette</source>
-        <translation>Une nouvelle palette</translation>
+        <translation>Nouvelle palette</translation>
     </message>
     <message>
         <source>The colours that everything else is drawn with</source>
@@ -4738,7 +4738,7 @@ Couleurs&#xa0;: %3, pour %4 dans l’image&#xa0;; groupes&#xa0;: %5</translation
     </message>
     <message>
         <source>A new tile set</source>
-        <translation>Un nouveau jeu de tuiles</translation>
+        <translation>Nouveau jeu de tuiles</translation>
     </message>
     <message>
         <source>The tiles that maps are built from</source>
@@ -4746,7 +4746,7 @@ Couleurs&#xa0;: %3, pour %4 dans l’image&#xa0;; groupes&#xa0;: %5</translation
     </message>
     <message>
         <source>New sprites</source>
-        <translation>De nouveaux sprites</translation>
+        <translation>Nouveaux sprites</translation>
     </message>
     <message>
         <source>A bank of sprites of 16 × 16 pixels</source>
