@@ -20,57 +20,62 @@ void render(QWidget &widget, QImage &screen)
     widget.render(&screen, {}, {}, QWidget::RenderFlags());
 }
 
-/// One pixel of a stroke on a 640 × 256 image, and the repaint that it causes; the argument is the zoom.
+/// A stroke on a 640 × 256 image that fills the screen, with the repaint that each move causes.
+class Stroke
+{
+public:
+    explicit Stroke(int zoom, const PaintOptions &options = {})
+    {
+        m_palette.loadStandardNext();
+        m_canvas.bindPalette(&m_palette);
+        m_canvas.setPaintOptions(options);
+        m_canvas.setZoomLevel(zoom);
+        m_canvas.resize(Screen);
+        send(QEvent::MouseButtonPress, {0, 0});
+    }
+    void moveTo(QPoint pixel)
+    {
+        send(QEvent::MouseMove, pixel);
+        render(m_canvas, m_screen);
+    }
+
+private:
+    void send(QEvent::Type type, QPoint pixel)
+    {
+        const QPointF point = m_canvas.geometryInWidget().pointOf(pixel);
+        QMouseEvent event(type, point, point, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&m_canvas, &event);
+    }
+
+    Palette m_palette;
+    Canvas m_canvas{QSize(640, 256)};
+    QImage m_screen{Screen, QImage::Format_ARGB32_Premultiplied};
+};
+
+/// One pixel of a stroke; the argument is the zoom.
 void strokeAndRepaint(benchmark::State &state)
 {
-    Palette palette;
-    palette.loadStandardNext();
-    Canvas canvas(QSize(640, 256));
-    canvas.bindPalette(&palette);
-    canvas.setZoomLevel(int(state.range(0)));
-    canvas.resize(Screen);
-    QImage screen(Screen, QImage::Format_ARGB32_Premultiplied);
-    const auto send = [&canvas](QEvent::Type type, QPoint pixel) {
-        const QPointF point = canvas.geometryInWidget().pointOf(pixel);
-        QMouseEvent event(type, point, point, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(&canvas, &event);
-    };
-    send(QEvent::MouseButtonPress, {0, 0});
+    Stroke stroke(int(state.range(0)));
     int step = 0;
     for (auto _ : state) {
         ++step;
-        send(QEvent::MouseMove, {step % 20, step / 20 % 10});
-        render(canvas, screen);
+        stroke.moveTo({step % 20, step / 20 % 10});
     }
 }
 BENCHMARK(strokeAndRepaint)->Arg(1)->Arg(3)->Arg(16)->Arg(64)->Unit(benchmark::kMillisecond)->MeasureProcessCPUTime();
 
-/// A connected stroke across a 640 × 256 image with the largest brush, mirrored over both axes, and its repaint.
+/// A connected stroke across the image with the largest brush, mirrored over both axes.
 void brushAndRepaint(benchmark::State &state)
 {
-    Palette palette;
-    palette.loadStandardNext();
-    Canvas canvas(QSize(640, 256));
-    canvas.bindPalette(&palette);
     PaintOptions options;
     options.connect = true;
     options.brush = {Brush::Round, Brush::MaximumSize};
     options.symmetry = {true, true};
-    canvas.setPaintOptions(options);
-    canvas.setZoomLevel(3);
-    canvas.resize(Screen);
-    QImage screen(Screen, QImage::Format_ARGB32_Premultiplied);
-    const auto send = [&canvas](QEvent::Type type, QPoint pixel) {
-        const QPointF point = canvas.geometryInWidget().pointOf(pixel);
-        QMouseEvent event(type, point, point, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(&canvas, &event);
-    };
-    send(QEvent::MouseButtonPress, {0, 0});
+    Stroke stroke(3, options);
     int step = 0;
     for (auto _ : state) {
         ++step;
-        send(QEvent::MouseMove, step % 2 == 0 ? QPoint(0, 0) : QPoint(639, step % 256));
-        render(canvas, screen);
+        stroke.moveTo(step % 2 == 0 ? QPoint(0, 0) : QPoint(639, step % 256));
     }
 }
 BENCHMARK(brushAndRepaint)->Unit(benchmark::kMillisecond)->MeasureProcessCPUTime();
