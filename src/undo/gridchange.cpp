@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <functional>
+#include <iterator>
 #include <tuple>
+#include <utility>
 
 namespace {
 
@@ -20,33 +22,12 @@ bool sameShape(const Rows &a, const Rows &b)
     return std::equal(a.cbegin(), a.cend(), b.cbegin(), b.cend(), sameWidth);
 }
 
-template <typename Row>
-void write(QList<Row> &rows, qsizetype row, qsizetype column, const Row &cells)
+/// Makes two lists one in memory when they hold the same.
+template <typename List>
+void share(List &list, const List &other)
 {
-    if (row >= rows.size() || column >= rows.at(row).size())
-        return;
-    Row &target = rows[row];
-    if (column == 0 && cells.size() == target.size())
-        target = cells; // shared, not copied
-    else
-        std::copy_n(cells.cbegin(), std::min(cells.size(), target.size() - column), target.begin() + column);
-}
-
-/// Writes only over cells that are as expected.
-template <typename Row>
-void writeOver(const Row &expected, QList<Row> &rows, qsizetype row, qsizetype column, const Row &cells)
-{
-    if (row >= rows.size())
-        return;
-    const Row present = rows.at(row).mid(column, cells.size());
-    if (present == expected) {
-        write(rows, row, column, cells);
-        return;
-    }
-    for (qsizetype i = 0; i < present.size(); ++i) {
-        if (present.at(i) == expected.at(i))
-            rows[row][column + i] = cells.at(i);
-    }
+    if (list == other)
+        list = other;
 }
 
 } // namespace
@@ -63,9 +44,90 @@ GridChange<Cell>::GridChange(const Rows &before, const Rows &after, QPoint shift
     }
     for (qsizetype row = 0; row < before.size(); ++row) {
         // Rows that the edit did not touch are shared, which the comparison sees at once.
-        if (before.at(row) != after.at(row))
-            addRunsOf(row, before.at(row), after.at(row));
+        if (before.at(row) == after.at(row))
+            continue;
+        Line line = lineOf(row, before.at(row), after.at(row));
+        if (!m_lines.isEmpty()) {
+            share(line.runs, m_lines.constLast().runs);
+            share(line.before, m_lines.constLast().before);
+            share(line.after, m_lines.constLast().after);
+        }
+        m_lines.append(line);
     }
+}
+
+template <typename Cell>
+typename GridChange<Cell>::Line GridChange<Cell>::lineOf(qsizetype row, const Row &before, const Row &after)
+{
+    Line line{row, {}, {}, {}};
+    auto from = before.cbegin();
+    auto to = after.cbegin();
+    qsizetype cells = 0;
+    while (true) {
+        std::tie(from, to) = std::mismatch(from, before.cend(), to);
+        if (from == before.cend())
+            break;
+        const qsizetype column = from - before.cbegin();
+        std::tie(from, to) = std::mismatch(from, before.cend(), to, std::not_equal_to<>());
+        const qsizetype count = from - before.cbegin() - column;
+        line.runs.append({int(column), int(count)});
+        cells += count;
+    }
+    if (line.runs.size() == 1) { // which may be the whole row, whose storage is shared
+        line.before = before.mid(line.runs.constFirst().column, cells);
+        line.after = after.mid(line.runs.constFirst().column, cells);
+        return line;
+    }
+    line.before.reserve(cells);
+    line.after.reserve(cells);
+    for (const Run &run : std::as_const(line.runs)) {
+        std::copy_n(before.cbegin() + run.column, run.count, std::back_inserter(line.before));
+        std::copy_n(after.cbegin() + run.column, run.count, std::back_inserter(line.after));
+    }
+    return line;
+}
+
+template <typename Cell>
+void GridChange<Cell>::write(Rows &rows, const Line &line, const Row &cells)
+{
+    if (line.row >= rows.size())
+        return;
+    if (line.runs.constFirst().column == 0 && line.runs.constFirst().count == rows.at(line.row).size()) {
+        rows[line.row] = cells; // shared, not copied
+        return;
+    }
+    Row &target = rows[line.row];
+    auto from = cells.cbegin();
+    for (const Run &run : line.runs) {
+        const qsizetype room = std::max<qsizetype>(target.size() - run.column, 0);
+        std::copy_n(from, std::min<qsizetype>(run.count, room),
+                    target.begin() + std::min<qsizetype>(run.column, target.size()));
+        from += run.count;
+    }
+}
+
+/// Writes only over cells that are as expected.
+template <typename Cell>
+void GridChange<Cell>::writeOver(const Row &expected, Rows &rows, const Line &line, const Row &cells)
+{
+    if (line.row >= rows.size())
+        return;
+    const Row present = rows.at(line.row);
+    Row result = present;
+    bool all = true;
+    qsizetype at = 0;
+    for (const Run &run : line.runs) {
+        for (qsizetype column = run.column; column < run.column + run.count; ++column, ++at) {
+            if (column < present.size() && present.at(column) == expected.at(at))
+                result[column] = cells.at(at);
+            else
+                all = false;
+        }
+    }
+    if (all)
+        write(rows, line, cells);
+    else if (result != present)
+        rows[line.row] = result;
 }
 
 template <typename Cell>
@@ -73,8 +135,8 @@ void GridChange<Cell>::apply(EditSide side, Rows &rows) const
 {
     if (m_resized)
         rows = resized(side, rows);
-    for (const Run &run : m_runs)
-        write(rows, run.row, run.column, side == EditSide::Before ? run.before : run.after);
+    for (const Line &line : m_lines)
+        write(rows, line, side == EditSide::Before ? line.before : line.after);
 }
 
 template <typename Cell>
@@ -83,8 +145,8 @@ void GridChange<Cell>::applyWhereUntouched(EditSide side, Rows &rows) const
     const bool back = side == EditSide::Before;
     if (m_resized)
         rows = resized(side, rows);
-    for (const Run &run : m_runs)
-        writeOver(back ? run.after : run.before, rows, run.row, run.column, back ? run.before : run.after);
+    for (const Line &line : m_lines)
+        writeOver(back ? line.after : line.before, rows, line, back ? line.before : line.after);
 }
 
 template <typename Cell>
@@ -95,9 +157,9 @@ GridChange<Cell> GridChange<Cell>::renumbered(const Renumbering &renumbering) co
         return result;
     result.m_before = ::renumbered(m_before, renumbering);
     result.m_after = ::renumbered(m_after, renumbering);
-    for (Run &run : result.m_runs) {
-        run.before = ::renumbered(Rows{run.before}, renumbering).constFirst();
-        run.after = ::renumbered(Rows{run.after}, renumbering).constFirst();
+    for (Line &line : result.m_lines) {
+        line.before = ::renumbered(Rows{line.before}, renumbering).constFirst();
+        line.after = ::renumbered(Rows{line.after}, renumbering).constFirst();
     }
     return result;
 }
@@ -106,31 +168,24 @@ template <typename Cell>
 GridChange<Cell> GridChange<Cell>::moved(QPoint cells) const
 {
     GridChange result = *this;
-    result.m_runs.clear();
-    for (Run run : m_runs) {
-        run.row += cells.y();
-        run.column += cells.x();
-        const qsizetype cut = std::clamp<qsizetype>(-run.column, 0, run.before.size());
-        if (run.row >= 0 && cut < run.before.size())
-            result.m_runs.append({run.row, run.column + cut, run.before.sliced(cut), run.after.sliced(cut)});
+    result.m_lines.clear();
+    for (const Line &line : m_lines) {
+        Line there{line.row + cells.y(), {}, {}, {}};
+        qsizetype cut = 0; // cells that are now left of the grid
+        for (Run run : line.runs) {
+            run.column += cells.x();
+            const int outside = std::clamp(-run.column, 0, run.count);
+            cut += outside;
+            if (outside < run.count)
+                there.runs.append({run.column + outside, run.count - outside});
+        }
+        if (there.row < 0 || there.runs.isEmpty())
+            continue;
+        there.before = line.before.sliced(cut);
+        there.after = line.after.sliced(cut);
+        result.m_lines.append(there);
     }
     return result;
-}
-
-template <typename Cell>
-void GridChange<Cell>::addRunsOf(qsizetype row, const Row &before, const Row &after)
-{
-    auto from = before.cbegin();
-    auto to = after.cbegin();
-    while (true) {
-        std::tie(from, to) = std::mismatch(from, before.cend(), to);
-        if (from == before.cend())
-            return;
-        const qsizetype column = from - before.cbegin();
-        std::tie(from, to) = std::mismatch(from, before.cend(), to, std::not_equal_to<>());
-        const qsizetype length = from - before.cbegin() - column;
-        m_runs.append({row, column, before.mid(column, length), after.mid(column, length)});
-    }
 }
 
 /// The content of the side, but with the cells that have changed since the edit.

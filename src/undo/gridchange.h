@@ -15,7 +15,7 @@
 ///
 /// It holds the runs of cells that differ, so its size follows the edit and not the grid; only when
 /// the edit resized the grid or moved its content does it hold both contents. Runs that span a whole row share it with
-/// the contents that they were made from.
+/// the contents that they were made from, and rows that differ as the one above does share what that one holds.
 template <typename Cell>
 class GridChange
 {
@@ -26,7 +26,7 @@ public:
     /// shift tells by how many cells the edit moved the content, as resizing may.
     GridChange(const Rows &before, const Rows &after, QPoint shift = {});
 
-    [[nodiscard]] bool changesNothing() const { return !m_resized && m_runs.isEmpty(); }
+    [[nodiscard]] bool changesNothing() const { return !m_resized && m_lines.isEmpty(); }
 
     /// Gives the cells that differ their content from before or after the change, and leaves the others as
     /// they are. Cells outside the grid are skipped. A grid that was resized keeps, where it still reaches, the cells
@@ -44,16 +44,26 @@ private:
     /// Neighbouring cells of a row that differ.
     struct Run
     {
+        int column;
+        int count;
+
+        bool operator==(const Run &) const = default;
+    };
+    /// All that differ in a row, from left to right, and what they held, one run behind the other.
+    struct Line
+    {
         qsizetype row;
-        qsizetype column;
+        QList<Run> runs;
         Row before;
         Row after;
     };
 
-    void addRunsOf(qsizetype row, const Row &before, const Row &after);
+    [[nodiscard]] static Line lineOf(qsizetype row, const Row &before, const Row &after);
+    static void write(Rows &rows, const Line &line, const Row &cells);
+    static void writeOver(const Row &expected, Rows &rows, const Line &line, const Row &cells);
     [[nodiscard]] Rows resized(EditSide side, const Rows &rows) const;
 
-    QList<Run> m_runs;
+    QList<Line> m_lines; ///< from top to bottom
     bool m_resized;
     // these only when resized
     Rows m_before;
