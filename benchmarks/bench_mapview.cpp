@@ -6,6 +6,7 @@
 #include "editors/map/mapgrid.h"
 #include "editors/map/mappreferences.h"
 #include "level.h"
+#include "model/colourcycle.h"
 
 #include <benchmark/benchmark.h>
 
@@ -31,6 +32,23 @@ void BM_Tick(benchmark::State &state)
     }
 }
 BENCHMARK(BM_Tick)->ArgsProduct({{1, 4}, {0, 1}})->MeasureProcessCPUTime()->Unit(benchmark::kMicrosecond);
+
+/// Zoom: a step of colours that go round, a hundred entries of the palette, with the screen that it repaints.
+void BM_ColourStep(benchmark::State &state)
+{
+    LargeLevel level;
+    MapEditor::View view(&level.map);
+    view.applyPreferences({.checkerBoard = false, .overlayGrid = false, .defaultZoom = int(state.range(0))});
+    view.resize(Screen);
+    view.show();
+    QApplication::processEvents();
+    qint64 frame = 0;
+    for (auto _ : state) {
+        level.map.tileSet()->palette()->showEntries(ColourCycles::shownEntries({{100, 199, 5}}, frame += 5));
+        QApplication::processEvents();
+    }
+}
+BENCHMARK(BM_ColourStep)->Arg(1)->Arg(4)->MeasureProcessCPUTime()->Unit(benchmark::kMicrosecond);
 
 } // namespace
 

@@ -1,5 +1,6 @@
 #include "app/mainwindow.h"
 
+#include "app/colourcycling.h"
 #include "app/commands/commanddesk.h"
 #include "app/exportmessages.h"
 #include "app/exportproject/projectexport.h"
@@ -75,6 +76,7 @@ MainWindow::MainWindow(QWidget *parent)
     , m_projectExport(new ProjectExport(&m_projectController, this))
     , m_fileImport(new FileImport([this] { return m_projectController.project(); }, &m_menuBar, &m_actions, this))
     , m_importKeeper(new ImportKeeper(&m_projectController, &m_documents, this))
+    , m_colourCycling(new ColourCycling(this))
     , m_commands(new CommandDesk(this, m_views, {[this] { return m_projectController.project(); }, &m_documents}))
 {
     PlainToolTips::enforce();
@@ -230,6 +232,7 @@ void MainWindow::connectPainting()
         return view ? view->map().data() : nullptr;
     });
     m_menuBar.editMenu()->addChoice(m_painting.action(PaintSettings::Connect));
+    m_colourCycling->serve(m_projectController, *m_menuBar.viewMenu(), m_paletteDock);
     connect(&m_painting, &PaintSettings::habitChanged, this,
             [this] { m_state.savePainting(QJsonDocument(m_painting.toJson())); });
 }

@@ -31,6 +31,7 @@
 #include <functional>
 #include <utility>
 
+class ColourCycling;
 class CommandDesk;
 class ExportMessages;
 class FileImport;
@@ -72,6 +73,7 @@ public:
     [[nodiscard]] RecoveryKeeper *recoveryKeeper() { return &m_recoveryKeeper; }
     [[nodiscard]] RecoveryOffers *recoveryOffers() { return &m_recoveryOffers; }
     [[nodiscard]] MenuBar *menus() { return &m_menuBar; }
+    [[nodiscard]] ColourCycling *colourCycling() { return m_colourCycling; }
     /// The dialog that shows errors, made when it is first needed.
     [[nodiscard]] MessageDialog *messageDialog();
 
@@ -155,5 +157,6 @@ private:
     ProjectExport *m_projectExport;
     FileImport *m_fileImport;
     ImportKeeper *m_importKeeper;
+    ColourCycling *m_colourCycling;
     CommandDesk *m_commands;
 };

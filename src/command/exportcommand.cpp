@@ -7,6 +7,7 @@
 #include "nextdata/form.h"
 #include "nextdata/quoted.h"
 #include "nextdata/wholefile.h"
+#include "store/extrasfile.h"
 #include "store/projectstore.h"
 
 #include <QCoreApplication>
@@ -166,6 +167,8 @@ int ExportCommand::withProject()
     if (!store.load(m_request.project))
         return fail(m_request.project, error);
     const Project &project = *store.project();
+    if (const QString problem = ExtrasFile().load(*project.extras(), m_request.project); !problem.isEmpty())
+        fail(ExtrasFile::pathFor(m_request.project), problem); // which costs what it held, and nothing else
     switch (m_request.action) {
     case Request::Action::List:
         return listAssets(project);
@@ -177,6 +180,14 @@ int ExportCommand::withProject()
     default:
         return doRecipe(project);
     }
+}
+
+QStringList ExportCommand::sources() const
+{
+    QStringList files{m_request.project};
+    if (const QString extras = ExtrasFile::pathFor(m_request.project); QFileInfo::exists(extras))
+        files.append(extras);
+    return files;
 }
 
 int ExportCommand::listAssets(const Project &project)
@@ -201,7 +212,7 @@ int ExportCommand::doRecipe(const Project &project)
         return Failed;
 
     const QString folder = m_request.output.isEmpty() ? QFileInfo(m_request.project).path() : m_request.output;
-    RecipeRun run(project, recipe, folder, {m_request.project, file});
+    RecipeRun run(project, recipe, folder, sources() + QStringList{file});
     const QList<RecipeRun::Outcome> outcomes =
         run.runAll(mode(), [this](int, int) { return !m_isInterrupted || !m_isInterrupted(); });
     QStringList targets;
@@ -217,7 +228,7 @@ int ExportCommand::doRecipe(const Project &project)
         fail(file,
              Texts::tr("Interrupted: %n outputs were not looked at", nullptr,
                        plural(recipe.outputs().size() - outcomes.size())));
-    if (!hasFailed && !writeDepfile(targets, {m_request.project, file}))
+    if (!hasFailed && !writeDepfile(targets, sources() + QStringList{file}))
         hasFailed = true;
     sum(outcomes);
     return hasFailed ? Failed : Done;
@@ -242,7 +253,7 @@ int ExportCommand::doSingle(const Project &project)
     QStringList targets;
     for (const RecipeRun::File &written : outcome.files)
         targets.append(pathIn(folder, written.name));
-    return outcome.state != State::Impossible && writeDepfile(targets, {m_request.project}) ? Done : Failed;
+    return outcome.state != State::Impossible && writeDepfile(targets, sources()) ? Done : Failed;
 }
 
 RecipeRun::Mode ExportCommand::mode() const

@@ -28,6 +28,8 @@ private:
     [[nodiscard]] int listForms();
     void listOptions(const QList<NextData::Option> &options);
     [[nodiscard]] int withProject();
+    /// The files of the project that are there.
+    [[nodiscard]] QStringList sources() const;
     [[nodiscard]] int listAssets(const Project &project);
     [[nodiscard]] int doRecipe(const Project &project);
     [[nodiscard]] int doSingle(const Project &project);

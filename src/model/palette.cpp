@@ -6,7 +6,9 @@
 #include <QFile>
 #include <QtEndian>
 
+#include <algorithm>
 #include <limits>
+#include <numeric>
 
 namespace {
 
@@ -73,6 +75,46 @@ QList<QRgb> Palette::colourTable() const
     for (int i = 0; i < Size; ++i)
         table.append(rgb(i));
     return table;
+}
+
+Palette::ShownEntries Palette::ownEntries()
+{
+    ShownEntries entries;
+    std::iota(entries.begin(), entries.end(), quint8(0));
+    return entries;
+}
+
+void Palette::showEntries(const ShownEntries &entries)
+{
+    if (entries == m_shown)
+        return;
+    m_shown = entries;
+    emit shownColoursChanged();
+}
+
+QColor Palette::shownColour(int index) const
+{
+    QColor colour = QColor::fromRgb(rgb(m_shown[size_t(index)]));
+    if (index == m_transparencyIndex)
+        colour.setAlpha(0);
+    return colour;
+}
+
+QList<QRgb> Palette::shown(const QList<QRgb> &colourTable) const
+{
+    QList<QRgb> table = colourTable;
+    for (qsizetype i = 0; i < std::min<qsizetype>(table.size(), Size); ++i)
+        table[i] = colourTable.value(m_shown[size_t(i)]);
+    return table;
+}
+
+QImage Palette::shown(const QImage &picture) const
+{
+    if (picture.format() != QImage::Format_Indexed8 || m_shown == ownEntries())
+        return picture;
+    QImage result = picture;
+    result.setColorTable(shown(picture.colorTable()));
+    return result;
 }
 
 bool Palette::priority(int index) const

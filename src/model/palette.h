@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QColor>
+#include <QImage>
 #include <QList>
 #include <QObject>
 #include <QString>
@@ -20,6 +21,9 @@ class Palette : public QObject
 
 public:
     static constexpr int Size = 256;
+
+    /// For each entry the one whose colour it shows.
+    using ShownEntries = std::array<quint8, Size>;
 
     explicit Palette(QObject *parent = nullptr);
 
@@ -56,6 +60,18 @@ public:
     /// The first entry that equals a colour, alpha included, or else the first one at the least squared RGB distance.
     [[nodiscard]] int nearestIndex(const QColor &colour) const;
 
+    // Drawing. While colours of a range go round (ColourClock), entries show others' colours; nothing else knows of it.
+
+    [[nodiscard]] static ShownEntries ownEntries();
+    /// Lets entries show the colours of these from now on.
+    void showEntries(const ShownEntries &entries);
+    /// colour() and colourTable() as they are shown.
+    [[nodiscard]] QColor shownColour(int index) const;
+    [[nodiscard]] QList<QRgb> shownColourTable() const { return shown(colourTable()); }
+    [[nodiscard]] QList<QRgb> shown(const QList<QRgb> &colourTable) const;
+    /// A picture of this palette's indices as it is shown; one of colours as it is.
+    [[nodiscard]] QImage shown(const QImage &picture) const;
+
     /// The entry that is drawn as transparent, or -1.
     [[nodiscard]] int transparencyIndex() const { return m_transparencyIndex; }
     void setTransparencyIndex(int index) { m_transparencyIndex = index; }
@@ -69,6 +85,8 @@ signals:
     void colourChanged(int index, QColor colour, bool priority);
     void colourEdited(int index, quint16 before, quint16 after);
     void nameChanged(QString name);
+    /// Entries show other colours, but no entry changed.
+    void shownColoursChanged();
 
 public slots:
     void setName(const QString &name);
@@ -88,4 +106,5 @@ private:
     QString m_name = QStringLiteral("untitled");
     std::array<quint16, Size> m_words{};
     int m_transparencyIndex = -1;
+    ShownEntries m_shown = ownEntries();
 };

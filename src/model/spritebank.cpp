@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <cstring>
 #include <memory>
+#include <utility>
 
 SpriteBank::SpriteBank(Quenmora::Sprite depth, QObject *parent)
     : QObject(parent)
@@ -26,11 +27,12 @@ SpriteBank::SpriteBank(Quenmora::Sprite depth, QObject *parent)
 void SpriteBank::setPalette(Palette *palette)
 {
     if (m_palette)
-        disconnect(m_palette, &Palette::colourChanged, this, &SpriteBank::updateColour);
+        m_palette->disconnect(this);
     m_palette = palette;
     if (!palette)
         return;
     connect(palette, &Palette::colourChanged, this, &SpriteBank::updateColour);
+    connect(palette, &Palette::shownColoursChanged, this, &SpriteBank::shownColoursChanged);
     applyColours();
     emit coloursChanged();
 }
@@ -101,18 +103,37 @@ QImage SpriteBank::spriteImage(int index, bool rotate, bool flip, bool mirror) c
     return oriented(m_image.copy(0, row, SpriteSize, SpriteSize), rotate, flip, mirror);
 }
 
+void SpriteBank::showPainted(int index, const QImage &pixels)
+{
+    const bool isPicture = pixels.size() == QSize(SpriteSize, SpriteSize) && pixels.format() == QImage::Format_Indexed8;
+    const auto before = std::exchange(m_painted, isPicture ? std::optional(Painted{index, pixels}) : std::nullopt);
+    if (before && !(m_painted && index == before->index))
+        emit imageChanged(before->index);
+    if (m_painted)
+        emit imageChanged(index);
+}
+
+QImage SpriteBank::shownSpriteImage(int index, bool rotate, bool flip, bool mirror) const
+{
+    const QImage image = m_painted && m_painted->index == index ? oriented(m_painted->pixels, rotate, flip, mirror)
+                                                                : spriteImage(index, rotate, flip, mirror);
+    return m_palette ? m_palette->shown(image) : image;
+}
+
 QImage SpriteBank::renderSprite(int index, int paletteOffset, bool rotate, bool flip, bool mirror) const
 {
     if (!contains(index))
         return {};
-    const QList<QRgb> colours = m_image.colorTable();
+    const QList<QRgb> colours = m_palette ? m_palette->shown(m_image.colorTable()) : m_image.colorTable();
     const int bank = m_depth == Quenmora::FourBit ? (paletteOffset & 15) << 4 : 0;
     const int mask = clearPixels().pixelCount() - 1;
     const int transparent = clearPixels().pixel();
 
+    const bool isPainted = m_painted && m_painted->index == index;
     QImage sprite(SpriteSize, SpriteSize, QImage::Format_ARGB32);
     for (int y = 0; y < SpriteSize; ++y) {
-        const uchar *pixels = m_image.constScanLine(index * SpriteSize + y);
+        const uchar *pixels =
+            isPainted ? m_painted->pixels.constScanLine(y) : m_image.constScanLine(index * SpriteSize + y);
         auto *out = reinterpret_cast<QRgb *>(sprite.scanLine(y));
         for (int x = 0; x < SpriteSize; ++x) {
             const int pixel = pixels[x] & mask;

@@ -14,6 +14,8 @@
 #include <QPointer>
 #include <QUuid>
 
+#include <optional>
+
 class ImageSlicer;
 class SpriteAnim;
 
@@ -82,6 +84,12 @@ public:
     /// applied in a 4-bit bank, in an orientation. Null outside the bank.
     [[nodiscard]] QImage renderSprite(int index, int paletteOffset, bool rotate, bool flip, bool mirror) const;
 
+    /// Shows other pixels than a sprite has, as long as somebody is painting them: they become its content only when
+    /// setImage() makes them that. A null picture ends it.
+    void showPainted(int index, const QImage &pixels);
+    /// spriteImage() with what is being painted and the colours that the palette shows now.
+    [[nodiscard]] QImage shownSpriteImage(int index, bool rotate, bool flip, bool mirror) const;
+
     void clearSprite(int index);
     void copySprite(int from, int to);
     /// Takes a sprite out and puts it back at another place; the ones between move up or down by one.
@@ -134,6 +142,8 @@ signals:
     /// The sprites look different though their pixels stay: another palette was bound, an entry of the bound one
     /// changed, or another index became the transparent one.
     void coloursChanged();
+    /// The palette's entries show other colours, but neither sprites nor palette changed.
+    void shownColoursChanged();
 
 public slots:
     /// Copies the top left 16×16 pixels of a picture into a sprite (converted in the same way).
@@ -160,5 +170,12 @@ private:
     QByteArray m_offsets = QByteArray(1, '\0');
     QImage m_image;
     QPointer<Palette> m_palette;
+    /// A sprite as it is being painted.
+    struct Painted
+    {
+        int index;
+        QImage pixels;
+    };
+    std::optional<Painted> m_painted;
     AssetRegistry<SpriteAnim> m_animations;
 };

@@ -43,7 +43,8 @@ const Tile::Pixels &TileCache::pixels(const TileMap::TileData &cell)
         return *known;
     }
     Tile::Pixels &pixels = m_tiles[key];
-    m_tileSet->renderTile(cell.index, cell.rotate, cell.flip, cell.mirror, cell.offset & 15, pixels.data(), Tile::Size);
+    m_tileSet->renderShownTile(cell.index, cell.rotate, cell.flip, cell.mirror, cell.offset & 15, pixels.data(),
+                               Tile::Size);
     return pixels;
 }
 

@@ -334,7 +334,7 @@ void TileMap::paintAreas(QPainter &painter, QPoint origin, const QRect &cells, c
 {
     if (!m_tileSet || !m_tileSet->palette())
         return;
-    const QList<QRgb> table = colourTable();
+    const QList<QRgb> table = m_tileSet->palette()->shownColourTable();
     std::array<QRgb, 256> colours{};
     for (size_t i = 0; i < colours.size(); ++i)
         colours[i] = int(i & 15) == transparencyIndex ? 0 : table[qsizetype(i)];

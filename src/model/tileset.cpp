@@ -119,31 +119,24 @@ int TileSet::tileOffset(int index) const
     return contains(index) ? tile(index)->offset() : 0;
 }
 
-QImage TileSet::tileImage(int index, bool rotate, bool flip, bool mirror, int offset) const
+namespace {
+
+QImage shownWithOffset(QImage image, int offset)
 {
-    if (!contains(index)) {
-        qInfo() << "Image index out of range" << index;
-        return blankImage();
-    }
-    QImage image = tile(index)->image();
     const int width = image.width();
     for (int y = 0; y < image.height(); ++y) {
         uchar *row = image.scanLine(y);
         std::transform(row, row + width, row, [offset](uchar pixel) { return shown(pixel, offset); });
     }
-    return oriented(image, rotate, flip, mirror);
+    return image;
 }
 
-void TileSet::renderTile(int index, bool rotate, bool flip, bool mirror, int offset, uchar *target,
-                         qsizetype stride) const
+/// Writes pixels with an offset and in an orientation.
+void render(Tile::Pixels pixels, bool rotate, bool flip, bool mirror, int offset, uchar *target, qsizetype stride)
 {
     constexpr int size = Tile::Size;
-    Tile::Pixels pixels{};
-    if (contains(index)) {
-        pixels = tile(index)->pixels();
-        for (uchar &pixel : pixels)
-            pixel = shown(pixel, offset);
-    }
+    for (uchar &pixel : pixels)
+        pixel = shown(pixel, offset);
     // Source steps for one pixel to the right and one down in the target: flipped and mirrored
     // directions run backwards, and under a clockwise turn going right means going up in the source.
     const int right = rotate ? -size : 1;
@@ -156,6 +149,56 @@ void TileSet::renderTile(int index, bool rotate, bool flip, bool mirror, int off
         for (int x = 0; x < size; ++x)
             target[x] = pixels[static_cast<size_t>(from + x * columnStep)];
     }
+}
+
+} // namespace
+
+QImage TileSet::tileImage(int index, bool rotate, bool flip, bool mirror, int offset) const
+{
+    if (!contains(index)) {
+        qInfo() << "Image index out of range" << index;
+        return blankImage();
+    }
+    return oriented(shownWithOffset(tile(index)->image(), offset), rotate, flip, mirror);
+}
+
+void TileSet::renderTile(int index, bool rotate, bool flip, bool mirror, int offset, uchar *target,
+                         qsizetype stride) const
+{
+    if (contains(index))
+        render(tile(index)->pixels(), rotate, flip, mirror, offset, target, stride);
+    else
+        render({}, rotate, flip, mirror, 0, target, stride);
+}
+
+void TileSet::showPainted(int index, const QImage &pixels)
+{
+    const bool isPicture = pixels.size() == QSize(Tile::Size, Tile::Size) && pixels.format() == QImage::Format_Indexed8;
+    const auto before = std::exchange(m_painted, isPicture ? std::optional(Painted{index, pixels}) : std::nullopt);
+    if (before && !(m_painted && index == before->index))
+        emit tileChanged(before->index);
+    if (m_painted)
+        emit tileChanged(index);
+}
+
+QImage TileSet::shownTileImage(int index, bool rotate, bool flip, bool mirror, int offset) const
+{
+    const QImage image = isPainted(index) ? oriented(shownWithOffset(m_painted->pixels, offset), rotate, flip, mirror)
+                                          : tileImage(index, rotate, flip, mirror, offset);
+    return m_palette ? m_palette->shown(image) : image;
+}
+
+void TileSet::renderShownTile(int index, bool rotate, bool flip, bool mirror, int offset, uchar *target,
+                              qsizetype stride) const
+{
+    if (!isPainted(index)) {
+        renderTile(index, rotate, flip, mirror, offset, target, stride);
+        return;
+    }
+    Tile::Pixels pixels{};
+    for (int y = 0; y < Tile::Size; ++y)
+        std::memcpy(pixels.data() + y * Tile::Size, m_painted->pixels.constScanLine(y), Tile::Size);
+    render(pixels, rotate, flip, mirror, offset, target, stride);
 }
 
 void TileSet::setTileOffset(int index, int offset)
@@ -233,6 +276,7 @@ void TileSet::setPalette(QPointer<Palette> palette)
     if (m_palette) {
         m_paletteId = m_palette->id();
         connect(m_palette.data(), &Palette::colourChanged, this, &TileSet::updateColour);
+        connect(m_palette.data(), &Palette::shownColoursChanged, this, &TileSet::shownColoursChanged);
     }
 }
 

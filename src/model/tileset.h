@@ -9,6 +9,7 @@
 
 #include <array>
 #include <memory>
+#include <optional>
 #include <vector>
 
 class MapObjects;
@@ -145,6 +146,15 @@ public:
     /// allocates nothing and is meant for painting many tiles; outside the list it writes zeros.
     void renderTile(int index, bool rotate, bool flip, bool mirror, int offset, uchar *target, qsizetype stride) const;
 
+    /// Shows other pixels than a tile has, as long as somebody is painting them: they become its content only when
+    /// setTileImage() makes them that. A null picture ends it.
+    void showPainted(int index, const QImage &pixels);
+    /// tileImage() with what is being painted and the colours that the palette shows now.
+    [[nodiscard]] QImage shownTileImage(int index, bool rotate, bool flip, bool mirror, int offset) const;
+    /// The pixels of that, written as by renderTile().
+    void renderShownTile(int index, bool rotate, bool flip, bool mirror, int offset, uchar *target,
+                         qsizetype stride) const;
+
     // Plain setters; editors follow them with notifyImageChanged().
     void setTileOffset(int index, int offset);
     void setTileImage(int index, const QImage &image);
@@ -187,6 +197,8 @@ signals:
     void nameChanged(const QString &name);
     /// The pixels or the offset of one tile changed.
     void tileChanged(int index);
+    /// The palette's entries show other colours, but neither tiles nor palette changed.
+    void shownColoursChanged();
     void tileDeleted(int index);
     void tileInserted(int index);
     /// Two neighbouring positions exchanged their tiles.
@@ -233,6 +245,7 @@ private:
     /// A tile picture of these 64 pixels in the bound palette's colours.
     [[nodiscard]] QImage imageOf(const Tile::Pixels &pixels) const;
     [[nodiscard]] QByteArray nextData() const;
+    [[nodiscard]] bool isPainted(int index) const { return m_painted && m_painted->index == index; }
     void replaceTiles(const Snapshot &states);
 
     QUuid m_id = QUuid::createUuid();
@@ -241,5 +254,12 @@ private:
     bool m_hiRes = false;
     std::vector<std::unique_ptr<Tile>> m_tiles;
     QPointer<Palette> m_palette;
+    /// A tile as it is being painted.
+    struct Painted
+    {
+        int index;
+        QImage pixels;
+    };
+    std::optional<Painted> m_painted;
     QHash<QUuid, QPointer<MapObjects>> m_blockSets;
 };

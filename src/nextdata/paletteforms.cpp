@@ -4,10 +4,20 @@
 //   palette-513     the same, and the transparency in a byte more
 //   palette-8bit    256 bytes: RRRGGGBB alone
 //   palette-group   32 bytes: the words of the sixteen entries of one palette offset
+//   palette-cycles  the ranges whose colours go round:
+//
+//                   offset  size  content
+//                   0       1     how many ranges there are
+//                   4i + 1  1     first entry of range i
+//                   4i + 2  1     last entry
+//                   4i + 3  1     frames of 20 ms from step to step
+//                   4i + 4  1     0: colours move to higher entries, 1: to lower ones
 //
 // Files with fewer words than these are read as well; the entries that they lack stay as they are.
 
+#include "model/colourcycle.h"
 #include "model/palette.h"
+#include "model/project.h"
 #include "nextdata/families.h"
 #include "nextdata/palettewords.h"
 #include "nextdata/texts.h"
@@ -71,6 +81,30 @@ Result<Data> writeGroup(const Source &source, const OptionValues &values)
     const int group = values.number("group");
     return Data{{{QStringLiteral("count"), GroupSize}, {QStringLiteral("offset"), group}},
                 {{.bytes = paletteWords(source.as<Palette>(), group * GroupSize, GroupSize)}}};
+}
+
+ColourCycles::List cyclesOf(const Source &source)
+{
+    return ColourCycles::of(*source.project().extras(), source.id());
+}
+
+Result<qint64> sizeOfCycles(const Source &source, const OptionValues &)
+{
+    return 1 + 4 * cyclesOf(source).size();
+}
+
+Result<Data> writeCycles(const Source &source, const OptionValues &)
+{
+    const ColourCycles::List cycles = cyclesOf(source);
+    Data data{{{QStringLiteral("count"), cycles.size()}},
+              {{.bytes = QByteArray(1, char(cycles.size())), .comment = Texts::tr("ranges")}}};
+    for (const ColourCycle &cycle : cycles) {
+        QByteArray bytes;
+        for (const int byte : {cycle.first, cycle.last, cycle.frames, int(cycle.backwards)})
+            bytes += char(byte);
+        data.blocks.append({.bytes = bytes});
+    }
+    return data;
 }
 
 // Reading
@@ -209,6 +243,14 @@ QList<Form> paletteForms()
          .options = {group},
          .size = sizeOfGroup,
          .write = writeGroup},
+        {.id = QStringLiteral("palette-cycles"),
+         .kind = AssetKind::Palette,
+         .title = Texts::tr("Ranges of a palette whose colours go round"),
+         .suffix = QStringLiteral("bin"),
+         .noun = QStringLiteral("cycles"),
+         .options = {},
+         .size = sizeOfCycles,
+         .write = writeCycles},
     };
 }
 

@@ -1,8 +1,10 @@
 #include "nextdata/usual.h"
 
 #include "model/animatedblocks.h"
+#include "model/colourcycle.h"
 #include "model/map.h"
 #include "model/mapobjects.h"
+#include "model/project.h"
 #include "model/spritebank.h"
 #include "model/tileset.h"
 #include "nextdata/filenames.h"
@@ -13,6 +15,14 @@
 
 namespace NextData {
 namespace {
+
+QStringList formsOfPalette(const Source &palette)
+{
+    QStringList ids{QStringLiteral("palette")};
+    if (!ColourCycles::of(*palette.project().extras(), palette.id()).isEmpty())
+        ids.append(QStringLiteral("palette-cycles"));
+    return ids;
+}
 
 QStringList formsOfMap(const Map &map)
 {
@@ -39,7 +49,7 @@ QStringList idsOfForms(const Source &source)
 {
     switch (source.kind()) {
     case AssetKind::Palette:
-        return {QStringLiteral("palette")};
+        return formsOfPalette(source);
     case AssetKind::TileSet:
         return source.as<TileSet>().count() > 0 ? QStringList{QStringLiteral("tiles-4bit")} : QStringList();
     case AssetKind::Map:

@@ -1,3 +1,4 @@
+#include "model/colourcycle.h"
 #include "support/formoutput.h"
 #include "support/formreaders.h"
 #include "support/randomproject.h"
@@ -55,6 +56,7 @@ private slots:
         m_palette->setRawColour(1, 0x5600);
         m_palette->setRawColour(2, 0xEC01);
         m_palette->setTransparencyIndex(2);
+        ColourCycles::set(*m_project.extras(), m_palette->id(), {{8, 15, 5, false}, {192, 255, 255, true}});
 
         m_tiles->setTileImage(0,
                               picture({8, 8},
@@ -139,6 +141,7 @@ private slots:
         add("palette-513", "Sunset", {}, "EC", 513, 512);
         add("palette-8bit", "Sunset", {}, "E3 56 EC 00", 256);
         add("palette-group", "Sunset", {{"group", "0"}}, "E3 81 56 00 EC 01 00 00", 32);
+        add("palette-cycles", "Sunset", {}, "02 08 0F 05 00 C0 FF FF 01", 9);
         add("tiles-4bit", "Rocks", {}, "00 01 10 00 00 12 21 00 01 23 32 10 12 34 53 21 F0 00 00 00 0F 00 00 00 77",
             96);
         add("tiles-8bit", "Rocks", {}, "20 20 20 21 21 20 20 20 20", 192);

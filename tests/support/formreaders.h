@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/animatedblocks.h"
+#include "model/colourcycle.h"
 #include "model/map.h"
 #include "model/mapobjects.h"
 #include "model/project.h"
@@ -58,6 +59,8 @@ public:
             readPlacedSprites(map);
             readPlacedBlocks(map);
         }
+        for (const auto &palette : m_project.palettes())
+            readCycles(palette);
         for (const auto &blocks : m_project.blockSets())
             readAnimations(bytesOf("block-animations", blocks), blocks->animations());
         for (const auto &bank : m_project.spriteBanks())
@@ -72,6 +75,20 @@ private:
     {
         m_read.insert(id);
         return writtenBytes(id, sourceOf(m_project, asset), options);
+    }
+
+    void readCycles(const QPointer<Palette> &palette)
+    {
+        Bytes in(bytesOf("palette-cycles", palette));
+        const auto cycles = ColourCycles::of(*m_project.extras(), palette->id());
+        QCOMPARE(in.byte(), cycles.size());
+        for (const ColourCycle &cycle : cycles) {
+            QCOMPARE(in.byte(), cycle.first);
+            QCOMPARE(in.byte(), cycle.last);
+            QCOMPARE(in.byte(), cycle.frames);
+            QCOMPARE(in.byte(), int(cycle.backwards));
+        }
+        QVERIFY(in.atEnd());
     }
 
     void readPlacedSprites(const QPointer<Map> &map)

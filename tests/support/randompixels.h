@@ -1,11 +1,14 @@
 #pragma once
 
+#include "app/colourcycling.h"
 #include "editors/canvas/canvas.h"
 #include "editors/canvas/imageeditorview.h"
 #include "editors/canvas/spritelist.h"
 #include "editors/canvas/tilepickergrid.h"
 #include "editors/common/dragdata.h"
+#include "editors/palette/colourcyclesdialog.h"
 #include "editors/palette/paletteeditor.h"
+#include "editors/palette/palettegrid.h"
 #include "support/randomhands.h"
 
 #include <QSpinBox>
@@ -174,6 +177,18 @@ private:
             choose(views().palette->paletteMenu(),
                    any(QStringList{"Sort by &Hue", "Sort by &Brightness", "Re&verse", "E&xchange Ends",
                                    "&Gradient in Machine Steps", "Mark &Unused Entries", "Mark E&qual Entries"}));
+        });
+        addFor(editor, "colour cycles", None, [this](PaletteEditor &colours) {
+            const int first = number(Palette::Size - 1);
+            colours.setSelection(first, std::min(first + 1 + number(40), Palette::Size - 1));
+            choose(views().palette->paletteMenu(), "Colour C&ycles…");
+            auto *dialog = m_window.findChild<ColourCyclesDialog *>();
+            oneOf([&] { EditorInput::button(*dialog, "&Add Selection")->click(); },
+                  [&] { EditorInput::button(*dialog, "&Remove")->click(); },
+                  [&] { any(dialog->findChildren<QSpinBox *>())->setValue(number(Palette::Size)); },
+                  [&] { m_window.colourCycling()->action()->trigger(); });
+            dialog->setVisible(chance());
+            m_window.colourCycling()->clock()->advance(number(100));
         });
         add("choose palette", Lasting, [this] { // with the scratch image in front it becomes that one's
             emit views().palette->paletteChosen(anyId(&Project::palettes));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/animatedblocks.h"
+#include "model/colourcycle.h"
 #include "model/image.h"
 #include "model/map.h"
 #include "model/mapobjects.h"
@@ -33,6 +34,10 @@ public:
         for (const auto mode :
              {Quenmora::Layer2_256x192, Quenmora::Layer2_320x256, Quenmora::Layer2_640x256, Quenmora::LoRes_128x96})
             addImage(mode, palette->id());
+        const int first = number(Palette::Size - 1);
+        const int last = first + 1 + number(Palette::Size - 1 - first);
+        ColourCycles::set(*project.extras(), palette->id(),
+                          {{first, last, 1 + number(ColourCycle::MaxFrames), chance()}});
     }
 
     [[nodiscard]] int number(int bound) { return int(m_random.bounded(quint32(bound))); }

@@ -77,10 +77,15 @@ void AnimationView::syncList()
         m_list->addAnimation(animation);
 }
 
+void AnimationView::repaintCells()
+{
+    m_editor->frameEditor()->update();
+}
+
 void AnimationView::refreshPictures(int indexCount)
 {
     m_editor->setIndexCount(indexCount);
-    m_editor->frameEditor()->update();
+    repaintCells();
     m_list->refreshPictures();
 }
 

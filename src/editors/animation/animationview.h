@@ -57,6 +57,8 @@ protected:
     /// Makes the list hold what the asset holds. To be called first by the subclass's constructor, then
     /// whenever the asset gains or loses animations.
     void syncList();
+    /// Draws the cells of the frame anew.
+    void repaintCells();
     /// Draws all cells and pictures anew, for tiles or sprites that have changed.
     void refreshPictures(int indexCount);
 

@@ -35,6 +35,7 @@ void View::followTileSet()
     if (!tileSet())
         return;
     connect(tileSet(), &TileSet::tileChanged, this, &View::showTiles);
+    connect(tileSet(), &TileSet::shownColoursChanged, this, &View::repaintCells);
     connect(tileSet(), &TileSet::structureChanged, this, &View::showTiles);
     connect(tileSet(), &TileSet::restored, this, &View::showTiles);
     connect(tileSet(), &QObject::destroyed, this, &View::showTiles);
@@ -49,7 +50,7 @@ QImage View::cellPicture(const AnimationFrame::Cell &cell) const
 {
     if (!tileSet() || cell.index < 0 || cell.index >= tileSet()->count())
         return {};
-    return tileSet()->tileImage(cell.index, cell.rotate, cell.flip, cell.mirror, cell.offset);
+    return tileSet()->shownTileImage(cell.index, cell.rotate, cell.flip, cell.mirror, cell.offset);
 }
 
 QList<Animation *> View::animations() const

@@ -25,6 +25,7 @@ View::View(const QPointer<SpriteBank> &bank, AnimationEditorWidget *editor, QWid
         connect(m_bank, &SpriteBank::structureChanged, this, &View::showSprites);
         connect(m_bank, &SpriteBank::restored, this, &View::showSprites);
         connect(m_bank, &SpriteBank::coloursChanged, this, &View::showSprites);
+        connect(m_bank, &SpriteBank::shownColoursChanged, this, &View::repaintCells);
     }
     showSprites();
     syncList();
@@ -39,7 +40,7 @@ QImage View::cellPicture(const AnimationFrame::Cell &cell) const
 {
     if (!m_bank || cell.index < 0 || cell.index >= m_bank->count())
         return {};
-    return m_bank->spriteImage(cell.index, cell.rotate, cell.flip, cell.mirror);
+    return m_bank->shownSpriteImage(cell.index, cell.rotate, cell.flip, cell.mirror);
 }
 
 QList<Animation *> View::animations() const

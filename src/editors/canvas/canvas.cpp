@@ -66,9 +66,16 @@ void Canvas::bindPalette(const QPointer<Palette> &palette)
         m_palette->disconnect(this);
     m_palette = palette;
     m_layer.setPalette(palette);
-    if (m_palette)
+    if (m_palette) {
         connect(m_palette, &Palette::colourChanged, this, &Canvas::updatePalette);
+        connect(m_palette, &Palette::shownColoursChanged, this, qOverload<>(&QWidget::update));
+    }
     update();
+}
+
+QImage Canvas::shownImage() const
+{
+    return m_palette ? m_palette->shown(image()) : image();
 }
 
 QUuid Canvas::paletteId() const

@@ -39,6 +39,8 @@ public:
     ~Canvas() override;
 
     const QImage &image() const { return m_layer.image(); }
+    /// The same with the colours that the palette shows now, as the canvas paints it.
+    QImage shownImage() const;
     Palette *palette() const { return m_palette; }
     /// Shows the image in the palette's colours from now on; null unbinds.
     void bindPalette(const QPointer<Palette> &palette);
@@ -87,6 +89,7 @@ public:
     void showFrom(QPoint pixel) { scrollBy(m_geometry.scroll - pixel); }
     /// What the paste tool pastes; null before something was pasted.
     QImage clipboardImage() const override;
+    QList<QRgb> shownColours() const override { return shownImage().colorTable(); }
 
     /// Scrolls by one pixel for an arrow key without modifiers; false for every other key.
     bool scrollByKey(const QKeyEvent *event);
@@ -137,6 +140,8 @@ signals:
     void scrollValuesChanged(int horizontal, int vertical);
     void scrollPositionChanged(QPoint pos);
     void imageChanged();
+    /// A stroke that is going on drew into the image; imageChanged() follows when it has ended.
+    void strokeDrawn();
     void edited(QString text, QImage before, QImage after, PixelEditCommand::Kind kind);
     void foregroundPicked(int index);
     void backgroundPicked(int index);

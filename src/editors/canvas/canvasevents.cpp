@@ -64,7 +64,7 @@ void Canvas::paintImage(QPainter &painter) const
     const QRect visible = m_geometry.visiblePixels() & shown.rect();
     if (visible.isEmpty())
         return;
-    const QImage part = shown.copy(visible).convertToFormat(QImage::Format_RGB32);
+    const QImage part = m_palette->shown(shown.copy(visible)).convertToFormat(QImage::Format_RGB32);
     painter.drawImage(QRect(m_geometry.imageRect.topLeft(), m_geometry.scaled(visible.size())), part);
 }
 
@@ -93,6 +93,8 @@ void Canvas::mousePressEvent(QMouseEvent *event)
     holdKeys(event->modifiers());
     m_pointer.press(m_geometry.pixelAt(event->position().toPoint()), event->buttons());
     m_tools.tool().mousePressed(event);
+    if (isEditing())
+        emit strokeDrawn();
 }
 
 void Canvas::mouseMoveEvent(QMouseEvent *event)
@@ -103,6 +105,8 @@ void Canvas::mouseMoveEvent(QMouseEvent *event)
         return;
     if (m_tools.tool().mouseMoved(event))
         update();
+    if (isEditing())
+        emit strokeDrawn();
     hoverAt(pixel);
 }
 

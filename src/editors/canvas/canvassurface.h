@@ -24,6 +24,8 @@ public:
     virtual const CanvasGeometry &geometryInWidget() const = 0;
     /// What the paste tool pastes; null before something was pasted.
     virtual QImage clipboardImage() const = 0;
+    /// The colours that the layer's indices show now.
+    virtual QList<QRgb> shownColours() const = 0;
 
     virtual const PaintOptions &paintOptions() const = 0;
     /// A pen for the canvas's layer, or for a copy of it in which something is previewed.

@@ -24,7 +24,7 @@ void PasteCanvasTool::paint(QPainter &painter) const
     if (image.isNull())
         return;
     const CanvasGeometry &geometry = canvas()->geometryInWidget();
-    image.setColorTable(canvas()->layer().image().colorTable());
+    image.setColorTable(canvas()->shownColours());
     const QPoint corner = canvas()->pointer().cursor - QPoint(image.width() / 2, image.height() / 2);
     const QRect target(geometry.pointOf(corner), geometry.scaled(image.size()));
 

@@ -67,6 +67,7 @@ void SpriteList::setSprites(const QPointer<SpriteBank> &sprites)
         connect(m_sprites, &SpriteBank::countChanged, this, &SpriteList::followCount);
         connect(m_sprites, &SpriteBank::imageChanged, this, qOverload<>(&QWidget::update));
         connect(m_sprites, &SpriteBank::coloursChanged, this, qOverload<>(&QWidget::update));
+        connect(m_sprites, &SpriteBank::shownColoursChanged, this, qOverload<>(&QWidget::update));
         connect(m_sprites, &SpriteBank::restored, this, &SpriteList::followCount);
         connect(m_sprites, &QObject::destroyed, this, [this] { setSprites(nullptr); });
     }
@@ -116,8 +117,10 @@ void SpriteList::paintEvent(QPaintEvent *event)
     QImage blank(SpriteSize, QImage::Format_Indexed8);
     blank.setColorTable(m_sprites->image().colorTable());
     blank.fill(0);
+    const Palette *colours = m_sprites->palette();
     for (int index = first; index < last; ++index) {
-        painter.drawImage(cellRect(index), index < count() ? picture(index) : blank);
+        const QImage image = index < count() ? picture(index) : blank;
+        painter.drawImage(cellRect(index), colours ? colours->shown(image) : image);
     }
     if (last == cellCount()) {
         // The icon's colour is made for the window's background, not for that of a blank sprite.

@@ -109,6 +109,7 @@ void TilePickerGrid::setTileSet(const QPointer<TileSet> &tileSet)
     m_markedFrom.reset();
     if (m_tileSet) {
         connect(m_tileSet, &TileSet::tileChanged, this, qOverload<>(&QWidget::update));
+        connect(m_tileSet, &TileSet::shownColoursChanged, this, qOverload<>(&QWidget::update));
         connect(m_tileSet, &TileSet::tileSwapped, this, qOverload<>(&QWidget::update));
         connect(m_tileSet, &TileSet::tileInserted, this, &TilePickerGrid::refresh);
         connect(m_tileSet, &TileSet::tileDeleted, this, &TilePickerGrid::refresh);
@@ -154,7 +155,7 @@ void TilePickerGrid::paintEvent(QPaintEvent *event)
     const auto [first, last] = cellsIn(event->rect());
     // A tile may still have the colours of a palette that was bound before.
     const QPointer<Palette> palette = m_tileSet->palette();
-    const QList<QRgb> colours = palette ? palette->colourTable() : QList<QRgb>();
+    const QList<QRgb> colours = palette ? palette->shownColourTable() : QList<QRgb>();
     for (int index = first; index < last; ++index) {
         QImage image = m_tileSet->image(index);
         if (palette)

@@ -20,6 +20,7 @@ void MapContent::followMap()
     if (m_tileSet) {
         const auto tellTiles = [this] { emit tilesChanged(m_tileSet->count()); };
         connect(m_tileSet, &TileSet::tileChanged, this, &MapContent::changed);
+        connect(m_tileSet, &TileSet::shownColoursChanged, this, &MapContent::shownColoursChanged);
         connect(m_tileSet, &TileSet::structureChanged, this, tellTiles);
         connect(m_tileSet, &TileSet::restored, this, tellTiles);
         connect(m_tileSet, &QObject::destroyed, this, &MapContent::changed);
@@ -58,6 +59,7 @@ void MapContent::followSpriteBanks()
         connect(bank, &SpriteBank::countChanged, this, &MapContent::changed, Once);
         connect(bank, &SpriteBank::restored, this, &MapContent::changed, Once);
         connect(bank, &SpriteBank::coloursChanged, this, &MapContent::changed, Once);
+        connect(bank, &SpriteBank::shownColoursChanged, this, &MapContent::shownColoursChanged, Once);
         connect(bank, &QObject::destroyed, this, &MapContent::changed, Once);
         connect(bank, &SpriteBank::spriteDeleted, this, &MapContent::spritesRemoved, Once);
         connect(bank, &SpriteBank::animationsChanged, this, &MapContent::followAnimations, Once);

@@ -40,6 +40,8 @@ public:
 signals:
     /// Something of it may look different.
     void changed();
+    /// Nothing changed, but palettes show other colours.
+    void shownColoursChanged();
     /// Layers were shown or hidden.
     void layersShown();
     /// The tile set has other tiles, perhaps fewer of them.

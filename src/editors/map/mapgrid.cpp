@@ -71,6 +71,7 @@ void MapGrid::offerMore()
 void MapGrid::followContent()
 {
     connect(&m_content, &MapContent::changed, this, &MapGrid::tileMapChanged);
+    connect(&m_content, &MapContent::shownColoursChanged, this, qOverload<>(&QWidget::update));
     connect(&m_content, &MapContent::tilesChanged, this, [this](int count) {
         m_brush.keepWithin(count);
         update();

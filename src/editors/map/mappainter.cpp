@@ -99,7 +99,7 @@ QImage MapPainter::tilePicture(const QPointer<Map> &map, const TileMap::TileData
     const QPointer<TileSet> tiles = map ? map->tileSet() : nullptr;
     if (!tiles || cell.index < 0 || cell.index >= tiles->count())
         return {};
-    return tiles->tileImage(cell.index, cell.rotate, cell.flip, cell.mirror, cell.offset);
+    return tiles->shownTileImage(cell.index, cell.rotate, cell.flip, cell.mirror, cell.offset);
 }
 
 void MapPainter::paintOutline(QPainter &painter, const QRect &area, int thickness)

@@ -16,6 +16,7 @@ void SpriteListModel::setBank(const QPointer<SpriteBank> &bank)
         connect(m_bank, &SpriteBank::spriteMoved, this, &SpriteListModel::picturesChanged);
         connect(m_bank, &SpriteBank::restored, this, &SpriteListModel::picturesChanged);
         connect(m_bank, &SpriteBank::coloursChanged, this, &SpriteListModel::picturesChanged);
+        connect(m_bank, &SpriteBank::shownColoursChanged, this, &SpriteListModel::picturesChanged);
     }
     reset();
 }

@@ -145,6 +145,7 @@ void ColourPalette::setPalette(const QPointer<Palette> &palette)
     m_palette = palette;
     if (m_palette) {
         connect(m_palette, &Palette::colourChanged, this, qOverload<>(&QWidget::update));
+        connect(m_palette, &Palette::shownColoursChanged, this, qOverload<>(&QWidget::update));
         connect(m_palette, &QObject::destroyed, this, qOverload<>(&QWidget::update));
     }
     update();
@@ -179,7 +180,8 @@ void ColourPalette::setClearIndex(int index)
 
 QColor ColourPalette::colour(int index) const
 {
-    QColor colour = m_palette && index >= 0 && index < Palette::Size ? m_palette->colour(index) : QColor(Qt::black);
+    QColor colour =
+        m_palette && index >= 0 && index < Palette::Size ? m_palette->shownColour(index) : QColor(Qt::black);
     colour.setAlpha(255);
     return colour;
 }

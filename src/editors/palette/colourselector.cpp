@@ -108,6 +108,7 @@ void ColourSelector::setPalette(const QPointer<Palette> &pal)
     m_palette = pal;
     if (m_palette) {
         connect(m_palette, &Palette::colourChanged, this, [this](int index) { paletteChanged(index, index); });
+        connect(m_palette, &Palette::shownColoursChanged, this, qOverload<>(&QWidget::update));
         connect(m_palette, &QObject::destroyed, this, qOverload<>(&QWidget::update));
     }
     update();
@@ -231,7 +232,7 @@ QColor ColourSelector::colour(int index) const
 {
     if (!m_palette || index < 0 || index >= Palette::Size)
         return Qt::transparent;
-    const QColor colour = m_palette->colour(index);
+    const QColor colour = m_palette->shownColour(index);
     return {colour.red(), colour.green(), colour.blue()};
 }
 

@@ -87,6 +87,7 @@ void PaletteGrid::setPalette(const QPointer<Palette> &palette)
     m_marks.clear();
     if (m_palette) {
         connect(m_palette, &Palette::colourChanged, this, &PaletteGrid::updateColour);
+        connect(m_palette, &Palette::shownColoursChanged, this, qOverload<>(&QWidget::update));
         connect(m_palette, &QObject::destroyed, this, qOverload<>(&QWidget::update));
     }
     update();
@@ -137,8 +138,10 @@ void PaletteGrid::paintEvent(QPaintEvent *)
         painter.setPen(selected ? QPen(Qt::white, 1, Qt::DotLine) : QPen(Qt::NoPen));
         // The transparent entry shows its colour too; being transparent is not a colour to choose.
         QColor shown = colour(index);
-        if (m_palette)
+        if (m_palette) {
+            shown = m_palette->shownColour(index);
             shown.setAlpha(255);
+        }
         painter.setBrush(shown);
         painter.drawRect(QRect(corner, QSize(Cell - 1, Cell - 1)));
         if (m_palette && index == m_palette->transparencyIndex())

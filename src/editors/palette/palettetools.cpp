@@ -1,5 +1,6 @@
 #include "editors/palette/palettetools.h"
 
+#include "editors/palette/colourcyclesdialog.h"
 #include "editors/palette/paletteeditor.h"
 #include "editors/palette/palettegrid.h"
 #include "model/plural.h"
@@ -50,12 +51,35 @@ PaletteTools::PaletteTools(PaletteEditor *editor, QMenu *menu, QObject *parent) 
         [this] { mark(Unused); });
     add("markEqual", QStringLiteral(":/Search"), tr("Mark E&qual Entries"),
         tr("Marks the entries whose colour others have, too"), [this] { mark(Equal); });
+    menu->addSeparator();
+    add("colourCycles", QStringLiteral(":/Media/Loop"), tr("Colour C&ycles…"),
+        tr("Ranges of entries whose colours go round, so that water flows and fires burn"), [this] { editCycles(); });
     m_editor->grid()->setNotes([this](int entry) {
         if (!m_project || !m_editor->palette())
             return QString();
         const int uses = plural(PaletteUsers(*m_project, *m_editor->palette()).counts()[size_t(entry)]);
         return uses == 1 ? tr("1 pixel") : tr("%Ln pixels", nullptr, uses);
     });
+}
+
+void PaletteTools::setProject(const QPointer<Project> &project)
+{
+    m_project = project;
+    if (m_cyclesDialog)
+        m_cyclesDialog->setProject(project);
+}
+
+void PaletteTools::editCycles()
+{
+    if (!m_project || !m_editor->palette())
+        return;
+    if (!m_cyclesDialog) {
+        m_cyclesDialog = new ColourCyclesDialog(m_editor, m_cyclingAction, m_editor->window());
+        m_cyclesDialog->setProject(m_project);
+    }
+    m_cyclesDialog->show();
+    m_cyclesDialog->raise();
+    m_cyclesDialog->activateWindow();
 }
 
 QList<int> PaletteTools::ordered(const QList<int> &entries, Order order) const

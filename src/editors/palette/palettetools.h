@@ -7,7 +7,9 @@
 #include <QObject>
 #include <QPointer>
 
+class ColourCyclesDialog;
 class PaletteEditor;
+class QAction;
 class QMenu;
 
 /// What is done with the selected entries of a palette beyond giving them colours: they are put into another order,
@@ -20,7 +22,9 @@ public:
     /// Adds entries to the end of a menu, for the selection of an editor.
     PaletteTools(PaletteEditor *editor, QMenu *menu, QObject *parent);
 
-    void setProject(const QPointer<Project> &project) { m_project = project; }
+    void setProject(const QPointer<Project> &project);
+    /// The switch of the clock by which colours go round.
+    void setCyclingAction(QAction *action) { m_cyclingAction = action; }
     void setUndoStackProvider(const EditRecorder::StackProvider &stackFor) { m_stackFor = stackFor; }
 
     enum Order { ByHue, ByBrightness, Reversed, EndsExchanged };
@@ -35,9 +39,12 @@ private:
     enum Mark { Unused, Equal };
 
     void mark(Mark mark);
+    void editCycles();
     [[nodiscard]] QList<int> ordered(const QList<int> &entries, Order order) const;
 
     PaletteEditor *m_editor;
     QPointer<Project> m_project;
     EditRecorder::StackProvider m_stackFor;
+    QPointer<QAction> m_cyclingAction;
+    QPointer<ColourCyclesDialog> m_cyclesDialog;
 };

@@ -85,6 +85,11 @@ void PaletteWindow::setUndoStackProvider(const EditRecorder::StackProvider &stac
     m_tools->setUndoStackProvider(stackFor);
 }
 
+void PaletteWindow::setCyclingAction(QAction *action)
+{
+    m_tools->setCyclingAction(action);
+}
+
 void PaletteWindow::setProject(const QPointer<Project> &project)
 {
     m_tools->setProject(project);

@@ -7,6 +7,7 @@
 
 class PaletteEditor;
 class PaletteTools;
+class QAction;
 class QComboBox;
 class QMenu;
 
@@ -23,6 +24,8 @@ public:
 
     /// Where steps for a palette go when its entries change places.
     void setUndoStackProvider(const EditRecorder::StackProvider &stackFor);
+    /// The switch of the clock by which colours go round.
+    void setCyclingAction(QAction *action);
     /// Offers the palettes of a project in the chooser; null empties it.
     void setProject(const QPointer<Project> &project);
     Palette *palette() const { return m_palette; }

@@ -1,18 +1,23 @@
 // What the palette dock's menu does with the selected entries.
 
+#include "editors/palette/colourcyclesdialog.h"
 #include "editors/palette/paletteeditor.h"
 #include "editors/palette/palettegrid.h"
 #include "editors/palette/palettewindow.h"
 #include "model/image.h"
 #include "model/project.h"
+#include "model/projectextras.h"
 #include "model/tileset.h"
 
 #include "support/editorinput.h"
 #include "support/modeltools.h"
 #include "support/testmain.h"
 
+#include <QAbstractButton>
+#include <QListWidget>
 #include <QMenu>
 #include <QSignalSpy>
+#include <QSpinBox>
 #include <QUndoStack>
 
 namespace {
@@ -124,6 +129,40 @@ private slots:
         QCOMPARE(reds, (QList{0, 1, 2, 3, 4, 5, 6, 7}));
         QCOMPARE(f.palette->colour(4).blue() * 7 / 255, 2); // of 3, the nearest to 12 / 7
         QCOMPARE(f.palette->colour(2).blue() * 7 / 255, 1);
+    }
+
+    void rangesAreMadeOfTheSelectionAndChanged()
+    {
+        Fixture f;
+        f.run(20, 29, "Colour Cycles…");
+        auto *dialog = f.window.findChild<ColourCyclesDialog *>();
+        QVERIFY(dialog && dialog->isVisible());
+        QAbstractButton *add = EditorInput::button(*dialog, "&Add Selection");
+        const auto kept = [&f] { return ColourCycles::of(*f.project.extras(), f.palette->id()); };
+        add->click();
+        f.window.editor()->setSelection(5, 8);
+        add->click();
+        QCOMPARE(kept(), (ColourCycles::List{{5, 8}, {20, 29}}));
+        for (const auto &[first, last] : {std::pair(8, 12), {29, 30}, {3, 3}}) {
+            f.window.editor()->setSelection(first, last);
+            QVERIFY(!add->isEnabled()); // entries that are in another range, or none to exchange
+        }
+        const auto fields = dialog->findChildren<QSpinBox *>(); // first, last, frames
+        auto *list = dialog->findChild<QListWidget *>();
+        QCOMPARE(list->currentRow(), 0);
+        fields[1]->setValue(40); // as far as the next one lets it go
+        fields[2]->setValue(7);
+        QCOMPARE(kept(), (ColourCycles::List{{5, 19, 7}, {20, 29}}));
+        list->setCurrentRow(1);
+        QCOMPARE(f.window.editor()->first(), 20);
+        fields[0]->setValue(0);
+        QCOMPARE(kept(), (ColourCycles::List{{5, 19, 7}, {20, 29}}));
+        EditorInput::button(*dialog, "&Remove")->click();
+        QCOMPARE(kept(), (ColourCycles::List{{5, 19, 7}}));
+        const QPointer<Palette> other = f.project.createPalette(CreateAction::Blank, "Other");
+        f.window.setPalette(other);
+        QCOMPARE(list->count(), 0);
+        QCOMPARE(f.stack.count(), 0);
     }
 };
 
