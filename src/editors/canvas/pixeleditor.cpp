@@ -16,6 +16,7 @@
 #include <QMenu>
 #include <QScopedValueRollback>
 #include <QStatusTipEvent>
+#include <QTimer>
 #include <QUndoStack>
 #include <QVBoxLayout>
 
@@ -147,6 +148,7 @@ void PixelEditor::connectCanvas(QWidget *page)
     QObject::connect(m_tools, &ToolPalette::actionActivated, m_canvas,
                      [tools = m_tools, canvas = m_canvas] { tools->setMode(canvas->mode()); });
     m_tools->setMode(m_canvas->mode());
+    followStrokes();
 
     QObject::connect(m_canvas, &Canvas::pixelHovered, page, [page, canvas = m_canvas](QPoint pixel, int index) {
         showPixel(page, canvas->palette(), pixel, index);
@@ -178,6 +180,24 @@ void PixelEditor::addKeys(QWidget *page)
         [this] { m_settings->setBrushSize(m_settings->brushSize() - 1); });
     add(QStringLiteral("largerBrush"), Qt::Key_BracketRight, QCoreApplication::translate("PixelEditor", "Larger brush"),
         [this] { m_settings->setBrushSize(m_settings->brushSize() + 1); });
+}
+
+void PixelEditor::followStrokes()
+{
+    constexpr int Interval = 30; // ms: what shows the picture may be a whole map
+    auto *soon = new QTimer(m_canvas);
+    soon->setSingleShot(true);
+    soon->setInterval(Interval);
+    QObject::connect(m_canvas, &Canvas::strokeDrawn, soon, [soon] {
+        if (!soon->isActive())
+            soon->start();
+    });
+    QObject::connect(soon, &QTimer::timeout, m_canvas, [this] {
+        if (!m_canvas->isEditing())
+            return;
+        showStroke(m_canvas->image());
+        m_canvas->update(); // which the preview follows
+    });
 }
 
 void PixelEditor::setPaintSettings(PaintSettings *settings)

@@ -66,6 +66,8 @@ protected:
     /// Shows pixels of the asset; isLoading() tells them from those that were painted.
     void load(const QImage &pixels);
     bool isLoading() const { return m_loading; }
+    /// Shows the pixels of a stroke that is being drawn wherever the picture is seen; null pixels when it has ended.
+    virtual void showStroke(const QImage &pixels) { Q_UNUSED(pixels) }
 
     /// Pushes a finished edit; without a stack it stays applied and is not recorded.
     void push(QUndoStack *stack, const QString &text, const QImage &before, const QImage &after,
@@ -82,6 +84,7 @@ private:
     void addMenuEntries();
     /// Lets the keys of all commands count while the keyboard is in page.
     void addKeys(QWidget *page);
+    void followStrokes();
     void replaceColour();
     void replaceColourIn(Layer2Image &layer, const QRect &area) const;
     void takeBrush();

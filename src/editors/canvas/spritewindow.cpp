@@ -140,6 +140,7 @@ void SpriteWindow::setSprites(const QPointer<SpriteBank> &sprites)
         connect(m_sprites, &SpriteBank::countChanged, this, &SpriteWindow::refresh);
         connect(m_sprites, &SpriteBank::restored, this, &SpriteWindow::refresh);
         connect(m_sprites, &SpriteBank::coloursChanged, this, &SpriteWindow::showTransparency);
+        connect(m_sprites, &SpriteBank::shownColoursChanged, this, &SpriteWindow::showGhost);
         connect(m_sprites, &QObject::destroyed, this, [this] { setSprites(nullptr); });
     }
     refresh();
@@ -198,7 +199,7 @@ void SpriteWindow::addPreviews()
     offerPreviews(this,
                   {{tr("Animation"), [this](int frame) { return inMotion(frame); }},
                    {tr("Repeated"), [this](int) {
-                        return PreviewWindow::Picture{Previews::seamless(canvas()->image()), 0, {}};
+                        return PreviewWindow::Picture{Previews::seamless(canvas()->shownImage()), 0, {}};
                     }}});
 }
 
@@ -239,8 +240,19 @@ void SpriteWindow::showGhost()
 
 // ---- Edits ----------------------------------------------------------------------------------
 
+void SpriteWindow::showStroke(const QImage &pixels)
+{
+    const QScopedValueRollback writing(m_writing, true);
+    if (m_strokeBank && (pixels.isNull() || m_strokeBank != m_sprites))
+        m_strokeBank->showPainted(-1, {});
+    m_strokeBank = pixels.isNull() ? nullptr : m_sprites;
+    if (m_strokeBank)
+        m_strokeBank->showPainted(m_index, pixels);
+}
+
 void SpriteWindow::updateSpriteImage()
 {
+    showStroke({});
     if (isLoading() || !m_sprites)
         return;
     const QScopedValueRollback writing(m_writing, true);

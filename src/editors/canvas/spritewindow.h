@@ -62,6 +62,8 @@ private:
     void pushEdit(const QString &text, const QImage &before, const QImage &after, PixelEditCommand::Kind kind);
     void applyEdit(const QPointer<SpriteBank> &bank, int index, const QImage &image);
 
+    void showStroke(const QImage &pixels) override;
+
     QPointer<SpriteBank> m_sprites;
     ColourPalette *m_colours;
     QSpinBox *m_transparency;
@@ -71,4 +73,5 @@ private:
     int m_index = 0;
     EditRecorder::StackProvider m_stackFor;
     bool m_writing = false;
+    QPointer<SpriteBank> m_strokeBank; ///< which shows a stroke that is being drawn
 };

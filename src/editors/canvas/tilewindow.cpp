@@ -222,7 +222,7 @@ void TileWindow::addPreviews()
 
 PreviewWindow::Picture TileWindow::repeated() const
 {
-    const QImage picture = Previews::seamless(canvas()->image());
+    const QImage picture = Previews::seamless(canvas()->shownImage());
     const bool tall = m_tileSet && m_tileSet->hiRes() && !picture.isNull();
     return {tall ? picture.scaled(picture.width(), picture.height() * 2) : picture, 0, {}};
 }
@@ -252,7 +252,7 @@ PreviewWindow::Picture TileWindow::inMotion(int frame) const
     if (!animation)
         return {{}, 0, tr("No animation shows this tile")};
     const auto picture = [this](const AnimationFrame::Cell &cell) {
-        return m_tileSet->tileImage(cell.index, cell.rotate, cell.flip, cell.mirror, cell.offset);
+        return m_tileSet->shownTileImage(cell.index, cell.rotate, cell.flip, cell.mirror, cell.offset);
     };
     return {Previews::frame(*animation, frame, picture), Previews::interval(*animation), {}};
 }
@@ -268,8 +268,19 @@ void TileWindow::writeTile(const QPointer<TileSet> &tileSet, int index, const QI
     tileSet->notifyImageChanged(index);
 }
 
+void TileWindow::showStroke(const QImage &pixels)
+{
+    const QScopedValueRollback writing(m_writing, true);
+    if (m_strokeSet && (pixels.isNull() || m_strokeSet != m_tileSet))
+        m_strokeSet->showPainted(-1, {});
+    m_strokeSet = pixels.isNull() ? nullptr : m_tileSet;
+    if (m_strokeSet)
+        m_strokeSet->showPainted(tileIndex(), pixels);
+}
+
 void TileWindow::imageChanged()
 {
+    showStroke({});
     if (!isLoading())
         writeTile(m_tileSet, tileIndex(), canvas()->image());
 }

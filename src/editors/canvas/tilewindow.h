@@ -72,6 +72,8 @@ private:
     void applyEdit(const QPointer<TileSet> &tileSet, int index, const QImage &image);
     void writeTile(const QPointer<TileSet> &tileSet, int index, const QImage &image);
 
+    void showStroke(const QImage &pixels) override;
+
     QPointer<TileSet> m_tileSet;
     NumberStepper *m_number;
     QSpinBox *m_offset;
@@ -82,4 +84,5 @@ private:
     Previews::PlaceOnMap m_place;
     EditRecorder::StackProvider m_stackFor;
     bool m_writing = false;
+    QPointer<TileSet> m_strokeSet; ///< which shows a stroke that is being drawn
 };

@@ -66,6 +66,44 @@ private slots:
         QCOMPARE(scene->stack.count(), 2 + 3);
     }
 
+    void strokesAreSeenElsewhereBeforeTheyEnd_data()
+    {
+        QTest::addColumn<bool>("sprites");
+        QTest::addColumn<bool>("ends");
+        for (const bool sprites : {false, true}) {
+            for (const bool ends : {false, true})
+                QTest::addRow("%s %s", sprites ? "sprite" : "tile", ends ? "drawn" : "given up") << sprites << ends;
+        }
+    }
+
+    void strokesAreSeenElsewhereBeforeTheyEnd()
+    {
+        QFETCH(bool, sprites);
+        QFETCH(bool, ends);
+        TileScene tiles;
+        SpriteScene bank;
+        Scene &scene = sprites ? static_cast<Scene &>(bank) : tiles;
+        const auto seen = [&] {
+            const QImage picture = sprites ? bank.bank->shownSpriteImage(0, true, false, false)
+                                           : tiles.tiles->shownTileImage(0, true, false, false, 2);
+            return picture.pixelIndex(picture.width() - 1 - 3, 2); // which is 2, 3 before it is turned
+        };
+        const int ink = sprites ? 1 : 33;
+        const EditorInput::Mouse mouse{scene.canvas()};
+        mouse.press({1, 3});
+        mouse.move({2, 3}, Qt::LeftButton);
+        QTRY_COMPARE(seen(), ink);
+        QCOMPARE(scene.stored(0).pixelIndex(2, 3), 0);
+        if (ends)
+            mouse.release({2, 3});
+        else
+            scene.show(1);
+        QCOMPARE(seen(), ends ? ink : ink - 1);
+        QCOMPARE(scene.stored(0).pixelIndex(2, 3), ends ? 1 : 0);
+        QCOMPARE(scene.stack.count(), ends ? 1 : 0);
+        QCOMPARE(scene.stored(1).pixelIndex(2, 3), 0);
+    }
+
     void toolPaletteKeysAndClipboardReachTheCanvas_data() { addScenes(); }
 
     void toolPaletteKeysAndClipboardReachTheCanvas()
