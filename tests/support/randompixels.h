@@ -178,6 +178,10 @@ private:
                    any(QStringList{"Sort by &Hue", "Sort by &Brightness", "Re&verse", "E&xchange Ends",
                                    "&Gradient in Machine Steps", "Mark &Unused Entries", "Mark E&qual Entries"}));
         });
+        addFor(editor, "move colours", Undoable, [this](PaletteEditor &colours) {
+            bringToFront(colours.grid());
+            drag(colours.grid(), Qt::LeftButton, anyKeys());
+        });
         addFor(editor, "colour cycles", None, [this](PaletteEditor &colours) {
             const int first = number(Palette::Size - 1);
             colours.setSelection(first, std::min(first + 1 + number(40), Palette::Size - 1));

@@ -35,6 +35,20 @@ QPoint clamped(QPoint point)
     return {std::clamp(point.x(), 0, Side - 1), std::clamp(point.y(), 0, Side - 1)};
 }
 
+/// Frames a run of entries.
+void paintMoveTarget(QPainter &painter, int first, int count)
+{
+    painter.setBrush(Qt::NoBrush);
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    for (int index = first; index < first + count; ++index) {
+        const QRect frame(cornerOf(index), QSize(Cell - 1, Cell - 1));
+        painter.setPen(Qt::black);
+        painter.drawRect(frame);
+        painter.setPen(Qt::white);
+        painter.drawRect(frame.adjusted(1, 1, -1, -1));
+    }
+}
+
 } // namespace
 
 PaletteGrid::PaletteGrid(QWidget *parent) : QWidget(parent)
@@ -84,6 +98,7 @@ void PaletteGrid::setPalette(const QPointer<Palette> &palette)
         m_palette->disconnect(this);
     m_palette = palette;
     m_dragging = false;
+    m_grabbed.reset();
     m_marks.clear();
     if (m_palette) {
         connect(m_palette, &Palette::colourChanged, this, &PaletteGrid::updateColour);
@@ -152,27 +167,60 @@ void PaletteGrid::paintEvent(QPaintEvent *)
             painter.drawRect(QRect(corner, QSize(Mark, Mark)).translated(Mark - 1, Mark - 1));
         }
     }
+    if (m_grabbed)
+        paintMoveTarget(painter, moveTarget(), m_last - m_first + 1);
+}
+
+int PaletteGrid::moveTarget() const
+{
+    return std::clamp(m_first + indexAt(m_pointer) - *m_grabbed, 0, Palette::Size - 1 - (m_last - m_first));
+}
+
+void PaletteGrid::grabAt(int index)
+{
+    updateRange();
+    if (index < m_first || index > m_last) {
+        setSelection(index, index);
+        emit selectionChanged(index, index);
+    }
+    m_grabbed = index;
 }
 
 void PaletteGrid::mousePressEvent(QMouseEvent *event)
 {
     if (event->button() != Qt::LeftButton || !m_palette)
         return;
-    m_anchor = m_current = clamped(event->position().toPoint());
+    m_pointer = clamped(event->position().toPoint());
+    if (m_offersMoves && event->modifiers() & Qt::ControlModifier) {
+        grabAt(indexAt(m_pointer));
+        update();
+        return;
+    }
+    m_anchor = m_current = m_pointer;
     m_dragging = true;
     update();
 }
 
 void PaletteGrid::mouseMoveEvent(QMouseEvent *event)
 {
+    m_pointer = clamped(event->position().toPoint());
+    if (m_grabbed)
+        update();
     if (!m_dragging)
         return;
-    m_current = clamped(event->position().toPoint());
+    m_current = m_pointer;
     update();
 }
 
 void PaletteGrid::mouseReleaseEvent(QMouseEvent *event)
 {
+    if (event->button() == Qt::LeftButton && m_grabbed) {
+        const int target = moveTarget();
+        m_grabbed.reset();
+        update();
+        if (target != m_first)
+            emit moveRequested(target);
+    }
     if (event->button() != Qt::LeftButton || !m_dragging)
         return;
     m_dragging = false;

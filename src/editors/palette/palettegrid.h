@@ -7,6 +7,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <optional>
 
 class WidgetCells;
 
@@ -27,6 +28,8 @@ public:
     /// Selects a run without a signal; first must not be behind last.
     void setSelection(int first, int last);
 
+    /// Lets people drag the selected entries, or another one, to a new place with Ctrl.
+    void offerMoves() { m_offersMoves = true; }
     /// Adds a line to the tool tip of every entry.
     void setNotes(const std::function<QString(int entry)> &notes) { m_notes = notes; }
     /// Marks entries until others are marked or another palette is shown; marking the same ones unmarks them.
@@ -38,6 +41,8 @@ public slots:
 
 signals:
     void selectionChanged(int first, int last);
+    /// The selected entries are to begin at another one, and those between to make room for them.
+    void moveRequested(int first);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -49,6 +54,9 @@ protected:
 
 private:
     void updateRange();
+    /// Where the dragged entries would begin.
+    [[nodiscard]] int moveTarget() const;
+    void grabAt(int index);
 
     void tellCells();
     [[nodiscard]] QString textOf(int index) const;
@@ -60,6 +68,9 @@ private:
     int m_first = 0;
     int m_last = 0;
     bool m_dragging = false;
+    bool m_offersMoves = false;
+    std::optional<int> m_grabbed; ///< of the selected entries that are dragged, the one under the pointer
+    QPoint m_pointer;
     QSet<int> m_marks;
     std::function<QString(int)> m_notes;
 };

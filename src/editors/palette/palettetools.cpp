@@ -54,6 +54,8 @@ PaletteTools::PaletteTools(PaletteEditor *editor, QMenu *menu, QObject *parent) 
     menu->addSeparator();
     add("colourCycles", QStringLiteral(":/Media/Loop"), tr("Colour C&ycles…"),
         tr("Ranges of entries whose colours go round, so that water flows and fires burn"), [this] { editCycles(); });
+    m_editor->grid()->offerMoves();
+    connect(m_editor->grid(), &PaletteGrid::moveRequested, this, &PaletteTools::moveSelection);
     m_editor->grid()->setNotes([this](int entry) {
         if (!m_project || !m_editor->palette())
             return QString();
@@ -108,8 +110,7 @@ QList<int> PaletteTools::ordered(const QList<int> &entries, Order order) const
 void PaletteTools::sort(Order order, const QString &text)
 {
     const QPointer<Palette> palette = m_editor->palette();
-    QUndoStack *stack = palette && m_stackFor ? m_stackFor(palette->id()) : nullptr;
-    if (!m_project || !stack)
+    if (!m_project || !palette)
         return;
     const PaletteUsers users(*m_project, *palette);
     const int first = m_editor->first();
@@ -128,16 +129,52 @@ void PaletteTools::sort(Order order, const QString &text)
         canMove = true;
         moves = moves.then(PaletteOrder(entries, ordered(entries, order)));
     }
-    if (!canMove) {
-        emit refused(first == last
-                         ? tr("Select the entries that are to change places")
-                         : tr("The entries cannot change places: tiles and 4-bit sprites need theirs in their "
-                              "group of 16, and transparent entries, and those of tiles that are drawn with "
-                              "several palette offsets, must stay where they are"));
+    if (canMove)
+        reorder(text, moves);
+    else if (first == last)
+        emit refused(tr("Select the entries that are to change places"));
+    else
+        refuseMoves();
+}
+
+void PaletteTools::moveSelection(int first)
+{
+    const QPointer<Palette> palette = m_editor->palette();
+    if (!m_project || !palette)
+        return;
+    const int behind = m_editor->last() - m_editor->first();
+    const int least = std::min(first, m_editor->first());
+    const int most = std::max(first, m_editor->first()) + behind;
+    QList<int> moved; // from least to most, as they come to stand
+    for (int entry = least; entry <= most; ++entry) {
+        if (entry < m_editor->first() || entry > m_editor->last())
+            moved.append(entry);
+    }
+    for (int i = 0; i <= behind; ++i)
+        moved.insert(first - least + i, m_editor->first() + i);
+    QList<int> places(moved);
+    std::ranges::sort(places);
+    if (PaletteUsers(*m_project, *palette).movable(least, most) != QList<QList<int>>{places}) {
+        refuseMoves();
         return;
     }
-    if (!moves.changesNothing())
+    reorder(tr("Move Palette Entries"), PaletteOrder(places, moved));
+    m_editor->setSelection(first, first + behind);
+}
+
+void PaletteTools::reorder(const QString &text, const PaletteOrder &moves)
+{
+    const QPointer<Palette> palette = m_editor->palette();
+    QUndoStack *stack = m_stackFor ? m_stackFor(palette->id()) : nullptr;
+    if (stack && !moves.changesNothing())
         stack->push(new PaletteOrderCommand(text, m_project, palette, moves));
+}
+
+void PaletteTools::refuseMoves()
+{
+    emit refused(tr("The entries cannot change places: tiles and 4-bit sprites need theirs in their group of 16, and "
+                    "transparent entries, and those of tiles that are drawn with several palette offsets, must stay "
+                    "where they are"));
 }
 
 void PaletteTools::mark(Mark mark)

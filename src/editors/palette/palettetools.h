@@ -30,6 +30,8 @@ public:
     enum Order { ByHue, ByBrightness, Reversed, EndsExchanged };
     /// Puts the selected entries into an order, as far as pictures let them move.
     void sort(Order order, const QString &text);
+    /// Lets the selected entries begin at another one, in front of or behind those that lie between.
+    void moveSelection(int first);
 
 signals:
     /// Nothing could be done, and why.
@@ -38,6 +40,9 @@ signals:
 private:
     enum Mark { Unused, Equal };
 
+    /// Lets entries of the palette change places, with all pictures, as one step.
+    void reorder(const QString &text, const PaletteOrder &moves);
+    void refuseMoves();
     void mark(Mark mark);
     void editCycles();
     [[nodiscard]] QList<int> ordered(const QList<int> &entries, Order order) const;

@@ -103,6 +103,35 @@ private slots:
         QVERIFY(f.refused.last() != f.refused.first());
     }
 
+    void selectedEntriesAreDraggedWithCtrl()
+    {
+        Fixture f;
+        PaletteGrid *grid = f.window.editor()->grid();
+        const auto drag = [grid](int from, int to) {
+            const auto middle = [](int entry) { return QPoint(entry % 16 * 16 + 8, entry / 16 * 16 + 8); };
+            QTest::mousePress(grid, Qt::LeftButton, Qt::ControlModifier, middle(from));
+            QTest::mouseMove(grid, middle(to));
+            QTest::mouseRelease(grid, Qt::LeftButton, Qt::ControlModifier, middle(to));
+        };
+        f.window.setPalette(f.palette);
+        f.window.editor()->setSelection(10, 11);
+        drag(11, 14); // whose place the last of them gets
+        QCOMPARE(f.colours(), "grkwb");
+        QCOMPARE(f.image->image().pixelIndex(3, 3), 14);
+        QCOMPARE(f.window.editor()->first(), 13);
+        drag(11, 10); // another than the selected ones
+        QCOMPARE(f.colours(), "rgkwb");
+        QCOMPARE(f.window.editor()->last(), 10);
+        QCOMPARE(f.stack.count(), 2);
+        f.palette->setTransparencyIndex(12);
+        drag(11, 13);
+        QVERIFY(f.colours() == "rgkwb" && f.refused.size() == 1);
+        f.stack.undo();
+        f.stack.undo();
+        QCOMPARE(f.colours(), "wbgrk");
+        QCOMPARE(f.image->image().pixelIndex(3, 3), 11);
+    }
+
     void entriesAreMarkedAndCounted()
     {
         Fixture f;
