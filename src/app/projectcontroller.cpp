@@ -1,6 +1,7 @@
 #include "app/projectcontroller.h"
 
 #include "app/menus/filemenu.h"
+#include "model/assetextras.h"
 #include "model/map.h"
 #include "model/projectextras.h"
 #include "nextdata/filenames.h"
@@ -330,6 +331,7 @@ void ProjectController::saveExtras()
 {
     if (!m_project || filePath().isEmpty())
         return;
+    dropExtrasOfGoneAssets(*m_project);
     m_savingExtras();
     const QString problem = m_extrasFile.save(*m_project->extras(), filePath());
     if (!problem.isEmpty())

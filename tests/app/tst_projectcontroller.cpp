@@ -3,6 +3,7 @@
 #include "app/menus/filemenu.h"
 #include "model/palette.h"
 #include "model/projectextras.h"
+#include "model/tileset.h"
 #include "support/archivetools.h"
 #include "support/modeltools.h"
 #include "support/platform.h"
@@ -10,6 +11,8 @@
 #include "support/testmain.h"
 
 #include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -180,6 +183,28 @@ private slots:
         QVERIFY2(m_controller->project(), "damaged extras cost only what they held");
         const QString told = m_log->take().join(u' ');
         QVERIFY2(told.contains("copy.quenmora-extras.json"), qPrintable(told));
+    }
+
+    void extrasOfWhatIsDeletedAreNotSaved()
+    {
+        m_controller->newProject("Game");
+        m_chosenFile = path("game.quenmora");
+        Project &project = *m_controller->project();
+        const auto palette = project.createPalette(CreateAction::Blank, "Gone");
+        const auto kept = project.createTileSet("Kept", palette->id(), 1);
+        const auto gone = project.createTileSet("Gone", palette->id(), 1);
+        const auto key = [](const QUuid &id) { return id.toString(QUuid::WithoutBraces); };
+        const QJsonObject both{{key(kept->id()), 1}, {key(gone->id()), 2}, {"of a later version", 3}};
+        for (const char *section : {"stamps", "terrains", "others"})
+            project.extras()->setSection(section, both);
+        project.extras()->setSection("colourCycles", QJsonObject{{key(QUuid::createUuid()), 4}});
+        m_controller->save();
+        QVERIFY(project.deleteTileSet(gone->id()));
+        QCOMPARE(project.extras()->section("stamps").toObject(), both); // as long as the file has the tile set
+        m_controller->save();
+        const QJsonObject left{{key(kept->id()), 1}, {"of a later version", 3}};
+        QCOMPARE(QJsonDocument::fromJson(readFile(path("game.quenmora-extras.json"))).object(),
+                 (QJsonObject{{"stamps", left}, {"terrains", left}, {"others", both}}));
     }
 
     void announcesEveryStep()
