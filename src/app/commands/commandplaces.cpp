@@ -25,6 +25,7 @@ constexpr std::pair<const char *, const char *> Places[] = {
     {"animation", QT_TRANSLATE_NOOP("CommandPlaces", "Animation Editors")},
     {"animationList", QT_TRANSLATE_NOOP("CommandPlaces", "List of Animations")},
     {"tilePicker", QT_TRANSLATE_NOOP("CommandPlaces", "Tile Picker")},
+    {"spriteList", QT_TRANSLATE_NOOP("CommandPlaces", "Sprites")},
     {"paletteEditor", QT_TRANSLATE_NOOP("CommandPlaces", "Palette Editor")},
     {"colours", QT_TRANSLATE_NOOP("CommandPlaces", "Palette Editor")},
 };
