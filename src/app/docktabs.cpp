@@ -27,7 +27,8 @@ void DockTabs::setIcons()
 {
     const QList<QTabBar *> bars = m_window->findChildren<QTabBar *>(QString(), Qt::FindDirectChildrenOnly);
     for (QTabBar *bar : bars) {
-        bar->setAccessibleName(tr("Docks"));
+        if (bar->accessibleName().isEmpty()) // a new one; each name is told
+            bar->setAccessibleName(tr("Docks"));
         for (int tab = 0; tab < bar->count(); ++tab) {
             // a tab is known by the address of its dock
             const auto dock = std::find_if(m_docks.cbegin(), m_docks.cend(), [&](const DockWidget *known) {

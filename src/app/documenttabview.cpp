@@ -87,6 +87,7 @@ void DocumentTabView::buildTabBar()
     tabBar()->setExpanding(true);
     tabBar()->setContextMenuPolicy(Qt::CustomContextMenu);
     tabBar()->setAccessibleName(tr("Open documents"));
+    setAccessibleName(tabBar()->accessibleName());
     connect(tabBar(), &QWidget::customContextMenuRequested, this, &DocumentTabView::showTabMenu);
     m_close->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_W);
     connect(m_close, &QAction::triggered, this, [this] { closePages({currentWidget()}); });

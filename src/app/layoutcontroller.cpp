@@ -13,6 +13,7 @@
 #include "editors/palette/palettewindow.h"
 #include "ui/commands.h"
 #include "ui/focusring.h"
+#include "ui/keycursor.h"
 
 #include <QAction>
 #include <QApplication>
@@ -32,13 +33,19 @@ constexpr int SideWidth = 215;
 constexpr int EditorWidth = 320;
 constexpr int PickerHeight = 150;
 
-/// The first widget in a pane that takes the keyboard; null for none.
+/// Where the keyboard goes in a pane: where something is drawn, else to the first widget that takes it; null for none.
 QWidget *firstFor(const QWidget *pane)
 {
-    const QList<QWidget *> widgets = pane->findChildren<QWidget *>();
-    const auto first = std::ranges::find_if(widgets, [](const QWidget *widget) {
+    const auto takes = [](const QWidget *widget) {
         return widget->isVisible() && widget->isEnabled() && widget->focusPolicy() & Qt::TabFocus;
-    });
+    };
+    const QList<KeyCursor *> cursors = pane->findChildren<KeyCursor *>();
+    for (const KeyCursor *cursor : cursors) {
+        if (takes(cursor->widget()))
+            return cursor->widget();
+    }
+    const QList<QWidget *> widgets = pane->findChildren<QWidget *>();
+    const auto first = std::ranges::find_if(widgets, takes);
     return first == widgets.end() ? nullptr : *first;
 }
 
