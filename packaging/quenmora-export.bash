@@ -4,7 +4,7 @@ _quenmora_export() {
     local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} program=${COMP_WORDS[0]} project
     COMPREPLY=()
     case $before in
-    --recipe | --depfile | --to)
+    --recipe | --depfile | --to | --thumbnail)
         compopt -o filenames
         mapfile -t COMPREPLY < <(compgen -f -- "$word")
         return
@@ -27,13 +27,13 @@ _quenmora_export() {
         done
         return
         ;;
-    --option)
+    --option | --size)
         return
         ;;
     esac
     if [[ $word == -* ]]; then
         mapfile -t COMPREPLY < <(compgen -W "--recipe --output --dry-run --depfile --quiet --asset --format --option \
-            --to --list --formats --describe --help --version" -- "$word")
+            --to --thumbnail --size --list --formats --describe --help --version" -- "$word")
     else
         compopt -o filenames
         mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -X '!*.quenmora' -- "$word")

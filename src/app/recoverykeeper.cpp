@@ -1,7 +1,7 @@
 #include "app/recoverykeeper.h"
 
 #include "app/projectcontroller.h"
-#include "recovery/projectpicture.h"
+#include "model/projectpicture.h"
 #include "store/projectdocument.h"
 
 #include <QDir>

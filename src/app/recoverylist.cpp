@@ -1,8 +1,8 @@
 #include "app/recoverylist.h"
 
-#include "app/platform.h"
 #include "app/recoveryoffers.h"
-#include "recovery/projectpicture.h"
+#include "app/shownpath.h"
+#include "model/projectpicture.h"
 #include "ui/plaintext.h"
 #include "ui/question.h"
 #include "ui/svgiconengine.h"
@@ -69,10 +69,7 @@ Line *detail(const QString &text)
 
 QString whereSaved(const QString &file)
 {
-    if (file.isEmpty())
-        return RecoveryList::tr("Never saved");
-    const QString home = Platform::homeFolder().path() + u'/';
-    return QDir::toNativeSeparators(file.startsWith(home) ? QStringLiteral("~/") + file.mid(home.size()) : file);
+    return file.isEmpty() ? RecoveryList::tr("Never saved") : shownPath(file);
 }
 
 QString whenCopied(const QDateTime &time)

@@ -4,15 +4,18 @@
 #include "command/description.h"
 #include "model/plural.h"
 #include "model/project.h"
+#include "model/projectpicture.h"
 #include "nextdata/form.h"
 #include "nextdata/quoted.h"
 #include "nextdata/wholefile.h"
 #include "store/extrasfile.h"
 #include "store/projectstore.h"
 
+#include <QBuffer>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QImage>
 #include <QTextStream>
 
 #include <algorithm>
@@ -177,6 +180,8 @@ int ExportCommand::withProject()
         return Done;
     case Request::Action::Single:
         return doSingle(project);
+    case Request::Action::Thumbnail:
+        return writeThumbnail(project);
     default:
         return doRecipe(project);
     }
@@ -254,6 +259,21 @@ int ExportCommand::doSingle(const Project &project)
     for (const RecipeRun::File &written : outcome.files)
         targets.append(pathIn(folder, written.name));
     return outcome.state != State::Impossible && writeDepfile(targets, sources()) ? Done : Failed;
+}
+
+int ExportCommand::writeThumbnail(const Project &project)
+{
+    if (QFileInfo(m_request.thumbnail).canonicalFilePath() == QFileInfo(m_request.project).canonicalFilePath())
+        return fail(m_request.thumbnail, Texts::tr("This is the project itself"));
+    const QImage picture = projectThumbnail(project, {m_request.size, m_request.size});
+    if (picture.isNull())
+        return fail(m_request.project, Texts::tr("There is nothing in it that a picture could show"));
+    QBuffer png;
+    png.open(QIODevice::WriteOnly);
+    if (!picture.save(&png, "PNG"))
+        return fail(m_request.thumbnail, Texts::tr("No picture could be made"));
+    const QString problem = WholeFile::write(m_request.thumbnail, png.data());
+    return problem.isEmpty() ? Done : fail(m_request.thumbnail, problem);
 }
 
 RecipeRun::Mode ExportCommand::mode() const

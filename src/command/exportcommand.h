@@ -33,6 +33,7 @@ private:
     [[nodiscard]] int listAssets(const Project &project);
     [[nodiscard]] int doRecipe(const Project &project);
     [[nodiscard]] int doSingle(const Project &project);
+    [[nodiscard]] int writeThumbnail(const Project &project);
 
     /// Says how an output went: its files, which are in a folder, or why it failed, and where it is asked for.
     void report(const NextData::RecipeRun::Outcome &outcome, const QString &folder, const QString &place);

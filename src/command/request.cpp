@@ -22,6 +22,8 @@ const QString Asset = QStringLiteral("asset");
 const QString Format = QStringLiteral("format");
 const QString OptionKey = QStringLiteral("option");
 const QString To = QStringLiteral("to");
+const QString Thumbnail = QStringLiteral("thumbnail");
+const QString Size = QStringLiteral("size");
 const QString Depfile = QStringLiteral("depfile");
 const QString DryRun = QStringLiteral("dry-run");
 const QString Quiet = QStringLiteral("quiet");
@@ -44,6 +46,9 @@ void addOptions(QCommandLineParser &parser)
         {List, Texts::tr("List the assets: kind, id and name.")},
         {Formats, Texts::tr("List the forms and their options.")},
         {Describe, Texts::tr("Describe the whole project as text, for git diff.")},
+        {Thumbnail, Texts::tr("Write a small picture of the project, as file managers show, to this PNG file …"),
+         Texts::tr("file")},
+        {Size, Texts::tr("… of at most so many pixels along its sides; 256 without this."), Texts::tr("pixels")},
         {{ShortHelp, Help}, Texts::tr("Show this help.")},
         {{QStringLiteral("v"), Version}, Texts::tr("Show the version.")},
     });
@@ -62,8 +67,11 @@ void describe(QCommandLineParser &parser)
 Request::Action actionOf(const QCommandLineParser &parser, QString &error)
 {
     using Action = Request::Action;
-    const std::pair<QString, Action> choices[] = {
-        {Formats, Action::Formats}, {List, Action::List}, {Describe, Action::Describe}, {Asset, Action::Single}};
+    const std::pair<QString, Action> choices[] = {{Formats, Action::Formats},
+                                                  {List, Action::List},
+                                                  {Describe, Action::Describe},
+                                                  {Asset, Action::Single},
+                                                  {Thumbnail, Action::Thumbnail}};
     if (parser.isSet(Help))
         return Action::Help;
     if (parser.isSet(Version))
@@ -90,6 +98,8 @@ QString strayOption(const QCommandLineParser &parser, Request::Action action)
         stray << Recipe << Output;
     if (action != Action::Single)
         stray << Format << OptionKey << To;
+    if (action != Action::Thumbnail)
+        stray << Size;
     if (action != Action::Recipe && action != Action::Single)
         stray << DryRun << Depfile;
     for (const QString &option : stray) {
@@ -97,6 +107,16 @@ QString strayOption(const QCommandLineParser &parser, Request::Action action)
             return option;
     }
     return {};
+}
+
+QString takeSize(Request &request, const QString &pixels)
+{
+    constexpr int MostPixels = 4096;
+    bool isNumber = false;
+    request.size = pixels.toInt(&isNumber);
+    if (isNumber && request.size > 0 && request.size <= MostPixels)
+        return {};
+    return Texts::tr("--%1 takes a number from 1 to %2, not “%3”").arg(Size).arg(MostPixels).arg(pixels);
 }
 
 QString takeOptions(Request &request, const QStringList &pairs)
@@ -113,7 +133,7 @@ QString takeOptions(Request &request, const QStringList &pairs)
 /// What is wrong with the values of options, and with what stands beside options.
 QString problemOf(const QCommandLineParser &parser, Request::Action action)
 {
-    for (const QString &option : {Recipe, Output, Asset, Format, To, Depfile}) {
+    for (const QString &option : {Recipe, Output, Asset, Format, To, Thumbnail, Size, Depfile}) {
         if (parser.values(option).size() > 1)
             return Texts::tr("--%1 is there twice").arg(option);
         if (parser.isSet(option) && parser.value(option).isEmpty())
@@ -152,6 +172,9 @@ Request Request::parse(const QStringList &arguments, QString &error)
     error = problemOf(parser, request.action);
     if (error.isEmpty())
         error = takeOptions(request, parser.values(OptionKey));
+    if (error.isEmpty() && parser.isSet(Size))
+        error = takeSize(request, parser.value(Size));
+    request.thumbnail = parser.value(Thumbnail);
     request.project = parser.positionalArguments().value(0);
     request.recipe = parser.value(Recipe);
     request.output = parser.value(Output);

@@ -15,6 +15,7 @@ struct Request
         Describe,
         Recipe,
         Single, ///< one asset, without a recipe
+        Thumbnail, ///< a picture of the project
     };
 
     Action action = Action::Recipe;
@@ -27,6 +28,9 @@ struct Request
     QString form;
     QMap<QString, QString> options;
     QString target;
+
+    QString thumbnail; ///< the file of a picture of the project
+    int size = 256; ///< pixels along the longer side of that, at most
 
     QString depfile; ///< none when empty
     bool isDryRun = false;

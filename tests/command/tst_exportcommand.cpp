@@ -69,6 +69,8 @@ private slots:
         row("a --to b", "--to means nothing here");
         row("a --asset b --format c", "--asset needs --to");
         row("a --asset b --format c --to d --output e", "--output means nothing here");
+        row("a --size 8", "--size means nothing here");
+        row("a --thumbnail b --size 0", "--size takes a number from 1 to 4096, not “0”");
         row("a --asset b --format c --to d --option text", "--option takes KEY=VALUE, not “text”");
     }
 
@@ -207,8 +209,9 @@ private slots:
         QCOMPARE(run({"--version"}), 0);
         QVERIFY(m_out.startsWith("quenmora-export "));
         QCOMPARE(run({"--help"}), 0);
-        for (const char *option : {"--recipe", "--output", "--dry-run", "--depfile", "--quiet", "--asset", "--format",
-                                   "--option", "--to", "--list", "--formats", "--describe", "--help", "--version"})
+        for (const char *option :
+             {"--recipe", "--output", "--dry-run", "--depfile", "--quiet", "--asset", "--format", "--option", "--to",
+              "--list", "--formats", "--describe", "--thumbnail", "--size", "--help", "--version"})
             QVERIFY2(m_out.contains(option), option);
         QCOMPARE(run({"--formats"}), 0);
         QVERIFY(m_out.contains("palette  palette-group (.nxp): ") && m_out.contains("\n    group=0…15 [0]: "));

@@ -73,6 +73,37 @@ private slots:
         QVERIFY(failed.code == 1 && failed.text == "ä.quenmora: There is no such file\n");
     }
 
+    void makesThumbnails()
+    {
+        const QString picture = path("thumb nail.png");
+        for (const auto &[size, expected] :
+             {std::pair{"256", QSize(256, 176)}, {"40", QSize(40, 40)}, {"5", QSize(5, 5)}}) {
+            const Ending ending =
+                run(Program, {"--thumbnail", picture, "--size", size, path("sample.quenmora")}, "/", true);
+            QVERIFY2(ending.code == 0 && ending.text.isEmpty(), ending.text);
+            const QImage shown(picture, "png");
+            QCOMPARE(shown.size().boundedTo(expected), shown.size());
+            QVERIFY(shown.width() == expected.width() || shown.height() == expected.height());
+        }
+        // what is damaged, anywhere, gives a picture or a reason, and never takes the project for its target
+        const QByteArray whole = readFile(path("sample.quenmora"));
+        for (int part = 0; part < 16; ++part) {
+            QByteArray damaged = whole;
+            const qsizetype at = whole.size() * part / 16;
+            if (part % 2 == 0)
+                damaged.truncate(at);
+            else
+                damaged.replace(at, 64, QByteArray(64, char(part * 17)));
+            QVERIFY(writeFile(path("damaged.quenmora"), damaged));
+            QFile::remove(picture);
+            const Ending ending = run(Program, {"--thumbnail", picture, path("damaged.quenmora")});
+            QVERIFY2(ending.code == 0 || (ending.code == 1 && !ending.text.isEmpty()), ending.text);
+            QCOMPARE(QImage(picture, "png").isNull(), ending.code == 1);
+        }
+        QCOMPARE(run(Program, {"--thumbnail", path("sample.quenmora"), path("sample.quenmora")}).code, 1);
+        QCOMPARE(readFile(path("sample.quenmora")), whole);
+    }
+
     void theSamplesRecipeUsesEveryForm()
     {
         Recipe recipe;

@@ -4,7 +4,7 @@
 #include "model/project.h"
 #include "model/spritebank.h"
 #include "model/tileset.h"
-#include "recovery/projectpicture.h"
+#include "model/projectpicture.h"
 #include "recovery/recoverycopier.h"
 #include "recovery/recoverycopy.h"
 #include "recovery/recoverywriter.h"

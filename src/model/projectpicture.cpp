@@ -1,4 +1,4 @@
-#include "recovery/projectpicture.h"
+#include "model/projectpicture.h"
 
 #include "model/image.h"
 #include "model/map.h"
@@ -32,45 +32,51 @@ qsizetype variety(const TileMap &tiles, const QRect &part)
     return seen.size();
 }
 
-/// The part of a map, as large as the picture can be, in which most is to see.
-QRect partToShow(const TileMap &tiles)
+/// How many squares of that side fit into a size; at least one.
+QSize cellsIn(const QSize &size, int side)
 {
-    const QSize size = (ProjectPictureSize / TileMap::TileSize).boundedTo(tiles.size());
+    return QSize(size.width() / side, size.height() / side).expandedTo({1, 1});
+}
+
+/// The part of a map, as large as the picture can be, in which most is to see.
+QRect partToShow(const TileMap &tiles, const QSize &most)
+{
+    const QSize size = cellsIn(most, TileMap::TileSize).boundedTo(tiles.size());
     const QSize room = tiles.size() - size;
     QRect best({0, 0}, size);
-    qsizetype most = 0;
+    qsizetype mostSeen = 0;
     for (int y = 0; y < PartsAcross; ++y) {
         for (int x = 0; x < PartsAcross; ++x) {
             const QPoint at(room.width() * x / (PartsAcross - 1), room.height() * y / (PartsAcross - 1));
-            if (const qsizetype found = variety(tiles, {at, size}); found > most) {
-                most = found;
+            if (const qsizetype found = variety(tiles, {at, size}); found > mostSeen) {
+                mostSeen = found;
                 best.moveTopLeft(at);
             }
         }
     }
-    return most > 0 ? best : QRect();
+    return mostSeen > 0 ? best : QRect();
 }
 
-QImage pictureOf(const Map &map)
+QImage pictureOf(const Map &map, const QSize &most)
 {
     const QPointer<TileMap> tiles = map.tileLayer();
-    const QRect part = tiles ? partToShow(*tiles) : QRect();
+    const QRect part = tiles ? partToShow(*tiles, most) : QRect();
     return part.isEmpty() ? QImage() : tiles->toImage(part);
 }
 
-QImage pictureOf(const Image &image)
+QImage pictureOf(const Image &image, const QSize &most)
 {
     const QImage picture = image.image().convertToFormat(QImage::Format_RGB32);
-    if (picture.width() <= ProjectPictureSize.width() && picture.height() <= ProjectPictureSize.height())
+    if (picture.width() <= most.width() && picture.height() <= most.height())
         return picture;
-    return picture.scaled(ProjectPictureSize, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    return picture.scaled(most, Qt::KeepAspectRatio, Qt::SmoothTransformation);
 }
 
 /// The first pieces of an asset, row by row.
 template <typename PieceAt>
-QImage mosaic(int count, int side, PieceAt pieceAt)
+QImage mosaic(const QSize &size, int count, int side, PieceAt pieceAt)
 {
-    const QSize most = ProjectPictureSize / side;
+    const QSize most = cellsIn(size, side);
     const int columns = std::min(count, most.width());
     if (columns == 0)
         return {};
@@ -83,25 +89,25 @@ QImage mosaic(int count, int side, PieceAt pieceAt)
     return picture;
 }
 
-QImage pictureOf(const SpriteBank &bank)
+QImage pictureOf(const SpriteBank &bank, const QSize &most)
 {
-    return mosaic(bank.count(), SpriteBank::SpriteSize,
+    return mosaic(most, bank.count(), SpriteBank::SpriteSize,
                   [&bank](int index) { return bank.renderSprite(index, 0, false, false, false); });
 }
 
-QImage pictureOf(const TileSet &tiles)
+QImage pictureOf(const TileSet &tiles, const QSize &most)
 {
-    return mosaic(tiles.count(), Tile::Size,
+    return mosaic(most, tiles.count(), Tile::Size,
                   [&tiles](int index) { return tiles.tileImage(index, false, false, false, tiles.tileOffset(index)); });
 }
 
 /// The first picture that can be made of assets of a kind, that in front before the others.
 template <typename Asset>
-QImage pictureOfOne(QList<QPointer<Asset>> assets, const QUuid &front)
+QImage pictureOfOne(QList<QPointer<Asset>> assets, const QUuid &front, const QSize &most)
 {
     std::stable_partition(assets.begin(), assets.end(), [&front](const auto &asset) { return asset->id() == front; });
     for (const QPointer<Asset> &asset : std::as_const(assets)) {
-        if (const QImage picture = pictureOf(*asset); !picture.isNull())
+        if (const QImage picture = pictureOf(*asset, most); !picture.isNull())
             return picture;
     }
     return {};
@@ -109,16 +115,28 @@ QImage pictureOfOne(QList<QPointer<Asset>> assets, const QUuid &front)
 
 } // namespace
 
-QImage projectPicture(const Project &project, const QUuid &front)
+QImage projectPicture(const Project &project, const QUuid &front, const QSize &most)
 {
     const auto image = project.image(front);
     const auto bank = project.spriteBank(front);
-    QImage picture = image ? pictureOf(*image) : bank ? pictureOf(*bank) : QImage();
+    QImage picture = image ? pictureOf(*image, most) : bank ? pictureOf(*bank, most) : QImage();
     if (picture.isNull())
-        picture = pictureOfOne(project.maps(), front);
+        picture = pictureOfOne(project.maps(), front, most);
     if (picture.isNull())
-        picture = pictureOfOne(project.images(), front);
+        picture = pictureOfOne(project.images(), front, most);
     if (picture.isNull())
-        picture = pictureOfOne(project.spriteBanks(), front);
-    return picture.isNull() ? pictureOfOne(project.tileSets(), front) : picture;
+        picture = pictureOfOne(project.spriteBanks(), front, most);
+    return picture.isNull() ? pictureOfOne(project.tileSets(), front, most) : picture;
+}
+
+QImage projectThumbnail(const Project &project, const QSize &most)
+{
+    const QImage picture = projectPicture(project, {}, most);
+    if (picture.isNull())
+        return {};
+    const QSize fitting = picture.size().scaled(most, Qt::KeepAspectRatio);
+    if (fitting.width() < picture.width()) // not even one tile fits
+        return picture.scaled(most, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    const int times = fitting.width() / picture.width(); // whole, so that every pixel stays a square
+    return times < 2 ? picture : picture.scaled(picture.size() * times);
 }
