@@ -49,6 +49,8 @@ View::View(QWidget *parent)
     canvas()->setZoomLevel(UsualZoom);
     buildPage();
     connectParts();
+    sayNextStep(tr("Paint here, or bring in a picture with Open among the tools"),
+                [this] { return canvas()->isEnabled() && isBlank(canvas()->image()); });
     setImage(nullptr);
 }
 

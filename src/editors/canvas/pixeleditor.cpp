@@ -6,6 +6,7 @@
 #include "editors/canvas/palettenotice.h"
 #include "model/palette.h"
 #include "ui/commands.h"
+#include "ui/emptyhint.h"
 #include "ui/svgiconengine.h"
 #include "ui/toolpalette.h"
 #include "undo/paletteorder.h"
@@ -19,6 +20,8 @@
 #include <QTimer>
 #include <QUndoStack>
 #include <QVBoxLayout>
+
+#include <cstring>
 
 using namespace Quenmora::Ui;
 
@@ -198,6 +201,23 @@ void PixelEditor::followStrokes()
         showStroke(m_canvas->image());
         m_canvas->update(); // which the preview follows
     });
+}
+
+void PixelEditor::sayNextStep(const QString &text, const std::function<bool()> &isBlank)
+{
+    // at the bottom, where it leaves most of the picture to be seen
+    new EmptyHint(
+        m_canvas, [text, isBlank] { return isBlank() ? text : QString(); }, Qt::AlignHCenter | Qt::AlignBottom);
+}
+
+bool PixelEditor::isBlank(const QImage &pixels)
+{
+    for (int y = 0; y < pixels.height(); ++y) {
+        const uchar *line = pixels.constScanLine(y);
+        if (line[0] != *pixels.constBits() || std::memcmp(line, line + 1, size_t(pixels.width() - 1)) != 0)
+            return false;
+    }
+    return true;
 }
 
 void PixelEditor::setPaintSettings(PaintSettings *settings)

@@ -63,6 +63,11 @@ protected:
     /// in page, and the window's status line tell the pixel under the pointer.
     void connectCanvas(QWidget *page);
 
+    /// Says the next step over the canvas while isBlank() finds nothing drawn in the whole asset.
+    void sayNextStep(const QString &text, const std::function<bool()> &isBlank);
+    /// Whether all pixels are the same.
+    static bool isBlank(const QImage &pixels);
+
     /// Shows pixels of the asset; isLoading() tells them from those that were painted.
     void load(const QImage &pixels);
     bool isLoading() const { return m_loading; }

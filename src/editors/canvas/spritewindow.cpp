@@ -53,6 +53,8 @@ SpriteWindow::SpriteWindow(QWidget *parent)
     addMenuEntry(QStringLiteral("replaceColourInAllSprites"), QStringLiteral(":/ReplaceColour"),
                  tr("Replace Colour in All Sprites"), tr("Does that in all sprites of the bank"),
                  [this] { replaceColourInAllSprites(); });
+    sayNextStep(tr("Draw the first sprite here; the last place of the list below adds another"),
+                [this] { return m_sprites && isBlank(m_sprites->image()); });
     setSprites(nullptr);
 }
 

@@ -71,6 +71,16 @@ TileWindow::TileWindow(QWidget *parent)
     addMenuEntry(QStringLiteral("replaceColourInAllTiles"), QStringLiteral(":/ReplaceColour"),
                  tr("Replace Colour in All Tiles"), tr("Does that in all tiles of this palette offset"),
                  [this] { replaceColourInAllTiles(); });
+    sayNextStep(
+        tr("Draw the first tile here: the left button paints with the foreground colour, the right one with the "
+           "background colour"),
+        [this] {
+            for (int index = 0; m_tileSet && index < m_tileSet->count(); ++index) {
+                if (!isBlank(m_tileSet->image(index)))
+                    return false;
+            }
+            return m_tileSet && m_tileSet->count() > 0;
+        });
     setTileSet(nullptr);
 }
 

@@ -1,6 +1,7 @@
 #include "editors/common/animationlistwidget.h"
 
 #include "ui/commands.h"
+#include "ui/emptyhint.h"
 #include "ui/plaintext.h"
 #include "ui/quietlist.h"
 #include "ui/repeatedpress.h"
@@ -39,6 +40,11 @@ AnimationListWidget::AnimationListWidget(Flags flags, QWidget *parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_list, 1);
     buildActions();
+    if (m_flags.testFlag(Buttons)) {
+        new EmptyHint(m_list->viewport(), [this] {
+            return m_list->count() == 0 ? tr("There are no animations yet. Add below makes the first one.") : QString();
+        });
+    }
 
     connect(m_list, &QListWidget::currentRowChanged, this, &AnimationListWidget::currentRowChanged);
     connect(new RepeatedPress(m_list), &RepeatedPress::pressedAgain, this, [this] {

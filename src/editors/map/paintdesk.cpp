@@ -6,7 +6,9 @@
 #include "editors/map/mapoverview.h"
 #include "editors/map/maptoolpalette.h"
 #include "editors/map/terraindialog.h"
+#include "model/animatedblocks.h"
 #include "model/project.h"
+#include "ui/emptyhint.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -17,6 +19,24 @@
 using namespace Quenmora::Ui;
 
 namespace MapEditor {
+
+namespace {
+
+/// Costs a look at one row where the rows share their storage, as in a new map.
+bool isBlank(const Map &map)
+{
+    if (!map.tileLayer() || !map.sprites().isEmpty() || !map.animatedBlocks()->list().isEmpty())
+        return false;
+    const TileMap::Rows rows = map.tileLayer()->rows();
+    for (qsizetype y = 0; y < rows.size(); ++y) {
+        const bool isSeen = y > 0 && rows[y].isSharedWith(rows[y - 1]);
+        if (!isSeen && std::ranges::any_of(rows[y], [](const TileMap::TileData &cell) { return cell.used; }))
+            return false;
+    }
+    return true;
+}
+
+} // namespace
 
 PaintDesk::PaintDesk(View *view, const QPointer<PaintKit> &kit)
     : QObject(view)
@@ -31,6 +51,12 @@ PaintDesk::PaintDesk(View *view, const QPointer<PaintKit> &kit)
     connect(m_bar, &PaintBar::terrainsRequested, this, &PaintDesk::showTerrainDialog);
     connect(m_grid, &MapGrid::stampPicked, this, &PaintDesk::pickStamp);
     m_bar->setKit(kit);
+    new EmptyHint(m_grid, [this] {
+        const QPointer<Map> map = m_view->map();
+        return map && isBlank(*map) ? tr("Choose a tile in the Tiles dock and paint here: the left button paints, the "
+                                         "right one clears")
+                                    : QString();
+    });
 }
 
 void PaintDesk::takeTool(ToolButton tool)

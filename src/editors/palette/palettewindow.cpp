@@ -1,9 +1,11 @@
 #include "editors/palette/palettewindow.h"
 
 #include "editors/palette/paletteeditor.h"
+#include "editors/palette/palettegrid.h"
 #include "editors/palette/palettetools.h"
 #include "model/assetname.h"
 #include "ui/commands.h"
+#include "ui/emptyhint.h"
 #include "ui/svgiconengine.h"
 
 #include <QComboBox>
@@ -56,11 +58,27 @@ PaletteWindow::PaletteWindow(QWidget *parent)
     setContent(scroller);
     scroller->addActions(m_menu->actions());
 
+    new EmptyHint(m_editor->grid(), [this] {
+        return isBlack()
+            ? tr("All colours are black. Choose one and change it below, or bring in others with Palette ▸ "
+                 "Import.")
+            : QString();
+    });
+
     connect(m_chooser, &QComboBox::activated, this, [this](int row) {
         if (!m_renaming)
             emit paletteChosen(m_chooser->itemData(row).toUuid());
     });
     connect(m_editor, &PaletteEditor::paletteChanged, this, &PaletteWindow::paletteChanged);
+}
+
+bool PaletteWindow::isBlack() const
+{
+    for (int index = 0; m_palette && index < Palette::Size; ++index) {
+        if (m_palette->colour(index).rgb() != qRgb(0, 0, 0))
+            return false;
+    }
+    return m_palette;
 }
 
 void PaletteWindow::buildMenu()

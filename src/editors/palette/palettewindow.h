@@ -53,6 +53,7 @@ signals:
     void refused(const QString &reason);
 
 private:
+    [[nodiscard]] bool isBlack() const;
     void buildMenu();
     void startRenaming();
     void finishRenaming();
