@@ -4,6 +4,7 @@
 #include "app/commands/commanddesk.h"
 #include "app/exportmessages.h"
 #include "app/exportproject/projectexport.h"
+#include "app/guide.h"
 #include "app/importfile/fileimport.h"
 #include "app/imports/importkeeper.h"
 #include "app/imports/importnotice.h"
@@ -57,7 +58,7 @@ QString draggedProject(const QMimeData *data)
 
 MainWindow::MainWindow(QWidget *parent)
     : QMainWindow(parent)
-    , m_startPage(new StartPage(m_menuBar.fileMenu(), &m_tabs))
+    , m_startPage(new StartPage(m_menuBar, &m_tabs))
     , m_projectController(this, m_menuBar.fileMenu())
     , m_recoveryKeeper(&m_projectController, AppState::recoveryFolder())
     , m_recoveryOffers(&m_projectController, &m_recoveryKeeper, AppState::recoveryFolder())
@@ -178,6 +179,12 @@ void MainWindow::connectMenus()
     });
     connect(m_menuBar.helpMenu(), &HelpMenu::checkForUpdates, &m_updatePresenter, &UpdatePresenter::checkForUpdates);
     connect(m_menuBar.helpMenu(), &HelpMenu::displayAbout, &m_updatePresenter, &UpdatePresenter::showAboutBox);
+    connect(m_menuBar.helpMenu(), &HelpMenu::openSample, &m_projectController, &ProjectController::openSample);
+    const auto *guide = new Guide(m_views, this);
+    connect(m_menuBar.helpMenu(), &HelpMenu::openGuide, guide, &Guide::open);
+    connect(guide, &Guide::failed, this, [this](const QString &message, const QString &detail) {
+        messageDialog()->showMessage(message, MessageDialog::defaultTitle(), detail);
+    });
 }
 
 void MainWindow::connectActions()

@@ -1,5 +1,6 @@
 #include "app/projectcontroller.h"
 
+#include "app/installedfiles.h"
 #include "app/menus/filemenu.h"
 #include "model/assetextras.h"
 #include "model/map.h"
@@ -241,6 +242,26 @@ void ProjectController::openBackup(const QString &filePath)
     }
 }
 
+void ProjectController::openSample()
+{
+    const QString sample = InstalledFiles::sampleProject();
+    if (sample.isEmpty()) {
+        emit error(tr("The sample project is not installed"));
+        return;
+    }
+    if (!confirmClose())
+        return;
+    const Busy busy(m_parentWidget, opening(sample));
+    const Suspension suspension(m_parentWidget);
+    if (!load(sample))
+        return;
+    m_store.setFileName({});
+    loadExtras(sample);
+    m_sample = sample;
+    emit projectOpened(m_project);
+    markSaved(); // there is nothing to ask about before something was changed
+}
+
 bool ProjectController::load(const QString &filePath)
 {
     close();
@@ -263,6 +284,8 @@ void ProjectController::save()
         if (write(file)) {
             saveExtras();
             markSaved();
+            if (!m_sample.isEmpty())
+                emit savedAs(std::exchange(m_sample, {}), file);
         }
     }
     emit saveFinished();
@@ -304,6 +327,7 @@ void ProjectController::close()
     m_store.close();
     m_project.clear();
     m_proposedFile.clear();
+    m_sample.clear();
     m_extrasFile = {};
     follow({});
     emit projectClosed();

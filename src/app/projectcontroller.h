@@ -80,6 +80,8 @@ public slots:
     /// file: saving asks for one, proposes the one of that path, and so replaces neither the backup nor the file
     /// unasked.
     void openBackup(const QString &filePath);
+    /// Opens the sample project as one that has no file: what is saved is a copy, in a place of the person's own.
+    void openSample();
     /// Looks whether another program changed or removed the project's file since it was opened or saved, or since this
     /// was asked or told: asks or tells it then. Saving looks, too, and asks again where nothing was decided.
     void checkFile();
@@ -137,6 +139,7 @@ private:
     FileState m_seenFile; ///< as it was when it was last looked at
     bool m_asking = false; ///< about a foreign change
     QString m_proposedFile; ///< to save a project without a file to; empty where its name proposes one
+    QString m_sample; ///< the file of the sample project, while a project that began as it has none
     QPointer<QFileDialog> m_saveDialog; ///< made when first needed
 
     std::function<bool()> m_backup;

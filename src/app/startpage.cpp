@@ -1,21 +1,34 @@
 #include "app/startpage.h"
 
+#include "app/installedfiles.h"
 #include "app/menus/filemenu.h"
+#include "app/menus/helpmenu.h"
+#include "app/menus/menubar.h"
+#include "app/recentpreview.h"
+#include "app/shownpath.h"
 #include "app/widebutton.h"
+#include "ui/plaintext.h"
 #include "ui/svgiconengine.h"
 
 #include <QAction>
+#include <QFileInfo>
 #include <QLabel>
 #include <QMenu>
+#include <QPainter>
+#include <QScrollArea>
 #include <QToolButton>
 #include <QVBoxLayout>
 
 namespace {
 
+constexpr QSize PictureSize(96, 64);
+constexpr int TextWidth = 260; ///< of a card, in which longer paths are shortened
+constexpr int ContentWidth = 400;
+
 /// A wide button that does what an entry of the menu does.
-QToolButton *buttonFor(QAction *action, const QString &text, const QIcon &icon)
+QToolButton *buttonFor(QAction *action, const QString &text)
 {
-    QToolButton *button = wideButton(text, icon);
+    QToolButton *button = wideButton(text, action->icon());
     button->setToolTip(action->toolTip());
     QObject::connect(button, &QToolButton::clicked, action, &QAction::trigger);
     return button;
@@ -29,39 +42,105 @@ QVBoxLayout *flushLayout(QWidget *widget)
     return layout;
 }
 
+QLabel *heading(const QString &text)
+{
+    auto *label = new QLabel(text);
+    label->setForegroundRole(QPalette::PlaceholderText);
+    label->setContentsMargins(4, 12, 0, 0);
+    return label;
+}
+
+/// The name of the program beside its icon.
+QWidget *title()
+{
+    auto *icon = new QLabel;
+    icon->setPixmap(QIcon(QStringLiteral(":Application")).pixmap(32, 32));
+    auto *name = new QLabel(QCoreApplication::applicationName());
+    QFont font = name->font();
+    font.setBold(true);
+    font.setPointSizeF(font.pointSizeF() * 1.5);
+    name->setFont(font);
+    auto *row = new QWidget;
+    auto *layout = new QHBoxLayout(row);
+    layout->setContentsMargins(4, 0, 0, 8);
+    layout->setSpacing(10);
+    layout->addWidget(icon);
+    layout->addWidget(name, 1);
+    return row;
+}
+
+/// A picture in the middle of its place on a card; an icon where there is none.
+QIcon framed(const QImage &picture, qreal ratio)
+{
+    QPixmap place(PictureSize * ratio);
+    place.fill(Qt::transparent);
+    QPainter painter(&place);
+    if (picture.isNull()) {
+        const QPixmap icon = themedIcon(QStringLiteral(":/Project")).pixmap(QSize(24, 24), ratio);
+        painter.drawPixmap(
+            QRectF({(place.width() - 24 * ratio) / 2, (place.height() - 24 * ratio) / 2}, QSizeF(24, 24) * ratio), icon,
+            QRectF({}, icon.size()));
+    } else {
+        const QImage shown = picture.scaled(place.size(), Qt::KeepAspectRatio, Qt::SmoothTransformation);
+        painter.drawImage((place.width() - shown.width()) / 2, (place.height() - shown.height()) / 2, shown);
+    }
+    painter.end();
+    place.setDevicePixelRatio(ratio);
+    return QIcon(place);
+}
+
 } // namespace
 
-StartPage::StartPage(const FileMenu *menu, QWidget *parent)
+StartPage::StartPage(const MenuBar &menus, QWidget *parent)
     : QWidget(parent)
-    , m_menu(menu)
+    , m_menu(menus.fileMenu())
     , m_beginnings(new QWidget)
     , m_recent(new QWidget)
+    , m_sampleFile(InstalledFiles::sampleProject())
     , m_hint(new QLabel(tr("A double click in the Project dock opens an asset")))
 {
     auto *recentBox = flushLayout(m_recent);
-    auto *recentTitle = new QLabel(tr("Recent projects"));
-    recentTitle->setForegroundRole(QPalette::PlaceholderText);
-    recentTitle->setContentsMargins(4, 12, 0, 0);
-    recentBox->addWidget(recentTitle);
+    recentBox->addWidget(heading(tr("Recent projects")));
     m_recentEntries = new QVBoxLayout;
+    m_recentEntries->setSpacing(2);
     recentBox->addLayout(m_recentEntries);
 
     auto *beginnings = flushLayout(m_beginnings);
-    beginnings->addWidget(buttonFor(menu->newAction(), tr("New project"), menu->newAction()->icon()));
-    beginnings->addWidget(buttonFor(menu->openAction(), tr("Open a project"), menu->openAction()->icon()));
+    m_beginnings->setMinimumWidth(ContentWidth);
+    beginnings->addWidget(title());
+    beginnings->addWidget(buttonFor(m_menu->newAction(), tr("New project")));
+    beginnings->addWidget(buttonFor(m_menu->openAction(), tr("Open a project")));
+    beginnings->addWidget(buttonFor(menus.helpMenu()->guideAction(), tr("Read the guide")));
     beginnings->addWidget(m_recent);
+    beginnings->addWidget(heading(tr("To look at and to play with")));
+    m_sample = cardFor(menus.helpMenu()->sampleAction(), tr("The sample project"),
+                       tr("A level, sprites and a title screen"), m_sampleFile);
+    m_sample->setToolTip(menus.helpMenu()->sampleAction()->toolTip());
+    beginnings->addWidget(m_sample);
 
     m_hint->setForegroundRole(QPalette::PlaceholderText);
     m_hint->setAlignment(Qt::AlignCenter);
     m_hint->setWordWrap(true);
+    auto *page = new QWidget;
+    auto *pageLayout = new QVBoxLayout(page);
+    pageLayout->addStretch();
+    pageLayout->addWidget(m_beginnings, 0, Qt::AlignHCenter);
+    pageLayout->addWidget(m_hint);
+    pageLayout->addStretch();
+    auto *scroller = new QScrollArea;
+    scroller->setFrameShape(QFrame::NoFrame);
+    scroller->setFocusPolicy(Qt::NoFocus); // what is in it has the keyboard
+    scroller->setWidgetResizable(true);
+    scroller->setWidget(page);
     auto *layout = new QVBoxLayout(this);
-    layout->addStretch();
-    layout->addWidget(m_beginnings, 0, Qt::AlignHCenter);
-    layout->addWidget(m_hint);
-    layout->addStretch();
+    layout->setContentsMargins({});
+    layout->addWidget(scroller);
+
+    new RecentPreview(m_menu->recentMenu(), &m_pictures);
     setProjectOpen(false);
     listRecentProjects();
-    connect(menu, &FileMenu::recentFilesChanged, this, &StartPage::listRecentProjects);
+    connect(m_menu, &FileMenu::recentFilesChanged, this, &StartPage::listRecentProjects);
+    connect(&m_pictures, &RecentPictures::found, this, &StartPage::showPicture);
 }
 
 void StartPage::setProjectOpen(bool open)
@@ -72,7 +151,20 @@ void StartPage::setProjectOpen(bool open)
 
 void StartPage::setRecoveryList(QWidget *list)
 {
-    static_cast<QVBoxLayout *>(m_beginnings->layout())->insertWidget(0, list);
+    static_cast<QVBoxLayout *>(m_beginnings->layout())->insertWidget(1, list);
+}
+
+QToolButton *StartPage::cardFor(QAction *action, const QString &name, const QString &detail, const QString &path)
+{
+    QToolButton *card = wideButton({}, framed(m_pictures.picture(path), devicePixelRatioF()));
+    card->setIconSize(PictureSize);
+    const QFontMetrics metrics = card->fontMetrics();
+    card->setText(withoutMnemonic(metrics.elidedText(name, Qt::ElideMiddle, TextWidth)) + u'\n'
+                  + withoutMnemonic(metrics.elidedText(detail, Qt::ElideMiddle, TextWidth)));
+    card->setAccessibleName(name);
+    card->setToolTip(action->toolTip());
+    connect(card, &QToolButton::clicked, action, &QAction::trigger);
+    return card;
 }
 
 void StartPage::listRecentProjects()
@@ -81,8 +173,36 @@ void StartPage::listRecentProjects()
         entry->widget()->deleteLater(); // one of them may have been clicked just now
         delete entry;
     }
+    m_cards.clear();
     const QList<QAction *> projects = m_menu->recentProjectActions().mid(0, MostRecentProjects);
-    for (QAction *project : projects)
-        m_recentEntries->addWidget(buttonFor(project, project->text(), themedIcon(QStringLiteral(":/Project"))));
+    for (QAction *project : projects) {
+        const QString path = project->property("filePath").toString();
+        const QFileInfo file(path);
+        QToolButton *card = cardFor(project, file.fileName(), shownPath(file.path()), path);
+        m_cards.insert(path, card);
+        m_recentEntries->addWidget(card);
+    }
     m_recent->setVisible(!projects.isEmpty());
+    wantPictures();
+}
+
+void StartPage::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    wantPictures();
+}
+
+void StartPage::wantPictures()
+{
+    if (isVisible() && !m_beginnings->isHidden())
+        m_pictures.want(m_cards.keys() << m_sampleFile);
+}
+
+void StartPage::showPicture(const QString &path)
+{
+    const QIcon icon = framed(m_pictures.picture(path), devicePixelRatioF());
+    if (QToolButton *card = m_cards.value(path))
+        card->setIcon(icon);
+    if (path == m_sampleFile)
+        m_sample->setIcon(icon);
 }

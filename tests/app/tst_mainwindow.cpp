@@ -177,7 +177,7 @@ private slots:
         QCOMPARE(page->size(), m_window->centralWidget()->size());
         const QAbstractButton *create = EditorInput::button(*page, "New project");
         QVERIFY(create->isVisible());
-        EditorInput::button(*page, QFileInfo(file).fileName())->click();
+        EditorInput::button(*page, QDir::toNativeSeparators(file))->click();
         QVERIFY(controller()->project() && !page->isVisible());
         m_window->views().tabs->closeAllTabs();
         QVERIFY(page->isVisible() && !EditorInput::button(*page, "New project")->isVisible());

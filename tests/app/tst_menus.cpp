@@ -114,8 +114,8 @@ private slots:
             "New [Ctrl+Shift+B], Import, -, Swap Palette, Export Data, -, Import Again",
             "New Image, -, Swap Palette, -, Import Again",
             "Scratch Image Editor, Status Bar, Reset Layout, Window>",
-            QString::fromUtf8(
-                "Check for Updates…, About, -, Command Palette\u2026 [Ctrl+Shift+P], Keyboard Shortcuts\u2026"),
+            QString::fromUtf8("Check for Updates…, About, -, Command Palette\u2026 [Ctrl+Shift+P], Keyboard "
+                              "Shortcuts\u2026, -, Guide [F1], Sample Project"),
         };
         const MenuBar bar;
         QCOMPARE(described(&bar), "File>, Edit>, Palette>, Tiles>, Map>, Sprites>, Image>, View>, Help>");

@@ -22,4 +22,16 @@ HelpMenu::HelpMenu(QWidget *parent) : QMenu(tr("&Help"), parent)
     QAction *shortcuts = addAction(themedIcon(QStringLiteral(":/Preferences")), tr("&Keyboard Shortcuts…"));
     Commands::add(shortcuts, QStringLiteral("help.keyboardShortcuts"));
     connect(shortcuts, &QAction::triggered, this, &HelpMenu::showShortcuts);
+    addSeparator();
+    setToolTipsVisible(true);
+    m_guide = addAction(themedIcon(QStringLiteral(":/Guide")), tr("&Guide"));
+    m_guide->setToolTip(tr("Opens the guide in your browser, at the page about what you work on"));
+    m_guide->setShortcut(QKeySequence::HelpContents);
+    m_guide->setShortcutContext(Qt::ApplicationShortcut); // as above
+    Commands::add(m_guide, QStringLiteral("help.guide"));
+    connect(m_guide, &QAction::triggered, this, &HelpMenu::openGuide);
+    m_sample = addAction(themedIcon(QStringLiteral(":/SampleProject")), tr("&Sample Project"));
+    m_sample->setToolTip(tr("Opens a small game to look at and to play with; saving makes a copy of your own"));
+    Commands::add(m_sample, QStringLiteral("help.sampleProject"));
+    connect(m_sample, &QAction::triggered, this, &HelpMenu::openSample);
 }
