@@ -1,9 +1,12 @@
 #!/usr/bin/env bash
-# screenshot.sh PROGRAM PICTURE: starts a program on a virtual display, saves a picture of that display once
-# the program shows a window, and ends both. Needs xvfb, xdotool and imagemagick.
+# screenshot.sh PROGRAM PICTURE [COMMAND...]: starts a program on a virtual display, runs commands of the editor as a
+# person would who types their names into its palette of commands, saves a picture of the display, and ends both. With
+# commands it waits until something moves in the picture, and fails when nothing does. Needs xvfb, xdotool and
+# imagemagick.
 set -euo pipefail
 program=$1
 picture=$2
+commands=("${@:3}")
 
 started=()
 work=$(mktemp -d)
@@ -16,6 +19,10 @@ clean_up() {
     rm -rf "$work"
 }
 trap clean_up EXIT
+fail() {
+    echo "$*" >&2
+    exit 1
+}
 
 # the server picks a free display number and writes it down when it is ready
 mkfifo "$work/number"
@@ -31,17 +38,48 @@ unset WAYLAND_DISPLAY
 "$program" &
 editor=$!
 started=("$editor" "${started[@]}") # it ends before its display does
-for ((attempt = 0; attempt < 100; ++attempt)); do
-    kill -0 "$editor" 2>/dev/null || {
-        echo "$program ended before it showed a window" >&2
-        exit 1
-    }
-    xdotool search --onlyvisible --class "$(basename "$program")" >/dev/null 2>&1 && break
-    sleep 0.2
-done
-((attempt < 100)) || {
-    echo "$program showed no window" >&2
-    exit 1
+
+# soon COMMAND...: tries it until it succeeds; the editor must not end by then
+soon() {
+    local attempt
+    for ((attempt = 0; attempt < 100; ++attempt)); do
+        kill -0 "$editor" 2>/dev/null || fail "$program ended"
+        "$@" && return
+        sleep 0.2
+    done
+    return 1
 }
+window() {
+    window=$(xdotool search --onlyvisible --class "$(basename "$program")" 2>/dev/null | tail -1) && [[ -n $window ]]
+}
+# what the display shows, as a number
+pixels() {
+    import -window root png:- | identify -format '%#' -
+}
+has_changed() {
+    [[ $(pixels) != "$shown" ]]
+}
+is_still() {
+    local before=$shown
+    shown=$(pixels)
+    [[ $shown == "$before" ]]
+}
+
+soon window || fail "$program showed no window"
 sleep 1 # until it is painted
+if ((${#commands[@]})); then
+    # fills the display, as a window manager would let it
+    xdotool windowmove "$window" 0 0 windowsize "$window" 1280 800 windowfocus --sync "$window"
+    for command in "${commands[@]}"; do
+        shown=
+        soon is_still || true
+        xdotool key ctrl+shift+p
+        soon has_changed || fail "There is no palette of commands"
+        xdotool type --delay 20 "$command"
+        xdotool key Return # it comes after the letters, however slow the editor is
+    done
+    sleep 1
+    shown=$(pixels)
+    soon has_changed || fail "Nothing moves"
+fi
 import -window root "$picture"
