@@ -1,6 +1,7 @@
 #include "store/deflateformat.h"
 
 #include <algorithm>
+#include <bit>
 
 namespace {
 
@@ -12,7 +13,29 @@ uint32_t reversed(uint32_t code, int length)
     return result;
 }
 
+/// Codes of lengths and distances grow alike: each power of two is parted into so many codes as there are below it.
+DeflateFormat::Symbol symbolOf(uint32_t value, int partBits)
+{
+    const int bits = std::bit_width(value) - 1;
+    const int extra = std::max(0, bits - partBits);
+    return {(extra << partBits) + int(value >> extra), extra, value & ((1U << extra) - 1)};
+}
+
 } // namespace
+
+DeflateFormat::Symbol DeflateFormat::lengthSymbol(int length)
+{
+    if (length == DeflateToken::MaxMatch) // which has a code of its own
+        return {LiteralCodes - 1, 0, 0};
+    Symbol symbol = symbolOf(uint32_t(length - DeflateToken::MinMatch), 2);
+    symbol.code += FirstLengthCode;
+    return symbol;
+}
+
+DeflateFormat::Symbol DeflateFormat::distanceSymbol(int distance)
+{
+    return symbolOf(uint32_t(distance - 1), 1);
+}
 
 std::vector<int> DeflateFormat::fixedLiteralLengths()
 {

@@ -33,6 +33,14 @@ struct Block
     std::vector<DeflateToken> tokens{};
 };
 
+/// A symbol of an alphabet and the bits that follow its code.
+struct Symbol
+{
+    int code = 0;
+    int extraBits = 0;
+    uint32_t extra = 0;
+};
+
 // The alphabets of a block, and how long their codes may be
 constexpr int EndOfBlock = 256;
 constexpr int FirstLengthCode = 257;
@@ -53,6 +61,10 @@ constexpr int ManyZeros = 18; ///< 11 to 138, by 7 more bits
 // How long the codes are in a block of fixed codes
 [[nodiscard]] std::vector<int> fixedLiteralLengths();
 [[nodiscard]] std::vector<int> fixedDistanceLengths();
+
+/// How the length and the distance of a match are said.
+[[nodiscard]] Symbol lengthSymbol(int length);
+[[nodiscard]] Symbol distanceSymbol(int distance);
 
 /// The codes that have these lengths, the bit that comes first in a stream lowest.
 [[nodiscard]] std::vector<uint32_t> codesOf(const std::vector<int> &lengths);

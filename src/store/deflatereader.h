@@ -25,7 +25,7 @@ private:
     [[nodiscard]] std::vector<DeflateToken> readStored();
     [[nodiscard]] std::vector<DeflateToken> readCoded(const Decoder &literals, const Decoder &distances);
     [[nodiscard]] std::vector<int> readLengths(const Decoder &codes, size_t count);
-    /// The number that a symbol stands for with the bits that follow it (see DeflateWriter).
+    /// The number that a symbol stands for with the bits that follow it (see DeflateFormat).
     [[nodiscard]] int takeValue(int symbol, int partBits);
 
     QByteArrayView m_stream;

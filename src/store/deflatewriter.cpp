@@ -3,39 +3,14 @@
 #include <QtEndian>
 
 #include <algorithm>
-#include <bit>
 
 namespace {
 
 using namespace DeflateFormat;
 using Token = DeflateToken;
 
-using Symbol = DeflateWriter::Symbol;
-
 /// Bits that are written at one go.
 constexpr int WordBits = 32;
-
-/// Codes of lengths and distances grow alike: each power of two is parted into so many codes as there are below it.
-Symbol symbolOf(uint32_t value, int partBits)
-{
-    const int bits = std::bit_width(value) - 1;
-    const int extra = std::max(0, bits - partBits);
-    return {(extra << partBits) + int(value >> extra), extra, value & ((1U << extra) - 1)};
-}
-
-Symbol lengthSymbol(uint32_t length)
-{
-    if (length == Token::MaxMatch) // which has a code of its own
-        return {LiteralCodes - 1, 0, 0};
-    Symbol symbol = symbolOf(length - Token::MinMatch, 2);
-    symbol.code += FirstLengthCode;
-    return symbol;
-}
-
-Symbol distanceSymbol(uint32_t distance)
-{
-    return symbolOf(distance - 1, 1);
-}
 
 using Counts = std::vector<uint32_t>;
 

@@ -10,14 +10,6 @@
 class DeflateWriter
 {
 public:
-    /// A symbol of an alphabet and the bits that follow its code.
-    struct Symbol
-    {
-        int code = 0;
-        int extraBits = 0;
-        uint32_t extra = 0;
-    };
-
     /// Writes a block of the same type, with the best codes if it is one that has its own.
     void writeBlock(const DeflateFormat::Block &block);
     /// What was written, with an empty stored block behind it, which ends at a byte.
@@ -26,7 +18,7 @@ public:
 private:
     void write(uint32_t bits, int count);
     template <class Codes>
-    void write(const Codes &codes, const Symbol &symbol);
+    void write(const Codes &codes, const DeflateFormat::Symbol &symbol);
     void align();
     void writeStored(const std::vector<DeflateToken> &tokens);
     void writeWithOwnCodes(const std::vector<DeflateToken> &tokens);

@@ -54,7 +54,7 @@ class MemberBlocks
 {
 public:
     /// Bytes of a block, as far as rows of cells allow: as much as even a slow machine deflates in 8 ms.
-    static constexpr qsizetype BlockSize = qsizetype(160) << 10;
+    static constexpr qsizetype BlockSize = qsizetype(256) << 10;
 
     /// With kept blocks, which must live as long, a picture that was packed is unpacked instead of being encoded.
     explicit MemberBlocks(const ProjectMember &member, const KeptBlocks *kept = nullptr)
