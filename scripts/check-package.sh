@@ -71,10 +71,21 @@ complete() { # the last word of a command line
 [[ $(complete quenmora-export --format layer2-6) == layer2-640 ]] || fail "Forms are not completed"
 [[ $(complete quenmora-export /tmp/examples/sample.quenmora --asset Hill) == "Hill Tiles" ]] ||
     fail "Assets are not completed"
+# as the entry for file managers has it
+thumbnailer=$(sed -n 's/^Exec=//p' "$system/usr/share/thumbnailers/quenmora.thumbnailer")
+thumbnailer=${thumbnailer/\%o//tmp/thumbnail.png}
+thumbnailer=${thumbnailer/\%s/128}
+# shellcheck disable=SC2086 # words
+inside ${thumbnailer/\%i//tmp/examples/sample.quenmora}
+[[ $(head -c 4 "$system/tmp/thumbnail.png" | tail -c 3) == PNG ]] || fail "It makes no thumbnails"
 apt install make binutils-z80
 inside make --silent --directory=/tmp/examples/game
 [[ -s $system/tmp/examples/game/game.nex ]] || fail "The example game was not built"
 
+echo "==> Checking what catalogues of programs are told"
+apt install appstream desktop-file-utils
+inside appstreamcli validate --pedantic --no-net /usr/share/metainfo/example.quenmora.quenmora.metainfo.xml
+inside desktop-file-validate /usr/share/applications/quenmora.desktop
 echo "==> Starting the program with nothing but what the package brought along"
 status=0
 inside env QT_QPA_PLATFORM=offscreen timeout 5 quenmora || status=$?
