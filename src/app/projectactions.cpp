@@ -1,5 +1,6 @@
 #include "app/projectactions.h"
 
+#include "app/imports/filesagain.h"
 #include "app/imports/nextdataimport.h"
 #include "app/imports/paletteimport.h"
 #include "app/imports/pictureimport.h"
@@ -10,6 +11,7 @@
 #include "app/menus/palettemenu.h"
 #include "app/menus/spritemenu.h"
 #include "app/menus/tilemenu.h"
+#include "importing/kinds.h"
 #include "model/map.h"
 #include "model/mapobjects.h"
 #include "model/palette.h"
@@ -21,8 +23,10 @@
 
 #include <QClipboard>
 #include <QDebug>
+#include <QDir>
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QJsonArray>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -190,7 +194,9 @@ void ProjectActions::importKnown(const QString &filePath, const PictureLoss *kno
     const auto [map, failure] = isNextData(filePath) ? importNextData(*project, filePath, m_dialogParent)
                                                      : importPicture(*project, filePath, m_dialogParent, known);
     if (map) {
-        if (!isNextData(filePath))
+        if (isNextData(filePath))
+            announceData(*map, filePath);
+        else
             announce(*map, filePath, {});
         emit mapReady(map->id());
     }
@@ -214,7 +220,23 @@ void ProjectActions::announce(const Map &map, const QString &filePath, QJsonObje
 {
     choices.insert(QStringLiteral("columns"), map.size().width());
     choices.insert(QStringLiteral("rows"), map.size().height());
+    choices.insert(QStringLiteral("map"), map.id().toString());
+    const int count = map.tileSet()->count();
+    choices.insert(QStringLiteral("tiles"), QJsonArray{QJsonArray{0, count}});
+    emit imported(map.tileSetId(), ImportRecord::Tiles, filePath, choices);
     emit imported(map.id(), ImportRecord::Map, filePath, choices);
+}
+
+void ProjectActions::announceData(const Map &map, const QString &filePath)
+{
+    const QPointer<TileSet> tileSet = map.tileSet();
+    const Importing::AddedAssets added{.palette = tileSet->paletteId(), .tileSet = tileSet->id(), .map = map.id()};
+    const Importing::ImportChoices choices{.kind = Importing::Kinds::DataSet};
+    const QJsonObject made = MadeAssets{added}.addedTo(choices.toJson(), *m_project());
+    const QFileInfo file(filePath);
+    for (const auto &[id, suffix] : {std::pair(added.palette, "nxp"), {added.tileSet, "nxt"}, {added.map, "nxm"}})
+        emit imported(id, ImportRecord::File,
+                      file.dir().filePath(file.completeBaseName() + u'.' + QLatin1String(suffix)), made);
 }
 
 void ProjectActions::importPalette(const QUuid &paletteId, const QString &filePath)

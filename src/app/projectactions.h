@@ -95,6 +95,7 @@ private:
     [[nodiscard]] bool remove(Project &project, ProjectTree::ProjectNode node, const QUuid &id);
     /// Tells of a map that was made of a picture.
     void announce(const Map &map, const QString &filePath, QJsonObject choices);
+    void announceData(const Map &map, const QString &filePath);
     /// The message box for imports, with a text that names the failure.
     void reportIncompleteImport(const QString &failure);
     /// A button in this box that makes a palette of colours for which another one had no room.

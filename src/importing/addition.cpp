@@ -380,6 +380,14 @@ QString problemOf(const Project &project, const IncomingAssets &incoming, const 
     return choices.name.trimmed().isEmpty() ? Texts::tr("Please enter a name") : QString();
 }
 
+int beginningIn(const Project &project, const ImportChoices &choices)
+{
+    if (const auto tileSet = project.tileSet(choices.target))
+        return beginningAt(choices, tileSet->count());
+    const auto bank = project.spriteBank(choices.target);
+    return bank ? beginningAt(choices, bank->count()) : choices.at;
+}
+
 Result<AddedAssets> addTo(Project &project, const IncomingAssets &incoming, const ImportChoices &choices,
                           const StackProvider &stackFor)
 {

@@ -15,12 +15,7 @@ namespace {
 class AddAnimationsCommand final : public QUndoCommand
 {
 public:
-    struct Item
-    {
-        QUuid id;
-        QString name;
-        Animation::State state;
-    };
+    using Item = NewAnimation;
 
     AddAnimationsCommand(SpriteBank &bank, const QList<Item> &items)
         : QUndoCommand(Texts::tr("Import Animations"))
@@ -76,14 +71,19 @@ Animation::State withIds(Animation::State state)
     return state;
 }
 
+void addAnimations(SpriteBank &bank, const QList<NewAnimation> &animations, QUndoStack *stack)
+{
+    AddAnimationsCommand::add(bank, animations);
+    if (stack)
+        stack->push(new AddAnimationsCommand(bank, animations));
+}
+
 void addAnimations(SpriteBank &bank, const NextData::AnimationsContent &content, QUndoStack *stack)
 {
-    QList<AddAnimationsCommand::Item> items;
+    QList<NewAnimation> items;
     for (qsizetype i = 0; i < content.animations.size(); ++i)
         items.append({QUuid::createUuid(), animationName(i), withIds(content.animations[i].state)});
-    AddAnimationsCommand::add(bank, items);
-    if (stack)
-        stack->push(new AddAnimationsCommand(bank, items));
+    addAnimations(bank, items, stack);
 }
 
 } // namespace Importing

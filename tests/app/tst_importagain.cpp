@@ -1,3 +1,4 @@
+#include "app/imports/filesagain.h"
 #include "app/imports/imageagain.h"
 #include "app/imports/importagain.h"
 #include "app/imports/importkeeper.h"
@@ -11,12 +12,15 @@
 #include "importing/filekind.h"
 #include "model/image.h"
 #include "model/map.h"
+#include "model/mapobjects.h"
 #include "model/palette.h"
 #include "model/projectextras.h"
+#include "model/spriteanim.h"
 #include "model/spritebank.h"
 #include "model/tileset.h"
 #include "pictures/ninebitcolour.h"
 #include "pictures/tilereduction.h"
+#include "support/asepritebuilder.h"
 #include "support/editorinput.h"
 #include "support/modeltools.h"
 #include "support/testmain.h"
@@ -78,6 +82,20 @@ struct Scene
         QObject::connect(&actions, &ProjectActions::imported, &memory, &ImportMemory::remember);
         QObject::connect(&actions, &ProjectActions::imported, &memory, [this](const QUuid &id) { asset = id; });
     }
+    /// As a kind of file with the choices that there are at first.
+    Importing::AddedAssets import(const QString &kind)
+    {
+        const auto opened = Importing::ImportFile::open(file);
+        const Importing::ImportChoices choices{.kind = kind, .name = "Name"};
+        const auto incoming = Importing::prepare(project, *opened, choices);
+        if (!incoming)
+            qFatal("%s", qPrintable(incoming.reason()));
+        const auto made = *Importing::addTo(project, *incoming, choices, {});
+        QCoreApplication::processEvents(); // the recorder watches its animations from now on
+        for (const QUuid &id : MadeAssets{made}.ids())
+            memory.remember(id, ImportRecord::File, file, MadeAssets{made}.addedTo(choices.toJson(), project));
+        return made;
+    }
     ImportedAgain again()
     {
         const auto record = memory.recordOf(asset);
@@ -86,7 +104,7 @@ struct Scene
         const auto done = ImportedAgain::run(
             project, asset, *record, [this](const QUuid &) { return &stack; }, nullptr);
         if (done.failure.isEmpty())
-            memory.remember(asset, record->kind, record->file, done.choices);
+            memory.renew(asset, done);
         return done;
     }
 };
@@ -141,7 +159,7 @@ private slots:
         fill(picture, {8, 0, 8, 8}, NineBitColour::shown(300)); // a tile that goes
         fill(picture, {16, 8, 4, 8}, NineBitColour::shown(7)); // the one that is shown elsewhere
         QVERIFY(picture.save(s.file));
-        QCOMPARE(s.memory.changedAssets(), QList<QUuid>{s.asset});
+        QCOMPARE(s.memory.changedAssets().size(), 2); // the map and its tiles
         const ImportedAgain done = s.again();
         QCOMPARE(done.failure, QString());
         QVERIFY(s.memory.changedAssets().isEmpty());
@@ -267,6 +285,195 @@ private slots:
         QCOMPARE(s.again().failure, "The file is not there any more:\n" + s.file);
     }
 
+    /// Tiles whose map was deleted: those that are still in the picture keep their numbers.
+    void tilesWithoutTheirMap()
+    {
+        Scene s;
+        QImage picture = squares({64, 32}, 8);
+        QVERIFY(picture.save(s.file));
+        s.actions.importReduction(s.file, TileReduction::of(picture, {}));
+        const QPointer<TileSet> tiles = s.project.map(s.asset)->tileSet();
+        const int changed = s.project.map(s.asset)->tileLayer()->cellAt({1, 0}).index;
+        QVERIFY(s.project.deleteMap(s.asset));
+        s.asset = tiles->id();
+        QCOMPARE(s.again().failure, QString());
+        QCOMPARE(s.stack.count(), 0);
+        const int count = tiles->count();
+        const TileSet::Snapshot before = tiles->snapshot();
+        fill(picture, {8, 0, 8, 8}, NineBitColour::shown(300));
+        QVERIFY(picture.save(s.file));
+        QCOMPARE(s.memory.changedAssets(), QList<QUuid>{tiles->id()});
+        QCOMPARE(s.again().failure, QString());
+        QVERIFY(s.memory.changedAssets().isEmpty());
+        QCOMPARE(tiles->count(), count);
+        for (int i = 0; i < count; ++i)
+            QCOMPARE(tiles->tile(i)->pixels() == Tile(before[i]).pixels(), i != changed);
+        QCOMPARE(tiles->tileImage(changed, false, false, false, tiles->tileOffset(changed)).pixel(3, 3),
+                 NineBitColour::shown(300));
+        QCOMPARE(s.stack.count(), 1);
+        s.stack.undo();
+        QVERIFY(tiles->snapshot() == before);
+    }
+
+    /// A map of another program with tiles, an animation of them and a sprite.
+    void mapsOfTiled()
+    {
+        Scene s;
+        const auto write = [&s](const QImage &sheet, int width, int x) {
+            QByteArrayList gids{"1", "2", "3", "4", "5", "1"};
+            const QByteArray columns = QByteArray::number(width);
+            const QByteArray text = "<map orientation=\"orthogonal\" width=\"" + columns
+                + "\" height=\"1\" tilewidth=\"8\" tileheight=\"8\"><tileset firstgid=\"1\" name=\"set\" "
+                  "tilewidth=\"8\" "
+                  "tileheight=\"8\" tilecount=\"5\" columns=\"5\"><image source=\"sheet.png\"/><tile "
+                  "id=\"4\"><animation>"
+                  "<frame tileid=\"0\" duration=\"100\"/><frame tileid=\"2\" "
+                  "duration=\"100\"/></animation></tile></tileset>"
+                  "<layer name=\"ground\" width=\""
+                + columns + "\" height=\"1\"><data encoding=\"csv\">" + gids.mid(0, width).join(',')
+                + "</data></layer><objectgroup name=\"things\"><object id=\"1\" gid=\"2\" x=\"" + QByteArray::number(x)
+                + "\" y=\"8\" width=\"8\" height=\"8\"/></objectgroup></map>";
+            QFile file(s.file);
+            return sheet.save(s.folder.filePath("sheet.png")) && file.open(QIODevice::WriteOnly)
+                && file.write(text) == text.size();
+        };
+        QImage sheet = squares({40, 8}, 8);
+        s.file = s.folder.filePath("level.tmx");
+        QVERIFY(write(sheet, 5, 8));
+        const Importing::AddedAssets made = s.import("tiled");
+        const QPointer<Map> map = s.project.map(made.map);
+        const QPointer<TileSet> tiles = map->tileSet();
+        const QPointer<SpriteBank> bank = s.project.spriteBank(made.sprites);
+        const auto animation = s.project.blocks(made.blocks)->animations().constFirst();
+        const Map::Snapshot before = map->snapshot();
+        const TileSet::Snapshot tilesBefore = tiles->snapshot();
+        const auto framesBefore = animation->state();
+        const QImage spriteBefore = bank->renderSprite(0, 0, false, false, false);
+        fill(sheet, {8, 0, 8, 8}, NineBitColour::shown(300));
+        QVERIFY(write(sheet, 6, 16));
+        s.asset = made.sprites; // whichever of them is asked for
+        QCOMPARE(s.memory.changedAssets().size(), 4);
+        QCOMPARE(s.again().failure, QString());
+        QVERIFY(s.memory.changedAssets().isEmpty());
+        QCOMPARE(map->size(), QSize(6, 1));
+        const auto cell = [&map](int x) { return map->tileLayer()->cellAt({x, 0}); };
+        for (const int same : {0, 2, 3})
+            QCOMPARE(cell(same), before.tiles[0][same]);
+        QCOMPARE(cell(5), cell(0));
+        QCOMPARE(cell(1).index, before.tiles[0][1].index); // whose place was free
+        QCOMPARE(map->tileLayer()->toImage({1, 0, 1, 1}).pixel(3, 3), NineBitColour::shown(300));
+        QCOMPARE(tiles->count(), int(tilesBefore.size()));
+        QVERIFY(animation->state() == framesBefore);
+        QCOMPARE(map->animatedBlocks()->state(), before.placements);
+        QCOMPARE(bank->count(), 1);
+        QCOMPARE(bank->renderSprite(0, 0, false, false, false).pixel(3, 3), NineBitColour::shown(300));
+        QCOMPARE(map->sprites().size(), 1);
+        QCOMPARE(map->sprites()[0].x, 16);
+        QCOMPARE(s.stack.count(), 1);
+        s.stack.undo();
+        QVERIFY(map->snapshot() == before);
+        QVERIFY(tiles->snapshot() == tilesBefore);
+        QCOMPARE(bank->renderSprite(0, 0, false, false, false), spriteBefore);
+        QVERIFY(s.project.deleteMap(map->id()));
+        QCOMPARE(s.again().failure, QString()); // what is left of them
+        QCOMPARE(bank->renderSprite(0, 0, false, false, false).pixel(3, 3), NineBitColour::shown(300));
+    }
+
+    void framesOfAseprite()
+    {
+        Scene s;
+        const auto write = [&s](const QList<char> &frames) {
+            AsepriteBuilder builder;
+            builder.width = builder.height = 16;
+            for (qsizetype i = 0; i < frames.size(); ++i) {
+                builder.frame(100);
+                if (i == 0) {
+                    builder.palette({QByteArray(4, '\0'), QByteArray("\xFF\x00\x00\xFF", 4),
+                                     QByteArray("\x00\xFF\x00\xFF", 4), QByteArray("\x00\x00\xFF\xFF", 4)});
+                    builder.layer("one");
+                    builder.tags({AsepriteBuilder::tag(0, int(frames.size()) - 1, 0, 0, "run")});
+                }
+                builder.raw(0, {}, {16, 16}, QByteArray(256, frames[i]));
+            }
+            QFile file(s.file);
+            const QByteArray bytes = builder.bytes();
+            return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+        };
+        s.file = s.folder.filePath("hero.aseprite");
+        QVERIFY(write({1, 2}));
+        const Importing::AddedAssets made = s.import("aseprite-sprites");
+        const QPointer<SpriteBank> bank = s.project.spriteBank(made.sprites);
+        bank->addSprite();
+        bank->setImage(2, plainImage({16, 16}, 1)); // drawn by hand
+        const auto animation = bank->animations().constFirst();
+        const auto shown = [&] {
+            QStringList colours;
+            for (int i = 0; i < bank->count(); ++i)
+                colours.append(QString::number(bank->renderSprite(i, 0, false, false, false).pixel(8, 8), 16));
+            return colours.join(' ');
+        };
+        const auto cells = [&animation] {
+            QList<int> numbers;
+            for (int i = 0; i < animation->frameCount(); ++i)
+                numbers.append(animation->frame(i)->cell(0, 0).index);
+            return numbers;
+        };
+        QCOMPARE(cells(), (QList{0, 1}));
+        const QString before = shown();
+        const int steps = s.stack.count();
+        QVERIFY(write({3, 1, 2}));
+        s.asset = made.sprites;
+        QCOMPARE(s.again().failure, QString());
+        QCOMPARE(shown(), before + " ff0000ff"); // behind what was drawn
+        QCOMPARE(cells(), (QList{3, 0, 1}));
+        QCOMPARE(s.stack.count(), steps + 1);
+        s.stack.undo();
+        QCOMPARE(shown(), before);
+        QCOMPARE(cells(), (QList{0, 1}));
+        s.stack.redo();
+        QCOMPARE(s.again().failure, QString());
+        QCOMPARE(s.stack.count(), steps + 1); // as it is
+    }
+
+    /// The files of a data set, number by number, whichever of its assets is asked for.
+    void dataSets()
+    {
+        Scene s;
+        QDateTime time = QDateTime::currentDateTime();
+        const auto write = [&s, &time](char word, char pixels, char tile) {
+            time = time.addSecs(1); // the files have the sizes that they had
+            const QHash<QString, QByteArray> files{{"nxp", QByteArray(512, word)},
+                                                   {"nxt", QByteArray(32, '\x12') + QByteArray(32, pixels)},
+                                                   {"nxm", QByteArray("\2\2", 2) + QByteArray(256, '\0')},
+                                                   {"nxb", QByteArray(1, tile) + QByteArray(7, '\0')}};
+            for (auto each = files.cbegin(); each != files.cend(); ++each) {
+                QFile file(s.folder.filePath("world." + each.key()));
+                if (!file.open(QIODevice::WriteOnly) || file.write(*each) != each->size() || !file.flush()
+                    || !file.setFileTime(time, QFile::FileModificationTime))
+                    return false;
+            }
+            return true;
+        };
+        QVERIFY(write('\1', '\x34', '\1'));
+        s.actions.importMap(s.folder.filePath("world.nxm"));
+        const QPointer<Map> map = s.project.map(s.asset);
+        const QPointer<TileSet> tiles = map->tileSet();
+        const auto state = [&] {
+            return QList<int>{tiles->palette()->rawColour(3), tiles->tile(1)->pixels()[0],
+                              map->tileLayer()->cellAt({0, 0}).index};
+        };
+        const QList<int> before = state();
+        QVERIFY(write('\0', '\x56', '\0'));
+        s.asset = tiles->id();
+        QCOMPARE(s.memory.changedAssets().size(), 2); // the map's own file is the same
+        QCOMPARE(s.again().failure, QString());
+        QVERIFY(s.memory.changedAssets().isEmpty());
+        QCOMPARE(state(), (QList<int>{0, 5, 0}));
+        QCOMPARE(s.stack.count(), 1);
+        s.stack.undo();
+        QCOMPARE(state(), before);
+    }
+
     /// What any other file became takes its content again.
     void filesOfOtherKinds()
     {
@@ -297,6 +504,17 @@ private slots:
         QCOMPARE(s.project.palettes().size(), 1);
         s.stack.undo();
         QCOMPARE(palette->rawColour(7), 0x2401);
+
+        // tiles are replaced, not added once more
+        const Importing::ImportChoices tiles{.kind = "tiles-4bit", .name = "Rocks"};
+        const auto made = Importing::addTo(s.project, *Importing::prepare(s.project, *file, tiles), tiles, stackFor);
+        s.asset = made->tileSet;
+        s.memory.remember(s.asset, ImportRecord::File, s.file, tiles.toJson());
+        const QPointer<TileSet> rocks = s.project.tileSet(s.asset);
+        QCOMPARE(rocks->count(), 16);
+        QCOMPARE(s.again().failure, QString());
+        QCOMPARE(rocks->count(), 16);
+        QCOMPARE(int(rocks->tile(15)->pixels()[0]), 4);
     }
 
     /// Named as seen from the project's file, wherever that goes; what is damaged counts as nothing.

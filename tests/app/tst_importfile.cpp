@@ -125,6 +125,15 @@ private slots:
         QCOMPARE(tiles->count(), 6);
         m_window->documentController()->undoGroup()->undo();
         QVERIFY(tiles->snapshot() == before);
+
+        // where they went is known when the file is imported again
+        int at = 0;
+        connect(m_window->fileImport(), &FileImport::imported, this,
+                [&at](const QString &, const Importing::ImportChoices &choices) { at = choices.at; });
+        m_window->fileImport()->importFiles({m_path("more.nxt")});
+        choose("target", tiles->id());
+        dialog().accept();
+        QCOMPARE(at, 3);
     }
 
     void saysWhatCannotBe()

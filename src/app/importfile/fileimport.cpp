@@ -121,10 +121,12 @@ void FileImport::add(const ImportChoices &choices, const IncomingAssets &incomin
     if (!project)
         return;
     const QString path = m_files.value(m_next - 1);
+    ImportChoices done = choices;
+    done.at = beginningIn(*project, choices); // where it goes when it is imported again
     const Result<AddedAssets> added = addTo(*project, incoming, choices, m_stackFor);
     if (added) {
         show(*added);
-        emit imported(path, choices, *added);
+        emit imported(path, done, *added);
         emit message(
             tr("Imported %1: %2").arg(QFileInfo(path).fileName(), factsOf(incoming).join(QStringLiteral("; "))));
     } else {

@@ -1,5 +1,6 @@
 #include "app/imports/importagain.h"
 
+#include "app/imports/filesagain.h"
 #include "app/imports/imageagain.h"
 #include "app/imports/mapagain.h"
 #include "app/imports/paletteimport.h"
@@ -10,6 +11,7 @@
 #include "model/palette.h"
 #include "model/project.h"
 #include "model/spritebank.h"
+#include "model/tileset.h"
 #include "ui/busy.h"
 
 #include <QCoreApplication>
@@ -45,6 +47,8 @@ ImportedAgain fileAgain(Project &project, const QUuid &asset, const ImportRecord
     if (!kind || !kind->takesTarget)
         return {Texts::tr("Such a file makes new assets, and cannot go into those that are there"), {}, {}};
     choices->target = asset;
+    if (choices->at == Importing::ImportChoices::AtTheEnd)
+        choices->at = 0; // it was new
     const auto file = Importing::ImportFile::open(record.file);
     if (!file)
         return {file.reason(), {}, {}};
@@ -64,7 +68,13 @@ ImportedAgain again(Project &project, const QUuid &asset, const ImportRecord &re
     switch (record.kind) {
     case ImportRecord::Map:
         if (const QPointer<Map> map = project.map(asset))
-            return mapAgain(*map, record, stack, window);
+            return mapAgain(map->tileSet(), map, record, stack, window);
+        break;
+    case ImportRecord::Tiles:
+        if (const QPointer<TileSet> tileSet = project.tileSet(asset)) {
+            const QPointer<Map> map = project.map(QUuid(record.choices[QStringLiteral("map")].toString()));
+            return mapAgain(tileSet, map && map->tileSet() == tileSet ? map.data() : nullptr, record, stack, window);
+        }
         break;
     case ImportRecord::Sprites:
         if (const QPointer<SpriteBank> bank = project.spriteBank(asset))
@@ -79,7 +89,8 @@ ImportedAgain again(Project &project, const QUuid &asset, const ImportRecord &re
             return paletteAgain(*palette, record, stack);
         break;
     case ImportRecord::File:
-        return fileAgain(project, asset, record, stackFor);
+        return MadeAssets::areIn(record.choices) ? filesAgain(project, record, stack, window)
+                                                 : fileAgain(project, asset, record, stackFor);
     }
     return {Texts::tr("What was made of it is not there any more"), {}, {}};
 }

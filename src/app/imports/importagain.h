@@ -3,6 +3,7 @@
 #include "app/imports/importrecord.h"
 #include "importing/addition.h"
 
+#include <QList>
 #include <QString>
 #include <QUuid>
 
@@ -13,9 +14,10 @@ class QWidget;
 /// What came of bringing an asset up to date with the file that it was made of.
 struct ImportedAgain
 {
-    QString failure; ///< why it is as it was; empty when it is up to date
-    QString told; ///< what was done, and what was lost
-    QJsonObject choices; ///< to be remembered from now on
+    QString failure{}; ///< why it is as it was; empty when it is up to date
+    QString told{}; ///< what was done, and what was lost
+    QJsonObject choices{}; ///< to be remembered from now on
+    QList<QUuid> together{}; ///< what was made of the file with it, and is up to date as well
 
     /// Does it in one step on the asset's stack, which is where structural edits of it are recorded as well. What was
     /// made of the asset since keeps looking as it does: tiles and sprites that are still in the picture keep their

@@ -2,7 +2,9 @@
 
 #include "pictures/dithering.h"
 
+#include <QJsonArray>
 #include <QJsonValue>
+#include <QList>
 #include <QString>
 
 #include <optional>
@@ -13,5 +15,10 @@ namespace ImportChoice {
 [[nodiscard]] QString nameOf(Dithering dithering);
 /// None for whatever is no name of one.
 [[nodiscard]] std::optional<Dithering> ditheringOf(const QJsonValue &name);
+
+/// Numbers of tiles or sprites, in their order: pairs of a first one and how many follow each other.
+[[nodiscard]] QJsonArray rangesOf(const QList<int> &numbers);
+/// Those of them that are below a count.
+[[nodiscard]] QList<int> numbersOf(const QJsonValue &ranges, int count);
 
 } // namespace ImportChoice

@@ -2,6 +2,7 @@
 
 #include "app/documentcontroller.h"
 #include "app/importfile/fileimport.h"
+#include "app/imports/filesagain.h"
 #include "app/imports/imageagain.h"
 #include "app/imports/importagain.h"
 #include "app/imports/importnotice.h"
@@ -11,8 +12,10 @@
 #include "app/projecttree/projecttree.h"
 #include "editors/canvas/imageimport.h"
 #include "importing/filekind.h"
+#include "importing/kinds.h"
 #include "model/image.h"
 #include "model/palette.h"
+#include "model/tileset.h"
 
 #include <QFileInfo>
 
@@ -22,16 +25,18 @@ namespace {
 QUuid targetOf(const Importing::ImportChoices &choices, const Importing::AddedAssets &added)
 {
     using NextData::AssetKind;
-    const Importing::FileKind *kind = Importing::findFileKind(choices.kind);
-    if (!kind || !kind->takesTarget)
-        return {};
     if (!choices.target.isNull())
         return choices.target;
+    const Importing::FileKind *kind = Importing::findFileKind(choices.kind);
+    if (!kind || !kind->takesTarget || kind->id == Importing::Kinds::AsepriteSprites)
+        return {};
     switch (kind->asset) {
     case AssetKind::Palette:
         return added.palette;
     case AssetKind::TileSet:
         return added.tileSet;
+    case AssetKind::Map:
+        return added.map;
     case AssetKind::SpriteBank:
         return added.sprites;
     case AssetKind::Image:
@@ -65,8 +70,10 @@ ImportKeeper::ImportKeeper(ProjectController *projects, DocumentController *docu
             });
     connect(m_notice, &ImportNotice::accepted, this, [this] {
         const QList<QUuid> offered = m_offered;
-        for (const QUuid &asset : offered)
-            importAgain(asset);
+        for (const QUuid &asset : offered) {
+            if (m_memory.changedAssets().contains(asset)) // which it may not be any more, after another one
+                importAgain(asset);
+        }
         m_memory.dismiss(offered); // also what failed, which was told
         look();
     });
@@ -86,8 +93,13 @@ void ImportKeeper::follow(const FileImport &files)
     connect(&files, &FileImport::imported, this,
             [this](const QString &file, const Importing::ImportChoices &choices, const Importing::AddedAssets &added) {
                 const QUuid target = targetOf(choices, added);
-                if (!target.isNull())
+                if (!target.isNull()) {
                     m_memory.remember(target, ImportRecord::File, file, choices.toJson());
+                    return;
+                }
+                const QJsonObject made = MadeAssets{added}.addedTo(choices.toJson(), *m_projects->project());
+                for (const QUuid &asset : MadeAssets{added}.ids())
+                    m_memory.remember(asset, ImportRecord::File, file, made);
             });
 }
 
@@ -130,7 +142,7 @@ void ImportKeeper::importAgain(const QUuid &asset)
         emit failed(tr("The file could not be imported again"), tr("Import Again"), done.failure);
         return;
     }
-    m_memory.remember(asset, record->kind, record->file, done.choices);
+    m_memory.renew(asset, done);
     emit message(done.told);
     look();
 }

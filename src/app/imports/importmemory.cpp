@@ -67,6 +67,19 @@ void ImportMemory::remember(const QUuid &asset, ImportRecord::Kind kind, const Q
     store(asset, {kind, path, stateOf(path).digest(), choices});
 }
 
+void ImportMemory::renew(const QUuid &asset, const ImportedAgain &done)
+{
+    const auto record = recordOf(asset);
+    if (!record)
+        return;
+    remember(asset, record->kind, record->file, done.choices);
+    for (const QUuid &other : done.together) {
+        const auto its = recordOf(other);
+        if (its && QFileInfo(its->file).completeBaseName() == QFileInfo(record->file).completeBaseName())
+            remember(other, its->kind, its->file, done.choices);
+    }
+}
+
 std::optional<ImportRecord> ImportMemory::recordOf(const QUuid &asset) const
 {
     if (!m_project || asset.isNull())

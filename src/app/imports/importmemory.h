@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/filestate.h"
+#include "app/imports/importagain.h"
 #include "app/imports/importrecord.h"
 #include "model/project.h"
 
@@ -26,6 +27,8 @@ public:
 
     /// Remembers that an asset was made of a file as it is now.
     void remember(const QUuid &asset, ImportRecord::Kind kind, const QString &file, const QJsonObject &choices);
+    /// Remembers that an asset, and what came with it, is up to date with its file.
+    void renew(const QUuid &asset, const ImportedAgain &done);
     [[nodiscard]] std::optional<ImportRecord> recordOf(const QUuid &asset) const;
     [[nodiscard]] bool knows(const QUuid &asset) const { return recordOf(asset).has_value(); }
 

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr std::array Kinds{"map", "sprites", "image", "palette", "file"};
+constexpr std::array Kinds{"map", "sprites", "image", "palette", "file", "tiles"};
 
 /// The folder that paths are seen from, and those above it that may be gone through: a path that climbs higher says
 /// more about this computer than about the project.

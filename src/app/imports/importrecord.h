@@ -9,7 +9,7 @@
 /// Where an asset came from: a file, and what was chosen for it.
 struct ImportRecord
 {
-    enum Kind { Map, Sprites, Image, Palette, File };
+    enum Kind { Map, Sprites, Image, Palette, File, Tiles };
 
     Kind kind = Map;
     QString file; ///< its whole path
