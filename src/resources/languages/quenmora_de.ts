@@ -212,6 +212,10 @@
 %n Frames [%2x%3]</numerusform>
         </translation>
     </message>
+    <message>
+        <source>There are no animations yet. Add below makes the first one.</source>
+        <translation>Es gibt noch keine Animationen. „Hinzufügen“ unten legt die erste an.</translation>
+    </message>
 </context>
 <context>
     <name>AnimationEditor::AnimationToolBar</name>
@@ -341,6 +345,14 @@ Offset:	%2
 Vertikal gespiegelt:	%3
 Horizontal gespiegelt:	%4
 Gedreht:	%5</translation>
+    </message>
+    <message>
+        <source>Column %1, row %2, sprite %3</source>
+        <translation>Spalte %1, Zeile %2, Sprite %3</translation>
+    </message>
+    <message>
+        <source>Column %1, row %2, tile %3</source>
+        <translation>Spalte %1, Zeile %2, Tile %3</translation>
     </message>
 </context>
 <context>
@@ -497,6 +509,13 @@ Gedreht:	%5</translation>
     </message>
 </context>
 <context>
+    <name>CanvasKeys</name>
+    <message>
+        <source>Column %1, row %2, colour %3, %4</source>
+        <translation>Spalte %1, Zeile %2, Farbe %3, %4</translation>
+    </message>
+</context>
+<context>
     <name>CircleCanvasTool</name>
     <message>
         <source>Filled Circle</source>
@@ -505,6 +524,96 @@ Gedreht:	%5</translation>
     <message>
         <source>Circle</source>
         <translation>Kreis</translation>
+    </message>
+</context>
+<context>
+    <name>ColourCyclesDialog</name>
+    <message>
+        <source>&amp;Add Selection</source>
+        <translation>Auswahl &amp;hinzufügen</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>Ranges of the palette whose colours go round</source>
+        <translation>Bereiche der Palette, deren Farben umlaufen</translation>
+    </message>
+    <message>
+        <source>How many frames of the machine&apos;s screen, fifty a second, pass from step to step</source>
+        <translation>Wie viele Bilder des Bildschirms der Maschine, fünfzig in der Sekunde, von Schritt zu Schritt vergehen</translation>
+    </message>
+    <message>
+        <source>To higher entries</source>
+        <translation>Zu höheren Einträgen</translation>
+    </message>
+    <message>
+        <source>To lower entries</source>
+        <translation>Zu niedrigeren Einträgen</translation>
+    </message>
+    <message>
+        <source>Where colours move</source>
+        <translation>Wohin die Farben wandern</translation>
+    </message>
+    <message>
+        <source>The colours of a range go round: each moves to the next entry, and the one that leaves at one end comes in at the other. Neither palette nor pictures change.</source>
+        <translation>Die Farben eines Bereichs laufen um: Jede rückt zum nächsten Eintrag, und die am einen Ende hinausgeht, kommt am anderen herein. Weder Palette noch Bilder ändern sich.</translation>
+    </message>
+    <message>
+        <source>First entry</source>
+        <translation>Erster Eintrag</translation>
+    </message>
+    <message>
+        <source>Last entry</source>
+        <translation>Letzter Eintrag</translation>
+    </message>
+    <message>
+        <source>Frames a step</source>
+        <translation>Bilder je Schritt</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Richtung</translation>
+    </message>
+    <message>
+        <source>Colour Cycles of %1</source>
+        <translation>Farbzyklen von %1</translation>
+    </message>
+    <message>
+        <source>Colour Cycles</source>
+        <translation>Farbzyklen</translation>
+    </message>
+    <message>
+        <source>%1 to %2, to lower entries</source>
+        <translation>%1 bis %2, zu niedrigeren Einträgen</translation>
+    </message>
+    <message>
+        <source>%1 to %2, to higher entries</source>
+        <translation>%1 bis %2, zu höheren Einträgen</translation>
+    </message>
+    <message>
+        <source>%1 steps a second</source>
+        <translation>%1 Schritte in der Sekunde</translation>
+    </message>
+    <message>
+        <source>Lets the colours of the entries go round that are selected in the palette</source>
+        <translation>Lässt die Farben der Einträge umlaufen, die in der Palette ausgewählt sind</translation>
+    </message>
+    <message>
+        <source>Select two or more entries in the palette that are in no range yet</source>
+        <translation>Wählen Sie in der Palette zwei oder mehr Einträge aus, die noch in keinem Bereich sind</translation>
+    </message>
+</context>
+<context>
+    <name>ColourCycling</name>
+    <message>
+        <source>&amp;Play Colour Cycles</source>
+        <translation>&amp;Farbzyklen abspielen</translation>
+    </message>
+    <message>
+        <source>Lets the colours of palettes&apos; ranges go round in all views; nothing is changed</source>
+        <translation>Lässt die Farben der Bereiche von Paletten in allen Ansichten umlaufen; geändert wird nichts</translation>
     </message>
 </context>
 <context>
@@ -552,6 +661,18 @@ Transparent</translation>
         <source>Index: %1</source>
         <translation>Index: %1</translation>
     </message>
+    <message>
+        <source>Colour %1, %2, transparent</source>
+        <translation>Farbe %1, %2, transparent</translation>
+    </message>
+    <message>
+        <source>Colour %1, %2, background</source>
+        <translation>Farbe %1, %2, Hintergrund</translation>
+    </message>
+    <message>
+        <source>Colour %1, %2</source>
+        <translation>Farbe %1, %2</translation>
+    </message>
 </context>
 <context>
     <name>ColourSelector</name>
@@ -566,6 +687,18 @@ Transparent</translation>
     <message>
         <source>Transparent on maps</source>
         <translation>Transparent auf Karten</translation>
+    </message>
+    <message>
+        <source>Colour %1, %2, transparent</source>
+        <translation>Farbe %1, %2, transparent</translation>
+    </message>
+    <message>
+        <source>Colour %1, %2, background</source>
+        <translation>Farbe %1, %2, Hintergrund</translation>
+    </message>
+    <message>
+        <source>Colour %1, %2</source>
+        <translation>Farbe %1, %2</translation>
     </message>
 </context>
 <context>
@@ -658,6 +791,10 @@ Transparent</translation>
         <source>%1 ▸ %2</source>
         <translation>%1 ▸ %2</translation>
     </message>
+    <message>
+        <source>Sprites</source>
+        <translation>Sprites</translation>
+    </message>
 </context>
 <context>
     <name>CreationDialog</name>
@@ -746,6 +883,13 @@ Transparent</translation>
     <message>
         <source>4-bit, 16 colours</source>
         <translation>4 Bit, 16 Farben</translation>
+    </message>
+</context>
+<context>
+    <name>DockTabs</name>
+    <message>
+        <source>Docks</source>
+        <translation>Andockfenster</translation>
     </message>
 </context>
 <context>
@@ -857,6 +1001,14 @@ Transparent</translation>
     <message>
         <source>What there was to say could not be written</source>
         <translation>Die Meldungen konnten nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>There is nothing in it that a picture could show</source>
+        <translation>Darin ist nichts, was ein Bild zeigen könnte</translation>
+    </message>
+    <message>
+        <source>No picture could be made</source>
+        <translation>Es konnte kein Bild erzeugt werden</translation>
     </message>
 </context>
 <context>
@@ -1299,10 +1451,6 @@ Fügen Sie Paletten, Tiles, Karten mit allem, was darauf platziert ist, Sprites,
         <translation>Dateien des Next (*.pal *.npl *.nxp *.nxt *.til *.ch8 *.map *.nxm *.nxb *.spr *.nxi *.sl2 *.slr *.bin)</translation>
     </message>
     <message>
-        <source>Maps of Tiled (*.tmx *.tmj)</source>
-        <translation>Karten von Tiled (*.tmx *.tmj)</translation>
-    </message>
-    <message>
         <source>Sprites of Aseprite (*.aseprite *.ase)</source>
         <translation>Sprites von Aseprite (*.aseprite *.ase)</translation>
     </message>
@@ -1321,6 +1469,10 @@ Fügen Sie Paletten, Tiles, Karten mit allem, was darauf platziert ist, Sprites,
     <message>
         <source>&amp;Clear</source>
         <translation>Liste &amp;leeren</translation>
+    </message>
+    <message>
+        <source>Maps and tile sets of Tiled (*.tmx *.tmj *.tsx *.tsj)</source>
+        <translation>Karten und Tilesets von Tiled (*.tmx *.tmj *.tsx *.tsj)</translation>
     </message>
 </context>
 <context>
@@ -1864,6 +2016,25 @@ Fügen Sie Paletten, Tiles, Karten mit allem, was darauf platziert ist, Sprites,
     </message>
 </context>
 <context>
+    <name>Guide</name>
+    <message>
+        <source>The guide is not installed</source>
+        <translation>Die Anleitung ist nicht installiert</translation>
+    </message>
+    <message>
+        <source>It comes with Quenmora&apos;s package.</source>
+        <translation>Sie ist im Paket von Quenmora enthalten.</translation>
+    </message>
+    <message>
+        <source>No program was found that shows the guide</source>
+        <translation>Es wurde kein Programm gefunden, das die Anleitung zeigt</translation>
+    </message>
+    <message>
+        <source>It is in this file: %1</source>
+        <translation>Sie ist in dieser Datei: %1</translation>
+    </message>
+</context>
+<context>
     <name>HelpMenu</name>
     <message>
         <source>&amp;Help</source>
@@ -1884,6 +2055,22 @@ Fügen Sie Paletten, Tiles, Karten mit allem, was darauf platziert ist, Sprites,
     <message>
         <source>&amp;Keyboard Shortcuts…</source>
         <translation>&amp;Tastenkürzel…</translation>
+    </message>
+    <message>
+        <source>&amp;Guide</source>
+        <translation>An&amp;leitung</translation>
+    </message>
+    <message>
+        <source>Opens the guide in your browser, at the page about what you work on</source>
+        <translation>Öffnet die Anleitung im Browser auf der Seite über das, woran Sie arbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Sample Project</source>
+        <translation>&amp;Beispielprojekt</translation>
+    </message>
+    <message>
+        <source>Opens a small game to look at and to play with; saving makes a copy of your own</source>
+        <translation>Öffnet ein kleines Spiel zum Ansehen und Ausprobieren; beim Speichern entsteht Ihre eigene Kopie</translation>
     </message>
 </context>
 <context>
@@ -2009,6 +2196,10 @@ Fügen Sie Paletten, Tiles, Karten mit allem, was darauf platziert ist, Sprites,
     <message>
         <source>Scratch Image</source>
         <translation>Skizze</translation>
+    </message>
+    <message>
+        <source>Paint here, or bring in a picture with Open among the tools</source>
+        <translation>Malen Sie hier, oder holen Sie mit „Öffnen“ bei den Werkzeugen ein Bild herein</translation>
     </message>
 </context>
 <context>
@@ -2790,6 +2981,34 @@ Farben: %3 für %4 des Bildes; Gruppen: %5</translation>
         <source>Takes tile sets and pictures from wherever the map says that they are</source>
         <translation>Übernimmt Tilesets und Bilder von überall, wo sie laut Karte liegen</translation>
     </message>
+    <message>
+        <source>Import Image</source>
+        <translation>Bild importieren</translation>
+    </message>
+    <message>
+        <source>“%1” has %2 × %3 pixels, and the picture has %4 × %5</source>
+        <translation>„%1“ hat %2 × %3 Pixel, das Bild aber %4 × %5</translation>
+    </message>
+    <message>
+        <source>Choose the map on which these are placed</source>
+        <translation>Wählen Sie die Karte, auf der diese platziert sind</translation>
+    </message>
+    <message>
+        <source>What record %1 (counted from 0) shows is not in the project, where it is looked for by its place</source>
+        <translation>Was Datensatz %1 (ab 0 gezählt) zeigt, ist nicht im Projekt, wo es nach seiner Stelle gesucht wird</translation>
+    </message>
+    <message>
+        <source>Placed animations: %1</source>
+        <translation>Platzierte Animationen: %1</translation>
+    </message>
+    <message>
+        <source>The colours are left out, since other assets are drawn with the palette of “%1” as well</source>
+        <translation>Die Farben werden ausgelassen, da mit der Palette von „%1“ auch andere Assets gezeichnet werden</translation>
+    </message>
+    <message>
+        <source>Tile set of Tiled</source>
+        <translation>Tileset von Tiled</translation>
+    </message>
 </context>
 <context>
     <name>IndexSuffix</name>
@@ -2826,6 +3045,14 @@ Farben: %3 für %4 des Bildes; Gruppen: %5</translation>
     <message>
         <source>Previous Dock</source>
         <translation>Vorheriges Andockfenster</translation>
+    </message>
+    <message>
+        <source>Next Dock Behind</source>
+        <translation>Nächstes Andockfenster dahinter</translation>
+    </message>
+    <message>
+        <source>Previous Dock Behind</source>
+        <translation>Vorheriges Andockfenster dahinter</translation>
     </message>
 </context>
 <context>
@@ -3148,6 +3375,54 @@ Farben: %3 für %4 des Bildes; Gruppen: %5</translation>
     </message>
 </context>
 <context>
+    <name>MapEditor::MapKeys</name>
+    <message>
+        <source>Column %1, row %2</source>
+        <translation>Spalte %1, Zeile %2</translation>
+    </message>
+    <message>
+        <source>tile %1</source>
+        <translation>Tile %1</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>leer</translation>
+    </message>
+    <message>
+        <source>rotated</source>
+        <translation>gedreht</translation>
+    </message>
+    <message>
+        <source>flipped</source>
+        <translation>vertikal gespiegelt</translation>
+    </message>
+    <message>
+        <source>mirrored</source>
+        <translation>horizontal gespiegelt</translation>
+    </message>
+    <message>
+        <source>palette offset %1</source>
+        <translation>Paletten-Offset %1</translation>
+    </message>
+    <message>
+        <source>animation</source>
+        <translation>Animation</translation>
+    </message>
+    <message>
+        <source>sprite</source>
+        <translation>Sprite</translation>
+    </message>
+    <message>
+        <source>sprite %1</source>
+        <translation>Sprite %1</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of what a cell shows</comment>
+        <translation>, </translation>
+    </message>
+</context>
+<context>
     <name>MapEditor::MapOverview</name>
     <message>
         <source>Overview</source>
@@ -3297,6 +3572,10 @@ Farben: %3 für %4 des Bildes; Gruppen: %5</translation>
     <message>
         <source>Replace Tile in All Maps</source>
         <translation>Tile in allen Karten ersetzen</translation>
+    </message>
+    <message>
+        <source>Choose a tile in the Tiles dock and paint here: the left button paints, the right one clears</source>
+        <translation>Wählen Sie im Fenster „Tiles“ ein Tile und malen Sie hier: Die linke Taste malt, die rechte leert</translation>
     </message>
 </context>
 <context>
@@ -4682,6 +4961,18 @@ Farben: %3 für %4 des Bildes; Gruppen: %5</translation>
         <source>The folder %1 cannot be made</source>
         <translation>Der Ordner %1 kann nicht angelegt werden</translation>
     </message>
+    <message>
+        <source>The records do not lie in the file as its beginning says</source>
+        <translation>Die Datensätze liegen nicht so in der Datei, wie ihr Anfang sagt</translation>
+    </message>
+    <message>
+        <source>ranges</source>
+        <translation>Bereiche</translation>
+    </message>
+    <message>
+        <source>Ranges of a palette whose colours go round</source>
+        <translation>Bereiche einer Palette, deren Farben umlaufen</translation>
+    </message>
 </context>
 <context>
     <name>NextDataImport</name>
@@ -4992,6 +5283,14 @@ Farben: %3 für %4 des Bildes; Gruppen: %5</translation>
         <source>Index %1: $%2</source>
         <translation>Index %1: $%2</translation>
     </message>
+    <message>
+        <source>Colour %1, %2, transparent</source>
+        <translation>Farbe %1, %2, transparent</translation>
+    </message>
+    <message>
+        <source>Colour %1, %2</source>
+        <translation>Farbe %1, %2</translation>
+    </message>
 </context>
 <context>
     <name>PaletteMenu</name>
@@ -5149,6 +5448,18 @@ Palette ▸ Neue Palette legt eine an.</translation>
         <source>The entries cannot change places: tiles and 4-bit sprites need theirs in their group of 16, and transparent entries, and those of tiles that are drawn with several palette offsets, must stay where they are</source>
         <translation>Die Einträge können nicht die Plätze tauschen: Tiles und 4-Bit-Sprites brauchen ihre Einträge in deren 16er-Gruppe, und transparente Einträge sowie die von Tiles, die mit mehreren Paletten-Offsets gezeichnet werden, müssen an ihrem Platz bleiben</translation>
     </message>
+    <message>
+        <source>Colour C&amp;ycles…</source>
+        <translation>Farb&amp;zyklen…</translation>
+    </message>
+    <message>
+        <source>Ranges of entries whose colours go round, so that water flows and fires burn</source>
+        <translation>Bereiche von Einträgen, deren Farben umlaufen, damit Wasser fließt und Feuer brennen</translation>
+    </message>
+    <message>
+        <source>Move Palette Entries</source>
+        <translation>Paletteneinträge verschieben</translation>
+    </message>
 </context>
 <context>
     <name>PaletteWindow</name>
@@ -5187,6 +5498,10 @@ Palette ▸ Neue Palette legt eine an.</translation>
     <message>
         <source>Palette: %1</source>
         <translation>Palette: %1</translation>
+    </message>
+    <message>
+        <source>All colours are black. Choose one and change it below, or bring in others with Palette ▸ Import.</source>
+        <translation>Alle Farben sind schwarz. Wählen Sie eine und ändern Sie sie unten, oder holen Sie andere mit Palette ▸ Importieren.</translation>
     </message>
 </context>
 <context>
@@ -5465,6 +5780,10 @@ Das Projekt selbst ist in Ordnung.
     <message>
         <source>Project file (*.quenmora)</source>
         <translation>Projektdatei (*.quenmora)</translation>
+    </message>
+    <message>
+        <source>The sample project is not installed</source>
+        <translation>Das Beispielprojekt ist nicht installiert</translation>
     </message>
 </context>
 <context>
@@ -6039,6 +6358,22 @@ Dateien, deren Bytes gleich bleiben, werden nicht angerührt.</translation>
         <source>A project file is missing</source>
         <translation>Es fehlt eine Projektdatei</translation>
     </message>
+    <message>
+        <source>Write a small picture of the project, as file managers show, to this PNG file …</source>
+        <translation>Ein kleines Bild des Projekts, wie Dateimanager es zeigen, in diese PNG-Datei schreiben …</translation>
+    </message>
+    <message>
+        <source>… of at most so many pixels along its sides; 256 without this.</source>
+        <translation>… mit höchstens so vielen Pixeln je Seite; ohne dies 256.</translation>
+    </message>
+    <message>
+        <source>pixels</source>
+        <translation>Pixel</translation>
+    </message>
+    <message>
+        <source>--%1 takes a number from 1 to %2, not “%3”</source>
+        <translation>--%1 erwartet eine Zahl von 1 bis %2, nicht „%3“</translation>
+    </message>
 </context>
 <context>
     <name>RgbEditor</name>
@@ -6425,6 +6760,18 @@ Dateien, deren Bytes gleich bleiben, werden nicht angerührt.</translation>
         <source>Paste Image</source>
         <translation>Bild einfügen</translation>
     </message>
+    <message>
+        <source>Add Sprite</source>
+        <translation>Sprite hinzufügen</translation>
+    </message>
+    <message>
+        <source>Sprite %1</source>
+        <translation>Sprite %1</translation>
+    </message>
+    <message>
+        <source>Add a sprite</source>
+        <translation>Ein Sprite hinzufügen</translation>
+    </message>
 </context>
 <context>
     <name>SpriteImport</name>
@@ -6565,6 +6912,10 @@ Dateien, deren Bytes gleich bleiben, werden nicht angerührt.</translation>
         <source>Transparent Index</source>
         <translation>Transparenter Index</translation>
     </message>
+    <message>
+        <source>Draw the first sprite here; the last place of the list below adds another</source>
+        <translation>Zeichnen Sie hier das erste Sprite; der letzte Platz der Liste unten fügt ein weiteres hinzu</translation>
+    </message>
 </context>
 <context>
     <name>StartPage</name>
@@ -6583,6 +6934,22 @@ Dateien, deren Bytes gleich bleiben, werden nicht angerührt.</translation>
     <message>
         <source>Open a project</source>
         <translation>Projekt öffnen</translation>
+    </message>
+    <message>
+        <source>Read the guide</source>
+        <translation>Anleitung lesen</translation>
+    </message>
+    <message>
+        <source>To look at and to play with</source>
+        <translation>Zum Ansehen und Ausprobieren</translation>
+    </message>
+    <message>
+        <source>The sample project</source>
+        <translation>Das Beispielprojekt</translation>
+    </message>
+    <message>
+        <source>A level, sprites and a title screen</source>
+        <translation>Ein Level, Sprites und ein Titelbild</translation>
     </message>
 </context>
 <context>
@@ -6812,6 +7179,10 @@ Palette Offset: %2</source>
         <translation>Index: %1
 Paletten-Offset: %2</translation>
     </message>
+    <message>
+        <source>Tile %1, palette offset %2</source>
+        <translation>Tile %1, Paletten-Offset %2</translation>
+    </message>
 </context>
 <context>
     <name>TilePickerTool</name>
@@ -6944,12 +7315,23 @@ Paletten-Offset: %2</translation>
         <source>Replace Colour</source>
         <translation>Farbe ersetzen</translation>
     </message>
+    <message>
+        <source>Draw the first tile here: the left button paints with the foreground colour, the right one with the background colour</source>
+        <translation>Zeichnen Sie hier das erste Tile: Die linke Taste malt mit der Vordergrundfarbe, die rechte mit der Hintergrundfarbe</translation>
+    </message>
 </context>
 <context>
     <name>TitleBar</name>
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ToolBarKeys</name>
+    <message>
+        <source>More</source>
+        <translation>Mehr</translation>
     </message>
 </context>
 <context>

@@ -212,6 +212,10 @@
 %n fotogramas [%2x%3]</numerusform>
         </translation>
     </message>
+    <message>
+        <source>There are no animations yet. Add below makes the first one.</source>
+        <translation>Aún no hay animaciones. «Añadir», abajo, crea la primera.</translation>
+    </message>
 </context>
 <context>
     <name>AnimationEditor::AnimationToolBar</name>
@@ -341,6 +345,14 @@ Offset:	%2
 Voltear	%3
 Reflejar:	%4
 Rotar:	%5</translation>
+    </message>
+    <message>
+        <source>Column %1, row %2, sprite %3</source>
+        <translation>Columna %1, fila %2, sprite %3</translation>
+    </message>
+    <message>
+        <source>Column %1, row %2, tile %3</source>
+        <translation>Columna %1, fila %2, tile %3</translation>
     </message>
 </context>
 <context>
@@ -497,6 +509,13 @@ Rotar:	%5</translation>
     </message>
 </context>
 <context>
+    <name>CanvasKeys</name>
+    <message>
+        <source>Column %1, row %2, colour %3, %4</source>
+        <translation>Columna %1, fila %2, color %3, %4</translation>
+    </message>
+</context>
+<context>
     <name>CircleCanvasTool</name>
     <message>
         <source>Filled Circle</source>
@@ -505,6 +524,96 @@ Rotar:	%5</translation>
     <message>
         <source>Circle</source>
         <translation>Círculo</translation>
+    </message>
+</context>
+<context>
+    <name>ColourCyclesDialog</name>
+    <message>
+        <source>&amp;Add Selection</source>
+        <translation>&amp;Añadir la selección</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Quitar</translation>
+    </message>
+    <message>
+        <source>Ranges of the palette whose colours go round</source>
+        <translation>Rangos de la paleta cuyos colores rotan</translation>
+    </message>
+    <message>
+        <source>How many frames of the machine&apos;s screen, fifty a second, pass from step to step</source>
+        <translation>Cuántos cuadros de la pantalla de la máquina, cincuenta por segundo, pasan de un paso a otro</translation>
+    </message>
+    <message>
+        <source>To higher entries</source>
+        <translation>Hacia entradas superiores</translation>
+    </message>
+    <message>
+        <source>To lower entries</source>
+        <translation>Hacia entradas inferiores</translation>
+    </message>
+    <message>
+        <source>Where colours move</source>
+        <translation>Hacia dónde van los colores</translation>
+    </message>
+    <message>
+        <source>The colours of a range go round: each moves to the next entry, and the one that leaves at one end comes in at the other. Neither palette nor pictures change.</source>
+        <translation>Los colores de un rango rotan: cada uno pasa a la entrada siguiente, y el que sale por un extremo entra por el otro. Ni la paleta ni las imágenes cambian.</translation>
+    </message>
+    <message>
+        <source>First entry</source>
+        <translation>Primera entrada</translation>
+    </message>
+    <message>
+        <source>Last entry</source>
+        <translation>Última entrada</translation>
+    </message>
+    <message>
+        <source>Frames a step</source>
+        <translation>Cuadros por paso</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Dirección</translation>
+    </message>
+    <message>
+        <source>Colour Cycles of %1</source>
+        <translation>Ciclos de color de %1</translation>
+    </message>
+    <message>
+        <source>Colour Cycles</source>
+        <translation>Ciclos de color</translation>
+    </message>
+    <message>
+        <source>%1 to %2, to lower entries</source>
+        <translation>%1 a %2, hacia entradas inferiores</translation>
+    </message>
+    <message>
+        <source>%1 to %2, to higher entries</source>
+        <translation>%1 a %2, hacia entradas superiores</translation>
+    </message>
+    <message>
+        <source>%1 steps a second</source>
+        <translation>%1 pasos por segundo</translation>
+    </message>
+    <message>
+        <source>Lets the colours of the entries go round that are selected in the palette</source>
+        <translation>Hace rotar los colores de las entradas seleccionadas en la paleta</translation>
+    </message>
+    <message>
+        <source>Select two or more entries in the palette that are in no range yet</source>
+        <translation>Seleccione en la paleta dos o más entradas que aún no estén en ningún rango</translation>
+    </message>
+</context>
+<context>
+    <name>ColourCycling</name>
+    <message>
+        <source>&amp;Play Colour Cycles</source>
+        <translation>Reproducir &amp;ciclos de color</translation>
+    </message>
+    <message>
+        <source>Lets the colours of palettes&apos; ranges go round in all views; nothing is changed</source>
+        <translation>Hace rotar los colores de los rangos de las paletas en todas las vistas; no se cambia nada</translation>
     </message>
 </context>
 <context>
@@ -552,6 +661,18 @@ Transparente</translation>
         <source>Index: %1</source>
         <translation>Índice: %1</translation>
     </message>
+    <message>
+        <source>Colour %1, %2, transparent</source>
+        <translation>Color %1, %2, transparente</translation>
+    </message>
+    <message>
+        <source>Colour %1, %2, background</source>
+        <translation>Color %1, %2, fondo</translation>
+    </message>
+    <message>
+        <source>Colour %1, %2</source>
+        <translation>Color %1, %2</translation>
+    </message>
 </context>
 <context>
     <name>ColourSelector</name>
@@ -566,6 +687,18 @@ Transparente</translation>
     <message>
         <source>Transparent on maps</source>
         <translation>Transparente en los mapas</translation>
+    </message>
+    <message>
+        <source>Colour %1, %2, transparent</source>
+        <translation>Color %1, %2, transparente</translation>
+    </message>
+    <message>
+        <source>Colour %1, %2, background</source>
+        <translation>Color %1, %2, fondo</translation>
+    </message>
+    <message>
+        <source>Colour %1, %2</source>
+        <translation>Color %1, %2</translation>
     </message>
 </context>
 <context>
@@ -658,6 +791,10 @@ Transparente</translation>
         <source>%1 ▸ %2</source>
         <translation>%1 ▸ %2</translation>
     </message>
+    <message>
+        <source>Sprites</source>
+        <translation>Sprites</translation>
+    </message>
 </context>
 <context>
     <name>CreationDialog</name>
@@ -746,6 +883,13 @@ Transparente</translation>
     <message>
         <source>4-bit, 16 colours</source>
         <translation>4 bits, 16 colores</translation>
+    </message>
+</context>
+<context>
+    <name>DockTabs</name>
+    <message>
+        <source>Docks</source>
+        <translation>Paneles</translation>
     </message>
 </context>
 <context>
@@ -857,6 +1001,14 @@ Transparente</translation>
     <message>
         <source>What there was to say could not be written</source>
         <translation>No se pudo escribir el resultado</translation>
+    </message>
+    <message>
+        <source>There is nothing in it that a picture could show</source>
+        <translation>No contiene nada que una imagen pueda mostrar</translation>
+    </message>
+    <message>
+        <source>No picture could be made</source>
+        <translation>No se pudo crear ninguna imagen</translation>
     </message>
 </context>
 <context>
@@ -1299,10 +1451,6 @@ Añada paletas, tiles, mapas con lo que hay colocado en ellos, sprites, animacio
         <translation>Archivos del Next (*.pal *.npl *.nxp *.nxt *.til *.ch8 *.map *.nxm *.nxb *.spr *.nxi *.sl2 *.slr *.bin)</translation>
     </message>
     <message>
-        <source>Maps of Tiled (*.tmx *.tmj)</source>
-        <translation>Mapas de Tiled (*.tmx *.tmj)</translation>
-    </message>
-    <message>
         <source>Sprites of Aseprite (*.aseprite *.ase)</source>
         <translation>Sprites de Aseprite (*.aseprite *.ase)</translation>
     </message>
@@ -1321,6 +1469,10 @@ Añada paletas, tiles, mapas con lo que hay colocado en ellos, sprites, animacio
     <message>
         <source>&amp;Clear</source>
         <translation>&amp;Vaciar</translation>
+    </message>
+    <message>
+        <source>Maps and tile sets of Tiled (*.tmx *.tmj *.tsx *.tsj)</source>
+        <translation>Mapas y tilesets de Tiled (*.tmx *.tmj *.tsx *.tsj)</translation>
     </message>
 </context>
 <context>
@@ -1864,6 +2016,25 @@ Añada paletas, tiles, mapas con lo que hay colocado en ellos, sprites, animacio
     </message>
 </context>
 <context>
+    <name>Guide</name>
+    <message>
+        <source>The guide is not installed</source>
+        <translation>La guía no está instalada</translation>
+    </message>
+    <message>
+        <source>It comes with Quenmora&apos;s package.</source>
+        <translation>Viene con el paquete de Quenmora.</translation>
+    </message>
+    <message>
+        <source>No program was found that shows the guide</source>
+        <translation>No se encontró ningún programa que muestre la guía</translation>
+    </message>
+    <message>
+        <source>It is in this file: %1</source>
+        <translation>Está en este archivo: %1</translation>
+    </message>
+</context>
+<context>
     <name>HelpMenu</name>
     <message>
         <source>&amp;Help</source>
@@ -1884,6 +2055,22 @@ Añada paletas, tiles, mapas con lo que hay colocado en ellos, sprites, animacio
     <message>
         <source>&amp;Keyboard Shortcuts…</source>
         <translation>&amp;Atajos de teclado…</translation>
+    </message>
+    <message>
+        <source>&amp;Guide</source>
+        <translation>&amp;Guía</translation>
+    </message>
+    <message>
+        <source>Opens the guide in your browser, at the page about what you work on</source>
+        <translation>Abre la guía en su navegador, en la página sobre lo que está haciendo</translation>
+    </message>
+    <message>
+        <source>&amp;Sample Project</source>
+        <translation>&amp;Proyecto de ejemplo</translation>
+    </message>
+    <message>
+        <source>Opens a small game to look at and to play with; saving makes a copy of your own</source>
+        <translation>Abre un pequeño juego para mirar y probar; al guardarlo se crea una copia propia</translation>
     </message>
 </context>
 <context>
@@ -2009,6 +2196,10 @@ Añada paletas, tiles, mapas con lo que hay colocado en ellos, sprites, animacio
     <message>
         <source>Scratch Image</source>
         <translation>Imagen borrador</translation>
+    </message>
+    <message>
+        <source>Paint here, or bring in a picture with Open among the tools</source>
+        <translation>Pinte aquí o traiga una imagen con «Abrir», entre las herramientas</translation>
     </message>
 </context>
 <context>
@@ -2790,6 +2981,34 @@ Colores: %3, para %4 de la imagen; grupos: %5</translation>
         <source>Takes tile sets and pictures from wherever the map says that they are</source>
         <translation>Toma los tilesets y las imágenes de donde el mapa indique que están</translation>
     </message>
+    <message>
+        <source>Import Image</source>
+        <translation>Importar imagen</translation>
+    </message>
+    <message>
+        <source>“%1” has %2 × %3 pixels, and the picture has %4 × %5</source>
+        <translation>«%1» tiene %2 × %3 píxeles y la imagen tiene %4 × %5</translation>
+    </message>
+    <message>
+        <source>Choose the map on which these are placed</source>
+        <translation>Elija el mapa en el que están colocados</translation>
+    </message>
+    <message>
+        <source>What record %1 (counted from 0) shows is not in the project, where it is looked for by its place</source>
+        <translation>Lo que muestra el registro %1 (contando desde 0) no está en el proyecto, donde se busca por su posición</translation>
+    </message>
+    <message>
+        <source>Placed animations: %1</source>
+        <translation>Animaciones colocadas: %1</translation>
+    </message>
+    <message>
+        <source>The colours are left out, since other assets are drawn with the palette of “%1” as well</source>
+        <translation>Los colores se omiten, porque otros recursos también se dibujan con la paleta de «%1»</translation>
+    </message>
+    <message>
+        <source>Tile set of Tiled</source>
+        <translation>Tileset de Tiled</translation>
+    </message>
 </context>
 <context>
     <name>IndexSuffix</name>
@@ -2826,6 +3045,14 @@ Colores: %3, para %4 de la imagen; grupos: %5</translation>
     <message>
         <source>Previous Dock</source>
         <translation>Panel anterior</translation>
+    </message>
+    <message>
+        <source>Next Dock Behind</source>
+        <translation>Siguiente panel detrás</translation>
+    </message>
+    <message>
+        <source>Previous Dock Behind</source>
+        <translation>Panel anterior detrás</translation>
     </message>
 </context>
 <context>
@@ -3148,6 +3375,54 @@ Colores: %3, para %4 de la imagen; grupos: %5</translation>
     </message>
 </context>
 <context>
+    <name>MapEditor::MapKeys</name>
+    <message>
+        <source>Column %1, row %2</source>
+        <translation>Columna %1, fila %2</translation>
+    </message>
+    <message>
+        <source>tile %1</source>
+        <translation>tile %1</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>vacía</translation>
+    </message>
+    <message>
+        <source>rotated</source>
+        <translation>girado</translation>
+    </message>
+    <message>
+        <source>flipped</source>
+        <translation>volteado</translation>
+    </message>
+    <message>
+        <source>mirrored</source>
+        <translation>reflejado</translation>
+    </message>
+    <message>
+        <source>palette offset %1</source>
+        <translation>offset de paleta %1</translation>
+    </message>
+    <message>
+        <source>animation</source>
+        <translation>animación</translation>
+    </message>
+    <message>
+        <source>sprite</source>
+        <translation>sprite</translation>
+    </message>
+    <message>
+        <source>sprite %1</source>
+        <translation>sprite %1</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of what a cell shows</comment>
+        <translation>, </translation>
+    </message>
+</context>
+<context>
     <name>MapEditor::MapOverview</name>
     <message>
         <source>Overview</source>
@@ -3297,6 +3572,10 @@ Colores: %3, para %4 de la imagen; grupos: %5</translation>
     <message>
         <source>Replace Tile in All Maps</source>
         <translation>Reemplazar tile en todos los mapas</translation>
+    </message>
+    <message>
+        <source>Choose a tile in the Tiles dock and paint here: the left button paints, the right one clears</source>
+        <translation>Elija un tile en el panel Tiles y pinte aquí: el botón izquierdo pinta, el derecho vacía</translation>
     </message>
 </context>
 <context>
@@ -4682,6 +4961,18 @@ Colores: %3, para %4 de la imagen; grupos: %5</translation>
         <source>The folder %1 cannot be made</source>
         <translation>No se puede crear la carpeta %1</translation>
     </message>
+    <message>
+        <source>The records do not lie in the file as its beginning says</source>
+        <translation>Los registros no están en el archivo como dice su comienzo</translation>
+    </message>
+    <message>
+        <source>ranges</source>
+        <translation>rangos</translation>
+    </message>
+    <message>
+        <source>Ranges of a palette whose colours go round</source>
+        <translation>Rangos de una paleta cuyos colores rotan</translation>
+    </message>
 </context>
 <context>
     <name>NextDataImport</name>
@@ -4992,6 +5283,14 @@ Colores: %3, para %4 de la imagen; grupos: %5</translation>
         <source>Index %1: $%2</source>
         <translation>Índice %1: $%2</translation>
     </message>
+    <message>
+        <source>Colour %1, %2, transparent</source>
+        <translation>Color %1, %2, transparente</translation>
+    </message>
+    <message>
+        <source>Colour %1, %2</source>
+        <translation>Color %1, %2</translation>
+    </message>
 </context>
 <context>
     <name>PaletteMenu</name>
@@ -5149,6 +5448,18 @@ Paleta ▸ Nueva paleta crea una.</translation>
         <source>The entries cannot change places: tiles and 4-bit sprites need theirs in their group of 16, and transparent entries, and those of tiles that are drawn with several palette offsets, must stay where they are</source>
         <translation>Las entradas no se pueden intercambiar: los tiles y los sprites de 4 bits necesitan las suyas en su grupo de 16, y las entradas transparentes, y las de tiles que se dibujan con varios offsets de paleta, deben quedarse donde están</translation>
     </message>
+    <message>
+        <source>Colour C&amp;ycles…</source>
+        <translation>&amp;Ciclos de color…</translation>
+    </message>
+    <message>
+        <source>Ranges of entries whose colours go round, so that water flows and fires burn</source>
+        <translation>Rangos de entradas cuyos colores rotan, para que el agua corra y el fuego arda</translation>
+    </message>
+    <message>
+        <source>Move Palette Entries</source>
+        <translation>Mover entradas de la paleta</translation>
+    </message>
 </context>
 <context>
     <name>PaletteWindow</name>
@@ -5187,6 +5498,10 @@ Paleta ▸ Nueva paleta crea una.</translation>
     <message>
         <source>Palette: %1</source>
         <translation>Paleta: %1</translation>
+    </message>
+    <message>
+        <source>All colours are black. Choose one and change it below, or bring in others with Palette ▸ Import.</source>
+        <translation>Todos los colores son negros. Elija uno y cámbielo abajo, o traiga otros con Paleta ▸ Importar.</translation>
     </message>
 </context>
 <context>
@@ -5465,6 +5780,10 @@ El proyecto en sí está íntegro.
     <message>
         <source>Project file (*.quenmora)</source>
         <translation>Archivo de proyecto (*.quenmora)</translation>
+    </message>
+    <message>
+        <source>The sample project is not installed</source>
+        <translation>El proyecto de ejemplo no está instalado</translation>
     </message>
 </context>
 <context>
@@ -6039,6 +6358,22 @@ Los archivos cuyos bytes no cambian no se tocan.</translation>
         <source>A project file is missing</source>
         <translation>Falta un archivo de proyecto</translation>
     </message>
+    <message>
+        <source>Write a small picture of the project, as file managers show, to this PNG file …</source>
+        <translation>Escribir una imagen pequeña del proyecto, como las que muestran los gestores de archivos, en este archivo PNG …</translation>
+    </message>
+    <message>
+        <source>… of at most so many pixels along its sides; 256 without this.</source>
+        <translation>… de como máximo tantos píxeles por lado; 256 sin esto.</translation>
+    </message>
+    <message>
+        <source>pixels</source>
+        <translation>píxeles</translation>
+    </message>
+    <message>
+        <source>--%1 takes a number from 1 to %2, not “%3”</source>
+        <translation>--%1 espera un número de 1 a %2, no «%3»</translation>
+    </message>
 </context>
 <context>
     <name>RgbEditor</name>
@@ -6425,6 +6760,18 @@ Los archivos cuyos bytes no cambian no se tocan.</translation>
         <source>Paste Image</source>
         <translation>Pegar imagen</translation>
     </message>
+    <message>
+        <source>Add Sprite</source>
+        <translation>Añadir sprite</translation>
+    </message>
+    <message>
+        <source>Sprite %1</source>
+        <translation>Sprite %1</translation>
+    </message>
+    <message>
+        <source>Add a sprite</source>
+        <translation>Añadir un sprite</translation>
+    </message>
 </context>
 <context>
     <name>SpriteImport</name>
@@ -6565,6 +6912,10 @@ Los archivos cuyos bytes no cambian no se tocan.</translation>
         <source>Transparent Index</source>
         <translation>Índice transparente</translation>
     </message>
+    <message>
+        <source>Draw the first sprite here; the last place of the list below adds another</source>
+        <translation>Dibuje aquí el primer sprite; el último sitio de la lista de abajo añade otro</translation>
+    </message>
 </context>
 <context>
     <name>StartPage</name>
@@ -6583,6 +6934,22 @@ Los archivos cuyos bytes no cambian no se tocan.</translation>
     <message>
         <source>Open a project</source>
         <translation>Abrir un proyecto</translation>
+    </message>
+    <message>
+        <source>Read the guide</source>
+        <translation>Leer la guía</translation>
+    </message>
+    <message>
+        <source>To look at and to play with</source>
+        <translation>Para mirar y probar</translation>
+    </message>
+    <message>
+        <source>The sample project</source>
+        <translation>El proyecto de ejemplo</translation>
+    </message>
+    <message>
+        <source>A level, sprites and a title screen</source>
+        <translation>Un nivel, sprites y una pantalla de título</translation>
     </message>
 </context>
 <context>
@@ -6812,6 +7179,10 @@ Palette Offset: %2</source>
         <translation>Índice: %1
 Offset de paleta: %2</translation>
     </message>
+    <message>
+        <source>Tile %1, palette offset %2</source>
+        <translation>Tile %1, offset de paleta %2</translation>
+    </message>
 </context>
 <context>
     <name>TilePickerTool</name>
@@ -6944,12 +7315,23 @@ Offset de paleta: %2</translation>
         <source>Replace Colour</source>
         <translation>Reemplazar color</translation>
     </message>
+    <message>
+        <source>Draw the first tile here: the left button paints with the foreground colour, the right one with the background colour</source>
+        <translation>Dibuje aquí el primer tile: el botón izquierdo pinta con el color de frente, el derecho con el de fondo</translation>
+    </message>
 </context>
 <context>
     <name>TitleBar</name>
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ToolBarKeys</name>
+    <message>
+        <source>More</source>
+        <translation>Más</translation>
     </message>
 </context>
 <context>

@@ -212,6 +212,10 @@
 %n frames [%2x%3]</numerusform>
         </translation>
     </message>
+    <message>
+        <source>There are no animations yet. Add below makes the first one.</source>
+        <translation>Il n’y a pas encore d’animation. «&#xa0;Ajouter&#xa0;», en bas, crée la première.</translation>
+    </message>
 </context>
 <context>
     <name>AnimationEditor::AnimationToolBar</name>
@@ -341,6 +345,14 @@ Décalage&#xa0;:	%2
 Miroir V&#xa0;:	%3
 Miroir H&#xa0;:	%4
 Rotation&#xa0;:	%5</translation>
+    </message>
+    <message>
+        <source>Column %1, row %2, sprite %3</source>
+        <translation>Colonne %1, ligne %2, sprite %3</translation>
+    </message>
+    <message>
+        <source>Column %1, row %2, tile %3</source>
+        <translation>Colonne %1, ligne %2, tuile %3</translation>
     </message>
 </context>
 <context>
@@ -497,6 +509,13 @@ Rotation&#xa0;:	%5</translation>
     </message>
 </context>
 <context>
+    <name>CanvasKeys</name>
+    <message>
+        <source>Column %1, row %2, colour %3, %4</source>
+        <translation>Colonne %1, ligne %2, couleur %3, %4</translation>
+    </message>
+</context>
+<context>
     <name>CircleCanvasTool</name>
     <message>
         <source>Filled Circle</source>
@@ -505,6 +524,96 @@ Rotation&#xa0;:	%5</translation>
     <message>
         <source>Circle</source>
         <translation>Cercle</translation>
+    </message>
+</context>
+<context>
+    <name>ColourCyclesDialog</name>
+    <message>
+        <source>&amp;Add Selection</source>
+        <translation>&amp;Ajouter la sélection</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Retirer</translation>
+    </message>
+    <message>
+        <source>Ranges of the palette whose colours go round</source>
+        <translation>Plages de la palette dont les couleurs tournent</translation>
+    </message>
+    <message>
+        <source>How many frames of the machine&apos;s screen, fifty a second, pass from step to step</source>
+        <translation>Nombre d’images de l’écran de la machine, cinquante par seconde, d’un pas à l’autre</translation>
+    </message>
+    <message>
+        <source>To higher entries</source>
+        <translation>Vers les entrées supérieures</translation>
+    </message>
+    <message>
+        <source>To lower entries</source>
+        <translation>Vers les entrées inférieures</translation>
+    </message>
+    <message>
+        <source>Where colours move</source>
+        <translation>Où vont les couleurs</translation>
+    </message>
+    <message>
+        <source>The colours of a range go round: each moves to the next entry, and the one that leaves at one end comes in at the other. Neither palette nor pictures change.</source>
+        <translation>Les couleurs d’une plage tournent&#xa0;: chacune passe à l’entrée suivante, et celle qui sort d’un côté rentre de l’autre. Ni la palette ni les images ne changent.</translation>
+    </message>
+    <message>
+        <source>First entry</source>
+        <translation>Première entrée</translation>
+    </message>
+    <message>
+        <source>Last entry</source>
+        <translation>Dernière entrée</translation>
+    </message>
+    <message>
+        <source>Frames a step</source>
+        <translation>Images par pas</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Sens</translation>
+    </message>
+    <message>
+        <source>Colour Cycles of %1</source>
+        <translation>Cycles de couleurs de %1</translation>
+    </message>
+    <message>
+        <source>Colour Cycles</source>
+        <translation>Cycles de couleurs</translation>
+    </message>
+    <message>
+        <source>%1 to %2, to lower entries</source>
+        <translation>%1 à %2, vers les entrées inférieures</translation>
+    </message>
+    <message>
+        <source>%1 to %2, to higher entries</source>
+        <translation>%1 à %2, vers les entrées supérieures</translation>
+    </message>
+    <message>
+        <source>%1 steps a second</source>
+        <translation>%1 pas par seconde</translation>
+    </message>
+    <message>
+        <source>Lets the colours of the entries go round that are selected in the palette</source>
+        <translation>Fait tourner les couleurs des entrées sélectionnées dans la palette</translation>
+    </message>
+    <message>
+        <source>Select two or more entries in the palette that are in no range yet</source>
+        <translation>Sélectionnez dans la palette deux entrées ou plus qui ne sont encore dans aucune plage</translation>
+    </message>
+</context>
+<context>
+    <name>ColourCycling</name>
+    <message>
+        <source>&amp;Play Colour Cycles</source>
+        <translation>&amp;Jouer les cycles de couleurs</translation>
+    </message>
+    <message>
+        <source>Lets the colours of palettes&apos; ranges go round in all views; nothing is changed</source>
+        <translation>Fait tourner les couleurs des plages de palettes dans toutes les vues&#xa0;; rien n’est modifié</translation>
     </message>
 </context>
 <context>
@@ -552,6 +661,18 @@ Transparent</translation>
         <source>Index: %1</source>
         <translation>Index&#xa0;: %1</translation>
     </message>
+    <message>
+        <source>Colour %1, %2, transparent</source>
+        <translation>Couleur %1, %2, transparente</translation>
+    </message>
+    <message>
+        <source>Colour %1, %2, background</source>
+        <translation>Couleur %1, %2, arrière-plan</translation>
+    </message>
+    <message>
+        <source>Colour %1, %2</source>
+        <translation>Couleur %1, %2</translation>
+    </message>
 </context>
 <context>
     <name>ColourSelector</name>
@@ -566,6 +687,18 @@ Transparent</translation>
     <message>
         <source>Transparent on maps</source>
         <translation>Transparent sur les cartes</translation>
+    </message>
+    <message>
+        <source>Colour %1, %2, transparent</source>
+        <translation>Couleur %1, %2, transparente</translation>
+    </message>
+    <message>
+        <source>Colour %1, %2, background</source>
+        <translation>Couleur %1, %2, arrière-plan</translation>
+    </message>
+    <message>
+        <source>Colour %1, %2</source>
+        <translation>Couleur %1, %2</translation>
     </message>
 </context>
 <context>
@@ -658,6 +791,10 @@ Transparent</translation>
         <source>%1 ▸ %2</source>
         <translation>%1 ▸ %2</translation>
     </message>
+    <message>
+        <source>Sprites</source>
+        <translation>Sprites</translation>
+    </message>
 </context>
 <context>
     <name>CreationDialog</name>
@@ -746,6 +883,13 @@ Transparent</translation>
     <message>
         <source>4-bit, 16 colours</source>
         <translation>4 bits, 16 couleurs</translation>
+    </message>
+</context>
+<context>
+    <name>DockTabs</name>
+    <message>
+        <source>Docks</source>
+        <translation>Panneaux</translation>
     </message>
 </context>
 <context>
@@ -857,6 +1001,14 @@ Transparent</translation>
     <message>
         <source>What there was to say could not be written</source>
         <translation>Les messages n’ont pas pu être écrits</translation>
+    </message>
+    <message>
+        <source>There is nothing in it that a picture could show</source>
+        <translation>Il ne contient rien qu’une image puisse montrer</translation>
+    </message>
+    <message>
+        <source>No picture could be made</source>
+        <translation>Aucune image n’a pu être créée</translation>
     </message>
 </context>
 <context>
@@ -1299,10 +1451,6 @@ Ajoutez des palettes, des tuiles, des cartes avec ce qui y est placé, des sprit
         <translation>Fichiers du Next (*.pal *.npl *.nxp *.nxt *.til *.ch8 *.map *.nxm *.nxb *.spr *.nxi *.sl2 *.slr *.bin)</translation>
     </message>
     <message>
-        <source>Maps of Tiled (*.tmx *.tmj)</source>
-        <translation>Cartes Tiled (*.tmx *.tmj)</translation>
-    </message>
-    <message>
         <source>Sprites of Aseprite (*.aseprite *.ase)</source>
         <translation>Sprites Aseprite (*.aseprite *.ase)</translation>
     </message>
@@ -1321,6 +1469,10 @@ Ajoutez des palettes, des tuiles, des cartes avec ce qui y est placé, des sprit
     <message>
         <source>&amp;Clear</source>
         <translation>&amp;Vider la liste</translation>
+    </message>
+    <message>
+        <source>Maps and tile sets of Tiled (*.tmx *.tmj *.tsx *.tsj)</source>
+        <translation>Cartes et jeux de tuiles de Tiled (*.tmx *.tmj *.tsx *.tsj)</translation>
     </message>
 </context>
 <context>
@@ -1864,6 +2016,25 @@ Ajoutez des palettes, des tuiles, des cartes avec ce qui y est placé, des sprit
     </message>
 </context>
 <context>
+    <name>Guide</name>
+    <message>
+        <source>The guide is not installed</source>
+        <translation>Le guide n’est pas installé</translation>
+    </message>
+    <message>
+        <source>It comes with Quenmora&apos;s package.</source>
+        <translation>Il est fourni avec le paquet de Quenmora.</translation>
+    </message>
+    <message>
+        <source>No program was found that shows the guide</source>
+        <translation>Aucun programme capable d’afficher le guide n’a été trouvé</translation>
+    </message>
+    <message>
+        <source>It is in this file: %1</source>
+        <translation>Il est dans ce fichier&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
     <name>HelpMenu</name>
     <message>
         <source>&amp;Help</source>
@@ -1884,6 +2055,22 @@ Ajoutez des palettes, des tuiles, des cartes avec ce qui y est placé, des sprit
     <message>
         <source>&amp;Keyboard Shortcuts…</source>
         <translation>&amp;Raccourcis clavier…</translation>
+    </message>
+    <message>
+        <source>&amp;Guide</source>
+        <translation>&amp;Guide</translation>
+    </message>
+    <message>
+        <source>Opens the guide in your browser, at the page about what you work on</source>
+        <translation>Ouvre le guide dans votre navigateur, à la page sur ce que vous faites</translation>
+    </message>
+    <message>
+        <source>&amp;Sample Project</source>
+        <translation>Projet d’&amp;exemple</translation>
+    </message>
+    <message>
+        <source>Opens a small game to look at and to play with; saving makes a copy of your own</source>
+        <translation>Ouvre un petit jeu à regarder et à essayer&#xa0;; l’enregistrer en fait votre propre copie</translation>
     </message>
 </context>
 <context>
@@ -2009,6 +2196,10 @@ Ajoutez des palettes, des tuiles, des cartes avec ce qui y est placé, des sprit
     <message>
         <source>Scratch Image</source>
         <translation>Brouillon</translation>
+    </message>
+    <message>
+        <source>Paint here, or bring in a picture with Open among the tools</source>
+        <translation>Dessinez ici, ou importez une image avec «&#xa0;Ouvrir&#xa0;» parmi les outils</translation>
     </message>
 </context>
 <context>
@@ -2790,6 +2981,34 @@ Couleurs&#xa0;: %3, pour %4 dans l’image&#xa0;; groupes&#xa0;: %5</translation
         <source>Takes tile sets and pictures from wherever the map says that they are</source>
         <translation>Prend les jeux de tuiles et les images là où la carte les indique</translation>
     </message>
+    <message>
+        <source>Import Image</source>
+        <translation>Importer une image</translation>
+    </message>
+    <message>
+        <source>“%1” has %2 × %3 pixels, and the picture has %4 × %5</source>
+        <translation>«&#xa0;%1&#xa0;» a %2 × %3 pixels, et l’image %4 × %5</translation>
+    </message>
+    <message>
+        <source>Choose the map on which these are placed</source>
+        <translation>Choisissez la carte sur laquelle ils sont placés</translation>
+    </message>
+    <message>
+        <source>What record %1 (counted from 0) shows is not in the project, where it is looked for by its place</source>
+        <translation>Ce que montre l’enregistrement %1 (compté à partir de 0) n’est pas dans le projet, où on le cherche par sa place</translation>
+    </message>
+    <message>
+        <source>Placed animations: %1</source>
+        <translation>Animations placées&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>The colours are left out, since other assets are drawn with the palette of “%1” as well</source>
+        <translation>Les couleurs sont ignorées, car d’autres ressources sont aussi dessinées avec la palette de «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>Tile set of Tiled</source>
+        <translation>Jeu de tuiles de Tiled</translation>
+    </message>
 </context>
 <context>
     <name>IndexSuffix</name>
@@ -2826,6 +3045,14 @@ Couleurs&#xa0;: %3, pour %4 dans l’image&#xa0;; groupes&#xa0;: %5</translation
     <message>
         <source>Previous Dock</source>
         <translation>Panneau précédent</translation>
+    </message>
+    <message>
+        <source>Next Dock Behind</source>
+        <translation>Panneau suivant derrière</translation>
+    </message>
+    <message>
+        <source>Previous Dock Behind</source>
+        <translation>Panneau précédent derrière</translation>
     </message>
 </context>
 <context>
@@ -3148,6 +3375,54 @@ Couleurs&#xa0;: %3, pour %4 dans l’image&#xa0;; groupes&#xa0;: %5</translation
     </message>
 </context>
 <context>
+    <name>MapEditor::MapKeys</name>
+    <message>
+        <source>Column %1, row %2</source>
+        <translation>Colonne %1, ligne %2</translation>
+    </message>
+    <message>
+        <source>tile %1</source>
+        <translation>tuile %1</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>vide</translation>
+    </message>
+    <message>
+        <source>rotated</source>
+        <translation>pivotée</translation>
+    </message>
+    <message>
+        <source>flipped</source>
+        <translation>miroir vertical</translation>
+    </message>
+    <message>
+        <source>mirrored</source>
+        <translation>miroir horizontal</translation>
+    </message>
+    <message>
+        <source>palette offset %1</source>
+        <translation>décalage de palette %1</translation>
+    </message>
+    <message>
+        <source>animation</source>
+        <translation>animation</translation>
+    </message>
+    <message>
+        <source>sprite</source>
+        <translation>sprite</translation>
+    </message>
+    <message>
+        <source>sprite %1</source>
+        <translation>sprite %1</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of what a cell shows</comment>
+        <translation>, </translation>
+    </message>
+</context>
+<context>
     <name>MapEditor::MapOverview</name>
     <message>
         <source>Overview</source>
@@ -3297,6 +3572,10 @@ Couleurs&#xa0;: %3, pour %4 dans l’image&#xa0;; groupes&#xa0;: %5</translation
     <message>
         <source>Replace Tile in All Maps</source>
         <translation>Remplacer la tuile dans toutes les cartes</translation>
+    </message>
+    <message>
+        <source>Choose a tile in the Tiles dock and paint here: the left button paints, the right one clears</source>
+        <translation>Choisissez une tuile dans le panneau Tuiles et dessinez ici&#xa0;: le bouton gauche dessine, le droit vide</translation>
     </message>
 </context>
 <context>
@@ -4682,6 +4961,18 @@ Couleurs&#xa0;: %3, pour %4 dans l’image&#xa0;; groupes&#xa0;: %5</translation
         <source>The folder %1 cannot be made</source>
         <translation>Le dossier %1 ne peut pas être créé</translation>
     </message>
+    <message>
+        <source>The records do not lie in the file as its beginning says</source>
+        <translation>Les enregistrements ne sont pas dans le fichier comme le dit son début</translation>
+    </message>
+    <message>
+        <source>ranges</source>
+        <translation>plages</translation>
+    </message>
+    <message>
+        <source>Ranges of a palette whose colours go round</source>
+        <translation>Plages d’une palette dont les couleurs tournent</translation>
+    </message>
 </context>
 <context>
     <name>NextDataImport</name>
@@ -4992,6 +5283,14 @@ Couleurs&#xa0;: %3, pour %4 dans l’image&#xa0;; groupes&#xa0;: %5</translation
         <source>Index %1: $%2</source>
         <translation>Index %1&#xa0;: $%2</translation>
     </message>
+    <message>
+        <source>Colour %1, %2, transparent</source>
+        <translation>Couleur %1, %2, transparente</translation>
+    </message>
+    <message>
+        <source>Colour %1, %2</source>
+        <translation>Couleur %1, %2</translation>
+    </message>
 </context>
 <context>
     <name>PaletteMenu</name>
@@ -5149,6 +5448,18 @@ Palette ▸ Nouvelle palette en crée une.</translation>
         <source>The entries cannot change places: tiles and 4-bit sprites need theirs in their group of 16, and transparent entries, and those of tiles that are drawn with several palette offsets, must stay where they are</source>
         <translation>Les entrées ne peuvent pas être permutées&#xa0;: les tuiles et les sprites de 4 bits ont besoin des leurs dans leur groupe de 16, et les entrées transparentes, ainsi que celles des tuiles dessinées avec plusieurs décalages de palette, doivent rester en place</translation>
     </message>
+    <message>
+        <source>Colour C&amp;ycles…</source>
+        <translation>C&amp;ycles de couleurs…</translation>
+    </message>
+    <message>
+        <source>Ranges of entries whose colours go round, so that water flows and fires burn</source>
+        <translation>Plages d’entrées dont les couleurs tournent, pour que l’eau coule et que le feu brûle</translation>
+    </message>
+    <message>
+        <source>Move Palette Entries</source>
+        <translation>Déplacer des entrées de la palette</translation>
+    </message>
 </context>
 <context>
     <name>PaletteWindow</name>
@@ -5187,6 +5498,10 @@ Palette ▸ Nouvelle palette en crée une.</translation>
     <message>
         <source>Palette: %1</source>
         <translation>Palette&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>All colours are black. Choose one and change it below, or bring in others with Palette ▸ Import.</source>
+        <translation>Toutes les couleurs sont noires. Choisissez-en une et modifiez-la en bas, ou importez-en d’autres avec Palette ▸ Importer.</translation>
     </message>
 </context>
 <context>
@@ -5465,6 +5780,10 @@ Le projet lui-même est intact.
     <message>
         <source>Project file (*.quenmora)</source>
         <translation>Fichier de projet (*.quenmora)</translation>
+    </message>
+    <message>
+        <source>The sample project is not installed</source>
+        <translation>Le projet d’exemple n’est pas installé</translation>
     </message>
 </context>
 <context>
@@ -6039,6 +6358,22 @@ Les fichiers dont les octets restent les mêmes ne sont pas touchés.</translati
         <source>A project file is missing</source>
         <translation>Il manque un fichier de projet</translation>
     </message>
+    <message>
+        <source>Write a small picture of the project, as file managers show, to this PNG file …</source>
+        <translation>Écrire une petite image du projet, comme en montrent les gestionnaires de fichiers, dans ce fichier PNG …</translation>
+    </message>
+    <message>
+        <source>… of at most so many pixels along its sides; 256 without this.</source>
+        <translation>… d’au plus autant de pixels par côté&#xa0;; 256 sans cela.</translation>
+    </message>
+    <message>
+        <source>pixels</source>
+        <translation>pixels</translation>
+    </message>
+    <message>
+        <source>--%1 takes a number from 1 to %2, not “%3”</source>
+        <translation>--%1 attend un nombre de 1 à %2, et non «&#xa0;%3&#xa0;»</translation>
+    </message>
 </context>
 <context>
     <name>RgbEditor</name>
@@ -6425,6 +6760,18 @@ Les fichiers dont les octets restent les mêmes ne sont pas touchés.</translati
         <source>Paste Image</source>
         <translation>Coller l’image</translation>
     </message>
+    <message>
+        <source>Add Sprite</source>
+        <translation>Ajouter un sprite</translation>
+    </message>
+    <message>
+        <source>Sprite %1</source>
+        <translation>Sprite %1</translation>
+    </message>
+    <message>
+        <source>Add a sprite</source>
+        <translation>Ajouter un sprite</translation>
+    </message>
 </context>
 <context>
     <name>SpriteImport</name>
@@ -6565,6 +6912,10 @@ Les fichiers dont les octets restent les mêmes ne sont pas touchés.</translati
         <source>Transparent Index</source>
         <translation>Index de transparence</translation>
     </message>
+    <message>
+        <source>Draw the first sprite here; the last place of the list below adds another</source>
+        <translation>Dessinez ici le premier sprite&#xa0;; la dernière place de la liste en bas en ajoute un autre</translation>
+    </message>
 </context>
 <context>
     <name>StartPage</name>
@@ -6583,6 +6934,22 @@ Les fichiers dont les octets restent les mêmes ne sont pas touchés.</translati
     <message>
         <source>Open a project</source>
         <translation>Ouvrir un projet</translation>
+    </message>
+    <message>
+        <source>Read the guide</source>
+        <translation>Lire le guide</translation>
+    </message>
+    <message>
+        <source>To look at and to play with</source>
+        <translation>À regarder et à essayer</translation>
+    </message>
+    <message>
+        <source>The sample project</source>
+        <translation>Le projet d’exemple</translation>
+    </message>
+    <message>
+        <source>A level, sprites and a title screen</source>
+        <translation>Un niveau, des sprites et un écran de titre</translation>
     </message>
 </context>
 <context>
@@ -6812,6 +7179,10 @@ Palette Offset: %2</source>
         <translation>Index&#xa0;: %1
 Décalage de palette&#xa0;: %2</translation>
     </message>
+    <message>
+        <source>Tile %1, palette offset %2</source>
+        <translation>Tuile %1, décalage de palette %2</translation>
+    </message>
 </context>
 <context>
     <name>TilePickerTool</name>
@@ -6944,12 +7315,23 @@ Décalage de palette&#xa0;: %2</translation>
         <source>Replace Colour</source>
         <translation>Remplacer la couleur</translation>
     </message>
+    <message>
+        <source>Draw the first tile here: the left button paints with the foreground colour, the right one with the background colour</source>
+        <translation>Dessinez ici la première tuile&#xa0;: le bouton gauche peint avec la couleur de premier plan, le droit avec celle d’arrière-plan</translation>
+    </message>
 </context>
 <context>
     <name>TitleBar</name>
     <message>
         <source>%1: %2</source>
         <translation>%1&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ToolBarKeys</name>
+    <message>
+        <source>More</source>
+        <translation>Plus</translation>
     </message>
 </context>
 <context>

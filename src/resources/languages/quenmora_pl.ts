@@ -216,6 +216,10 @@
 %n klatek [%2x%3]</numerusform>
         </translation>
     </message>
+    <message>
+        <source>There are no animations yet. Add below makes the first one.</source>
+        <translation>Nie ma jeszcze animacji. „Dodaj” poniżej tworzy pierwszą.</translation>
+    </message>
 </context>
 <context>
     <name>AnimationEditor::AnimationToolBar</name>
@@ -345,6 +349,14 @@ Przesunięcie:	%2
 Odbicie w pionie:	%3
 Odbicie w poziomie:	%4
 Obrót:	%5</translation>
+    </message>
+    <message>
+        <source>Column %1, row %2, sprite %3</source>
+        <translation>Kolumna %1, wiersz %2, sprite %3</translation>
+    </message>
+    <message>
+        <source>Column %1, row %2, tile %3</source>
+        <translation>Kolumna %1, wiersz %2, kafelek %3</translation>
     </message>
 </context>
 <context>
@@ -501,6 +513,13 @@ Obrót:	%5</translation>
     </message>
 </context>
 <context>
+    <name>CanvasKeys</name>
+    <message>
+        <source>Column %1, row %2, colour %3, %4</source>
+        <translation>Kolumna %1, wiersz %2, kolor %3, %4</translation>
+    </message>
+</context>
+<context>
     <name>CircleCanvasTool</name>
     <message>
         <source>Filled Circle</source>
@@ -509,6 +528,96 @@ Obrót:	%5</translation>
     <message>
         <source>Circle</source>
         <translation>Okrąg</translation>
+    </message>
+</context>
+<context>
+    <name>ColourCyclesDialog</name>
+    <message>
+        <source>&amp;Add Selection</source>
+        <translation>&amp;Dodaj zaznaczenie</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Usuń</translation>
+    </message>
+    <message>
+        <source>Ranges of the palette whose colours go round</source>
+        <translation>Zakresy palety, w których kolory krążą</translation>
+    </message>
+    <message>
+        <source>How many frames of the machine&apos;s screen, fifty a second, pass from step to step</source>
+        <translation>Ile klatek ekranu maszyny, po pięćdziesiąt na sekundę, mija między krokami</translation>
+    </message>
+    <message>
+        <source>To higher entries</source>
+        <translation>Ku wyższym wpisom</translation>
+    </message>
+    <message>
+        <source>To lower entries</source>
+        <translation>Ku niższym wpisom</translation>
+    </message>
+    <message>
+        <source>Where colours move</source>
+        <translation>Dokąd przesuwają się kolory</translation>
+    </message>
+    <message>
+        <source>The colours of a range go round: each moves to the next entry, and the one that leaves at one end comes in at the other. Neither palette nor pictures change.</source>
+        <translation>Kolory zakresu krążą: każdy przechodzi do następnego wpisu, a ten, który wychodzi z jednego końca, wchodzi z drugiego. Ani paleta, ani obrazy się nie zmieniają.</translation>
+    </message>
+    <message>
+        <source>First entry</source>
+        <translation>Pierwszy wpis</translation>
+    </message>
+    <message>
+        <source>Last entry</source>
+        <translation>Ostatni wpis</translation>
+    </message>
+    <message>
+        <source>Frames a step</source>
+        <translation>Klatek na krok</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Kierunek</translation>
+    </message>
+    <message>
+        <source>Colour Cycles of %1</source>
+        <translation>Cykle kolorów: %1</translation>
+    </message>
+    <message>
+        <source>Colour Cycles</source>
+        <translation>Cykle kolorów</translation>
+    </message>
+    <message>
+        <source>%1 to %2, to lower entries</source>
+        <translation>%1 do %2, ku niższym wpisom</translation>
+    </message>
+    <message>
+        <source>%1 to %2, to higher entries</source>
+        <translation>%1 do %2, ku wyższym wpisom</translation>
+    </message>
+    <message>
+        <source>%1 steps a second</source>
+        <translation>Kroki na sekundę: %1</translation>
+    </message>
+    <message>
+        <source>Lets the colours of the entries go round that are selected in the palette</source>
+        <translation>Wprawia w obieg kolory wpisów zaznaczonych w palecie</translation>
+    </message>
+    <message>
+        <source>Select two or more entries in the palette that are in no range yet</source>
+        <translation>Zaznacz w palecie co najmniej dwa wpisy, które nie należą jeszcze do żadnego zakresu</translation>
+    </message>
+</context>
+<context>
+    <name>ColourCycling</name>
+    <message>
+        <source>&amp;Play Colour Cycles</source>
+        <translation>Odtwarzaj &amp;cykle kolorów</translation>
+    </message>
+    <message>
+        <source>Lets the colours of palettes&apos; ranges go round in all views; nothing is changed</source>
+        <translation>Wprawia w obieg kolory zakresów palet we wszystkich widokach; nic się nie zmienia</translation>
     </message>
 </context>
 <context>
@@ -556,6 +665,18 @@ Przezroczysty</translation>
         <source>Index: %1</source>
         <translation>Indeks: %1</translation>
     </message>
+    <message>
+        <source>Colour %1, %2, transparent</source>
+        <translation>Kolor %1, %2, przezroczysty</translation>
+    </message>
+    <message>
+        <source>Colour %1, %2, background</source>
+        <translation>Kolor %1, %2, tło</translation>
+    </message>
+    <message>
+        <source>Colour %1, %2</source>
+        <translation>Kolor %1, %2</translation>
+    </message>
 </context>
 <context>
     <name>ColourSelector</name>
@@ -570,6 +691,18 @@ Przezroczysty</translation>
     <message>
         <source>Transparent on maps</source>
         <translation>Przezroczysty na mapach</translation>
+    </message>
+    <message>
+        <source>Colour %1, %2, transparent</source>
+        <translation>Kolor %1, %2, przezroczysty</translation>
+    </message>
+    <message>
+        <source>Colour %1, %2, background</source>
+        <translation>Kolor %1, %2, tło</translation>
+    </message>
+    <message>
+        <source>Colour %1, %2</source>
+        <translation>Kolor %1, %2</translation>
     </message>
 </context>
 <context>
@@ -661,6 +794,10 @@ Plik %2 zachowano pod nazwą kończącą się na .bad.</translation>
     <message>
         <source>%1 ▸ %2</source>
         <translation>%1 ▸ %2</translation>
+    </message>
+    <message>
+        <source>Sprites</source>
+        <translation>Sprite’y</translation>
     </message>
 </context>
 <context>
@@ -754,6 +891,13 @@ Plik %2 zachowano pod nazwą kończącą się na .bad.</translation>
     <message>
         <source>4-bit, 16 colours</source>
         <translation>4 bity, 16 kolorów</translation>
+    </message>
+</context>
+<context>
+    <name>DockTabs</name>
+    <message>
+        <source>Docks</source>
+        <translation>Panele</translation>
     </message>
 </context>
 <context>
@@ -866,6 +1010,14 @@ Plik %2 zachowano pod nazwą kończącą się na .bad.</translation>
     <message>
         <source>What there was to say could not be written</source>
         <translation>Nie udało się wypisać komunikatów</translation>
+    </message>
+    <message>
+        <source>There is nothing in it that a picture could show</source>
+        <translation>Nie ma w nim niczego, co można pokazać na obrazie</translation>
+    </message>
+    <message>
+        <source>No picture could be made</source>
+        <translation>Nie udało się utworzyć obrazu</translation>
     </message>
 </context>
 <context>
@@ -1324,10 +1476,6 @@ Dodaj palety, kafelki, mapy z umieszczonymi na nich elementami, sprite’y, anim
         <translation>Pliki Next (*.pal *.npl *.nxp *.nxt *.til *.ch8 *.map *.nxm *.nxb *.spr *.nxi *.sl2 *.slr *.bin)</translation>
     </message>
     <message>
-        <source>Maps of Tiled (*.tmx *.tmj)</source>
-        <translation>Mapy Tiled (*.tmx *.tmj)</translation>
-    </message>
-    <message>
         <source>Sprites of Aseprite (*.aseprite *.ase)</source>
         <translation>Sprite’y Aseprite (*.aseprite *.ase)</translation>
     </message>
@@ -1346,6 +1494,10 @@ Dodaj palety, kafelki, mapy z umieszczonymi na nich elementami, sprite’y, anim
     <message>
         <source>&amp;Clear</source>
         <translation>&amp;Wyczyść</translation>
+    </message>
+    <message>
+        <source>Maps and tile sets of Tiled (*.tmx *.tmj *.tsx *.tsj)</source>
+        <translation>Mapy i zestawy kafelków programu Tiled (*.tmx *.tmj *.tsx *.tsj)</translation>
     </message>
 </context>
 <context>
@@ -1894,6 +2046,25 @@ Dodaj palety, kafelki, mapy z umieszczonymi na nich elementami, sprite’y, anim
     </message>
 </context>
 <context>
+    <name>Guide</name>
+    <message>
+        <source>The guide is not installed</source>
+        <translation>Przewodnik nie jest zainstalowany</translation>
+    </message>
+    <message>
+        <source>It comes with Quenmora&apos;s package.</source>
+        <translation>Znajduje się w pakiecie programu Quenmora.</translation>
+    </message>
+    <message>
+        <source>No program was found that shows the guide</source>
+        <translation>Nie znaleziono programu, który wyświetli przewodnik</translation>
+    </message>
+    <message>
+        <source>It is in this file: %1</source>
+        <translation>Jest w tym pliku: %1</translation>
+    </message>
+</context>
+<context>
     <name>HelpMenu</name>
     <message>
         <source>&amp;Help</source>
@@ -1914,6 +2085,22 @@ Dodaj palety, kafelki, mapy z umieszczonymi na nich elementami, sprite’y, anim
     <message>
         <source>&amp;Keyboard Shortcuts…</source>
         <translation>&amp;Skróty klawiszowe…</translation>
+    </message>
+    <message>
+        <source>&amp;Guide</source>
+        <translation>P&amp;rzewodnik</translation>
+    </message>
+    <message>
+        <source>Opens the guide in your browser, at the page about what you work on</source>
+        <translation>Otwiera przewodnik w przeglądarce na stronie o tym, nad czym pracujesz</translation>
+    </message>
+    <message>
+        <source>&amp;Sample Project</source>
+        <translation>Projekt &amp;przykładowy</translation>
+    </message>
+    <message>
+        <source>Opens a small game to look at and to play with; saving makes a copy of your own</source>
+        <translation>Otwiera małą grę do obejrzenia i wypróbowania; zapisanie tworzy własną kopię</translation>
     </message>
 </context>
 <context>
@@ -2039,6 +2226,10 @@ Dodaj palety, kafelki, mapy z umieszczonymi na nich elementami, sprite’y, anim
     <message>
         <source>Scratch Image</source>
         <translation>Brudnopis</translation>
+    </message>
+    <message>
+        <source>Paint here, or bring in a picture with Open among the tools</source>
+        <translation>Maluj tutaj albo wczytaj obraz przyciskiem „Otwórz” wśród narzędzi</translation>
     </message>
 </context>
 <context>
@@ -2826,6 +3017,34 @@ Kolory: %3, na obrazie: %4; grupy: %5</translation>
         <source>Takes tile sets and pictures from wherever the map says that they are</source>
         <translation>Pobiera zestawy kafelków i obrazy z każdego miejsca wskazanego w mapie</translation>
     </message>
+    <message>
+        <source>Import Image</source>
+        <translation>Import obrazu</translation>
+    </message>
+    <message>
+        <source>“%1” has %2 × %3 pixels, and the picture has %4 × %5</source>
+        <translation>„%1” ma %2 × %3 pikseli, a obraz %4 × %5</translation>
+    </message>
+    <message>
+        <source>Choose the map on which these are placed</source>
+        <translation>Wybierz mapę, na której są one umieszczone</translation>
+    </message>
+    <message>
+        <source>What record %1 (counted from 0) shows is not in the project, where it is looked for by its place</source>
+        <translation>Tego, co pokazuje rekord %1 (licząc od 0), nie ma w projekcie, gdzie szuka się tego według miejsca</translation>
+    </message>
+    <message>
+        <source>Placed animations: %1</source>
+        <translation>Umieszczone animacje: %1</translation>
+    </message>
+    <message>
+        <source>The colours are left out, since other assets are drawn with the palette of “%1” as well</source>
+        <translation>Kolory pominięto, ponieważ paleta zasobu „%1” służy też innym zasobom</translation>
+    </message>
+    <message>
+        <source>Tile set of Tiled</source>
+        <translation>Zestaw kafelków programu Tiled</translation>
+    </message>
 </context>
 <context>
     <name>IndexSuffix</name>
@@ -2862,6 +3081,14 @@ Kolory: %3, na obrazie: %4; grupy: %5</translation>
     <message>
         <source>Previous Dock</source>
         <translation>Poprzedni panel</translation>
+    </message>
+    <message>
+        <source>Next Dock Behind</source>
+        <translation>Następny panel pod spodem</translation>
+    </message>
+    <message>
+        <source>Previous Dock Behind</source>
+        <translation>Poprzedni panel pod spodem</translation>
     </message>
 </context>
 <context>
@@ -3184,6 +3411,54 @@ Kolory: %3, na obrazie: %4; grupy: %5</translation>
     </message>
 </context>
 <context>
+    <name>MapEditor::MapKeys</name>
+    <message>
+        <source>Column %1, row %2</source>
+        <translation>Kolumna %1, wiersz %2</translation>
+    </message>
+    <message>
+        <source>tile %1</source>
+        <translation>kafelek %1</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>pusta</translation>
+    </message>
+    <message>
+        <source>rotated</source>
+        <translation>obrócony</translation>
+    </message>
+    <message>
+        <source>flipped</source>
+        <translation>odbity w pionie</translation>
+    </message>
+    <message>
+        <source>mirrored</source>
+        <translation>odbity w poziomie</translation>
+    </message>
+    <message>
+        <source>palette offset %1</source>
+        <translation>przesunięcie palety %1</translation>
+    </message>
+    <message>
+        <source>animation</source>
+        <translation>animacja</translation>
+    </message>
+    <message>
+        <source>sprite</source>
+        <translation>sprite</translation>
+    </message>
+    <message>
+        <source>sprite %1</source>
+        <translation>sprite %1</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of what a cell shows</comment>
+        <translation>, </translation>
+    </message>
+</context>
+<context>
     <name>MapEditor::MapOverview</name>
     <message>
         <source>Overview</source>
@@ -3333,6 +3608,10 @@ Kolory: %3, na obrazie: %4; grupy: %5</translation>
     <message>
         <source>Replace Tile in All Maps</source>
         <translation>Zamiana kafelka na wszystkich mapach</translation>
+    </message>
+    <message>
+        <source>Choose a tile in the Tiles dock and paint here: the left button paints, the right one clears</source>
+        <translation>Wybierz kafelek w panelu Kafelki i maluj tutaj: lewy przycisk maluje, prawy czyści</translation>
     </message>
 </context>
 <context>
@@ -4720,6 +4999,18 @@ Kolory: %3, na obrazie: %4; grupy: %5</translation>
         <source>The folder %1 cannot be made</source>
         <translation>Nie można utworzyć folderu %1</translation>
     </message>
+    <message>
+        <source>The records do not lie in the file as its beginning says</source>
+        <translation>Rekordy nie leżą w pliku tak, jak podaje jego początek</translation>
+    </message>
+    <message>
+        <source>ranges</source>
+        <translation>zakresy</translation>
+    </message>
+    <message>
+        <source>Ranges of a palette whose colours go round</source>
+        <translation>Zakresy palety, w których kolory krążą</translation>
+    </message>
 </context>
 <context>
     <name>NextDataImport</name>
@@ -5032,6 +5323,14 @@ Kolory: %3, na obrazie: %4; grupy: %5</translation>
         <source>Index %1: $%2</source>
         <translation>Indeks %1: $%2</translation>
     </message>
+    <message>
+        <source>Colour %1, %2, transparent</source>
+        <translation>Kolor %1, %2, przezroczysty</translation>
+    </message>
+    <message>
+        <source>Colour %1, %2</source>
+        <translation>Kolor %1, %2</translation>
+    </message>
 </context>
 <context>
     <name>PaletteMenu</name>
@@ -5190,6 +5489,18 @@ Utworzysz ją poleceniem Paleta ▸ Nowa paleta.</translation>
         <source>The entries cannot change places: tiles and 4-bit sprites need theirs in their group of 16, and transparent entries, and those of tiles that are drawn with several palette offsets, must stay where they are</source>
         <translation>Wpisy nie mogą zamienić się miejscami: kafelki i sprite’y 4-bitowe potrzebują swoich wpisów we własnej grupie 16, a wpisy przezroczyste oraz wpisy kafelków rysowanych z różnymi przesunięciami palety muszą pozostać na miejscu</translation>
     </message>
+    <message>
+        <source>Colour C&amp;ycles…</source>
+        <translation>Cykle &amp;kolorów…</translation>
+    </message>
+    <message>
+        <source>Ranges of entries whose colours go round, so that water flows and fires burn</source>
+        <translation>Zakresy wpisów, w których kolory krążą, aby woda płynęła, a ogień płonął</translation>
+    </message>
+    <message>
+        <source>Move Palette Entries</source>
+        <translation>Przesunięcie wpisów palety</translation>
+    </message>
 </context>
 <context>
     <name>PaletteWindow</name>
@@ -5228,6 +5539,10 @@ Utworzysz ją poleceniem Paleta ▸ Nowa paleta.</translation>
     <message>
         <source>Palette: %1</source>
         <translation>Paleta: %1</translation>
+    </message>
+    <message>
+        <source>All colours are black. Choose one and change it below, or bring in others with Palette ▸ Import.</source>
+        <translation>Wszystkie kolory są czarne. Wybierz jeden i zmień go poniżej albo wczytaj inne poleceniem Paleta ▸ Importuj.</translation>
     </message>
 </context>
 <context>
@@ -5507,6 +5822,10 @@ Sam projekt jest nienaruszony.
     <message>
         <source>Project file (*.quenmora)</source>
         <translation>Plik projektu (*.quenmora)</translation>
+    </message>
+    <message>
+        <source>The sample project is not installed</source>
+        <translation>Projekt przykładowy nie jest zainstalowany</translation>
     </message>
 </context>
 <context>
@@ -6084,6 +6403,22 @@ Pliki, których bajty się nie zmieniają, pozostają nietknięte.</translation>
         <source>A project file is missing</source>
         <translation>Brakuje pliku projektu</translation>
     </message>
+    <message>
+        <source>Write a small picture of the project, as file managers show, to this PNG file …</source>
+        <translation>Zapisz mały obraz projektu, jaki pokazują menedżery plików, do tego pliku PNG …</translation>
+    </message>
+    <message>
+        <source>… of at most so many pixels along its sides; 256 without this.</source>
+        <translation>… o bokach mających najwyżej tyle pikseli; bez tego 256.</translation>
+    </message>
+    <message>
+        <source>pixels</source>
+        <translation>piksele</translation>
+    </message>
+    <message>
+        <source>--%1 takes a number from 1 to %2, not “%3”</source>
+        <translation>--%1 przyjmuje liczbę od 1 do %2, a nie „%3”</translation>
+    </message>
 </context>
 <context>
     <name>RgbEditor</name>
@@ -6472,6 +6807,18 @@ Pliki, których bajty się nie zmieniają, pozostają nietknięte.</translation>
         <source>Paste Image</source>
         <translation>Wklej obraz</translation>
     </message>
+    <message>
+        <source>Add Sprite</source>
+        <translation>Dodanie sprite’a</translation>
+    </message>
+    <message>
+        <source>Sprite %1</source>
+        <translation>Sprite %1</translation>
+    </message>
+    <message>
+        <source>Add a sprite</source>
+        <translation>Dodaj sprite</translation>
+    </message>
 </context>
 <context>
     <name>SpriteImport</name>
@@ -6612,6 +6959,10 @@ Pliki, których bajty się nie zmieniają, pozostają nietknięte.</translation>
         <source>Transparent Index</source>
         <translation>Indeks przezroczysty</translation>
     </message>
+    <message>
+        <source>Draw the first sprite here; the last place of the list below adds another</source>
+        <translation>Narysuj tutaj pierwszego sprite’a; ostatnie miejsce listy poniżej dodaje następnego</translation>
+    </message>
 </context>
 <context>
     <name>StartPage</name>
@@ -6630,6 +6981,22 @@ Pliki, których bajty się nie zmieniają, pozostają nietknięte.</translation>
     <message>
         <source>Open a project</source>
         <translation>Otwórz projekt</translation>
+    </message>
+    <message>
+        <source>Read the guide</source>
+        <translation>Przeczytaj przewodnik</translation>
+    </message>
+    <message>
+        <source>To look at and to play with</source>
+        <translation>Do obejrzenia i wypróbowania</translation>
+    </message>
+    <message>
+        <source>The sample project</source>
+        <translation>Projekt przykładowy</translation>
+    </message>
+    <message>
+        <source>A level, sprites and a title screen</source>
+        <translation>Poziom, sprite’y i ekran tytułowy</translation>
     </message>
 </context>
 <context>
@@ -6859,6 +7226,10 @@ Palette Offset: %2</source>
         <translation>Indeks: %1
 Przesunięcie palety: %2</translation>
     </message>
+    <message>
+        <source>Tile %1, palette offset %2</source>
+        <translation>Kafelek %1, przesunięcie palety %2</translation>
+    </message>
 </context>
 <context>
     <name>TilePickerTool</name>
@@ -6991,12 +7362,23 @@ Przesunięcie palety: %2</translation>
         <source>Replace Colour</source>
         <translation>Zamień kolor</translation>
     </message>
+    <message>
+        <source>Draw the first tile here: the left button paints with the foreground colour, the right one with the background colour</source>
+        <translation>Narysuj tutaj pierwszy kafelek: lewy przycisk maluje kolorem pierwszego planu, prawy kolorem tła</translation>
+    </message>
 </context>
 <context>
     <name>TitleBar</name>
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ToolBarKeys</name>
+    <message>
+        <source>More</source>
+        <translation>Więcej</translation>
     </message>
 </context>
 <context>

@@ -84,9 +84,9 @@
     </message>
     <message numerus="yes">
         <source>&amp;Add %Ln Outputs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>&amp;Adicionar %Ln saída</numerusform>
+            <numerusform>&amp;Adicionar %Ln saídas</numerusform>
         </translation>
     </message>
     <message>
@@ -115,9 +115,9 @@
     </message>
     <message numerus="yes">
         <source>A recipe can have %n outputs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Uma receita pode ter %n saída</numerusform>
+            <numerusform>Uma receita pode ter %n saídas</numerusform>
         </translation>
     </message>
 </context>
@@ -205,10 +205,16 @@
     <message numerus="yes">
         <source>%1
 %n frame(s) [%2x%3]</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1
+%n quadro [%2x%3]</numerusform>
+            <numerusform>%1
+%n quadros [%2x%3]</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>There are no animations yet. Add below makes the first one.</source>
+        <translation>Ainda não há animações. “Adicionar”, abaixo, cria a primeira.</translation>
     </message>
 </context>
 <context>
@@ -339,6 +345,14 @@ Offset:	%2
 Virar:	%3
 Espelhar:	%4
 Girar:	%5</translation>
+    </message>
+    <message>
+        <source>Column %1, row %2, sprite %3</source>
+        <translation>Coluna %1, linha %2, sprite %3</translation>
+    </message>
+    <message>
+        <source>Column %1, row %2, tile %3</source>
+        <translation>Coluna %1, linha %2, tile %3</translation>
     </message>
 </context>
 <context>
@@ -495,6 +509,13 @@ Girar:	%5</translation>
     </message>
 </context>
 <context>
+    <name>CanvasKeys</name>
+    <message>
+        <source>Column %1, row %2, colour %3, %4</source>
+        <translation>Coluna %1, linha %2, cor %3, %4</translation>
+    </message>
+</context>
+<context>
     <name>CircleCanvasTool</name>
     <message>
         <source>Filled Circle</source>
@@ -503,6 +524,96 @@ Girar:	%5</translation>
     <message>
         <source>Circle</source>
         <translation>Círculo</translation>
+    </message>
+</context>
+<context>
+    <name>ColourCyclesDialog</name>
+    <message>
+        <source>&amp;Add Selection</source>
+        <translation>&amp;Adicionar seleção</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Remover</translation>
+    </message>
+    <message>
+        <source>Ranges of the palette whose colours go round</source>
+        <translation>Faixas da paleta cujas cores circulam</translation>
+    </message>
+    <message>
+        <source>How many frames of the machine&apos;s screen, fifty a second, pass from step to step</source>
+        <translation>Quantos quadros da tela da máquina, cinquenta por segundo, passam de um passo a outro</translation>
+    </message>
+    <message>
+        <source>To higher entries</source>
+        <translation>Para entradas maiores</translation>
+    </message>
+    <message>
+        <source>To lower entries</source>
+        <translation>Para entradas menores</translation>
+    </message>
+    <message>
+        <source>Where colours move</source>
+        <translation>Para onde vão as cores</translation>
+    </message>
+    <message>
+        <source>The colours of a range go round: each moves to the next entry, and the one that leaves at one end comes in at the other. Neither palette nor pictures change.</source>
+        <translation>As cores de uma faixa circulam: cada uma passa para a entrada seguinte, e a que sai por uma ponta entra pela outra. Nem a paleta nem as imagens mudam.</translation>
+    </message>
+    <message>
+        <source>First entry</source>
+        <translation>Primeira entrada</translation>
+    </message>
+    <message>
+        <source>Last entry</source>
+        <translation>Última entrada</translation>
+    </message>
+    <message>
+        <source>Frames a step</source>
+        <translation>Quadros por passo</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Direção</translation>
+    </message>
+    <message>
+        <source>Colour Cycles of %1</source>
+        <translation>Ciclos de cores de %1</translation>
+    </message>
+    <message>
+        <source>Colour Cycles</source>
+        <translation>Ciclos de cores</translation>
+    </message>
+    <message>
+        <source>%1 to %2, to lower entries</source>
+        <translation>%1 a %2, para entradas menores</translation>
+    </message>
+    <message>
+        <source>%1 to %2, to higher entries</source>
+        <translation>%1 a %2, para entradas maiores</translation>
+    </message>
+    <message>
+        <source>%1 steps a second</source>
+        <translation>%1 passos por segundo</translation>
+    </message>
+    <message>
+        <source>Lets the colours of the entries go round that are selected in the palette</source>
+        <translation>Faz circular as cores das entradas selecionadas na paleta</translation>
+    </message>
+    <message>
+        <source>Select two or more entries in the palette that are in no range yet</source>
+        <translation>Selecione na paleta duas ou mais entradas que ainda não estejam em nenhuma faixa</translation>
+    </message>
+</context>
+<context>
+    <name>ColourCycling</name>
+    <message>
+        <source>&amp;Play Colour Cycles</source>
+        <translation>Reproduzir &amp;ciclos de cores</translation>
+    </message>
+    <message>
+        <source>Lets the colours of palettes&apos; ranges go round in all views; nothing is changed</source>
+        <translation>Faz circular as cores das faixas das paletas em todas as vistas; nada é alterado</translation>
     </message>
 </context>
 <context>
@@ -550,6 +661,18 @@ Transparente</translation>
         <source>Index: %1</source>
         <translation>Índice: %1</translation>
     </message>
+    <message>
+        <source>Colour %1, %2, transparent</source>
+        <translation>Cor %1, %2, transparente</translation>
+    </message>
+    <message>
+        <source>Colour %1, %2, background</source>
+        <translation>Cor %1, %2, fundo</translation>
+    </message>
+    <message>
+        <source>Colour %1, %2</source>
+        <translation>Cor %1, %2</translation>
+    </message>
 </context>
 <context>
     <name>ColourSelector</name>
@@ -565,63 +688,76 @@ Transparente</translation>
         <source>Transparent on maps</source>
         <translation>Transparente nos mapas</translation>
     </message>
+    <message>
+        <source>Colour %1, %2, transparent</source>
+        <translation>Cor %1, %2, transparente</translation>
+    </message>
+    <message>
+        <source>Colour %1, %2, background</source>
+        <translation>Cor %1, %2, fundo</translation>
+    </message>
+    <message>
+        <source>Colour %1, %2</source>
+        <translation>Cor %1, %2</translation>
+    </message>
 </context>
 <context>
     <name>CommandDesk</name>
     <message>
         <source>Your keyboard shortcuts could not be read. All commands have their usual keys.</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível ler os seus atalhos de teclado. Todos os comandos têm as teclas de costume.</translation>
     </message>
     <message>
         <source>Keyboard Shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>Atalhos de teclado</translation>
     </message>
     <message>
         <source>%1
 %2 was kept aside under a name that ends in .bad.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+%2 foi guardado com um nome que termina em .bad.</translation>
     </message>
     <message>
         <source>Your keyboard shortcuts could not be saved. They hold until you quit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível salvar os seus atalhos de teclado. Eles valem até você sair.</translation>
     </message>
     <message>
         <source>Recent Projects</source>
-        <translation type="unfinished"></translation>
+        <translation>Projetos recentes</translation>
     </message>
     <message>
         <source>Tile %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tile %1</translation>
     </message>
 </context>
 <context>
     <name>CommandPalette</name>
     <message>
         <source>Command Palette</source>
-        <translation type="unfinished"></translation>
+        <translation>Paleta de comandos</translation>
     </message>
     <message>
         <source>Type a few letters of a command, an asset or a tile</source>
-        <translation type="unfinished"></translation>
+        <translation>Digite algumas letras de um comando, um recurso ou um tile</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar</translation>
     </message>
     <message>
         <source>What matches</source>
-        <translation type="unfinished"></translation>
+        <translation>Resultados</translation>
     </message>
 </context>
 <context>
     <name>CommandPlaces</name>
     <message>
         <source>Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Janela</translation>
     </message>
     <message>
         <source>Tool Bars</source>
-        <translation type="unfinished"></translation>
+        <translation>Barras de ferramentas</translation>
     </message>
     <message>
         <source>Map Editor</source>
@@ -629,23 +765,23 @@ Transparente</translation>
     </message>
     <message>
         <source>Layers of the Map</source>
-        <translation type="unfinished"></translation>
+        <translation>Camadas do mapa</translation>
     </message>
     <message>
         <source>Pixel Editors</source>
-        <translation type="unfinished"></translation>
+        <translation>Editores de pixels</translation>
     </message>
     <message>
         <source>Animation Editors</source>
-        <translation type="unfinished"></translation>
+        <translation>Editores de animações</translation>
     </message>
     <message>
         <source>List of Animations</source>
-        <translation type="unfinished"></translation>
+        <translation>Lista de animações</translation>
     </message>
     <message>
         <source>Tile Picker</source>
-        <translation type="unfinished"></translation>
+        <translation>Seletor de tiles</translation>
     </message>
     <message>
         <source>Palette Editor</source>
@@ -653,7 +789,11 @@ Transparente</translation>
     </message>
     <message>
         <source>%1 ▸ %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ▸ %2</translation>
+    </message>
+    <message>
+        <source>Sprites</source>
+        <translation>Sprites</translation>
     </message>
 </context>
 <context>
@@ -675,9 +815,9 @@ Transparente</translation>
     </message>
     <message numerus="yes">
         <source>%n animations</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n animação</numerusform>
+            <numerusform>%n animações</numerusform>
         </translation>
     </message>
     <message>
@@ -686,9 +826,9 @@ Transparente</translation>
     </message>
     <message numerus="yes">
         <source>%n placed sprites</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n sprite posicionado</numerusform>
+            <numerusform>%n sprites posicionados</numerusform>
         </translation>
     </message>
     <message>
@@ -701,9 +841,9 @@ Transparente</translation>
     </message>
     <message numerus="yes">
         <source>%n placed animations</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n animação posicionada</numerusform>
+            <numerusform>%n animações posicionadas</numerusform>
         </translation>
     </message>
     <message>
@@ -712,13 +852,13 @@ Transparente</translation>
     </message>
     <message>
         <source>No longer shown: %1 on 1 map.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deixa de aparecer: %1 em 1 mapa.</translation>
     </message>
     <message numerus="yes">
         <source>No longer shown: %1 on %n maps.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Deixa de aparecer: %1 em %n mapa.</numerusform>
+            <numerusform>Deixa de aparecer: %1 em %n mapas.</numerusform>
         </translation>
     </message>
     <message>
@@ -743,6 +883,13 @@ Transparente</translation>
     <message>
         <source>4-bit, 16 colours</source>
         <translation>4 bits, 16 cores</translation>
+    </message>
+</context>
+<context>
+    <name>DockTabs</name>
+    <message>
+        <source>Docks</source>
+        <translation>Painéis</translation>
     </message>
 </context>
 <context>
@@ -802,15 +949,15 @@ Transparente</translation>
     <name>ExportCommand</name>
     <message>
         <source>TEXT</source>
-        <translation type="unfinished"></translation>
+        <translation>TEXTO</translation>
     </message>
     <message>
         <source>There is no asset “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Não existe o recurso “%1”</translation>
     </message>
     <message>
         <source>“%1” is the name of several assets: use an id (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” é o nome de vários recursos: use um id (%2)</translation>
     </message>
     <message>
         <source>quenmora-export --help tells what it understands</source>
@@ -830,9 +977,9 @@ Transparente</translation>
     </message>
     <message numerus="yes">
         <source>Interrupted: %n outputs were not looked at</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Interrompido: %n saída não foi verificada</numerusform>
+            <numerusform>Interrompido: %n saídas não foram verificadas</numerusform>
         </translation>
     </message>
     <message>
@@ -855,21 +1002,29 @@ Transparente</translation>
         <source>What there was to say could not be written</source>
         <translation>Não foi possível gravar as mensagens</translation>
     </message>
+    <message>
+        <source>There is nothing in it that a picture could show</source>
+        <translation>Não contém nada que uma imagem possa mostrar</translation>
+    </message>
+    <message>
+        <source>No picture could be made</source>
+        <translation>Não foi possível criar uma imagem</translation>
+    </message>
 </context>
 <context>
     <name>ExportMessages</name>
     <message numerus="yes">
         <source>Exported %1 to %2 (%Ln bytes)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 exportado para %2 (%Ln byte)</numerusform>
+            <numerusform>%1 exportado para %2 (%Ln bytes)</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 (%Ln bytes)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 (%Ln byte)</numerusform>
+            <numerusform>%1 (%Ln bytes)</numerusform>
         </translation>
     </message>
     <message>
@@ -984,51 +1139,51 @@ Adicione paletas, tiles, mapas com o que está posicionado neles, sprites, anima
     </message>
     <message numerus="yes">
         <source>%Ln outputs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln saída</numerusform>
+            <numerusform>%Ln saídas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln bytes</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln byte</numerusform>
+            <numerusform>%Ln bytes</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln new</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln nova</numerusform>
+            <numerusform>%Ln novas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln changed</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln alterada</numerusform>
+            <numerusform>%Ln alteradas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln unchanged</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln sem alterações</numerusform>
+            <numerusform>%Ln sem alterações</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln cannot be</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln impossível</numerusform>
+            <numerusform>%Ln impossíveis</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln to be looked at</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln a verificar</numerusform>
+            <numerusform>%Ln a verificar</numerusform>
         </translation>
     </message>
     <message>
@@ -1040,41 +1195,43 @@ Adicione paletas, tiles, mapas com o que está posicionado neles, sprites, anima
     <name>ExportQuestion</name>
     <message>
         <source>Save the project first?</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvar o projeto primeiro?</translation>
     </message>
     <message>
         <source>The files for the game are written beside the project&apos;s file, and it has none yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Os arquivos para o jogo são gravados ao lado do arquivo do projeto, que ainda não existe.</translation>
     </message>
     <message>
         <source>&amp;Save Project…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Salvar projeto…</translation>
     </message>
     <message>
         <source>The recipe of this project cannot be used:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>A receita deste projeto não pode ser usada:
+%1</translation>
     </message>
     <message>
         <source>Mend the file, or start with an empty recipe: the file is then kept as %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Corrija o arquivo ou comece com uma receita vazia: o arquivo é então guardado como %1.</translation>
     </message>
     <message>
         <source>&amp;Start Anew</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Começar de novo</translation>
     </message>
     <message>
         <source>Another program changed the recipe of this project:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Outro programa alterou a receita deste projeto:
+%1</translation>
     </message>
     <message>
         <source>Saving it from here loses that change.</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvá-la daqui perde essa alteração.</translation>
     </message>
     <message>
         <source>&amp;Replace</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Substituir</translation>
     </message>
     <message>
         <source>Export Project</source>
@@ -1093,9 +1250,9 @@ Adicione paletas, tiles, mapas com o que está posicionado neles, sprites, anima
     </message>
     <message numerus="yes">
         <source>%Ln files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln arquivo</numerusform>
+            <numerusform>%Ln arquivos</numerusform>
         </translation>
     </message>
     <message>
@@ -1104,9 +1261,9 @@ Adicione paletas, tiles, mapas com o que está posicionado neles, sprites, anima
     </message>
     <message numerus="yes">
         <source>%Ln bytes</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln byte</numerusform>
+            <numerusform>%Ln bytes</numerusform>
         </translation>
     </message>
     <message>
@@ -1115,18 +1272,18 @@ Adicione paletas, tiles, mapas com o que está posicionado neles, sprites, anima
     </message>
     <message>
         <source>Nothing to export: 1 file is unchanged in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nada a exportar: 1 arquivo sem alterações em %1</translation>
     </message>
     <message numerus="yes">
         <source>Nothing to export: %Ln files are unchanged in %1</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Nada a exportar: %Ln arquivo sem alterações em %1</numerusform>
+            <numerusform>Nada a exportar: %Ln arquivos sem alterações em %1</numerusform>
         </translation>
     </message>
     <message>
         <source>Exported %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportado: %1</translation>
     </message>
     <message>
         <source>Exported nothing</source>
@@ -1134,25 +1291,25 @@ Adicione paletas, tiles, mapas com o que está posicionado neles, sprites, anima
     </message>
     <message numerus="yes">
         <source>%1, %Ln unchanged</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1, %Ln sem alterações</numerusform>
+            <numerusform>%1, %Ln sem alterações</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1, %Ln failed</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1, %Ln com falha</numerusform>
+            <numerusform>%1, %Ln com falha</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 em %2</translation>
     </message>
     <message>
         <source>%1, to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, em %2</translation>
     </message>
     <message>
         <source>Stopped: %1</source>
@@ -1160,9 +1317,9 @@ Adicione paletas, tiles, mapas com o que está posicionado neles, sprites, anima
     </message>
     <message numerus="yes">
         <source>… and %Ln more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>… e mais %Ln</numerusform>
+            <numerusform>… e mais %Ln</numerusform>
         </translation>
     </message>
 </context>
@@ -1170,24 +1327,24 @@ Adicione paletas, tiles, mapas com o que está posicionado neles, sprites, anima
     <name>ExtrasFile</name>
     <message>
         <source>it is no file of at most 16 MiB</source>
-        <translation type="unfinished"></translation>
+        <translation>não é um arquivo de no máximo 16 MiB</translation>
     </message>
     <message>
         <source>line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>linha %1: %2</translation>
     </message>
     <message>
         <source>it holds no object</source>
-        <translation type="unfinished"></translation>
+        <translation>não contém nenhum objeto</translation>
     </message>
 </context>
 <context>
     <name>FileImport</name>
     <message numerus="yes">
         <source>… and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>… e mais %n</numerusform>
+            <numerusform>… e mais %n</numerusform>
         </translation>
     </message>
     <message>
@@ -1294,10 +1451,6 @@ Adicione paletas, tiles, mapas com o que está posicionado neles, sprites, anima
         <translation>Arquivos do Next (*.pal *.npl *.nxp *.nxt *.til *.ch8 *.map *.nxm *.nxb *.spr *.nxi *.sl2 *.slr *.bin)</translation>
     </message>
     <message>
-        <source>Maps of Tiled (*.tmx *.tmj)</source>
-        <translation>Mapas do Tiled (*.tmx *.tmj)</translation>
-    </message>
-    <message>
         <source>Sprites of Aseprite (*.aseprite *.ase)</source>
         <translation>Sprites do Aseprite (*.aseprite *.ase)</translation>
     </message>
@@ -1316,6 +1469,10 @@ Adicione paletas, tiles, mapas com o que está posicionado neles, sprites, anima
     <message>
         <source>&amp;Clear</source>
         <translation>&amp;Limpar</translation>
+    </message>
+    <message>
+        <source>Maps and tile sets of Tiled (*.tmx *.tmj *.tsx *.tsj)</source>
+        <translation>Mapas e tilesets do Tiled (*.tmx *.tmj *.tsx *.tsj)</translation>
     </message>
 </context>
 <context>
@@ -1477,7 +1634,7 @@ Adicione paletas, tiles, mapas com o que está posicionado neles, sprites, anima
     </message>
     <message>
         <source>Its pixels are not square, but %1 to %2: they become square</source>
-        <translation>Os pixels não são quadrados, mas de %1 para %2: eles se tornam quadrados</translation>
+        <translation>Os pixels não são quadrados (proporção de %1 para %2): eles passam a ser quadrados</translation>
     </message>
     <message>
         <source>It is cut short: frame %1 of %2 is not there</source>
@@ -1545,9 +1702,9 @@ Adicione paletas, tiles, mapas com o que está posicionado neles, sprites, anima
     </message>
     <message numerus="yes">
         <source>%n layers are hidden and left out, “%1” among them</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n camada está oculta e fica de fora, “%1”</numerusform>
+            <numerusform>%n camadas estão ocultas e ficam de fora, entre elas “%1”</numerusform>
         </translation>
     </message>
     <message>
@@ -1568,11 +1725,11 @@ Adicione paletas, tiles, mapas com o que está posicionado neles, sprites, anima
     </message>
     <message>
         <source>It has no colours</source>
-        <translation type="unfinished"></translation>
+        <translation>Não tem cores</translation>
     </message>
     <message>
         <source>“%1” is no colour, which is %2 numbers from 0 to 255</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” não é uma cor, que são %2 números de 0 a 255</translation>
     </message>
     <message>
         <source>“%1” stands where “%2” does</source>
@@ -1580,23 +1737,23 @@ Adicione paletas, tiles, mapas com o que está posicionado neles, sprites, anima
     </message>
     <message>
         <source>“%1” is no number of colours</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” não é um número de cores</translation>
     </message>
     <message>
         <source>It says that it has %1 colours, and has %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Diz que tem %1 cores e tem %2</translation>
     </message>
     <message>
         <source>“%1” is no colour of six hexadecimal digits</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” não é uma cor de seis dígitos hexadecimais</translation>
     </message>
     <message>
         <source>It says that it has %1 colours; there is room for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Diz que tem %1 cores; há lugar para %2</translation>
     </message>
     <message>
         <source>Its transparent index is %1, and it has %2 colours</source>
-        <translation type="unfinished"></translation>
+        <translation>O índice transparente é %1, e há %2 cores</translation>
     </message>
     <message>
         <source>It has %1; at most %2 can be read</source>
@@ -1608,9 +1765,9 @@ Adicione paletas, tiles, mapas com o que está posicionado neles, sprites, anima
     </message>
     <message numerus="yes">
         <source>%n bytes</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n byte</numerusform>
+            <numerusform>%n bytes</numerusform>
         </translation>
     </message>
     <message>
@@ -1683,23 +1840,23 @@ Adicione paletas, tiles, mapas com o que está posicionado neles, sprites, anima
     </message>
     <message numerus="yes">
         <source>What shines through clear pixels of tiles above is lost, in %n cells</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>O que aparece através dos pixels transparentes dos tiles de cima se perde, em %n célula</numerusform>
+            <numerusform>O que aparece através dos pixels transparentes dos tiles de cima se perde, em %n células</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n cells have numbers that no tile set has: they become empty</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n célula tem um número que nenhum tileset tem: fica vazia</numerusform>
+            <numerusform>%n células têm números que nenhum tileset tem: ficam vazias</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n cells of layers lie beyond the map: they are lost</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n célula de camadas está fora do mapa: será perdida</numerusform>
+            <numerusform>%n células de camadas estão fora do mapa: serão perdidas</numerusform>
         </translation>
     </message>
     <message>
@@ -1859,6 +2016,25 @@ Adicione paletas, tiles, mapas com o que está posicionado neles, sprites, anima
     </message>
 </context>
 <context>
+    <name>Guide</name>
+    <message>
+        <source>The guide is not installed</source>
+        <translation>O guia não está instalado</translation>
+    </message>
+    <message>
+        <source>It comes with Quenmora&apos;s package.</source>
+        <translation>Ele vem com o pacote do Quenmora.</translation>
+    </message>
+    <message>
+        <source>No program was found that shows the guide</source>
+        <translation>Nenhum programa que mostre o guia foi encontrado</translation>
+    </message>
+    <message>
+        <source>It is in this file: %1</source>
+        <translation>Está neste arquivo: %1</translation>
+    </message>
+</context>
+<context>
     <name>HelpMenu</name>
     <message>
         <source>&amp;Help</source>
@@ -1874,11 +2050,27 @@ Adicione paletas, tiles, mapas com o que está posicionado neles, sprites, anima
     </message>
     <message>
         <source>Command &amp;Palette…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Paleta de comandos…</translation>
     </message>
     <message>
         <source>&amp;Keyboard Shortcuts…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Atalhos de teclado…</translation>
+    </message>
+    <message>
+        <source>&amp;Guide</source>
+        <translation>&amp;Guia</translation>
+    </message>
+    <message>
+        <source>Opens the guide in your browser, at the page about what you work on</source>
+        <translation>Abre o guia no navegador, na página sobre o que você está fazendo</translation>
+    </message>
+    <message>
+        <source>&amp;Sample Project</source>
+        <translation>Projeto de &amp;exemplo</translation>
+    </message>
+    <message>
+        <source>Opens a small game to look at and to play with; saving makes a copy of your own</source>
+        <translation>Abre um pequeno jogo para ver e experimentar; ao salvar, cria-se uma cópia sua</translation>
     </message>
 </context>
 <context>
@@ -2005,6 +2197,10 @@ Adicione paletas, tiles, mapas com o que está posicionado neles, sprites, anima
         <source>Scratch Image</source>
         <translation>Imagem de rascunho</translation>
     </message>
+    <message>
+        <source>Paint here, or bring in a picture with Open among the tools</source>
+        <translation>Pinte aqui ou traga uma imagem com “Abrir”, entre as ferramentas</translation>
+    </message>
 </context>
 <context>
     <name>ImageMenu</name>
@@ -2025,7 +2221,7 @@ Adicione paletas, tiles, mapas com o que está posicionado neles, sprites, anima
     <name>ImportAgain</name>
     <message>
         <source>The image has no palette any more</source>
-        <translation type="unfinished"></translation>
+        <translation>A imagem não tem mais paleta</translation>
     </message>
     <message>
         <source>Import Again</source>
@@ -2033,7 +2229,7 @@ Adicione paletas, tiles, mapas com o que está posicionado neles, sprites, anima
     </message>
     <message>
         <source>%1 is up to date</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 está em dia</translation>
     </message>
     <message>
         <source>The file is neither a palette nor a picture that can be read</source>
@@ -2041,15 +2237,15 @@ Adicione paletas, tiles, mapas com o que está posicionado neles, sprites, anima
     </message>
     <message>
         <source>Such a file makes new assets, and cannot go into those that are there</source>
-        <translation type="unfinished"></translation>
+        <translation>Um arquivo assim cria recursos novos e não pode entrar nos que já existem</translation>
     </message>
     <message>
         <source>%1 was imported again</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 foi importado novamente</translation>
     </message>
     <message>
         <source>What was made of it is not there any more</source>
-        <translation type="unfinished"></translation>
+        <translation>O que foi feito dele não existe mais</translation>
     </message>
     <message>
         <source>The file is not there any more:
@@ -2063,7 +2259,7 @@ Adicione paletas, tiles, mapas com o que está posicionado neles, sprites, anima
     </message>
     <message>
         <source>%1 is up to date; new tiles: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 está em dia; tiles novos: %2</translation>
     </message>
     <message>
         <source>; pixels that took the nearest colour: %1</source>
@@ -2071,13 +2267,13 @@ Adicione paletas, tiles, mapas com o que está posicionado neles, sprites, anima
     </message>
     <message>
         <source>The map has no tiles or no palette any more</source>
-        <translation type="unfinished"></translation>
+        <translation>O mapa não tem mais tiles ou paleta</translation>
     </message>
     <message numerus="yes">
         <source>The picture needs %n more tiles, and the tile set has room for %1</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>A imagem precisa de mais %n tile, e no tileset cabem %1</numerusform>
+            <numerusform>A imagem precisa de mais %n tiles, e no tileset cabem %1</numerusform>
         </translation>
     </message>
     <message>
@@ -2086,7 +2282,7 @@ Adicione paletas, tiles, mapas com o que está posicionado neles, sprites, anima
     </message>
     <message>
         <source>The sprites have no palette any more</source>
-        <translation type="unfinished"></translation>
+        <translation>Os sprites não têm mais paleta</translation>
     </message>
     <message>
         <source>The picture is smaller than a sprite, which has 16 × 16 pixels</source>
@@ -2098,22 +2294,22 @@ Adicione paletas, tiles, mapas com o que está posicionado neles, sprites, anima
     </message>
     <message>
         <source>%1 is up to date; sprites that are new: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 está em dia; sprites novos: %2</translation>
     </message>
 </context>
 <context>
     <name>ImportFileDialog</name>
     <message>
         <source>New palette</source>
-        <translation type="unfinished"></translation>
+        <translation>Nova paleta</translation>
     </message>
     <message>
         <source>New tile set</source>
-        <translation type="unfinished"></translation>
+        <translation>Novo tileset</translation>
     </message>
     <message>
         <source>New map</source>
-        <translation type="unfinished"></translation>
+        <translation>Novo mapa</translation>
     </message>
     <message>
         <source>New sprites</source>
@@ -2121,17 +2317,17 @@ Adicione paletas, tiles, mapas com o que está posicionado neles, sprites, anima
     </message>
     <message>
         <source>New map objects</source>
-        <translation type="unfinished"></translation>
+        <translation>Novos objetos de mapa</translation>
     </message>
     <message>
         <source>New image</source>
-        <translation type="unfinished"></translation>
+        <translation>Nova imagem</translation>
     </message>
     <message numerus="yes">
         <source>… and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>… e mais %n</numerusform>
+            <numerusform>… e mais %n</numerusform>
         </translation>
     </message>
     <message>
@@ -2196,9 +2392,9 @@ Adicione paletas, tiles, mapas com o que está posicionado neles, sprites, anima
     </message>
     <message numerus="yes">
         <source>%1, %Ln bytes</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1, %Ln byte</numerusform>
+            <numerusform>%1, %Ln bytes</numerusform>
         </translation>
     </message>
     <message>
@@ -2265,9 +2461,9 @@ Adicione paletas, tiles, mapas com o que está posicionado neles, sprites, anima
     </message>
     <message numerus="yes">
         <source>%n files changed since they were imported</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n arquivo mudou desde que foi importado</numerusform>
+            <numerusform>%n arquivos mudaram desde que foram importados</numerusform>
         </translation>
     </message>
 </context>
@@ -2355,9 +2551,9 @@ Cores: %3, para %4 da imagem; grupos: %5</translation>
     </message>
     <message numerus="yes">
         <source>The picture has %n different tiles, and a tile set has room for %1</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>A imagem tem %n tile diferente, e em um tileset cabem %1</numerusform>
+            <numerusform>A imagem tem %n tiles diferentes, e em um tileset cabem %1</numerusform>
         </translation>
     </message>
 </context>
@@ -2488,9 +2684,9 @@ Cores: %3, para %4 da imagem; grupos: %5</translation>
     </message>
     <message numerus="yes">
         <source>The frames make %n sprites, which is more than there is room for</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Os quadros geram %n sprite, mais do que cabe</numerusform>
+            <numerusform>Os quadros geram %n sprites, mais do que cabe</numerusform>
         </translation>
     </message>
     <message>
@@ -2785,6 +2981,34 @@ Cores: %3, para %4 da imagem; grupos: %5</translation>
         <source>Takes tile sets and pictures from wherever the map says that they are</source>
         <translation>Busca tilesets e imagens onde quer que o mapa diga que estão</translation>
     </message>
+    <message>
+        <source>Import Image</source>
+        <translation>Importar imagem</translation>
+    </message>
+    <message>
+        <source>“%1” has %2 × %3 pixels, and the picture has %4 × %5</source>
+        <translation>“%1” tem %2 × %3 pixels, e a imagem tem %4 × %5</translation>
+    </message>
+    <message>
+        <source>Choose the map on which these are placed</source>
+        <translation>Escolha o mapa em que estão posicionados</translation>
+    </message>
+    <message>
+        <source>What record %1 (counted from 0) shows is not in the project, where it is looked for by its place</source>
+        <translation>O que o registro %1 (contado a partir de 0) mostra não está no projeto, onde é procurado pela posição</translation>
+    </message>
+    <message>
+        <source>Placed animations: %1</source>
+        <translation>Animações posicionadas: %1</translation>
+    </message>
+    <message>
+        <source>The colours are left out, since other assets are drawn with the palette of “%1” as well</source>
+        <translation>As cores ficam de fora, pois outros recursos também são desenhados com a paleta de “%1”</translation>
+    </message>
+    <message>
+        <source>Tile set of Tiled</source>
+        <translation>Tileset do Tiled</translation>
+    </message>
 </context>
 <context>
     <name>IndexSuffix</name>
@@ -2816,11 +3040,19 @@ Cores: %3, para %4 da imagem; grupos: %5</translation>
     <name>LayoutController</name>
     <message>
         <source>Next Dock</source>
-        <translation type="unfinished"></translation>
+        <translation>Próximo painel</translation>
     </message>
     <message>
         <source>Previous Dock</source>
-        <translation type="unfinished"></translation>
+        <translation>Painel anterior</translation>
+    </message>
+    <message>
+        <source>Next Dock Behind</source>
+        <translation>Próximo painel atrás</translation>
+    </message>
+    <message>
+        <source>Previous Dock Behind</source>
+        <translation>Painel anterior atrás</translation>
     </message>
 </context>
 <context>
@@ -3143,6 +3375,54 @@ Cores: %3, para %4 da imagem; grupos: %5</translation>
     </message>
 </context>
 <context>
+    <name>MapEditor::MapKeys</name>
+    <message>
+        <source>Column %1, row %2</source>
+        <translation>Coluna %1, linha %2</translation>
+    </message>
+    <message>
+        <source>tile %1</source>
+        <translation>tile %1</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>vazia</translation>
+    </message>
+    <message>
+        <source>rotated</source>
+        <translation>girado</translation>
+    </message>
+    <message>
+        <source>flipped</source>
+        <translation>virado</translation>
+    </message>
+    <message>
+        <source>mirrored</source>
+        <translation>espelhado</translation>
+    </message>
+    <message>
+        <source>palette offset %1</source>
+        <translation>offset de paleta %1</translation>
+    </message>
+    <message>
+        <source>animation</source>
+        <translation>animação</translation>
+    </message>
+    <message>
+        <source>sprite</source>
+        <translation>sprite</translation>
+    </message>
+    <message>
+        <source>sprite %1</source>
+        <translation>sprite %1</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of what a cell shows</comment>
+        <translation>, </translation>
+    </message>
+</context>
+<context>
     <name>MapEditor::MapOverview</name>
     <message>
         <source>Overview</source>
@@ -3293,6 +3573,10 @@ Cores: %3, para %4 da imagem; grupos: %5</translation>
         <source>Replace Tile in All Maps</source>
         <translation>Substituir tile em todos os mapas</translation>
     </message>
+    <message>
+        <source>Choose a tile in the Tiles dock and paint here: the left button paints, the right one clears</source>
+        <translation>Escolha um tile no painel Tiles e pinte aqui: o botão esquerdo pinta, o direito limpa</translation>
+    </message>
 </context>
 <context>
     <name>MapEditor::PasteTool</name>
@@ -3310,9 +3594,9 @@ Cores: %3, para %4 da imagem; grupos: %5</translation>
     </message>
     <message numerus="yes">
         <source>The picture needs %n more tiles, and the tile set has room for %1</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>A imagem precisa de mais %n tile, e no tileset cabem %1</numerusform>
+            <numerusform>A imagem precisa de mais %n tiles, e no tileset cabem %1</numerusform>
         </translation>
     </message>
     <message>
@@ -3618,9 +3902,9 @@ Cores: %3, para %4 da imagem; grupos: %5</translation>
     <name>MapEditor::View</name>
     <message numerus="yes">
         <source>%1x%2 (%n bytes)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1x%2 (%n byte)</numerusform>
+            <numerusform>%1x%2 (%n bytes)</numerusform>
         </translation>
     </message>
     <message>
@@ -4677,12 +4961,24 @@ Cores: %3, para %4 da imagem; grupos: %5</translation>
         <source>The folder %1 cannot be made</source>
         <translation>Não é possível criar a pasta %1</translation>
     </message>
+    <message>
+        <source>The records do not lie in the file as its beginning says</source>
+        <translation>Os registros não estão no arquivo como diz o seu começo</translation>
+    </message>
+    <message>
+        <source>ranges</source>
+        <translation>faixas</translation>
+    </message>
+    <message>
+        <source>Ranges of a palette whose colours go round</source>
+        <translation>Faixas de uma paleta cujas cores circulam</translation>
+    </message>
 </context>
 <context>
     <name>NextDataImport</name>
     <message>
         <source>Some of the required files are missing</source>
-        <translation type="unfinished"></translation>
+        <translation>Faltam alguns dos arquivos necessários</translation>
     </message>
     <message>
         <source>Importing %1…</source>
@@ -4690,15 +4986,15 @@ Cores: %3, para %4 da imagem; grupos: %5</translation>
     </message>
     <message>
         <source>Could not import the palette data</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível importar os dados da paleta</translation>
     </message>
     <message>
         <source>Could not import the tile data</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível importar os dados dos tiles</translation>
     </message>
     <message>
         <source>Could not import the map data</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível importar os dados do mapa</translation>
     </message>
 </context>
 <context>
@@ -4810,9 +5106,9 @@ Cores: %3, para %4 da imagem; grupos: %5</translation>
     </message>
     <message numerus="yes">
         <source>%Ln bytes: %1</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln byte: %1</numerusform>
+            <numerusform>%Ln bytes: %1</numerusform>
         </translation>
     </message>
     <message>
@@ -4832,9 +5128,9 @@ Cores: %3, para %4 da imagem; grupos: %5</translation>
     </message>
     <message numerus="yes">
         <source>%1 (%Ln bytes)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 (%Ln byte)</numerusform>
+            <numerusform>%1 (%Ln bytes)</numerusform>
         </translation>
     </message>
 </context>
@@ -4865,7 +5161,7 @@ Cores: %3, para %4 da imagem; grupos: %5</translation>
     </message>
     <message>
         <source>Draw without gaps, however fast the pointer moves</source>
-        <translation>Desenha sem falhas, por mais rápido que o ponteiro se mova</translation>
+        <translation>Desenha sem lacunas, por mais rápido que o ponteiro se mova</translation>
     </message>
     <message>
         <source>&amp;Pixel Perfect Lines</source>
@@ -4966,15 +5262,15 @@ Cores: %3, para %4 da imagem; grupos: %5</translation>
     </message>
     <message>
         <source>Darken</source>
-        <translation type="unfinished"></translation>
+        <translation>Escurecer</translation>
     </message>
     <message>
         <source>Lighten</source>
-        <translation type="unfinished"></translation>
+        <translation>Clarear</translation>
     </message>
     <message>
         <source>Gradient</source>
-        <translation type="unfinished"></translation>
+        <translation>Gradiente</translation>
     </message>
 </context>
 <context>
@@ -4986,6 +5282,14 @@ Cores: %3, para %4 da imagem; grupos: %5</translation>
     <message>
         <source>Index %1: $%2</source>
         <translation>Índice %1: $%2</translation>
+    </message>
+    <message>
+        <source>Colour %1, %2, transparent</source>
+        <translation>Cor %1, %2, transparente</translation>
+    </message>
+    <message>
+        <source>Colour %1, %2</source>
+        <translation>Cor %1, %2</translation>
     </message>
 </context>
 <context>
@@ -5127,13 +5431,13 @@ Paleta ▸ Nova paleta cria uma.</translation>
     </message>
     <message>
         <source>1 pixel</source>
-        <translation type="unfinished"></translation>
+        <translation>1 pixel</translation>
     </message>
     <message numerus="yes">
         <source>%Ln pixels</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln pixel</numerusform>
+            <numerusform>%Ln pixels</numerusform>
         </translation>
     </message>
     <message>
@@ -5143,6 +5447,18 @@ Paleta ▸ Nova paleta cria uma.</translation>
     <message>
         <source>The entries cannot change places: tiles and 4-bit sprites need theirs in their group of 16, and transparent entries, and those of tiles that are drawn with several palette offsets, must stay where they are</source>
         <translation>As entradas não podem trocar de lugar: tiles e sprites de 4 bits precisam das suas no seu grupo de 16, e as entradas transparentes, assim como as de tiles desenhados com vários offsets de paleta, devem ficar onde estão</translation>
+    </message>
+    <message>
+        <source>Colour C&amp;ycles…</source>
+        <translation>&amp;Ciclos de cores…</translation>
+    </message>
+    <message>
+        <source>Ranges of entries whose colours go round, so that water flows and fires burn</source>
+        <translation>Faixas de entradas cujas cores circulam, para que a água corra e o fogo arda</translation>
+    </message>
+    <message>
+        <source>Move Palette Entries</source>
+        <translation>Mover entradas da paleta</translation>
     </message>
 </context>
 <context>
@@ -5183,6 +5499,10 @@ Paleta ▸ Nova paleta cria uma.</translation>
         <source>Palette: %1</source>
         <translation>Paleta: %1</translation>
     </message>
+    <message>
+        <source>All colours are black. Choose one and change it below, or bring in others with Palette ▸ Import.</source>
+        <translation>Todas as cores são pretas. Escolha uma e altere-a abaixo, ou traga outras com Paleta ▸ Importar.</translation>
+    </message>
 </context>
 <context>
     <name>PictureFile</name>
@@ -5204,12 +5524,14 @@ Paleta ▸ Nova paleta cria uma.</translation>
     <message>
         <source>Tiles that lost colours: %1 of %2.
 A tile shows 16 colours, and all of them together have 16 groups of 16. Reduce the colours of the picture, to 16 in each tile of 8 × 8 pixels and to fewer in all, and import it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiles que perderam cores: %1 de %2.
+Um tile mostra 16 cores, e todos juntos têm 16 grupos de 16. Reduza as cores da imagem a 16 em cada tile de 8 × 8 pixels e a menos no total, e importe-a novamente.</translation>
     </message>
     <message>
         <source>Cannot import the image as it would need more than 512 tiles
 %1 required</source>
-        <translation type="unfinished"></translation>
+        <translation>Não é possível importar a imagem, pois ela precisaria de mais de 512 tiles
+Necessários: %1</translation>
     </message>
     <message>
         <source>The image is smaller than a tile, which has 8 × 8 pixels</source>
@@ -5371,9 +5693,9 @@ A tile shows 16 colours, and all of them together have 16 groups of 16. Reduce t
     </message>
     <message numerus="yes">
         <source>The picture has %n colours; the palette takes the first %1 of them</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>A imagem tem %n cor; a paleta fica com as primeiras %1</numerusform>
+            <numerusform>A imagem tem %n cores; a paleta fica com as primeiras %1</numerusform>
         </translation>
     </message>
     <message>
@@ -5382,7 +5704,7 @@ A tile shows 16 colours, and all of them together have 16 groups of 16. Reduce t
     </message>
     <message>
         <source>%1, more</source>
-        <translation>%1, mais</translation>
+        <translation>%1, restante</translation>
     </message>
     <message>
         <source>Could not make sprites of the image file</source>
@@ -5459,6 +5781,10 @@ O projeto em si está intacto.
         <source>Project file (*.quenmora)</source>
         <translation>Arquivo de projeto (*.quenmora)</translation>
     </message>
+    <message>
+        <source>The sample project is not installed</source>
+        <translation>O projeto de exemplo não está instalado</translation>
+    </message>
 </context>
 <context>
     <name>ProjectDialog</name>
@@ -5514,9 +5840,9 @@ O projeto em si está intacto.
     </message>
     <message numerus="yes">
         <source>… and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>… e mais %n</numerusform>
+            <numerusform>… e mais %n</numerusform>
         </translation>
     </message>
     <message>
@@ -5709,9 +6035,9 @@ Deseja substituí-lo?</translation>
     </message>
     <message numerus="yes">
         <source>%Ln pages of 8 KiB</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln página de 8 KiB</numerusform>
+            <numerusform>%Ln páginas de 8 KiB</numerusform>
         </translation>
     </message>
     <message>
@@ -5724,9 +6050,9 @@ Deseja substituí-lo?</translation>
     </message>
     <message numerus="yes">
         <source>%Ln banks of 16 KiB</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln banco de 16 KiB</numerusform>
+            <numerusform>%Ln bancos de 16 KiB</numerusform>
         </translation>
     </message>
     <message>
@@ -5914,89 +6240,91 @@ Deseja substituí-lo?</translation>
     <name>Request</name>
     <message>
         <source>Do this recipe, not the one beside the project.</source>
-        <translation type="unfinished"></translation>
+        <translation>Executar esta receita, e não a que está ao lado do projeto.</translation>
     </message>
     <message>
         <source>file</source>
-        <translation type="unfinished"></translation>
+        <translation>arquivo</translation>
     </message>
     <message>
         <source>Write below this folder, not below the project&apos;s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gravar dentro desta pasta, e não da pasta do projeto.</translation>
     </message>
     <message>
         <source>folder</source>
-        <translation type="unfinished"></translation>
+        <translation>pasta</translation>
     </message>
     <message>
         <source>Write nothing, but say what would be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Não gravar nada, só dizer o que seria gravado.</translation>
     </message>
     <message>
         <source>Tell make or ninja in this file what was made of what.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dizer neste arquivo a make ou ninja o que foi feito a partir de quê.</translation>
     </message>
     <message>
         <source>Say nothing unless something fails.</source>
-        <translation type="unfinished"></translation>
+        <translation>Não dizer nada, a menos que algo falhe.</translation>
     </message>
     <message>
         <source>Without a recipe: write the asset of this name or id …</source>
-        <translation type="unfinished"></translation>
+        <translation>Sem receita: gravar o recurso com este nome ou id …</translation>
     </message>
     <message>
         <source>name</source>
-        <translation type="unfinished"></translation>
+        <translation>nome</translation>
     </message>
     <message>
         <source>… in this form …</source>
-        <translation type="unfinished"></translation>
+        <translation>… neste formato …</translation>
     </message>
     <message>
         <source>id</source>
-        <translation type="unfinished"></translation>
+        <translation>id</translation>
     </message>
     <message>
         <source>… with this option of the form, which may be given again for others …</source>
-        <translation type="unfinished"></translation>
+        <translation>… com esta opção do formato, que pode ser repetida para outras …</translation>
     </message>
     <message>
         <source>key=value</source>
-        <translation type="unfinished"></translation>
+        <translation>chave=valor</translation>
     </message>
     <message>
         <source>… to this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>… neste arquivo.</translation>
     </message>
     <message>
         <source>List the assets: kind, id and name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Listar os recursos: tipo, id e nome.</translation>
     </message>
     <message>
         <source>List the forms and their options.</source>
-        <translation type="unfinished"></translation>
+        <translation>Listar os formatos e suas opções.</translation>
     </message>
     <message>
         <source>Describe the whole project as text, for git diff.</source>
-        <translation type="unfinished"></translation>
+        <translation>Descrever todo o projeto como texto, para git diff.</translation>
     </message>
     <message>
         <source>Show this help.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar esta ajuda.</translation>
     </message>
     <message>
         <source>Show the version.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar a versão.</translation>
     </message>
     <message>
         <source>A project file, as game.quenmora.</source>
-        <translation type="unfinished"></translation>
+        <translation>Um arquivo de projeto, como game.quenmora.</translation>
     </message>
     <message>
         <source>Writes the graphics of a Quenmora project in the forms that a game takes, as its recipe says, the file
 game.quenmora-export.json beside game.quenmora, which File &gt; Export Project in the editor makes.
 Files whose bytes stay the same are not touched.</source>
-        <translation type="unfinished"></translation>
+        <translation>Grava os gráficos de um projeto do Quenmora nos formatos que um jogo carrega, conforme a sua receita, o arquivo
+game.quenmora-export.json ao lado de game.quenmora, criado por Arquivo &gt; Exportar projeto no editor.
+Arquivos cujos bytes continuam iguais não são tocados.</translation>
     </message>
     <message>
         <source>--%1 and --%2 do not go together</source>
@@ -6004,31 +6332,47 @@ Files whose bytes stay the same are not touched.</source>
     </message>
     <message>
         <source>--%1 takes KEY=VALUE, not “%2”</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1 espera CHAVE=VALOR, e não “%2”</translation>
     </message>
     <message>
         <source>--%1 is there twice</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1 aparece duas vezes</translation>
     </message>
     <message>
         <source>--%1 needs a value</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1 precisa de um valor</translation>
     </message>
     <message>
         <source>--%1 means nothing here</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1 não significa nada aqui</translation>
     </message>
     <message>
         <source>--%1 needs --%2</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1 precisa de --%2</translation>
     </message>
     <message>
         <source>“%1” is one argument too many</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” é um argumento a mais</translation>
     </message>
     <message>
         <source>A project file is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta um arquivo de projeto</translation>
+    </message>
+    <message>
+        <source>Write a small picture of the project, as file managers show, to this PNG file …</source>
+        <translation>Gravar neste arquivo PNG uma imagem pequena do projeto, como mostram os gerenciadores de arquivos …</translation>
+    </message>
+    <message>
+        <source>… of at most so many pixels along its sides; 256 without this.</source>
+        <translation>… com no máximo tantos pixels de lado; 256 sem isto.</translation>
+    </message>
+    <message>
+        <source>pixels</source>
+        <translation>pixels</translation>
+    </message>
+    <message>
+        <source>--%1 takes a number from 1 to %2, not “%3”</source>
+        <translation>--%1 espera um número de 1 a %2, e não “%3”</translation>
     </message>
 </context>
 <context>
@@ -6101,9 +6445,9 @@ Files whose bytes stay the same are not touched.</source>
     </message>
     <message numerus="yes">
         <source>What %Ln outputs are to have alike</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>O que %Ln saída terá</numerusform>
+            <numerusform>O que %Ln saídas terão em comum</numerusform>
         </translation>
     </message>
     <message>
@@ -6115,94 +6459,94 @@ Files whose bytes stay the same are not touched.</source>
     <name>ShortcutsDialog</name>
     <message>
         <source>A&amp;dd Key</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;dicionar tecla</translation>
     </message>
     <message>
         <source>&amp;Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Restaurar</translation>
     </message>
     <message>
         <source>&amp;Take It Away There</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tirá-la de lá</translation>
     </message>
     <message>
         <source>Keyboard Shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>Atalhos de teclado</translation>
     </message>
     <message>
         <source>Search by name</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar por nome</translation>
     </message>
     <message>
         <source>or by &amp;keys:</source>
-        <translation type="unfinished"></translation>
+        <translation>ou por &amp;teclas:</translation>
     </message>
     <message>
         <source>Search by keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar por teclas</translation>
     </message>
     <message>
         <source>Press keys to see what they do</source>
-        <translation type="unfinished"></translation>
+        <translation>Pressione teclas para ver o que fazem</translation>
     </message>
     <message>
         <source>Command</source>
-        <translation type="unfinished"></translation>
+        <translation>Comando</translation>
     </message>
     <message>
         <source>Where</source>
-        <translation type="unfinished"></translation>
+        <translation>Onde</translation>
     </message>
     <message>
         <source>Keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Teclas</translation>
     </message>
     <message>
         <source>Commands</source>
-        <translation type="unfinished"></translation>
+        <translation>Comandos</translation>
     </message>
     <message>
         <source>Leaves these keys to this command alone</source>
-        <translation type="unfinished"></translation>
+        <translation>Deixa estas teclas só para este comando</translation>
     </message>
     <message>
         <source>Gives the command its usual keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Devolve ao comando as teclas de costume</translation>
     </message>
     <message>
         <source>Reset &amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>Restaurar t&amp;udo</translation>
     </message>
     <message>
         <source>Gives all commands their usual keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Devolve a todos os comandos as teclas de costume</translation>
     </message>
     <message>
         <source>Another command has these keys, too</source>
-        <translation type="unfinished"></translation>
+        <translation>Outro comando também tem estas teclas</translation>
     </message>
     <message>
         <source>Keys of “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Teclas de “%1”</translation>
     </message>
     <message>
         <source>Press the keys that shall do it</source>
-        <translation type="unfinished"></translation>
+        <translation>Pressione as teclas que devem fazê-lo</translation>
     </message>
     <message>
         <source>%1 is a key of “%2” (%3), too. Neither would do anything.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 também é uma tecla de “%2” (%3). Nenhum dos dois faria nada.</translation>
     </message>
 </context>
 <context>
     <name>ShortcutsFile</name>
     <message>
         <source>The file is too large</source>
-        <translation type="unfinished"></translation>
+        <translation>O arquivo é grande demais</translation>
     </message>
     <message>
         <source>The file does not hold keys by command</source>
-        <translation type="unfinished"></translation>
+        <translation>O arquivo não contém teclas por comando</translation>
     </message>
 </context>
 <context>
@@ -6380,9 +6724,9 @@ Files whose bytes stay the same are not touched.</source>
     </message>
     <message numerus="yes">
         <source>The picture has %n colours; 4-bit sprites show 15 beside the transparent one</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>A imagem tem %n cor; sprites de 4 bits mostram 15 além da transparente</numerusform>
+            <numerusform>A imagem tem %n cores; sprites de 4 bits mostram 15 além da transparente</numerusform>
         </translation>
     </message>
     <message>
@@ -6415,6 +6759,18 @@ Files whose bytes stay the same are not touched.</source>
     <message>
         <source>Paste Image</source>
         <translation>Colar imagem</translation>
+    </message>
+    <message>
+        <source>Add Sprite</source>
+        <translation>Adicionar sprite</translation>
+    </message>
+    <message>
+        <source>Sprite %1</source>
+        <translation>Sprite %1</translation>
+    </message>
+    <message>
+        <source>Add a sprite</source>
+        <translation>Adicionar um sprite</translation>
     </message>
 </context>
 <context>
@@ -6556,6 +6912,10 @@ Files whose bytes stay the same are not touched.</source>
         <source>Transparent Index</source>
         <translation>Índice transparente</translation>
     </message>
+    <message>
+        <source>Draw the first sprite here; the last place of the list below adds another</source>
+        <translation>Desenhe aqui o primeiro sprite; o último lugar da lista abaixo adiciona outro</translation>
+    </message>
 </context>
 <context>
     <name>StartPage</name>
@@ -6574,6 +6934,22 @@ Files whose bytes stay the same are not touched.</source>
     <message>
         <source>Open a project</source>
         <translation>Abrir um projeto</translation>
+    </message>
+    <message>
+        <source>Read the guide</source>
+        <translation>Ler o guia</translation>
+    </message>
+    <message>
+        <source>To look at and to play with</source>
+        <translation>Para ver e experimentar</translation>
+    </message>
+    <message>
+        <source>The sample project</source>
+        <translation>O projeto de exemplo</translation>
+    </message>
+    <message>
+        <source>A level, sprites and a title screen</source>
+        <translation>Uma fase, sprites e uma tela de título</translation>
     </message>
 </context>
 <context>
@@ -6803,6 +7179,10 @@ Palette Offset: %2</source>
         <translation>Índice: %1
 Offset de paleta: %2</translation>
     </message>
+    <message>
+        <source>Tile %1, palette offset %2</source>
+        <translation>Tile %1, offset de paleta %2</translation>
+    </message>
 </context>
 <context>
     <name>TilePickerTool</name>
@@ -6935,12 +7315,23 @@ Offset de paleta: %2</translation>
         <source>Replace Colour</source>
         <translation>Substituir cor</translation>
     </message>
+    <message>
+        <source>Draw the first tile here: the left button paints with the foreground colour, the right one with the background colour</source>
+        <translation>Desenhe aqui o primeiro tile: o botão esquerdo pinta com a cor de frente, o direito com a de fundo</translation>
+    </message>
 </context>
 <context>
     <name>TitleBar</name>
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ToolBarKeys</name>
+    <message>
+        <source>More</source>
+        <translation>Mais</translation>
     </message>
 </context>
 <context>
@@ -7106,15 +7497,15 @@ Offset de paleta: %2</translation>
     <name>UnsavedMark</name>
     <message>
         <source>● Unsaved</source>
-        <translation type="unfinished"></translation>
+        <translation>● Não salvo</translation>
     </message>
     <message>
         <source>The project has unsaved changes</source>
-        <translation type="unfinished"></translation>
+        <translation>O projeto tem alterações não salvas</translation>
     </message>
     <message>
         <source>The project has changes that are not saved yet</source>
-        <translation type="unfinished"></translation>
+        <translation>O projeto tem alterações que ainda não foram salvas</translation>
     </message>
 </context>
 <context>
@@ -7217,31 +7608,31 @@ A nova versão foi lançada em %3.</translation>
     <name>WriteProblem</name>
     <message>
         <source>There is no folder %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Não existe a pasta %1</translation>
     </message>
     <message>
         <source>%1 is a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 é uma pasta</translation>
     </message>
     <message>
         <source>%1 is a pipe or a device, not a file</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 é um pipe ou um dispositivo, e não um arquivo</translation>
     </message>
     <message>
         <source>You may not write to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Você não tem permissão para gravar em %1</translation>
     </message>
     <message>
         <source>%1 could not be written to its end; there may be no room left</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 não pôde ser gravado até o fim; talvez não haja mais espaço</translation>
     </message>
     <message>
         <source>No file can be called %1: a slash would lead into another folder. Another name of the asset helps.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenhum arquivo pode se chamar %1: uma barra levaria a outra pasta. Basta dar outro nome ao recurso.</translation>
     </message>
     <message>
         <source>No file can be called that: %1. Another name of the asset helps.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenhum arquivo pode se chamar assim: %1. Basta dar outro nome ao recurso.</translation>
     </message>
 </context>
 </TS>
