@@ -108,7 +108,8 @@ class Desktop:
             number = numbers.readline().strip()
         if not number:
             raise Failure("the virtual display does not start")
-        self.environment = dict(os.environ, DISPLAY=":" + number, QT_QPA_PLATFORM="xcb", HOME=str(home))
+        self.environment = dict(os.environ, DISPLAY=":" + number, QT_QPA_PLATFORM="xcb", HOME=str(home),
+                                LC_ALL="C.UTF-8", LANGUAGE="")  # it looks for English names
         self.environment.pop("WAYLAND_DISPLAY", None)
         self.start(["openbox"], env=self.environment)
         # a window that opens while the window manager starts may stay unmapped

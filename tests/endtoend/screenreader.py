@@ -149,6 +149,7 @@ def main():
     SAMPLE_COPY = home / "sample.quenmora"
     shutil.copy(SAMPLE, SAMPLE_COPY)
     os.environ["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
+    os.environ.update(LC_ALL="C.UTF-8", LANGUAGE="")  # it listens for English names
     desktop = None
     try:
         desktop = Desktop(str(program), pictures, home)

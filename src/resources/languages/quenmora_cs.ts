@@ -2096,7 +2096,7 @@ Přidejte palety, dlaždice, mapy s tím, co je na nich umístěno, sprity, anim
     </message>
     <message>
         <source>&amp;Sample Project</source>
-        <translation>U&amp;kázkový projekt</translation>
+        <translation>&amp;Ukázkový projekt</translation>
     </message>
     <message>
         <source>Opens a small game to look at and to play with; saving makes a copy of your own</source>
@@ -6513,7 +6513,7 @@ Souborů, jejichž bajty se nemění, se nedotkne.</translation>
     </message>
     <message>
         <source>&amp;Take It Away There</source>
-        <translation>&amp;Odebrat ji tam</translation>
+        <translation>Odebrat ji &amp;tam</translation>
     </message>
     <message>
         <source>Keyboard Shortcuts</source>

@@ -2050,7 +2050,7 @@ Fügen Sie Paletten, Tiles, Karten mit allem, was darauf platziert ist, Sprites,
     </message>
     <message>
         <source>Command &amp;Palette…</source>
-        <translation>&amp;Befehlspalette…</translation>
+        <translation>Be&amp;fehlspalette…</translation>
     </message>
     <message>
         <source>&amp;Keyboard Shortcuts…</source>
@@ -2066,7 +2066,7 @@ Fügen Sie Paletten, Tiles, Karten mit allem, was darauf platziert ist, Sprites,
     </message>
     <message>
         <source>&amp;Sample Project</source>
-        <translation>&amp;Beispielprojekt</translation>
+        <translation>Bei&amp;spielprojekt</translation>
     </message>
     <message>
         <source>Opens a small game to look at and to play with; saving makes a copy of your own</source>

@@ -2054,7 +2054,7 @@ Añada paletas, tiles, mapas con lo que hay colocado en ellos, sprites, animacio
     </message>
     <message>
         <source>&amp;Keyboard Shortcuts…</source>
-        <translation>&amp;Atajos de teclado…</translation>
+        <translation>Atajos de &amp;teclado…</translation>
     </message>
     <message>
         <source>&amp;Guide</source>
@@ -2066,7 +2066,7 @@ Añada paletas, tiles, mapas con lo que hay colocado en ellos, sprites, animacio
     </message>
     <message>
         <source>&amp;Sample Project</source>
-        <translation>&amp;Proyecto de ejemplo</translation>
+        <translation>Proyecto de &amp;ejemplo</translation>
     </message>
     <message>
         <source>Opens a small game to look at and to play with; saving makes a copy of your own</source>
@@ -7112,7 +7112,7 @@ Los archivos cuyos bytes no cambian no se tocan.</translation>
     </message>
     <message>
         <source>&amp;Spectrum Chars</source>
-        <translation>Caracteres de &amp;Spectrum</translation>
+        <translation>Ca&amp;racteres de Spectrum</translation>
     </message>
     <message>
         <source>Export Tiles</source>

@@ -1231,7 +1231,7 @@ Ajoutez des palettes, des tuiles, des cartes avec ce qui y est placé, des sprit
     </message>
     <message>
         <source>&amp;Replace</source>
-        <translation>&amp;Remplacer</translation>
+        <translation>Rem&amp;placer</translation>
     </message>
     <message>
         <source>Export Project</source>
@@ -2050,11 +2050,11 @@ Ajoutez des palettes, des tuiles, des cartes avec ce qui y est placé, des sprit
     </message>
     <message>
         <source>Command &amp;Palette…</source>
-        <translation>&amp;Palette de commandes…</translation>
+        <translation>Pa&amp;lette de commandes…</translation>
     </message>
     <message>
         <source>&amp;Keyboard Shortcuts…</source>
-        <translation>&amp;Raccourcis clavier…</translation>
+        <translation>Ra&amp;ccourcis clavier…</translation>
     </message>
     <message>
         <source>&amp;Guide</source>
@@ -7112,7 +7112,7 @@ Les fichiers dont les octets restent les mêmes ne sont pas touchés.</translati
     </message>
     <message>
         <source>&amp;Spectrum Chars</source>
-        <translation>&amp;Caractères Spectrum</translation>
+        <translation>Caractères Spectr&amp;um</translation>
     </message>
     <message>
         <source>Export Tiles</source>

@@ -2084,7 +2084,7 @@ Dodaj palety, kafelki, mapy z umieszczonymi na nich elementami, sprite’y, anim
     </message>
     <message>
         <source>&amp;Keyboard Shortcuts…</source>
-        <translation>&amp;Skróty klawiszowe…</translation>
+        <translation>Skróty &amp;klawiszowe…</translation>
     </message>
     <message>
         <source>&amp;Guide</source>
@@ -2096,7 +2096,7 @@ Dodaj palety, kafelki, mapy z umieszczonymi na nich elementami, sprite’y, anim
     </message>
     <message>
         <source>&amp;Sample Project</source>
-        <translation>Projekt &amp;przykładowy</translation>
+        <translation>Projekt przykła&amp;dowy</translation>
     </message>
     <message>
         <source>Opens a small game to look at and to play with; saving makes a copy of your own</source>

@@ -2054,7 +2054,7 @@ Adicione paletas, tiles, mapas com o que está posicionado neles, sprites, anima
     </message>
     <message>
         <source>&amp;Keyboard Shortcuts…</source>
-        <translation>&amp;Atalhos de teclado…</translation>
+        <translation>Atalhos de &amp;teclado…</translation>
     </message>
     <message>
         <source>&amp;Guide</source>
@@ -6467,7 +6467,7 @@ Arquivos cujos bytes continuam iguais não são tocados.</translation>
     </message>
     <message>
         <source>&amp;Take It Away There</source>
-        <translation>&amp;Tirá-la de lá</translation>
+        <translation>T&amp;irá-la de lá</translation>
     </message>
     <message>
         <source>Keyboard Shortcuts</source>
