@@ -20,9 +20,11 @@
 #include "app/exportproject/recipetable.h"
 #include "app/importfile/fileimport.h"
 #include "app/importfile/importfiledialog.h"
+#include "app/installedfiles.h"
 #include "app/mainwindow.h"
 #include "app/menus/menubar.h"
 #include "app/projectcontroller.h"
+#include "app/startpage.h"
 #include "app/version.h"
 #include "editors/canvas/canvas.h"
 #include "editors/canvas/imageeditorview.h"
@@ -41,6 +43,7 @@
 #include "editors/palette/paletteeditor.h"
 #include "editors/palette/palettegrid.h"
 #include "editors/palette/palettewindow.h"
+#include "exportprogram.h" // made by the build: where the program is
 #include "model/image.h"
 #include "model/map.h"
 #include "model/mapobjects.h"
@@ -57,6 +60,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QDir>
+#include <QEventLoop>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QListView>
@@ -67,6 +71,7 @@
 #include <QSpinBox>
 #include <QTableView>
 #include <QTemporaryDir>
+#include <QTimer>
 
 #include <cmath>
 
@@ -134,6 +139,7 @@ private:
         send(QEvent::MouseButtonRelease, to, Qt::LeftButton, Qt::NoButton);
     }
 
+    void takeStart();
     void takeRecovery(const QString &sample);
     void takePainting(MapEditor::View &view);
     void takeMenus();
@@ -154,7 +160,7 @@ private:
 
 void PictureTaker::takeAll(const QString &sample)
 {
-    shoot(QStringLiteral("start"));
+    takeStart();
     takeRecovery(sample);
     m_window.projectController()->openProject(sample);
     takeMap();
@@ -165,6 +171,24 @@ void PictureTaker::takeAll(const QString &sample)
     takeCommands();
     takePictureImport();
     takeExport();
+}
+
+/// With the picture of the sample.
+void PictureTaker::takeStart()
+{
+    constexpr int Patience = 30'000; // milliseconds
+    const QTemporaryDir kept;
+    RecentPictures *pictures = m_window.findChild<StartPage *>()->pictures();
+    pictures->setFolder(kept.path());
+    pictures->setProgram(QStringLiteral(EXPORT_PROGRAM));
+    QEventLoop wait;
+    QObject::connect(pictures, &RecentPictures::found, &wait, &QEventLoop::quit);
+    QTimer::singleShot(Patience, &wait, &QEventLoop::quit);
+    pictures->want({InstalledFiles::sampleProject()});
+    wait.exec();
+    shoot(QStringLiteral("start"));
+    settle();
+    save(m_window.centralWidget()->grab(), QStringLiteral("start-page"));
 }
 
 void PictureTaker::takeRecovery(const QString &sample)

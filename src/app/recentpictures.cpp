@@ -65,6 +65,18 @@ RecentPictures::~RecentPictures()
     m_process.waitForFinished();
 }
 
+void RecentPictures::setFolder(const QString &folder)
+{
+    m_folder = folder;
+    m_known.clear();
+}
+
+void RecentPictures::setProgram(const QString &program)
+{
+    m_program = program;
+    m_known.clear();
+}
+
 void RecentPictures::want(const QStringList &paths)
 {
     m_wanted = paths;

@@ -25,8 +25,8 @@ public:
     ~RecentPictures() override;
 
     /// Replaces the folder and the program.
-    void setFolder(const QString &folder) { m_folder = folder; }
-    void setProgram(const QString &program) { m_program = program; }
+    void setFolder(const QString &folder);
+    void setProgram(const QString &program);
 
     /// The picture of a project file, as far as it was looked for; else null.
     [[nodiscard]] QImage picture(const QString &path) const { return m_known.value(path).picture; }

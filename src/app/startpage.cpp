@@ -21,9 +21,40 @@
 
 namespace {
 
-constexpr QSize PictureSize(96, 64);
-constexpr int TextWidth = 260; ///< of a card, in which longer paths are shortened
-constexpr int ContentWidth = 400;
+constexpr QSize PictureSize(72, 48);
+constexpr int CardWidth = 400;
+constexpr int LeastCardWidth = 180;
+constexpr int Spacing = 16; ///< on a card, beside its picture and its text
+
+/// A wide button with a picture and two lines, which are shortened where there is no room for them.
+class Card final : public QToolButton
+{
+public:
+    Card(const QString &name, const QString &detail) : m_lines{name, detail}
+    {
+        makeWide(this);
+        setIconSize(PictureSize);
+        setAccessibleName(name);
+        setText(name + u'\n' + detail); // for its height
+    }
+
+    QSize sizeHint() const override { return {CardWidth, QToolButton::sizeHint().height()}; }
+    QSize minimumSizeHint() const override { return {LeastCardWidth, sizeHint().height()}; }
+
+protected:
+    void resizeEvent(QResizeEvent *event) override
+    {
+        QToolButton::resizeEvent(event);
+        QStringList shown;
+        for (const QString &line : m_lines)
+            shown << withoutMnemonic(
+                fontMetrics().elidedText(line, Qt::ElideMiddle, width() - PictureSize.width() - Spacing));
+        setText(shown.join(u'\n'));
+    }
+
+private:
+    QStringList m_lines;
+};
 
 /// A wide button that does what an entry of the menu does.
 QToolButton *buttonFor(QAction *action, const QString &text)
@@ -96,6 +127,7 @@ StartPage::StartPage(const MenuBar &menus, QWidget *parent)
     , m_menu(menus.fileMenu())
     , m_beginnings(new QWidget)
     , m_recent(new QWidget)
+    , m_sampleGroup(new QWidget)
     , m_sampleFile(InstalledFiles::sampleProject())
     , m_hint(new QLabel(tr("A double click in the Project dock opens an asset")))
 {
@@ -106,17 +138,18 @@ StartPage::StartPage(const MenuBar &menus, QWidget *parent)
     recentBox->addLayout(m_recentEntries);
 
     auto *beginnings = flushLayout(m_beginnings);
-    m_beginnings->setMinimumWidth(ContentWidth);
     beginnings->addWidget(title());
     beginnings->addWidget(buttonFor(m_menu->newAction(), tr("New project")));
     beginnings->addWidget(buttonFor(m_menu->openAction(), tr("Open a project")));
     beginnings->addWidget(buttonFor(menus.helpMenu()->guideAction(), tr("Read the guide")));
     beginnings->addWidget(m_recent);
-    beginnings->addWidget(heading(tr("To look at and to play with")));
+    auto *sampleBox = flushLayout(m_sampleGroup);
+    sampleBox->addWidget(heading(tr("To look at and to play with")));
     m_sample = cardFor(menus.helpMenu()->sampleAction(), tr("The sample project"),
                        tr("A level, sprites and a title screen"), m_sampleFile);
-    m_sample->setToolTip(menus.helpMenu()->sampleAction()->toolTip());
-    beginnings->addWidget(m_sample);
+    sampleBox->addWidget(m_sample);
+    beginnings->addWidget(m_sampleGroup);
+    m_sampleGroup->setHidden(m_sampleFile.isEmpty()); // not everybody installs it
 
     m_hint->setForegroundRole(QPalette::PlaceholderText);
     m_hint->setAlignment(Qt::AlignCenter);
@@ -156,12 +189,8 @@ void StartPage::setRecoveryList(QWidget *list)
 
 QToolButton *StartPage::cardFor(QAction *action, const QString &name, const QString &detail, const QString &path)
 {
-    QToolButton *card = wideButton({}, framed(m_pictures.picture(path), devicePixelRatioF()));
-    card->setIconSize(PictureSize);
-    const QFontMetrics metrics = card->fontMetrics();
-    card->setText(withoutMnemonic(metrics.elidedText(name, Qt::ElideMiddle, TextWidth)) + u'\n'
-                  + withoutMnemonic(metrics.elidedText(detail, Qt::ElideMiddle, TextWidth)));
-    card->setAccessibleName(name);
+    auto *card = new Card(name, detail);
+    card->setIcon(framed(m_pictures.picture(path), devicePixelRatioF()));
     card->setToolTip(action->toolTip());
     connect(card, &QToolButton::clicked, action, &QAction::trigger);
     return card;
@@ -195,7 +224,7 @@ void StartPage::showEvent(QShowEvent *event)
 void StartPage::wantPictures()
 {
     if (isVisible() && !m_beginnings->isHidden())
-        m_pictures.want(m_cards.keys() << m_sampleFile);
+        m_pictures.want(m_menu->recentFiles().mid(0, MostRecentProjects) << m_sampleFile);
 }
 
 void StartPage::showPicture(const QString &path)

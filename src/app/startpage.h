@@ -48,6 +48,7 @@ private:
     QWidget *m_beginnings; ///< shown without a project
     QWidget *m_recent;
     QVBoxLayout *m_recentEntries;
+    QWidget *m_sampleGroup;
     QToolButton *m_sample;
     QString m_sampleFile;
     QHash<QString, QToolButton *> m_cards; ///< of recent projects, by their paths
