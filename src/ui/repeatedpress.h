@@ -5,8 +5,8 @@
 
 class QAbstractItemView;
 
-/// Tells when the current item of a view is pressed again, which changes nothing in the view but may
-/// mean something to who listens: take this one, once more.
+/// Tells when the current item of a view is pressed again, with the mouse, Enter or Space, which changes nothing in the
+/// view but may mean something to who listens: take this one, once more.
 class RepeatedPress : public QObject
 {
     Q_OBJECT

@@ -72,6 +72,7 @@ void AnimationListWidget::buildActions()
         if (selected())
             emit cloneRequested(selected());
     });
+    m_add->setShortcut(Qt::Key_Insert);
     m_remove->setShortcut(QKeySequence::Delete);
     for (const auto &[made, name] : {std::pair(m_add, "add"), {m_remove, "delete"}, {m_clone, "clone"}}) {
         made->setShortcutContext(Qt::WidgetShortcut);
