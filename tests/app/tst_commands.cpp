@@ -341,9 +341,9 @@ private slots:
         QTest::addColumn<QString>("query");
         QTest::addColumn<QStringList>("found"); // the first ones
         const auto row = [](const char *query, const QStringList &found) { QTest::newRow(query) << query << found; };
-        row("", {"New", "New Map", "New Palette", "Paste"}); // the disabled one does not come last by itself
+        row("", {"New", "New Map", "New Palette", "Paste"});
         row("new", {"New", "New Map", "New Palette"});
-        row("nm", {"New Map"});
+        row("nm", {"New Map", "Environment"}); // beginnings of words before what is inside one
         row("map new", {"New Map"});
         row("n pal", {"New Palette"});
         row("NEWP", {"New Palette"});
@@ -366,7 +366,8 @@ private slots:
                                          {u"\u00C9t\u00E9"_qs, "Palette"},
                                          {"Level 2", "Map"},
                                          {"Level 10", "Map"},
-                                         {"Next Tile", "Tiles"}};
+                                         {"Next Tile", "Tiles"},
+                                         {"Environment", "Map"}};
         for (int number = 1; number <= 40; ++number)
             items.append({QString("Tile %1").arg(number), "Cave", true, true});
         QFETCH(const QString, query);

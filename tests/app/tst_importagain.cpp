@@ -4,6 +4,7 @@
 #include "app/imports/importkeeper.h"
 #include "app/imports/importnotice.h"
 #include "app/mainwindow.h"
+#include "app/menus/imagemenu.h"
 #include "app/menus/mapmenu.h"
 #include "app/menus/menubar.h"
 #include "app/projectactions.h"
@@ -601,6 +602,13 @@ private slots:
         entry()->trigger();
         QVERIFY(window.messageDialog()->isVisible());
         window.messageDialog()->close();
+
+        // a picture that is placed in the image in front
+        const auto image = projects.project()->createImage(Quenmora::LoRes_128x96, "Title", QUuid());
+        const QAction *again = EditorInput::entry(*window.menus()->imageMenu(), "Import Again");
+        QVERIFY(!again->isEnabled());
+        emit window.documentController()->pictureImported(image->id(), file, {});
+        QVERIFY(again->isEnabled());
     }
 };
 

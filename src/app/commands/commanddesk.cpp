@@ -206,7 +206,7 @@ void CommandDesk::addTiles(QList<CommandPalette::Entry> &entries)
             const QImage image = tileSet && index < tileSet->count() ? tileSet->image(index) : QImage();
             return QIcon(QPixmap::fromImage(image.scaled(TilePicture, TilePicture)));
         };
-        entries.append({QStringLiteral("tile %1").arg(index),
+        entries.append({QStringLiteral("%1 %2").arg(tileSet->id().toString()).arg(index),
                         picture,
                         {tr("Tile %1").arg(index + 1), tileSet->name(), true, true},
                         {},

@@ -61,7 +61,8 @@ public:
                 return;
             const QRect part = take(row.fontMetrics.horizontalAdvance(words) + 1, atEnd);
             painter->setPen(colour);
-            painter->drawText(part, Qt::AlignVCenter | (isRightToLeft ? Qt::AlignRight : Qt::AlignLeft),
+            painter->drawText(part,
+                              Qt::TextSingleLine | Qt::AlignVCenter | (isRightToLeft ? Qt::AlignRight : Qt::AlignLeft),
                               row.fontMetrics.elidedText(words, Qt::ElideRight, part.width()));
             take(2 * Gap, atEnd);
         };
