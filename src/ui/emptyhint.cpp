@@ -12,7 +12,7 @@ namespace {
 constexpr int MostWidth = 300;
 constexpr int Distance = 8; ///< to the edges of what it lies over
 constexpr int Padding = 6;
-constexpr int GroundAlpha = 215;
+constexpr int GroundAlpha = 240;
 
 } // namespace
 

@@ -206,8 +206,10 @@ void PixelEditor::followStrokes()
 void PixelEditor::sayNextStep(const QString &text, const std::function<bool()> &isBlank)
 {
     // at the bottom, where it leaves most of the picture to be seen
-    new EmptyHint(
-        m_canvas, [text, isBlank] { return isBlank() ? text : QString(); }, Qt::AlignHCenter | Qt::AlignBottom);
+    const auto wanted = [canvas = m_canvas, text, isBlank] {
+        return canvas->palette() && isBlank() ? text : QString(); // without a palette that is what to begin with
+    };
+    new EmptyHint(m_canvas, wanted, Qt::AlignHCenter | Qt::AlignBottom);
 }
 
 bool PixelEditor::isBlank(const QImage &pixels)
