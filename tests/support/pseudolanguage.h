@@ -1,10 +1,9 @@
 #pragma once
 
-#include <QFile>
+#include "support/catalogue.h"
+
 #include <QSet>
-#include <QStringList>
 #include <QTranslator>
-#include <QXmlStreamReader>
 
 #include <algorithm>
 
@@ -19,20 +18,8 @@ public:
 
     explicit PseudoLanguage(const QString &catalogue)
     {
-        QFile file(catalogue);
-        if (!file.open(QIODevice::ReadOnly))
-            return;
-        QXmlStreamReader xml(&file);
-        QString context;
-        QString source;
-        while (!xml.atEnd()) {
-            if (xml.readNext() != QXmlStreamReader::StartElement)
-                continue;
-            if (xml.name() == u"name")
-                context = xml.readElementText();
-            else if (xml.name() == u"source")
-                m_texts.insert({context, xml.readElementText()});
-        }
+        for (const CatalogueMessage &message : CatalogueMessage::allOf(catalogue))
+            m_texts.insert({message.context, message.source});
     }
 
     [[nodiscard]] bool isEmpty() const override { return m_texts.isEmpty(); }
