@@ -5005,7 +5005,7 @@ Cores: %3, para %4 da imagem; grupos: %5</translation>
     </message>
     <message>
         <source>A map from a picture</source>
-        <translation>Um mapa a partir de uma imagem</translation>
+        <translation>Mapa a partir de imagem</translation>
     </message>
     <message>
         <source>Cuts a picture into tiles and makes a palette, a tile set and a map of it</source>
@@ -5021,7 +5021,7 @@ Cores: %3, para %4 da imagem; grupos: %5</translation>
     </message>
     <message>
         <source>A new palette</source>
-        <translation>Uma nova paleta</translation>
+        <translation>Nova paleta</translation>
     </message>
     <message>
         <source>The colours that everything else is drawn with</source>
@@ -5029,7 +5029,7 @@ Cores: %3, para %4 da imagem; grupos: %5</translation>
     </message>
     <message>
         <source>A new tile set</source>
-        <translation>Um novo tileset</translation>
+        <translation>Novo tileset</translation>
     </message>
     <message>
         <source>The tiles that maps are built from</source>
