@@ -9,7 +9,7 @@ name=quenmora-$version-windows
 zip=$work/$name.zip
 
 configure_program() {
-    for_windows -S "$top" -B "$build" -DQUENMORA_WERROR=ON "-DWINDOWS_LICENCES=$work/licences" \
+    for_windows -S "$top" -B "$build" "-DWINDOWS_LICENCES=$work/licences" \
         -DCMAKE_CROSSCOMPILING_EMULATOR="$top/scripts/windows/run-test.sh"
 }
 
@@ -17,7 +17,8 @@ build_program() { ninja -C "$build" -j"$jobs" quenmora quenmora-export; }
 
 pack_program() {
     rm -rf "$work/package" "$zip"
-    cmake --install "$build" --strip --prefix "$work/package/$name"
+    cmake --install "$build" --prefix "$work/package/$name"
+    find "$work/package/$name" \( -name '*.exe' -o -name '*.dll' \) -exec "$compiler-strip" --strip-unneeded {} +
     (cd "$work/package" && find "$name" -type f | LC_ALL=C sort | zip -q -X -9 "$zip" -@)
 }
 
@@ -35,7 +36,7 @@ check_package() {
 is_of_windows() {
     local plain=${1,,}
     plain=${plain%.dll}
-    compgen -G "/usr/$compiler/lib/lib${plain%.drv}.a" >/dev/null
+    [[ $plain == api-ms-win-* ]] || compgen -G "/usr/$compiler/lib/lib${plain%.drv}.a" >/dev/null
 }
 
 program() {
