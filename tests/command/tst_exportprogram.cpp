@@ -40,7 +40,7 @@ Ending run(const QString &program, const QStringList &words, const QString &fold
     process.setWorkingDirectory(folder);
     process.start(program, words);
     const bool hasEnded = process.waitForFinished(Patience) && process.exitStatus() == QProcess::NormalExit;
-    return {hasEnded ? process.exitCode() : -1, process.readAll()};
+    return {hasEnded ? process.exitCode() : -1, process.readAll().replace("\r\n", "\n")};
 }
 
 } // namespace
@@ -61,8 +61,8 @@ private slots:
     void needsNeitherWidgetsNorADisplay()
     {
         const QByteArray program = readFile(Program);
-        QVERIFY(program.contains("libQt6Core") && !program.contains("libQt6Widgets"));
-        QVERIFY(!program.contains("libQt6Svg") && !program.contains("libQt6Network"));
+        QVERIFY(program.contains("Qt6Core") && !program.contains("Qt6Widgets"));
+        QVERIFY(!program.contains("Qt6Svg") && !program.contains("Qt6Network"));
 
         const Ending ending = run(Program, {"-q", path("sample.quenmora"), "--output", path("ü ö")}, "/", true);
         QVERIFY2(ending.code == 0 && ending.text.isEmpty(), ending.text);
