@@ -98,7 +98,8 @@ private slots:
         QVERIFY(RecoveryFolder::takeAbandoned(common()).empty());
         auto running = RecoveryFolder::create(common());
         QVERIFY(running && running->write("manifest-1", "x").isEmpty());
-        QCOMPARE(QFileInfo(common()).permissions() & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
+        const QFile::Permissions others = QFileInfo(common()).permissions() & (QFile::ReadGroup | QFile::ReadOther);
+        QVERIFY(!others || !Platform::HasFileModes);
         QVERIFY(RecoveryFolder::takeAbandoned(common()).empty());
         QVERIFY(running->isInPlace());
         running.reset(); // as when its program ends
@@ -133,8 +134,11 @@ private slots:
         const QString path = (*m_folder)("lock");
         auto lock = FileLock::take(path);
         QVERIFY(lock && lock->holds(path) && !FileLock::take(path));
-        QVERIFY(QFile::remove(path)); // by somebody who looked between its making and its holding
-        QVERIFY(!lock->holds(path));
+        // by somebody who looked between its making and its holding
+        QCOMPARE(QFile::remove(path), Platform::RemovesOpenFiles);
+        QCOMPARE(lock->holds(path), !Platform::RemovesOpenFiles);
+        if (!Platform::RemovesOpenFiles)
+            return;
         const auto other = FileLock::take(path);
         QVERIFY(other && other->holds(path) && !lock->holds(path));
     }

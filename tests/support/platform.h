@@ -39,6 +39,7 @@ struct FileStatus
 constexpr bool HasPipes = false; ///< that have a place among files
 constexpr bool HasLinks = false; ///< that are opened as what they lead to
 constexpr bool HasFileModes = false;
+constexpr bool RemovesOpenFiles = false;
 constexpr bool HasFullDisks = false; ///< that can be had for a test
 
 inline bool makePipe(const QString &)
@@ -81,6 +82,7 @@ inline qint64 peakMemory()
 constexpr bool HasPipes = true; ///< that have a place among files
 constexpr bool HasLinks = true; ///< that are opened as what they lead to
 constexpr bool HasFileModes = true;
+constexpr bool RemovesOpenFiles = true;
 constexpr bool HasFullDisks = true; ///< that can be had for a test
 
 /// Makes a pipe; opening it would wait for somebody at its other end.
