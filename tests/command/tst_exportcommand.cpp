@@ -129,7 +129,9 @@ private slots:
         QCOMPARE(run(words + QStringList("--quiet")), 1);
         QVERIFY(m_out.isEmpty());
         message.replace("RECIPE", "game.quenmora-export.json");
-        message.replace("PATH", QDir::currentPath()).replace("(ID", '(' + m_twins.toString(QUuid::WithoutBraces));
+        for (const QString path : {"/bad.json/gfx data", "/bad.json"})
+            message.replace("PATH" + path, QDir::toNativeSeparators(QDir::currentPath() + path));
+        message.replace("(ID", '(' + m_twins.toString(QUuid::WithoutBraces));
         message.replace("OTHER", m_errors.section(", ", -1).chopped(2));
         QCOMPARE(m_errors.chopped(1).split(u'\n').join(u'|'), message);
         QCOMPARE(readFile("game.quenmora"), project);
