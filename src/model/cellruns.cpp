@@ -61,16 +61,16 @@ public:
     [[nodiscard]] Runs runs() const
     {
         Runs runs;
+        runs.reserve(m_filled);
         for (int y = 0; y < m_area.height(); ++y) {
             const Marks &row = m_marks[size_t(y)];
-            const char *const begin = row.data();
-            const char *const end = begin + row.size();
-            for (const char *from = begin; from != end;) {
-                from = std::find(from, end, Filled);
-                const char *const to = std::find_if(from, end, [](char mark) { return mark != Filled; });
-                if (from != to)
-                    runs.append({m_area.top() + y, m_area.left() + int(from - begin), int(to - from)});
-                from = to;
+            const int width = int(row.size());
+            for (int x = 0; x < width; ++x) {
+                const int first = x;
+                while (x < width && row[size_t(x)] == Filled)
+                    ++x;
+                if (x > first)
+                    runs.append({m_area.top() + y, m_area.left() + first, x - first});
             }
         }
         return runs;
@@ -107,6 +107,7 @@ private:
             --from;
         char *const to = std::find_if(at, row.data() + row.size(), [](char mark) { return mark != Open; });
         std::fill(from, to, Filled);
+        ++m_filled;
         const int first = int(from - row.data());
         const int count = int(to - from);
         if (seed.y() > 0)
@@ -119,6 +120,11 @@ private:
     void addSeeds(int y, int first, int count)
     {
         const char *const row = marks(y).data();
+        if (count == 1) { // as in mazes and combs, of which most runs are
+            if (row[first] == Open)
+                m_seeds.push_back({first, y});
+            return;
+        }
         const char *const end = row + first + count;
         for (const char *from = row + first; from != end;) {
             const void *open = std::memchr(from, Open, size_t(end - from));
@@ -135,6 +141,7 @@ private:
     const Cell m_wanted;
     std::vector<Marks> m_marks; ///< by row of the area, empty until it is reached
     std::vector<QPoint> m_seeds;
+    qsizetype m_filled = 0; ///< runs, of which none touch
 };
 
 } // namespace

@@ -1,9 +1,6 @@
 #include "undo/gridchange.h"
 
 #include <algorithm>
-#include <functional>
-#include <iterator>
-#include <tuple>
 #include <utility>
 
 namespace {
@@ -60,29 +57,31 @@ template <typename Cell>
 typename GridChange<Cell>::Line GridChange<Cell>::lineOf(qsizetype row, const Row &before, const Row &after)
 {
     Line line{row, {}, {}, {}};
-    auto from = before.cbegin();
-    auto to = after.cbegin();
+    const Cell *const from = before.constData();
+    const Cell *const to = after.constData();
+    const auto width = int(before.size());
     qsizetype cells = 0;
-    while (true) {
-        std::tie(from, to) = std::mismatch(from, before.cend(), to);
-        if (from == before.cend())
-            break;
-        const qsizetype column = from - before.cbegin();
-        std::tie(from, to) = std::mismatch(from, before.cend(), to, std::not_equal_to<>());
-        const qsizetype count = from - before.cbegin() - column;
-        line.runs.append({int(column), int(count)});
-        cells += count;
+    for (int x = 0; x < width; ++x) {
+        const int first = x;
+        while (x < width && !(from[x] == to[x]))
+            ++x;
+        if (x == first)
+            continue;
+        line.runs.append({first, x - first});
+        cells += x - first;
     }
     if (line.runs.size() == 1) { // which may be the whole row, whose storage is shared
         line.before = before.mid(line.runs.constFirst().column, cells);
         line.after = after.mid(line.runs.constFirst().column, cells);
         return line;
     }
-    line.before.reserve(cells);
-    line.after.reserve(cells);
+    line.before.resize(cells);
+    line.after.resize(cells);
+    Cell *was = line.before.data();
+    Cell *is = line.after.data();
     for (const Run &run : std::as_const(line.runs)) {
-        std::copy_n(before.cbegin() + run.column, run.count, std::back_inserter(line.before));
-        std::copy_n(after.cbegin() + run.column, run.count, std::back_inserter(line.after));
+        was = std::copy_n(from + run.column, run.count, was);
+        is = std::copy_n(to + run.column, run.count, is);
     }
     return line;
 }
