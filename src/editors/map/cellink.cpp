@@ -2,6 +2,8 @@
 
 #include "model/cellruns.h"
 
+#include <algorithm>
+
 namespace MapEditor {
 
 namespace {
@@ -61,6 +63,11 @@ TileMap::TileData CellInk::inked(QPoint place, const TileMap::TileData &before) 
 
 void CellInk::write(QPoint first, std::span<TileMap::TileData> cells) const
 {
+    if (stamp.cells().size() == 1 && !random && part == Cells) { // the usual ink, whose one cell comes everywhere
+        if (const TileMap::TileData &only = stamp.cells().constFirst(); only.used && only.index < tileCount)
+            std::ranges::fill(cells, only);
+        return;
+    }
     for (TileMap::TileData &cell : cells) {
         cell = inked(first, cell);
         ++first.rx();
