@@ -14,20 +14,30 @@
 
 namespace {
 
+/// A large level on a full screen.
+struct Shown
+{
+    LargeLevel level;
+    MapEditor::View view{&level.map};
+
+    explicit Shown(int zoom)
+    {
+        view.applyPreferences({.checkerBoard = false, .overlayGrid = false, .defaultZoom = zoom});
+        view.resize(Screen);
+        view.show();
+        QApplication::processEvents();
+    }
+};
+
 /// Zoom, whether there is something to play.
 void BM_Tick(benchmark::State &state)
 {
-    LargeLevel level;
-    MapEditor::View view(&level.map);
-    view.applyPreferences({.checkerBoard = false, .overlayGrid = false, .defaultZoom = int(state.range(0))});
-    view.resize(Screen);
-    view.show();
-    QApplication::processEvents();
+    Shown shown(int(state.range(0)));
     if (state.range(1))
-        level.placeAnimations(view.grid()->viewport().visibleCells());
-    view.grid()->repaint();
+        shown.level.placeAnimations(shown.view.grid()->viewport().visibleCells());
+    shown.view.grid()->repaint();
     for (auto _ : state) {
-        view.animator()->tick();
+        shown.view.animator()->tick();
         QApplication::processEvents();
     }
 }
@@ -36,15 +46,10 @@ BENCHMARK(BM_Tick)->ArgsProduct({{1, 4}, {0, 1}})->MeasureProcessCPUTime()->Unit
 /// Zoom: a step of colours that go round, a hundred entries of the palette, with the screen that it repaints.
 void BM_ColourStep(benchmark::State &state)
 {
-    LargeLevel level;
-    MapEditor::View view(&level.map);
-    view.applyPreferences({.checkerBoard = false, .overlayGrid = false, .defaultZoom = int(state.range(0))});
-    view.resize(Screen);
-    view.show();
-    QApplication::processEvents();
+    Shown shown(int(state.range(0)));
     qint64 frame = 0;
     for (auto _ : state) {
-        level.map.tileSet()->palette()->showEntries(ColourCycles::shownEntries({{100, 199, 5}}, frame += 5));
+        shown.level.map.tileSet()->palette()->showEntries(ColourCycles::shownEntries({{100, 199, 5}}, frame += 5));
         QApplication::processEvents();
     }
 }
