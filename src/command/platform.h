@@ -25,6 +25,8 @@ inline void speakUtf8()
     SetConsoleOutputCP(CP_UTF8);
 #else
     std::setlocale(LC_ALL, "");
+    if (std::setlocale(LC_MESSAGES, nullptr) == std::string_view("C"))
+        qunsetenv("LANGUAGE"); // which other programs do not look at in this locale, either
     if (nl_langinfo(CODESET) != std::string_view("UTF-8"))
         qputenv("LC_ALL", "C.UTF-8");
 #endif

@@ -26,14 +26,15 @@ struct Ending
 };
 
 /// Runs a program; bare without what a desktop sets, and with a platform that Qt does not have.
-Ending run(const QString &program, const QStringList &words, const QString &folder = {}, bool isBare = false)
+Ending run(const QString &program, const QStringList &words, const QString &folder = {}, bool isBare = false,
+           const QString &locale = "C")
 {
     QProcessEnvironment environment;
     if (isBare)
         environment.insert("QT_QPA_PLATFORM", "none");
     else
         environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("LC_ALL", "C");
+    environment.insert("LC_ALL", locale);
     QProcess process;
     process.setProcessChannelMode(QProcess::MergedChannels);
     process.setProcessEnvironment(environment);
@@ -71,6 +72,18 @@ private slots:
         QVERIFY(wrong.code == 2 && wrong.text.startsWith("quenmora-export: Unknown option"));
         const Ending failed = run(Program, {"ä.quenmora"}, "/", true);
         QVERIFY(failed.code == 1 && failed.text == "ä.quenmora: There is no such file\n");
+    }
+
+    void speaksTheLanguageOfTheSystem()
+    {
+        qputenv("LANGUAGE", "de");
+        const auto says = [this](const QStringList &words, const QString &locale) {
+            return run(Program, words, path({}), false, locale).text;
+        };
+        QCOMPARE(says({"x"}, "C.UTF-8"), "x: Diese Datei gibt es nicht\n");
+        QVERIFY(says({"-n", "sample.quenmora"}, "C.UTF-8").endsWith(" new; nothing was written\n")); // scripts read it
+        QCOMPARE(says({"x"}, "C"), "x: There is no such file\n");
+        qunsetenv("LANGUAGE");
     }
 
     void makesThumbnails()
