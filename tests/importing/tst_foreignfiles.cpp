@@ -318,7 +318,8 @@ private slots:
         QFETCH(QString, name);
         QFETCH(QByteArray, bytes);
         std::minstd_rand random(7);
-        for (int i = 0; i < 500; ++i) {
+        DamagedFiles files(500);
+        while (files.next()) {
             const auto file = ImportFile::open(m_path(name, damaged(bytes, random)));
             if (!file)
                 continue; // empty

@@ -163,7 +163,8 @@ private slots:
         const auto [sheet, text] = tiledMap();
         QVERIFY(sheet.save(m_path("sheet.png")));
         std::minstd_rand random(7);
-        for (int i = 0; i < 500; ++i) {
+        DamagedFiles files(500);
+        while (files.next()) {
             Project project;
             const auto incoming = prepared(project, damaged(text, random));
             QVERIFY(incoming || !incoming.reason().isEmpty());

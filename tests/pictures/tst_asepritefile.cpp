@@ -513,20 +513,22 @@ private slots:
         std::minstd_rand random(Seed);
         const PeakMemory memory;
         int read = 0;
+        int refused = 0;
         for (const int bits : {8, 16, 32}) {
             const QByteArray whole = sample(bits);
-            for (int round = 0; round < 700; ++round) {
+            DamagedFiles files(700);
+            while (files.next()) {
                 const auto file = AsepriteFile::read(damaged(whole, random));
+                ++(file ? read : refused);
                 if (!file) {
                     QVERIFY(!file.reason().isEmpty());
                     continue;
                 }
-                ++read;
                 for (int frame = 0; frame < file->frameCount(); ++frame)
                     QCOMPARE(file->frame(frame).size(), file->size());
             }
         }
-        QVERIFY2(read > 100 && read < 2000, qPrintable(QString::number(read)));
+        QVERIFY2(read > 100 && refused > 100, qPrintable(QString::number(read)));
         if (memory.isKnown())
             QVERIFY2(memory.grown() < 256 << 20, qPrintable(QString::number(memory.grown())));
     }

@@ -122,7 +122,8 @@ private slots:
     {
         std::minstd_rand random(Seed);
         for (const QByteArray &whole : {Gimp, Jasc, Hex, act(QByteArray("\x00\x10\x00\x0f", 4))}) {
-            for (int round = 0; round < 3000; ++round) {
+            DamagedFiles files(3000);
+            while (files.next()) {
                 const auto file = ColourFile::read(damaged(whole, random));
                 QCOMPARE(file.reason().isEmpty(), bool(file));
                 QVERIFY(!file || (!file->colours.isEmpty() && file->transparentIndex < file->colours.size()));

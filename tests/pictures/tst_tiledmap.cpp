@@ -351,21 +351,23 @@ private slots:
                             + Packing::zstd(cells).toBase64() + "\"")),
             tmj(jsonSet + jsonLayer("\"data\":[1,0,2147483650,3758096387,4,5]"))};
         int read = 0;
+        int refused = 0;
         for (const QByteArray &whole : wholes) {
             const QString file = files.put(QStringLiteral("a"), whole);
             QVERIFY2(TiledMap::read(file), qPrintable(TiledMap::read(file).reason()));
-            for (int round = 0; round < 500; ++round) {
+            DamagedFiles rounds(500);
+            while (rounds.next()) {
                 const auto map = TiledMap::read(files.put(QStringLiteral("a"), damaged(whole, random)));
                 QCOMPARE(map.reason().isEmpty(), bool(map));
+                ++(map ? read : refused);
                 if (!map)
                     continue;
-                ++read;
                 QCOMPARE(map->flattened().gids.size(), qsizetype(map->size.width()) * map->size.height());
                 for (const TiledTileSet &tileSet : map->tileSets)
                     (void)tileSet.tile(tileSet.count - 1);
             }
         }
-        QVERIFY2(read > 100 && read < 1900, qPrintable(QString::number(read)));
+        QVERIFY2(read > 100 && refused > 100, qPrintable(QString::number(read)));
         if (memory.isKnown())
             QVERIFY2(memory.grown() < 256 << 20, qPrintable(QString::number(memory.grown())));
     }
