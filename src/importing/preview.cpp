@@ -9,8 +9,10 @@
 #include "model/project.h"
 #include "model/spritebank.h"
 #include "model/tileset.h"
+#include "model/transform.h"
 
 #include <QLocale>
+#include <QPainter>
 
 #include <algorithm>
 #include <bitset>
@@ -70,7 +72,8 @@ QImage tilesPreview(const TilesContent &content, const QList<QRgb> &colours)
     });
 }
 
-QImage spritesPreview(const IncomingSprites &sprites, const QList<QRgb> &colours)
+/// All sprites, as many as are shown, with what is not drawn clear.
+QImage spritesSheet(const IncomingSprites &sprites, const QList<QRgb> &colours)
 {
     const NextData::SpritesContent &content = sprites.content;
     const int transparency = sprites.transparency >= 0 ? sprites.transparency : SpriteTransparency::DefaultIndex;
@@ -82,6 +85,54 @@ QImage spritesPreview(const IncomingSprites &sprites, const QList<QRgb> &colours
     const auto *pixels = reinterpret_cast<const uchar *>(content.pixels.constData());
     return sheetOf(content.pixels.size() / SpriteBank::SpriteBytes, SpriteBank::SpriteSize, SpriteColumns, table,
                    [pixels](qsizetype i) { return pixels + i * SpriteBank::SpriteBytes; });
+}
+
+/// A sprite of such a sheet; null for one that is not on it.
+QImage spriteOn(const QImage &sheet, int number)
+{
+    constexpr int side = SpriteBank::SpriteSize;
+    const QRect area(number % SpriteColumns * side, number / SpriteColumns * side, side, side);
+    return number >= 0 && sheet.rect().contains(area) ? sheet.copy(area) : QImage();
+}
+
+/// The sprites, and below them the frames of each animation side by side, as far as there is room.
+QImage spritesPreview(const IncomingSprites &sprites, const QList<QRgb> &colours)
+{
+    constexpr int side = SpriteBank::SpriteSize;
+    constexpr int gap = side / 2;
+    constexpr int mostAnimations = 16;
+    constexpr int widest = 2 * SpriteColumns * side;
+    const QImage sheet = spritesSheet(sprites, colours);
+    const auto shown = sprites.animations.first(std::min<qsizetype>(sprites.animations.size(), mostAnimations));
+    QSize size = sheet.size();
+    for (const IncomingAnimation &animation : shown) {
+        const int step = animation.size.width() * side + gap;
+        const int fitting = std::max(widest / step, 1);
+        size = {std::max(size.width(), step * std::min(int(animation.frames.size()), fitting)),
+                size.height() + gap + animation.size.height() * side};
+    }
+    if (shown.isEmpty() || sheet.isNull())
+        return sheet;
+    QImage picture(size, QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.drawImage(0, 0, sheet);
+    int top = sheet.height();
+    for (const IncomingAnimation &animation : shown) {
+        top += gap;
+        int left = 0;
+        for (const AnimationFrame::Cells &frame : animation.frames) {
+            if (left >= size.width())
+                break;
+            for (qsizetype y = 0; y < frame.size(); ++y) {
+                for (qsizetype x = 0; x < frame[y].size(); ++x)
+                    painter.drawImage(left + int(x) * side, top + int(y) * side, spriteOn(sheet, frame[y][x].index));
+            }
+            left += animation.size.width() * side + gap;
+        }
+        top += animation.size.height() * side;
+    }
+    return picture;
 }
 
 QImage palettePreview(const NextData::PaletteContent &content, const QList<QRgb> &before)
@@ -138,6 +189,26 @@ QImage mapPreview(const Project &project, const IncomingAssets &incoming, const 
     return picture;
 }
 
+/// A map with the sprites that come with it.
+QImage withSprites(const QImage &map, const QList<Map::PlacedSprite> &sprites, const QImage &sheet)
+{
+    if (sprites.isEmpty() || sheet.isNull())
+        return map;
+    QImage picture = map.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    QPainter painter(&picture);
+    for (const Map::PlacedSprite &sprite : sprites)
+        painter.drawImage(sprite.x, sprite.y,
+                          oriented(spriteOn(sheet, sprite.sprite), sprite.rotate, sprite.flip, sprite.mirror));
+    return picture;
+}
+
+QList<quint16> wordsOf(const NextData::PaletteContent &palette, QList<quint16> words)
+{
+    for (qsizetype i = 0; i < palette.words.size() && palette.first + i < words.size(); ++i)
+        words[palette.first + i] = palette.words[i];
+    return words;
+}
+
 QString number(qsizetype value)
 {
     return QLocale().toString(value);
@@ -163,14 +234,18 @@ QImage previewOf(const Project &project, const IncomingAssets &incoming, const I
         const NextData::PaletteContent &palette = *incoming.palette;
         if (choices.target.isNull() && palette.words.size() < words.size())
             words.fill(0); // a new palette is black where it has no colours
-        for (qsizetype i = 0; i < palette.words.size() && palette.first + i < words.size(); ++i)
-            words[palette.first + i] = palette.words[i];
+        words = wordsOf(palette, words);
     }
     const QList<QRgb> colours = coloursOf(words);
-    if (incoming.map)
-        return mapPreview(project, incoming, choices, colours);
+    const auto ofSprites = incoming.sprites && incoming.sprites->palette
+        ? coloursOf(wordsOf(*incoming.sprites->palette, QList<quint16>(Palette::Size)))
+        : colours;
+    if (incoming.map) {
+        return withSprites(mapPreview(project, incoming, choices, colours), incoming.map->sprites,
+                           incoming.sprites ? spritesSheet(*incoming.sprites, ofSprites) : QImage());
+    }
     if (incoming.sprites)
-        return spritesPreview(*incoming.sprites, colours);
+        return spritesPreview(*incoming.sprites, ofSprites);
     if (incoming.tiles)
         return tilesPreview(*incoming.tiles, colours);
     if (incoming.image)

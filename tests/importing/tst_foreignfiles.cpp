@@ -119,7 +119,12 @@ private slots:
             prepared(project, "walk.aseprite", walk(bits).bytes(), "aseprite-sprites", options);
         QVERIFY(incoming.sprites && incoming.palette);
         QCOMPARE(incoming.remarks, QStringList(QString::fromUtf8("“swing” is repeated for ever")));
-        const auto added = addTo(project, incoming, {.kind = "aseprite-sprites", .name = "Hero"}, {});
+        const ImportChoices choices{.kind = "aseprite-sprites", .name = "Hero"};
+        // three sprites, and four animations of up to six frames of 2 × 1 sprites below them
+        const QImage preview = previewOf(project, incoming, choices);
+        QCOMPARE(preview.size(), QSize(6 * 40, 16 + 4 * 24));
+        QCOMPARE(preview.pixel(3 * 40 + 16 + 7, 16 + 2 * 24 + 8 + 15), 0xFF000049); // of the last frame
+        const auto added = addTo(project, incoming, choices, {});
         QVERIFY(added);
         const auto bank = project.spriteBank(added->sprites);
         const auto palette = project.palette(added->palette);

@@ -115,6 +115,11 @@ private slots:
         QCOMPARE((QList{corner.index, corner.offset, int(corner.rotate)}),
                  (QList{same.index, same.offset, int(same.rotate)}));
 
+        // the preview shows the object, half of it over what the map has there
+        const QImage preview = previewOf(project, *incoming, {.kind = "tiled", .name = "Level"});
+        QCOMPARE(preview.size(), QSize(160, 32));
+        QCOMPARE(preview.pixel(40 + 12, 4 + 13), sheet.pixel(16 + 3, 13)); // mirrored
+
         // objects
         QCOMPARE(map->sprites().size(), 2);
         const Map::PlacedSprite &bat = map->sprites()[0];

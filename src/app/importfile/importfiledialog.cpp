@@ -19,6 +19,8 @@
 #include <QFileInfo>
 #include <QFormLayout>
 #include <QHBoxLayout>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -32,6 +34,7 @@ using NextData::AssetKind;
 namespace {
 
 constexpr int Delay = 120; ///< milliseconds until what was typed is looked at
+constexpr int MostKept = 2'000'000; ///< cells of maps, for choices that are made again
 
 QString newText(AssetKind kind)
 {
@@ -99,6 +102,7 @@ ImportFileDialog::ImportFileDialog(QWidget *parent)
     , m_remarks(new QLabel(this))
 {
     buildForm();
+    m_prepared.setMaxCost(MostKept);
     m_soon.setSingleShot(true);
     m_soon.setInterval(Delay);
     connect(&m_soon, &QTimer::timeout, this, &ImportFileDialog::refresh);
@@ -165,6 +169,7 @@ void ImportFileDialog::show(const Project &project, const ImportFile &file, cons
 {
     m_project = &project;
     m_file = file;
+    m_prepared.clear();
     m_inFront = inFront;
     m_guesses = recognise(file);
     const QFileInfo info(file.path);
@@ -275,6 +280,18 @@ ImportChoices ImportFileDialog::choices() const
     return choices;
 }
 
+Result<IncomingAssets> ImportFileDialog::prepared()
+{
+    const QByteArray key = QJsonDocument(choices().toJson()).toJson(QJsonDocument::Compact);
+    if (const Result<IncomingAssets> *known = m_prepared.object(key))
+        return *known;
+    const Result<IncomingAssets> made = prepare(*m_project, m_file, choices());
+    const bool hasMap = made && made->map && !made->map->rows.isEmpty();
+    const qsizetype cells = hasMap ? made->map->rows.size() * made->map->rows.constFirst().size() : 0;
+    m_prepared.insert(key, new Result<IncomingAssets>(made), 1 + cells);
+    return made;
+}
+
 void ImportFileDialog::refresh()
 {
     m_soon.stop();
@@ -288,7 +305,7 @@ void ImportFileDialog::refresh()
         m_remarks->clear();
     } else {
         const Busy busy(parentWidget(), tr("Reading %1…").arg(QFileInfo(path).fileName()), m_file.size);
-        m_incoming = prepare(*m_project, m_file, choices());
+        m_incoming = prepared();
         m_preview->setPicture(m_incoming ? previewOf(*m_project, *m_incoming, choices()) : QImage());
         m_facts->setText(m_incoming ? factsOf(*m_incoming).join(QStringLiteral("; ")) : QString());
         m_remarks->setText(m_incoming ? textOf(m_incoming->remarks) : m_incoming.reason());

@@ -5,6 +5,7 @@
 #include "model/project.h"
 #include "ui/dialogbase.h"
 
+#include <QCache>
 #include <QPointer>
 #include <QTimer>
 
@@ -64,12 +65,15 @@ private:
     /// Shows the rows for what is to be chosen now.
     void showRows();
     void refreshSoon();
+    /// What becomes of the file; what was looked at before is not made anew.
+    [[nodiscard]] Result<Importing::IncomingAssets> prepared();
 
     QPointer<const Project> m_project;
     Importing::ImportFile m_file;
     InFront m_inFront;
     QList<Importing::Guess> m_guesses;
     Result<Importing::IncomingAssets> m_incoming = Failure{};
+    QCache<QByteArray, Result<Importing::IncomingAssets>> m_prepared; ///< of the file, by the choices
     QTimer m_soon;
 
     QComboBox *m_kind;
