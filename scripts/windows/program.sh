@@ -62,13 +62,22 @@ run_tests() {
     local pattern result=0
     pattern=$(IFS='|'; echo "$*")
     ctest --test-dir "$build" --parallel "$jobs" --output-on-failure -R "$pattern" || result=$?
+    count_tests | tee "$work/tests.txt"
     step "Comparing with what Linux makes" same_as_on_linux
     # each test has a folder for its home; what lies elsewhere went to the profile of a person
     local stray
-    stray=$(find "$WINEPREFIX/drive_c/users" -path '*/Temp' -prune -o -name '.config' -print)
+    stray=$(find "$WINEPREFIX/drive_c/users" -path '*/Temp' -prune -o -iname '*quenmora*' -print)
     [[ -z $stray ]] || fail "A test wrote into the profile: $stray"
     wineserver -k || true
     return $result
+}
+
+# What each program's totals say, and their sum.
+count_tests() {
+    awk '$2 == "Testing:" { name = $3 }
+        $1 == "Totals:" { print name ": " $2 " passed, " $4 " failed, " $6 " skipped"; p += $2; f += $4; s += $6; ++n }
+        END { print n " programs: " p " passed, " f " failed, " s " skipped" }' \
+        <(tr -d '\r' <"$build/Testing/Temporary/LastTest.log")
 }
 
 # The sample project, made from its pictures under Wine, has the members that it has in the tree, which Linux made; what

@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QKeySequence>
 #include <QList>
+#include <QStandardPaths>
 
 /// What this layer asks of the system beyond Qt.
 namespace Platform {
@@ -18,6 +19,17 @@ inline QDir homeFolder()
         return QDir(profile);
 #endif
     return QDir::home();
+}
+
+/// Where programs keep what they can make again, each in a folder of its own; it is below the home folder on Windows,
+/// too.
+inline QDir cacheFolder()
+{
+#ifdef Q_OS_WIN
+    return QDir(homeFolder().filePath(QStringLiteral("AppData/Local/cache")));
+#else
+    return QDir(QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation));
+#endif
 }
 
 /// Keys for a command for which other systems have standard ones and this one has none; else nothing.

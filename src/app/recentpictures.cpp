@@ -1,5 +1,7 @@
 #include "app/recentpictures.h"
 
+#include "app/platform.h"
+
 #include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QDateTime>
@@ -38,8 +40,7 @@ QString exportProgram()
 
 RecentPictures::RecentPictures(QObject *parent)
     : QObject(parent)
-    , m_folder(QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation)
-               + QStringLiteral("/quenmora/pictures"))
+    , m_folder(Platform::cacheFolder().filePath(QStringLiteral("quenmora/pictures")))
     , m_program(exportProgram())
 {
     m_next.setSingleShot(true);

@@ -8,6 +8,7 @@
 #include "app/commands/shortcutsfile.h"
 #include "app/commands/shortcuttable.h"
 #include "app/menus/filemenu.h"
+#include "app/platform.h"
 #include "app/unsavedmark.h"
 #include "editors/canvas/canvas.h"
 #include "editors/canvas/imageeditorview.h"
@@ -43,7 +44,7 @@ const QString Draw = "mapEditor.draw";
 
 QString shortcutsPath(const QString &suffix = {})
 {
-    return QDir::home().filePath(".config/quenmora/shortcuts.json" + suffix);
+    return Platform::homeFolder().filePath(".config/quenmora/shortcuts.json" + suffix);
 }
 
 QString textOf(const Commands::Keys &keys)
