@@ -7,6 +7,7 @@
 #include <QHBoxLayout>
 #include <QJsonObject>
 #include <QListWidget>
+#include <QScreen>
 #include <QShowEvent>
 #include <QStackedWidget>
 #include <QVBoxLayout>
@@ -40,7 +41,8 @@ PreferencesDialog::PreferencesDialog(QWidget *parent)
     addPage(QStringLiteral("general"), m_generalPage);
     addPage(QStringLiteral("mapEditor"), m_mapEditorPage);
     layout->addWidget(buttons);
-    resize(560, 360);
+    // more where letters are large
+    resize(sizeHint().expandedTo({560, 360}).boundedTo(screen()->availableSize() - QSize(40, 60)));
 }
 
 QJsonDocument PreferencesDialog::toJson() const

@@ -7,6 +7,8 @@
 
 #include <QScopedValueRollback>
 
+#include <algorithm>
+
 namespace AnimationEditor {
 
 namespace {
@@ -29,8 +31,10 @@ AnimationView::AnimationView(AnimationListWidget *list, EditorWidget *editor, QW
     setStretchFactor(0, 0);
     setStretchFactor(1, 1);
     setChildrenCollapsible(false);
-    setSizes({ListWidth, 3 * ListWidth});
-    m_list->setMinimumWidth(LeastListWidth);
+    constexpr int Letters = 22; // of a name, or of the line that tells frames and size
+    const int width = std::max(ListWidth, Letters * fontMetrics().averageCharWidth());
+    setSizes({width, 3 * ListWidth});
+    m_list->setMinimumWidth(width * LeastListWidth / ListWidth);
 
     FrameEditorWidget *cells = m_editor->frameEditor();
     cells->setCellRenderer([this](const AnimationFrame::Cell &cell) { return cellPicture(cell); });
