@@ -5,6 +5,7 @@
 #include "editors/map/mapeditorview.h"
 #include "editors/map/mapgrid.h"
 #include "editors/map/spritepropertiespopover.h"
+#include "editors/map/terrainmarks.h"
 #include "model/map.h"
 #include "model/mapobjects.h"
 #include "model/spritebank.h"
@@ -197,6 +198,37 @@ private slots:
         list.setFocus();
         QTest::keyClick(&list, Qt::Key_Insert);
         QCOMPARE(project().spriteBanks().first()->count(), 2);
+    }
+
+    void marksTerrains()
+    {
+        MapEditor::TerrainMarks marks;
+        marks.resize(500, 300);
+        marks.MapEditor::TerrainMarks::show(project().tileSets().first(), {"Hill", false, {}});
+        marks.QWidget::show();
+        const auto press = [&marks](Qt::Key key, Qt::KeyboardModifiers keys = {}) {
+            QTest::keyClick(&marks, key, keys);
+        };
+        for (int i = 0; i < 4; ++i) // to the middle of the second tile
+            press(Qt::Key_Right, Qt::ControlModifier);
+        press(Qt::Key_Down, Qt::ControlModifier);
+        press(Qt::Key_Space);
+        press(Qt::Key_Up, Qt::ControlModifier);
+        press(Qt::Key_Space);
+        QVERIFY(marks.terrain().find(1) && marks.terrain().find(1)->marks == Terrain::North);
+        press(Qt::Key_Down, Qt::ControlModifier);
+        press(Qt::Key_Space, Qt::ShiftModifier);
+        QVERIFY(!marks.terrain().find(1));
+    }
+
+    void takesTheChosenSpriteAgain()
+    {
+        auto *list = m_window->views().mapSprites->findChild<QListView *>("sprites");
+        m_window->views().mapSprites->raise();
+        list->setCurrentIndex(list->model()->index(0, 0));
+        grid().setMode(Draw);
+        QTest::keyClick(list, Qt::Key_Return);
+        QCOMPARE(grid().mode(), PlaceSprite);
     }
 
     void tellsWhereTheKeyboardIs()

@@ -15,14 +15,6 @@ constexpr int Side = 3;
 constexpr std::array Rows{Qt::AlignTop, Qt::AlignVCenter, Qt::AlignBottom};
 constexpr std::array Columns{Qt::AlignLeft, Qt::AlignHCenter, Qt::AlignRight};
 
-QString nameOf(int button)
-{
-    const std::array names{AnchorPad::tr("Top left"),    AnchorPad::tr("Top"),    AnchorPad::tr("Top right"),
-                           AnchorPad::tr("Left"),        AnchorPad::tr("Centre"), AnchorPad::tr("Right"),
-                           AnchorPad::tr("Bottom left"), AnchorPad::tr("Bottom"), AnchorPad::tr("Bottom right")};
-    return names.at(size_t(button));
-}
-
 /// The arrow of a neighbour of the chosen button; nothing for one further away.
 QString arrow(int rows, int columns)
 {
@@ -33,6 +25,13 @@ QString arrow(int rows, int columns)
 }
 
 } // namespace
+
+QString AnchorPad::nameOf(int place)
+{
+    const std::array names{tr("Top left"), tr("Top"),         tr("Top right"), tr("Left"),        tr("Centre"),
+                           tr("Right"),    tr("Bottom left"), tr("Bottom"),    tr("Bottom right")};
+    return names.at(size_t(place));
+}
 
 AnchorPad::AnchorPad(QWidget *parent) : QWidget(parent), m_buttons(new QButtonGroup(this))
 {

@@ -18,6 +18,8 @@ public:
     /// The edges at which the content stays; top left at first.
     [[nodiscard]] Qt::Alignment alignment() const;
     void setAlignment(Qt::Alignment alignment);
+    /// What one of nine places is called, counted row by row.
+    [[nodiscard]] static QString nameOf(int place);
 
 signals:
     void alignmentChanged(Qt::Alignment alignment);

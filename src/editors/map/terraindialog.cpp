@@ -12,6 +12,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QScopedValueRollback>
+#include <QScreen>
 #include <QScrollArea>
 #include <QVBoxLayout>
 
@@ -48,12 +49,13 @@ TerrainDialog::TerrainDialog(QWidget *parent)
     explanation->setWordWrap(true);
     body()->addWidget(explanation);
     auto *scroller = new QScrollArea;
+    scroller->setFocusPolicy(Qt::NoFocus); // the marks have the keyboard
     scroller->setWidget(m_marks);
     scroller->setWidgetResizable(true);
     scroller->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     scroller->setMinimumSize(m_marks->sizeHint().width() + 24, 240);
     body()->addWidget(scroller, 1);
-    resize(sizeHint().expandedTo({480, 620}));
+    resize(sizeHint().expandedTo({480, 620}).boundedTo(screen()->availableSize() - QSize(40, 60)));
 
     connect(m_add, &QPushButton::clicked, this, &TerrainDialog::addTerrain);
     connect(m_remove, &QPushButton::clicked, this, &TerrainDialog::removeTerrain);

@@ -1,6 +1,9 @@
 #include "editors/map/terrainmarks.h"
 
+#include "editors/map/anchorpad.h"
 #include "model/palette.h"
+#include "ui/keycursor.h"
+#include "ui/reveal.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -15,6 +18,7 @@ namespace {
 constexpr int TileExtent = 40;
 constexpr int Gap = 4;
 constexpr int Pitch = TileExtent + Gap;
+constexpr int Side = 3; ///< fields of a tile
 constexpr int Middle = 0;
 
 /// The marks of the nine fields, row by row.
@@ -29,11 +33,42 @@ QRect fieldRect(const QRect &tile, int field)
     return {first, QPoint(edge(tile.left(), field % 3 + 1) - 1, edge(tile.top(), field / 3 + 1) - 1)};
 }
 
+/// Marks with the keyboard.
+class MarkKeys final : public KeyCursor
+{
+public:
+    explicit MarkKeys(TerrainMarks *marks) : KeyCursor(marks), m_marks(marks)
+    {
+        connect(this, &KeyCursor::moved, marks, [marks](QPoint field) { ::reveal(marks, marks->fieldArea(field)); });
+        connect(marks, &TerrainMarks::edited, this, &CellTable::tellContent);
+    }
+
+    QSize size() const override { return m_marks->fieldTable(); }
+    bool exists(QPoint field) const override { return contains(field) && m_marks->hasTile(m_marks->tileOf(field)); }
+    QRect area(QPoint field) const override { return m_marks->fieldArea(field); }
+    QPoint cellAt(QPoint point) const override { return m_marks->fieldAt(point); }
+    QString text(QPoint field) const override { return m_marks->textOf(field); }
+
+protected:
+    QRect visibleCells() const override { return {QPoint(0, 0), size()}; }
+    void scrollTo(QPoint) override { }
+    void pick(QPoint field, bool) override { choose(field); }
+    void select(const QRect &) override { }
+    void selectNone() override { }
+    bool selectsFrom(QPoint) const override { return false; }
+    void openMenu(QPoint) override { }
+
+private:
+    TerrainMarks *const m_marks;
+};
+
 } // namespace
 
 TerrainMarks::TerrainMarks(QWidget *parent) : QWidget(parent)
 {
     setAccessibleName(tr("Marks of the terrain"));
+    setFocusPolicy(Qt::StrongFocus);
+    new MarkKeys(this); // which is its child
     QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
@@ -70,6 +105,41 @@ QRect TerrainMarks::tileRect(int index) const
 {
     const int across = columns(width());
     return {Gap + index % across * Pitch, Gap + index / across * Pitch, TileExtent, TileExtent};
+}
+
+QSize TerrainMarks::fieldTable() const
+{
+    const int count = m_tileSet ? m_tileSet->count() : 0;
+    const int across = columns(width());
+    return QSize(std::min(count, across), (count + across - 1) / across) * Side;
+}
+
+int TerrainMarks::tileOf(QPoint field) const
+{
+    return field.y() / Side * columns(width()) + field.x() / Side;
+}
+
+QRect TerrainMarks::fieldArea(QPoint field) const
+{
+    return fieldRect(tileRect(tileOf(field)), field.y() % Side * Side + field.x() % Side);
+}
+
+QPoint TerrainMarks::fieldAt(QPoint point) const
+{
+    const QPoint within(point.x() % Pitch - Gap, point.y() % Pitch - Gap);
+    return QPoint(point.x() / Pitch, point.y() / Pitch) * Side
+        + QPoint(std::max(within.x(), 0), std::max(within.y(), 0)) * Side / TileExtent;
+}
+
+QString TerrainMarks::textOf(QPoint field) const
+{
+    const int index = tileOf(field);
+    const int place = field.y() % Side * Side + field.x() % Side;
+    const int mark = Fields[size_t(place)];
+    const Terrain::Tile *tile = m_terrain.find(index);
+    const bool marked = tile && (mark == Middle || tile->marks & mark);
+    const QString name = QStringLiteral("%1, %2").arg(index).arg(AnchorPad::nameOf(place));
+    return marked ? name + QStringLiteral(" \u2713") : name;
 }
 
 void TerrainMarks::paintEvent(QPaintEvent *event)
