@@ -74,11 +74,11 @@ test)
     run_tests "${@:2}"
     ;;
 window)
-    install_missing wine wine64 xvfb openbox xdotool imagemagick python3
+    install_missing wine wine64 fonts-wine xvfb openbox xdotool imagemagick python3
     libraries
     program
     say "Working in the window under Wine"
-    python3 tests/endtoend/underwine.py "$zip" "$top/examples" "$work/window"
+    PYTHONDONTWRITEBYTECODE=1 python3 tests/endtoend/underwine.py "$zip" "$top/examples" "$work/window"
     ;;
 *)
     sed -n '2,/^[^#]/ s/^# \{0,1\}//p' "$0" >&2

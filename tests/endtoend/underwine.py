@@ -21,6 +21,7 @@ from pathlib import Path
 from afternoon import Desktop, Failure, require
 
 LETTERS = "Ünicode Ωжא日本 ไทย"
+TILE = (640, 672)  # in the tile picker
 PAINT = (520, 330), (700, 330)  # on the map that the sample shows first
 
 
@@ -44,20 +45,23 @@ class WineDesktop(Desktop):
 
     patience = 90  # Wine takes its time
 
-    def __init__(self, program, pictures, home, prefix):
-        super().__init__(["wine", str(program)], pictures, home)
+    def __init__(self, program, pictures, folder):
+        """Makes a profile of its own in a folder: Wine gives USERPROFILE itself."""
+        super().__init__(["wine", str(program)], pictures, folder)
         self.environment.pop("QT_QPA_PLATFORM")
         self.environment.update(
-            WINEPREFIX=str(prefix),
-            WINEDEBUG="-all",
-            WINEDLLOVERRIDES="mscoree,mshtml=",
-            USERPROFILE=windows_path(home),
-            LC_ALL="C.UTF-8",
+            WINEPREFIX=str(folder / "wine"), WINEDEBUG="-all", WINEDLLOVERRIDES="mscoree,mshtml=", LC_ALL="C.UTF-8"
         )
-
-    def prepare(self):
-        """The prefix, so that its making counts for no program's patience; Wine's desktop has a colour of its own."""
         subprocess.run(["wineboot", "--init"], env=self.environment, capture_output=True, check=True)
+        users = folder / "wine/drive_c/users"
+        self.profile = next(user for user in users.iterdir() if user.name != "Public")
+        # links lead to the home folder of who runs this
+        for link in [entry for entry in self.profile.iterdir() if entry.is_symlink()]:
+            link.unlink()
+
+    def end(self):
+        subprocess.run(["wineserver", "-k"], env=self.environment, capture_output=True)
+        super().end()
 
     def dark(self, isDark):
         """As Windows keeps that people want dark windows."""
@@ -70,18 +74,22 @@ class WineDesktop(Desktop):
         done = subprocess.run(command, env=self.environment, capture_output=True, text=True)
         require(done.returncode == 0, "quenmora-export.exe exports the project" + done.stderr)
 
+    def open_recent(self):
+        self.menu("f", "r", "Return")
+        self.wait("the project", lambda: "Lantern" in self.run("xdotool", "getactivewindow", "getwindowname"))
+
     def quit(self):
         self.key("ctrl+q")
         require(self.editor.wait(self.patience) == 0, "the program quits by its key")
 
 
-def work(desktop, project, home):
+def work(desktop, project):
     before = contents(project)
     desktop.open_editor()
     desktop.shot("started")
-    desktop.menu("f", "r", "Return")
-    desktop.wait("the project", lambda: "Lantern" in desktop.run("xdotool", "getactivewindow", "getwindowname"))
+    desktop.open_recent()
     desktop.shot("sample-open")
+    desktop.click(TILE)
     desktop.key("d")
     desktop.drag(*PAINT)
     desktop.shot("painted")
@@ -92,8 +100,8 @@ def work(desktop, project, home):
     after = contents(project)
     changed = {name for name in after if after[name] != before.get(name)}
     require(set(after) == set(before), "the project has the members that it had")
-    require(any(name.startswith("tilemap/") for name in changed), "the map was painted")
-    require(changed <= {name for name in changed if name.startswith("tilemap/")} | {"project.json"}, "nothing else changed")
+    maps = {name for name in changed if name.startswith("tilemap/")}
+    require(len(maps) == 1 and changed <= maps | {"project.json"}, "one map was painted, and nothing else has changed")
 
     written = project.parent / "game" / "gfx"
     desktop.key("F9")
@@ -104,10 +112,9 @@ def work(desktop, project, home):
     desktop.shot("dialog")
     desktop.key("Escape")
     desktop.quit()
-    require((home / ".config/quenmora/state.json").exists(), "the settings are in the home folder that it was given")
+    require((desktop.profile / ".config/quenmora/preferences.json").exists(), "the settings are in the profile")
     desktop.open_editor()
-    desktop.menu("f", "r", "Return")
-    desktop.wait("the project", lambda: "Lantern" in desktop.run("xdotool", "getactivewindow", "getwindowname"))
+    desktop.open_recent()
     desktop.shot("reopened")
     desktop.quit()
 
@@ -116,33 +123,31 @@ def main():
     archive, examples, pictures = (Path(word).resolve() for word in sys.argv[1:4])
     shutil.rmtree(pictures, ignore_errors=True)
     pictures.mkdir(parents=True)
-    home = Path(tempfile.mkdtemp(prefix="quenmora-"))
+    folder = Path(tempfile.mkdtemp(prefix="quenmora-"))
     desktop = None
     try:
-        place = home / LETTERS
+        place = folder / LETTERS
         with zipfile.ZipFile(archive) as zipped:
             zipped.extractall(place)
         program = next(place.glob("quenmora-*"))
         project = place / (LETTERS + ".quenmora")
         shutil.copy(examples / "sample.quenmora", project)
         shutil.copy(examples / "sample.quenmora-export.json", str(project) + "-export.json")
-        settings = home / ".config/quenmora"
+
+        desktop = WineDesktop(program / "quenmora.exe", pictures, folder)
+        settings = desktop.profile / ".config/quenmora"
         settings.mkdir(parents=True)
         state = {"recent": [windows_path(project).replace("\\", "/")], "windowState": "", "windowGeometry": ""}
         (settings / "state.json").write_text(json.dumps(state))
-
-        desktop = WineDesktop(program / "quenmora.exe", pictures, home, pictures.parent / "wine")
-        desktop.prepare()
-        work(desktop, project, home)
-        desktop.export_by_command(program / "quenmora-export.exe", project, home / "by-command")
+        work(desktop, project)
+        desktop.export_by_command(program / "quenmora-export.exe", project, folder / "by-command")
         require(
-            files_below(home / "by-command" / "game" / "gfx") == files_below(project.parent / "game" / "gfx"),
+            files_below(folder / "by-command" / "game" / "gfx") == files_below(project.parent / "game" / "gfx"),
             "both programs export the same",
         )
         desktop.dark(True)
         desktop.open_editor()
-        desktop.menu("f", "r", "Return")
-        desktop.wait("the project", lambda: "Lantern" in desktop.run("xdotool", "getactivewindow", "getwindowname"))
+        desktop.open_recent()
         desktop.shot("dark")
         desktop.quit()
         print("All is right. The pictures are in %s" % pictures)
@@ -154,9 +159,8 @@ def main():
         return 1
     finally:
         if desktop:
-            desktop.dark(False)
             desktop.end()
-        shutil.rmtree(home, ignore_errors=True)
+        shutil.rmtree(folder, ignore_errors=True)
 
 
 if __name__ == "__main__":
