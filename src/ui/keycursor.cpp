@@ -8,7 +8,6 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QScopedValueRollback>
 
 #include <algorithm>
 
@@ -156,7 +155,8 @@ void KeyCursor::moveTo(QPoint cell, Qt::KeyboardModifiers keys)
             m_anchor = from;
     }
     reveal(m_cell);
-    send(QEvent::MouseMove, Qt::NoButton);
+    if (!send(QEvent::MouseMove, Qt::NoButton))
+        return;
     if (m_anchor)
         select(between(*m_anchor, m_cell));
     placeMark();
@@ -177,10 +177,11 @@ void KeyCursor::press(Qt::KeyboardModifiers keys)
     }
     // Ctrl alone is held to move the cursor
     m_keys = keys & Qt::AltModifier ? Qt::ControlModifier : Qt::NoModifier;
-    send(QEvent::MouseMove, Qt::NoButton);
+    if (!send(QEvent::MouseMove, Qt::NoButton))
+        return;
     m_held = button;
-    send(QEvent::MouseButtonPress, button);
-    tellContent();
+    if (send(QEvent::MouseButtonPress, button))
+        tellContent();
 }
 
 void KeyCursor::release()
@@ -190,7 +191,8 @@ void KeyCursor::release()
         return;
     }
     const Qt::MouseButton button = std::exchange(m_held, Qt::NoButton);
-    send(QEvent::MouseButtonRelease, button);
+    if (!send(QEvent::MouseButtonRelease, button))
+        return;
     m_keys = Qt::NoModifier;
     tellContent();
 }
@@ -201,21 +203,25 @@ void KeyCursor::choose(QPoint cell)
         return;
     m_cell = cell;
     show();
+    const QPointer guard(this);
     moveTo(cell, {});
-    press({});
-    release();
+    if (guard)
+        press({});
+    if (guard)
+        release();
 }
 
-void KeyCursor::send(QEvent::Type type, Qt::MouseButton button)
+bool KeyCursor::send(QEvent::Type type, Qt::MouseButton button)
 {
-    const QScopedValueRollback sending(m_sending, true);
     const QPointer guard(this); // a tool may open a menu, under which anything can happen
+    m_sending = true;
     const QPointF point = pointOf(m_cell);
     QMouseEvent event(type, point, widget()->window()->mapFromGlobal(widget()->mapToGlobal(point)),
                       widget()->mapToGlobal(point), button, m_held, m_keys, Qt::MouseEventSynthesizedByApplication);
     QApplication::sendEvent(widget(), &event);
-    if (!guard)
-        return;
+    if (guard)
+        m_sending = false;
+    return guard;
 }
 
 // ---- Where it is ----------------------------------------------------------------------------
@@ -244,7 +250,8 @@ void KeyCursor::show()
     if (!visible.isEmpty())
         m_cell = {std::clamp(m_cell.x(), visible.left(), visible.right()),
                   std::clamp(m_cell.y(), visible.top(), visible.bottom())};
-    send(QEvent::MouseMove, Qt::NoButton);
+    if (!send(QEvent::MouseMove, Qt::NoButton))
+        return;
     placeMark();
     // after the widget itself was told to have the keyboard
     QMetaObject::invokeMethod(this, &KeyCursor::tellCurrent, Qt::QueuedConnection);
@@ -254,8 +261,11 @@ void KeyCursor::hide()
 {
     if (!m_shown)
         return;
+    const QPointer guard(this);
     if (m_held != Qt::NoButton || m_selecting)
         release();
+    if (!guard)
+        return;
     m_anchor.reset();
     m_shown = false;
     placeMark();

@@ -63,7 +63,8 @@ private:
     void moveTo(QPoint cell, Qt::KeyboardModifiers keys);
     void press(Qt::KeyboardModifiers keys);
     void release();
-    void send(QEvent::Type type, Qt::MouseButton button);
+    /// Sends the widget an event of a mouse; false when it is gone thereby.
+    [[nodiscard]] bool send(QEvent::Type type, Qt::MouseButton button);
 
     QPoint m_cell{0, 0};
     QPointer<KeyMark> m_mark;
