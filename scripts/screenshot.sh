@@ -20,6 +20,7 @@ clean_up() {
 }
 trap clean_up EXIT
 fail() {
+    cat "$work/program.log" >&2
     echo "$*" >&2
     exit 1
 }
@@ -35,7 +36,7 @@ read -r -t 30 number <"$work/number" || {
 export DISPLAY=:$number QT_QPA_PLATFORM=xcb
 unset WAYLAND_DISPLAY
 
-"$program" &
+"$program" >"$work/program.log" 2>&1 &
 editor=$!
 started=("$editor" "${started[@]}") # it ends before its display does
 
