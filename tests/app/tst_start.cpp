@@ -4,6 +4,7 @@
 #include "app/menus/filemenu.h"
 #include "app/menus/helpmenu.h"
 #include "app/recentpictures.h"
+#include "app/recentpreview.h"
 #include "app/startpage.h"
 #include "editors/map/mapeditorview.h"
 #include "editors/map/mapgrid.h"
@@ -23,6 +24,9 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QHelpEvent>
+#include <QLabel>
+#include <QMenu>
 #include <QSignalSpy>
 #include <QTest>
 #include <QToolButton>
@@ -186,6 +190,16 @@ private slots:
         QVERIFY(card != cards.end());
         const QImage before = (*card)->icon().pixmap((*card)->iconSize()).toImage();
         QTRY_VERIFY_WITH_TIMEOUT((*card)->icon().pixmap((*card)->iconSize()).toImage() != before, 60'000);
+
+        QMenu *menu = m_window->menus()->fileMenu()->recentMenu();
+        const auto *preview = menu->findChild<RecentPreview *>();
+        menu->popup({});
+        QHelpEvent pointed(QEvent::ToolTip, menu->actionGeometry(menu->actions().constFirst()).center(), {});
+        QApplication::sendEvent(menu, &pointed);
+        QVERIFY(preview->isVisible()
+                && preview->findChildren<QLabel *>().constLast()->text().endsWith("mine.quenmora"));
+        menu->hide();
+        QVERIFY(!preview->isVisible());
     }
 
     void saysTheNextStepInEmptyEditors()
