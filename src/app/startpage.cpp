@@ -89,7 +89,8 @@ QWidget *title()
     auto *name = new QLabel(QCoreApplication::applicationName());
     QFont font = name->font();
     font.setBold(true);
-    font.setPointSizeF(font.pointSizeF() * 1.5);
+    if (font.pointSizeF() > 0) // else its size is told in pixels
+        font.setPointSizeF(font.pointSizeF() * 1.5);
     name->setFont(font);
     auto *row = new QWidget;
     auto *layout = new QHBoxLayout(row);
