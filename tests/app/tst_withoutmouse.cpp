@@ -289,6 +289,7 @@ private slots:
                  m_window->views().tileEditor, m_window->views().spriteEditor, m_window->views().palette}) {
             QTest::keyClick(&*m_window, Qt::Key_F6, Qt::ControlModifier);
             QVERIFY2(dock->isAncestorOf(QApplication::focusWidget()), qPrintable(dock->objectName()));
+            QVERIFY2(!dock->visibleRegion().isEmpty(), qPrintable(dock->objectName()));
         }
     }
 
