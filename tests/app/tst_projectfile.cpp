@@ -102,7 +102,8 @@ private slots:
         controller()->openProject(opened);
         const MessageDialog *dialog = m_window->messageDialog();
         QCOMPARE(dialog->text(), "Invalid project file");
-        QVERIFY2(dialog->detail().startsWith(opened + "\nIts backup is from "), qPrintable(dialog->detail()));
+        QVERIFY2(dialog->detail().startsWith(QDir::toNativeSeparators(opened) + "\nIts backup is from "),
+                 qPrintable(dialog->detail()));
         QCOMPARE(offer()->text(), "Open &Backup");
         QVERIFY(offer()->isVisible());
         offer()->click();
@@ -142,7 +143,7 @@ private slots:
         m_window->messageDialog()->accept();
         QVERIFY(offer()->isVisible());
         offer()->click();
-        QCOMPARE(m_window->messageDialog()->detail(), (*m_folder)("game.quenmora.bak"));
+        QCOMPARE(m_window->messageDialog()->detail(), QDir::toNativeSeparators((*m_folder)("game.quenmora.bak")));
         QVERIFY(m_window->messageDialog()->isVisible() && !offer()->isVisible());
         QVERIFY(!controller()->project());
     }
