@@ -270,7 +270,10 @@ AddedAssets change(Project &project, const IncomingAssets &incoming, const Impor
 {
     QUndoStack *stack = stackFor ? stackFor(choices.target) : nullptr;
     if (const QPointer<Palette> palette = project.palette(choices.target)) {
-        replaceEntries(*palette, *incoming.palette, stack);
+        if (incoming.cycles)
+            replaceCycles(project, *palette, *incoming.cycles, stack);
+        else
+            replaceEntries(*palette, *incoming.palette, stack);
         return {.palette = choices.target};
     }
     if (const QPointer<TileSet> tileSet = project.tileSet(choices.target)) {
@@ -361,7 +364,7 @@ QString targetProblem(const Project &project, const IncomingAssets &incoming, co
     if (image && incoming.image)
         return imageProblem(*image, *incoming.image);
     const bool isForMap = incoming.map || incoming.placedSprites || incoming.placedBlocks;
-    if ((bank && incoming.animations) || (project.palette(choices.target) && incoming.palette)
+    if ((bank && incoming.animations) || (project.palette(choices.target) && (incoming.palette || incoming.cycles))
         || (project.map(choices.target) && isForMap))
         return {};
     return Texts::tr("The asset into which it goes is not there any more, or is of another kind");
@@ -371,7 +374,7 @@ QString targetProblem(const Project &project, const IncomingAssets &incoming, co
 
 QString problemOf(const Project &project, const IncomingAssets &incoming, const ImportChoices &choices)
 {
-    if (!choices.target.isNull())
+    if (!choices.target.isNull() || incoming.cycles)
         return targetProblem(project, incoming, choices);
     if (incoming.numbers)
         return Texts::tr("Choose the tile set whose tiles these are for");

@@ -59,6 +59,7 @@ struct IncomingAssets
     std::optional<NextData::AnimationsContent> animations{}; ///< of tiles or sprites that are there
     std::optional<QList<Map::PlacedSprite>> placedSprites{}; ///< on a map that is there, as what follows
     std::optional<AnimatedBlocks::State> placedBlocks{};
+    std::optional<ColourCycles::List> cycles{}; ///< of a palette that is there
 
     QStringList remarks{}; ///< what is lost or otherwise worth knowing, a sentence each
     QStringList outside{}; ///< files that were not read because they are not below the folder of this one

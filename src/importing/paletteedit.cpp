@@ -4,6 +4,7 @@
 #include "model/image.h"
 #include "model/palette.h"
 #include "model/project.h"
+#include "model/projectextras.h"
 #include "model/spritebank.h"
 #include "model/tileset.h"
 #include "undo/snapshotcommand.h"
@@ -64,6 +65,21 @@ void replaceEntries(Palette &palette, const NextData::PaletteContent &content, Q
     };
     stack->push(new SnapshotCommand<Entries>(Texts::tr("Import Palette"), before, after, changeAgain, NeverMerges,
                                              QVariant(), NoTimeLimit));
+}
+
+void replaceCycles(const Project &project, const Palette &palette, const ColourCycles::List &cycles, QUndoStack *stack)
+{
+    const QPointer<ProjectExtras> extras = project.extras();
+    const ColourCycles::List before = ColourCycles::of(*extras, palette.id());
+    ColourCycles::set(*extras, palette.id(), cycles);
+    if (!stack || before == cycles)
+        return;
+    const auto change = [extras, id = palette.id()](const ColourCycles::List &, const ColourCycles::List &to) {
+        if (extras)
+            ColourCycles::set(*extras, id, to);
+    };
+    stack->push(new SnapshotCommand<ColourCycles::List>(Texts::tr("Import Palette"), before, cycles, change,
+                                                        NeverMerges, QVariant(), NoTimeLimit));
 }
 
 bool hasOtherUsers(const Project &project, const Palette &palette, const QObject &user)

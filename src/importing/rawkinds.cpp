@@ -119,6 +119,8 @@ Result<IncomingAssets> incomingOf(const NextData::Reading &reading, const Projec
     }
     if (const auto *animations = std::get_if<NextData::AnimationsContent>(&reading.content))
         incoming.animations = *animations;
+    if (const auto *cycles = std::get_if<NextData::ColourCyclesContent>(&reading.content))
+        incoming.cycles = cycles->cycles;
     if (const auto *content = std::get_if<NextData::PlacedSpritesContent>(&reading.content)) {
         const auto sprites = withIds(*content, project);
         if (!sprites)
@@ -176,7 +178,7 @@ QList<FileKind> Kinds::raw()
         FileKind kind{.id = reader.id, .title = reader.title, .asset = reader.kind, .options = reader.options};
         kind.needsTarget = reader.id == QStringLiteral("tile-attributes") || reader.id == QStringLiteral("tile-values")
             || reader.id == QStringLiteral("sprite-animations") || reader.id == QStringLiteral("map-sprites")
-            || reader.id == QStringLiteral("map-blocks");
+            || reader.id == QStringLiteral("map-blocks") || reader.id == QStringLiteral("palette-cycles");
         kind.rareOptions =
             QStringList{QStringLiteral("count"), QStringLiteral("height"), QStringLiteral("screen-width"),
                         QStringLiteral("screen-height"), QStringLiteral("bit-0")};

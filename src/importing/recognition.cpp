@@ -44,7 +44,8 @@ int probability(const NextData::Reader &reader, const ImportFile &file, const QS
         return 0;
     // whose beginning says where each of them is
     static const QStringList sure{QStringLiteral("block-animations"), QStringLiteral("sprite-animations"),
-                                  QStringLiteral("map-sprites"), QStringLiteral("map-blocks")};
+                                  QStringLiteral("map-sprites"), QStringLiteral("map-blocks"),
+                                  QStringLiteral("palette-cycles")};
     if (sure.contains(reader.id))
         return reader.read(file.bytes, {}) ? 10 : 0;
     if (findFileKind(reader.id)->needsTarget) // any bytes would do

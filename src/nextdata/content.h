@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/animation.h"
+#include "model/colourcycle.h"
 #include "model/enums.h"
 #include "model/map.h"
 #include "model/tilemap.h"
@@ -130,7 +131,15 @@ struct PlacedBlocksContent
     bool operator==(const PlacedBlocksContent &) const = default;
 };
 
+/// Ranges of a palette whose colours go round.
+struct ColourCyclesContent
+{
+    ColourCycles::List cycles;
+
+    bool operator==(const ColourCyclesContent &) const = default;
+};
+
 using Content = std::variant<PaletteContent, TilesContent, TileNumbersContent, MapContent, SpritesContent, ImageContent,
-                             AnimationsContent, PlacedSpritesContent, PlacedBlocksContent>;
+                             AnimationsContent, PlacedSpritesContent, PlacedBlocksContent, ColourCyclesContent>;
 
 } // namespace NextData

@@ -171,6 +171,22 @@ Result<Reading> readBytes(const QByteArray &bytes, const OptionValues &)
     return Reading{PaletteContent{0, wordsOfColourBytes(bytes)}};
 }
 
+Reader::Fit fitsCycles(qint64 size)
+{
+    return size % 4 == 1 && size <= 1 + 4 * Palette::Size ? Reader::Fit::Possible : Reader::Fit::None;
+}
+
+Result<Reading> readCycles(const QByteArray &bytes, const OptionValues &)
+{
+    const auto byte = [&bytes](qsizetype at) { return int(uchar(bytes[at])); };
+    ColourCyclesContent content;
+    for (qsizetype at = 1; at + 3 < bytes.size(); at += 4)
+        content.cycles.append({byte(at), byte(at + 1), byte(at + 2), byte(at + 3) == 1});
+    if (bytes.size() != 1 + 4 * byte(0) || ColourCycles::sound(content.cycles) != content.cycles)
+        return Failure{Texts::tr("The records do not lie in the file as its beginning says")};
+    return Reading{content};
+}
+
 } // namespace
 
 QByteArray paletteWords(const Palette &palette, int first, int count)
@@ -296,6 +312,13 @@ QList<Reader> paletteReaders()
          .options = {group},
          .fit = fitsWords<2 * GroupSize>,
          .read = readGroup},
+        {.id = QStringLiteral("palette-cycles"),
+         .kind = AssetKind::Palette,
+         .title = Texts::tr("Ranges of a palette whose colours go round"),
+         .suffixes = {QStringLiteral("bin")},
+         .options = {},
+         .fit = fitsCycles,
+         .read = readCycles},
     };
 }
 

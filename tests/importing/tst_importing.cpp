@@ -143,6 +143,25 @@ private slots:
         }
     }
 
+    void formsHaveReaders()
+    {
+        for (const NextData::Form &form : NextData::forms())
+            QVERIFY2(NextData::findReader(form.id), qPrintable(form.id));
+        RandomProject random(3);
+        const QPointer<Palette> palette = random.project.palettes().constFirst();
+        const QByteArray before = writtenBytes("palette-cycles", sourceOf(random.project, palette));
+        const QByteArray bytes("\2\x10\x1F\5\0\x20\x23\xFF\1", 9);
+        const ImportChoices choices{.kind = "palette-cycles", .target = palette->id()};
+        const ImportFile source = file("cycles.bin", bytes);
+        QCOMPARE(recognise(source).constFirst().kind, "palette-cycles");
+        QUndoStack stack;
+        QVERIFY(addTo(random.project, *prepare(random.project, source, choices), choices,
+                      [&stack](const QUuid &) { return &stack; }));
+        QCOMPARE(writtenBytes("palette-cycles", sourceOf(random.project, palette)), bytes);
+        stack.undo();
+        QCOMPARE(writtenBytes("palette-cycles", sourceOf(random.project, palette)), before);
+    }
+
     /// Files that the assets themselves write.
     void filesOfAssetsComeBack()
     {
@@ -519,8 +538,8 @@ private slots:
             QVERIFY(incoming || !incoming.reason().isEmpty());
             if (!incoming)
                 continue;
-            const bool isForOthers =
-                incoming->numbers || incoming->animations || incoming->placedSprites || incoming->placedBlocks;
+            const bool isForOthers = incoming->numbers || incoming->animations || incoming->placedSprites
+                || incoming->placedBlocks || incoming->cycles;
             QVERIFY(isForOthers || !previewOf(project, *incoming, choices).isNull());
             const auto added = addTo(project, *incoming, choices, {});
             QVERIFY(added ? !idOf(*added).isNull() : Source::all(project).isEmpty());
