@@ -474,7 +474,7 @@ void MainWindow::messageChanged(const QString &message)
     if (!message.isEmpty())
         return;
     const Project *project = m_projectController.project();
-    const QString file = m_projectController.filePath();
+    const QString file = QDir::toNativeSeparators(m_projectController.filePath());
     statusBar()->showMessage(project && !file.isEmpty() ? tr("%1 [%2]").arg(project->name(), file) : windowTitle());
 }
 
