@@ -208,7 +208,7 @@ private slots:
         const auto told = [dialog] { return dialog->windowTitle() + '|' + dialog->text() + '|' + dialog->detail(); };
         controller()->openProject(m_folder("gone.quenmora")); // as a recent file that is gone
         QVERIFY(dialog->isVisible());
-        QCOMPARE(told(), "Warning!|Invalid project file|" + m_folder("gone.quenmora"));
+        QCOMPARE(told(), "Warning!|Invalid project file|" + QDir::toNativeSeparators(m_folder("gone.quenmora")));
         controller()->newProject("Game");
         emit controller()->project()->error("Told by the project");
         m_window->messageDialog()->accept(); // the next one in turn
