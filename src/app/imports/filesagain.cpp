@@ -210,7 +210,7 @@ private:
     {
         const TilePicture shown = picture();
         if (shown.image.isNull()) {
-            m_failure = Texts::tr("Such a file makes new assets, and cannot go into those that are there");
+            m_failure = Texts::tr("The map is too large to be brought up to date");
             return;
         }
         const RenewedTiles renewed =

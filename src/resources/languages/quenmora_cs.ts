@@ -2327,6 +2327,10 @@ Přidejte palety, dlaždice, mapy s tím, co je na nich umístěno, sprity, anim
         <source>%1 is up to date; sprites that are new: %2</source>
         <translation>Aktuální: %1; nové sprity: %2</translation>
     </message>
+    <message>
+        <source>The map is too large to be brought up to date</source>
+        <translation>Mapa je na aktualizaci příliš velká</translation>
+    </message>
 </context>
 <context>
     <name>ImportFileDialog</name>

@@ -2296,6 +2296,10 @@ Fügen Sie Paletten, Tiles, Karten mit allem, was darauf platziert ist, Sprites,
         <source>%1 is up to date; sprites that are new: %2</source>
         <translation>%1 ist auf dem neuesten Stand; neue Sprites: %2</translation>
     </message>
+    <message>
+        <source>The map is too large to be brought up to date</source>
+        <translation>Die Karte ist zu groß, um sie auf den neuesten Stand zu bringen</translation>
+    </message>
 </context>
 <context>
     <name>ImportFileDialog</name>

@@ -2296,6 +2296,10 @@ Añada paletas, tiles, mapas con lo que hay colocado en ellos, sprites, animacio
         <source>%1 is up to date; sprites that are new: %2</source>
         <translation>%1 está al día; sprites nuevos: %2</translation>
     </message>
+    <message>
+        <source>The map is too large to be brought up to date</source>
+        <translation>El mapa es demasiado grande para ponerlo al día</translation>
+    </message>
 </context>
 <context>
     <name>ImportFileDialog</name>

@@ -2296,6 +2296,10 @@ Ajoutez des palettes, des tuiles, des cartes avec ce qui y est placé, des sprit
         <source>%1 is up to date; sprites that are new: %2</source>
         <translation>%1 est à jour&#xa0;; nouveaux sprites&#xa0;: %2</translation>
     </message>
+    <message>
+        <source>The map is too large to be brought up to date</source>
+        <translation>La carte est trop grande pour être mise à jour</translation>
+    </message>
 </context>
 <context>
     <name>ImportFileDialog</name>

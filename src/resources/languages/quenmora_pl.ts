@@ -2327,6 +2327,10 @@ Dodaj palety, kafelki, mapy z umieszczonymi na nich elementami, sprite’y, anim
         <source>%1 is up to date; sprites that are new: %2</source>
         <translation>Aktualne: %1; nowe sprite’y: %2</translation>
     </message>
+    <message>
+        <source>The map is too large to be brought up to date</source>
+        <translation>Mapa jest za duża, aby ją zaktualizować</translation>
+    </message>
 </context>
 <context>
     <name>ImportFileDialog</name>

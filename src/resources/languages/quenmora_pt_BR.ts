@@ -2296,6 +2296,10 @@ Adicione paletas, tiles, mapas com o que está posicionado neles, sprites, anima
         <source>%1 is up to date; sprites that are new: %2</source>
         <translation>%1 está em dia; sprites novos: %2</translation>
     </message>
+    <message>
+        <source>The map is too large to be brought up to date</source>
+        <translation>O mapa é grande demais para ser atualizado</translation>
+    </message>
 </context>
 <context>
     <name>ImportFileDialog</name>
