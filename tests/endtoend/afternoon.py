@@ -8,6 +8,7 @@ the program saved and exported is then read with nothing but Python's standard l
 what was done. Needs xvfb, openbox, xdotool and imagemagick. Ends with 0 only when everything was right.
 """
 
+import contextlib
 import json
 import os
 import shutil
@@ -416,15 +417,34 @@ def check_exports(folder):
     require(len(sprites) == 512 and set(sprites) == {SKY, GOLD}, "two sprites were exported")
 
 
+@contextlib.contextmanager
+def reported(make_desktop, pictures, folder, success):
+    """A desktop for a run, whose end is told: what it was for, or why it failed, for which the script ends with 1.
+
+    The folder goes with it. make_desktop() is called within, so that its failures are told as well.
+    """
+    desktop = None
+    try:
+        desktop = make_desktop()
+        yield desktop
+        print("%s. The pictures are in %s" % (success, pictures))
+    except Failure as failure:
+        if desktop and desktop.editor and desktop.editor.poll() is None:
+            desktop.shot("failure")
+        sys.exit("FAILED: %s. The pictures are in %s" % (failure, pictures))
+    finally:
+        if desktop:
+            desktop.end()
+        shutil.rmtree(folder, ignore_errors=True)
+
+
 def main():
     if len(sys.argv) != 3:
         sys.exit(__doc__)
     program, pictures = Path(sys.argv[1]).resolve(), Path(sys.argv[2]).resolve()
     pictures.mkdir(parents=True, exist_ok=True)
     home = Path(tempfile.mkdtemp())
-    desktop = None
-    try:
-        desktop = Desktop([str(program)], pictures, home)
+    with reported(lambda: Desktop([str(program)], pictures, home), pictures, home, "All is right") as desktop:
         print("Working:")
         desktop.open_editor()
         start_project(desktop, home)
@@ -441,18 +461,7 @@ def main():
         print("Checking:")
         check_project(home / "game.quenmora")
         check_exports(home)
-        print("All is right. The pictures are in %s" % pictures)
-        return 0
-    except Failure as failure:
-        if desktop:
-            desktop.editor and desktop.editor.poll() is None and desktop.shot("failure")
-        print("FAILED: %s. The pictures are in %s" % (failure, pictures), file=sys.stderr)
-        return 1
-    finally:
-        if desktop:
-            desktop.end()
-        shutil.rmtree(home, ignore_errors=True)
 
 
 if __name__ == "__main__":
-    sys.exit(main())
+    main()

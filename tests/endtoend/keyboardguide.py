@@ -17,7 +17,7 @@ import time
 import zipfile
 from pathlib import Path
 
-from afternoon import SCREEN, Desktop, Failure, read_png, require
+from afternoon import SCREEN, Desktop, read_png, reported, require
 
 PICTURE = Path(__file__).resolve().parents[2] / "examples" / "pictures" / "level.png"
 
@@ -304,9 +304,7 @@ def main():
     pictures.mkdir(parents=True, exist_ok=True)
     home = Path(tempfile.mkdtemp())
     project = home / "level.quenmora"
-    desktop = None
-    try:
-        desktop = Desktop(str(program), pictures, home)
+    with reported(lambda: Desktop([str(program)], pictures, home), pictures, home, "All is right") as desktop:
         print("Working:")
         desktop.open_editor()
         hands = Hands(desktop)
@@ -322,18 +320,7 @@ def main():
         desktop.close_editor()
         print("Checking:")
         check(project, imported, home)
-        print("All is right. The pictures are in %s" % pictures)
-        return 0
-    except Failure as failure:
-        if desktop:
-            desktop.editor and desktop.editor.poll() is None and desktop.shot("failure")
-        print("FAILED: %s. The pictures are in %s" % (failure, pictures), file=sys.stderr)
-        return 1
-    finally:
-        if desktop:
-            desktop.end()
-        shutil.rmtree(home, ignore_errors=True)
 
 
 if __name__ == "__main__":
-    sys.exit(main())
+    main()

@@ -20,7 +20,7 @@ import gi
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
 
-from afternoon import Desktop, Failure, require  # noqa: E402
+from afternoon import Desktop, reported, require  # noqa: E402
 
 SAMPLE = Path(__file__).resolve().parents[2] / "examples" / "sample.quenmora"
 MOST_CELLS = 3  # of a table that are printed
@@ -150,25 +150,12 @@ def main():
     shutil.copy(SAMPLE, SAMPLE_COPY)
     os.environ["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
     os.environ.update(LC_ALL="C.UTF-8", LANGUAGE="")  # it listens for English names
-    desktop = None
-    try:
-        desktop = Desktop(str(program), pictures, home)
+    with reported(lambda: Desktop([str(program)], pictures, home), pictures, home, "All was told") as desktop:
         os.environ["DISPLAY"] = desktop.environment["DISPLAY"]
         listener = Listener()
         desktop.open_editor()
         use(desktop, listener)
-        print("All was told. The pictures are in %s" % pictures)
-        return 0
-    except Failure as failure:
-        if desktop:
-            desktop.editor and desktop.editor.poll() is None and desktop.shot("failure")
-        print("FAILED: %s. The pictures are in %s" % (failure, pictures), file=sys.stderr)
-        return 1
-    finally:
-        if desktop:
-            desktop.end()
-        shutil.rmtree(home, ignore_errors=True)
 
 
 if __name__ == "__main__":
-    sys.exit(main())
+    main()
