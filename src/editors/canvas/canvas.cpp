@@ -1,6 +1,7 @@
 #include "editors/canvas/canvas.h"
 
 #include "editors/canvas/canvasclipboard.h"
+#include "editors/canvas/canvastool.h"
 #include "editors/canvas/layeraction.h"
 #include "ui/commands.h"
 #include "ui/outlineband.h"
@@ -10,6 +11,7 @@
 #include <QMetaEnum>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Quenmora::Ui;
 
@@ -73,9 +75,24 @@ void Canvas::bindPalette(const QPointer<Palette> &palette)
     update();
 }
 
+QImage Canvas::drawnImage() const
+{
+    if (!isDraggingShape() || !m_layer.rect().contains(m_pointer.pressed))
+        return image();
+    Layer2Image preview(QSize(1, 1));
+    preview.copyFrom(m_layer);
+    m_tools.tool().drawPreview(preview);
+    return preview.image();
+}
+
 QImage Canvas::shownImage() const
 {
-    return m_palette ? m_palette->shown(image()) : image();
+    return m_palette ? m_palette->shown(drawnImage()) : drawnImage();
+}
+
+QList<QRgb> Canvas::shownColours() const
+{
+    return m_palette ? m_palette->shown(image().colorTable()) : image().colorTable();
 }
 
 QUuid Canvas::paletteId() const
@@ -217,6 +234,10 @@ void Canvas::setImage(const QImage &image)
     // What was drawn into the image before belongs to another tile, sprite or moment.
     m_edit.giveUp();
     m_grab.reset();
+    if (m_extended && isDraggingShape()) { // which does not go on in this one
+        m_pointer.endDrag();
+        m_pointer.buttons = Qt::NoButton;
+    }
     m_layer.setImage(image);
     m_layer.reloadColourTable();
     m_selection.clipTo(m_layer.rect());
@@ -280,6 +301,36 @@ void Canvas::finishStroke()
     finishEdit(m_edit.text(), PixelEditCommand::None);
 }
 
+bool Canvas::isDraggingShape() const
+{
+    return m_tools.tool().hasPreview() && m_pointer.pressed != CanvasPointer::Nowhere;
+}
+
+void Canvas::dropStroke()
+{
+    if (!isDrawing())
+        return;
+    if (isEditing())
+        startOver();
+    m_edit.giveUp();
+    if (const auto grab = std::exchange(m_grab, std::nullopt)) {
+        m_floating = grab->floating;
+        select(grab->selection);
+    }
+    m_pointer.endDrag();
+    m_pointer.buttons = Qt::NoButton;
+    update();
+    emit strokeDropped();
+}
+
+void Canvas::endLostDrag()
+{
+    finishStroke();
+    dropStroke(); // a shape, which is drawn when it ends
+    m_selection.clearAnchor();
+    m_pointer.buttons = Qt::NoButton;
+}
+
 void Canvas::finishEdit(const QString &text, PixelEditCommand::Kind kind)
 {
     const QImage before = m_edit.end(image());
@@ -327,6 +378,7 @@ void Canvas::chooseTool(ToolButton mode)
 {
     // A drag does not go on in another tool.
     finishStroke();
+    dropStroke();
     m_pointer.buttons = Qt::NoButton;
     m_tools.choose(mode);
     emit modeChanged(mode);
@@ -424,9 +476,10 @@ void Canvas::beginSelection(QPoint point)
     const QPoint pixel = m_geometry.pixelAt(point);
     if (m_pointer.buttons == Qt::LeftButton && isMovable(pixel)) {
         finishStroke();
+        const FloatingPixels before = m_floating;
         takeUpSelection();
         m_edit.begin(image(), tr("Move"));
-        m_grab = pixel - m_floating.area().topLeft();
+        m_grab = SelectionGrab{pixel - m_floating.area().topLeft(), before, selection()};
         return;
     }
     m_selection.setAnchor(point);
@@ -437,7 +490,7 @@ void Canvas::beginSelection(QPoint point)
 void Canvas::extendSelection(QPoint point)
 {
     if (m_grab)
-        return moveSelection(m_geometry.pixelAt(point) - *m_grab);
+        return moveSelection(m_geometry.pixelAt(point) - m_grab->hold);
     if (!m_selection.hasAnchor())
         return;
     m_band->setGeometry(m_selection.extendTo(point, m_geometry, m_layer.rect()));

@@ -39,7 +39,9 @@ public:
     ~Canvas() override;
 
     const QImage &image() const { return m_layer.image(); }
-    /// The same with the colours that the palette shows now, as the canvas paints it.
+    /// The same with the shape that is being dragged.
+    QImage drawnImage() const;
+    /// What is drawn with the colours that the palette shows now, as the canvas paints it.
     QImage shownImage() const;
     Palette *palette() const { return m_palette; }
     /// Shows the image in the palette's colours from now on; null unbinds.
@@ -70,8 +72,8 @@ public:
     /// not been told keeps what the press began: nothing that can be copied or filled, but at zoom 1 the pixel.
     void setClickDeselects(bool deselects) { m_clickDeselects = deselects; }
     /// Gives a canvas what people have in editors beyond what it does by itself: filled circles, straight lines and
-    /// squares with Shift, and a selection that is moved by dragging and by the arrow keys, whose outline marches, and
-    /// which is all of the image when all is selected.
+    /// squares with Shift, Escape to drop what is being drawn, and a selection that is moved by dragging and by the
+    /// arrow keys, whose outline marches, and which is all of the image when all is selected.
     void setExtended(bool extended);
     /// How the tools paint from now on.
     void setPaintOptions(const PaintOptions &options);
@@ -89,7 +91,7 @@ public:
     void showFrom(QPoint pixel) { scrollBy(m_geometry.scroll - pixel); }
     /// What the paste tool pastes; null before something was pasted.
     QImage clipboardImage() const override;
-    QList<QRgb> shownColours() const override { return shownImage().colorTable(); }
+    QList<QRgb> shownColours() const override;
 
     /// Scrolls by one pixel for an arrow key without modifiers; false for every other key.
     bool scrollByKey(const QKeyEvent *event);
@@ -106,6 +108,8 @@ public:
     StrokePath &stroke() override { return m_stroke; }
     void beginEdit() override;
     bool isEditing() const override { return m_edit.isOpen(); }
+    /// Whether a stroke or a shape is being drawn, or pixels are being moved.
+    bool isDrawing() const { return isEditing() || isDraggingShape(); }
     /// Ends the edit, and announces it when it changed a pixel.
     void finishEdit(const QString &text, PixelEditCommand::Kind kind);
     void startOver() override;
@@ -140,8 +144,11 @@ signals:
     void scrollValuesChanged(int horizontal, int vertical);
     void scrollPositionChanged(QPoint pos);
     void imageChanged();
-    /// A stroke that is going on drew into the image; imageChanged() follows when it has ended.
+    /// drawnImage() is another one while something is being drawn; imageChanged() or strokeDropped() follows at the
+    /// end.
     void strokeDrawn();
+    /// What was being drawn is not there any more.
+    void strokeDropped();
     void edited(QString text, QImage before, QImage after, PixelEditCommand::Kind kind);
     void foregroundPicked(int index);
     void backgroundPicked(int index);
@@ -157,6 +164,7 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void leaveEvent(QEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
@@ -181,6 +189,11 @@ private:
     bool isMovable(QPoint pixel) const override;
     void openContextMenu(QPoint globalPosition) override;
 
+    bool isDraggingShape() const;
+    /// Drops what is being drawn or moved, as if it had not been begun.
+    void dropStroke();
+    /// Ends a drag whose release went elsewhere: what is drawn already stays.
+    void endLostDrag();
     /// Changes the geometry, if asked to, and fits the image; the selection stays on its pixels.
     void relayout(const std::function<void(CanvasGeometry &)> &change = {});
     /// Shows another part of the image; the selection stays on its pixels.
@@ -217,7 +230,7 @@ private:
     StrokePath m_stroke;
     QImage m_ghost;
     FloatingPixels m_floating;
-    std::optional<QPoint> m_grab; ///< where the floating pixels are held, as seen from their corner
+    std::optional<SelectionGrab> m_grab; ///< while the floating pixels are dragged
     PixelEditCommand::Kind m_nudge = PixelEditCommand::Nudge;
     bool m_clickDeselects = false;
     bool m_extended = false;

@@ -53,13 +53,7 @@ void Canvas::paintEvent(QPaintEvent *event)
 
 void Canvas::paintImage(QPainter &painter) const
 {
-    QImage shown = image();
-    if (m_tools.tool().hasPreview() && m_layer.rect().contains(m_pointer.pressed)) {
-        Layer2Image preview(QSize(1, 1));
-        preview.copyFrom(m_layer);
-        m_tools.tool().drawPreview(preview);
-        shown = preview.image();
-    }
+    const QImage shown = drawnImage();
     // Only what is on the screen is converted and scaled.
     const QRect visible = m_geometry.visiblePixels() & shown.rect();
     if (visible.isEmpty())
@@ -93,7 +87,7 @@ void Canvas::mousePressEvent(QMouseEvent *event)
     holdKeys(event->modifiers());
     m_pointer.press(m_geometry.pixelAt(event->position().toPoint()), event->buttons());
     m_tools.tool().mousePressed(event);
-    if (isEditing())
+    if (isDrawing())
         emit strokeDrawn();
 }
 
@@ -101,11 +95,13 @@ void Canvas::mouseMoveEvent(QMouseEvent *event)
 {
     const QPoint pixel = m_geometry.pixelAt(event->position().toPoint());
     holdKeys(event->modifiers());
+    if (m_extended && event->spontaneous() && event->buttons() == Qt::NoButton && m_pointer.buttons != Qt::NoButton)
+        endLostDrag(); // another window took the release
     if (!m_pointer.moveTo(pixel))
         return;
     if (m_tools.tool().mouseMoved(event))
         update();
-    if (isEditing())
+    if (isDrawing())
         emit strokeDrawn();
     hoverAt(pixel);
 }
@@ -129,6 +125,13 @@ void Canvas::leaveEvent(QEvent *event)
     m_selection.clearAnchor();
     update();
     QWidget::leaveEvent(event);
+}
+
+void Canvas::hideEvent(QHideEvent *event)
+{
+    if (m_extended)
+        endLostDrag();
+    QWidget::hideEvent(event);
 }
 
 void Canvas::wheelEvent(QWheelEvent *event)
@@ -160,6 +163,8 @@ void Canvas::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Shift)
         holdKeys(m_pointer.keys | Qt::ShiftModifier);
+    if (m_extended && event->key() == Qt::Key_Escape && isDrawing())
+        return dropStroke();
     if (!nudgeByKey(event) && !scrollByKey(event))
         QWidget::keyPressEvent(event);
 }
@@ -176,8 +181,10 @@ void Canvas::holdKeys(Qt::KeyboardModifiers keys)
     if (!m_extended || keys == m_pointer.keys)
         return;
     m_pointer.keys = keys;
-    if (m_tools.tool().hasPreview() && m_pointer.pressed != CanvasPointer::Nowhere)
-        update();
+    if (!isDraggingShape())
+        return;
+    update();
+    emit strokeDrawn();
 }
 
 bool Canvas::nudgeByKey(const QKeyEvent *event)

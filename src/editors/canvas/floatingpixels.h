@@ -27,3 +27,11 @@ private:
     QImage m_left; ///< the whole image with them
     QPoint m_corner;
 };
+
+/// How pixels that float are dragged, and what was there before.
+struct SelectionGrab
+{
+    QPoint hold; ///< where they are held, as seen from their corner
+    FloatingPixels floating;
+    QRect selection;
+};

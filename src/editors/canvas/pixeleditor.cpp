@@ -196,11 +196,12 @@ void PixelEditor::followStrokes()
             soon->start();
     });
     QObject::connect(soon, &QTimer::timeout, m_canvas, [this] {
-        if (!m_canvas->isEditing())
+        if (!m_canvas->isDrawing())
             return;
-        showStroke(m_canvas->image());
+        showStroke(m_canvas->drawnImage());
         m_canvas->update(); // which the preview follows
     });
+    QObject::connect(m_canvas, &Canvas::strokeDropped, m_canvas, [this] { showStroke({}); });
 }
 
 void PixelEditor::sayNextStep(const QString &text, const std::function<bool()> &isBlank)

@@ -71,7 +71,8 @@ protected:
     /// Shows pixels of the asset; isLoading() tells them from those that were painted.
     void load(const QImage &pixels);
     bool isLoading() const { return m_loading; }
-    /// Shows the pixels of a stroke that is being drawn wherever the picture is seen; null pixels when it has ended.
+    /// Shows the pixels of a stroke or shape that is being drawn wherever the picture is seen; null pixels when it has
+    /// ended.
     virtual void showStroke(const QImage &pixels) { Q_UNUSED(pixels) }
 
     /// Pushes a finished edit; without a stack it stays applied and is not recorded.

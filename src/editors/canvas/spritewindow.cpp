@@ -122,6 +122,7 @@ void SpriteWindow::connectParts()
 
 void SpriteWindow::setSprites(const QPointer<SpriteBank> &sprites)
 {
+    showStroke({});
     if (m_sprites)
         m_sprites->disconnect(this);
     m_sprites = sprites;

@@ -134,6 +134,7 @@ int TileWindow::tileIndex() const
 
 void TileWindow::setTileSet(const QPointer<TileSet> &tileSet)
 {
+    showStroke({});
     if (m_tileSet)
         m_tileSet->disconnect(this);
     m_tileSet = tileSet;

@@ -6,6 +6,7 @@
 #include "support/pixelscenes.h"
 
 #include <QAction>
+#include <QMetaEnum>
 
 using namespace PixelScenes;
 using namespace Quenmora::Ui;
@@ -33,6 +34,11 @@ std::unique_ptr<Scene> fetchScene()
 class TestPixelEditor : public QObject
 {
     Q_OBJECT
+
+public:
+    /// How a stroke or shape ends.
+    enum End { Released, ReleasedElsewhere, Escaped, AnotherTool, AnotherShown };
+    Q_ENUM(End)
 
 private slots:
     void editsStayWithTheirElement_data() { addScenes(); }
@@ -69,17 +75,23 @@ private slots:
     void strokesAreSeenElsewhereBeforeTheyEnd_data()
     {
         QTest::addColumn<bool>("sprites");
-        QTest::addColumn<bool>("ends");
+        QTest::addColumn<ToolButton>("tool");
+        QTest::addColumn<End>("end");
+        const auto ends = QMetaEnum::fromType<End>();
         for (const bool sprites : {false, true}) {
-            for (const bool ends : {false, true})
-                QTest::addRow("%s %s", sprites ? "sprite" : "tile", ends ? "drawn" : "given up") << sprites << ends;
+            for (const ToolButton tool : {Draw, Line, Rectangle, RectangleFill, Circle, CircleFill}) {
+                for (int i = 0; i < ends.keyCount(); ++i)
+                    QTest::addRow("%s, tool %d, %s", sprites ? "sprite" : "tile", int(tool), ends.key(i))
+                        << sprites << tool << End(ends.value(i));
+            }
         }
     }
 
     void strokesAreSeenElsewhereBeforeTheyEnd()
     {
         QFETCH(bool, sprites);
-        QFETCH(bool, ends);
+        QFETCH(ToolButton, tool);
+        QFETCH(End, end);
         TileScene tiles;
         SpriteScene bank;
         Scene &scene = sprites ? static_cast<Scene &>(bank) : tiles;
@@ -89,18 +101,42 @@ private slots:
             return picture.pixelIndex(picture.width() - 1 - 3, 2); // which is 2, 3 before it is turned
         };
         const int ink = sprites ? 1 : 33;
+        scene.canvas().setMode(tool);
         const EditorInput::Mouse mouse{scene.canvas()};
         mouse.press({1, 3});
         mouse.move({2, 3}, Qt::LeftButton);
         QTRY_COMPARE(seen(), ink);
+        QCOMPARE(scene.canvas().shownImage().pixelIndex(2, 3), 1); // as the preview repeats it
         QCOMPARE(scene.stored(0).pixelIndex(2, 3), 0);
-        if (ends)
-            mouse.release({2, 3});
-        else
+        switch (end) {
+        case Released:
+            break;
+        case ReleasedElsewhere: {
+            const QPointF point = mouse.centreOf({6, 6});
+            QMouseEvent move(QEvent::MouseMove, point, scene.canvas().mapToGlobal(point), Qt::NoButton, Qt::NoButton,
+                             Qt::NoModifier);
+            QSpontaneKeyEvent::setSpontaneous(&move); // of the window system
+            QApplication::instance()->notify(&scene.canvas(), &move);
+            break;
+        }
+        case Escaped:
+            QTest::keyClick(&scene.canvas(), Qt::Key_Escape);
+            break;
+        case AnotherTool:
+            scene.canvas().setMode(Pick);
+            break;
+        case AnotherShown:
             scene.show(1);
-        QCOMPARE(seen(), ends ? ink : ink - 1);
-        QCOMPARE(scene.stored(0).pixelIndex(2, 3), ends ? 1 : 0);
-        QCOMPARE(scene.stack.count(), ends ? 1 : 0);
+            break;
+        }
+        mouse.move({1, 3}, Qt::LeftButton);
+        mouse.move({2, 3}, Qt::LeftButton);
+        mouse.release({2, 3});
+        const bool keepsStroke = tool == Draw && (end == ReleasedElsewhere || end == AnotherTool);
+        const bool drawn = end == Released || keepsStroke;
+        QCOMPARE(seen(), drawn ? ink : ink - 1);
+        QCOMPARE(scene.stored(0).pixelIndex(2, 3), drawn ? 1 : 0);
+        QCOMPARE(scene.stack.count(), drawn ? 1 : 0);
         QCOMPARE(scene.stored(1).pixelIndex(2, 3), 0);
     }
 
