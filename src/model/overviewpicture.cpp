@@ -24,8 +24,8 @@ public:
         const int key = cell.index << 4 | (cell.offset & 15);
         auto found = m_colours.constFind(key);
         if (found == m_colours.cend()) {
-            const QImage image =
-                m_tiles.tileImage(cell.index, false, false, false, cell.offset).convertToFormat(QImage::Format_RGB32);
+            const QImage image = m_tiles.shownTileImage(cell.index, false, false, false, cell.offset)
+                                     .convertToFormat(QImage::Format_RGB32);
             found = m_colours.insert(key, average(image));
         }
         return *found;

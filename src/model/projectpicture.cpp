@@ -89,10 +89,24 @@ QImage mosaic(const QSize &size, int count, int side, PieceAt pieceAt)
     return picture;
 }
 
+/// A sprite in the palette's own colours, whatever a view shows now.
+QImage pictureOf(const SpriteBank &bank, int index)
+{
+    QImage sprite = bank.spriteImage(index, false, false, false);
+    const QList<QRgb> own = sprite.colorTable();
+    QList<QRgb> drawn = own;
+    const int last = bank.clearPixels().pixelCount() - 1;
+    for (qsizetype pixel = 0; pixel < drawn.size(); ++pixel) {
+        const qsizetype entry = pixel & last;
+        drawn[pixel] = entry == bank.clearPixels().pixel() ? 0 : own.at(entry) | 0xFF000000U;
+    }
+    sprite.setColorTable(drawn);
+    return sprite;
+}
+
 QImage pictureOf(const SpriteBank &bank, const QSize &most)
 {
-    return mosaic(most, bank.count(), SpriteBank::SpriteSize,
-                  [&bank](int index) { return bank.renderSprite(index, 0, false, false, false); });
+    return mosaic(most, bank.count(), SpriteBank::SpriteSize, [&bank](int index) { return pictureOf(bank, index); });
 }
 
 QImage pictureOf(const TileSet &tiles, const QSize &most)

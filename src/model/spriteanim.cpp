@@ -61,7 +61,7 @@ QImage SpriteAnim::preview(const QSize &size) const
         return {};
     const QImage image = composed(*frame(0), this->size(), cellSize(), [&](const AnimationFrame::Cell &cell) {
         return cell.index >= 0 && cell.index < bank->count()
-            ? bank->spriteImage(cell.index, cell.rotate, cell.flip, cell.mirror)
+            ? bank->shownSpriteImage(cell.index, cell.rotate, cell.flip, cell.mirror)
             : QImage();
     });
     return image.scaled(size, Qt::KeepAspectRatio, Qt::FastTransformation);

@@ -18,7 +18,7 @@ void drawFrame(QPainter &painter, QPoint origin, const AnimationFrame &frame, QS
             if (cell.index < 0 || cell.index >= tiles.count())
                 continue;
             painter.drawImage(origin + QPoint(column, row) * Tile::Size,
-                              tiles.tileImage(cell.index, cell.rotate, cell.flip, cell.mirror, cell.offset));
+                              tiles.shownTileImage(cell.index, cell.rotate, cell.flip, cell.mirror, cell.offset));
         }
     }
 }

@@ -12,17 +12,22 @@
 #include "editors/common/animationlistwidget.h"
 #include "editors/map/mapeditorview.h"
 #include "editors/map/mapgrid.h"
+#include "editors/map/mapoverview.h"
+#include "editors/map/paintbar.h"
+#include "editors/map/paintdesk.h"
 #include "editors/palette/paletteeditor.h"
 #include "editors/palette/palettegrid.h"
 #include "model/colourcycle.h"
 #include "model/mapobjects.h"
 #include "model/projectextras.h"
+#include "model/projectpicture.h"
 #include "model/spriteanim.h"
 #include "store/projectdocument.h"
 #include "support/modeltools.h"
 #include "support/paintwatch.h"
 #include "support/testmain.h"
 
+#include <QListWidget>
 #include <QTest>
 
 #include <optional>
@@ -52,8 +57,8 @@ private slots:
         const QPointer<TileSet> tiles = project.createTileSet("Tiles", palette->id(), 4);
         for (int index = 0; index < 4; ++index)
             tiles->setTileImage(index, picture({8, 8}));
-        const QPointer<Map> map = project.createMap("Map", tiles->id(), {40, 30});
-        map->setTiles({0, 0, 40, 30}, 1, false, false, false, true);
+        const QPointer<Map> map = project.createMap("Map", tiles->id(), {80, 30});
+        map->setTiles({0, 0, 80, 30}, 1, false, false, false, true);
         const QPointer<SpriteBank> bank = project.createSpriteBank(Quenmora::FourBit, "Sprites", palette->id());
         bank->setWholeImage(picture({16, 32}));
         bank->newAnimation();
@@ -83,9 +88,13 @@ private slots:
                                          {Sprite, "sprite editor"},
                                          {List, "sprite list"},
                                          {OnMap, "map"},
+                                         {Overview, "overview of a map"},
+                                         {Stamps, "stamps"},
                                          {InImage, "image"},
                                          {Block, "block animation"},
-                                         {SpriteAnimation, "sprite animation"}})
+                                         {BlockList, "block animations"},
+                                         {SpriteAnimation, "sprite animation"},
+                                         {SpriteAnimationList, "sprite animations"}})
             QTest::newRow(name) << int(view);
     }
 
@@ -96,17 +105,22 @@ private slots:
         QVERIFY(widget && widget->isVisible());
         const Project &project = *m_window->projectController()->project();
         const ProjectMembers before = serializeProject(project, false);
+        const QImage thumbnail = projectPicture(project, std::get<2>(m_ids));
         QCoreApplication::processEvents();
         const QPoint place = placeOf(*widget, 7);
         ColourCycling *cycling = m_window->colourCycling();
         QVERIFY(!cycling->clock()->isTicking());
+        cycling->clock()->setPaused(true); // it goes on when it is told to
         cycling->action()->trigger();
         PaintWatch watch(widget);
-        QVERIFY(!watch.after([&] { cycling->clock()->advance(5); }).isEmpty());
-        QCOMPARE(colourAt(*widget, place), colour(6));
+        watch.after([&] { cycling->clock()->advance(5); });
+        QTRY_VERIFY(!watch.region.isEmpty());
+        QTRY_COMPARE(colourAt(*widget, place), colour(6));
         QCOMPARE(serializeProject(project, false), before);
-        QVERIFY(!watch.after([&] { cycling->action()->trigger(); }).isEmpty());
-        QCOMPARE(colourAt(*widget, place), colour(7));
+        QCOMPARE(projectPicture(project, std::get<2>(m_ids)), thumbnail);
+        watch.after([&] { cycling->action()->trigger(); });
+        QTRY_VERIFY(!watch.region.isEmpty());
+        QTRY_COMPARE(colourAt(*widget, place), colour(7));
     }
 
     void theClockStandsStillWhileNothingIsSeen()
@@ -143,7 +157,21 @@ private:
         return {};
     }
 
-    enum View { PaletteView, Tile, Picker, Sprite, List, OnMap, InImage, Block, SpriteAnimation };
+    enum View {
+        PaletteView,
+        Tile,
+        Picker,
+        Sprite,
+        List,
+        OnMap,
+        Overview,
+        Stamps,
+        InImage,
+        Block,
+        BlockList,
+        SpriteAnimation,
+        SpriteAnimationList,
+    };
 
     /// The widget of a view, in front of what may cover it.
     QWidget *shown(View view)
@@ -171,17 +199,32 @@ private:
         case OnMap:
             documents->setActiveMap(map);
             return views.tabs->currentWidget()->findChild<MapEditor::MapGrid *>();
+        case Overview:
+        case Stamps: {
+            documents->setActiveMap(map);
+            MapEditor::PaintDesk *desk = qobject_cast<MapEditor::View *>(views.tabs->currentWidget())->paintDesk();
+            desk->setOverviewVisible(view == Overview);
+            desk->pickTiles({{1}});
+            QCoreApplication::processEvents(); // the bar has its place, and the stamp its button
+            if (view == Stamps)
+                return desk->bar();
+            return views.tabs->currentWidget()->findChild<MapEditor::MapOverview *>();
+        }
         case InImage:
             documents->setActiveImageEditor(image);
             return views.tabs->currentWidget()->findChild<Canvas *>();
         case Block:
+        case BlockList:
             documents->setActiveBlockEditor(blocks);
             break;
         case SpriteAnimation:
+        case SpriteAnimationList:
             documents->setActiveSpriteEditor(bank);
             break;
         }
         auto *page = qobject_cast<AnimationEditor::AnimationView *>(views.tabs->currentWidget());
+        if (view == BlockList || view == SpriteAnimationList)
+            return page->list()->findChild<QListWidget *>()->viewport();
         page->list()->select(page->list()->animations().constFirst());
         return page->findChild<AnimationEditor::FrameEditorWidget *>();
     }

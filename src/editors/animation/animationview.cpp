@@ -84,13 +84,13 @@ void AnimationView::syncList()
 void AnimationView::repaintCells()
 {
     m_editor->frameEditor()->update();
+    m_list->refreshPictures();
 }
 
 void AnimationView::refreshPictures(int indexCount)
 {
     m_editor->setIndexCount(indexCount);
     repaintCells();
-    m_list->refreshPictures();
 }
 
 // Adding and removing

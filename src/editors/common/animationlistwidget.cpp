@@ -9,9 +9,11 @@
 
 #include <QAction>
 #include <QHBoxLayout>
+#include <QIconEngine>
 #include <QListWidget>
+#include <QPainter>
 #include <QSignalBlocker>
-#include <QTimer>
+#include <QStyle>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -21,19 +23,46 @@ namespace {
 
 constexpr int PictureExtent = 32;
 
-}
+/// An animation's picture, which is drawn anew whenever it is painted.
+class PictureIcon final : public QIconEngine
+{
+public:
+    explicit PictureIcon(const Animation *animation) : m_animation(animation) { }
+
+    void paint(QPainter *painter, const QRect &rect, QIcon::Mode, QIcon::State) override
+    {
+        if (!m_animation)
+            return;
+        const qreal ratio = painter->device()->devicePixelRatio();
+        QImage picture = m_animation->preview(rect.size() * ratio);
+        picture.setDevicePixelRatio(ratio);
+        const QSize size = (QSizeF(picture.size()) / ratio).toSize();
+        painter->drawImage(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, size, rect).topLeft(), picture);
+    }
+    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override
+    {
+        QPixmap result(size);
+        result.fill(Qt::transparent);
+        QPainter painter(&result);
+        paint(&painter, QRect(QPoint(0, 0), size), mode, state);
+        return result;
+    }
+    QIconEngine *clone() const override { return new PictureIcon(m_animation); }
+
+private:
+    QPointer<const Animation> m_animation;
+};
+
+} // namespace
 
 AnimationListWidget::AnimationListWidget(Flags flags, QWidget *parent)
     : QWidget(parent)
     , m_flags(flags)
     , m_list(new QuietList<QListWidget>(this))
-    , m_refresh(new QTimer(this))
 {
     m_list->setIconSize({PictureExtent, PictureExtent});
     m_list->setUniformItemSizes(true);
     m_list->setAccessibleName(tr("Animations"));
-    m_refresh->setSingleShot(true);
-    m_refresh->setInterval(0);
     setFocusProxy(m_list);
 
     auto *layout = new QVBoxLayout(this);
@@ -50,10 +79,6 @@ AnimationListWidget::AnimationListWidget(Flags flags, QWidget *parent)
     connect(new RepeatedPress(m_list), &RepeatedPress::pressedAgain, this, [this] {
         if (selected())
             emit selectedItemClicked(selected());
-    });
-    connect(m_refresh, &QTimer::timeout, this, [this] {
-        for (int row = 0; row < m_list->count(); ++row)
-            updatePicture(row);
     });
 }
 
@@ -126,9 +151,8 @@ void AnimationListWidget::addAnimation(Animation *animation)
 void AnimationListWidget::appendItem(Animation *animation)
 {
     m_animations.append(animation);
-    m_list->addItem(new QListWidgetItem);
+    m_list->addItem(new QListWidgetItem(QIcon(new PictureIcon(animation)), QString()));
     updateText(m_list->count() - 1);
-    updatePicture(m_list->count() - 1);
     follow(animation);
 }
 
@@ -183,19 +207,9 @@ void AnimationListWidget::updateText(int row)
     item->setToolTip(plainText(animation->name()));
 }
 
-void AnimationListWidget::updatePicture(int row)
-{
-    const Animation *animation = m_animations.value(row);
-    if (!animation)
-        return;
-    QPixmap picture = QPixmap::fromImage(animation->preview(m_list->iconSize() * devicePixelRatio()));
-    picture.setDevicePixelRatio(devicePixelRatio());
-    m_list->item(row)->setIcon(QIcon(picture));
-}
-
 void AnimationListWidget::refreshPictures()
 {
-    m_refresh->start();
+    m_list->viewport()->update();
 }
 
 // Selection

@@ -8,7 +8,6 @@
 
 class QAction;
 class QListWidget;
-class QTimer;
 
 namespace AnimationEditor {
 
@@ -56,7 +55,7 @@ public:
     void select(Animation *animation);
 
 public slots:
-    /// Draws all pictures anew when control returns to the event loop; for changed tiles or sprites.
+    /// Paints the pictures anew; for tiles, sprites or colours that look different now.
     void refreshPictures();
 
 signals:
@@ -76,7 +75,6 @@ private:
     void forgetDestroyed();
     [[nodiscard]] int rowOf(const Animation *animation) const;
     void updateText(int row);
-    void updatePicture(int row);
     void currentRowChanged(int row);
 
     Flags m_flags;
@@ -85,7 +83,6 @@ private:
     QAction *m_add = nullptr;
     QAction *m_remove = nullptr;
     QAction *m_clone = nullptr;
-    QTimer *m_refresh; ///< many changes, one redrawing
 };
 
 Q_DECLARE_OPERATORS_FOR_FLAGS(AnimationListWidget::Flags)

@@ -29,6 +29,7 @@ void BlockSelectorWindow::setTileSet(const QPointer<TileSet> &tileSet)
         connect(m_tileSet, &TileSet::tileChanged, m_list, &List::refreshPictures);
         connect(m_tileSet, &TileSet::restored, m_list, &List::refreshPictures);
         connect(m_tileSet, &TileSet::structureChanged, m_list, &List::refreshPictures);
+        connect(m_tileSet, &TileSet::shownColoursChanged, m_list, &List::refreshPictures);
         connect(m_tileSet, &QObject::destroyed, this, &BlockSelectorWindow::refresh);
     }
     refresh();

@@ -17,6 +17,7 @@
 #include <QWheelEvent>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Quenmora::Ui;
 
@@ -71,7 +72,10 @@ void MapGrid::offerMore()
 void MapGrid::followContent()
 {
     connect(&m_content, &MapContent::changed, this, &MapGrid::tileMapChanged);
-    connect(&m_content, &MapContent::shownColoursChanged, this, qOverload<>(&QWidget::update));
+    connect(&m_content, &MapContent::shownColoursChanged, this, [this] {
+        m_newColours = true;
+        update();
+    });
     connect(&m_content, &MapContent::tilesChanged, this, [this](int count) {
         m_brush.keepWithin(count);
         update();
@@ -157,7 +161,7 @@ void MapGrid::paintEvent(QPaintEvent *event)
 
     painter.setClipRegion(event->region());
     MapPainter::paintStatus(painter, pointer().cell, timer.elapsed());
-    emit painted();
+    emit painted(std::exchange(m_newColours, false));
 }
 
 // ---- Where it is shown ------------------------------------------------------------------------

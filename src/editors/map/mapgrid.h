@@ -195,8 +195,9 @@ signals:
     void animationPicked(QUuid animationId);
     /// Cells of the map are to be painted as a stamp.
     void stampPicked(const Stamp &stamp);
-    /// What is shown, or where, may be another.
-    void painted();
+    /// What is shown, or where, may be another. With colours alone, nothing but the shown colours of tiles or sprites
+    /// is known to be.
+    void painted(bool coloursAlone);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -234,6 +235,7 @@ private:
     MapDisplay m_display;
     MapBrush m_brush;
     MapEditing m_editing{m_content};
+    bool m_newColours = false; ///< since it was painted last
     QRect m_shownCell; ///< which was asked for last
     MapToolBox m_tools{this}; ///< which use all of the above
     bool m_pastesPictures = false;

@@ -9,6 +9,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <utility>
 
 namespace MapEditor {
 
@@ -17,6 +18,8 @@ namespace {
 constexpr int Border = 2;
 constexpr int Margin = 8; ///< to the edges of the grid
 constexpr int Delay = 80; ///< milliseconds from a change to its picture
+constexpr int RareDelay = 1000; ///< while nothing but colours changes that it does not show
+constexpr int FewSteps = 3; ///< of colours, after which that is so
 
 } // namespace
 
@@ -27,12 +30,8 @@ MapOverview::MapOverview(MapGrid *grid) : QWidget(grid), m_grid(grid), m_soon(ne
     setCursor(Qt::PointingHandCursor);
     setAttribute(Qt::WA_OpaquePaintEvent);
     m_soon->setSingleShot(true);
-    m_soon->setInterval(Delay);
     connect(m_soon, &QTimer::timeout, this, &MapOverview::render);
-    connect(grid, &MapGrid::painted, this, [this] {
-        if (isVisible() && !m_soon->isActive())
-            m_soon->start();
-    });
+    connect(grid, &MapGrid::painted, this, &MapOverview::renderSoon);
     connect(grid, &MapGrid::scrollPositionChanged, this, qOverload<>(&QWidget::update));
     grid->installEventFilter(this);
 }
@@ -56,20 +55,34 @@ void MapOverview::showEvent(QShowEvent *)
 bool MapOverview::eventFilter(QObject *, QEvent *event)
 {
     if (event->type() == QEvent::Resize && isVisible())
-        m_soon->start();
+        m_soon->start(Delay);
     return false;
+}
+
+void MapOverview::renderSoon(bool coloursAlone)
+{
+    if (!isVisible())
+        return;
+    m_coloursAlone = m_coloursAlone && coloursAlone;
+    const int delay = m_coloursAlone && m_stepsUnseen >= FewSteps ? RareDelay : Delay;
+    if (!m_soon->isActive() || m_soon->remainingTime() > delay)
+        m_soon->start(delay);
 }
 
 void MapOverview::render()
 {
     if (!isVisible())
         return;
+    const bool coloursAlone = std::exchange(m_coloursAlone, true);
     place();
     const QPointer<Map> map = m_grid->map();
     const QImage picture = map ? overviewPicture(*map, picturePlace().size()) : QImage();
     if (picture != m_picture) {
         m_picture = picture;
+        m_stepsUnseen = 0;
         update();
+    } else if (coloursAlone) {
+        ++m_stepsUnseen;
     }
 }
 

@@ -12,7 +12,8 @@ class MapGrid;
 /// The whole map in a corner of its grid, small, with a frame around what is in view. Dragging in it scrolls.
 ///
 /// What it costs depends on its own size alone: of a map with more cells than it has pixels, it looks at one cell a
-/// pixel. It follows edits a moment later.
+/// pixel. It follows edits a moment later, and colours that go round only as often as it takes to see whether it shows
+/// them.
 class MapOverview : public QWidget
 {
     Q_OBJECT
@@ -36,12 +37,15 @@ protected:
 private:
     void place();
     void render();
+    void renderSoon(bool coloursAlone);
     void scrollTo(QPoint point);
     [[nodiscard]] QRect picturePlace() const;
 
     MapGrid *m_grid;
     QTimer *m_soon;
     QImage m_picture;
+    bool m_coloursAlone = true; ///< since it was rendered
+    int m_stepsUnseen = 0; ///< of colours, one after the other, that changed nothing in it
 };
 
 } // namespace MapEditor

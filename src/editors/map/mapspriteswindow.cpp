@@ -121,6 +121,7 @@ void MapSpritesWindow::setBank(const QPointer<SpriteBank> &bank)
         connect(bank, &SpriteBank::imageChanged, m_animations, &List::refreshPictures, Qt::UniqueConnection);
         connect(bank, &SpriteBank::countChanged, m_animations, &List::refreshPictures, Qt::UniqueConnection);
         connect(bank, &SpriteBank::coloursChanged, m_animations, &List::refreshPictures, Qt::UniqueConnection);
+        connect(bank, &SpriteBank::shownColoursChanged, m_animations, &List::refreshPictures, Qt::UniqueConnection);
     }
     refreshAnimations();
 }

@@ -16,6 +16,8 @@
 #include <QToolButton>
 
 #include <algorithm>
+#include <ranges>
+#include <utility>
 
 namespace MapEditor {
 
@@ -23,6 +25,30 @@ namespace {
 
 constexpr int PictureExtent = 24;
 constexpr int MostCellsShown = 64; ///< along a side
+
+/// What the picture of a stamp shows; null without tiles and colours to show it with.
+QImage indicesOf(const Stamp &stamp, TileSet *tileSet)
+{
+    if (!tileSet || !tileSet->palette() || stamp.isEmpty())
+        return {};
+    const QSize shown = stamp.size().boundedTo({MostCellsShown, MostCellsShown});
+    TileMap cells(shown);
+    cells.setTileSet(tileSet);
+    cells.restore(stamp.rows());
+    return cells.render(QRect(QPoint(0, 0), shown), 1, -1);
+}
+
+/// The entries of the palette that a picture shows.
+std::bitset<Palette::Size> entriesOf(const QImage &indices)
+{
+    std::bitset<Palette::Size> entries;
+    for (int y = 0; y < indices.height(); ++y) {
+        const uchar *line = indices.constScanLine(y);
+        for (int x = 0; x < indices.width(); ++x)
+            entries.set(line[x]);
+    }
+    return entries;
+}
 
 } // namespace
 
@@ -104,15 +130,20 @@ void PaintBar::setKit(const QPointer<PaintKit> &kit)
     if (m_kit) {
         m_kit->disconnect(this);
         m_kit->disconnect(m_soon);
-        if (m_kit->tileSet())
+        if (m_kit->tileSet()) {
             m_kit->tileSet()->disconnect(m_soon);
+            m_kit->tileSet()->disconnect(this);
+        }
     }
     m_kit = kit;
+    m_colours.clear();
     if (kit) {
         connect(kit, &PaintKit::stampsChanged, m_soon, qOverload<>(&QTimer::start));
         connect(kit, &PaintKit::terrainsChanged, this, &PaintBar::showTerrains);
-        if (TileSet *tileSet = kit->tileSet())
+        if (TileSet *tileSet = kit->tileSet()) {
             connect(tileSet, &TileSet::tileChanged, m_soon, [this] { m_soon->start(); });
+            connect(tileSet, &TileSet::shownColoursChanged, this, &PaintBar::showColours);
+        }
     }
     showStamps();
     showTerrains();
@@ -148,15 +179,13 @@ QPixmap PaintBar::pictureOf(const Stamp &stamp, TileSet *tileSet, int extent, qr
 {
     QPixmap pixmap(QSize(extent, extent) * ratio);
     pixmap.fill(Qt::transparent);
-    if (!tileSet || !tileSet->palette() || stamp.isEmpty())
+    const QImage image = indicesOf(stamp, tileSet);
+    if (image.isNull())
         return pixmap;
-    const QSize shown = stamp.size().boundedTo({MostCellsShown, MostCellsShown});
-    TileMap cells(shown);
-    cells.setTileSet(tileSet);
-    cells.restore(stamp.rows());
-    const QImage image = cells.render(QRect(QPoint(0, 0), shown), 1, -1);
     const QImage fitted =
-        image.convertToFormat(QImage::Format_RGB32)
+        tileSet->palette()
+            ->shown(image)
+            .convertToFormat(QImage::Format_RGB32)
             .scaled(pixmap.size(), Qt::KeepAspectRatio,
                     image.width() < pixmap.width() ? Qt::FastTransformation : Qt::SmoothTransformation);
     QPainter painter(&pixmap);
@@ -170,6 +199,7 @@ void PaintBar::showStamps()
 {
     qDeleteAll(m_stamps);
     m_stamps.clear();
+    m_entries.clear();
     const QList<PaintKit::KeptStamp> stamps = m_kit ? m_kit->stamps() : QList<PaintKit::KeptStamp>();
     m_hint->setVisible(stamps.isEmpty());
     for (int i = 0; i < stamps.size(); ++i) {
@@ -187,6 +217,24 @@ void PaintBar::showStamps()
                     [this, button, i](QPoint point) { showMenu(i, button->mapToGlobal(point)); });
         }
         m_stamps.append(action);
+        m_entries.append(entriesOf(indicesOf(kept.stamp, m_kit->tileSet())));
+    }
+}
+
+void PaintBar::showColours()
+{
+    if (!isVisible() || isShowingSoon() || !m_kit || !m_kit->tileSet() || !m_kit->tileSet()->palette())
+        return;
+    const QList<QRgb> colours = m_kit->tileSet()->palette()->shownColourTable();
+    const QList<QRgb> before = std::exchange(m_colours, colours);
+    const QList<PaintKit::KeptStamp> stamps = m_kit->stamps();
+    for (qsizetype i = 0; i < std::min(stamps.size(), m_stamps.size()); ++i) {
+        const auto changes = [&, entries = m_entries.at(i)](int entry) {
+            return entries.test(size_t(entry)) && colours.value(entry) != before.value(entry);
+        };
+        if (std::ranges::any_of(std::views::iota(0, int(Palette::Size)), changes))
+            m_stamps.at(i)->setIcon(
+                pictureOf(stamps.at(i).stamp, m_kit->tileSet(), PictureExtent, devicePixelRatioF()));
     }
 }
 

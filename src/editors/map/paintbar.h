@@ -2,9 +2,12 @@
 
 #include "editors/map/mapbrush.h"
 #include "editors/map/paintkit.h"
+#include "model/palette.h"
 
 #include <QPointer>
 #include <QToolBar>
+
+#include <bitset>
 
 class QComboBox;
 class QSpinBox;
@@ -48,6 +51,8 @@ private:
     void addTerrainBox();
     void addOffsetBox();
     void showStamps();
+    /// Shows the stamps in other colours.
+    void showColours();
     void showTerrains();
     void showMenu(int index, QPoint globalPosition);
     void askForName(int index);
@@ -57,6 +62,8 @@ private:
     QComboBox *m_terrains;
     QAction *m_hint; ///< in place of stamps, while there are none
     QList<QAction *> m_stamps;
+    QList<std::bitset<Palette::Size>> m_entries; ///< of the palette, which each of them shows
+    QList<QRgb> m_colours; ///< in which they are shown; empty before the first step of colours
     QTimer *m_soon; ///< shows the stamps as they are then
 };
 

@@ -76,7 +76,11 @@ TerrainMarks::TerrainMarks(QWidget *parent) : QWidget(parent)
 
 void TerrainMarks::show(const QPointer<TileSet> &tileSet, const Terrain &terrain)
 {
+    if (m_tileSet)
+        m_tileSet->disconnect(this);
     m_tileSet = tileSet;
+    if (m_tileSet)
+        connect(m_tileSet, &TileSet::shownColoursChanged, this, qOverload<>(&QWidget::update));
     m_terrain = terrain;
     m_marking.reset();
     updateGeometry();
@@ -153,7 +157,7 @@ void TerrainMarks::paintEvent(QPaintEvent *event)
     const int last = std::min(m_tileSet->count(), (event->rect().bottom() / Pitch + 1) * across);
     for (int index = first; index < last; ++index) {
         const QRect place = tileRect(index);
-        const QImage image = m_tileSet->tileImage(index, false, false, false, m_tileSet->tileOffset(index));
+        const QImage image = m_tileSet->shownTileImage(index, false, false, false, m_tileSet->tileOffset(index));
         painter.drawImage(place, image.convertToFormat(QImage::Format_RGB32));
         if (const Terrain::Tile *tile = m_terrain.find(index))
             paintMarks(painter, place, tile->marks);
