@@ -7,6 +7,8 @@
 #include "model/projectextras.h"
 #include "model/spritebank.h"
 #include "model/tileset.h"
+#include "undo/paletteorder.h"
+#include "undo/reorderedcycles.h"
 #include "undo/snapshotcommand.h"
 
 #include <QPointer>
@@ -67,16 +69,20 @@ void replaceEntries(Palette &palette, const NextData::PaletteContent &content, Q
                                              QVariant(), NoTimeLimit));
 }
 
-void replaceCycles(const Project &project, const Palette &palette, const ColourCycles::List &cycles, QUndoStack *stack)
+void replaceCycles(const Project &project, Palette &palette, const ColourCycles::List &cycles, QUndoStack *stack)
 {
     const QPointer<ProjectExtras> extras = project.extras();
     const ColourCycles::List before = ColourCycles::of(*extras, palette.id());
     ColourCycles::set(*extras, palette.id(), cycles);
     if (!stack || before == cycles)
         return;
-    const auto change = [extras, id = palette.id()](const ColourCycles::List &, const ColourCycles::List &to) {
-        if (extras)
-            ColourCycles::set(*extras, id, to);
+    const PaletteOrder made = PaletteHistory::of(palette).order();
+    const auto change = [extras, made, guarded = QPointer<Palette>(&palette)](const ColourCycles::List &,
+                                                                              const ColourCycles::List &to) {
+        if (!extras || !guarded)
+            return;
+        const PaletteOrder moves = PaletteOrder::since(made, PaletteHistory::of(*guarded).order());
+        ColourCycles::set(*extras, guarded->id(), ReorderedCycles::of(to, moves).kept);
     };
     stack->push(new SnapshotCommand<ColourCycles::List>(Texts::tr("Import Palette"), before, cycles, change,
                                                         NeverMerges, QVariant(), NoTimeLimit));

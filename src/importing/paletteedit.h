@@ -14,7 +14,7 @@ namespace Importing {
 void replaceEntries(Palette &palette, const NextData::PaletteContent &content, QUndoStack *stack);
 
 /// The same for the ranges whose colours go round.
-void replaceCycles(const Project &project, const Palette &palette, const ColourCycles::List &cycles, QUndoStack *stack);
+void replaceCycles(const Project &project, Palette &palette, const ColourCycles::List &cycles, QUndoStack *stack);
 
 /// Whether other assets than this one draw with a palette. The scratch image, which takes one by itself, does not
 /// count.

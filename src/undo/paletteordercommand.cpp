@@ -2,6 +2,10 @@
 
 #include "model/palette.h"
 #include "model/project.h"
+#include "model/projectextras.h"
+#include "undo/reorderedcycles.h"
+
+#include <utility>
 
 PaletteOrderCommand::PaletteOrderCommand(const QString &text, Project *project, Palette *palette,
                                          const PaletteOrder &order)
@@ -12,6 +16,31 @@ PaletteOrderCommand::PaletteOrderCommand(const QString &text, Project *project, 
 { }
 
 PaletteOrderCommand::~PaletteOrderCommand() = default;
+
+void PaletteOrderCommand::undo()
+{
+    apply(m_order.inverse());
+    moveCycles(m_order.inverse(), std::exchange(m_lost, {}));
+}
+
+void PaletteOrderCommand::redo()
+{
+    apply(m_order);
+    m_lost = moveCycles(m_order, {});
+}
+
+ColourCycles::List PaletteOrderCommand::moveCycles(const PaletteOrder &order, const ColourCycles::List &others) const
+{
+    if (!m_project || !m_palette)
+        return {};
+    ProjectExtras &extras = *m_project->extras();
+    const ColourCycles::List before = ColourCycles::of(extras, m_palette->id());
+    const ReorderedCycles moved = ReorderedCycles::of(before, order);
+    const ColourCycles::List after = ColourCycles::sound(moved.kept + others);
+    if (after != before)
+        ColourCycles::set(extras, m_palette->id(), after);
+    return moved.lost;
+}
 
 void PaletteOrderCommand::apply(const PaletteOrder &order) const
 {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/colourcycle.h"
 #include "undo/paletteusers.h"
 
 #include <QPointer>
@@ -9,7 +10,8 @@ class Project;
 
 /// Undo step of a palette whose entries changed places, and of all pictures that are drawn with it. It never merges.
 ///
-/// Undo moves the entries back, with the pixels that the pictures have by then.
+/// Undo moves the entries back, with the pixels that the pictures have by then. The ranges whose colours go round move
+/// with their entries; those that could not come back with undo.
 class PaletteOrderCommand final : public QUndoCommand
 {
 public:
@@ -17,13 +19,16 @@ public:
     PaletteOrderCommand(const QString &text, Project *project, Palette *palette, const PaletteOrder &order);
     ~PaletteOrderCommand() override;
 
-    void undo() override { apply(m_order.inverse()); }
-    void redo() override { apply(m_order); }
+    void undo() override;
+    void redo() override;
 
 private:
     void apply(const PaletteOrder &order) const;
+    /// Moves the ranges, as far as they can, and puts others beside them. The ones that cannot.
+    ColourCycles::List moveCycles(const PaletteOrder &order, const ColourCycles::List &others) const;
 
     QPointer<Project> m_project;
     QPointer<Palette> m_palette;
     PaletteOrder m_order;
+    ColourCycles::List m_lost; ///< ranges that the order tore apart
 };

@@ -1,5 +1,6 @@
 // Entries of palettes that change places, and the pictures that follow them.
 
+#include "model/projectextras.h"
 #include "undo/palettecolourcommand.h"
 #include "undo/paletteordercommand.h"
 
@@ -119,6 +120,50 @@ private slots:
             QCOMPARE(numbers(project), numbersBefore);
         }
         QVERIFY(moved > 3);
+    }
+
+    void rangesFollowTheirEntries_data()
+    {
+        using Cycles = ColourCycles::List;
+        QTest::addColumn<PaletteOrder>("order");
+        QTest::addColumn<Cycles>("after");
+        const Cycles both{{20, 23, 7, true}, {30, 31, 2}}; // as they are before
+        const auto row = [](const char *name, const QList<int> &places, const QList<int> &sources,
+                            const Cycles &after) { QTest::newRow(name) << PaletteOrder(places, sources) << after; };
+        row("elsewhere", {40, 41, 42, 43, 20, 21, 22, 23}, {20, 21, 22, 23, 40, 41, 42, 43},
+            {{30, 31, 2}, {40, 43, 7, true}});
+        row("among others", {19, 20, 21, 22, 23}, {20, 21, 22, 23, 19}, {{19, 22, 7, true}, {30, 31, 2}});
+        row("reversed", {20, 21, 22, 23}, {23, 22, 21, 20}, {{20, 23, 7, false}, {30, 31, 2}});
+        row("reversed and shifted", {20, 21, 22, 23}, {21, 20, 23, 22}, {{20, 23, 7, false}, {30, 31, 2}});
+        row("shifted", {20, 21, 22, 23}, {22, 23, 20, 21}, both);
+        row("in another order", {21, 22}, {22, 21}, both);
+        row("two", {30, 31}, {31, 30}, both);
+        row("torn", {23, 24}, {24, 23}, {{30, 31, 2}});
+        row("both torn", {23, 31}, {31, 23}, {});
+    }
+
+    void rangesFollowTheirEntries()
+    {
+        QFETCH(PaletteOrder, order);
+        QFETCH(ColourCycles::List, after);
+        const ColourCycles::List before{{20, 23, 7, true}, {30, 31, 2}};
+        Project project;
+        const QPointer<Palette> palette = project.createPalette(CreateAction::DefaultNext, "Colours");
+        const auto cycles = [&] { return ColourCycles::of(*project.extras(), palette->id()); };
+        ColourCycles::set(*project.extras(), palette->id(), before);
+        QUndoStack stack;
+        stack.push(new PaletteOrderCommand("Sort", &project, palette, order));
+        for (int round = 0; round < 2; ++round) {
+            QCOMPARE(cycles(), after);
+            stack.undo();
+            QCOMPARE(cycles(), before);
+            stack.redo();
+        }
+        // one that was made since has its entries before those that come back
+        const ColourCycle since{22, 25};
+        ColourCycles::set(*project.extras(), palette->id(), {since});
+        stack.undo();
+        QVERIFY(!cycles().contains(before.first()));
     }
 
     void pixelsAreCounted()

@@ -4,9 +4,11 @@
 #include "editors/palette/paletteeditor.h"
 #include "editors/palette/palettegrid.h"
 #include "model/plural.h"
+#include "model/projectextras.h"
 #include "ui/commands.h"
 #include "ui/svgiconengine.h"
 #include "undo/paletteordercommand.h"
+#include "undo/reorderedcycles.h"
 
 #include <QMenu>
 #include <QUndoStack>
@@ -166,8 +168,14 @@ void PaletteTools::reorder(const QString &text, const PaletteOrder &moves)
 {
     const QPointer<Palette> palette = m_editor->palette();
     QUndoStack *stack = m_stackFor ? m_stackFor(palette->id()) : nullptr;
-    if (stack && !moves.changesNothing())
-        stack->push(new PaletteOrderCommand(text, m_project, palette, moves));
+    if (!stack || moves.changesNothing())
+        return;
+    const auto cycles = ReorderedCycles::of(ColourCycles::of(*m_project->extras(), palette->id()), moves);
+    stack->push(new PaletteOrderCommand(text, m_project, palette, moves));
+    if (!cycles.lost.isEmpty())
+        emit m_project->showMessage(
+            tr("Colour cycles whose entries are no longer next to each other were removed; undo "
+               "brings them back"));
 }
 
 void PaletteTools::refuseMoves()

@@ -5490,6 +5490,10 @@ Vytvoříte ji příkazem Paleta ▸ Nová paleta.</translation>
         <translation>Vyberte políčka, která se mají prohodit</translation>
     </message>
     <message>
+        <source>Colour cycles whose entries are no longer next to each other were removed; undo brings them back</source>
+        <translation>Barevné cykly, jejichž položky už neleží vedle sebe, byly odebrány; krok zpět je vrátí</translation>
+    </message>
+    <message>
         <source>The entries cannot change places: tiles and 4-bit sprites need theirs in their group of 16, and transparent entries, and those of tiles that are drawn with several palette offsets, must stay where they are</source>
         <translation>Políčka nelze prohodit: dlaždice a 4bitové sprity potřebují svá políčka ve své skupině 16, a průhledná políčka i políčka dlaždic kreslených s několika posuny palety musí zůstat na místě</translation>
     </message>

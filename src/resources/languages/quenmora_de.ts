@@ -5449,6 +5449,10 @@ Palette ▸ Neue Palette legt eine an.</translation>
         <translation>Bitte die Einträge auswählen, die die Plätze tauschen sollen</translation>
     </message>
     <message>
+        <source>Colour cycles whose entries are no longer next to each other were removed; undo brings them back</source>
+        <translation>Farbzyklen, deren Einträge nicht mehr nebeneinander liegen, wurden entfernt; Rückgängig bringt sie zurück</translation>
+    </message>
+    <message>
         <source>The entries cannot change places: tiles and 4-bit sprites need theirs in their group of 16, and transparent entries, and those of tiles that are drawn with several palette offsets, must stay where they are</source>
         <translation>Die Einträge können nicht die Plätze tauschen: Tiles und 4-Bit-Sprites brauchen ihre Einträge in deren 16er-Gruppe, und transparente Einträge sowie die von Tiles, die mit mehreren Paletten-Offsets gezeichnet werden, müssen an ihrem Platz bleiben</translation>
     </message>

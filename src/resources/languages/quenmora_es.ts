@@ -5449,6 +5449,10 @@ Paleta ▸ Nueva paleta crea una.</translation>
         <translation>Seleccione las entradas que deben intercambiarse</translation>
     </message>
     <message>
+        <source>Colour cycles whose entries are no longer next to each other were removed; undo brings them back</source>
+        <translation>Se han quitado los ciclos de color cuyas entradas ya no están juntas; deshacer los recupera</translation>
+    </message>
+    <message>
         <source>The entries cannot change places: tiles and 4-bit sprites need theirs in their group of 16, and transparent entries, and those of tiles that are drawn with several palette offsets, must stay where they are</source>
         <translation>Las entradas no se pueden intercambiar: los tiles y los sprites de 4 bits necesitan las suyas en su grupo de 16, y las entradas transparentes, y las de tiles que se dibujan con varios offsets de paleta, deben quedarse donde están</translation>
     </message>

@@ -5449,6 +5449,10 @@ Palette ▸ Nouvelle palette en crée une.</translation>
         <translation>Sélectionnez les entrées à permuter</translation>
     </message>
     <message>
+        <source>Colour cycles whose entries are no longer next to each other were removed; undo brings them back</source>
+        <translation>Les cycles de couleurs dont les entrées ne se suivent plus ont été retirés ; annuler les rétablit</translation>
+    </message>
+    <message>
         <source>The entries cannot change places: tiles and 4-bit sprites need theirs in their group of 16, and transparent entries, and those of tiles that are drawn with several palette offsets, must stay where they are</source>
         <translation>Les entrées ne peuvent pas être permutées&#xa0;: les tuiles et les sprites de 4 bits ont besoin des leurs dans leur groupe de 16, et les entrées transparentes, ainsi que celles des tuiles dessinées avec plusieurs décalages de palette, doivent rester en place</translation>
     </message>

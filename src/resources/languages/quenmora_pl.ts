@@ -5490,6 +5490,10 @@ Utworzysz ją poleceniem Paleta ▸ Nowa paleta.</translation>
         <translation>Zaznacz wpisy, które mają zamienić się miejscami</translation>
     </message>
     <message>
+        <source>Colour cycles whose entries are no longer next to each other were removed; undo brings them back</source>
+        <translation>Usunięto cykle kolorów, których pozycje nie leżą już obok siebie; cofnięcie je przywróci</translation>
+    </message>
+    <message>
         <source>The entries cannot change places: tiles and 4-bit sprites need theirs in their group of 16, and transparent entries, and those of tiles that are drawn with several palette offsets, must stay where they are</source>
         <translation>Wpisy nie mogą zamienić się miejscami: kafelki i sprite’y 4-bitowe potrzebują swoich wpisów we własnej grupie 16, a wpisy przezroczyste oraz wpisy kafelków rysowanych z różnymi przesunięciami palety muszą pozostać na miejscu</translation>
     </message>

@@ -5449,6 +5449,10 @@ Paleta ▸ Nova paleta cria uma.</translation>
         <translation>Selecione as entradas que devem trocar de lugar</translation>
     </message>
     <message>
+        <source>Colour cycles whose entries are no longer next to each other were removed; undo brings them back</source>
+        <translation>Foram removidos os ciclos de cores cujas entradas não estão mais lado a lado; desfazer os traz de volta</translation>
+    </message>
+    <message>
         <source>The entries cannot change places: tiles and 4-bit sprites need theirs in their group of 16, and transparent entries, and those of tiles that are drawn with several palette offsets, must stay where they are</source>
         <translation>As entradas não podem trocar de lugar: tiles e sprites de 4 bits precisam das suas no seu grupo de 16, e as entradas transparentes, assim como as de tiles desenhados com vários offsets de paleta, devem ficar onde estão</translation>
     </message>

@@ -193,6 +193,18 @@ private slots:
         QCOMPARE(list->count(), 0);
         QCOMPARE(f.stack.count(), 0);
     }
+
+    void tellsWhenTheEntriesOfARangeAreTornApart()
+    {
+        Fixture f;
+        QSignalSpy told(&f.project, &Project::showMessage);
+        ColourCycles::set(*f.project.extras(), f.palette->id(), {{11, 12}});
+        f.run(10, 14, "Reverse");
+        QVERIFY(told.isEmpty());
+        f.run(10, 14, "Sort by Brightness"); // red comes between blue and green
+        QCOMPARE(told.size(), 1);
+        QVERIFY(ColourCycles::of(*f.project.extras(), f.palette->id()).isEmpty());
+    }
 };
 
 QUENMORA_TEST_MAIN(TestPaletteTools)
