@@ -1,12 +1,19 @@
 // Painting and switching in the pixel editors, drawn offscreen at the size of a full screen.
 
 #include "editors/canvas/canvas.h"
+#include "editors/canvas/previewwindow.h"
 #include "editors/canvas/tilepickergrid.h"
 #include "editors/canvas/tilewindow.h"
+#include "model/map.h"
+#include "model/mapobjects.h"
 #include "model/palette.h"
+#include "model/project.h"
+#include "model/tileanimation.h"
 #include "model/tileset.h"
 
+#include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QMouseEvent>
 
 #include <benchmark/benchmark.h>
@@ -20,6 +27,23 @@ void render(QWidget &widget, QImage &screen)
     widget.render(&screen, {}, {}, QWidget::RenderFlags());
 }
 
+void send(Canvas &canvas, QEvent::Type type, QPoint pixel)
+{
+    const QPointF point = canvas.geometryInWidget().pointOf(pixel);
+    QMouseEvent event(type, point, point, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&canvas, &event);
+}
+
+/// The slowest way to paint: connected strokes with the largest brush, mirrored over both axes.
+PaintOptions slowestOptions()
+{
+    PaintOptions options;
+    options.connect = true;
+    options.brush = {Brush::Round, Brush::MaximumSize};
+    options.symmetry = {true, true};
+    return options;
+}
+
 /// A stroke on a 640 × 256 image that fills the screen, with the repaint that each move causes.
 class Stroke
 {
@@ -31,22 +55,15 @@ public:
         m_canvas.setPaintOptions(options);
         m_canvas.setZoomLevel(zoom);
         m_canvas.resize(Screen);
-        send(QEvent::MouseButtonPress, {0, 0});
+        send(m_canvas, QEvent::MouseButtonPress, {0, 0});
     }
     void moveTo(QPoint pixel)
     {
-        send(QEvent::MouseMove, pixel);
+        send(m_canvas, QEvent::MouseMove, pixel);
         render(m_canvas, m_screen);
     }
 
 private:
-    void send(QEvent::Type type, QPoint pixel)
-    {
-        const QPointF point = m_canvas.geometryInWidget().pointOf(pixel);
-        QMouseEvent event(type, point, point, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(&m_canvas, &event);
-    }
-
     Palette m_palette;
     Canvas m_canvas{QSize(640, 256)};
     QImage m_screen{Screen, QImage::Format_ARGB32_Premultiplied};
@@ -64,14 +81,9 @@ void strokeAndRepaint(benchmark::State &state)
 }
 BENCHMARK(strokeAndRepaint)->Arg(1)->Arg(3)->Arg(16)->Arg(64)->Unit(benchmark::kMillisecond)->MeasureProcessCPUTime();
 
-/// A connected stroke across the image with the largest brush, mirrored over both axes.
 void brushAndRepaint(benchmark::State &state)
 {
-    PaintOptions options;
-    options.connect = true;
-    options.brush = {Brush::Round, Brush::MaximumSize};
-    options.symmetry = {true, true};
-    Stroke stroke(3, options);
+    Stroke stroke(3, slowestOptions());
     int step = 0;
     for (auto _ : state) {
         ++step;
@@ -79,6 +91,49 @@ void brushAndRepaint(benchmark::State &state)
     }
 }
 BENCHMARK(brushAndRepaint)->Unit(benchmark::kMillisecond)->MeasureProcessCPUTime();
+
+/// A move of such a stroke on a tile, with the repaint of the editor and of a preview that is told of every move:
+/// repeated, on the map, or in its animation.
+void strokeWithPreview(benchmark::State &state)
+{
+    Project project;
+    const QPointer<Palette> palette = project.createPalette(CreateAction::DefaultNext, QStringLiteral("Colours"));
+    const QPointer<TileSet> tiles = project.createTileSet(QStringLiteral("Tiles"), palette->id(), 512);
+    const QPointer<Map> map = project.createMap(QStringLiteral("Map"), tiles->id(), {2000, 2000});
+    map->setTiles({1990, 1990, 10, 10}, 1, false, false, false, true); // where it takes long to find
+    const QPointer<MapObjects> blocks = project.createBlockList(QStringLiteral("Blocks"), tiles->id());
+    const QPointer<TileAnimation> water = blocks->createBoundTileAnimation(QStringLiteral("Water"));
+    water->setSize({4, 4});
+    for (int frame = 0; frame < 8; ++frame)
+        water->addFrame()->setCells({4, AnimationFrame::Cells::value_type(4, {.index = 1})});
+
+    TileWindow window;
+    window.setMapInFront([map] { return map.data(); });
+    window.setTileSet(tiles);
+    window.setPalette(palette);
+    window.setTileIndex(2);
+    window.resize(600, 1000);
+    window.show();
+    Canvas &canvas = *window.canvas();
+    canvas.setZoomLevel(64);
+    canvas.setPaintOptions(slowestOptions());
+    window.findChild<QAction *>(QStringLiteral("pixels.preview"))->setChecked(true);
+    auto *preview = canvas.findChild<PreviewWindow *>();
+    preview->findChild<QComboBox *>()->setCurrentIndex(int(state.range(0)));
+    preview->resize(600, 600);
+    QApplication::processEvents();
+    send(canvas, QEvent::MouseButtonPress, {0, 0});
+    int step = 0;
+    for (auto _ : state) {
+        canvas.setInk(++step % 16);
+        send(canvas, QEvent::MouseMove, step % 2 == 0 ? QPoint(0, 0) : QPoint(7, step % 8));
+        tiles->showPainted(1, canvas.drawnImage());
+        QApplication::processEvents();
+    }
+    if (preview->image().isNull())
+        state.SkipWithError("nothing is previewed");
+}
+BENCHMARK(strokeWithPreview)->DenseRange(0, 2)->Unit(benchmark::kMillisecond)->MeasureProcessCPUTime();
 
 void switchTile(benchmark::State &state)
 {
