@@ -1,8 +1,10 @@
 #include "editors/canvas/previewwindow.h"
 
 #include <QComboBox>
+#include <QDockWidget>
 #include <QEvent>
 #include <QPainter>
+#include <QScreen>
 #include <QTimerEvent>
 #include <QVBoxLayout>
 
@@ -20,6 +22,11 @@ PreviewWindow::PreviewWindow(QWidget *followed)
     layout->addWidget(m_chooser);
     layout->addStretch();
     followed->installEventFilter(this);
+    for (QWidget *around = followed->parentWidget(); around; around = around->parentWidget()) {
+        // behind another tab, what is in a dock is not hidden
+        if (const auto *dock = qobject_cast<QDockWidget *>(around))
+            connect(dock, &QDockWidget::visibilityChanged, this, &PreviewWindow::follow);
+    }
     connect(m_chooser, &QComboBox::currentIndexChanged, this, [this] {
         m_frame = 0;
         refresh();
@@ -43,13 +50,38 @@ bool PreviewWindow::eventFilter(QObject *watched, QEvent *event)
         return QWidget::eventFilter(watched, event);
     if (event->type() == QEvent::Paint && isVisible()) {
         refresh();
-    } else if (event->type() == QEvent::Hide && !event->spontaneous()) {
-        m_returns = isVisible();
-        hide();
-    } else if (event->type() == QEvent::Show && !event->spontaneous() && m_returns) {
-        show();
+    } else if ((event->type() == QEvent::Hide || event->type() == QEvent::Show) && !event->spontaneous()) {
+        follow(event->type() == QEvent::Show);
     }
     return QWidget::eventFilter(watched, event);
+}
+
+void PreviewWindow::follow(bool seen)
+{
+    if (seen && m_returns) {
+        show();
+    } else if (!seen && isVisible()) {
+        hide();
+        m_returns = true;
+    }
+}
+
+void PreviewWindow::setVisible(bool visible)
+{
+    m_returns = false;
+    if (visible && !isVisible() && !m_placed)
+        placeBeside();
+    QWidget::setVisible(visible);
+}
+
+void PreviewWindow::placeBeside()
+{
+    constexpr int Gap = 16;
+    m_placed = true;
+    const QRect room = m_followed->screen()->availableGeometry();
+    const QPoint corner = m_followed->mapToGlobal(QPoint(0, 0));
+    const int left = corner.x() - sizeHint().width() - Gap;
+    move(left >= room.left() ? left : corner.x() + m_followed->width() + Gap, corner.y());
 }
 
 void PreviewWindow::showEvent(QShowEvent *event)

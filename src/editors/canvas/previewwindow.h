@@ -27,12 +27,14 @@ public:
     /// Gives the frame of a number, which counts on and on.
     using Source = std::function<Picture(int frame)>;
 
-    /// Follows a widget, above whose window it stays and with which it is hidden and shown.
+    /// Follows a widget, above whose window it stays and with which, and with whose dock, it is hidden and shown. It
+    /// opens beside it.
     explicit PreviewWindow(QWidget *followed);
 
     void addSource(const QString &name, const Source &source);
     /// What is shown; null when there is nothing.
     [[nodiscard]] QImage image() const { return m_picture.image; }
+    void setVisible(bool visible) override;
 
 signals:
     /// Somebody closed the window.
@@ -50,6 +52,9 @@ protected:
 private:
     /// Asks for the picture again.
     void refresh();
+    /// Hides it while nobody sees what it follows.
+    void follow(bool seen);
+    void placeBeside();
 
     QPointer<QWidget> m_followed;
     QComboBox *m_chooser;
@@ -59,4 +64,5 @@ private:
     int m_interval = 0;
     int m_frame = 0;
     bool m_returns = false; ///< with the widget that it follows
+    bool m_placed = false;
 };

@@ -11,6 +11,8 @@
 #include "support/modeltools.h"
 #include "support/testmain.h"
 
+#include <QDockWidget>
+#include <QMainWindow>
 #include <QTest>
 
 class TestPreviews : public QObject
@@ -51,6 +53,34 @@ private slots:
         QCOMPARE((QList{frame.pixel(0, 0) & 0xFF, frame.pixel(8, 0) & 0xFF}), (QList<QRgb>{1, 5}));
         QCOMPARE(Previews::before(walk, 6, picture).pixel(0, 0) & 0xFF, QRgb(5));
         QVERIFY(Previews::before(walk, 4, picture).isNull() && Previews::before(walk, 1, picture).isNull());
+    }
+
+    void windowGoesWithTheTabOfItsDock()
+    {
+        QMainWindow main;
+        QDockWidget editor;
+        QDockWidget other;
+        auto *painted = new QWidget;
+        editor.setWidget(painted);
+        other.setWidget(new QWidget);
+        for (QDockWidget *dock : {&editor, &other})
+            main.addDockWidget(Qt::LeftDockWidgetArea, dock);
+        main.tabifyDockWidget(&editor, &other);
+        main.show();
+        editor.raise();
+        QTRY_VERIFY(!painted->visibleRegion().isEmpty());
+        PreviewWindow window(painted);
+        window.show();
+        other.raise();
+        QTRY_VERIFY(!window.isVisible());
+        editor.raise();
+        QTRY_VERIFY(window.isVisible());
+        other.raise();
+        QTRY_VERIFY(!window.isVisible());
+        window.setVisible(false); // switched off meanwhile
+        editor.raise();
+        QTRY_VERIFY(!painted->visibleRegion().isEmpty());
+        QVERIFY(!window.isVisible());
     }
 
     void tilesAreFoundOnMaps()
