@@ -215,3 +215,8 @@ void Canvas::contextMenuEvent(QContextMenuEvent *event)
     else
         event->ignore();
 }
+
+void Canvas::openContextMenu(QPoint globalPosition)
+{
+    m_contextMenu->exec(globalPosition);
+}
