@@ -9,6 +9,7 @@
 #include "editors/palette/colourcyclesdialog.h"
 #include "editors/palette/paletteeditor.h"
 #include "editors/palette/palettegrid.h"
+#include "support/canvasmouse.h"
 #include "support/randomhands.h"
 
 #include <QSpinBox>
@@ -39,6 +40,17 @@ private:
             drag(&canvas, chance() ? Qt::LeftButton : Qt::RightButton, anyKeys());
             if (canvas.mode() == Paste)
                 canvas.setMode(Draw);
+        });
+        addFor(shown, "drop what is drawn", None, [this](Canvas &canvas) {
+            canvas.setMode(any(QList{Draw, Line, RectangleFill, Circle, Select}));
+            const QSize size = canvas.image().size().expandedTo({1, 1});
+            const auto anyPixel = [this, size] { return QPoint(number(size.width()), number(size.height())); };
+            const EditorInput::Mouse mouse{canvas};
+            mouse.press(anyPixel());
+            mouse.move(anyPixel(), Qt::LeftButton);
+            QTest::keyClick(&canvas, Qt::Key_Escape);
+            mouse.move(anyPixel(), Qt::LeftButton);
+            mouse.release(anyPixel());
         });
         addFor(shown, "select pixels", Undoable, [this](Canvas &canvas) { // or move what is selected
             if (canvas.mode() != Select)
