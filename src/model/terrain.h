@@ -10,7 +10,8 @@
 /// goes on, so that the tiles whose borders match are found while it is painted.
 ///
 /// A terrain looks at the four cells beside a cell, or at all eight around it. A corner then counts only between two
-/// sides on which the ground goes on, as it is hidden otherwise.
+/// sides on which the ground goes on, as it is hidden otherwise. One that may turn its tiles finds those that have the
+/// borders when they are rotated, flipped or mirrored, too, and reads the marks of a turned cell as turned.
 struct Terrain
 {
     /// Neighbours clockwise from above, as bits of marks.
@@ -38,6 +39,7 @@ struct Terrain
     QString name;
     bool corners = false; ///< eight neighbours
     QList<Tile> tiles; ///< in the order of their indices, none twice
+    bool turns = false; ///< its tiles may be turned
 
     [[nodiscard]] const Tile *find(int index) const;
     [[nodiscard]] bool has(const TileMap::TileData &cell) const { return cell.used && find(cell.index); }
@@ -47,8 +49,11 @@ struct Terrain
 
     /// The marks that count.
     [[nodiscard]] int counted(int marks) const;
-    /// The tile whose marks fit best, one of several equal ones by choice; -1 of a terrain without tiles.
-    [[nodiscard]] int tileFor(int marks, quint32 choice) const;
+    /// The marks that a cell of the ground has; none of another.
+    [[nodiscard]] int marksOf(const TileMap::TileData &cell) const;
+    /// The tile whose marks fit best, one of several equal ones by choice, as a cell that does not know its palette
+    /// offset. It is turned as little as it takes; its index is -1 of a terrain without tiles.
+    [[nodiscard]] TileMap::TileData tileFor(int marks, quint32 choice) const;
 
     /// The neighbours of a cell that are of the ground; those outside the grid count as such.
     [[nodiscard]] int marksAt(const TileMap &grid, QPoint cell) const;

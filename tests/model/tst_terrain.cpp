@@ -4,6 +4,7 @@
 #include "model/project.h"
 #include "model/terrain.h"
 #include "model/tileset.h"
+#include "model/transform.h"
 #include "support/modeltools.h"
 #include "support/testmain.h"
 
@@ -29,6 +30,39 @@ Terrain complete(bool corners)
     return terrain;
 }
 
+/// The marks as pixels around the middle, in the order of their bits.
+constexpr std::array Pixels{QPoint(1, 0), QPoint(2, 0), QPoint(2, 1), QPoint(2, 2),
+                            QPoint(1, 2), QPoint(0, 2), QPoint(0, 1), QPoint(0, 0)};
+
+/// The marks that are seen of a tile with these marks as a cell turns it.
+int seen(int marks, const Cell &cell)
+{
+    QImage image = plainImage({3, 3}, 0);
+    for (size_t i = 0; i < Pixels.size(); ++i)
+        image.setPixel(Pixels[i], marks >> i & 1);
+    image = oriented(image, cell.rotate, cell.flip, cell.mirror);
+    int result = 0;
+    for (size_t i = 0; i < Pixels.size(); ++i)
+        result |= image.pixelIndex(Pixels[i]) << i;
+    return result;
+}
+
+/// The same of a terrain that may turn its tiles: of those that look the same when they are turned, it has one.
+Terrain turning(bool corners)
+{
+    Terrain terrain;
+    terrain.corners = corners;
+    terrain.turns = true;
+    for (const Terrain::Tile &tile : complete(corners).tiles) {
+        bool alike = false;
+        for (int turn = 0; turn < 8; ++turn)
+            alike |= terrain.find(First + seen(tile.marks, {0, turn > 3, turn % 2 == 1, turn / 2 % 2 == 1})) != nullptr;
+        if (!alike)
+            terrain.mark(tile.index, tile.marks);
+    }
+    return terrain;
+}
+
 } // namespace
 
 class TestTerrain : public QObject
@@ -40,6 +74,8 @@ private slots:
     {
         QCOMPARE(complete(false).tiles.size(), 16);
         QCOMPARE(complete(true).tiles.size(), 47); // as everybody who drew them knows
+        QCOMPARE(turning(false).tiles.size(), 6);
+        QCOMPARE(turning(true).tiles.size(), 14);
         const Terrain terrain = complete(true);
         QCOMPARE(terrain.counted(Terrain::North | Terrain::NorthEast | Terrain::SouthWest), int(Terrain::North));
         QCOMPARE(terrain.counted(Terrain::North | Terrain::West | Terrain::NorthWest),
@@ -49,8 +85,7 @@ private slots:
     /// After random strokes every tile shows exactly the neighbours that are of the terrain.
     void paintsMatchingBorders()
     {
-        for (const bool corners : {false, true}) {
-            const Terrain terrain = complete(corners);
+        for (const Terrain &terrain : {complete(false), complete(true), turning(false), turning(true)}) {
             const QSize size(9, 7);
             TileMap grid(size);
             for (int x = 0; x < 9; ++x)
@@ -73,14 +108,16 @@ private slots:
                     for (const QPoint way : {QPoint(0, -1), QPoint(1, -1), QPoint(1, 0), QPoint(1, 1), QPoint(0, 1),
                                              QPoint(-1, 1), QPoint(-1, 0), QPoint(-1, -1)}) {
                         const bool side = way.x() == 0 || way.y() == 0;
-                        const bool counts = side || (corners && isGround({way.x(), 0}) && isGround({0, way.y()}));
+                        const bool counts =
+                            side || (terrain.corners && isGround({way.x(), 0}) && isGround({0, way.y()}));
                         marks |= counts && isGround(way) ? bit : 0;
                         bit *= 2;
                     }
+                    const Cell painted = grid.cellAt(cell);
                     if (ground[i])
-                        QCOMPARE(grid.cellAt(cell).index, First + marks);
+                        QCOMPARE(seen(painted.index - First, painted), marks);
                     else
-                        QVERIFY(!grid.cellAt(cell).used || grid.cellAt(cell).index == 5);
+                        QVERIFY(!painted.used || painted.index == 5);
                 }
             }
         }
@@ -93,22 +130,29 @@ private slots:
         terrain.mark(7, Terrain::All);
         terrain.mark(3, Terrain::East | Terrain::South | Terrain::SouthEast);
         terrain.mark(4, Terrain::All);
-        QCOMPARE(terrain.tileFor(Terrain::East | Terrain::South, 0), 3); // a corner too much
-        QCOMPARE(terrain.tileFor(Terrain::All & ~Terrain::NorthEast, 0), 4);
-        QCOMPARE(terrain.tileFor(Terrain::All & ~Terrain::NorthEast, 1), 7);
-        QCOMPARE(Terrain().tileFor(0, 3), -1);
+        QCOMPARE(terrain.tileFor(Terrain::East | Terrain::South, 0).index, 3); // a corner too much
+        QCOMPARE(terrain.tileFor(Terrain::All & ~Terrain::NorthEast, 0).index, 4);
+        QCOMPARE(terrain.tileFor(Terrain::All & ~Terrain::NorthEast, 1).index, 7);
+        QCOMPARE(Terrain().tileFor(0, 3).index, -1);
         Terrain hill;
         hill.mark(31, Terrain::East | Terrain::South);
         hill.mark(22, Terrain::Sides);
         hill.mark(33, Terrain::North | Terrain::East);
         for (const quint32 choice : {0, 1, 2}) // no border inside, rather none at the left
-            QCOMPARE(hill.tileFor(Terrain::North | Terrain::East | Terrain::South, choice), 22);
+            QCOMPARE(hill.tileFor(Terrain::North | Terrain::East | Terrain::South, choice).index, 22);
         TileMap grid(5, 5);
         for (int i = 0; i < 25; ++i)
             grid.setCell({i % 5, i / 5}, {.index = i % 2 ? 7 : 4, .used = true});
         const TileMap::Rows before = grid.rows();
         QVERIFY(!terrain.paint(grid, {2, 2}, true, 1)); // what fits stays as it was chosen
         QCOMPARE(grid.rows(), before);
+
+        hill.turns = true; // which finds a mirrored left end, but takes no turned tile where one fits as it is
+        QCOMPARE(hill.tileFor(Terrain::West | Terrain::South, 0), (Cell{31, false, false, true, 0, true}));
+        QCOMPARE(hill.tileFor(Terrain::North | Terrain::East, 0), (Cell{33, false, false, false, 0, true}));
+        TileMap turned(1, 1); // whose surroundings count as ground
+        turned.setCell({0, 0}, {22, true, true, false, 3, true});
+        QVERIFY(!hill.paint(turned, {0, 0}, true, 0));
     }
 
     void overviewShowsTheMap()

@@ -115,7 +115,7 @@ private:
             kit->nameStamp(number(4), chance() ? QStringLiteral("Stamp") : QString());
             if (number(4) == 0)
                 kit->removeStamp(number(4));
-            Terrain terrain{QStringLiteral("Ground"), chance(), {}};
+            Terrain terrain{QStringLiteral("Ground"), chance(), {}, chance()};
             for (int i = number(20); i > 0; --i)
                 terrain.mark(number(std::max(tiles->count(), 1)), number(256));
             kit->setTerrains({terrain});

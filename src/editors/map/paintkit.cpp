@@ -164,9 +164,12 @@ QJsonArray PaintKit::terrainsToJson() const
         QJsonArray tiles;
         for (const Terrain::Tile &tile : terrain.tiles)
             tiles.append(QJsonArray{tile.index, tile.marks});
-        array.append(QJsonObject{{QStringLiteral("name"), terrain.name},
-                                 {QStringLiteral("neighbours"), terrain.corners ? 8 : 4},
-                                 {QStringLiteral("tiles"), tiles}});
+        QJsonObject object{{QStringLiteral("name"), terrain.name},
+                           {QStringLiteral("neighbours"), terrain.corners ? 8 : 4},
+                           {QStringLiteral("tiles"), tiles}};
+        if (terrain.turns)
+            object.insert(QStringLiteral("turns"), true);
+        array.append(object);
     }
     return array;
 }
@@ -187,6 +190,7 @@ void PaintKit::read(const QJsonArray &stamps, const QJsonArray &terrains)
         Terrain terrain;
         terrain.name = value[QStringLiteral("name")].toString();
         terrain.corners = value[QStringLiteral("neighbours")].toInt() == 8;
+        terrain.turns = value[QStringLiteral("turns")].toBool();
         const QJsonArray tiles = value[QStringLiteral("tiles")].toArray();
         for (const QJsonValue &tile : tiles)
             terrain.mark(tile[0].toInt(-1), tile[1].toInt());

@@ -4,6 +4,7 @@
 #include "editors/map/terrainmarks.h"
 #include "ui/svgiconengine.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QFormLayout>
 #include <QHBoxLayout>
@@ -25,6 +26,7 @@ TerrainDialog::TerrainDialog(QWidget *parent)
     , m_add(new QPushButton(themedIcon(QStringLiteral(":/Plus")), tr("Add")))
     , m_name(new QLineEdit)
     , m_neighbours(new QComboBox)
+    , m_turns(new QCheckBox(tr("Turn tiles where none has the borders")))
     , m_marks(new TerrainMarks)
 {
     m_list->setAccessibleName(tr("Terrains"));
@@ -32,6 +34,7 @@ TerrainDialog::TerrainDialog(QWidget *parent)
     m_list->setMaximumHeight(110);
     m_neighbours->addItems({tr("The 4 cells beside"), tr("All 8 cells around")});
     m_neighbours->setToolTip(tr("Which neighbours decide about the tile of a cell"));
+    m_turns->setToolTip(tr("Also takes tiles that have the borders when they are rotated, flipped or mirrored"));
     auto *buttons = new QVBoxLayout;
     buttons->addWidget(m_add);
     buttons->addWidget(m_remove);
@@ -42,6 +45,7 @@ TerrainDialog::TerrainDialog(QWidget *parent)
     form()->addRow(tr("Terrains"), row);
     form()->addRow(tr("Name"), m_name);
     form()->addRow(tr("Looks at"), m_neighbours);
+    form()->addRow(QString(), m_turns);
 
     auto *explanation =
         new QLabel(tr("Mark the middle of each tile of the terrain, and the sides and corners where it goes on. The "
@@ -62,6 +66,7 @@ TerrainDialog::TerrainDialog(QWidget *parent)
     connect(m_list, &QListWidget::currentRowChanged, this, &TerrainDialog::showTerrain);
     connect(m_name, &QLineEdit::textEdited, this, &TerrainDialog::store);
     connect(m_neighbours, &QComboBox::currentIndexChanged, this, &TerrainDialog::store);
+    connect(m_turns, &QCheckBox::toggled, this, &TerrainDialog::store);
     connect(m_marks, &TerrainMarks::edited, this, &TerrainDialog::store);
 }
 
@@ -114,8 +119,9 @@ void TerrainDialog::showTerrain(int index)
     const Terrain terrain = m_terrains.value(index);
     m_name->setText(terrain.name);
     m_neighbours->setCurrentIndex(terrain.corners ? 1 : 0);
+    m_turns->setChecked(terrain.turns);
     m_marks->show(some ? m_tileSet : nullptr, terrain);
-    for (QWidget *field : std::initializer_list<QWidget *>{m_name, m_neighbours, m_marks, m_remove})
+    for (QWidget *field : std::initializer_list<QWidget *>{m_name, m_neighbours, m_turns, m_marks, m_remove})
         field->setEnabled(some);
     m_add->setEnabled(m_terrains.size() < PaintKit::MostTerrains);
 }
@@ -128,6 +134,7 @@ void TerrainDialog::store()
     Terrain terrain = m_marks->terrain();
     terrain.name = m_name->text();
     terrain.corners = m_neighbours->currentIndex() == 1;
+    terrain.turns = m_turns->isChecked();
     m_terrains[row] = terrain;
     m_list->item(row)->setText(terrain.name);
     if (m_marks->terrain() != terrain)

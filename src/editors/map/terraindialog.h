@@ -7,6 +7,7 @@
 #include <QList>
 #include <QPointer>
 
+class QCheckBox;
 class QComboBox;
 class QLineEdit;
 class QListWidget;
@@ -46,6 +47,7 @@ private:
     QPushButton *m_add;
     QLineEdit *m_name;
     QComboBox *m_neighbours;
+    QCheckBox *m_turns;
     TerrainMarks *m_marks;
     bool m_showing = false; ///< fields are set, not edited
 };

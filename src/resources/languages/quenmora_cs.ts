@@ -3837,6 +3837,14 @@ Barvy: %3, v předloze: %4; skupiny: %5</translation>
         <source>Every terrain needs a name</source>
         <translation>Každý terén musí mít název</translation>
     </message>
+    <message>
+        <source>Turn tiles where none has the borders</source>
+        <translation>Otáčet dlaždice tam, kde žádná nemá potřebné okraje</translation>
+    </message>
+    <message>
+        <source>Also takes tiles that have the borders when they are rotated, flipped or mirrored</source>
+        <translation>Použije i dlaždice, které mají tyto okraje po otočení nebo překlopení</translation>
+    </message>
 </context>
 <context>
     <name>MapEditor::TerrainMarks</name>

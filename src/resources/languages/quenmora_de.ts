@@ -3800,6 +3800,14 @@ Farben: %3 für %4 des Bildes; Gruppen: %5</translation>
         <source>Every terrain needs a name</source>
         <translation>Jedes Terrain braucht einen Namen</translation>
     </message>
+    <message>
+        <source>Turn tiles where none has the borders</source>
+        <translation>Tiles drehen, wo keines die Ränder hat</translation>
+    </message>
+    <message>
+        <source>Also takes tiles that have the borders when they are rotated, flipped or mirrored</source>
+        <translation>Nimmt auch Tiles, die die Ränder gedreht oder gespiegelt haben</translation>
+    </message>
 </context>
 <context>
     <name>MapEditor::TerrainMarks</name>

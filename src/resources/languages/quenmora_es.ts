@@ -3800,6 +3800,14 @@ Colores: %3, para %4 de la imagen; grupos: %5</translation>
         <source>Every terrain needs a name</source>
         <translation>Cada terreno necesita un nombre</translation>
     </message>
+    <message>
+        <source>Turn tiles where none has the borders</source>
+        <translation>Girar tiles donde ninguno tenga los bordes</translation>
+    </message>
+    <message>
+        <source>Also takes tiles that have the borders when they are rotated, flipped or mirrored</source>
+        <translation>También toma tiles que tienen los bordes al rotarlos, voltearlos o reflejarlos</translation>
+    </message>
 </context>
 <context>
     <name>MapEditor::TerrainMarks</name>

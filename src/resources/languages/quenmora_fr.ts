@@ -3800,6 +3800,14 @@ Couleurs&#xa0;: %3, pour %4 dans l’image&#xa0;; groupes&#xa0;: %5</translation
         <source>Every terrain needs a name</source>
         <translation>Chaque terrain a besoin d’un nom</translation>
     </message>
+    <message>
+        <source>Turn tiles where none has the borders</source>
+        <translation>Tourner des tuiles là où aucune n’a les bords voulus</translation>
+    </message>
+    <message>
+        <source>Also takes tiles that have the borders when they are rotated, flipped or mirrored</source>
+        <translation>Prend aussi les tuiles qui ont ces bords une fois pivotées ou mises en miroir</translation>
+    </message>
 </context>
 <context>
     <name>MapEditor::TerrainMarks</name>

@@ -3837,6 +3837,14 @@ Kolory: %3, na obrazie: %4; grupy: %5</translation>
         <source>Every terrain needs a name</source>
         <translation>Każdy teren musi mieć nazwę</translation>
     </message>
+    <message>
+        <source>Turn tiles where none has the borders</source>
+        <translation>Obracaj kafelki tam, gdzie żaden nie ma takich krawędzi</translation>
+    </message>
+    <message>
+        <source>Also takes tiles that have the borders when they are rotated, flipped or mirrored</source>
+        <translation>Bierze też kafelki, które mają te krawędzie po obróceniu lub odbiciu</translation>
+    </message>
 </context>
 <context>
     <name>MapEditor::TerrainMarks</name>

@@ -3800,6 +3800,14 @@ Cores: %3, para %4 da imagem; grupos: %5</translation>
         <source>Every terrain needs a name</source>
         <translation>Todo terreno precisa de um nome</translation>
     </message>
+    <message>
+        <source>Turn tiles where none has the borders</source>
+        <translation>Girar tiles onde nenhum tiver as bordas</translation>
+    </message>
+    <message>
+        <source>Also takes tiles that have the borders when they are rotated, flipped or mirrored</source>
+        <translation>Também usa tiles que têm as bordas ao serem girados, virados ou espelhados</translation>
+    </message>
 </context>
 <context>
     <name>MapEditor::TerrainMarks</name>

@@ -369,15 +369,18 @@ private slots:
             "stamps",
             section(R"([{"cells": [[1, 2], [3]]}, 7, {"cells": "no"}, {"cells": [[65541, -1]], "name": "A"}])"));
         assets.project.extras()->setSection(
-            "terrains",
-            section(R"([{"name": "Grass", "neighbours": 8, "tiles": [[4, 255], [-3, 1], [2, 999], "x"]}, 1])"));
+            "terrains", section(R"([{"name": "Grass", "neighbours": 8, "tiles": [[4, 255], [-3, 1], [2, 999], "x"]}, 1,
+                        {"turns": true}])"));
         MapEditor::PaintKits kits;
         kits.setProject(&assets.project);
         const PaintKit &kit = *kits.kitFor(assets.tiles);
         QCOMPARE(kit.stamps().size(), 1);
         QCOMPARE(kit.stamps().first().stamp.at(0, 0), (Cell{5, true, false, false, 0, true}));
         QCOMPARE(kit.terrains().first().tiles, (QList<Terrain::Tile>{{2, 999 & 255}, {4, 255}}));
-        QVERIFY(kit.terrains().first().corners);
+        QVERIFY(kit.terrains().first().corners && !kit.terrains().first().turns);
+        QVERIFY(kit.terrains().last().turns);
+        QVERIFY(!kit.terrainsToJson().first().toObject().contains("turns")); // files stay as they were
+        QVERIFY(kit.terrainsToJson().last()["turns"].toBool());
     }
 
     void tilesAreReplacedInOneStep()
