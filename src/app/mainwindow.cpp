@@ -180,8 +180,8 @@ void MainWindow::connectMenus()
     connect(m_menuBar.helpMenu(), &HelpMenu::checkForUpdates, &m_updatePresenter, &UpdatePresenter::checkForUpdates);
     connect(m_menuBar.helpMenu(), &HelpMenu::displayAbout, &m_updatePresenter, &UpdatePresenter::showAboutBox);
     connect(m_menuBar.helpMenu(), &HelpMenu::openSample, &m_projectController, &ProjectController::openSample);
-    const auto *guide = new Guide(m_views, this);
-    connect(m_menuBar.helpMenu(), &HelpMenu::openGuide, guide, &Guide::open);
+    auto *guide = new Guide(m_views, this);
+    guide->serve(m_menuBar.helpMenu()->guideAction());
     connect(guide, &Guide::failed, this, [this](const QString &message, const QString &detail) {
         messageDialog()->showMessage(message, MessageDialog::defaultTitle(), detail);
     });

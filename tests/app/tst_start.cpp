@@ -17,6 +17,7 @@
 #include "nextdata/recipe.h"
 #include "support/modeltools.h"
 #include "support/testmain.h"
+#include "ui/commands.h"
 #include "ui/emptyhint.h"
 #include "ui/messagedialog.h"
 
@@ -32,6 +33,7 @@
 #include <QToolButton>
 #include <QUrl>
 
+#include <algorithm>
 #include <optional>
 
 /// The first minutes with the program: the sample, the guide, the pictures of projects, what to do in empty editors.
@@ -148,6 +150,51 @@ private slots:
         QSignalSpy failed(&guide, &Guide::failed);
         guide.open();
         QVERIFY(failed.size() == 1 && failed[0][1].toString().contains("sprites.md"));
+    }
+
+    /// Also from fields that take most keys, but not from one that takes every key.
+    void opensTheGuideInModalDialogs_data()
+    {
+        QTest::addColumn<QString>("command"); // that opens the dialog
+        QTest::addColumn<QByteArray>("field"); // the kind of what has the keyboard in it
+        QTest::addColumn<int>("key");
+        QTest::addColumn<QString>("page");
+        QTest::addRow("a name") << "palette.new" << QByteArray("QLineEdit") << int(Qt::Key_F1) << "palettes";
+        QTest::addRow("a number") << "map.new" << QByteArray("QSpinBox") << int(Qt::Key_F1) << "maps";
+        QTest::addRow("a list") << "image.new" << QByteArray("QComboBox") << int(Qt::Key_F1) << "images";
+        QTest::addRow("a table") << "help.keyboardShortcuts" << QByteArray("QAbstractItemView") << int(Qt::Key_F1)
+                                 << "keys";
+        QTest::addRow("a button") << "file.preferences" << QByteArray("QPushButton") << int(Qt::Key_F1) << "window";
+        QTest::addRow("a key") << "help.keyboardShortcuts" << QByteArray("QKeySequenceEdit") << int(Qt::Key_F1) << "";
+        QTest::addRow("another key") << "palette.new" << QByteArray("QLineEdit") << int(Qt::Key_F2) << "";
+    }
+    void opensTheGuideInModalDialogs()
+    {
+        QFETCH(const QString, command);
+        QFETCH(const QByteArray, field);
+        QFETCH(const int, key);
+        m_window->projectController()->openSample();
+        Guide guide(m_window->views());
+        QString opened;
+        guide.setOpener([&opened](const QUrl &url) {
+            opened = QFileInfo(url.toLocalFile()).completeBaseName();
+            return true;
+        });
+        QAction help;
+        help.setShortcut(Qt::Key_F1);
+        guide.serve(&help);
+        Commands::instance()->actionsOf(command).constFirst()->trigger();
+        QWidget *dialog = QApplication::activeModalWidget();
+        QVERIFY(dialog);
+        const QList<QWidget *> inside = dialog->findChildren<QWidget *>();
+        const auto found = std::ranges::find_if(
+            inside, [&field](const QWidget *each) { return each->inherits(field) && each->isVisible(); });
+        QVERIFY(found != inside.end());
+        QVERIFY(QTest::qWaitForWindowActive(dialog));
+        (*found)->setFocus();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key(key));
+        QTEST(opened, "page");
+        dialog->close();
     }
 
     void keepsPicturesOfProjects()

@@ -29,7 +29,6 @@ HelpMenu::HelpMenu(QWidget *parent) : QMenu(tr("&Help"), parent)
     m_guide->setShortcut(QKeySequence::HelpContents);
     m_guide->setShortcutContext(Qt::ApplicationShortcut); // as above
     Commands::add(m_guide, QStringLiteral("help.guide"));
-    connect(m_guide, &QAction::triggered, this, &HelpMenu::openGuide);
     m_sample = addAction(themedIcon(QStringLiteral(":/SampleProject")), tr("&Sample Project"));
     m_sample->setToolTip(tr("Opens a small game to look at and to play with; saving makes a copy of your own"));
     Commands::add(m_sample, QStringLiteral("help.sampleProject"));

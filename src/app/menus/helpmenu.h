@@ -19,7 +19,6 @@ signals:
     void displayAbout();
     void showCommandPalette();
     void showShortcuts();
-    void openGuide();
     void openSample();
 
 private:
