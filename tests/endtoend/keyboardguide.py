@@ -17,7 +17,7 @@ import time
 import zipfile
 from pathlib import Path
 
-from afternoon import SCREEN, Desktop, read_png, reported, require
+from virtualdesktop import SCREEN, Desktop, read_png, reported, require
 
 PICTURE = Path(__file__).resolve().parents[2] / "examples" / "pictures" / "level.png"
 

@@ -20,7 +20,7 @@ import gi
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
 
-from afternoon import Desktop, reported, require  # noqa: E402
+from virtualdesktop import Desktop, reported, require  # noqa: E402
 
 SAMPLE = Path(__file__).resolve().parents[2] / "examples" / "sample.quenmora"
 MOST_CELLS = 3  # of a table that are printed

@@ -18,7 +18,7 @@ import tempfile
 import zipfile
 from pathlib import Path
 
-from afternoon import Desktop, Failure, require
+from virtualdesktop import Desktop, Failure, require
 
 LETTERS = "Ünicode Ωжא日本 ไทย"
 TILE = (640, 672)  # in the tile picker
