@@ -234,7 +234,7 @@ private:
     }
     [[nodiscard]] ImageSlicer::Placement placement(QPoint cell) const
     {
-        return m_slicer.placements().at(cell.y() * m_slicer.size().width() + cell.x());
+        return m_slicer.placement(cell.y() * m_slicer.size().width() + cell.x());
     }
 
     ImageSlicer m_slicer;
@@ -316,7 +316,7 @@ SpriteBank *addSprites(Project &project, const QImage &picture)
     // a second bank of colours, in which green creatures are red
     for (int i = 0; i < 16; ++i) {
         const quint16 word = palette->rawColour(i);
-        palette->storeRawColour(
+        palette->setRawColour(
             i + 16, NextColour::compose(NextColour::green(word), NextColour::red(word), NextColour::blue(word), false));
     }
 
@@ -325,7 +325,7 @@ SpriteBank *addSprites(Project &project, const QImage &picture)
         animation->setName(loop.name);
         animation->setDelay(loop.delay);
         for (int i = 0; i < loop.frames.size(); ++i)
-            setFrame(*animation, i, {{{.index = slicer.placements().at(loop.frames[i]).first}}});
+            setFrame(*animation, i, {{{.index = slicer.placement(loop.frames[i]).first}}});
     }
     project.addSpriteBank(bank);
     return bank;
