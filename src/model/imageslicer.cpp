@@ -74,17 +74,17 @@ int ImageSlicer::sliceIndexedSprites()
 void ImageSlicer::sliceSpritesOf(const PictureIndices &picture, int size)
 {
     slice(picture, SpriteSide, cellsOf(m_source, size));
-    for (auto &[piece, orientation] : m_placements)
-        orientation = 0;
+    for (quint32 &placement : m_placements)
+        placement = placement >> OrientationBits << OrientationBits;
 }
 
 void ImageSlicer::slice(const PictureIndices &picture, int side, const QSize &cells)
 {
     m_picture = picture;
     m_cells = picture.isNull() ? QSize(0, 0) : cells;
-    m_pieces = PieceTable(side, [this](int cell, uchar *pixels) { readCell(cell, pixels); });
+    m_pieces = PieceTable(side, cellCount(), [this](int cell, uchar *pixels) { readCell(cell, pixels); });
     m_placements.clear();
-    m_placements.reserve(cellCount());
+    m_placements.reserve(size_t(cellCount()));
     m_reduced.clear();
     m_banks.fill(Bank());
     m_assignments.clear();
@@ -92,14 +92,15 @@ void ImageSlicer::slice(const PictureIndices &picture, int side, const QSize &ce
     PieceTable::Pixels pixels;
     for (int cell = 0; cell < cellCount(); ++cell) {
         const bool exact = readCell(cell, pixels.data());
-        const Placement placement = m_pieces.add(pixels.data(), cell);
-        m_placements.append(placement);
+        const auto [piece, orientation] = m_pieces.add(pixels.data(), cell);
+        m_placements.push_back(quint32(piece << OrientationBits | orientation));
         if (!exact) {
-            m_reduced.resize(m_pieces.count());
-            m_reduced[placement.first] = true;
+            m_reduced.resize(size_t(m_pieces.count()));
+            m_reduced[size_t(piece)] = true;
         }
         emit processed(cell);
     }
+    m_pieces.close();
 }
 
 bool ImageSlicer::readCell(int cell, uchar *pixels) const
@@ -111,7 +112,8 @@ bool ImageSlicer::readCell(int cell, uchar *pixels) const
 int ImageSlicer::lossyTileCount() const
 {
     const auto withBank = m_assignments.size();
-    const auto reduced = std::count(m_reduced.cbegin(), m_reduced.cbegin() + qMin(withBank, m_reduced.size()), true);
+    const auto known = qMin(withBank, qsizetype(m_reduced.size()));
+    const auto reduced = std::count(m_reduced.cbegin(), m_reduced.cbegin() + known, true);
     return int(m_pieces.count() - withBank + reduced);
 }
 
@@ -142,6 +144,13 @@ ImageSlicer::TileColours ImageSlicer::coloursOf(int index) const
             colours.append(pixels[i]);
     }
     return colours;
+}
+
+QList<ImageSlicer::Placement> ImageSlicer::placements() const
+{
+    QList<Placement> placements(qsizetype(m_placements.size()));
+    std::transform(m_placements.cbegin(), m_placements.cend(), placements.begin(), unpacked);
+    return placements;
 }
 
 QImage ImageSlicer::piece(int index) const

@@ -2,19 +2,21 @@
 
 #include <QHash>
 
-namespace {
+#include <algorithm>
+#include <bit>
 
-constexpr size_t FirstCapacity = 4096;
-
-} // namespace
-
-PieceTable::PieceTable(int side, Reader reader)
+PieceTable::PieceTable(int side, int places, Reader reader)
     : m_side(side)
     , m_area(size_t(side) * size_t(side))
     , m_read(std::move(reader))
-    , m_slots(FirstCapacity)
+    , m_noPiece(std::bit_ceil(quint32(places) + 1) - 1)
+    , m_heads((std::bit_ceil(size_t(places)) + 1) / 2, m_noPiece) // for chains of at most two pieces, by and large
 {
-    Q_ASSERT(side > 0 && side <= MaxSide);
+    Q_ASSERT(side > 0 && side <= MaxSide && places >= 0);
+    // never moved, and memory that is not written to costs nothing
+    m_places.reserve(size_t(places));
+    m_links.reserve(size_t(places));
+    m_pixels.reserve(std::min(KeptBytes, size_t(places) * m_area) + m_area);
     const int last = side - 1;
     for (int orientation = 0; orientation < Orientations; ++orientation) {
         for (int i = 0; i < side * side; ++i) {
@@ -30,23 +32,28 @@ PieceTable::PieceTable(int side, Reader reader)
 std::pair<int, int> PieceTable::add(const uchar *pixels, int place)
 {
     const quint32 hash = hashOf(pixels);
-    const size_t mask = m_slots.size() - 1;
-    size_t i = hash & mask;
-    for (; m_slots[i].piece >= 0; i = (i + 1) & mask) {
-        if (m_slots[i].hash != hash)
+    const quint32 tag = hash & ~m_noPiece;
+    quint32 &head = m_heads[hash & (m_heads.size() - 1)];
+    for (quint32 known = head; known != m_noPiece; known = m_links[known] & m_noPiece) {
+        if ((m_links[known] & ~m_noPiece) != tag)
             continue;
-        if (const int orientation = orientationOf(m_slots[i].piece, pixels); orientation >= 0)
-            return {m_slots[i].piece, orientation};
+        if (const int orientation = orientationOf(int(known), pixels); orientation >= 0)
+            return {int(known), orientation};
     }
 
     const int piece = count();
-    m_slots[i] = {hash, piece};
+    m_links.push_back(tag | head);
+    head = quint32(piece);
     m_places.push_back(place);
     if (m_pixels.size() < KeptBytes)
         m_pixels.insert(m_pixels.end(), pixels, pixels + m_area);
-    if (2 * size_t(count()) > m_slots.size())
-        grow();
     return {piece, 0};
+}
+
+void PieceTable::close()
+{
+    std::vector<quint32>().swap(m_heads); // which frees it
+    std::vector<Link>().swap(m_links);
 }
 
 const uchar *PieceTable::pixels(int piece, Pixels &buffer) const
@@ -91,19 +98,4 @@ int PieceTable::orientationOf(int piece, const uchar *pixels) const
             return orientation;
     }
     return -1;
-}
-
-void PieceTable::grow()
-{
-    std::vector<Slot> larger(2 * m_slots.size());
-    const size_t mask = larger.size() - 1;
-    for (const Slot &slot : m_slots) {
-        if (slot.piece < 0)
-            continue;
-        size_t i = slot.hash & mask;
-        while (larger[i].piece >= 0)
-            i = (i + 1) & mask;
-        larger[i] = slot;
-    }
-    m_slots = std::move(larger);
 }

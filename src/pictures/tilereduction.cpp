@@ -303,7 +303,7 @@ TileReduction TileReduction::of(const QImage &picture, const Choices &choices)
         const auto &[tile, orientation] = distinct.cells[size_t(cell)];
         return TileOrientation::turned(shown[size_t(book.standsFor[size_t(tile)])], orientation);
     };
-    PieceTable pieces(Side, [&](int cell, uchar *to) {
+    PieceTable pieces(Side, int(distinct.cells.size()), [&](int cell, uchar *to) {
         const Pixels pixels = pixelsOf(cell);
         std::copy(pixels.cbegin(), pixels.cend(), to);
     });
