@@ -86,6 +86,7 @@ template <class PixelAt>
 [[nodiscard]] inline QByteArray indices(const QImage &image)
 {
     QByteArray bytes;
+    bytes.reserve(qsizetype(image.width()) * image.height());
     for (int y = 0; y < image.height(); ++y)
         bytes.append(reinterpret_cast<const char *>(image.constScanLine(y)), image.width());
     return bytes;
