@@ -5,9 +5,7 @@
 #include "support/sampleproject.h"
 #include "support/testmain.h"
 
-#include <QDir>
-#include <QTest>
-#include <QTextStream>
+#include <QtTest>
 
 #include <optional>
 

@@ -4,12 +4,8 @@
 #include "preferences/preferencesdialog.h"
 #include "support/testmain.h"
 
-#include <QColorDialog>
-#include <QDialogButtonBox>
-#include <QJsonArray>
-#include <QJsonObject>
-#include <QPushButton>
-#include <QTest>
+#include <QtTest>
+#include <QtWidgets>
 
 namespace {
 

@@ -1,23 +1,64 @@
 #include "support/modeltools.h"
 #include "support/testmain.h"
+#include "ui/aboutbox.h"
 #include "ui/checklist.h"
-#include "ui/dockwidget.h"
-#include "ui/expandablesection.h"
-#include "ui/flowlayout.h"
+#include "ui/dialogbase.h"
+#include "ui/messagedialog.h"
 #include "ui/numberstepper.h"
 #include "ui/outline.h"
 #include "ui/popover.h"
 #include "ui/readablehints.h"
-#include "ui/scrollbar.h"
+#include "ui/svgiconengine.h"
+#include "ui/toolpalette.h"
 
-#include <QLabel>
-#include <QPainter>
-#include <QSignalSpy>
-#include <QSpinBox>
-#include <QTest>
-#include <QToolButton>
+#include <QtTest>
+#include <QtWidgets>
 
 using namespace Quenmora::Ui;
+
+namespace {
+
+struct NameDialog : DialogBase
+{
+    QLineEdit *name = new QLineEdit(this);
+
+    NameDialog() : DialogBase("New")
+    {
+        connect(name, &QLineEdit::textChanged, this, [this] { revalidate(); });
+    }
+    QString problem() const override { return name->text().isEmpty() ? "A name is needed" : QString(); }
+};
+
+/// A palette that writes down what it announces: "8+" is 8, Fill, checked.
+struct Tools
+{
+    ToolPalette palette;
+    QStringList heard;
+
+    Tools()
+    {
+        for (const ToolButton button : {Draw, Fill, Grid, ZoomIn})
+            palette.addEntry(button);
+        QObject::connect(&palette, &ToolPalette::actionActivated, &palette, [this](ToolButton button, bool checked) {
+            heard += QString::number(button) + (checked ? "+" : "-");
+        });
+    }
+};
+
+/// The opaque colours of an icon, without the half-transparent pixels of its edges.
+QSet<QRgb> solidColours(const QImage &image)
+{
+    QSet<QRgb> colours;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (qAlpha(image.pixel(x, y)) == 255)
+                colours.insert(image.pixel(x, y));
+        }
+    }
+    return colours;
+}
+
+} // namespace
 
 /// The small widgets of the kit.
 class TestWidgets : public QObject
@@ -73,34 +114,24 @@ private slots:
     {
         const auto theme = [](const QColor &text, const QColor &ground) {
             QPalette palette;
-            for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-                palette.setColor(role, text);
-            for (const auto role : {QPalette::Window, QPalette::Base, QPalette::Button})
+            palette.setColor(QPalette::WindowText, text);
+            for (const auto role : {QPalette::Window, QPalette::Base})
                 palette.setColor(role, ground);
             palette.setColor(QPalette::PlaceholderText, QColor(0, 0, 0, 128));
             return palette;
         };
         const QPalette light = theme(Qt::black, Qt::white);
+        QCOMPARE(ReadableHints::readable(light), light); // a theme's own colour is kept
         const QPalette before = QApplication::palette();
         QApplication::setPalette(theme(Qt::white, QColor(40, 40, 40)));
         QWidget window;
         new ReadableHints(&window);
         window.show();
-        DockWidget dock("Dock", "Nothing here");
-        dock.resize(200, 100);
-        dock.show();
-        const auto spread = [&dock] {
-            const QImage grey = dock.findChild<QLabel *>()->grab().toImage().convertToFormat(QImage::Format_Grayscale8);
-            const QByteArray levels = indices(grey);
-            const auto [darkest, lightest] = std::ranges::minmax(levels, {}, [](char level) { return uchar(level); });
-            return uchar(lightest) - uchar(darkest);
-        };
-        QVERIFY2(spread() > 80, qPrintable(QString::number(spread())));
-        QApplication::setPalette(theme(Qt::white, QColor(20, 20, 60))); // while it runs
-        QTRY_COMPARE(dock.palette().color(QPalette::Window), QColor(20, 20, 60));
-        QCoreApplication::processEvents();
-        QVERIFY2(spread() > 80, qPrintable(QString::number(spread())));
-        QCOMPARE(ReadableHints::readable(light), light); // a theme's own colour is kept
+        for (const QColor ground : {QColor(40, 40, 40), QColor(20, 20, 60)}) { // the second one while it runs
+            QApplication::setPalette(theme(Qt::white, ground));
+            QTRY_COMPARE(window.palette().color(QPalette::Window), ground);
+            QTRY_VERIFY(window.palette().color(QPalette::PlaceholderText).lightness() > 200);
+        }
         QApplication::setPalette(before);
     }
 
@@ -119,46 +150,6 @@ private slots:
         QVERIFY(!popover.isVisible() && closed.size() == 1);
     }
 
-    void flowLayoutBreaksRows()
-    {
-        QWidget window;
-        auto *layout = new FlowLayout(&window);
-        layout->setSpacing(2);
-        layout->setContentsMargins(3, 3, 3, 3);
-        for (int i = 0; i < 6; ++i) {
-            auto *item = new QWidget(&window);
-            item->setFixedSize(20, 10);
-            item->setHidden(i == 0); // takes no room
-            layout->addWidget(item);
-        }
-        QCOMPARE(layout->sizeHint(), QSize(114, 16));
-        // all in one row, a pixel short, three and two, one a row, narrower than an item
-        for (const auto &[width, height] : {std::pair(114, 16), {113, 28}, {70, 28}, {30, 64}, {5, 64}}) {
-            QCOMPARE(layout->heightForWidth(width), height);
-            layout->setGeometry({0, 0, width, height});
-            QCOMPARE(layout->itemAt(5)->geometry().bottom(), height - 3 - 1);
-        }
-    }
-
-    void pointsTheOtherWayWhereTextDoes()
-    {
-        const auto arrows = [](Qt::LayoutDirection direction) {
-            QApplication::setLayoutDirection(direction);
-            QList<QImage> images;
-            NumberStepper stepper;
-            ExpandableSection section("Attributes");
-            for (const QToolButton *button :
-                 stepper.findChildren<QToolButton *>() + section.findChildren<QToolButton *>())
-                images.append(button->icon().pixmap(16).toImage());
-            return images;
-        };
-        const QList<QImage> usual = arrows(Qt::LeftToRight);
-        const QList<QImage> mirrored = arrows(Qt::RightToLeft);
-        QApplication::setLayoutDirection(Qt::LeftToRight);
-        QVERIFY(usual[0] != usual[1]);
-        QCOMPARE(mirrored, QList<QImage>({usual[1], usual[0], usual[0]})); // which is "<"
-    }
-
     void stepperStaysInItsRange()
     {
         NumberStepper stepper;
@@ -172,25 +163,6 @@ private slots:
         stepper.setRange(1, 1);
         QCOMPARE(changed, (QList<QVariantList>{{2}, {3}, {2}, {1}}));
         QVERIFY(!buttons[0]->isEnabled() && !buttons[1]->isEnabled());
-    }
-
-    void scrollBarButtonsNameTheirEnd()
-    {
-        for (const auto orientation : {Qt::Horizontal, Qt::Vertical}) {
-            ScrollBar bar(orientation);
-            QStringList heard;
-            connect(&bar, &ScrollBar::add, this, [&](Quenmora::Position end) { heard += QString("add %1").arg(end); });
-            connect(&bar, &ScrollBar::remove, this,
-                    [&](Quenmora::Position end) { heard += QString("remove %1").arg(end); });
-            const auto buttons = bar.findChildren<QToolButton *>(); // from the beginning to the end
-            for (QToolButton *button : buttons)
-                button->click();
-            bar.setRemoveEnabled(false);
-            buttons[1]->click();
-            QCOMPARE(heard, QStringList({"add 0", "remove 0", "remove 1", "add 1"}));
-            QCOMPARE(buttons[1]->accessibleName(),
-                     orientation == Qt::Horizontal ? "Remove the column on the left" : "Remove the row at the top");
-        }
     }
 
     void checkListTicksByClickAndByKey()
@@ -209,15 +181,190 @@ private slots:
         QCOMPARE(changed, (QList<QVariantList>{{1, true}, {2, true}, {1, false}}));
     }
 
-    void sectionHidesItsContentWhileCollapsed()
+    // Dialogs and docks
+
+    void dialogStaysOpenUntilItsProblemIsGone()
     {
-        ExpandableSection section("Attributes");
-        auto *content = new QLabel("content");
-        section.setContent(content);
-        for (const bool expanded : {false, true, false}) {
-            QCOMPARE(content->isVisibleTo(&section), expanded);
-            section.findChild<QToolButton *>()->click();
+        NameDialog dialog;
+        dialog.open();
+        dialog.name->setText("x");
+        dialog.name->clear();
+        QCOMPARE(dialog.error(), QString()); // nobody is told off while typing
+        dialog.okButton()->click();
+        QVERIFY(dialog.isVisible() && dialog.error() == "A name is needed");
+        dialog.reject();
+        dialog.open(); // begins clean, with the keyboard in the first field
+        QVERIFY(dialog.error().isEmpty() && dialog.focusWidget() == dialog.name);
+        QTest::keyClick(dialog.name, Qt::Key_Tab);
+        QCOMPARE(dialog.focusWidget(), dialog.okButton());
+        dialog.okButton()->click();
+        dialog.name->setText("Forest");
+        QCOMPARE(dialog.error(), QString());
+        QTest::keyClick(dialog.name, Qt::Key_Return);
+        QVERIFY(!dialog.isVisible() && dialog.result() == QDialog::Accepted);
+    }
+
+    void messagesWaitForTheirTurn()
+    {
+        MessageDialog dialog;
+        for (int round = 0; round < 2; ++round) {
+            dialog.showMessage("one");
+            dialog.showMessage("two", "Palette In Use");
+            QCOMPARE(dialog.text() + dialog.windowTitle(), "oneWarning!");
         }
+        dialog.accept();
+        QCOMPARE(dialog.text() + dialog.windowTitle(), "twoPalette In Use");
+        QVERIFY(dialog.isVisible());
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+        QVERIFY(!dialog.isVisible());
+    }
+
+    void aboutBoxHoldsTheLicenceOfTheIcons()
+    {
+        QVERIFY(AboutBox().findChild<QPlainTextEdit *>()->toPlainText().startsWith("ISC License"));
+    }
+
+    // Tools
+
+    void everyButtonHasAnEntry()
+    {
+        ToolPalette palette(Qt::Horizontal);
+        for (int value = Draw; value <= ToggleViewport; ++value) {
+            if (value != _end_toggles)
+                palette.addEntry(ToolButton(value));
+        }
+        palette.addEntry(Draw); // is there already
+        const auto buttons = palette.findChildren<QToolButton *>();
+        QCOMPARE(buttons.size(), 36);
+        for (const QToolButton *button : buttons)
+            QVERIFY(!button->icon().isNull() && !button->toolTip().isEmpty() && !button->accessibleName().isEmpty());
+    }
+
+    void fitsIntoLittleRoom()
+    {
+        ToolPalette palette;
+        ToolPalette bar(Qt::Horizontal);
+        for (int value = Draw; value < _end_toggles; ++value) {
+            palette.addEntry(ToolButton(value));
+            bar.addEntry(ToolButton(value));
+        }
+        const auto verifySeen = [](ToolPalette &shown, QSize size) {
+            shown.resize(size);
+            shown.resize(size); // as a layout does
+            shown.show();
+            QRegion taken;
+            for (const QToolButton *button : shown.findChildren<QToolButton *>()) {
+                QVERIFY(shown.rect().contains(button->geometry()) && !taken.intersects(button->geometry()));
+                taken += button->geometry();
+            }
+        };
+        for (const int height : {palette.sizeHint().height(), palette.minimumSizeHint().height(), 1000})
+            verifySeen(palette, {palette.minimumSizeHint().width(), height});
+        QVERIFY(palette.minimumSizeHint().width() < palette.minimumSizeHint().height()); // two columns again
+        for (const int width : {100, 101, 115, 400})
+            verifySeen(bar, {width, bar.heightForWidth(width)});
+    }
+
+    void announcesWhatIsDone()
+    {
+        Tools f;
+        const auto buttons = f.palette.findChildren<QToolButton *>();
+        for (const int index : {0, 1, 1, 2, 2, 3})
+            buttons[index]->click();
+        QCOMPARE(f.palette.mode(), Fill);
+        f.palette.setActionChecked(Grid, false);
+        f.palette.setActionChecked(ZoomIn, true); // has no state
+        f.palette.toggleAction(Grid);
+        f.palette.setToolEnabled(Grid, false);
+        f.palette.toggleAction(Grid);
+        QCOMPARE(f.heard, QStringList({"0+", "8+", "8+", "12+", "12-", "13-", "12-", "12+"}));
+
+        f.palette.setMode(Draw);
+        f.palette.setMode(Grid); // no tool: the choice stays
+        f.palette.setMode(Line); // not in this palette
+        f.palette.setShowGridChecked(false);
+        QVERIFY(f.palette.mode() == Draw && !f.palette.action(Grid)->isChecked());
+        QCOMPARE(f.heard.size(), 8);
+    }
+
+    void shortcutsReachTheEditorThatBorrowsThem()
+    {
+        QWidget window;
+        QWidget editor(&window);
+        QWidget other(&window);
+        Tools f;
+        ToolPalette::Entry entry = ToolPalette::entryOf(Line);
+        entry.shortcuts = {QKeySequence(Qt::Key_L), QKeySequence(Qt::Key_I)};
+        QCOMPARE(f.palette.addEntry(entry)->toolTip(), "Line [L]");
+        editor.addActions(f.palette.actions());
+        window.show();
+        window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        for (QWidget *widget : {&other, &editor}) {
+            widget->setFocusPolicy(Qt::StrongFocus);
+            widget->setFocus();
+            QTest::keyClick(widget, Qt::Key_L);
+            QCOMPARE(f.heard, widget == &other ? QStringList() : QStringList("1+"));
+        }
+    }
+
+    // Icons
+
+    void everyIconDraws()
+    {
+        int seen = 0;
+        QDirIterator resources(":/", QDir::Files, QDirIterator::Subdirectories);
+        while (resources.hasNext()) {
+            QFile file(resources.next());
+            if (!file.open(QIODevice::ReadOnly) || !file.readAll().contains("currentColor"))
+                continue; // Qt's own
+            ++seen;
+            QVERIFY2(!solidColours(themedIcon(file.fileName()).pixmap(24).toImage()).isEmpty(),
+                     qPrintable(file.fileName()));
+        }
+        QVERIFY(seen > 90);
+        QTest::ignoreMessage(QtWarningMsg, "No icon :/Nothing");
+        QVERIFY(themedIcon(":/Nothing").pixmap(16).isNull());
+        // the program's own keeps its colours, and cursors have a sharp twin
+        QVERIFY(solidColours(themedIcon(":Application").pixmap(64).toImage()).contains(qRgb(0xf0, 0x38, 0x4a)));
+        for (const QString name : {":/FillCursor", ":/PickerCursor"})
+            QCOMPARE(QImage(name + "@2x").size(), 2 * QImage(name).size());
+    }
+
+    void takesItsColourFromThePalette()
+    {
+        const QPalette before = QApplication::palette();
+        const QIcon icon = themedIcon(":/RectangleFill");
+        for (const auto &colours :
+             {QList<QColor>{Qt::black, Qt::gray, Qt::white}, {Qt::white, Qt::darkGray, Qt::black}}) {
+            QPalette palette = before;
+            palette.setColor(QPalette::ButtonText, colours[0]);
+            palette.setColor(QPalette::Disabled, QPalette::ButtonText, colours[1]);
+            palette.setColor(QPalette::HighlightedText, colours[2]);
+            QApplication::setPalette(palette);
+            const QIcon::Mode modes[] = {QIcon::Normal, QIcon::Disabled, QIcon::Selected};
+            for (int i = 0; i < 3; ++i)
+                QCOMPARE(solidColours(icon.pixmap(24, modes[i]).toImage()), QSet{colours[i].rgb()});
+        }
+        QApplication::setPalette(before);
+    }
+
+    void rendersAtTheDevicePixelRatio()
+    {
+        const QIcon icon = themedIcon(":/RectangleFill");
+        for (const auto &[ratio, side] : {std::pair{1.0, 24}, {1.25, 30}, {2.0, 48}}) {
+            const QPixmap pixmap = icon.pixmap(QSize(24, 24), ratio);
+            QCOMPARE(std::pair(pixmap.size(), pixmap.devicePixelRatio()), std::pair(QSize(side, side), ratio));
+        }
+        QImage canvas(64, 32, QImage::Format_ARGB32_Premultiplied);
+        canvas.setDevicePixelRatio(2);
+        canvas.fill(Qt::transparent);
+        QPainter painter(&canvas);
+        icon.paint(&painter, {0, 0, 32, 16});
+        painter.end();
+        // the square fills 18 of 24 units, here 24 of 32 pixels in the middle of 64
+        for (const auto &[x, alpha] : {std::pair(16, 0), {32, 255}, {47, 0}})
+            QCOMPARE(qAlpha(canvas.pixel(x, 16)), alpha);
     }
 };
 

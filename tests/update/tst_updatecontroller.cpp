@@ -1,14 +1,15 @@
 #include "preferences/generalpage.h"
 #include "support/testmain.h"
+#include "update/release.h"
 #include "update/updatecontroller.h"
+#include "update/updatedialog.h"
 
-#include <QDateTime>
-#include <QHostAddress>
-#include <QSignalSpy>
 #include <QTcpServer>
 #include <QTcpSocket>
-#include <QTest>
+#include <QtTest>
+#include <QtWidgets>
 
+using Update::Release;
 using Update::UpdateChecker;
 
 namespace {
@@ -46,12 +47,19 @@ private:
 
 } // namespace
 
-/// Runs the controller of version 0.7.0.0, and the checker that it uses, against a server of the test.
+/// Version 0.7.0.0 and what a feed says, which a server of the test brings, up to the dialog that offers a release.
 class TestUpdateController : public QObject
 {
     Q_OBJECT
 
+public slots:
+    void openAddress(const QUrl &address) { m_opened.append(address); }
+
 private slots:
+    void automaticCheckIsDue();
+    void feedEntryIsRead();
+    void onlyNewerReleasesAreOffered();
+
     void eachCheckReportsOnceUnlessAnotherReplacesIt()
     {
         FeedServer server;
@@ -89,8 +97,6 @@ private slots:
             R"({"tools": {"quenmora": {"latest": "0.7.2.0", "channel": "stable", "released": "2026-12-01"}}})";
         for (const auto &[body, newer] : {std::pair{feed, true},
                                           {QByteArray(feed).replace("0.7.2.0", "0.7.1.0"), false}, // skipped
-                                          {QByteArray(feed).replace("0.7.2.0", "0.7.0.0"), false}, // running
-                                          {QByteArray("{\"tools\": {}}"), false},
                                           {QByteArray("<html>"), false}}) {
             FeedServer server;
             server.response = "HTTP/1.1 200 OK\r\n\r\n" + body;
@@ -136,9 +142,111 @@ private slots:
         QCOMPARE(page.lastUpdateCheck(), "2026-01-01"); // so the next start tries again
     }
 
+    void showsTheReleaseAsPlainText()
+    {
+        UpdateDialog dialog;
+        dialog.setRelease({"<b>0.8</b>", "stable", "2026-12-01", {}, {}}, "0.7.0.0", "2026-10-15");
+        const auto *heading = dialog.findChild<QLabel *>("heading");
+        const auto *detail = dialog.findChild<QLabel *>("detail");
+        QCOMPARE(dialog.windowTitle(), QStringLiteral("Quenmora — update available"));
+        QCOMPARE(heading->text(), "Quenmora <b>0.8</b> is available");
+        QCOMPARE(detail->text(), "You have 0.7.0.0 (built 2026-10-15).\nThe new version was released 2026-12-01.");
+        QVERIFY(heading->textFormat() == Qt::PlainText && detail->textFormat() == Qt::PlainText);
+        const QString endless(100'000, u'9');
+        dialog.setRelease({endless, "stable", endless, {}, {}}, "0.7.0.0", "2026-10-15");
+        QVERIFY(dialog.sizeHint().width() < 1024 && dialog.sizeHint().height() < 768);
+    }
+
+    void opensOnlyWebAddressesUntilItCloses()
+    {
+        UpdateDialog dialog;
+        dialog.show();
+        for (const QString address :
+             {"https://www.example.org/n?v=1", "http://e.org/", "", "file:///etc/", "vnc://e/"}) {
+            m_opened.clear();
+            QDesktopServices::setUrlHandler(QUrl(address).scheme(), this, "openAddress");
+            const QString other = address.isEmpty() ? "" : address + 'd';
+            dialog.setRelease({"0.8", "stable", "", address, other}, "0.7", "");
+            const bool opens = address.startsWith("http");
+            for (const char *name : {"releaseNotes", "download"}) {
+                auto *button = dialog.findChild<QPushButton *>(name);
+                QCOMPARE(button->isEnabled(), opens);
+                button->click();
+            }
+            QCOMPARE(m_opened, opens ? (QList<QUrl>{QUrl(address), QUrl(other)}) : QList<QUrl>());
+        }
+        QSignalSpy skipped(&dialog, &UpdateDialog::skipVersion);
+        QVERIFY(dialog.isVisible());
+        QTest::keyClick(&dialog, Qt::Key_Return); // "Later"
+        QVERIFY(!dialog.isVisible() && skipped.isEmpty());
+        dialog.show();
+        dialog.findChild<QPushButton *>("skip")->click();
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(skipped, (QList<QVariantList>{{"0.8"}}));
+    }
+
 private:
+    QList<QUrl> m_opened;
     const QString m_today = QDateTime::currentDateTimeUtc().date().toString(Qt::ISODate);
 };
+
+void TestUpdateController::automaticCheckIsDue()
+{
+    // today is the first of March 2027
+    const std::tuple<bool, const char *, const char *, bool> cases[] = {
+        {false, "daily", "", false},           {true, "monthly", "", true},
+        {true, "monthly", "2027-02-29", true}, // no date
+        {true, "daily", "2027-02-28", true},   {true, "weekly", "2027-02-23", false},
+        {true, "weekly", "2027-02-22", true},  {true, "monthly", "2027-02-02", false},
+        {true, "monthly", "2027-02-01", true}, {true, "Daily", "2027-02-23", false}, // unknown
+        {true, "hourly", "2027-02-22", true},  {true, "daily", "2027-03-02", false},
+    };
+    for (const auto &[enabled, interval, lastCheck, due] : cases)
+        QVERIFY2(shouldCheck(enabled, interval, lastCheck, {2027, 3, 1}) == due, lastCheck);
+}
+
+void TestUpdateController::feedEntryIsRead()
+{
+    const std::pair<QByteArray, std::optional<Release>> cases[] = {
+        {R"({"schema": 1, "tools": {"another": {"latest": "9"}, "quenmora": {"latest": "0.7.1.0", "channel": "stable",
+             "released": "2026-11-20", "size": 4711, "notes_url": "https://n", "downloads_url": "https://d"}}})",
+         Release{"0.7.1.0", "stable", "2026-11-20", "https://n", "https://d"}},
+        {R"({"tools": {"quenmora": {"latest": "1"}}})", Release{"1", {}, {}, {}, {}}},
+        {R"({"tools": {"quenmora": {"latest": 8, "channel": ["stable"]}}})", Release()},
+        {R"({"tools": {"Quenmora": {"latest": "1"}}})", {}},
+        {R"({"quenmora": {"latest": "1"}})", {}},
+        {R"({"tools": {"quenmora": {"latest": "1)", {}}, // cut
+        {"<html><body>Welcome</body></html>", {}},
+        {QByteArray(100000, '['), {}},
+    };
+    for (const auto &[feed, entry] : cases)
+        QVERIFY2(parseFeed(feed, "quenmora") == entry, feed.left(80));
+}
+
+void TestUpdateController::onlyNewerReleasesAreOffered()
+{
+    // 0.7.0.0 of the 15th of October 2026 is running, and 0.7.1.1 was skipped
+    const std::tuple<const char *, const char *, const char *, const char *, bool> cases[] = {
+        {"stable", "0.7.1.0", "stable", "2026-10-16", true},
+        {"stable", "0.6.9.0", "stable", "2026-10-16", true}, // numbers are not compared
+        {"stable", "", "stable", "2026-10-16", false},
+        {"stable", "0.7.1.0", "stable", "", false},
+        {"stable", "0.7.0.0", "stable", "2026-10-16", false},
+        {"stable", "0.7.1.0", "stable", "2026-10-15", false},
+        {"stable", "0.7.1.1", "stable", "2026-10-16", false},
+        {"stable", "0.7.1.0", "beta", "2026-10-16", false},
+        {"beta", "0.7.1.0", "beta", "2026-10-16", true},
+        {"beta", "0.7.1.0", "alpha", "2026-10-16", false},
+        {"beta", "0.7.1.0", "stable", "2026-10-16", true},
+        {"stable", "0.7.1.0", "Stable", "2026-10-16", false},
+    };
+    for (const auto &[running, latest, channel, released, offered] : cases) {
+        const Release release{latest, channel, released, {}, {}};
+        QVERIFY2(newerRelease("0.7.0.0", "2026-10-15", running, release, "0.7.1.1")
+                     == (offered ? std::optional(release) : std::nullopt),
+                 (QByteArray(latest) + channel + released).constData());
+    }
+}
 
 QUENMORA_TEST_MAIN(TestUpdateController)
 #include "tst_updatecontroller.moc"
