@@ -1,12 +1,19 @@
-#include "app/appstate.h"
+// What the program keeps of itself between two runs and tells about itself: its state, its log, its version, updates.
 
+#include "app/appstate.h"
+#include "app/log.h"
 #include "app/platform.h"
+#include "app/recentfiles.h"
+#include "app/updatepresenter.h"
+#include "app/version.h"
+#include "preferences/generalpage.h"
 #include "support/modeltools.h"
 #include "support/testmain.h"
+#include "ui/aboutbox.h"
+#include "update/updatedialog.h"
 
-#include <QJsonArray>
-#include <QJsonObject>
-#include <QTest>
+#include <QtTest>
+#include <QtWidgets>
 
 class TestAppState : public QObject
 {
@@ -30,11 +37,8 @@ private slots:
                             "    \"windowState\": \"AP8gZG9ja3M=\"\n}\n"));
         AppState next;
         QVERIFY(next.loadState());
-        QCOMPARE(next.windowState(), QByteArray("\0\xFF docks", 8));
-        QCOMPARE(next.windowGeometry(), "place");
-        QCOMPARE(next.tileZoom(), 3);
-        QCOMPARE(next.recentFiles(), (QStringList{"/b", "/ä", "/b"}));
-        QCOMPARE(next.lastPath(), "/home/x");
+        QVERIFY(next.windowState() == state.windowState() && next.windowGeometry() == "place" && next.tileZoom() == 3);
+        QVERIFY(next.recentFiles() == state.recentFiles() && next.lastPath() == "/home/x");
 
         const QJsonDocument preferences(QJsonObject{{"general", QJsonObject{{"backupOnSave", true}}}});
         QVERIFY(state.savePreferences(preferences));
@@ -79,6 +83,110 @@ private slots:
         const AppState state;
         QVERIFY(state.saveState()); // into the home folder itself
         QVERIFY(QFile::remove(Platform::homeFolder().filePath("state.json")) && QFile::remove(path({})));
+    }
+
+    void recentFilesComeToTheFront()
+    {
+        const QStringList ten = QString("1 2 3 4 5 6 7 8 9 10").split(' ');
+        const std::tuple<QStringList, const char *, QStringList> cases[] = {
+            {{"a", "b", "a"}, "a", {"a", "b", "a"}}, // only the first of two is taken out
+            {{"a"}, "A", {"A", "a"}}, // letter case counts
+            {ten, "10", QStringList{"10"} + ten.first(9)},
+            {ten + ten, "new", QStringList{"new"} + ten.first(9)}, // stored too long
+        };
+        for (const auto &[stored, added, paths] : cases) {
+            RecentFiles files;
+            files.setPaths(stored);
+            QCOMPARE(files.paths(), stored);
+            files.add(added);
+            QCOMPARE(files.paths(), paths);
+        }
+    }
+
+    void namesThisReleaseAndTheChannelOfEach()
+    {
+        QCOMPARE(appChannel(), "stable");
+        QCOMPARE(appDisplayName(), "Quenmora v0.7.0.0 [2026-10-15]");
+        for (const auto &[version, channel] : {std::pair{"", "stable"},
+                                               {"0.8.0.0-alpha", "alpha"},
+                                               {"0.8.0.0-beta2", "beta"},
+                                               {"0.8.0.0-rc.1", "rc"},
+                                               {"0.8.0.0-preview", "stable"},
+                                               {"0.8.0.0-Beta", "stable"},
+                                               {"0.8.0.0-x-beta", "stable"}}) // only what follows the first dash counts
+            QCOMPARE(channelOfVersion(version), channel);
+    }
+
+    void logsEachKindWithItsTime()
+    {
+        const QString before = QDir::currentPath();
+        const QTemporaryDir folder;
+        QVERIFY(QDir::setCurrent(folder.path()));
+        logMessageHandler(QtWarningMsg, {}, "early");
+        QVERIFY2(QDir().isEmpty(), "nothing reaches the disk before the handler is installed");
+
+        QVERIFY(QDir().mkdir("log"));
+        QFile &file = installLogHandler();
+        QCOMPARE(&installLogHandler(), &file);
+        QVERIFY(QRegularExpression("^log/application_\\d{8}_\\d{6}\\.log$").match(file.fileName()).hasMatch());
+        qDebug("one");
+        qInfo("two ä");
+        qWarning("libpng warning: iCCP: known incorrect sRGB profile");
+        qWarning("not a libpng warning: three");
+        qCritical("four");
+        logMessageHandler(QtFatalMsg, {}, "five %s");
+        logMessageHandler(QtMsgType(99), {}, "six");
+        qInstallMessageHandler(nullptr);
+
+        // read while the log is still open: every message has been flushed
+        QFile written(file.fileName());
+        QVERIFY(written.open(QIODevice::ReadOnly));
+        QString text = QString::fromUtf8(written.readAll());
+        text.replace(QRegularExpression("^\\d\\d:\\d\\d:\\d\\d ", QRegularExpression::MultilineOption), "TIME ");
+        QCOMPARE(text,
+                 "TIME Debug: one\nTIME Info: two ä\nTIME Warning: not a libpng warning: three\nTIME Critical: four\n"
+                 "TIME Fatal: five %s\n");
+        QDir::setCurrent(before);
+    }
+
+    void tellsOfUpdatesWhoAsked()
+    {
+        enum Result { Newer, Same, Failed };
+        const QMap<Result, QString> statusOf{{Newer, "Update available: 0.7.1.0"},
+                                             {Same, QString::fromUtf8("You’re up to date")},
+                                             {Failed, "Could not reach the update server"}};
+        const QMap<Result, QString> boxOf{{Same, "Quenmora 0.7.0.0 is up to date."},
+                                          {Failed, "Could not reach the update server.\n<b>Refused"}};
+        Update::UpdateChecker::setFeedAddress({});
+        for (const Result result : {Newer, Same, Failed}) {
+            for (const auto origin :
+                 {UpdateController::Startup, UpdateController::Manual, UpdateController::AboutBox}) {
+                GeneralPage page;
+                UpdateController controller(&page, [] {}, {appVersion(), appReleaseDate(), appChannel()});
+                QWidget window;
+                UpdatePresenter presenter(&controller, &window);
+                presenter.showAboutBox();
+                const auto *about = window.findChild<AboutBox *>();
+                QCOMPARE(about->status(), QString::fromUtf8("Checking for updates…"));
+                if (result == Newer)
+                    emit controller.updateAvailable({"0.7.1.0", "stable", "2026-12-01", {}, {}}, origin);
+                else if (result == Same)
+                    emit controller.upToDate(origin);
+                else
+                    emit controller.checkFailed("<b>Refused", origin);
+                QCOMPARE(about->status(), statusOf.value(result));
+
+                auto *dialog = window.findChild<UpdateDialog *>();
+                QCOMPARE(dialog && dialog->isVisible(), result == Newer && origin != UpdateController::AboutBox);
+                if (dialog) {
+                    emit dialog->skipVersion("0.7.1.0");
+                    QCOMPARE(page.skippedVersion(), "0.7.1.0");
+                }
+                const auto *box = window.findChild<QMessageBox *>();
+                QCOMPARE(box ? box->text() : QString(), origin == UpdateController::Manual ? boxOf.value(result) : "");
+                QVERIFY(!box || (box->isVisible() && box->textFormat() == Qt::PlainText)); // it quotes the network
+            }
+        }
     }
 
 private:

@@ -1,43 +1,27 @@
-#include "app/mainwindow.h"
 #include "app/recoverylist.h"
 #include "store/projectdocument.h"
-#include "support/editorinput.h"
-#include "support/modeltools.h"
-#include "support/testmain.h"
-
-#include <QLabel>
-#include <QPushButton>
-#include <QSignalSpy>
-#include <QStatusBar>
-#include <QTest>
-#include <QTimer>
-
-#include <functional>
-#include <optional>
+#include "support/windowscene.h"
 
 /// A window in which somebody works until the program crashes, and the one that is opened then.
-class TestRecoveryScene : public QObject
+class TestRecoveryScene : public QObject, protected WindowScene
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { Update::UpdateChecker::setFeedAddress({}); }
     void init()
     {
         QDir(AppState::recoveryFolder()).removeRecursively();
         QFile::remove(AppState::recoveryFolder());
         QFile::remove(gameFile());
-        m_first.emplace();
-        m_first->recoveryKeeper()->setInterval(1);
-        m_first->projectController()->setFileNameCallback([this] { return gameFile(); });
-        m_first->projectController()->setUnsavedAnswerCallback(
-            [](const QString &) { return ProjectController::Discard; });
-        m_first->projectController()->newProject(Name);
+        openWindow();
+        m_window->recoveryKeeper()->setInterval(1);
+        controller()->setFileNameCallback([this] { return gameFile(); });
+        controller()->newProject(Name);
     }
     void cleanup()
     {
         m_second.reset();
-        m_first.reset();
+        m_window.reset();
         QCOMPARE(foldersLeft(), 0);
     }
 
@@ -57,17 +41,17 @@ private slots:
         QFETCH(bool, killedSaving);
         QFETCH(bool, changedByOthers);
         if (saved)
-            m_first->projectController()->save();
+            controller()->save();
         QByteArray file = readFile(gameFile());
         work();
         if (killedSaving) {
-            connect(m_first->projectController(), &ProjectController::aboutToSave, this, &TestRecoveryScene::crash);
-            m_first->projectController()->save();
+            connect(controller(), &ProjectController::aboutToSave, this, &TestRecoveryScene::crash);
+            controller()->save();
             QVERIFY(writeFile(gameFile(), file = "cut off"));
         } else {
             QVERIFY(copyIsMade());
             QCOMPARE(readFile(gameFile()), file);
-            QVERIFY(m_first->projectController()->isModified());
+            QVERIFY(controller()->isModified());
             crash();
         }
         if (changedByOthers)
@@ -84,24 +68,24 @@ private slots:
         QVERIFY(texts.contains(Name + "!"));
         QVERIFY(texts.filter("Never saved").isEmpty() == saved);
         click("Recover");
-        ProjectController *controller = m_second->projectController();
-        QVERIFY(controller->project() && !list()->isVisible());
-        QCOMPARE(controller->filePath(), saved ? gameFile() : QString());
-        QVERIFY(controller->isModified());
+        ProjectController *recovered = m_second->projectController();
+        QVERIFY(recovered->project() && !list()->isVisible());
+        QCOMPARE(recovered->filePath(), saved ? gameFile() : QString());
+        QVERIFY(recovered->isModified());
         QVERIFY(m_second->windowTitle().endsWith(Name + "!"));
-        const ProjectMembers was = serializeProject(*m_first->projectController()->project(), true);
-        QVERIFY(serializeProject(*controller->project(), true) == was);
+        const ProjectMembers was = serializeProject(project(), true);
+        QVERIFY(serializeProject(*recovered->project(), true) == was);
 
         QCOMPARE(foldersLeft(), running + 1); // it is its own now
-        controller->setFileNameCallback([this] { return gameFile(); });
+        recovered->setFileNameCallback([this] { return gameFile(); });
         int asked = 0;
-        controller->setForeignChangeCallback([&asked](const ForeignChange &) {
+        recovered->setForeignChangeCallback([&asked](const ForeignChange &) {
             ++asked;
             return ForeignChange::Keep;
         });
-        controller->save();
+        recovered->save();
         QCOMPARE(asked, changedByOthers ? 1 : 0);
-        QVERIFY(!controller->isModified() && readFile(gameFile()) != file);
+        QVERIFY(!recovered->isModified() && readFile(gameFile()) != file);
         QCOMPARE(foldersLeft(), running);
         ProjectStore store;
         QVERIFY(store.load(gameFile()));
@@ -112,19 +96,18 @@ private slots:
     {
         using End = std::function<void()>;
         QTest::addColumn<End>("end");
-        QTest::newRow("saved") << End([this] { m_first->projectController()->save(); });
-        QTest::newRow("closed, discarding the changes")
-            << End([this] { m_first->projectController()->newProject("Other"); });
-        QTest::newRow("closed with the window") << End([this] { m_first->close() ? m_first.reset() : void(); });
+        QTest::newRow("saved") << End([this] { controller()->save(); });
+        QTest::newRow("closed, discarding the changes") << End([this] { controller()->newProject("Other"); });
+        QTest::newRow("closed with the window") << End([this] { m_window->close() ? m_window.reset() : void(); });
         QTest::newRow("changes taken back") << End([this] {
-            m_first->projectController()->project()->setName(Name);
-            m_first->recoveryKeeper()->lookSoon();
+            project().setName(Name);
+            m_window->recoveryKeeper()->lookSoon();
         });
     }
     void copiesGoWithWhatTheyAreFor()
     {
         QFETCH(const std::function<void()>, end);
-        m_first->projectController()->save();
+        controller()->save();
         work();
         QVERIFY(copyIsMade());
         QCOMPARE(foldersLeft(), 1);
@@ -164,10 +147,10 @@ private slots:
 
     void belongsToItsFileWhenNoOtherIsChosen()
     {
-        m_first->projectController()->save();
+        controller()->save();
         work();
-        m_first->projectController()->setFileNameCallback([] { return QString(); });
-        m_first->projectController()->saveAs();
+        controller()->setFileNameCallback([] { return QString(); });
+        controller()->saveAs();
         crash();
         open();
         QCOMPARE(m_second->recoveryOffers()->copies().front().manifest().projectFile, gameFile());
@@ -196,18 +179,18 @@ private slots:
     void waitsForAPauseButNotForEver()
     {
         work();
-        QSignalSpy begun(m_first->recoveryKeeper(), &RecoveryKeeper::copyBegun);
-        QSignalSpy completed(m_first->recoveryKeeper(), &RecoveryKeeper::copyCompleted);
-        QTest::mousePress(m_first->statusBar(), Qt::LeftButton);
-        m_first->recoveryKeeper()->lookSoon();
+        QSignalSpy begun(m_window->recoveryKeeper(), &RecoveryKeeper::copyBegun);
+        QSignalSpy completed(m_window->recoveryKeeper(), &RecoveryKeeper::copyCompleted);
+        QTest::mousePress(m_window->statusBar(), Qt::LeftButton);
+        m_window->recoveryKeeper()->lookSoon();
         QVERIFY(!begun.wait(3 * PauseWatch::Rest));
-        QTest::mouseRelease(m_first->statusBar(), Qt::LeftButton);
+        QTest::mouseRelease(m_window->statusBar(), Qt::LeftButton);
         QVERIFY(completed.wait());
         QTimer hands; // that never rest
-        connect(&hands, &QTimer::timeout, this, [this] { QTest::keyClick(m_first->statusBar(), Qt::Key_Shift); });
+        connect(&hands, &QTimer::timeout, this, [this] { QTest::keyClick(m_window->statusBar(), Qt::Key_Shift); });
         hands.start(PauseWatch::Rest / 5);
-        QTest::keyClick(m_first->statusBar(), Qt::Key_Shift);
-        m_first->projectController()->project()->setName("Later"); // which tells nobody to look
+        QTest::keyClick(m_window->statusBar(), Qt::Key_Shift);
+        project().setName("Later"); // which tells nobody to look
         QVERIFY(!begun.wait(2 * PauseWatch::Rest));
         QVERIFY(completed.wait());
     }
@@ -215,16 +198,16 @@ private slots:
     void saysOnceThatNoCopyCanBeKept()
     {
         QVERIFY(writeFile(AppState::recoveryFolder(), "in the way"));
-        QSignalSpy failed(m_first->recoveryKeeper(), &RecoveryKeeper::failed);
+        QSignalSpy failed(m_window->recoveryKeeper(), &RecoveryKeeper::failed);
         work();
-        m_first->recoveryKeeper()->lookSoon();
+        m_window->recoveryKeeper()->lookSoon();
         QVERIFY(failed.wait());
-        QCOMPARE(m_first->statusBar()->currentMessage(), failed.first().first().toString());
+        QCOMPARE(m_window->statusBar()->currentMessage(), failed.first().first().toString());
         QVERIFY(!failed.wait(PauseWatch::Rest)); // though it tries again
         QVERIFY(QFile::remove(AppState::recoveryFolder()));
         QVERIFY(copyIsMade()); // it went on trying
         QVERIFY(QDir(AppState::recoveryFolder()).removeRecursively());
-        m_first->projectController()->project()->setName("Vanished");
+        project().setName("Vanished");
         QVERIFY(copyIsMade()); // the whole of it again
         crash();
         open();
@@ -235,17 +218,17 @@ private slots:
 
     void isCompleteBeforeTheFileIsWritten()
     {
-        m_first->projectController()->save();
+        controller()->save();
         const QByteArray before = readFile(gameFile());
         QByteArray whenCopied;
-        connect(m_first->recoveryKeeper(), &RecoveryKeeper::copyCompleted, this,
+        connect(m_window->recoveryKeeper(), &RecoveryKeeper::copyCompleted, this,
                 [&] { whenCopied = readFile(gameFile()); });
         work();
-        connect(m_first->projectController(), &ProjectController::aboutToSave, this, [this] {
+        connect(controller(), &ProjectController::aboutToSave, this, [this] {
             QFile::remove(gameFile());
             QDir().mkpath(gameFile()); // so that it fails
         });
-        m_first->projectController()->save();
+        controller()->save();
         QCOMPARE(whenCopied, before);
         QCOMPARE(foldersLeft(), 1);
         QVERIFY(QDir().rmdir(gameFile()));
@@ -259,11 +242,11 @@ private:
     }
 
     /// Changes something.
-    void work() { m_first->projectController()->project()->setName(Name + "!"); }
+    void work() { project().setName(Name + "!"); }
     bool copyIsMade()
     {
-        QSignalSpy completed(m_first->recoveryKeeper(), &RecoveryKeeper::copyCompleted);
-        m_first->recoveryKeeper()->lookSoon();
+        QSignalSpy completed(m_window->recoveryKeeper(), &RecoveryKeeper::copyCompleted);
+        m_window->recoveryKeeper()->lookSoon();
         return completed.wait();
     }
     /// Leaves what the first window has copied as if its program had ended, and keeps on running.
@@ -289,8 +272,6 @@ private:
     void click(const QString &text) { EditorInput::button(*list(), text)->click(); }
 
     const QString Name = QStringLiteral("Game <b>1</b>");
-    TemporaryFolder m_folder;
-    std::optional<MainWindow> m_first;
     std::optional<MainWindow> m_second;
 };
 
