@@ -1,7 +1,6 @@
 // Every view that draws with a palette shows its colours going round, and nothing else notices it.
 
 #include "app/colourcycling.h"
-#include "app/mainwindow.h"
 #include "app/menus/viewmenu.h"
 #include "editors/animation/animationview.h"
 #include "editors/animation/frameeditorwidget.h"
@@ -18,109 +17,129 @@
 #include "editors/palette/paletteeditor.h"
 #include "editors/palette/palettegrid.h"
 #include "model/colourcycle.h"
-#include "model/mapobjects.h"
 #include "model/projectextras.h"
 #include "model/projectpicture.h"
-#include "model/spriteanim.h"
 #include "store/projectdocument.h"
-#include "support/modeltools.h"
 #include "support/paintwatch.h"
-#include "support/testmain.h"
+#include "support/windowscene.h"
 
-#include <QListWidget>
-#include <QTest>
-
-#include <optional>
-
-class TestColourCycling : public QObject
+class TestColourCycling : public QObject, protected WindowScene
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { Update::UpdateChecker::setFeedAddress({}); }
-
     void init()
     {
-        m_window.emplace();
-        ProjectController *controller = m_window->projectController();
-        controller->setUnsavedAnswerCallback([](const QString &) { return ProjectController::Discard; });
-        controller->newProject("Game");
-        Project &project = *controller->project();
-        const QPointer<Palette> palette = project.createPalette(CreateAction::DefaultNext, "Water");
+        openWindow();
+        controller()->newProject("Game");
+        const QPointer<Palette> palette = project().createPalette(CreateAction::DefaultNext, "Water");
         m_palette = palette;
-        ColourCycles::set(*project.extras(), palette->id(), {{1, 255, 5}});
+        ColourCycles::set(*project().extras(), palette->id(), {{1, 255, 5}});
         const auto picture = [&palette](QSize size) { // of entry 7
             QImage image = plainImage(size, 7);
             image.setColorTable(palette->colourTable());
             return image;
         };
-        const QPointer<TileSet> tiles = project.createTileSet("Tiles", palette->id(), 4);
+        const QPointer<TileSet> tiles = project().createTileSet("Tiles", palette->id(), 4);
         for (int index = 0; index < 4; ++index)
             tiles->setTileImage(index, picture({8, 8}));
-        const QPointer<Map> map = project.createMap("Map", tiles->id(), {80, 30});
+        const QPointer<Map> map = project().createMap("Map", tiles->id(), {80, 30});
         map->setTiles({0, 0, 80, 30}, 1, false, false, false, true);
-        const QPointer<SpriteBank> bank = project.createSpriteBank(Quenmora::FourBit, "Sprites", palette->id());
+        const QPointer<SpriteBank> bank = project().createSpriteBank(Quenmora::FourBit, "Sprites", palette->id());
         bank->setWholeImage(picture({16, 32}));
         bank->newAnimation();
-        const QPointer<Image> image = project.createImage(Quenmora::LoRes_128x96, "Title", palette->id());
+        const QPointer<Image> image = project().createImage(Quenmora::LoRes_128x96, "Title", palette->id());
         image->setImage(picture({128, 96}));
-        const QPointer<MapObjects> blocks = project.createBlockList("Blocks", tiles->id());
+        const QPointer<MapObjects> blocks = project().createBlockList("Blocks", tiles->id());
         const QPointer<TileAnimation> torch = blocks->createBoundTileAnimation("Torch");
         torch->setSize({1, 1});
         torch->addFrame()->setCells({{{.index = 1}}});
 
-        m_window->views().tabs->closeAllTabs(); // which show assets as they were made
-        DocumentController *documents = m_window->documentController();
-        documents->openPalette(palette->id());
-        documents->openTileSet(tiles->id());
-        documents->openSprites(bank->id());
-        m_ids = {map->id(), blocks->id(), bank->id(), image->id()};
+        tabs()->closeAllTabs(); // which show assets as they were made
+        documents().openPalette(palette->id());
+        documents().openTileSet(tiles->id());
+        documents().openSprites(bank->id());
     }
 
     void cleanup() { m_window.reset(); }
 
-    void everyViewShowsThem_data()
-    {
-        QTest::addColumn<int>("view");
-        for (const auto &[view, name] : {std::pair(PaletteView, "palette"),
-                                         {Tile, "tile editor"},
-                                         {Picker, "tile picker"},
-                                         {Sprite, "sprite editor"},
-                                         {List, "sprite list"},
-                                         {OnMap, "map"},
-                                         {Overview, "overview of a map"},
-                                         {Stamps, "stamps"},
-                                         {InImage, "image"},
-                                         {Block, "block animation"},
-                                         {BlockList, "block animations"},
-                                         {SpriteAnimation, "sprite animation"},
-                                         {SpriteAnimationList, "sprite animations"}})
-            QTest::newRow(name) << int(view);
-    }
-
     void everyViewShowsThem()
     {
-        QFETCH(int, view);
-        QWidget *widget = shown(View(view));
-        QVERIFY(widget && widget->isVisible());
-        const Project &project = *m_window->projectController()->project();
-        const ProjectMembers before = serializeProject(project, false);
-        const QImage thumbnail = projectPicture(project, std::get<2>(m_ids));
-        QCoreApplication::processEvents();
-        const QPoint place = placeOf(*widget, 7);
+        const auto dock = [](QDockWidget *window, QWidget *widget) {
+            window->show();
+            window->raise();
+            QCoreApplication::processEvents();
+            return widget;
+        };
+        const auto animation = [this](bool blocks) {
+            if (blocks)
+                documents().setActiveBlockEditor(project().blockSets().first()->id());
+            else
+                documents().setActiveSpriteEditor(project().spriteBanks().first()->id());
+            auto *view = page<AnimationEditor::AnimationView>();
+            view->list()->select(view->list()->animations().constFirst());
+            return view;
+        };
+        const auto frame = [&](bool blocks) -> QWidget * {
+            return animation(blocks)->findChild<AnimationEditor::FrameEditorWidget *>();
+        };
+        const auto list = [&](bool blocks) -> QWidget * {
+            return animation(blocks)->list()->findChild<QListWidget *>()->viewport();
+        };
+        const auto mapView = [this] {
+            documents().setActiveMap(project().maps().first()->id());
+            auto *view = page<MapEditor::View>();
+            view->paintDesk()->setOverviewVisible(true);
+            view->paintDesk()->pickTiles({{1}});
+            QCoreApplication::processEvents(); // the bar has its place, and the stamp its button
+            return view;
+        };
+        const std::pair<const char *, std::function<QWidget *()>> all[]{
+            {"palette", [&] { return dock(views().palette, views().palette->editor()->grid()); }},
+            {"tile editor", [&] { return dock(views().tileEditor, views().tileEditor->canvas()); }},
+            {"tile picker", [&] { return dock(views().tilePicker, views().tilePicker->grid()); }},
+            {"sprite editor", [&] { return dock(views().spriteEditor, views().spriteEditor->canvas()); }},
+            {"sprite list", [&] { return dock(views().spriteEditor, views().spriteEditor->list()); }},
+            {"sprite animation", [&] { return frame(false); }},
+            {"sprite animations", [&] { return list(false); }},
+            {"block animation", [&] { return frame(true); }},
+            {"block animations", [&] { return list(true); }},
+            {"overview of a map", [&] { return mapView()->findChild<MapEditor::MapOverview *>(); }},
+            {"stamps", [&] { return mapView()->paintDesk()->bar(); }},
+            {"map",
+             [&] {
+                 MapEditor::View *view = mapView();
+                 view->paintDesk()->setOverviewVisible(false);
+                 return view->grid();
+             }},
+            {"image",
+             [&] {
+                 documents().setActiveImageEditor(project().images().first()->id());
+                 return page<ImageEditor::View>()->canvas();
+             }},
+        };
         ColourCycling *cycling = m_window->colourCycling();
-        QVERIFY(!cycling->clock()->isTicking());
-        cycling->clock()->setPaused(true); // it goes on when it is told to
-        cycling->action()->trigger();
-        PaintWatch watch(widget);
-        watch.after([&] { cycling->clock()->advance(5); });
-        QTRY_VERIFY(!watch.region.isEmpty());
-        QTRY_COMPARE(colourAt(*widget, place), colour(6));
-        QCOMPARE(serializeProject(project, false), before);
-        QCOMPARE(projectPicture(project, std::get<2>(m_ids)), thumbnail);
-        watch.after([&] { cycling->action()->trigger(); });
-        QTRY_VERIFY(!watch.region.isEmpty());
-        QTRY_COMPARE(colourAt(*widget, place), colour(7));
+        for (const auto &[name, show] : all) {
+            QWidget *widget = show();
+            QVERIFY2(widget && widget->isVisible(), name);
+            const ProjectMembers before = serializeProject(project(), false);
+            const QImage thumbnail = projectPicture(project(), project().spriteBanks().first()->id());
+            QCoreApplication::processEvents();
+            const QPoint place = placeOf(*widget, 7);
+            QVERIFY(!cycling->clock()->isTicking());
+            cycling->clock()->setPaused(true); // it goes on when it is told to
+            cycling->action()->trigger();
+            PaintWatch watch(widget);
+            watch.after([&] { cycling->clock()->advance(5); });
+            QTRY_VERIFY2(!watch.region.isEmpty(), name);
+            QTRY_VERIFY2(colourAt(*widget, place) == colour(6), name);
+            QCOMPARE(serializeProject(project(), false), before);
+            QCOMPARE(projectPicture(project(), project().spriteBanks().first()->id()), thumbnail);
+            watch.after([&] { cycling->action()->trigger(); });
+            QTRY_VERIFY2(!watch.region.isEmpty(), name);
+            QTRY_VERIFY2(colourAt(*widget, place) == colour(7), name);
+            cycling->clock()->setPaused(false);
+        }
     }
 
     void theClockStandsStillWhileNothingIsSeen()
@@ -137,7 +156,7 @@ private slots:
         QVERIFY(!cycling->clock()->isTicking());
         m_window->show();
         QVERIFY(cycling->clock()->isTicking());
-        m_window->projectController()->close();
+        controller()->close();
         QVERIFY(!cycling->clock()->isTicking());
     }
 
@@ -157,81 +176,7 @@ private:
         return {};
     }
 
-    enum View {
-        PaletteView,
-        Tile,
-        Picker,
-        Sprite,
-        List,
-        OnMap,
-        Overview,
-        Stamps,
-        InImage,
-        Block,
-        BlockList,
-        SpriteAnimation,
-        SpriteAnimationList,
-    };
-
-    /// The widget of a view, in front of what may cover it.
-    QWidget *shown(View view)
-    {
-        const DocumentViews &views = m_window->views();
-        DocumentController *documents = m_window->documentController();
-        const auto dock = [](QDockWidget *window, QWidget *widget) {
-            window->show();
-            window->raise();
-            QCoreApplication::processEvents();
-            return widget;
-        };
-        const auto [map, blocks, bank, image] = m_ids;
-        switch (view) {
-        case PaletteView:
-            return dock(views.palette, views.palette->editor()->grid());
-        case Tile:
-            return dock(views.tileEditor, views.tileEditor->canvas());
-        case Picker:
-            return dock(views.tilePicker, views.tilePicker->grid());
-        case Sprite:
-            return dock(views.spriteEditor, views.spriteEditor->canvas());
-        case List:
-            return dock(views.spriteEditor, views.spriteEditor->list());
-        case OnMap:
-            documents->setActiveMap(map);
-            return views.tabs->currentWidget()->findChild<MapEditor::MapGrid *>();
-        case Overview:
-        case Stamps: {
-            documents->setActiveMap(map);
-            MapEditor::PaintDesk *desk = qobject_cast<MapEditor::View *>(views.tabs->currentWidget())->paintDesk();
-            desk->setOverviewVisible(view == Overview);
-            desk->pickTiles({{1}});
-            QCoreApplication::processEvents(); // the bar has its place, and the stamp its button
-            if (view == Stamps)
-                return desk->bar();
-            return views.tabs->currentWidget()->findChild<MapEditor::MapOverview *>();
-        }
-        case InImage:
-            documents->setActiveImageEditor(image);
-            return views.tabs->currentWidget()->findChild<Canvas *>();
-        case Block:
-        case BlockList:
-            documents->setActiveBlockEditor(blocks);
-            break;
-        case SpriteAnimation:
-        case SpriteAnimationList:
-            documents->setActiveSpriteEditor(bank);
-            break;
-        }
-        auto *page = qobject_cast<AnimationEditor::AnimationView *>(views.tabs->currentWidget());
-        if (view == BlockList || view == SpriteAnimationList)
-            return page->list()->findChild<QListWidget *>()->viewport();
-        page->list()->select(page->list()->animations().constFirst());
-        return page->findChild<AnimationEditor::FrameEditorWidget *>();
-    }
-
-    std::optional<MainWindow> m_window;
     QPointer<Palette> m_palette;
-    std::tuple<QUuid, QUuid, QUuid, QUuid> m_ids; ///< of map, block set, sprite bank and image
 };
 
 QUENMORA_TEST_MAIN(TestColourCycling)

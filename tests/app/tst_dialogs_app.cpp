@@ -12,20 +12,13 @@
 #include "editors/canvas/reductionbox.h"
 #include "model/palette.h"
 #include "pictures/ninebitcolour.h"
+#include "support/editorinput.h"
 #include "support/modeltools.h"
 #include "support/testmain.h"
 #include "ui/picturepreview.h"
 
-#include <QCheckBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QSignalSpy>
-#include <QSpinBox>
-#include <QTest>
-
-#include <memory>
+#include <QtTest>
+#include <QtWidgets>
 
 namespace {
 
@@ -40,6 +33,13 @@ QString confirm(DialogBase &dialog)
 {
     dialog.okButton()->click();
     return dialog.isVisible() == dialog.error().isEmpty() ? "closed with an error, or open without" : dialog.error();
+}
+
+/// Whether one of a dialog's labels says this.
+bool tells(const QDialog &dialog, const QString &text)
+{
+    return std::ranges::any_of(dialog.findChildren<QLabel *>(),
+                               [&text](const QLabel *label) { return label->text().contains(text); });
 }
 
 QString confirm(DialogBase &dialog, const QString &name)
@@ -99,20 +99,6 @@ private slots:
         QCOMPARE(accepted, QList<QVariantList>({{used}}));
     }
 
-    void chosenAssetStaysChosen()
-    {
-        AssetChooser chooser;
-        chooser.offerPalettes(*m_project, "New");
-        QVERIFY(chooser.id().isNull());
-        chooser.choose(m_main);
-        m_project->createPalette(CreateAction::Blank, "Early"); // before it in the list
-        chooser.offerPalettes(*m_project, "New");
-        QCOMPARE(chooser.id(), m_main);
-        const Project other;
-        chooser.offerPalettes(other);
-        QVERIFY(chooser.id().isNull() && !chooser.isEnabled());
-    }
-
     void exportRange()
     {
         TileEditor::ExportDialog dialog;
@@ -142,10 +128,7 @@ private slots:
         QCOMPARE(confirm(dialog), "Please choose a font file");
         field<QLineEdit>(dialog)->setText(m_folder("short.bin", "1234567"));
         QCOMPARE(dialog.error(), "There is no character in this file, or it cannot be read");
-        for (QPushButton *button : dialog.findChildren<QPushButton *>()) {
-            if (button->text().contains("rowse"))
-                button->click();
-        }
+        EditorInput::button(dialog, QString::fromUtf8("&Browse…"))->click();
         const auto *preview = field<PicturePreview>(dialog); // as the tiles will look
         QCOMPARE(preview->picture().size(), QSize(4 * 8, 8)); // the tile set has 4 tiles
         field<QSpinBox>(dialog, 0)->setValue(2);
@@ -253,19 +236,14 @@ private slots:
         SpriteEditor::ImportImageDialog dialog;
         QSignalSpy accepted(&dialog, &SpriteEditor::ImportImageDialog::accepted);
         dialog.show(*m_project, file);
-        const auto tells = [&dialog](const QString &text) {
-            const QList<QLabel *> labels = dialog.findChildren<QLabel *>();
-            return std::any_of(labels.cbegin(), labels.cend(),
-                               [&](const QLabel *label) { return label->text().contains(text); });
-        };
         field<QRadioButton>(dialog, 1)->setChecked(true);
-        QVERIFY(tells("There is room for 255; the others take the nearest of these"));
+        QVERIFY(tells(dialog, "There is room for 255; the others take the nearest of these"));
         auto *reduction = field<ReductionBox>(dialog);
         QVERIFY(!reduction->reduction()); // nobody has asked for it
         reduction->setReduction(Dithering::None);
-        QVERIFY(tells("Colours of the machine: 512 before, 255 after; mean error: 0.7"));
+        QVERIFY(tells(dialog, "Colours of the machine: 512 before, 255 after; mean error: 0.7"));
         field<DepthChooser>(dialog)->setCurrentIndex(1); // which refuses the picture as it is
-        QVERIFY(tells("Colours of the machine: 512 before, 15 after; mean error: "));
+        QVERIFY(tells(dialog, "Colours of the machine: 512 before, 15 after; mean error: "));
         const QImage after = dialog.findChildren<PicturePreview *>()[0]->picture();
         QVERIFY(after.convertToFormat(QImage::Format_RGB32) != picture);
         QCOMPARE(dialog.findChildren<PicturePreview *>()[1]->picture(), picture);
@@ -320,12 +298,7 @@ private slots:
         for (int i = 0; i < 3; ++i)
             QCOMPARE(boxes[i]->isChecked(), ticks[i]);
         QCOMPARE(Dithering(field<QComboBox>(dialog)->currentData().toInt()), dithering);
-        const auto tells = [&dialog](const QString &text) {
-            const QList<QLabel *> labels = dialog.findChildren<QLabel *>();
-            return std::any_of(labels.cbegin(), labels.cend(),
-                               [&](const QLabel *label) { return label->text().contains(text); });
-        };
-        QVERIFY(tells(told));
+        QVERIFY(tells(dialog, told));
         const QRgb after = dialog.findChildren<PicturePreview *>()[1]->picture().pixel(0, 0);
         QCOMPARE(after == qRgb(219, 37, 0), kind == "levels" || kind == "holes");
         dialog.accept();
@@ -348,10 +321,7 @@ private slots:
         SpriteEditor::ImportBinaryDialog dialog;
         QSignalSpy accepted(&dialog, &SpriteEditor::ImportBinaryDialog::accepted);
         dialog.show(*m_project, file);
-        QStringList labels;
-        for (const QLabel *label : dialog.findChildren<QLabel *>())
-            labels.append(label->text());
-        QVERIFY(labels.contains("2 in the file"));
+        QVERIFY(tells(dialog, "2 in the file"));
         field<AssetChooser>(dialog)->choose(m_main);
         QCOMPARE(confirm(dialog), QString());
         QCOMPARE(accepted[0][0].value<SpriteImport>(), (SpriteImport{file, "hero", Quenmora::EightBit, m_main}));

@@ -1,37 +1,19 @@
-// What a game takes of a project: the dialogs that fill its recipe, and both ways to export in the real window.
+// What a game takes of a project: the table of its recipe, the dialogs that fill it, and both ways to export in the
+// real window.
 
 #include "app/exportproject/addoutputsdialog.h"
 #include "app/exportproject/exportprojectdialog.h"
+#include "app/exportproject/exportreport.h"
 #include "app/exportproject/outputdialog.h"
 #include "app/exportproject/outputpreview.h"
 #include "app/exportproject/projectexport.h"
 #include "app/exportproject/recipetable.h"
 #include "app/exportproject/severaloutputsdialog.h"
-#include "app/mainwindow.h"
-#include "app/menus/filemenu.h"
 #include "exportprogram.h" // made by the build: where the command and the examples are
-#include "support/editorinput.h"
-#include "support/modeltools.h"
-#include "support/sampleproject.h"
-#include "support/testmain.h"
 #include "support/usualrecipe.h"
-#include "ui/messagedialog.h"
+#include "support/windowscene.h"
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QDir>
-#include <QDirIterator>
-#include <QLineEdit>
-#include <QProcess>
-#include <QPushButton>
-#include <QSignalSpy>
-#include <QSpinBox>
-#include <QStatusBar>
-#include <QTableView>
-#include <QTest>
-#include <QTreeWidget>
-
-#include <optional>
+#include <QAbstractItemModelTester>
 
 using namespace NextData;
 using State = RecipeRun::State;
@@ -49,30 +31,108 @@ QList<RecipeOutput> addedBy(AddOutputsDialog &dialog)
     return added.value(0).value(0).value<QList<RecipeOutput>>();
 }
 
+void lookAtAll(RecipeTable &table)
+{
+    while (table.isLooking())
+        QCoreApplication::processEvents();
+}
+
+QString cell(const RecipeTable &table, const QString &file, RecipeTable::Column column)
+{
+    return table.index(table.rowOf(file), column).data().toString();
+}
+
 } // namespace
 
-class TestExportProject : public QObject
+class TestExportProject : public QObject, protected WindowScene
 {
     Q_OBJECT
 
 private slots:
     void initTestCase()
     {
-        Update::UpdateChecker::setFeedAddress({});
         QLocale::setDefault(QLocale::English); // which groups digits by commas
     }
 
     void init()
     {
-        m_folder = std::make_unique<TemporaryFolder>();
+        emptyFolder();
         m_project = std::make_unique<Project>();
+        SampleProject::fill(*m_project);
+    }
+    void cleanup() { m_window.reset(); }
+
+    // The table
+
+    void rowsTellWhatExportingWouldDo()
+    {
+        RecipeTable table;
+        const QAbstractItemModelTester tester(&table, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        openUsual(table);
+        lookAtAll(table);
+        QCOMPARE(cell(table, "Level.map", RecipeTable::StateColumn), "New");
+        QCOMPARE(table.run({}).size(), table.rowCount());
+        QCOMPARE(cell(table, "Level.map", RecipeTable::StateColumn), "Unchanged"); // at once
+        const std::tuple<std::function<bool()>, const char *, const char *> cases[]{
+            {[] { return true; }, "Level.map", "Unchanged"},
+            {[this] {
+                 return m_project->maps().first()->setTile({1, 1}, {7}), true;
+             },
+             "Level.map", "Changed"},
+            {[] { return true; }, "Tiles.nxt", "Unchanged"},
+            {[this] { return QFile::remove(path("Tiles.nxt")); }, "Tiles.nxt", "New"},
+            {[this] { return writeFile(path("Main.pal"), "x"); }, "Main.pal", "Changed"},
+            {[this] { return QFile::remove(path("Main.pal")) && QDir().mkdir(path("Main.pal")); }, "Main.pal",
+             "Cannot be: “Main.pal” cannot be written: it is a folder"},
+            {[this] { return m_project->deleteMap(m_project->maps().first()->id()); }, "Level.map",
+             "Cannot be: The project no longer has a map “Level” with the id"}};
+        for (const auto &[change, file, state] : cases) {
+            QVERIFY(change());
+            table.lookAgain();
+            lookAtAll(table);
+            const QString told = cell(table, file, RecipeTable::StateColumn);
+            QVERIFY2(told.startsWith(state) && (told == state || told.startsWith("Cannot")), qPrintable(told));
+        }
+    }
+
+    void rowsTellSizesAndBanks()
+    {
+        RecipeTable table;
+        openUsual(table);
+        QCOMPARE(cell(table, "Title.nxi", RecipeTable::SizeColumn), "49,152");
+        QCOMPARE(cell(table, "Title.nxi", RecipeTable::BanksColumn), "6 / 3");
+        QCOMPARE(cell(table, "Level.map", RecipeTable::SizeColumn), "48");
+        QCOMPARE(cell(table, "Level.map", RecipeTable::BanksColumn), "1 / 1");
+        QCOMPARE(RecipeTable::banksText(8193), "2 pages of 8 KiB, 1 bank of 16 KiB");
+    }
+
+    void renamedAssetsGetTheirNames()
+    {
+        const Recipe recipe = usualRecipe(*m_project);
+        m_project->maps().first()->setName("Cellar");
+        RecipeTable table;
+        table.open(*m_project, path("game.quenmora"), recipe);
+        QVERIFY(table.isModified());
+        QCOMPARE(cell(table, "Level.map", RecipeTable::AssetColumn), "Cellar");
+        table.setSaved();
+        table.open(*m_project, path("game.quenmora"), table.recipe());
+        QVERIFY(!table.isModified());
+    }
+
+    void stopsBetweenOutputs()
+    {
+        RecipeTable table;
+        openUsual(table);
+        const auto outcomes = table.run([](int done, int) { return done < 2; });
+        QCOMPARE(outcomes.size(), 2);
+        const ExportReport report(table.recipe(), outcomes, path("."));
+        QVERIFY2(report.text().startsWith("Stopped: Exported 2 files ("), qPrintable(report.text()));
     }
 
     // The dialogs
 
     void addedOutputsHaveFilesOfTheirOwn()
     {
-        SampleProject::fill(*m_project);
         const QStringList names{
             "Level",   "level", "Level_2",
             "Level_4", // which is free until now
@@ -109,7 +169,6 @@ private slots:
 
     void proposesWhatThereIs()
     {
-        SampleProject::fill(*m_project);
         AddOutputsDialog dialog;
         dialog.show(*m_project, {});
         QSignalSpy added(&dialog, &AddOutputsDialog::accepted);
@@ -131,7 +190,6 @@ private slots:
 
     void outputsAreEditedByTheKindOfTheirOptions()
     {
-        SampleProject::fill(*m_project);
         const QPointer<Map> map = m_project->maps().first();
         OutputDialog dialog;
         QSignalSpy edited(&dialog, &OutputDialog::accepted);
@@ -168,9 +226,8 @@ private slots:
 
     void severalOutputsGetOptionsAlike()
     {
-        SampleProject::fill(*m_project);
         RecipeTable table;
-        table.open(*m_project, path("game.quenmora"), usualRecipe(*m_project));
+        openUsual(table);
         const int level = table.rowOf("Level.map");
         RecipeOutput own = table.output(level);
         own.options = {{"order", "columns"}, {"pad", "256"}};
@@ -209,14 +266,14 @@ private slots:
 
     void exportsAProjectAndExportsItAgain()
     {
-        MainWindow window;
-        ProjectExport &exporter = *window.projectExport();
-        QAction *project = action(window, "Export Project…");
-        QAction *again = action(window, "Export Again");
-        QVERIFY(!project->isEnabled() && !again->isEnabled());
-        emit window.menus()->fileMenu()->newProject("Game");
-        window.projectController()->project()->createPalette(CreateAction::DefaultNext, "Main");
-        const QPointer<Palette> palette = window.projectController()->project()->palettes().first();
+        openWindow();
+        ProjectExport &exporter = *m_window->projectExport();
+        QAction *exportProject = action("Export Project…");
+        QAction *again = action("Export Again");
+        QVERIFY(!exportProject->isEnabled() && !again->isEnabled());
+        emit m_window->menus()->fileMenu()->newProject("Game");
+        project().createPalette(CreateAction::DefaultNext, "Main");
+        const QPointer<Palette> palette = project().palettes().first();
 
         // a project without a file
         bool mayBeSaved = false;
@@ -225,8 +282,8 @@ private slots:
             questions += question.kind == ExportQuestion::Kind::SaveProject;
             return mayBeSaved;
         });
-        window.projectController()->setFileNameCallback([this] { return path("game.quenmora"); });
-        project->trigger();
+        controller()->setFileNameCallback([this] { return path("game.quenmora"); });
+        exportProject->trigger();
         QVERIFY(!exporter.dialog()->isVisible() && !QFile::exists(path("game.quenmora")));
         mayBeSaved = true;
         again->trigger(); // shows the recipe where there is none
@@ -239,14 +296,14 @@ private slots:
         add->accept();
         exporter.dialog()->reject();
         QVERIFY(!QFile::exists(recipePath()));
-        project->trigger();
+        exportProject->trigger();
         exporter.dialog()->addOutputs();
         add->accept();
         exporter.dialog()->exportAll();
         const QString folder = QDir::toNativeSeparators(QFileInfo(path("game.quenmora")).path());
         const int count = exporter.dialog()->table()->rowCount();
         QVERIFY(count >= 1 && !exporter.dialog()->table()->isModified());
-        QCOMPARE(window.statusBar()->currentMessage(),
+        QCOMPARE(message(),
                  QString("Exported %1 (%2 bytes) to %3")
                      .arg(count == 1 ? QString("1 file") : QString("%1 files").arg(count))
                      .arg(QLocale().toString(512 * count), folder));
@@ -258,32 +315,31 @@ private slots:
         QVERIFY(!exporter.dialog()->isVisible());
         QCOMPARE(readFile(path("Main.pal")).left(2).toHex(), QByteArray("0101"));
         const QString unchanged = count > 1 ? QString(", %1 unchanged,").arg(count - 1) : QString();
-        QCOMPARE(window.statusBar()->currentMessage(), "Exported 1 file (512 bytes)" + unchanged + " to " + folder);
+        QCOMPARE(message(), "Exported 1 file (512 bytes)" + unchanged + " to " + folder);
 
         QVERIFY(QFile::remove(path("Main.pal")) && QDir().mkdir(path("Main.pal")));
         again->trigger();
-        QVERIFY(window.statusBar()->currentMessage().contains("1 failed"));
-        QCOMPARE(window.messageDialog()->text(), "There was a problem exporting data");
-        QCOMPARE(window.messageDialog()->detail(), "Main.pal: “Main.pal” cannot be written: it is a folder");
-        window.messageDialog()->accept();
+        QVERIFY(message().contains("1 failed"));
+        QCOMPARE(dialog()->text(), "There was a problem exporting data");
+        QCOMPARE(dialog()->detail(), "Main.pal: “Main.pal” cannot be written: it is a folder");
+        dialog()->accept();
 
         // the recipe goes with the project, and never replaces it
-        window.projectController()->setFileNameCallback([this] { return path("other.quenmora"); });
-        emit window.menus()->fileMenu()->saveProjectAs();
+        controller()->setFileNameCallback([this] { return path("other.quenmora"); });
+        emit m_window->menus()->fileMenu()->saveProjectAs();
         QCOMPARE(readFile(path("other.quenmora-export.json")), readFile(recipePath()));
         const QByteArray saved = readFile(path("other.quenmora"));
-        project->trigger();
+        exportProject->trigger();
         RecipeOutput own = exporter.dialog()->table()->output(0);
         own.file = "other.quenmora";
         exporter.dialog()->table()->replace(0, own);
         exporter.dialog()->exportAll();
-        QVERIFY(window.messageDialog()->detail().contains("is the project or its recipe"));
+        QVERIFY(dialog()->detail().contains("is the project or its recipe"));
         QCOMPARE(readFile(path("other.quenmora")), saved);
     }
 
     void worksWithTheKeyboardAlone()
     {
-        SampleProject::fill(*m_project);
         ExportProjectDialog dialog;
         bool isSaved = false;
         dialog.setSaveCallback([&](const Recipe &) { return isSaved = true; });
@@ -322,12 +378,12 @@ private slots:
     void neverReplacesARecipeUnasked()
     {
         using Kind = ExportQuestion::Kind;
-        MainWindow window;
-        ProjectExport &exporter = *window.projectExport();
-        emit window.menus()->fileMenu()->newProject("Game");
-        window.projectController()->project()->createPalette(CreateAction::DefaultNext, "Main");
-        window.projectController()->setFileNameCallback([this] { return path("game.quenmora"); });
-        emit window.menus()->fileMenu()->saveProject();
+        openWindow();
+        ProjectExport &exporter = *m_window->projectExport();
+        emit m_window->menus()->fileMenu()->newProject("Game");
+        project().createPalette(CreateAction::DefaultNext, "Main");
+        controller()->setFileNameCallback([this] { return path("game.quenmora"); });
+        emit m_window->menus()->fileMenu()->saveProject();
         std::optional<Kind> asked;
         QString problems;
         bool answer = false;
@@ -340,13 +396,13 @@ private slots:
         // a damaged one
         const QByteArray damaged = "{\n    \"formatVersion\": 1,\n    \"outputs\": [\n        {}\n    ]\n}\n";
         QVERIFY(writeFile(recipePath(), damaged));
-        action(window, "Export Again")->trigger();
+        action("Export Again")->trigger();
         QVERIFY(!exporter.dialog()->isVisible() && asked == Kind::StartAnew);
         QVERIFY2(problems.startsWith("Line 4: "), qPrintable(problems));
         answer = true;
         for (const bool isSaved : {false, true, true}) {
             QVERIFY(writeFile(recipePath(), damaged));
-            action(window, "Export Project…")->trigger();
+            action("Export Project…")->trigger();
             QVERIFY(exporter.dialog()->isVisible());
             isSaved ? exporter.dialog()->save() : exporter.dialog()->reject();
             QCOMPARE(readFile(recipePath()) == damaged, !isSaved);
@@ -358,7 +414,7 @@ private slots:
         asked.reset();
         for (const bool mayReplace : {false, true}) {
             answer = mayReplace;
-            action(window, "Export Project…")->trigger();
+            action("Export Project…")->trigger();
             exporter.dialog()->addOutputs();
             exporter.dialog()->findChild<AddOutputsDialog *>()->accept();
             QVERIFY(!asked && writeFile(recipePath(), damaged));
@@ -379,9 +435,9 @@ private slots:
         QProcess command;
         command.start(EXPORT_PROGRAM, {"--quiet", "--output", path("command"), path("sample.quenmora")});
         QVERIFY(command.waitForFinished(-1) && command.exitCode() == 0);
-        MainWindow window;
-        emit window.menus()->fileMenu()->openProject(path("sample.quenmora"));
-        action(window, "Export Again")->trigger();
+        openWindow();
+        emit m_window->menus()->fileMenu()->openProject(path("sample.quenmora"));
+        action("Export Again")->trigger();
         int compared = 0;
         QDirIterator files(path("command"), QDir::Files, QDirIterator::Subdirectories);
         for (; files.hasNext(); ++compared) {
@@ -390,18 +446,18 @@ private slots:
             QVERIFY2(readFile(here) == readFile(file), qPrintable(here));
         }
         QVERIFY(compared >= 24); // forms that the sample's recipe uses
-        QVERIFY(window.statusBar()->currentMessage().startsWith(QString("Exported %1 files (").arg(compared)));
+        QVERIFY(message().startsWith(QString("Exported %1 files (").arg(compared)));
     }
 
 private:
-    [[nodiscard]] QString path(const QString &name) const { return (*m_folder)(name); }
+    [[nodiscard]] QString path(const QString &name) const { return m_folder(name); }
     [[nodiscard]] QString recipePath() const { return path("game.quenmora-export.json"); }
-    static QAction *action(MainWindow &window, const QString &text)
+    void openUsual(RecipeTable &table) { table.open(*m_project, path("game.quenmora"), usualRecipe(*m_project)); }
+    [[nodiscard]] QAction *action(const QString &text)
     {
-        return EditorInput::entry(*window.menus()->fileMenu(), text);
+        return EditorInput::entry(*m_window->menus()->fileMenu(), text);
     }
 
-    std::unique_ptr<TemporaryFolder> m_folder;
     std::unique_ptr<Project> m_project;
 };
 

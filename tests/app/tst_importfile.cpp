@@ -2,34 +2,13 @@
 
 #include "app/importfile/fileimport.h"
 #include "app/importfile/importfiledialog.h"
-#include "app/mainwindow.h"
-#include "app/menus/filemenu.h"
-#include "model/map.h"
-#include "model/palette.h"
-#include "model/spritebank.h"
-#include "model/tileset.h"
-#include "support/editorinput.h"
-#include "ui/messagedialog.h"
+#include "support/windowscene.h"
 #include "ui/picturepreview.h"
 
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QSpinBox>
-#include <QStatusBar>
-#include <QUndoGroup>
-
-#include <optional>
-
-class TestImportFile : public QObject
+class TestImportFile : public QObject, protected WindowScene
 {
     Q_OBJECT
 
-    TemporaryFolder m_path;
-    std::optional<MainWindow> m_window;
-
-    [[nodiscard]] Project &project() { return *m_window->projectController()->project(); }
     [[nodiscard]] ImportFileDialog &dialog() { return *m_window->fileImport()->dialog(); }
     template <typename Field>
     [[nodiscard]] Field &field(const char *name)
@@ -48,9 +27,7 @@ class TestImportFile : public QObject
 private slots:
     void init()
     {
-        m_window.emplace();
-        m_window->projectController()->setUnsavedAnswerCallback(
-            [](const QString &) { return ProjectController::Discard; });
+        openWindow();
         emit m_window->menus()->fileMenu()->newProject("Game");
     }
     void cleanup() { m_window.reset(); }
@@ -59,9 +36,9 @@ private slots:
     {
         FileMenu &menu = *m_window->menus()->fileMenu();
         QList<FileRequest> requests;
-        const QStringList files{m_path("warm.pal", QByteArray("\xE0\x00", 2).repeated(256)), m_path("gone.nxt"),
-                                m_path("rocks.nxt", noise(32 * 5)), m_path("unwanted.spr", noise(256)),
-                                m_path("cave.map", QByteArray("\x01\x00", 2).repeated(48))};
+        const QStringList files{m_folder("warm.pal", QByteArray("\xE0\x00", 2).repeated(256)), m_folder("gone.nxt"),
+                                m_folder("rocks.nxt", noise(32 * 5)), m_folder("unwanted.spr", noise(256)),
+                                m_folder("cave.map", QByteArray("\x01\x00", 2).repeated(48))};
         menu.setFilesChooser([&](const FileRequest &request, QWidget *) {
             requests.append(request);
             return requests.size() == 1 ? files : QStringList();
@@ -80,7 +57,7 @@ private slots:
         const QPointer<Palette> palette = project().palettes().constFirst();
         QCOMPARE(palette->name(), "Warm");
         QCOMPARE(palette->rawColour(255), 0xE000);
-        QCOMPARE(m_window->statusBar()->currentMessage(), "Imported warm.pal: Colours: 256");
+        QCOMPARE(message(), "Imported warm.pal: Colours: 256");
 
         QVERIFY(dialog().windowTitle().startsWith("Import (3 of 5)"));
         QCOMPARE(field<QComboBox>("palette").currentData().toUuid(), palette->id()); // that is in front
@@ -103,34 +80,34 @@ private slots:
         QCOMPARE(map->size(), QSize(8, 6));
         QCOMPARE(map->tileSet(), tiles);
         QVERIFY(!dialog().isVisible() && project().spriteBanks().isEmpty());
-        QVERIFY(m_window->messageDialog()->isVisible()); // of the file that is gone, when nothing else is asked
-        m_window->messageDialog()->accept();
+        QVERIFY(WindowScene::dialog()->isVisible()); // of the file that is gone, when nothing else is asked
+        WindowScene::dialog()->accept();
 
         // the next time the dialog begins where these were
         EditorInput::trigger(menu, QString::fromUtf8("Import…"));
-        QCOMPARE(requests.value(1).folder, m_path());
+        QCOMPARE(requests.value(1).folder, m_folder());
     }
 
     void putsTilesIntoASetAsOneStep()
     {
         const auto tiles = project().createTileSet("Rocks", {}, 3, false);
-        m_window->documentController()->openTileSet(tiles->id());
+        documents().openTileSet(tiles->id());
         const TileSet::Snapshot before = tiles->snapshot();
-        m_window->fileImport()->importFiles({m_path("more.nxt", noise(32 * 4))});
+        m_window->fileImport()->importFiles({m_folder("more.nxt", noise(32 * 4))});
         QVERIFY(!field<QSpinBox>("at").isVisible());
         choose("target", tiles->id());
         QVERIFY(field<QSpinBox>("at").isVisible() && !field<QLineEdit>("name").isVisible());
         field<QSpinBox>("at").setValue(2);
         dialog().accept();
         QCOMPARE(tiles->count(), 6);
-        m_window->documentController()->undoGroup()->undo();
+        documents().undoGroup()->undo();
         QVERIFY(tiles->snapshot() == before);
 
         // where they went is known when the file is imported again
         int at = 0;
         connect(m_window->fileImport(), &FileImport::imported, this,
                 [&at](const QString &, const Importing::ImportChoices &choices) { at = choices.at; });
-        m_window->fileImport()->importFiles({m_path("more.nxt")});
+        m_window->fileImport()->importFiles({m_folder("more.nxt")});
         choose("target", tiles->id());
         dialog().accept();
         QCOMPARE(at, 3);
@@ -138,7 +115,7 @@ private slots:
 
     void saysWhatCannotBe()
     {
-        m_window->fileImport()->importFiles({m_path("half.spr", noise(128))});
+        m_window->fileImport()->importFiles({m_folder("half.spr", noise(128))});
         QCOMPARE(field<QComboBox>("kind").currentData().toString(), "sprites-packed");
         choose("kind", "tile-attributes");
         QVERIFY(!field<QLineEdit>("name").isVisible());
@@ -154,7 +131,7 @@ private slots:
         QVERIFY(field<PicturePreview>("").picture().isNull());
         dialog().accept();
         QCOMPARE(dialog().error(), reason);
-        m_window->projectController()->close();
+        controller()->close();
         QVERIFY(!dialog().isVisible());
     }
 
@@ -164,10 +141,10 @@ private slots:
         QImage picture(16, 8, QImage::Format_RGB32);
         picture.fill(0xFFFF0000);
         picture.setPixel(0, 0, 0xFF00FF00);
-        QVERIFY(picture.save(m_path("level.png")));
+        QVERIFY(picture.save(m_folder("level.png")));
         QMimeData data;
-        data.setUrls({QUrl::fromLocalFile(m_path("level.png")), QUrl::fromLocalFile(m_path("level.png")),
-                      QUrl::fromLocalFile(m_path("a.pal", noise(512))), QUrl("https://example.com/b.pal")});
+        data.setUrls({QUrl::fromLocalFile(m_folder("level.png")), QUrl::fromLocalFile(m_folder("level.png")),
+                      QUrl::fromLocalFile(m_folder("a.pal", noise(512))), QUrl("https://example.com/b.pal")});
         QVERIFY(EditorInput::dropFromElsewhere(*m_window, {50, 50}, data));
         QCoreApplication::processEvents();
         QVERIFY(dialog().windowTitle().startsWith("Import (1 of 3)"));
@@ -195,7 +172,7 @@ private slots:
         QVERIFY(!dialog().isVisible());
 
         // there is nothing into which they could go
-        m_window->projectController()->close();
+        controller()->close();
         QVERIFY(!EditorInput::dropFromElsewhere(*m_window, {50, 50}, data));
     }
 };

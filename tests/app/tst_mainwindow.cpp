@@ -1,85 +1,47 @@
-#include "app/mainwindow.h"
-
 #include "app/menus/editmenu.h"
-#include "app/menus/filemenu.h"
-#include "app/menus/mapmenu.h"
 #include "app/menus/viewmenu.h"
 #include "app/platform.h"
 #include "app/startpage.h"
 #include "editors/canvas/canvas.h"
 #include "editors/canvas/imageeditorview.h"
 #include "editors/canvas/tilepickergrid.h"
-#include "model/image.h"
-#include "model/map.h"
-#include "model/mapobjects.h"
-#include "model/spritebank.h"
-#include "model/tileset.h"
-#include "support/editorinput.h"
-#include "support/modeltools.h"
-#include "support/sampleproject.h"
-#include "support/testmain.h"
-#include "ui/messagedialog.h"
+#include "support/windowscene.h"
 
-#include <QAbstractButton>
-#include <QApplication>
-#include <QComboBox>
-#include <QDir>
-#include <QDropEvent>
-#include <QLineEdit>
-#include <QListView>
-#include <QMimeData>
-#include <QSignalSpy>
-#include <QStatusBar>
-#include <QTabBar>
-#include <QTest>
-
-#include <optional>
-
-class TestMainWindow : public QObject
+class TestMainWindow : public QObject, protected WindowScene
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { Update::UpdateChecker::setFeedAddress({}); }
     void init()
     {
-        QFile::remove(statePath("state.json"));
-        QFile::remove(statePath("preferences.json"));
-        QFile::remove(statePath("painting.json"));
-        m_window.emplace();
+        QDir(statePath("")).removeRecursively();
+        openWindow();
     }
 
     void cleanup() { m_window.reset(); }
 
     void placesTheDocks()
     {
-        struct Place
-        {
-            QDockWidget *dock;
-            const char *name; // by which the stored layout knows it
-            Qt::DockWidgetArea area;
-        };
-        const DocumentViews &views = m_window->views();
-        const Place places[]{{views.project, "ProjectWindow", Qt::LeftDockWidgetArea},
-                             {views.palette, "paletteWindow", Qt::RightDockWidgetArea},
-                             {views.tileEditor, "TileEditor", Qt::RightDockWidgetArea},
-                             {views.spriteEditor, "SpriteEditor", Qt::RightDockWidgetArea},
-                             {views.tilePicker, "TilePickerTool", Qt::BottomDockWidgetArea},
-                             {views.mapObjects, "TileListWindow", Qt::LeftDockWidgetArea},
-                             {views.mapSprites, "MapSpritesWindow", Qt::LeftDockWidgetArea}};
-        for (int time = 0; time < 2; ++time) {
-            for (const auto &[dock, name, area] : places) {
-                QCOMPARE(dock->objectName(), name);
-                QCOMPARE(m_window->dockWidgetArea(dock), area);
-                QVERIFY(!dock->isFloating() && !dock->isHidden());
+        const auto layout = [this] { // by the names that the stored one has
+            QStringList places;
+            for (DockWidget *dock : m_window->findChildren<DockWidget *>(Qt::FindDirectChildrenOnly)) {
+                const int isSeen = !dock->isFloating() && !dock->isHidden();
+                const int area = m_window->dockWidgetArea(dock);
+                places.append(QString("%1 %2 %3").arg(dock->objectName()).arg(area).arg(isSeen));
             }
-            QCOMPARE(m_window->tabifiedDockWidgets(views.palette).size(), 2);
-            QCOMPARE(m_window->tabifiedDockWidgets(views.mapObjects), QList<QDockWidget *>{views.mapSprites});
-            views.project->setFloating(true);
-            views.tilePicker->close();
-            m_window->addDockWidget(Qt::LeftDockWidgetArea, views.palette);
-            emit m_window->menus()->viewMenu()->resetLayout();
-        }
+            places.sort();
+            return places;
+        };
+        const QStringList usual{"MapSpritesWindow 1 1", "ProjectWindow 1 1",  "SpriteEditor 2 1", "TileEditor 2 1",
+                                "TileListWindow 1 1",   "TilePickerTool 8 1", "paletteWindow 2 1"};
+        QCOMPARE(layout(), usual);
+        views().project->setFloating(true);
+        views().tilePicker->close();
+        m_window->addDockWidget(Qt::LeftDockWidgetArea, views().palette);
+        emit m_window->menus()->viewMenu()->resetLayout();
+        QCOMPARE(layout(), usual);
+        QCOMPARE(m_window->tabifiedDockWidgets(views().palette).size(), 2);
+        QCOMPARE(m_window->tabifiedDockWidgets(views().mapObjects), QList<QDockWidget *>{views().mapSprites});
     }
 
     void survivesDamagedState()
@@ -92,7 +54,7 @@ private slots:
         QVERIFY(writeFile(statePath("preferences.json"), "[1, "));
         m_window.emplace();
         QCOMPARE(m_window->size(), QSize(1024, 768));
-        QCOMPARE(m_window->dockWidgetArea(m_window->views().palette), Qt::RightDockWidgetArea);
+        QCOMPARE(m_window->dockWidgetArea(views().palette), Qt::RightDockWidgetArea);
         QVERIFY(m_window->close());
     }
 
@@ -104,28 +66,14 @@ private slots:
         QCOMPARE(state.lastPath(), QDir::currentPath());
     }
 
-    void mapMenuHasACommandForEveryLetter()
-    {
-        QStringList letters;
-        for (const QAction *action : m_window->menus()->mapMenu()->actions()) {
-            if (action->isSeparator())
-                continue;
-            const qsizetype mark = action->text().indexOf('&');
-            letters.append(action->text().mid(mark + 1, 1).toLower());
-            QVERIFY2(mark >= 0 && letters.count(letters.last()) == 1, qPrintable(action->text()));
-        }
-        QVERIFY(letters.size() > 8); // those for the map editor in front among them
-    }
-
     void remembersHowPeoplePaint()
     {
         const auto choice = [this] { return EditorInput::entry(*m_window->menus()->editMenu(), "Connect Strokes"); };
         const auto connects = [this] {
-            m_window->views().tabs->setScratchEditorVisible(true);
+            tabs()->setScratchEditorVisible(true);
             QList<bool> found;
-            for (PixelEditor *editor :
-                 std::initializer_list<PixelEditor *>{m_window->views().tileEditor, m_window->views().spriteEditor,
-                                                      m_window->views().tabs->scratchEditor()})
+            for (PixelEditor *editor : std::initializer_list<PixelEditor *>{views().tileEditor, views().spriteEditor,
+                                                                            tabs()->scratchEditor()})
                 found += editor->canvas()->paintOptions().connect;
             return found;
         };
@@ -144,25 +92,25 @@ private slots:
     {
         const QString file = sampleFile();
         controller()->openProject(file);
-        m_window->views().tilePicker->setMagnification(3);
-        m_window->views().project->close();
-        m_window->addDockWidget(Qt::LeftDockWidgetArea, m_window->views().palette);
+        views().tilePicker->setMagnification(3);
+        views().project->close();
+        m_window->addDockWidget(Qt::LeftDockWidgetArea, views().palette);
         m_window->menus()->fileMenu()->setOpenFolder(m_folder());
         m_window->resize(780, 700);
         m_window->menus()->viewMenu()->setChecked(ViewMenu::CheckableItem::StatusBar, false);
-        controller()->project()->setName("Changed");
+        project().setName("Changed");
         ProjectController::UnsavedAnswer answer = ProjectController::Cancel;
         controller()->setUnsavedAnswerCallback([&answer](const QString &) { return answer; });
         QVERIFY(!m_window->close());
-        QVERIFY(m_window->isVisible() && m_window->views().tabs->count() == 1);
+        QVERIFY(m_window->isVisible() && tabs()->count() == 1);
         QVERIFY(!QFile::exists(statePath("state.json")));
         answer = ProjectController::Discard;
         QVERIFY(m_window->close());
         QVERIFY(QFile::exists(statePath("preferences.json")));
         m_window.emplace();
-        QCOMPARE(m_window->views().tilePicker->magnification(), 3);
-        QVERIFY(m_window->views().project->isHidden());
-        QCOMPARE(m_window->dockWidgetArea(m_window->views().palette), Qt::LeftDockWidgetArea);
+        QCOMPARE(views().tilePicker->magnification(), 3);
+        QVERIFY(views().project->isHidden());
+        QCOMPARE(m_window->dockWidgetArea(views().palette), Qt::LeftDockWidgetArea);
         QCOMPARE(m_window->menus()->fileMenu()->openFolder(), m_folder());
         QCOMPARE(m_window->menus()->fileMenu()->recentFiles(), QStringList{file});
         QCOMPARE(m_window->size(), QSize(780, 700));
@@ -179,7 +127,7 @@ private slots:
         QVERIFY(create->isVisible());
         EditorInput::button(*page, QDir::toNativeSeparators(file))->click();
         QVERIFY(controller()->project() && !page->isVisible());
-        m_window->views().tabs->closeAllTabs();
+        tabs()->closeAllTabs();
         QVERIFY(page->isVisible() && !EditorInput::button(*page, "New project")->isVisible());
         controller()->close();
         QVERIFY(EditorInput::button(*page, "New project")->isVisible());
@@ -187,57 +135,63 @@ private slots:
 
     void followsTheLifeOfAProject()
     {
-        const DocumentViews &views = m_window->views();
         const ViewMenu *menu = m_window->menus()->viewMenu();
         verifyWithoutProject();
         controller()->openProject(sampleFile());
         QVERIFY(m_window->windowTitle().endsWith(" - Sample"));
-        QVERIFY(views.project->isActive());
-        QCOMPARE(views.tabs->currentWidget(), views.tabs->scratchEditor());
+        QVERIFY(views().project->isActive());
+        QCOMPARE(tabs()->currentWidget(), tabs()->scratchEditor());
         QVERIFY(menu->isChecked(ViewMenu::CheckableItem::ScratchEditor));
-        views.tabs->closeTab(0);
+        tabs()->closeTab(0);
         QVERIFY(!menu->isChecked(ViewMenu::CheckableItem::ScratchEditor));
-        m_window->documentController()->setActiveMap(controller()->project()->maps().first()->id());
+        documents().setActiveMap(project().maps().first()->id());
         controller()->close();
         verifyWithoutProject();
     }
 
     void tellsInStatusBarAndDialog()
     {
-        const MessageDialog *dialog = m_window->messageDialog();
-        const auto told = [dialog] { return dialog->windowTitle() + '|' + dialog->text() + '|' + dialog->detail(); };
+        const auto told = [this] {
+            return dialog()->windowTitle() + '|' + dialog()->text() + '|' + dialog()->detail();
+        };
         controller()->openProject(m_folder("gone.quenmora")); // as a recent file that is gone
-        QVERIFY(dialog->isVisible());
+        QVERIFY(dialog()->isVisible());
         QCOMPARE(told(), "Warning!|Invalid project file|" + QDir::toNativeSeparators(m_folder("gone.quenmora")));
         controller()->newProject("Game");
-        emit controller()->project()->error("Told by the project");
-        m_window->messageDialog()->accept(); // the next one in turn
+        emit project().error("Told by the project");
+        dialog()->accept(); // the next one in turn
         QCOMPARE(told(), "Warning!|Told by the project|");
 
-        const auto shown = [this] { return m_window->statusBar()->currentMessage(); };
-        QCOMPARE(shown(), m_window->windowTitle());
-        controller()->project()->createPalette(CreateAction::Blank, "Main");
-        QCOMPARE(shown(), "New palette added: Main");
+        QCOMPARE(message(), m_window->windowTitle());
+        project().createPalette(CreateAction::Blank, "Main");
+        QCOMPARE(message(), "New palette added: Main");
         const QString file = m_folder("game.quenmora");
         controller()->setFileNameCallback([file] { return file; });
         controller()->save();
-        QCOMPARE(shown(), "Saved Game to " + file);
+        QCOMPARE(message(), "Saved Game to " + file);
         m_window->statusBar()->clearMessage();
-        QCOMPARE(shown(), "Game [" + file + "]");
+        QCOMPARE(message(), "Game [" + file + "]");
     }
 
     void opensADroppedProject()
     {
         const QUrl file = QUrl::fromLocalFile(sampleFile());
+        const auto drop = [this](const QList<QUrl> &urls) {
+            QMimeData data;
+            data.setUrls(urls);
+            const bool isTaken = EditorInput::dropFromElsewhere(*m_window, {50, 50}, data);
+            QCoreApplication::processEvents();
+            return isTaken;
+        };
         QVERIFY(!drop({QUrl::fromLocalFile(m_folder("picture.png"))}));
         QVERIFY(!drop({QUrl("https://example.com/sample.quenmora")}));
         QVERIFY(!drop({file, file}));
         controller()->newProject("Game");
-        controller()->project()->createPalette(CreateAction::Blank, "Main");
+        project().createPalette(CreateAction::Blank, "Main");
         for (const auto answer : {ProjectController::Cancel, ProjectController::Discard}) {
             controller()->setUnsavedAnswerCallback([answer](const QString &) { return answer; });
             QVERIFY(drop({file}));
-            QCOMPARE(controller()->project()->name(), answer == ProjectController::Cancel ? "Game" : "Sample");
+            QCOMPARE(project().name(), answer == ProjectController::Cancel ? "Game" : "Sample");
         }
     }
 
@@ -245,13 +199,11 @@ private slots:
     {
         m_window->nextTile(); // without a tile set
         controller()->newProject("Game");
-        Project *project = controller()->project();
-        const QPointer<TileSet> tiles = project->createTileSet("Tiles", {}, 3);
-        const QPointer<SpriteBank> bank = project->createSpriteBank(Quenmora::FourBit, "Hero", {});
-        const QPointer<Palette> palette = project->createPalette(CreateAction::DefaultNext, "New");
-        m_window->documentController()->setActiveTileSet(tiles->id());
-        m_window->documentController()->setActiveSpriteEditor(bank->id());
-        const DocumentViews &views = m_window->views();
+        const QPointer<TileSet> tiles = project().createTileSet("Tiles", {}, 3);
+        const QPointer<SpriteBank> bank = project().createSpriteBank(Quenmora::FourBit, "Hero", {});
+        const QPointer<Palette> palette = project().createPalette(CreateAction::DefaultNext, "New");
+        documents().setActiveTileSet(tiles->id());
+        documents().setActiveSpriteEditor(bank->id());
         for (const auto &[step, tile] : {std::pair(&MainWindow::nextTile, 1),
                                          {&MainWindow::nextTile, 2},
                                          {&MainWindow::nextTile, 2},
@@ -259,8 +211,8 @@ private slots:
                                          {&MainWindow::previousTile, 0},
                                          {&MainWindow::previousTile, 0}}) {
             ((*m_window).*step)();
-            QCOMPARE(views.tileEditor->tileIndex(), tile);
-            QCOMPARE(views.tilePicker->grid()->selectedIndex(), tile);
+            QCOMPARE(views().tileEditor->tileIndex(), tile);
+            QCOMPARE(views().tilePicker->grid()->selectedIndex(), tile);
         }
         QSignalSpy changed(tiles, &TileSet::tileChanged);
         m_window->changeTilePalette(QUuid::createUuid());
@@ -276,7 +228,7 @@ private slots:
     {
         QTest::addColumn<ProjectTree::ProjectNode>("node");
         QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("consequences"); // none when nothing is asked, since it stays in any case
+        QTest::addColumn<QString>("consequences"); // or the message with its title, since it stays in any case
         const auto add = [](const char *name, ProjectTree::ProjectNode node, const char *consequences) {
             QTest::newRow(name) << node << QString(name) << QString(consequences);
         };
@@ -287,9 +239,12 @@ private slots:
         add("Wells %1", ProjectTree::MapObjectsNode, "Lost with it: 2 animations.\n");
         add("Title", ProjectTree::ImageNode, "");
         add("Unused", ProjectTree::PaletteNode, "");
-        add("Tiles", ProjectTree::TileSetNode, nullptr);
-        add("Blocks", ProjectTree::MapObjectsNode, nullptr);
-        add("Main", ProjectTree::PaletteNode, nullptr);
+        add("Tiles", ProjectTree::TileSetNode,
+            "Tile Set In Use|You may not delete this Tile Set; it is used by one or more maps");
+        add("Blocks", ProjectTree::MapObjectsNode,
+            "Objects in use|You may not delete these objects; they are in use by one or more maps");
+        add("Main", ProjectTree::PaletteNode,
+            "Palette In Use|You may not delete this palette; it is used by one or more sprites, tiles or images");
     }
 
     void asksBeforeAnAssetIsDeleted()
@@ -298,30 +253,18 @@ private slots:
         QFETCH(const QString, name);
         QFETCH(const QString, consequences);
         controller()->openProject(sampleFile());
-        Project *project = controller()->project();
-        const QUuid spare = project->createTileSet("Spare", project->palettes().first()->id(), 1)->id();
-        const QPointer<MapObjects> wells = project->createBlockList("Wells %1", spare);
+        const QUuid spare = project().createTileSet("Spare", project().palettes().first()->id(), 1)->id();
+        const QPointer<MapObjects> wells = project().createBlockList("Wells %1", spare);
         wells->createBoundTileAnimation("Deep");
         wells->createBoundTileAnimation("Dry");
-        project->createBlockList("Barrels", spare);
-        project->createPalette(CreateAction::Blank, "Unused");
-        project->images().first()->setName("Title");
+        project().createBlockList("Barrels", spare);
+        project().createPalette(CreateAction::Blank, "Unused");
+        project().images().first()->setName("Title");
 
-        QUuid id;
-        const auto find = [&](const auto &assets) {
-            for (const auto &asset : assets) {
-                if (asset->name() == name)
-                    id = asset->id();
-            }
-        };
-        find(project->palettes());
-        find(project->tileSets());
-        find(project->blockSets());
-        find(project->spriteBanks());
-        find(project->maps());
-        find(project->images());
-        QVERIFY(!id.isNull());
-        QSignalSpy deleted(m_window->projectActions(), &ProjectActions::itemDeleted);
+        const auto found = views().project->tree()->findItems(name, Qt::MatchExactly | Qt::MatchRecursive);
+        QCOMPARE(found.size(), 1);
+        const QUuid id = found.first()->data(0, Qt::UserRole).toUuid();
+        const QSignalSpy deleted(m_window->projectActions(), &ProjectActions::itemDeleted);
         for (const bool answer : {false, true}) {
             QStringList asked;
             m_window->setDeletionCallback([&](const DeletionQuestion &question) {
@@ -329,139 +272,131 @@ private slots:
                 return answer;
             });
             if (node == ProjectTree::PaletteNode)
-                emit m_window->views().palette->deleteRequested(id);
+                emit views().palette->deleteRequested(id);
             else
-                emit m_window->views().project->deleteItemTriggered(node, id);
-            const bool mayGo = !consequences.isNull();
+                emit views().project->deleteItemTriggered(node, id);
+            const bool mayGo = !consequences.contains('|');
             const QString text = QString::fromUtf8("Delete “%2” (%1)?").arg(ProjectTree::nodeName(node), name);
             QCOMPARE(asked, mayGo ? QStringList({text, consequences + "There is no undo for this."}) : QStringList());
             QCOMPARE(deleted.size(), answer && mayGo ? 1 : 0);
-            QCOMPARE(m_window->findChild<MessageDialog *>() != nullptr, !mayGo); // which says why it stays
+            const auto *told = m_window->findChild<MessageDialog *>();
+            QCOMPARE(told ? told->windowTitle() + '|' + told->text() : QString(), mayGo ? "" : consequences);
         }
     }
 
     void unusedScratchImageNeedsNoPalette()
     {
         controller()->newProject("Game");
-        Project *project = controller()->project();
-        const QPointer<Palette> first = project->createPalette(CreateAction::Blank, "First");
+        const QPointer<Palette> first = project().createPalette(CreateAction::Blank, "First");
         bool answer = false;
         m_window->setDeletionCallback([&answer](const DeletionQuestion &) { return answer; });
         const auto remove = [this](const QPointer<Palette> &palette) {
-            emit m_window->views().palette->deleteRequested(palette->id());
+            emit views().palette->deleteRequested(palette->id());
         };
         remove(first);
-        QCOMPARE(project->scratchPalette(), first);
+        QCOMPARE(project().scratchPalette(), first);
         answer = true;
-        const QPointer<Palette> second = project->createPalette(CreateAction::Blank, "Second");
+        const QPointer<Palette> second = project().createPalette(CreateAction::Blank, "Second");
         remove(first);
         QVERIFY(!first);
-        QCOMPARE(project->scratchPalette(), second);
-        QImage drawn = project->scratchImage();
+        QCOMPARE(project().scratchPalette(), second);
+        QImage drawn = project().scratchImage();
         drawn.scanLine(100)[17] = 1;
-        project->setScratchImage(drawn);
+        project().setScratchImage(drawn);
         remove(second);
         QVERIFY(second);
-        project->setScratchImage(QImage(drawn.size(), QImage::Format_Indexed8)); // pixels of any value
+        project().setScratchImage(QImage(drawn.size(), QImage::Format_Indexed8)); // pixels of any value
         drawn.fill(0);
-        project->setScratchImage(drawn);
+        project().setScratchImage(drawn);
         remove(second);
-        QVERIFY(!second && !project->scratchPalette());
+        QVERIFY(!second && !project().scratchPalette());
     }
 
     void pageInFrontHasTheKeyboard()
     {
-        m_window->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&*m_window));
-        DocumentTabView *tabs = m_window->views().tabs;
-        ProjectTree *tree = m_window->views().project->tree();
+        activateWindow();
+        ProjectTree *tree = views().project->tree();
         const auto pageHasIt = [&] {
-            return tabs->currentWidget() && tabs->currentWidget()->isAncestorOf(QApplication::focusWidget())
-                && QApplication::focusWidget() == tabs->currentWidget()->focusProxy();
+            return tabs()->currentWidget() && tabs()->currentWidget()->isAncestorOf(QApplication::focusWidget())
+                && QApplication::focusWidget() == tabs()->currentWidget()->focusProxy();
         };
         tree->setFocus();
         controller()->openProject(sampleFile());
         QVERIFY(pageHasIt());
-        Project *project = controller()->project();
-        const QUuid level = project->maps().first()->id();
+        const QUuid level = project().maps().first()->id();
         for (int time = 0; time < 2; ++time) { // opened, and in front already
             tree->setFocus();
             emit tree->itemDoubleClicked(ProjectTree::MapNode, level);
             QVERIFY(pageHasIt());
         }
-        const int map = tabs->currentIndex();
-        const QPoint scratchTab = tabs->tabBar()->tabRect(0).center();
+        const int map = tabs()->currentIndex();
+        const QPoint scratchTab = tabs()->tabBar()->tabRect(0).center();
         for (int time = 0; time < 2; ++time) { // another tab, and the one in front
             tree->setFocus();
-            QTest::mouseClick(tabs->tabBar(), Qt::LeftButton, {}, scratchTab);
-            QVERIFY(tabs->currentIndex() == 0 && pageHasIt());
+            QTest::mouseClick(tabs()->tabBar(), Qt::LeftButton, {}, scratchTab);
+            QVERIFY(tabs()->currentIndex() == 0 && pageHasIt());
         }
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab, Qt::ControlModifier);
-        QVERIFY(tabs->currentIndex() == map && pageHasIt());
+        QVERIFY(tabs()->currentIndex() == map && pageHasIt());
         tree->setFocus();
-        emit tabs->tabCloseRequested(0);
-        QVERIFY(tabs->count() == 1 && pageHasIt());
+        emit tabs()->tabCloseRequested(0);
+        QVERIFY(tabs()->count() == 1 && pageHasIt());
         tree->setFocus();
         m_window->menus()->viewMenu()->setChecked(ViewMenu::CheckableItem::ScratchEditor, true);
-        QVERIFY(tabs->count() == 2 && pageHasIt());
+        QVERIFY(tabs()->count() == 2 && pageHasIt());
 
-        tabs->tabBar()->setFocus();
-        QTest::keyClick(tabs->tabBar(), Qt::Key_Left);
-        QVERIFY(tabs->currentIndex() == 0 && tabs->tabBar()->hasFocus()); // going through the tabs
+        tabs()->tabBar()->setFocus();
+        QTest::keyClick(tabs()->tabBar(), Qt::Key_Left);
+        QVERIFY(tabs()->currentIndex() == 0 && tabs()->tabBar()->hasFocus()); // going through the tabs
         tree->setFocus();
         m_window->projectActions()->deleteItem(ProjectTree::MapNode, level);
-        QVERIFY(tabs->count() == 1 && tree->hasFocus()); // going through the tree
-        emit tree->itemDoubleClicked(ProjectTree::TileSetNode, project->tileSets().first()->id());
-        QVERIFY(m_window->views().tileEditor->isAncestorOf(QApplication::focusWidget()));
+        QVERIFY(tabs()->count() == 1 && tree->hasFocus()); // going through the tree
+        emit tree->itemDoubleClicked(ProjectTree::TileSetNode, project().tileSets().first()->id());
+        QVERIFY(views().tileEditor->isAncestorOf(QApplication::focusWidget()));
     }
 
     void clickedDockLeavesTheKeyboardToTheMap()
     {
-        m_window->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&*m_window));
+        activateWindow();
         controller()->openProject(sampleFile());
-        const DocumentViews &views = m_window->views();
-        m_window->documentController()->setActiveMap(controller()->project()->maps().first()->id());
-        const QWidget *map = views.tabs->currentWidget()->focusProxy();
-        views.mapSprites->raise();
+        documents().setActiveMap(project().maps().first()->id());
+        const QWidget *map = tabs()->currentWidget()->focusProxy();
+        views().mapSprites->raise();
         QCoreApplication::processEvents();
-        QWidget *places[] = {views.tilePicker->grid(), views.mapSprites->findChild<QListView *>("sprites")->viewport(),
-                             views.mapSprites->findChild<QComboBox *>()};
+        QWidget *places[] = {views().tilePicker->grid(),
+                             views().mapSprites->findChild<QListView *>("sprites")->viewport(),
+                             views().mapSprites->findChild<QComboBox *>()};
         for (QWidget *place : places) {
-            views.project->tree()->setFocus();
+            views().project->tree()->setFocus();
             QTest::mouseClick(place, Qt::LeftButton, {}, {5, 5});
             QCOMPARE(QApplication::focusWidget(), map);
             if (QWidget *popup = QApplication::activePopupWidget())
                 popup->close();
         }
-        views.tilePicker->grid()->setFocus(Qt::TabFocusReason);
-        QTest::keyClick(views.tilePicker->grid(), Qt::Key_Right);
-        QVERIFY(views.tilePicker->grid()->hasFocus());
-        auto *typedIn = new QLineEdit(views.tilePicker->widget());
+        views().tilePicker->grid()->setFocus(Qt::TabFocusReason);
+        QTest::keyClick(views().tilePicker->grid(), Qt::Key_Right);
+        QVERIFY(views().tilePicker->grid()->hasFocus());
+        auto *typedIn = new QLineEdit(views().tilePicker->widget());
         typedIn->show();
         typedIn->setFocus();
         QTest::mouseClick(typedIn, Qt::LeftButton);
         QVERIFY(typedIn->hasFocus());
-        views.tabs->setScratchEditorVisible(true);
-        QTest::mouseClick(views.tilePicker->grid(), Qt::LeftButton, {}, {5, 5});
-        QVERIFY(views.tilePicker->grid()->hasFocus()); // no map in front
+        tabs()->setScratchEditorVisible(true);
+        QTest::mouseClick(views().tilePicker->grid(), Qt::LeftButton, {}, {5, 5});
+        QVERIFY(views().tilePicker->grid()->hasFocus()); // no map in front
     }
 
     void fitsSmallScreens()
     {
         controller()->openProject(sampleFile());
-        const Project *project = controller()->project();
-        DocumentController *documents = m_window->documentController();
-        documents->setActiveBlockEditor(project->blockSets().first()->id());
-        documents->setActiveSpriteEditor(project->spriteBanks().first()->id());
-        documents->setActiveMap(project->maps().first()->id());
-        project->tileSets().first()->setName("Rock & Roll"); // no mnemonic
+        openAll();
+        project().tileSets().first()->setName("Rock & Roll"); // no mnemonic
         QCoreApplication::processEvents();
         m_window->resize(1, 1);
         QVERIFY2(m_window->width() <= 900 && m_window->height() <= 490, // a screen of 1920 x 1080 at scale 2
                  qPrintable(QString("%1 x %2").arg(m_window->width()).arg(m_window->height())));
         QCoreApplication::processEvents();
-        QVERIFY(m_window->views().project->width() < 200);
+        QVERIFY(views().project->width() < 200);
         m_window->resize(1200, 800);
         QCoreApplication::processEvents();
         int marked = 0;
@@ -472,53 +407,33 @@ private slots:
                 marked += bar->tabIcon(tab).isNull() ? 0 : 1;
             }
         }
-        QCOMPARE(m_window->views().tileEditor->toggleViewAction()->text(), "Rock && Roll");
+        QCOMPARE(views().tileEditor->toggleViewAction()->text(), "Rock && Roll");
         QCOMPARE(marked, 3); // palette, tile set and sprites, whose tabs are named after them
-        QList<QImage> icons; // an image, map objects, sprites and a map may have one name
-        for (int tab = 0; tab < 4; ++tab) {
-            const QImage icon = m_window->views().tabs->tabIcon(tab).pixmap(16).toImage();
-            QVERIFY(!icon.isNull() && !icons.contains(icon));
-            icons.append(icon);
+        QList<QImage> icons; // an image, sprites, map objects and a map may have one name
+        for (int tab = 1; tab < 5; ++tab) {
+            icons.append(tabs()->tabIcon(tab).pixmap(16).toImage());
+            QVERIFY(!icons.last().isNull() && icons.count(icons.last()) == 1);
         }
     }
 
     void isReachedByTheKeyboard()
     {
-        m_window->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&*m_window));
-        const DocumentViews &views = m_window->views();
+        activateWindow();
         controller()->openProject(sampleFile());
-        m_window->documentController()->setActiveMap(controller()->project()->maps().first()->id());
-        views.tabs->currentWidget()->setFocus();
+        documents().setActiveMap(project().maps().first()->id());
+        tabs()->currentWidget()->setFocus();
         // in the order of the View menu, without the docks that are behind others
         for (const QWidget *pane :
-             std::initializer_list<QWidget *>{views.project, views.tileEditor, views.tilePicker, views.mapObjects,
-                                              views.mapToolBar, views.tabs, views.project}) {
+             std::initializer_list<QWidget *>{views().project, views().tileEditor, views().tilePicker,
+                                              views().mapObjects, views().mapToolBar, views().tabs, views().project}) {
             QTest::keyClick(&*m_window, Qt::Key_F6);
             QVERIFY2(pane->isAncestorOf(QApplication::focusWidget()), qPrintable(pane->objectName()));
         }
         QTest::keyClick(&*m_window, Qt::Key_F6, Qt::ShiftModifier);
-        QVERIFY(views.tabs->isAncestorOf(QApplication::focusWidget()));
-    }
-
-    void namesItsIconButtons()
-    {
-        controller()->openProject(sampleFile());
-        const Project *project = controller()->project();
-        m_window->documentController()->setActiveBlockEditor(project->blockSets().first()->id());
-        m_window->documentController()->setActiveSpriteEditor(project->spriteBanks().first()->id());
-        m_window->documentController()->setActiveMap(project->maps().first()->id());
-        const auto buttons = m_window->findChildren<QAbstractButton *>();
-        QVERIFY(buttons.size() > 100);
-        for (const QAbstractButton *button : buttons) {
-            const bool ofQt = qobject_cast<QTabBar *>(button->parentWidget()) || button->objectName().startsWith("qt_");
-            const QString where = button->parentWidget()->metaObject()->className();
-            QVERIFY2(ofQt || !button->text().isEmpty() || !button->accessibleName().isEmpty(), qPrintable(where));
-        }
+        QVERIFY(tabs()->isAncestorOf(QApplication::focusWidget()));
     }
 
 private:
-    [[nodiscard]] ProjectController *controller() { return m_window->projectController(); }
     [[nodiscard]] static QString statePath(const char *file)
     {
         return Platform::homeFolder().filePath(".config/quenmora/" + QLatin1String(file));
@@ -534,30 +449,14 @@ private:
 
     void verifyWithoutProject()
     {
-        const DocumentViews &views = m_window->views();
         QCOMPARE(m_window->windowTitle(), QCoreApplication::applicationName());
-        QCOMPARE(m_window->statusBar()->currentMessage(), m_window->windowTitle());
-        QVERIFY(views.tabs->count() == 0 && views.tabs->isEnabled());
-        QVERIFY(!views.mapToolBar->isEnabled());
+        QCOMPARE(message(), m_window->windowTitle());
+        QVERIFY(tabs()->count() == 0 && tabs()->isEnabled());
+        QVERIFY(!views().mapToolBar->isEnabled());
         QVERIFY(!m_window->menus()->viewMenu()->isChecked(ViewMenu::CheckableItem::ScratchEditor));
         for (const DockWidget *dock : m_window->findChildren<DockWidget *>())
             QVERIFY2(!dock->isActive(), qPrintable(dock->objectName()));
     }
-
-    bool drop(const QList<QUrl> &urls)
-    {
-        QMimeData data;
-        data.setUrls(urls);
-        QDragEnterEvent enter({50, 50}, Qt::CopyAction, &data, Qt::LeftButton, {});
-        QApplication::sendEvent(&*m_window, &enter);
-        QDropEvent event({50, 50}, Qt::CopyAction, &data, Qt::LeftButton, {});
-        QApplication::sendEvent(&*m_window, &event);
-        QCoreApplication::processEvents();
-        return enter.isAccepted() && event.isAccepted();
-    }
-
-    TemporaryFolder m_folder;
-    std::optional<MainWindow> m_window;
 };
 
 QUENMORA_TEST_MAIN(TestMainWindow)

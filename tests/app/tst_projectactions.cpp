@@ -2,26 +2,12 @@
 #include "app/menus/menubar.h"
 #include "app/menus/spritemenu.h"
 #include "app/projectactions.h"
-#include "model/image.h"
-#include "model/map.h"
-#include "model/mapobjects.h"
-#include "model/palette.h"
-#include "model/spritebank.h"
-#include "model/tileset.h"
 #include "pictures/tilereduction.h"
-#include "support/modeltools.h"
 #include "support/sampleproject.h"
 #include "support/testmain.h"
 
-#include <QMessageBox>
-#include <QPainter>
-#include <QProgressDialog>
-#include <QSignalSpy>
-#include <QTest>
-#include <QUndoStack>
-
-#include <array>
-#include <memory>
+#include <QtTest>
+#include <QtWidgets>
 
 namespace {
 
@@ -67,66 +53,22 @@ private slots:
 
     void cleanup() { m_window.reset(); } // no window outlives the application
 
-    void needsAProject()
+    void copiesWhatCanBeCopied()
     {
-        m_project.reset();
-        m_actions->createSprites(SpriteDialog::NewPalette, "x", {});
-        m_actions->createMapFromSelection({}, {1, 1});
-        m_actions->deleteItem(ProjectTree::MapNode, {});
-        m_actions->importMap("x.nxm");
-        m_actions->importPalette({}, "x.pal");
-        QVERIFY(m_ready.isNull() && shownFailure().isEmpty());
-    }
-
-    void copiesAndDeletes_data()
-    {
-        QTest::addColumn<Node>("node");
-        QTest::addColumn<int>("copies");
-        QTest::addColumn<QString>("title"); // of the refusal to delete one in use
-        QTest::addColumn<QString>("text");
-        QTest::newRow("palette")
-            << ProjectTree::PaletteNode << 1 << "Palette In Use"
-            << "You may not delete this palette; it is used by one or more sprites, tiles or images";
-        QTest::newRow("tile set") << ProjectTree::TileSetNode << 1 << "Tile Set In Use"
-                                  << "You may not delete this Tile Set; it is used by one or more maps";
-        QTest::newRow("objects") << ProjectTree::MapObjectsNode << 0 << "Objects in use"
-                                 << "You may not delete these objects; they are in use by one or more maps";
-        QTest::newRow("sprites") << ProjectTree::SpriteBankNode << 0 << QString() << QString();
-        QTest::newRow("map") << ProjectTree::MapNode << 1 << QString() << QString();
-        QTest::newRow("image") << ProjectTree::ImageNode << 0 << QString() << QString();
-    }
-
-    void copiesAndDeletes()
-    {
-        QFETCH(Node, node);
-        QFETCH(int, copies);
-        QFETCH(QString, title);
-        QFETCH(QString, text);
         SampleProject::fill(*m_project);
-        // the first of a kind is used by others, the last is not
-        const QUuid firsts[]{m_project->palettes().first()->id(),  m_project->tileSets().first()->id(),
-                             m_project->blockSets().first()->id(), m_project->spriteBanks().first()->id(),
-                             m_project->maps().first()->id(),      m_project->images().first()->id()};
-        const QUuid lasts[]{m_project->palettes().last()->id(),  m_project->tileSets().last()->id(),
-                            m_project->blockSets().last()->id(), m_project->spriteBanks().last()->id(),
-                            m_project->maps().last()->id(),      m_project->images().last()->id()};
-        qsizetype count = assetCount();
-        m_actions->copyItem(node, QUuid::createUuid());
-        QCOMPARE(assetCount(), count);
-        m_actions->copyItem(node, firsts[node]);
-        count += copies;
-        QCOMPARE(assetCount(), count);
-        QSignalSpy failed(m_actions.get(), &ProjectActions::failed);
-        connect(m_actions.get(), &ProjectActions::itemDeleted, this, [&](Node gone, const QUuid &id) {
-            QVERIFY(gone == node && (id == firsts[node] || id == lasts[node]));
-            --count; // it is gone by now
-            QCOMPARE(assetCount(), count);
-        });
-        const qsizetype before = count;
-        m_actions->deleteItem(node, firsts[node]);
-        m_actions->deleteItem(node, lasts[node]);
-        QCOMPARE(failed, title.isEmpty() ? QList<QVariantList>() : QList<QVariantList>({{text, title}}));
-        QCOMPARE(count, before - (title.isEmpty() ? 2 : 1));
+        const std::tuple<Node, QUuid, int> cases[]{
+            {ProjectTree::PaletteNode, m_project->palettes().first()->id(), 1},
+            {ProjectTree::TileSetNode, m_project->tileSets().first()->id(), 1},
+            {ProjectTree::MapObjectsNode, m_project->blockSets().first()->id(), 0},
+            {ProjectTree::SpriteBankNode, m_project->spriteBanks().first()->id(), 0},
+            {ProjectTree::MapNode, m_project->maps().first()->id(), 1},
+            {ProjectTree::ImageNode, m_project->images().first()->id(), 0},
+            {ProjectTree::MapNode, QUuid::createUuid(), 0}};
+        for (const auto &[node, id, copies] : cases) {
+            const qsizetype count = assetCount();
+            m_actions->copyItem(node, id);
+            QCOMPARE(assetCount(), count + copies);
+        }
     }
 
     void importsNextData_data()
@@ -228,26 +170,6 @@ private slots:
         QVERIFY2(shownFailure().startsWith("Tiles that lost colours: 1 of 2.\n"), qPrintable(shownFailure()));
     }
 
-    void importsTilesFoundForAPicture()
-    {
-        QImage picture(24, 8, QImage::Format_ARGB32); // turned tiles, of a level that quantising changes, with a hole
-        picture.fill(qRgb(219, 73, 0));
-        for (const QPoint at : {QPoint(1, 0), QPoint(8 + 7, 1), QPoint(16 + 6, 0)})
-            picture.setPixel(at, 0);
-        m_actions->importReduction(m_folder("level.one.png"), TileReduction::of(picture, {}));
-        const QPointer<Map> map = m_project->map(m_ready);
-        QVERIFY(map && map->name() == "level.one" && map->tileSet()->count() == 512);
-        QCOMPARE(map->tileTransparencyIndex(), 15);
-        QCOMPARE(map->tileSet()->palette()->transparencyIndex(), 15);
-        QCOMPARE(map->tileSet()->palette()->rawColour(0), 0xC800);
-        const TileMap::Rows rows = map->tileLayer()->rows();
-        for (const TileMap::TileData &cell : rows.first())
-            QCOMPARE(cell.index, 0);
-        const QImage shown = map->tileLayer()->render({0, 0, 3, 1}, 1, 15);
-        QCOMPARE(shown.convertToFormat(QImage::Format_ARGB32_Premultiplied),
-                 picture.convertToFormat(QImage::Format_ARGB32_Premultiplied));
-    }
-
     void importedPaletteIsOneUndoStep()
     {
         const QPointer<Palette> palette = m_project->palette(makePalette());
@@ -329,18 +251,8 @@ private slots:
         QCOMPARE(m_project->map(m_ready)->size(), QSize(2, 2));
     }
 
-    void keepsTheMachinesLevels_data()
-    {
-        QTest::addColumn<bool>("keep");
-        QTest::addColumn<int>("sixth"); // the level that 219 becomes
-        QTest::newRow("kept") << true << 6;
-        QTest::newRow("quantised") << false << 7;
-    }
-
     void keepsTheMachinesLevels()
     {
-        QFETCH(bool, keep);
-        QFETCH(int, sixth);
         QImage picture(16, 16, QImage::Format_RGB32); // greys, as converters show them
         for (int x = 0; x < 16; ++x) {
             const int grey = std::array{0, 36, 73, 109, 146, 182, 219, 255}[size_t(x / 2)];
@@ -349,20 +261,21 @@ private slots:
         }
         QVERIFY(picture.save(m_folder("greys.png")));
         const auto greyOf = [](int level) { return quint16(level * 0x2400 | level >> 1 << 8 | (level & 1)); };
-        m_actions->importSpritePicture({m_folder("greys.png"), "Greys", Quenmora::EightBit, {}, keep});
-        const QPointer<SpriteBank> bank = m_project->spriteBank(m_ready);
-        const QImage sprite = bank->spriteImage(bank->count() - 1, false, false, false);
-        for (int level = 0; level < 8; ++level) {
-            const QRgb shown = sprite.pixel(2 * level, 0);
-            QCOMPARE(bank->palette()->rawColour(int(bank->palette()->colourTable().indexOf(shown))),
-                     greyOf(level == 6 ? sixth : level));
+        for (const bool keep : {true, false}) {
+            m_actions->importSpritePicture({m_folder("greys.png"), "Greys", Quenmora::EightBit, {}, keep});
+            const QPointer<SpriteBank> bank = m_project->spriteBank(m_ready);
+            const QImage sprite = bank->spriteImage(bank->count() - 1, false, false, false);
+            for (int level = 0; level < 8; ++level) {
+                const auto entry = bank->palette()->colourTable().indexOf(sprite.pixel(2 * level, 0));
+                QCOMPARE(bank->palette()->rawColour(int(entry)), greyOf(level == 6 && !keep ? 7 : level));
+            }
         }
         m_actions->importPalette({}, m_folder("greys.png"));
         const QPointer<Palette> palette = m_project->palette(m_ready);
         for (int level = 0; level < 8; ++level)
             QCOMPARE(palette->rawColour(level), greyOf(level));
         // in the colours of that palette, each has its own entry, of which 18 are black
-        m_actions->importSpritePicture({m_folder("greys.png"), "Same", Quenmora::EightBit, palette->id(), keep});
+        m_actions->importSpritePicture({m_folder("greys.png"), "Same", Quenmora::EightBit, palette->id(), true});
         const QPointer<SpriteBank> same = m_project->spriteBank(m_ready);
         for (int level = 0; level < 8; ++level)
             QCOMPARE(same->spriteImage(1, false, false, false).pixelIndex(2 * level, 0), level);
@@ -383,49 +296,20 @@ private slots:
         QCOMPARE(shownFailure(), "The file is neither a palette nor a picture that can be read");
     }
 
-    void importsSprites_data()
+    void importsSpriteData()
     {
-        QTest::addColumn<bool>("picture");
-        QTest::addColumn<bool>("newPalette");
-        QTest::addColumn<int>("sprites");
-        QTest::addColumn<quint16>("word"); // of entry 1 of the palette
-        QTest::newRow("picture, remapped") << true << false << 3 << quint16(0x0101); // a blank one in front
-        QTest::newRow("picture, cut") << true << true << 2 << quint16(0xE000);
-        QTest::newRow("data") << false << false << 3 << quint16(0x0101);
-        QTest::newRow("data, new palette") << false << true << 3 << quint16(0x0101);
-    }
-
-    void importsSprites()
-    {
-        QFETCH(bool, picture);
-        QFETCH(bool, newPalette);
-        const QUuid palette = makePalette();
-        QImage image(32, 16, QImage::Format_RGB32);
-        image.fill(Qt::black);
-        for (int x = 16; x < 24; ++x)
-            image.setPixel(x, 0, qRgb(255, 0, 0));
-        QVERIFY(image.save(m_folder("hero.png")));
         m_folder("hero.spr", QByteArray(256, '\7') + QByteArray(256, '\5'));
         QUndoStack stack;
         const EditRecorder recorder(m_project.get(), [&stack](const QUuid &) { return &stack; });
-        const SpriteImport import{m_folder(picture ? "hero.png" : "hero.spr"), "Hero", Quenmora::FourBit,
-                                  newPalette ? QUuid() : palette};
-        if (picture)
-            m_actions->importSpritePicture(import);
-        else
-            m_actions->importSpriteData(import);
-        const QPointer<SpriteBank> bank = m_project->spriteBank(m_ready);
-        QVERIFY(bank);
-        QCOMPARE(bank->name(), "Hero");
-        QCOMPARE(bank->depth(), Quenmora::FourBit);
-        QTEST(bank->count(), "sprites");
-        QCOMPARE(bank->palette()->name(), newPalette ? "Hero" : "Main");
-        QTEST(bank->palette()->rawColour(1), "word");
-        const QImage last = bank->spriteImage(bank->count() - 1, false, false, false);
-        if (picture)
-            QCOMPARE(last.pixel(0, 0), qRgb(255, 0, 0));
-        else
-            QCOMPARE(last.pixelIndex(0, 0), 5);
+        for (const QUuid &palette : {makePalette(), QUuid()}) {
+            m_actions->importSpriteData({m_folder("hero.spr"), "Hero", Quenmora::FourBit, palette});
+            const QPointer<SpriteBank> bank = m_project->spriteBank(m_ready);
+            QVERIFY(bank && bank->name() == "Hero" && bank->depth() == Quenmora::FourBit);
+            QCOMPARE(bank->count(), 3); // with a blank one in front
+            QCOMPARE(bank->palette()->name(), palette.isNull() ? "Hero" : "Main");
+            QCOMPARE(bank->palette()->rawColour(1), 0x0101);
+            QCOMPARE(bank->spriteImage(2, false, false, false).pixelIndex(0, 0), 5);
+        }
         QCOMPARE(stack.count(), 0); // what is made by an import is no edit
     }
 
@@ -434,11 +318,14 @@ private slots:
         QTest::addColumn<Quenmora::Sprite>("depth");
         QTest::addColumn<bool>("newPalette");
         QTest::addColumn<int>("colours"); // of the picture
-        QTest::newRow("8 bits, remapped") << Quenmora::EightBit << false << 256;
-        QTest::newRow("8 bits, own colours") << Quenmora::EightBit << true << 255;
-        QTest::newRow("8 bits, a colour too many") << Quenmora::EightBit << true << 256;
-        QTest::newRow("4 bits, remapped") << Quenmora::FourBit << false << 256;
-        QTest::newRow("4 bits, own colours") << Quenmora::FourBit << true << 15;
+        QTest::addColumn<bool>("reduced");
+        QTest::newRow("8 bits, remapped") << Quenmora::EightBit << false << 256 << false;
+        QTest::newRow("8 bits, own colours") << Quenmora::EightBit << true << 255 << false;
+        QTest::newRow("8 bits, a colour too many") << Quenmora::EightBit << true << 256 << false;
+        QTest::newRow("4 bits, remapped") << Quenmora::FourBit << false << 256 << false;
+        QTest::newRow("4 bits, own colours") << Quenmora::FourBit << true << 15 << false;
+        QTest::newRow("8 bits, reduced") << Quenmora::EightBit << true << 256 << true;
+        QTest::newRow("4 bits, reduced") << Quenmora::FourBit << false << 256 << true;
     }
 
     void importedSpritesAreClearWhereThePictureIs()
@@ -446,6 +333,7 @@ private slots:
         QFETCH(Quenmora::Sprite, depth);
         QFETCH(bool, newPalette);
         QFETCH(int, colours);
+        QFETCH(bool, reduced);
         const QUuid standard = makePalette();
         // every colour of the standard palette, that of the transparent index too
         QImage picture(16, 32, QImage::Format_ARGB32);
@@ -455,7 +343,10 @@ private slots:
             picture.setPixel(i % 16, i / 16, (rgb & RGB_MASK) | uint(alpha) << 24);
         }
         QVERIFY(picture.save(m_folder("hero.png")));
-        m_actions->importSpritePicture({m_folder("hero.png"), "Hero", depth, newPalette ? QUuid() : standard});
+        SpriteImport import{m_folder("hero.png"), "Hero", depth, newPalette ? QUuid() : standard};
+        if (reduced)
+            import.reduction = Dithering::Diffusion;
+        m_actions->importSpritePicture(import);
         const QPointer<SpriteBank> bank = m_project->spriteBank(m_ready);
         QVERIFY(bank && bank->count() == (newPalette ? 2 : 3));
         QCOMPARE(bank->palette()->transparencyIndex(), newPalette ? bank->clearPixels().pixel() : -1);
@@ -470,52 +361,6 @@ private slots:
                 QCOMPARE(shown, hardware.colour(0).rgb());
             }
         }
-    }
-
-    void reducedSpritesShowTheWholePicture_data()
-    {
-        QTest::addColumn<Quenmora::Sprite>("depth");
-        QTest::addColumn<bool>("newPalette");
-        for (const bool newPalette : {false, true}) {
-            QTest::addRow("8 bits %d", newPalette) << Quenmora::EightBit << newPalette;
-            QTest::addRow("4 bits %d", newPalette) << Quenmora::FourBit << newPalette;
-        }
-    }
-
-    /// In colours that are near, with the holes where they were, and without telling the recorder of an edit.
-    void reducedSpritesShowTheWholePicture()
-    {
-        QFETCH(Quenmora::Sprite, depth);
-        QFETCH(bool, newPalette);
-        const QUuid standard = makePalette();
-        QImage picture(64, 32, QImage::Format_ARGB32);
-        for (int i = 0; i < 64 * 32; ++i)
-            picture.setPixel(i % 64, i / 64, qRgba(i % 64 * 4, i / 64 * 8, 128, i % 5 == 0 ? 0 : 255));
-        QVERIFY(picture.save(m_folder("hero.png")));
-        m_actions->importSpritePicture({.file = m_folder("hero.png"),
-                                        .name = "Hero",
-                                        .depth = depth,
-                                        .paletteId = newPalette ? QUuid() : standard,
-                                        .reduction = Dithering::Diffusion});
-        const QPointer<SpriteBank> bank = m_project->spriteBank(m_ready);
-        QVERIFY(bank && bank->count() >= 8);
-        QSet<int> shownPixels;
-        double error = 0;
-        for (int i = 0; i < 64 * 32; ++i) {
-            const int sprite = bank->count() - 8 + i % 64 / 16 + i / 64 / 16 * 4;
-            const int x = i % 16;
-            const int y = i / 64 % 16;
-            const int stored = bank->spriteImage(sprite, false, false, false).pixelIndex(x, y);
-            const QColor shown = bank->renderSprite(sprite, stored / 16, false, false, false).pixelColor(x, y);
-            QCOMPARE(shown.alpha(), i % 5 == 0 ? 0 : 255);
-            if (shown.alpha() == 0)
-                continue;
-            shownPixels.insert(stored);
-            error += std::abs(qRed(picture.pixel(i % 64, i / 64)) - shown.red());
-        }
-        QVERIFY(depth == Quenmora::EightBit ? shownPixels.size() > 32 : shownPixels.size() <= 15);
-        if (newPalette) // the standard palette has no group of 16 for such a picture
-            QVERIFY(error / (64 * 32) < (depth == Quenmora::EightBit ? 16 : 40));
     }
 
     void spriteFailureLeavesNothing()
