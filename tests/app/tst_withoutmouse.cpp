@@ -1,4 +1,3 @@
-#include "app/mainwindow.h"
 #include "editors/canvas/canvas.h"
 #include "editors/canvas/spritelist.h"
 #include "editors/canvas/tilepickergrid.h"
@@ -6,63 +5,26 @@
 #include "editors/map/mapgrid.h"
 #include "editors/map/spritepropertiespopover.h"
 #include "editors/map/terrainmarks.h"
-#include "model/map.h"
-#include "model/mapobjects.h"
-#include "model/spritebank.h"
-#include "model/tileset.h"
-#include "support/modeltools.h"
-#include "support/testmain.h"
+#include "support/windowscene.h"
 #include "ui/focusring.h"
 #include "ui/keycursor.h"
 #include "ui/keymark.h"
-
-#include <QAccessible>
-#include <QtTest>
-#include <QtWidgets>
 
 #include <optional>
 
 using namespace Quenmora::Ui;
 
-namespace {
-
-/// Widgets that Tab reaches and that say nothing about what they are.
-QStringList namelessIn(const QWidget *window)
-{
-    QStringList found;
-    const auto widgets = window->findChildren<QWidget *>();
-    for (QWidget *widget : widgets) {
-        const auto *bar = qobject_cast<QTabBar *>(widget); // an empty one waits for docks
-        if ((bar && bar->count() == 0) || !(widget->focusPolicy() & Qt::TabFocus) || widget->focusProxy()
-            || widget->window() != window)
-            continue;
-        const QAccessibleInterface *met = QAccessible::queryAccessibleInterface(widget);
-        if (met && !met->text(QAccessible::Name).isEmpty())
-            continue;
-        QString path;
-        for (const QWidget *w = widget; w && w != window; w = w->parentWidget())
-            path.prepend('/' + QString::fromLatin1(w->metaObject()->className()));
-        found.append(window->windowTitle() + path);
-    }
-    return found;
-}
-
-} // namespace
-
-class TestWithoutMouse : public QObject
+class TestWithoutMouse : public QObject, protected WindowScene
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { Update::UpdateChecker::setFeedAddress({}); }
-
     void init()
     {
-        m_window.emplace();
+        openWindow();
         m_window->resize(1400, 900);
-        m_window->projectController()->openProject(projectFile());
-        m_window->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&*m_window));
+        controller()->openProject(projectFile());
+        activateWindow();
         documents().setActiveMap(project().maps().first()->id());
         grid().clearFocus();
         grid().setFocus(Qt::TabFocusReason);
@@ -89,7 +51,7 @@ private slots:
         grid().setCurrentTileIndex(0);
         key(Qt::Key_Return);
         QCOMPARE(grid().currentTileIndex(), 3);
-        QCOMPARE(m_window->views().tilePicker->findChild<TilePickerGrid *>()->selectedIndex(), 3);
+        QCOMPARE(views().tilePicker->findChild<TilePickerGrid *>()->selectedIndex(), 3);
 
         key(Qt::Key_Down, Qt::ControlModifier | Qt::ShiftModifier);
         key(Qt::Key_PageDown, Qt::ShiftModifier);
@@ -123,14 +85,14 @@ private slots:
         QCOMPARE(map().sprites().size(), 1);
         QCOMPARE(QPoint(map().sprites().first().x, map().sprites().first().y), QPoint(16, 64));
         key(Qt::Key_Space); // a click opens its properties
-        QVERIFY(view().popover()->isVisible());
+        QVERIFY(page<MapEditor::View>()->popover()->isVisible());
     }
 
     void drawsATile()
     {
-        Canvas &canvas = *m_window->views().tileEditor->canvas();
+        Canvas &canvas = *views().tileEditor->canvas();
         canvas.setFocus(Qt::TabFocusReason);
-        m_window->views().tileEditor->setTileIndex(2);
+        views().tileEditor->setTileIndex(2);
         canvas.setInk(5);
         canvas.setPaper(6);
         const auto press = [&canvas](Qt::Key code, Qt::KeyboardModifiers keys = {}) {
@@ -178,7 +140,7 @@ private slots:
 
     void movesInThePickers()
     {
-        auto &picker = *m_window->views().tilePicker->findChild<TilePickerGrid *>();
+        auto &picker = *views().tilePicker->findChild<TilePickerGrid *>();
         TileSet &tiles = *project().tileSets().first();
         picker.setFocus();
         picker.setSelectedIndex(1);
@@ -194,7 +156,7 @@ private slots:
         QCOMPARE(CellTable::of(&picker)->text(CellTable::of(&picker)->current()), "Tile 19, palette offset 0");
 
         documents().setActiveSpriteEditor(project().spriteBanks().first()->id());
-        auto &list = *m_window->views().spriteEditor->findChild<SpriteEditor::SpriteList *>();
+        auto &list = *views().spriteEditor->findChild<SpriteEditor::SpriteList *>();
         list.setFocus();
         QTest::keyClick(&list, Qt::Key_Insert);
         QCOMPARE(project().spriteBanks().first()->count(), 2);
@@ -223,8 +185,8 @@ private slots:
 
     void takesTheChosenSpriteAgain()
     {
-        auto *list = m_window->views().mapSprites->findChild<QListView *>("sprites");
-        m_window->views().mapSprites->raise();
+        auto *list = views().mapSprites->findChild<QListView *>("sprites");
+        views().mapSprites->raise();
         list->setCurrentIndex(list->model()->index(0, 0));
         grid().setMode(Draw);
         QTest::keyClick(list, Qt::Key_Return);
@@ -234,7 +196,7 @@ private slots:
     void tellsWhereTheKeyboardIs()
     {
         QStringList told;
-        Canvas &canvas = *m_window->views().tileEditor->canvas();
+        Canvas &canvas = *views().tileEditor->canvas();
         for (const QWidget *widget : std::initializer_list<const QWidget *>{&grid(), &canvas}) {
             CellTable *cells = CellTable::of(widget);
             connect(cells, &CellTable::told, this, [cells, &told](QPoint cell) { told.append(cells->text(cell)); });
@@ -272,7 +234,7 @@ private slots:
     void showsWhereTheKeyboardIs()
     {
         const auto ring = [this] { return m_window->findChild<FocusRing *>()->frame(); };
-        auto &picker = *m_window->views().tilePicker->findChild<TilePickerGrid *>();
+        auto &picker = *views().tilePicker->findChild<TilePickerGrid *>();
         picker.setFocus(Qt::MouseFocusReason);
         QVERIFY(!ring());
         grid().setFocus();
@@ -281,64 +243,21 @@ private slots:
         const QRect seen(picker.mapTo(&*m_window, QPoint(0, 0)), picker.visibleRegion().boundingRect().size());
         QVERIFY(ring()->geometry().contains(seen));
         // docks that are behind others
-        m_window->views().tileEditor->raise();
+        views().tileEditor->raise();
         documents().setActiveSpriteEditor(project().spriteBanks().first()->id());
         documents().setActivePalette(project().palettes().first()->id());
-        m_window->views().palette->findChild<QAbstractButton *>()->setFocus();
-        for (const QDockWidget *dock : std::initializer_list<const QDockWidget *>{
-                 m_window->views().tileEditor, m_window->views().spriteEditor, m_window->views().palette}) {
+        views().palette->findChild<QAbstractButton *>()->setFocus();
+        for (const QDockWidget *dock :
+             std::initializer_list<const QDockWidget *>{views().tileEditor, views().spriteEditor, views().palette}) {
             QTest::keyClick(&*m_window, Qt::Key_F6, Qt::ControlModifier);
             QVERIFY2(dock->isAncestorOf(QApplication::focusWidget()), qPrintable(dock->objectName()));
             QVERIFY2(!dock->visibleRegion().isEmpty(), qPrintable(dock->objectName()));
         }
     }
 
-    void namesEverythingThatTakesTheKeyboard()
-    {
-        documents().setActiveBlockEditor(project().blockSets().first()->id());
-        documents().setActiveSpriteEditor(project().spriteBanks().first()->id());
-        documents().setActivePalette(project().palettes().first()->id());
-        QCoreApplication::processEvents();
-        QStringList found = namelessIn(&*m_window);
-        int dialogs = 0;
-        const auto look = [&] {
-            QCoreApplication::processEvents();
-            for (QWidget *window : QApplication::topLevelWidgets()) {
-                if (window == &*m_window || !window->isVisible() || qobject_cast<QFileDialog *>(window))
-                    continue;
-                found += namelessIn(window);
-                ++dialogs;
-                window->close();
-            }
-        };
-        m_window->menus()->setFileChooser([](const FileRequest &, QWidget *) { return QString(); });
-        for (const QAction *title : m_window->menus()->actions()) {
-            for (QAction *action : title->menu()->actions()) {
-                const QString text = action->text().remove('&');
-                const bool asks =
-                    QStringList{
-                        "New",           "New Palette", "New Tile Set",    "New Map",           "New Image",
-                        "Preferences",   "About",       "Export Project…", "Swap Palette",      "Create Animations",
-                        "Replace Tile…", "Go to Cell…", "Edit Terrains…",  "Check for Updates…"}
-                        .contains(text);
-                if (asks && action->isEnabled())
-                    action->trigger();
-                look();
-            }
-        }
-        QVERIFY2(found.isEmpty(), qPrintable(found.join('\n')));
-        QVERIFY2(dialogs >= 10, qPrintable(QString::number(dialogs)));
-    }
-
 private:
-    [[nodiscard]] Project &project() { return *m_window->projectController()->project(); }
-    [[nodiscard]] DocumentController &documents() { return *m_window->documentController(); }
     [[nodiscard]] Map &map() { return *project().maps().first(); }
-    [[nodiscard]] MapEditor::View &view()
-    {
-        return *qobject_cast<MapEditor::View *>(m_window->views().tabs->currentWidget());
-    }
-    [[nodiscard]] MapEditor::MapGrid &grid() { return *view().grid(); }
+    [[nodiscard]] MapEditor::MapGrid &grid() { return *page<MapEditor::View>()->grid(); }
     [[nodiscard]] const QWidget *mark()
     {
         const auto children = grid().findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
@@ -365,7 +284,7 @@ private:
     /// A project with a map of 120 × 90 empty cells, larger than any view of it.
     [[nodiscard]] QString projectFile()
     {
-        const QString file = m_folder.filePath("level.quenmora");
+        const QString file = m_folder("level.quenmora");
         ProjectStore store;
         const QPointer<Project> made = store.newProject({});
         const auto palette = made->createPalette(CreateAction::DefaultNext, "Colours");
@@ -377,9 +296,6 @@ private:
         made->createMap("Level", tiles->id(), {120, 90});
         return store.saveAs(file) ? file : QString();
     }
-
-    QTemporaryDir m_folder;
-    std::optional<MainWindow> m_window;
 };
 
 QUENMORA_TEST_MAIN(TestWithoutMouse)
