@@ -8,6 +8,7 @@
 #include "ui/outline.h"
 #include "ui/popover.h"
 #include "ui/readablehints.h"
+#include "ui/scrollbar.h"
 #include "ui/svgiconengine.h"
 #include "ui/toolpalette.h"
 
@@ -163,6 +164,18 @@ private slots:
         stepper.setRange(1, 1);
         QCOMPARE(changed, (QList<QVariantList>{{2}, {3}, {2}, {1}}));
         QVERIFY(!buttons[0]->isEnabled() && !buttons[1]->isEnabled());
+    }
+
+    void scrollBarButtonsNameTheirEnd()
+    {
+        ScrollBar bar(Qt::Horizontal);
+        QStringList heard;
+        connect(&bar, &ScrollBar::add, this, [&](Quenmora::Position end) { heard += QString("add %1").arg(end); });
+        connect(&bar, &ScrollBar::remove, this,
+                [&](Quenmora::Position end) { heard += QString("remove %1").arg(end); });
+        for (QToolButton *button : bar.findChildren<QToolButton *>()) // from the beginning to the end
+            button->click();
+        QCOMPARE(heard, QStringList({"add 0", "remove 0", "remove 1", "add 1"}));
     }
 
     void checkListTicksByClickAndByKey()
