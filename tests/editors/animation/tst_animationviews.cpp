@@ -9,6 +9,7 @@
 #include "undo/editrecorder.h"
 
 #include "support/modeltools.h"
+#include "support/paintwatch.h"
 #include "support/testmain.h"
 
 #include <QAction>
@@ -285,11 +286,12 @@ private slots:
         SpriteTab f;
         const auto listed = [&f] { return f.item(0)->icon().pixmap(32).toImage().pixelColor(1, 1); };
         f.press(Control::Next);
-        QCoreApplication::processEvents(); // the list has drawn its pictures
-        f.palette->setColour(0, Qt::green, false);
-        QTRY_COMPARE(listed(), f.palette->colour(0));
-        f.run->frame(0)->setIndex(0, 0, 3);
-        QTRY_COMPARE(listed(), f.palette->colour(3));
+        f.view->show();
+        PaintWatch watch(f.list()->findChild<QListWidget *>()->viewport());
+        QVERIFY(!watch.after([&f] { f.palette->setColour(0, Qt::green, false); }).isEmpty());
+        QCOMPARE(listed(), f.palette->colour(0));
+        QVERIFY(!watch.after([&f] { f.run->frame(0)->setIndex(0, 0, 3); }).isEmpty());
+        QCOMPARE(listed(), f.palette->colour(3));
         f.bank->deleteSprite(0); // sprite 1 is now sprite 0
         QCOMPARE(f.cells()->grab().toImage().pixelColor(1, 1), f.palette->colour(1));
     }
