@@ -20,26 +20,25 @@ PaletteOrderCommand::~PaletteOrderCommand() = default;
 void PaletteOrderCommand::undo()
 {
     apply(m_order.inverse());
-    moveCycles(m_order.inverse(), std::exchange(m_lost, {}));
+    moveCycles(m_order.inverse());
 }
 
 void PaletteOrderCommand::redo()
 {
     apply(m_order);
-    m_lost = moveCycles(m_order, {});
+    moveCycles(m_order);
 }
 
-ColourCycles::List PaletteOrderCommand::moveCycles(const PaletteOrder &order, const ColourCycles::List &others) const
+void PaletteOrderCommand::moveCycles(const PaletteOrder &order)
 {
     if (!m_project || !m_palette)
-        return {};
+        return;
     ProjectExtras &extras = *m_project->extras();
     const ColourCycles::List before = ColourCycles::of(extras, m_palette->id());
     const ReorderedCycles moved = ReorderedCycles::of(before, order);
-    const ColourCycles::List after = ColourCycles::sound(moved.kept + others);
+    const ColourCycles::List after = ColourCycles::sound(moved.kept + std::exchange(m_lost, moved.lost));
     if (after != before)
         ColourCycles::set(extras, m_palette->id(), after);
-    return moved.lost;
 }
 
 void PaletteOrderCommand::apply(const PaletteOrder &order) const

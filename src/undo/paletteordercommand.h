@@ -11,7 +11,8 @@ class Project;
 /// Undo step of a palette whose entries changed places, and of all pictures that are drawn with it. It never merges.
 ///
 /// Undo moves the entries back, with the pixels that the pictures have by then. The ranges whose colours go round move
-/// with their entries; those that could not come back with undo.
+/// with their entries; those that could not come back with undo, and with redo, unless others have their entries by
+/// then.
 class PaletteOrderCommand final : public QUndoCommand
 {
 public:
@@ -24,11 +25,11 @@ public:
 
 private:
     void apply(const PaletteOrder &order) const;
-    /// Moves the ranges, as far as they can, and puts others beside them. The ones that cannot.
-    ColourCycles::List moveCycles(const PaletteOrder &order, const ColourCycles::List &others) const;
+    /// Moves the ranges as far as they can, and brings back those that could not the last time.
+    void moveCycles(const PaletteOrder &order);
 
     QPointer<Project> m_project;
     QPointer<Palette> m_palette;
     PaletteOrder m_order;
-    ColourCycles::List m_lost; ///< ranges that the order tore apart
+    ColourCycles::List m_lost; ///< ranges that were torn apart the last time
 };

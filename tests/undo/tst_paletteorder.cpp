@@ -159,11 +159,30 @@ private slots:
             QCOMPARE(cycles(), before);
             stack.redo();
         }
-        // one that was made since has its entries before those that come back
-        const ColourCycle since{22, 25};
-        ColourCycles::set(*project.extras(), palette->id(), {since});
+    }
+
+    void rangesThatWereMadeSinceStay()
+    {
+        Project project;
+        const QPointer<Palette> palette = project.createPalette(CreateAction::DefaultNext, "Colours");
+        const auto cycles = [&] { return ColourCycles::of(*project.extras(), palette->id()); };
+        const auto make = [&](const ColourCycle &cycle) {
+            ColourCycles::set(*project.extras(), palette->id(), {cycle});
+        };
+        const ColourCycle around{22, 25};
+        const ColourCycle beside{21, 23};
+        QUndoStack stack;
+        make({20, 23});
+        stack.push(new PaletteOrderCommand("Sort", &project, palette, exchanged(23, 24)));
+        make(around);
         stack.undo();
-        QVERIFY(!cycles().contains(before.first()));
+        QCOMPARE(cycles(), (ColourCycles::List{around})); // which has entries of the first one
+        stack.redo();
+        make(beside);
+        stack.undo();
+        QCOMPARE(cycles(), ColourCycles::List()); // undo tears it apart
+        stack.redo();
+        QCOMPARE(cycles(), (ColourCycles::List{beside}));
     }
 
     void pixelsAreCounted()
