@@ -1,4 +1,5 @@
 // Undo of edits, on maps of several sizes: the time and the memory of a step follow the edit, not the map.
+#include "level.h"
 #include "model/mapobjects.h"
 #include "model/palette.h"
 #include "undo/editrecorder.h"
@@ -128,6 +129,36 @@ void undoTileDeletion(benchmark::State &state)
     }
 }
 
+/// Moves a tile past others, in a project whose map shows all of them.
+void moveTile(benchmark::State &state)
+{
+    MapProject project(int(state.range(0)));
+    project.map().tileLayer()->restore(structures(project.map().size()));
+    QUndoStack stack;
+    const EditRecorder recorder(&project.project(), [&stack](const QUuid &) { return &stack; });
+    for (auto _ : state) {
+        project.tileSet().moveTile(1, 1 + int(state.range(1)));
+        state.PauseTiming();
+        stack.undo();
+        state.ResumeTiming();
+    }
+}
+
+/// Inserts a tile in front of all others there.
+void insertTile(benchmark::State &state)
+{
+    MapProject project(int(state.range(0)));
+    project.map().tileLayer()->restore(structures(project.map().size()));
+    QUndoStack stack;
+    const EditRecorder recorder(&project.project(), [&stack](const QUuid &) { return &stack; });
+    for (auto _ : state) {
+        project.tileSet().insertTile(0);
+        state.PauseTiming();
+        stack.undo();
+        state.ResumeTiming();
+    }
+}
+
 /// Edits one frame of one of many animations: the work must not grow with the animations beside it.
 void recordFrameEdit(benchmark::State &state)
 {
@@ -161,6 +192,8 @@ BENCHMARK(undoStroke)
 BENCHMARK(undoFill)->Arg(200)->Arg(2000)->Unit(benchmark::kMicrosecond);
 BENCHMARK(recordTileCopy)->Arg(200)->Arg(2000)->Unit(benchmark::kMicrosecond);
 BENCHMARK(undoTileDeletion)->Arg(200)->Arg(2000)->Unit(benchmark::kMicrosecond);
+BENCHMARK(moveTile)->ArgsProduct({{2000}, {1, 500}})->MeasureProcessCPUTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(insertTile)->Arg(2000)->MeasureProcessCPUTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(recordFrameEdit)->Arg(1)->Arg(1000)->Unit(benchmark::kMicrosecond);
 
 BENCHMARK_MAIN();

@@ -3,6 +3,7 @@
 #include "model/palette.h"
 #include "model/tilemapformat.h"
 #include "model/tilemappicture.h"
+#include "model/tilerows.h"
 #include "model/tileset.h"
 
 #include <QBuffer>
@@ -26,45 +27,6 @@ QString mimeType()
     return QStringLiteral("quenmora-map-toNextData");
 }
 
-/// Replaces the rows from first to last by what change(const Row &) makes of them. Rows that share their
-/// storage are changed once and share the result; a row that change() returns as it was stays shared with
-/// every snapshot. Whether any row became another one.
-template <typename Change>
-bool changeRows(Rows &rows, int first, int last, Change change)
-{
-    if (first > last)
-        return false;
-    const Rows before = rows.sliced(first, last - first + 1); // keeps the storage alive that identifies a row
-    QHash<const TileData *, Row> results;
-    bool changed = false;
-    for (int y = first; y <= last; ++y) {
-        const Row &row = before[y - first];
-        auto result = results.constFind(row.constData());
-        if (result == results.cend())
-            result = results.insert(row.constData(), change(row));
-        if (result->constData() == row.constData() && result->size() == row.size())
-            continue;
-        rows[y] = *result;
-        changed = true;
-    }
-    return changed;
-}
-
-/// Replaces every cell by what change(TileData) makes of it; rows without a changed cell stay shared.
-template <typename Change>
-bool changeCells(Rows &rows, Change change)
-{
-    return changeRows(rows, 0, int(rows.size()) - 1, [change](const Row &row) {
-        const auto changes = [change](const TileData &cell) { return change(cell) != cell; };
-        const auto first = std::find_if(row.cbegin(), row.cend(), changes);
-        if (first == row.cend())
-            return row;
-        Row result = row;
-        std::transform(first, row.cend(), result.begin() + (first - row.cbegin()), change);
-        return result;
-    });
-}
-
 /// How one side of the grid changes when it is resized: count cells from `from` on move to `to`.
 struct Span
 {
@@ -85,13 +47,23 @@ Span keptSpan(int before, int after, bool centred, bool atEnd)
 TileMap::TileMap(int width, int height, QObject *parent)
     : QObject(parent)
     , m_width(std::max(width, 0))
-    , m_rows(std::max(height, 0), Row(m_width))
+    , m_cells(std::make_unique<TileRows>(Rows(std::max(height, 0), Row(m_width))))
     , m_picture(std::make_unique<TileMapPicture>(*this))
 { }
 
 TileMap::TileMap(QSize size, QObject *parent) : TileMap(size.width(), size.height(), parent) { }
 
 TileMap::~TileMap() = default;
+
+int TileMap::height() const
+{
+    return m_cells->height();
+}
+
+TileMap::Rows TileMap::rows() const
+{
+    return m_cells->rows();
+}
 
 QPointer<TileSet> TileMap::tileSet() const
 {
@@ -113,14 +85,14 @@ void TileMap::setTileSet(const QPointer<TileSet> &tileSet)
 
 TileMap::TileData TileMap::cellAt(QPoint at) const
 {
-    return bounds().contains(at) ? m_rows[at.y()][at.x()] : TileData();
+    return bounds().contains(at) ? m_cells->rows()[at.y()][at.x()] : TileData();
 }
 
 bool TileMap::setCell(QPoint at, const TileData &cell)
 {
-    if (!bounds().contains(at) || std::as_const(m_rows)[at.y()][at.x()] == cell)
+    if (!bounds().contains(at) || m_cells->rows()[at.y()][at.x()] == cell)
         return false;
-    m_rows[at.y()][at.x()] = cell;
+    m_cells->writable()[at.y()][at.x()] = cell;
     m_picture->cellChanged(at, cell);
     return true;
 }
@@ -139,10 +111,12 @@ void TileMap::fill(const QRect &area, int index, bool rotate, bool flip, bool mi
         std::fill_n(result.begin() + inside.left(), inside.width(), cell);
         return result;
     };
-    if (inside.width() == m_width)
-        std::fill(m_rows.begin() + inside.top(), m_rows.begin() + inside.bottom() + 1, Row(m_width, cell));
-    else
-        changeRows(m_rows, inside.top(), inside.bottom(), filled);
+    if (inside.width() == m_width) {
+        const auto first = m_cells->writable().begin();
+        std::fill(first + inside.top(), first + inside.bottom() + 1, Row(m_width, cell));
+    } else {
+        m_cells->changeRows(inside.top(), inside.bottom(), filled);
+    }
     m_picture->areaChanged(inside);
 }
 
@@ -151,7 +125,7 @@ bool TileMap::writeRuns(const QList<Run> &runs, int period, const Writer &write)
     struct Written
     {
         Row before; // keeps the storage alive that identifies a row
-        QList<Run> runs;
+        std::span<const Run> runs;
         Row after;
     };
     std::vector<Written> written(size_t(std::clamp(period, 1, 1024)));
@@ -159,20 +133,21 @@ bool TileMap::writeRuns(const QList<Run> &runs, int period, const Writer &write)
     for (auto first = runs.cbegin(); first != runs.cend();) {
         const int y = first->row;
         const auto last = std::find_if(first, runs.cend(), [y](const Run &run) { return run.row != y; });
+        const std::span<const Run> inRow(first, last);
         const auto sameCells = [](const Run &a, const Run &b) { return a.column == b.column && a.count == b.count; };
         Written &sample = written[size_t(y) % written.size()];
-        const Row before = std::as_const(m_rows)[y];
+        const Row before = m_cells->rows()[y];
         if (period < 1 || before.constData() != sample.before.constData()
-            || !std::equal(first, last, sample.runs.cbegin(), sample.runs.cend(), sameCells)) {
+            || !std::ranges::equal(inRow, sample.runs, sameCells)) {
             Row after = before;
-            for (auto run = first; run != last; ++run)
-                write({run->column, y}, std::span(after.data() + run->column, size_t(run->count)));
-            sample = {before, QList<Run>(first, last), after == before ? before : after};
+            TileData *const cells = after.data(); // one check for all runs: there may be a thousand
+            for (const Run &run : inRow)
+                write({run.column, y}, std::span(cells + run.column, size_t(run.count)));
+            sample = {before, inRow, after == before ? before : after};
         }
         if (sample.after.constData() != before.constData()) {
-            m_rows[y] = sample.after;
-            const auto [left, right] =
-                std::minmax_element(first, last, [](const Run &a, const Run &b) { return a.column < b.column; });
+            m_cells->writable()[y] = sample.after;
+            const auto [left, right] = std::ranges::minmax_element(inRow, {}, &Run::column);
             area |= QRect(left->column, y, right->column + right->count - left->column, 1);
         }
         first = last;
@@ -184,7 +159,7 @@ bool TileMap::writeRuns(const QList<Run> &runs, int period, const Writer &write)
 
 void TileMap::insertColumn(Quenmora::Position position)
 {
-    changeRows(m_rows, 0, height() - 1, [position](const Row &row) {
+    m_cells->changeRows(0, height() - 1, [position](const Row &row) {
         Row result;
         result.reserve(row.size() + 1);
         result.resize(position == Quenmora::Begin ? 1 : 0);
@@ -198,7 +173,7 @@ void TileMap::insertColumn(Quenmora::Position position)
 
 void TileMap::insertRow(Quenmora::Position position)
 {
-    m_rows.insert(position == Quenmora::Begin ? 0 : height(), Row(m_width));
+    m_cells->writable().insert(position == Quenmora::Begin ? 0 : height(), Row(m_width));
     m_picture->contentChanged();
 }
 
@@ -206,17 +181,18 @@ void TileMap::removeColumn(Quenmora::Position position)
 {
     if (m_width == 0)
         return;
-    changeRows(m_rows, 0, height() - 1,
-               [position](const Row &row) { return row.sliced(position == Quenmora::Begin ? 1 : 0, row.size() - 1); });
+    m_cells->changeRows(0, height() - 1, [position](const Row &row) {
+        return row.sliced(position == Quenmora::Begin ? 1 : 0, row.size() - 1);
+    });
     --m_width;
     m_picture->contentChanged();
 }
 
 void TileMap::removeRow(Quenmora::Position position)
 {
-    if (m_rows.isEmpty())
+    if (height() == 0)
         return;
-    m_rows.remove(position == Quenmora::Begin ? 0 : height() - 1);
+    m_cells->writable().remove(position == Quenmora::Begin ? 0 : height() - 1);
     m_picture->contentChanged();
 }
 
@@ -231,17 +207,17 @@ QPoint TileMap::resize(QSize size, Qt::Alignment alignment)
     const Span columns = keptSpan(m_width, after.width(), alignment & Qt::AlignHCenter, alignment & Qt::AlignRight);
     const Span lines = keptSpan(height(), after.height(), alignment & Qt::AlignVCenter, alignment & Qt::AlignBottom);
 
-    Rows kept = m_rows.sliced(lines.from, lines.count);
+    TileRows kept(m_cells->rows().sliced(lines.from, lines.count));
     if (after.width() != m_width) {
-        changeRows(kept, 0, lines.count - 1, [&columns, &after](const Row &row) {
+        kept.changeRows(0, lines.count - 1, [&columns, &after](const Row &row) {
             Row result(after.width());
             std::copy_n(row.cbegin() + columns.from, columns.count, result.begin() + columns.to);
             return result;
         });
     }
     Rows rows(after.height(), Row(after.width()));
-    std::copy(kept.cbegin(), kept.cend(), rows.begin() + lines.to);
-    m_rows = rows;
+    std::ranges::copy(kept.rows(), rows.begin() + lines.to);
+    m_cells->setRows(rows);
     m_width = after.width();
     m_picture->contentChanged();
     return {columns.to - columns.from, lines.to - lines.from};
@@ -249,7 +225,7 @@ QPoint TileMap::resize(QSize size, Qt::Alignment alignment)
 
 void TileMap::shiftTileIndices(int from, int delta)
 {
-    changeCells(m_rows, [from, delta](TileData cell) {
+    m_cells->changeCells([from, delta](TileData cell) {
         if (delta < 0 && cell.index == from)
             cell.index = 0;
         else if (cell.index > from || (cell.index == from && delta >= 1))
@@ -263,7 +239,7 @@ void TileMap::refreshOffsets()
 {
     if (!m_tileSet)
         return;
-    const bool changed = changeCells(m_rows, [this](TileData cell) {
+    const bool changed = m_cells->changeCells([this](TileData cell) {
         cell.offset = m_tileSet->tileOffset(cell.index);
         return cell;
     });
@@ -274,11 +250,7 @@ void TileMap::refreshOffsets()
 void TileMap::swapTiles(int a, int b)
 {
     m_picture->tilesSwapped(a, b);
-    const bool changed = a != b && changeCells(m_rows, [a, b](TileData cell) {
-                             cell.index = cell.index == a ? b : cell.index == b ? a : cell.index;
-                             return cell;
-                         });
-    if (!changed)
+    if (!m_cells->swapTiles(a, b))
         return;
     m_picture->contentChanged();
     emit tilesChanged();
@@ -286,7 +258,7 @@ void TileMap::swapTiles(int a, int b)
 
 void TileMap::restore(const Rows &rows)
 {
-    m_rows = rows;
+    m_cells->setRows(rows);
     m_width = rows.isEmpty() ? 0 : int(rows.first().size());
     Q_ASSERT(std::all_of(rows.cbegin(), rows.cend(), [this](const Row &row) { return row.size() == m_width; }));
     m_picture->contentChanged();
@@ -349,12 +321,12 @@ QList<QRgb> TileMap::colourTable() const
 
 QByteArray TileMap::toNextData() const
 {
-    return TileMapFormat::toNextData(m_rows);
+    return TileMapFormat::toNextData(m_cells->rows());
 }
 
 QByteArray TileMap::serialise(const QRect &area) const
 {
-    return TileMapFormat::serialise(m_rows, area, m_tileSet ? m_tileSet->id() : QUuid());
+    return TileMapFormat::serialise(m_cells->rows(), area, m_tileSet ? m_tileSet->id() : QUuid());
 }
 
 TileMap *TileMap::fromData(const QByteArray &data, QObject *parent)
@@ -373,7 +345,7 @@ TileMap *TileMap::fromData(const QByteArray &data, QObject *parent)
 
 QMimeData *TileMap::toMimeData(const QRect &area) const
 {
-    return mimeDataOf(m_rows, area, m_tileSet ? m_tileSet->id() : QUuid());
+    return mimeDataOf(m_cells->rows(), area, m_tileSet ? m_tileSet->id() : QUuid());
 }
 
 QMimeData *TileMap::mimeDataOf(const Rows &rows, const QRect &area, const QUuid &tileSetId)
@@ -391,7 +363,8 @@ void TileMap::paste(QPoint at, const QMimeData *mimeData)
         return;
     const QRect inside = QRect(at, reader->size()) & bounds();
     for (int y = inside.top(); y <= inside.bottom(); ++y)
-        reader->readCells(inside.left() - at.x(), y - at.y(), inside.width(), m_rows[y].data() + inside.left());
+        reader->readCells(inside.left() - at.x(), y - at.y(), inside.width(),
+                          m_cells->writable()[y].data() + inside.left());
     m_picture->contentChanged();
 }
 

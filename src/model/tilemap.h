@@ -20,6 +20,7 @@
 class QMimeData;
 class QPainter;
 class TileMapPicture;
+class TileRows;
 class TileSet;
 
 /// A grid of cells that show tiles of one tile set: one layer of a map.
@@ -80,7 +81,7 @@ public:
     void setId(const QUuid &id) { m_id = id; }
 
     [[nodiscard]] int width() const { return m_width; }
-    [[nodiscard]] int height() const { return int(m_rows.size()); }
+    [[nodiscard]] int height() const;
     [[nodiscard]] QSize size() const { return {m_width, height()}; }
     /// The whole grid: (0, 0, width, height).
     [[nodiscard]] QRect bounds() const { return {{0, 0}, size()}; }
@@ -125,7 +126,7 @@ public:
 
     /// The content, as cheap as a pointer until somebody writes; equal contents compare equal, at the
     /// cost of the rows that are not shared.
-    [[nodiscard]] Rows rows() const { return m_rows; }
+    [[nodiscard]] Rows rows() const;
     /// Puts a content back, size included.
     void restore(const Rows &rows);
 
@@ -179,7 +180,7 @@ private:
 
     QUuid m_id = QUuid::createUuid();
     int m_width = 0;
-    Rows m_rows; ///< height rows of width cells each
+    std::unique_ptr<TileRows> m_cells; ///< height rows of width cells each
     QPointer<TileSet> m_tileSet;
     bool m_visible = true;
     std::unique_ptr<TileMapPicture> m_picture; ///< what is rendered of the content; follows every change

@@ -8,7 +8,7 @@
 #include <functional>
 #include <limits>
 #include <optional>
-#include <span>
+#include <utility>
 
 class SpriteBank;
 class TileSet;
@@ -88,29 +88,39 @@ private:
 };
 
 /// A grid whose cells name tiles or sprites, renumbered; cells show number 0 in place of what is gone. Rows that do
-/// not change, or are shared, stay so.
+/// not change, or are shared, stay so, and rows that become those of another grid share them with it: to see that two
+/// grids differ by their numbers alone takes no memory.
 template <typename Cell>
-[[nodiscard]] QList<QList<Cell>> renumbered(const QList<QList<Cell>> &rows, const Renumbering &renumbering)
+[[nodiscard]] QList<QList<Cell>> renumbered(const QList<QList<Cell>> &rows, const Renumbering &renumbering,
+                                            const QList<QList<Cell>> &like = {})
 {
     if (renumbering.changesNothing())
         return rows;
-    QHash<const Cell *, QList<Cell>> results; // rows that share their storage are looked at once
+    const auto renamed = [&renumbering](Cell cell) {
+        cell.index = renumbering(cell.index).value_or(0);
+        return cell;
+    };
+    const auto result = [&renamed](const QList<Cell> &row, const QList<Cell> &wanted) {
+        const auto become = [&renamed](const Cell &cell, const Cell &other) { return renamed(cell) == other; };
+        for (const QList<Cell> &known : {wanted, row}) {
+            if (std::equal(row.cbegin(), row.cend(), known.cbegin(), known.cend(), become))
+                return known;
+        }
+        QList<Cell> changed = row;
+        std::transform(row.cbegin(), row.cend(), changed.begin(), renamed);
+        return changed;
+    };
+    QHash<std::pair<const Cell *, const Cell *>, QList<Cell>> results; // shared rows are looked at once
     QList<QList<Cell>> all = rows;
     for (qsizetype i = 0; i < rows.size(); ++i) {
         const QList<Cell> &row = rows.at(i);
-        auto result = results.find(row.constData());
-        if (result == results.end()) {
-            result = results.insert(row.constData(), row);
-            const auto first = std::find_if(row.cbegin(), row.cend(), [&renumbering](const Cell &cell) {
-                return renumbering(cell.index).value_or(0) != cell.index;
-            });
-            if (first != row.cend()) {
-                for (Cell &cell : std::span(result->data(), size_t(row.size())).subspan(size_t(first - row.cbegin())))
-                    cell.index = renumbering(cell.index).value_or(0);
-            }
-        }
-        if (result->constData() != row.constData())
-            all[i] = *result;
+        const QList<Cell> wanted = like.value(i);
+        const std::pair key(row.constData(), wanted.constData());
+        auto known = results.constFind(key);
+        if (known == results.cend())
+            known = results.insert(key, result(row, wanted));
+        if (known->constData() != row.constData())
+            all[i] = *known;
     }
     return all;
 }

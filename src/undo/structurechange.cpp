@@ -181,8 +181,8 @@ TileSetChange::TileSetChange(const TileSetEdit &before, const TileSetEdit &after
         const auto left = after.maps.constFind(map.key());
         if (left == after.maps.cend())
             continue;
-        const Layers lost{LayerChange(map->tiles, renumbered(left->tiles, back)),
-                          LayerChange(map->objects, renumbered(left->objects, back)), left->origin};
+        const Layers lost{LayerChange(map->tiles, renumbered(left->tiles, back, map->tiles)),
+                          LayerChange(map->objects, renumbered(left->objects, back, map->objects)), left->origin};
         if (!lost.tiles.changesNothing() || !lost.objects.changesNothing())
             m_lostCells.insert(map.key(), lost);
     }

@@ -194,6 +194,57 @@ private slots:
         QVERIFY(map.render(map.bounds(), INT_MAX, 0).isNull());
     }
 
+    /// Whatever happens between two exchanges of tiles, cells and signals are as if each were done at once.
+    void followsAnyOrderOfExchanges()
+    {
+        QRandomGenerator random(11);
+        const auto number = [&random] { return QList{-1, 0, 1, 2, 3, 4, 5, 70000, 70001}.at(random.bounded(9)); };
+        TileMap map(3, 4);
+        TileMap::Rows cells = map.rows();
+        int told = 0;
+        int expected = 0;
+        connect(&map, &TileMap::tilesChanged, &map, [&told] { ++told; });
+        for (int step = 0; step < 3000; ++step) {
+            const QPoint at(random.bounded(3), random.bounded(4));
+            const int a = number();
+            const int b = number();
+            switch (random.bounded(12)) {
+            case 0:
+                cells[at.y()][at.x()] = {a, false, true, false, 3, true};
+                map.setCell(at, cells[at.y()][at.x()]);
+                break;
+            case 1:
+                map.shiftTileIndices(3, 1);
+                for (TileMap::Row &row : cells) {
+                    for (TileMap::TileData &cell : row)
+                        cell.index += cell.index >= 3 ? 1 : 0;
+                }
+                break;
+            case 2:
+                std::fill(cells.begin(), cells.end(),
+                          TileMap::Row(3, TileMap::TileData{a, false, false, false, 0, true}));
+                cells[at.y()][at.x()].index = b;
+                map.restore(cells);
+                ++expected;
+                break;
+            case 3:
+                QCOMPARE(map.rows(), cells);
+                break;
+            default:
+                map.swapTiles(a, b);
+                bool changed = false;
+                for (TileMap::Row &row : cells) {
+                    for (TileMap::TileData &cell : row) {
+                        changed |= a != b && (cell.index == a || cell.index == b);
+                        cell.index = cell.index == a ? b : cell.index == b ? a : cell.index;
+                    }
+                }
+                expected += changed ? 1 : 0;
+            }
+            QCOMPARE(told, expected);
+        }
+    }
+
     void writesAndReadsCells()
     {
         TileSet tileSet(1);
