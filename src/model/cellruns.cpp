@@ -40,21 +40,27 @@ Span ellipseSpan(const QRect &cells, int y)
     return {cells.left() + margin, cells.right() - margin};
 }
 
-/// The connected cells of a grid, found run by run: each row's cells are compared once, when it is first touched.
+/// The connected cells of a grid, found run by run: each row's cells are compared once, when it is first touched. All
+/// places of a row from which more is reached are gone through together, as rows are what memory has at hand: a comb
+/// has a thousand of them.
 class Flood
 {
 public:
     Flood(const TileMap::Rows &rows, QPoint start, const QRect &area)
-        : m_rows(rows)
+        : m_grid(rows)
         , m_area(area)
         , m_wanted(rows[start.y()][start.x()])
-        , m_marks(size_t(area.height()))
+        , m_rows(size_t(area.height()))
     {
-        m_seeds.push_back(start - area.topLeft());
-        while (!m_seeds.empty()) {
-            const QPoint seed = m_seeds.back();
-            m_seeds.pop_back();
-            fillRunAt(seed);
+        reach(start.y() - area.top(), start.x() - area.left());
+        std::vector<int> reached;
+        while (!m_waiting.empty()) {
+            const int y = m_waiting.back();
+            m_waiting.pop_back();
+            reached.clear();
+            reached.swap(m_rows[size_t(y)].reached);
+            for (const int x : reached)
+                fillRunAt(y, x);
         }
     }
 
@@ -63,11 +69,11 @@ public:
         Runs runs;
         runs.reserve(m_filled);
         for (int y = 0; y < m_area.height(); ++y) {
-            const Marks &row = m_marks[size_t(y)];
-            const int width = int(row.size());
+            const std::vector<char> &marks = m_rows[size_t(y)].marks;
+            const int width = int(marks.size());
             for (int x = 0; x < width; ++x) {
                 const int first = x;
-                while (x < width && row[size_t(x)] == Filled)
+                while (x < width && marks[size_t(x)] == Filled)
                     ++x;
                 if (x > first)
                     runs.append({m_area.top() + y, m_area.left() + first, x - first});
@@ -77,52 +83,68 @@ public:
     }
 
 private:
-    using Marks = std::vector<char>; ///< one a cell
     static constexpr char Other = 0;
     static constexpr char Open = 1; ///< the same, but not reached yet
     static constexpr char Filled = 2;
 
-    [[nodiscard]] bool isSame(const Cell &cell) const { return cell == m_wanted || (!cell.used && !m_wanted.used); }
-
-    Marks &marks(int y)
+    struct Row
     {
-        Marks &row = m_marks[size_t(y)];
-        if (row.empty()) {
-            row.resize(size_t(m_area.width()));
-            const auto first = m_rows[m_area.top() + y].cbegin() + m_area.left();
-            std::transform(first, first + m_area.width(), row.begin(),
+        std::vector<char> marks; ///< one a cell; none until the row is touched
+        std::vector<int> reached; ///< columns from which the row is still to be filled
+    };
+
+    [[nodiscard]] bool isSame(const Cell &cell) const
+    {
+        return m_wanted.used ? cell.index == m_wanted.index && cell == m_wanted : !cell.used;
+    }
+
+    Row &touched(int y)
+    {
+        Row &row = m_rows[size_t(y)];
+        if (row.marks.empty()) {
+            row.marks.resize(size_t(m_area.width()));
+            const auto first = m_grid[m_area.top() + y].cbegin() + m_area.left();
+            std::transform(first, first + m_area.width(), row.marks.begin(),
                            [this](const Cell &cell) { return isSame(cell) ? Open : Other; });
         }
         return row;
     }
 
-    void fillRunAt(QPoint seed)
+    void reach(int y, int x)
     {
-        Marks &row = marks(seed.y());
-        char *const at = row.data() + seed.x();
+        std::vector<int> &reached = touched(y).reached;
+        if (reached.empty())
+            m_waiting.push_back(y);
+        reached.push_back(x);
+    }
+
+    void fillRunAt(int y, int x)
+    {
+        std::vector<char> &marks = touched(y).marks;
+        char *const at = marks.data() + x;
         if (*at != Open)
             return;
         char *from = at;
-        while (from != row.data() && from[-1] == Open)
+        while (from != marks.data() && from[-1] == Open)
             --from;
-        char *const to = std::find_if(at, row.data() + row.size(), [](char mark) { return mark != Open; });
+        char *const to = std::find_if(at, marks.data() + marks.size(), [](char mark) { return mark != Open; });
         std::fill(from, to, Filled);
         ++m_filled;
-        const int first = int(from - row.data());
+        const int first = int(from - marks.data());
         const int count = int(to - from);
-        if (seed.y() > 0)
-            addSeeds(seed.y() - 1, first, count);
-        if (seed.y() + 1 < m_area.height())
-            addSeeds(seed.y() + 1, first, count);
+        if (y > 0)
+            reachRuns(y - 1, first, count);
+        if (y + 1 < m_area.height())
+            reachRuns(y + 1, first, count);
     }
 
-    /// One seed for each piece of a row that is reached.
-    void addSeeds(int y, int first, int count)
+    /// Reaches each piece of a row that lies beside a run.
+    void reachRuns(int y, int first, int count)
     {
-        const char *const row = marks(y).data();
+        const char *const row = touched(y).marks.data();
         if (count == 1) { // as in mazes and combs, of which most runs are
             if (row[first] == Open)
-                m_seeds.push_back({first, y});
+                reach(y, first);
             return;
         }
         const char *const end = row + first + count;
@@ -131,16 +153,16 @@ private:
             if (!open)
                 return;
             from = static_cast<const char *>(open);
-            m_seeds.push_back({int(from - row), y});
+            reach(y, int(from - row));
             from = std::find_if(from, end, [](char mark) { return mark != Open; });
         }
     }
 
-    const TileMap::Rows &m_rows;
+    const TileMap::Rows &m_grid;
     const QRect m_area;
     const Cell m_wanted;
-    std::vector<Marks> m_marks; ///< by row of the area, empty until it is reached
-    std::vector<QPoint> m_seeds;
+    std::vector<Row> m_rows; ///< of the area
+    std::vector<int> m_waiting; ///< rows of which some places are reached
     qsizetype m_filled = 0; ///< runs, of which none touch
 };
 

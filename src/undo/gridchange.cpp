@@ -43,6 +43,11 @@ GridChange<Cell>::GridChange(const Rows &before, const Rows &after, QPoint shift
         // Rows that the edit did not touch are shared, which the comparison sees at once.
         if (before.at(row) == after.at(row))
             continue;
+        if (!m_lines.isEmpty() && differsAs(m_lines.constLast(), before.at(row), after.at(row))) {
+            m_lines.append(m_lines.constLast());
+            m_lines.last().row = row;
+            continue;
+        }
         Line line = lineOf(row, before.at(row), after.at(row));
         if (!m_lines.isEmpty()) {
             share(line.runs, m_lines.constLast().runs);
@@ -51,6 +56,27 @@ GridChange<Cell>::GridChange(const Rows &before, const Rows &after, QPoint shift
         }
         m_lines.append(line);
     }
+}
+
+/// Whether the cells that differ are those of a line, and held the same.
+template <typename Cell>
+bool GridChange<Cell>::differsAs(const Line &line, const Row &before, const Row &after)
+{
+    const Cell *const from = before.constData();
+    const Cell *const to = after.constData();
+    const Cell *was = line.before.constData();
+    const Cell *is = line.after.constData();
+    qsizetype x = 0;
+    for (const Run &run : line.runs) {
+        const qsizetype end = run.column + run.count;
+        if (end > before.size() || !std::equal(from + x, from + run.column, to + x)
+            || !std::equal(from + run.column, from + end, was) || !std::equal(to + run.column, to + end, is))
+            return false;
+        was += run.count;
+        is += run.count;
+        x = end;
+    }
+    return std::equal(from + x, from + before.size(), to + x);
 }
 
 template <typename Cell>

@@ -58,6 +58,7 @@ private:
         Row after;
     };
 
+    [[nodiscard]] static bool differsAs(const Line &line, const Row &before, const Row &after);
     [[nodiscard]] static Line lineOf(qsizetype row, const Row &before, const Row &after);
     static void write(Rows &rows, const Line &line, const Row &cells);
     static void writeOver(const Row &expected, Rows &rows, const Line &line, const Row &cells);
