@@ -159,7 +159,10 @@ private slots:
     void holdsWhateverIsDone()
     {
         const quint32 seed = m_seed;
-        RandomUser user(*m_window, seed);
+        RandomUser user(*m_window, seed, [this](RandomUser::Effect effect) {
+            if (effect != RandomUser::Lasting)
+                noteFirst();
+        });
         startJournal();
         QElapsedTimer timer;
         timer.start();
@@ -200,7 +203,13 @@ private:
         m_indices.clear();
         record();
         m_journal.clear();
-        m_first.emplace(project());
+        m_first.reset();
+    }
+    /// Notes what the project holds there, once something is to be done that undo knows.
+    void noteFirst()
+    {
+        if (!m_first)
+            m_first.emplace(project());
     }
 
     void record()
@@ -220,7 +229,7 @@ private:
         const RandomUser::Effect effect = user.act();
         QCoreApplication::processEvents();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        if (user.number(16) == 0)
+        if (user.number(64) == 0)
             m_painting->paintOnce();
         if (effect == RandomUser::Lasting)
             startJournal();
@@ -352,6 +361,8 @@ private:
     /// Undoes the last steps and does them again; when these are all, the first state must come back.
     void checkUndo(qsizetype depth)
     {
+        if (!m_first)
+            return;
         depth = std::min(depth, m_journal.size());
         const Content last(project());
         QStringList texts;
@@ -376,6 +387,7 @@ private:
         for (const auto &map : project().maps())
             map->restampAnimations(project().blockSets()); // as opening does, which clears what was drawn below them
         startJournal();
+        noteFirst();
         ProjectController *controller = m_window->projectController();
         controller->save();
         expect(!controller->isModified(), "modified after saving");

@@ -24,19 +24,10 @@ protected:
             return editor && editor->animation() ? editor : nullptr;
         };
         addFor<2>(chosen, "animation cell", Undoable, [this](Editor &editor) { editCell(editor); });
-        addFor(chosen, "frames", Undoable, [this](Editor &editor) {
-            using enum AnimationControlWidget::Action;
-            QList actions{First, Previous, Next, Last, DeleteFrame, Loop, PingPong};
-            if (editor.animation()->frameCount() < 8)
-                actions << AddFrame << AddFrame;
-            if (QAction *action = editor.control()->action(any(actions)))
-                action->trigger();
-        });
         addFor(chosen, "size and delay", Undoable, [this](Editor &editor) {
             if (QSpinBox *field = any(editor.toolBar()->findChildren<QSpinBox *>()))
                 field->setValue(field->minimum() + number(6));
         });
-        addFor(chosen, "play animation", None, [this](Editor &editor) { chance() ? editor.play() : editor.stop(); });
     }
 
 private:

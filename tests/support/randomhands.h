@@ -121,6 +121,7 @@ protected:
 
     MainWindow &m_window;
     std::vector<Action> m_actions;
+    QString m_lastAction; ///< what was done last; an action may say it more exactly
 
 private:
     static void mouse(QWidget *widget, QEvent::Type type, QPoint at, Qt::MouseButton button, Qt::MouseButtons buttons,

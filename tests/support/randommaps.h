@@ -19,7 +19,6 @@ protected:
     {
         addTools();
         addPainting();
-        addSizes();
         addViews();
     }
 
@@ -66,16 +65,6 @@ private:
             sprite.startFrame = number(4);
             if (index >= 0 && index < page.map()->sprites().size())
                 page.grid()->setSpriteProperties(sprite);
-        });
-        addForMap("map menu", Undoable, [this](View &page) {
-            choose(page.grid()->findChild<QMenu *>(), any(QStringList{"Cut", "Copy", "Copy as Image", "Fill"}));
-        });
-        addForMap("map from selection", Lasting, [this](View &page) {
-            if (project().maps().size() < 4)
-                choose(page.grid()->findChild<QMenu *>(), "Copy to new map");
-        });
-        addForMap("map key", Undoable, [this](View &page) {
-            choose(&page, any(QStringList{"Delete", "Delete", "Cancel"}));
         });
     }
 
@@ -126,7 +115,6 @@ private:
             page.paintDesk()->replaceTile({number(count), number(count)},
                                           MapEditor::ReplaceTileDialog::Scope(number(3)));
         });
-        addForMap("select same tile", None, [](View &page) { page.paintDesk()->selectSameTile(); });
         addForMap("move about the map", None, [this](View &page) {
             page.grid()->zoomAround({number(page.grid()->width() + 1), number(page.grid()->height() + 1)},
                                     chance() ? 1 : -1);
@@ -137,33 +125,9 @@ private:
         });
     }
 
-    void addSizes()
-    {
-        addForMap("rows and columns", Undoable, [this](View &page) {
-            const auto edit = any(std::vector{&View::addRow, &View::addColumn, &View::removeRow, &View::removeColumn});
-            (page.*edit)(Quenmora::Position(number(2)));
-        });
-        addForMap("resize map", Undoable, [this](View &page) {
-            const QList<Qt::Alignment> anchors{Qt::AlignLeft | Qt::AlignTop, Qt::AlignCenter,
-                                               Qt::AlignRight | Qt::AlignBottom};
-            if (chance())
-                page.grid()->resizeMap({1 + number(60), 1 + number(50)}, any(anchors));
-        });
-    }
-
     void addViews()
     {
         using namespace Quenmora::Ui;
-        addForMap("map view", Lasting, [this](View &page) { // some of it is kept with the map
-            page.toolPaletteClicked(any(QList{RotateCW, Flip, Mirror, Grid, MoveUp, MoveLeft, MoveRight, MoveDown,
-                                              ZoomIn, ZoomOut, ExpandToFit, ToggleViewport, PaintPalette}),
-                                    chance());
-        });
-        addForMap("layers", Lasting, [this](View &page) {
-            page.grid()->setMapVisibility(number(4) > 0);
-            page.grid()->setObjectVisibility(number(4) > 0);
-            page.grid()->setSpriteVisibility(number(4) > 0);
-        });
         addForMap("play map", Lasting, [this](View &page) {
             page.toolPaletteClicked(AnimPlay, true);
             for (int ticks = number(60); ticks > 0; --ticks)

@@ -22,7 +22,6 @@ protected:
     RandomPixels()
     {
         addPainting();
-        addPaintOptions();
         addTiles();
         addSprites();
         addColours();
@@ -61,42 +60,12 @@ private:
             QTest::keyClick(&canvas, any(QList{Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down}),
                             chance() ? Qt::NoModifier : Qt::ShiftModifier);
         });
-        addFor(shown, "pixel action", Undoable, [this](Canvas &canvas) {
-            canvas.setMode(any(QList{RotateCW, RotateCCW, Flip, Mirror, MoveUp, MoveDown, MoveLeft, MoveRight, Erase,
-                                     ZoomIn, ZoomOut, Grid}),
-                           chance());
-        });
         addFor(shown, "canvas menu", Undoable,
                [this](Canvas &canvas) { any(canvas.contextMenu()->actions())->trigger(); });
     }
     Qt::KeyboardModifiers anyKeys()
     {
         return any(QList<Qt::KeyboardModifier>{Qt::NoModifier, Qt::ShiftModifier, Qt::ControlModifier});
-    }
-
-    void addPaintOptions()
-    {
-        add("paint option", None, [this] {
-            PaintSettings *settings = views().tileEditor->paintSettings();
-            using Choice = PaintSettings::Choice;
-            settings
-                ->action(any(QList{Choice::Connect, Choice::PixelPerfect, Choice::Shade, Choice::RoundBrush,
-                                   Choice::MirrorSides, Choice::MirrorEnds}))
-                ->trigger();
-            if (chance())
-                settings->setBrushSize(1 + number(Brush::MaximumSize));
-            return true;
-        });
-        add("preview or onion skin", None, [this] {
-            QWidget *editor = chance() ? static_cast<QWidget *>(views().tileEditor) : views().spriteEditor;
-            QList<QAction *> options;
-            for (QAction *action : editor->findChildren<QAction *>(QString(), Qt::FindDirectChildrenOnly)) {
-                if (action->isCheckable())
-                    options.append(action);
-            }
-            any(options)->trigger();
-            return true;
-        });
     }
 
     /// A canvas that is shown; null when there is none.
@@ -182,13 +151,6 @@ private:
                     colours.applyColour({number(256), number(256), number(256)}, chance());
                 },
                 [&] { colours.createGradient(); });
-        });
-        addFor<2>(editor, "order colours", Undoable, [this](PaletteEditor &colours) {
-            const int first = number(Palette::Size);
-            colours.setSelection(first, first + number(Palette::Size - first));
-            choose(views().palette->paletteMenu(),
-                   any(QStringList{"Sort by &Hue", "Sort by &Brightness", "Re&verse", "E&xchange Ends",
-                                   "&Gradient in Machine Steps", "Mark &Unused Entries", "Mark E&qual Entries"}));
         });
         addFor(editor, "move colours", Undoable, [this](PaletteEditor &colours) {
             bringToFront(colours.grid());

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "app/documentcontroller.h"
-#include "app/menus/editmenu.h"
 #include "support/randomhands.h"
 
 #include <QUndoGroup>
@@ -38,12 +37,6 @@ protected:
         addFor(window, "docks", None, [this](MainWindow &shown) {
             QDockWidget *dock = any(shown.findChildren<QDockWidget *>());
             chance() ? dock->setVisible(dock->isHidden()) : dock->setFloating(!dock->isFloating());
-        });
-        addFor(window, "clipboard", Undoable, [this](MainWindow &shown) {
-            EditMenu *menu = shown.menus()->editMenu();
-            emit(menu
-                     ->*any(std::vector{&EditMenu::cut, &EditMenu::copy, &EditMenu::paste, &EditMenu::selectAll,
-                                        &EditMenu::selectNone}))();
         });
         // of one document, while others may have changed
         addFor(window, "undo or redo", Lasting, [this](MainWindow &shown) {
