@@ -1,7 +1,5 @@
 #include "app/guide.h"
 #include "app/installedfiles.h"
-#include "app/mainwindow.h"
-#include "app/menus/filemenu.h"
 #include "app/menus/helpmenu.h"
 #include "app/recentpictures.h"
 #include "app/recentpreview.h"
@@ -9,45 +7,20 @@
 #include "editors/map/mapeditorview.h"
 #include "editors/map/mapgrid.h"
 #include "exportprogram.h" // made by the build: where the program and the examples are
-#include "model/image.h"
-#include "model/map.h"
-#include "model/spritebank.h"
-#include "model/tilemap.h"
-#include "model/tileset.h"
 #include "nextdata/recipe.h"
-#include "support/modeltools.h"
-#include "support/testmain.h"
+#include "support/windowscene.h"
 #include "ui/commands.h"
 #include "ui/emptyhint.h"
-#include "ui/messagedialog.h"
-
-#include <QAction>
-#include <QApplication>
-#include <QDir>
-#include <QFile>
-#include <QHelpEvent>
-#include <QLabel>
-#include <QMenu>
-#include <QSignalSpy>
-#include <QTest>
-#include <QToolButton>
-#include <QUrl>
 
 #include <algorithm>
-#include <optional>
 
 /// The first minutes with the program: the sample, the guide, the pictures of projects, what to do in empty editors.
-class TestStart : public QObject
+class TestStart : public QObject, protected WindowScene
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { Update::UpdateChecker::setFeedAddress({}); }
-    void init()
-    {
-        m_folder = std::make_unique<TemporaryFolder>();
-        m_window.emplace();
-    }
+    void init() { openWindow(); }
     void cleanup() { m_window.reset(); }
 
     void findsWhatComesAlong_data()
@@ -57,60 +30,50 @@ private slots:
         QTest::addColumn<QString>("sample");
         QTest::addColumn<QString>("maps"); // the page of the guide about maps
         QTest::addColumn<QString>("other"); // one about something else, which it may not have
-        QTest::addRow("installed") << QStringList{"p/share/quenmora/examples/sample.quenmora",
-                                                  "p/share/doc/quenmora/guide/maps.html",
-                                                  "p/share/doc/quenmora/guide/index.html"}
-                                   << "p/bin"
-                                   << "p/share/quenmora/examples/sample.quenmora"
-                                   << "p/share/doc/quenmora/guide/maps.html"
-                                   << "p/share/doc/quenmora/guide/index.html";
-        QTest::addRow("unpacked") << QStringList{"zip/examples/sample.quenmora", "zip/documentation/guide/maps.md",
-                                                 "zip/documentation/guide/README.md"}
-                                  << "zip"
-                                  << "zip/examples/sample.quenmora"
-                                  << "zip/documentation/guide/maps.md"
-                                  << "zip/documentation/guide/README.md";
-        QTest::addRow("built") << QStringList{"source/examples/sample.quenmora", "source/docs/guide/maps.md",
-                                              "build/src/app/quenmora"}
-                               << "build/src/app"
-                               << "source/examples/sample.quenmora"
-                               << "source/docs/guide/maps.md"
-                               << "";
-        QTest::addRow("alone") << QStringList{"bin/quenmora"} << "bin"
-                               << ""
-                               << ""
-                               << "";
+        const auto row = [](const char *name, const QString &program, const QStringList &files, const QString &sample,
+                            const QString &maps, const QString &other) {
+            QTest::newRow(name) << files << program << sample << maps << other;
+        };
+        const QString share = "p/share/quenmora/examples/sample.quenmora";
+        const QString pages = "p/share/doc/quenmora/guide/";
+        row("installed", "p/bin", {share, pages + "maps.html", pages + "index.html"}, share, pages + "maps.html",
+            pages + "index.html");
+        const QStringList unpacked{"zip/examples/sample.quenmora", "zip/documentation/guide/maps.md",
+                                   "zip/documentation/guide/README.md"};
+        row("unpacked", "zip", unpacked, unpacked[0], unpacked[1], unpacked[2]);
+        const QStringList built{"source/examples/sample.quenmora", "source/docs/guide/maps.md", "build/src/app/x"};
+        row("built", "build/src/app", built, built[0], built[1], "");
+        row("alone", "bin", {"bin/quenmora"}, "", "", "");
     }
     void findsWhatComesAlong()
     {
         QFETCH(const QStringList, files);
         QFETCH(const QString, program);
-        const auto at = [this](const QString &file) { return file.isEmpty() ? QString() : (*m_folder)(file); };
+        const auto at = [this](const QString &file) { return file.isEmpty() ? QString() : m_folder(file); };
         for (const QString &file : files)
             write(at(file), "x");
         write(at("build/CMakeCache.txt"), "A:B=c\nCMAKE_HOME_DIRECTORY:INTERNAL=" + at("source").toUtf8() + "\n");
-        QTEST(InstalledFiles::sampleProject(at(program)).mid((*m_folder)().size() + 1), "sample");
-        QTEST(InstalledFiles::guidePage("maps", at(program)).mid((*m_folder)().size() + 1), "maps");
-        QTEST(InstalledFiles::guidePage("elsewhere", at(program)).mid((*m_folder)().size() + 1), "other");
+        QTEST(InstalledFiles::sampleProject(at(program)).mid(m_folder().size() + 1), "sample");
+        QTEST(InstalledFiles::guidePage("maps", at(program)).mid(m_folder().size() + 1), "maps");
+        QTEST(InstalledFiles::guidePage("elsewhere", at(program)).mid(m_folder().size() + 1), "other");
     }
 
     void opensTheSampleAsACopyOfOnesOwn()
     {
         const QByteArray sample = readFile(EXAMPLES_FOLDER "/sample.quenmora");
-        ProjectController *controller = m_window->projectController();
         m_window->menus()->helpMenu()->sampleAction()->trigger();
-        QVERIFY(controller->project() && controller->filePath().isEmpty());
-        QVERIFY(!controller->project()->maps().isEmpty());
-        QVERIFY(!controller->isModified()); // nobody asks about what was only looked at
+        QVERIFY(controller()->project() && controller()->filePath().isEmpty());
+        QVERIFY(!project().maps().isEmpty());
+        QVERIFY(!controller()->isModified()); // nobody asks about what was only looked at
         QVERIFY(m_window->menus()->fileMenu()->recentFiles().isEmpty());
 
-        controller->project()->maps().first()->setName("Mine");
-        QVERIFY(controller->isModified());
-        const QString file = (*m_folder)("mine.quenmora");
-        controller->setFileNameCallback([file] { return file; });
-        controller->save();
-        QVERIFY(!controller->isModified());
-        QCOMPARE(controller->filePath(), file);
+        project().maps().first()->setName("Mine");
+        QVERIFY(controller()->isModified());
+        const QString file = m_folder("mine.quenmora");
+        controller()->setFileNameCallback([file] { return file; });
+        controller()->save();
+        QVERIFY(!controller()->isModified());
+        QCOMPARE(controller()->filePath(), file);
         QCOMPARE(m_window->menus()->fileMenu()->recentFiles(), QStringList{file});
         QCOMPARE(readFile(EXAMPLES_FOLDER "/sample.quenmora"), sample);
         QCOMPARE(readFile(NextData::Recipe::pathFor(file)), readFile(EXAMPLES_FOLDER "/sample.quenmora-export.json"));
@@ -118,33 +81,29 @@ private slots:
 
     void opensTheGuideAtWhatIsInFront()
     {
-        Guide guide(m_window->views());
-        const DocumentViews &views = m_window->views();
+        Guide guide(views());
         QString opened;
         guide.setOpener([&opened](const QUrl &url) {
             opened = QFileInfo(url.toLocalFile()).completeBaseName();
             return true;
         });
-        const auto page = [&] {
+        const auto pageFor = [&] {
             guide.open();
             return opened;
         };
-        m_window->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&*m_window));
-        QCOMPARE(page(), "README");
-        m_window->projectController()->openSample();
-        const Project *project = m_window->projectController()->project();
-        DocumentController *documents = m_window->documentController();
-        documents->setActiveMap(project->maps().first()->id());
-        views.tabs->currentWidget()->setFocus();
-        QCOMPARE(page(), "maps");
-        documents->setActiveImageEditor(project->images().first()->id());
-        views.tabs->currentWidget()->setFocus();
-        QCOMPARE(page(), "images");
-        documents->openSprites(project->spriteBanks().first()->id());
-        views.spriteEditor->content()->setFocus();
-        views.spriteEditor->findChild<QToolButton *>()->setFocus();
-        QCOMPARE(page(), "sprites");
+        activateWindow();
+        QCOMPARE(pageFor(), "README");
+        controller()->openSample();
+        documents().setActiveMap(project().maps().first()->id());
+        tabs()->currentWidget()->setFocus();
+        QCOMPARE(pageFor(), "maps");
+        documents().setActiveImageEditor(project().images().first()->id());
+        tabs()->currentWidget()->setFocus();
+        QCOMPARE(pageFor(), "images");
+        documents().openSprites(project().spriteBanks().first()->id());
+        views().spriteEditor->content()->setFocus();
+        views().spriteEditor->findChild<QToolButton *>()->setFocus();
+        QCOMPARE(pageFor(), "sprites");
 
         guide.setOpener([](const QUrl &) { return false; });
         QSignalSpy failed(&guide, &Guide::failed);
@@ -173,8 +132,8 @@ private slots:
         QFETCH(const QString, command);
         QFETCH(const QByteArray, field);
         QFETCH(const int, key);
-        m_window->projectController()->openSample();
-        Guide guide(m_window->views());
+        controller()->openSample();
+        Guide guide(views());
         QString opened;
         guide.setOpener([&opened](const QUrl &url) {
             opened = QFileInfo(url.toLocalFile()).completeBaseName();
@@ -199,22 +158,22 @@ private slots:
 
     void keepsPicturesOfProjects()
     {
-        const QString good = (*m_folder)("good.quenmora");
-        const QString damaged = (*m_folder)("damaged.quenmora");
+        const QString good = m_folder("good.quenmora");
+        const QString damaged = m_folder("damaged.quenmora");
         QVERIFY(QFile::copy(EXAMPLES_FOLDER "/sample.quenmora", good));
         write(damaged, readFile(good).left(5000));
         const auto pictureOf = [this](const QString &file, const QString &program) {
             RecentPictures pictures;
-            pictures.setFolder((*m_folder)("cache"));
+            pictures.setFolder(m_folder("cache"));
             pictures.setProgram(program);
             QSignalSpy found(&pictures, &RecentPictures::found);
-            pictures.want({(*m_folder)("gone.quenmora"), (*m_folder)("damaged.quenmora"), file});
+            pictures.want({m_folder("gone.quenmora"), m_folder("damaged.quenmora"), file});
             found.wait(program.isEmpty() ? 1000 : 60'000);
             return pictures.picture(file);
         };
         const QImage made = pictureOf(good, EXPORT_PROGRAM);
         QVERIFY(!made.isNull() && std::max(made.width(), made.height()) <= RecentPictures::Extent);
-        QCOMPARE(QDir((*m_folder)("cache")).entryList(QDir::Files).size(), 1);
+        QCOMPARE(QDir(m_folder("cache")).entryList(QDir::Files).size(), 1);
         QCOMPARE(pictureOf(good, {}), made); // it is kept
         QFile file(good);
         QVERIFY(file.open(QIODevice::Append) && file.write("x") == 1);
@@ -224,10 +183,10 @@ private slots:
 
     void showsPicturesOnTheStartPage()
     {
-        const QString file = (*m_folder)("mine.quenmora");
-        QVERIFY(QFile::copy(EXAMPLES_FOLDER "/sample.quenmora", file));
+        const QString file = m_folder("mine.quenmora");
+        QVERIFY(writeFile(file, readFile(EXAMPLES_FOLDER "/sample.quenmora")));
         auto *page = m_window->findChild<StartPage *>();
-        page->pictures()->setFolder((*m_folder)("cache"));
+        page->pictures()->setFolder(m_folder("cache"));
         page->pictures()->setProgram(EXPORT_PROGRAM);
         m_window->menus()->fileMenu()->addRecentFile(file);
         const auto cards = page->findChildren<QToolButton *>();
@@ -251,30 +210,28 @@ private slots:
 
     void saysTheNextStepInEmptyEditors()
     {
-        ProjectController *controller = m_window->projectController();
-        controller->newProject("Empty");
-        Project *project = controller->project();
+        controller()->newProject("Empty");
         ProjectActions *actions = m_window->projectActions();
         actions->createTileSet("Tiles", {}, 4, false);
         QSize size(8, 8);
-        actions->createMap("Map", project->tileSets().first()->id(), size);
-        auto *view = qobject_cast<MapEditor::View *>(m_window->views().tabs->currentWidget());
+        actions->createMap("Map", project().tileSets().first()->id(), size);
+        auto *view = page<MapEditor::View>();
         QVERIFY(view);
         const auto hintOver = [](const QWidget *widget) {
             return widget->findChild<EmptyHint *>({}, Qt::FindDirectChildrenOnly);
         };
         const EmptyHint *onMap = hintOver(view->grid());
-        const EmptyHint *onTiles = m_window->views().tileEditor->findChild<EmptyHint *>();
+        const EmptyHint *onTiles = views().tileEditor->findChild<EmptyHint *>();
         QVERIFY(onMap && onTiles);
         QTRY_VERIFY(onMap->isVisibleTo(view->grid()) && !onMap->text().isEmpty());
         QTRY_VERIFY(!onTiles->text().isEmpty());
         QVERIFY(!view->grid()->childAt(onMap->geometry().center())); // the mouse goes through
         QVERIFY(view->grid()->rect().contains(onMap->geometry()));
 
-        project->maps().first()->setTile({7, 7}, {.index = 1, .used = true});
+        project().maps().first()->setTile({7, 7}, {.index = 1, .used = true});
         view->grid()->update();
         QTRY_VERIFY(!onMap->isVisibleTo(view->grid()));
-        QVERIFY(!hintOver(MapEditor::View(project->maps().first()).grid())); // a view by itself stays bare
+        QVERIFY(!hintOver(MapEditor::View(project().maps().first()).grid())); // a view by itself stays bare
     }
 
 private:
@@ -282,8 +239,6 @@ private:
     {
         QVERIFY(QDir().mkpath(QFileInfo(path).path()) && writeFile(path, bytes));
     }
-    std::unique_ptr<TemporaryFolder> m_folder;
-    std::optional<MainWindow> m_window;
 };
 
 QUENMORA_TEST_MAIN(TestStart)
