@@ -31,6 +31,7 @@ ColourCyclesDialog::ColourCyclesDialog(PaletteEditor *editor, QAction *cycling, 
     , m_speed(new QLabel)
 {
     m_list->setAccessibleName(tr("Ranges of the palette whose colours go round"));
+    m_frames->setAccessibleName(tr("Frames a step")); // its label stands beside two widgets
     m_list->setMinimumHeight(80);
     m_add->setAutoDefault(false);
     m_remove->setAutoDefault(false);
