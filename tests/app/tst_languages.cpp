@@ -2,8 +2,6 @@
 // English ones. QUENMORA_LANGUAGE=de does it in that language instead, of which only the latter is asked, and
 // QUENMORA_PICTURES=FOLDER leaves pictures of what was seen (scripts/languages.sh).
 
-#include "app/mainwindow.h"
-
 #include "app/dialogs/importbinarydialog.h"
 #include "app/dialogs/importpicturedialog.h"
 #include "app/dialogs/importzxfontdialog.h"
@@ -20,32 +18,9 @@
 #include "language/catalogues.h"
 #include "support/lupdate.h"
 #include "support/pseudolanguage.h"
-#include "support/sampleproject.h"
-#include "support/testmain.h"
 #include "support/usualrecipe.h"
+#include "support/windowscene.h"
 #include "update/updatedialog.h"
-
-#include <QAbstractButton>
-#include <QAbstractItemView>
-#include <QAbstractSpinBox>
-#include <QColorDialog>
-#include <QComboBox>
-#include <QDirIterator>
-#include <QDockWidget>
-#include <QFileDialog>
-#include <QGroupBox>
-#include <QHeaderView>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMenu>
-#include <QRegularExpression>
-#include <QStyleOptionComboBox>
-#include <QTabBar>
-#include <QTemporaryDir>
-#include <QTest>
-#include <QTimer>
-
-#include <optional>
 
 namespace {
 
@@ -132,21 +107,35 @@ int missingWidth(QWidget &widget)
     return 0;
 }
 
+/// Whether Tab or a pointer reaches a widget that does not say what it is. An empty bar of tabs waits for docks.
+bool isNameless(QWidget &widget)
+{
+    const auto *bar = qobject_cast<QTabBar *>(&widget);
+    const auto *button = qobject_cast<QAbstractButton *>(&widget);
+    const bool isQts = qobject_cast<QTabBar *>(widget.parentWidget()) || widget.objectName().startsWith("qt_")
+        || widget.inherits("QLineEditIconButton") || widget.inherits("QTableCornerButton");
+    if (bar ? bar->count() == 0 : isQts)
+        return false;
+    if (widget.focusProxy() || !(widget.focusPolicy() & Qt::TabFocus))
+        return button && button->text().isEmpty() && button->accessibleName().isEmpty();
+    const QAccessibleInterface *met = QAccessible::queryAccessibleInterface(&widget);
+    return !met || met->text(QAccessible::Name).isEmpty();
+}
+
 } // namespace
 
-class TestLanguages : public QObject
+class TestLanguages : public QObject, protected WindowScene
 {
     Q_OBJECT
 
 private slots:
     void initTestCase()
     {
-        Update::UpdateChecker::setFeedAddress({});
         QApplication::setApplicationName("Quenmora");
         QApplication::setApplicationDisplayName("Quenmora");
         const QString language = qEnvironmentVariable("QUENMORA_LANGUAGE");
         if (language.isEmpty()) {
-            const QString catalogue = m_folder.filePath("pseudo.ts");
+            const QString catalogue = m_folder("pseudo.ts");
             QCOMPARE(Lupdate::run(catalogue), QString());
             m_pseudo.emplace(catalogue);
             QVERIFY(!m_pseudo->isEmpty());
@@ -155,14 +144,13 @@ private slots:
             qputenv("LANGUAGE", language.toUtf8());
             Catalogues::install(*qApp);
         }
-        m_window.emplace();
+        openWindow();
         m_window->resize(1280, 800);
         m_window->setDeletionCallback([](const DeletionQuestion &) { return false; });
-        m_window->projectController()->setUnsavedAnswerCallback([](auto) { return ProjectController::Discard; });
-        m_window->projectController()->setFileNameCallback([] { return QString(); });
+        controller()->setFileNameCallback([] { return QString(); });
         m_window->menus()->setFileChooser([this](const FileRequest &request, QWidget *) { return fileFor(request); });
         look("start");
-        m_window->projectController()->newProject("1");
+        controller()->newProject("1");
         look("empty");
     }
 
@@ -170,20 +158,20 @@ private slots:
     void saysAndShowsAll()
     {
         SampleProject::fill(project());
-        noteNames();
-        DocumentController &documents = *m_window->documentController();
+        forEachAsset(project(), [this](const auto &asset) { m_names.append(asset.name()); });
+        m_names.removeAll(QString());
         const auto visit = [this](const char *name) {
             look(name);
             useAll(name);
         };
-        documents.setActivePalette(project().palettes().first()->id());
-        documents.setActiveImageEditor(project().images().first()->id());
+        documents().setActivePalette(project().palettes().first()->id());
+        documents().setActiveImageEditor(project().images().first()->id());
         visit("image");
-        documents.setActiveSpriteEditor(project().spriteBanks().first()->id());
+        documents().setActiveSpriteEditor(project().spriteBanks().first()->id());
         visit("sprites");
-        documents.setActiveBlockEditor(project().blockSets().first()->id());
+        documents().setActiveBlockEditor(project().blockSets().first()->id());
         visit("blocks");
-        documents.setActiveMap(project().maps().first()->id());
+        documents().setActiveMap(project().maps().first()->id());
         visit("map");
         for (QDockWidget *dock : m_window->findChildren<QDockWidget *>()) {
             dock->show();
@@ -196,13 +184,15 @@ private slots:
             m_untranslated += m_pseudo->strangers();
         else
             m_untranslated.clear(); // a language may have words of English
-        m_untranslated.removeDuplicates();
-        m_cut.removeDuplicates();
-        for (const QString &text : std::as_const(m_untranslated))
-            qWarning("not translated: %s", qPrintable(text));
-        for (const QString &text : std::as_const(m_cut))
-            qWarning("cut: %s", qPrintable(text));
-        QCOMPARE(m_untranslated.size() + m_cut.size(), 0);
+        int faults = 0;
+        for (auto [fault, texts] :
+             {std::pair("not translated", m_untranslated), {"cut", m_cut}, {"without a name", m_nameless}}) {
+            texts.removeDuplicates();
+            faults += int(texts.size());
+            for (const QString &text : std::as_const(texts))
+                qWarning("%s: %s", fault, qPrintable(text));
+        }
+        QCOMPARE(faults, 0);
     }
 
     void cleanupTestCase()
@@ -213,8 +203,6 @@ private slots:
     }
 
 private:
-    Project &project() { return *m_window->projectController()->project(); }
-
     /// Opens what no menu opens with the sample project as it is.
     void lookAtOtherDialogs()
     {
@@ -223,7 +211,7 @@ private:
         for (int i = 0; i < 240 * 160; ++i)
             picture.setPixel(i % 240, i / 240,
                              qRgba(i * 37 % 256, i * (i % 101) / 7 % 256, i * 7 % 256, i % 3 ? 255 : 0));
-        const QString file = m_folder.filePath("4.png");
+        const QString file = m_folder("4.png");
         QVERIFY(picture.save(file));
         const auto show = [this](QDialog &dialog) {
             dialog.show();
@@ -244,16 +232,16 @@ private:
         image.show(picture, sample.palettes().first(), {256, 192}, 256);
         show(image);
         MapEditor::ExportDialog map;
-        map.offer(*sample.maps().first(), QDir(m_folder.path()));
+        map.offer(*sample.maps().first(), QDir(m_folder()));
         show(map);
         UpdateDialog update;
         update.setRelease({"0.8", "stable", "2026-12-01", {}, {}}, "0.7", "2026-10-15");
         show(update);
         const NextData::Recipe recipe = usualRecipe(sample);
         ExportProjectDialog exports;
-        exports.show(sample, m_folder.filePath("5.quenmora"), recipe, true);
+        exports.show(sample, m_folder("5.quenmora"), recipe, true);
         show(exports);
-        exports.show(sample, m_folder.filePath("5.quenmora"), {}, true);
+        exports.show(sample, m_folder("5.quenmora"), {}, true);
         show(exports);
         AddOutputsDialog outputs;
         outputs.show(sample, {});
@@ -292,36 +280,13 @@ private:
         return dialogs - QSet<QString>{"DialogBase", "CreationDialog"};
     }
 
-    /// What stands in texts and is never translated: names of assets and of things in the sample project, files, units.
-    void noteNames()
-    {
-        const auto add = [this](const auto &assets) {
-            for (const auto &asset : assets) {
-                if (!asset->name().isEmpty())
-                    m_names.append(asset->name());
-            }
-        };
-        add(project().palettes());
-        add(project().tileSets());
-        add(project().maps());
-        add(project().blockSets());
-        add(project().spriteBanks());
-        add(project().images());
-        for (const auto &blocks : project().blockSets())
-            add(blocks->animations());
-        for (const auto &bank : project().spriteBanks())
-            add(bank->animations());
-    }
-
     /// A file of the kind that is asked for, so that what comes next is seen.
     [[nodiscard]] QString fileFor(const FileRequest &request) const
     {
         const QString filters = request.nameFilters.join(' ');
         if (request.acceptMode == QFileDialog::AcceptSave || filters.contains("*.quenmora"))
             return {};
-        QFile file(m_folder.filePath(filters.contains("*.png")       ? "1.png"
-                                         : filters.contains("*.spr") ? "2.spr"
-                                                                     : "3.ch8"));
+        QFile file(m_folder(filters.contains("*.png") ? "1.png" : filters.contains("*.spr") ? "2.spr" : "3.ch8"));
         if (file.fileName().endsWith(".png")) {
             QFile::copy(QStringLiteral(EXAMPLES_FOLDER "/pictures/sprites.png"), file.fileName());
             return file.fileName();
@@ -354,7 +319,7 @@ private:
                 QTimer::singleShot(0, this, [this, name] { look(name.constData(), false); });
                 action->trigger();
                 look(name.constData(), false);
-                if (!m_window->projectController()->project())
+                if (!controller()->project())
                     return;
             }
         }
@@ -397,6 +362,8 @@ private:
                 if (rest.contains(word))
                     m_untranslated.append(text + " (" + where + ')');
             }
+            if (widget->isVisible() && widget->window() == &window && isNameless(*widget))
+                m_nameless.append(where);
             if (const int missing = widget->isVisible() ? missingWidth(*widget) : 0; missing > 0)
                 m_cut.append(QStringLiteral("%1 pixels: %2 %3 (%4)")
                                  .arg(missing)
@@ -415,15 +382,14 @@ private:
                                    .arg(place.section(':', -1)));
     }
 
-    QTemporaryDir m_folder;
     std::optional<PseudoLanguage> m_pseudo;
-    std::optional<MainWindow> m_window;
     QSet<const QAction *> m_used;
     QSet<QString> m_seen; ///< classes of windows, without namespaces
     QStringList m_names{"Quenmora"};
     int m_pictures = 0;
     QStringList m_untranslated; ///< with where they are
     QStringList m_cut;
+    QStringList m_nameless; ///< what takes the keyboard or a click and has no name
 };
 
 QUENMORA_TEST_MAIN(TestLanguages)
