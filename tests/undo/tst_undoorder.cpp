@@ -1,3 +1,5 @@
+// What is recorded, and that it is undone in any order.
+
 #include "model/mapobjects.h"
 #include "model/palette.h"
 #include "model/spriteanim.h"
@@ -13,11 +15,15 @@
 #include <QUndoStack>
 
 #include <functional>
+#include <memory>
 #include <optional>
 
 namespace {
 
 constexpr quint32 Rounds = 60;
+
+qint64 now = 0;
+qint64 gap = 1000; ///< from edit to edit, so that none merges with the one before
 
 /// Assets that share a tile set and a bank. Tile n shows pixels n + 1 at first, and so does sprite n: edits name
 /// them by that, so that they mean the same with and without another edit before them.
@@ -42,7 +48,7 @@ struct Scene
         block->addFrame()->setCells({{{0}, {3}, {4}, {7}}});
         walk->setSize({3, 1});
         walk->frame(0)->setCells({{{0}, {3}, {4}}});
-        recorder.emplace(&project, [this](const QUuid &) { return front; });
+        recorder.emplace(project.get(), [this](const QUuid &) { return front; });
     }
     int tile(int pixel) const
     {
@@ -72,6 +78,19 @@ struct Scene
         edit(*map);
         front->push(new MapEditCommand("Edit", map, before, map->snapshot()));
     }
+    void editEverything(int delay)
+    {
+        block->setDelay(delay);
+        walk->setDelay(delay);
+        palette->setColour(delay, Qt::white, false);
+        tileSet->insertTile(0);
+        ofBank([this] { bank->addSprite(); });
+    }
+    void undoAndRedoEverything()
+    {
+        first.setIndex(0);
+        first.setIndex(first.count());
+    }
     QString contents() const
     {
         QString text;
@@ -80,7 +99,7 @@ struct Scene
             out << state.image.pixelIndex(0, 0) << state.offset << state.attributes << state.value;
         for (int i = 0; i < bank->count(); ++i)
             out << "\nsprite" << bank->spriteImage(i, false, false, false).pixelIndex(0, 0);
-        for (const QPointer<Map> &map : project.maps()) {
+        for (const QPointer<Map> &map : project->maps()) {
             for (const TileMap::Rows &layer : {map->tileLayer()->rows(), map->objectLayer()->rows()}) {
                 for (const TileMap::Row &row : layer) {
                     out << "\n";
@@ -101,14 +120,14 @@ struct Scene
         return text;
     }
 
-    Project project;
-    QPointer<Palette> palette = project.createPalette(CreateAction::DefaultNext, "Colours");
-    QPointer<TileSet> tileSet = project.createTileSet("Tiles", palette->id(), 8);
-    QPointer<Map> level = project.createMap("Level", tileSet->id(), {8, 2});
-    QPointer<Map> other = project.createMap("Other", tileSet->id(), {8, 4});
-    QPointer<MapObjects> blocks = project.createBlockList("Blocks", tileSet->id());
+    std::unique_ptr<Project> project = std::make_unique<Project>();
+    QPointer<Palette> palette = project->createPalette(CreateAction::DefaultNext, "Colours");
+    QPointer<TileSet> tileSet = project->createTileSet("Tiles", palette->id(), 8);
+    QPointer<Map> level = project->createMap("Level", tileSet->id(), {8, 2});
+    QPointer<Map> other = project->createMap("Other", tileSet->id(), {8, 4});
+    QPointer<MapObjects> blocks = project->createBlockList("Blocks", tileSet->id());
     QPointer<TileAnimation> block = blocks->createBoundTileAnimation("Door");
-    QPointer<SpriteBank> bank = project.createSpriteBank(Quenmora::EightBit, "Sprites", palette->id());
+    QPointer<SpriteBank> bank = project->createSpriteBank(Quenmora::EightBit, "Sprites", palette->id());
     QPointer<SpriteAnim> walk = bank->newAnimation();
     QUndoStack first;
     QUndoStack second;
@@ -169,7 +188,7 @@ const QList<Edit> &edits()
          [](Scene &s) {
              s.tileSet->tile(s.tile(3))->setValue(9);
              s.bank->setImage(s.sprite(5), plainImage({16, 16}, 50));
-             const QPointer<Map> map = s.project.createMap("New", s.tileSet->id(), {2, 1});
+             const QPointer<Map> map = s.project->createMap("New", s.tileSet->id(), {2, 1});
              map->setTile({0, 0}, {s.tile(3), false, false, false, 0, true});
              map->addSprite(s.placed(3));
          }},
@@ -190,32 +209,135 @@ class TestUndoOrder : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase()
+    void init()
     {
-        EditClock::setSource([this] { return m_now += 1000; }); // so that no edit merges with the one before
+        gap = 1000;
+        EditClock::setSource([] { return now += gap; });
+    }
+    void cleanupTestCase() { EditClock::setSource({}); }
+
+    void colourEditsGatherWithinTheLimit()
+    {
+        Scene scene;
+        gap = 0;
+        // each edit 400 ms after the one before: the limit slides
+        for (const auto &[index, colour] : {std::pair{5, Qt::white}, {3, Qt::red}, {5, Qt::green}}) {
+            scene.palette->setColour(index, colour, false);
+            now += 400;
+        }
+        QCOMPARE(scene.first.undoText(), "Colour");
+        now += 1;
+        scene.palette->setColour(7, Qt::white, true);
+        QCOMPARE(scene.first.count(), 2);
+        const Palette &palette = *scene.palette;
+        scene.first.setIndex(0); // the standard palette
+        QVERIFY(palette.rawColour(3) == 0x0301 && palette.rawColour(5) == 0x0501 && palette.rawColour(7) == 0x0701);
+        scene.first.setIndex(2);
+        QVERIFY(palette.rawColour(3) == 0xE000 && palette.rawColour(5) == 0x1C00 && palette.rawColour(7) == 0xFF81);
+    }
+
+    void animationEditsMergeWithinTheLimit()
+    {
+        Scene scene;
+        gap = 0;
+        const TileAnimation::State original = scene.block->state();
+        scene.block->setDelay(2);
+        now += 100;
+        scene.block->frame(0)->setMirror(0, 0, true);
+        now += 100;
+        scene.block->setSize({3, 3});
+        QCOMPARE(scene.first.undoText(), "Edit Frames");
+        QCOMPARE(scene.first.count(), 1);
+        now += 101;
+        scene.block->setDelay(5);
+        const auto other = scene.blocks->createBoundTileAnimation("Lift");
+        other->setDelay(4); // still being made
+        QCoreApplication::processEvents();
+        QCOMPARE(scene.first.count(), 2);
+        other->setDelay(1);
+        QCOMPARE(scene.first.count(), 3);
+        scene.first.undo();
+        QCOMPARE(other->delay(), 4);
+        scene.first.setIndex(0);
+        QVERIFY(scene.block->state() == original);
+        emit scene.block->contentChanged(); // without a change
+        QCOMPARE(scene.first.count(), 3);
+    }
+
+    void structuralEditsAreStepsOfTheirOwn()
+    {
+        Scene scene;
+        scene.ofBank([&scene] { scene.bank->addSprite(); });
+        scene.walk->frame(0)->setIndex(0, 0, 8);
+        scene.ofBank([&scene] { scene.bank->deleteSprite(8); });
+        emit scene.bank->structureChanged("End without a beginning");
+        scene.walk->setDelay(2); // of which the edit of the bank is no part
+        QCOMPARE(scene.first.count(), 4);
+        for (const auto &[index, sprites, cell] : {std::tuple(3, 8, 0), {2, 9, 8}, {3, 8, 0}, {1, 9, 0}}) {
+            scene.first.setIndex(index);
+            QVERIFY(scene.bank->count() == sprites && scene.walk->frame(0)->cell(0, 0).index == cell);
+        }
+    }
+
+    void laterAssetsAreWatched()
+    {
+        Scene scene;
+        scene.project->createPalette(CreateAction::Blank, "Late")->setColour(0, Qt::white, false);
+        scene.project->createTileSet("Late", scene.palette->id(), 4)->deleteTile(0);
+        const auto bank = scene.project->createSpriteBank(Quenmora::FourBit, "Late", scene.palette->id());
+        bank->deleteAnimation(bank->newAnimation()->id()); // does not live until it would be watched
+        QCoreApplication::processEvents();
+        QCOMPARE(scene.first.count(), 2);
+    }
+
+    void undoAndEditsWithoutAStackRecordNothing()
+    {
+        Scene scene;
+        scene.front = nullptr;
+        scene.editEverything(3);
+        scene.front = &scene.first;
+        scene.editEverything(5);
+        QCOMPARE(scene.first.count(), 5);
+        scene.undoAndRedoEverything();
+        QCOMPARE(scene.first.count(), 5);
+        scene.first.setIndex(0);
+        QCOMPARE(scene.block->delay(), 3);
+        // what was undone is the state from which the next edit is recorded
+        scene.block->setDelay(7);
+        scene.first.undo();
+        QCOMPARE(scene.block->delay(), 3);
+    }
+
+    void deletedAssetsAreSafe()
+    {
+        Scene scene;
+        scene.editEverything(3);
+        emit scene.tileSet->structureAboutToChange();
+        emit scene.bank->structureAboutToChange();
+        scene.bank->deleteAnimation(scene.walk->id());
+        scene.blocks->removeAnimation(scene.block->id());
+        scene.undoAndRedoEverything();
+        for (const QPointer<Map> &map : scene.project->maps())
+            scene.project->deleteMap(map->id());
+        QVERIFY(scene.project->deleteBlocks(scene.blocks->id()) && scene.project->deleteTileSet(scene.tileSet->id()));
+        QVERIFY(scene.project->deleteSpriteBank(scene.bank->id()) && scene.project->deletePalette(scene.palette->id()));
+        scene.undoAndRedoEverything();
+        scene.recorder.reset();
+        scene.undoAndRedoEverything();
+        scene.project.reset();
+        scene.undoAndRedoEverything();
     }
 
     void whatComesBackFollowsTheOrderOfThePalette()
     {
-        Project project;
-        const QPointer<Palette> palette = project.createPalette(CreateAction::DefaultNext, "Colours");
-        const QPointer<TileSet> tiles = project.createTileSet("Tiles", palette->id(), 3);
-        const QPointer<SpriteBank> bank = project.createSpriteBank(Quenmora::EightBit, "Sprites", palette->id());
-        bank->addSprite();
-        tiles->setTileImage(1, plainImage({8, 8}, 0x25));
-        tiles->setTileOffset(1, 2);
-        bank->setImage(1, plainImage({16, 16}, 0x25));
-        QUndoStack stack;
-        const EditRecorder recorder(&project, [&stack](const QUuid &) { return &stack; });
-        tiles->deleteTile(1);
-        emit bank->structureAboutToChange();
-        bank->deleteSprite(1);
-        emit bank->structureChanged("Delete Sprite");
-        QCOMPARE(stack.count(), 2);
-        PaletteHistory::of(*palette).add({{0x25, 0x29}, {0x29, 0x25}}); // on the stack of another document
-        stack.setIndex(0);
-        QCOMPARE(tiles->image(1).pixelIndex(0, 0), 0x29);
-        QCOMPARE(bank->spriteImage(1, false, false, false).pixelIndex(0, 0), 0x29);
+        Scene scene;
+        scene.tileSet->setTileImage(5, plainImage({8, 8}, 0x5A));
+        scene.bank->setImage(5, plainImage({16, 16}, 0x5A));
+        scene.tileSet->deleteTile(5);
+        scene.ofBank([&scene] { scene.bank->deleteSprite(5); });
+        PaletteHistory::of(*scene.palette).add({{0x5A, 0x59}, {0x59, 0x5A}}); // on the stack of another document
+        scene.first.setIndex(0);
+        QVERIFY(scene.tile(0x59) == 5 && scene.sprite(0x59) == 5);
     }
 
     void whatIsDeletedSinceIsNotMovedBack()
@@ -228,60 +350,14 @@ private slots:
         QCOMPARE(undone.names, (Numbering::Names{1, 2}));
         QCOMPARE(undone.tiles, now.tiles);
     }
-    void cleanupTestCase() { EditClock::setSource({}); }
-
-    /// Undone after another edit, on another stack, an edit leaves what that one would have made alone.
-    void undoLeavesWhatAnotherEditMade_data()
-    {
-        QTest::addColumn<Edit>("edit");
-        QTest::addColumn<Edit>("other");
-        for (const Edit &edit : edits()) {
-            for (const Edit &other : edits()) {
-                const bool onOneStack = ofOneMap().contains(edit.name) && ofOneMap().contains(other.name);
-                if (edit.name != other.name && !onOneStack && edit.name != edits().constLast().name)
-                    QTest::addRow("%s, %s", edit.name, other.name) << edit << other;
-            }
-        }
-    }
-    void undoLeavesWhatAnotherEditMade()
-    {
-        QFETCH(Edit, edit);
-        QFETCH(Edit, other);
-        Scene alone;
-        const QString atFirst = alone.contents();
-        other.run(alone);
-
-        Scene scene;
-        edit.run(scene);
-        const int steps = scene.first.count();
-        scene.front = &scene.second;
-        other.run(scene);
-        const QString both = scene.contents();
-        const int others = scene.second.count();
-        scene.first.setIndex(0);
-        QCOMPARE(scene.contents(), alone.contents());
-        scene.first.setIndex(steps);
-        QCOMPARE(scene.contents(), both);
-        scene.second.setIndex(0);
-        scene.second.setIndex(scene.second.count());
-        QCOMPARE(scene.contents(), both);
-        QVERIFY(scene.first.count() == steps && scene.second.count() == others);
-
-        if (other.name == edits().constLast().name)
-            return;
-        scene.second.setIndex(0);
-        scene.first.setIndex(0);
-        QCOMPARE(scene.contents(), atFirst);
-    }
-
-    /// The same of many edits on three stacks, which are undone and redone in any order in between: what must be left
-    /// is what those that are not undone make of a scene of their own, one after the other.
+    /// Edits on three stacks, which are undone and redone in any order in between: what must be left is what those that
+    /// are not undone make of a scene of their own, one after the other.
     void undoInAnyOrderLeavesTheOtherEdits()
     {
         struct Step
         {
             const Edit *edit;
-            QUndoStack *stack;
+            QUndoStack *stack; ///< none of what undo does not know
             int index; ///< where in the stack it begins
         };
         for (quint32 seed = 1; seed <= Rounds; ++seed) {
@@ -289,6 +365,8 @@ private slots:
             QList<const Edit *> left;
             for (qsizetype i = 0; i < edits().size() - 1; ++i)
                 left.insert(random.bounded(left.size() + 1), &edits()[i]);
+            left.resize(seed % 2 ? left.size() : 2 + seed % 3); // two may meet more often than all of them
+            left.append(&edits().last());
             Scene scene;
             QUndoStack third;
             QUndoStack *const stacks[] = {&scene.first, &scene.second, &third};
@@ -297,18 +375,24 @@ private slots:
                 const Edit *edit = left.takeFirst();
                 scene.front = stacks[ofOneMap().contains(edit->name) ? 0 : random.bounded(3)];
                 const int index = scene.front->index();
-                steps.removeIf([&](const Step &step) { return step.stack == scene.front && step.index >= index; });
+                const int count = scene.front->count();
                 edit->run(scene);
-                if (scene.front->index() > index)
+                if (scene.front->index() > index) {
+                    steps.removeIf([&](const Step &step) { return step.stack == scene.front && step.index >= index; });
                     steps.append({edit, scene.front, index});
+                } else if (left.isEmpty()) {
+                    QCOMPARE(scene.front->count(), count);
+                    steps.append({edit, nullptr, 0});
+                }
                 for (int i = random.bounded(8); i > 0; --i) {
                     const Step &step = steps[random.bounded(steps.size())];
-                    step.stack->setIndex(random.bounded(2) ? step.index : step.stack->count());
+                    if (step.stack)
+                        step.stack->setIndex(random.bounded(2) ? step.index : step.stack->count());
                 }
                 Scene must;
                 QStringList names;
                 for (const Step &step : std::as_const(steps)) {
-                    const bool undone = step.stack->index() <= step.index;
+                    const bool undone = step.stack && step.stack->index() <= step.index;
                     names += undone ? QString("(%1)").arg(step.edit->name) : step.edit->name;
                     if (!undone)
                         step.edit->run(must);
@@ -350,9 +434,6 @@ private slots:
             QVERIFY(frame.cells.size() == small.size.height() && frame.cells.last().size() == small.size.width());
         QCOMPARE(back.frames.size(), 2);
     }
-
-private:
-    qint64 m_now = 0;
 };
 
 QUENMORA_TEST_MAIN(TestUndoOrder)
