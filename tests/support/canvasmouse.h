@@ -2,10 +2,13 @@
 
 #include "editors/canvas/canvas.h"
 
+#include "model/palette.h"
+#include "support/modeltools.h"
 #include "support/testmain.h"
 
 #include <QApplication>
 #include <QMouseEvent>
+#include <QSignalSpy>
 
 namespace EditorInput {
 
@@ -43,6 +46,36 @@ struct Mouse
         for (const QPoint pixel : pixels.mid(1))
             move(pixel, button);
         release(pixels.last(), button);
+    }
+};
+
+/// A canvas of this many pixels in a widget that it fills exactly at zoom 16, with what it tells of edits.
+struct CanvasScene
+{
+    Palette palette;
+    Canvas canvas;
+    Mouse mouse{canvas};
+    QSignalSpy edits{&canvas, &Canvas::edited};
+
+    explicit CanvasScene(QSize size) : canvas(size)
+    {
+        palette.loadStandardNext();
+        canvas.bindPalette(&palette);
+        canvas.resize(size * 16);
+        canvas.show();
+    }
+    /// The texts of the edits, of which each must begin where the one before ended, so that undo comes back.
+    QString texts() const
+    {
+        QStringList texts;
+        QByteArray reached;
+        for (const QVariantList &edit : edits) {
+            const bool scroll = edit[3].value<PixelEditCommand::Kind>() == PixelEditCommand::Scroll;
+            const bool follows = texts.isEmpty() || indices(edit[1].value<QImage>()) == reached;
+            texts += follows && scroll == (edit[0] == "Scroll") ? edit[0].toString() : QStringLiteral("astray");
+            reached = indices(edit[2].value<QImage>());
+        }
+        return (texts.isEmpty() || reached == indices(canvas.image()) ? texts : texts << "unrecorded").join(", ");
     }
 };
 
