@@ -109,9 +109,10 @@ struct MapGridFixture : MapAssets
     {
         QTest::mousePress(&grid, button, modifiers, point);
     }
-    void move(QPoint point)
+    void move(QPoint point, Qt::KeyboardModifiers modifiers = {})
     {
-        QMouseEvent event(QEvent::MouseMove, point, grid.mapToGlobal(point), Qt::NoButton, grid.pointer().held, {});
+        QMouseEvent event(QEvent::MouseMove, point, grid.mapToGlobal(point), Qt::NoButton, grid.pointer().held,
+                          modifiers);
         QApplication::sendEvent(&grid, &event);
     }
     void release(QPoint point, Qt::MouseButton button = Qt::LeftButton)
