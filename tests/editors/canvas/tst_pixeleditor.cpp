@@ -145,6 +145,7 @@ private slots:
     void toolPaletteKeysAndClipboardReachTheCanvas()
     {
         const auto scene = fetchScene();
+        Canvas &canvas = scene->canvas();
         auto *tools = scene->editor().findChild<ToolPalette *>();
         QApplication::clipboard()->clear();
         tools->action(Paste)->trigger();
@@ -154,15 +155,15 @@ private slots:
         scene->target().paste();
         QCOMPARE(tools->mode(), Paste);
         tools->action(Fill)->trigger();
-        QCOMPARE(scene->canvas().mode(), Fill);
+        QCOMPARE(canvas.mode(), Fill);
         QApplication::clipboard()->setImage(plainPicture({2, 2}, Qt::blue));
         scene->target().paste();
-        QCOMPARE(scene->canvas().clipboardImage().pixelIndex(0, 0), 3);
+        QCOMPARE(canvas.clipboardImage().pixelIndex(0, 0), 3);
         scene->editor().activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&scene->editor()));
-        scene->canvas().setFocus();
-        QTest::keyClick(&scene->canvas(), Qt::Key_X);
-        QVERIFY(scene->canvas().ink() == 0 && scene->canvas().paper() == 1);
+        canvas.setFocus();
+        QTest::keyClick(&canvas, Qt::Key_X);
+        QVERIFY(canvas.ink() == 0 && canvas.paper() == 1);
     }
 
     void coloursAreReplaced_data() { addScenes(); }
@@ -175,24 +176,23 @@ private slots:
         Canvas &canvas = scene->canvas();
         canvas.setPaper(1);
         canvas.setInk(3);
-        canvas.setMode(Select);
-        const EditorInput::Mouse mouse{canvas};
-        mouse.drag({{0, 0}, {3, 3}});
-        EditorInput::trigger(*canvas.contextMenu(), "Replace Colour");
+        const auto run = [&canvas](bool selects, const QString &entry) {
+            canvas.setMode(Select);
+            if (selects)
+                EditorInput::Mouse{canvas}.drag({{0, 0}, {3, 3}});
+            EditorInput::trigger(*canvas.contextMenu(), entry);
+        };
         const auto pixels = [&scene] { return QList{scene->at(0, 0), scene->at(0, 1), scene->at(0, 5)}; };
+        run(true, "Replace Colour");
         QCOMPARE(pixels(), (QList{0, 3, 1}));
-        canvas.selectNone();
-        EditorInput::trigger(*canvas.contextMenu(), "Replace Colour");
+        run(false, "Replace Colour");
         QCOMPARE(pixels(), (QList{0, 3, 3}));
         QCOMPARE(scene->stack.count(), 4);
         scene->stack.setIndex(2);
         QCOMPARE(pixels(), (QList{0, 1, 1}));
-        // and a brush is what is selected
-        EditorInput::trigger(*canvas.contextMenu(), "Brush from Selection");
-        QVERIFY(canvas.paintOptions().brush.isPixel()); // nothing is
-        canvas.setMode(Select);
-        mouse.drag({{0, 0}, {3, 3}});
-        EditorInput::trigger(*canvas.contextMenu(), "Brush from Selection");
+        run(false, "Brush from Selection");
+        QVERIFY(canvas.paintOptions().brush.isPixel()); // nothing is selected
+        run(true, "Brush from Selection");
         QCOMPARE(canvas.paintOptions().brush.shape(), Brush::Picture);
         QCOMPARE(canvas.mode(), Draw);
     }

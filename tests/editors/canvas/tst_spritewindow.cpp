@@ -13,26 +13,12 @@
 
 using namespace PixelScenes;
 using namespace Quenmora::Ui;
-using SpriteEditor::SpriteList;
 
 class TestSpriteWindow : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void spriteListLaysOutCentredRows()
-    {
-        SpriteScene scene;
-        SpriteList list;
-        list.setSprites(scene.bank.get());
-        list.resize(150, list.heightForWidth(150));
-        QCOMPARE(list.size(), QSize(150, 96));
-        QCOMPARE(list.cellRect(3), QRect(3, 48, 48, 48));
-        const std::pair<QPoint, int> hits[] = {{{2, 5}, -1}, {{3, 5}, 0}, {{148, 5}, -1}, {{3, 50}, 3}, {{60, 50}, -1}};
-        for (const auto &[point, index] : hits)
-            QCOMPARE(list.indexAt(point), index);
-    }
-
     void spriteStructureEditsAskForOneUndoStep()
     {
         const struct
@@ -84,7 +70,6 @@ private slots:
             bank.setTransparency(before);
             scene.window.setSprites(&bank);
             auto *index = scene.window.findChild<QSpinBox *>();
-            QCOMPARE(index->text(), shown);
             QSignalSpy repainted(&bank, &SpriteBank::coloursChanged); // what maps paint anew for
             auto *colours = scene.window.findChild<ColourPalette *>();
             const QImage marked = colours->grab().toImage(); // the entry in the palette
@@ -96,8 +81,7 @@ private slots:
                 QCOMPARE(alpha == 0, clear.contains(pixel));
             }
             scene.stack.undo();
-            QCOMPARE(bank.transparency(), before);
-            QCOMPARE(index->text(), shown);
+            QVERIFY(bank.transparency() == before && index->text() == shown);
             scene.stack.redo();
             QCOMPARE(bank.transparency(), chosen);
             QVERIFY(scene.stack.count() == 1 && repainted.size() == 3);
@@ -110,35 +94,26 @@ private slots:
         for (int i = 0; i < 3; ++i)
             scene.bank->setImage(i, plainImage({16, 16}, i < 2 ? i + 1 : 7)); // of which 3 would be clear
         const QPointer<SpriteAnim> walk = scene.bank->newAnimation();
-        while (walk->frameCount() < 2)
-            walk->addFrame();
+        walk->addFrame()->setIndex(0, 0, 1);
         walk->frame(0)->setIndex(0, 0, 2);
-        walk->frame(1)->setIndex(0, 0, 1);
-        QAction *onion = nullptr;
-        for (QAction *action : scene.window.findChildren<QAction *>())
-            onion = action->text() == "Onion Skin" ? action : onion;
-        QVERIFY(onion);
-        const auto middle = [&scene] {
-            return scene.canvas().grab().toImage().pixelColor(scene.canvas().rect().center());
-        };
+        const auto actions = scene.window.findChildren<QAction *>();
+        QAction *onion = *std::ranges::find(actions, "Onion Skin", &QAction::text);
         scene.show(1);
-        const QColor alone = middle();
-        onion->trigger();
-        const QColor below = scene.palette.colour(7);
-        const QColor mixed = middle();
-        QCOMPARE(mixed.blue(), int(std::lround(alone.blue() * 0.65 + below.blue() * 0.35)));
-        QVERIFY(mixed != alone);
-        onion->trigger();
-        QCOMPARE(middle(), alone);
+        QList<int> blue;
+        for (int i = 0; i < 3; ++i) {
+            blue += scene.canvas().grab().toImage().pixelColor(scene.canvas().rect().center()).blue();
+            onion->trigger();
+        }
+        QVERIFY(blue[0] != blue[1] && blue[0] == blue[2]);
+        QCOMPARE(blue[1], int(std::lround(blue[0] * 0.65 + scene.palette.colour(7).blue() * 0.35)));
 
         scene.bank->setImage(2, plainImage({16, 16}, 0x12)); // of 4 bits, in a file that holds more
         scene.canvas().setPaper(2);
         scene.canvas().setInk(9);
-        SignalLog log;
-        log.listen(*scene.bank, &SpriteBank::structureChanged, "ended");
+        QSignalSpy ended(scene.bank.get(), &SpriteBank::structureChanged);
         EditorInput::trigger(*scene.canvas().contextMenu(), "Replace Colour in All Sprites");
         QCOMPARE(scene.sprites(), QByteArray("\1\x09\x09", 3));
-        QCOMPARE(log.take(), QStringList("ended Replace Colour"));
+        QCOMPARE(ended, (QList<QVariantList>{{"Replace Colour"}}));
     }
 
     void spriteImagesAreCopiedAndPasted()

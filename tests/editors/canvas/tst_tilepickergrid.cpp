@@ -30,7 +30,6 @@ struct Fixture
         QTest::mouseClick(&grid, button, Qt::NoModifier, point);
         grid.contextMenu()->close();
     }
-    void trigger(const QString &text) { EditorInput::trigger(*grid.contextMenu(), text); }
     QByteArray numbers() const
     {
         return indices(tiles.toStrip().copy(0, 0, 1, tiles.count() * 8).scaled(1, tiles.count()));
@@ -47,9 +46,7 @@ private slots:
     void rowsFillTheWidth()
     {
         Fixture f;
-        QCOMPARE(f.grid.cellRect(4), QRect(16, 16, 16, 16));
-        const std::pair<QPoint, int> hits[] = {{{17, 17}, 4}, {{49, 0}, -1}, {{-1, 0}, -1}, {{17, 33}, -1}};
-        for (const auto &[point, index] : hits)
+        for (const auto &[point, index] : {std::pair(QPoint(17, 17), 4), {{49, 0}, -1}, {{-1, 0}, -1}, {{17, 33}, -1}})
             QCOMPARE(f.grid.indexAt(point), index);
         const QImage shown = f.grid.grab().toImage();
         const QRgb blue = f.palette.colourTable()[1];
@@ -57,8 +54,6 @@ private slots:
         QCOMPARE(drawn, (QList{blue, blue, qRgb(0, 0, 0), qRgb(0, 0, 0)})); // with gaps
         QCOMPARE(f.grid.heightForWidth(48), 3 * 16);
         QCOMPARE(f.grid.heightForWidth(5), 8 * 16);
-        f.grid.setTileSet(nullptr);
-        QCOMPARE(f.grid.heightForWidth(50), 32);
     }
 
     void clicksSelectAndOpen()
@@ -81,63 +76,53 @@ private slots:
         Fixture f;
         QSignalSpy picked(&f.grid, &TilePickerGrid::tilesPicked);
         QSignalSpy chosen(&f.grid, &TilePickerGrid::selectedIndexChanged);
-        const auto mark = [&f](QPoint from, QPoint to) {
+        // in three columns, the last row of which has one tile; the first begins beside them, the last is a click
+        for (const auto &[from, to] : {std::pair(QPoint(20, 40), QPoint(2, 2)),
+                                       {{2, 40}, {28, 20}},
+                                       {{20, 4}, {300, 300}},
+                                       {{20, 4}, {22, 6}}}) {
             QTest::mousePress(&f.grid, Qt::LeftButton, Qt::ControlModifier, from);
-            QMouseEvent event(QEvent::MouseMove, QPointF(to), f.grid.mapToGlobal(QPointF(to)), Qt::NoButton,
-                              Qt::LeftButton, Qt::ControlModifier);
+            QMouseEvent event(QEvent::MouseMove, to, f.grid.mapToGlobal(to), Qt::NoButton, Qt::LeftButton,
+                              Qt::ControlModifier);
             QApplication::sendEvent(&f.grid, &event);
             QTest::mouseRelease(&f.grid, Qt::LeftButton, Qt::ControlModifier, to);
-        };
-        mark({20, 40}, {2, 2}); // in three columns, the last row of which has one tile
-        QCOMPARE(picked.size(), 0); // beside the tiles
-        chosen.clear();
-        mark({2, 40}, {28, 20});
-        mark({20, 4}, {300, 300});
+        }
         using Rows = QList<QList<int>>;
         QCOMPARE(picked.size(), 2);
         QCOMPARE(picked[0][0].value<Rows>(), (Rows{{3, 4}, {6, -1}}));
         QCOMPARE(picked[1][0].value<Rows>(), (Rows{{1, 2}, {4, 5}, {-1, -1}}));
-        QCOMPARE(chosen.size(), 0);
-        mark({20, 4}, {22, 6}); // a click
-        QCOMPARE(f.grid.selectedIndex(), 1);
+        QCOMPARE(chosen.last(), QVariantList{1});
         QCOMPARE(f.numbers(), QByteArray("\0\1\2\3\4\5\6", 7)); // none was moved
     }
 
     void magnificationFollowsWheelAndMenu()
     {
         Fixture f;
-        const auto checked = [&f] {
-            QString texts;
-            for (const QAction *action : f.grid.magnificationActions())
-                texts += action->isChecked() ? action->text() : QString();
-            return texts;
-        };
-        QCOMPARE(checked(), "2x");
         EditorInput::zoomByWheel(f.grid, 120);
-        QVERIFY(f.grid.magnification() == 3 && checked().isEmpty());
-        for (const auto &[text, delta] : {std::pair("16x", 120), {"1x", -120}}) { // and no further
-            f.trigger(text);
-            EditorInput::zoomByWheel(f.grid, delta);
-            QCOMPARE(checked(), text);
+        QCOMPARE(f.grid.magnification(), 3);
+        for (const auto &[text, delta] : {std::pair(QString("16x"), 120), {"1x", -120}}) {
+            EditorInput::trigger(*f.grid.contextMenu(), text);
+            EditorInput::zoomByWheel(f.grid, delta); // and no further
+            for (const QAction *action : f.grid.magnificationActions())
+                QCOMPARE(action->isChecked(), action->text() == text);
         }
     }
 
     void menuEditsTheTileUnderThePointer()
     {
         Fixture f;
-        f.click(f.grid.cellRect(5).center(), Qt::RightButton);
-        f.trigger("Paste Image"); // nothing was copied yet
-        f.trigger("Copy Image");
-        f.click(f.grid.cellRect(2).center(), Qt::RightButton);
-        f.trigger("Paste Image");
+        const auto trigger = [&f](QPoint point, const QStringList &entries) {
+            f.click(point, Qt::RightButton);
+            for (const QString &entry : entries)
+                EditorInput::trigger(*f.grid.contextMenu(), entry);
+        };
+        trigger(f.grid.cellRect(5).center(), {"Paste Image", "Copy Image"}); // there is nothing to paste yet
+        trigger(f.grid.cellRect(2).center(), {"Paste Image"});
         QCOMPARE(f.numbers(), QByteArray("\0\1\5\3\4\5\6", 7));
-        f.trigger("Clear");
-        f.trigger("Insert");
+        trigger(f.grid.cellRect(2).center(), {"Clear", "Insert"});
         QCOMPARE(f.numbers(), QByteArray("\0\1\0\0\3\4\5\6", 8));
-        f.trigger("Delete");
-        f.trigger("Delete");
-        f.click({49, 0}, Qt::RightButton);
-        f.trigger("Delete");
+        trigger(f.grid.cellRect(2).center(), {"Delete", "Delete"});
+        trigger({49, 0}, {"Delete"}); // beside them
         QCOMPARE(f.numbers(), QByteArray("\0\1\3\4\5\6", 6));
     }
 
@@ -163,14 +148,13 @@ private slots:
         TilePickerTool dock;
         dock.resize(200, 150);
         dock.show();
-        {
-            TileSet tiles(512);
-            dock.setTileSet(&tiles);
-            QVERIFY(dock.isActive());
-            dock.setSelectedIndex(500);
-            QVERIFY(dock.grid()->visibleRegion().intersects(dock.grid()->cellRect(500)));
-            QTest::mousePress(dock.grid(), Qt::LeftButton, Qt::NoModifier, {3, 3});
-        }
+        auto tiles = std::make_unique<TileSet>(512);
+        dock.setTileSet(tiles.get());
+        QVERIFY(dock.isActive());
+        dock.setSelectedIndex(500);
+        QVERIFY(dock.grid()->visibleRegion().intersects(dock.grid()->cellRect(500)));
+        QTest::mousePress(dock.grid(), Qt::LeftButton, Qt::NoModifier, {3, 3});
+        tiles.reset();
         QVERIFY(!dock.isActive());
         QTest::mouseMove(dock.grid(), {9, 9});
         QTest::mouseRelease(dock.grid(), Qt::LeftButton, Qt::NoModifier, {9, 9});
