@@ -13,23 +13,21 @@ namespace {
 /// Block animations "Torch", "Door" and "Water", and the sprite animation "Run".
 struct Fixture : MapAssets
 {
+    QPointer<SpriteBank> foes;
+
     Fixture()
     {
         run->setName("Run");
         for (const auto *name : {"Door", "Water"})
             blocks->createBoundTileAnimation(name)->addFrame();
+        foes = project.createSpriteBank(Quenmora::FourBit, "Foes", palette->id());
     }
-    QPointer<TileAnimation> block(int row) const { return blocks->animations().at(row); }
-    QPointer<SpriteBank> makeBank() { return project.createSpriteBank(Quenmora::FourBit, "Foes", palette->id()); }
 };
 
 QString names(const QWidget &parent)
 {
-    QStringList names;
-    const auto *items = parent.findChild<QListWidget *>();
-    for (int row = 0; row < items->count(); ++row)
-        names.append(items->item(row)->text());
-    return names.join(' ');
+    return valuesOf(parent.findChild<List *>()->animations(), [](const auto &shown) { return shown->name(); })
+        .join(' ');
 }
 
 void click(QAbstractItemView *view, int row)
@@ -57,8 +55,8 @@ private slots:
         QTest::keyClick(items, Qt::Key_Down);
         dock.selectAnimation(f.animation->id()); // is shown, not told
         QCOMPARE(dock.list()->selected(), f.animation.data());
-        const auto door = QVariant::fromValue(f.block(1));
-        QCOMPARE(selected, (Signals{{door}, {door}, {QVariant::fromValue(f.block(2))}}));
+        const auto block = [&f](int row) { return QVariant::fromValue(f.blocks->animations().at(row)); };
+        QCOMPARE(selected, (Signals{{block(1)}, {block(1)}, {block(2)}}));
 
         f.blocks->createBoundTileAnimation("Lift");
         f.blocks->removeAnimation(f.animation->id());
@@ -94,11 +92,10 @@ private slots:
         QVERIFY(!animations->selected());
 
         // what was chosen on the map is shown, not told
-        const QPointer<SpriteBank> second = f->makeBank();
         Map::PlacedSprite placed = f->sprite(0, {});
-        placed.bank = second->id();
+        placed.bank = f->foes->id();
         dock.selectSprite(placed);
-        QCOMPARE(dock.bank(), second);
+        QCOMPARE(dock.bank(), f->foes);
         QVERIFY(sprites->currentIndex().row() == 0 && names(dock).isEmpty());
         dock.selectSprite(f->animated({}));
         QCOMPARE(animations->selected(), f->run.data());
@@ -112,8 +109,8 @@ private slots:
         f->bank->newAnimation()->setName("Jump");
         QVERIFY(sprites->model()->rowCount() == 5 && names(dock) == "Run Jump");
         dock.findChild<QComboBox *>()->setCurrentIndex(1);
-        QCOMPARE(dock.bank(), second);
-        f->project.deleteSpriteBank(second->id());
+        QCOMPARE(dock.bank(), f->foes);
+        f->project.deleteSpriteBank(f->foes->id());
         QCOMPARE(dock.bank(), f->bank);
         f.reset();
         QVERIFY(!dock.isActive());

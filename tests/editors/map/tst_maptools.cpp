@@ -19,10 +19,7 @@ private slots:
         // where the pointer goes, the snap size, and the cells row by row
         for (const auto &[points, snap, cells] : {
                  std::tuple(Points{F::at(2, 2)}, 1, Points()), // without a move
-                 {{F::at(2, 2), F::at(2, 2) + QPoint(1, 0)}, 1, {{2, 2}}},
-                 {{F::at(2, 2), F::at(5, 2)}, 1, {{2, 2}, {3, 2}, {4, 2}, {5, 2}}}, // fast
-                 {{F::at(3, 5), F::at(2, 2)}, 1, {{2, 2}, {2, 3}, {3, 4}, {3, 5}}},
-                 {{F::at(5, 6), F::at(6, 7)}, 4, {{4, 4}}},
+                 {{F::at(3, 5), F::at(2, 2)}, 1, {{2, 2}, {2, 3}, {3, 4}, {3, 5}}}, // fast
                  {{F::at(1, 1), F::at(13, 5)}, 4, {{0, 0}, {4, 0}, {8, 4}, {12, 4}}},
                  {{F::at(2, 2), F::at(3, 2), {-40, 500}, F::at(6, 2)}, 1, {{2, 2}, {3, 2}, {6, 2}}}, // outside and back
              }) {
@@ -49,11 +46,10 @@ private slots:
         F f;
         f.grid.setPaintsOnPress(true);
         f.grid.setCurrentTileIndex(4);
-        f.click(f.at(3, 2));
-        QVERIFY(f.tile(3, 2).used && f.tile(3, 2).index == 4);
-        f.click(f.at(3, 2), Qt::RightButton);
-        QVERIFY(!f.tile(3, 2).used);
-        f.click(f.at(3, 2), Qt::MiddleButton); // picks
+        for (const auto button : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton}) { // which picks
+            f.click(f.at(3, 2), button);
+            QCOMPARE(f.tile(3, 2).used, button == Qt::LeftButton);
+        }
         f.grid.setCurrentTileAnimation(f.animation);
         f.click(f.at(3, 2));
         f.click(f.at(3, 2)); // on the one that is there
@@ -68,9 +64,8 @@ private slots:
     {
         F f;
         f.grid.setCurrentTileIndex(4);
-        const QList<QPoint> points{f.at(0, 3), f.at(4, 3), f.at(9, 3)};
-        f.drag(points);
-        f.drag(points); // the same tile over itself
+        for (int i = 0; i < 2; ++i) // the same tile over itself
+            f.drag({f.at(0, 3), f.at(4, 3), f.at(9, 3)});
         QCOMPARE(f.steps(), "Paint");
         f.drag({f.at(1, 0), f.at(2, 0), {-3, -3}}); // released outside, and the edit ends all the same
         f.move(f.at(7, 7));
@@ -85,18 +80,20 @@ private slots:
         const std::function<void()> choices[] = {[&f] { f.grid.setCurrentTileIndex(4); },
                                                  [&f] { f.grid.setCurrentTileAnimation(f.animation); },
                                                  [&f] { f.grid.setCurrentSprite(f.bank->id(), 1); }};
+        const auto show = [&f](bool visible) {
+            f.grid.setMapVisibility(visible);
+            f.grid.setObjectVisibility(visible);
+            f.grid.setSpriteVisibility(visible);
+        };
         for (const auto &choose : choices) {
             choose();
             const Qt::CursorShape shape = f.grid.cursor().shape();
-            for (const bool visible : {false, true}) {
-                f.grid.setMapVisibility(visible);
-                f.grid.setObjectVisibility(visible);
-                f.grid.setSpriteVisibility(visible);
-                QCOMPARE(f.grid.cursor().shape(), visible ? shape : Qt::ForbiddenCursor);
-                if (!visible)
-                    f.drag({f.at(1, 1), f.at(2, 1)});
-                QVERIFY(f.map->snapshot() == before);
-            }
+            show(false);
+            QCOMPARE(f.grid.cursor().shape(), Qt::ForbiddenCursor);
+            f.drag({f.at(1, 1), f.at(2, 1)});
+            QVERIFY(f.map->snapshot() == before);
+            show(true);
+            QCOMPARE(f.grid.cursor().shape(), shape);
         }
     }
 
@@ -104,15 +101,13 @@ private slots:
     {
         F f;
         f.grid.setCurrentTileAnimation(f.animation);
-        QCOMPARE(f.grid.cursor().shape(), Qt::OpenHandCursor);
         f.drag({f.at(2, 3), f.at(3, 3), f.at(9, 9)});
         f.move(f.at(4, 4));
         QCOMPARE(f.grid.cursor().shape(), Qt::SizeAllCursor); // over what was placed just now
         QCOMPARE(f.map->animatedBlocks()->areas(), (QHash<QRect, QUuid>{{QRect(3, 3, 3, 2), f.animation->id()}}));
         QCOMPARE(f.object(5, 4), (TileData{5, false, false, false, 0, true}));
-
         f.move(f.at(15, 10));
-        QVERIFY(f.grid.pointer().highlight.isEmpty() && !f.grid.removeAnimation());
+        QVERIFY(!f.grid.removeAnimation());
         f.move(f.at(5, 4));
         QCOMPARE(f.grid.pointer().highlight, QRect(3, 3, 3, 2));
         f.drag({f.at(5, 4), f.at(12, 4)}); // what is there already is not placed again
@@ -124,8 +119,7 @@ private slots:
 
     void selectsTheCellsUnderTheBand()
     {
-        for (const auto &[from, to, cells] : {std::tuple(F::at(2, 3), F::at(5, 4), QRect(2, 3, 4, 2)),
-                                              {F::at(5, 4), F::at(2, 3), {2, 3, 4, 2}},
+        for (const auto &[from, to, cells] : {std::tuple(F::at(5, 4), F::at(2, 3), QRect(2, 3, 4, 2)),
                                               {F::at(5, 4), F::at(5, 4) + QPoint(1, 1), {5, 4, 1, 1}},
                                               {QPoint(-90, -90), F::at(1, 1), {0, 0, 2, 2}}}) {
             F f;
@@ -134,12 +128,10 @@ private slots:
             f.move(to);
             f.release(to);
             QCOMPARE(f.grid.mode(), Select);
-            QCOMPARE(f.grid.cursor().shape(), Qt::CrossCursor);
             QCOMPARE(f.grid.selection(), cells);
             f.grid.copySelection();
             QCOMPARE(f.grid.mode(), Draw);
-            QCOMPARE(f.grid.selection(), cells);
-            QCOMPARE(f.grid.pasteArea(), cells);
+            QVERIFY(f.grid.selection() == cells && f.grid.pasteArea() == cells);
             f.grid.setMode(Draw);
             QVERIFY(f.grid.selection().isEmpty());
         }
@@ -171,82 +163,63 @@ private slots:
     }
 
     /// Cut into tiles that are there, turned or not, and others, which take the place of what is blank and unused.
-    void pastesPicturesAsTiles_data()
-    {
-        QTest::addColumn<int>("clear");
-        QTest::newRow("opaque") << -1;
-        QTest::newRow("with holes") << 9;
-    }
-
     void pastesPicturesAsTiles()
     {
-        QFETCH(int, clear);
-        F f;
-        const EditRecorder recorder(&f.project, [&f](const QUuid &) { return &f.stack; });
-        const auto entry = [&f](int index) { return f.palette->colour(index).rgb(); };
-        const auto draw = [&f](int tile, int at, int index) {
-            QImage image = f.tiles->image(tile);
-            image.setPixel(at % 8, at / 8, uint(index));
-            f.tiles->setTileImage(tile, image);
-        };
-        draw(7, 0, 1);
-        for (const int blank : {14, 15})
-            f.tiles->setTileImage(blank, plainImage({8, 8}, 0));
-        f.map->setTile({0, 0}, {.index = 14, .used = true}); // which somebody wants to be blank
-        f.map->setTileTransparencyIndex(clear);
-        QImage picture(48, 8, QImage::Format_ARGB32);
-        const auto fill = [&](int cell, int index) {
-            for (int i = 0; i < 64; ++i)
-                picture.setPixel(cell * 8 + i % 8, i / 8, entry(index));
-        };
-        for (const auto &[cell, index] : {std::pair(0, 7), {1, 5}, {2, 20}, {3, 20}, {4, 5}, {5, 35}})
-            fill(cell, index); // tile 7, tile 5, new, new, a colour of another group, tile 3 with its offset
-        picture.setPixel(7, 0, entry(1)); // tile 7 turned
-        picture.setPixel(16, 0, entry(21));
-        picture.setPixel(24 + 7, 7, entry(21)); // the same turned
-        picture.setPixel(32, 1, entry(100));
-        picture.setPixel(40, 0, clear < 0 ? entry(35) : 0);
-        QApplication::clipboard()->setImage(picture);
+        for (const int clear : {-1, 9}) {
+            F f;
+            const EditRecorder recorder(&f.project, [&f](const QUuid &) { return &f.stack; });
+            f.map->setTileTransparencyIndex(clear);
+            QImage seven = f.tiles->image(7);
+            seven.setPixel(0, 0, 1);
+            f.tiles->setTileImage(7, seven);
+            for (const int blank : {14, 15})
+                f.tiles->setTileImage(blank, plainImage({8, 8}, 0));
+            f.map->setTile({0, 0}, {.index = 14, .used = true}); // which somebody wants to be blank
+            // tile 7 turned, tile 5, new, the same turned, a colour of another group, tile 3 with its offset and a hole
+            const int colours[] = {7, 5, 20, 20, 5, 35};
+            const QHash<QPoint, int> others{{{7, 0}, 1}, {{16, 0}, 21}, {{31, 7}, 21}, {{32, 1}, 100}, {{40, 0}, -1}};
+            const QImage picture = pictureOf({48, 8}, QImage::Format_ARGB32, [&](int i) {
+                const int usual = colours[i % 48 / 8];
+                const int index = others.value({i % 48, i / 48}, usual);
+                return index < 0 && clear >= 0 ? 0 : f.palette->colour(index < 0 ? usual : index).rgba();
+            });
+            QApplication::clipboard()->setImage(picture);
+            const TileSet::Snapshot before = f.tiles->snapshot();
+            const Map::Snapshot mapBefore = f.map->snapshot();
 
-        f.grid.setMode(Paste);
-        QCOMPARE(f.grid.mode(), Draw); // unless somebody records it
-        f.grid.setPastesPictures(true);
-        f.grid.setMode(Paste);
-        QCOMPARE(f.grid.pasteArea(), QRect(0, 0, 6, 1));
-        const TileSet::Snapshot before = f.tiles->snapshot();
-        const Map::Snapshot mapBefore = f.map->snapshot();
-        f.move(f.at(13, 8));
-        f.click(f.at(13, 8));
-        QCOMPARE(f.steps(), "Paste Picture");
-        QCOMPARE(f.tiles->count(), clear < 0 ? 17 : 18);
-        QCOMPARE(f.tile(10, 8).index, 7); // around the pointer
-        QCOMPARE(f.tile(11, 8).index, 5);
-        QCOMPARE(f.tile(12, 8).index, 15);
-        QCOMPARE(f.tile(13, 8).index, 15);
-        const QImage shown = f.map->tileLayer()->render({10, 8, 6, 1}, 1, clear).convertToFormat(QImage::Format_ARGB32);
-        for (int i = 0; i < 48 * 8; ++i) {
-            const QPoint at(i % 48, i / 48);
-            QCOMPARE(qAlpha(shown.pixel(at)), qAlpha(picture.pixel(at)));
-            if (at != QPoint(32, 1) && qAlpha(shown.pixel(at)) > 0) // the one is lost
-                QCOMPARE(shown.pixel(at), picture.pixel(at));
+            f.grid.setMode(Paste);
+            QCOMPARE(f.grid.mode(), Draw); // unless somebody records it
+            f.grid.setPastesPictures(true);
+            f.grid.setMode(Paste);
+            const int added = clear < 0 ? 1 : 2;
+            for (const int row : {8, 9}) { // the second time the tiles are there
+                f.move(f.at(13, row));
+                f.click(f.at(13, row));
+                QCOMPARE(f.tiles->count(), 16 + added);
+                for (const auto &[column, tile] : {std::pair(10, 7), {11, 5}, {12, 15}, {13, 15}}) // around the pointer
+                    QCOMPARE(f.tile(column, row).index, tile);
+            }
+            QCOMPARE(f.steps(), "Paste Picture|Paste Picture");
+            const auto shown = [&] {
+                return f.map->tileLayer()->render({10, 8, 6, 1}, 1, clear).convertToFormat(QImage::Format_ARGB32);
+            };
+            QImage wanted = picture;
+            wanted.setPixel(32, 1, shown().pixel(32, 1)); // which is lost
+            for (int i = 0; i < 48 * 8; ++i)
+                QCOMPARE(qAlpha(wanted.pixel(i % 48, i / 48)) ? wanted.pixel(i % 48, i / 48) : 0,
+                         qAlpha(shown().pixel(i % 48, i / 48)) ? shown().pixel(i % 48, i / 48) : 0);
+            const QImage pasted = shown();
+            f.stack.setIndex(0);
+            QVERIFY(f.map->snapshot() == mapBefore);
+            QCOMPARE(f.tiles->snapshot(), before);
+            f.stack.redo();
+            QCOMPARE(shown(), pasted);
+            f.stack.undo();
+            f.move(f.at(19, 8));
+            f.click(f.at(19, 8)); // what lies beside the map brings no tiles
+            QCOMPARE(f.tiles->count(), 16);
+            QCOMPARE(f.tile(19, 8).index, 15);
         }
-        f.move(f.at(13, 9));
-        f.click(f.at(13, 9)); // the tiles are there by now
-        QCOMPARE(f.tiles->count(), clear < 0 ? 17 : 18);
-        QCOMPARE(f.tile(12, 9), f.tile(12, 8));
-        f.stack.undo();
-        f.stack.undo();
-        QVERIFY(f.map->snapshot() == mapBefore);
-        QCOMPARE(f.tiles->snapshot(), before);
-        f.stack.redo();
-        QCOMPARE(f.map->tileLayer()->render({10, 8, 6, 1}, 1, clear).convertToFormat(QImage::Format_ARGB32), shown);
-
-        // what lies beside the map brings no tiles
-        f.stack.undo();
-        f.move(f.at(19, 8));
-        f.click(f.at(19, 8));
-        QCOMPARE(f.tiles->count(), 16);
-        QCOMPARE(f.tile(19, 8).index, 15);
     }
 
     void pastesNoPictureWithoutRoom()
@@ -258,18 +231,15 @@ private slots:
             f.tiles->insertTile(1);
         for (int i = 0; i < 511; ++i)
             f.tiles->setTileImage(i, plainImage({8, 8}, 3));
-        QImage picture(16, 8, QImage::Format_RGB32);
-        picture.fill(f.palette->colour(50).rgb());
-        picture.setPixel(0, 0, f.palette->colour(51).rgb());
-        QApplication::clipboard()->setImage(picture);
-        const int steps = f.stack.count();
-        f.grid.setMode(Paste); // two tiles
-        QCOMPARE(f.grid.mode(), Draw);
-        QApplication::clipboard()->setImage(picture.copy(0, 0, 8, 8));
-        f.grid.setMode(Paste);
+        const QImage picture =
+            pictureOf({16, 8}, QImage::Format_RGB32, [&f](int i) { return f.palette->colour(i == 0 ? 51 : 50).rgb(); });
+        for (const int tiles : {2, 1}) {
+            QApplication::clipboard()->setImage(picture.copy(0, 0, tiles * 8, 8));
+            f.grid.setMode(Paste);
+            QCOMPARE(f.grid.mode(), tiles == 1 ? Paste : Draw);
+        }
         f.click(f.at(3, 3));
         QCOMPARE(f.tiles->count(), 512);
-        QCOMPARE(f.stack.count(), steps + 1);
     }
 
     void picksAndReturnsToTheToolBefore()
@@ -284,13 +254,11 @@ private slots:
         f.click(f.at(4, 2), Qt::RightButton);
         QCOMPARE(f.grid.mode(), Pick);
         f.click(f.at(4, 2));
-        QCOMPARE(picked, (Signals{{QVariant::fromValue(tile)}}));
         QCOMPARE(f.grid.mode(), Select);
-
         f.grid.setMode(Draw);
         f.grid.setCurrentTileIndex(9);
         f.drag({f.at(2, 2), f.at(3, 2), f.at(4, 2)}, Qt::MiddleButton);
-        QCOMPARE(picked.size(), 2);
+        QCOMPARE(picked, (Signals{{QVariant::fromValue(tile)}, {QVariant::fromValue(tile)}}));
         QCOMPARE(f.grid.mode(), Draw);
         QCOMPARE(f.stack.count(), 0);
     }
@@ -300,15 +268,13 @@ private slots:
         F f;
         QSignalSpy clicked(&f.grid, &MapEditor::MapGrid::spriteClicked);
         f.grid.setCurrentSpriteAnimation(f.run);
-        int placed = 0;
         for (const auto &[pixel, snap, position] : {std::tuple(QPoint(33, 21), 1, QPoint(33, 21)),
                                                     {QPoint(99, 21), 2, QPoint(96, 16)},
                                                     {QPoint(159, 127), 1, QPoint(159, 127)}}) {
             f.grid.setSnapToSize(snap);
             f.click(f.pixel(pixel.x(), pixel.y()));
-            QCOMPARE(f.grid.selectedSprite(), placed);
-            QCOMPARE(f.map->sprites().value(placed), f.animated(position));
-            ++placed;
+            QCOMPARE(f.grid.selectedSprite(), f.map->sprites().size() - 1);
+            QCOMPARE(f.map->sprites().last(), f.animated(position));
         }
         f.click(f.pixel(160, 20)); // outside
         f.drag({f.pixel(40, 30), f.pixel(41, 30)}); // too short for a move
@@ -337,14 +303,12 @@ private slots:
         QCOMPARE(f.steps(), "Move Sprite|Move Sprite"); // the bank's change is in the second
         QVERIFY(clicked.isEmpty());
 
-        f.move(f.pixel(81, 65));
-        f.grid.setSpriteVisibility(false);
-        QVERIFY(!f.grid.deleteSprite()); // what is hidden is not under the pointer
-        f.move(f.pixel(82, 65));
-        f.grid.setSpriteVisibility(true);
-        QVERIFY(!f.grid.deleteSprite());
-        f.move(f.pixel(81, 65));
-        QVERIFY(f.grid.deleteSprite());
+        for (const bool visible : {false, true}) { // what is hidden is not under the pointer
+            f.grid.setSpriteVisibility(true);
+            f.move(f.pixel(81, 65));
+            f.grid.setSpriteVisibility(visible);
+            QCOMPARE(f.grid.deleteSprite(), visible);
+        }
     }
 };
 
