@@ -9,7 +9,6 @@
 #include "store/projectdocument.h"
 #include "store/projectstore.h"
 #include "store/zipfile.h"
-#include "support/formreaders.h"
 #include "support/testmain.h"
 
 #include <QPainter>
@@ -75,30 +74,6 @@ private slots:
             m_map->paintLayers(mapPainter, {0, 0}, m_map->tileLayer()->bounds(), Tile::Size, -1);
         }
         QCOMPARE(shown, expected);
-
-        const std::pair<QPoint, int> attributes[] = {
-            {{0, 0}, Tile::TA_NONE},         {{10, 15}, Tile::TA_SOLID},
-            {{10, 13}, Tile::TA_TOPSOLID},   {{4, 18}, Tile::TA_LADDER},
-            {{19, 5}, Tile::TA_COLLECTIBLE}, {{4, 13}, Tile::TA_LADDER | Tile::TA_TOPSOLID},
-            {{44, 12}, Tile::TA_DEADLY},     {{11, 12}, Tile::TA_DOOR}};
-        for (const auto &[cell, expectedAttributes] : attributes)
-            QCOMPARE(m_map->tileSet()->tile(m_map->tileLayer()->cellAt(cell).index)->attributes(), expectedAttributes);
-    }
-
-    void blocksAndSpritesPlay()
-    {
-        const auto blocks = m_store.project()->blockSets().first()->animations();
-        QVERIFY(blocks.size() == 4 && blocks[3]->type() == MapObjectType::HorizontalPlatform);
-        QVERIFY(blocks[0]->frameCount() == 4 && blocks[0]->delay() > 0);
-        QVERIFY(blocks[0]->frame(0)->cells() != blocks[0]->frame(1)->cells());
-        const auto loops = m_bank->animations();
-        QVERIFY(loops.size() == 7 && loops[0]->name() == "Hero Walk" && loops[0]->frameCount() == 4);
-        const QRect level({0, 0}, m_map->size() * Tile::Size);
-        for (const Map::PlacedSprite &sprite : m_map->sprites()) {
-            QVERIFY2(sprite.bank == m_bank->id() && sprite.sprite < m_bank->count(), qPrintable(sprite.name));
-            QVERIFY2(sprite.animation.isNull() || m_bank->animation(sprite.animation), qPrintable(sprite.name));
-            QVERIFY2(level.contains(QRect(sprite.x, sprite.y, 16, 16)), qPrintable(sprite.name));
-        }
     }
 
     /// Fails when somebody changes a picture, or how the sample is made, and does not make it anew.
@@ -126,8 +101,6 @@ private slots:
             }
         }
     }
-
-    void everyFormIsReadAgain() { FormReaders(*m_store.project()).readAll(); }
 
     void unusablePicturesAreRefused()
     {

@@ -11,7 +11,9 @@
 #include "support/asepritebuilder.h"
 #include "support/damage.h"
 #include "support/modeltools.h"
+#include "support/peakmemory.h"
 #include "support/testmain.h"
+#include "support/tiledfiles.h"
 
 #include <QTest>
 
@@ -71,30 +73,26 @@ class TestForeignFiles : public QObject
     }
 
     /// Three frames of 24 × 16 pixels: a pixel of the frame's index at the right edge of a red square.
-    static AsepriteBuilder walk(int bits)
+    static QByteArray walk(int bits)
     {
-        AsepriteBuilder builder;
-        builder.width = 24;
-        builder.height = 16;
-        builder.bits = bits;
+        AsepriteBuilder builder({24, 16}, bits);
         builder.clearIndex = 2;
         const QList<QByteArray> colours{Black, Red, QByteArray(4, '\x11'), Grey, Blue};
-        for (int frame = 0; frame < 3; ++frame) {
-            builder.frame(frame == 1 ? 200 : 100);
-            if (frame == 0) {
-                builder.palette(colours);
-                builder.layer("one");
-                builder.tags({AsepriteBuilder::tag(0, 1, 0, 0, "run"), AsepriteBuilder::tag(0, 2, 1, 0, "back"),
-                              AsepriteBuilder::tag(0, 2, 2, 3, "swing"), AsepriteBuilder::tag(2, 2, 0, 0, "stand")});
-            }
-            QByteArray pixels;
-            for (int i = 0; i < 16 * 16; ++i) {
-                const int index = i == 16 * 16 - 1 ? (frame == 2 ? 4 : 3) : 1;
-                pixels += bits == 8 ? QByteArray(1, char(index)) : colours[index];
-            }
-            builder.raw(0, {8, 0}, {16, 16}, pixels);
-        }
-        return builder;
+        const auto pixels = [bits, &colours](int last) {
+            const auto pixel = [bits, &colours](int i) { return bits == 8 ? QByteArray(1, char(i)) : colours[i]; };
+            return pixel(1).repeated(16 * 16 - 1) + pixel(last);
+        };
+        return builder.frame(100)
+            .palette(colours)
+            .layer("one")
+            .tags({AsepriteBuilder::tag(0, 1, 0, 0, "run"), AsepriteBuilder::tag(0, 2, 1, 0, "back"),
+                   AsepriteBuilder::tag(0, 2, 2, 3, "swing"), AsepriteBuilder::tag(2, 2, 0, 0, "stand")})
+            .raw(0, {8, 0}, {16, 16}, pixels(3))
+            .frame(200)
+            .raw(0, {8, 0}, {16, 16}, pixels(3))
+            .frame(100)
+            .raw(0, {8, 0}, {16, 16}, pixels(4))
+            .bytes();
     }
 
 private slots:
@@ -115,8 +113,7 @@ private slots:
         QFETCH(Options, options);
         QFETCH(int, clear);
         Project project;
-        const IncomingAssets incoming =
-            prepared(project, "walk.aseprite", walk(bits).bytes(), "aseprite-sprites", options);
+        const IncomingAssets incoming = prepared(project, "walk.aseprite", walk(bits), "aseprite-sprites", options);
         QVERIFY(incoming.sprites && incoming.palette);
         QCOMPARE(incoming.remarks, QStringList(QString::fromUtf8("“swing” is repeated for ever")));
         const ImportChoices choices{.kind = "aseprite-sprites", .name = "Hero"};
@@ -187,29 +184,26 @@ private slots:
         own->setRawColour(0, NextColour::compose(3, 0, 0, false));
         own->setRawColour(9, GreyWord);
         own->setTransparencyIndex(0); // which would be exact
-        AsepriteBuilder builder;
-        builder.width = 16;
-        builder.height = 16;
-        builder.frame(100);
+        const auto exact = [colours](int i) {
+            const int number = i % colours;
+            return qRgb(NextColour::componentOf(number & 7), NextColour::componentOf(number >> 3 & 7),
+                        NextColour::componentOf(number >> 6));
+        };
         QList<QByteArray> palette;
         QByteArray pixels;
         for (int i = 0; i < 256; ++i) {
-            const int level = i < colours ? i : 0;
-            constexpr int components[] = {0, 36, 73, 109, 146, 182, 219, 255};
-            palette.append(QByteArray()
-                               .append(char(components[level & 7]))
-                               .append(char(components[level >> 3 & 7]))
-                               .append(char(components[level >> 6]))
-                               .append('\xFF'));
+            const QColor colour(exact(i < colours ? i : 0));
+            palette.append(QByteArray(1, char(colour.red())) + char(colour.green()) + char(colour.blue()) + '\xFF');
             pixels.append(char(i % colours));
         }
-        builder.palette(palette);
-        AsepriteBuilder::Layer background;
-        background.flags = 1 | 8; // which has no clear pixels
-        builder.layer("back", background);
-        builder.raw(0, {}, {16, 16}, pixels);
+        const QByteArray file = AsepriteBuilder({16, 16})
+                                    .frame()
+                                    .palette(palette)
+                                    .layer("back", {.flags = 1 | 8}) // which has no clear pixels
+                                    .raw(0, {}, {16, 16}, pixels)
+                                    .bytes();
         const IncomingAssets incoming =
-            prepared(project, "all.ase", builder.bytes(), "aseprite-sprites", options, isGiven ? own->id() : QUuid());
+            prepared(project, "all.ase", file, "aseprite-sprites", options, isGiven ? own->id() : QUuid());
         QVERIFY(incoming.sprites);
         QCOMPARE(!incoming.remarks.filter("mean error").isEmpty(), isLossy);
         const auto added =
@@ -219,10 +213,7 @@ private slots:
         const QImage sprite = bank->renderSprite(0, 0, false, false, false);
         for (int i = 0; i < 256; ++i) {
             QVERIFY2(qAlpha(sprite.pixel(i % 16, i / 16)) == 255, qPrintable(QString::number(i)));
-            const QRgb exact =
-                qRgb(NextColour::componentOf(i % colours & 7), NextColour::componentOf(i % colours >> 3 & 7),
-                     NextColour::componentOf(i % colours >> 6));
-            QVERIFY(isLossy || sprite.pixel(i % 16, i / 16) == exact);
+            QVERIFY(isLossy || sprite.pixel(i % 16, i / 16) == exact(i));
         }
         QCOMPARE(own->rawColour(9), GreyWord);
         QCOMPARE(project.palettes().size(), isGiven ? 1 : 2);
@@ -236,7 +227,7 @@ private slots:
         const auto bank = project.createSpriteBank(Quenmora::FourBit, "Bank", palette->id());
         bank->changeTransparency(7);
         const ImportChoices choices{.kind = "aseprite-sprites", .target = bank->id()};
-        const auto file = ImportFile::open(m_path("walk.ase", walk(8).bytes()));
+        const auto file = ImportFile::open(m_path("walk.ase", walk(8)));
         const auto incoming = prepare(project, *file, choices);
         QVERIFY(incoming && !incoming->remarks.filter("animations are left out").isEmpty());
         QVERIFY(addTo(project, *incoming, choices, {}));
@@ -250,12 +241,12 @@ private slots:
     void becomesTilesOrAnImage()
     {
         Project project;
-        const IncomingAssets tiles = prepared(project, "walk.ase", walk(8).bytes(), "aseprite-tiles");
+        const IncomingAssets tiles = prepared(project, "walk.ase", walk(8), "aseprite-tiles");
         QCOMPARE(tiles.map->rows.size(), 2);
         QCOMPARE(tiles.map->rows[0].size(), 3);
         QCOMPARE(tiles.tiles->tiles.size(), 3); // clear, red, and with a grey corner
-        QVERIFY(!prepared(project, "walk.ase", walk(8).bytes(), "aseprite-tiles", {{"frames", "all"}}).map);
-        const IncomingAssets image = prepared(project, "walk.ase", walk(8).bytes(), "aseprite-image");
+        QVERIFY(!prepared(project, "walk.ase", walk(8), "aseprite-tiles", {{"frames", "all"}}).map);
+        const IncomingAssets image = prepared(project, "walk.ase", walk(8), "aseprite-image");
         QCOMPARE(image.image->mode, Quenmora::LoRes_128x96);
         QCOMPARE(int(uchar(image.image->pixels[40 * 128 + 52])), 2); // 24 × 16 in the middle
         QCOMPARE(int(uchar(image.image->pixels[40 * 128 + 60])), 1);
@@ -309,23 +300,55 @@ private slots:
                  1);
     }
 
-    /// A damaged file becomes assets, or a message.
+    /// A damaged file becomes assets, or a message; a second and 256 MiB are what any file may take.
     void takesDamagedFiles_data()
     {
         QTest::addColumn<QString>("name");
         QTest::addColumn<QByteArray>("bytes");
-        QTest::newRow("indices") << "walk.ase" << walk(8).bytes();
-        QTest::newRow("colours") << "walk.ase" << walk(32).bytes();
+        const auto add = [](const char *name, const QByteArray &bytes) {
+            QTest::addRow("%s of %d bytes", name, int(bytes.size())) << name << bytes;
+        };
+        for (const int bits : {8, 16, 32})
+            add("all.ase", AsepriteBuilder::sample(bits));
+        add("walk.ase", walk(8));
+        add("a.gpl", "GIMP Palette\nName: Caf\xc3\xa9\nColumns: 4\n# a comment\n  0  36 73\tBlue\n\n255 255 255\n");
+        add("a.pal", "JASC-PAL\r\n0100\r\n2\r\n0 36 73\r\n255 255 255\r\n\r\n");
+        add("a.hex", "002449\r\nFFffFF\r\n");
+        add("a.act", noise(768) + QByteArray("\x00\x10\x00\x0f", 4));
+        const QByteArray set =
+            "<tileset firstgid='1' tilewidth='8' tileheight='8' spacing='1' margin='2' tilecount='4' "
+            "columns='2'><image source='sheet.png' trans='090a03'/><tile id='1'><animation><frame "
+            "tileid='3' duration='9'/></animation></tile></tileset>";
+        const QByteArray jsonSet = "'tilesets':[{'firstgid':1, 'tilewidth':8, 'tileheight':8, 'columns':2, "
+                                   "'image':'sheet.png', 'tiles':[{'id':1, 'animation':[{'tileid':3, "
+                                   "'duration':9}]}]}], ";
+        const QByteArray cells = QByteArray::fromHex("010000000000000002000080030000E00400000005000000");
+        add("a.tmx",
+            tmx(set + xmlLayer("1,0,2147483650,\r\n3758096387,4,5", "offsetx='8'")
+                + xmlLayer(zlibStream(cells).toBase64(), {}, "encoding='base64' compression='zlib'")));
+        add("a.tmx",
+            tmx("<layer><data encoding='csv'><chunk x='-2' y='1' width='2' height='1'>1,2</chunk></data></layer>"
+                "<objectgroup><object gid='1' x='8' y='8'/></objectgroup>"
+                    + set,
+                "infinite='1'"));
+        add("a.tmj", tmj(jsonSet + jsonLayer("'data':[1,0,2147483650,3758096387,4,5]")));
+        add("a.tmj",
+            tmj(jsonSet
+                + jsonLayer("'encoding':'base64', 'compression':'zstd', 'data':'" + Packing::zstd(cells).toBase64()
+                            + '\'')));
     }
 
     void takesDamagedFiles()
     {
         QFETCH(QString, name);
         QFETCH(QByteArray, bytes);
+        QVERIFY(picture(19, 19, 9).save(m_path("sheet.png")));
         std::minstd_rand random(7);
-        DamagedFiles files(500);
-        while (files.next()) {
-            const auto file = ImportFile::open(m_path(name, damaged(bytes, random)));
+        const PeakMemory memory;
+        int taken = 0;
+        DamagedFiles files(400);
+        for (bool isWhole = true; isWhole || files.next(); isWhole = false) {
+            const auto file = ImportFile::open(m_path(name, isWhole ? bytes : damaged(bytes, random)));
             if (!file)
                 continue; // empty
             for (const Guess &guess : recognise(*file)) {
@@ -335,10 +358,15 @@ private slots:
                 QVERIFY2(incoming || !incoming.reason().isEmpty(), qPrintable(guess.kind));
                 if (!incoming)
                     continue;
+                ++taken;
                 (void)previewOf(project, *incoming, choices);
-                QVERIFY(addTo(project, *incoming, choices, {}) || incoming->numbers || incoming->cycles);
+                const auto added = addTo(project, *incoming, choices, {});
+                QVERIFY(added || !added.reason().isEmpty());
             }
+            QVERIFY(taken > 0); // the whole file at least
         }
+        if (memory.isKnown())
+            QVERIFY2(memory.grown() < 256 << 20, qPrintable(QString::number(memory.grown())));
     }
 };
 

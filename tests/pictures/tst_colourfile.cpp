@@ -1,15 +1,12 @@
 #include "pictures/colourfile.h"
 
-#include "support/damage.h"
+#include "support/modeltools.h"
 #include "support/testmain.h"
 
-#include <QFile>
-#include <QTemporaryDir>
 #include <QTest>
 
 namespace {
 
-constexpr quint32 Seed = 20261125;
 using Rgbs = QList<QRgb>;
 
 /// An .act file whose entry i is (i, 255 - i, 7).
@@ -71,12 +68,8 @@ private slots:
         QFETCH(Rgbs, colours);
         QFETCH(int, transparent);
         QFETCH(QString, name);
-        QTemporaryDir folder;
-        QFile disk(folder.filePath(QStringLiteral("palette.txt")));
-        QVERIFY(disk.open(QIODevice::WriteOnly));
-        disk.write(bytes);
-        disk.close();
-        const auto file = ColourFile::read(disk.fileName());
+        const TemporaryFolder folder;
+        const auto file = ColourFile::read(folder("palette.txt", bytes));
         QVERIFY2(file, qPrintable(file.reason()));
         QCOMPARE(file->colours, colours);
         QCOMPARE(file->transparentIndex, transparent);
@@ -116,19 +109,6 @@ private slots:
         QFETCH(QByteArray, bytes);
         QFETCH(QString, reason);
         QCOMPARE(ColourFile::read(bytes).reason(), reason);
-    }
-
-    void damagedFilesAreReadOrRefused()
-    {
-        std::minstd_rand random(Seed);
-        for (const QByteArray &whole : {Gimp, Jasc, Hex, act(QByteArray("\x00\x10\x00\x0f", 4))}) {
-            DamagedFiles files(3000);
-            while (files.next()) {
-                const auto file = ColourFile::read(damaged(whole, random));
-                QCOMPARE(file.reason().isEmpty(), bool(file));
-                QVERIFY(!file || (!file->colours.isEmpty() && file->transparentIndex < file->colours.size()));
-            }
-        }
     }
 };
 

@@ -1,3 +1,4 @@
+#include "support/modeltools.h"
 #include "support/testmain.h"
 
 #include "model/palette.h"
@@ -20,12 +21,10 @@ int moved(int component, int by)
 /// All 512 colours as 32 × 16 pixels: red by eighths of the row, green by rows, blue by pixels.
 QImage everyColour(const Levels &shown, int by)
 {
-    QImage picture(32, 16, QImage::Format_ARGB32);
-    for (int number = 0; number < 512; ++number) {
+    return pictureOf({32, 16}, QImage::Format_ARGB32, [&shown, by](int number) {
         const auto component = [&](int shift) { return moved(shown[size_t(number >> shift & 7)], by); };
-        picture.setPixel(number % 32, number / 32, qRgb(component(6), component(3), component(0)));
-    }
-    return picture;
+        return qRgb(component(6), component(3), component(0));
+    });
 }
 
 quint16 expectedWord(int number)
