@@ -91,20 +91,16 @@ private slots:
         QFETCH(char, type);
         QFETCH(char, depth);
         QRandomGenerator random(quint32(type * 100 + depth));
-        const auto noise = [&random](int count) {
-            QByteArray bytes(count, '\0');
-            std::generate(bytes.begin(), bytes.end(), [&random] { return char(random.bounded(256)); });
-            return bytes;
-        };
         const int channels = type == 2 ? 3 : type == 4 ? 2 : type == 6 ? 4 : 1;
         const quint32 width = 301; // rows that make more than one block
         const quint32 height = 307;
         QByteArray rows;
         for (quint32 y = 0; y < height; ++y)
-            rows += char(random.bounded(5)) + noise((int(width) * channels * depth + 7) / 8);
+            rows += char(random.bounded(5)) + noise((int(width) * channels * depth + 7) / 8, random.generate());
         const QByteArray pixels = packed(rows);
-        const QByteArray colours = type == 3 ? chunk("PLTE", noise(3 << depth)) : QByteArray();
-        for (const QByteArray &transparency : {QByteArray(), chunk("tRNS", noise(type == 2 ? 6 : 2))}) {
+        const QByteArray colours = type == 3 ? chunk("PLTE", noise(3 << depth, random.generate())) : QByteArray();
+        for (const QByteArray &transparency :
+             {QByteArray(), chunk("tRNS", noise(type == 2 ? 6 : 2, random.generate()))}) {
             const QByteArray png = start({width, height, depth, type}) + chunk("tEXt", "aside") + colours + transparency
                 + chunk("IDAT", pixels.first(7)) + chunk("IDAT", {}) + chunk("IDAT", pixels.sliced(7)) + End;
             QImage expected;
@@ -122,7 +118,7 @@ private slots:
                 QCOMPARE(indices(image), indices(expected));
         }
         // one pixel of an interlaced picture, which has one pass of seven
-        const QByteArray pixel = packed('\0' + noise((channels * depth + 7) / 8));
+        const QByteArray pixel = packed('\0' + noise((channels * depth + 7) / 8, random.generate()));
         const QByteArray interlaced = start({1, 1, depth, type, true}) + colours + chunk("IDAT", pixel) + End;
         QCOMPARE(read(interlaced), QImage::fromData(interlaced, "png"));
     }

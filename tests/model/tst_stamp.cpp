@@ -17,12 +17,7 @@ namespace {
 /// A tile of which every pixel is another one.
 QImage pictureOf(int tile)
 {
-    QImage image(8, 8, QImage::Format_RGB32);
-    for (int y = 0; y < 8; ++y) {
-        for (int x = 0; x < 8; ++x)
-            image.setPixel(x, y, qRgb(tile, y, x));
-    }
-    return image;
+    return ::pictureOf({8, 8}, QImage::Format_RGB32, [tile](int i) { return qRgb(tile, i / 8, i % 8); });
 }
 
 QImage pictureOf(const Stamp &stamp)
@@ -88,14 +83,11 @@ private slots:
         TileMap grid(4, 3);
         grid.setCell({3, 2}, {7, true, false, true, 3, true});
         const Stamp stamp = Stamp::of(grid, {2, 1, 9, 9}); // as far as there are cells
-        QCOMPARE(stamp.size(), QSize(2, 2));
         const QUuid tiles = QUuid::createUuid();
         const std::unique_ptr<QMimeData> data(stamp.toMimeData(tiles));
+        QVERIFY(stamp.size() == QSize(2, 2) && stamp.at(1, 1) == grid.cellAt({3, 2}));
         QCOMPARE(Stamp::fromClipboard(data.get(), tiles), stamp);
         QVERIFY(Stamp::fromClipboard(data.get(), QUuid::createUuid()).isEmpty());
-        TileMap other(2, 2);
-        other.paste({0, 0}, data.get());
-        QCOMPARE(other.cellAt({1, 1}), grid.cellAt({3, 2}));
     }
 
     void drawsShapes_data()

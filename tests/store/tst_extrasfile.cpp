@@ -1,12 +1,12 @@
 #include "store/extrasfile.h"
 
 #include "model/projectextras.h"
+#include "support/modeltools.h"
 #include "support/testmain.h"
 
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <optional>
@@ -19,7 +19,7 @@ private slots:
     void init()
     {
         m_folder.emplace();
-        m_project = m_folder->filePath("game.quenmora");
+        m_project = (*m_folder)("game.quenmora");
         QCOMPARE(ExtrasFile::pathFor(m_project), path());
     }
 
@@ -32,7 +32,7 @@ private slots:
         extras.setSection("stamps", QJsonArray{1, 2});
         extras.setSection("imports", QJsonObject{{"b", 1}, {"a", true}});
         QCOMPARE(file.save(extras, m_project), QString());
-        QCOMPARE(read(),
+        QCOMPARE(readFile(path()),
                  QByteArray("{\n    \"imports\": {\n        \"a\": true,\n        \"b\": 1\n    },\n"
                             "    \"stamps\": [\n        1,\n        2\n    ]\n}\n"));
         QVERIFY(extras.changedSections().isEmpty());
@@ -42,25 +42,25 @@ private slots:
         QCOMPARE(other.load(again, m_project), QString());
         QCOMPARE(again.sections(), extras.sections());
         QVERIFY(again.changedSections().isEmpty());
-        const QString copy = m_folder->filePath("copy.quenmora");
+        const QString copy = (*m_folder)("copy.quenmora");
         QCOMPARE(other.save(again, copy), QString());
         QVERIFY2(QFile::exists(ExtrasFile::pathFor(copy)), "another file has all of it, though nothing changed");
     }
 
     void takesOverWhatAnotherProgramChanged()
     {
-        write(R"({"ours": 1, "theirs": 1, "gone": 1, "unknown": {"x": null}})");
+        (void)writeFile(path(), R"({"ours": 1, "theirs": 1, "gone": 1, "unknown": {"x": null}})");
         ProjectExtras extras;
         ExtrasFile file;
         QCOMPARE(file.load(extras, m_project), QString());
         extras.setSection("ours", 2);
         extras.setSection("gone", QJsonValue::Undefined);
-        write(R"({"ours": 3, "theirs": 4, "gone": 5, "unknown": {"x": null}, "new": 6})");
+        (void)writeFile(path(), R"({"ours": 3, "theirs": 4, "gone": 5, "unknown": {"x": null}, "new": 6})");
         QStringList told;
         connect(&extras, &ProjectExtras::sectionChanged, this, [&told](const QString &name) { told.append(name); });
         QCOMPARE(file.save(extras, m_project), QString());
         const QJsonObject expected = object(R"({"ours": 2, "theirs": 4, "unknown": {"x": null}, "new": 6})");
-        QCOMPARE(object(read()), expected);
+        QCOMPARE(object(readFile(path())), expected);
         QCOMPARE(extras.sections(), expected);
         told.sort();
         QCOMPARE(told, QStringList({"new", "theirs"}));
@@ -79,38 +79,25 @@ private slots:
     {
         QFETCH(const QByteArray, bytes);
         QFETCH(const QString, reason);
-        write(bytes);
+        (void)writeFile(path(), bytes);
         ProjectExtras extras;
         ExtrasFile file;
         const QString problem = file.load(extras, m_project);
         QVERIFY2(problem.contains(reason), qPrintable(problem));
         QVERIFY(extras.sections().isEmpty());
         QCOMPARE(file.save(extras, m_project), QString());
-        QCOMPARE(read(), bytes); // nothing to write: it stays
+        QCOMPARE(readFile(path()), bytes); // nothing to write: it stays
         extras.setSection("a", 1);
         QCOMPARE(file.save(extras, m_project), QString());
-        QCOMPARE(object(read()), (QJsonObject{{"a", 1}}));
-        QFile aside(path() + ".bad");
-        QVERIFY(aside.open(QIODevice::ReadOnly));
-        QCOMPARE(aside.readAll(), bytes);
+        QCOMPARE(object(readFile(path())), (QJsonObject{{"a", 1}}));
+        QCOMPARE(readFile(path() + ".bad"), bytes);
     }
 
 private:
-    [[nodiscard]] QString path() const { return m_folder->filePath("game.quenmora-extras.json"); }
+    [[nodiscard]] QString path() const { return (*m_folder)("game.quenmora-extras.json"); }
     [[nodiscard]] static QJsonObject object(const QByteArray &text) { return QJsonDocument::fromJson(text).object(); }
-    [[nodiscard]] QByteArray read() const
-    {
-        QFile file(path());
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");
-    }
-    void write(const QByteArray &bytes) const
-    {
-        QFile file(path());
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(bytes), bytes.size());
-    }
 
-    std::optional<QTemporaryDir> m_folder;
+    std::optional<TemporaryFolder> m_folder;
     QString m_project;
 };
 

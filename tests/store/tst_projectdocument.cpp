@@ -213,20 +213,16 @@ private slots:
                                           {letters + 'x', letters + 'x'}}) {
             ProjectMembers members = leastMembers();
             replace(members, {"maps", "0", "sprites"}, json("[{}]"));
-            const Path names[] = {{"name"},
-                                  {"palettes", "0", "name"},
-                                  {"tilesets", "0", "name"},
-                                  {"maps", "0", "name"},
-                                  {"maps", "0", "sprites", "0", "name"},
-                                  {"mapObjects", "0", "name"},
-                                  {"mapObjects", "0", "animations", "0", "name"},
-                                  {"sprites", "0", "name"},
-                                  {"sprites", "0", "animations", "0", "name"},
-                                  {"images", "0", "name"}};
-            for (const Path &name : names)
+            QList<Path> names;
+            visitValues(documentOf(rewritten(members)), {}, [&names](const Path &path) {
+                if (path.last() == "name")
+                    names.append(path);
+            });
+            QCOMPARE(names.size(), 10); // of the project, placed sprites and animations, too
+            for (const Path &name : std::as_const(names))
                 replace(members, name, stored);
             const QJsonObject document = documentOf(rewritten(members));
-            for (const Path &name : names)
+            for (const Path &name : std::as_const(names))
                 QVERIFY2(valueAt(document, name) == cut, qPrintable(name.join('/')));
         }
         ProjectMembers members = leastMembers();
@@ -360,20 +356,6 @@ private slots:
             QCOMPARE(image.colorTable(), greys);
             QCOMPARE(indices(image), indices(pixels.copy(image.rect())));
         }
-    }
-
-    void stampsPlacementsIntoTheObjectLayer()
-    {
-        ProjectMembers members = leastMembers();
-        replace(
-            members, {"mapObjects", "0", "animations"},
-            json("[{'id': '<2>', 'width': 1, 'height': 1, 'frames': [{'tileData': [{'index': 1, 'flip': true}]}]}]"));
-        replace(members, {"maps", "0", "animations"}, json("[{'id': '<2>', 'width': 1, 'height': 1}]"));
-        Project project;
-        read(project, members);
-        const auto map = project.map(FirstId);
-        QCOMPARE(map->objectLayer()->cellAt({0, 0}), (TileMap::TileData{.index = 1, .flip = true, .used = true}));
-        QCOMPARE(map->tileLayer()->cellAt({0, 0}), TileMap::TileData{.used = true});
     }
 
     void savesWhatHasNoTilesOrColoursAndTellsWhatIsLost()

@@ -284,21 +284,17 @@ private slots:
         QCOMPARE(m_store->fingerprint(), last);
 
         // what reaches the document, and each kind of member
+        const TileMap::TileData cell{.index = 1, .used = true};
+        const auto animation = project->blockSets().first()->animations().first();
         const std::function<void()> edits[] = {
             [&] { project->setName("x"); },
             [&] { project->palettes().first()->setRawColour(0, 2); },
             [&] { project->tileSets().first()->clearImage(0); },
-            [&] {
-                project->maps().first()->setTile({2, 3}, {.index = 1, .used = true});
-            },
+            [&] { project->maps().first()->setTile(QPoint(2, 3), cell); },
             [&] { project->spriteBanks().first()->clearSprite(1); },
-            [&] {
-                project->images().first()->setImage(SampleProject::gradient({256, 191}));
-            },
-            [&] {
-                project->setScratchImage(SampleProject::gradient({192, 256}));
-            },
-            [&] { project->blockSets().first()->animations().first()->frame(0)->setIndex(0, 0, 99); },
+            [&] { project->images().first()->setImage(SampleProject::gradient(QSize(256, 191))); },
+            [&] { project->setScratchImage(SampleProject::gradient(QSize(192, 256))); },
+            [&] { animation->frame(0)->setIndex(0, 0, 99); },
         };
         for (const auto &edit : edits) {
             edit();
@@ -328,14 +324,10 @@ private slots:
                                   "showMessage " + kind + " exported 2000"}));
             QVERIFY(QFile::exists(path(file)));
         }
-        const QStringList before = entries();
-        for (const auto &[name, reason] : {std::pair("a/b", "slash"), {"a:b", "everywhere"}, {"Nul.", "device"}}) {
-            project->palettes().first()->setName(name); // projects travel, so these are refused on every system
-            m_store->exportPalette(folder, project->palettes().first()->id());
-            QVERIFY2(m_store->errorDetail().contains(reason), qPrintable(m_store->errorDetail()));
-        }
-        QCOMPARE(m_log->take(), QStringList(3, "saveError Exporting the palette failed"));
-        QCOMPARE(entries(), before);
+        project->palettes().first()->setName("a/b");
+        m_store->exportPalette(folder, project->palettes().first()->id());
+        QVERIFY2(m_store->errorDetail().contains("slash"), qPrintable(m_store->errorDetail()));
+        QCOMPARE(m_log->take(), QStringList("saveError Exporting the palette failed"));
         m_store->close();
         m_store->exportMap(folder, {}); // without a project
         QCOMPARE(m_log->take(), QStringList("saveError Invalid map id"));

@@ -59,6 +59,19 @@ inline void replace(ProjectMembers &members, const Path &path, const QJsonValue 
     setDocument(members, replaced(documentOf(members), path, by).toObject());
 }
 
+/// Tells the paths to all parts of a value.
+template <class Visit>
+void visitValues(const QJsonValue &value, const Path &path, Visit visit)
+{
+    if (!path.isEmpty())
+        visit(path);
+    const QJsonObject object = value.toObject();
+    for (auto member = object.begin(); member != object.end(); ++member)
+        visitValues(member.value(), path + Path{member.key()}, visit);
+    if (const QJsonArray array = value.toArray(); !array.isEmpty())
+        visitValues(array.first(), path + Path{QStringLiteral("0")}, visit);
+}
+
 /// The members with the ids of all sprite animation frames cleared: those are new at every load.
 inline ProjectMembers withoutSpriteFrameIds(ProjectMembers members)
 {
