@@ -1,6 +1,10 @@
 #pragma once
 
+#include "app/imports/spriteimport.h"
+#include "app/projectactions.h"
+#include "support/modeltools.h"
 #include "support/randomhands.h"
+#include "support/usualrecipe.h"
 #include "ui/commands.h"
 #include "ui/messagedialog.h"
 
@@ -9,6 +13,7 @@
 #include <QPointer>
 #include <QRegularExpression>
 #include <QSpinBox>
+#include <QTemporaryDir>
 #include <QTimer>
 
 /// Gives any command that the program has, whatever is in front, and does something with the dialogs that it opens.
@@ -23,6 +28,8 @@ protected:
             "|edit\\.(cut|copy|paste|selectAll|clearSelection)"
             "|mapEditor\\.(add|remove|resize|delete|cut|copyAs|fill|cancel).*|map\\.(replace|select|goTo).*");
         addCommands<8>(Lasting, ".*");
+        addImports();
+        addExport();
     }
 
 private:
@@ -46,24 +53,63 @@ private:
         };
         addFor<Often>(anyCommand, "command", effect, [this](QAction &action) {
             m_lastAction = action.objectName();
-            QTimer answers; // also while a dialog waits, which another one may have opened
-            const auto answer = [this] { this->answer(); };
-            QObject::connect(&answers, &QTimer::timeout, &answers, answer, Qt::QueuedConnection);
-            answers.start(0);
-            action.trigger();
-            do
-                QCoreApplication::processEvents();
-            while (this->answer());
+            withAnswers([&action] { action.trigger(); });
         });
+    }
+    /// Adds imports of a picture, which is another one each time, so that importing again brings something new.
+    void addImports()
+    {
+        const auto actions = [this] { return number(4) == 0 ? m_window.projectActions() : nullptr; };
+        addFor(actions, "import", Lasting, [this](ProjectActions &does) {
+            const QString file = m_folder.filePath("picture.png");
+            const QSize size(16 * (1 + number(4)), 16 * (1 + number(4)));
+            const QImage picture = pictureOf(size, QImage::Format_RGB32,
+                                             [this](int) { return qRgb(0xff * number(2), 0xff * number(2), 0); });
+            if (!picture.save(file) || isFull())
+                return;
+            const QUuid palette = anyId(&Project::palettes);
+            const auto import = any(std::vector<std::function<void()>>{
+                [&] { does.importPalette(palette, file); }, [&] { does.importMap(file); },
+                [&] {
+                    does.importSpritePicture({file, "Picture", Quenmora::Sprite(number(2)), palette, chance()});
+                }});
+            withAnswers(import);
+        });
+    }
+    void addExport()
+    {
+        const auto controller = [this] { return number(4) == 0 ? m_window.projectController() : nullptr; };
+        addFor(controller, "export", None, [this](ProjectController &opened) {
+            const QString recipe = NextData::Recipe::pathFor(opened.filePath());
+            if (!opened.filePath().isEmpty() && usualRecipe(project()).save(recipe).isEmpty())
+                withAnswers([] { Commands::instance()->actionsOf("file.exportAgain").constFirst()->trigger(); });
+        });
+    }
+
+    /// Does something that may open dialogs, and wait for them.
+    void withAnswers(const std::function<void()> &act)
+    {
+        QTimer answers; // also while a dialog waits, which another one may have opened
+        QObject::connect(
+            &answers, &QTimer::timeout, &answers, [this] { answer(); }, Qt::QueuedConnection);
+        answers.start(0);
+        act();
+        do
+            QCoreApplication::processEvents();
+        while (answer());
+    }
+    [[nodiscard]] bool isFull()
+    {
+        return project().palettes().size() + project().tileSets().size() + project().maps().size()
+            + project().blockSets().size() + project().spriteBanks().size() + project().images().size()
+            >= 16;
     }
     bool isWanted(const QString &name)
     {
         static const QRegularExpression leaving( // the project, the program, what is installed
             "^(file\\.(new|open|save.*|close|quit)|help\\.(guide|checkForUpdates|sampleProject)|edit\\.(undo|redo))$");
         static const QRegularExpression growing("\\.(new|add|clone|copy|copyToNewMap|createAnimations|importFont)$");
-        const qsizetype assets = project().palettes().size() + project().tileSets().size() + project().maps().size()
-            + project().blockSets().size() + project().spriteBanks().size() + project().images().size();
-        return !leaving.match(name).hasMatch() && (!growing.match(name).hasMatch() || (assets < 16 && chance()));
+        return !leaving.match(name).hasMatch() && (!growing.match(name).hasMatch() || (!isFull() && chance()));
     }
 
     /// Fills in the dialogs that are open, or not, and closes them. Returns whether there was any.
@@ -99,4 +145,6 @@ private:
                 tick->click();
         }
     }
+
+    QTemporaryDir m_folder;
 };
