@@ -16,7 +16,6 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
-#include <QPainter>
 #include <QSet>
 
 #include <algorithm>
@@ -61,9 +60,8 @@ QPointer<Map> createMap(Project &project, const QString &name, const QUuid &tile
 {
     const QPointer<Map> map = project.createMap(name, tileSetId, slicer.size());
     const int columns = slicer.size().width();
-    const QList<ImageSlicer::Placement> placements = slicer.placements();
-    for (int cell = 0; cell < placements.size(); ++cell) {
-        const auto [tile, orientation] = placements[cell];
+    for (int cell = 0; cell < slicer.cellCount(); ++cell) {
+        const auto [tile, orientation] = slicer.placement(cell);
         map->setTile({cell % columns, cell / columns}, cellOf(tile, orientation, slicer.bank(tile)));
     }
     return map;
@@ -83,22 +81,26 @@ QString lossOf(const ImageSlicer &slicer)
         .arg(slicer.pieceCount());
 }
 
-/// The picture that the tiles of a slicer make, in the colours of the Next.
+/// The picture that the tiles of a slicer make, in the colours of the Next. There are few tiles.
 QImage shownOf(const ImageSlicer &slicer)
 {
     Palette words;
     const QList<QRgb> colours = slicer.bankColours();
     for (int i = 0; i < Palette::Size; ++i)
         words.setColour(i, QColor::fromRgb(colours[i]), false);
-    QImage shown(slicer.size() * ImageSlicer::TileSide, QImage::Format_RGB32);
-    QPainter painter(&shown);
-    const QList<ImageSlicer::Placement> placements = slicer.placements();
-    for (int cell = 0; cell < placements.size(); ++cell) {
-        const auto [tile, orientation] = placements[cell];
-        QImage piece = slicer.pieceWithOffset(tile);
-        piece.setColorTable(words.colourTable());
-        painter.drawImage(QPoint(cell % slicer.size().width(), cell / slicer.size().width()) * ImageSlicer::TileSide,
-                          oriented(piece, orientation & RotateBit, orientation & FlipBit, orientation & MirrorBit));
+    QList<QImage> pieces;
+    for (int tile = 0; tile < slicer.pieceCount(); ++tile)
+        pieces.append(slicer.pieceWithOffset(tile));
+    QImage shown(slicer.size() * ImageSlicer::TileSide, QImage::Format_Indexed8);
+    shown.setColorTable(words.colourTable());
+    for (int cell = 0; cell < slicer.cellCount(); ++cell) {
+        const auto [tile, orientation] = slicer.placement(cell);
+        const QImage piece =
+            oriented(pieces.at(tile), orientation & RotateBit, orientation & FlipBit, orientation & MirrorBit);
+        const QPoint corner =
+            QPoint(cell % slicer.size().width(), cell / slicer.size().width()) * ImageSlicer::TileSide;
+        for (int y = 0; y < ImageSlicer::TileSide; ++y)
+            std::copy_n(piece.constScanLine(y), ImageSlicer::TileSide, shown.scanLine(corner.y() + y) + corner.x());
     }
     return shown;
 }
@@ -164,6 +166,19 @@ bool hasManyColours(const QImage &picture)
     return false;
 }
 
+/// Whether pixels are clear, looked at in bands, since NxImage takes a picture's memory once more.
+bool hasClearPixels(const QImage &picture)
+{
+    constexpr int Rows = 64;
+    for (int y = 0; y < picture.height(); y += Rows) {
+        NxImage band;
+        band.setTranslucent(picture.copy(0, y, picture.width(), std::min(Rows, picture.height() - y)));
+        if (band.hasClearPixels())
+            return true;
+    }
+    return false;
+}
+
 } // namespace
 
 bool PictureLoss::any() const
@@ -182,11 +197,7 @@ PictureLoss PictureLoss::of(const QString &filePath, QWidget *parent)
     loss.isMachines = MachineColours::areIn(loss.picture);
     loss.changesLevels = loss.isMachines && !MachineColours::surviveQuantising(loss.picture);
     loss.hasManyColours = !loss.isMachines && ::hasManyColours(loss.picture);
-    if (loss.picture.hasAlphaChannel()) {
-        NxImage translucent;
-        translucent.setTranslucent(loss.picture);
-        loss.losesClearPixels = translucent.hasClearPixels();
-    }
+    loss.losesClearPixels = loss.picture.hasAlphaChannel() && hasClearPixels(loss.picture);
     const auto slicer = std::make_shared<ImageSlicer>(loss.picture);
     {
         SlicingProgress progress(*slicer, parent);
