@@ -109,10 +109,12 @@ private:
             return;
         QElapsedTimer time;
         time.start();
+        const qint64 waitedBefore = waited();
         m_user.act();
         if (!PauseWatch::isFree()) // something was dropped, and the drag has taken the release
             QTest::mouseRelease(&m_window, Qt::LeftButton);
-        say({{"event", "act"}, {"action", m_user.lastAction()}, {"took", time.elapsed()}});
+        const qint64 took = time.elapsed() - (waited() - waitedBefore);
+        say({{"event", "act"}, {"action", m_user.lastAction()}, {"took", took}});
         if (m_user.number(6) == 0)
             m_rest = m_user.number(200); // a second at most
         if (m_user.number(30) == 0) {
