@@ -8,6 +8,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <array>
 
 namespace {
 
@@ -15,7 +16,8 @@ namespace {
 class TileColours
 {
 public:
-    explicit TileColours(const TileSet &tiles) : m_tiles(tiles) { }
+    /// Of tiles that have a palette.
+    explicit TileColours(const TileSet &tiles) : m_tiles(tiles), m_table(tiles.palette()->shownColourTable()) { }
 
     QRgb of(const TileMap::TileData &cell)
     {
@@ -24,32 +26,31 @@ public:
         const int key = cell.index << 4 | (cell.offset & 15);
         auto found = m_colours.constFind(key);
         if (found == m_colours.cend()) {
-            const QImage image = m_tiles.shownTileImage(cell.index, false, false, false, cell.offset)
-                                     .convertToFormat(QImage::Format_RGB32);
-            found = m_colours.insert(key, average(image));
+            found = m_colours.insert(key, average(cell));
         }
         return *found;
     }
 
 private:
-    static QRgb average(const QImage &image)
+    QRgb average(const TileMap::TileData &cell) const
     {
+        std::array<uchar, Tile::Size * Tile::Size> pixels{};
+        m_tiles.renderShownTile(cell.index, false, false, false, cell.offset, pixels.data(), Tile::Size);
         int red = 0;
         int green = 0;
         int blue = 0;
-        for (int y = 0; y < image.height(); ++y) {
-            const auto *line = reinterpret_cast<const QRgb *>(image.constScanLine(y));
-            for (int x = 0; x < image.width(); ++x) {
-                red += qRed(line[x]);
-                green += qGreen(line[x]);
-                blue += qBlue(line[x]);
-            }
+        for (const uchar pixel : pixels) {
+            const QRgb colour = m_table.at(pixel);
+            red += qRed(colour);
+            green += qGreen(colour);
+            blue += qBlue(colour);
         }
-        const int pixels = std::max(image.width() * image.height(), 1);
-        return qRgb(red / pixels, green / pixels, blue / pixels);
+        constexpr int Count = Tile::Size * Tile::Size;
+        return qRgb(red / Count, green / Count, blue / Count);
     }
 
     const TileSet &m_tiles;
+    const QList<QRgb> m_table;
     QHash<int, QRgb> m_colours;
 };
 
