@@ -30,9 +30,12 @@ private slots:
         set("Sets the snap to grid size", 4);
         set("Size in cells of the viewport", 10);
         set("Tile index to be used as a background", 5);
+        set("Sets the transparency index of the tile set (0-15) or off", 99); // above the range: its end
         QVERIFY(!first.map->tileLayer()->isVisible());
         QCOMPARE(first.grid->viewport().viewportSize, QSize(10, 32));
         QCOMPARE(first.map->backgroundTileIndex(), 5);
+        QCOMPARE(first.grid->transparencyIndex(), 15);
+        QCOMPARE(MapEditor::View(first.map).grid()->transparencyIndex(), 15); // the map keeps it for the next view
 
         first.view.detachToolBar();
         second.view.attachToolBar(&toolBar);
@@ -47,28 +50,12 @@ private slots:
         QVERIFY(!tiles->isChecked());
         QCOMPARE(toolBar.viewport(), QSize(10, 32));
         QCOMPARE(snaps, (Signals{{4}, {2}})); // showing a state tells nothing
-        set("Sets the transparency index of the tile set (0-15) or off", 3);
-        QCOMPARE(first.grid->transparencyIndex(), 3);
-        QCOMPARE(MapEditor::View(first.map).grid()->transparencyIndex(), 3); // the map keeps it for the next view
-
         QCOMPARE(toolBar.sizeText(), "20x16 (640 bytes)");
         first.view.addColumn(Quenmora::End);
         first.view.removeRow(Quenmora::Begin);
         first.view.removeColumn(Quenmora::End);
-        first.view.addRow(Quenmora::Begin);
-        QCOMPARE(first.steps(), "Add Columns|Remove Rows|Remove Columns|Add Rows");
-        first.stack.undo();
+        QCOMPARE(first.steps(), "Add Columns|Remove Rows|Remove Columns");
         QCOMPARE(toolBar.sizeText(), "20x15 (600 bytes)");
-    }
-
-    void numbersHaveTheirRanges()
-    {
-        const ToolBar toolBar;
-        QStringList found;
-        for (const QSpinBox *box : toolBar.findChildren<QSpinBox *>())
-            found += QString("%1 to %2: %3")
-                         .arg(QString::number(box->minimum()), QString::number(box->maximum()), box->text());
-        QCOMPARE(found.join(", "), "1 to 1000: 40, 1 to 1000: 32, -1 to 1024: None, -1 to 15: Off, 1 to 16: Off");
     }
 };
 
