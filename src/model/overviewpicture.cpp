@@ -4,11 +4,11 @@
 #include "model/palette.h"
 #include "model/tileset.h"
 
-#include <QHash>
 #include <QPainter>
 
 #include <algorithm>
 #include <array>
+#include <vector>
 
 namespace {
 
@@ -17,18 +17,20 @@ class TileColours
 {
 public:
     /// Of tiles that have a palette.
-    explicit TileColours(const TileSet &tiles) : m_tiles(tiles), m_table(tiles.palette()->shownColourTable()) { }
+    explicit TileColours(const TileSet &tiles)
+        : m_tiles(tiles)
+        , m_table(tiles.palette()->shownColourTable())
+        , m_colours(size_t(tiles.count()) << 4)
+    { }
 
     QRgb of(const TileMap::TileData &cell)
     {
         if (!cell.used || cell.index < 0 || cell.index >= m_tiles.count())
             return qRgb(0, 0, 0);
-        const int key = cell.index << 4 | (cell.offset & 15);
-        auto found = m_colours.constFind(key);
-        if (found == m_colours.cend()) {
-            found = m_colours.insert(key, average(cell));
-        }
-        return *found;
+        QRgb &colour = m_colours[size_t(cell.index) << 4 | size_t(cell.offset & 15)];
+        if (colour == 0) // which is transparent
+            colour = average(cell);
+        return colour;
     }
 
 private:
@@ -51,7 +53,7 @@ private:
 
     const TileSet &m_tiles;
     const QList<QRgb> m_table;
-    QHash<int, QRgb> m_colours;
+    std::vector<QRgb> m_colours; ///< 0 for those that were not asked for yet
 };
 
 } // namespace
