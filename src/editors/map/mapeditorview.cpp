@@ -1,5 +1,6 @@
 #include "editors/map/mapeditorview.h"
 
+#include "editors/map/changedframes.h"
 #include "editors/map/mapanimator.h"
 #include "editors/map/mapeditortoolbar.h"
 #include "editors/map/mapexport.h"
@@ -11,7 +12,6 @@
 #include "editors/map/resizedialog.h"
 #include "editors/map/spritepropertiespopover.h"
 #include "editors/map/viewbuilder.h"
-#include "model/placedsprites.h"
 #include "model/plural.h"
 #include "ui/scrollbar.h"
 
@@ -20,35 +20,10 @@
 #include <QTabWidget>
 
 #include <algorithm>
-#include <utility>
 
 using namespace Quenmora::Ui;
 
 namespace MapEditor {
-
-namespace {
-
-/// The parts of a widget that these areas touch. Many small areas become one, which paints faster.
-QRegion dirtyRegion(const QList<QRect> &areas, const QRect &widget)
-{
-    constexpr int Many = 16;
-    QList<QRect> shown;
-    QRect all;
-    for (const QRect &area : areas) {
-        if (area.intersects(widget)) {
-            shown.append(area & widget);
-            all |= shown.last();
-        }
-    }
-    if (shown.size() > Many)
-        return all;
-    QRegion region;
-    for (const QRect &area : std::as_const(shown))
-        region += area;
-    return region;
-}
-
-} // namespace
 
 View::View(const QPointer<Map> &map, QWidget *parent)
     : QWidget(parent)
@@ -447,21 +422,7 @@ void View::framesAdvanced()
 {
     const auto now = qint64(m_animator->ticks());
     m_grid->setSpriteTicks(now);
-    if (!m_map)
-        return;
-    QList<QRect> changed;
-    if (m_map->objectLayer() && m_map->objectLayer()->isVisible()) {
-        for (const QRect &cells : m_animator->changedAreas())
-            changed.append(m_grid->viewport().rectOfCells(cells));
-    }
-    const QList<Map::PlacedSprite> &sprites = m_map->sprites();
-    if (m_map->spriteLayerVisible()) {
-        for (int i = 0; i < sprites.size(); ++i) {
-            if (PlacedSprites::changesBetween(now - 1, now, sprites.at(i), m_grid->spriteBanks()))
-                changed.append(m_grid->spriteRect(i));
-        }
-    }
-    m_grid->update(dirtyRegion(changed, m_grid->rect()));
+    m_grid->update(changedFrames(*m_grid, m_animator->changedAreas(), now));
 }
 
 void View::setPlaying(bool playing)
