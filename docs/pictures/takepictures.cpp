@@ -55,6 +55,7 @@
 #include "recovery/recoverycopier.h"
 #include "store/keptblocks.h"
 #include "store/projectdocument.h"
+#include "support/desktop.h"
 #include "update/updatechecker.h"
 
 #include <QApplication>
@@ -68,6 +69,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QRadioButton>
+#include <QScreen>
 #include <QSpinBox>
 #include <QTableView>
 #include <QTemporaryDir>
@@ -77,17 +79,7 @@
 
 namespace {
 
-constexpr QSize WindowSize(1360, 880);
-
-QPalette darkPalette()
-{
-    QPalette palette(QColor(53, 53, 56), QColor(43, 43, 46));
-    palette.setColor(QPalette::Base, QColor(30, 30, 32));
-    palette.setColor(QPalette::AlternateBase, QColor(38, 38, 40));
-    palette.setColor(QPalette::Highlight, QColor(48, 108, 190));
-    palette.setColor(QPalette::HighlightedText, Qt::white);
-    return palette;
-}
+constexpr QSize WindowSize(1360, 880); // where the screen has room for it
 
 class PictureTaker
 {
@@ -506,7 +498,8 @@ int main(int argc, char **argv)
     const QStringList arguments = QApplication::arguments();
     const bool dark = arguments.at(3) == QLatin1String("dark");
     if (dark)
-        QApplication::setPalette(darkPalette());
+        qputenv("QUENMORA_DARK", "1");
+    Desktop::apply();
     Update::UpdateChecker::setFeedAddress({}); // pictures are taken without a network
 
     QDir().mkpath(QString::fromLocal8Bit(argv[2]));
@@ -515,7 +508,7 @@ int main(int argc, char **argv)
     if (!QFile::copy(QString::fromLocal8Bit(argv[1]), sample))
         return 1;
     MainWindow window;
-    window.resize(WindowSize);
+    window.resize(WindowSize.boundedTo(window.screen()->availableSize()));
     PictureTaker(window, QDir(QString::fromLocal8Bit(argv[2])), dark ? QStringLiteral("-dark") : QString(),
                  arguments.mid(4))
         .takeAll(sample);

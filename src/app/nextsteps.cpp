@@ -13,9 +13,14 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-NextSteps::NextSteps(const MenuBar &menus, QWidget *parent) : QWidget(parent)
+NextSteps::NextSteps(const MenuBar &menus, QWidget *parent) : QScrollArea(parent)
 {
-    auto *layout = new QVBoxLayout(this);
+    setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::NoFocus); // what is in it has the keyboard
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    setWidgetResizable(true);
+    auto *steps = new QWidget;
+    auto *layout = new QVBoxLayout(steps);
     layout->setContentsMargins(4, 4, 4, 4);
     layout->setSpacing(2);
     auto *heading = new QLabel(tr("This project is empty. Begin with:"));
@@ -40,4 +45,5 @@ NextSteps::NextSteps(const MenuBar &menus, QWidget *parent) : QWidget(parent)
         &TileMenu::showNewDialog);
     add(tr("New sprites"), QStringLiteral(":/Sprite"), tr("A bank of sprites of 16 × 16 pixels"), menus.spriteMenu(),
         &SpriteMenu::showNewDialog);
+    setWidget(steps);
 }

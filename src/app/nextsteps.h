@@ -1,11 +1,11 @@
 #pragma once
 
-#include <QWidget>
+#include <QScrollArea>
 
 class MenuBar;
 
 /// What to begin with in a project that is still empty: the menus' ways to its first assets.
-class NextSteps : public QWidget
+class NextSteps : public QScrollArea
 {
     Q_OBJECT
 
@@ -14,4 +14,6 @@ public:
 
     /// It takes what room there is, and keeps nothing from being made small.
     [[nodiscard]] QSize minimumSizeHint() const override { return {0, 0}; }
+    [[nodiscard]] bool hasHeightForWidth() const override { return true; }
+    [[nodiscard]] int heightForWidth(int width) const override { return widget()->heightForWidth(width); }
 };

@@ -42,7 +42,7 @@ QLayout *PicturePreview::sideBySide(PicturePreview *before, PicturePreview *afte
         column->addWidget(new QLabel(text));
         column->addWidget(picture, 1);
         picture->setAccessibleName(text);
-        picture->setMinimumSize(240, 192);
+        picture->m_usualSize = {252, 192};
         pictures->addLayout(column, 1);
     }
     return pictures;

@@ -22,12 +22,13 @@ public:
     /// A null picture leaves the preview empty.
     void setPicture(const QImage &picture);
 
-    QSize sizeHint() const override { return {528, 160}; } // 32 characters at twice their size
-    QSize minimumSizeHint() const override { return {256, 96}; }
+    QSize sizeHint() const override { return m_usualSize; }
+    QSize minimumSizeHint() const override { return {m_usualSize.width() / 2, 96}; } // where the screen is small
 
 protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
     QImage m_picture;
+    QSize m_usualSize{528, 160}; ///< 32 characters at twice their size
 };

@@ -1,6 +1,7 @@
 // All of the window in a language that shows what is not translated, and what is cut where texts are longer than the
-// English ones. QUENMORA_LANGUAGE=de does it in that language instead, of which only the latter is asked, and
-// QUENMORA_PICTURES=FOLDER leaves pictures of what was seen (scripts/languages.sh).
+// English ones or does not fit on the screen. QUENMORA_LANGUAGE=de does it in that language instead, of which only the
+// latter is asked, QUENMORA_PICTURES=FOLDER leaves pictures of what was seen (scripts/languages.sh), and
+// support/desktop.h tells what else can be asked for.
 
 #include "app/dialogs/importbinarydialog.h"
 #include "app/dialogs/importpicturedialog.h"
@@ -11,11 +12,13 @@
 #include "app/exportproject/outputdialog.h"
 #include "app/exportproject/severaloutputsdialog.h"
 #include "app/foreignchange.h"
+#include "app/guide.h"
 #include "app/imports/pictureimport.h"
 #include "app/menus/helpmenu.h"
 #include "editors/canvas/imageimportdialog.h"
 #include "editors/map/exportdialog.h"
 #include "language/catalogues.h"
+#include "support/desktop.h"
 #include "support/lupdate.h"
 #include "support/pseudolanguage.h"
 #include "support/usualrecipe.h"
@@ -23,6 +26,8 @@
 #include "update/updatedialog.h"
 
 namespace {
+
+constexpr QSize Frame(4, 36); ///< of what a desktop puts around a window
 
 /// Qt's own, which are as they are.
 bool isQts(const QWidget *widget)
@@ -131,6 +136,7 @@ class TestLanguages : public QObject, protected WindowScene
 private slots:
     void initTestCase()
     {
+        Desktop::apply();
         QApplication::setApplicationName("Quenmora");
         QApplication::setApplicationDisplayName("Quenmora");
         const QString language = qEnvironmentVariable("QUENMORA_LANGUAGE");
@@ -145,7 +151,7 @@ private slots:
             Catalogues::install(*qApp);
         }
         openWindow();
-        m_window->resize(1280, 800);
+        m_window->resize(QSize(1280, 800).boundedTo(m_window->screen()->availableSize() - Frame));
         m_window->setDeletionCallback([](const DeletionQuestion &) { return false; });
         controller()->setFileNameCallback([] { return QString(); });
         m_window->menus()->setFileChooser([this](const FileRequest &request, QWidget *) { return fileFor(request); });
@@ -180,6 +186,7 @@ private slots:
         }
         lookAtOtherDialogs();
         QCOMPARE(dialogsOfTheProgram() - m_seen, QSet<QString>());
+        QCOMPARE(m_unguided, QSet<QString>());
         if (m_pseudo)
             m_untranslated += m_pseudo->strangers();
         else
@@ -334,7 +341,11 @@ private:
             if (!window || !window->isVisible() || isQts(window) || (window == &*m_window && !withWindow))
                 continue;
             const QString place = QString::fromLatin1(name) + ' ' + window->metaObject()->className();
+            fitOnScreen(*window, place);
             m_seen.insert(QString::fromLatin1(window->metaObject()->className()).section("::", -1));
+            if (window->inherits("QDialog") && !window->inherits("QMessageBox") && !window->inherits("MessageDialog")
+                && Guide::pageOfDialog(*window->metaObject()).isEmpty())
+                m_unguided.insert(QString::fromLatin1(window->metaObject()->className()));
             note(*window, place);
             picture(*window, place);
         }
@@ -343,6 +354,22 @@ private:
                 window->close();
         }
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    /// Makes a window as small as the screen is, as desktops do, and notes what it cannot do without.
+    void fitOnScreen(QWidget &window, const QString &place)
+    {
+        if (window.inherits("QMenu"))
+            return; // menus scroll
+        const QSize room = window.screen()->availableSize() - Frame;
+        const QSize least = window.minimumSizeHint().expandedTo(window.minimumSize());
+        if (const QSize missing = least.expandedTo(room) - room; !missing.isNull())
+            m_cut.append(QStringLiteral("%1 x %2 pixels beyond the screen: %3")
+                             .arg(missing.width())
+                             .arg(missing.height())
+                             .arg(place));
+        window.resize(window.size().boundedTo(room));
+        QCoreApplication::processEvents();
     }
 
     void note(QWidget &window, const QString &place)
@@ -385,6 +412,7 @@ private:
     std::optional<PseudoLanguage> m_pseudo;
     QSet<const QAction *> m_used;
     QSet<QString> m_seen; ///< classes of windows, without namespaces
+    QSet<QString> m_unguided{}; ///< classes of dialogs that no page of the guide is about
     QStringList m_names{"Quenmora"};
     int m_pictures = 0;
     QStringList m_untranslated; ///< with where they are

@@ -92,8 +92,10 @@ void ShortcutsDialog::buildList(const PlaceOf &placeOf)
         m_items.append(item);
     }
     m_list->header()->setStretchLastSection(true);
-    for (const Column column : {NameColumn, PlaceColumn})
+    for (const auto &[column, percent] : {std::pair(NameColumn, 45), {PlaceColumn, 30}}) {
         m_list->resizeColumnToContents(column);
+        m_list->setColumnWidth(column, std::min(m_list->columnWidth(column), width() * percent / 100)); // keys are seen
+    }
     connect(m_list, &QTreeWidget::currentItemChanged, this, &ShortcutsDialog::showEditor);
     connect(m_list, &QTreeWidget::itemActivated, this, [this] {
         if (m_edits.isEmpty())

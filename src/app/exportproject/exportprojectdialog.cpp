@@ -133,7 +133,8 @@ QWidget *ExportProjectDialog::buildTable()
     m_view->horizontalHeader()->setHighlightSections(false);
     m_view->horizontalHeader()->setStretchLastSection(true);
     for (int column = 0; column < RecipeTable::ColumnCount; ++column)
-        m_view->setColumnWidth(column, ColumnWidths[column]);
+        m_view->setColumnWidth(column,
+                               std::max(ColumnWidths[column], m_view->horizontalHeader()->sectionSizeHint(column)));
     m_width = UsualSize.width();
     connect(m_view, &QTableView::doubleClicked, this, &ExportProjectDialog::editOutput);
 

@@ -42,7 +42,7 @@ EditorWidget::EditorWidget(AnimationToolBar *toolBar, QWidget *parent)
     , m_onionSkin(new QAction(themedIcon(QStringLiteral(":/Onion")), tr("Onion Skin"), this))
     , m_toolBar(toolBar)
     , m_tools(new ToolPalette(Qt::Horizontal))
-    , m_cellNumbers(new QHBoxLayout)
+    , m_cellTools(new FlowLayout)
     , m_frameEditor(new FrameEditorWidget)
     , m_scroller(new QScrollArea)
     , m_control(new AnimationControlWidget)
@@ -66,15 +66,10 @@ void EditorWidget::buildPage()
 {
     // what is laid out first is reached first by the keyboard
     auto *tools = new QWidget;
-    auto *toolsLayout = new FlowLayout(tools);
-    toolsLayout->setContentsMargins(0, 0, 0, 0);
+    tools->setLayout(m_cellTools);
+    m_cellTools->setContentsMargins(0, 0, 0, 0);
     m_tools->setMinimumWidth(m_tools->sizeHint().width());
-    toolsLayout->addWidget(m_tools);
-    auto *numbers = new QWidget;
-    m_cellNumbers->setContentsMargins(0, 0, 6, 0);
-    numbers->setLayout(m_cellNumbers);
-    numbers->setMinimumHeight(m_tools->sizeHint().height());
-    toolsLayout->addWidget(numbers);
+    m_cellTools->addWidget(m_tools);
     m_scroller->setWidget(m_frameEditor);
     m_scroller->setAlignment(Qt::AlignCenter);
     m_scroller->setFocusPolicy(Qt::NoFocus);
@@ -105,9 +100,13 @@ QSpinBox *EditorWidget::addCellNumber(const QString &label, const QString &toolT
     number->setKeyboardTracking(false);
     auto *text = new QLabel(label);
     text->setBuddy(number);
-    m_cellNumbers->addSpacing(6);
-    m_cellNumbers->addWidget(text);
-    m_cellNumbers->addWidget(number);
+    auto *part = new QWidget; // by itself, so that a narrow editor has each in a row of its own
+    part->setMinimumHeight(m_tools->sizeHint().height());
+    auto *layout = new QHBoxLayout(part);
+    layout->setContentsMargins(6, 0, 6, 0);
+    layout->addWidget(text);
+    layout->addWidget(number);
+    m_cellTools->addWidget(part);
     return number;
 }
 

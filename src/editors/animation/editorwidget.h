@@ -5,7 +5,7 @@
 #include "ui/toolpalette.h"
 
 class QAction;
-class QHBoxLayout;
+class FlowLayout;
 class QScrollArea;
 class QSpinBox;
 class QTimer;
@@ -89,7 +89,7 @@ private:
     QAction *m_onionSkin;
     AnimationToolBar *m_toolBar;
     ToolPalette *m_tools;
-    QHBoxLayout *m_cellNumbers;
+    FlowLayout *m_cellTools;
     QSpinBox *m_index;
     FrameEditorWidget *m_frameEditor;
     QScrollArea *m_scroller;

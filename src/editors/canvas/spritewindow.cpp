@@ -74,15 +74,21 @@ void SpriteWindow::buildPage()
     form->addRow(tr("Transparent index"), m_transparency);
     editorLayout->addLayout(form);
 
-    auto *scroller = new QScrollArea;
-    scroller->setFocusPolicy(Qt::NoFocus); // what is in it has the keyboard
-    scroller->setWidgetResizable(true);
-    scroller->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scroller->setWidget(m_list);
+    const auto scrolled = [](QWidget *part) {
+        auto *scroller = new QScrollArea;
+        scroller->setFocusPolicy(Qt::NoFocus); // what is in it has the keyboard
+        scroller->setWidgetResizable(true);
+        scroller->setWidget(part);
+        return scroller;
+    };
+    QScrollArea *list = scrolled(m_list);
+    list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    QScrollArea *upper = scrolled(editor);
+    upper->setFrameShape(QFrame::NoFrame);
 
     auto *splitter = new QSplitter(Qt::Vertical);
-    splitter->addWidget(editor);
-    splitter->addWidget(SectionHeader::over(scroller, m_header));
+    splitter->addWidget(upper);
+    splitter->addWidget(SectionHeader::over(list, m_header));
     splitter->setStretchFactor(0, 3);
     splitter->setStretchFactor(1, 2);
     setContent(splitter);
