@@ -116,13 +116,21 @@ void MapOverview::paintEvent(QPaintEvent *)
 
 void MapOverview::mousePressEvent(QMouseEvent *event)
 {
-    scrollTo(event->position().toPoint());
+    m_press = event->position().toPoint();
+    if (!frame().contains(m_press))
+        scrollTo(m_press);
+    m_scroll = m_grid->viewport().scroll;
 }
 
 void MapOverview::mouseMoveEvent(QMouseEvent *event)
 {
-    if (event->buttons() & Qt::LeftButton)
-        scrollTo(event->position().toPoint());
+    const QSize map = m_grid->map() ? m_grid->map()->size() : QSize();
+    const QRect place = picturePlace();
+    if (!(event->buttons() & Qt::LeftButton) || map.isEmpty() || place.isEmpty())
+        return;
+    const QPointF way = event->position() - m_press;
+    m_grid->scrollTo(
+        m_scroll + QPointF(way.x() * map.width() / place.width(), way.y() * map.height() / place.height()).toPoint());
 }
 
 void MapOverview::wheelEvent(QWheelEvent *event)

@@ -9,7 +9,8 @@ namespace MapEditor {
 
 class MapGrid;
 
-/// The whole map in a corner of its grid, small, with a frame around what is in view. Dragging in it scrolls.
+/// The whole map in a corner of its grid, small, with a frame around what is in view. The frame is dragged from where
+/// it is taken; a press beside it brings it there.
 ///
 /// What it costs depends on its own size alone: of a map with more cells than it has pixels, it looks at one cell a
 /// pixel. It follows edits a moment later, and colours that go round only as often as it takes to see whether it shows
@@ -46,6 +47,9 @@ private:
     QImage m_picture;
     bool m_coloursAlone = true; ///< since it was rendered
     int m_stepsUnseen = 0; ///< of colours, one after the other, that changed nothing in it
+    // of a drag
+    QPoint m_press;
+    QPoint m_scroll; ///< then
 };
 
 } // namespace MapEditor

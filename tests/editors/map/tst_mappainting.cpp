@@ -462,6 +462,15 @@ private slots:
         QTest::mouseClick(&overview, Qt::LeftButton, {}, overview.rect().center());
         QVERIFY((f.grid.viewport().visibleCells().center() - QPoint(50, 40)).manhattanLength() <= 4);
         QVERIFY((overview.frame().center() - overview.rect().center()).manhattanLength() <= 4);
+        const QRect frame = overview.frame();
+        const QPoint scroll = f.grid.viewport().scroll;
+        QTest::mousePress(&overview, Qt::LeftButton, {}, frame.topLeft() + QPoint(1, 1)); // takes hold of it
+        QCOMPARE(f.grid.viewport().scroll, scroll);
+        const QPoint to = frame.topLeft() + QPoint(11, 1);
+        QMouseEvent move(QEvent::MouseMove, to, overview.mapToGlobal(to), Qt::NoButton, Qt::LeftButton, {});
+        QApplication::sendEvent(&overview, &move);
+        QVERIFY(std::abs(overview.frame().left() - frame.left() - 10) <= 2);
+        QVERIFY(std::abs(overview.frame().top() - frame.top()) <= 2);
     }
 };
 
