@@ -18,6 +18,45 @@ class TestMapGrid : public QObject
     Q_OBJECT
 
 private slots:
+    void laysCellsOut()
+    {
+        for (const auto &[widget, map, viewport, viewRect, furthest, fitted] :
+             {std::tuple(QSize(330, 100), QSize(40, 32), QSize(), QRect(5, 2, 320, 96), QPoint(30, 29), 3),
+              {{330, 330}, {40, 2}, {5, 4}, {85, 133, 160, 64}, {35, 0}, 66},
+              {{20, 100}, {40, 32}, {}, {10, 2, 0, 96}, {40, 29}, 1}}) {
+            MapViewport v;
+            v.viewportEnabled = !viewport.isEmpty();
+            v.viewportSize = viewport;
+            v.scroll = {1000, 1000};
+            v.layout(widget, map);
+            QCOMPARE(v.viewRect, viewRect);
+            QCOMPARE(v.scroll, furthest); // kept inside the map
+            v.fit(widget, map);
+            QCOMPARE(v.zoomFactor, 1);
+            QCOMPARE(v.cellSize, fitted);
+            QVERIFY(!v.setZoom(0) && !v.setZoom(9) && v.cellSize == fitted && v.setZoom(8) && v.cellSize == 64);
+        }
+    }
+
+    void findsCellsAndPixels()
+    {
+        MapViewport v;
+        v.cellSize = 12;
+        v.scroll = {3, 5};
+        v.viewRect = QRect(10, 20, 240, 240); // (10, 20) is the corner of cell (3, 5)
+        QCOMPARE(v.cellAt({21, 31}), QPoint(3, 5));
+        QCOMPARE(v.snappedCellAt({22, 32}), QPoint(4, 6));
+        QCOMPARE(v.pixelAt({21, 31}), QPoint(31, 47));
+        v.snap = 4;
+        QCOMPARE(v.snappedCellAt({70, 80}), QPoint(4, 8));
+        QCOMPARE(v.snappedCellAt({58, 32}), QPoint(4, 4)); // cell (7, 6)
+        QCOMPARE(v.snappedPixel({64, 80}), QPoint(64, 64));
+        // rounded down, also left of the cells
+        QCOMPARE(v.cellsUnder(QRect(QPoint(9, 8), QPoint(33, 20))), QRect(QPoint(2, 4), QPoint(4, 5)));
+        QCOMPARE(v.rectOfCells({4, 6, 2, 1}), QRect(22, 32, 24, 12));
+        QCOMPARE(v.rectOfPixels({28, 48, 8, 8}), QRect(16, 32, 12, 12));
+    }
+
     void wheelScrollsAndZooms()
     {
         MapGridFixture f;
