@@ -10,13 +10,8 @@
 #include "ui/messagedialog.h"
 #include "undo/editclock.h"
 
-#include <QApplication>
-#include <QElapsedTimer>
-#include <QHashSeed>
-#include <QTemporaryDir>
-#include <QTest>
-#include <QUndoGroup>
-#include <QUndoStack>
+#include <QtTest>
+#include <QtWidgets>
 
 #include <algorithm>
 #include <cstdio>

@@ -12,14 +12,8 @@
 #include "support/randomuser.h"
 #include "ui/messagedialog.h"
 
-#include <QApplication>
-#include <QDateTime>
-#include <QElapsedTimer>
-#include <QFile>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QTest>
-#include <QTimer>
+#include <QtTest>
+#include <QtWidgets>
 
 #include <algorithm>
 #include <csignal>

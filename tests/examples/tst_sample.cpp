@@ -11,9 +11,8 @@
 #include "store/zipfile.h"
 #include "support/testmain.h"
 
-#include <QPainter>
-#include <QTemporaryDir>
-#include <QTest>
+#include <QtGui>
+#include <QtTest>
 
 namespace {
 

@@ -9,12 +9,8 @@
 #include "support/testmain.h"
 #include "undo/editrecorder.h"
 
-#include <QDir>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QLocale>
-#include <QTest>
-#include <QUndoStack>
+#include <QtGui>
+#include <QtTest>
 
 #include <functional>
 #include <numeric>

@@ -6,10 +6,7 @@
 #include "support/platform.h"
 #include "support/testmain.h"
 
-#include <QBuffer>
-#include <QMimeData>
-#include <QRandomGenerator>
-#include <QTest>
+#include <QtTest>
 
 #include <algorithm>
 #include <cmath>

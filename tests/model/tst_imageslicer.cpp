@@ -7,10 +7,8 @@
 #include "support/peakmemory.h"
 #include "support/testmain.h"
 
-#include <QBuffer>
-#include <QPainter>
-#include <QRandomGenerator>
-#include <QTest>
+#include <QtGui>
+#include <QtTest>
 
 #include <algorithm>
 #include <tuple>

@@ -7,10 +7,7 @@
 #include "support/modeltools.h"
 #include "support/testmain.h"
 
-#include <QJsonArray>
-#include <QJsonObject>
-#include <QSignalSpy>
-#include <QTest>
+#include <QtTest>
 
 #include <utility>
 

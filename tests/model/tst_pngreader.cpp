@@ -5,11 +5,7 @@
 #include "support/stderrwatch.h"
 #include "support/testmain.h"
 
-#include <QBuffer>
-#include <QLoggingCategory>
-#include <QRandomGenerator>
-#include <QTest>
-#include <QtEndian>
+#include <QtTest>
 
 #include <zlib.h>
 

@@ -4,9 +4,7 @@
 #include "support/modeltools.h"
 #include "support/testmain.h"
 
-#include <QMimeData>
-#include <QPainter>
-#include <QRandomGenerator>
+#include <QtGui>
 
 #include <memory>
 

@@ -5,10 +5,8 @@
 #include "support/modeltools.h"
 #include "support/testmain.h"
 
-#include <QMimeData>
-#include <QPainter>
-#include <QRandomGenerator>
-#include <QTest>
+#include <QtGui>
+#include <QtTest>
 
 #include <memory>
 

@@ -9,9 +9,7 @@
 #include "support/platform.h"
 #include "support/testmain.h"
 
-#include <QDir>
-#include <QFileInfo>
-#include <QTest>
+#include <QtTest>
 
 using namespace NextData;
 using State = RecipeRun::State;

@@ -3,10 +3,7 @@
 #include "support/randomproject.h"
 #include "support/testmain.h"
 
-#include <QProcess>
-#include <QRegularExpression>
-#include <QStandardPaths>
-#include <QTest>
+#include <QtTest>
 
 using namespace NextData;
 

@@ -16,12 +16,7 @@
 #include "support/sampleproject.h"
 #include "support/testmain.h"
 
-#include <QEventLoop>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QProcess>
-#include <QTest>
+#include <QtTest>
 
 #include <cerrno>
 

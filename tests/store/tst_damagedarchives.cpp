@@ -7,11 +7,7 @@
 #include "support/stderrwatch.h"
 #include "support/testmain.h"
 
-#include <QFileInfo>
-#include <QLoggingCategory>
-#include <QRandomGenerator>
-#include <QSignalSpy>
-#include <QTest>
+#include <QtTest>
 
 #include <optional>
 using namespace ArchiveTools;

@@ -4,10 +4,7 @@
 #include "support/modeltools.h"
 #include "support/testmain.h"
 
-#include <QFile>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QTest>
+#include <QtTest>
 
 #include <optional>
 

@@ -9,9 +9,7 @@
 #include "support/sampleproject.h"
 #include "support/testmain.h"
 
-#include <QRandomGenerator>
-#include <QTemporaryDir>
-#include <QTest>
+#include <QtTest>
 
 #include <zlib.h>
 

@@ -6,8 +6,7 @@
 #include "support/sampleproject.h"
 #include "support/testmain.h"
 
-#include <QBuffer>
-#include <QTest>
+#include <QtTest>
 
 using namespace ProjectFile;
 using SampleProject::gradient;

@@ -8,11 +8,7 @@
 #include "support/sampleproject.h"
 #include "support/testmain.h"
 
-#include <QCryptographicHash>
-#include <QDir>
-#include <QFileInfo>
-#include <QTemporaryDir>
-#include <QTest>
+#include <QtTest>
 
 using ArchiveTools::writeArchive;
 

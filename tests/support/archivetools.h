@@ -3,9 +3,7 @@
 #include "store/zipfile.h"
 #include "support/modeltools.h"
 
-#include <QByteArray>
-#include <QMap>
-#include <QString>
+#include <QtCore>
 
 /// Makes archives, and damages them, for tests.
 namespace ArchiveTools {

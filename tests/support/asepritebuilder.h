@@ -2,8 +2,7 @@
 
 #include "support/littleendian.h"
 
-#include <QList>
-#include <QRect>
+#include <QtCore>
 
 /// Writes .aseprite files from their description, chunk by chunk; what describes one returns it, to go on with.
 class AsepriteBuilder

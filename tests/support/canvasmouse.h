@@ -6,9 +6,8 @@
 #include "support/modeltools.h"
 #include "support/testmain.h"
 
-#include <QApplication>
-#include <QMouseEvent>
-#include <QSignalSpy>
+#include <QtTest>
+#include <QtWidgets>
 
 namespace EditorInput {
 

@@ -1,9 +1,6 @@
 #pragma once
 
-#include <QFile>
-#include <QList>
-#include <QStringList>
-#include <QXmlStreamReader>
+#include <QtCore>
 
 /// A text of a .ts file.
 struct CatalogueMessage

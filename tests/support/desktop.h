@@ -1,8 +1,6 @@
 #pragma once
 
-#include <QApplication>
-#include <QFont>
-#include <QPalette>
+#include <QtWidgets>
 
 /// The desktop of the person that a program is looked at for. Its screen is the platform's, which can be asked for with
 /// QT_QPA_PLATFORM=offscreen:configfile=FILE, and its scale is QT_SCALE_FACTOR.

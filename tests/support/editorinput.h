@@ -3,15 +3,8 @@
 #include "support/modeltools.h"
 #include "support/testmain.h"
 
-#include <QAbstractButton>
-#include <QApplication>
-#include <QClipboard>
-#include <QDropEvent>
-#include <QMenu>
-#include <QMimeData>
-#include <QSignalSpy>
-#include <QTest>
-#include <QWheelEvent>
+#include <QtTest>
+#include <QtWidgets>
 
 #include <functional>
 

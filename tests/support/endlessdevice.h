@@ -1,7 +1,6 @@
 #pragma once
 
-#include <QByteArray>
-#include <QIODevice>
+#include <QtCore>
 
 /// What begins with these bytes and goes on with zeros for ever; it counts how many were taken.
 class EndlessDevice : public QIODevice

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <QByteArray>
-#include <QtEndian>
+#include <QtCore>
 
 /// A number as a file has it, low byte first.
 template <typename Number>

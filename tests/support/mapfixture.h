@@ -9,9 +9,8 @@
 #include "model/tileset.h"
 #include "support/modeltools.h"
 
-#include <QSpinBox>
-#include <QUndoStack>
 #include <QtTest>
+#include <QtWidgets>
 
 #include <cstring>
 

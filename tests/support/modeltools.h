@@ -1,16 +1,6 @@
 #pragma once
 
-#include <QColor>
-#include <QFile>
-#include <QHash>
-#include <QImage>
-#include <QMetaMethod>
-#include <QRandomGenerator>
-#include <QSize>
-#include <QStringList>
-#include <QTemporaryDir>
-#include <QUuid>
-#include <QVariant>
+#include <QtGui>
 
 #include <algorithm>
 #include <functional>

@@ -1,9 +1,6 @@
 #pragma once
 
-#include <QCoreApplication>
-#include <QPaintEvent>
-#include <QRegion>
-#include <QWidget>
+#include <QtWidgets>
 
 /// Watches what of a widget is painted.
 struct PaintWatch : QObject

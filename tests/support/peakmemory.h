@@ -2,8 +2,7 @@
 
 #include "support/platform.h"
 
-#include <QByteArray>
-#include <QFile>
+#include <QtCore>
 
 #include <cstdlib>
 

@@ -9,9 +9,7 @@
 #include "support/canvasmouse.h"
 #include "support/editorinput.h"
 
-#include <QFileDialog>
-#include <QTemporaryDir>
-#include <QUndoStack>
+#include <QtWidgets>
 
 #include <memory>
 #include <vector>

@@ -1,8 +1,6 @@
 #pragma once
 
-#include <QFile>
-#include <QString>
-#include <QTemporaryFile>
+#include <QtCore>
 
 #include <cstdio>
 

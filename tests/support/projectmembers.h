@@ -2,9 +2,7 @@
 
 #include "store/projectdocument.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
+#include <QtCore>
 
 /// Reads and edits the members of a project file in tests.
 namespace ProjectFile {

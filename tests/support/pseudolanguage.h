@@ -2,8 +2,7 @@
 
 #include "support/catalogue.h"
 
-#include <QSet>
-#include <QTranslator>
+#include <QtCore>
 
 #include <algorithm>
 

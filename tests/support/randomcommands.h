@@ -8,13 +8,7 @@
 #include "ui/commands.h"
 #include "ui/messagedialog.h"
 
-#include <QComboBox>
-#include <QFileDialog>
-#include <QPointer>
-#include <QRegularExpression>
-#include <QSpinBox>
-#include <QTemporaryDir>
-#include <QTimer>
+#include <QtWidgets>
 
 /// Gives any command that the program has, whatever is in front, and does something with the dialogs that it opens.
 class RandomCommands : protected virtual RandomHands

@@ -6,8 +6,7 @@
 #include "model/project.h"
 #include "support/editorinput.h"
 
-#include <QMouseEvent>
-#include <QRandomGenerator>
+#include <QtGui>
 
 #include <functional>
 #include <memory>

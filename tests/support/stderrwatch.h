@@ -1,7 +1,6 @@
 #pragma once
 
-#include <QByteArray>
-#include <QTemporaryFile>
+#include <QtCore>
 
 #include <cstdio>
 #include <unistd.h>

@@ -1,8 +1,7 @@
 #include "support/testmain.h"
 
-#include <QApplication>
-#include <QTemporaryDir>
-#include <QTest>
+#include <QtTest>
+#include <QtWidgets>
 
 int runTest(QObject &test, int argc, char **argv)
 {

@@ -3,12 +3,7 @@
 #include "support/littleendian.h"
 #include "support/modeltools.h"
 
-#include <QByteArray>
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
-#include <QImage>
-#include <QTemporaryDir>
+#include <QtGui>
 
 /// A folder with the files of a map.
 class TiledFiles

@@ -5,9 +5,8 @@
 #include "support/testmain.h"
 #include "undo/mapeditcommand.h"
 
-#include <QRandomGenerator>
-#include <QTest>
-#include <QUndoStack>
+#include <QtGui>
+#include <QtTest>
 
 #include <functional>
 #include <optional>

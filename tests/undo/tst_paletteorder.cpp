@@ -7,9 +7,8 @@
 #include "support/randomproject.h"
 #include "support/testmain.h"
 
-#include <QPainter>
-#include <QTest>
-#include <QUndoStack>
+#include <QtGui>
+#include <QtTest>
 
 namespace {
 

@@ -10,9 +10,8 @@
 #include "undo/editrecorder.h"
 #include "undo/mapeditcommand.h"
 
-#include <QRandomGenerator>
-#include <QTest>
-#include <QUndoStack>
+#include <QtGui>
+#include <QtTest>
 
 #include <functional>
 #include <memory>

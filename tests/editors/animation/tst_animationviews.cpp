@@ -12,15 +12,8 @@
 #include "support/paintwatch.h"
 #include "support/testmain.h"
 
-#include <QAction>
-#include <QComboBox>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QSignalSpy>
-#include <QSpinBox>
-#include <QTest>
-#include <QToolButton>
-#include <QUndoStack>
+#include <QtTest>
+#include <QtWidgets>
 
 #include <memory>
 

@@ -5,9 +5,7 @@
 #include "support/canvasmouse.h"
 #include "support/editorinput.h"
 
-#include <QRubberBand>
-#include <QScrollBar>
-#include <QTimer>
+#include <QtWidgets>
 
 using namespace Quenmora::Ui;
 

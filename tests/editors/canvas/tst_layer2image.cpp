@@ -3,8 +3,7 @@
 #include "support/modeltools.h"
 #include "support/testmain.h"
 
-#include <QRandomGenerator>
-#include <QTest>
+#include <QtTest>
 
 #include <cmath>
 

@@ -8,8 +8,7 @@
 #include "support/canvasmouse.h"
 #include "support/editorinput.h"
 
-#include <QAction>
-#include <QRandomGenerator>
+#include <QtGui>
 
 using namespace Quenmora::Ui;
 

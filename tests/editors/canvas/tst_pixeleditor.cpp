@@ -5,8 +5,7 @@
 
 #include "support/pixelscenes.h"
 
-#include <QAction>
-#include <QMetaEnum>
+#include <QtGui>
 
 using namespace PixelScenes;
 using namespace Quenmora::Ui;

@@ -11,9 +11,8 @@
 #include "support/modeltools.h"
 #include "support/testmain.h"
 
-#include <QDockWidget>
-#include <QMainWindow>
-#include <QTest>
+#include <QtTest>
+#include <QtWidgets>
 
 class TestPreviews : public QObject
 {

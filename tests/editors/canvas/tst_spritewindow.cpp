@@ -6,8 +6,7 @@
 
 #include "support/pixelscenes.h"
 
-#include <QAction>
-#include <QSpinBox>
+#include <QtWidgets>
 
 #include <cmath>
 

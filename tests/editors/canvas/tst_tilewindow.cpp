@@ -6,8 +6,7 @@
 
 #include "support/pixelscenes.h"
 
-#include <QCheckBox>
-#include <QSpinBox>
+#include <QtWidgets>
 
 using namespace PixelScenes;
 using namespace Quenmora::Ui;

@@ -6,8 +6,6 @@
 #include "support/mapfixture.h"
 #include "support/testmain.h"
 
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QtWidgets>
 
 using namespace Quenmora::Ui;

@@ -14,14 +14,7 @@
 
 #include "support/editorinput.h"
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QRadioButton>
-#include <QSlider>
-#include <QSpinBox>
-#include <QUndoStack>
+#include <QtWidgets>
 
 using EditorInput::button;
 
