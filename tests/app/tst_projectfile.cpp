@@ -353,7 +353,7 @@ private slots:
                     EditorInput::button(*box, pressed)->click();
             });
             QCOMPARE(askAboutForeignChange(&*m_window, {"/a/game.quenmora", unsaved}), answer);
-            QVERIFY(seen.at(0).contains("/a/game.quenmora"));
+            QVERIFY(seen.at(0).contains(QDir::toNativeSeparators("/a/game.quenmora")));
             QCOMPARE(seen.at(1).contains("unsaved"), unsaved);
             QVERIFY2(seen.at(2).contains(unsaved ? "Cancel" : "Load"), qPrintable(seen.at(2)));
         }
