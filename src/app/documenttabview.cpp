@@ -11,6 +11,7 @@
 #include "ui/plaintext.h"
 #include "ui/svgiconengine.h"
 
+#include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QScopedValueRollback>
@@ -85,13 +86,23 @@ void DocumentTabView::buildTabBar()
     setUsesScrollButtons(true);
     setMovable(true);
     tabBar()->setExpanding(true);
-    tabBar()->setContextMenuPolicy(Qt::CustomContextMenu);
+    tabBar()->installEventFilter(this);
     tabBar()->setAccessibleName(tr("Open documents"));
     setAccessibleName(tabBar()->accessibleName());
-    connect(tabBar(), &QWidget::customContextMenuRequested, this, &DocumentTabView::showTabMenu);
     m_close->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_W);
     connect(m_close, &QAction::triggered, this, [this] { closePages({currentWidget()}); });
     addAction(Commands::add(m_close, QStringLiteral("window.closeTab")));
+}
+
+bool DocumentTabView::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched != tabBar() || event->type() != QEvent::ContextMenu)
+        return QTabWidget::eventFilter(watched, event);
+    const auto *asked = static_cast<QContextMenuEvent *>(event); // NOLINT: its type says so
+    // the keyboard asks for that of the tab in front, wherever it is in the bar
+    showTabMenu(asked->reason() == QContextMenuEvent::Keyboard ? tabBar()->tabRect(currentIndex()).center()
+                                                               : asked->pos());
+    return true;
 }
 
 void DocumentTabView::showTabMenu(const QPoint &pos)

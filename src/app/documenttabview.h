@@ -96,6 +96,7 @@ signals:
     void scratchEditorVisibleChanged(bool visible);
 
 protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void tabInserted(int index) override;

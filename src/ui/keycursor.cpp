@@ -89,11 +89,13 @@ bool KeyCursor::eventFilter(QObject *, QEvent *event)
     case QEvent::MouseButtonPress:
         followMouse(event);
         return false;
-    case QEvent::ContextMenu:
-        if (!m_shown || static_cast<QContextMenuEvent *>(event)->reason() != QContextMenuEvent::Keyboard)
+    case QEvent::ContextMenu: {
+        const auto *asked = static_cast<QContextMenuEvent *>(event);
+        if (asked->reason() != QContextMenuEvent::Keyboard)
             return false;
-        openMenu(widget()->mapToGlobal(pointOf(m_cell)));
+        openMenu(m_shown ? widget()->mapToGlobal(pointOf(m_cell)) : asked->globalPos());
         return true;
+    }
     case QEvent::Paint:
     case QEvent::Resize: // it may be elsewhere now
         if (m_shown)

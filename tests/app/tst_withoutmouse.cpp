@@ -3,6 +3,8 @@
 #include "editors/canvas/tilepickergrid.h"
 #include "editors/map/mapeditorview.h"
 #include "editors/map/mapgrid.h"
+#include "editors/map/paintbar.h"
+#include "editors/map/paintdesk.h"
 #include "editors/map/spritepropertiespopover.h"
 #include "editors/map/terrainmarks.h"
 #include "support/windowscene.h"
@@ -181,6 +183,50 @@ private slots:
         press(Qt::Key_Down, Qt::ControlModifier);
         press(Qt::Key_Space, Qt::ShiftModifier);
         QVERIFY(!marks.terrain().find(1));
+    }
+
+    /// Where the menus' entries have no keys of their own, which act on what is chosen.
+    void opensContextMenus()
+    {
+        const auto entriesOf = [](QWidget *widget, QPoint where) {
+            QContextMenuEvent event(QContextMenuEvent::Keyboard, where, widget->mapToGlobal(where));
+            QApplication::sendEvent(widget, &event);
+            auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+            QList<QAction *> entries = menu ? menu->actions() : QList<QAction *>();
+            if (menu)
+                QMetaObject::invokeMethod(menu, &QWidget::close, Qt::QueuedConnection);
+            return entries;
+        };
+        for (const auto reason : {Qt::TabFocusReason, Qt::MouseFocusReason}) {
+            grid().clearFocus();
+            grid().setFocus(reason);
+            QVERIFY(!entriesOf(&grid(), {20, 20}).isEmpty());
+            QCoreApplication::processEvents();
+        }
+        // that of the tab in front, although another one is in the middle of the bar
+        documents().setActiveSpriteEditor(project().spriteBanks().first()->id());
+        documents().setActiveBlockEditor(project().blockSets().first()->id());
+        DocumentTabView &tabs = *m_window->views().tabs;
+        const QPointer<QWidget> front = tabs.widget(tabs.count() - 1);
+        tabs.setCurrentWidget(front);
+        entriesOf(tabs.tabBar(), tabs.tabBar()->rect().center()).first()->trigger();
+        QVERIFY(tabs.indexOf(front) < 0);
+        QCoreApplication::processEvents();
+
+        documents().setActiveMap(map().id());
+        TileMap::TileData cell{3};
+        cell.used = true; // nothing is no stamp
+        map().setTile({0, 0}, cell);
+        view().paintDesk()->pickStamp(Stamp::of(*map().tileLayer(), {0, 0, 2, 1}));
+        auto *bar = view().findChild<MapEditor::PaintBar *>();
+        QToolButton *stamp = nullptr;
+        QTRY_VERIFY((stamp = qobject_cast<QToolButton *>(bar->widgetForAction(bar->actions().last()))));
+        QVERIFY(stamp->focusPolicy() & Qt::TabFocus);
+        stamp->setFocus(Qt::TabFocusReason);
+        QCOMPARE(entriesOf(stamp, stamp->rect().center()).size(), 2);
+        QCoreApplication::processEvents();
+        QTest::keyClick(stamp, Qt::Key_Space);
+        QCOMPARE(m_window->focusWidget(), &grid()); // to paint with it
     }
 
     void takesTheChosenSpriteAgain()

@@ -3,6 +3,7 @@
 #include "model/palette.h"
 #include "ui/commands.h"
 #include "ui/svgiconengine.h"
+#include "ui/toolbarkeys.h"
 
 #include <QComboBox>
 #include <QInputDialog>
@@ -76,6 +77,7 @@ PaintBar::PaintBar(QWidget *parent)
                         "with the Pick tool"));
     hint->setMargin(4);
     m_hint = addWidget(hint);
+    letKeysReach(this);
 }
 
 void PaintBar::addOffsetBox()
@@ -210,7 +212,10 @@ void PaintBar::showStamps()
                                     kept.name.isEmpty() ? measure : kept.name);
         action->setToolTip(kept.name.isEmpty() ? tr("Stamp of %1").arg(measure)
                                                : tr("%1, a stamp of %2").arg(kept.name, measure));
-        connect(action, &QAction::triggered, this, [this, stamp = kept.stamp] { emit stampChosen(stamp); });
+        connect(action, &QAction::triggered, this, [this, stamp = kept.stamp] {
+            emit stampChosen(stamp);
+            emit finished();
+        });
         if (QWidget *button = widgetForAction(action)) {
             button->setContextMenuPolicy(Qt::CustomContextMenu);
             connect(button, &QWidget::customContextMenuRequested, this,
@@ -236,6 +241,7 @@ void PaintBar::showColours()
             m_stamps.at(i)->setIcon(
                 pictureOf(stamps.at(i).stamp, m_kit->tileSet(), PictureExtent, devicePixelRatioF()));
     }
+    letKeysReach(this); // stamps are in no menu
 }
 
 void PaintBar::showMenu(int index, QPoint globalPosition)
