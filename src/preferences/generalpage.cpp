@@ -1,10 +1,11 @@
 #include "preferences/generalpage.h"
 
+#include "ui/svgiconengine.h"
+
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFormLayout>
 #include <QGroupBox>
-#include <QIcon>
 #include <QVBoxLayout>
 
 namespace {
@@ -26,7 +27,7 @@ GeneralPage::GeneralPage(QWidget *parent)
     , m_updateInterval(new QComboBox)
 {
     setWindowTitle(tr("General"));
-    setWindowIcon(QIcon(QStringLiteral(":/tb-new-file")));
+    setWindowIcon(themedIcon(QStringLiteral(":/tb-new-file")));
 
     m_backupOnSave->setChecked(true);
     m_versionCheckEnabled->setChecked(true);

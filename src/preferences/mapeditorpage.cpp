@@ -1,11 +1,11 @@
 #include "preferences/mapeditorpage.h"
 
 #include "preferences/colourbutton.h"
+#include "ui/svgiconengine.h"
 
 #include <QCheckBox>
 #include <QColorDialog>
 #include <QFormLayout>
-#include <QIcon>
 #include <QSpinBox>
 
 namespace {
@@ -44,7 +44,7 @@ MapEditorPage::MapEditorPage(QWidget *parent)
     , m_defaultZoom(makeSpinBox(1, 8, 1, 4))
 {
     setWindowTitle(tr("Map Editor"));
-    setWindowIcon(QIcon(QStringLiteral(":/tb-new-file")));
+    setWindowIcon(themedIcon(QStringLiteral(":/tb-new-file")));
 
     m_gridColour1->setAccessibleName(tr("Grid colour"));
     m_gridColour2->setAccessibleName(tr("Alternate colour"));

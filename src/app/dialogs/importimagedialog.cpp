@@ -60,6 +60,7 @@ ImportImageDialog::ImportImageDialog(QWidget *parent)
     form()->addRow(tr("&Fewer colours"), m_reduction);
     body()->addLayout(PicturePreview::sideBySide(m_before, m_after), 1);
     m_summary->setTextFormat(Qt::PlainText);
+    m_summary->setWordWrap(true);
     body()->addWidget(m_summary);
     for (const QAbstractButton *button :
          {static_cast<QAbstractButton *>(m_slice), static_cast<QAbstractButton *>(m_keepColours)})

@@ -43,6 +43,7 @@ ImportDialog::ImportDialog(QWidget *parent)
     reduction->addWidget(m_reduction, 1);
     body()->addLayout(reduction);
     m_summary->setTextFormat(Qt::PlainText);
+    m_summary->setWordWrap(true);
     body()->addWidget(m_summary);
     for (const QCheckBox *box : {m_scale, m_keepColours, m_keepClearPixels, m_newPalette})
         connect(box, &QCheckBox::toggled, this, &ImportDialog::updatePreview);
