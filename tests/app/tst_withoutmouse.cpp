@@ -217,8 +217,8 @@ private slots:
         TileMap::TileData cell{3};
         cell.used = true; // nothing is no stamp
         map().setTile({0, 0}, cell);
-        view().paintDesk()->pickStamp(Stamp::of(*map().tileLayer(), {0, 0, 2, 1}));
-        auto *bar = view().findChild<MapEditor::PaintBar *>();
+        page<MapEditor::View>()->paintDesk()->pickStamp(Stamp::of(*map().tileLayer(), {0, 0, 2, 1}));
+        auto *bar = page<MapEditor::View>()->findChild<MapEditor::PaintBar *>();
         QToolButton *stamp = nullptr;
         QTRY_VERIFY((stamp = qobject_cast<QToolButton *>(bar->widgetForAction(bar->actions().last()))));
         QVERIFY(stamp->focusPolicy() & Qt::TabFocus);

@@ -163,7 +163,7 @@ private slots:
         const ColourCycle beside{21, 23};
         QUndoStack stack;
         make({20, 23});
-        stack.push(new PaletteOrderCommand("Sort", &project, palette, exchanged(23, 24)));
+        stack.push(new PaletteOrderCommand("Sort", &project, palette, PaletteOrder({23, 24}, {24, 23})));
         make(around);
         stack.undo();
         QCOMPARE(cycles(), (ColourCycles::List{around})); // which has entries of the first one
