@@ -224,6 +224,7 @@ void PaintBar::showStamps()
         m_stamps.append(action);
         m_entries.append(entriesOf(indicesOf(kept.stamp, m_kit->tileSet())));
     }
+    letKeysReach(this); // stamps are in no menu
 }
 
 void PaintBar::showColours()
@@ -241,7 +242,6 @@ void PaintBar::showColours()
             m_stamps.at(i)->setIcon(
                 pictureOf(stamps.at(i).stamp, m_kit->tileSet(), PictureExtent, devicePixelRatioF()));
     }
-    letKeysReach(this); // stamps are in no menu
 }
 
 void PaintBar::showMenu(int index, QPoint globalPosition)
