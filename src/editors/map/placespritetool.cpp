@@ -60,6 +60,9 @@ void PlaceSpriteTool::placeAt(QPoint pixel)
     Map::PlacedSprite sprite = *brush().sprite;
     sprite.x = pixel.x();
     sprite.y = pixel.y();
+    const PlacedSprites::Banks &banks = surface()->spriteBanks();
+    if (!banks.isEmpty() && PlacedSprites::area(sprite, banks).isEmpty())
+        return; // it is gone since it was chosen
     surface()->beginEdit();
     const int index = map()->addSprite(sprite);
     pointer().sprite = index;

@@ -282,6 +282,10 @@ private slots:
         f.grid.setCurrentSprite({}, -1);
         f.click(f.pixel(60, 100)); // beside them, with nothing to place
         QCOMPARE(f.grid.selectedSprite(), -1);
+        f.grid.setCurrentSprite(f.bank->id(), 3);
+        f.bank->deleteSprite(0); // so that number 3 is gone
+        f.click(f.pixel(60, 100));
+        QCOMPARE(f.map->sprites().size(), 3);
         QCOMPARE(f.steps(), "Place Sprite|Place Sprite|Place Sprite");
     }
 
