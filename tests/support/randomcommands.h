@@ -101,7 +101,8 @@ private:
     bool isWanted(const QString &name)
     {
         static const QRegularExpression leaving( // the project, the program, what is installed
-            "^(file\\.(new|open|save.*|close|quit)|help\\.(guide|checkForUpdates|sampleProject)|edit\\.(undo|redo))$");
+            "^(file\\.(new|open|exportAgain|save.*|close|quit)|help\\.(guide|checkForUpdates|sampleProject)|edit\\.("
+            "undo|redo))$");
         static const QRegularExpression growing("\\.(new|add|clone|copy|copyToNewMap|createAnimations|importFont)$");
         return !leaving.match(name).hasMatch() && (!growing.match(name).hasMatch() || (!isFull() && chance()));
     }
