@@ -16,8 +16,19 @@ configure dev
 say "Building what takes the pictures"
 cmake --build --preset dev --target takepictures tst_languages >/dev/null
 say "Taking the pictures"
+
+# screen NAME WIDTH HEIGHT: the platform that has such a screen
+screen() {
+    local file=build/screen-$1.json
+    printf '{"screens": [{"name": "%s", "x": 0, "y": 0, "width": %d, "height": %d, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]}' \
+        "$@" >"$file"
+    echo "offscreen:configfile=$file"
+}
+
 take() {
-    QT_QPA_PLATFORM=offscreen build/dev/docs/pictures/takepictures examples/sample.quenmora "$@"
+    local -x QT_QPA_PLATFORM
+    QT_QPA_PLATFORM=$(screen usual 1920 1080)
+    build/dev/docs/pictures/takepictures examples/sample.quenmora "$@"
 }
 
 # on_desktop NAME WIDTH HEIGHT VARIABLE=VALUE...: all pictures on a screen of that size, in the program's own pixels
@@ -26,9 +37,8 @@ on_desktop() {
     shift 3
     say "$name: $width x $height $*"
     mkdir -p "$pictures/dialogs"
-    printf '{"screens": [{"name": "%s", "x": 0, "y": 0, "width": %d, "height": %d, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]}' \
-        "$name" "$width" "$height" >"$pictures/screen.json"
-    local -x QT_QPA_PLATFORM=offscreen:configfile=$pictures/screen.json
+    local -x QT_QPA_PLATFORM
+    QT_QPA_PLATFORM=$(screen "$name" "$width" "$height")
     env "$@" build/dev/docs/pictures/takepictures examples/sample.quenmora "$pictures" light
     env "$@" QUENMORA_LANGUAGE=en QUENMORA_PICTURES="$pictures/dialogs" build/dev/tests/tst_languages -maxwarnings 0 \
         >"$pictures/log.txt" 2>&1 || grep -oE 'cut: .*' "$pictures/log.txt" || cat "$pictures/log.txt"
