@@ -31,7 +31,7 @@ take() {
     build/dev/docs/pictures/takepictures examples/sample.quenmora "$@"
 }
 
-# on_desktop NAME WIDTH HEIGHT VARIABLE=VALUE...: all pictures on a screen of that size, in the program's own pixels
+# on_desktop NAME WIDTH HEIGHT VARIABLE=VALUE...: all pictures on a screen of that size
 on_desktop() {
     local name=$1 width=$2 height=$3 pictures=$folder/$1
     shift 3
@@ -48,7 +48,7 @@ if [[ ${1:-} == --desktops ]]; then
     folder=$(realpath -m "$here/$2")
     [[ $2 == /* ]] && folder=$2
     on_desktop small 800 600
-    on_desktop double 960 540 QT_SCALE_FACTOR=2
+    on_desktop double 1920 1080 QT_SCALE_FACTOR=2
     on_desktop dark 1920 1080 QUENMORA_DARK=1
     on_desktop letters 1366 768 QUENMORA_LETTERS=14
 elif [ $# -gt 0 ]; then
