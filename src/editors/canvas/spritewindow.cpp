@@ -29,9 +29,27 @@ namespace {
 
 constexpr QSize SpriteSize(SpriteBank::SpriteSize, SpriteBank::SpriteSize);
 constexpr int BankSize = 16;
+constexpr int ListHeight = 150; // pixels, as long as the rest has no more than it needs
 
 constexpr int TransparencyCommandId = 1004;
 constexpr qint64 TransparencyMergeInterval = 400; // milliseconds: the steps of an arrow that is held are one
+
+/// Scrolls what has no room, and wants at first as much as that wants, but no more than a height.
+class Scroller final : public QScrollArea
+{
+public:
+    explicit Scroller(QWidget *part, int mostHeight = QWIDGETSIZE_MAX) : m_mostHeight(mostHeight)
+    {
+        setFocusPolicy(Qt::NoFocus); // what is in it has the keyboard
+        setWidgetResizable(true);
+        setWidget(part);
+    }
+
+    QSize sizeHint() const override { return widget()->sizeHint().boundedTo({QWIDGETSIZE_MAX, m_mostHeight}); }
+
+private:
+    int m_mostHeight;
+};
 
 } // namespace
 
@@ -74,16 +92,9 @@ void SpriteWindow::buildPage()
     form->addRow(tr("Transparent index"), m_transparency);
     editorLayout->addLayout(form);
 
-    const auto scrolled = [](QWidget *part) {
-        auto *scroller = new QScrollArea;
-        scroller->setFocusPolicy(Qt::NoFocus); // what is in it has the keyboard
-        scroller->setWidgetResizable(true);
-        scroller->setWidget(part);
-        return scroller;
-    };
-    QScrollArea *list = scrolled(m_list);
+    auto *list = new Scroller(m_list, ListHeight);
     list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    QScrollArea *upper = scrolled(editor);
+    auto *upper = new Scroller(editor);
     upper->setFrameShape(QFrame::NoFrame);
 
     auto *splitter = new QSplitter(Qt::Vertical);
