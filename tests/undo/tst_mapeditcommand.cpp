@@ -3,7 +3,10 @@
 
 #include "model/map.h"
 #include "support/testmain.h"
+#include "undo/editclock.h"
 #include "undo/mapeditcommand.h"
+#include "undo/pixeleditcommand.h"
+#include "undo/snapshotcommand.h"
 
 #include <QtGui>
 #include <QtTest>
@@ -65,6 +68,62 @@ class TestMapEditCommand : public QObject
     Q_OBJECT
 
 private slots:
+    void nearEditsOfTheSameKeyMerge()
+    {
+        constexpr qint64 Unlimited = -1;
+        // id, key of the last command (that of the others is "a"), interval, gap, resulting steps
+        const std::tuple<int, const char *, qint64, qint64, int> cases[] = {
+            {7, "a", 100, 100, 1}, // each follows the one before: the limit slides
+            {7, "a", 100, 101, 4},
+            {7, "a", 100, -5000, 1}, // the clock was set back
+            {7, "a", Unlimited, 1'000'000'000, 1},
+            {7, "b", 100, 0, 2},
+            {-1, "a", Unlimited, 0, 4},
+        };
+        for (const auto &[id, lastKey, interval, gap, steps] : cases) {
+            QList<int> restored;
+            QUndoStack stack;
+            for (int value = 1; value <= 4; ++value) {
+                EditClock::setSource([time = 1'000'000 + value * gap] { return time; });
+                stack.push(new SnapshotCommand<int>(
+                    QString::number(value), value - 1, value, [&](int state) { restored.append(state); }, id,
+                    value == 4 ? lastKey : "a", interval));
+            }
+            EditClock::setSource({});
+            QCOMPARE(stack.count(), steps);
+            QCOMPARE(stack.undoText(), steps == 1 ? "1" : "4");
+            QVERIFY2(restored.isEmpty(), "a command is pushed when its edit has been made");
+            stack.undo();
+            stack.redo();
+            QCOMPARE(restored, (QList<int>{steps == 1 ? 0 : 3, 4}));
+        }
+    }
+
+    void onlyScrollsOfTheSamePictureMerge()
+    {
+        const auto keyOf = [](QObject *image) { return QVariant::fromValue(QPointer<QObject>(image)); };
+        using enum PixelEditCommand::Kind;
+        for (const auto &[kind, key, merged] : {std::tuple{Scroll, keyOf(this), true},
+                                                {Scroll, keyOf(qApp), false},
+                                                {Scroll, QVariant("set:4"), false},
+                                                {Nudge, keyOf(this), false},
+                                                {None, keyOf(this), false}}) {
+            QList<int> applied; // the width of a picture tells which one it is
+            const auto push = [&](QUndoStack &stack, int width, const QVariant &of, PixelEditCommand::Kind how) {
+                const auto picture = [](int pixels) { return QImage(pixels, 1, QImage::Format_Grayscale8); };
+                const auto apply = [&applied](const QImage &image) { applied.append(image.width()); };
+                stack.push(new PixelEditCommand({}, picture(width - 1), picture(width), apply, of, how));
+            };
+            QUndoStack stack;
+            push(stack, 2, keyOf(this), Scroll);
+            push(stack, 3, key, kind);
+            QCOMPARE(stack.count(), merged ? 1 : 2);
+            stack.undo();
+            stack.redo();
+            QCOMPARE(applied, (QList<int>{merged ? 1 : 2, 3}));
+        }
+    }
+
     void editsOfMapsGoBackToEveryState()
     {
         const quint32 seed = QRandomGenerator::global()->generate();

@@ -184,6 +184,9 @@ private slots:
         palette.setRawColour(5, 0);
         palette.setRawColour(9, 0x1234);
         PaletteHistory::of(palette).add({{5, 9}, {9, 5}}); // on the stack of another document
+        stack.push(new PaletteColourCommand(&palette, 5, 0, 0)); // which merges no more
+        QCOMPARE(stack.count(), 2);
+        stack.undo();
         stack.undo();
         QVERIFY(palette.rawColour(9) == 0x1111 && palette.rawColour(5) == 0);
         stack.redo();

@@ -110,7 +110,7 @@ struct Scene
                 out << "\nplaced" << sprite.sprite << sprite.x << sprite.flip;
         }
         for (const Animation *animation : std::initializer_list<Animation *>{block, walk}) {
-            out << "\nanimation" << animation->size() << animation->delay();
+            out << "\nanimation" << animation->size() << animation->delay() << int(block->type());
             for (int frame = 0; frame < animation->frameCount(); ++frame) {
                 for (const auto &cell : animation->frame(frame)->cells().value(0))
                     out << cell.index << cell.mirror;
@@ -164,6 +164,14 @@ const QList<Edit> &edits()
         {"clear sprite", [](Scene &s) { s.ofBank([&] { s.bank->clearSprite(s.sprite(8)); }); }},
         {"block frames", [](Scene &s) { s.block->frame(0)->setIndex(0, 0, s.tile(6)); }},
         {"block delay", [](Scene &s) { s.block->setDelay(5); }},
+        {"block type", [](Scene &s) { s.block->setMapObjectType(MapObjectType::HorizontalPlatform); }},
+        {"change tile",
+         [](Scene &s) {
+             emit s.tileSet->structureAboutToChange();
+             s.tileSet->tile(s.tile(6))->setAttributes(70);
+             s.tileSet->tile(s.tile(6))->setValue(6);
+             emit s.tileSet->structureChanged("Edit");
+         }},
         {"walk frames", [](Scene &s) { s.walk->setDelay(3), s.walk->addFrame()->setIndex(0, 0, s.sprite(6)); }},
         {"fill and resize",
          [](Scene &s) {
@@ -186,6 +194,7 @@ const QList<Edit> &edits()
         {"unknown to undo",
          [](Scene &s) {
              s.tileSet->tile(s.tile(3))->setValue(9);
+             s.tileSet->tile(s.tile(6))->setValue(7);
              s.bank->setImage(s.sprite(5), plainImage({16, 16}, 50));
              const QPointer<Map> map = s.project->createMap("New", s.tileSet->id(), {2, 1});
              map->setTile({0, 0}, {s.tile(3), false, false, false, 0, true});
