@@ -189,6 +189,22 @@ private slots:
         }
     }
 
+    void writesOnceWhatDoesNotChange()
+    {
+        Contents contents{{"map", noise(600'000, 3)}};
+        const QString path = leave({contents});
+        const QStringList pieces = piecesOf(contents["map"]);
+        QVERIFY(pieces.size() > 1);
+        RecoveryWriter writer(found(common()));
+        contents["map"][0] = char(~contents["map"][0]);
+        for (const QString &piece : pieces)
+            QVERIFY(writeFile(path + '/' + piece, "marked"));
+        QVERIFY(write(writer, contents));
+        for (const QString &piece : pieces)
+            QCOMPARE(readFile(path + '/' + piece), "marked");
+        QCOMPARE(QDir(path).entryList({QString(40, '?')}, QDir::Files).size(), pieces.size() + 1);
+    }
+
     void goesOnAfterACrash()
     {
         {
