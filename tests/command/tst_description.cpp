@@ -112,20 +112,6 @@ private slots:
         QCOMPARE(difference(before, described(p)), changes);
     }
 
-    /// What refers to something that is not there says so, and what is blank is short.
-    void readsWell()
-    {
-        const QByteArrayList lines = described(*m_project).split('\n');
-        const auto follows = [&](const QByteArray &first, const QByteArray &next) {
-            return lines.value(lines.indexOf(first) + 1) == next;
-        };
-        QVERIFY(lines.startsWith("project \"Sample\"") && lines.endsWith(""));
-        QVERIFY(follows("blocks \"Unbound\"", "  tiles none"));
-        QVERIFY(follows("sprites \"Without a palette\"", "  palette none"));
-        QVERIFY(follows("tiles \"\"", "  palette none"));
-        QVERIFY(follows("palette \"\u00E9t\u00E9 \\\"2\\\"\\n\\\\%1\"", "  transparency none"));
-    }
-
 private:
     std::unique_ptr<Project> m_project;
 };

@@ -39,45 +39,36 @@ class TestMachineColours : public QObject
     Q_OBJECT
 
 private slots:
-    void everyColourKeepsItsWord_data()
-    {
-        QTest::addColumn<Levels>("shown");
-        QTest::addColumn<int>("by");
-        for (int by = -2; by <= 2; ++by) {
-            QTest::addRow("rounded %+d", by) << Rounded << by;
-            QTest::addRow("rounded up %+d", by) << RoundedUp << by;
-        }
-    }
-
     void everyColourKeepsItsWord()
     {
-        QFETCH(Levels, shown);
-        QFETCH(int, by);
-        QImage picture = everyColour(shown, by);
-        for (int number = 0; number < 512; ++number)
-            QCOMPARE(MachineColours::wordOf(picture.pixel(number % 32, number / 32)), expectedWord(number));
-        QVERIFY(MachineColours::areIn(picture));
-        // what is made of the kept picture by the operations that quantise has the words as well
-        Palette palette;
-        const QImage kept = MachineColours::kept(picture);
-        for (int number = 0; number < 512; ++number) {
-            const QRgb colour = kept.pixel(number % 32, number / 32);
-            palette.setColour(number % 256, QColor::fromRgb(colour), false);
-            QCOMPARE(palette.rawColour(number % 256), expectedWord(number));
-            QCOMPARE(MachineColours::shown(colour), palette.colourTable().at(number % 256));
+        for (const auto &[shown, by] :
+             {std::pair(Rounded, -2), {Rounded, 0}, {Rounded, 2}, {RoundedUp, -2}, {RoundedUp, 0}, {RoundedUp, 2}}) {
+            QImage picture = everyColour(shown, by);
+            for (int number = 0; number < 512; ++number)
+                QCOMPARE(MachineColours::wordOf(picture.pixel(number % 32, number / 32)), expectedWord(number));
+            QVERIFY(MachineColours::areIn(picture));
+            // what is made of the kept picture by the operations that quantise has the words as well
+            Palette palette;
+            const QImage kept = MachineColours::kept(picture);
+            for (int number = 0; number < 512; ++number) {
+                const QRgb colour = kept.pixel(number % 32, number / 32);
+                palette.setColour(number % 256, QColor::fromRgb(colour), false);
+                QCOMPARE(palette.rawColour(number % 256), expectedWord(number));
+                QCOMPARE(MachineColours::shown(colour), palette.colourTable().at(number % 256));
+            }
+            // indices and clear pixels: what is not seen does not count
+            picture.setPixel(0, 0, qRgba(50, 60, 70, 127));
+            QVERIFY(MachineColours::areIn(picture));
+            QVERIFY(!MachineColours::areIn(picture.convertToFormat(QImage::Format_RGB32)));
+            QImage indexed(2, 1, QImage::Format_Indexed8);
+            indexed.setColorTable({qRgb(moved(shown[6], by), 0, 0), qRgb(50, 0, 0), qRgba(50, 0, 0, 0)});
+            indexed.setPixel(0, 0, 0);
+            indexed.setPixel(1, 0, 2);
+            QVERIFY(MachineColours::areIn(indexed));
+            QCOMPARE(MachineColours::kept(indexed).pixel(0, 0), qRgb(192, 0, 0));
+            indexed.setPixel(1, 0, 1);
+            QVERIFY(!MachineColours::areIn(indexed));
         }
-        // indices and clear pixels: what is not seen does not count
-        picture.setPixel(0, 0, qRgba(50, 60, 70, 127));
-        QVERIFY(MachineColours::areIn(picture));
-        QVERIFY(!MachineColours::areIn(picture.convertToFormat(QImage::Format_RGB32)));
-        QImage indexed(2, 1, QImage::Format_Indexed8);
-        indexed.setColorTable({qRgb(moved(shown[6], by), 0, 0), qRgb(50, 0, 0), qRgba(50, 0, 0, 0)});
-        indexed.setPixel(0, 0, 0);
-        indexed.setPixel(1, 0, 2);
-        QVERIFY(MachineColours::areIn(indexed));
-        QCOMPARE(MachineColours::kept(indexed).pixel(0, 0), qRgb(192, 0, 0));
-        indexed.setPixel(1, 0, 1);
-        QVERIFY(!MachineColours::areIn(indexed));
     }
 
     void otherColoursAreNotTheMachines()

@@ -93,30 +93,24 @@ private slots:
         }
     }
 
-    void ditheringKeepsTheMeanColour_data()
-    {
-        QTest::addColumn<Dithering>("dithering");
-        QTest::newRow("ordered") << Dithering::Ordered;
-        QTest::newRow("diffusion") << Dithering::Diffusion;
-    }
-
     /// Squares of 8 × 8 pixels are as bright as they were, which without dithering they are not.
     void ditheringKeepsTheMeanColour()
     {
-        QFETCH(Dithering, dithering);
-        const QImage image = picture(Content::Gradient, 128);
-        const auto squares = [](const QImage &of) {
-            return of.convertToFormat(QImage::Format_RGB32).scaled(16, 16, {}, Qt::SmoothTransformation);
-        };
-        const QImage before = squares(image);
-        const auto meanError = [&](Dithering by) {
-            const QImage shown = squares(TileReduction::of(image, {by}).shown());
-            double sum = 0;
-            for (int i = 0; i < 256; ++i)
-                sum += std::abs(qRed(shown.pixel(i % 16, i / 16)) - qRed(before.pixel(i % 16, i / 16)));
-            return sum / 256;
-        };
-        QVERIFY(meanError(dithering) < 0.6 * meanError(Dithering::None));
+        for (const Dithering dithering : {Dithering::Ordered, Dithering::Diffusion}) {
+            const QImage image = picture(Content::Gradient, 128);
+            const auto squares = [](const QImage &of) {
+                return of.convertToFormat(QImage::Format_RGB32).scaled(16, 16, {}, Qt::SmoothTransformation);
+            };
+            const QImage before = squares(image);
+            const auto meanError = [&](Dithering by) {
+                const QImage shown = squares(TileReduction::of(image, {by}).shown());
+                double sum = 0;
+                for (int i = 0; i < 256; ++i)
+                    sum += std::abs(qRed(shown.pixel(i % 16, i / 16)) - qRed(before.pixel(i % 16, i / 16)));
+                return sum / 256;
+            };
+            QVERIFY(meanError(dithering) < 0.6 * meanError(Dithering::None));
+        }
     }
 
     void fitsWhateverComes_data()
