@@ -144,11 +144,6 @@ private slots:
             QCOMPARE(scene.stored(0).pixelIndex(0, 0) != 0, keep);
             QCOMPARE(scene.stored(0).pixelIndex(1, 0), 0);
         }
-        QVERIFY(plainPicture({2, 1}, qRgb(50, 0, 0)).save(scene.file("in.png")));
-        scene.choose(Open, "in.png");
-        const QList<QCheckBox *> boxes =
-            scene.view->findChild<ImageEditor::ImportDialog *>()->findChildren<QCheckBox *>();
-        QVERIFY(!boxes[1]->isEnabled() && !boxes[1]->isChecked());
     }
 
     void imageImportsMayBringTheirPalette_data()
