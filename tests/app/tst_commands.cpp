@@ -1,4 +1,3 @@
-
 #include "app/commands/commanddesk.h"
 #include "app/commands/commandpalette.h"
 #include "app/commands/commandplaces.h"
@@ -176,26 +175,20 @@ private slots:
         QCOMPARE(QString::fromUtf8(written), after);
     }
 
-    void setsADamagedFileAside_data()
-    {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::newRow("empty") << QByteArray();
-        QTest::newRow("cut") << QByteArray(R"({"file.save": ["F5")");
-        QTest::newRow("list") << QByteArray(R"(["file.save"])");
-        QTest::newRow("endless") << QByteArray((1 << 20) + 1, ' ') + "{}";
-    }
-
     void setsADamagedFileAside()
     {
-        QFETCH(const QByteArray, bytes);
-        QVERIFY(writeFile(shortcutsPath(), bytes));
-        for (const bool told : {true, false}) { // once
-            openWindow();
-            QCoreApplication::processEvents();
-            QCOMPARE(dialog()->isVisible(), told);
-            m_window.reset();
-            QCOMPARE(readFile(shortcutsPath(".bad")), bytes);
-            QVERIFY(!QFile::exists(shortcutsPath()));
+        for (const QByteArray &bytes : {QByteArray(), QByteArray(R"({"file.save": ["F5")"),
+                                        QByteArray(R"(["file.save"])"), QByteArray((1 << 20) + 1, ' ') + "{}"}) {
+            init();
+            QVERIFY(writeFile(shortcutsPath(), bytes));
+            for (const bool told : {true, false}) { // once
+                openWindow();
+                QCoreApplication::processEvents();
+                QCOMPARE(dialog()->isVisible(), told);
+                m_window.reset();
+                QCOMPARE(readFile(shortcutsPath(".bad")), bytes);
+                QVERIFY(!QFile::exists(shortcutsPath()));
+            }
         }
     }
 

@@ -297,7 +297,6 @@ private slots:
         m_window->menus()->setFileChooser([this](const FileRequest &, QWidget *) { return m_folder("level.map"); });
         const QString picture = m_folder("picture.png");
         QVERIFY(plainImage(large ? QSize(1600, 1600) : QSize(64, 64), 1).save(picture));
-        const QString torn = m_folder("torn.png", readFile(picture).first(100));
         const auto exportMap = [this] { EditorInput::trigger(*m_window->menus()->mapMenu(), "Export"); };
         const auto exportToFolder = [this, tab] {
             QMetaObject::invokeMethod(tab, "toolPaletteClicked", Q_ARG(Quenmora::Ui::ToolButton, Quenmora::Ui::Save));
@@ -319,7 +318,6 @@ private slots:
             {"Exporting Level…", false, exportMap, "Exported Level to "},
             {"Exporting Level…", false, exportToFolder, "Exported to "},
             {"Importing picture.png…", false, [&] { m_window->projectActions()->importMap(picture); }, "New tile set"},
-            {"Importing torn.png…", false, [&] { m_window->projectActions()->importMap(torn); }, large ? "Mine [" : ""},
             {"Importing picture.png…", false, importSprites, "New"},
             {"Opening game.quenmora…", true, [&] { controller()->openProject(file); }, "Project loaded"},
         };

@@ -112,48 +112,43 @@ private slots:
     }
 
     /// Also from fields that take most keys, but not from one that takes every key.
-    void opensTheGuideInModalDialogs_data()
-    {
-        QTest::addColumn<QString>("command"); // that opens the dialog
-        QTest::addColumn<QByteArray>("field"); // the kind of what has the keyboard in it
-        QTest::addColumn<int>("key");
-        QTest::addColumn<QString>("page");
-        QTest::addRow("a name") << "palette.new" << QByteArray("QLineEdit") << int(Qt::Key_F1) << "palettes";
-        QTest::addRow("a number") << "map.new" << QByteArray("QSpinBox") << int(Qt::Key_F1) << "maps";
-        QTest::addRow("a list") << "image.new" << QByteArray("QComboBox") << int(Qt::Key_F1) << "images";
-        QTest::addRow("a table") << "help.keyboardShortcuts" << QByteArray("QAbstractItemView") << int(Qt::Key_F1)
-                                 << "keys";
-        QTest::addRow("a button") << "file.preferences" << QByteArray("QPushButton") << int(Qt::Key_F1) << "window";
-        QTest::addRow("a key") << "help.keyboardShortcuts" << QByteArray("QKeySequenceEdit") << int(Qt::Key_F1) << "";
-        QTest::addRow("another key") << "palette.new" << QByteArray("QLineEdit") << int(Qt::Key_F2) << "";
-    }
     void opensTheGuideInModalDialogs()
     {
-        QFETCH(const QString, command);
-        QFETCH(const QByteArray, field);
-        QFETCH(const int, key);
-        controller()->openSample();
-        Guide guide(views());
-        QString opened;
-        guide.setOpener([&opened](const QUrl &url) {
-            opened = QFileInfo(url.toLocalFile()).completeBaseName();
-            return true;
-        });
-        QAction help;
-        help.setShortcut(Qt::Key_F1);
-        guide.serve(&help);
-        Commands::instance()->actionsOf(command).constFirst()->trigger();
-        QWidget *dialog = QApplication::activeModalWidget();
-        QVERIFY(dialog);
-        const QList<QWidget *> inside = dialog->findChildren<QWidget *>();
-        const auto found = std::ranges::find_if(
-            inside, [&field](const QWidget *each) { return each->inherits(field) && each->isVisible(); });
-        QVERIFY(found != inside.end());
-        QVERIFY(QTest::qWaitForWindowActive(dialog));
-        (*found)->setFocus();
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key(key));
-        QTEST(opened, "page");
-        dialog->close();
+        // the command that opens a dialog, the kind of what has the keyboard in it, the key, and the page
+        const std::tuple<const char *, const char *, Qt::Key, const char *> cases[] = {
+            {"palette.new", "QLineEdit", Qt::Key_F1, "palettes"},
+            {"map.new", "QSpinBox", Qt::Key_F1, "maps"},
+            {"image.new", "QComboBox", Qt::Key_F1, "images"},
+            {"help.keyboardShortcuts", "QAbstractItemView", Qt::Key_F1, "keys"},
+            {"file.preferences", "QPushButton", Qt::Key_F1, "window"},
+            {"help.keyboardShortcuts", "QKeySequenceEdit", Qt::Key_F1, ""},
+            {"palette.new", "QLineEdit", Qt::Key_F2, ""},
+        };
+        for (const auto &[command, field, key, page] : cases) {
+            controller()->openSample();
+            Guide guide(views());
+            QString opened;
+            guide.setOpener([&opened](const QUrl &url) {
+                opened = QFileInfo(url.toLocalFile()).completeBaseName();
+                return true;
+            });
+            QAction help;
+            help.setShortcut(Qt::Key_F1);
+            guide.serve(&help);
+            Commands::instance()->actionsOf(command).constFirst()->trigger();
+            QWidget *dialog = QApplication::activeModalWidget();
+            QVERIFY(dialog);
+            const QList<QWidget *> inside = dialog->findChildren<QWidget *>();
+            const auto found = std::ranges::find_if(
+                inside, [&field](const QWidget *each) { return each->inherits(field) && each->isVisible(); });
+            QVERIFY(found != inside.end());
+            QVERIFY(QTest::qWaitForWindowActive(dialog));
+            (*found)->setFocus();
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key(key));
+            QCOMPARE(opened, page);
+            dialog->close();
+            QCoreApplication::processEvents();
+        }
     }
 
     void keepsPicturesOfProjects()
