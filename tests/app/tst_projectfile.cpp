@@ -326,8 +326,9 @@ private slots:
             QCoreApplication::processEvents();
             painted.take();
             work();
-            QCOMPARE(painted.take().filter("…"),
-                     large || evenIfLittle ? QStringList{said + ", waiting"} : QStringList());
+            QStringList told = painted.take().filter("…");
+            told.removeDuplicates(); // where the system wants it painted again
+            QCOMPARE(told.join('\n'), large || evenIfLittle ? said + ", waiting" : QString());
             QVERIFY(!QGuiApplication::overrideCursor());
             const QString now = message();
             QVERIFY2(now.startsWith(saidAfterwards), qPrintable(now));
