@@ -121,7 +121,9 @@ void EditRecorder::trackStructure(Asset *asset, QHash<Asset *, Edit> &pending)
         const Edit before = pending.take(asset);
         const Edit after = capture(*asset);
         refreshAnimationStates();
-        if (!after.looksLike(before))
+        if (after.looksLike(before))
+            Numbering::of(*asset).setNames(before.names); // equal ones that changed places are as they were
+        else
             push(asset->id(), command(text, *asset, before, after));
     });
     connect(asset, &QObject::destroyed, this, [asset, &pending] { pending.remove(asset); });

@@ -413,6 +413,18 @@ private slots:
         }
     }
 
+    void equalTilesThatChangePlacesAreAsTheyWere()
+    {
+        Scene scene;
+        const auto tiles = scene.project->createTileSet("Blank", scene.palette->id(), 4);
+        tiles->setTileOffset(1, 5);
+        tiles->deleteTile(1);
+        tiles->moveTile(0, 1); // where the deleted one was between them
+        QCOMPARE(scene.first.undoText(), "Delete Tile");
+        scene.first.undo();
+        QCOMPARE(tiles->tileOffset(1), 5);
+    }
+
     void editsWithoutAChangeLeaveNoStep()
     {
         Scene scene;
