@@ -6,6 +6,7 @@
 #include "ui/sectionheader.h"
 
 #include <QScopedValueRollback>
+#include <QScrollArea>
 
 #include <algorithm>
 
@@ -27,7 +28,13 @@ AnimationView::AnimationView(AnimationListWidget *list, EditorWidget *editor, QW
 {
     setFocusProxy(m_list); // before it is a part: else Qt moves it behind the editor in the order of Tab
     addWidget(SectionHeader::over(m_list, new SectionHeader(tr("Animations"))));
-    addWidget(SectionHeader::over(m_editor, m_title));
+    auto *scroller = new QScrollArea; // for windows that are too low for all of it
+    scroller->setFrameShape(QFrame::NoFrame);
+    scroller->setFocusPolicy(Qt::NoFocus); // what is in it has the keyboard
+    scroller->setWidgetResizable(true);
+    scroller->setMinimumWidth(m_editor->minimumSizeHint().width());
+    scroller->setWidget(m_editor);
+    addWidget(SectionHeader::over(scroller, m_title));
     setStretchFactor(0, 0);
     setStretchFactor(1, 1);
     setChildrenCollapsible(false);
