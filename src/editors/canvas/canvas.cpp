@@ -325,7 +325,8 @@ void Canvas::chooseTool(ToolButton mode)
 {
     // A drag does not go on in another tool.
     finishStroke();
-    dropStroke();
+    if (m_extended)
+        dropStroke();
     m_pointer.buttons = Qt::NoButton;
     m_tools.choose(mode);
     emit modeChanged(mode);
