@@ -98,11 +98,10 @@ Renumbering::Renumbering(const Numbering::Names &from, const Numbering::Names &t
 {
     if (m_changesNothing)
         return;
-    QHash<int, int> numbers;
-    numbers.reserve(to.size());
+    m_byName.reserve(to.size());
     for (int number = 0; number < to.size(); ++number)
-        numbers.insert(to.at(number), number);
+        m_byName.insert(to.at(number), number);
     m_numbers.reserve(from.size());
     for (const int name : from)
-        m_numbers.append(numbers.value(name, -1));
+        m_numbers.append(m_byName.value(name, ghostOf(name)));
 }

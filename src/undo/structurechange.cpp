@@ -10,7 +10,6 @@
 namespace {
 
 using Names = Numbering::Names;
-using Sprites = QList<Map::PlacedSprite>;
 
 bool samePixels(const QImage &a, const QImage &b)
 {
@@ -119,58 +118,6 @@ bool SpriteBankEdit::looksLike(const SpriteBankEdit &other) const
     return bank == other.bank && maps == other.maps;
 }
 
-Sprites renumbered(const Sprites &sprites, const QUuid &bank, const Renumbering &renumbering)
-{
-    Sprites result;
-    if (renumbering.changesNothing())
-        return sprites;
-    for (Map::PlacedSprite sprite : sprites) {
-        const auto number = sprite.isSingleOf(bank) ? renumbering(sprite.sprite) : sprite.sprite;
-        if (!number)
-            continue;
-        sprite.sprite = *number;
-        result.append(sprite);
-    }
-    return result;
-}
-
-Sprites moved(Sprites sprites, QPoint cells)
-{
-    for (Map::PlacedSprite &sprite : sprites) {
-        sprite.x += cells.x() * TileMap::TileSize;
-        sprite.y += cells.y() * TileMap::TileSize;
-    }
-    return sprites;
-}
-
-template <typename State>
-FramesChange::FramesChange(const QHash<QUuid, State> &before, const QHash<QUuid, State> &after, const Renumbering &back)
-{
-    for (auto animation = before.cbegin(); animation != before.cend(); ++animation) {
-        QHash<QUuid, AnimationFrame::Cells> left;
-        for (const auto &frame : after.value(animation.key()).frames)
-            left.insert(frame.id, renumbered(frame.cells, back));
-        for (const auto &frame : animation->frames) {
-            const FrameChange lost(frame.cells, left.value(frame.id, frame.cells));
-            if (!lost.changesNothing())
-                m_lost[animation.key()].insert(frame.id, lost);
-        }
-    }
-}
-
-template <typename State>
-void FramesChange::undo(QHash<QUuid, State> &animations, const Renumbering &back, const Renumbering &since) const
-{
-    for (auto animation = animations.begin(); animation != animations.end(); ++animation) {
-        const auto lost = m_lost.value(animation.key());
-        for (auto &frame : animation->frames) {
-            frame.cells = renumbered(frame.cells, back);
-            if (const auto cells = lost.constFind(frame.id); cells != lost.cend())
-                cells->renumbered(since).applyWhereUntouched(EditSide::Before, frame.cells);
-        }
-    }
-}
-
 TileSetChange::TileSetChange(const TileSetEdit &before, const TileSetEdit &after)
     : m_order(before.names, after.names)
     , m_names(before.names)
@@ -181,12 +128,21 @@ TileSetChange::TileSetChange(const TileSetEdit &before, const TileSetEdit &after
         const auto left = after.maps.constFind(map.key());
         if (left == after.maps.cend())
             continue;
-        const Layers lost{LayerChange(map->tiles, renumbered(left->tiles, back, map->tiles)),
-                          LayerChange(map->objects, renumbered(left->objects, back, map->objects)), left->origin};
-        if (!lost.tiles.changesNothing() || !lost.objects.changesNothing())
-            m_lostCells.insert(map.key(), lost);
+        const Layers changed{LayerChange(map->tiles, renumbered(left->tiles, back, map->tiles)),
+                             LayerChange(map->objects, renumbered(left->objects, back, map->objects)), left->origin};
+        if (!changed.tiles.changesNothing() || !changed.objects.changesNothing())
+            m_maps.insert(map.key(), changed);
     }
-    m_frames = FramesChange(before.animations, after.animations, back);
+    for (auto animation = before.animations.cbegin(); animation != before.animations.cend(); ++animation) {
+        QHash<QUuid, AnimationFrame::Cells> left;
+        for (const auto &frame : after.animations.value(animation.key()).frames)
+            left.insert(frame.id, renumbered(frame.cells, back));
+        for (const auto &frame : animation->frames) {
+            const FrameChange changed(frame.cells, left.value(frame.id, frame.cells));
+            if (!changed.changesNothing())
+                m_frames.insert({animation.key(), frame.id}, changed);
+        }
+    }
 }
 
 TileSetEdit TileSetChange::undone(const TileSetEdit &now) const
@@ -216,13 +172,19 @@ TileSetEdit TileSetChange::undone(const TileSetEdit &now) const
     for (auto map = result.maps.begin(); map != result.maps.end(); ++map) {
         map->tiles = renumbered(map->tiles, back);
         map->objects = renumbered(map->objects, back);
-        if (const auto lost = m_lostCells.constFind(map.key()); lost != m_lostCells.cend()) {
-            const QPoint shift = map->origin - lost->origin;
-            lost->tiles.renumbered(since).moved(shift).applyWhereUntouched(EditSide::Before, map->tiles);
-            lost->objects.renumbered(since).moved(shift).applyWhereUntouched(EditSide::Before, map->objects);
+        if (const auto changed = m_maps.constFind(map.key()); changed != m_maps.cend()) {
+            const QPoint shift = map->origin - changed->origin;
+            changed->tiles.renumbered(since).moved(shift).applyWhereUntouched(EditSide::Before, map->tiles);
+            changed->objects.renumbered(since).moved(shift).applyWhereUntouched(EditSide::Before, map->objects);
         }
     }
-    m_frames.undo(result.animations, back, since);
+    for (auto animation = result.animations.begin(); animation != result.animations.end(); ++animation) {
+        for (auto &frame : animation->frames) {
+            frame.cells = renumbered(frame.cells, back);
+            if (const auto changed = m_frames.constFind({animation.key(), frame.id}); changed != m_frames.cend())
+                changed->renumbered(since).applyWhereUntouched(EditSide::Before, frame.cells);
+        }
+    }
     return result;
 }
 
@@ -237,18 +199,9 @@ void TileSetChange::reorder(const PaletteOrder &order, const TileSet &)
 SpriteBankChange::SpriteBankChange(const SpriteBankEdit &before, const SpriteBankEdit &after, const QUuid &bankId)
     : m_bankId(bankId)
     , m_order(before.names, after.names)
-    , m_names(before.names)
 {
     noteChanged(byName(before.names, spritesOf(before.bank)), byName(after.names, spritesOf(after.bank)),
                 std::equal_to<>(), m_before, m_after);
-    const Renumbering back(after.names, before.names);
-    for (auto map = before.maps.cbegin(); map != before.maps.cend(); ++map) {
-        const SpriteBankEdit::Placed left = after.maps.value(map.key(), *map);
-        const ListChange<Map::PlacedSprite> lost(map->sprites, renumbered(left.sprites, bankId, back));
-        if (!lost.changesNothing())
-            m_lostSprites.insert(map.key(), {lost, left.origin});
-    }
-    m_frames = FramesChange(before.bank.animations, after.bank.animations, back);
 }
 
 void SpriteBankChange::reorder(const PaletteOrder &order, const SpriteBank &bank)
@@ -278,16 +231,9 @@ SpriteBankEdit SpriteBankChange::undone(const SpriteBankEdit &now) const
     result.bank.image = stripOf(sprites, now.bank.image);
 
     const Renumbering back(now.names, result.names);
-    const Renumbering since(m_names, result.names);
-    for (auto map = result.maps.begin(); map != result.maps.end(); ++map) {
-        map->sprites = renumbered(map->sprites, m_bankId, back);
-        if (const auto lost = m_lostSprites.constFind(map.key()); lost != m_lostSprites.cend()) {
-            const auto today = [&](const QList<Map::PlacedSprite> &then) {
-                return moved(renumbered(then, m_bankId, since), map->origin - lost->origin);
-            };
-            ListChange(today(lost->list.before()), today(lost->list.after())).apply(EditSide::Before, map->sprites);
-        }
-    }
-    m_frames.undo(result.bank.animations, back, since);
+    for (QList<Map::PlacedSprite> &placed : result.maps)
+        placed = renumbered(placed, m_bankId, back);
+    for (Animation::State &animation : result.bank.animations)
+        animation = renumbered(animation, now.names, result.names);
     return result;
 }
