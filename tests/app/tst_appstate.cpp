@@ -139,9 +139,7 @@ private slots:
         qInstallMessageHandler(nullptr);
 
         // read while the log is still open: every message has been flushed
-        QFile written(file.fileName());
-        QVERIFY(written.open(QIODevice::ReadOnly));
-        QString text = QString::fromUtf8(written.readAll());
+        QString text = QString::fromUtf8(readFile(file.fileName()));
         text.replace(QRegularExpression("^\\d\\d:\\d\\d:\\d\\d ", QRegularExpression::MultilineOption), "TIME ");
         QCOMPARE(text,
                  "TIME Debug: one\nTIME Info: two ä\nTIME Warning: not a libpng warning: three\nTIME Critical: four\n"

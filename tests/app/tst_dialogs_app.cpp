@@ -13,8 +13,7 @@
 #include "model/palette.h"
 #include "pictures/ninebitcolour.h"
 #include "support/editorinput.h"
-#include "support/modeltools.h"
-#include "support/testmain.h"
+#include "support/sampleproject.h"
 #include "ui/picturepreview.h"
 
 #include <QtTest>
@@ -152,8 +151,7 @@ private slots:
     {
         QImage picture(40, 20, QImage::Format_RGB32);
         picture.fill(qRgb(250, 3, 3));
-        const QString file = m_folder("hero.png");
-        QVERIFY(picture.save(file));
+        const QString file = m_folder("hero.png", SampleProject::png(picture));
         SpriteEditor::ImportImageDialog dialog;
         QSignalSpy accepted(&dialog, &SpriteEditor::ImportImageDialog::accepted);
         // remapped: the palette's colours show, here the nearest of a palette that is all black
@@ -171,10 +169,9 @@ private slots:
         QCOMPARE(confirm(dialog, "Villain"), QString());
         // the machine's own colours are kept, unless a person wants them quantised
         picture.fill(qRgb(219, 36, 0));
-        QVERIFY(picture.save(m_folder("level6.png")));
         auto *keep = field<QCheckBox>(dialog);
         QVERIFY(!keep->isEnabled() && !keep->isChecked());
-        dialog.show(*m_project, m_folder("level6.png"));
+        dialog.show(*m_project, m_folder("level6.png", SampleProject::png(picture)));
         field<QRadioButton>(dialog, 1)->setChecked(true);
         QVERIFY(keep->isEnabled() && keep->isChecked());
         QCOMPARE(field<PicturePreview>(dialog)->picture().pixel(0, 0), qRgb(219, 37, 0));
@@ -186,56 +183,48 @@ private slots:
         QCOMPARE(accepted[1][0].value<SpriteImport>(), (SpriteImport{file, "Villain", Quenmora::FourBit, QUuid()}));
     }
 
-    void spritesOfAPictureProblems_data()
-    {
-        QTest::addColumn<QSize>("size"); // of a picture of many colours
-        QTest::addColumn<bool>("slice");
-        QTest::addColumn<bool>("fourBit");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("problem");
-        const auto add = [](QSize size, bool slice, bool fourBit, const char *name, const char *problem) {
-            QTest::addRow("%s", problem) << size << slice << fourBit << name << QString::fromUtf8(problem);
-        };
-        add({}, false, false, "x", "The file is not a picture that can be read");
-        add({15, 32}, false, false, "x", "The picture is smaller than a sprite, which has 16 × 16 pixels");
-        add({16, 16}, true, false, "Main", "There is a palette of this name already; please choose another name");
-        add({16, 16}, false, false, "Main", ""); // no palette is made
-        add({16, 16}, true, true, "x", "The picture has 16 colours; 4-bit sprites show 15 beside the transparent one");
-        add({16, 16}, false, true, "x",
-            "The colours lie in several groups of 16 of the palette; 4-bit sprites show one group");
-        add({16, 16}, false, false, "", "Please enter a name");
-    }
-
     void spritesOfAPictureProblems()
     {
-        QFETCH(QSize, size);
-        QFETCH(bool, slice);
-        QFETCH(bool, fourBit);
-        QFETCH(QString, name);
-        const QString file = m_folder("problem.png", "no picture");
-        if (!size.isEmpty()) {
-            QImage picture(size, QImage::Format_RGB32);
-            for (int x = 0; x < size.width() * size.height(); ++x) // at most 17 snapped colours
-                picture.setPixel(x % size.width(), x / size.width(), qRgb(std::min(x % size.width() * 16, 255), 0, 0));
-            QVERIFY(picture.save(file));
+        struct Case
+        {
+            QSize size; ///< of a picture of many colours; of a file that is none, if it is empty
+            bool slice;
+            bool fourBit;
+            const char *name;
+            const char *problem;
+        };
+        const Case cases[]{
+            {{0, 0}, false, false, "x", "The file is not a picture that can be read"},
+            {{15, 32}, false, false, "x", "The picture is smaller than a sprite, which has 16 × 16 pixels"},
+            {{16, 16}, true, false, "Main", "There is a palette of this name already; please choose another name"},
+            {{16, 16}, false, false, "Main", ""}, // no palette is made
+            {{16, 16}, true, true, "x", "The picture has 16 colours; 4-bit sprites show 15 beside the transparent one"},
+            {{16, 16},
+             false,
+             true,
+             "x",
+             "The colours lie in several groups of 16 of the palette; 4-bit sprites show one group"},
+            {{16, 16}, false, false, "", "Please enter a name"}};
+        for (const auto &[size, slice, fourBit, name, problem] : cases) {
+            const QImage picture = pictureOf(size, QImage::Format_RGB32, [width = size.width()](int i) {
+                return qRgb(std::min(i % width * 16, 255), 0, 0); // at most 17 snapped colours
+            });
+            SpriteEditor::ImportImageDialog dialog;
+            dialog.show(*m_project,
+                        m_folder("problem.png", picture.isNull() ? "no picture" : SampleProject::png(picture)));
+            field<QRadioButton>(dialog, slice ? 1 : 0)->setChecked(true);
+            field<DepthChooser>(dialog)->setCurrentIndex(fourBit ? 1 : 0);
+            QCOMPARE(confirm(dialog, name), problem);
         }
-        SpriteEditor::ImportImageDialog dialog;
-        dialog.show(*m_project, file);
-        field<QRadioButton>(dialog, slice ? 1 : 0)->setChecked(true);
-        field<DepthChooser>(dialog)->setCurrentIndex(fourBit ? 1 : 0);
-        QTEST(confirm(dialog, name), "problem");
     }
 
     void spritesOfAPictureWithManyColours()
     {
-        QImage picture(64, 64, QImage::Format_RGB32);
-        for (int i = 0; i < 64 * 64; ++i)
-            picture.setPixel(i % 64, i / 64, NineBitColour::shown(i % 512));
-        const QString file = m_folder("photo.png");
-        QVERIFY(picture.save(file));
+        const QImage picture =
+            pictureOf({64, 64}, QImage::Format_RGB32, [](int i) { return NineBitColour::shown(i % 512); });
         SpriteEditor::ImportImageDialog dialog;
         QSignalSpy accepted(&dialog, &SpriteEditor::ImportImageDialog::accepted);
-        dialog.show(*m_project, file);
+        dialog.show(*m_project, m_folder("photo.png", SampleProject::png(picture)));
         field<QRadioButton>(dialog, 1)->setChecked(true);
         QVERIFY(tells(dialog, "There is room for 255; the others take the nearest of these"));
         auto *reduction = field<ReductionBox>(dialog);
@@ -273,19 +262,16 @@ private slots:
         QFETCH(QList<bool>, ticks);
         QFETCH(Dithering, dithering);
         QFETCH(QString, told);
-        QImage picture(kind == "shades" ? QSize(240, 160) : QSize(16, 16), QImage::Format_ARGB32);
-        picture.fill(kind == "plain" ? qRgb(255, 36, 0) : qRgb(219, 36, 0));
-        if (kind == "holes")
-            picture.setPixel(3, 3, 0);
-        for (int i = 0; kind == "shades" && i < 240 * 160; ++i)
-            picture.setPixel(i % 240, i / 240, qRgb(i * 37 % 256, i * (i % 101) / 7 % 256, i * 7 % 256));
-        if (kind == "ramp") { // few tiles, whose colours all find room
-            picture = QImage(64, 64, QImage::Format_RGB32);
-            for (int i = 0; i < 64 * 64; ++i)
-                picture.setPixel(i % 64, i / 64, qRgb(100 + i % 64, 100, 20 + i / 64));
-        }
-        const QString file = m_folder(kind + ".png");
-        QVERIFY(picture.save(file));
+        const auto pixel = [&kind](int i) {
+            if (kind == "shades")
+                return qRgb(i * 37 % 256, i * (i % 101) / 7 % 256, i * 7 % 256);
+            if (kind == "ramp") // few tiles, whose colours all find room
+                return qRgb(100 + i % 64, 100, 20 + i / 64);
+            const bool isHole = kind == "holes" && i == 50;
+            return isHole ? 0 : qRgb(kind == "plain" ? 255 : 219, 36, 0);
+        };
+        const QSize size = kind == "shades" ? QSize(240, 160) : QSize(64, 64);
+        const QString file = m_folder(kind + ".png", SampleProject::png(pictureOf(size, QImage::Format_ARGB32, pixel)));
         const PictureLoss loss = PictureLoss::of(file, nullptr);
         QCOMPARE(loss.any(), !ticks.isEmpty());
         if (ticks.isEmpty())

@@ -19,23 +19,26 @@ namespace {
 /// A picture of the machine's colours in squares of side × side pixels, each of them unlike all others, turned or not.
 QImage squares(QSize size, int side)
 {
-    QImage picture(size, QImage::Format_ARGB32);
-    for (int y = 0; y < size.height(); ++y) {
-        for (int x = 0; x < size.width(); ++x) {
-            const int square = y / side * (size.width() / side) + x / side;
-            const bool drawn = (x % side + 3 * (y % side)) % (5 + square) == 0 && x % side < side - 1;
-            picture.setPixel(x, y, NineBitColour::shown(drawn ? 73 * (square % 7 + 1) % 512 : 438));
-        }
-    }
-    return picture;
+    return pictureOf(size, QImage::Format_ARGB32, [size, side](int i) {
+        const QPoint at(i % size.width(), i / size.width());
+        const int square = at.y() / side * (size.width() / side) + at.x() / side;
+        const bool drawn = (at.x() % side + 3 * (at.y() % side)) % (5 + square) == 0 && at.x() % side < side - 1;
+        return NineBitColour::shown(drawn ? 73 * (square % 7 + 1) % 512 : 438);
+    });
 }
 
 void fill(QImage &picture, const QRect &area, QRgb colour)
 {
-    for (int y = area.top(); y <= area.bottom(); ++y) {
-        for (int x = area.left(); x <= area.right(); ++x)
-            picture.setPixel(x, y, colour);
-    }
+    QPainter(&picture).fillRect(area, QColor(colour));
+}
+
+/// The sprites of a bank as they are shown.
+QList<QImage> spritesOf(const SpriteBank &bank)
+{
+    QList<QImage> sprites;
+    for (int i = 0; i < bank.count(); ++i)
+        sprites.append(bank.renderSprite(i, 0, false, false, false));
+    return sprites;
 }
 
 /// A project that assets are imported into, with one undo stack.
@@ -145,8 +148,7 @@ private slots:
         QImage wanted = picture;
         if (!reduced) { // what cutting makes of it
             Scene fresh;
-            QVERIFY(picture.save(fresh.file));
-            fresh.actions.importMap(fresh.file);
+            fresh.actions.importMap(fresh.folder("art.png", SampleProject::png(picture)));
             wanted = shown(*fresh.project.map(fresh.asset), {0, 0, 9, 4});
         }
         for (int i = 0; i < 72 * 32; ++i) {
@@ -167,8 +169,7 @@ private slots:
         s.stack.undo();
         QVERIFY(map->snapshot() == before);
         QCOMPARE(tiles->palette()->colourTable(), colours);
-        for (int i = 0; i < tiles->count(); ++i)
-            QCOMPARE(tiles->tile(i)->pixels(), Tile(tilesBefore.value(i)).pixels());
+        QVERIFY(tiles->snapshot() == tilesBefore);
         s.stack.redo();
         QCOMPARE(shown(*map, {0, 0, 9, 4}), now);
 
@@ -198,8 +199,7 @@ private slots:
         Scene s;
         const QUuid standard = s.project.createPalette(CreateAction::DefaultNext, "Standard")->id();
         QImage picture = squares({64, 16}, 16);
-        QVERIFY(picture.save(s.file));
-        s.actions.importSpritePicture({.file = s.file,
+        s.actions.importSpritePicture({.file = s.folder("art.png", SampleProject::png(picture)),
                                        .name = "Hero",
                                        .depth = Quenmora::EightBit,
                                        .paletteId = newPalette ? QUuid() : standard,
@@ -209,16 +209,8 @@ private slots:
         QVERIFY(bank && bank->count() == first + 4);
         bank->addSprite();
         bank->setImage(first + 4, plainImage({16, 16}, 1)); // drawn by hand
-        const auto colour = [&bank](int sprite) {
-            return bank->renderSprite(sprite, 0, false, false, false).pixel(15, 15); // of the ground
-        };
-        const auto rendered = [&bank] {
-            QList<QImage> all;
-            for (int i = 0; i < bank->count(); ++i)
-                all.append(bank->renderSprite(i, 0, false, false, false));
-            return all;
-        };
-        const QList<QImage> before = rendered();
+        const auto colour = [&bank](int sprite) { return spritesOf(*bank)[sprite].pixel(15, 15); }; // of the ground
+        const QList<QImage> before = spritesOf(*bank);
         const int steps = s.stack.count();
         picture = picture.copy(0, 0, 80, 16);
         fill(picture, {64, 0, 16, 16}, NineBitColour::shown(292));
@@ -227,13 +219,13 @@ private slots:
         QCOMPARE(s.again(), "");
         QCOMPARE(bank->count(), first + 6);
         for (const int same : {first, first + 2, first + 3, first + 4})
-            QCOMPARE(bank->renderSprite(same, 0, false, false, false), before[same]);
+            QCOMPARE(spritesOf(*bank)[same], before[same]);
         QCOMPARE(colour(first + 1), NineBitColour::shown(511));
         if (newPalette)
             QCOMPARE(colour(first + 5), NineBitColour::shown(292));
         QCOMPARE(s.stack.count(), steps + 1);
         s.stack.undo();
-        QCOMPARE(rendered(), before);
+        QCOMPARE(spritesOf(*bank), before);
         s.stack.redo();
         QCOMPARE(s.again(), "");
         QCOMPARE(s.stack.count(), steps + 1); // as it is
@@ -301,7 +293,7 @@ private slots:
         const Map::Snapshot before = map->snapshot();
         const TileSet::Snapshot tilesBefore = tiles->snapshot();
         const auto framesBefore = animation->state();
-        const QImage spriteBefore = bank->renderSprite(0, 0, false, false, false);
+        const QList<QImage> spritesBefore = spritesOf(*bank);
         fill(sheet, {8, 0, 8, 8}, NineBitColour::shown(300));
         QVERIFY(write(sheet, 6, 16));
         s.asset = made.sprites; // whichever of them is asked for
@@ -319,17 +311,17 @@ private slots:
         QVERIFY(animation->state() == framesBefore);
         QCOMPARE(map->animatedBlocks()->state(), before.placements);
         QCOMPARE(bank->count(), 1);
-        QCOMPARE(bank->renderSprite(0, 0, false, false, false).pixel(3, 3), NineBitColour::shown(300));
+        QCOMPARE(spritesOf(*bank)[0].pixel(3, 3), NineBitColour::shown(300));
         QCOMPARE(map->sprites().size(), 1);
         QCOMPARE(map->sprites()[0].x, 16);
         QCOMPARE(s.stack.count(), 1);
         s.stack.undo();
         QVERIFY(map->snapshot() == before);
         QVERIFY(tiles->snapshot() == tilesBefore);
-        QCOMPARE(bank->renderSprite(0, 0, false, false, false), spriteBefore);
+        QCOMPARE(spritesOf(*bank), spritesBefore);
         QVERIFY(s.project.deleteMap(map->id()));
         QCOMPARE(s.again(), ""); // what is left of them
-        QCOMPARE(bank->renderSprite(0, 0, false, false, false).pixel(3, 3), NineBitColour::shown(300));
+        QCOMPARE(spritesOf(*bank)[0].pixel(3, 3), NineBitColour::shown(300));
     }
 
     void framesOfAseprite()
@@ -358,10 +350,7 @@ private slots:
         bank->setImage(2, plainImage({16, 16}, 1)); // drawn by hand
         const auto animation = bank->animations().constFirst();
         const auto shown = [&] {
-            QStringList colours;
-            for (int i = 0; i < bank->count(); ++i)
-                colours.append(QString::number(bank->renderSprite(i, 0, false, false, false).pixel(8, 8), 16));
-            return colours.join(' ');
+            return valuesOf(spritesOf(*bank), [](const QImage &sprite) { return sprite.pixel(8, 8); });
         };
         const auto cells = [&animation] {
             QList<int> numbers;
@@ -370,12 +359,12 @@ private slots:
             return numbers;
         };
         QCOMPARE(cells(), (QList{0, 1}));
-        const QString before = shown();
+        const QList<QRgb> before = shown();
         const int steps = s.stack.count();
         QVERIFY(write({3, 1, 2}));
         s.asset = made.sprites;
         QCOMPARE(s.again(), "");
-        QCOMPARE(shown(), before + " ff0000ff"); // behind what was drawn
+        QCOMPARE(shown(), before + QList<QRgb>{0xFF0000FF}); // behind what was drawn
         QCOMPARE(cells(), (QList{3, 0, 1}));
         QCOMPARE(s.stack.count(), steps + 1);
         s.stack.undo();
@@ -393,14 +382,12 @@ private slots:
         QDateTime time = QDateTime::currentDateTime();
         const auto write = [&s, &time](char word, char pixels, char tile) {
             time = time.addSecs(1); // the files have the sizes that they had
-            const QHash<QString, QByteArray> files{{"nxp", QByteArray(512, word)},
-                                                   {"nxt", QByteArray(32, '\x12') + QByteArray(32, pixels)},
-                                                   {"nxm", QByteArray("\2\2", 2) + QByteArray(256, '\0')},
-                                                   {"nxb", QByteArray(1, tile) + QByteArray(7, '\0')}};
-            for (auto each = files.cbegin(); each != files.cend(); ++each) {
-                QFile file(s.folder("world." + each.key()));
-                if (!file.open(QIODevice::WriteOnly) || file.write(*each) != each->size() || !file.flush()
-                    || !file.setFileTime(time, QFile::FileModificationTime))
+            for (const auto &[name, bytes] : {std::pair("world.nxp", QByteArray(512, word)),
+                                              {"world.nxt", QByteArray(32, '\x12') + QByteArray(32, pixels)},
+                                              {"world.nxm", QByteArray("\2\2", 2) + QByteArray(256, '\0')},
+                                              {"world.nxb", QByteArray(1, tile) + QByteArray(7, '\0')}}) {
+                QFile file(s.folder(name, bytes));
+                if (!file.open(QIODevice::ReadWrite) || !file.setFileTime(time, QFile::FileModificationTime))
                     return false;
             }
             return true;
@@ -495,9 +482,8 @@ private slots:
         openWindow();
         controller()->newProject("Game");
         controller()->setFileNameCallback([this] { return m_folder("game.quenmora"); });
-        const QString file = m_folder("level.png");
         QImage picture = squares({32, 32}, 8);
-        QVERIFY(picture.save(file));
+        const QString file = m_folder("level.png", SampleProject::png(picture));
         m_window->projectActions()->importReduction(file, TileReduction::of(picture, {}));
         controller()->save();
         const auto entry = [this](const QMenu *menu) { return EditorInput::entry(*menu, "Import Again"); };

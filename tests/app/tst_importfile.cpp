@@ -138,13 +138,12 @@ private slots:
     /// Pictures go to the dialogs for them, and the next file waits until these are closed.
     void takesFilesThatAreDropped()
     {
-        QImage picture(16, 8, QImage::Format_RGB32);
-        picture.fill(0xFFFF0000);
-        picture.setPixel(0, 0, 0xFF00FF00);
-        QVERIFY(picture.save(m_folder("level.png")));
+        const QImage picture =
+            pictureOf({16, 8}, QImage::Format_RGB32, [](int i) { return i == 0 ? 0xFF00FF00 : 0xFFFF0000; });
+        const QUrl level = QUrl::fromLocalFile(m_folder("level.png", SampleProject::png(picture)));
         QMimeData data;
-        data.setUrls({QUrl::fromLocalFile(m_folder("level.png")), QUrl::fromLocalFile(m_folder("level.png")),
-                      QUrl::fromLocalFile(m_folder("a.pal", noise(512))), QUrl("https://example.com/b.pal")});
+        data.setUrls(
+            {level, level, QUrl::fromLocalFile(m_folder("a.pal", noise(512))), QUrl("https://example.com/b.pal")});
         QVERIFY(EditorInput::dropFromElsewhere(*m_window, {50, 50}, data));
         QCoreApplication::processEvents();
         QVERIFY(dialog().windowTitle().startsWith("Import (1 of 3)"));

@@ -11,6 +11,7 @@
 
 namespace {
 
+using SampleProject::png;
 using Node = ProjectTree::ProjectNode;
 
 /// A picture of different tiles in two colours: the frame of each tells its orientation, its number stands
@@ -116,8 +117,7 @@ private slots:
         painter.drawImage(8, 0, tile.transformed(QTransform().rotate(90)));
         painter.drawImage(16, 0, tile.transformed(QTransform().scale(-1, 1)));
         painter.end();
-        QVERIFY(picture.save(m_folder("level.png")));
-        m_actions->importMap(m_folder("level.png"));
+        m_actions->importMap(m_folder("level.png", png(picture)));
         const QPointer<Map> map = m_project->map(m_ready);
         QVERIFY(map && map->name() == "level" && map->tileSet()->name() == "level");
         QCOMPARE(map->size(), QSize(3, 1));
@@ -129,33 +129,27 @@ private slots:
                  picture.copy(0, 0, 24, 8));
     }
 
-    void pictureLimit_data()
+    void refusesPicturesThatCannotBe()
     {
-        QTest::addColumn<QSize>("tiles");
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<QString>("failure");
-        QTest::newRow("512") << QSize(32, 16) << "level.bmp" << QString();
-        QTest::newRow("513") << QSize(27, 19) << "level.bmp"
-                             << "Cannot import the image as it would need more than 512 tiles\n513 required";
-        QTest::newRow("no picture") << QSize() << "cut.png"
-                                    << "Could not read the image file";
-        QTest::newRow("suffix in upper case") << QSize() << "world.NXM"
-                                              << "Could not read the image file";
-        QTest::newRow("too large") << QSize() << "huge.ppm"
-                                   << "Could not read the image file\nIt has 9000 × 9000 pixels; at most 8192 × 8192, "
-                                      "or as many in another shape, can be read";
-    }
-
-    void pictureLimit()
-    {
-        QFETCH(QSize, tiles);
-        QFETCH(QString, file);
-        const QByteArray head = file == "huge.ppm" ? "P6 9000 9000 255\n" : "\x89PNG\r\n\x1a\n and nothing more";
-        QVERIFY(tiles.isEmpty() ? writeFile(m_folder(file), head) : pictureOfTiles(tiles).save(m_folder(file)));
-        m_actions->importMap(m_folder(file));
-        QTEST(shownFailure(), "failure");
-        QCOMPARE(assetCount(), shownFailure().isEmpty() ? 3 : 0);
-        QVERIFY(!m_window->findChild<QProgressDialog *>()); // it does not outlive its work
+        const std::tuple<QSize, const char *, QString> cases[]{
+            {{32, 16}, "level.bmp", ""},
+            {{27, 19}, "level.bmp", "Cannot import the image as it would need more than 512 tiles\n513 required"},
+            {{}, "cut.png", "Could not read the image file"},
+            {{}, "world.NXM", "Could not read the image file"}, // files of the Next have their suffix in lower case
+            {{},
+             "huge.ppm",
+             "Could not read the image file\nIt has 9000 × 9000 pixels; at most 8192 × 8192, or as many in another "
+             "shape, can be read"}};
+        for (const auto &[tiles, name, failure] : cases) {
+            init();
+            const QString file = m_folder(name);
+            const QByteArray head = file.endsWith(".ppm") ? "P6 9000 9000 255\n" : "\x89PNG\r\n\x1a\n and nothing more";
+            QVERIFY(tiles.isEmpty() ? writeFile(file, head) : pictureOfTiles(tiles).save(file));
+            m_actions->importMap(file);
+            QCOMPARE(shownFailure(), failure);
+            QCOMPARE(assetCount(), failure.isEmpty() ? 3 : 0);
+            QVERIFY(!m_window->findChild<QProgressDialog *>()); // it does not outlive its work
+        }
     }
 
     void tellsOfTilesThatLostColours()
@@ -164,8 +158,7 @@ private slots:
         picture.fill(Qt::black);
         for (int i = 0; i < 17; ++i) // more colours than a tile shows
             picture.setPixel(9 + i % 4, i / 4, qRgb(16 + 16 * (i % 8), 16 * (i / 8), 0));
-        QVERIFY(picture.save(m_folder("level.png")));
-        m_actions->importMap(m_folder("level.png"));
+        m_actions->importMap(m_folder("level.png", png(picture)));
         QVERIFY(!m_ready.isNull() && assetCount() == 3); // what can be shown is there
         QVERIFY2(shownFailure().startsWith("Tiles that lost colours: 1 of 2.\n"), qPrintable(shownFailure()));
     }
@@ -181,9 +174,8 @@ private slots:
         QByteArray file;
         for (int i = 0; i < Palette::Size; ++i)
             file.append(char(255 - i)).append(char(i));
-        m_folder("night.pal", file);
         QSignalSpy changed(palette, &Palette::colourChanged);
-        m_actions->importPalette(palette->id(), m_folder("night.pal"));
+        m_actions->importPalette(palette->id(), m_folder("night.pal", file));
         for (int i = 0; i < Palette::Size; ++i)
             QCOMPARE(palette->rawColour(i), quint16((255 - i) << 8 | i));
         QCOMPARE(changed.size(), Palette::Size);
@@ -208,18 +200,14 @@ private slots:
         indexed.setColorTable({qRgb(0, 0, 255), qRgb(219, 0, 0), qRgb(0, 255, 0)});
         indexed.fill(2);
         for (const auto &[image, third] : {std::pair(picture, 0x0201), {indexed, 0x1C00}}) { // or as it was before
-            QVERIFY(image.save(m_folder("colours.png")));
-            m_actions->importPalette(palette->id(), m_folder("colours.png"));
+            m_actions->importPalette(palette->id(), m_folder("colours.png", png(image)));
             QCOMPARE(palette->rawColour(0), 0x0301);
             QCOMPARE(palette->rawColour(1), 0xC000);
             QCOMPARE(palette->rawColour(2), third);
             QVERIFY(shownFailure().isEmpty());
         }
-        QImage all(512, 1, QImage::Format_RGB32);
-        for (int i = 0; i < 512; ++i)
-            all.setPixel(i, 0, NineBitColour::shown(i));
-        QVERIFY(all.save(m_folder("colours.png")));
-        m_actions->importPalette(palette->id(), m_folder("colours.png"));
+        const QImage all = pictureOf({512, 1}, QImage::Format_RGB32, &NineBitColour::shown);
+        m_actions->importPalette(palette->id(), m_folder("colours.png", png(all)));
         for (int i = 0; i < 256; ++i)
             QCOMPARE(palette->rawColour(i), i >> 1 << 8 | (i & 1));
         QCOMPARE(shownFailure(), "The picture has 512 colours; the palette takes the first 256 of them");
@@ -238,8 +226,7 @@ private slots:
     {
         QImage picture(16, 16, QImage::Format_RGB32);
         picture.fill(Qt::black);
-        const QString file = m_folder("level.png");
-        QVERIFY(picture.save(file));
+        const QString file = m_folder("level.png", png(picture));
         MenuBar menus;
         MapMenu &maps = *menus.mapMenu();
         maps.setProject(m_project.get());
@@ -253,16 +240,14 @@ private slots:
 
     void keepsTheMachinesLevels()
     {
-        QImage picture(16, 16, QImage::Format_RGB32); // greys, as converters show them
-        for (int x = 0; x < 16; ++x) {
-            const int grey = std::array{0, 36, 73, 109, 146, 182, 219, 255}[size_t(x / 2)];
-            for (int y = 0; y < 16; ++y)
-                picture.setPixel(x, y, qRgb(grey, grey, grey));
-        }
-        QVERIFY(picture.save(m_folder("greys.png")));
+        const QImage picture = pictureOf({16, 16}, QImage::Format_RGB32, [](int i) { // greys, as converters show them
+            const int grey = std::array{0, 36, 73, 109, 146, 182, 219, 255}.at(size_t(i % 16 / 2));
+            return qRgb(grey, grey, grey);
+        });
+        const QString file = m_folder("greys.png", png(picture));
         const auto greyOf = [](int level) { return quint16(level * 0x2400 | level >> 1 << 8 | (level & 1)); };
         for (const bool keep : {true, false}) {
-            m_actions->importSpritePicture({m_folder("greys.png"), "Greys", Quenmora::EightBit, {}, keep});
+            m_actions->importSpritePicture({file, "Greys", Quenmora::EightBit, {}, keep});
             const QPointer<SpriteBank> bank = m_project->spriteBank(m_ready);
             const QImage sprite = bank->spriteImage(bank->count() - 1, false, false, false);
             for (int level = 0; level < 8; ++level) {
@@ -270,12 +255,12 @@ private slots:
                 QCOMPARE(bank->palette()->rawColour(int(entry)), greyOf(level == 6 && !keep ? 7 : level));
             }
         }
-        m_actions->importPalette({}, m_folder("greys.png"));
+        m_actions->importPalette({}, file);
         const QPointer<Palette> palette = m_project->palette(m_ready);
         for (int level = 0; level < 8; ++level)
             QCOMPARE(palette->rawColour(level), greyOf(level));
         // in the colours of that palette, each has its own entry, of which 18 are black
-        m_actions->importSpritePicture({m_folder("greys.png"), "Same", Quenmora::EightBit, palette->id(), true});
+        m_actions->importSpritePicture({file, "Same", Quenmora::EightBit, palette->id(), true});
         const QPointer<SpriteBank> same = m_project->spriteBank(m_ready);
         for (int level = 0; level < 8; ++level)
             QCOMPARE(same->spriteImage(1, false, false, false).pixelIndex(2 * level, 0), level);
@@ -283,26 +268,24 @@ private slots:
 
     void importsANewPalette()
     {
-        m_folder("night.npl", QByteArray(512, '\1') + '\0');
-        m_actions->importPalette({}, m_folder("night.npl"));
+        m_actions->importPalette({}, m_folder("night.npl", QByteArray(512, '\1') + '\0'));
         const QPointer<Palette> palette = m_project->palette(m_ready);
         QCOMPARE(palette->name(), "night");
         QCOMPARE(palette->rawColour(200), 0x0101);
 
-        m_folder("short.pal", QByteArray(511, '\2'));
         QTest::ignoreMessage(QtWarningMsg, "Read error");
-        m_actions->importPalette(palette->id(), m_folder("short.pal"));
+        m_actions->importPalette(palette->id(), m_folder("short.pal", QByteArray(511, '\2')));
         QCOMPARE(palette->rawColour(200), 0x0101);
         QCOMPARE(shownFailure(), "The file is neither a palette nor a picture that can be read");
     }
 
     void importsSpriteData()
     {
-        m_folder("hero.spr", QByteArray(256, '\7') + QByteArray(256, '\5'));
+        const QString file = m_folder("hero.spr", QByteArray(256, '\7') + QByteArray(256, '\5'));
         QUndoStack stack;
         const EditRecorder recorder(m_project.get(), [&stack](const QUuid &) { return &stack; });
         for (const QUuid &palette : {makePalette(), QUuid()}) {
-            m_actions->importSpriteData({m_folder("hero.spr"), "Hero", Quenmora::FourBit, palette});
+            m_actions->importSpriteData({file, "Hero", Quenmora::FourBit, palette});
             const QPointer<SpriteBank> bank = m_project->spriteBank(m_ready);
             QVERIFY(bank && bank->name() == "Hero" && bank->depth() == Quenmora::FourBit);
             QCOMPARE(bank->count(), 3); // with a blank one in front
@@ -336,14 +319,11 @@ private slots:
         QFETCH(bool, reduced);
         const QUuid standard = makePalette();
         // every colour of the standard palette, that of the transparent index too
-        QImage picture(16, 32, QImage::Format_ARGB32);
-        for (int i = 0; i < 512; ++i) {
-            const QRgb rgb = m_project->palette(standard)->colour(i % colours).rgb();
+        const QImage picture = pictureOf({16, 32}, QImage::Format_ARGB32, [&](int i) {
             const int alpha = i == 300 ? 127 : i == 301 ? 128 : i < 257 ? 255 : 0;
-            picture.setPixel(i % 16, i / 16, (rgb & RGB_MASK) | uint(alpha) << 24);
-        }
-        QVERIFY(picture.save(m_folder("hero.png")));
-        SpriteImport import{m_folder("hero.png"), "Hero", depth, newPalette ? QUuid() : standard};
+            return (m_project->palette(standard)->colour(i % colours).rgb() & RGB_MASK) | uint(alpha) << 24;
+        });
+        SpriteImport import{m_folder("hero.png", png(picture)), "Hero", depth, newPalette ? QUuid() : standard};
         if (reduced)
             import.reduction = Dithering::Diffusion;
         m_actions->importSpritePicture(import);
@@ -366,10 +346,10 @@ private slots:
     void spriteFailureLeavesNothing()
     {
         const QUuid palette = makePalette();
-        m_folder("short", QByteArray(255, '\1'));
+        const QString file = m_folder("short", QByteArray(255, '\1'));
         QSignalSpy created(m_project.get(), &Project::spritesCreated); // a bank that was seen could not vanish again
         for (const QUuid &paletteId : {palette, QUuid()}) {
-            const SpriteImport import{m_folder("short"), "Hero", Quenmora::EightBit, paletteId};
+            const SpriteImport import{file, "Hero", Quenmora::EightBit, paletteId};
             m_actions->importSpritePicture(import);
             QCOMPARE(shownFailure(), "Could not make sprites of the image file");
             m_actions->importSpriteData(import);
