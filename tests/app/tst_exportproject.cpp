@@ -173,9 +173,8 @@ private slots:
         dialog.show(*m_project, {});
         QSignalSpy added(&dialog, &AddOutputsDialog::accepted);
         dialog.accept();
-        QStringList files;
-        for (const RecipeOutput &output : added.value(0).value(0).value<QList<RecipeOutput>>())
-            files.append(output.file);
+        const auto outputs = added.value(0).value(0).value<QList<RecipeOutput>>();
+        const QStringList files = valuesOf(outputs, &RecipeOutput::file);
         for (const char *file : {"Level.map", "Level_sprites.bin", "Level_blocks.bin", "Tiles.nxt", "Main.pal",
                                  "Blocks_animations.bin", "Hero.spr", "Hero_animations.bin", "Title.nxi"})
             QVERIFY2(files.contains(file), file);
@@ -210,14 +209,13 @@ private slots:
         QCOMPARE(dialog.findChild<QLineEdit *>("file")->text(), "a/Level_sprites.c");
         dialog.findChild<QLineEdit *>("label")->setText("placed");
         dialog.findChild<QSpinBox *>("pad")->setValue(256);
-        dialog.findChild<QLineEdit *>("file")->setText("level.H");
-        dialog.accept();
-        QCOMPARE(dialog.error(), "“level.H” is the file of another output");
-        dialog.findChild<QLineEdit *>("file")->setText("../level.c");
-        dialog.accept();
-        QCOMPARE(dialog.error(), "“../level.c” cannot be written: it leads out of its folder");
-        dialog.findChild<QLineEdit *>("file")->setText("placed.c");
-        dialog.accept();
+        for (const auto &[file, error] : {std::pair("level.H", "“level.H” is the file of another output"),
+                                          {"../level.c", "“../level.c” cannot be written: it leads out of its folder"},
+                                          {"placed.c", ""}}) {
+            dialog.findChild<QLineEdit *>("file")->setText(file);
+            dialog.accept();
+            QCOMPARE(dialog.error(), error);
+        }
         output.form = "map-sprites";
         output.options = {{"label", "placed"}, {"pad", "256"}, {"text", "c"}};
         output.file = "placed.c";
@@ -348,16 +346,13 @@ private slots:
         auto *view = dialog.findChild<QTableView *>();
         QVERIFY(view->hasFocus() && view->currentIndex().row() == 0);
         const int count = dialog.table()->rowCount();
-        const auto opened = [&dialog](const char *type) {
-            QWidget *top = QApplication::activeModalWidget();
-            return top != &dialog && top && QLatin1String(top->metaObject()->className()) == QLatin1String(type);
-        };
-        const auto press = [&](int key, const char *opens) {
-            QTest::keyClick(&dialog, Qt::Key(key));
-            const bool isOpen = opened(opens);
-            if (isOpen)
-                static_cast<QDialog *>(QApplication::activeModalWidget())->reject();
-            return isOpen && QTest::qWaitForWindowActive(&dialog);
+        const auto press = [&dialog](Qt::Key key, const char *opens) {
+            QTest::keyClick(&dialog, key);
+            auto *top = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+            if (!top || !top->inherits(opens))
+                return false;
+            top->reject();
+            return QTest::qWaitForWindowActive(&dialog);
         };
         QVERIFY(press(Qt::Key_Return, "OutputDialog") && press(Qt::Key_Insert, "AddOutputsDialog"));
         QTest::keyClick(view, Qt::Key_Down);

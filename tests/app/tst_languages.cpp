@@ -214,53 +214,33 @@ private:
     void lookAtOtherDialogs()
     {
         Project &sample = project();
-        QImage picture(240, 160, QImage::Format_ARGB32);
-        for (int i = 0; i < 240 * 160; ++i)
-            picture.setPixel(i % 240, i / 240,
-                             qRgba(i * 37 % 256, i * (i % 101) / 7 % 256, i * 7 % 256, i % 3 ? 255 : 0));
-        const QString file = m_folder("4.png");
-        QVERIFY(picture.save(file));
-        const auto show = [this](QDialog &dialog) {
-            dialog.show();
+        const QImage picture = pictureOf({240, 160}, QImage::Format_ARGB32, [](int i) {
+            return qRgba(i * 37 % 256, i * (i % 101) / 7 % 256, i * 7 % 256, i % 3 ? 255 : 0);
+        });
+        const QString file = m_folder("4.png", SampleProject::png(picture));
+        const auto show = [this](auto &&dialog, auto &&...what) {
+            dialog.show(what...);
             look(dialog.metaObject()->className(), false);
         };
-        const QPointer<TileSet> tiles = sample.tileSets().first();
-        ImportPictureDialog picturesTiles;
-        picturesTiles.show(file, PictureLoss::of(file, nullptr));
-        show(picturesTiles);
-        ImportZXFontDialog font;
-        font.show(*tiles);
-        show(font);
-        SpriteEditor::ImportBinaryDialog sprites;
-        sprites.show(sample, fileFor({{}, {"*.spr"}}));
-        show(sprites);
+        show(ImportPictureDialog(), file, PictureLoss::of(file, nullptr));
+        show(ImportZXFontDialog(), *sample.tileSets().first());
+        show(SpriteEditor::ImportBinaryDialog(), sample, fileFor({{}, {"*.spr"}}));
         ImageEditor::ImportDialog image;
         image.setOffersNewPalette(true);
-        image.show(picture, sample.palettes().first(), {256, 192}, 256);
-        show(image);
+        show(image, picture, sample.palettes().first(), QSize(256, 192), 256);
         MapEditor::ExportDialog map;
         map.offer(*sample.maps().first(), QDir(m_folder()));
         show(map);
         UpdateDialog update;
         update.setRelease({"0.8", "stable", "2026-12-01", {}, {}}, "0.7", "2026-10-15");
         show(update);
-        const NextData::Recipe recipe = usualRecipe(sample);
-        ExportProjectDialog exports;
-        exports.show(sample, m_folder("5.quenmora"), recipe, true);
-        show(exports);
-        exports.show(sample, m_folder("5.quenmora"), {}, true);
-        show(exports);
-        AddOutputsDialog outputs;
-        outputs.show(sample, {});
-        show(outputs);
-        OutputDialog output;
-        for (const NextData::RecipeOutput &each : recipe.outputs()) {
-            output.show(sample, each, NextData::TakenFiles());
-            show(output);
-        }
-        SeveralOutputsDialog several;
-        several.show(2);
-        show(several);
+        const NextData::Recipe usual = usualRecipe(sample);
+        for (const NextData::Recipe &recipe : {usual, NextData::Recipe()})
+            show(ExportProjectDialog(), sample, m_folder("5.quenmora"), recipe, true);
+        show(AddOutputsDialog(), sample, NextData::Recipe());
+        for (const NextData::RecipeOutput &output : usual.outputs())
+            show(OutputDialog(), sample, output, NextData::TakenFiles());
+        show(SeveralOutputsDialog(), 2);
         for (const auto kind : {ExportQuestion::Kind::SaveProject, ExportQuestion::Kind::StartAnew,
                                 ExportQuestion::Kind::ReplaceRecipe}) {
             QTimer::singleShot(0, this, [this] { look("export-question", false); });
@@ -278,10 +258,7 @@ private:
         QSet<QString> dialogs;
         for (QDirIterator files(QStringLiteral(SOURCE_FOLDER), {"*.h"}, QDir::Files, QDirIterator::Subdirectories);
              files.hasNext();) {
-            QFile file(files.next());
-            if (!file.open(QIODevice::ReadOnly))
-                continue;
-            for (auto found = named.globalMatch(QString::fromUtf8(file.readAll())); found.hasNext();)
+            for (auto found = named.globalMatch(QString::fromUtf8(readFile(files.next()))); found.hasNext();)
                 dialogs.insert(found.next().captured(1));
         }
         return dialogs - QSet<QString>{"DialogBase", "CreationDialog"};
@@ -293,14 +270,9 @@ private:
         const QString filters = request.nameFilters.join(' ');
         if (request.acceptMode == QFileDialog::AcceptSave || filters.contains("*.quenmora"))
             return {};
-        QFile file(m_folder(filters.contains("*.png") ? "1.png" : filters.contains("*.spr") ? "2.spr" : "3.ch8"));
-        if (file.fileName().endsWith(".png")) {
-            QFile::copy(QStringLiteral(EXAMPLES_FOLDER "/pictures/sprites.png"), file.fileName());
-            return file.fileName();
-        }
-        if (file.open(QIODevice::WriteOnly))
-            file.write(QByteArray(768, '\1'));
-        return file.fileName();
+        if (filters.contains("*.png"))
+            return m_folder("1.png", readFile(EXAMPLES_FOLDER "/pictures/sprites.png"));
+        return m_folder(filters.contains("*.spr") ? "2.spr" : "3.ch8", QByteArray(768, '\1'));
     }
 
     /// Triggers every command once, and looks at what that opens.

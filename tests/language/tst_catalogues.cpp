@@ -3,6 +3,7 @@
 #include "language/catalogues.h"
 #include "support/catalogue.h"
 #include "support/lupdate.h"
+#include "support/modeltools.h"
 #include "support/testmain.h"
 
 #include <QtTest>
@@ -28,38 +29,12 @@ const QStringList FilesOfWords{"command/description.cpp", "nextdata/names.cpp", 
                                "model/tilesetformats.cpp"};
 
 /// Texts that are the same in all languages: names, words of files and of logs, and what scripts read.
-const QSet<QString> Untranslated{"Quenmora",
-                                 "Corvandel",
-                                 "Quenmora/%1 (+%2)",
-                                 "daily",
-                                 "weekly",
-                                 "monthly",
-                                 "project",
-                                 "paletteid",
-                                 "map",
-                                 "tileset",
-                                 "Columns:",
-                                 "Name:",
-                                 "Channels:",
-                                 "Debug",
-                                 "Info",
-                                 "Warning",
-                                 "Critical",
-                                 "Fatal",
-                                 "libpng warning:",
-                                 "Open state.json failed",
-                                 "Open painting.json failed",
-                                 "Failed to open settings json file",
-                                 "Image index out of range",
-                                 "tile %1",
-                                 "The recipe is empty",
-                                 "; nothing was written"};
-
-QString contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
+const QStringList Untranslated =
+    QString("Quenmora|Corvandel|Quenmora/%1 (+%2)|daily|weekly|monthly|project|paletteid|map|tileset|tile %1|"
+            "Columns:|Name:|Channels:|Debug|Info|Warning|Critical|Fatal|libpng warning:|Image index out of range|"
+            "Open state.json failed|Open painting.json failed|Failed to open settings json file|"
+            "The recipe is empty|; nothing was written")
+        .split('|');
 
 /// The texts of a source file that look as if people should read them and are in no call of tr(), with their lines.
 QStringList textsWithoutTr(const QString &source)
@@ -204,7 +179,8 @@ private slots:
              files.hasNext();) {
             const QString path = files.next();
             const QString name = folder.relativeFilePath(path);
-            for (const QString &text : FilesOfWords.contains(name) ? QStringList() : textsWithoutTr(contentOf(path)))
+            for (const QString &text :
+                 FilesOfWords.contains(name) ? QStringList() : textsWithoutTr(QString::fromUtf8(readFile(path))))
                 found.append(name + ' ' + text);
         }
         for (const QString &text : found)

@@ -6,16 +6,6 @@
 /// QT_QPA_PLATFORM=offscreen:configfile=FILE, and its scale is QT_SCALE_FACTOR.
 namespace Desktop {
 
-[[nodiscard]] inline QPalette darkPalette()
-{
-    QPalette palette(QColor(53, 53, 56), QColor(43, 43, 46));
-    palette.setColor(QPalette::Base, QColor(30, 30, 32));
-    palette.setColor(QPalette::AlternateBase, QColor(38, 38, 40));
-    palette.setColor(QPalette::Highlight, QColor(48, 108, 190));
-    palette.setColor(QPalette::HighlightedText, Qt::white);
-    return palette;
-}
-
 /// Gives the program the letters and colours that the environment asks for: QUENMORA_LETTERS=14 in points, and
 /// QUENMORA_DARK=1.
 inline void apply()
@@ -25,8 +15,14 @@ inline void apply()
         font.setPointSize(points);
         QApplication::setFont(font);
     }
-    if (qEnvironmentVariableIntValue("QUENMORA_DARK"))
-        QApplication::setPalette(darkPalette());
+    if (qEnvironmentVariableIntValue("QUENMORA_DARK")) {
+        QPalette dark(QColor(53, 53, 56), QColor(43, 43, 46));
+        dark.setColor(QPalette::Base, QColor(30, 30, 32));
+        dark.setColor(QPalette::AlternateBase, QColor(38, 38, 40));
+        dark.setColor(QPalette::Highlight, QColor(48, 108, 190));
+        dark.setColor(QPalette::HighlightedText, Qt::white);
+        QApplication::setPalette(dark);
+    }
 }
 
 } // namespace Desktop

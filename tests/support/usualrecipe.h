@@ -13,12 +13,8 @@
     for (const Source &source : Source::all(project)) {
         for (const Form *form : usualForms(source)) {
             const auto values = *OptionValues::parse(form->options, {});
-            outputs.append({source.kind(),
-                            source.id(),
-                            source.name(),
-                            form->id,
-                            {},
-                            taken.claim(usualFile(source.name(), *form, values))});
+            const QString file = taken.claim(usualFile(source.name(), *form, values));
+            outputs.append({source.kind(), source.id(), source.name(), form->id, {}, file});
         }
     }
     Recipe recipe;
