@@ -3,15 +3,11 @@
 // says for how long to go on.
 
 #include "model/animatedblocks.h"
-#include "support/modeltools.h"
+#include "nextdata/source.h"
 #include "support/projectmembers.h"
 #include "support/randomuser.h"
-#include "support/testmain.h"
-#include "ui/messagedialog.h"
+#include "support/windowscene.h"
 #include "undo/editclock.h"
-
-#include <QtTest>
-#include <QtWidgets>
 
 #include <algorithm>
 #include <cstdio>
@@ -122,7 +118,7 @@ private:
 
 } // namespace
 
-class TestRandomActions : public QObject
+class TestRandomActions : public QObject, protected WindowScene
 {
     Q_OBJECT
 
@@ -139,15 +135,12 @@ private slots:
         std::printf("Random actions with QUENMORA_SEED=%u\n", m_seed);
         std::fflush(stdout);
         QHashSeed::setDeterministicGlobalSeed();
-        Update::UpdateChecker::setFeedAddress({});
         EditClock::setSource([this] { return m_time; });
         s_previousHandler = qInstallMessageHandler(collectWarnings);
-        m_window.emplace();
+        openWindow();
         m_painting.emplace();
-        m_window->projectController()->setUnsavedAnswerCallback(
-            [](const QString &) { return ProjectController::Discard; });
-        m_window->projectController()->setFileNameCallback([this] { return m_folder.filePath("game.quenmora"); });
-        m_window->projectController()->newProject("Game");
+        controller()->setFileNameCallback([this] { return m_folder("game.quenmora"); });
+        controller()->newProject("Game");
         s_warnings.clear();
     }
 
@@ -182,19 +175,13 @@ private slots:
     }
 
 private:
-    Project &project() { return *m_window->projectController()->project(); }
-    QList<QUndoStack *> stacks() { return m_window->documentController()->undoGroup()->stacks(); }
     /// Whether the project has an asset of this id, or it is the null id of the scratch image.
-    bool isDocument(const QUuid &id)
-    {
-        return id.isNull() || project().palette(id) || project().tileSet(id) || project().map(id)
-            || project().blocks(id) || project().spriteBank(id) || project().image(id);
-    }
+    bool isDocument(const QUuid &id) { return id.isNull() || NextData::Source::find(project(), id); }
 
     /// Starts where undo cannot go back behind: something changed that is on no stack.
     void startJournal()
     {
-        m_window->documentController()->setClean(); // nothing merges into a clean step
+        documents().setClean(); // nothing merges into a clean step
         m_indices.clear();
         record();
         m_journal.clear();
@@ -209,7 +196,8 @@ private:
 
     void record()
     {
-        for (QUndoStack *stack : stacks()) {
+        const QList<QUndoStack *> stacks = documents().undoGroup()->stacks();
+        for (QUndoStack *stack : stacks) {
             int &written = m_indices[stack];
             for (; written < stack->index(); ++written)
                 m_journal.append(stack);
@@ -260,10 +248,10 @@ private:
     void checkMessages()
     {
         const QStringList refusals{"Palette In Use", "Tile Set In Use", "Objects in use"};
-        for (MessageDialog *dialog = m_window->messageDialog(); dialog->isVisible(); dialog->accept())
-            expect(refusals.contains(dialog->windowTitle()) || dialog->text().contains("change places")
-                       || dialog->text().contains("exporting data"), // which not every form can hold
-                   "message: " + dialog->text());
+        for (; dialog()->isVisible(); dialog()->accept())
+            expect(refusals.contains(dialog()->windowTitle()) || dialog()->text().contains("change places")
+                       || dialog()->text().contains("exporting data"), // which not every form can hold
+                   "message: " + dialog()->text());
         const QStringList warnings = std::exchange(s_warnings, {});
         expect(warnings.isEmpty(), warnings.join('\n'));
     }
@@ -384,13 +372,12 @@ private:
             map->restampAnimations(project().blockSets()); // as opening does, which clears what was drawn below them
         startJournal();
         noteFirst();
-        ProjectController *controller = m_window->projectController();
-        controller->save();
-        expect(!controller->isModified(), "modified after saving");
+        controller()->save();
+        expect(!controller()->isModified(), "modified after saving");
         expectSame(*m_first, Content(project()), "changed by saving");
         ProjectStore store;
         const Project *read = store.newProject({});
-        expect(store.load(controller->filePath()), "the saved file cannot be read");
+        expect(store.load(controller()->filePath()), "the saved file cannot be read");
         if (store.project())
             expectSame(*m_first, Content(*read), "the saved file");
     }
@@ -398,13 +385,12 @@ private:
     void reopen()
     {
         const Content saved = *m_first;
-        ProjectController *controller = m_window->projectController();
-        const QString file = controller->filePath();
-        controller->close();
-        controller->openProject(file);
+        const QString file = controller()->filePath();
+        controller()->close();
+        controller()->openProject(file);
         QCoreApplication::processEvents();
         expectSame(saved, Content(project()), "changed by opening");
-        expect(!controller->isModified(), "modified after opening");
+        expect(!controller()->isModified(), "modified after opening");
         startJournal();
     }
 
@@ -416,8 +402,6 @@ private:
         return given ? seed : secondsAsked() > 0 ? QRandomGenerator::system()->generate() : UsualSeed;
     }
 
-    QTemporaryDir m_folder;
-    std::optional<MainWindow> m_window;
     std::optional<PaintStop> m_painting;
     const quint32 m_seed = chosenSeed();
     qint64 m_time = 1; ///< an hour passes between two actions, so that no two of them merge

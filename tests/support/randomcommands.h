@@ -2,6 +2,7 @@
 
 #include "app/imports/spriteimport.h"
 #include "app/projectactions.h"
+#include "nextdata/source.h"
 #include "support/modeltools.h"
 #include "support/randomhands.h"
 #include "support/usualrecipe.h"
@@ -92,12 +93,7 @@ private:
             QCoreApplication::processEvents();
         while (answer());
     }
-    [[nodiscard]] bool isFull()
-    {
-        return project().palettes().size() + project().tileSets().size() + project().maps().size()
-            + project().blockSets().size() + project().spriteBanks().size() + project().images().size()
-            >= 16;
-    }
+    [[nodiscard]] bool isFull() { return NextData::Source::all(project()).size() >= 16; }
     bool isWanted(const QString &name)
     {
         static const QRegularExpression leaving( // the project, the program, what is installed

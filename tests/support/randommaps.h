@@ -19,7 +19,6 @@ protected:
     {
         addTools();
         addPainting();
-        addViews();
     }
 
 private:
@@ -68,7 +67,7 @@ private:
         });
     }
 
-    /// What painting maps fast takes: stamps, shapes, terrains, replacement, moved selections.
+    /// What painting maps fast takes: stamps, shapes, terrains, replacement, moved selections. And what shows them.
     void addPainting()
     {
         using namespace Quenmora::Ui;
@@ -123,11 +122,6 @@ private:
             if (auto *overview = page.grid()->findChild<MapEditor::MapOverview *>())
                 drag(overview);
         });
-    }
-
-    void addViews()
-    {
-        using namespace Quenmora::Ui;
         addForMap("play map", Lasting, [this](View &page) {
             page.toolPaletteClicked(AnimPlay, true);
             for (int ticks = number(60); ticks > 0; --ticks)
