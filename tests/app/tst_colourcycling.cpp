@@ -80,19 +80,23 @@ private slots:
             view->list()->select(view->list()->animations().constFirst());
             return view;
         };
-        const auto frame = [&](bool blocks) -> QWidget * {
+        const auto frame = [&](bool blocks) {
             return animation(blocks)->findChild<AnimationEditor::FrameEditorWidget *>();
         };
-        const auto list = [&](bool blocks) -> QWidget * {
+        const auto list = [&](bool blocks) {
             return animation(blocks)->list()->findChild<QListWidget *>()->viewport();
         };
-        const auto mapView = [this] {
+        const auto mapView = [this](bool withOverview) {
             documents().setActiveMap(project().maps().first()->id());
             auto *view = page<MapEditor::View>();
-            view->paintDesk()->setOverviewVisible(true);
+            view->paintDesk()->setOverviewVisible(withOverview);
             view->paintDesk()->pickTiles({{1}});
             QCoreApplication::processEvents(); // the bar has its place, and the stamp its button
             return view;
+        };
+        const auto canvas = [this]() -> QWidget * {
+            documents().setActiveImageEditor(project().images().first()->id());
+            return page<ImageEditor::View>()->canvas();
         };
         const std::pair<const char *, std::function<QWidget *()>> all[]{
             {"palette", [&] { return dock(views().palette, views().palette->editor()->grid()); }},
@@ -104,19 +108,10 @@ private slots:
             {"sprite animations", [&] { return list(false); }},
             {"block animation", [&] { return frame(true); }},
             {"block animations", [&] { return list(true); }},
-            {"overview of a map", [&] { return mapView()->findChild<MapEditor::MapOverview *>(); }},
-            {"stamps", [&] { return mapView()->paintDesk()->bar(); }},
-            {"map",
-             [&] {
-                 MapEditor::View *view = mapView();
-                 view->paintDesk()->setOverviewVisible(false);
-                 return view->grid();
-             }},
-            {"image",
-             [&] {
-                 documents().setActiveImageEditor(project().images().first()->id());
-                 return page<ImageEditor::View>()->canvas();
-             }},
+            {"overview of a map", [&] { return mapView(true)->findChild<MapEditor::MapOverview *>(); }},
+            {"stamps", [&] { return mapView(true)->paintDesk()->bar(); }},
+            {"map", [&] { return mapView(false)->grid(); }},
+            {"image", canvas},
         };
         ColourCycling *cycling = m_window->colourCycling();
         for (const auto &[name, show] : all) {
@@ -148,14 +143,13 @@ private slots:
         QVERIFY(m_window->menus()->viewMenu()->actions().contains(cycling->action()));
         cycling->action()->trigger();
         QVERIFY(cycling->clock()->isTicking());
-        m_window->showMinimized();
-        QVERIFY(!cycling->clock()->isTicking());
-        m_window->showNormal();
-        QVERIFY(cycling->clock()->isTicking());
-        m_window->hide();
-        QVERIFY(!cycling->clock()->isTicking());
-        m_window->show();
-        QVERIFY(cycling->clock()->isTicking());
+        for (const auto &[change, ticks] : {std::pair(&QWidget::showMinimized, false),
+                                            {&QWidget::showNormal, true},
+                                            {&QWidget::hide, false},
+                                            {&QWidget::show, true}}) {
+            ((*m_window).*change)();
+            QCOMPARE(cycling->clock()->isTicking(), ticks);
+        }
         controller()->close();
         QVERIFY(!cycling->clock()->isTicking());
     }

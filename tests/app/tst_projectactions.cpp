@@ -2,7 +2,7 @@
 #include "app/menus/menubar.h"
 #include "app/menus/spritemenu.h"
 #include "app/projectactions.h"
-#include "pictures/tilereduction.h"
+#include "nextdata/source.h"
 #include "support/sampleproject.h"
 #include "support/testmain.h"
 
@@ -359,11 +359,7 @@ private slots:
     }
 
 private:
-    [[nodiscard]] qsizetype assetCount() const
-    {
-        return m_project->palettes().size() + m_project->tileSets().size() + m_project->maps().size()
-            + m_project->blockSets().size() + m_project->spriteBanks().size() + m_project->images().size();
-    }
+    [[nodiscard]] qsizetype assetCount() const { return NextData::Source::all(*m_project).size(); }
     /// The failure that the message box for imports shows; empty while it is not open.
     [[nodiscard]] QString shownFailure() const
     {

@@ -23,39 +23,32 @@ private slots:
     void init() { openWindow(); }
     void cleanup() { m_window.reset(); }
 
-    void findsWhatComesAlong_data()
-    {
-        QTest::addColumn<QStringList>("files");
-        QTest::addColumn<QString>("program");
-        QTest::addColumn<QString>("sample");
-        QTest::addColumn<QString>("maps"); // the page of the guide about maps
-        QTest::addColumn<QString>("other"); // one about something else, which it may not have
-        const auto row = [](const char *name, const QString &program, const QStringList &files, const QString &sample,
-                            const QString &maps, const QString &other) {
-            QTest::newRow(name) << files << program << sample << maps << other;
-        };
-        const QString share = "p/share/quenmora/examples/sample.quenmora";
-        const QString pages = "p/share/doc/quenmora/guide/";
-        row("installed", "p/bin", {share, pages + "maps.html", pages + "index.html"}, share, pages + "maps.html",
-            pages + "index.html");
-        const QStringList unpacked{"zip/examples/sample.quenmora", "zip/documentation/guide/maps.md",
-                                   "zip/documentation/guide/README.md"};
-        row("unpacked", "zip", unpacked, unpacked[0], unpacked[1], unpacked[2]);
-        const QStringList built{"source/examples/sample.quenmora", "source/docs/guide/maps.md", "build/src/app/x"};
-        row("built", "build/src/app", built, built[0], built[1], "");
-        row("alone", "bin", {"bin/quenmora"}, "", "", "");
-    }
     void findsWhatComesAlong()
     {
-        QFETCH(const QStringList, files);
-        QFETCH(const QString, program);
-        const auto at = [this](const QString &file) { return file.isEmpty() ? QString() : m_folder(file); };
-        for (const QString &file : files)
-            write(at(file), "x");
-        write(at("build/CMakeCache.txt"), "A:B=c\nCMAKE_HOME_DIRECTORY:INTERNAL=" + at("source").toUtf8() + "\n");
-        QTEST(InstalledFiles::sampleProject(at(program)).mid(m_folder().size() + 1), "sample");
-        QTEST(InstalledFiles::guidePage("maps", at(program)).mid(m_folder().size() + 1), "maps");
-        QTEST(InstalledFiles::guidePage("elsewhere", at(program)).mid(m_folder().size() + 1), "other");
+        // the folder of the program, and what it finds: the sample, the page of the guide about maps, and one about
+        // something else, which it may not have
+        const std::pair<QString, QStringList> cases[]{
+            {"p/bin",
+             {"p/share/quenmora/examples/sample.quenmora", "p/share/doc/quenmora/guide/maps.html",
+              "p/share/doc/quenmora/guide/index.html"}},
+            {"zip",
+             {"zip/examples/sample.quenmora", "zip/documentation/guide/maps.md", "zip/documentation/guide/README.md"}},
+            {"build/src/app", {"source/examples/sample.quenmora", "source/docs/guide/maps.md", ""}},
+            {"bin", {"", "", ""}}};
+        for (const auto &[program, files] : cases) {
+            for (const QString &file : files + QStringList{program + "/quenmora"}) {
+                if (!file.isEmpty())
+                    write(m_folder(file), "x");
+            }
+        }
+        write(m_folder("build/CMakeCache.txt"),
+              "A:B=c\nCMAKE_HOME_DIRECTORY:INTERNAL=" + m_folder("source").toUtf8() + "\n");
+        for (const auto &[program, files] : cases) {
+            const QString folder = m_folder(program);
+            const QStringList found{InstalledFiles::sampleProject(folder), InstalledFiles::guidePage("maps", folder),
+                                    InstalledFiles::guidePage("elsewhere", folder)};
+            QCOMPARE(valuesOf(found, [this](const QString &file) { return file.mid(m_folder().size() + 1); }), files);
+        }
     }
 
     void opensTheSampleAsACopyOfOnesOwn()
@@ -153,44 +146,36 @@ private slots:
 
     void keepsPicturesOfProjects()
     {
-        const QString good = m_folder("good.quenmora");
-        const QString damaged = m_folder("damaged.quenmora");
-        QVERIFY(QFile::copy(EXAMPLES_FOLDER "/sample.quenmora", good));
-        write(damaged, readFile(good).left(5000));
-        const auto pictureOf = [this](const QString &file, const QString &program) {
+        const QByteArray sample = readFile(EXAMPLES_FOLDER "/sample.quenmora");
+        const QString good = m_folder("good.quenmora", sample);
+        const auto pictureBy = [&](const QString &program) {
             RecentPictures pictures;
             pictures.setFolder(m_folder("cache"));
             pictures.setProgram(program);
             QSignalSpy found(&pictures, &RecentPictures::found);
-            pictures.want({m_folder("gone.quenmora"), m_folder("damaged.quenmora"), file});
+            pictures.want({m_folder("gone.quenmora"), m_folder("damaged.quenmora", sample.left(5000)), good});
             found.wait(program.isEmpty() ? 1000 : 60'000);
-            return pictures.picture(file);
+            return pictures.picture(good);
         };
-        const QImage made = pictureOf(good, EXPORT_PROGRAM);
+        const QImage made = pictureBy(EXPORT_PROGRAM);
         QVERIFY(!made.isNull() && std::max(made.width(), made.height()) <= RecentPictures::Extent);
         QCOMPARE(QDir(m_folder("cache")).entryList(QDir::Files).size(), 1);
-        QCOMPARE(pictureOf(good, {}), made); // it is kept
-        QFile file(good);
-        QVERIFY(file.open(QIODevice::Append) && file.write("x") == 1);
-        file.close();
-        QVERIFY(pictureOf(good, {}).isNull()); // but not for a file that has changed
+        QCOMPARE(pictureBy({}), made); // it is kept
+        m_folder("good.quenmora", sample + "x");
+        QVERIFY(pictureBy({}).isNull()); // but not for a file that has changed
     }
 
     void showsPicturesOnTheStartPage()
     {
-        const QString file = m_folder("mine.quenmora");
-        QVERIFY(writeFile(file, readFile(EXAMPLES_FOLDER "/sample.quenmora")));
+        const QString file = m_folder("mine.quenmora", readFile(EXAMPLES_FOLDER "/sample.quenmora"));
         auto *page = m_window->findChild<StartPage *>();
         page->pictures()->setFolder(m_folder("cache"));
         page->pictures()->setProgram(EXPORT_PROGRAM);
         m_window->menus()->fileMenu()->addRecentFile(file);
-        const auto cards = page->findChildren<QToolButton *>();
-        const auto card = std::find_if(cards.begin(), cards.end(), [](const QToolButton *button) {
-            return button->accessibleName() == "mine.quenmora";
-        });
-        QVERIFY(card != cards.end());
-        const QImage before = (*card)->icon().pixmap((*card)->iconSize()).toImage();
-        QTRY_VERIFY_WITH_TIMEOUT((*card)->icon().pixmap((*card)->iconSize()).toImage() != before, 60'000);
+        const QAbstractButton *card = EditorInput::button(*page, QDir::toNativeSeparators(file));
+        QVERIFY(card && card->accessibleName() == "mine.quenmora");
+        const QImage before = card->icon().pixmap(card->iconSize()).toImage();
+        QTRY_VERIFY_WITH_TIMEOUT(card->icon().pixmap(card->iconSize()).toImage() != before, 60'000);
 
         QMenu *menu = m_window->menus()->fileMenu()->recentMenu();
         const auto *preview = menu->findChild<RecentPreview *>();
@@ -208,8 +193,7 @@ private slots:
         controller()->newProject("Empty");
         ProjectActions *actions = m_window->projectActions();
         actions->createTileSet("Tiles", {}, 4, false);
-        QSize size(8, 8);
-        actions->createMap("Map", project().tileSets().first()->id(), size);
+        actions->createMap("Map", project().tileSets().first()->id(), {8, 8});
         auto *view = page<MapEditor::View>();
         QVERIFY(view);
         const auto hintOver = [](const QWidget *widget) {
