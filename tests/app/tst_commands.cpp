@@ -27,19 +27,6 @@ QString textOf(const Commands::Keys &keys)
     return QKeySequence::listToString(keys, QKeySequence::PortableText);
 }
 
-/// Menus say "Fill", whichever letter is underlined.
-QList<QAction *> actionsWithText(const QWidget &window)
-{
-    QList<QAction *> actions = window.findChildren<QAction *>();
-    actions.removeIf([&window](const QAction *action) {
-        const auto *bar = qobject_cast<const QToolBar *>(action->parent());
-        const bool isFixed = bar && bar->parentWidget() != &window; // within an editor, where nobody hides it
-        return action->isSeparator() || action->menu() || action->text().isEmpty()
-            || (isFixed && action == bar->toggleViewAction());
-    });
-    return actions;
-}
-
 } // namespace
 
 /// Commands by their names: their keys, the file that keeps these, and the palette that finds them.
@@ -62,14 +49,17 @@ private slots:
     void everyCommandHasANameOfItsOwn()
     {
         openSample();
-        openAll();
         QHash<QString, const QAction *> named;
         QStringList unnamed;
         QSet<QPair<const QObject *, QString>> places;
-        for (const QAction *action : actionsWithText(*m_window)) {
+        for (const QAction *action : m_window->findChildren<QAction *>()) {
             const QString name = action->objectName();
+            const auto *bar = qobject_cast<const QToolBar *>(action->parent());
+            const bool isOfBar = bar && action == bar->toggleViewAction();
+            const bool isFixed = isOfBar && bar->parentWidget() != &*m_window; // in an editor, where nobody hides it
             const bool isLabel = action->text() == "None" || action->text() == "Main"; // no project, the palette
-            if (isLabel || action->property("filePath").isValid() || name.startsWith("_q_")) // which Qt adds to fields
+            if (action->isSeparator() || action->menu() || action->text().isEmpty() || isFixed || isLabel
+                || action->property("filePath").isValid() || name.startsWith("_q_")) // which Qt adds to fields
                 continue;
             if (!name.contains('.')) {
                 unnamed.append(action->text());
@@ -99,11 +89,9 @@ private slots:
         Commands::instance()->choose(
             {{Draw, {Qt::Key_B}}, {"pixels.draw", {}}, {"file.save", {Qt::Key_F2, Qt::Key_F3}}});
         openSample();
-        openAll();
         const auto keysOf = [](const QString &name) {
-            QStringList keys;
-            for (const QAction *action : Commands::instance()->actionsOf(name))
-                keys.append(textOf(action->shortcuts()));
+            QStringList keys = valuesOf(Commands::instance()->actionsOf(name),
+                                        [](const QAction *action) { return textOf(action->shortcuts()); });
             keys.removeDuplicates();
             return keys.join('|');
         };
@@ -122,7 +110,6 @@ private slots:
     void toolKeysLeaveTheArrowsAlone()
     {
         openSample();
-        openAll();
         documents().setActiveImageEditor(project().images().first()->id());
         activateWindow();
         Canvas *canvas = page<ImageEditor::View>()->canvas();
@@ -194,55 +181,39 @@ private slots:
 
     // Choosing
 
-    void knowsWhichKeysMeet_data()
-    {
-        QTest::addColumn<QString>("command");
-        QTest::addColumn<QString>("key");
-        QTest::addColumn<QString>("doubles");
-        const auto row = [](const char *name, const QString &command, const QString &key, const QString &doubles) {
-            QTest::newRow(name) << command << key << doubles;
-        };
-        row("own", Draw, "D", "");
-        row("same editor", Draw, "L", "mapEditor.line");
-        row("another editor", "mapEditor.placeAnim", "[", "");
-        row("whole window", Draw, "Ctrl+S", "file.save");
-        row("from the window", "file.save", "D", "mapEditor.draw pixels.draw");
-        row("part of an editor", "colours.darken", "X", "pixels.swapColours");
-        row("begins with it", "file.save", "Ctrl+N, F", "file.new");
-    }
-
     void knowsWhichKeysMeet()
     {
         openSample();
-        openAll();
         const ShortcutTable table(Commands::instance()->all(), {}, CommandPlaces::canMeet);
-        const auto indexOf = [&table](const QString &name) {
-            for (int i = 0; i < table.commands().size(); ++i) {
-                if (table.commands().at(i).name == name)
-                    return i;
-            }
-            return -1;
+        const QStringList names = valuesOf(table.commands(), &Commands::Command::name);
+        // a command, a key for it, and what has that key and can be meant in the same place
+        const std::tuple<QString, QString, QString> cases[]{
+            {Draw, "D", ""}, // its own
+            {Draw, "L", "mapEditor.line"}, // in the same editor
+            {"mapEditor.placeAnim", "[", ""}, // in another one
+            {Draw, "Ctrl+S", "file.save"}, // in the whole window
+            {"file.save", "D", "mapEditor.draw pixels.draw"}, // from the window
+            {"colours.darken", "X", "pixels.swapColours"}, // in a part of an editor
+            {"file.save", "Ctrl+N, F", "file.new"}, // begins with it
         };
-        QFETCH(const QString, command);
-        QFETCH(const QString, key);
-        QStringList doubles;
-        for (const int other : table.doublesOf(indexOf(command), QKeySequence(key)))
-            doubles.append(table.commands().at(other).name);
-        doubles.sort();
-        QTEST(doubles.join(' '), "doubles");
+        for (const auto &[command, key, expected] : cases) {
+            const int index = int(names.indexOf(command));
+            QStringList doubles = valuesOf(table.doublesOf(index, QKeySequence(key)), [&](int i) { return names[i]; });
+            doubles.sort();
+            QCOMPARE(doubles.join(' '), expected);
 
-        ShortcutTable changed = table;
-        const int index = indexOf(command);
-        changed.setKeys(index, {QKeySequence(key), QKeySequence(), QKeySequence(key)});
-        QCOMPARE(textOf(changed.keysOf(index)), key);
-        QCOMPARE(changed.hasDoubles(index), !doubles.isEmpty());
-        for (const QString &other : std::as_const(doubles))
-            changed.removeKey(indexOf(other), QKeySequence(key));
-        QVERIFY(!changed.hasDoubles(index));
-        changed.setKeys(index, table.commands().at(index).usualKeys); // which is no difference
-        QCOMPARE(changed.choices().contains(command), false);
-        changed.resetAll();
-        QCOMPARE(changed.choices(), Commands::Choices());
+            ShortcutTable changed = table;
+            changed.setKeys(index, {QKeySequence(key), QKeySequence(), QKeySequence(key)});
+            QCOMPARE(textOf(changed.keysOf(index)), key);
+            QCOMPARE(changed.hasDoubles(index), !doubles.isEmpty());
+            for (const QString &other : std::as_const(doubles))
+                changed.removeKey(int(names.indexOf(other)), QKeySequence(key));
+            QVERIFY(!changed.hasDoubles(index));
+            changed.setKeys(index, table.commands().at(index).usualKeys); // which is no difference
+            QCOMPARE(changed.choices().contains(command), false);
+            changed.resetAll();
+            QCOMPARE(changed.choices(), Commands::Choices());
+        }
     }
 
     void choosesKeysInTheDialog()
@@ -293,27 +264,6 @@ private slots:
 
     // The palette
 
-    void findsTheBestFirst_data()
-    {
-        QTest::addColumn<QString>("query");
-        QTest::addColumn<QStringList>("found"); // the first ones
-        const auto row = [](const char *query, const QStringList &found) { QTest::newRow(query) << query << found; };
-        row("", {"New", "New Map", "New Palette", "Paste"});
-        row("new", {"New", "New Map", "New Palette"});
-        row("nm", {"New Map", "Environment"}); // beginnings of words before what is inside one
-        row("map new", {"New Map"});
-        row("n pal", {"New Palette"});
-        row("NEWP", {"New Palette"});
-        row("ete", {u"\u00C9t\u00E9"_qs});
-        row("past", {"Paste"});
-        row("level", {"Level 2", "Level 10"});
-        row("level 1", {"Level 10"});
-        row("tile 3", {"Tile 3", "Tile 30"});
-        row("37", {"Tile 37"});
-        row("tile", {"Next Tile"}); // and not 40 with numbers
-        row("zzz", {});
-    }
-
     void findsTheBestFirst()
     {
         QList<CommandSearch::Item> items{{"New", "File"},
@@ -327,26 +277,37 @@ private slots:
                                          {"Environment", "Map"}};
         for (int number = 1; number <= 40; ++number)
             items.append({QString("Tile %1").arg(number), "Cave", true, true});
-        QFETCH(const QString, query);
-        QFETCH(const QStringList, found);
-        QStringList texts;
-        for (const int item : CommandSearch(items).find(query))
-            texts.append(items.at(item).text);
-        QCOMPARE(texts.mid(0, found.size()), found);
-        QVERIFY(!texts.isEmpty() || found.isEmpty());
-        QVERIFY(query != "zzz" || texts.isEmpty());
-        QVERIFY(query != "tile" || !texts.contains("Tile 3"));
+        const auto find = [&items](const QString &query) {
+            return valuesOf(CommandSearch(items).find(query), [&](int i) { return items[i].text; });
+        };
+        const std::pair<const char *, QStringList> cases[]{
+            // the first that are found
+            {"", {"New", "New Map", "New Palette", "Paste"}},
+            {"new", {"New", "New Map", "New Palette"}},
+            {"nm", {"New Map", "Environment"}}, // beginnings of words before what is inside one
+            {"map new", {"New Map"}},
+            {"n pal", {"New Palette"}},
+            {"NEWP", {"New Palette"}},
+            {"ete", {u"\u00C9t\u00E9"_qs}},
+            {"past", {"Paste"}},
+            {"level", {"Level 2", "Level 10"}},
+            {"level 1", {"Level 10"}},
+            {"tile 3", {"Tile 3", "Tile 30"}},
+            {"37", {"Tile 37"}},
+            {"tile", {"Next Tile"}}, // and not 40 with numbers
+        };
+        for (const auto &[query, found] : cases)
+            QCOMPARE(find(query).mid(0, found.size()), found);
+        QVERIFY(find("zzz").isEmpty() && !find("tile").contains("Tile 3"));
 
         // among equals: what can be run, and then what was used last
         items[1].isEnabled = false;
-        if (query == "new")
-            QCOMPARE(CommandSearch(items).find("new", {2, 1}).mid(0, 3), (QList<int>{0, 2, 1}));
+        QCOMPARE(CommandSearch(items).find("new", {2, 1}).mid(0, 3), (QList<int>{0, 2, 1}));
     }
 
     void paletteReachesCommandsAssetsAndTiles()
     {
         openSample();
-        openAll();
         activateWindow();
         const auto run = [this](const QString &query) {
             m_window->commands()->showPalette();
@@ -359,7 +320,6 @@ private slots:
             QCoreApplication::processEvents();
             return !palette->isVisible();
         };
-        documents().setActiveMap(project().maps().first()->id());
         auto *map = page<MapEditor::View>();
         QVERIFY(run("bucket fill"));
         QCOMPARE(map->grid()->mode(), Quenmora::Ui::Fill);

@@ -211,15 +211,13 @@ private slots:
 
     void comesBackToTheSpriteThatWasEdited()
     {
-        const QPointer<SpriteBank> other = project().createSpriteBank(Quenmora::FourBit, "Other", {});
+        const QUuid other = project().createSpriteBank(Quenmora::FourBit, "Other", {})->id();
+        documents().setActiveSpriteEditor(other);
         documents().setActiveSpriteEditor(m_assets->bank->id());
         views().spriteEditor->changeSprite(1);
-        for (const QPointer<SpriteBank> &between : {other, QPointer<SpriteBank>()}) {
-            if (between)
-                documents().setActiveSpriteEditor(between->id());
-            else
-                tabs()->setCurrentIndex(0);
-            tabs()->setCurrentIndex(tabs()->indexOfDocument(m_assets->bank->id()));
+        for (const QUuid &between : {other, QUuid()}) { // the latter is the scratch image's
+            for (const QUuid &next : {between, m_assets->bank->id()})
+                tabs()->setCurrentIndex(tabs()->indexOfDocument(next));
             QCOMPARE(views().spriteEditor->sprites(), m_assets->bank);
             QCOMPARE(views().spriteEditor->spriteIndex(), 1);
         }

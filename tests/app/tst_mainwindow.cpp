@@ -60,15 +60,7 @@ private slots:
         QVERIFY(m_window->close());
     }
 
-    void remembersTheWorkingFolderAtFirst()
-    {
-        QVERIFY(m_window->close());
-        AppState state;
-        QVERIFY(state.loadState());
-        QCOMPARE(state.lastPath(), QDir::currentPath());
-    }
-
-    void remembersHowPeoplePaint()
+    void remembersTheWorkingFolderAndHowPeoplePaint()
     {
         const auto choice = [this] { return EditorInput::entry(*m_window->menus()->editMenu(), "Connect Strokes"); };
         const auto connects = [this] {
@@ -80,6 +72,9 @@ private slots:
             return found;
         };
         QVERIFY(m_window->close());
+        AppState state;
+        QVERIFY(state.loadState());
+        QCOMPARE(state.lastPath(), QDir::currentPath());
         QVERIFY(!QFile::exists(statePath("painting.json"))); // nothing was chosen
         QCOMPARE(connects(), (QList{true, true, true}));
         choice()->trigger();
@@ -419,35 +414,15 @@ private slots:
         }
     }
 
-    void isReachedByTheKeyboard()
-    {
-        activateWindow();
-        controller()->openProject(sampleFile());
-        documents().setActiveMap(project().maps().first()->id());
-        tabs()->currentWidget()->setFocus();
-        // in the order of the View menu, without the docks that are behind others
-        for (const QWidget *pane :
-             std::initializer_list<QWidget *>{views().project, views().tileEditor, views().tilePicker,
-                                              views().mapObjects, views().mapToolBar, views().tabs, views().project}) {
-            QTest::keyClick(&*m_window, Qt::Key_F6);
-            QVERIFY2(pane->isAncestorOf(QApplication::focusWidget()), qPrintable(pane->objectName()));
-        }
-        QTest::keyClick(&*m_window, Qt::Key_F6, Qt::ShiftModifier);
-        QVERIFY(tabs()->isAncestorOf(QApplication::focusWidget()));
-    }
-
 private:
     [[nodiscard]] static QString statePath(const char *file)
     {
         return Platform::homeFolder().filePath(".config/quenmora/" + QLatin1String(file));
     }
-    /// The path of a project file made of the sample project.
     [[nodiscard]] QString sampleFile()
     {
-        const QString file = m_folder("sample.quenmora");
-        ProjectStore store;
-        SampleProject::fill(*store.newProject({}));
-        return store.saveAs(file) ? file : QString();
+        writeProject(m_folder("sample.quenmora"), "Sample");
+        return m_folder("sample.quenmora");
     }
 
     void verifyWithoutProject()

@@ -118,7 +118,6 @@ private slots:
     {
         openWindow(); // where menus have what editors bring
         openSample();
-        openAll();
         QList<QWidget *> menus{m_window->menus()};
         for (const QAction *title : m_window->menus()->actions())
             menus.append(title->menu());

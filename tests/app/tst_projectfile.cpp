@@ -5,7 +5,6 @@
 #include "support/platform.h"
 #include "support/windowscene.h"
 
-#include <algorithm>
 #include <functional>
 #include <utility>
 
@@ -295,8 +294,8 @@ private slots:
         documents().setActiveMap(map->id());
         QWidget *tab = tabs()->currentWidget();
         m_window->menus()->setFileChooser([this](const FileRequest &, QWidget *) { return m_folder("level.map"); });
-        const QString picture = m_folder("picture.png");
-        QVERIFY(plainImage(large ? QSize(1600, 1600) : QSize(64, 64), 1).save(picture));
+        const QImage plain = plainImage(large ? QSize(1600, 1600) : QSize(64, 64), 1);
+        const QString picture = m_folder("picture.png", SampleProject::png(plain));
         const auto exportMap = [this] { EditorInput::trigger(*m_window->menus()->mapMenu(), "Export"); };
         const auto exportToFolder = [this, tab] {
             QMetaObject::invokeMethod(tab, "toolPaletteClicked", Q_ARG(Quenmora::Ui::ToolButton, Quenmora::Ui::Save));
@@ -376,20 +375,7 @@ private:
         QTRY_VERIFY(over);
     }
     /// The button beside a message's OK.
-    [[nodiscard]] QAbstractButton *offer()
-    {
-        const auto *box = dialog()->findChild<QDialogButtonBox *>();
-        const QAbstractButton *ok = box->button(QDialogButtonBox::Ok);
-        const QList<QAbstractButton *> buttons = box->buttons();
-        return *std::find_if(buttons.begin(), buttons.end(), [ok](auto *button) { return button != ok; });
-    }
-    static void writeProject(const QString &fileName, const QString &name)
-    {
-        ProjectStore store;
-        SampleProject::fill(*store.newProject({}));
-        store.project()->setName(name);
-        QVERIFY(store.saveAs(fileName));
-    }
+    [[nodiscard]] QAbstractButton *offer() { return dialog()->findChildren<QPushButton *>().last(); }
     /// The name of the project that a file holds.
     [[nodiscard]] static QString nameIn(const QString &fileName)
     {

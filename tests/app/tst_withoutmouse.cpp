@@ -25,7 +25,15 @@ private slots:
     {
         openWindow();
         m_window->resize(1400, 900);
-        controller()->openProject(projectFile());
+        // with a map of 120 × 90 empty cells, larger than any view of it
+        controller()->newProject("Game");
+        const auto palette = project().createPalette(CreateAction::DefaultNext, "Colours");
+        const auto tiles = project().createTileSet("Tiles", palette->id(), 20);
+        for (int i = 0; i < tiles->count(); ++i)
+            tiles->setTileImage(i, plainImage({8, 8}, i % 16));
+        project().createBlockList("Blocks", tiles->id())->createBoundTileAnimation("Torch")->addFrame();
+        project().createSpriteBank(Quenmora::EightBit, "Hero", palette->id());
+        project().createMap("Level", tiles->id(), {120, 90});
         activateWindow();
         documents().setActiveMap(project().maps().first()->id());
         grid().clearFocus();
@@ -97,28 +105,25 @@ private slots:
         views().tileEditor->setTileIndex(2);
         canvas.setInk(5);
         canvas.setPaper(6);
-        const auto press = [&canvas](Qt::Key code, Qt::KeyboardModifiers keys = {}) {
-            QTest::keyClick(&canvas, code, keys);
-        };
         const QUndoStack &stack = *documents().undoStackFor(project().tileSets().first()->id());
         canvas.setMode(Line);
         QTest::keyPress(&canvas, Qt::Key_Space);
-        press(Qt::Key_PageDown);
+        QTest::keyClick(&canvas, Qt::Key_PageDown);
         QTest::keyRelease(&canvas, Qt::Key_Space);
         for (int y = 0; y < 8; ++y)
             QCOMPARE(canvas.image().pixelIndex(0, y), 5);
         QCOMPARE(stack.count(), 1);
         canvas.setMode(Draw);
-        press(Qt::Key_Space, Qt::ShiftModifier);
+        QTest::keyClick(&canvas, Qt::Key_Space, Qt::ShiftModifier);
         QCOMPARE(canvas.image().pixelIndex(0, 7), 6);
-        press(Qt::Key_Return);
+        QTest::keyClick(&canvas, Qt::Key_Return);
         QCOMPARE(canvas.ink(), 6);
-        press(Qt::Key_Up, Qt::ControlModifier);
-        press(Qt::Key_Return, Qt::ShiftModifier);
+        QTest::keyClick(&canvas, Qt::Key_Up, Qt::ControlModifier);
+        QTest::keyClick(&canvas, Qt::Key_Return, Qt::ShiftModifier);
         QCOMPARE(canvas.paper(), 5);
-        press(Qt::Key_Right, Qt::ControlModifier | Qt::ShiftModifier);
+        QTest::keyClick(&canvas, Qt::Key_Right, Qt::ControlModifier | Qt::ShiftModifier);
         QCOMPARE(canvas.selection(), QRect(0, 6, 2, 1));
-        press(Qt::Key_Right); // arrows by themselves do what they did: the selection moves
+        QTest::keyClick(&canvas, Qt::Key_Right); // arrows by themselves do what they did: the selection moves
         QCOMPARE(canvas.selection(), QRect(1, 6, 2, 1));
     }
 
@@ -170,18 +175,15 @@ private slots:
         marks.resize(500, 300);
         marks.MapEditor::TerrainMarks::show(project().tileSets().first(), {"Hill", false, {}});
         marks.QWidget::show();
-        const auto press = [&marks](Qt::Key key, Qt::KeyboardModifiers keys = {}) {
-            QTest::keyClick(&marks, key, keys);
-        };
         for (int i = 0; i < 4; ++i) // to the middle of the second tile
-            press(Qt::Key_Right, Qt::ControlModifier);
-        press(Qt::Key_Down, Qt::ControlModifier);
-        press(Qt::Key_Space);
-        press(Qt::Key_Up, Qt::ControlModifier);
-        press(Qt::Key_Space);
+            QTest::keyClick(&marks, Qt::Key_Right, Qt::ControlModifier);
+        QTest::keyClick(&marks, Qt::Key_Down, Qt::ControlModifier);
+        QTest::keyClick(&marks, Qt::Key_Space);
+        QTest::keyClick(&marks, Qt::Key_Up, Qt::ControlModifier);
+        QTest::keyClick(&marks, Qt::Key_Space);
         QVERIFY(marks.terrain().find(1) && marks.terrain().find(1)->marks == Terrain::North);
-        press(Qt::Key_Down, Qt::ControlModifier);
-        press(Qt::Key_Space, Qt::ShiftModifier);
+        QTest::keyClick(&marks, Qt::Key_Down, Qt::ControlModifier);
+        QTest::keyClick(&marks, Qt::Key_Space, Qt::ShiftModifier);
         QVERIFY(!marks.terrain().find(1));
     }
 
@@ -288,6 +290,19 @@ private slots:
         QVERIFY(ring());
         const QRect seen(picker.mapTo(&*m_window, QPoint(0, 0)), picker.visibleRegion().boundingRect().size());
         QVERIFY(ring()->geometry().contains(seen));
+    }
+
+    void goesFromPaneToPane()
+    {
+        // in the order of the View menu, without the docks that are behind others
+        for (const QWidget *pane :
+             std::initializer_list<QWidget *>{views().project, views().tileEditor, views().tilePicker,
+                                              views().mapObjects, views().mapToolBar, views().tabs, views().project}) {
+            QTest::keyClick(&*m_window, Qt::Key_F6);
+            QVERIFY2(pane->isAncestorOf(QApplication::focusWidget()), qPrintable(pane->objectName()));
+        }
+        QTest::keyClick(&*m_window, Qt::Key_F6, Qt::ShiftModifier);
+        QVERIFY(tabs()->isAncestorOf(QApplication::focusWidget()));
         // docks that are behind others
         views().tileEditor->raise();
         documents().setActiveSpriteEditor(project().spriteBanks().first()->id());
@@ -326,22 +341,6 @@ private:
     }
     void key(Qt::Key code, Qt::KeyboardModifiers keys = {}) { QTest::keyClick(&grid(), code, keys); }
     void hold(Qt::Key code) { QTest::keyPress(&grid(), code); }
-
-    /// A project with a map of 120 × 90 empty cells, larger than any view of it.
-    [[nodiscard]] QString projectFile()
-    {
-        const QString file = m_folder("level.quenmora");
-        ProjectStore store;
-        const QPointer<Project> made = store.newProject({});
-        const auto palette = made->createPalette(CreateAction::DefaultNext, "Colours");
-        const auto tiles = made->createTileSet("Tiles", palette->id(), 20);
-        for (int i = 0; i < tiles->count(); ++i)
-            tiles->setTileImage(i, plainImage({8, 8}, i % 16));
-        made->createBlockList("Blocks", tiles->id())->createBoundTileAnimation("Torch")->addFrame();
-        made->createSpriteBank(Quenmora::EightBit, "Hero", palette->id());
-        made->createMap("Level", tiles->id(), {120, 90});
-        return store.saveAs(file) ? file : QString();
-    }
 };
 
 QUENMORA_TEST_MAIN(TestWithoutMouse)

@@ -37,11 +37,20 @@ protected:
         m_window->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&*m_window));
     }
-    /// A new project with what SampleProject holds.
+    /// A new project with what SampleProject holds, all of which is opened.
     void openSample()
     {
         controller()->newProject("Sample");
         SampleProject::fill(project());
+        openAll();
+    }
+    /// A project file with what SampleProject holds, but for its name.
+    static void writeProject(const QString &fileName, const QString &name)
+    {
+        ProjectStore store;
+        SampleProject::fill(*store.newProject({}));
+        store.project()->setName(name);
+        QVERIFY(store.saveAs(fileName));
     }
     /// Opens an asset of every kind that has a tab; the map is in front.
     void openAll()
