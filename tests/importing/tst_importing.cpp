@@ -58,8 +58,6 @@ QUuid idOf(const AddedAssets &added)
 
 } // namespace
 
-Q_DECLARE_METATYPE(ImportChoices)
-
 /// Files on their way to assets: what they are taken for, what is made of them, and what undo leaves of that.
 class TestImporting : public QObject
 {
@@ -190,52 +188,42 @@ private slots:
             QVERIFY2(m_gone.contains(form.id) || form.id == "palette-513", qPrintable(form.id));
     }
 
-    void recognises_data()
+    void recognises()
     {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QString>("kind");
-        QTest::addColumn<Options>("options");
-        const auto add = [](const char *name, const QByteArray &bytes, const char *kind, const Options &options = {}) {
-            QTest::newRow(name) << bytes << QString(kind) << options;
+        const auto is = [this](const QString &name, const QByteArray &bytes, const QString &kind,
+                               const Options &options = {}) {
+            const Guess guess = recognise(file(name, bytes)).constFirst();
+            QVERIFY2(guess.kind == kind && guess.options == options, qPrintable(name + " is no " + guess.kind));
         };
         const auto some = [](int size) { return noise(size); };
         QByteArray cells = noise(2560);
         for (int i = 1; i < cells.size(); i += 2)
             cells[i] = 0x30;
-        add("next.pal", some(512), "palette");
-        add("next.npl", some(513), "palette-513");
-        add("group.nxp", some(32), "palette-group");
-        add("bytes.pal", some(256), "palette-8bit");
-        add("anything.bin", some(512), "palette");
-        add("sixteen.nxt", some(512), "tiles-4bit"); // as many bytes as a palette
-        add("font.ch8", some(768), "tiles-1bit");
-        add("font", some(768), "tiles-1bit");
-        add("level.map", cells, "map-2byte", {{"width", "40"}});
-        add("level.nxm", some(1280), "map-1byte", {{"width", "40"}});
-        add("noise.map", some(2000), "map-1byte", {{"width", "40"}}); // second bytes have too many values
-        add("hero.SPR", some(16384), "sprites-8bit");
-        add("half.spr", some(640), "sprites-packed");
-        add("title.nxi", some(49152 + 512), "layer2-256");
-        add("title.sl2", some(81920), "layer2-320");
-        add("title.slr", some(12288), "lores");
-        add("odd.bin", some(7), "map-1byte", {{"width", "7"}});
+        is("next.pal", some(512), "palette");
+        is("next.npl", some(513), "palette-513");
+        is("group.nxp", some(32), "palette-group");
+        is("bytes.pal", some(256), "palette-8bit");
+        is("anything.bin", some(512), "palette");
+        is("sixteen.nxt", some(512), "tiles-4bit"); // as many bytes as a palette
+        is("font.ch8", some(768), "tiles-1bit");
+        is("font", some(768), "tiles-1bit");
+        is("level.map", cells, "map-2byte", {{"width", "40"}});
+        is("level.nxm", some(1280), "map-1byte", {{"width", "40"}});
+        is("noise.map", some(2000), "map-1byte", {{"width", "40"}}); // second bytes have too many values
+        is("hero.SPR", some(16384), "sprites-8bit");
+        is("half.spr", some(640), "sprites-packed");
+        is("title.nxi", some(49152 + 512), "layer2-256");
+        is("title.sl2", some(81920), "layer2-320");
+        is("title.slr", some(12288), "lores");
+        is("odd.bin", some(7), "map-1byte", {{"width", "7"}});
         QByteArray header("PLUS3DOS\x1A\x01\0\x80\2\0\0", 15); // of 640 bytes
         header.resize(127, '\0');
         header.append(char(std::accumulate(header.cbegin(), header.cend(), 0)));
-        add("disk.spr", header + some(512), "sprites-8bit");
-        add("disk.bin", header + some(512), "palette");
-        add("cycles.bin", QByteArray::fromHex("0210 1F05 0020 23FF 01"), "palette-cycles");
-        add("moves.bin", QByteArray::fromHex("0100 0400 0301 0101 0000 0101 0530 0538"), "block-animations");
-        add("placed.bin", QByteArray::fromHex("0100 1F00 0600 0301 0001 0100 0000 0000 0A00"), "map-blocks");
-    }
-
-    void recognises()
-    {
-        QFETCH(QByteArray, bytes);
-        QFETCH(Options, options);
-        const QList<Guess> guesses = recognise(file(QTest::currentDataTag(), bytes));
-        QTEST(guesses.constFirst().kind, "kind");
-        QCOMPARE(guesses.constFirst().options, options);
+        is("disk.spr", header + some(512), "sprites-8bit");
+        is("disk.bin", header + some(512), "palette");
+        is("cycles.bin", QByteArray::fromHex("0210 1F05 0020 23FF 01"), "palette-cycles");
+        is("moves.bin", QByteArray::fromHex("0100 0400 0301 0101 0000 0101 0530 0538"), "block-animations");
+        is("placed.bin", QByteArray::fromHex("0100 1F00 0600 0301 0001 0100 0000 0000 0A00"), "map-blocks");
     }
 
     void choicesComeBack()
@@ -344,46 +332,30 @@ private slots:
         QCOMPARE(stack.count(), 1);
     }
 
-    void refuses_data()
-    {
-        QTest::addColumn<ImportChoices>("choices");
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QString>("reason");
-        const auto add = [](const char *what, const ImportChoices &choices, const QByteArray &bytes,
-                            const char *reason) {
-            QTest::newRow(what) << choices << bytes << QString::fromUtf8(reason);
-        };
-        add("no kind", {.kind = "tape"}, "1", "\xE2\x80\x9Ctape\xE2\x80\x9D is no kind of file that is read here");
-        add("another's option", {.kind = "palette", .options = {{"ink", "1"}}}, "1",
-            "There is no option \xE2\x80\x9Cink\xE2\x80\x9D, only ");
-        add("no name", {.kind = "palette"}, noise(512), "Please enter a name");
-        add("a tile of two groups", {.kind = "tiles-8bit", .options = {{"mixed", "refuse"}}, .name = "T"},
-            QByteArray(64, '\5') + QByteArray(32, '\5') + QByteArray(32, '\x15'),
-            "Tile 1 (counted from 0) has pixels of several palette offsets, and a tile has one");
-        add("numbers for nobody", {.kind = "tile-values", .name = "V"}, "1",
-            "Choose the tile set whose tiles these are for");
-        const auto placed = [](const char *hex) { return QByteArray::fromHex(hex); };
-        add("placed nowhere", {.kind = "map-sprites"}, placed("0000"), "Choose the map on which these are placed");
-        add("placed from elsewhere", {.kind = "map-blocks"}, "\1" + QByteArray(17, '\0'),
-            "What record 0 (counted from 0) shows is not in the project, where it is looked for by its place");
-        add("placed, and more", {.kind = "map-sprites"}, placed("000000"),
-            "The records do not lie in the file as its beginning says");
-        add("cut animations", {.kind = "sprite-animations"}, placed("0100 0400 0201 0200 0400 0000 0100 0200 02"),
-            "The animations do not lie in the file as its beginning says");
-        add("a target that is gone", {.kind = "palette", .target = QUuid::createUuid()}, noise(512),
-            "The asset into which it goes is not there any more, or is of another kind");
-    }
-
     void refuses()
     {
-        QFETCH(ImportChoices, choices);
-        QFETCH(QByteArray, bytes);
-        QFETCH(QString, reason);
-        Project project;
-        const auto incoming = prepare(project, file("file.bin", bytes), choices);
-        const QString refusal = incoming ? addTo(project, *incoming, choices, {}).reason() : incoming.reason();
-        QCOMPARE(refusal, reason);
-        QVERIFY(Source::all(project).isEmpty());
+        const auto refuses = [this](const QString &reason, const ImportChoices &choices, const QByteArray &bytes) {
+            Project project;
+            const auto incoming = prepare(project, file("file.bin", bytes), choices);
+            QCOMPARE(incoming ? addTo(project, *incoming, choices, {}).reason() : incoming.reason(), reason);
+            QVERIFY(Source::all(project).isEmpty());
+        };
+        refuses("“tape” is no kind of file that is read here", {.kind = "tape"}, "1");
+        refuses("There is no option “ink”, only ", {.kind = "palette", .options = {{"ink", "1"}}}, "1");
+        refuses("Please enter a name", {.kind = "palette"}, noise(512));
+        refuses("Tile 1 (counted from 0) has pixels of several palette offsets, and a tile has one",
+                {.kind = "tiles-8bit", .options = {{"mixed", "refuse"}}, .name = "T"},
+                QByteArray(64, '\5') + QByteArray(32, '\5') + QByteArray(32, '\x15'));
+        refuses("Choose the tile set whose tiles these are for", {.kind = "tile-values", .name = "V"}, "1");
+        const auto placed = [](const char *hex) { return QByteArray::fromHex(hex); };
+        refuses("Choose the map on which these are placed", {.kind = "map-sprites"}, placed("0000"));
+        refuses("What record 0 (counted from 0) shows is not in the project, where it is looked for by its place",
+                {.kind = "map-blocks"}, "\1" + QByteArray(17, '\0'));
+        refuses("The records do not lie in the file as its beginning says", {.kind = "map-sprites"}, placed("000000"));
+        refuses("The animations do not lie in the file as its beginning says", {.kind = "sprite-animations"},
+                placed("0100 0400 0201 0200 0400 0000 0100 0200 02"));
+        refuses("The asset into which it goes is not there any more, or is of another kind",
+                {.kind = "palette", .target = QUuid::createUuid()}, noise(512));
     }
 
     void refusesWhatIsTooLarge()
@@ -414,9 +386,8 @@ private slots:
         const ImportFile mixed = file("t.bin", QByteArray(32, '\x05') + QByteArray(32, '\x14'));
         const auto exact = prepare(project, mixed, choices);
         QCOMPARE(exact->remarks, QStringList());
-        QCOMPARE(exact->tiles->tiles[0].offset, 1);
-        QCOMPARE(int(exact->tiles->tiles[0].pixels[0]), 3);
-        QCOMPARE(int(exact->tiles->tiles[0].pixels[63]), 4);
+        const auto tile = exact->tiles->tiles[0];
+        QCOMPARE((QList{tile.offset, int(tile.pixels[0]), int(tile.pixels[63])}), (QList{1, 3, 4}));
         palette->setRawColour(0x13, 0xC000);
         QCOMPARE(prepare(project, mixed, choices)->remarks,
                  QStringList("Tiles that lose colours, since theirs are of several palette offsets: 1 of 1"));

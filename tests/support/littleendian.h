@@ -2,23 +2,16 @@
 
 #include <QtCore>
 
-/// A number as a file has it, low byte first.
-template <typename Number>
-[[nodiscard]] QByteArray littleEndian(Number number)
-{
-    QByteArray bytes(qsizetype(sizeof number), '\0');
-    qToLittleEndian(number, bytes.data());
-    return bytes;
-}
+// Numbers as a file has them, low byte first.
 
 [[nodiscard]] inline QByteArray le16(int number)
 {
-    return littleEndian(quint16(number));
+    return QByteArray(1, char(number)) + char(number >> 8);
 }
 
 [[nodiscard]] inline QByteArray le32(qint64 number)
 {
-    return littleEndian(quint32(number));
+    return le16(int(number)) + le16(int(number >> 16));
 }
 
 /// Bytes as a zlib stream.

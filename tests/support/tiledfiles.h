@@ -5,32 +5,21 @@
 
 #include <QtGui>
 
-/// A folder with the files of a map.
-class TiledFiles
+/// A folder with the files of a map, some of them in folders of their own.
+struct TiledFiles
 {
-public:
+    TemporaryFolder path;
+
     QString put(const QString &name, const QByteArray &bytes) const
     {
-        const QString path = m_folder.filePath(name);
-        QDir().mkpath(QFileInfo(path).path());
-        QFile::remove(path); // which takes less time than to replace what is in it
-        QFile file(path);
-        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-            qFatal("cannot write %s", qPrintable(path));
-        return path;
+        QDir().mkpath(QFileInfo(path(name)).path());
+        return path(name, bytes);
     }
     QString put(const QString &name, const QImage &picture) const
     {
-        const QString path = m_folder.filePath(name);
-        QDir().mkpath(QFileInfo(path).path());
-        if (!picture.save(path))
-            qFatal("cannot write %s", qPrintable(path));
-        return path;
+        QBuffer file;
+        return put(name, picture.save(&file, "PNG") ? file.data() : QByteArray());
     }
-    [[nodiscard]] QString path(const QString &name) const { return m_folder.filePath(name); }
-
-private:
-    QTemporaryDir m_folder;
 };
 
 /// A picture whose pixels are all different, opaque ones.
