@@ -31,19 +31,17 @@ constexpr quint16 RedWord = 0xE000;
 constexpr quint16 GreyWord = 0xDB00;
 constexpr quint16 BlueWord = 0x0100;
 
-/// A row of cells as their numbers.
-QString cellsOf(const SpriteAnim &animation)
+/// Its name, size and delay, and the numbers of each frame's only row.
+QString textOf(const SpriteAnim &animation)
 {
     QStringList frames;
     for (int i = 0; i < animation.frameCount(); ++i) {
-        QStringList numbers;
-        for (const auto &row : animation.frame(i)->cells()) {
-            for (const AnimationFrame::Cell &cell : row)
-                numbers.append(QString::number(cell.index));
-        }
-        frames.append(numbers.join(u' '));
+        const auto row = animation.frame(i)->cells().constFirst();
+        frames += QString("%1 %2").arg(row.constFirst().index).arg(row.constLast().index);
     }
-    return frames.join(QStringLiteral(" | "));
+    const QSize size = animation.size();
+    return QString("%1 %2x%3 @%4: ").arg(animation.name()).arg(size.width()).arg(size.height()).arg(animation.delay())
+        + frames.join(" | ");
 }
 
 } // namespace
@@ -100,22 +98,20 @@ private slots:
     {
         QTest::addColumn<int>("bits");
         QTest::addColumn<Options>("options");
-        QTest::addColumn<int>("clear");
-        QTest::newRow("indices") << 8 << Options() << 2;
-        QTest::newRow("indices in four bits") << 8 << Options{{"depth", "4"}} << 2;
-        QTest::newRow("colours") << 32 << Options() << -1;
-        QTest::newRow("colours in four bits") << 32 << Options{{"depth", "4"}} << -1;
+        for (const int bits : {8, 32}) { // indices, and colours
+            QTest::addRow("%d bits", bits) << bits << Options();
+            QTest::addRow("%d bits in four", bits) << bits << Options{{"depth", "4"}};
+        }
     }
 
     void framesBecomeSprites()
     {
         QFETCH(int, bits);
         QFETCH(Options, options);
-        QFETCH(int, clear);
         Project project;
         const IncomingAssets incoming = prepared(project, "walk.aseprite", walk(bits), "aseprite-sprites", options);
         QVERIFY(incoming.sprites && incoming.palette);
-        QCOMPARE(incoming.remarks, QStringList(QString::fromUtf8("“swing” is repeated for ever")));
+        QCOMPARE(incoming.remarks, QStringList("“swing” is repeated for ever"));
         const ImportChoices choices{.kind = "aseprite-sprites", .name = "Hero"};
         // three sprites, and four animations of up to six frames of 2 × 1 sprites below them
         const QImage preview = previewOf(project, incoming, choices);
@@ -128,32 +124,21 @@ private slots:
         QCOMPARE(bank->palette(), palette);
         QCOMPARE(bank->depth(), options.isEmpty() ? Quenmora::EightBit : Quenmora::FourBit);
         QCOMPARE(bank->count(), 3); // the first frame, and the right half of the last one
-        if (clear >= 0) {
-            QCOMPARE(bank->clearPixels().pixel(), clear);
-            QCOMPARE(palette->rawColour(1), RedWord);
-            QCOMPARE(palette->rawColour(3), GreyWord);
-            QCOMPARE(palette->rawColour(4), BlueWord);
+        if (bits == 8) { // which stay where they are
+            QCOMPARE(bank->clearPixels().pixel(), 2);
+            QCOMPARE((QList{palette->rawColour(1), palette->rawColour(3), palette->rawColour(4)}),
+                     (QList{RedWord, GreyWord, BlueWord}));
         }
         QCOMPARE(palette->transparencyIndex(), bank->clearPixels().pixel());
 
         // what is seen is the frame, in its colours
-        const QImage first = bank->renderSprite(0, 0, false, false, false);
-        QCOMPARE(qAlpha(first.pixel(7, 0)), 0);
-        QCOMPARE(first.pixel(8, 15), 0xFFFF0000);
-        const QImage second = bank->renderSprite(1, 0, false, false, false);
-        QCOMPARE(second.pixel(7, 15), 0xFFDBDBDB);
-        QCOMPARE(qAlpha(second.pixel(8, 15)), 0);
-        QCOMPARE(bank->renderSprite(2, 0, false, false, false).pixel(7, 15), 0xFF000049);
-
-        QStringList animations;
-        for (const auto &animation : bank->animations())
-            animations.append(QStringLiteral("%1 %2x%3 @%4: %5")
-                                  .arg(animation->name())
-                                  .arg(animation->size().width())
-                                  .arg(animation->size().height())
-                                  .arg(animation->delay())
-                                  .arg(cellsOf(*animation)));
-        QCOMPARE(animations,
+        const auto seen = [&bank](int sprite, int x) {
+            const QRgb pixel = bank->renderSprite(sprite, 0, false, false, false).pixel(x, 15);
+            return qAlpha(pixel) ? pixel : 0;
+        };
+        QCOMPARE((QList{seen(0, 7), seen(0, 8), seen(1, 7), seen(1, 8), seen(2, 7)}),
+                 (QList<QRgb>{0, 0xFFFF0000, 0xFFDBDBDB, 0, 0xFF000049}));
+        QCOMPARE(valuesOf(bank->animations(), [](const auto &animation) { return textOf(*animation); }),
                  (QStringList{"run 2x1 @5: 0 1 | 0 1 | 0 1", "back 2x1 @5: 0 2 | 0 1 | 0 1 | 0 1",
                               "swing 2x1 @5: 0 1 | 0 1 | 0 1 | 0 2 | 0 1 | 0 1", "stand 2x1 @0: 0 2"}));
     }
@@ -232,8 +217,8 @@ private slots:
         QVERIFY(incoming && !incoming->remarks.filter("animations are left out").isEmpty());
         QVERIFY(addTo(project, *incoming, choices, {}));
         QCOMPARE(bank->count(), 1 + 3);
-        QCOMPARE(bank->spriteImage(1, false, false, false).pixelIndex(0, 0), 7); // clear
-        QCOMPARE(bank->spriteImage(1, false, false, false).pixelIndex(8, 0), 5);
+        const QImage first = bank->spriteImage(1, false, false, false);
+        QCOMPARE((QList{first.pixelIndex(0, 0), first.pixelIndex(8, 0)}), (QList{7, 5})); // the one is clear
         QCOMPARE(project.palettes().size(), 1);
         QVERIFY(bank->animations().isEmpty());
     }
@@ -242,16 +227,13 @@ private slots:
     {
         Project project;
         const IncomingAssets tiles = prepared(project, "walk.ase", walk(8), "aseprite-tiles");
-        QCOMPARE(tiles.map->rows.size(), 2);
-        QCOMPARE(tiles.map->rows[0].size(), 3);
+        QCOMPARE(valuesOf(tiles.map->rows, &TileMap::Row::size), (QList<qsizetype>{3, 3}));
         QCOMPARE(tiles.tiles->tiles.size(), 3); // clear, red, and with a grey corner
         QVERIFY(!prepared(project, "walk.ase", walk(8), "aseprite-tiles", {{"frames", "all"}}).map);
         const IncomingAssets image = prepared(project, "walk.ase", walk(8), "aseprite-image");
         QCOMPARE(image.image->mode, Quenmora::LoRes_128x96);
-        QCOMPARE(int(uchar(image.image->pixels[40 * 128 + 52])), 2); // 24 × 16 in the middle
-        QCOMPARE(int(uchar(image.image->pixels[40 * 128 + 60])), 1);
-        QCOMPARE(int(uchar(image.image->pixels[55 * 128 + 75])), 3);
-        QCOMPARE(int(uchar(image.image->pixels[55 * 128 + 76])), 2);
+        const auto at = [&image](int x, int y) { return int(uchar(image.image->pixels[y * 128 + x])); };
+        QCOMPARE((QList{at(52, 40), at(60, 40), at(75, 55), at(76, 55)}), (QList{2, 1, 3, 2})); // in the middle
         QCOMPARE(image.palette->words.mid(0, 2), (QList<quint16>{0, RedWord}));
         QCOMPARE(image.remarks, QStringList("Frames that are left out: 2"));
     }
@@ -284,20 +266,17 @@ private slots:
         QCOMPARE(own.remarks, QStringList());
         const auto added = addTo(project, own, {.kind = "picture-image", .name = "Title"}, {});
         const QImage image = project.image(added->image)->image();
-        QCOMPARE(image.pixelIndex(3, 0), project.palette(added->palette)->transparencyIndex());
-        QCOMPARE(image.pixel(4, 0), 0xFFFF0000);
-        QCOMPARE(image.pixel(5, 0), 0xFFDBDBDB);
-        const IncomingAssets small =
-            prepared(project, "title.png", bytes, "picture-image", {{"mode", "lores"}}, added->palette);
+        const QPointer<Palette> palette = project.palette(added->palette);
+        QCOMPARE(image.pixelIndex(3, 0), palette->transparencyIndex());
+        QCOMPARE((QList{image.pixel(4, 0), image.pixel(5, 0)}), (QList<QRgb>{0xFFFF0000, 0xFFDBDBDB}));
+        Options options{{"mode", "lores"}};
+        const IncomingAssets small = prepared(project, "title.png", bytes, "picture-image", options, palette->id());
         QVERIFY(!small.palette);
         QCOMPARE(small.image->pixels.indexOf(small.image->pixels[5]), 5);
-        QCOMPARE(project.palette(added->palette)->rawColour(uchar(small.image->pixels[5])), RedWord);
-        QCOMPARE(small.remarks,
-                 QStringList(QString::fromUtf8("The picture has 256 × 192 pixels, and what does not fit "
-                                               "is cut off")));
-        QCOMPARE(prepared(project, "title.png", bytes, "picture-image", {{"mode", "lores"}, {"scale", "true"}})
-                     .remarks.size(),
-                 1);
+        QCOMPARE(palette->rawColour(uchar(small.image->pixels[5])), RedWord);
+        QCOMPARE(small.remarks, QStringList("The picture has 256 × 192 pixels, and what does not fit is cut off"));
+        options.insert("scale", "true");
+        QCOMPARE(prepared(project, "title.png", bytes, "picture-image", options).remarks.size(), 1);
     }
 
     /// A damaged file becomes assets, or a message; a second and 256 MiB are what any file may take.
