@@ -32,7 +32,7 @@ class TestTiledMaps : public QObject
 
     /// Three tiles of 16 × 16 pixels: of one colour, of several, of which one piece is another one turned, and one that
     /// is animated. The map shows the second one in all orientations, nothing, and the third one; and what it has for
-    /// sprites.
+    /// sprites, among it a tile as large as all three.
     static std::pair<QImage, QByteArray> tiledMap()
     {
         const QImage sheet = pictureOf({48, 16}, QImage::Format_RGB32, [](int i) {
@@ -50,18 +50,20 @@ class TestTiledMaps : public QObject
         gids.append({"0", "3"});
         for (int cell = 0; cell < 10; ++cell)
             gids.append("1");
-        const QByteArray text =
-            tmx("<tileset firstgid='1' name='set' tilewidth='8' tileheight='8' tilecount='3' columns='3'>"
-                "<image source='sheet.png'/><tile id='2'><animation><frame tileid='0' duration='100'/>"
-                "<frame tileid='1' duration='200'/></animation></tile></tileset>\n"
-                "<layer name='ground' width='10' height='2'><data encoding='csv'>"
-                    + gids.join(',')
-                    + "</data></layer>\n<objectgroup name='things'>"
-                      "<object name='bat' gid='2147483650' x='40' y='20' width='16' height='16'/>"
-                      "<object gid='2' x='0' y='16' width='16' height='16'/>"
-                      "<object gid='2' x='0' y='16' width='32' height='16'/>"
-                      "<object x='0' y='16' width='32' height='16'/></objectgroup>",
-                "width='10' height='2'");
+        const QByteArray text = tmx(
+            "<tileset firstgid='1' name='set' tilewidth='8' tileheight='8' tilecount='3' columns='3'>"
+            "<image source='sheet.png'/><tile id='2'><animation><frame tileid='0' duration='100'/>"
+            "<frame tileid='1' duration='200'/></animation></tile></tileset>\n"
+            "<tileset firstgid='4' tilewidth='48' tileheight='8' tilecount='1'><image source='sheet.png'/></tileset>"
+            "<layer name='ground' width='10' height='2'><data encoding='csv'>"
+                + gids.join(',')
+                + "</data></layer>\n<objectgroup name='things'>"
+                  "<object name='bat' gid='2147483650' x='40' y='20' width='16' height='16'/>"
+                  "<object gid='2' x='0' y='16' width='16' height='16'/>"
+                  "<object gid='4' x='96' y='16' width='48' height='16'/>"
+                  "<object gid='2' x='0' y='16' width='32' height='16'/>"
+                  "<object x='0' y='16' width='32' height='16'/></objectgroup>",
+            "width='10' height='2'");
         return {sheet, QByteArray(text).replace("='8'", "='16'")};
     }
 
@@ -91,17 +93,15 @@ private slots:
         }
         QCOMPARE(map->tileLayer()->cellAt({16, 0}), TileMap::TileData()); // empty
         QCOMPARE(map->tileLayer()->cellAt({18, 0}).index, 0); // below an animation
-        const auto blank = project.tileSet(added->tileSet)->tile(0)->pixels();
-        QVERIFY(std::all_of(blank.cbegin(), blank.cend(),
-                            [&map](uchar pixel) { return pixel == map->tileTransparencyIndex(); }));
+        QCOMPARE(indices(project.tileSet(added->tileSet)->image(0)),
+                 QByteArray(64, char(map->tileTransparencyIndex()))); // which is blank
 
         // animations of tiles
         const auto blocks = project.blocks(added->blocks);
         QCOMPARE(blocks->animations().size(), 1);
         const auto animation = blocks->animations().constFirst();
         QCOMPARE(animation->size(), QSize(2, 2));
-        QCOMPARE(animation->delay(), 5);
-        QCOMPARE(animation->frameCount(), 3); // the second one for twice as long
+        QCOMPARE(std::pair(animation->delay(), animation->frameCount()), std::pair(5, 3)); // the last one is held
         QCOMPARE(animation->frame(1)->cells(), animation->frame(2)->cells());
         QCOMPARE(map->animatedBlocks()->areas(), (QHash<QRect, QUuid>{{QRect(18, 0, 2, 2), animation->id()}}));
         const AnimationFrame::Cell corner = animation->frame(1)->cell(0, 0); // of the first tile of the map
@@ -115,14 +115,13 @@ private slots:
         QCOMPARE(preview.pixel(40 + 12, 4 + 13), sheet.pixel(16 + 3, 13)); // mirrored
 
         // objects
-        QCOMPARE(map->sprites().size(), 2);
         const Map::PlacedSprite &bat = map->sprites()[0];
-        QCOMPARE(bat.name, "bat");
-        QCOMPARE(QPoint(bat.x, bat.y), QPoint(40, 4)); // its lower left corner is at 40, 20
-        QVERIFY(bat.mirror && !bat.flip && !bat.rotate && bat.bank == added->sprites);
+        QVERIFY(bat.name == "bat" && bat.mirror && !bat.flip && !bat.rotate && bat.bank == added->sprites);
         const auto bank = project.spriteBank(added->sprites);
         QCOMPARE(bank->renderSprite(bat.sprite, 0, false, false, false).pixel(3, 2), sheet.pixel(16 + 3, 2));
-        QCOMPARE(map->sprites()[1].sprite, bat.sprite); // equal ones are there once
+        QCOMPARE(valuesOf(map->sprites(), [](const auto &sprite) { return QPoint(sprite.x, sprite.y); }),
+                 (QList<QPoint>{{40, 4}, {0, 0}, {96, 0}, {112, 0}, {128, 0}})); // by the upper left corner
+        QCOMPARE(valuesOf(map->sprites(), &Map::PlacedSprite::sprite), (QList{0, 0, 1, 0, 2})); // equal ones once
         QVERIFY(incoming->remarks.contains(
             "Objects that are no sprites, turned, scaled, hidden or too large, and are left out: 2"));
     }
@@ -134,7 +133,7 @@ private slots:
         const auto [sheet, text] = tiledMap();
         QVERIFY(sheet.save(m_path("sheet.png")));
         const qsizetype first = text.indexOf("<tileset");
-        const auto incoming = prepared(project, text.sliced(first, text.indexOf("<layer") - first));
+        const auto incoming = prepared(project, text.sliced(first, text.indexOf("<tileset", first + 1) - first));
         QVERIFY2(incoming && !incoming->map, qPrintable(incoming.reason()));
         const auto added = addTo(project, *incoming, {.kind = "tiled-tiles", .name = "Set"}, {});
         const auto tiles = project.tileSet(added->tileSet);
