@@ -66,13 +66,17 @@ inline bool drop(QWidget &widget, QPoint from, QPoint to, const QMimeData &data,
     return dropFromElsewhere(widget, to, data, modifiers, over);
 }
 
-/// The wheel turned by delta (120 a notch) with Ctrl held, over the middle of a widget.
+/// The wheel turned by delta (120 a notch) over a point of a widget.
+inline void turnWheel(QWidget &widget, QPointF at, QPoint delta, Qt::KeyboardModifiers modifiers = {})
+{
+    QWheelEvent event(at, widget.mapToGlobal(at), {}, delta, Qt::NoButton, modifiers, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&widget, &event);
+}
+
+/// The same with Ctrl held, over the middle.
 inline void zoomByWheel(QWidget &widget, int delta)
 {
-    const QPointF middle = widget.rect().center();
-    QWheelEvent event(middle, widget.mapToGlobal(middle), {}, {0, delta}, Qt::NoButton, Qt::ControlModifier,
-                      Qt::NoScrollPhase, false);
-    QApplication::sendEvent(&widget, &event);
+    turnWheel(widget, widget.rect().center(), {0, delta}, Qt::ControlModifier);
 }
 
 } // namespace EditorInput

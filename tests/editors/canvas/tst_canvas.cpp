@@ -1,5 +1,7 @@
 #include "editors/canvas/canvas.h"
 #include "editors/canvas/canvasclipboard.h"
+#include "editors/canvas/canvasgeometry.h"
+#include "editors/canvas/canvasselection.h"
 #include "editors/canvas/scrollcanvas.h"
 
 #include "support/canvasmouse.h"
@@ -42,6 +44,15 @@ struct Fixture : EditorInput::CanvasScene
     QColor shown(QPoint pixel) { return canvas.grab().toImage().pixelColor(mouse.centreOf(pixel)); }
 };
 
+CanvasGeometry fitted(int zoom, bool tall, QSize widget)
+{
+    CanvasGeometry geometry;
+    geometry.zoom = zoom;
+    geometry.tallPixels = tall;
+    geometry.layout(widget, ImageSize);
+    return geometry;
+}
+
 } // namespace
 
 class TestCanvas : public QObject
@@ -49,6 +60,32 @@ class TestCanvas : public QObject
     Q_OBJECT
 
 private slots:
+    void geometryFitsTheImage()
+    {
+        QCOMPARE(fitted(16, false, {400, 100}).imageRect, QRect(72, 2, 256, 96));
+        const CanvasGeometry tall = fitted(8, true, {256, 192});
+        QCOMPARE(tall.imageRect, QRect(64, 0, 128, 192));
+        QCOMPARE(tall.pixelAt({64 + 127, 17}), QPoint(15, 1));
+        QCOMPARE(tall.rectOf({3, 2, 4, 5}), QRect(64 + 24, 32, 32, 80));
+    }
+
+    void selectionSnapsToPixels()
+    {
+        CanvasGeometry geometry = fitted(16, false, {256, 96}); // half of it is visible
+        geometry.scroll = {0, 6};
+        for (const auto &[from, to, band, pixels] :
+             {std::tuple(QPoint(70, 70), QPoint(40, 20), QRect(32, 16, 33, 49), QRect(2, 7, 2, 3)),
+              {{40, 20}, {47, 31}, {32, 16, 1, 1}, {}}, // a click
+              {{-50, -50}, {500, 500}, {0, 0, 256, 96}, {0, 6, 16, 6}}}) {
+            CanvasSelection selection;
+            selection.setAnchor(from);
+            QCOMPARE(selection.extendTo(to, geometry, QRect(QPoint(), ImageSize)), band);
+            QCOMPARE(selection.pixels(), pixels);
+            selection.clipTo({0, 0, 3, 8}); // another image
+            QVERIFY(QRect(0, 0, 3, 8).contains(selection.pixels()) || selection.pixels().isEmpty());
+        }
+    }
+
     void zoomAndScrollStayInBounds()
     {
         Fixture f;
@@ -60,6 +97,9 @@ private slots:
             QTest::keyClick(&f.canvas, Qt::Key_Down);
         QTest::keyClick(&f.canvas, Qt::Key_Up, Qt::ControlModifier);
         QCOMPARE(geometry.scroll, QPoint(0, 6));
+        EditorInput::turnWheel(f.canvas, {200, 50}, {0, 120});
+        EditorInput::turnWheel(f.canvas, {10, 50}, {0, 120}); // beside the image
+        QCOMPARE(geometry.scroll, QPoint(0, 4));
         f.canvas.resize(256, 192);
         QCOMPARE(geometry.scroll, QPoint(0, 0));
         for (const auto &[level, action, zoom] : {std::tuple(63, ZoomIn, 64), {2, ZoomOut, 1}}) {
@@ -150,6 +190,10 @@ private slots:
         log.listen(f.canvas, &Canvas::backgroundPicked, "back");
         f.canvas.setInk(200);
         f.run({RectangleFill, {{1, 1}, {3, 3}}});
+        QSignalSpy hovered(&f.canvas, &Canvas::pixelHovered);
+        f.mouse.move({2, 2});
+        f.mouse.move({-3, 2});
+        QCOMPARE(hovered, (QList<QVariantList>{{QPoint(2, 2), 200}, {CanvasPointer::Nowhere, -1}}));
         f.canvas.setInk(1);
         for (const auto &[pixel, button] :
              {std::pair(QPoint(3, 3), Qt::RightButton), {{3, 3}, Qt::LeftButton}, {{-3, 3}, Qt::LeftButton}})

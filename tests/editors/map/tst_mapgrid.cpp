@@ -72,9 +72,7 @@ private slots:
               {{0, -120}, Qt::ControlModifier, {1, 0}, 5}}) {
             f.move(f.at(1, 1));
             const int before = int(positions.size());
-            QWheelEvent event(f.at(3, 3), f.grid.mapToGlobal(f.at(3, 3)), {}, delta, Qt::NoButton, modifiers,
-                              Qt::NoScrollPhase, false);
-            QApplication::sendEvent(&f.grid, &event);
+            EditorInput::turnWheel(f.grid, f.at(3, 3), delta, modifiers);
             QCOMPARE(f.grid.viewport().scroll, scroll);
             QCOMPARE(positions.size(), told);
             QCOMPARE(f.grid.pointer().hasCell(), told == before);
