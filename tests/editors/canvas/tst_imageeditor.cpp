@@ -9,9 +9,25 @@
 #include "support/platform.h"
 
 #include <QCheckBox>
+
 using namespace PixelScenes;
 using namespace Quenmora::Ui;
 using ImageEditor::View;
+
+namespace {
+
+/// Imports a picture, as the boxes of the dialog are ticked.
+template <typename Tick>
+void importPicture(const ImageScene &scene, const QImage &picture, Tick tick)
+{
+    QVERIFY(picture.save(scene.file("in.png")));
+    scene.choose(Open, "in.png");
+    auto *dialog = scene.view->findChild<ImageEditor::ImportDialog *>();
+    tick(dialog->findChildren<QCheckBox *>());
+    dialog->accept();
+}
+
+} // namespace
 
 class TestImageEditor : public QObject
 {
@@ -77,16 +93,9 @@ private slots:
 
     void imageImportsMapOntoThePalette()
     {
-        const struct
-        {
-            Quenmora::ImageMode mode;
-            bool scaled;
-            int corner, farCorner;
-        } cases[] = {
-            {Quenmora::LoRes_128x96, false, 0xE0, 5},
-            {Quenmora::Layer2_640x256, true, 0, 0}, // black comes nearest to red among the first 16 entries
-        };
-        for (const auto &[mode, scaled, corner, farCorner] : cases) {
+        for (const auto &[mode, scaled, corner, farCorner] :
+             {std::tuple(Quenmora::LoRes_128x96, false, 0xE0, 5),
+              {Quenmora::Layer2_640x256, true, 0, 0}}) { // black comes nearest to red among the first 16 entries
             ImageScene scene(mode);
             QSignalSpy errors(scene.view.get(), &View::error);
             QVERIFY(writeFile(scene.file("nonsense.png"), "not a picture"));
@@ -95,11 +104,8 @@ private slots:
             const QSize size = scene.stored(0).size();
             scene.images[0]->setImage(plainImage(size, 5));
             scene.show(0);
-            QVERIFY(plainPicture({40, 30}, Qt::red).save(scene.file("in.png")));
-            scene.choose(Open, "in.png");
-            auto *dialog = scene.view->findChild<ImageEditor::ImportDialog *>();
-            dialog->findChild<QCheckBox *>()->setChecked(scaled);
-            dialog->accept();
+            importPicture(scene, plainPicture({40, 30}, Qt::red),
+                          [scaled = scaled](const auto &boxes) { boxes[0]->setChecked(scaled); });
             QCOMPARE(scene.at(0, 0), corner);
             QCOMPARE(scene.stored(0).pixelIndex(size.width() - 1, size.height() - 1), farCorner);
             scene.stack.undo();
@@ -113,15 +119,12 @@ private slots:
         scene.show(0);
         QImage picture = plainPicture({2, 1}, Qt::black);
         picture.setPixel(1, 0, qRgb(255, 255, 255));
-        QVERIFY(picture.save(scene.file("in.png")));
         for (const bool keep : {true, false}) {
-            scene.choose(Open, "in.png");
-            auto *dialog = scene.view->findChild<ImageEditor::ImportDialog *>();
-            const QList<QCheckBox *> boxes = dialog->findChildren<QCheckBox *>();
-            boxes[0]->setChecked(true); // scaled
-            QVERIFY(boxes[1]->isChecked()); // by itself
-            boxes[1]->setChecked(keep);
-            dialog->accept();
+            importPicture(scene, picture, [keep](const auto &boxes) {
+                boxes[0]->setChecked(true); // scaled
+                QVERIFY(boxes[1]->isChecked()); // by itself
+                boxes[1]->setChecked(keep);
+            });
             QSet<int> entries;
             for (int x = 0; x < 128; ++x)
                 entries.insert(scene.stored(0).pixelIndex(x, 0));
@@ -132,69 +135,53 @@ private slots:
         picture = plainPicture({2, 1}, Qt::black).convertToFormat(QImage::Format_ARGB32);
         picture.setPixel(1, 0, 0);
         for (const bool keep : {true, false}) {
-            QVERIFY(picture.save(scene.file("in.png")));
             scene.images[0]->setImage(plainImage({128, 96}, 5));
             scene.show(0);
-            scene.choose(Open, "in.png");
-            auto *dialog = scene.view->findChild<ImageEditor::ImportDialog *>();
-            QVERIFY(dialog->findChildren<QCheckBox *>()[2]->isChecked());
-            for (QCheckBox *box : dialog->findChildren<QCheckBox *>())
-                box->setChecked(keep && box->text() != "Scale to fill the image");
-            dialog->accept();
+            importPicture(scene, picture, [keep](const auto &boxes) {
+                QVERIFY(boxes[2]->isChecked());
+                for (QCheckBox *box : boxes)
+                    box->setChecked(keep && box->text() != "Scale to fill the image");
+            });
             QCOMPARE(scene.stored(0).pixelIndex(0, 0) != 0, keep);
             QCOMPARE(scene.stored(0).pixelIndex(1, 0), 0);
         }
     }
 
-    void imageImportsMayBringTheirPalette_data()
-    {
-        QTest::addColumn<Quenmora::ImageMode>("mode");
-        QTest::addColumn<int>("colours");
-        QTest::newRow("256 colours") << Quenmora::Layer2_256x192 << 255;
-        QTest::newRow("16 colours") << Quenmora::Layer2_640x256 << 15;
-    }
-
     void imageImportsMayBringTheirPalette()
     {
-        QFETCH(Quenmora::ImageMode, mode);
-        QFETCH(int, colours);
-        ImageScene scene(mode);
-        Project project;
-        const QPointer<Palette> blank = project.createPalette(CreateAction::Blank, "in");
-        const QPointer<Image> image = project.createImage(mode, "Title", blank->id());
-        image->setImage(plainImage(Image::sizeOf(mode), 5));
-        scene.view->setImage(image);
-        QImage picture(64, 64, QImage::Format_ARGB32);
-        for (int i = 0; i < 64 * 64; ++i)
-            picture.setPixel(i % 64, i / 64, i < 64 ? 0 : NineBitColour::shown(i % 512));
-        QVERIFY(picture.save(scene.file("in.png")));
-        scene.choose(Open, "in.png");
-        auto *dialog = scene.view->findChild<ImageEditor::ImportDialog *>();
-        dialog->findChildren<QCheckBox *>()[3]->setChecked(true);
-        dialog->accept();
-        const QPointer<Palette> made = image->palette();
-        QVERIFY(made && made != blank && made->name() == "in 2");
-        QSet<int> used;
-        for (int i = 0; i < 64 * 64; ++i) {
-            const int index = image->image().pixelIndex(i % 64, i / 64);
-            QCOMPARE(index == made->transparencyIndex(), i < 64);
-            if (i >= 64)
-                used.insert(made->rawColour(index));
+        for (const auto &[mode, colours] : {std::pair(Quenmora::Layer2_256x192, 255), {Quenmora::Layer2_640x256, 15}}) {
+            ImageScene scene(mode);
+            Project project;
+            const QPointer<Palette> blank = project.createPalette(CreateAction::Blank, "in");
+            const QPointer<Image> image = project.createImage(mode, "Title", blank->id());
+            image->setImage(plainImage(Image::sizeOf(mode), 5));
+            scene.view->setImage(image);
+            const QImage picture = pictureOf({64, 64}, QImage::Format_ARGB32,
+                                             [](int i) { return i < 64 ? 0 : NineBitColour::shown(i % 512); });
+            importPicture(scene, picture, [](const auto &boxes) { boxes[3]->setChecked(true); });
+            const QPointer<Palette> made = image->palette();
+            QVERIFY(made && made != blank && made->name() == "in 2");
+            QSet<int> used;
+            for (int i = 0; i < 64 * 64; ++i) {
+                const int index = image->image().pixelIndex(i % 64, i / 64);
+                QCOMPARE(index == made->transparencyIndex(), i < 64);
+                if (i >= 64)
+                    used.insert(made->rawColour(index));
+            }
+            QCOMPARE(used.size(), colours);
+            QCOMPARE(image->image().pixelIndex(64, 64), 5);
+            QCOMPARE(scene.stack.count(), 1);
+            scene.stack.undo();
+            QVERIFY(image->palette() == blank && image->image().pixelIndex(3, 3) == 5);
+            scene.stack.redo();
+            QVERIFY(image->palette() == made && image->image().pixelIndex(3, 3) != 5);
+            // fewer colours of the palette that is there
+            QSignalSpy swapped(scene.view.get(), &View::paletteSwapped);
+            importPicture(scene, picture, [&scene](const auto &) {
+                scene.view->findChild<ReductionBox *>()->setReduction(Dithering::Ordered);
+            });
+            QVERIFY(scene.stack.count() == 2 && swapped.isEmpty());
         }
-        QCOMPARE(used.size(), colours);
-        QCOMPARE(image->image().pixelIndex(64, 64), 5);
-        QCOMPARE(scene.stack.count(), 1);
-        scene.stack.undo();
-        QVERIFY(image->palette() == blank && image->image().pixelIndex(3, 3) == 5);
-        scene.stack.redo();
-        QVERIFY(image->palette() == made && image->image().pixelIndex(3, 3) != 5);
-        // fewer colours of the palette that is there
-        QSignalSpy swapped(scene.view.get(), &View::paletteSwapped);
-        scene.choose(Open, "in.png");
-        dialog->findChild<ReductionBox *>()->setReduction(Dithering::Ordered);
-        dialog->accept();
-        QCOMPARE(scene.stack.count(), 2);
-        QCOMPARE(swapped.size(), 0);
     }
 };
 
