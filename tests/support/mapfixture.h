@@ -156,11 +156,3 @@ struct MapViewFixture : MapAssets
         QTest::mouseClick(grid, Qt::LeftButton, {}, grid->spriteRect(0).center());
     }
 };
-
-/// The spin boxes inside a widget that have a tool tip.
-inline QList<QSpinBox *> spinBoxes(const QWidget &parent, const QString &toolTip)
-{
-    QList<QSpinBox *> found = parent.findChildren<QSpinBox *>();
-    found.removeIf([&toolTip](const QSpinBox *box) { return box->toolTip() != toolTip; });
-    return found;
-}

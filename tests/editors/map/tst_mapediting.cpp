@@ -1,14 +1,17 @@
-#include "editors/map/mapediting.h"
+// A map that is edited and played without a widget.
 
+#include "editors/map/mapanimator.h"
+#include "editors/map/mapediting.h"
 #include "support/mapfixture.h"
 #include "support/testmain.h"
+
+#include <QTimer>
 
 using namespace Quenmora;
 using MapEditor::MapEditing;
 
 namespace {
 
-/// The map as it is edited without a widget.
 struct Fixture : MapAssets
 {
     MapEditor::MapContent content;
@@ -23,6 +26,25 @@ struct Fixture : MapAssets
     }
     int index(int x, int y) const { return tile(x, y).index; }
     void write(int index) { map->setTile({0, 0}, {.index = index, .used = true}); }
+};
+
+/// The map with the animation at (3, 4).
+struct Played : MapAssets
+{
+    MapEditor::MapAnimator animator;
+
+    explicit Played(int delay)
+    {
+        animation->setDelay(delay);
+        map->placeAnimation(animation, {3, 4});
+        animator.setMap(map);
+    }
+
+    void tick(int times = 1)
+    {
+        for (int i = 0; i < times; ++i)
+            animator.tick();
+    }
 };
 
 } // namespace
@@ -123,6 +145,49 @@ private slots:
         f.editing.selectSprite(1);
         f.stack.redo();
         QCOMPARE(selected, (Signals{{1}, {-1}, {1}, {-1}})); // it is gone
+    }
+
+    void animatorTellsOnlyWhatChanged()
+    {
+        Played f(2);
+        QCOMPARE(f.animator.findChild<QTimer *>()->interval(), 20);
+        QSignalSpy advanced(&f.animator, &MapEditor::MapAnimator::framesAdvanced);
+        f.tick(); // frame 0, which is there already
+        QVERIFY(f.animator.changedAreas().isEmpty());
+        f.tick(); // nothing is due
+        QCOMPARE(advanced.count(), 1);
+        f.tick();
+        QCOMPARE(advanced.count(), 2);
+        QCOMPARE(f.animator.changedAreas(), (QList<QRect>{{3, 4, 3, 2}}));
+        QVERIFY(f.map->removeAnimationAt({3, 4, 3, 2}));
+        f.tick(2);
+        QCOMPARE(advanced.count(), 2);
+        f.map->addSprite({}); // which may be animated
+        f.tick();
+        QCOMPARE(advanced.count(), 3);
+    }
+
+    void animatorShowsAFrameEachDelay()
+    {
+        // the tile shown after each tick; the first tick shows the frame that is there
+        for (const auto &[delay, shown] :
+             {std::pair(0, QList{5, 5, 5}), {1, QList{5, 6, 5}}, {5, QList{5, 5, 5, 5, 5, 6, 6, 6, 6, 6, 5}}}) {
+            Played f(delay);
+            f.map->placeAnimation(f.animation, {10, 4});
+            const QPointer<MapObjects> others = f.project.createBlockList("Others", f.tiles->id());
+            const QPointer<TileAnimation> water = others->createBoundTileAnimation("Water");
+            water->addFrame();
+            water->addFrame()->setIndex(0, 0, 2);
+            water->setDelay(2);
+            f.map->placeAnimation(water, {0, 0});
+            for (int i = 0; i < shown.size(); ++i) {
+                QCOMPARE(f.animator.ticks(), quint64(i));
+                f.tick();
+                QCOMPARE(f.object(3, 4).index, shown.at(i));
+                QCOMPARE(f.object(12, 5).index, shown.at(i)); // every placement
+                QCOMPARE(f.object(0, 0).index, i / 2 % 2 * 2); // of every block set
+            }
+        }
     }
 };
 
