@@ -8,6 +8,7 @@
 #include "support/randomproject.h"
 #include "support/testmain.h"
 #include "undo/editrecorder.h"
+#include "undo/paletteorder.h"
 
 #include <QtGui>
 #include <QtTest>
@@ -325,6 +326,9 @@ private slots:
         QCOMPARE(alone->rawColour(0) != 0, ids[target] == images[1]->id());
         QCOMPARE(stack.count(), 1);
         QVERIFY(stack.text(0).startsWith("Import "));
+        const QRect inside({}, random.map->size() * Tile::Size); // without what was placed elsewhere
+        for (const Map::PlacedSprite &sprite : random.map->sprites())
+            QVERIFY(!kind.startsWith("map-2byte") || inside.contains(sprite.x, sprite.y));
         stack.undo();
         QCOMPARE(all(), before);
         stack.redo();
@@ -334,11 +338,15 @@ private slots:
 
     void refuses()
     {
-        const auto refuses = [this](const QString &reason, const ImportChoices &choices, const QByteArray &bytes) {
-            Project project;
+        Project project;
+        const QUuid palette = project.createPalette(CreateAction::Blank, "Palette")->id();
+        const QUuid tiles = project.createTileSet("Tiles", palette, 4)->id();
+        const QUuid bank = project.createSpriteBank(Quenmora::FourBit, "Bank", palette)->id();
+        const QUuid image = project.createImage(Quenmora::LoRes_128x96, "Title", palette)->id();
+        const auto refuses = [&](const QString &reason, const ImportChoices &choices, const QByteArray &bytes) {
             const auto incoming = prepare(project, file("file.bin", bytes), choices);
             QCOMPARE(incoming ? addTo(project, *incoming, choices, {}).reason() : incoming.reason(), reason);
-            QVERIFY(Source::all(project).isEmpty());
+            QCOMPARE(Source::all(project).size(), 4);
         };
         refuses("“tape” is no kind of file that is read here", {.kind = "tape"}, "1");
         refuses("There is no option “ink”, only ", {.kind = "palette", .options = {{"ink", "1"}}}, "1");
@@ -356,6 +364,41 @@ private slots:
                 placed("0100 0400 0201 0200 0400 0000 0100 0200 02"));
         refuses("The asset into which it goes is not there any more, or is of another kind",
                 {.kind = "palette", .target = QUuid::createUuid()}, noise(512));
+        refuses("“Title” has 128 × 96 pixels, and the picture has 256 × 192", {.kind = "layer2-256", .target = image},
+                noise(49152));
+        refuses("The sprites have indices above 15, and “Bank” is a bank of 4 bits",
+                {.kind = "sprites-8bit", .target = bank}, noise(256));
+        refuses("There is no number 5; the last one is 3", {.kind = "tiles-4bit", .target = tiles, .at = 5}, noise(32));
+        refuses("There is room for 4093, and 4094 come in", {.kind = "tiles-4bit", .target = tiles, .at = 3},
+                noise(4094 * 32));
+    }
+
+    void undoLeavesWhatWasChangedSince()
+    {
+        Project project;
+        QUndoStack stack;
+        const auto palette = project.createPalette(CreateAction::Blank, "Palette");
+        const auto bank = project.createSpriteBank(Quenmora::FourBit, "Bank", palette->id());
+        const auto take = [&](const ImportChoices &choices, const QByteArray &bytes) {
+            const auto incoming = prepare(project, file("file.bin", bytes), choices);
+            QVERIFY(addTo(project, *incoming, choices, [&stack](const QUuid &) { return &stack; }));
+        };
+        take({.kind = "palette", .target = palette->id()}, noise(512));
+        palette->setRawColour(3, 0xE000);
+        stack.undo();
+        QCOMPARE((QList{palette->rawColour(2), palette->rawColour(3)}), (QList<quint16>{0, 0xE000}));
+        ColourCycles::set(*project.extras(), palette->id(), {{11, 12}});
+        take({.kind = "palette-cycles", .target = palette->id()}, QByteArray::fromHex("0210 1F05 0020 23FF 01"));
+        PaletteHistory::of(*palette).add({{11, 12, 21, 22}, {21, 22, 11, 12}}); // on the stack of another document
+        stack.undo();
+        QCOMPARE(ColourCycles::of(*project.extras(), palette->id()), (ColourCycles::List{{21, 22}}));
+        take({.kind = "sprite-animations", .target = bank->id()},
+             QByteArray::fromHex("0100 0400 0201 0200 0400 0000 0100 0200 0208"));
+        bank->animations().constFirst()->setName("Walk");
+        stack.undo();
+        QVERIFY(bank->animations().isEmpty());
+        stack.redo();
+        QCOMPARE(bank->animations().constFirst()->name(), "Walk");
     }
 
     void refusesWhatIsTooLarge()
