@@ -163,7 +163,9 @@ private slots:
         const auto other = f.blocks->createBoundTileAnimation("Lift");
         f.list()->select(other);
         f.setNumbers({{"Width", 7}});
+        f.door->setName("Gate");
         QVERIFY(f.door->size() == QSize(16, 3) && other->size() == QSize(7, 1));
+        QCOMPARE(f.view->title(), "Animation: Lift");
     }
 
     void toolsChangeTheSelectedCell()
@@ -197,7 +199,8 @@ private slots:
         const auto *made = qobject_cast<TileAnimation *>(f.editor()->animation());
         QVERIFY(made->frameCount() == 1 && made->tileSet() == f.tiles);
         QCOMPARE(added.last().first().value<TileAnimation *>(), made);
-        emit f.list()->cloneRequested(f.door);
+        f.list()->select(f.door);
+        f.list()->findChild<QAction *>("animationList.clone")->trigger();
         QCOMPARE(f.view->title(), "Animation: Door (Copy)");
         QCOMPARE(added.count(), 2);
         f.list()->select(f.door);
@@ -235,6 +238,9 @@ private slots:
         QCOMPARE(labels.join(", "),
                  "1 of 3, 2 of 3, 3 of 3, 3 of 3, 2 of 3, 3 of 3, 4 of 4, 3 of 3, 1 of 3, 1 of 2, 1 of 1, 1 of 1");
         QCOMPARE(f.door->frame(0)->cell(0, 0), AnimationFrame::Cell()); // the last one became empty
+        f.press(Control::AddFrame);
+        f.door->deleteFrame(1); // by others
+        QVERIFY(f.label() == "1 of 1" && f.cells()->currentFrame() == 0);
     }
 
     void playsAtTheDelay()
@@ -253,6 +259,8 @@ private slots:
             end();
             QVERIFY(!f.editor()->isPlaying());
         }
+        f.door->setDelay(std::numeric_limits<int>::max()); // as a file may have it
+        QVERIFY(f.editor()->frameInterval() > 0);
     }
 
     void spritesPlayLoopsAndBackAndForth()
@@ -286,7 +294,12 @@ private slots:
         QVERIFY(!watch.after([&f] { f.run->frame(0)->setIndex(0, 0, 3); }).isEmpty());
         QCOMPARE(listed(), f.palette->colour(3));
         f.bank->deleteSprite(0); // sprite 1 is now sprite 0
-        QCOMPARE(f.cells()->grab().toImage().pixelColor(1, 1), f.palette->colour(1));
+        const auto shown = [&f] { return f.cells()->grab().toImage().pixelColor(1, 1); };
+        QCOMPARE(shown(), f.palette->colour(1));
+        f.editor()->findChild<QAction *>("animation.onionSkin")->trigger();
+        QVERIFY(shown() != f.palette->colour(1));
+        f.press(Control::Play); // in which the frame before is not to be seen
+        QCOMPARE(shown(), f.palette->colour(1));
     }
 
     void spritesAreAddedClonedAndDeleted()

@@ -69,6 +69,10 @@ private slots:
         menu.close();
         QCOMPARE(entries, QStringList({"Frame", "Rotated+", "Flipped+", "Mirrored-"}));
         QVERIFY(f.cell(0, 1, 1) == (Cell{7, 3, false, true, false}) && f.cell(0, 1, 0) == Cell());
+        QContextMenuEvent byKey(QContextMenuEvent::Keyboard, {}, {});
+        QApplication::sendEvent(&f.editor, &byKey);
+        QVERIFY(menu.isVisible() && !menu.actions().first()->isChecked());
+        menu.close();
 
         TileAnimation empty;
         f.editor.setAnimation(&empty); // without frames
@@ -103,10 +107,10 @@ private slots:
     {
         Fixture f;
         for (int i = 0; i < 5; ++i) // 4, 8, 16, 32, 64 and no further
-            f.editor.zoomIn();
+            EditorInput::zoomByWheel(f.editor, 120);
         QCOMPARE(f.editor.size(), QSize(3, 2) * 8 * 64);
         for (int i = 0; i < 7; ++i)
-            f.editor.zoomOut();
+            EditorInput::zoomByWheel(f.editor, -120);
         f.editor.setSelectedCell({2, 1});
         f.block->setWidth(2);
         QCOMPARE(f.editor.size(), QSize(16, 16));
@@ -162,7 +166,15 @@ private slots:
         SpriteAnim walk;
         f.editor.setAnimation(&walk);
         QVERIFY(!f.drop(*std::unique_ptr<QMimeData>(TileDrag{1, 0}.toMimeData()), {5, 5}));
-        QVERIFY(f.drop(*std::unique_ptr<QMimeData>(SpriteDrag{12}.toMimeData()), {5, 5}));
+        const auto leave = [&f] {
+            const QImage marked = f.editor.grab().toImage();
+            QDragLeaveEvent event;
+            QApplication::sendEvent(&f.editor, &event);
+            QVERIFY(f.editor.grab().toImage() != marked);
+        };
+        const std::unique_ptr<QMimeData> sprite(SpriteDrag{12}.toMimeData());
+        QVERIFY(!f.drop(*sprite, {5, 5}, leave));
+        QVERIFY(f.drop(*sprite, {5, 5}));
         QCOMPARE(walk.frame(0)->cell(0, 0).index, 12);
     }
 
