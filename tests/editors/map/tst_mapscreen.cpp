@@ -27,12 +27,10 @@ const QRect Pond(27, 24, 3, 1); // into which the grass goes down
 
 QList<QList<int>> block(int first, QSize size)
 {
-    QList<QList<int>> rows;
+    QList<QList<int>> rows(size.height());
     for (int y = 0; y < size.height(); ++y) {
-        QList<int> row;
         for (int x = 0; x < size.width(); ++x)
-            row.append(first + y * Across + x);
-        rows.append(row);
+            rows[y].append(first + y * Across + x);
     }
     return rows;
 }
@@ -85,14 +83,12 @@ public:
     int actions() const { return m_actions; }
     QList<QList<int>> tiles() const
     {
-        QList<QList<int>> tiles;
+        QList<QList<int>> tiles(Screen.height());
         for (int y = 0; y < Screen.height(); ++y) {
-            QList<int> row;
             for (int x = 0; x < Screen.width(); ++x) {
                 const TileMap::TileData cell = m_map->tileLayer()->cellAt({x, y});
-                row.append(cell.used ? cell.index : -1);
+                tiles[y].append(cell.used ? cell.index : -1);
             }
-            tiles.append(row);
         }
         return tiles;
     }
