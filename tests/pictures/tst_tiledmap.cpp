@@ -274,8 +274,8 @@ private slots:
         QCOMPARE(set.picture.pixel(10, 3), 0U); // the transparent colour
         QVERIFY(set.tile(4).isNull());
         QCOMPARE(set.animations.keys(), QList<int>{1});
-        QCOMPARE(set.animations[1].size(), 2);
-        QCOMPARE(std::pair(set.animations[1][1].tile, set.animations[1][1].duration), std::pair(3, 250));
+        QCOMPARE(valuesOf(set.animations[1], &TiledTileSet::Frame::tile), (QList{1, 3}));
+        QCOMPARE(valuesOf(set.animations[1], &TiledTileSet::Frame::duration), (QList{100, 250}));
         QCOMPARE(map->remarks, QStringList{"The tile set “sheet” has animations of tiles that are not there"});
         if (isMap)
             return;

@@ -152,9 +152,7 @@ struct ImageScene : Scene
 
 inline QImage plainPicture(QSize size, QColor colour)
 {
-    QImage picture(size, QImage::Format_RGB32);
-    picture.fill(colour);
-    return picture;
+    return pictureOf(size, QImage::Format_RGB32, [colour](int) { return colour.rgb(); });
 }
 
 } // namespace PixelScenes

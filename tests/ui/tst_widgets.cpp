@@ -169,13 +169,12 @@ private slots:
     void scrollBarButtonsNameTheirEnd()
     {
         ScrollBar bar(Qt::Horizontal);
-        QStringList heard;
-        connect(&bar, &ScrollBar::add, this, [&](Quenmora::Position end) { heard += QString("add %1").arg(end); });
-        connect(&bar, &ScrollBar::remove, this,
-                [&](Quenmora::Position end) { heard += QString("remove %1").arg(end); });
+        SignalLog heard;
+        heard.listen(bar, &ScrollBar::add, "add");
+        heard.listen(bar, &ScrollBar::remove, "remove");
         for (QToolButton *button : bar.findChildren<QToolButton *>()) // from the beginning to the end
             button->click();
-        QCOMPARE(heard, QStringList({"add 0", "remove 0", "remove 1", "add 1"}));
+        QCOMPARE(heard.take(), QStringList({"add 0", "remove 0", "remove 1", "add 1"}));
     }
 
     void checkListTicksByClickAndByKey()
@@ -193,8 +192,6 @@ private slots:
         QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, {row.left() + 8, row.center().y()}); // on the box itself
         QCOMPARE(changed, (QList<QVariantList>{{1, true}, {2, true}, {1, false}}));
     }
-
-    // Dialogs and docks
 
     void dialogStaysOpenUntilItsProblemIsGone()
     {
@@ -232,14 +229,7 @@ private slots:
         QVERIFY(!dialog.isVisible());
     }
 
-    void aboutBoxHoldsTheLicenceOfTheIcons()
-    {
-        QVERIFY(AboutBox().findChild<QPlainTextEdit *>()->toPlainText().startsWith("ISC License"));
-    }
-
-    // Tools
-
-    void fitsIntoLittleRoom()
+    void toolsFitIntoLittleRoom()
     {
         ToolPalette palette;
         ToolPalette bar(Qt::Horizontal);
@@ -264,7 +254,7 @@ private slots:
             verifySeen(bar, {width, bar.heightForWidth(width)});
     }
 
-    void announcesWhatIsDone()
+    void toolsAnnounceWhatIsDone()
     {
         Tools f;
         const auto buttons = f.palette.findChildren<QToolButton *>();
@@ -307,9 +297,7 @@ private slots:
         }
     }
 
-    // Icons
-
-    void everyIconDraws()
+    void everyIconDrawsAndHasItsLicence()
     {
         int seen = 0;
         QDirIterator resources(":/", QDir::Files, QDirIterator::Subdirectories);
@@ -328,9 +316,10 @@ private slots:
         QVERIFY(solidColours(themedIcon(":Application").pixmap(64).toImage()).contains(qRgb(0xf0, 0x38, 0x4a)));
         for (const QString name : {":/FillCursor", ":/PickerCursor"})
             QCOMPARE(QImage(name + "@2x").size(), 2 * QImage(name).size());
+        QVERIFY(AboutBox().findChild<QPlainTextEdit *>()->toPlainText().startsWith("ISC License"));
     }
 
-    void takesItsColourFromThePalette()
+    void iconsTakeTheirColourFromThePaletteAndTheSizeOfTheScreen()
     {
         const QPalette before = QApplication::palette();
         const QIcon icon = themedIcon(":/RectangleFill");
@@ -346,11 +335,6 @@ private slots:
                 QCOMPARE(solidColours(icon.pixmap(24, modes[i]).toImage()), QSet{colours[i].rgb()});
         }
         QApplication::setPalette(before);
-    }
-
-    void rendersAtTheDevicePixelRatio()
-    {
-        const QIcon icon = themedIcon(":/RectangleFill");
         for (const auto &[ratio, side] : {std::pair{1.0, 24}, {1.25, 30}, {2.0, 48}}) {
             const QPixmap pixmap = icon.pixmap(QSize(24, 24), ratio);
             QCOMPARE(std::pair(pixmap.size(), pixmap.devicePixelRatio()), std::pair(QSize(side, side), ratio));

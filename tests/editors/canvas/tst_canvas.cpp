@@ -293,10 +293,8 @@ private slots:
     void otherProgramsPicturesArePastedOnRequest()
     {
         Fixture f;
-        QImage picture(5000, 2, QImage::Format_RGB32);
-        picture.fill(Qt::blue);
-        picture.setPixelColor(1, 0, Qt::black);
-        QApplication::clipboard()->setImage(picture);
+        QApplication::clipboard()->setImage(
+            pictureOf({5000, 2}, QImage::Format_RGB32, [](int i) { return i == 1 ? qRgb(0, 0, 0) : qRgb(0, 0, 255); }));
         f.canvas.paste();
         QCOMPARE(f.canvas.mode(), Draw);
         f.canvas.setPictureColours(16, 16); // greens with more and more blue, four times four

@@ -89,42 +89,35 @@ private slots:
                 options.symmetry = {upright, level};
             });
         };
-        QTest::addRow("as the pointer was seen") << nothing << "" << Drags{{Draw, {{0, 0}, {4, 0}}}} << "1...1....";
-        QTest::addRow("connected") << connect << "" << Drags{{Draw, {{4, 0}, {0, 0}, {0, 2}}, Qt::RightButton}}
-                                   << "44444..../4......../4........";
+        const auto add = [](const char *name, const Choose &choose, const Drags &drags, const QString &after,
+                            const QString &before = {}) { QTest::newRow(name) << choose << before << drags << after; };
+        add("as the pointer was seen", nothing, {{Draw, {{0, 0}, {4, 0}}}}, "1...1....");
+        add("connected", connect, {{Draw, {{4, 0}, {0, 0}, {0, 2}}, Qt::RightButton}}, "44444..../4......../4........");
         const QList<QPoint> stairs{{0, 0}, {1, 0}, {1, 1}, {2, 1}, {2, 2}, {5, 2}, {5, 0}};
-        QTest::addRow("stairs") << connect << "" << Drags{{Draw, stairs}} << "11...1.../.11..1.../..1111...";
-        QTest::addRow("pixel perfect over something")
-            << perfect << "/3333" << Drags{{Draw, stairs}} << "1....1.../3133.1.../..111....";
-        QTest::addRow("square of 3") << brush(Brush::Square, 3) << "" << Drags{{Draw, {{1, 1}}}}
-                                     << "111....../111....../111......";
-        QTest::addRow("round of 3 over the edge")
-            << brush(Brush::Round, 3) << "" << Drags{{Draw, {{0, 1}}}} << "1......../11......./1........";
-        QTest::addRow("a line of 2 by 2")
-            << brush(Brush::Square, 2) << "" << Drags{{Line, {{1, 1}, {4, 1}}}} << "11111..../11111....";
-        QTest::addRow("left and right") << brush(Brush::Square, 2, true) << "" << Drags{{Draw, {{1, 1}}}}
-                                        << "11.....11/11.....11";
-        QTest::addRow("top and bottom") << brush(Brush::Square, 1, false, true) << ""
-                                        << Drags{{RectangleFill, {{0, 0}, {1, 0}}}}
-                                        << "11......./........./........./........./........./11.......";
-        QTest::addRow("four corners") << brush(Brush::Square, 1, true, true) << ".........." << Drags{{Fill, {{0, 0}}}}
-                                      << "111111111/111111111/111111111/111111111/111111111/111111111";
-        QTest::addRow("shade") << shade << "01234567"
-                               << Drags{{Draw, {{0, 0}, {1, 0}, {2, 0}, {3, 0}, {4, 0}, {3, 0}, {6, 0}}},
-                                        {Draw, {{3, 0}, {7, 0}}, Qt::RightButton}}
-                               << ".1133567.";
-        QTest::addRow("filled circle") << nothing << "" << Drags{{CircleFill, {{0, 0}, {4, 2}}}}
-                                       << ".111...../11111..../.111.....";
-        QTest::addRow("straight line") << nothing << ""
-                                       << Drags{{Line, {{0, 0}, {5, 1}}, Qt::LeftButton, Qt::ShiftModifier},
-                                                {Line, {{0, 2}, {4, 5}}, Qt::LeftButton, Qt::ShiftModifier}}
-                                       << "111111.../........./1......../.1......./..1....../...1.....";
-        QTest::addRow("square") << nothing << ""
-                                << Drags{{Rectangle, {{4, 3}, {2, 2}}, Qt::LeftButton, Qt::ShiftModifier}}
-                                << "........./..111..../..1.1..../..111....";
-        QTest::addRow("from stroke to stroke")
-            << nothing << "" << Drags{{Draw, {{8, 5}, {0, 0}}}, {Draw, {{3, 0}}, Qt::LeftButton, Qt::ShiftModifier}}
-            << "1111...../........./........./........./........./........1";
+        add("stairs", connect, {{Draw, stairs}}, "11...1.../.11..1.../..1111...");
+        add("pixel perfect over something", perfect, {{Draw, stairs}}, "1....1.../3133.1.../..111....", "/3333");
+        add("square of 3", brush(Brush::Square, 3), {{Draw, {{1, 1}}}}, "111....../111....../111......");
+        add("round of 3 over the edge", brush(Brush::Round, 3), {{Draw, {{0, 1}}}}, "1......../11......./1........");
+        add("a line of 2 by 2", brush(Brush::Square, 2), {{Line, {{1, 1}, {4, 1}}}}, "11111..../11111....");
+        add("left and right", brush(Brush::Square, 2, true), {{Draw, {{1, 1}}}}, "11.....11/11.....11");
+        add("top and bottom", brush(Brush::Square, 1, false, true), {{RectangleFill, {{0, 0}, {1, 0}}}},
+            "11......./........./........./........./........./11.......");
+        add("four corners", brush(Brush::Square, 1, true, true), {{Fill, {{0, 0}}}},
+            "111111111/111111111/111111111/111111111/111111111/111111111");
+        add("shade", shade,
+            {{Draw, {{0, 0}, {1, 0}, {2, 0}, {3, 0}, {4, 0}, {3, 0}, {6, 0}}},
+             {Draw, {{3, 0}, {7, 0}}, Qt::RightButton}},
+            ".1133567.", "01234567");
+        add("filled circle", nothing, {{CircleFill, {{0, 0}, {4, 2}}}}, ".111...../11111..../.111.....");
+        add("straight line", nothing,
+            {{Line, {{0, 0}, {5, 1}}, Qt::LeftButton, Qt::ShiftModifier},
+             {Line, {{0, 2}, {4, 5}}, Qt::LeftButton, Qt::ShiftModifier}},
+            "111111.../........./1......../.1......./..1....../...1.....");
+        add("square", nothing, {{Rectangle, {{4, 3}, {2, 2}}, Qt::LeftButton, Qt::ShiftModifier}},
+            "........./..111..../..1.1..../..111....");
+        add("from stroke to stroke", nothing,
+            {{Draw, {{8, 5}, {0, 0}}}, {Draw, {{3, 0}}, Qt::LeftButton, Qt::ShiftModifier}},
+            "1111...../........./........./........./........./........1");
     }
 
     void toolsPaintAsChosen()

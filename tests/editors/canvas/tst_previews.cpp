@@ -43,9 +43,7 @@ private slots:
         QCOMPARE(Previews::animationShowing(animations, 9), nullptr);
         QCOMPARE(Previews::interval(walk), 80);
         const auto picture = [](const AnimationFrame::Cell &cell) {
-            QImage image(8, 8, QImage::Format_RGB32);
-            image.fill(uint(cell.index) | 0xFF000000);
-            return image;
+            return pictureOf({8, 8}, QImage::Format_RGB32, [&cell](int) { return qRgb(0, 0, cell.index); });
         };
         const QImage frame = Previews::frame(walk, 3 * 7 + 1, picture); // on and on
         QCOMPARE(frame.size(), QSize(16, 8));
