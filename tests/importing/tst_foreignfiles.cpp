@@ -96,8 +96,7 @@ class TestForeignFiles : public QObject
 private slots:
     void framesBecomeSprites_data()
     {
-        QTest::addColumn<int>("bits");
-        QTest::addColumn<Options>("options");
+        addColumns<int, Options>("bits", "options");
         for (const int bits : {8, 32}) { // indices, and colours
             QTest::addRow("%d bits", bits) << bits << Options();
             QTest::addRow("%d bits in four", bits) << bits << Options{{"depth", "4"}};
@@ -147,10 +146,7 @@ private slots:
     /// with more colours than there is room for.
     void opaqueStaysOpaque_data()
     {
-        QTest::addColumn<bool>("isGiven");
-        QTest::addColumn<int>("colours");
-        QTest::addColumn<Options>("options");
-        QTest::addColumn<bool>("isLossy");
+        addColumns<bool, int, Options, bool>("isGiven", "colours", "options", "isLossy");
         QTest::newRow("a palette of the project") << true << 4 << Options() << true;
         QTest::newRow("all indices") << false << 256 << Options() << true;
         QTest::newRow("the usual clear index in use") << false << 240 << Options() << false;
@@ -282,8 +278,7 @@ private slots:
     /// A damaged file becomes assets, or a message; a second and 256 MiB are what any file may take.
     void takesDamagedFiles_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QByteArray>("bytes");
+        addColumns<QString, QByteArray>("name", "bytes");
         const auto add = [](const char *name, const QByteArray &bytes) {
             QTest::addRow("%s of %d bytes", name, int(bytes.size())) << name << bytes;
         };

@@ -258,11 +258,8 @@ private slots:
     /// What goes into an asset that is there is one step, which leaves nothing behind.
     void isOneStep_data()
     {
-        QTest::addColumn<int>("target"); // the place among all assets
-        QTest::addColumn<QString>("kind");
-        QTest::addColumn<int>("size");
-        QTest::addColumn<Options>("options");
-        QTest::addColumn<int>("at");
+        // the target is a place among all assets
+        addColumns<int, QString, int, Options, int>("target", "kind", "size", "options", "at");
         const auto add = [](const char *what, int target, const char *kind, int size, const Options &options = {},
                             int at = ImportChoices::AtTheEnd) {
             QTest::newRow(what) << target << QString(kind) << size << options << at;

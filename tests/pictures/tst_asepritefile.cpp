@@ -66,8 +66,7 @@ class TestAsepriteFile : public QObject
 private slots:
     void framesAreDrawn_data()
     {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QString>("expected");
+        addColumns<QByteArray, QString>("bytes", "expected");
         const auto add = [](const char *name, const char *expected, const Builder &file) {
             QTest::newRow(name) << file.bytes() << QString::fromLatin1(expected);
         };
@@ -181,9 +180,7 @@ private slots:
 
     void palettesAreRead_data()
     {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QList<QRgb>>("expected");
-        QTest::addColumn<bool>("isSaid");
+        addColumns<QByteArray, QList<QRgb>, bool>("bytes", "expected", "isSaid");
         const auto add = [](const char *name, const Builder &file, const QList<QRgb> &expected, bool isSaid = false) {
             QTest::newRow(name) << file.bytes() << expected << isSaid;
         };

@@ -39,10 +39,7 @@ class TestColourFile : public QObject
 private slots:
     void everyFormIsRead_data()
     {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<Rgbs>("colours");
-        QTest::addColumn<int>("transparent");
-        QTest::addColumn<QString>("name");
+        addColumns<QByteArray, Rgbs, int, QString>("bytes", "colours", "transparent", "name");
         const Rgbs two{0xff002449, 0xffffffff};
         const auto add = [](const char *row, const QByteArray &bytes, const Rgbs &colours, int transparent = -1,
                             const QString &name = {}) {

@@ -234,8 +234,7 @@ private slots:
 
     void tileSetsAreRead_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QByteArray>("bytes");
+        addColumns<QString, QByteArray>("name", "bytes");
         const QByteArray xml =
             " name='sheet' tilewidth='8' tileheight='4' spacing='1' margin='2' tilecount='4' columns='2'>"
             "<image source='../pictures/sheet.png' trans='090a03' width='21' height='13'/>"

@@ -109,9 +109,7 @@ private slots:
 
     void fitsWhateverComes_data()
     {
-        QTest::addColumn<Content>("content");
-        QTest::addColumn<Dithering>("dithering");
-        QTest::addColumn<bool>("holes");
+        addColumns<Content, Dithering, bool>("content", "dithering", "holes");
         for (const Content content : {Content::Photo, Content::Panels}) {
             for (const Dithering dithering : {Dithering::None, Dithering::Ordered, Dithering::Diffusion}) {
                 for (const bool holes : {false, true})
@@ -158,9 +156,8 @@ private slots:
 
     void wholePicturesTakeFewColours_data()
     {
-        QTest::addColumn<Content>("content");
-        QTest::addColumn<int>("colours");
-        QTest::addColumn<double>("most"); // error without dithering; with the colours that come first it is told behind
+        // the most is the error without dithering; with the colours that come first it is told behind
+        addColumns<Content, int, double>("content", "colours", "most");
         QTest::newRow("photograph, 16") << Content::Photo << 16 << 0.75; // 3.34
         QTest::newRow("photograph, 256") << Content::Photo << 256 << 0.01;
         QTest::newRow("noise, 16") << Content::Noise << 16 << 1.7; // 1.92

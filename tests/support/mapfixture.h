@@ -118,9 +118,9 @@ struct MapGridFixture : MapAssets
     {
         QTest::mouseRelease(&grid, button, {}, point);
     }
-    void drag(const QList<QPoint> &points, Qt::MouseButton button = Qt::LeftButton)
+    void drag(const QList<QPoint> &points, Qt::MouseButton button = Qt::LeftButton, Qt::KeyboardModifiers keys = {})
     {
-        press(points.first(), button);
+        press(points.first(), button, keys);
         for (const QPoint &point : points.mid(1))
             move(point);
         release(points.last(), button);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QTest>
 #include <QtGui>
 
 #include <algorithm>
@@ -90,6 +91,13 @@ template <class List, class Member>
     for (const auto &item : list)
         values.append(std::invoke(member, item));
     return values;
+}
+
+/// Adds the columns of a test's data.
+template <class... Types, class... Names>
+void addColumns(Names... names)
+{
+    (QTest::addColumn<Types>(names), ...);
 }
 
 /// Writes down signals in the order in which they are emitted, as "name argument argument".

@@ -115,9 +115,7 @@ private slots:
 
     void toolsAndActionsMakeOneEditEach_data()
     {
-        QTest::addColumn<Steps>("steps"); // with ink 7 and paper 9
-        QTest::addColumn<QString>("texts");
-        QTest::addColumn<Pixels>("pixels");
+        addColumns<Steps, QString, Pixels>("steps", "texts", "pixels"); // with ink 7 and paper 9
         const Step dot{Draw, {{2, 1}}};
         QTest::addRow("stroke") << Steps{{Draw, {{1, 1}, {4, 1}, {200, 1}, {5, 2}}}} << "Draw"
                                 << Pixels{{{1, 1}, 7}, {{2, 1}, 0}, {{4, 1}, 7}, {{5, 2}, 7}};

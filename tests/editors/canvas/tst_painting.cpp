@@ -75,10 +75,7 @@ class TestPainting : public QObject
 private slots:
     void toolsPaintAsChosen_data()
     {
-        QTest::addColumn<Choose>("choose");
-        QTest::addColumn<QString>("before");
-        QTest::addColumn<Drags>("drags");
-        QTest::addColumn<QString>("after");
+        addColumns<Choose, QString, Drags, QString>("choose", "before", "drags", "after");
         const Choose nothing = [](PaintOptions &) {};
         const Choose connect = [](PaintOptions &options) { options.connect = true; };
         const Choose perfect = [](PaintOptions &options) { options.connect = options.pixelPerfect = true; };

@@ -73,9 +73,7 @@ private slots:
 
     void strokesAreSeenElsewhereBeforeTheyEnd_data()
     {
-        QTest::addColumn<bool>("sprites");
-        QTest::addColumn<ToolButton>("tool");
-        QTest::addColumn<End>("end");
+        addColumns<bool, ToolButton, End>("sprites", "tool", "end");
         const auto ends = QMetaEnum::fromType<End>();
         for (const bool sprites : {false, true}) {
             for (const ToolButton tool : {Draw, Line, Rectangle, RectangleFill, Circle, CircleFill}) {
