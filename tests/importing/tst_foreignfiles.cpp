@@ -183,13 +183,12 @@ private slots:
                                     .layer("back", {.flags = 1 | 8}) // which has no clear pixels
                                     .raw(0, {}, {16, 16}, pixels)
                                     .bytes();
-        const IncomingAssets incoming =
-            prepared(project, "all.ase", file, "aseprite-sprites", options, isGiven ? own->id() : QUuid());
+        const QString kind = "aseprite-sprites";
+        const QUuid given = isGiven ? own->id() : QUuid();
+        const IncomingAssets incoming = prepared(project, "all.ase", file, kind, options, given);
         QVERIFY(incoming.sprites);
         QCOMPARE(!incoming.remarks.filter("mean error").isEmpty(), isLossy);
-        const auto added =
-            addTo(project, incoming,
-                  {.kind = "aseprite-sprites", .name = "Hero", .palette = isGiven ? own->id() : QUuid()}, {});
+        const auto added = addTo(project, incoming, {.kind = kind, .name = "Hero", .palette = given}, {});
         const auto bank = project.spriteBank(added->sprites);
         const QImage sprite = bank->renderSprite(0, 0, false, false, false);
         for (int i = 0; i < 256; ++i) {

@@ -233,16 +233,15 @@ private slots:
         Palette palette;
         for (int i = 0; i < 256; ++i) // the red ones are those of group 5
             palette.storeRawColour(i, i / 16 == 5 ? NineBitColour::wordOf((i % 8) << 6) : 0);
-        QImage image(16, 1, QImage::Format_ARGB32);
-        for (int x = 0; x < 16; ++x)
-            image.setPixel(x, 0, x < 8 ? NineBitColour::shown(x << 6) : qRgba(0, 0, 0, 100));
+        const QImage image = pictureOf({16, 1}, QImage::Format_ARGB32, [](int x) {
+            return x < 8 ? NineBitColour::shown(x << 6) : qRgba(0, 0, 0, 100);
+        });
         const ReducedPixels four = ReducedPixels::of(image, {.colourCount = 16, .clear = 6, .palette = &palette});
         for (int x = 0; x < 16; ++x)
             QCOMPARE(four.pixels.pixelIndex(x, 0), x == 6 ? 5 * 16 + 14 : x < 8 ? 5 * 16 + x : 5 * 16 + 6);
         const ReducedPixels first =
             ReducedPixels::of(image, {.colourCount = 16, .clear = 6, .palette = &palette, .anyGroup = false});
-        QCOMPARE(first.pixels.pixelIndex(7, 0), 0);
-        QCOMPARE(first.pixels.pixelIndex(8, 0), 6);
+        QCOMPARE(std::pair(first.pixels.pixelIndex(7, 0), first.pixels.pixelIndex(8, 0)), std::pair(0, 6));
         const ReducedPixels opaque = ReducedPixels::of(image, {.palette = &palette, .keepClearPixels = false});
         QCOMPARE(opaque.pixels.pixelIndex(9, 0), 0);
         QVERIFY(ReducedPixels::of({}, {}).pixels.isNull());
@@ -250,11 +249,9 @@ private slots:
 
     void turnedTilesAreOne()
     {
-        QImage image(24, 8, QImage::Format_RGB32);
-        image.fill(Qt::black);
-        image.setPixel(1, 0, qRgb(219, 0, 0));
-        image.setPixel(8 + 7, 1, qRgb(219, 0, 0)); // rotated
-        image.setPixel(16 + 6, 0, qRgb(219, 0, 0)); // mirrored
+        const QList red{QPoint(1, 0), QPoint(8 + 7, 1), QPoint(16 + 6, 0)}; // the same rotated, and mirrored
+        QImage image = pictureOf({24, 8}, QImage::Format_RGB32,
+                                 [&red](int i) { return qRgb(red.contains(QPoint(i % 24, i / 24)) ? 219 : 0, 0, 0); });
         const TileReduction reduction = TileReduction::of(image, {});
         QCOMPARE(reduction.tiles.size(), size_t(1));
         QCOMPARE(reduction.shown(), image);

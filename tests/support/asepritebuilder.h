@@ -20,18 +20,17 @@ public:
         QByteArray tileSet{};
     };
 
-    int width = 4;
-    int height = 2;
-    int bits = 8;
-    int flags = LayersHaveOpacity;
+    int width;
+    int height;
+    int bits;
+    int flags;
     int speed = 100;
     int clearIndex = 0;
     QRect grid{};
     int pixelWidth = 1;
     bool countsAreNew = false; ///< where chunks are counted, in each frame
 
-    AsepriteBuilder() = default;
-    explicit AsepriteBuilder(QSize size, int bitsAPixel = 8, int fileFlags = LayersHaveOpacity)
+    explicit AsepriteBuilder(QSize size = {4, 2}, int bitsAPixel = 8, int fileFlags = LayersHaveOpacity)
         : width(size.width())
         , height(size.height())
         , bits(bitsAPixel)

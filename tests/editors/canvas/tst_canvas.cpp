@@ -36,10 +36,7 @@ struct Fixture : EditorInput::CanvasScene
     }
     QList<int> at(const QList<QPoint> &pixels) const
     {
-        QList<int> found;
-        for (const QPoint pixel : pixels)
-            found += canvas.image().pixelIndex(pixel);
-        return found;
+        return valuesOf(pixels, [this](QPoint pixel) { return canvas.image().pixelIndex(pixel); });
     }
     QColor shown(QPoint pixel) { return canvas.grab().toImage().pixelColor(mouse.centreOf(pixel)); }
 };

@@ -82,9 +82,7 @@ private slots:
                                        {{20, 4}, {300, 300}},
                                        {{20, 4}, {22, 6}}}) {
             QTest::mousePress(&f.grid, Qt::LeftButton, Qt::ControlModifier, from);
-            QMouseEvent event(QEvent::MouseMove, to, f.grid.mapToGlobal(to), Qt::NoButton, Qt::LeftButton,
-                              Qt::ControlModifier);
-            QApplication::sendEvent(&f.grid, &event);
+            QTest::mouseMove(&f.grid, to);
             QTest::mouseRelease(&f.grid, Qt::LeftButton, Qt::ControlModifier, to);
         }
         using Rows = QList<QList<int>>;

@@ -423,9 +423,7 @@ private slots:
         const QPoint scroll = f.grid.viewport().scroll;
         QTest::mousePress(&overview, Qt::LeftButton, {}, frame.topLeft() + QPoint(1, 1)); // takes hold of it
         QCOMPARE(f.grid.viewport().scroll, scroll);
-        const QPoint to = frame.topLeft() + QPoint(11, 1);
-        QMouseEvent move(QEvent::MouseMove, to, overview.mapToGlobal(to), Qt::NoButton, Qt::LeftButton, {});
-        QApplication::sendEvent(&overview, &move);
+        QTest::mouseMove(&overview, frame.topLeft() + QPoint(11, 1));
         QVERIFY(std::abs(overview.frame().left() - frame.left() - 10) <= 2);
         QVERIFY(std::abs(overview.frame().top() - frame.top()) <= 2);
     }

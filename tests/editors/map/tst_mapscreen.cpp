@@ -107,8 +107,7 @@ public:
         const auto at = [&grid](QPoint cell) { return grid.viewport().rectOfCells(QRect(cell, QSize(1, 1))).center(); };
         QTest::mouseMove(&grid, at(from));
         QTest::mousePress(&grid, Qt::LeftButton, {}, at(from));
-        QMouseEvent move(QEvent::MouseMove, at(to), grid.mapToGlobal(at(to)), Qt::NoButton, Qt::LeftButton, {});
-        QApplication::sendEvent(&grid, &move);
+        QTest::mouseMove(&grid, at(to));
         QTest::mouseRelease(&grid, Qt::LeftButton, {}, at(to));
     }
     void drag(const QRect &cells) { drag(cells.topLeft(), cells.bottomRight()); }
