@@ -1,7 +1,8 @@
 #include "store/projectstore.h"
 
+#include "model/projectextras.h"
+#include "store/extrasfile.h"
 #include "store/projectdocument.h"
-
 #include "support/archivetools.h"
 #include "support/modeltools.h"
 #include "support/platform.h"
@@ -12,7 +13,7 @@
 
 using ArchiveTools::writeArchive;
 
-/// Tests a store in a folder of its own.
+/// Tests a store in a folder of its own, and the file of extras beside a project.
 class TestProjectStore : public QObject
 {
     Q_OBJECT
@@ -21,12 +22,10 @@ private slots:
     void init()
     {
         m_folder = std::make_unique<QTemporaryDir>(QDir::tempPath() + "/Ünicode Ωжא日本 ไทย XXXXXX");
+        m_game = path("game.quenmora");
+        m_extras = ExtrasFile::pathFor(m_game);
         m_store = std::make_unique<ProjectStore>();
-        m_log = std::make_unique<SignalLog>();
-        m_log->listen(*m_store, &ProjectStore::projectLoad, "projectLoad");
-        m_log->listen(*m_store, &ProjectStore::loadError, "loadError");
-        m_log->listen(*m_store, &ProjectStore::saveError, "saveError");
-        m_log->listen(*m_store, &ProjectStore::showMessage, "showMessage");
+        m_log = std::make_unique<SignalLog>(*m_store);
     }
 
     void cleanup() { m_store.reset(); }
@@ -77,10 +76,13 @@ private slots:
             QCOMPARE(first.mid(record + 12, 4).toHex(), "00002100"); // midnight on the first day that there is
         QCOMPARE(saved("second"), first);
         const auto unused = project->createPalette(CreateAction::DefaultNext, "of no picture");
-        QVERIFY(!saved("before").isEmpty());
+        ZipFile before;
+        ZipFile after;
+        QVERIFY(!saved("before").isEmpty() && before.openForReading(path("before")));
         unused->setRawColour(9, 77);
-        QVERIFY(!saved("after").isEmpty());
-        QCOMPARE(differingMembers("before", "after"), QStringList("project.json"));
+        QVERIFY(!saved("after").isEmpty() && after.openForReading(path("after")));
+        for (const QString &member : serializeProject(*project, true).keys())
+            QCOMPARE(before.read(member) == after.read(member), member != "project.json");
 
         // what is kept makes the file that everything anew makes
         QRandomGenerator random(1);
@@ -154,9 +156,7 @@ private slots:
         if (Platform::HasPipes) {
             QVERIFY(Platform::makePipe(path("pipe")) && QFile::link(path("pipe"), path("link")));
             QVERIFY(QFile::link("/dev/null", path("device")));
-            names << "pipe"
-                  << "link"
-                  << "device";
+            names += {"pipe", "link", "device"};
         }
         Project *project = m_store->newProject("new");
         SampleProject::fill(*project);
@@ -220,9 +220,7 @@ private slots:
     {
         if (!Platform::HasFullDisks)
             QSKIP("No disk can be made full here");
-        QImage noise = SampleProject::gradient({640, 512}); // which deflate cannot shrink
-        QRandomGenerator(1).generate(reinterpret_cast<quint32 *>(noise.bits()),
-                                     reinterpret_cast<quint32 *>(noise.bits() + noise.sizeInBytes()));
+        const QImage noise = SampleProject::noise({640, 512}); // which deflate cannot shrink
         m_store->newProject("noise")->createImage(Quenmora::Layer2_256x192, "noise", {})->setImage(noise);
         QVERIFY(m_store->saveAs(path("a.quenmora")));
         const QByteArray whole = readFile(path("a.quenmora"));
@@ -317,7 +315,8 @@ private slots:
             const QString noun = kind.toLower();
             QCOMPARE(m_log->take(),
                      (QStringList{"saveError Invalid " + noun + " id", "saveError Exporting the " + noun + " failed",
-                                  "showMessage " + kind + " exported 2000"}));
+                                  "showMessage " + kind + " exported 2000",
+                                  "exported " + file.section('_', 0, 0) + ' ' + path(file)}));
             QVERIFY(QFile::exists(path(file)));
         }
         project->palettes().first()->setName("a/b");
@@ -329,30 +328,84 @@ private slots:
         QCOMPARE(m_log->take(), QStringList("saveError Invalid map id"));
     }
 
+    void extrasAreOneTextAndOnlyWhenThereIsSomething()
+    {
+        QCOMPARE(m_extras, path("game.quenmora-extras.json"));
+        ProjectExtras extras;
+        ExtrasFile file;
+        QCOMPARE(file.save(extras, m_game), QString());
+        QVERIFY(!QFile::exists(m_extras));
+        extras.setSection("stamps", QJsonArray{1, 2});
+        extras.setSection("imports", QJsonObject{{"b", 1}, {"a", true}});
+        QCOMPARE(file.save(extras, m_game), QString());
+        QCOMPARE(readFile(m_extras),
+                 QByteArray("{\n    \"imports\": {\n        \"a\": true,\n        \"b\": 1\n    },\n"
+                            "    \"stamps\": [\n        1,\n        2\n    ]\n}\n"));
+        QVERIFY(extras.changedSections().isEmpty());
+
+        ProjectExtras again;
+        ExtrasFile other;
+        QCOMPARE(other.load(again, m_game), QString());
+        QCOMPARE(again.sections(), extras.sections());
+        QVERIFY(again.changedSections().isEmpty());
+        const QString copy = path("copy.quenmora");
+        QCOMPARE(other.save(again, copy), QString());
+        QVERIFY2(QFile::exists(ExtrasFile::pathFor(copy)), "another file has all of it, though nothing changed");
+    }
+
+    void extrasTakeOverWhatAnotherProgramChanged()
+    {
+        QVERIFY(writeFile(m_extras, R"({"ours": 1, "theirs": 1, "gone": 1, "unknown": {"x": null}})"));
+        ProjectExtras extras;
+        ExtrasFile file;
+        QCOMPARE(file.load(extras, m_game), QString());
+        extras.setSection("ours", 2);
+        extras.setSection("gone", QJsonValue::Undefined);
+        QVERIFY(writeFile(m_extras, R"({"ours": 3, "theirs": 4, "gone": 5, "unknown": {"x": null}, "new": 6})"));
+        QStringList told;
+        connect(&extras, &ProjectExtras::sectionChanged, this, [&told](const QString &name) { told.append(name); });
+        QCOMPARE(file.save(extras, m_game), QString());
+        const QJsonObject expected = object(R"({"ours": 2, "theirs": 4, "unknown": {"x": null}, "new": 6})");
+        QCOMPARE(object(readFile(m_extras)), expected);
+        QCOMPARE(extras.sections(), expected);
+        told.sort();
+        QCOMPARE(told, QStringList({"new", "theirs"}));
+    }
+
+    void damagedExtrasCostOnlyWhatTheyHeld()
+    {
+        for (const auto &[bytes, reason] : {std::pair{QByteArray("{\n\"a\": 1,\n"), "line 3"},
+                                            {QByteArray("[1]"), "it holds no object"},
+                                            {QByteArray(100'000, '['), "line 1"},
+                                            {QByteArray(ExtrasFile::MaxBytes + 1, ' '), "at most 16 MiB"}}) {
+            init();
+            QVERIFY(writeFile(m_extras, bytes));
+            ProjectExtras extras;
+            ExtrasFile file;
+            const QString problem = file.load(extras, m_game);
+            QVERIFY2(problem.contains(reason), qPrintable(problem));
+            QVERIFY(extras.sections().isEmpty());
+            QCOMPARE(file.save(extras, m_game), QString());
+            QCOMPARE(readFile(m_extras), bytes); // nothing to write: it stays
+            extras.setSection("a", 1);
+            QCOMPARE(file.save(extras, m_game), QString());
+            QCOMPARE(object(readFile(m_extras)), (QJsonObject{{"a", 1}}));
+            QCOMPARE(readFile(m_extras + ".bad"), bytes);
+        }
+    }
+
 private:
     [[nodiscard]] QString path(const QString &name) const { return m_folder->filePath(name); }
+    [[nodiscard]] static QJsonObject object(const QByteArray &text) { return QJsonDocument::fromJson(text).object(); }
     /// What is in the folder.
     [[nodiscard]] QStringList entries() const
     {
         return QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
     }
 
-    /// The members of two archives that differ or are in one of them alone.
-    [[nodiscard]] QStringList differingMembers(const QString &one, const QString &other) const
-    {
-        ZipFile first;
-        ZipFile second;
-        if (!first.openForReading(path(one)) || !second.openForReading(path(other)))
-            return {"unreadable"};
-        QStringList names;
-        const QStringList all = serializeProject(*m_store->project(), true).keys();
-        std::copy_if(all.cbegin(), all.cend(), std::back_inserter(names), [&](const QString &name) {
-            return first.read(name) != second.read(name) || !first.contains(name);
-        });
-        return names;
-    }
-
     std::unique_ptr<QTemporaryDir> m_folder;
+    QString m_game;
+    QString m_extras; ///< the file of that project's extras
     std::unique_ptr<ProjectStore> m_store;
     std::unique_ptr<SignalLog> m_log; ///< of the store's signals
 };

@@ -73,17 +73,10 @@ void visitValues(const QJsonValue &value, const Path &path, Visit visit)
 /// The members with the ids of all sprite animation frames cleared: those are new at every load.
 inline ProjectMembers withoutSpriteFrameIds(ProjectMembers members)
 {
-    QList<QByteArray> lines = members.value("project.json").split('\n');
-    bool inSpriteFrame = false;
-    for (QByteArray &line : lines) {
-        if (line.contains("\"anim\":"))
-            inSpriteFrame = true;
-        if (inSpriteFrame && line.trimmed().startsWith("\"id\":")) {
-            line.clear();
-            inSpriteFrame = false;
-        }
-    }
-    members.insert("project.json", lines.join('\n'));
+    // a frame has the keys "anim", of whose cells none holds a list, and "id" after it
+    static const QRegularExpression frameId("\"anim\": \\[[^]]*\\],\\s*\"id\": \\K\"[^\"]*\"");
+    QString document = QString::fromUtf8(members.value("project.json"));
+    members.insert("project.json", document.remove(frameId).toUtf8());
     return members;
 }
 

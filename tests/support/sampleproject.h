@@ -29,6 +29,14 @@ inline QImage gradient(QSize size)
     return pictureOf(size, QImage::Format_Indexed8, [](int i) { return i & 255; });
 }
 
+/// A picture that neither deflate nor a PNG's filters make smaller.
+inline QImage noise(QSize size)
+{
+    QImage image = gradient(size);
+    QRandomGenerator(1).fillRange(reinterpret_cast<quint32 *>(image.bits()), image.sizeInBytes() / 4);
+    return image;
+}
+
 inline QByteArray png(const QImage &image)
 {
     QByteArray bytes;
