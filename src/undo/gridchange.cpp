@@ -117,7 +117,8 @@ void GridChange<Cell>::write(Rows &rows, const Line &line, const Row &cells)
 {
     if (line.row >= rows.size())
         return;
-    if (line.runs.constFirst().column == 0 && line.runs.constFirst().count == rows.at(line.row).size()) {
+    const Run &first = line.runs.constFirst();
+    if (line.runs.size() == 1 && first.column == 0 && first.count == rows.at(line.row).size()) {
         rows[line.row] = cells; // shared, not copied
         return;
     }
