@@ -104,33 +104,44 @@ private slots:
         refuses("a --asset b --format c --to d --option text", "--option takes KEY=VALUE, not “text”");
     }
 
-    void whatFailsIsSaidWithFileAndReason_data()
+    void whatFailsIsSaidWithFileAndReason()
     {
-        QTest::addColumn<QStringList>("words");
-        QTest::addColumn<QString>("message");
-        const auto row = [](const char *name, const QStringList &words, const char *message) {
-            QTest::newRow(name) << words << QString::fromUtf8(message);
+        const auto fails = [this](const QStringList &words, QString message) {
+            cleanup();
+            init();
+            QVERIFY(writeFile("bad.json", "{\"formatVersion\": 1, \"outputs\": [\n6,\n\n7]}"));
+            const QByteArray project = readFile("game.quenmora");
+            QVERIFY(writeFile("other.quenmora", project));
+            QCOMPARE(run(words + QStringList("--quiet")), 1);
+            QVERIFY(m_out.isEmpty());
+            message.replace("RECIPE", "game.quenmora-export.json");
+            for (const QString path : {"/bad.json/gfx data", "/bad.json"})
+                message.replace("PATH" + path, QDir::toNativeSeparators(QDir::currentPath() + path));
+            message.replace("(ID", '(' + m_twins.toString(QUuid::WithoutBraces));
+            message.replace("OTHER", m_errors.section(", ", -1).chopped(2));
+            QCOMPARE(m_errors.chopped(1).split(u'\n').join(u'|'), message);
+            QCOMPARE(readFile("game.quenmora"), project);
         };
-        const auto single = [&](const char *asset, const char *form, const QStringList &more, const char *message) {
+        const auto single = [&](const char *asset, const char *form, const QStringList &more, const QString &message) {
             const QStringList words{"game.quenmora", "--asset", asset, "--format", form};
-            row(message, words + more, message);
+            fails(words + more, message);
         };
-        row("project", {"none.quenmora"}, "none.quenmora: There is no such file");
-        row("damaged", {"bad.json"}, "bad.json: Invalid project file");
-        row("no recipe", {"other.quenmora"},
-            "other.quenmora-export.json: The project has no recipe; File > Export Project in the editor makes one");
-        row("recipe", {"game.quenmora", "--recipe", "none"}, "none: There is no such file");
-        row("bad recipe", {"game.quenmora", "--recipe", "bad.json"},
-            "bad.json:2: An output must be an object|bad.json:4: An output must be an object");
-        row("depfile", {"game.quenmora", "--output", "a;b", "--depfile", "d"},
-            "d: make cannot be told of “a;b/gfx data/palette.pal”: its name has characters that end names");
-        row("depfile's place", {"game.quenmora", "--depfile", "."}, ".: . is a folder");
-        row("depfile over project", {"game.quenmora", "--depfile", "./game.quenmora"},
-            "./game.quenmora: This file is exported, or exported from");
-        row("output folder", {"game.quenmora", "--output", "bad.json"},
-            "RECIPE:4: gfx data/palette.pal: The folder PATH/bad.json/gfx data cannot be made|"
-            "RECIPE:5: hero.c: The folder PATH/bad.json cannot be made|"
-            "RECIPE:6: level.map: The folder PATH/bad.json cannot be made");
+        fails({"none.quenmora"}, "none.quenmora: There is no such file");
+        fails({"bad.json"}, "bad.json: Invalid project file");
+        fails({"other.quenmora"},
+              "other.quenmora-export.json: The project has no recipe; File > Export Project in the editor makes one");
+        fails({"game.quenmora", "--recipe", "none"}, "none: There is no such file");
+        fails({"game.quenmora", "--recipe", "bad.json"},
+              "bad.json:2: An output must be an object|bad.json:4: An output must be an object");
+        fails({"game.quenmora", "--output", "a;b", "--depfile", "d"},
+              "d: make cannot be told of “a;b/gfx data/palette.pal”: its name has characters that end names");
+        fails({"game.quenmora", "--depfile", "."}, ".: . is a folder");
+        fails({"game.quenmora", "--depfile", "./game.quenmora"},
+              "./game.quenmora: This file is exported, or exported from");
+        fails({"game.quenmora", "--output", "bad.json"},
+              "RECIPE:4: gfx data/palette.pal: The folder PATH/bad.json/gfx data cannot be made|"
+              "RECIPE:5: hero.c: The folder PATH/bad.json cannot be made|"
+              "RECIPE:6: level.map: The folder PATH/bad.json cannot be made");
         single("Main", "nonsense", {"--to", "x"}, "x: There is no form “nonsense”");
         single("Main", "palette", {"--to", "x", "--option", "group=1"},
                "x: There is no option “group”, only text, label, pad, cut");
@@ -140,31 +151,13 @@ private slots:
         single("Main", "palette", {"--to", "./game.quenmora"}, "./game.quenmora: This is the project itself");
     }
 
-    void whatFailsIsSaidWithFileAndReason()
-    {
-        QFETCH(const QStringList, words);
-        QFETCH(QString, message);
-        QVERIFY(writeFile("bad.json", "{\"formatVersion\": 1, \"outputs\": [\n6,\n\n7]}"));
-        const QByteArray project = readFile("game.quenmora");
-        QVERIFY(writeFile("other.quenmora", project));
-        QCOMPARE(run(words + QStringList("--quiet")), 1);
-        QVERIFY(m_out.isEmpty());
-        message.replace("RECIPE", "game.quenmora-export.json");
-        for (const QString path : {"/bad.json/gfx data", "/bad.json"})
-            message.replace("PATH" + path, QDir::toNativeSeparators(QDir::currentPath() + path));
-        message.replace("(ID", '(' + m_twins.toString(QUuid::WithoutBraces));
-        message.replace("OTHER", m_errors.section(", ", -1).chopped(2));
-        QCOMPARE(m_errors.chopped(1).split(u'\n').join(u'|'), message);
-        QCOMPARE(readFile("game.quenmora"), project);
-    }
-
     void recipesAreDoneAndDoneAgain()
     {
         QCOMPARE(run({"game.quenmora", "--dry-run", "--depfile", "d"}), 0);
         const QString files =
             "new       gfx data/palette.pal\nnew       hero.c\nnew       hero.h\nnew       level_0.map\n";
         QCOMPARE(m_out, files + "3 new; nothing was written\n");
-        QCOMPARE(filesIn("."), QStringList({"game.quenmora", "game.quenmora-export.json"}));
+        QCOMPARE(entriesOf("."), QStringList({"game.quenmora", "game.quenmora-export.json"}));
 
         QCOMPARE(run({"game.quenmora"}), 0);
         QCOMPARE(m_out, files + "3 new\n");
@@ -178,7 +171,7 @@ private slots:
         QCOMPARE(m_out, "changed   hero.h\nnew       level_0.map\n1 new, 1 changed, 1 unchanged\n");
         QCOMPARE(run({"--quiet", "--output", "a/ü", "--recipe", "game.quenmora-export.json", "game.quenmora"}), 0);
         QVERIFY(m_out.isEmpty() && m_errors.isEmpty());
-        QCOMPARE(filesIn("a/ü"), QStringList({"gfx data", "hero.c", "hero.h", "level_0.map"}));
+        QCOMPARE(entriesOf("a/ü"), QStringList({"gfx data", "hero.c", "hero.h", "level_0.map"}));
         QCOMPARE(readFile("a/ü/hero.c"), readFile("hero.c"));
     }
 
@@ -315,11 +308,6 @@ private:
         QTextStream out(&m_out);
         QTextStream errors(&m_errors);
         return ExportCommand(out, errors, interruption).run(QStringList("quenmora-export") + words);
-    }
-
-    static QStringList filesIn(const QString &folder)
-    {
-        return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
     }
 
     /// Takes a palette out of the project, from under whatever uses it.

@@ -160,14 +160,6 @@ QJsonObject opened(const MemberReader &read)
     return checksums(members);
 }
 
-QJsonObject openedFile(const QString &fileName)
-{
-    ZipFile archive;
-    if (!archive.openForReading(fileName))
-        return {};
-    return opened([&archive](const QString &name) { return archive.read(name); });
-}
-
 qint64 microseconds(clockid_t clock)
 {
     timespec now{};
@@ -224,8 +216,11 @@ int measure(SliceWatch &application, const QString &fileName, quint32 seed, int 
 /// Tells what is left of a project after its program was killed.
 int look(const QString &fileName)
 {
-    say({{"event", "file"}, {"members", openedFile(fileName)}});
-    say({{"event", "backup"}, {"members", openedFile(fileName + ".bak")}});
+    for (const auto &[event, name] : {std::pair{"file", fileName}, {"backup", fileName + ".bak"}}) {
+        ZipFile archive;
+        const auto read = [&archive](const QString &member) { return archive.read(member); };
+        say({{"event", event}, {"members", archive.openForReading(name) ? opened(read) : QJsonObject()}});
+    }
     for (RecoveryFolder &folder : RecoveryFolder::takeAbandoned(AppState::recoveryFolder())) {
         const RecoveryCopy copy(std::move(folder));
         const auto read = [&copy](const QString &name) { return copy.read(name); };

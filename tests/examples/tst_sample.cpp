@@ -12,14 +12,9 @@
 
 namespace {
 
-QString exampleFile(const QString &name)
-{
-    return QFINDTESTDATA(name);
-}
-
 QImage picture(const QString &name)
 {
-    return QImage(exampleFile("pictures/" + name)).convertToFormat(QImage::Format_RGB32);
+    return QImage(QFINDTESTDATA("pictures/" + name)).convertToFormat(QImage::Format_RGB32);
 }
 
 } // namespace
@@ -34,7 +29,7 @@ class TestSample : public QObject
 private slots:
     void initTestCase()
     {
-        QVERIFY(m_store.load(exampleFile("sample.quenmora")));
+        QVERIFY(m_store.load(QFINDTESTDATA("sample.quenmora")));
         const Project &project = *m_store.project();
         QVERIFY(project.maps().size() == 2 && project.spriteBanks().size() == 1 && project.images().size() == 4);
         const QString map = project.maps().first()->id().toString();
@@ -51,9 +46,9 @@ private slots:
     {
         Project project;
         QString error;
-        QVERIFY2(buildSample(project, QDir(exampleFile("pictures")), error), qPrintable(error));
+        QVERIFY2(buildSample(project, QDir(QFINDTESTDATA("pictures")), error), qPrintable(error));
         ZipFile archive;
-        QVERIFY(archive.openForReading(exampleFile("sample.quenmora")));
+        QVERIFY(archive.openForReading(QFINDTESTDATA("sample.quenmora")));
         const ProjectMembers members = serializeProject(project, true);
         const ProjectMembers opened = serializeProject(*m_store.project(), true); // saving it changes no picture
         for (auto member = members.cbegin(); member != members.cend(); ++member) {

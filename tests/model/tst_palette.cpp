@@ -112,27 +112,21 @@ private slots:
         QVERIFY(!palette.exportToDirectory(path()));
     }
 
-    void coloursGoRound_data()
-    {
-        QTest::addColumn<bool>("backwards");
-        QTest::addColumn<qint64>("frame");
-        QTest::addColumn<QList<int>>("shown"); // by entries 9–14, of which 10–13 go round
-        QTest::newRow("beginning") << false << qint64(0) << QList{9, 10, 11, 12, 13, 14};
-        QTest::newRow("before a step") << false << qint64(2) << QList{9, 10, 11, 12, 13, 14};
-        QTest::newRow("a step") << false << qint64(3) << QList{9, 13, 10, 11, 12, 14};
-        QTest::newRow("a step backwards") << true << qint64(3) << QList{9, 11, 12, 13, 10, 14};
-        QTest::newRow("a round and two steps") << true << qint64(3 * 6) << QList{9, 12, 13, 10, 11, 14};
-        QTest::newRow("hours") << false << qint64(3) * 4'000'000'001 << QList{9, 13, 10, 11, 12, 14};
-    }
-
     void coloursGoRound()
     {
-        QFETCH(bool, backwards);
-        QFETCH(qint64, frame);
-        QFETCH(QList<int>, shown);
-        const auto entries = ColourCycles::shownEntries({{10, 13, 3, backwards}, {20, 21, 255, false}}, frame);
-        for (int i = 0; i < 6; ++i)
-            QCOMPARE(entries[size_t(9 + i)], shown[i]);
+        // whether backwards, the frame, and what entries 9 to 14 show, of which 10 to 13 go round
+        const std::tuple<bool, qint64, QList<int>> cases[] = {
+            {false, 0, {9, 10, 11, 12, 13, 14}},
+            {false, 2, {9, 10, 11, 12, 13, 14}}, // before a step
+            {false, 3, {9, 13, 10, 11, 12, 14}},
+            {true, 3, {9, 11, 12, 13, 10, 14}},
+            {true, 3 * 6, {9, 12, 13, 10, 11, 14}}, // a round and two steps
+            {false, 3 * 4'000'000'001, {9, 13, 10, 11, 12, 14}}, // hours
+        };
+        for (const auto &[backwards, frame, shown] : cases) {
+            const auto entries = ColourCycles::shownEntries({{10, 13, 3, backwards}, {20, 21, 255, false}}, frame);
+            QCOMPARE(QList<int>(&entries[9], &entries[15]), shown);
+        }
     }
 
     void onlyWhatCanBeIsTakenFromAFile()
@@ -170,9 +164,8 @@ private slots:
         QVERIFY(!clock.isTicking());
         ColourCycles::set(*project.extras(), palette->id(), {{1, 4, 6}, {8, 9, 4}});
         QVERIFY(clock.isTicking());
-        clock.advance(4);
-        clock.advance(1); // no step
-        clock.advance(1);
+        for (const int frames : {4, 1, 1}) // of which the second makes no step
+            clock.advance(frames);
         QCOMPARE(shown.size(), 2);
         QCOMPARE(palette->shownColour(2), palette->colour(1));
         QCOMPARE(palette->shownColour(1), palette->colour(4));

@@ -10,6 +10,7 @@
 #include "model/tileset.h"
 #include "nextdata/reader.h"
 #include "support/formoutput.h"
+#include "support/littleendian.h"
 #include "support/modeltools.h"
 #include "support/testmain.h"
 
@@ -39,10 +40,7 @@ Result<Reading> readBack(const QString &id, const QByteArray &bytes, const Optio
 /// Bytes with a +3DOS header in front, and the rest of a sector behind them.
 QByteArray onDisk(const QByteArray &bytes)
 {
-    QByteArray header("PLUS3DOS\x1A\x01\x00", 11);
-    const qsizetype length = bytes.size() + 128;
-    for (int shift = 0; shift < 32; shift += 8)
-        header.append(char(length >> shift));
+    QByteArray header = QByteArray("PLUS3DOS\x1A\x01\x00", 11) + le32(bytes.size() + 128);
     header.append(127 - header.size(), '\3');
     header.append(
         char(std::accumulate(header.cbegin(), header.cend(), 0, [](int sum, char c) { return sum + uchar(c); })));
@@ -78,13 +76,6 @@ class TestForms : public QObject
         qFatal("there is no %s", qPrintable(name));
     }
 
-    static void setCell(Animation &animation, int frame, int column, const AnimationFrame::Cell &cell)
-    {
-        AnimationFrame::Cells cells = animation.frame(frame)->cells();
-        cells[0][column] = cell;
-        animation.frame(frame)->setCells(cells);
-    }
-
 private slots:
     void initTestCase()
     {
@@ -117,17 +108,13 @@ private slots:
         run->setSize({2, 1});
         run->setDelay(4);
         run->addFrame();
-        setCell(*run, 0, 1, {1});
-        setCell(*run, 1, 0, {2});
-        setCell(*run, 1, 1, {2, 0, false, true});
+        run->frame(0)->setIndex(0, 1, 1);
+        run->frame(1)->setCells({{{2}, {2, 0, false, true}}});
 
         const auto lift = m_platform->createBoundTileAnimation("Lift");
         lift->setMapObjectType(MapObjectType::HorizontalPlatform);
         lift->setSize({3, 1});
-        lift->addFrame();
-        setCell(*lift, 0, 0, {257});
-        setCell(*lift, 0, 1, {5, 3});
-        setCell(*lift, 0, 2, {5, 3, false, true});
+        lift->addFrame()->setCells({{{257}, {5, 3}, {5, 3, false, true}}});
 
         m_blocks->createBoundTileAnimation("Still");
         const QUuid moving = m_blocks->createBoundTileAnimation("Moving")->id();
@@ -209,37 +196,30 @@ private slots:
         QCOMPARE(all.mid(offset, bytes.size()).toHex(' '), bytes.toHex(' '));
     }
 
-    void sourceText_data()
+    void sourceText()
     {
-        QTest::addColumn<QStringList>("texts"); // of each file
         const QString title = "Cave: Tile map, two bytes a cell";
         const QString assembler = "; " + title
             + "\n\nCAVE_WIDTH:\tequ 2\nCAVE_HEIGHT:\tequ 2\nCAVE_SCREEN_WIDTH:\tequ 2\nCAVE_SCREEN_HEIGHT:\tequ 2\n"
               "CAVE_SCREENS_ACROSS:\tequ 1\nCAVE_SCREENS_DOWN:\tequ 1\nCAVE_SIZE:\tequ 8\n\n"
               "cave:\n\tdb $01,$39,$05,$02\n\tdb $02,$f4,$ff,$af\n";
-        QTest::newRow("sjasmplus") << QStringList{assembler}; // others are assembled by the tests of source text
-        QTest::newRow("c") << QStringList{
-            "/* " + title
-                + " */\n\n#include \"cave.h\"\n\nconst unsigned char cave[8] = {\n"
-                  "\t0x01,0x39,0x05,0x02,\n\t0x02,0xf4,0xff,0xaf,\n};\n",
-            "/* " + title
-                + " */\n\n#ifndef CAVE_INCLUDED\n#define CAVE_INCLUDED\n\n"
-                  "#define CAVE_WIDTH 2\n#define CAVE_HEIGHT 2\n#define CAVE_SCREEN_WIDTH 2\n"
-                  "#define CAVE_SCREEN_HEIGHT 2\n#define CAVE_SCREENS_ACROSS 1\n#define CAVE_SCREENS_DOWN 1\n"
-                  "#define CAVE_SIZE 8\n\nextern const unsigned char cave[8];\n\n#endif\n"};
+        const QString code = "/* " + title
+            + " */\n\n#include \"cave.h\"\n\nconst unsigned char cave[8] = {\n"
+              "\t0x01,0x39,0x05,0x02,\n\t0x02,0xf4,0xff,0xaf,\n};\n";
+        const QString header = "/* " + title
+            + " */\n\n#ifndef CAVE_INCLUDED\n#define CAVE_INCLUDED\n\n"
+              "#define CAVE_WIDTH 2\n#define CAVE_HEIGHT 2\n#define CAVE_SCREEN_WIDTH 2\n"
+              "#define CAVE_SCREEN_HEIGHT 2\n#define CAVE_SCREENS_ACROSS 1\n#define CAVE_SCREENS_DOWN 1\n"
+              "#define CAVE_SIZE 8\n\nextern const unsigned char cave[8];\n\n#endif\n";
+        // other assemblers read theirs in the tests of source text
+        for (const auto &[dialect, texts] :
+             {std::pair{"sjasmplus", QStringList{assembler}}, {"c", QStringList{code, header}}}) {
+            const auto files = written("map-2byte", asset("Cave"), {{"text", dialect}}, "cave.c");
+            QCOMPARE(valuesOf(*files, [](const OutputFile &file) { return QString::fromUtf8(file.bytes); }), texts);
+        }
     }
 
-    void sourceText()
-    {
-        QFETCH(QStringList, texts);
-        const Options options{{"text", QTest::currentDataTag()}};
-        QStringList found;
-        for (const OutputFile &file : *written("map-2byte", asset("Cave"), options, "cave.c"))
-            found.append(QString::fromUtf8(file.bytes));
-        QCOMPARE(found, texts);
-    }
-
-    void refusal_data()
+    void refusal()
     {
         const auto mapWith = [this](const char *name, QPoint at, const TileMap::TileData &cell) {
             const auto map = m_project.createMap(name, m_tiles->id(), {3, 2});
@@ -259,8 +239,7 @@ private slots:
         wide->setSize({256, 1});
         const auto high = m_project.createBlockList("High", m_tiles->id())->createBoundTileAnimation("Tower");
         high->setSize({1, 1});
-        high->addFrame();
-        setCell(*high, 0, 0, {512});
+        high->addFrame()->setIndex(0, 0, 512);
         m_project.createSpriteBank(Quenmora::EightBit, "Deep", {})->setWholeImage(plainImage({16, 32}, 16));
         m_project.createImage(Quenmora::Layer2_640x256, "Colourful", {})->setImage(picture({640, 256}, "01"));
         m_project.createImage(Quenmora::LoRes_128x96, "Bare", {});
@@ -270,62 +249,58 @@ private slots:
         const auto valued = m_project.createTileSet("Valued", m_palette->id(), 2);
         valued->tile(1)->setValue(256);
 
-        QTest::addColumn<QString>("form");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<Options>("options");
-        QTest::addColumn<QString>("reason");
-        const auto add = [](const char *form, const char *name, const Options &options, const char *reason) {
-            QTest::addRow("%s", reason) << form << name << options << QString::fromUtf8(reason);
+        const auto refuses = [this](const char *form, const char *name, const Options &options, const QString &reason) {
+            QCOMPARE(written(form, asset(name), options).reason(), reason);
         };
-        add("palette", "Cave", {}, "“Cave” is a map, and the form palette is for a palette");
-        add("layer2-256", "320", {}, "“320” has 320 × 256 pixels, and this form 256 × 192");
-        add("layer2-640", "Colourful", {{"palette", "true"}},
+        refuses("palette", "Cave", {}, "“Cave” is a map, and the form palette is for a palette");
+        refuses("layer2-256", "320", {}, "“320” has 320 × 256 pixels, and this form 256 × 192");
+        refuses(
+            "layer2-640", "Colourful", {{"palette", "true"}},
             "“Colourful”: the pixel at 5, 3 has the index 32, and only those from 16 to 31 go with the first pixel");
-        add("lores", "Bare", {{"palette", "true"}}, "“Bare” has no palette that could stand in front");
-        add("tiles-4bit", "Rocks", {{"first", "3"}},
-            "Options first and count: there are 3, and 1 from number 3 on are not");
-        add("tiles-4bit", "Rocks", {{"first", "1"}, {"count", "3"}},
-            "Options first and count: there are 3, and 3 from number 1 on are not");
-        add("tile-values", "Valued", {}, "“Valued”: tile 1 (counted from 0) has the value 256, and -128 to 255 fit");
-        add("map-1byte", "Cave", {},
+        refuses("lores", "Bare", {{"palette", "true"}}, "“Bare” has no palette that could stand in front");
+        refuses("tiles-4bit", "Rocks", {{"first", "3"}},
+                "Options first and count: there are 3, and 1 from number 3 on are not");
+        refuses("tiles-4bit", "Rocks", {{"first", "1"}, {"count", "3"}},
+                "Options first and count: there are 3, and 3 from number 1 on are not");
+        refuses("tile-values", "Valued", {},
+                "“Valued”: tile 1 (counted from 0) has the value 256, and -128 to 255 fit");
+        refuses(
+            "map-1byte", "Cave", {},
             "“Cave”: the cell in column 0, row 0 (counted from 0) shows tile 257, and 255 is the last one that fits");
-        add("map-1byte", "Mirrored", {},
+        refuses(
+            "map-1byte", "Mirrored", {},
             "“Mirrored”: the cell in column 2, row 1 (counted from 0) is rotated or mirrored, which one byte does not "
             "tell");
-        add("map-1byte", "Offsets", {},
+        refuses(
+            "map-1byte", "Offsets", {},
             "“Offsets”: the cell in column 1, row 1 (counted from 0) has the palette offset 5, others have 4, and one "
             "byte does not tell them apart");
-        add("map-2byte", "Beyond", {},
+        refuses(
+            "map-2byte", "Beyond", {},
             "“Beyond”: the cell in column 1, row 0 (counted from 0) shows tile 512, and 511 is the last one that fits");
-        add("map-sprites", "Far", {}, "“Far”, placed sprite 0: x is 32768, and -32768 to 32767 fit");
-        add("map-sprites", "No bank", {}, "“No bank”, placed sprite 0 “Cat”: its sprite bank is not in the project");
-        add("map-sprites", "No run", {}, "“No run”, placed sprite 0: its animation is not in the project");
-        add("map-blocks", "No block", {}, "“No block”, placed animation 0: its animation is not in the project");
-        add("block-animations", "Wide", {}, "“Wide”, animation “Wall”: the width is 256, and 0 to 255 fit");
-        add("block-animations", "High", {},
+        refuses("map-sprites", "Far", {}, "“Far”, placed sprite 0: x is 32768, and -32768 to 32767 fit");
+        refuses("map-sprites", "No bank", {},
+                "“No bank”, placed sprite 0 “Cat”: its sprite bank is not in the project");
+        refuses("map-sprites", "No run", {}, "“No run”, placed sprite 0: its animation is not in the project");
+        refuses("map-blocks", "No block", {}, "“No block”, placed animation 0: its animation is not in the project");
+        refuses("block-animations", "Wide", {}, "“Wide”, animation “Wall”: the width is 256, and 0 to 255 fit");
+        refuses(
+            "block-animations", "High", {},
             "Animation “Tower”, frame 0, column 0, row 0 (counted from 0): it shows number 512, and 511 is the last "
             "one that fits");
-        add("sprites-packed", "Deep", {},
+        refuses(
+            "sprites-packed", "Deep", {},
             "“Deep” is a bank of 8 bits: sprite 0 (counted from 0) has a pixel of index 16, and 4 bits hold 0 to 15");
-        add("map-2byte", "Cave", {{"order", "diagonals"}}, "Option order: “diagonals” is not one of rows, columns");
-        add("map-2byte", "Cave", {{"screen-width", " 4"}},
-            "Option screen-width: “ 4” is not a whole number from 0 to 9999");
-        add("lores", "128", {{"halves", "yes"}}, "Option halves: “yes” is not true or false");
-        add("lores", "128", {{"half", "true"}},
-            "There is no option “half”, only palette, halves, text, label, pad, cut");
-        add("lores", "128", {{"text", "c"}, {"label", "2nd"}},
-            "“2nd” cannot be a label: those are a letter, then letters, digits and _, 56 at most");
-        add("lores", "128", {{"text", "gas"}, {"label", "LD"}},
-            "“LD” cannot be a label: assemblers or C give it a meaning");
-    }
-
-    void refusal()
-    {
-        QFETCH(QString, form);
-        QFETCH(QString, name);
-        QFETCH(Options, options);
-        QFETCH(QString, reason);
-        QCOMPARE(written(form, asset(name), options).reason(), reason);
+        refuses("map-2byte", "Cave", {{"order", "diagonals"}}, "Option order: “diagonals” is not one of rows, columns");
+        refuses("map-2byte", "Cave", {{"screen-width", " 4"}},
+                "Option screen-width: “ 4” is not a whole number from 0 to 9999");
+        refuses("lores", "128", {{"halves", "yes"}}, "Option halves: “yes” is not true or false");
+        refuses("lores", "128", {{"half", "true"}},
+                "There is no option “half”, only palette, halves, text, label, pad, cut");
+        refuses("lores", "128", {{"text", "c"}, {"label", "2nd"}},
+                "“2nd” cannot be a label: those are a letter, then letters, digits and _, 56 at most");
+        refuses("lores", "128", {{"text", "gas"}, {"label", "LD"}},
+                "“LD” cannot be a label: assemblers or C give it a meaning");
     }
 
     /// Files that no form writes, by hand.
@@ -410,41 +385,29 @@ private slots:
         QCOMPARE(withoutHeader(bytes), bytes);
     }
 
-    void saysWhatIsWrong_data()
-    {
-        QTest::addColumn<QString>("id");
-        QTest::addColumn<qsizetype>("size");
-        QTest::addColumn<Options>("options");
-        QTest::addColumn<QString>("reason");
-        const auto add = [](const char *id, qsizetype size, const Options &options, const char *reason) {
-            QTest::addRow("%s of %d bytes", id, int(size)) << id << size << options << reason;
-        };
-        add("palette", 0, {}, "The file is empty");
-        add("palette", 511, {}, "The file has 511 bytes, and such a palette 2 an entry, 512 in all");
-        add("palette-513", 512, {}, "The file has 512 bytes, and such a palette 513");
-        add("tiles-4bit", 31, {}, "The file has 31 bytes, and one of these takes 32");
-        add("tiles-4bit", 64, {{"first", "2"}}, "Options first and count: there are 2, and 1 from number 2 on are not");
-        add("tiles-1bit", 4097 * 8, {},
-            "The file holds 4097, and 4096 go into an asset: choose which, with first and count");
-        add("map-1byte", 10'000, {{"width", "1"}},
-            "That makes a map of 1 × 10000 cells; 9999 along a side and 8000000 in all are the most");
-        add("map-1byte", 8'000'001, {{"width", "9000"}},
-            "That makes a map of 9000 × 889 cells; 9999 along a side and 8000000 in all are the most");
-        add("map-2byte", 1, {}, "The file has 1 bytes, and a cell takes 2");
-        add("sprites-packed", 100, {}, "The file has 100 bytes, and one of these takes 128");
-        add("layer2-320", 49'152, {},
-            "The file has 49152 bytes, and such a picture 81920, or 82432 or 82176 with its palette");
-        add("sprites-8bit", MostBytes + 1, {},
-            "The file has 16777217 bytes, and the largest that is read as it is 16777216");
-    }
-
     void saysWhatIsWrong()
     {
-        QFETCH(QString, id);
-        QFETCH(qsizetype, size);
-        QFETCH(Options, options);
-        QFETCH(QString, reason);
-        QCOMPARE(readBack(id, QByteArray(size, '\1'), options).reason(), reason);
+        const auto refuses = [](const char *id, qsizetype size, const Options &options, const QString &reason) {
+            QCOMPARE(readBack(id, QByteArray(size, '\1'), options).reason(), reason);
+        };
+        refuses("palette", 0, {}, "The file is empty");
+        refuses("palette", 511, {}, "The file has 511 bytes, and such a palette 2 an entry, 512 in all");
+        refuses("palette-513", 512, {}, "The file has 512 bytes, and such a palette 513");
+        refuses("tiles-4bit", 31, {}, "The file has 31 bytes, and one of these takes 32");
+        refuses("tiles-4bit", 64, {{"first", "2"}},
+                "Options first and count: there are 2, and 1 from number 2 on are not");
+        refuses("tiles-1bit", 4097 * 8, {},
+                "The file holds 4097, and 4096 go into an asset: choose which, with first and count");
+        refuses("map-1byte", 10'000, {{"width", "1"}},
+                "That makes a map of 1 × 10000 cells; 9999 along a side and 8000000 in all are the most");
+        refuses("map-1byte", 8'000'001, {{"width", "9000"}},
+                "That makes a map of 9000 × 889 cells; 9999 along a side and 8000000 in all are the most");
+        refuses("map-2byte", 1, {}, "The file has 1 bytes, and a cell takes 2");
+        refuses("sprites-packed", 100, {}, "The file has 100 bytes, and one of these takes 128");
+        refuses("layer2-320", 49'152, {},
+                "The file has 49152 bytes, and such a picture 81920, or 82432 or 82176 with its palette");
+        refuses("sprites-8bit", MostBytes + 1, {},
+                "The file has 16777217 bytes, and the largest that is read as it is 16777216");
     }
 };
 

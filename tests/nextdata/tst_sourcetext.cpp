@@ -12,27 +12,11 @@ namespace {
 /// Names that people or damaged projects give, and that no assembler or file system would take.
 const QStringList &awkwardNames()
 {
-    static const QStringList names{
-        "Level",
-        "Level",
-        "level 2",
-        "ld",
-        "HL",
-        "int",
-        "floor",
-        "1st",
-        "",
-        "..",
-        "../../up",
-        "con.map",
-        "Gr\u00F6\u00DFe \"x\" / y\\",
-        "\u65E5\u672C",
-        "*/ #error",
-        "a\n\tdb 1\r\n; b ?\?/",
-        "label:",
-        QString(10000, 'x'),
-        QString(10000, 'x') + 'y',
-    };
+    static const QStringList names =
+        QString("Level|Level|level 2|ld|HL|int|floor|1st||..|../../up|con.map|Gr\u00F6\u00DFe \"x\" / y\\|\u65E5\u672C|"
+                "*/ #error|a\n\tdb 1\r\n; b ?\?/|label:")
+            .split('|')
+        + QStringList{QString(10000, 'x'), QString(10000, 'x') + 'y'};
     return names;
 }
 
@@ -247,34 +231,27 @@ private slots:
         QVERIFY(names.claimExactly("Tower") && !names.claimExactly("tower") && !names.claimExactly("level"));
     }
 
-    void fileNames_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("fileName");
-        const auto add = [](const QString &name, const QString &fileName) {
-            QTest::addRow("%s", qPrintable(name.left(20))) << name << fileName;
-        };
-        add("Level 1", "Level 1");
-        add("Gr\u00F6\u00DFe", "Gr\u00F6\u00DFe");
-        add("../../etc/passwd", "_.._etc_passwd");
-        add("a:b*c?\"<>|\\d\n", "a_b_c______d_");
-        add("Con", "map_Con");
-        add("lpt\u00B9.old", "map_lpt\u00B9.old");
-        add("dots. . .", "dots");
-        add("..", "map");
-        add("", "map");
-        add(QString(10000, QChar(0x65E5)), QString(80, QChar(0x65E5)));
-    }
-
     void fileNames()
     {
-        QFETCH(QString, name);
-        QFETCH(QString, fileName);
-        QCOMPARE(FileNames::fromAssetName(name, "map"), fileName);
-        QCOMPARE(FileNames::problemOf("gfx/" + fileName + ".map"), QString());
+        const std::pair<QString, QString> names[] = {
+            {"Level 1", "Level 1"},
+            {"Gr\u00F6\u00DFe", "Gr\u00F6\u00DFe"},
+            {"../../etc/passwd", "_.._etc_passwd"},
+            {"a:b*c?\"<>|\\d\n", "a_b_c______d_"},
+            {"Con", "map_Con"},
+            {"lpt\u00B9.old", "map_lpt\u00B9.old"},
+            {"dots. . .", "dots"},
+            {"..", "map"},
+            {"", "map"},
+            {QString(10000, QChar(0x65E5)), QString(80, QChar(0x65E5))},
+        };
+        for (const auto &[name, fileName] : names) {
+            QCOMPARE(FileNames::fromAssetName(name, "map"), fileName);
+            QCOMPARE(FileNames::problemOf("gfx/" + fileName + ".map"), QString());
+            if (name != fileName) // what is no file's name is never written under it
+                QVERIFY(!FileNames::problemOf(name).isEmpty() || name == "Con");
+        }
         const auto palette = sourceOf(m_random.project, m_random.project.palettes().first());
-        if (name != fileName) // what is no file's name is never written under it
-            QVERIFY(!FileNames::problemOf(name).isEmpty() || name == "Con");
         for (const char *path : {"/etc/passwd", "C:/a", "../a", "a/../../b", "a//b", "a/", "a/.", "nul.map", "a?b"})
             QVERIFY2(!FileNames::problemOf(path).isEmpty() && !written("palette", palette, {}, path), path);
     }

@@ -175,8 +175,7 @@ private slots:
             QCOMPARE(m_log->take(), QStringList("loadError Invalid project file"));
         }
         QCOMPARE(readFile(path("kept")), "last version");
-        QCOMPARE(QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot).size(),
-                 names.size());
+        QCOMPARE(entries().size(), names.size());
     }
 
     void keepsLinksAndWhoMayReadTheFile()
@@ -257,7 +256,7 @@ private slots:
         QVERIFY(!project && !m_store->project() && m_store->fileName().isEmpty());
     }
 
-    void theFingerprintFollowsTheContent()
+    void fingerprintAndComparisonFollowTheContent()
     {
         Project *project = m_store->newProject("new");
         SampleProject::fill(*project);
@@ -274,10 +273,12 @@ private slots:
         QCOMPARE(last, digest());
         QVERIFY(m_store->saveAs(path("a.quenmora"))); // from now on pictures come from what is kept
         QCOMPARE(m_store->fingerprint(), last);
+        ProjectSnapshot before = snapshotOf(*project, true);
         project->setOpenDocuments({"another"});
         QCOMPARE(m_store->fingerprint(), last);
+        QVERIFY(haveSameContent(snapshotOf(*project, true), before));
 
-        // what reaches the document, and each kind of member
+        // what reaches the document, and each kind of member, at last with indices that look the same
         const TileMap::TileData cell{.index = 1, .used = true};
         const auto animation = project->blockSets().first()->animations().first();
         const std::function<void()> edits[] = {
@@ -289,12 +290,20 @@ private slots:
             [&] { project->images().first()->setImage(SampleProject::gradient(QSize(256, 191))); },
             [&] { project->setScratchImage(SampleProject::gradient(QSize(192, 256))); },
             [&] { animation->frame(0)->setIndex(0, 0, 99); },
+            [&] {
+                project->setScratchImage(plainImage({9, 9}, 1));
+            },
+            [&] {
+                project->setScratchImage(plainImage({9, 9}, 2));
+            },
         };
         for (const auto &edit : edits) {
             edit();
             QVERIFY2(m_store->fingerprint() != last, qPrintable(QString::number(&edit - edits)));
             last = m_store->fingerprint();
             QCOMPARE(last, digest());
+            QVERIFY(!haveSameContent(snapshotOf(*project, true), before));
+            before = snapshotOf(*project, true);
         }
     }
 
@@ -397,11 +406,7 @@ private slots:
 private:
     [[nodiscard]] QString path(const QString &name) const { return m_folder->filePath(name); }
     [[nodiscard]] static QJsonObject object(const QByteArray &text) { return QJsonDocument::fromJson(text).object(); }
-    /// What is in the folder.
-    [[nodiscard]] QStringList entries() const
-    {
-        return QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
-    }
+    [[nodiscard]] QStringList entries() const { return entriesOf(m_folder->path()); }
 
     std::unique_ptr<QTemporaryDir> m_folder;
     QString m_game;

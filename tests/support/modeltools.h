@@ -45,6 +45,12 @@ private:
     return file.open(QIODevice::ReadOnly | QIODevice::Text) ? file.readAll() : QByteArray("unreadable");
 }
 
+/// The names of all that is in a folder, sorted.
+[[nodiscard]] inline QStringList entriesOf(const QString &folder)
+{
+    return QDir(folder).entryList(QDir::AllEntries | QDir::System | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
+}
+
 /// Bytes that deflate cannot make much smaller.
 [[nodiscard]] inline QByteArray noise(int size, quint32 seed = 1)
 {

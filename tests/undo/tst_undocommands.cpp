@@ -5,6 +5,7 @@
 #include "support/randomproject.h"
 #include "support/testmain.h"
 #include "undo/editclock.h"
+#include "undo/editrecorder.h"
 #include "undo/mapeditcommand.h"
 #include "undo/palettecolourcommand.h"
 #include "undo/paletteordercommand.h"
@@ -280,6 +281,20 @@ private slots:
         const TileSetChange change(editOf(1, 1), editOf(2, 2));
         for (const auto &[lastPixel, left] : {std::pair{2, editOf(1, 1)}, {3, editOf(2, 3)}})
             QVERIFY(change.undone(editOf(2, lastPixel)).looksLike(left));
+    }
+
+    void deletedTilesComeBackWhereTheirCellsAreNow()
+    {
+        Project project;
+        const QPointer<TileSet> tiles = project.createTileSet("Tiles", {}, 3);
+        const QPointer<Map> map = project.createMap("Level", tiles->id(), {2, 1});
+        map->setTile({1, 0}, Turned);
+        QUndoStack stack;
+        const EditRecorder recorder(&project, [&stack](const QUuid &) { return &stack; });
+        tiles->deleteTile(Turned.index);
+        map->insertColumn(Quenmora::Begin);
+        stack.undo();
+        QCOMPARE(map->tileLayer()->cellAt({2, 0}), Turned);
     }
 
     void banksBecomeNeitherEmptyNorTooLarge()
