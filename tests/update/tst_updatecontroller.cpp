@@ -71,23 +71,7 @@ private slots:
             QVERIFY2(shouldCheck(enabled, interval, lastCheck, {2027, 3, 1}) == due, lastCheck);
     }
 
-    void feedEntryIsRead()
-    {
-        const std::pair<QByteArray, std::optional<Release>> cases[] = {
-            {R"({"schema": 1, "tools": {"another": {"latest": "9"}, "quenmora": {"latest": "0.7.1.0", "channel": "stable",
-                 "released": "2026-11-20", "size": 4711, "notes_url": "https://n", "downloads_url": "https://d"}}})",
-             Release{"0.7.1.0", "stable", "2026-11-20", "https://n", "https://d"}},
-            {R"({"tools": {"quenmora": {"latest": "1"}}})", Release{"1", {}, {}, {}, {}}},
-            {R"({"tools": {"quenmora": {"latest": 8, "channel": ["stable"]}}})", Release()},
-            {R"({"tools": {"Quenmora": {"latest": "1"}}})", {}},
-            {R"({"quenmora": {"latest": "1"}})", {}},
-            {R"({"tools": {"quenmora": {"latest": "1)", {}}, // cut
-            {"<html><body>Welcome</body></html>", {}},
-            {QByteArray(100000, '['), {}},
-        };
-        for (const auto &[feed, entry] : cases)
-            QVERIFY2(parseFeed(feed, "quenmora") == entry, feed.left(80));
-    }
+    void feedEntryIsRead();
 
     void onlyNewerReleasesAreOffered()
     {
@@ -243,6 +227,25 @@ private:
     QList<QUrl> m_opened;
     const QString m_today = QDateTime::currentDateTimeUtc().date().toString(Qt::ISODate);
 };
+
+// outside the class, where moc does not read its strings
+void TestUpdateController::feedEntryIsRead()
+{
+    const std::pair<QByteArray, std::optional<Release>> cases[] = {
+        {R"({"schema": 1, "tools": {"another": {"latest": "9"}, "quenmora": {"latest": "0.7.1.0", "channel": "stable",
+             "released": "2026-11-20", "size": 4711, "notes_url": "https://n", "downloads_url": "https://d"}}})",
+         Release{"0.7.1.0", "stable", "2026-11-20", "https://n", "https://d"}},
+        {R"({"tools": {"quenmora": {"latest": "1"}}})", Release{"1", {}, {}, {}, {}}},
+        {R"({"tools": {"quenmora": {"latest": 8, "channel": ["stable"]}}})", Release()},
+        {R"({"tools": {"Quenmora": {"latest": "1"}}})", {}},
+        {R"({"quenmora": {"latest": "1"}})", {}},
+        {R"({"tools": {"quenmora": {"latest": "1)", {}}, // cut
+        {"<html><body>Welcome</body></html>", {}},
+        {QByteArray(100000, '['), {}},
+    };
+    for (const auto &[feed, entry] : cases)
+        QVERIFY2(parseFeed(feed, "quenmora") == entry, feed.left(80));
+}
 
 QUENMORA_TEST_MAIN(TestUpdateController)
 #include "tst_updatecontroller.moc"
