@@ -89,22 +89,24 @@ Sprites moved(Sprites sprites, QPoint cells)
     return sprites;
 }
 
-Map::Snapshot renumbered(Map::Snapshot map, const MapNames &from, const MapNames &to)
+Map::Snapshot renumbered(Map::Snapshot map, const MapNames &from, const MapNames &to, const Map::Snapshot &like)
 {
     const Renumbering tiles = Renumbering::since(from.tiles, to.tiles);
-    map.tiles = renumbered(map.tiles, tiles);
-    map.objects = renumbered(map.objects, tiles);
+    map.tiles = renumbered(map.tiles, tiles, like.tiles);
+    map.objects = renumbered(map.objects, tiles, like.objects);
     for (auto names = from.sprites.cbegin(); names != from.sprites.cend(); ++names)
         map.sprites = renumbered(map.sprites, names.key(), Renumbering::since(*names, to.sprites.value(names.key())));
     return map;
 }
 
 template <typename State>
-State renumbered(State animation, const Numbering::Names &from, const Numbering::Names &to)
+State renumbered(State animation, const Numbering::Names &from, const Numbering::Names &to, const State &like)
 {
     const Renumbering renumbering = Renumbering::since(from, to);
-    for (auto &frame : animation.frames)
-        frame.cells = renumbered(frame.cells, renumbering);
+    for (qsizetype i = 0; i < animation.frames.size(); ++i) {
+        auto &cells = animation.frames[i].cells;
+        cells = renumbered(cells, renumbering, like.frames.value(i).cells);
+    }
     return animation;
 }
 
@@ -171,8 +173,10 @@ Ghosts<Map::Snapshot, MapNames> &MapGhosts::of(Map &map)
     return (ghosts ? ghosts : new MapGhosts(&map))->m_ghosts;
 }
 
-template Animation::State renumbered(Animation::State, const Numbering::Names &, const Numbering::Names &);
-template TileAnimation::State renumbered(TileAnimation::State, const Numbering::Names &, const Numbering::Names &);
+template Animation::State renumbered(Animation::State, const Numbering::Names &, const Numbering::Names &,
+                                     const Animation::State &);
+template TileAnimation::State renumbered(TileAnimation::State, const Numbering::Names &, const Numbering::Names &,
+                                         const TileAnimation::State &);
 template Animation::State withoutGhosts(Animation::State);
 template TileAnimation::State withoutGhosts(TileAnimation::State);
 template void follow(Animation::State &, const Animation::State &, const Animation::State &);

@@ -26,10 +26,13 @@ struct MapNames
 [[nodiscard]] bool anyGone(const MapNames &then, const MapNames &now);
 [[nodiscard]] bool anyGone(const Numbering::Names &then, const Numbering::Names &now);
 
-/// Contents in the numbers of another time. What is gone by then becomes a ghost (numbering.h).
-[[nodiscard]] Map::Snapshot renumbered(Map::Snapshot map, const MapNames &from, const MapNames &to);
+/// Contents in the numbers of another time. What is gone by then becomes a ghost (numbering.h). Rows that become those
+/// of another content share them with it.
+[[nodiscard]] Map::Snapshot renumbered(Map::Snapshot map, const MapNames &from, const MapNames &to,
+                                       const Map::Snapshot &like = {});
 template <typename State>
-[[nodiscard]] State renumbered(State animation, const Numbering::Names &from, const Numbering::Names &to);
+[[nodiscard]] State renumbered(State animation, const Numbering::Names &from, const Numbering::Names &to,
+                               const State &like = {});
 /// Placed sprites after those of a bank got other numbers.
 [[nodiscard]] QList<Map::PlacedSprite> renumbered(QList<Map::PlacedSprite> sprites, const QUuid &bank,
                                                   const Renumbering &renumbering);
@@ -66,8 +69,8 @@ public:
             return shown;
         }
         if (m_known->names != names) {
-            m_known->full = renumbered(m_known->full, m_known->names, names);
-            m_known->shown = withoutGhosts(renumbered(m_known->shown, m_known->names, names));
+            m_known->full = renumbered(m_known->full, m_known->names, names, shown);
+            m_known->shown = withoutGhosts(renumbered(m_known->shown, m_known->names, names, shown));
             m_known->names = names;
         }
         follow(m_known->full, m_known->shown, shown);
