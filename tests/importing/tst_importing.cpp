@@ -194,7 +194,7 @@ private slots:
         const auto is = [this](const QString &name, const QByteArray &bytes, const QString &kind,
                                const Options &options = {}) {
             const Guess guess = recognise(file(name, bytes)).constFirst();
-            QVERIFY2(guess.kind == kind && guess.options == options, qPrintable(name + " is no " + guess.kind));
+            QVERIFY2(guess.kind == kind && guess.options == options, qPrintable(name + " is taken for " + guess.kind));
         };
         const auto some = [](int size) { return noise(size); };
         QByteArray cells = noise(2560);
