@@ -45,7 +45,7 @@ private slots:
         m_project = std::make_unique<Project>();
         m_window = std::make_unique<QWidget>();
         m_actions = std::make_unique<ProjectActions>([this] { return m_project.get(); }, m_window.get());
-        m_ready = {};
+        m_ready = QUuid();
         for (const auto signal :
              {&ProjectActions::paletteReady, &ProjectActions::tileSetReady, &ProjectActions::mapReady,
               &ProjectActions::blocksReady, &ProjectActions::spritesReady})
