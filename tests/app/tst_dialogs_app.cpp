@@ -193,17 +193,14 @@ private slots:
             const char *name;
             const char *problem;
         };
+        const char *groups = "The colours lie in several groups of 16 of the palette; 4-bit sprites show one group";
         const Case cases[]{
             {{0, 0}, false, false, "x", "The file is not a picture that can be read"},
             {{15, 32}, false, false, "x", "The picture is smaller than a sprite, which has 16 × 16 pixels"},
             {{16, 16}, true, false, "Main", "There is a palette of this name already; please choose another name"},
             {{16, 16}, false, false, "Main", ""}, // no palette is made
             {{16, 16}, true, true, "x", "The picture has 16 colours; 4-bit sprites show 15 beside the transparent one"},
-            {{16, 16},
-             false,
-             true,
-             "x",
-             "The colours lie in several groups of 16 of the palette; 4-bit sprites show one group"},
+            {{16, 16}, false, true, "x", groups},
             {{16, 16}, false, false, "", "Please enter a name"}};
         for (const auto &[size, slice, fourBit, name, problem] : cases) {
             const QImage picture = pictureOf(size, QImage::Format_RGB32, [width = size.width()](int i) {

@@ -131,15 +131,14 @@ private slots:
 
     void refusesPicturesThatCannotBe()
     {
+        const QString huge = "Could not read the image file\nIt has 9000 × 9000 pixels; at most 8192 × 8192, or as "
+                             "many in another shape, can be read";
         const std::tuple<QSize, const char *, QString> cases[]{
             {{32, 16}, "level.bmp", ""},
             {{27, 19}, "level.bmp", "Cannot import the image as it would need more than 512 tiles\n513 required"},
             {{}, "cut.png", "Could not read the image file"},
-            {{}, "world.NXM", "Could not read the image file"}, // files of the Next have their suffix in lower case
-            {{},
-             "huge.ppm",
-             "Could not read the image file\nIt has 9000 × 9000 pixels; at most 8192 × 8192, or as many in another "
-             "shape, can be read"}};
+            {{}, "world.NXM", "Could not read the image file"}, // which is not the suffix of a data set
+            {{}, "huge.ppm", huge}};
         for (const auto &[tiles, name, failure] : cases) {
             init();
             const QString file = m_folder(name);
