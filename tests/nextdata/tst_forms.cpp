@@ -49,8 +49,6 @@ QByteArray onDisk(const QByteArray &bytes)
 
 } // namespace
 
-Q_DECLARE_METATYPE(Content)
-
 /// The worked examples of docs/file-formats.md, files of other converters, and what no form takes or has. Random
 /// projects go through every form, there and back, in the tests of importing.
 class TestForms : public QObject
@@ -135,65 +133,51 @@ private slots:
         }
     }
 
-    void example_data()
+    void examples()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<Options>("options");
-        QTest::addColumn<int>("offset");
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<int>("size"); // of the whole
-        const auto add = [](const char *form, const char *name, const Options &options, const char *bytes, int size,
-                            int offset = 0) {
-            QTest::addRow("%s at %d of %s, %d options", form, offset, name, int(options.size()))
-                << name << options << offset << QByteArray::fromHex(bytes) << size;
+        const auto writes = [this](const QString &form, const QString &name, const Options &options, const char *hex,
+                                   int size, int offset = 0) { // the size is that of the whole
+            const auto shown = [&form](qsizetype count, const QByteArray &bytes) {
+                return QString("%1, %2 bytes: %3").arg(form).arg(count).arg(bytes.toHex(' '));
+            };
+            const QByteArray bytes = QByteArray::fromHex(hex);
+            const QByteArray all = writtenBytes(form, asset(name), options);
+            QCOMPARE(shown(all.size(), all.mid(offset, bytes.size())), shown(size, bytes));
         };
-        add("palette", "Sunset", {}, "E3 81 56 00 EC 01 00 00", 512);
-        add("palette-513", "Sunset", {}, "EC", 513, 512);
-        add("palette-8bit", "Sunset", {}, "E3 56 EC 00", 256);
-        add("palette-group", "Sunset", {{"group", "0"}}, "E3 81 56 00 EC 01 00 00", 32);
-        add("palette-cycles", "Sunset", {}, "02 08 0F 05 00 C0 FF FF 01", 9);
-        add("tiles-4bit", "Rocks", {}, "00 01 10 00 00 12 21 00 01 23 32 10 12 34 53 21 F0 00 00 00 0F 00 00 00 77",
-            96);
-        add("tiles-8bit", "Rocks", {}, "20 20 20 21 21 20 20 20 20", 192);
-        add("tiles-8bit", "Rocks", {{"order", "columns"}}, "20 20 20 21 2F 20 27 20 20", 192);
-        add("tiles-1bit", "Rocks", {{"ink", "1"}}, "18 24 42 81 00 00 00 00 00", 24);
-        add("tile-attributes", "Rocks", {}, "00 0F 41", 3);
-        add("tile-values", "Rocks", {}, "00 05 FF", 3);
-        add("tile-values", "Rocks", {{"width", "word"}}, "00 00 05 00 FF FF", 6);
-        add("map-2byte", "Cave", {{"order", "columns"}}, "01 39 02 F4 05 02 FF AF", 8);
-        add("map-2byte", "Cave", {{"screen-height", "1"}, {"pad", "5"}}, "01 39 05 02 02 F4 FF AF 00 00", 10);
-        add("map-1byte", "Hall", {}, "01 02 03 04 05 06", 6);
-        add("map-1byte", "Hall", {{"order", "columns"}}, "01 04 02 05 03 06", 6);
-        add("map-1byte", "Hall", {{"screen-width", "2"}, {"screen-height", "2"}}, "01 02 04 05 03 00 06 00", 8);
-        add("map-sprites", "Cave", {},
-            "02 00  28 00 F8 FF 00 28 03 00 00 00 00 00 00 00 00 00"
-            "2C 01 64 00 01 01 01 00 01 00 32 00 64 00 22 00  42 61 74 00",
-            38);
-        add("map-blocks", "Cave", {}, "01 00  1F 00 06 00 03 01 00 01 01 00 00 00 00 00 0A 00", 18);
-        add("block-animations", "Platform", {}, "01 00 04 00  03 01 01 01 00 00  01 01 05 30 05 38", 16);
-        add("sprite-animations", "Hero", {}, "01 00 04 00  02 01 02 00 04 00  00 00 01 00 02 00 02 08", 18);
-        add("sprites-8bit", "Hero", {}, "00 01 02 03 04 05 06 07 08 09 0A 0B 0C 0D 0E 0F 00", 1024);
-        add("sprites-packed", "Hero", {}, "01 23 45 67 89 AB CD EF 00", 512);
-        add("layer2-256", "256", {}, "01 02 00", 49152);
-        add("layer2-256", "256", {}, "03 00", 49152, 256);
-        add("layer2-320", "320", {}, "01 03 00", 81920);
-        add("layer2-320", "320", {}, "02 00", 81920, 256);
-        add("layer2-640", "640", {}, "12 30 00", 81920);
-        add("lores", "128", {}, "01 02 00", 12288);
-        add("lores", "128", {}, "03 00", 12288, 128);
-    }
-
-    void example()
-    {
-        QFETCH(QString, name);
-        QFETCH(Options, options);
-        QFETCH(int, offset);
-        QFETCH(QByteArray, bytes);
-        QFETCH(int, size);
-        const QString form = QString(QTest::currentDataTag()).section(' ', 0, 0);
-        const QByteArray all = writtenBytes(form, asset(name), options);
-        QCOMPARE(all.size(), size);
-        QCOMPARE(all.mid(offset, bytes.size()).toHex(' '), bytes.toHex(' '));
+        writes("palette", "Sunset", {}, "E3 81 56 00 EC 01 00 00", 512);
+        writes("palette-513", "Sunset", {}, "EC", 513, 512);
+        writes("palette-8bit", "Sunset", {}, "E3 56 EC 00", 256);
+        writes("palette-group", "Sunset", {{"group", "0"}}, "E3 81 56 00 EC 01 00 00", 32);
+        writes("palette-cycles", "Sunset", {}, "02 08 0F 05 00 C0 FF FF 01", 9);
+        writes("tiles-4bit", "Rocks", {}, "00 01 10 00 00 12 21 00 01 23 32 10 12 34 53 21 F0 00 00 00 0F 00 00 00 77",
+               96);
+        writes("tiles-8bit", "Rocks", {}, "20 20 20 21 21 20 20 20 20", 192);
+        writes("tiles-8bit", "Rocks", {{"order", "columns"}}, "20 20 20 21 2F 20 27 20 20", 192);
+        writes("tiles-1bit", "Rocks", {{"ink", "1"}}, "18 24 42 81 00 00 00 00 00", 24);
+        writes("tile-attributes", "Rocks", {}, "00 0F 41", 3);
+        writes("tile-values", "Rocks", {}, "00 05 FF", 3);
+        writes("tile-values", "Rocks", {{"width", "word"}}, "00 00 05 00 FF FF", 6);
+        writes("map-2byte", "Cave", {{"order", "columns"}}, "01 39 02 F4 05 02 FF AF", 8);
+        writes("map-2byte", "Cave", {{"screen-height", "1"}, {"pad", "5"}}, "01 39 05 02 02 F4 FF AF 00 00", 10);
+        writes("map-1byte", "Hall", {}, "01 02 03 04 05 06", 6);
+        writes("map-1byte", "Hall", {{"order", "columns"}}, "01 04 02 05 03 06", 6);
+        writes("map-1byte", "Hall", {{"screen-width", "2"}, {"screen-height", "2"}}, "01 02 04 05 03 00 06 00", 8);
+        writes("map-sprites", "Cave", {},
+               "02 00  28 00 F8 FF 00 28 03 00 00 00 00 00 00 00 00 00"
+               "2C 01 64 00 01 01 01 00 01 00 32 00 64 00 22 00  42 61 74 00",
+               38);
+        writes("map-blocks", "Cave", {}, "01 00  1F 00 06 00 03 01 00 01 01 00 00 00 00 00 0A 00", 18);
+        writes("block-animations", "Platform", {}, "01 00 04 00  03 01 01 01 00 00  01 01 05 30 05 38", 16);
+        writes("sprite-animations", "Hero", {}, "01 00 04 00  02 01 02 00 04 00  00 00 01 00 02 00 02 08", 18);
+        writes("sprites-8bit", "Hero", {}, "00 01 02 03 04 05 06 07 08 09 0A 0B 0C 0D 0E 0F 00", 1024);
+        writes("sprites-packed", "Hero", {}, "01 23 45 67 89 AB CD EF 00", 512);
+        writes("layer2-256", "256", {}, "01 02 00", 49152);
+        writes("layer2-256", "256", {}, "03 00", 49152, 256);
+        writes("layer2-320", "320", {}, "01 03 00", 81920);
+        writes("layer2-320", "320", {}, "02 00", 81920, 256);
+        writes("layer2-640", "640", {}, "12 30 00", 81920);
+        writes("lores", "128", {}, "01 02 00", 12288);
+        writes("lores", "128", {}, "03 00", 12288, 128);
     }
 
     void sourceText()
@@ -304,74 +288,63 @@ private slots:
     }
 
     /// Files that no form writes, by hand.
-    void readsOthers_data()
+    void readsOthers()
     {
-        QTest::addColumn<QString>("id");
-        QTest::addColumn<Options>("options");
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<Content>("content");
-        const auto add = [](const char *what, const char *id, const Options &options, const QByteArray &bytes,
-                            const Content &content) { QTest::newRow(what) << id << options << bytes << content; };
+        const auto reads = [](const char *what, const char *id, const Options &options, const QByteArray &bytes,
+                              const Content &content) {
+            const auto reading = readBack(id, bytes, options);
+            QVERIFY2(reading, what + reading.reason().toUtf8().prepend(": "));
+            QVERIFY2(reading->content == content, what);
+        };
 
         PaletteContent blues;
         for (int i = 0; i < 256; ++i)
             blues.words.append(quint16(0xE400 | (i % 4) << 8 | (i % 4 > 0 ? 1 : 0)));
-        add("the third bit of blue", "palette-8bit", {}, QByteArray::fromHex("E4E5E6E7").repeated(64), blues);
-        add("a few colours", "palette-group", {{"group", "2"}}, QByteArray::fromHex("E3815600"),
-            PaletteContent{32, {0xE381, 0x5600}});
+        reads("the third bit of blue", "palette-8bit", {}, QByteArray::fromHex("E4E5E6E7").repeated(64), blues);
+        reads("a few colours", "palette-group", {{"group", "2"}}, QByteArray::fromHex("E3815600"),
+              PaletteContent{32, {0xE381, 0x5600}});
 
         PaletteContent marked{0, QList<quint16>(256, 0xE400), {}};
         marked.words[9] = 0x1F00;
         marked.transparency = 9;
-        add("the transparent colour by its eight bits", "palette-513", {},
-            QByteArray::fromHex("E400").repeated(9) + QByteArray::fromHex("1F00")
-                + QByteArray::fromHex("E400").repeated(246) + QByteArray::fromHex("1F"),
-            marked);
+        reads("the transparent colour by its eight bits", "palette-513", {},
+              QByteArray::fromHex("E400").repeated(9) + QByteArray::fromHex("1F00")
+                  + QByteArray::fromHex("E400").repeated(246) + QByteArray::fromHex("1F"),
+              marked);
 
         TilesContent last;
         last.tiles.resize(1);
         last.tiles[0].offset = 7;
         last.tiles[0].pixels.fill(3);
-        add("some of the tiles, and their offset", "tiles-4bit", {{"first", "1"}, {"count", "1"}, {"offset", "7"}},
-            QByteArray::fromHex("12").repeated(32) + QByteArray::fromHex("33").repeated(32)
-                + QByteArray::fromHex("45").repeated(32),
-            last);
+        reads("some of the tiles, and their offset", "tiles-4bit", {{"first", "1"}, {"count", "1"}, {"offset", "7"}},
+              QByteArray::fromHex("12").repeated(32) + QByteArray::fromHex("33").repeated(32)
+                  + QByteArray::fromHex("45").repeated(32),
+              last);
         TilesContent mixed;
         mixed.tiles.resize(1);
         mixed.tiles[0].offset = TilesContent::MixedOffset;
         mixed.tiles[0].pixels = {0x21, 0x3F};
-        add("a tile of two groups", "tiles-8bit", {}, QByteArray::fromHex("213F").leftJustified(64, '\0'), mixed);
+        reads("a tile of two groups", "tiles-8bit", {}, QByteArray::fromHex("213F").leftJustified(64, '\0'), mixed);
 
         const TileMap::TileData tile{.index = 2, .offset = 3, .used = true};
         const TileMap::TileData turned{.index = 5, .rotate = true, .used = true};
-        add("cells with the ULA in front", "map-2byte", {{"width", "1"}, {"bit-0", "ula"}},
-            QByteArray::fromHex("02310503"), MapContent{{{tile}, {turned}}});
-        add("columns of an unfinished map", "map-1byte", {{"width", "2"}, {"order", "columns"}, {"offset", "3"}},
-            QByteArray::fromHex("020202"), MapContent{{{tile, tile}, {tile, {}}}});
+        reads("cells with the ULA in front", "map-2byte", {{"width", "1"}, {"bit-0", "ula"}},
+              QByteArray::fromHex("02310503"), MapContent{{{tile}, {turned}}});
+        reads("columns of an unfinished map", "map-1byte", {{"width", "2"}, {"order", "columns"}, {"offset", "3"}},
+              QByteArray::fromHex("020202"), MapContent{{{tile, tile}, {tile, {}}}});
 
         QByteArray rows(256 * 192, '\0');
         rows[1] = 7; // in the first row, and as columns in the first column
         ImageContent image{Quenmora::Layer2_256x192, rows, QList<quint16>(256, 0xE481)};
-        add("a palette in front", "layer2-256", {}, QByteArray::fromHex("E481").repeated(256) + rows, image);
+        reads("a palette in front", "layer2-256", {}, QByteArray::fromHex("E481").repeated(256) + rows, image);
         image.palette = QList<quint16>(256, 0xE501);
-        add("a palette of bytes in front", "layer2-256", {}, QByteArray::fromHex("E5").repeated(256) + rows, image);
+        reads("a palette of bytes in front", "layer2-256", {}, QByteArray::fromHex("E5").repeated(256) + rows, image);
         image.palette = {};
         image.pixels[1] = 0;
         image.pixels[256] = 7;
-        add("pixels by columns", "layer2-256", {{"order", "columns"}}, rows, image);
-        add("half a picture", "lores", {}, QByteArray(6144, '\5'),
-            ImageContent{Quenmora::LoRes_128x96, QByteArray(6144, '\5') + QByteArray(6144, '\0'), {}});
-    }
-
-    void readsOthers()
-    {
-        QFETCH(QString, id);
-        QFETCH(Options, options);
-        QFETCH(QByteArray, bytes);
-        QFETCH(Content, content);
-        const auto reading = readBack(id, bytes, options);
-        QVERIFY2(reading, qPrintable(reading.reason()));
-        QVERIFY(reading->content == content);
+        reads("pixels by columns", "layer2-256", {{"order", "columns"}}, rows, image);
+        reads("half a picture", "lores", {}, QByteArray(6144, '\5'),
+              ImageContent{Quenmora::LoRes_128x96, QByteArray(6144, '\5') + QByteArray(6144, '\0'), {}});
     }
 
     void skipsHeaders()
