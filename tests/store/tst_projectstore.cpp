@@ -290,12 +290,8 @@ private slots:
             [&] { project->images().first()->setImage(SampleProject::gradient(QSize(256, 191))); },
             [&] { project->setScratchImage(SampleProject::gradient(QSize(192, 256))); },
             [&] { animation->frame(0)->setIndex(0, 0, 99); },
-            [&] {
-                project->setScratchImage(plainImage({9, 9}, 1));
-            },
-            [&] {
-                project->setScratchImage(plainImage({9, 9}, 2));
-            },
+            [&] { project->setScratchImage(plainImage(QSize(9, 9), 1)); },
+            [&] { project->setScratchImage(plainImage(QSize(9, 9), 2)); },
         };
         for (const auto &edit : edits) {
             edit();
