@@ -161,7 +161,7 @@ private slots:
         QCOMPARE(f.animator.changedAreas(), (QList<QRect>{{3, 4, 3, 2}}));
         QVERIFY(f.map->removeAnimationAt({3, 4, 3, 2}));
         f.tick(2);
-        QCOMPARE(advanced.count(), 2);
+        QVERIFY(advanced.count() == 2 && f.animator.changedAreas().isEmpty());
         f.map->addSprite({}); // which may be animated
         f.tick();
         QCOMPARE(advanced.count(), 3);

@@ -260,20 +260,21 @@ private slots:
         MapViewFixture second;
         MapEditor::ToolBar toolBar;
         QAction *tiles = toolBar.actions().at(0);
-        const auto set = [&toolBar](const QString &toolTip, int value) {
+        const auto number = [&toolBar](const QString &toolTip) {
             const auto boxes = toolBar.findChildren<QSpinBox *>();
-            (*std::ranges::find(boxes, toolTip, &QSpinBox::toolTip))->setValue(value);
+            return *std::ranges::find(boxes, toolTip, &QSpinBox::toolTip);
         };
+        QSpinBox *snap = number("Sets the snap to grid size");
         QSignalSpy snaps(&toolBar, &MapEditor::ToolBar::snapToValueChanged);
         first.map->objectLayer()->setVisible(false);
         first.view.toolPaletteClicked(ToggleViewport, true);
         first.view.attachToolBar(&toolBar);
         QVERIFY(tiles->isChecked() && !toolBar.actions().at(1)->isChecked());
         tiles->trigger();
-        set("Sets the snap to grid size", 4);
-        set("Size in cells of the viewport", 10);
-        set("Tile index to be used as a background", 5);
-        set("Sets the transparency index of the tile set (0-15) or off", 99); // above the range: its end
+        snap->setValue(4);
+        number("Size in cells of the viewport")->setValue(10);
+        number("Tile index to be used as a background")->setValue(5);
+        number("Sets the transparency index of the tile set (0-15) or off")->setValue(99); // above the range: its end
         QVERIFY(!first.map->tileLayer()->isVisible());
         QCOMPARE(first.grid->viewport().viewportSize, QSize(10, 32));
         QCOMPARE(first.map->backgroundTileIndex(), 5);
@@ -284,13 +285,13 @@ private slots:
         second.view.attachToolBar(&toolBar);
         QVERIFY(tiles->isChecked());
         QCOMPARE(toolBar.viewport(), QSize(40, 32));
-        set("Sets the snap to grid size", 2);
+        snap->setValue(2);
         QCOMPARE(first.grid->viewport().snap, 4);
         QCOMPARE(second.grid->viewport().snap, 2);
 
         second.view.detachToolBar();
         first.view.attachToolBar(&toolBar);
-        QVERIFY(!tiles->isChecked());
+        QVERIFY(!tiles->isChecked() && snap->value() == 4);
         QCOMPARE(toolBar.viewport(), QSize(10, 32));
         QCOMPARE(snaps, (Signals{{4}, {2}})); // showing a state tells nothing
         QCOMPARE(toolBar.sizeText(), "20x16 (640 bytes)");
