@@ -237,10 +237,8 @@ public:
     {
         const Cell shown = object.shape == TiledMap::Shape::Tile ? m_map.cell(object.gid) : Cell();
         const QImage tile = shown.isEmpty() ? QImage() : m_map.tileSets[shown.tileSet].tile(shown.tile);
-        const QPointF corner = object.topLeft
-            - QPointF(m_map.origin.x() * m_map.tileSize.width(), m_map.origin.y() * m_map.tileSize.height());
-        const QPoint at(qRound(std::clamp(corner.x(), -32768.0, 32767.0)),
-                        qRound(std::clamp(corner.y(), -32768.0, 32767.0)));
+        const QPoint at(qRound(std::clamp(object.topLeft.x(), -32768.0, 32767.0)),
+                        qRound(std::clamp(object.topLeft.y(), -32768.0, 32767.0)));
         constexpr int side = SpriteBank::SpriteSize;
         const bool isTurned = object.rotation != 0 || (!tile.isNull() && object.size.toSize() != tile.size());
         if (!object.visible || tile.isNull() || isTurned || tile.width() > MostPieces * side

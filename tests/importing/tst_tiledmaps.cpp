@@ -126,6 +126,23 @@ private slots:
             "Objects that are no sprites, turned, scaled, hidden or too large, and are left out: 2"));
     }
 
+    /// What lies at a cell of an infinite map stays there, wherever its first cell is.
+    void objectsOfInfiniteMapsStayOnTheirCells()
+    {
+        Project project;
+        QVERIFY(picture(16, 16).save(m_path("tile.png")));
+        const auto incoming = prepared(
+            project,
+            tmx("<tileset firstgid='1' tilewidth='16' tileheight='16' tilecount='1'><image "
+                "source='tile.png'/></tileset>"
+                "<layer><data encoding='csv'><chunk x='-2' y='1' width='2' height='1'>0,0</chunk></data></layer>"
+                "<objectgroup><object gid='1' x='-8' y='24'/></objectgroup>",
+                "infinite='1'"));
+        QVERIFY2(incoming, qPrintable(incoming.reason()));
+        const Map::PlacedSprite &sprite = incoming->map->sprites.constFirst();
+        QCOMPARE(QPoint(sprite.x, sprite.y), QPoint(8, 0));
+    }
+
     /// A tile set without a map: its tiles in their order, and its animations.
     void aTileSetByItself()
     {
