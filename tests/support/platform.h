@@ -6,6 +6,7 @@
 
 #ifdef Q_OS_WIN
 #include <io.h>
+#define NOGDI // whose functions have names of our classes
 #include <windows.h>
 
 #include <psapi.h>
