@@ -40,7 +40,7 @@ QByteArray nearestOf(const QList<QRgb> &colours, const QImage &picture)
 /// A number as a PNG has it, high byte first.
 QByteArray number(quint32 value)
 {
-    return littleEndian(qbswap(value));
+    return le32(qbswap(value));
 }
 
 QByteArray chunk(const QByteArray &type, const QByteArray &content)
