@@ -60,7 +60,7 @@ run_tests() {
     export WINEPATH
     step "Starting Wine" start_wine
     local pattern result=0
-    pattern=$(IFS='|'; echo "$*")
+    pattern=$(IFS='|'; echo "${*:-.}")
     ctest --test-dir "$build" --parallel "$jobs" --output-on-failure -R "$pattern" || result=$?
     count_tests | tee "$work/tests.txt"
     step "Comparing with what Linux makes" same_as_on_linux
