@@ -27,6 +27,7 @@
 #include "ui/plaintext.h"
 #include "ui/question.h"
 #include "ui/readablehints.h"
+#include "ui/svgiconengine.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -88,7 +89,7 @@ MainWindow::MainWindow(QWidget *parent)
     setAcceptDrops(true);
     setWindowTitle(QCoreApplication::applicationName());
     resize(DefaultSize);
-    setWindowIcon(QIcon(QStringLiteral(":Application")));
+    setWindowIcon(themedIcon(QStringLiteral(":Application")));
     m_tabs.setEmptyPage(m_startPage);
     setCentralWidget(&m_tabs);
     m_layout.resetLayout();

@@ -85,7 +85,7 @@ QLabel *heading(const QString &text)
 QWidget *title()
 {
     auto *icon = new QLabel;
-    icon->setPixmap(QIcon(QStringLiteral(":Application")).pixmap(32, 32));
+    icon->setPixmap(themedIcon(QStringLiteral(":Application")).pixmap(32, 32));
     auto *name = new QLabel(QCoreApplication::applicationName());
     QFont font = name->font();
     font.setBold(true);

@@ -121,6 +121,7 @@ private slots:
             const QImage thumbnail = projectPicture(project(), project().spriteBanks().first()->id());
             QCoreApplication::processEvents();
             const QPoint place = placeOf(*widget, 7);
+            QVERIFY2(!place.isNull(), name);
             QVERIFY(!cycling->clock()->isTicking());
             cycling->clock()->setPaused(true); // it goes on when it is told to
             cycling->action()->trigger();

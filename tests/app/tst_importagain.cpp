@@ -263,7 +263,7 @@ private slots:
         QCOMPARE(s.again(), "");
         QCOMPARE(palette->rawColour(0), NineBitColour::wordOf(300));
         QVERIFY(QFile::remove(s.file));
-        QCOMPARE(s.again(), "The file is not there any more:\n" + s.file);
+        QCOMPARE(s.again(), "The file is not there any more:\n" + QDir::toNativeSeparators(s.file));
     }
 
     /// A map of another program with tiles, an animation of them and a sprite.

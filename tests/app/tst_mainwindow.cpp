@@ -165,9 +165,9 @@ private slots:
         const QString file = m_folder("game.quenmora");
         controller()->setFileNameCallback([file] { return file; });
         controller()->save();
-        QCOMPARE(message(), "Saved Game to " + file);
+        QCOMPARE(message(), "Saved Game to " + QDir::toNativeSeparators(file));
         m_window->statusBar()->clearMessage();
-        QCOMPARE(message(), "Game [" + file + "]");
+        QCOMPARE(message(), "Game [" + QDir::toNativeSeparators(file) + "]");
     }
 
     void opensADroppedProject()
@@ -395,7 +395,9 @@ private slots:
         openAll();
         project().tileSets().first()->setName("Rock & Roll"); // no mnemonic
         QCoreApplication::processEvents();
-        m_window->resize(1200, 800);
+        m_window->resize(1800, 800);
+        const auto docks = m_window->findChildren<QDockWidget *>();
+        m_window->resizeDocks(docks, QList<int>(docks.size(), 600), Qt::Horizontal); // with room for wide letters
         QCoreApplication::processEvents();
         int marked = 0;
         for (const QTabBar *bar : m_window->findChildren<QTabBar *>(QString(), Qt::FindDirectChildrenOnly)) {

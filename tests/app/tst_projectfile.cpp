@@ -239,7 +239,7 @@ private slots:
             QCOMPARE(dialog()->isVisible(), first);
             dialog()->accept();
         }
-        QVERIFY2(dialog()->text().contains(file), qPrintable(dialog()->text()));
+        QVERIFY2(dialog()->text().contains(QDir::toNativeSeparators(file)), qPrintable(dialog()->text()));
         QVERIFY(controller()->isModified());
         QVERIFY(QFile::rename(file + ".away", file));
         controller()->checkFile();

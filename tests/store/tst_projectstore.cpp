@@ -49,7 +49,7 @@ private slots:
         SampleProject::fill(*m_store->newProject("new"));
         QVERIFY(m_store->saveAs(file));
         QCOMPARE(m_store->fileName(), file);
-        QCOMPARE(m_log->take(), QStringList("showMessage Saved Sample to " + file + " 2500"));
+        QCOMPARE(m_log->take(), QStringList("showMessage Saved Sample to " + QDir::toNativeSeparators(file) + " 2500"));
 
         m_store->newProject("loading...");
         QString fileDuringLoad = "not emitted";

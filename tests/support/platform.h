@@ -39,6 +39,8 @@ constexpr bool HasPipes = false; ///< that have a place among files
 constexpr bool HasLinks = false; ///< that are opened as what they lead to
 constexpr bool HasFileModes = false;
 constexpr bool RemovesOpenFiles = false;
+constexpr bool HasLanguageVariable = false; ///< LANGUAGE names that of texts
+constexpr bool HasLupdate = false; ///< which makes the catalogues of texts
 constexpr bool HasFullDisks = false; ///< that can be had for a test
 
 inline bool makePipe(const QString &)
@@ -82,6 +84,8 @@ constexpr bool HasPipes = true; ///< that have a place among files
 constexpr bool HasLinks = true; ///< that are opened as what they lead to
 constexpr bool HasFileModes = true;
 constexpr bool RemovesOpenFiles = true;
+constexpr bool HasLanguageVariable = true; ///< LANGUAGE names that of texts
+constexpr bool HasLupdate = true; ///< which makes the catalogues of texts
 constexpr bool HasFullDisks = true; ///< that can be had for a test
 
 /// Makes a pipe; opening it would wait for somebody at its other end.
