@@ -232,8 +232,10 @@ SpriteBankEdit EditRecorder::capture(SpriteBank &bank, bool mayLose)
     }
     if (!m_project)
         return edit;
-    for (const QPointer<Map> &map : m_project->maps())
-        edit.maps.insert(map->id(), MapGhosts::of(*map).full(map->snapshot(), MapNames::of(*map), mayLose).sprites);
+    for (const QPointer<Map> &map : m_project->maps()) {
+        const Map::Snapshot content = MapGhosts::of(*map).full(map->snapshot(), MapNames::of(*map), mayLose);
+        edit.maps.insert(map->id(), {content.sprites, content.origin});
+    }
     return edit;
 }
 
@@ -303,7 +305,7 @@ void EditRecorder::put(SpriteBank &bank, const SpriteBankEdit &now, const Sprite
             continue;
         auto &ghosts = MapGhosts::of(*map);
         Map::Snapshot content = ghosts.full(map->snapshot(), MapNames::of(*map));
-        content.sprites = *placed;
+        content.sprites = placed->sprites;
         map->restore(ghosts.show(content, MapNames::of(*map)));
     }
 }

@@ -118,6 +118,33 @@ bool SpriteBankEdit::looksLike(const SpriteBankEdit &other) const
     return bank == other.bank && maps == other.maps;
 }
 
+template <typename State>
+FramesChange::FramesChange(const QHash<QUuid, State> &before, const QHash<QUuid, State> &after, const Renumbering &back)
+{
+    for (auto animation = before.cbegin(); animation != before.cend(); ++animation) {
+        QHash<QUuid, AnimationFrame::Cells> left;
+        for (const auto &frame : after.value(animation.key()).frames)
+            left.insert(frame.id, renumbered(frame.cells, back));
+        for (const auto &frame : animation->frames) {
+            const FrameChange changed(frame.cells, left.value(frame.id, frame.cells));
+            if (!changed.changesNothing())
+                m_frames.insert({animation.key(), frame.id}, changed);
+        }
+    }
+}
+
+template <typename State>
+void FramesChange::undo(QHash<QUuid, State> &animations, const Renumbering &back, const Renumbering &since) const
+{
+    for (auto animation = animations.begin(); animation != animations.end(); ++animation) {
+        for (auto &frame : animation->frames) {
+            frame.cells = renumbered(frame.cells, back);
+            if (const auto changed = m_frames.constFind({animation.key(), frame.id}); changed != m_frames.cend())
+                changed->renumbered(since).applyWhereUntouched(EditSide::Before, frame.cells);
+        }
+    }
+}
+
 TileSetChange::TileSetChange(const TileSetEdit &before, const TileSetEdit &after)
     : m_order(before.names, after.names)
     , m_names(before.names)
@@ -133,16 +160,7 @@ TileSetChange::TileSetChange(const TileSetEdit &before, const TileSetEdit &after
         if (!changed.tiles.changesNothing() || !changed.objects.changesNothing())
             m_maps.insert(map.key(), changed);
     }
-    for (auto animation = before.animations.cbegin(); animation != before.animations.cend(); ++animation) {
-        QHash<QUuid, AnimationFrame::Cells> left;
-        for (const auto &frame : after.animations.value(animation.key()).frames)
-            left.insert(frame.id, renumbered(frame.cells, back));
-        for (const auto &frame : animation->frames) {
-            const FrameChange changed(frame.cells, left.value(frame.id, frame.cells));
-            if (!changed.changesNothing())
-                m_frames.insert({animation.key(), frame.id}, changed);
-        }
-    }
+    m_frames = FramesChange(before.animations, after.animations, back);
 }
 
 TileSetEdit TileSetChange::undone(const TileSetEdit &now) const
@@ -178,13 +196,7 @@ TileSetEdit TileSetChange::undone(const TileSetEdit &now) const
             changed->objects.renumbered(since).moved(shift).applyWhereUntouched(EditSide::Before, map->objects);
         }
     }
-    for (auto animation = result.animations.begin(); animation != result.animations.end(); ++animation) {
-        for (auto &frame : animation->frames) {
-            frame.cells = renumbered(frame.cells, back);
-            if (const auto changed = m_frames.constFind({animation.key(), frame.id}); changed != m_frames.cend())
-                changed->renumbered(since).applyWhereUntouched(EditSide::Before, frame.cells);
-        }
-    }
+    m_frames.undo(result.animations, back, since);
     return result;
 }
 
@@ -199,9 +211,18 @@ void TileSetChange::reorder(const PaletteOrder &order, const TileSet &)
 SpriteBankChange::SpriteBankChange(const SpriteBankEdit &before, const SpriteBankEdit &after, const QUuid &bankId)
     : m_bankId(bankId)
     , m_order(before.names, after.names)
+    , m_names(before.names)
 {
     noteChanged(byName(before.names, spritesOf(before.bank)), byName(after.names, spritesOf(after.bank)),
                 std::equal_to<>(), m_before, m_after);
+    const Renumbering back(after.names, before.names);
+    for (auto map = before.maps.cbegin(); map != before.maps.cend(); ++map) {
+        const SpriteBankEdit::Placed left = after.maps.value(map.key(), *map);
+        const ListChange<Map::PlacedSprite> changed(map->sprites, renumbered(left.sprites, bankId, back));
+        if (!changed.changesNothing())
+            m_maps.insert(map.key(), {changed, left.origin});
+    }
+    m_frames = FramesChange(before.bank.animations, after.bank.animations, back);
 }
 
 void SpriteBankChange::reorder(const PaletteOrder &order, const SpriteBank &bank)
@@ -231,9 +252,17 @@ SpriteBankEdit SpriteBankChange::undone(const SpriteBankEdit &now) const
     result.bank.image = stripOf(sprites, now.bank.image);
 
     const Renumbering back(now.names, result.names);
-    for (QList<Map::PlacedSprite> &placed : result.maps)
-        placed = renumbered(placed, m_bankId, back);
-    for (Animation::State &animation : result.bank.animations)
-        animation = renumbered(animation, now.names, result.names);
+    const Renumbering since(m_names, result.names);
+    for (auto map = result.maps.begin(); map != result.maps.end(); ++map) {
+        map->sprites = renumbered(map->sprites, m_bankId, back);
+        if (const auto changed = m_maps.constFind(map.key()); changed != m_maps.cend()) {
+            const auto today = [&](const QList<Map::PlacedSprite> &then) {
+                return moved(renumbered(then, m_bankId, since), map->origin - changed->origin);
+            };
+            ListChange(today(changed->list.before()), today(changed->list.after()))
+                .apply(EditSide::Before, map->sprites);
+        }
+    }
+    m_frames.undo(result.bank.animations, back, since);
     return result;
 }

@@ -34,19 +34,45 @@ struct TileSetEdit
 /// The same of a sprite bank.
 struct SpriteBankEdit
 {
+    struct Placed
+    {
+        QList<Map::PlacedSprite> sprites;
+        QPoint origin{}; ///< of the map's snapshot
+
+        bool operator==(const Placed &other) const { return sprites == other.sprites; }
+    };
+
     SpriteBank::State bank;
     /// What is placed on the maps of the project, by their ids.
-    QHash<QUuid, QList<Map::PlacedSprite>> maps;
+    QHash<QUuid, Placed> maps;
     /// Which sprite is which.
     Numbering::Names names{};
 
     [[nodiscard]] bool looksLike(const SpriteBankEdit &other) const;
 };
 
+/// What an edit did to the frames of animations besides renumbering them.
+class FramesChange
+{
+public:
+    FramesChange() = default;
+    /// back leads from the numbers after the edit to those before it.
+    template <typename State>
+    FramesChange(const QHash<QUuid, State> &before, const QHash<QUuid, State> &after, const Renumbering &back);
+
+    /// Renumbers the frames and puts back what the edit changed, the numbers of which have changed since.
+    template <typename State>
+    void undo(QHash<QUuid, State> &animations, const Renumbering &back, const Renumbering &since) const;
+
+private:
+    QHash<std::pair<QUuid, QUuid>, FrameChange> m_frames; ///< by the ids of animation and frame
+};
+
 /// What a structural edit of a tile set changed: the way back from it.
 ///
 /// It knows where things were renumbered, inserted and deleted, and what was lost or replaced thereby: a tile that was
-/// deleted or that another was copied over, cells that the edit changed besides. That is all that it puts back; cells
+/// deleted or that another was copied over, cells that the edit changed besides, such as those whose number stands for
+/// a new tile since. That is all that it puts back; cells
 /// of a deleted tile are its ghosts meanwhile. So what was drawn, placed, resized or added since then stays; it is
 /// only called by other numbers. Where nothing was done since, the outcome is exactly what was before.
 class TileSetChange
@@ -74,7 +100,7 @@ private:
     // what it did to cells besides renumbering them, in the numbers from before it
     Numbering::Names m_names;
     QHash<QUuid, Layers> m_maps;
-    QHash<std::pair<QUuid, QUuid>, FrameChange> m_frames; ///< by the ids of animation and frame
+    FramesChange m_frames;
 };
 
 /// The same for a sprite bank and the sprites that are placed on maps.
@@ -96,4 +122,13 @@ private:
     ListChange<int> m_order;
     QHash<int, QByteArray> m_before; ///< by name, as the next: pixels of sprites that are gone or not as they were
     QHash<int, QByteArray> m_after;
+    // what it did to placed sprites and frames besides renumbering them, in the numbers from before it
+    struct Sprites
+    {
+        ListChange<Map::PlacedSprite> list;
+        QPoint origin; ///< of the map's snapshot then
+    };
+    Numbering::Names m_names;
+    QHash<QUuid, Sprites> m_maps;
+    FramesChange m_frames;
 };

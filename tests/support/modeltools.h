@@ -167,6 +167,10 @@ private:
             names.sort();
             return names.join(u' ');
         }
+        const QMetaType type = value.metaType();
+        if ((type.flags() & QMetaType::IsEnumeration)
+            && !type.metaObject()) // which Qt does not take for numbers everywhere
+            return QString::number(*static_cast<const int *>(value.constData()));
         switch (value.typeId()) {
         case QMetaType::QColor:
             return value.value<QColor>().name(QColor::HexArgb);
