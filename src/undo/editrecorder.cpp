@@ -10,7 +10,6 @@
 #include <QTimer>
 #include <QUndoStack>
 
-#include <type_traits>
 #include <utility>
 
 namespace {
@@ -109,21 +108,12 @@ void EditRecorder::trackSprites(SpriteBank *bank)
     trackStructure(bank, m_pendingSpriteBanks);
 }
 
-template <typename Anim>
-auto &EditRecorder::ghosts()
-{
-    if constexpr (std::is_same_v<Anim, TileAnimation>)
-        return m_tileAnimationGhosts;
-    else
-        return m_spriteAnimationGhosts;
-}
-
 template <typename Asset, typename Edit>
 void EditRecorder::trackStructure(Asset *asset, QHash<Asset *, Edit> &pending)
 {
     connect(asset, &Asset::structureAboutToChange, this, [this, asset, &pending] {
         if (!m_restoring)
-            pending.insert(asset, capture(*asset, true));
+            pending.insert(asset, capture(*asset));
     });
     connect(asset, &Asset::structureChanged, this, [this, asset, &pending](const QString &text) {
         if (m_restoring || !pending.contains(asset))
@@ -164,10 +154,7 @@ void EditRecorder::trackAnimation(Anim *animation, const QUuid &documentId, QHas
     connect(animation, &Animation::sizeChanged, this, record);
     connect(animation, &Animation::delayChanged, this, record);
     connect(animation, &Animation::contentChanged, this, record);
-    connect(animation, &QObject::destroyed, this, [this, animation, &states] {
-        states.remove(animation);
-        ghosts<Anim>().remove(animation);
-    });
+    connect(animation, &QObject::destroyed, this, [animation, &states] { states.remove(animation); });
 }
 
 template <typename Anim, typename State>
@@ -179,19 +166,15 @@ void EditRecorder::recordAnimation(Anim *animation, const QUuid &documentId, QHa
     State after = animation->state();
     if (after == known.value())
         return;
-    const Numbering::Names made = namesFor(*animation);
-    auto &all = ghosts<Anim>();
-    State before = all[animation].full(std::exchange(known.value(), after), made);
-    after = all[animation].full(after, made);
-    const auto change = [recorder = QPointer(this), guarded = QPointer(animation), made, &all](const State &from,
-                                                                                               const State &to) {
+    State before = std::exchange(known.value(), after);
+    const auto change = [recorder = QPointer(this), guarded = QPointer(animation),
+                         names = namesFor(*animation)](const State &from, const State &to) {
         if (!recorder || !guarded)
             return;
         recorder->restore([&] {
-            const Numbering::Names names = namesFor(*guarded);
-            const State now = all[guarded].full(guarded->state(), names);
-            const State next = changed(now, renumbered(from, made, names), renumbered(to, made, names));
-            guarded->restore(all[guarded].show(next, names));
+            const Renumbering since = Renumbering::since(names, namesFor(*guarded));
+            guarded->restore(
+                changed(guarded->state(), renumberedAnimation(from, since), renumberedAnimation(to, since)));
         });
     };
     push(documentId,
@@ -206,7 +189,7 @@ void EditRecorder::push(const QUuid &documentId, std::unique_ptr<QUndoCommand> c
         stack->push(command.release());
 }
 
-TileSetEdit EditRecorder::capture(TileSet &tileSet, bool mayLose)
+TileSetEdit EditRecorder::capture(TileSet &tileSet) const
 {
     TileSetEdit edit{
         .tiles = tileSet.snapshot(), .maps = {}, .animations = {}, .names = Numbering::of(tileSet).names()};
@@ -214,28 +197,20 @@ TileSetEdit EditRecorder::capture(TileSet &tileSet, bool mayLose)
         return edit;
     for (const QPointer<Map> &map : m_project->maps()) {
         if (map->tileSet() == &tileSet)
-            edit.maps.insert(map->id(), MapGhosts::of(*map).full(map->snapshot(), MapNames::of(*map), mayLose));
+            edit.maps.insert(map->id(), map->snapshot());
     }
-    for (const QPointer<TileAnimation> &animation : animationsOf(*m_project, tileSet)) {
-        edit.animations.insert(animation->id(),
-                               m_tileAnimationGhosts[animation].full(animation->state(), edit.names, mayLose));
-    }
+    for (const QPointer<TileAnimation> &animation : animationsOf(*m_project, tileSet))
+        edit.animations.insert(animation->id(), animation->state());
     return edit;
 }
 
-SpriteBankEdit EditRecorder::capture(SpriteBank &bank, bool mayLose)
+SpriteBankEdit EditRecorder::capture(SpriteBank &bank) const
 {
     SpriteBankEdit edit{.bank = bank.snapshot(), .maps = {}, .names = Numbering::of(bank).names()};
-    for (const QPointer<SpriteAnim> &animation : bank.animations()) {
-        edit.bank.animations.insert(animation->id(),
-                                    m_spriteAnimationGhosts[animation].full(animation->state(), edit.names, mayLose));
-    }
     if (!m_project)
         return edit;
-    for (const QPointer<Map> &map : m_project->maps()) {
-        const Map::Snapshot content = MapGhosts::of(*map).full(map->snapshot(), MapNames::of(*map), mayLose);
-        edit.maps.insert(map->id(), {content.sprites, content.origin});
-    }
+    for (const QPointer<Map> &map : m_project->maps())
+        edit.maps.insert(map->id(), {map->sprites(), map->snapshot().origin});
     return edit;
 }
 
@@ -280,12 +255,12 @@ void EditRecorder::put(TileSet &tileSet, const TileSetEdit &now, const TileSetEd
     for (auto content = next.maps.cbegin(); content != next.maps.cend(); ++content) {
         const QPointer<Map> map = m_project->map(content.key());
         if (map && *content != now.maps.value(content.key()))
-            map->restore(MapGhosts::of(*map).show(*content, MapNames::of(*map)));
+            map->restore(*content);
     }
     for (const QPointer<TileAnimation> &animation : animationsOf(*m_project, tileSet)) {
         const TileAnimation::State state = next.animations.value(animation->id());
         if (state != now.animations.value(animation->id()))
-            animation->restore(m_tileAnimationGhosts[animation].show(state, next.names));
+            animation->restore(state);
     }
 }
 
@@ -294,19 +269,14 @@ void EditRecorder::put(SpriteBank &bank, const SpriteBankEdit &now, const Sprite
     Numbering::of(bank).setNames(next.names);
     SpriteBank::State state = next.bank;
     state.animations.removeIf([&now](auto entry) { return entry.value() == now.bank.animations.value(entry.key()); });
-    for (const QPointer<SpriteAnim> &animation : bank.animations()) {
-        if (const auto changed = state.animations.find(animation->id()); changed != state.animations.end())
-            *changed = m_spriteAnimationGhosts[animation].show(*changed, next.names);
-    }
     bank.restore(state);
     for (auto placed = next.maps.cbegin(); m_project && placed != next.maps.cend(); ++placed) {
         const QPointer<Map> map = m_project->map(placed.key());
         if (!map || *placed == now.maps.value(placed.key()))
             continue;
-        auto &ghosts = MapGhosts::of(*map);
-        Map::Snapshot content = ghosts.full(map->snapshot(), MapNames::of(*map));
+        Map::Snapshot content = map->snapshot();
         content.sprites = placed->sprites;
-        map->restore(ghosts.show(content, MapNames::of(*map)));
+        map->restore(content);
     }
 }
 

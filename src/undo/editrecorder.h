@@ -3,7 +3,6 @@
 #include "model/project.h"
 #include "model/spriteanim.h"
 #include "model/tileanimation.h"
-#include "undo/ghosts.h"
 #include "undo/structurechange.h"
 
 #include <QHash>
@@ -56,14 +55,10 @@ private:
 
     template <typename Anim, typename State>
     void recordAnimation(Anim *animation, const QUuid &documentId, QHash<Anim *, State> &states);
-    /// The ghosts of all animations of a kind.
-    template <typename Anim>
-    [[nodiscard]] auto &ghosts();
     void push(const QUuid &documentId, std::unique_ptr<QUndoCommand> command);
 
-    /// With the ghosts of maps and animations, for which it is told whether they may lose something next.
-    [[nodiscard]] TileSetEdit capture(TileSet &tileSet, bool mayLose = false);
-    [[nodiscard]] SpriteBankEdit capture(SpriteBank &bank, bool mayLose = false);
+    [[nodiscard]] TileSetEdit capture(TileSet &tileSet) const;
+    [[nodiscard]] SpriteBankEdit capture(SpriteBank &bank) const;
 
     /// The step for what a structural edit changed.
     [[nodiscard]] std::unique_ptr<QUndoCommand> command(const QString &text, TileSet &tileSet,
@@ -91,8 +86,6 @@ private:
     // The last known state of every tracked animation.
     QHash<TileAnimation *, TileAnimation::State> m_tileAnimationStates;
     QHash<SpriteAnim *, Animation::State> m_spriteAnimationStates;
-    QHash<TileAnimation *, AnimationGhosts<TileAnimation::State>> m_tileAnimationGhosts;
-    QHash<SpriteAnim *, AnimationGhosts<Animation::State>> m_spriteAnimationGhosts;
     // Taken when a structural edit began that has not ended yet.
     QHash<TileSet *, TileSetEdit> m_pendingTileSets;
     QHash<SpriteBank *, SpriteBankEdit> m_pendingSpriteBanks;

@@ -98,10 +98,11 @@ Renumbering::Renumbering(const Numbering::Names &from, const Numbering::Names &t
 {
     if (m_changesNothing)
         return;
-    m_byName.reserve(to.size());
+    QHash<int, int> numbers;
+    numbers.reserve(to.size());
     for (int number = 0; number < to.size(); ++number)
-        m_byName.insert(to.at(number), number);
+        numbers.insert(to.at(number), number);
     m_numbers.reserve(from.size());
     for (const int name : from)
-        m_numbers.append(m_byName.value(name, ghostOf(name)));
+        m_numbers.append(numbers.value(name, -1));
 }

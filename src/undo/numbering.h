@@ -56,17 +56,6 @@ private:
     int m_nextName = 0;
 };
 
-/// What undo steps hold in place of the number of something that is gone: it tells the name, so that it is the
-/// same one that comes back.
-[[nodiscard]] constexpr int ghostOf(int name)
-{
-    return std::numeric_limits<int>::min() + name;
-}
-[[nodiscard]] constexpr bool isGhost(int number)
-{
-    return number < std::numeric_limits<int>::min() / 2;
-}
-
 /// What becomes of the numbers when things are inserted, deleted and moved.
 class Renumbering
 {
@@ -80,8 +69,6 @@ public:
     }
 
     [[nodiscard]] bool changesNothing() const { return m_changesNothing; }
-    /// Whether something that had a number is gone.
-    [[nodiscard]] bool losesAny() const { return std::any_of(m_numbers.cbegin(), m_numbers.cend(), isGhost); }
     /// The new number; none when what had it is gone. Numbers that the asset never had stay as far behind its
     /// end as they are.
     [[nodiscard]] std::optional<int> operator()(int number) const
@@ -91,26 +78,18 @@ public:
         if (number >= m_numbers.size())
             return int(std::min<qint64>(qint64(number) + m_growth, std::numeric_limits<int>::max()));
         const int renamed = m_numbers.at(number);
-        return isGhost(renamed) ? std::nullopt : std::optional(renamed);
-    }
-    /// The new number, or a ghost where what had the number is gone; the new number of a ghost that is back.
-    [[nodiscard]] int following(int number) const
-    {
-        if (isGhost(number) && !m_changesNothing)
-            return m_byName.value(number - ghostOf(0), number);
-        return (*this)(number).value_or(m_numbers.value(number));
+        return renamed < 0 ? std::nullopt : std::optional(renamed);
     }
 
 private:
     bool m_changesNothing;
-    QHash<int, int> m_byName; ///< the new numbers
-    QList<int> m_numbers; ///< ghosts for what is gone
+    QList<int> m_numbers; ///< -1 for what is gone
     int m_growth;
 };
 
-/// A grid whose cells name tiles or sprites, renumbered, with ghosts in place of what is gone. Rows that do not change,
-/// or are shared, stay so, and rows that become those of another grid share them with it: to see that two grids differ
-/// by their numbers alone takes no memory.
+/// A grid whose cells name tiles or sprites, renumbered; cells show number 0 in place of what is gone. Rows that do
+/// not change, or are shared, stay so, and rows that become those of another grid share them with it: to see that two
+/// grids differ by their numbers alone takes no memory.
 template <typename Cell>
 [[nodiscard]] QList<QList<Cell>> renumbered(const QList<QList<Cell>> &rows, const Renumbering &renumbering,
                                             const QList<QList<Cell>> &like = {})
@@ -118,7 +97,7 @@ template <typename Cell>
     if (renumbering.changesNothing())
         return rows;
     const auto renamed = [&renumbering](Cell cell) {
-        cell.index = renumbering.following(cell.index);
+        cell.index = renumbering(cell.index).value_or(0);
         return cell;
     };
     const auto result = [&renamed](const QList<Cell> &row, const QList<Cell> &wanted) {

@@ -183,15 +183,6 @@ const QList<Edit> &edits()
         {"shrink", [](Scene &s) { s.ofMap(s.level, [](Map &map) {
                                       map.resize({6, 2});
                                   }); }},
-        {"grow",
-         [](Scene &s) { s.ofMap(s.level, [](Map &map) {
-                            map.resize({10, 4}, Qt::AlignRight | Qt::AlignBottom);
-                        }); }},
-        {"paint over",
-         [](Scene &s) {
-             s.ofMap(s.level, [&s](Map &map) { map.setTiles({2, 0, 4, 2}, s.tile(8), false, false, false, true); });
-         }},
-        {"draw over a frame", [](Scene &s) { s.block->frame(0)->setIndex(0, 2, s.tile(6)); }},
         {"place sprites",
          [](Scene &s) {
              s.ofMap(s.other, [&s](Map &map) {
@@ -213,10 +204,10 @@ const QList<Edit> &edits()
     return all;
 }
 
-/// Edits of one map each, which are on one stack.
-QStringList ofMaps()
+/// Edits of one map, which are on one stack.
+QStringList ofOneMap()
 {
-    return {"fill and resize", "place sprites", "take sprite away", "shrink", "grow", "paint over"};
+    return {"fill and resize", "place sprites", "take sprite away"};
 }
 
 } // namespace
@@ -390,7 +381,7 @@ private slots:
             QList<Step> steps;
             while (!left.isEmpty()) {
                 const Edit *edit = left.takeFirst();
-                scene.front = stacks[ofMaps().contains(edit->name) ? 0 : random.bounded(3)];
+                scene.front = stacks[ofOneMap().contains(edit->name) ? 0 : random.bounded(3)];
                 const int index = scene.front->index();
                 const int count = scene.front->count();
                 edit->run(scene);
@@ -418,42 +409,6 @@ private slots:
                     QFAIL(qPrintable(
                         QString("seed %1, after %2\nis\n%3\nmust be\n%4")
                             .arg(QString::number(seed), names.join(", "), scene.contents(), must.contents())));
-            }
-        }
-    }
-
-    void stepsPassThroughDeletionsAsIfThereWereNone()
-    {
-        Scene scene;
-        scene.front = &scene.second;
-        scene.ofMap(scene.other, [&scene](Map &map) {
-            map.addSprite(scene.placed(4, 2));
-            map.setTiles({0, 0, 8, 1}, scene.tile(5), false, false, false, true);
-        });
-        scene.block->frame(0)->setIndex(0, 2, scene.tile(2)); // over the tile that is deleted
-        scene.walk->frame(0)->setIndex(0, 1, scene.sprite(2));
-        scene.ofMap(scene.other, [](Map &map) {
-            map.removeSprite(4); // the one that is deleted
-            map.resize({3, 4}, Qt::AlignRight);
-        });
-        scene.ofMap(scene.level, [](Map &map) { map.setTiles({0, 0, 8, 2}, 0, false, false, false, true); });
-        scene.ofMap(scene.level, [](Map &map) { map.removeSprite(3); });
-        const int last = scene.second.count();
-        QStringList states;
-        for (int index = 0; index <= last; ++index) {
-            scene.second.setIndex(index);
-            states.append(scene.contents());
-        }
-        scene.front = &scene.first;
-        scene.tileSet->deleteTile(scene.tile(5));
-        scene.ofBank([&scene] { scene.bank->deleteSprite(scene.sprite(4)); });
-        for (int deleted = 0; deleted <= last; ++deleted) {
-            for (int back = 0; back <= last; ++back) {
-                scene.second.setIndex(back);
-                scene.first.setIndex(0);
-                QCOMPARE(scene.contents(), states.at(back));
-                scene.second.setIndex(deleted);
-                scene.first.setIndex(2);
             }
         }
     }
