@@ -65,6 +65,7 @@ private slots:
 
     void everyViewShowsThem()
     {
+        m_window->resize(1800, 1000); // the bar of stamps is long where letters are wide
         const auto dock = [](QDockWidget *window, QWidget *widget) {
             window->show();
             window->raise();
