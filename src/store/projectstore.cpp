@@ -97,7 +97,8 @@ bool ProjectStore::save(bool backup)
     if (!archive.close())
         return failToSave(tr("Could not finish writing the project file"));
     m_incompleteFile.clear();
-    emit showMessage(tr("Saved %1 to %2").arg(m_project->name(), QDir::toNativeSeparators(m_fileName)), FileMessageTime);
+    emit showMessage(tr("Saved %1 to %2").arg(m_project->name(), QDir::toNativeSeparators(m_fileName)),
+                     FileMessageTime);
     return true;
 }
 
