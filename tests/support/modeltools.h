@@ -167,9 +167,8 @@ private:
             names.sort();
             return names.join(u' ');
         }
-        const QMetaType type = value.metaType();
-        if ((type.flags() & QMetaType::IsEnumeration)
-            && !type.metaObject()) // which Qt does not take for numbers everywhere
+        // Qt for Windows does not take enumerations without names for numbers
+        if (const QMetaType type = value.metaType(); (type.flags() & QMetaType::IsEnumeration) && !type.metaObject())
             return QString::number(*static_cast<const int *>(value.constData()));
         switch (value.typeId()) {
         case QMetaType::QColor:
