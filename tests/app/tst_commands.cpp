@@ -266,15 +266,9 @@ private slots:
 
     void findsTheBestFirst()
     {
-        QList<CommandSearch::Item> items{{"New", "File"},
-                                         {"New Map", "Map"},
-                                         {"New Palette", "Palette"},
-                                         {"Paste", "Edit"},
-                                         {u"\u00C9t\u00E9"_qs, "Palette"},
-                                         {"Level 2", "Map"},
-                                         {"Level 10", "Map"},
-                                         {"Next Tile", "Tiles"},
-                                         {"Environment", "Map"}};
+        QList<CommandSearch::Item> items{{"New", "File"},     {"New Map", "Map"},           {"New Palette", "Palette"},
+                                         {"Paste", "Edit"},   {"\u00C9t\u00E9", "Palette"}, {"Level 2", "Map"},
+                                         {"Level 10", "Map"}, {"Next Tile", "Tiles"},       {"Environment", "Map"}};
         for (int number = 1; number <= 40; ++number)
             items.append({QString("Tile %1").arg(number), "Cave", true, true});
         const auto find = [&items](const QString &query) {
@@ -288,7 +282,7 @@ private slots:
             {"map new", {"New Map"}},
             {"n pal", {"New Palette"}},
             {"NEWP", {"New Palette"}},
-            {"ete", {u"\u00C9t\u00E9"_qs}},
+            {"ete", {"\u00C9t\u00E9"}},
             {"past", {"Paste"}},
             {"level", {"Level 2", "Level 10"}},
             {"level 1", {"Level 10"}},
