@@ -2,16 +2,6 @@
 
 #include "model/animation.h"
 #include "model/tileanimation.h"
-#include "undo/numbering.h"
-
-/// An animation after the tiles or sprites that it names got other numbers.
-template <typename State>
-[[nodiscard]] State renumberedAnimation(State animation, const Renumbering &renumbering)
-{
-    for (Animation::State::Frame &frame : animation.frames)
-        frame.cells = renumbered(frame.cells, renumbering);
-    return animation;
-}
 
 /// Takes an animation that is `now` from one state to another: exactly there when it is still in the first one, else
 /// only as far as the two differ, so that what else was changed since stays.

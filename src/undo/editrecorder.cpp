@@ -10,6 +10,7 @@
 #include <QTimer>
 #include <QUndoStack>
 
+#include <type_traits>
 #include <utility>
 
 namespace {
@@ -30,16 +31,16 @@ template <>
 constexpr int AnimationCommandId<Animation::State> = 1003;
 
 /// Which tile or sprite is which for the cells of an animation.
-Numbering::Names namesFor(const TileAnimation &animation)
+Numbering::Roster namesFor(const TileAnimation &animation)
 {
     const QPointer<TileSet> tileSet = animation.tileSet();
-    return tileSet ? Numbering::of(*tileSet).names() : Numbering::Names();
+    return tileSet ? Numbering::of(*tileSet).roster() : Numbering::Roster();
 }
 
-Numbering::Names namesFor(const SpriteAnim &animation)
+Numbering::Roster namesFor(const SpriteAnim &animation)
 {
     auto *bank = qobject_cast<SpriteBank *>(animation.parent());
-    return bank ? Numbering::of(*bank).names() : Numbering::Names();
+    return bank ? Numbering::of(*bank).roster() : Numbering::Roster();
 }
 
 /// The animations of the block sets that are bound to a tile set.
@@ -108,12 +109,21 @@ void EditRecorder::trackSprites(SpriteBank *bank)
     trackStructure(bank, m_pendingSpriteBanks);
 }
 
+template <typename Anim>
+auto &EditRecorder::ghosts()
+{
+    if constexpr (std::is_same_v<Anim, TileAnimation>)
+        return m_tileAnimationGhosts;
+    else
+        return m_spriteAnimationGhosts;
+}
+
 template <typename Asset, typename Edit>
 void EditRecorder::trackStructure(Asset *asset, QHash<Asset *, Edit> &pending)
 {
     connect(asset, &Asset::structureAboutToChange, this, [this, asset, &pending] {
         if (!m_restoring)
-            pending.insert(asset, capture(*asset));
+            pending.insert(asset, capture(*asset, true));
     });
     connect(asset, &Asset::structureChanged, this, [this, asset, &pending](const QString &text) {
         if (m_restoring || !pending.contains(asset))
@@ -121,10 +131,12 @@ void EditRecorder::trackStructure(Asset *asset, QHash<Asset *, Edit> &pending)
         const Edit before = pending.take(asset);
         const Edit after = capture(*asset);
         refreshAnimationStates();
-        if (after.looksLike(before))
-            Numbering::of(*asset).setNames(before.names); // equal ones that changed places are as they were
-        else
+        if (!after.looksLike(before)) {
             push(asset->id(), command(text, *asset, before, after));
+            return;
+        }
+        Numbering::of(*asset).setNames(before.names); // equal ones that changed places are as they were
+        restore([&] { putUsers(*asset, after, before); });
     });
     connect(asset, &QObject::destroyed, this, [asset, &pending] { pending.remove(asset); });
 }
@@ -154,7 +166,10 @@ void EditRecorder::trackAnimation(Anim *animation, const QUuid &documentId, QHas
     connect(animation, &Animation::sizeChanged, this, record);
     connect(animation, &Animation::delayChanged, this, record);
     connect(animation, &Animation::contentChanged, this, record);
-    connect(animation, &QObject::destroyed, this, [animation, &states] { states.remove(animation); });
+    connect(animation, &QObject::destroyed, this, [this, animation, &states] {
+        states.remove(animation);
+        ghosts<Anim>().remove(animation);
+    });
 }
 
 template <typename Anim, typename State>
@@ -166,15 +181,19 @@ void EditRecorder::recordAnimation(Anim *animation, const QUuid &documentId, QHa
     State after = animation->state();
     if (after == known.value())
         return;
-    State before = std::exchange(known.value(), after);
-    const auto change = [recorder = QPointer(this), guarded = QPointer(animation),
-                         names = namesFor(*animation)](const State &from, const State &to) {
+    const Numbering::Roster made = namesFor(*animation);
+    auto &all = ghosts<Anim>();
+    State before = all[animation].full(std::exchange(known.value(), after), made);
+    after = all[animation].full(after, made);
+    const auto change = [recorder = QPointer(this), guarded = QPointer(animation), made, &all](const State &from,
+                                                                                               const State &to) {
         if (!recorder || !guarded)
             return;
         recorder->restore([&] {
-            const Renumbering since = Renumbering::since(names, namesFor(*guarded));
-            guarded->restore(
-                changed(guarded->state(), renumberedAnimation(from, since), renumberedAnimation(to, since)));
+            const Numbering::Roster names = namesFor(*guarded);
+            const State now = all[guarded].full(guarded->state(), names);
+            const State next = changed(now, renumbered(from, made, names), renumbered(to, made, names));
+            guarded->restore(all[guarded].show(next, names));
         });
     };
     push(documentId,
@@ -189,28 +208,37 @@ void EditRecorder::push(const QUuid &documentId, std::unique_ptr<QUndoCommand> c
         stack->push(command.release());
 }
 
-TileSetEdit EditRecorder::capture(TileSet &tileSet) const
+TileSetEdit EditRecorder::capture(TileSet &tileSet, bool mayLose)
 {
-    TileSetEdit edit{
-        .tiles = tileSet.snapshot(), .maps = {}, .animations = {}, .names = Numbering::of(tileSet).names()};
+    const Numbering::Roster names = Numbering::of(tileSet).roster();
+    TileSetEdit edit{.tiles = tileSet.snapshot(), .maps = {}, .animations = {}, .names = names.names};
     if (!m_project)
         return edit;
     for (const QPointer<Map> &map : m_project->maps()) {
         if (map->tileSet() == &tileSet)
-            edit.maps.insert(map->id(), map->snapshot());
+            edit.maps.insert(map->id(), MapGhosts::of(*map).full(map->snapshot(), MapNames::of(*map), mayLose));
     }
-    for (const QPointer<TileAnimation> &animation : animationsOf(*m_project, tileSet))
-        edit.animations.insert(animation->id(), animation->state());
+    for (const QPointer<TileAnimation> &animation : animationsOf(*m_project, tileSet)) {
+        edit.animations.insert(animation->id(),
+                               m_tileAnimationGhosts[animation].full(animation->state(), names, mayLose));
+    }
     return edit;
 }
 
-SpriteBankEdit EditRecorder::capture(SpriteBank &bank) const
+SpriteBankEdit EditRecorder::capture(SpriteBank &bank, bool mayLose)
 {
-    SpriteBankEdit edit{.bank = bank.snapshot(), .maps = {}, .names = Numbering::of(bank).names()};
+    const Numbering::Roster names = Numbering::of(bank).roster();
+    SpriteBankEdit edit{.bank = bank.snapshot(), .maps = {}, .names = names.names};
+    for (const QPointer<SpriteAnim> &animation : bank.animations()) {
+        edit.bank.animations.insert(animation->id(),
+                                    m_spriteAnimationGhosts[animation].full(animation->state(), names, mayLose));
+    }
     if (!m_project)
         return edit;
-    for (const QPointer<Map> &map : m_project->maps())
-        edit.maps.insert(map->id(), {map->sprites(), map->snapshot().origin});
+    for (const QPointer<Map> &map : m_project->maps()) {
+        const Map::Snapshot content = MapGhosts::of(*map).full(map->snapshot(), MapNames::of(*map), mayLose);
+        edit.maps.insert(map->id(), {content.sprites, content.origin});
+    }
     return edit;
 }
 
@@ -250,33 +278,56 @@ void EditRecorder::put(TileSet &tileSet, const TileSetEdit &now, const TileSetEd
 {
     Numbering::of(tileSet).setNames(next.names);
     tileSet.restore(next.tiles);
-    if (!m_project)
-        return;
-    for (auto content = next.maps.cbegin(); content != next.maps.cend(); ++content) {
-        const QPointer<Map> map = m_project->map(content.key());
-        if (map && *content != now.maps.value(content.key()))
-            map->restore(*content);
-    }
-    for (const QPointer<TileAnimation> &animation : animationsOf(*m_project, tileSet)) {
-        const TileAnimation::State state = next.animations.value(animation->id());
-        if (state != now.animations.value(animation->id()))
-            animation->restore(state);
-    }
+    putUsers(tileSet, now, next);
 }
 
 void EditRecorder::put(SpriteBank &bank, const SpriteBankEdit &now, const SpriteBankEdit &next)
 {
     Numbering::of(bank).setNames(next.names);
-    SpriteBank::State state = next.bank;
-    state.animations.removeIf([&now](auto entry) { return entry.value() == now.bank.animations.value(entry.key()); });
-    bank.restore(state);
-    for (auto placed = next.maps.cbegin(); m_project && placed != next.maps.cend(); ++placed) {
+    bank.restore({next.bank.image, {}});
+    putUsers(bank, now, next);
+}
+
+void EditRecorder::putUsers(TileSet &tileSet, const TileSetEdit &now, const TileSetEdit &next)
+{
+    if (!m_project)
+        return;
+    for (auto content = next.maps.cbegin(); content != next.maps.cend(); ++content) {
+        const QPointer<Map> map = m_project->map(content.key());
+        if (!map)
+            continue;
+        auto &ghosts = MapGhosts::of(*map); // in place of which others may be shown now
+        if (!ghosts.isEmpty() || *content != now.maps.value(content.key()))
+            map->restore(ghosts.show(*content, MapNames::of(*map)));
+    }
+    putAnimations(animationsOf(*m_project, tileSet), now.animations, next.animations);
+}
+
+void EditRecorder::putUsers(SpriteBank &bank, const SpriteBankEdit &now, const SpriteBankEdit &next)
+{
+    putAnimations(bank.animations(), now.bank.animations, next.bank.animations);
+    if (!m_project)
+        return;
+    for (auto placed = next.maps.cbegin(); placed != next.maps.cend(); ++placed) {
         const QPointer<Map> map = m_project->map(placed.key());
         if (!map || *placed == now.maps.value(placed.key()))
             continue;
-        Map::Snapshot content = map->snapshot();
+        auto &ghosts = MapGhosts::of(*map);
+        Map::Snapshot content = ghosts.full(map->snapshot(), MapNames::of(*map));
         content.sprites = placed->sprites;
-        map->restore(content);
+        map->restore(ghosts.show(content, MapNames::of(*map)));
+    }
+}
+
+template <typename Anim, typename State>
+void EditRecorder::putAnimations(const QList<QPointer<Anim>> &animations, const QHash<QUuid, State> &now,
+                                 const QHash<QUuid, State> &next)
+{
+    for (const QPointer<Anim> &animation : animations) {
+        const State state = next.value(animation->id());
+        auto &itsGhosts = ghosts<Anim>()[animation];
+        if (!itsGhosts.isEmpty() || state != now.value(animation->id()))
+            animation->restore(itsGhosts.show(state, namesFor(*animation)));
     }
 }
 

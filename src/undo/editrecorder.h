@@ -3,6 +3,7 @@
 #include "model/project.h"
 #include "model/spriteanim.h"
 #include "model/tileanimation.h"
+#include "undo/ghosts.h"
 #include "undo/structurechange.h"
 
 #include <QHash>
@@ -55,10 +56,14 @@ private:
 
     template <typename Anim, typename State>
     void recordAnimation(Anim *animation, const QUuid &documentId, QHash<Anim *, State> &states);
+    /// The ghosts of all animations of a kind.
+    template <typename Anim>
+    [[nodiscard]] auto &ghosts();
     void push(const QUuid &documentId, std::unique_ptr<QUndoCommand> command);
 
-    [[nodiscard]] TileSetEdit capture(TileSet &tileSet) const;
-    [[nodiscard]] SpriteBankEdit capture(SpriteBank &bank) const;
+    /// With the ghosts of maps and animations, for which it is told whether they may lose something next.
+    [[nodiscard]] TileSetEdit capture(TileSet &tileSet, bool mayLose = false);
+    [[nodiscard]] SpriteBankEdit capture(SpriteBank &bank, bool mayLose = false);
 
     /// The step for what a structural edit changed.
     [[nodiscard]] std::unique_ptr<QUndoCommand> command(const QString &text, TileSet &tileSet,
@@ -72,6 +77,12 @@ private:
     /// Puts what has become of the asset into it, as far as that is not there already.
     void put(TileSet &tileSet, const TileSetEdit &now, const TileSetEdit &next);
     void put(SpriteBank &bank, const SpriteBankEdit &now, const SpriteBankEdit &next);
+    /// The same for the maps and animations that name its tiles or sprites.
+    void putUsers(TileSet &tileSet, const TileSetEdit &now, const TileSetEdit &next);
+    void putUsers(SpriteBank &bank, const SpriteBankEdit &now, const SpriteBankEdit &next);
+    template <typename Anim, typename State>
+    void putAnimations(const QList<QPointer<Anim>> &animations, const QHash<QUuid, State> &now,
+                       const QHash<QUuid, State> &next);
 
     /// Does what an undo step does; nothing is recorded meanwhile.
     void restore(const std::function<void()> &steps);
@@ -86,6 +97,8 @@ private:
     // The last known state of every tracked animation.
     QHash<TileAnimation *, TileAnimation::State> m_tileAnimationStates;
     QHash<SpriteAnim *, Animation::State> m_spriteAnimationStates;
+    QHash<TileAnimation *, AnimationGhosts<TileAnimation::State>> m_tileAnimationGhosts;
+    QHash<SpriteAnim *, AnimationGhosts<Animation::State>> m_spriteAnimationGhosts;
     // Taken when a structural edit began that has not ended yet.
     QHash<TileSet *, TileSetEdit> m_pendingTileSets;
     QHash<SpriteBank *, SpriteBankEdit> m_pendingSpriteBanks;

@@ -1,25 +1,6 @@
 #include "undo/mapeditcommand.h"
 
-#include "model/project.h"
-#include "model/spritebank.h"
-#include "model/tileset.h"
-#include "undo/structurechange.h"
-
 namespace {
-
-Numbering::Names tileNamesOf(const Map *map)
-{
-    const QPointer<TileSet> tileSet = map ? map->tileSet() : nullptr;
-    return tileSet ? Numbering::of(*tileSet).names() : Numbering::Names();
-}
-
-/// Of the bank that sprites on a map name; none when it is gone, or the map is in no project.
-Numbering::Names spriteNamesOf(const Map *map, const QUuid &bankId)
-{
-    const auto *project = map ? qobject_cast<Project *>(map->parent()) : nullptr;
-    const QPointer<SpriteBank> bank = project ? project->spriteBank(bankId) : nullptr;
-    return bank ? Numbering::of(*bank).names() : Numbering::Names();
-}
 
 /// Placements after the content of their map moved by so many cells.
 AnimatedBlocks::State moved(AnimatedBlocks::State placements, QPoint cells)
@@ -31,30 +12,37 @@ AnimatedBlocks::State moved(AnimatedBlocks::State placements, QPoint cells)
 
 } // namespace
 
+MapEditCommand::Contents::Contents(Map *map, const Map::Snapshot &shownBefore, const Map::Snapshot &shownAfter)
+    : before(shownBefore)
+    , after(shownAfter)
+{
+    if (!map)
+        return;
+    names = MapNames::of(*map);
+    auto &ghosts = MapGhosts::of(*map);
+    before = ghosts.full(shownBefore, names);
+    hasGhosts = !ghosts.isEmpty();
+    after = ghosts.full(shownAfter, names);
+}
+
 MapEditCommand::MapEditCommand(const QString &text, Map *map, const Map::Snapshot &before, const Map::Snapshot &after,
                                QUndoCommand *parent)
+    : MapEditCommand(text, map, Contents(map, before, after), parent)
+{ }
+
+MapEditCommand::MapEditCommand(const QString &text, Map *map, const Contents &contents, QUndoCommand *parent)
     : QUndoCommand(text, parent)
     , m_map(map)
-    , m_shift(after.origin - before.origin)
-    , m_tiles(before.tiles, after.tiles, m_shift)
-    , m_objects(before.objects, after.objects, m_shift)
-    , m_placements(before.placements, moved(after.placements, -m_shift))
-    , m_sprites(before.sprites, ::moved(after.sprites, -m_shift))
-    , m_tileNames(tileNamesOf(map))
-{
-    noteBanksOf(m_sprites.before());
-    noteBanksOf(m_sprites.after());
-}
+    , m_shift(contents.after.origin - contents.before.origin)
+    , m_tiles(contents.before.tiles, contents.after.tiles, m_shift)
+    , m_objects(contents.before.objects, contents.after.objects, m_shift)
+    , m_placements(contents.before.placements, moved(contents.after.placements, -m_shift))
+    , m_sprites(contents.before.sprites, ::moved(contents.after.sprites, -m_shift))
+    , m_names(contents.names)
+    , m_hasGhosts(contents.hasGhosts)
+{ }
 
 MapEditCommand::~MapEditCommand() = default;
-
-void MapEditCommand::noteBanksOf(const QList<Map::PlacedSprite> &sprites)
-{
-    for (const Map::PlacedSprite &sprite : sprites) {
-        if (!m_spriteNames.contains(sprite.bank))
-            m_spriteNames.insert(sprite.bank, spriteNamesOf(m_map, sprite.bank));
-    }
-}
 
 void MapEditCommand::undo()
 {
@@ -70,12 +58,12 @@ void MapEditCommand::redo()
     m_applied = true;
 }
 
-MapEditCommand::SpritesChange MapEditCommand::spritesChange() const
+MapEditCommand::SpritesChange MapEditCommand::spritesChange(const MapNames &now) const
 {
     QList<Map::PlacedSprite> before = m_sprites.before();
     QList<Map::PlacedSprite> after = m_sprites.after();
-    for (auto names = m_spriteNames.cbegin(); names != m_spriteNames.cend(); ++names) {
-        const Renumbering since = Renumbering::since(*names, spriteNamesOf(m_map, names.key()));
+    for (auto names = m_names.sprites.cbegin(); names != m_names.sprites.cend(); ++names) {
+        const Renumbering since = Renumbering::since(*names, now.sprites.value(names.key()));
         before = renumbered(before, names.key(), since);
         after = renumbered(after, names.key(), since);
     }
@@ -86,8 +74,10 @@ void MapEditCommand::apply(EditSide side)
 {
     if (!m_map)
         return;
-    Map::Snapshot content = m_map->snapshot();
-    const Renumbering since = Renumbering::since(m_tileNames, tileNamesOf(m_map));
+    const MapNames now = MapNames::of(*m_map);
+    auto &ghosts = MapGhosts::of(*m_map);
+    Map::Snapshot content = ghosts.full(m_map->snapshot(), now);
+    const Renumbering since = Renumbering::since(m_names.tiles.names, now.tiles.names);
     m_tiles.renumbered(since).apply(side, content.tiles);
     m_objects.renumbered(since).apply(side, content.objects);
 
@@ -101,8 +91,10 @@ void MapEditCommand::apply(EditSide side)
     if (back)
         moveContent(-m_shift);
     m_placements.apply(side, content.placements);
-    spritesChange().apply(side, content.sprites);
+    spritesChange(now).apply(side, content.sprites);
     if (!back)
         moveContent(m_shift);
-    m_map->restore(content);
+    // looking for ghosts takes a look at every cell
+    const bool mayHaveGhosts = m_hasGhosts || !ghosts.isEmpty() || anyGone(m_names, now);
+    m_map->restore(mayHaveGhosts ? ghosts.show(content, now) : content);
 }

@@ -3,14 +3,12 @@
 #include "model/animatedblocks.h"
 #include "model/map.h"
 #include "undo/editside.h"
+#include "undo/ghosts.h"
 #include "undo/gridchange.h"
 #include "undo/listchange.h"
-#include "undo/numbering.h"
 
-#include <QHash>
 #include <QPointer>
 #include <QUndoCommand>
-#include <QUuid>
 
 /// Undo step of one edit of a map.
 ///
@@ -32,10 +30,22 @@ public:
 private:
     using SpritesChange = ListChange<Map::PlacedSprite>;
 
+    /// Both sides of an edit with their ghosts.
+    struct Contents
+    {
+        Contents(Map *map, const Map::Snapshot &shownBefore, const Map::Snapshot &shownAfter);
+
+        Map::Snapshot before;
+        Map::Snapshot after;
+        MapNames names{};
+        bool hasGhosts = false; ///< which the edit can only take away
+    };
+
+    MapEditCommand(const QString &text, Map *map, const Contents &contents, QUndoCommand *parent);
+
     void apply(EditSide side);
-    void noteBanksOf(const QList<Map::PlacedSprite> &sprites);
     /// The change of the placed sprites in the numbers that their banks have now.
-    [[nodiscard]] SpritesChange spritesChange() const;
+    [[nodiscard]] SpritesChange spritesChange(const MapNames &now) const;
 
     QPointer<Map> m_map;
     QPoint m_shift; ///< by how many cells the content moved
@@ -44,7 +54,7 @@ private:
     // these two in the places from before the content moved
     ListChange<AnimationProperties::State> m_placements;
     SpritesChange m_sprites;
-    Numbering::Names m_tileNames; ///< as all names, those of when the command was made
-    QHash<QUuid, Numbering::Names> m_spriteNames; ///< by bank
+    MapNames m_names; ///< of when the command was made
+    bool m_hasGhosts;
     bool m_applied = true;
 };

@@ -3,6 +3,8 @@
 #include "model/spritebank.h"
 #include "model/tileset.h"
 
+#include <QSet>
+
 #include <algorithm>
 #include <utility>
 
@@ -53,7 +55,7 @@ void Numbering::follow(TileSet &tileSet)
     fit(tileSet.count());
     connect(&tileSet, &TileSet::tileDeleted, this, [this](int index) {
         fit(m_count() + 1);
-        m_names.removeAt(index);
+        remove(index);
     });
     connect(&tileSet, &TileSet::tileInserted, this, [this](int index) {
         fit(m_count() - 1);
@@ -70,7 +72,7 @@ void Numbering::follow(SpriteBank &bank)
     fit(bank.count());
     connect(&bank, &SpriteBank::spriteDeleted, this, [this](int index) {
         fit(m_count() + 1);
-        m_names.removeAt(index);
+        remove(index);
     });
     connect(&bank, &SpriteBank::spriteMoved, this, [this](int from, int to) {
         fit(m_count());
@@ -84,12 +86,45 @@ const Numbering::Names &Numbering::names()
     return m_names;
 }
 
+void Numbering::setNames(const Names &names)
+{
+    const QSet<int> present(names.cbegin(), names.cend());
+    for (const int name : std::as_const(m_names)) {
+        if (!present.contains(name))
+            m_standIns.insert(name, names.value(0, -1));
+    }
+    m_names = names;
+}
+
+void Numbering::remove(int number)
+{
+    const int name = m_names.takeAt(number);
+    m_standIns.insert(name, m_names.value(0, -1));
+}
+
 void Numbering::fit(int count)
 {
-    if (m_names.size() > count)
-        m_names.resize(std::max(count, 0));
+    while (m_names.size() > std::max(count, 0))
+        remove(int(m_names.size()) - 1);
     while (m_names.size() < count)
         m_names.append(m_nextName++);
+}
+
+QHash<int, int> Numbering::Roster::shownNumbers() const
+{
+    QHash<int, int> numbers;
+    numbers.reserve(names.size() + standIns.size());
+    for (int number = 0; number < names.size(); ++number)
+        numbers.insert(names.at(number), number);
+    for (auto standIn = standIns.cbegin(); standIn != standIns.cend(); ++standIn) {
+        QList<int> gone;
+        int name = standIn.key();
+        for (; name >= 0 && !numbers.contains(name); name = standIns.value(name, -1))
+            gone.append(name);
+        for (const int each : std::as_const(gone))
+            numbers.insert(each, numbers.value(name));
+    }
+    return numbers;
 }
 
 Renumbering::Renumbering(const Numbering::Names &from, const Numbering::Names &to)
@@ -98,11 +133,10 @@ Renumbering::Renumbering(const Numbering::Names &from, const Numbering::Names &t
 {
     if (m_changesNothing)
         return;
-    QHash<int, int> numbers;
-    numbers.reserve(to.size());
+    m_byName.reserve(to.size());
     for (int number = 0; number < to.size(); ++number)
-        numbers.insert(to.at(number), number);
+        m_byName.insert(to.at(number), number);
     m_numbers.reserve(from.size());
     for (const int name : from)
-        m_numbers.append(numbers.value(name, -1));
+        m_numbers.append(m_byName.value(name, ghostOf(name)));
 }

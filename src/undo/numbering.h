@@ -27,14 +27,27 @@ public:
     /// The names in the order of the numbers. No two are the same.
     using Names = QList<int>;
 
+    /// The names at some time, and what is shown in place of those that were gone by then.
+    struct Roster
+    {
+        Names names;
+        QHash<int, int> standIns; ///< of names that are gone: what had number 0 thereafter, which may be gone as well
+
+        /// The number of each name, or the one that is shown in its place.
+        [[nodiscard]] QHash<int, int> shownNumbers() const;
+
+        bool operator==(const Roster &other) const { return names == other.names; }
+    };
+
     ~Numbering() override;
 
     [[nodiscard]] static Numbering &of(TileSet &tileSet);
     [[nodiscard]] static Numbering &of(SpriteBank &bank);
 
     [[nodiscard]] const Names &names();
-    /// Sets which tile is which, after the asset was given other contents.
-    void setNames(const Names &names) { m_names = names; }
+    [[nodiscard]] Roster roster() { return {names(), m_standIns}; }
+    /// Sets which tile is which when the asset is given other contents.
+    void setNames(const Names &names);
 
     /// The name of a tile or sprite; -1 outside the asset.
     [[nodiscard]] int nameAt(int number) { return names().value(number, -1); }
@@ -50,11 +63,28 @@ private:
     void follow(SpriteBank &bank);
     /// Gives names to what was appended without a word, and forgets what was cut off.
     void fit(int count);
+    void remove(int number);
 
     std::function<int()> m_count;
     Names m_names;
+    QHash<int, int> m_standIns;
     int m_nextName = 0;
 };
+
+/// What undo steps hold in place of the number of something that is gone: it tells the name, so that it is the
+/// same one that comes back.
+[[nodiscard]] constexpr int ghostOf(int name)
+{
+    return std::numeric_limits<int>::min() + name;
+}
+[[nodiscard]] constexpr int nameOfGhost(int ghost)
+{
+    return ghost - std::numeric_limits<int>::min();
+}
+[[nodiscard]] constexpr bool isGhost(int number)
+{
+    return number < std::numeric_limits<int>::min() / 2;
+}
 
 /// What becomes of the numbers when things are inserted, deleted and moved.
 class Renumbering
@@ -69,6 +99,8 @@ public:
     }
 
     [[nodiscard]] bool changesNothing() const { return m_changesNothing; }
+    /// Whether something that had a number is gone.
+    [[nodiscard]] bool losesAny() const { return std::any_of(m_numbers.cbegin(), m_numbers.cend(), isGhost); }
     /// The new number; none when what had it is gone. Numbers that the asset never had stay as far behind its
     /// end as they are.
     [[nodiscard]] std::optional<int> operator()(int number) const
@@ -78,18 +110,26 @@ public:
         if (number >= m_numbers.size())
             return int(std::min<qint64>(qint64(number) + m_growth, std::numeric_limits<int>::max()));
         const int renamed = m_numbers.at(number);
-        return renamed < 0 ? std::nullopt : std::optional(renamed);
+        return isGhost(renamed) ? std::nullopt : std::optional(renamed);
+    }
+    /// The new number, or a ghost where what had the number is gone; the new number of a ghost that is back.
+    [[nodiscard]] int following(int number) const
+    {
+        if (isGhost(number) && !m_changesNothing)
+            return m_byName.value(nameOfGhost(number), number);
+        return (*this)(number).value_or(m_numbers.value(number));
     }
 
 private:
     bool m_changesNothing;
-    QList<int> m_numbers; ///< -1 for what is gone
+    QHash<int, int> m_byName; ///< the new numbers
+    QList<int> m_numbers; ///< ghosts for what is gone
     int m_growth;
 };
 
-/// A grid whose cells name tiles or sprites, renumbered; cells show number 0 in place of what is gone. Rows that do
-/// not change, or are shared, stay so, and rows that become those of another grid share them with it: to see that two
-/// grids differ by their numbers alone takes no memory.
+/// A grid whose cells name tiles or sprites, renumbered, with ghosts in place of what is gone. Rows that do not change,
+/// or are shared, stay so, and rows that become those of another grid share them with it: to see that two grids differ
+/// by their numbers alone takes no memory.
 template <typename Cell>
 [[nodiscard]] QList<QList<Cell>> renumbered(const QList<QList<Cell>> &rows, const Renumbering &renumbering,
                                             const QList<QList<Cell>> &like = {})
@@ -97,7 +137,7 @@ template <typename Cell>
     if (renumbering.changesNothing())
         return rows;
     const auto renamed = [&renumbering](Cell cell) {
-        cell.index = renumbering(cell.index).value_or(0);
+        cell.index = renumbering.following(cell.index);
         return cell;
     };
     const auto result = [&renamed](const QList<Cell> &row, const QList<Cell> &wanted) {

@@ -10,7 +10,6 @@
 namespace {
 
 using Names = Numbering::Names;
-using Sprites = QList<Map::PlacedSprite>;
 
 bool samePixels(const QImage &a, const QImage &b)
 {
@@ -119,30 +118,6 @@ bool SpriteBankEdit::looksLike(const SpriteBankEdit &other) const
     return bank == other.bank && maps == other.maps;
 }
 
-Sprites renumbered(const Sprites &sprites, const QUuid &bank, const Renumbering &renumbering)
-{
-    Sprites result;
-    if (renumbering.changesNothing())
-        return sprites;
-    for (Map::PlacedSprite sprite : sprites) {
-        const auto number = sprite.isSingleOf(bank) ? renumbering(sprite.sprite) : sprite.sprite;
-        if (!number)
-            continue;
-        sprite.sprite = *number;
-        result.append(sprite);
-    }
-    return result;
-}
-
-Sprites moved(Sprites sprites, QPoint cells)
-{
-    for (Map::PlacedSprite &sprite : sprites) {
-        sprite.x += cells.x() * TileMap::TileSize;
-        sprite.y += cells.y() * TileMap::TileSize;
-    }
-    return sprites;
-}
-
 template <typename State>
 FramesChange::FramesChange(const QHash<QUuid, State> &before, const QHash<QUuid, State> &after, const Renumbering &back)
 {
@@ -151,9 +126,9 @@ FramesChange::FramesChange(const QHash<QUuid, State> &before, const QHash<QUuid,
         for (const auto &frame : after.value(animation.key()).frames)
             left.insert(frame.id, renumbered(frame.cells, back));
         for (const auto &frame : animation->frames) {
-            const FrameChange lost(frame.cells, left.value(frame.id, frame.cells));
-            if (!lost.changesNothing())
-                m_lost[animation.key()].insert(frame.id, lost);
+            const FrameChange changed(frame.cells, left.value(frame.id, frame.cells));
+            if (!changed.changesNothing())
+                m_frames.insert({animation.key(), frame.id}, changed);
         }
     }
 }
@@ -162,11 +137,10 @@ template <typename State>
 void FramesChange::undo(QHash<QUuid, State> &animations, const Renumbering &back, const Renumbering &since) const
 {
     for (auto animation = animations.begin(); animation != animations.end(); ++animation) {
-        const auto lost = m_lost.value(animation.key());
         for (auto &frame : animation->frames) {
             frame.cells = renumbered(frame.cells, back);
-            if (const auto cells = lost.constFind(frame.id); cells != lost.cend())
-                cells->renumbered(since).applyWhereUntouched(EditSide::Before, frame.cells);
+            if (const auto changed = m_frames.constFind({animation.key(), frame.id}); changed != m_frames.cend())
+                changed->renumbered(since).applyWhereUntouched(EditSide::Before, frame.cells);
         }
     }
 }
@@ -181,10 +155,10 @@ TileSetChange::TileSetChange(const TileSetEdit &before, const TileSetEdit &after
         const auto left = after.maps.constFind(map.key());
         if (left == after.maps.cend())
             continue;
-        const Layers lost{LayerChange(map->tiles, renumbered(left->tiles, back, map->tiles)),
-                          LayerChange(map->objects, renumbered(left->objects, back, map->objects)), left->origin};
-        if (!lost.tiles.changesNothing() || !lost.objects.changesNothing())
-            m_lostCells.insert(map.key(), lost);
+        const Layers changed{LayerChange(map->tiles, renumbered(left->tiles, back, map->tiles)),
+                             LayerChange(map->objects, renumbered(left->objects, back, map->objects)), left->origin};
+        if (!changed.tiles.changesNothing() || !changed.objects.changesNothing())
+            m_maps.insert(map.key(), changed);
     }
     m_frames = FramesChange(before.animations, after.animations, back);
 }
@@ -216,10 +190,10 @@ TileSetEdit TileSetChange::undone(const TileSetEdit &now) const
     for (auto map = result.maps.begin(); map != result.maps.end(); ++map) {
         map->tiles = renumbered(map->tiles, back);
         map->objects = renumbered(map->objects, back);
-        if (const auto lost = m_lostCells.constFind(map.key()); lost != m_lostCells.cend()) {
-            const QPoint shift = map->origin - lost->origin;
-            lost->tiles.renumbered(since).moved(shift).applyWhereUntouched(EditSide::Before, map->tiles);
-            lost->objects.renumbered(since).moved(shift).applyWhereUntouched(EditSide::Before, map->objects);
+        if (const auto changed = m_maps.constFind(map.key()); changed != m_maps.cend()) {
+            const QPoint shift = map->origin - changed->origin;
+            changed->tiles.renumbered(since).moved(shift).applyWhereUntouched(EditSide::Before, map->tiles);
+            changed->objects.renumbered(since).moved(shift).applyWhereUntouched(EditSide::Before, map->objects);
         }
     }
     m_frames.undo(result.animations, back, since);
@@ -244,9 +218,9 @@ SpriteBankChange::SpriteBankChange(const SpriteBankEdit &before, const SpriteBan
     const Renumbering back(after.names, before.names);
     for (auto map = before.maps.cbegin(); map != before.maps.cend(); ++map) {
         const SpriteBankEdit::Placed left = after.maps.value(map.key(), *map);
-        const ListChange<Map::PlacedSprite> lost(map->sprites, renumbered(left.sprites, bankId, back));
-        if (!lost.changesNothing())
-            m_lostSprites.insert(map.key(), {lost, left.origin});
+        const ListChange<Map::PlacedSprite> changed(map->sprites, renumbered(left.sprites, bankId, back));
+        if (!changed.changesNothing())
+            m_maps.insert(map.key(), {changed, left.origin});
     }
     m_frames = FramesChange(before.bank.animations, after.bank.animations, back);
 }
@@ -281,11 +255,12 @@ SpriteBankEdit SpriteBankChange::undone(const SpriteBankEdit &now) const
     const Renumbering since(m_names, result.names);
     for (auto map = result.maps.begin(); map != result.maps.end(); ++map) {
         map->sprites = renumbered(map->sprites, m_bankId, back);
-        if (const auto lost = m_lostSprites.constFind(map.key()); lost != m_lostSprites.cend()) {
+        if (const auto changed = m_maps.constFind(map.key()); changed != m_maps.cend()) {
             const auto today = [&](const QList<Map::PlacedSprite> &then) {
-                return moved(renumbered(then, m_bankId, since), map->origin - lost->origin);
+                return moved(renumbered(then, m_bankId, since), map->origin - changed->origin);
             };
-            ListChange(today(lost->list.before()), today(lost->list.after())).apply(EditSide::Before, map->sprites);
+            ListChange(today(changed->list.before()), today(changed->list.after()))
+                .apply(EditSide::Before, map->sprites);
         }
     }
     m_frames.undo(result.bank.animations, back, since);

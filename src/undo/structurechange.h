@@ -4,6 +4,7 @@
 #include "model/spritebank.h"
 #include "model/tileanimation.h"
 #include "model/tileset.h"
+#include "undo/ghosts.h"
 #include "undo/gridchange.h"
 #include "undo/listchange.h"
 #include "undo/numbering.h"
@@ -13,7 +14,9 @@
 #include <QHash>
 #include <QUuid>
 
-/// A tile set together with everything that a structural edit of it changes.
+#include <utility>
+
+/// A tile set together with everything that a structural edit of it changes; maps and animations are with their ghosts.
 struct TileSetEdit
 {
     TileSet::Snapshot tiles;
@@ -28,7 +31,7 @@ struct TileSetEdit
     [[nodiscard]] bool looksLike(const TileSetEdit &other) const;
 };
 
-/// A sprite bank together with everything that a structural edit of it changes.
+/// The same of a sprite bank.
 struct SpriteBankEdit
 {
     struct Placed
@@ -48,7 +51,7 @@ struct SpriteBankEdit
     [[nodiscard]] bool looksLike(const SpriteBankEdit &other) const;
 };
 
-/// What an edit did to the frames of animations that name tiles or sprites.
+/// What an edit did to the frames of animations besides renumbering them.
 class FramesChange
 {
 public:
@@ -57,18 +60,19 @@ public:
     template <typename State>
     FramesChange(const QHash<QUuid, State> &before, const QHash<QUuid, State> &after, const Renumbering &back);
 
-    /// Renumbers the frames and puts back what the edit took from them, the numbers of which have changed since.
+    /// Renumbers the frames and puts back what the edit changed, the numbers of which have changed since.
     template <typename State>
     void undo(QHash<QUuid, State> &animations, const Renumbering &back, const Renumbering &since) const;
 
 private:
-    QHash<QUuid, QHash<QUuid, FrameChange>> m_lost; ///< by the ids of animation and frame; what was, and what is left
+    QHash<std::pair<QUuid, QUuid>, FrameChange> m_frames; ///< by the ids of animation and frame
 };
 
 /// What a structural edit of a tile set changed: the way back from it.
 ///
-/// It knows where things were renumbered, inserted and deleted, and what was lost or replaced thereby: cells of a
-/// deleted tile, the tile itself, a tile that another was copied over. That is all that it puts back. So what was
+/// It knows where things were renumbered, inserted and deleted, and what was lost or replaced thereby: a tile that was
+/// deleted or that another was copied over, cells that the edit changed besides, such as those whose number stands for
+/// a new tile since. That is all that it puts back; cells of a deleted tile are its ghosts meanwhile. So what was
 /// drawn, placed, resized or added since then stays; it is only called by other numbers. Where nothing was done since,
 /// the outcome is exactly what was before.
 class TileSetChange
@@ -91,10 +95,11 @@ private:
     };
 
     ListChange<int> m_order;
-    Numbering::Names m_names; ///< from before the edit: what was lost is kept in these numbers
     QHash<int, Tile::State> m_before; ///< by name, as the next: tiles that are no longer there or not as they were
     QHash<int, Tile::State> m_after;
-    QHash<QUuid, Layers> m_lostCells; ///< by the ids of the maps
+    // what it did to cells besides renumbering them, in the numbers from before it
+    Numbering::Names m_names;
+    QHash<QUuid, Layers> m_maps;
     FramesChange m_frames;
 };
 
@@ -115,20 +120,15 @@ public:
 private:
     QUuid m_bankId;
     ListChange<int> m_order;
-    Numbering::Names m_names; ///< from before the edit: what was lost is kept in these numbers
     QHash<int, QByteArray> m_before; ///< by name, as the next: pixels of sprites that are gone or not as they were
     QHash<int, QByteArray> m_after;
+    // what it did to placed sprites and frames besides renumbering them, in the numbers from before it
     struct Sprites
     {
         ListChange<Map::PlacedSprite> list;
         QPoint origin; ///< of the map's snapshot then
     };
-    QHash<QUuid, Sprites> m_lostSprites; ///< by the ids of the maps
+    Numbering::Names m_names;
+    QHash<QUuid, Sprites> m_maps;
     FramesChange m_frames;
 };
-
-/// Placed sprites after the sprites of a bank got other numbers; those of sprites that are gone are left out.
-[[nodiscard]] QList<Map::PlacedSprite> renumbered(const QList<Map::PlacedSprite> &sprites, const QUuid &bank,
-                                                  const Renumbering &renumbering);
-/// Placed sprites after the content of their map moved by so many cells.
-[[nodiscard]] QList<Map::PlacedSprite> moved(QList<Map::PlacedSprite> sprites, QPoint cells);

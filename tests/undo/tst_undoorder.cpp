@@ -43,6 +43,7 @@ struct Scene
             level->addSprite(placed(i + 1));
             other->addSprite(placed(8 - i));
         }
+        small->setTile({0, 0}, {4, false, false, false, 0, true});
         block->setSize({4, 1});
         block->addFrame()->setCells({{{0}, {3}, {4}, {7}}});
         walk->setSize({3, 1});
@@ -124,6 +125,7 @@ struct Scene
     QPointer<TileSet> tileSet = project->createTileSet("Tiles", palette->id(), 8);
     QPointer<Map> level = project->createMap("Level", tileSet->id(), {8, 2});
     QPointer<Map> other = project->createMap("Other", tileSet->id(), {8, 4});
+    QPointer<Map> small = project->createMap("Small", tileSet->id(), {1, 1});
     QPointer<MapObjects> blocks = project->createBlockList("Blocks", tileSet->id());
     QPointer<TileAnimation> block = blocks->createBoundTileAnimation("Door");
     QPointer<SpriteBank> bank = project->createSpriteBank(Quenmora::EightBit, "Sprites", palette->id());
@@ -183,6 +185,15 @@ const QList<Edit> &edits()
         {"shrink", [](Scene &s) { s.ofMap(s.level, [](Map &map) {
                                       map.resize({6, 2});
                                   }); }},
+        {"grow",
+         [](Scene &s) { s.ofMap(s.level, [](Map &map) {
+                            map.resize({10, 4}, Qt::AlignRight | Qt::AlignBottom);
+                        }); }},
+        {"paint over",
+         [](Scene &s) {
+             s.ofMap(s.level, [&s](Map &map) { map.setTiles({2, 0, 4, 2}, s.tile(8), false, false, false, true); });
+         }},
+        {"draw over a frame", [](Scene &s) { s.block->frame(0)->setIndex(0, 2, s.tile(6)); }},
         {"place sprites",
          [](Scene &s) {
              s.ofMap(s.other, [&s](Map &map) {
@@ -204,10 +215,29 @@ const QList<Edit> &edits()
     return all;
 }
 
-/// Edits of one map, which are on one stack.
-QStringList ofOneMap()
+/// Deletes a tile and a sprite, and lets the first tile become another one. Tells what there is before and after each
+/// step.
+QStringList deleteSome(Scene &scene)
 {
-    return {"fill and resize", "place sprites", "take sprite away"};
+    scene.front = &scene.first;
+    QStringList contents{scene.contents()};
+    const auto run = [&](const std::function<void()> &edit) {
+        edit();
+        contents.append(scene.contents());
+    };
+    run([&] { scene.tileSet->deleteTile(scene.tile(5)); });
+    run([&] { scene.tileSet->deleteTile(0); }); // which is shown in place of the other one
+    run([&] { scene.tileSet->insertTile(0); });
+    run([&] { scene.tileSet->moveTile(1, 2); }); // which is shown by now
+    run([&] { scene.ofBank([&] { scene.bank->deleteSprite(scene.sprite(4)); }); });
+    run([&] { scene.ofBank([&] { scene.bank->moveSprite(0, 2); }); });
+    return contents;
+}
+
+/// Edits of one map each, which are on one stack.
+QStringList ofMaps()
+{
+    return {"fill and resize", "place sprites", "take sprite away", "shrink", "grow", "paint over"};
 }
 
 } // namespace
@@ -381,7 +411,7 @@ private slots:
             QList<Step> steps;
             while (!left.isEmpty()) {
                 const Edit *edit = left.takeFirst();
-                scene.front = stacks[ofOneMap().contains(edit->name) ? 0 : random.bounded(3)];
+                scene.front = stacks[ofMaps().contains(edit->name) ? 0 : random.bounded(3)];
                 const int index = scene.front->index();
                 const int count = scene.front->count();
                 edit->run(scene);
@@ -413,16 +443,114 @@ private slots:
         }
     }
 
+    /// What is shown after steps of maps and animations is the same whether tiles and sprites are deleted, and the
+    /// first tile moves, before them or after them.
+    void stepsPassThroughDeletionsAsIfThereWereNone()
+    {
+        const auto edit = [](Scene &scene) {
+            scene.front = &scene.second;
+            scene.ofMap(scene.other, [&scene](Map &map) {
+                map.addSprite(scene.placed(4, 2));
+                map.setTiles({0, 0, 8, 1}, scene.tile(5), false, false, false, true);
+            });
+            scene.block->frame(0)->setIndex(0, 2, scene.tile(2)); // over the tile that is deleted
+            scene.walk->frame(0)->setIndex(0, 1, scene.sprite(2));
+            scene.ofMap(scene.other, [](Map &map) {
+                map.removeSprite(4); // the one that is deleted
+                map.resize({3, 4}, Qt::AlignRight);
+            });
+            scene.ofMap(scene.level, [](Map &map) { map.setTiles({0, 0, 8, 2}, 0, false, false, false, true); });
+            scene.ofMap(scene.level, [](Map &map) { map.removeSprite(3); });
+            scene.ofMap(scene.small, [&scene](Map &map) { map.setTile({0, 0}, {scene.tile(2)}); });
+        };
+        Scene scene;
+        edit(scene);
+        deleteSome(scene);
+        QList<QStringList> states; // by the steps of the edits, and of the deletions
+        for (int index = 0; index <= scene.second.count(); ++index) {
+            Scene must;
+            edit(must);
+            must.second.setIndex(index);
+            states.append(deleteSome(must));
+        }
+        for (int deleted = 0; deleted < states.size(); ++deleted) {
+            for (int back = 0; back < states.size(); ++back) {
+                scene.second.setIndex(back);
+                for (int index = scene.first.count(); index >= 0; --index) {
+                    scene.first.setIndex(index);
+                    QCOMPARE(scene.contents(), states[back][index]);
+                }
+                scene.second.setIndex(deleted);
+                scene.first.setIndex(scene.first.count());
+            }
+        }
+    }
+
+    void editsMeanwhileAreAsIfNothingWereDeleted()
+    {
+        QList<QStringList> states; // by the steps of the edits
+        for (const bool meanwhile : {false, true}) {
+            Scene scene;
+            scene.other->addSprite(scene.placed(4, 60)); // one of those that are deleted
+            if (meanwhile)
+                deleteSome(scene);
+            const QString before = scene.contents();
+            scene.front = &scene.second;
+            scene.ofMap(scene.other, [](Map &map) { map.resize({3, 4}); });
+            scene.ofMap(scene.small, [&scene](Map &map) {
+                for (const QPointer<TileMap> &layer : {map.tileLayer(), map.objectLayer()})
+                    layer->setCell({0, 0}, {scene.tile(6)});
+            });
+            scene.ofMap(scene.level, [&scene](Map &map) {
+                map.setTiles({0, 0, 8, 2}, scene.tile(8), false, false, false, true);
+                for (int x = 0; x < 8; ++x)
+                    map.objectLayer()->setCell({x, 1}, {scene.tile(8), false, false, false, 0, true});
+            });
+            scene.block->frame(0)->setIndex(0, 2, scene.tile(6));
+            scene.walk->frame(0)->setIndex(0, 1, scene.sprite(2));
+            scene.second.setIndex(0);
+            QCOMPARE(scene.contents(), before);
+            scene.second.setIndex(scene.second.count());
+            scene.first.setIndex(0);
+            states.append(QStringList());
+            for (int index = scene.second.count(); index >= 0; --index) {
+                scene.second.setIndex(index);
+                states.last().append(scene.contents());
+            }
+        }
+        QCOMPARE(states[1], states[0]);
+    }
+
+    void whatIsShownForATileThatIsNotInsertedFollowsTheFirst()
+    {
+        Scene scene;
+        scene.tileSet->insertTile(4);
+        scene.front = &scene.second;
+        scene.ofMap(scene.small, [](Map &map) { map.setTile({0, 0}, {4}); });
+        scene.front = &scene.first;
+        scene.first.undo();
+        scene.tileSet->moveTile(0, 3);
+        const QString shown = scene.contents();
+        scene.second.undo();
+        scene.second.redo();
+        QCOMPARE(scene.contents(), shown);
+    }
+
     void equalTilesThatChangePlacesAreAsTheyWere()
     {
         Scene scene;
         const auto tiles = scene.project->createTileSet("Blank", scene.palette->id(), 4);
+        const auto map = scene.project->createMap("Blank", tiles->id(), {1, 1});
         tiles->setTileOffset(1, 5);
+        map->setTile({0, 0}, {1, false, false, false, 0, true});
+        map->objectLayer()->setCell({0, 0}, {3, false, false, false, 0, true});
         tiles->deleteTile(1);
-        tiles->moveTile(0, 1); // where the deleted one was between them
+        tiles->moveTile(0, 1); // where the deleted one was between them, in whose place the first is shown
         QCOMPARE(scene.first.undoText(), "Delete Tile");
+        QCOMPARE(map->tileLayer()->cellAt({0, 0}).index, 0);
         scene.first.undo();
         QCOMPARE(tiles->tileOffset(1), 5);
+        QCOMPARE(map->tileLayer()->cellAt({0, 0}).index, 1);
     }
 
     void editsWithoutAChangeLeaveNoStep()
