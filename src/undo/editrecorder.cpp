@@ -33,7 +33,8 @@ constexpr int AnimationCommandId<Animation::State> = 1003;
 /// Which tile or sprite is which for the cells of an animation.
 Numbering::Roster namesFor(const TileAnimation &animation)
 {
-    const QPointer<TileSet> tileSet = animation.tileSet();
+    const auto *blocks = qobject_cast<MapObjects *>(animation.parent());
+    const QPointer<TileSet> tileSet = blocks ? blocks->tileSet() : nullptr;
     return tileSet ? Numbering::of(*tileSet).roster() : Numbering::Roster();
 }
 
@@ -52,6 +53,18 @@ QList<QPointer<TileAnimation>> animationsOf(const Project &project, const TileSe
             animations.append(blocks->animations());
     }
     return animations;
+}
+
+/// What a map holds, with its ghosts.
+Map::Snapshot contentOf(Map &map, bool mayLose = false)
+{
+    return MapGhosts::of(map).full(map.snapshot(), MapNames::of(map), mayLose);
+}
+
+/// Shows such a content.
+void putContent(Map &map, const Map::Snapshot &content)
+{
+    map.restore(MapGhosts::of(map).show(content, MapNames::of(map)));
 }
 
 /// A step that keeps what changed, in the function that takes it back, instead of two states.
@@ -210,36 +223,40 @@ void EditRecorder::push(const QUuid &documentId, std::unique_ptr<QUndoCommand> c
 
 TileSetEdit EditRecorder::capture(TileSet &tileSet, bool mayLose)
 {
-    const Numbering::Roster names = Numbering::of(tileSet).roster();
-    TileSetEdit edit{.tiles = tileSet.snapshot(), .maps = {}, .animations = {}, .names = names.names};
+    TileSetEdit edit{
+        .tiles = tileSet.snapshot(), .maps = {}, .animations = {}, .names = Numbering::of(tileSet).names()};
     if (!m_project)
         return edit;
     for (const QPointer<Map> &map : m_project->maps()) {
         if (map->tileSet() == &tileSet)
-            edit.maps.insert(map->id(), MapGhosts::of(*map).full(map->snapshot(), MapNames::of(*map), mayLose));
+            edit.maps.insert(map->id(), contentOf(*map, mayLose));
     }
-    for (const QPointer<TileAnimation> &animation : animationsOf(*m_project, tileSet)) {
-        edit.animations.insert(animation->id(),
-                               m_tileAnimationGhosts[animation].full(animation->state(), names, mayLose));
-    }
+    edit.animations = capture<TileAnimation::State>(animationsOf(*m_project, tileSet), mayLose);
     return edit;
 }
 
 SpriteBankEdit EditRecorder::capture(SpriteBank &bank, bool mayLose)
 {
-    const Numbering::Roster names = Numbering::of(bank).roster();
-    SpriteBankEdit edit{.bank = bank.snapshot(), .maps = {}, .names = names.names};
-    for (const QPointer<SpriteAnim> &animation : bank.animations()) {
-        edit.bank.animations.insert(animation->id(),
-                                    m_spriteAnimationGhosts[animation].full(animation->state(), names, mayLose));
-    }
+    SpriteBankEdit edit{.bank = bank.snapshot(), .maps = {}, .names = Numbering::of(bank).names()};
+    edit.bank.animations = capture<Animation::State>(bank.animations(), mayLose);
     if (!m_project)
         return edit;
     for (const QPointer<Map> &map : m_project->maps()) {
-        const Map::Snapshot content = MapGhosts::of(*map).full(map->snapshot(), MapNames::of(*map), mayLose);
+        const Map::Snapshot content = contentOf(*map, mayLose);
         edit.maps.insert(map->id(), {content.sprites, content.origin});
     }
     return edit;
+}
+
+template <typename State, typename Anim>
+QHash<QUuid, State> EditRecorder::capture(const QList<QPointer<Anim>> &animations, bool mayLose)
+{
+    QHash<QUuid, State> states;
+    for (const QPointer<Anim> &animation : animations) {
+        states.insert(animation->id(),
+                      ghosts<Anim>()[animation].full(animation->state(), namesFor(*animation), mayLose));
+    }
+    return states;
 }
 
 std::unique_ptr<QUndoCommand> EditRecorder::command(const QString &text, TileSet &tileSet, const TileSetEdit &before,
@@ -294,11 +311,9 @@ void EditRecorder::putUsers(TileSet &tileSet, const TileSetEdit &now, const Tile
         return;
     for (auto content = next.maps.cbegin(); content != next.maps.cend(); ++content) {
         const QPointer<Map> map = m_project->map(content.key());
-        if (!map)
-            continue;
-        auto &ghosts = MapGhosts::of(*map); // in place of which others may be shown now
-        if (!ghosts.isEmpty() || *content != now.maps.value(content.key()))
-            map->restore(ghosts.show(*content, MapNames::of(*map)));
+        // in place of ghosts others may be shown now
+        if (map && (!MapGhosts::of(*map).isEmpty() || *content != now.maps.value(content.key())))
+            putContent(*map, *content);
     }
     putAnimations(animationsOf(*m_project, tileSet), now.animations, next.animations);
 }
@@ -312,10 +327,9 @@ void EditRecorder::putUsers(SpriteBank &bank, const SpriteBankEdit &now, const S
         const QPointer<Map> map = m_project->map(placed.key());
         if (!map || *placed == now.maps.value(placed.key()))
             continue;
-        auto &ghosts = MapGhosts::of(*map);
-        Map::Snapshot content = ghosts.full(map->snapshot(), MapNames::of(*map));
+        Map::Snapshot content = contentOf(*map);
         content.sprites = placed->sprites;
-        map->restore(ghosts.show(content, MapNames::of(*map)));
+        putContent(*map, content);
     }
 }
 

@@ -64,6 +64,8 @@ private:
     /// With the ghosts of maps and animations, for which it is told whether they may lose something next.
     [[nodiscard]] TileSetEdit capture(TileSet &tileSet, bool mayLose = false);
     [[nodiscard]] SpriteBankEdit capture(SpriteBank &bank, bool mayLose = false);
+    template <typename State, typename Anim>
+    [[nodiscard]] QHash<QUuid, State> capture(const QList<QPointer<Anim>> &animations, bool mayLose);
 
     /// The step for what a structural edit changed.
     [[nodiscard]] std::unique_ptr<QUndoCommand> command(const QString &text, TileSet &tileSet,

@@ -127,7 +127,7 @@ struct Scene
     QPointer<Map> other = project->createMap("Other", tileSet->id(), {8, 4});
     QPointer<Map> small = project->createMap("Small", tileSet->id(), {1, 1});
     QPointer<MapObjects> blocks = project->createBlockList("Blocks", tileSet->id());
-    QPointer<TileAnimation> block = blocks->createBoundTileAnimation("Door");
+    QPointer<TileAnimation> block = blocks->createTileAnimation("Door");
     QPointer<SpriteBank> bank = project->createSpriteBank(Quenmora::EightBit, "Sprites", palette->id());
     QPointer<SpriteAnim> walk = bank->newAnimation();
     QUndoStack first;
